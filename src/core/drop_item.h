@@ -1,0 +1,72 @@
+#pragma once
+
+#include "core/phosphor_icon.h"
+#include "platform/image.h"
+#include "platform/ut_type.h"
+
+#include <QByteArray>
+#include <QSharedDataPointer>
+#include <QString>
+#include <QUrl>
+#include <QUuid>
+
+#include <optional>
+#include <variant>
+
+namespace corvane {
+
+/// One thing held on the shelf.
+///
+/// A value: copies are independent, and cheap, since they share what neither has changed. Two items
+/// are the same item exactly when their ids are equal.
+class DropItem {
+public:
+    /// A file or folder on disk.
+    struct File {
+        QUrl url;
+    };
+    /// A picture held in memory.
+    struct ImageBytes {
+        QByteArray data;
+        UTType type;
+    };
+    struct Text {
+        QString string;
+    };
+    /// A web address.
+    struct Link {
+        QUrl url;
+    };
+    using Payload = std::variant<File, ImageBytes, Text, Link>;
+
+    /// Makes a new item with a fresh random id and no thumbnail.
+    DropItem(Payload payload, QString title, QString subtitle, bool isSpooled);
+    DropItem(const DropItem &);
+    DropItem(DropItem &&) noexcept;
+    DropItem &operator=(const DropItem &);
+    DropItem &operator=(DropItem &&) noexcept;
+    ~DropItem();
+
+    QUuid id() const;
+    const Payload &payload() const;
+    /// First line shown.
+    QString title() const;
+    void setTitle(const QString &title);
+    /// Second line shown.
+    QString subtitle() const;
+    void setSubtitle(const QString &subtitle);
+    std::optional<Image> thumbnail() const;
+    void setThumbnail(const Image &thumbnail);
+    /// The file lives in the scratch spool and belongs to the shelf.
+    bool isSpooled() const;
+
+    /// The icon drawn where there is no thumbnail. A file counts as a folder by its subtitle, which
+    /// is exactly "Folder" for a directory: the disk is not asked again.
+    PhosphorIcon glyph() const;
+
+private:
+    struct Data;
+    QSharedDataPointer<Data> m_data;
+};
+
+} // namespace corvane

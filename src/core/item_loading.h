@@ -1,0 +1,44 @@
+#pragma once
+
+#include "platform/image.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+#include <optional>
+
+namespace corvane {
+
+/// Where the store gets its thumbnails from.
+class ThumbnailSource {
+public:
+    using Completion = std::function<void(std::optional<Image>)>;
+
+    virtual ~ThumbnailSource() = default;
+
+    /// Both call `completion` exactly once, later, on the main thread; a file always gets an image.
+    virtual void generateForFile(const QUrl &url, Completion completion) = 0;
+    virtual void generateForImageData(const QByteArray &data, Completion completion) = 0;
+};
+
+/// What a web page says about itself.
+struct LinkPreview {
+    QString title;
+    std::optional<QString> siteName;
+    std::optional<Image> image;
+};
+
+/// Where the store gets its link previews from.
+class LinkPreviewSource {
+public:
+    using Completion = std::function<void(std::optional<LinkPreview>)>;
+
+    virtual ~LinkPreviewSource() = default;
+
+    /// Calls `completion` at most once, later, on the main thread; none when nothing was found.
+    virtual void load(const QUrl &url, Completion completion) = 0;
+};
+
+} // namespace corvane

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/drop_item.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+namespace corvane {
+
+class ImageCodec;
+class ImageConverter;
+class Pasteboard;
+class ScratchSpool;
+
+/// Turns what was dropped into items. The references must outlive it.
+class PasteboardIngest {
+public:
+    PasteboardIngest(ScratchSpool &spool, const ImageConverter &converter, const ImageCodec &codec);
+
+    /// The MIME names that the shelf takes drops of.
+    static QStringList acceptedTypes();
+
+    /// Whether a drag that enters has something for us. Reads address lists; of pictures and text
+    /// it is enough that they are offered, so that nothing large is fetched before the drop.
+    static bool canRead(Pasteboard &pasteboard);
+
+    /// The items of one drop: files, else a picture, else a link, else text; perhaps none.
+    QList<DropItem> readAll(Pasteboard &pasteboard) const;
+
+    DropItem fileItem(const QUrl &url) const;
+    static QString describe(const QUrl &url);
+    QString describe(const QByteArray &imageData, const UTType &type) const;
+
+private:
+    ScratchSpool &m_spool;
+    const ImageConverter &m_converter;
+    const ImageCodec &m_codec;
+};
+
+} // namespace corvane

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+
+namespace corvane {
+
+/// The private directory for files of the shelf's own making. It lives for one run.
+class ScratchSpool {
+public:
+    static constexpr int maximumBasenameCharacters = 120;
+
+    /// `temporaryDirectory` is a native path. Nothing is made before the first use.
+    ScratchSpool(QByteArray temporaryDirectory, qint64 processIdentifier);
+    ~ScratchSpool();
+    ScratchSpool(const ScratchSpool &) = delete;
+    ScratchSpool &operator=(const ScratchSpool &) = delete;
+
+    /// The directory's address, whether or not it could be made.
+    QUrl directory() const;
+    /// A free address for a new file, which the caller writes; none when there is no directory that
+    /// is safe to use.
+    std::optional<QUrl> reserve(const QString &basename, const QString &extension);
+    /// Reserves, writes the bytes atomically and gives the address; none, and nothing left behind,
+    /// when the bytes could not be written.
+    std::optional<QUrl> store(const QByteArray &data, const QString &basename,
+                              const QString &extension);
+    /// Whether the address lies in the directory, by whole path components, the parent resolved.
+    bool contains(const QUrl &url) const;
+    /// Deletes one spooled file; an address outside is left alone, a failure ignored.
+    void discard(const QUrl &url) const;
+    /// Deletes the directory and everything in it.
+    void discardAll();
+    /// Removes what dead processes of this user left in the temporary directory.
+    void removeLeftovers();
+
+    static QString safeBasename(const QString &name);
+
+private:
+    QByteArray m_temporaryDirectory;
+    QByteArray m_directory;
+};
+
+} // namespace corvane

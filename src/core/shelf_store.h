@@ -1,0 +1,116 @@
+#pragma once
+
+#include "core/drop_item.h"
+#include "core/shelf_state.h"
+#include "platform/callback_list.h"
+
+#include <QHash>
+#include <QList>
+#include <QSet>
+#include <QUuid>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace corvane {
+
+struct Feedback;
+struct LinkPreview;
+class LinkPreviewSource;
+class ScratchSpool;
+class Settings;
+class ThumbnailSource;
+
+/// The one model of the shelf: what it holds, whether it is open, what is focused and selected.
+///
+/// Every change is published at once, on the caller's thread, which is the main thread, to state
+/// observers (old and new state) and item observers (the whole list). The order of publications
+/// within an operation is part of the contract and stands with each operation. Indices out of range
+/// and unknown ids are ignored. The sources, spool, settings and feedback must outlive the store;
+/// their results may come after it is gone.
+class ShelfStore {
+public:
+    using StateObserver = std::function<void(ShelfState oldState, ShelfState newState)>;
+    using ItemObserver = std::function<void(const QList<DropItem> &items)>;
+
+    ShelfStore(const Settings &settings, const ScratchSpool &spool, ThumbnailSource &thumbnails,
+               LinkPreviewSource &linkPreviews, const Feedback &feedback);
+    ShelfStore(const ShelfStore &) = delete;
+    ShelfStore &operator=(const ShelfStore &) = delete;
+    ~ShelfStore();
+
+    void observeState(StateObserver observer);
+    void observeItems(ItemObserver observer);
+    /// Calls every item observer with the present items, for changes of what is not an item.
+    void publishItems();
+
+    ShelfState state() const { return m_state; }
+    /// Changes the state and, if it differs, tells the state observers.
+    void setState(ShelfState state);
+
+    const QList<DropItem> &items() const { return m_items; }
+    void setItems(QList<DropItem> items);
+
+    int focusedIndex() const { return m_focusedIndex; }
+    std::optional<DropItem> focusedItem() const;
+    /// Index of the first item in the carousel.
+    int scrollOffset() const { return m_scrollOffset; }
+    /// Sets it without telling anybody.
+    void setScrollOffset(int offset) { m_scrollOffset = offset; }
+    std::vector<std::pair<int, DropItem>> visibleItems() const;
+
+    const QSet<QUuid> &selection() const { return m_selection; }
+    QList<DropItem> selectedItems() const;
+
+    /// Flags that their setters publish nothing for.
+    bool isViewAllOpen() const { return m_isViewAllOpen; }
+    void setViewAllOpen(bool open) { m_isViewAllOpen = open; }
+    /// A drag of something droppable is going on anywhere.
+    bool isDragInFlight() const { return m_isDragInFlight; }
+    void setDragInFlight(bool inFlight) { m_isDragInFlight = inFlight; }
+    /// That drag started on the shelf.
+    bool isOwnDrag() const { return m_isOwnDrag; }
+    void setOwnDrag(bool own) { m_isOwnDrag = own; }
+
+    /// Appends the items (published), selects them, focuses the last (published), becomes occupied,
+    /// and starts loading what completes them. False, and nothing happens, for an empty list.
+    bool accept(const QList<DropItem> &newItems);
+    /// An item was dropped elsewhere: it leaves, or stays if it is to be kept.
+    void ejected(int index, bool keep);
+    void ejected(const QList<QUuid> &ids, bool keep);
+    /// Removes every selected item, spooled files too.
+    void removeSelected();
+    void clearAll();
+    void discard(int index, bool deletingSpoolFile);
+    /// Focuses the item nearest to `index`, scrolls it into view and publishes; nothing when empty.
+    void focus(int index);
+    void toggleSelection(const DropItem &item);
+    void toggleSelectAll();
+    /// Opens or closes the shelf for the user.
+    void toggleManually();
+    /// The drag in flight ended, somewhere.
+    void dragEnded();
+
+private:
+    const Settings &m_settings;
+    const ScratchSpool &m_spool;
+    ThumbnailSource &m_thumbnails;
+    LinkPreviewSource &m_linkPreviews;
+    const Feedback &m_feedback;
+
+    ShelfState m_state = ShelfState::Idle;
+    QList<DropItem> m_items;
+    int m_focusedIndex = 0;
+    int m_scrollOffset = 0;
+    QSet<QUuid> m_selection;
+    bool m_isViewAllOpen = false;
+    CallbackList<ShelfState, ShelfState> m_stateObservers;
+    CallbackList<const QList<DropItem> &> m_itemObservers;
+    bool m_isDragInFlight = false;
+    bool m_isOwnDrag = false;
+};
+
+} // namespace corvane

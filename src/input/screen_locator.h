@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/screens.h"
+
+namespace corvane {
+
+class Pointer;
+
+/// Finds the screen that the shelf appears on, and measures its notch. Both references must outlive
+/// it. Main thread only.
+class ScreenLocator {
+public:
+    struct Notch {
+        /// Height of the band in points, 0 without a notch.
+        double inset = 0;
+        /// Width of the cut-out in points, 0 where it is not known.
+        double width = 0;
+
+        friend bool operator==(const Notch &, const Notch &) = default;
+    };
+
+    ScreenLocator(const Screens &screens, const Pointer &pointer);
+
+    /// The screen under the pointer, else the main screen, which may be none.
+    ScreenPointer activeScreen() const;
+    static Notch notch(const ScreenPointer &screen);
+
+private:
+    const Screens &m_screens;
+    const Pointer &m_pointer;
+};
+
+} // namespace corvane

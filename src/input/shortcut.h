@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+#include <optional>
+
+namespace corvane {
+
+/// One global keyboard shortcut as a value.
+struct Shortcut {
+    /// Modifier bits as they are stored; no other bits are ever set.
+    static constexpr std::uint32_t command = 256;
+    static constexpr std::uint32_t shift = 512;
+    static constexpr std::uint32_t option = 2048;
+    static constexpr std::uint32_t control = 4096;
+
+    /// Virtual key code: the key's position, whatever the layout.
+    std::uint32_t keyCode = 0;
+    std::uint32_t modifiers = 0;
+    /// The key's name, fixed when the shortcut was recorded.
+    QString character;
+
+    /// Modifier glyphs (Control, Option, Shift, Command) and the key's name, "⇧⌘D".
+    QString display() const;
+
+    QByteArray toJson() const;
+    /// None unless all three keys are there with the right types.
+    static std::optional<Shortcut> fromJson(const QByteArray &json);
+
+    friend bool operator==(const Shortcut &, const Shortcut &) = default;
+};
+
+} // namespace corvane

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "platform/image.h"
+#include "platform/panel_events.h"
+#include "platform/pasteboard_writer.h"
+
+#include <QPainterPath>
+#include <QRectF>
+
+#include <functional>
+
+class QPainter;
+
+namespace corvane {
+
+/// What a panel shows, and who answers its events. All calls come on the main thread.
+class PanelContent {
+public:
+    virtual ~PanelContent() = default;
+
+    /// Paints the panel, which is `size` points large. The painter works in points, origin at the
+    /// bottom left, y upward; `scale` is pixels per point. What is not painted is transparent.
+    virtual void paint(QPainter &painter, QSizeF size, double scale) = 0;
+
+    virtual void mouseDown(const MouseEvent &event) = 0;
+    virtual void mouseDragged(const MouseEvent &event) = 0;
+    virtual void mouseUp(const MouseEvent &event) = 0;
+    virtual void mouseEntered(const MouseEvent &event) = 0;
+    virtual void mouseMoved(const MouseEvent &event) = 0;
+    virtual void mouseExited() = 0;
+    virtual void scrollWheel(const ScrollEvent &event) = 0;
+    /// False passes the key on.
+    virtual bool keyDown(const KeyEvent &event) = 0;
+
+    virtual DragOperation draggingEntered(const DraggingInfo &info) = 0;
+    virtual DragOperation draggingUpdated(const DraggingInfo &info) = 0;
+    virtual void draggingExited() = 0;
+    virtual bool performDragOperation(const DraggingInfo &info) = 0;
+    /// After a drop or an exit: the drag is over as far as this panel is concerned.
+    virtual void draggingEnded() = 0;
+};
+
+/// What is dragged out of a panel.
+struct DragOut {
+    PasteboardContents contents;
+    /// The picture under the pointer and the point of it that the pointer holds, in points from its
+    /// bottom left.
+    Image image;
+    QPointF hotSpot;
+};
+
+/// A borderless window that floats above everything, on every workspace and over full-screen
+/// windows, in no task list, and takes no focus when it appears. Made hidden.
+///
+/// The frame is what was asked for: the window system may not tell where a window is.
+class PanelWindow {
+public:
+    virtual ~PanelWindow() = default;
+
+    /// The content must outlive the panel, or be taken away with null.
+    virtual void setContent(PanelContent *content) = 0;
+
+    /// In global points, origin at the bottom left of the primary display.
+    virtual QRectF frame() const = 0;
+    virtual void setFrame(const QRectF &frame) = 0;
+
+    virtual bool isVisible() const = 0;
+    /// Shows the panel above everything, whichever program is active, without taking the focus.
+    virtual void orderFrontRegardless() = 0;
+    /// Hides it, and gives the keyboard back to the window that had it.
+    virtual void orderOut() = 0;
+
+    /// While set, clicks go to whatever lies below.
+    virtual void setIgnoresMouseEvents(bool ignores) = 0;
+    /// The part that takes clicks, and the outline that the panel is cut to where the desktop
+    /// cannot blend windows; both in the panel's coordinates.
+    virtual void setBody(const QRectF &rect, const QPainterPath &outline) = 0;
+
+    /// Takes the keyboard. Only in answer to a click: a window that takes it by itself is a
+    /// nuisance.
+    virtual void makeKey() = 0;
+
+    /// Asks for a repaint of part of the panel, in its coordinates.
+    virtual void setNeedsDisplay(const QRectF &rect) = 0;
+
+    /// Starts a drag that offers copy and link; the button must be down. The contents are fixed at
+    /// this moment. `ended` is called exactly once with what the target did, perhaps before this
+    /// returns: a drag may run an event loop of its own.
+    virtual void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) = 0;
+};
+
+} // namespace corvane

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "platform/main_queue.h"
+
+#include <cstdint>
+#include <map>
+#include <mutex>
+#include <utility>
+#include <vector>
+
+namespace corvane::test {
+
+/// A main queue whose time a test moves. `advance` visits every due piece of work in the order of
+/// its time (then of its scheduling) with `now` standing at that time.
+class TestClock : public MainQueue {
+public:
+    void async(Work work) override
+    {
+        const std::lock_guard lock(m_mutex);
+        m_due.emplace(Key{m_now, m_order++}, std::move(work));
+    }
+    void asyncAfter(double seconds, Work work) override
+    {
+        const std::lock_guard lock(m_mutex);
+        m_due.emplace(Key{m_now + seconds, m_order++}, std::move(work));
+    }
+    std::unique_ptr<Timer> repeating(double seconds, Work work) override
+    {
+        auto timer = std::make_unique<RepeatingTimer>();
+        schedule(seconds, std::move(work), timer->alive);
+        return timer;
+    }
+    double now() const override { return m_now; }
+
+    /// Runs what is due now, and what that makes due now.
+    void runPending() { advance(0); }
+
+    void advance(double seconds)
+    {
+        const double target = m_now + seconds;
+        while (true) {
+            Work work;
+            {
+                const std::lock_guard lock(m_mutex);
+                // Sums of periods miss their target by a rounding error.
+                if (m_due.empty() || m_due.begin()->first.time > target + 1e-9)
+                    break;
+                m_now = std::max(m_now, m_due.begin()->first.time);
+                work = std::move(m_due.begin()->second);
+                m_due.erase(m_due.begin());
+            }
+            work();
+        }
+        m_now = target;
+    }
+
+    /// Work that waits, repeating timers included.
+    std::size_t pendingCount() const { return m_due.size(); }
+
+private:
+    struct Key {
+        double time;
+        std::uint64_t order;
+        auto operator<=>(const Key &) const = default;
+    };
+    struct RepeatingTimer : Timer {
+        std::shared_ptr<bool> alive = std::make_shared<bool>(true);
+        ~RepeatingTimer() override { *alive = false; }
+    };
+
+    void schedule(double seconds, Work work, std::shared_ptr<bool> alive)
+    {
+        asyncAfter(seconds, [this, seconds, work = std::move(work), alive = std::move(alive)] {
+            if (!*alive)
+                return;
+            schedule(seconds, work, alive);
+            work();
+        });
+    }
+
+    std::mutex m_mutex;
+    std::map<Key, Work> m_due;
+    std::uint64_t m_order = 0;
+    double m_now = 0;
+};
+
+} // namespace corvane::test
