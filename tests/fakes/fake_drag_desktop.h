@@ -1,0 +1,90 @@
+#pragma once
+
+#include "fakes/fake_pointer.h"
+#include "platform/drag_pasteboard.h"
+#include "platform/event_monitors.h"
+#include "platform/mouse_buttons.h"
+
+#include <map>
+#include <utility>
+#include <vector>
+
+namespace corvane::test {
+
+/// A desktop with a mouse on it, seen by what watches for drags. Its verbs are the user's.
+class FakeDragDesktop : public DragPasteboard, public EventMonitors, public MouseButtons {
+public:
+    static constexpr unsigned rightButton = 2;
+
+    qint64 changeCount() const override
+    {
+        ++changeCountReads;
+        return m_changeCount;
+    }
+    std::optional<Handle> addGlobalMonitor(Handler handler) override
+    {
+        return refusesGlobalMonitor ? std::nullopt : add(m_global, std::move(handler));
+    }
+    std::optional<Handle> addLocalMonitor(Handler handler) override
+    {
+        return refusesLocalMonitor ? std::nullopt : add(m_local, std::move(handler));
+    }
+    void removeMonitor(Handle handle) override
+    {
+        removed.push_back(handle);
+        m_global.erase(handle);
+        m_local.erase(handle);
+    }
+    unsigned pressedMouseButtons() const override { return m_pressed; }
+
+    void press(unsigned buttons = MouseButtons::left) { m_pressed |= buttons; }
+    void release(unsigned buttons = MouseButtons::left) { m_pressed &= ~buttons; }
+    /// Some program starts to drag contents: the drag pasteboard changes.
+    void pickUp() { ++m_changeCount; }
+    /// The pointer moves over other programs' windows.
+    void moveTo(QPointF point) { move(point, m_global); }
+    /// The pointer moves in a drag that began in one of our own windows.
+    void moveInsideOwnWindow(QPointF point) { move(point, m_local); }
+
+    /// A whole drag up to, but without, the release.
+    void startDrag()
+    {
+        press();
+        pickUp();
+        moveTo({1, 0});
+    }
+
+    std::size_t monitorCount() const { return m_global.size() + m_local.size(); }
+
+    FakePointer pointer;
+    bool refusesGlobalMonitor = false;
+    bool refusesLocalMonitor = false;
+    std::vector<Handle> removed;
+    mutable int changeCountReads = 0;
+
+private:
+    using Monitors = std::map<Handle, Handler>;
+
+    std::optional<Handle> add(Monitors &monitors, Handler handler)
+    {
+        monitors.emplace(m_nextHandle, std::move(handler));
+        return m_nextHandle++;
+    }
+    void move(QPointF point, const Monitors &monitors)
+    {
+        pointer.position = point;
+        if ((m_pressed & MouseButtons::left) == 0)
+            return;
+        // A copy: a handler may remove monitors.
+        for (const auto &[handle, handler] : Monitors(monitors))
+            handler();
+    }
+
+    Monitors m_global;
+    Monitors m_local;
+    Handle m_nextHandle = 1;
+    qint64 m_changeCount = 0;
+    unsigned m_pressed = 0;
+};
+
+} // namespace corvane::test

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "platform/file_icons.h"
+
+#include <QColor>
+#include <QList>
+
+#include <cmath>
+
+namespace corvane::test {
+
+/// Gives every file the same plain square.
+class FakeFileIcons : public FileIcons {
+public:
+    static constexpr QRgb color = 0xff3366cc;
+
+    Image iconForFile(const QUrl &url, double side, double scale) override
+    {
+        asked << url;
+        const int pixels = static_cast<int>(std::round(side * scale));
+        QImage bitmap(pixels, pixels, QImage::Format_ARGB32_Premultiplied);
+        bitmap.fill(QColor::fromRgba(color));
+        return {bitmap, QSizeF(side, side)};
+    }
+
+    QList<QUrl> asked;
+};
+
+} // namespace corvane::test

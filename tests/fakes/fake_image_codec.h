@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/image_codec.h"
+
+#include <QFile>
+#include <QHash>
+
+#include <algorithm>
+
+namespace corvane::test {
+
+/// Knows the pictures that a test teaches it, by their bytes. An encoded picture reads
+/// "image/png 3x2".
+class FakeImageCodec : public ImageCodec {
+public:
+    std::optional<QSize> pixelSize(const QByteArray &data) const override
+    {
+        const auto found = sizes.constFind(data);
+        return found == sizes.constEnd() ? std::nullopt : std::optional(*found);
+    }
+    std::optional<QImage> decode(const QByteArray &data) const override
+    {
+        const auto size = pixelSize(data);
+        return size ? std::optional(picture(*size)) : std::nullopt;
+    }
+    std::optional<QImage> decodeFile(const QUrl &url) const override { return decode(read(url)); }
+    std::optional<QImage> thumbnail(const QByteArray &data, int maximumPixels) const override
+    {
+        auto size = pixelSize(data);
+        if (!size)
+            return std::nullopt;
+        if (std::max(size->width(), size->height()) > maximumPixels)
+            size->scale(maximumPixels, maximumPixels, Qt::KeepAspectRatio);
+        return picture(*size);
+    }
+    std::optional<QImage> fileThumbnail(const QUrl &url, int maximumPixels) const override
+    {
+        return thumbnail(read(url), maximumPixels);
+    }
+    std::optional<QByteArray> encode(const QImage &image, const UTType &type) const override
+    {
+        if (refusesToEncode)
+            return std::nullopt;
+        const QString text = QStringLiteral("%1 %2x%3");
+        return text.arg(type.identifier()).arg(image.width()).arg(image.height()).toUtf8();
+    }
+
+    /// From now on these bytes are a picture of that size.
+    void teach(const QByteArray &data, QSize size) { sizes.insert(data, size); }
+
+    QHash<QByteArray, QSize> sizes;
+    bool refusesToEncode = false;
+
+private:
+    static QImage picture(QSize size)
+    {
+        QImage image(size, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::red);
+        return image;
+    }
+    static QByteArray read(const QUrl &url)
+    {
+        QFile file(url.toLocalFile());
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    }
+};
+
+} // namespace corvane::test

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/keyboard.h"
+
+namespace corvane::test {
+
+/// A keyboard whose modifiers a test holds down.
+class FakeKeyboard : public Keyboard {
+public:
+    Modifiers currentModifiers() const override { return modifiers; }
+
+    Modifiers modifiers;
+};
+
+} // namespace corvane::test

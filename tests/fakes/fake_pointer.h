@@ -1,0 +1,15 @@
+#pragma once
+
+#include "platform/pointer.h"
+
+namespace corvane::test {
+
+/// A pointer that stands where a test puts it; nowhere at first.
+class FakePointer : public Pointer {
+public:
+    std::optional<QPointF> location() const override { return position; }
+
+    std::optional<QPointF> position;
+};
+
+} // namespace corvane::test

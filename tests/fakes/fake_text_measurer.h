@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/text_measurer.h"
+
+namespace corvane::test {
+
+/// Every character is equally wide, whatever the font.
+class FakeTextMeasurer : public TextMeasurer {
+public:
+    double width(const QString &text, const QFont &) const override
+    {
+        return static_cast<double>(text.size()) * advance;
+    }
+
+    double advance = 7;
+};
+
+} // namespace corvane::test

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/user_defaults.h"
+
+namespace corvane::test {
+
+/// Settings that live as long as the test.
+class MemoryUserDefaults : public UserDefaults {
+public:
+    /// Any value at all, as a hand that edits the file could write it.
+    void setRaw(const QString &key, const QVariant &value) { stored.insert(key, value); }
+
+    QVariantMap stored;
+
+protected:
+    QVariant storedObject(const QString &key) const override { return stored.value(key); }
+    void setObject(const QString &key, const QVariant &value) override
+    {
+        stored.insert(key, value);
+    }
+};
+
+} // namespace corvane::test
