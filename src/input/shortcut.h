@@ -1,12 +1,22 @@
 #pragma once
 
+#include "platform/keyboard.h"
+
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 
 #include <cstdint>
 #include <optional>
 
 namespace corvane {
+
+/// A key that went down, as far as naming it goes.
+struct KeyPress {
+    std::uint32_t keyCode = key_code::unknown;
+    /// What the key types in the user's layout with no modifier held; empty when it types nothing.
+    QString charactersIgnoringModifiers;
+};
 
 /// One global keyboard shortcut as a value.
 struct Shortcut {
@@ -24,6 +34,13 @@ struct Shortcut {
 
     /// Modifier glyphs (Control, Option, Shift, Command) and the key's name, "⇧⌘D".
     QString display() const;
+
+    /// What `character` is for a key: its sign where it has one, else the capital of what it types.
+    static QString label(const KeyPress &press);
+    /// Virtual key codes of the keys that have a sign of their own.
+    static const QHash<std::uint32_t, QString> &namedKeys();
+    /// The stored bits of the modifiers that are held.
+    static std::uint32_t modifierBits(Modifiers held);
 
     QByteArray toJson() const;
     /// None unless all three keys are there with the right types.

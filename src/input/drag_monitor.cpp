@@ -1,0 +1,91 @@
+#include "input/drag_monitor.h"
+
+#include "platform/drag_pasteboard.h"
+#include "platform/mouse_buttons.h"
+
+#include <utility>
+
+namespace corvane {
+
+DragMonitor::DragMonitor(DragPasteboard &pasteboard, EventMonitors &events, MouseButtons &buttons,
+                         MainQueue &queue)
+    : m_pasteboard(pasteboard)
+    , m_events(events)
+    , m_buttons(buttons)
+    , m_queue(queue)
+{
+}
+
+DragMonitor::~DragMonitor()
+{
+    stop();
+}
+
+std::function<void()> DragMonitor::whileAlive(void (DragMonitor::*work)())
+{
+    return [weak = std::weak_ptr(m_self), work] {
+        if (const auto self = weak.lock())
+            ((*self)->*work)();
+    };
+}
+
+void DragMonitor::start()
+{
+    m_pasteboardBaseline = m_pasteboard.changeCount();
+    m_globalMonitor = m_events.addGlobalMonitor(whileAlive(&DragMonitor::mouseDragged));
+    m_localMonitor = m_events.addLocalMonitor(whileAlive(&DragMonitor::mouseDragged));
+}
+
+void DragMonitor::stop()
+{
+    for (auto *monitor : {&m_globalMonitor, &m_localMonitor}) {
+        if (const auto handle = std::exchange(*monitor, std::nullopt))
+            m_events.removeMonitor(*handle);
+    }
+    m_releasePoll.reset();
+}
+
+void DragMonitor::mouseDragged()
+{
+    if (m_isDragging)
+        return;
+    const qint64 count = m_pasteboard.changeCount();
+    if (count == m_pasteboardBaseline)
+        return;
+    m_pasteboardBaseline = count;
+    m_isDragging = true;
+    beginPolling();
+    // A copy: the callback may destroy the monitor, and itself with it.
+    if (const auto began = onDragBegan)
+        began();
+}
+
+void DragMonitor::beginPolling()
+{
+    m_releasePoll = m_queue.repeating(pollInterval, whileAlive(&DragMonitor::pollButton));
+}
+
+void DragMonitor::pollButton()
+{
+    if ((m_buttons.pressedMouseButtons() & MouseButtons::left) == 0)
+        finishDrag();
+}
+
+void DragMonitor::finishDrag()
+{
+    if (!m_isDragging)
+        return;
+    m_isDragging = false;
+    m_releasePoll.reset();
+    m_queue.asyncAfter(settleDelay, whileAlive(&DragMonitor::settle));
+}
+
+void DragMonitor::settle()
+{
+    // Only now: what changes the pasteboard while a drop is delivered is no new drag.
+    m_pasteboardBaseline = m_pasteboard.changeCount();
+    if (const auto ended = onDragEnded)
+        ended();
+}
+
+} // namespace corvane

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "platform/event_monitors.h"
+#include "platform/main_queue.h"
+
+#include <QtGlobal>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace corvane {
+
+class DragPasteboard;
+class MouseButtons;
+
+/// Notices when the user drags something, anywhere on the desktop.
+///
+/// No window system announces a drag between two other programs. What can be seen is the pointer
+/// moving with its left button held and, when contents are carried, the drag pasteboard changing.
+/// Both together are a drag; the first alone is a text selection or a window being moved. Nor does
+/// anybody tell of the release over another program's window, so the button is asked for.
+///
+///     Watching --dragged event, pasteboard changed--> Dragging --button seen up--> Settling
+///        ^                                               ^                            |  |
+///        |                                               +--dragged, changed again----+  |
+///        +--settleDelay later: onDragEnded-----------------------------------------------+
+///
+/// A drag that begins while the last one settles is reported before the old one's end, which still
+/// comes. Main thread only; the references must outlive the monitor.
+class DragMonitor {
+public:
+    /// Seconds between two looks at the button.
+    static constexpr double pollInterval = 0.05;
+    /// Seconds that a drop is given to reach its target, which may be us, after the release.
+    static constexpr double settleDelay = 0.12;
+
+    DragMonitor(DragPasteboard &pasteboard, EventMonitors &events, MouseButtons &buttons,
+                MainQueue &queue);
+    DragMonitor(const DragMonitor &) = delete;
+    DragMonitor &operator=(const DragMonitor &) = delete;
+    ~DragMonitor();
+
+    /// A drag that began before this is not seen. Once, after both callbacks are set.
+    void start();
+    /// May be called again. In the middle of a drag its end is never reported.
+    void stop();
+
+    /// From a drag's recognition until its release was seen.
+    bool isDragging() const { return m_isDragging; }
+
+    /// Each may be left empty, and may destroy the monitor.
+    std::function<void()> onDragBegan;
+    std::function<void()> onDragEnded;
+
+private:
+    /// `work` bound to the monitor; does nothing once that is gone.
+    std::function<void()> whileAlive(void (DragMonitor::*work)());
+
+    void mouseDragged();
+    void beginPolling();
+    void pollButton();
+    void finishDrag();
+    void settle();
+
+    DragPasteboard &m_pasteboard;
+    EventMonitors &m_events;
+    MouseButtons &m_buttons;
+    MainQueue &m_queue;
+
+    std::optional<EventMonitors::Handle> m_globalMonitor;
+    std::optional<EventMonitors::Handle> m_localMonitor;
+    std::unique_ptr<MainQueue::Timer> m_releasePoll;
+    qint64 m_pasteboardBaseline = 0;
+    bool m_isDragging = false;
+    std::shared_ptr<DragMonitor *> m_self = std::make_shared<DragMonitor *>(this);
+};
+
+} // namespace corvane

@@ -1,0 +1,41 @@
+#include "input/screen_locator.h"
+
+#include "platform/geometry.h"
+#include "platform/pointer.h"
+
+#include <algorithm>
+
+namespace corvane {
+
+ScreenLocator::ScreenLocator(const Screens &screens, const Pointer &pointer)
+    : m_screens(screens)
+    , m_pointer(pointer)
+{
+}
+
+ScreenPointer ScreenLocator::activeScreen() const
+{
+    if (const auto location = m_pointer.location()) {
+        for (const ScreenPointer &screen : m_screens.screens()) {
+            if (contains(screen->frame, *location))
+                return screen;
+        }
+    }
+    return m_screens.mainScreen();
+}
+
+ScreenLocator::Notch ScreenLocator::notch(const ScreenPointer &screen)
+{
+    // Written so that an inset that is no number counts as none.
+    if (!screen || !(screen->safeAreaInsets.top > 0))
+        return {};
+    const double inset = screen->safeAreaInsets.top;
+    const auto &left = screen->auxiliaryTopLeftArea;
+    const auto &right = screen->auxiliaryTopRightArea;
+    if (!left || !right)
+        return {inset, 0};
+    const double width = screen->frame.width() - left->width() - right->width();
+    return {inset, std::max(width, 0.0)};
+}
+
+} // namespace corvane

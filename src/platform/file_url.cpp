@@ -1,0 +1,96 @@
+#include "platform/file_url.h"
+
+#include <QStringView>
+
+#include <array>
+
+namespace corvane::file_url {
+
+namespace {
+
+/// Bytes that stand for themselves in the path of an address.
+bool standsForItself(char byte)
+{
+    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z')
+        || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.' || byte == '_' || byte == '~'
+        || byte == '/';
+}
+
+QByteArray lastComponent(const QByteArray &path)
+{
+    qsizetype end = path.size();
+    while (end > 1 && path[end - 1] == '/')
+        --end;
+    const qsizetype slash = end > 1 ? path.lastIndexOf('/', end - 1) : -1;
+    return path.mid(slash + 1, end - slash - 1);
+}
+
+/// Where the extension's dot stands, -1 without an extension. The dots that lead a name hide
+/// the file and begin nothing.
+qsizetype extensionDot(const QString &name)
+{
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    const bool endsName = dot == name.size() - 1;
+    if (dot < 1 || endsName)
+        return -1;
+    const bool onlyDotsBefore = QStringView(name).left(dot).count(QLatin1Char('.')) == dot;
+    return onlyDotsBefore ? -1 : dot;
+}
+
+} // namespace
+
+QByteArray nativePath(const QUrl &url)
+{
+    if (!url.isLocalFile())
+        return {};
+    QByteArray path = url.path(QUrl::FullyEncoded).toLatin1();
+    if (path.contains('%'))
+        path = QByteArray::fromPercentEncoding(path);
+    // Without a leading slash it would depend on where this program was started, and at a null byte
+    // the system would take it for a shorter path.
+    if (!path.startsWith('/') || path.contains('\0'))
+        return {};
+    return path;
+}
+
+QUrl fromNativePath(const QByteArray &path)
+{
+    static constexpr std::array<char, 16> digits
+        = {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9', 'A', 'B', 'C', 'D', 'E', 'F'};
+    if (path.isEmpty())
+        return {};
+    QByteArray encoded = QByteArrayLiteral("file://");
+    encoded.reserve(encoded.size() + path.size() * 3);
+    for (const char byte : path) {
+        if (standsForItself(byte)) {
+            encoded += byte;
+            continue;
+        }
+        const auto value = static_cast<unsigned char>(byte);
+        encoded += '%';
+        encoded += digits[value >> 4U];
+        encoded += digits[value & 15U];
+    }
+    return QUrl::fromEncoded(encoded, QUrl::StrictMode);
+}
+
+QString lastPathComponent(const QUrl &url)
+{
+    return QString::fromUtf8(lastComponent(nativePath(url)));
+}
+
+QString pathExtension(const QUrl &url)
+{
+    const QString name = lastPathComponent(url);
+    const qsizetype dot = extensionDot(name);
+    return dot < 0 ? QString() : name.mid(dot + 1);
+}
+
+QString stem(const QUrl &url)
+{
+    const QString name = lastPathComponent(url);
+    const qsizetype dot = extensionDot(name);
+    return dot < 0 ? name : name.left(dot);
+}
+
+} // namespace corvane::file_url
