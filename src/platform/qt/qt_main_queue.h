@@ -1,0 +1,49 @@
+#pragma once
+
+#include "platform/main_queue.h"
+
+#include <QBasicTimer>
+#include <QElapsedTimer>
+#include <QObject>
+
+#include <deque>
+#include <mutex>
+
+namespace corvane {
+
+/// The main queue on Qt's event loop, nested loops included. Must be made on the main thread, after
+/// the application object.
+///
+/// Waiting work runs in slices with a time budget, between which the event loop gets to paint and
+/// to hear input: thousands of results that arrive at once cost no frame. While nothing waits,
+/// nothing wakes up.
+class QtMainQueue : public QObject, public MainQueue {
+public:
+    /// A quarter of a frame at 60 Hz.
+    static constexpr qint64 sliceNanoseconds = 4'000'000;
+
+    QtMainQueue();
+    ~QtMainQueue() override;
+
+    void async(Work work) override;
+    void asyncAfter(double seconds, Work work) override;
+    [[nodiscard]] std::unique_ptr<Timer> repeating(double seconds, Work work) override;
+    double now() const override;
+
+protected:
+    bool event(QEvent *event) override;
+    void timerEvent(QTimerEvent *event) override;
+
+private:
+    void runSlice();
+    bool takeNext(Work &work);
+
+    std::mutex m_mutex;
+    std::deque<Work> m_waiting;
+    /// A wake-up is on its way. Guarded by the mutex.
+    bool m_isWoken = false;
+    QBasicTimer m_nextSlice;
+    QElapsedTimer m_clock;
+};
+
+} // namespace corvane

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "platform/user_defaults.h"
+
+#include <memory>
+
+class QSettings;
+
+namespace corvane {
+
+/// The user's settings in an INI file below the configuration folder. A file that cannot be
+/// understood counts as empty.
+class QtUserDefaults : public UserDefaults {
+public:
+    QtUserDefaults();
+    /// In a file of one's own choosing.
+    explicit QtUserDefaults(const QString &path);
+    ~QtUserDefaults() override;
+
+protected:
+    QVariant storedObject(const QString &key) const override;
+    void setObject(const QString &key, const QVariant &value) override;
+
+private:
+    std::unique_ptr<QSettings> m_settings;
+};
+
+} // namespace corvane
