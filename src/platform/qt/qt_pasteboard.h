@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/pasteboard.h"
+
+class QMimeData;
+
+namespace corvane {
+
+class DragSupport;
+
+/// What a drop or the clipboard carries, behind `QMimeData`. Addresses are fetched once, everything
+/// else each time it is asked for. Both must outlive it; without a support nothing is promised.
+class QtPasteboard : public Pasteboard {
+public:
+    explicit QtPasteboard(const QMimeData *mimeData, DragSupport *support = nullptr);
+
+    QStringList types() const override;
+    QList<QUrl> urls() override;
+    QList<QUrl> fileUrls() override;
+    std::optional<QByteArray> dataFor(const UTType &type) override;
+    std::optional<QString> string() override;
+    std::optional<QString> promisedFileName() override;
+    bool receivePromisedFile(const QUrl &destination) override;
+
+private:
+    QByteArray fetch(const QString &type) const;
+    QList<QUrl> readUrls() const;
+
+    const QMimeData *m_mimeData;
+    DragSupport *m_support;
+    std::optional<QList<QUrl>> m_urls;
+};
+
+} // namespace corvane
