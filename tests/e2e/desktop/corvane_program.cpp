@@ -1,0 +1,220 @@
+#include "e2e/desktop/corvane_program.h"
+
+#include "e2e/desktop/eventually.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvane::e2e {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto serviceName = "example.corvane.Corvane";
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// How often the program has gone to sleep, and whether it sleeps now.
+QByteArray sleeps(qint64 pid)
+{
+    const QByteArray status = contents(u"/proc/%1/status"_s.arg(pid));
+    if (!status.contains("State:\tS"))
+        return {};
+    const qsizetype at = status.indexOf("voluntary_ctxt_switches");
+    return status.mid(at, status.indexOf('\n', at) - at);
+}
+
+struct CarouselLayout {
+    double arrows;
+    double left;
+    double right;
+    double padding;
+    int visible;
+};
+
+CarouselLayout layoutOf(int inView, int total)
+{
+    CarouselLayout layout{};
+    layout.visible = std::min(inView, total);
+    const double width = CorvaneProgram::carousel(inView, total).width();
+    const double content = layout.visible * 58 + (layout.visible - 1) * 6 + (total >= 2 ? 28 : 0);
+    layout.arrows = inView < total ? 28 : 0;
+    layout.left = layout.arrows + 23;
+    layout.right = width - 23;
+    layout.padding
+        = std::max((layout.right - layout.arrows - layout.left - content) * 0.5, 0.0);
+    return layout;
+}
+
+} // namespace
+
+CorvaneProgram::CorvaneProgram(XDesktop &desktop)
+    : CorvaneProgram(desktop, Start{{}, {}, desktop.environment()})
+{
+}
+
+CorvaneProgram::CorvaneProgram(XDesktop &desktop, const Start &start)
+    : desktop_(desktop)
+    , environment_(start.environment.isEmpty() ? desktop.environment() : start.environment)
+{
+    const QString folder = environment_.value(u"XDG_CONFIG_HOME"_s) + u"/Corvane"_s;
+    QDir(folder).removeRecursively();
+    QDir().mkpath(folder);
+    if (start.inViewCount || !start.settings.isEmpty()) {
+        QFile file(folder + u"/Corvane.conf"_s);
+        if (file.open(QFile::WriteOnly)) {
+            file.write("[General]\n");
+            if (start.inViewCount)
+                file.write("settings.inViewCount=" + QByteArray::number(*start.inViewCount) + '\n');
+            file.write(start.settings);
+        }
+    }
+    program_ = std::make_unique<Program>(path(), QStringList(), environment_);
+}
+
+QString CorvaneProgram::path()
+{
+    const QString chosen = qEnvironmentVariable("CORVANE_PROGRAM");
+    return chosen.isEmpty() ? QCoreApplication::applicationDirPath() + u"/corvane"_s : chosen;
+}
+
+bool CorvaneProgram::waitUntilReady()
+{
+    // It has its name on the bus, and then has nothing more to do: it has gone to sleep and stays so.
+    const bool named = eventually([this] {
+        const auto answer = outputOf(
+            u"dbus-send"_s,
+            {u"--session"_s, u"--print-reply=literal"_s, u"--dest=org.freedesktop.DBus"_s, u"/"_s,
+             u"org.freedesktop.DBus.NameHasOwner"_s, u"string:"_s + QLatin1String(serviceName)},
+            environment_);
+        return (answer && answer->contains("true")) || !program_->isRunning();
+    });
+    QByteArray last;
+    int same = 0;
+    return named && program_->isRunning() && eventually([&] {
+        const QByteArray now = sleeps(program_->pid());
+        same = !now.isEmpty() && now == last ? same + 1 : 0;
+        last = now;
+        QThread::msleep(10);
+        return same >= 4;
+    });
+}
+
+std::optional<int> CorvaneProgram::startAgain()
+{
+    Program second(path(), {}, environment_);
+    return second.waitForEnd();
+}
+
+std::optional<WindowFacts> CorvaneProgram::panel()
+{
+    for (const WindowFacts &window : desktop_.server().windows()) {
+        // A drag's picture under the pointer is an override-redirect window, too, but hangs nowhere.
+        if (window.isViewable && window.isOverrideRedirect && window.pid == program_->pid()
+            && window.frame.top() == 0)
+            return window;
+    }
+    return std::nullopt;
+}
+
+bool CorvaneProgram::waitUntilShown()
+{
+    return eventually([this] { return isShown(); });
+}
+
+bool CorvaneProgram::waitUntilHidden()
+{
+    return eventually([this] { return !isShown(); });
+}
+
+bool CorvaneProgram::waitForSize(QSize size, const QRect &screen)
+{
+    const QRect where = screen.isNull() ? QRect({0, 0}, desktop_.server().size()) : screen;
+    const int left = where.x() + (where.width() - size.width()) / 2;
+    const bool reached = eventually([&] {
+        const auto now = panel();
+        return now && now->frame.size() == size && now->frame.top() == where.top()
+            && std::abs(now->frame.left() - left) <= 1;
+    });
+    if (reached)
+        desktop_.pictureAtRest(panel().value_or(WindowFacts{}).frame);
+    return reached;
+}
+
+bool CorvaneProgram::waitForHeight(int height)
+{
+    const bool reached = eventually([&] {
+        const auto now = panel();
+        return now && now->frame.height() == height && body().height() == height;
+    });
+    if (reached)
+        desktop_.pictureAtRest(panel().value_or(WindowFacts{}).frame);
+    return reached;
+}
+
+QSize CorvaneProgram::size() { return panel().value_or(WindowFacts{}).frame.size(); }
+
+QRect CorvaneProgram::body()
+{
+    const auto now = panel();
+    if (!now)
+        return {};
+    QRect bounds;
+    for (const QRect &part : desktop_.server().inputShape(now->id))
+        bounds = bounds.united(part);
+    return bounds.translated(now->frame.topLeft());
+}
+
+QPoint CorvaneProgram::at(double x, double y)
+{
+    return body().topLeft() + QPoint(static_cast<int>(x), static_cast<int>(y));
+}
+
+QString CorvaneProgram::spool() const
+{
+    return environment_.value(u"TMPDIR"_s) + u"/Corvane-%1"_s.arg(program_->pid());
+}
+
+QStringList CorvaneProgram::spooled() const
+{
+    return QDir(spool()).entryList(QDir::Files | QDir::NoDotAndDotDot, QDir::Name);
+}
+
+QSize CorvaneProgram::carousel(int inView, int total)
+{
+    const int visible = std::max(std::min(inView, total), 1);
+    const int content = visible * 58 + (visible - 1) * 6;
+    const int base = content + (inView < total ? 67 : 11) + (total > 1 ? 28 : 0);
+    return {base + 11 + 24, carouselHeight};
+}
+
+QPoint CorvaneProgram::cell(int inView, int total, int nth)
+{
+    const CarouselLayout layout = layoutOf(inView, total);
+    // The middle of the thumbnail, 24 to 56 above the body's bottom.
+    return {static_cast<int>(layout.left + layout.padding + nth * 64 + 29), carouselHeight - 40};
+}
+
+QPoint CorvaneProgram::badge(int inView, int total, int nth)
+{
+    // The badge's lower left quarter, on the thumbnail's corner.
+    return cell(inView, total, nth) + QPoint(13, -14);
+}
+
+QPoint CorvaneProgram::leftArrow(int, int) { return {23 + 11, carouselHeight - 31}; }
+
+QPoint CorvaneProgram::rightArrow(int inView, int total)
+{
+    return {carousel(inView, total).width() - 23 - 11, carouselHeight - 31};
+}
+
+} // namespace corvane::e2e

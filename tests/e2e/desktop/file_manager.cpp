@@ -1,0 +1,126 @@
+#include "e2e/desktop/file_manager.h"
+
+#include "e2e/desktop/eventually.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+
+namespace corvane::e2e {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto settings = R"([FolderView]
+Mode=icon
+BigIconSize=48
+[Window]
+SidePaneVisible=false
+[System]
+FallbackIconThemeName=breeze
+[Behavior]
+SingleClick=false
+)";
+
+bool isFileManager(const WindowFacts &window) { return window.windowClass.startsWith("pcmanfm-qt"); }
+
+/// The white area below the bars; null where there is none.
+QRect findView(const QImage &window)
+{
+    const QRgb white = qRgb(255, 255, 255);
+    const int column = window.width() - 40;
+    int top = -1;
+    for (int y = 0; y < window.height(); ++y) {
+        const bool isWhite = window.pixel(column, y) == white && window.pixel(column / 2, y) == white;
+        if (isWhite && top < 0)
+            top = y;
+        if (!isWhite && top >= 0) {
+            if (y - top > 60)
+                return {0, top, window.width(), y - top};
+            top = -1;
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+FileManager::FileManager(XDesktop &desktop, const QString &folder, const QRect &frame)
+    : desktop_(desktop)
+{
+    const QString config = desktop.environment().value(u"XDG_CONFIG_HOME"_s)
+        + u"/pcmanfm-qt/default"_s;
+    QDir().mkpath(config);
+    QFile file(config + u"/settings.conf"_s);
+    if (file.open(QFile::WriteOnly))
+        file.write(settings);
+
+    QList<xcb_window_t> others;
+    for (const WindowFacts &window : desktop.server().windows())
+        others.append(window.id);
+    // A bus of its own: otherwise a second one would open its folder in the first one's window.
+    program_ = desktop.start(u"dbus-run-session"_s, {u"--"_s, u"pcmanfm-qt"_s, folder});
+    const auto window = desktop.waitForWindow([&](const WindowFacts &candidate) {
+        return isFileManager(candidate) && !others.contains(candidate.id);
+    });
+    if (!window) {
+        problem_ = u"the file manager shows no window: "_s + QString::fromUtf8(program_->output());
+        return;
+    }
+    const auto placed = desktop.place(window->id, frame);
+    if (!placed) {
+        problem_ = u"the file manager's window cannot be placed"_s;
+        return;
+    }
+    frame_ = placed->frame;
+    desktop_.hands().moveTo(QPoint(5, frame_.bottom() + 60));
+    const bool shown = eventually([this] {
+        view_ = findView(desktop_.server().picture(frame_)).translated(frame_.topLeft());
+        return !view_.isEmpty();
+    });
+    if (!shown)
+        problem_ = u"the file manager shows no folder"_s;
+    if (QDir(folder).isEmpty())
+        return;
+    const bool listed = eventually([this] {
+        const QImage icon
+            = desktop_.pictureAtRest(QRect(view_.topLeft() + QPoint(30, 4), QSize(56, 56)));
+        for (int i = 0; i < icon.width() * icon.height(); ++i) {
+            if ((icon.pixel(i % icon.width(), i / icon.width()) | 0xff000000) != 0xffffffff)
+                return true;
+        }
+        return false;
+    });
+    if (!listed)
+        problem_ = u"the file manager shows no files"_s;
+}
+
+void FileManager::selectAll()
+{
+    desktop_.hands().click(emptyPlace());
+    desktop_.hands().key('a', {keys::control});
+    desktop_.pictureAtRest(view_);
+}
+
+bool FileManager::chooseCopy()
+{
+    QRect menu;
+    const bool asked = eventually([&] {
+        for (const WindowFacts &window : desktop_.server().windows()) {
+            if (window.isViewable && window.isOverrideRedirect && isFileManager(window)
+                && window.frame.height() > 40)
+                menu = window.frame;
+        }
+        return !menu.isNull();
+    });
+    if (!asked)
+        return false;
+    desktop_.pictureAtRest(menu);
+    desktop_.hands().key(keys::down);
+    desktop_.hands().key(keys::enter);
+    return true;
+}
+
+} // namespace corvane::e2e

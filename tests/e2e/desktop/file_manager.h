@@ -1,0 +1,35 @@
+#pragma once
+
+#include "e2e/desktop/x_desktop.h"
+
+#include <QRect>
+
+#include <memory>
+
+namespace corvane::e2e {
+
+/// A window of the file manager on one folder.
+class FileManager {
+public:
+    FileManager(XDesktop &desktop, const QString &folder, const QRect &frame);
+
+    /// Empty when its window is there and its files are shown.
+    QString problem() const { return problem_; }
+    QRect frame() const { return frame_; }
+    /// Where the folder's first file is, in the order of their names.
+    QPoint firstFile() const { return view_.topLeft() + QPoint(58, 32); }
+    /// A place in the folder's view where no file is.
+    QPoint emptyPlace() const { return view_.bottomRight() - QPoint(60, 40); }
+    void selectAll();
+    /// After a drop: takes "Copy here" from the menu that asks what to do.
+    bool chooseCopy();
+
+private:
+    XDesktop &desktop_;
+    std::unique_ptr<Program> program_;
+    QString problem_;
+    QRect frame_;
+    QRect view_;
+};
+
+} // namespace corvane::e2e

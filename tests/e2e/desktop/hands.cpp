@@ -1,0 +1,129 @@
+#include "e2e/desktop/hands.h"
+
+#include <QThread>
+
+#include <algorithm>
+#include <cmath>
+#include <cstdlib>
+#include <xcb/xtest.h>
+
+namespace corvane::e2e {
+
+namespace {
+
+// The time between two moves of a hand. Programs merge or overlook moves that follow faster.
+constexpr unsigned long stepMilliseconds = 25;
+constexpr double longestStep = 120;
+
+} // namespace
+
+void Hands::fake(uint8_t type, uint8_t detail, QPoint point)
+{
+    xcb_test_fake_input(server_.connection(), type, detail, XCB_CURRENT_TIME, server_.root(),
+                        static_cast<int16_t>(point.x()), static_cast<int16_t>(point.y()), 0);
+    // A question makes sure that the server has seen to it.
+    std::free(xcb_get_input_focus_reply(server_.connection(),
+                                        xcb_get_input_focus(server_.connection()), nullptr));
+}
+
+void Hands::moveTo(QPoint point) { fake(XCB_MOTION_NOTIFY, 0, point); }
+
+void Hands::moveBy(QPoint step) { fake(XCB_MOTION_NOTIFY, 1, step); }
+
+void Hands::glideTo(QPoint point)
+{
+    const QPoint from = server_.pointerPosition();
+    const double distance = std::hypot(point.x() - from.x(), point.y() - from.y());
+    const int steps = std::max(2, static_cast<int>(std::ceil(distance / longestStep)));
+    for (int i = 1; i <= steps; ++i) {
+        moveTo(from + (point - from) * (static_cast<double>(i) / steps));
+        QThread::msleep(stepMilliseconds);
+    }
+    moveTo(point);
+}
+
+void Hands::press(uint8_t button) { fake(XCB_BUTTON_PRESS, button); }
+
+void Hands::release(uint8_t button) { fake(XCB_BUTTON_RELEASE, button); }
+
+void Hands::click(QPoint point, uint8_t button)
+{
+    glideTo(point);
+    press(button);
+    QThread::msleep(stepMilliseconds);
+    release(button);
+}
+
+void Hands::doubleClick(QPoint point)
+{
+    click(point);
+    press();
+    release();
+}
+
+void Hands::beginDrag(QPoint from, QPoint towards)
+{
+    glideTo(from);
+    press();
+    QThread::msleep(stepMilliseconds);
+    const QPoint way = towards - from;
+    const double length = std::max(1.0, std::hypot(way.x(), way.y()));
+    // Past every toolkit's threshold (4 to 10 pixels), and some steps beyond it.
+    for (const double distance : {3.0, 9.0, 16.0, 24.0, 32.0}) {
+        moveTo(from + way * (distance / length));
+        QThread::msleep(stepMilliseconds);
+    }
+}
+
+void Hands::aim(QPoint point)
+{
+    for (const QPoint off : {QPoint(-3, 0), QPoint(2, 1), QPoint(-1, 0), QPoint(1, -1), QPoint(0, 0)}) {
+        moveTo(point + off);
+        QThread::msleep(stepMilliseconds);
+    }
+}
+
+uint8_t Hands::keyCode(uint32_t symbol)
+{
+    const xcb_setup_t *setup = xcb_get_setup(server_.connection());
+    const auto count = static_cast<uint8_t>(setup->max_keycode - setup->min_keycode + 1);
+    xcb_get_keyboard_mapping_reply_t *mapping = xcb_get_keyboard_mapping_reply(
+        server_.connection(),
+        xcb_get_keyboard_mapping(server_.connection(), setup->min_keycode, count), nullptr);
+    if (mapping == nullptr)
+        return 0;
+    const xcb_keysym_t *symbols = xcb_get_keyboard_mapping_keysyms(mapping);
+    const int width = mapping->keysyms_per_keycode;
+    uint8_t code = 0;
+    for (int i = 0; i < count && code == 0; ++i) {
+        if (symbols[i * width] == symbol)
+            code = static_cast<uint8_t>(setup->min_keycode + i);
+    }
+    std::free(mapping);
+    return code;
+}
+
+void Hands::keyDown(uint32_t symbol) { fake(XCB_KEY_PRESS, keyCode(symbol)); }
+
+void Hands::keyUp(uint32_t symbol) { fake(XCB_KEY_RELEASE, keyCode(symbol)); }
+
+void Hands::key(uint32_t symbol, std::initializer_list<uint32_t> modifiers)
+{
+    for (const uint32_t modifier : modifiers)
+        keyDown(modifier);
+    keyDown(symbol);
+    keyUp(symbol);
+    for (const uint32_t modifier : modifiers)
+        keyUp(modifier);
+}
+
+void Hands::turn(Wheel direction, int notches)
+{
+    for (int i = 0; i < notches; ++i) {
+        press(static_cast<uint8_t>(direction));
+        release(static_cast<uint8_t>(direction));
+        QThread::msleep(stepMilliseconds);
+    }
+}
+
+} // namespace corvane::e2e

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "e2e/desktop/x_server.h"
+
+#include <QPoint>
+
+namespace corvane::e2e {
+
+/// The user's hands: pointer and keyboard, through the X test extension.
+///
+/// Everything goes through the server's own devices, so that grabs, raw events and input shapes
+/// behave as they do for a person.
+class Hands {
+public:
+    explicit Hands(XServer &server)
+        : server_(server)
+    {
+    }
+
+    void moveTo(QPoint point);
+    void moveBy(QPoint step);
+    /// Moves as a hand does: in steps, each a moment after the other, so that nobody who watches
+    /// sees a jump. Programs begin a drag only after more than one such step.
+    void glideTo(QPoint point);
+    void press(uint8_t button = 1);
+    void release(uint8_t button = 1);
+    void click(QPoint point, uint8_t button = 1);
+    void doubleClick(QPoint point);
+    /// Presses at `from` and moves far enough for a drag to begin.
+    void beginDrag(QPoint from, QPoint towards);
+    /// Moves a little about the place, as a hand that aims does: a target has time to answer.
+    void aim(QPoint point);
+
+    /// By key symbol, for instance XK_space; with the modifiers held.
+    void key(uint32_t symbol, std::initializer_list<uint32_t> modifiers = {});
+    void keyDown(uint32_t symbol);
+    void keyUp(uint32_t symbol);
+
+    /// A turn of the wheel; XTEST knows wheels as buttons 4 to 7.
+    enum class Wheel : uint8_t { Up = 4, Down = 5, Left = 6, Right = 7 };
+    void turn(Wheel direction, int notches = 1);
+
+private:
+    void fake(uint8_t type, uint8_t detail, QPoint point = {});
+    uint8_t keyCode(uint32_t symbol);
+
+    XServer &server_;
+};
+
+namespace keys {
+inline constexpr uint32_t backSpace = 0xff08, escape = 0xff1b, enter = 0xff0d, home = 0xff50,
+                          left = 0xff51, up = 0xff52, right = 0xff53, down = 0xff54, tab = 0xff09,
+                          shift = 0xffe1, control = 0xffe3, alt = 0xffe9, super = 0xffeb,
+                          forwardDelete = 0xffff, space = 0x20;
+} // namespace keys
+
+} // namespace corvane::e2e

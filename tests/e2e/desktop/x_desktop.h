@@ -1,0 +1,76 @@
+#pragma once
+
+#include "e2e/desktop/hands.h"
+#include "e2e/desktop/program.h"
+#include "e2e/desktop/x_server.h"
+
+#include <QProcessEnvironment>
+#include <QString>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace corvane::e2e {
+
+enum class WindowManager { Openbox, Xfwm4 };
+enum class Compositor { None, Picom };
+
+struct DesktopKind {
+    WindowManager windowManager = WindowManager::Openbox;
+    Compositor compositor = Compositor::Picom;
+};
+
+/// A desktop of the test's own: X server, window manager, perhaps a compositor, session bus, and a
+/// home folder that nobody else uses. Ends everything that it started.
+class XDesktop {
+public:
+    explicit XDesktop(DesktopKind kind = {});
+
+    /// Empty when it is up, otherwise what went wrong.
+    QString problem() const { return problem_; }
+
+    XServer &server() { return *server_; }
+    Hands &hands() { return *hands_; }
+
+    /// What programs on this desktop are started with. Tests may change their copy of it.
+    const QProcessEnvironment &environment() const { return environment_; }
+    QString home() const { return home_.path(); }
+    QString path(const QString &name) const { return home_.filePath(name); }
+
+    std::unique_ptr<Program> start(const QString &name, const QStringList &arguments);
+    /// The first window, viewable and in the window manager's care, that the condition holds for.
+    std::optional<WindowFacts> waitForWindow(const std::function<bool(const WindowFacts &)> &holds);
+    std::optional<WindowFacts> waitForWindowOf(const Program &program);
+    /// Moves a managed window and waits until its picture is at rest.
+    std::optional<WindowFacts> place(xcb_window_t window, const QRect &frame);
+    /// Waits until two pictures of the area, a moment apart, are the same, and gives it.
+    QImage pictureAtRest(const QRect &area);
+
+    /// What another program gets from the clipboard; none if nobody offers that type.
+    std::optional<QByteArray> clipboard(const QString &type);
+    /// A server that is asked to go away takes its programs with it, as a logout does.
+    void endServer();
+
+    void removeTemporaryFiles();
+
+private:
+    void startServer();
+    void startBus();
+    void startWindowManager(WindowManager windowManager);
+    void startCompositor();
+
+    QTemporaryDir home_;
+    QProcessEnvironment environment_;
+    QString problem_;
+    // In the order in which they are started; they end in the opposite one.
+    std::unique_ptr<Program> xvfb_;
+    std::unique_ptr<XServer> server_;
+    std::unique_ptr<Hands> hands_;
+    std::unique_ptr<Program> bus_;
+    std::unique_ptr<Program> windowManager_;
+    std::unique_ptr<Program> compositor_;
+};
+
+} // namespace corvane::e2e

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QList>
+#include <QRect>
+
+#include <memory>
+#include <optional>
+#include <xcb/xcb.h>
+
+namespace corvane::e2e {
+
+// The library's own names for these are enumerators, which mix badly with ids.
+inline constexpr xcb_window_t noWindow = 0;
+inline constexpr xcb_atom_t noAtom = 0;
+
+/// A window as another program sees it. The frame is the window's inside, in root coordinates.
+struct WindowFacts {
+    xcb_window_t id = noWindow;
+    QRect frame;
+    bool isViewable = false;
+    bool isOverrideRedirect = false;
+    /// Both parts of WM_CLASS, each ended by a null byte.
+    QByteArray windowClass;
+    qint64 pid = 0;
+};
+
+/// A connection of the test's own to the X server, which observes and asks but owns nothing.
+class XServer {
+public:
+    explicit XServer(const QByteArray &display);
+
+    bool isConnected() const;
+    xcb_connection_t *connection() const { return connection_.get(); }
+    xcb_window_t root() const { return root_; }
+    QSize size() const;
+
+    xcb_atom_t atom(const QByteArray &name);
+    QByteArray property(xcb_window_t window, const QByteArray &name);
+    std::optional<xcb_window_t> windowProperty(xcb_window_t window, const QByteArray &name);
+    xcb_window_t selectionOwner(const QByteArray &selection);
+    xcb_window_t focusedWindow();
+    xcb_window_t activeWindow() { return windowProperty(root_, "_NET_ACTIVE_WINDOW").value_or(0); }
+
+    /// Every child of the root and, below a window manager's frames, the programs' own windows;
+    /// from the bottom to the top of the stack.
+    QList<WindowFacts> windows();
+    std::optional<WindowFacts> facts(xcb_window_t window);
+
+    /// In the window's coordinates. Empty where the window is nothing but click-through.
+    QList<QRect> inputShape(xcb_window_t window);
+    QList<QRect> boundingShape(xcb_window_t window);
+
+    QImage picture(const QRect &area);
+    QImage picture() { return picture(QRect({0, 0}, size())); }
+    QPoint pointerPosition();
+
+    /// Asks the window manager to place a managed window's inside at `frame`, frame and all as near
+    /// as it does; the window tells afterwards where it really is.
+    void moveResize(xcb_window_t window, const QRect &frame);
+    void activate(xcb_window_t window);
+
+private:
+    struct Disconnect {
+        void operator()(xcb_connection_t *connection) const { xcb_disconnect(connection); }
+    };
+    QList<QRect> shape(xcb_window_t window, uint8_t kind);
+    void collect(xcb_window_t window, int depth, QList<WindowFacts> &found);
+    void sendToRoot(xcb_window_t window, const QByteArray &type, std::array<uint32_t, 5> data);
+
+    std::unique_ptr<xcb_connection_t, Disconnect> connection_;
+    xcb_window_t root_ = noWindow;
+};
+
+} // namespace corvane::e2e

@@ -1,0 +1,150 @@
+#pragma once
+
+#include "e2e/desktop/x_desktop.h"
+
+#include <QHash>
+#include <QList>
+#include <QRect>
+#include <QThread>
+
+#include <optional>
+
+namespace corvane::e2e {
+
+/// A small window of a program of its own, which speaks drag and drop by hand: so that a test can
+/// say exactly what is offered, and can misbehave where real programs do so only now and then.
+class XdndPeer {
+public:
+    XdndPeer(XDesktop &desktop, const QRect &frame);
+    virtual ~XdndPeer();
+    XdndPeer(const XdndPeer &) = delete;
+    XdndPeer &operator=(const XdndPeer &) = delete;
+
+    xcb_window_t window() const { return window_; }
+    QRect frame() const { return frame_; }
+
+    /// Handles what has arrived since the last call.
+    void pump();
+    /// Waits as eventually() does, and goes on answering meanwhile.
+    template <class Condition>
+    bool pumpUntil(Condition &&condition);
+
+    int clicks() const { return clicks_; }
+    /// The connection ends at once, as when the program is killed.
+    void die();
+
+protected:
+    virtual void clientMessage(const xcb_client_message_event_t &) { }
+    virtual void otherEvent(const xcb_generic_event_t &) { }
+
+    void send(xcb_window_t to, const QByteArray &type, std::array<uint32_t, 5> data);
+    xcb_connection_t *connection() { return connection_->connection(); }
+    xcb_atom_t atom(const QByteArray &name);
+    QByteArray nameOf(xcb_atom_t atom);
+
+    XDesktop &desktop_;
+
+private:
+    std::unique_ptr<XServer> connection_;
+    xcb_window_t window_ = noWindow;
+    QRect frame_;
+    QHash<QByteArray, xcb_atom_t> atoms_;
+    int clicks_ = 0;
+};
+
+/// Drags something towards a window.
+class XdndSource : public XdndPeer {
+public:
+    struct Offer {
+        QByteArray type;
+        QByteArray data;
+        /// A type that is offered, asked for, and never answered.
+        bool isSilent = false;
+    };
+    struct Status {
+        bool accepts = false;
+        QByteArray action;
+    };
+
+    XdndSource(XDesktop &desktop, QList<Offer> offers, QByteArray proposedAction = "XdndActionCopy");
+
+    /// Presses in its own window, moves, and takes the drag selection: from here on the desktop
+    /// knows that something is being dragged.
+    void pickUp();
+    /// Moves over the target and asks it; none where no answer comes.
+    std::optional<Status> hover(xcb_window_t target, QPoint point);
+    void leave(xcb_window_t target);
+    /// Releases the button over the target that was hovered last, and tells it so.
+    void drop();
+    /// Releases without telling anybody: what follows after `leave`.
+    void letGo();
+    /// What the target said at the end; none where it never did.
+    std::optional<Status> waitForFinish();
+
+    /// The types that were asked for, in order.
+    QList<QByteArray> asked() const { return asked_; }
+
+protected:
+    void clientMessage(const xcb_client_message_event_t &message) override;
+    void otherEvent(const xcb_generic_event_t &event) override;
+
+private:
+    struct Transfer {
+        xcb_window_t requestor;
+        xcb_atom_t property;
+        xcb_atom_t type;
+        QByteArray rest;
+    };
+    void answer(const xcb_selection_request_event_t &request);
+    void goOn(Transfer &transfer);
+
+    QList<Offer> offers_;
+    QByteArray proposedAction_;
+    xcb_window_t target_ = noWindow;
+    std::optional<Status> status_;
+    std::optional<Status> finish_;
+    QList<QByteArray> asked_;
+    QList<Transfer> transfers_;
+};
+
+/// Takes what is dropped on it, or refuses it.
+class XdndTarget : public XdndPeer {
+public:
+    XdndTarget(XDesktop &desktop, const QRect &frame, bool accepts, QByteArray wantedType);
+
+    /// Whether something is over it and has been answered.
+    bool isHovered() const { return positions_ > 1; }
+    bool hasDrop() const { return data_.has_value(); }
+    QByteArray data() const { return data_.value_or(QByteArray()); }
+    QList<QByteArray> offeredTypes() const { return types_; }
+    QList<QByteArray> offeredActions() const { return actions_; }
+
+protected:
+    void clientMessage(const xcb_client_message_event_t &message) override;
+    void otherEvent(const xcb_generic_event_t &event) override;
+
+private:
+    bool accepts_;
+    QByteArray wantedType_;
+    xcb_window_t source_ = noWindow;
+    QList<QByteArray> types_;
+    QList<QByteArray> actions_;
+    std::optional<QByteArray> data_;
+    int positions_ = 0;
+};
+
+template <class Condition>
+bool XdndPeer::pumpUntil(Condition &&condition)
+{
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds{20};
+    for (;;) {
+        pump();
+        if (static_cast<bool>(condition()))
+            return true;
+        if (std::chrono::steady_clock::now() >= deadline)
+            return false;
+        QThread::msleep(1);
+    }
+}
+
+} // namespace corvane::e2e

@@ -1,0 +1,175 @@
+#include "e2e/desktop_test.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QUrl>
+
+#include <array>
+
+namespace corvane::e2e {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::array<std::unique_ptr<XDesktop>, 4> &desktops()
+{
+    static std::array<std::unique_ptr<XDesktop>, 4> all;
+    return all;
+}
+
+} // namespace
+
+XDesktop &desktopOf(DesktopKind kind)
+{
+    auto &desktop = desktops().at(static_cast<size_t>(kind.windowManager) * 2
+                                  + static_cast<size_t>(kind.compositor));
+    if (!desktop)
+        desktop = std::make_unique<XDesktop>(kind);
+    return *desktop;
+}
+
+void endDesktops()
+{
+    for (auto &desktop : desktops())
+        desktop.reset();
+}
+
+std::string nameOf(const testing::TestParamInfo<DesktopKind> &kind)
+{
+    return std::string(kind.param.windowManager == WindowManager::Openbox ? "openbox" : "xfwm4")
+        + (kind.param.compositor == Compositor::Picom ? "_composited" : "_plain");
+}
+
+DesktopTest::DesktopTest(DesktopKind kind)
+    : desktop_(desktopOf(kind))
+    , files_(desktop_.path(u"home/files"_s))
+{
+}
+
+void DesktopTest::SetUp()
+{
+    ASSERT_EQ(desktop_.problem(), QString());
+    QDir().mkpath(files_);
+    desktop_.removeTemporaryFiles();
+    hands().moveTo(QPoint(server().size().width() - 20, server().size().height() - 20));
+}
+
+void DesktopTest::TearDown()
+{
+    // Whatever a failed test has left pressed would be the next one's trouble.
+    for (const uint32_t modifier : {keys::shift, keys::control, keys::alt})
+        hands().keyUp(modifier);
+    hands().release();
+    if (HasFailure()) {
+        const QString shots = QDir::current().filePath(u"build/e2e-failures"_s);
+        QDir().mkpath(shots);
+        const auto *info = testing::UnitTest::GetInstance()->current_test_info();
+        QString name = QString::fromUtf8(info->test_suite_name()) + u'.'
+            + QString::fromUtf8(info->name());
+        server().picture().save(shots + u'/' + name.replace(u'/', u'-') + u".png"_s);
+        if (corvane_)
+            std::cout << corvane_->program().output().toStdString();
+    }
+    corvane_.reset();
+    QDir(files_).removeRecursively();
+}
+
+void DesktopTest::start(const CorvaneProgram::Start &how)
+{
+    corvane_ = std::make_unique<CorvaneProgram>(desktop_, how);
+    ASSERT_TRUE(corvane_->waitUntilReady()) << corvane_->program().output().toStdString();
+}
+
+QString DesktopTest::makeFolder(const QString &name)
+{
+    const QString path = files_ + u'/' + name;
+    QDir().mkpath(path);
+    return path;
+}
+
+QString DesktopTest::makeFile(const QString &name, const QByteArray &contents)
+{
+    const QString path = files_ + u'/' + name;
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    EXPECT_TRUE(file.open(QFile::WriteOnly));
+    file.write(contents);
+    return path;
+}
+
+QPoint DesktopTest::dropPoint()
+{
+    const QRect body = corvane().body();
+    return {body.left() + body.width() * 3 / 4, body.center().y()};
+}
+
+void DesktopTest::dropOnShelf()
+{
+    ASSERT_TRUE(corvane().waitUntilShown()) << "the shelf does not open for the drag";
+    // While something is dragged the shelf is as large as when it is empty, or larger by a width
+    // that it grew to before.
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
+    const auto leftEnd = [this] { return QRect(corvane().body().topLeft(), QSize(70, 56)); };
+    const QImage before = desktop_.pictureAtRest(leftEnd());
+    hands().glideTo(dropPoint());
+    hands().aim(dropPoint());
+    ASSERT_TRUE(eventually([&] { return server().picture(leftEnd()) != before; }))
+        << "the shelf does not show that it would take the drop";
+    hands().release();
+}
+
+QByteArray DesktopTest::uriList(const QStringList &paths)
+{
+    QByteArray list;
+    for (const QString &path : paths)
+        list += QUrl::fromLocalFile(path).toEncoded() + "\r\n";
+    return list;
+}
+
+testing::AssertionResult DesktopTest::dropOffers(const QList<XdndSource::Offer> &offers)
+{
+    XdndSource source(desktop_, offers);
+    source.pickUp();
+    if (!corvane().waitUntilShown())
+        return testing::AssertionFailure() << "the shelf does not open for the drag";
+    if (!corvane().waitForHeight(CorvaneProgram::empty.height()))
+        return testing::AssertionFailure() << "the shelf does not take the shape of a drop target";
+    const auto status = source.hover(corvane().panel().value_or(WindowFacts{}).id, dropPoint());
+    if (!status || !status->accepts)
+        return testing::AssertionFailure() << "the shelf does not accept the drag";
+    source.drop();
+    const auto finish = source.waitForFinish();
+    if (!finish)
+        return testing::AssertionFailure() << "the drop is never finished towards its source";
+    if (!finish->accepts)
+        return testing::AssertionFailure() << "the drop is finished as refused";
+    return testing::AssertionSuccess();
+}
+
+testing::AssertionResult DesktopTest::dropFiles(const QStringList &paths)
+{
+    return dropOffers({{"text/uri-list", uriList(paths)}});
+}
+
+QByteArray DesktopTest::clipboardText(const QByteArray &expected)
+{
+    QByteArray text;
+    eventually([&] {
+        text = desktop_.clipboard(u"UTF8_STRING"_s).value_or(QByteArray());
+        return text == expected;
+    });
+    return text;
+}
+
+void DesktopTest::focusShelf(QPoint at)
+{
+    hands().click(at);
+    const auto panel = corvane().panel();
+    ASSERT_TRUE(panel);
+    // The toolkit puts the focus on the panel's own window.
+    ASSERT_TRUE(eventually([&] { return server().focusedWindow() == panel->id; }))
+        << "a click does not give the shelf the keyboard";
+}
+
+} // namespace corvane::e2e

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "e2e/desktop/corvane_program.h"
+#include "e2e/desktop/eventually.h"
+#include "e2e/desktop/file_manager.h"
+#include "e2e/desktop/x_desktop.h"
+#include "e2e/desktop/xdnd_peer.h"
+
+#include <QDir>
+#include <QString>
+
+#include <gtest/gtest.h>
+#include <memory>
+#include <string>
+
+namespace corvane::e2e {
+
+/// The desktop of that kind. Desktops are kept from test to test: starting one takes longer than
+/// most tests.
+XDesktop &desktopOf(DesktopKind kind);
+void endDesktops();
+
+/// A test on a desktop that others have used before: programs, files and the program under test are
+/// its own and go with it.
+class DesktopTest : public testing::Test {
+protected:
+    explicit DesktopTest(DesktopKind kind = {});
+
+    void SetUp() override;
+    void TearDown() override;
+
+    XServer &server() { return desktop_.server(); }
+    Hands &hands() { return desktop_.hands(); }
+
+    /// Starts the program under test and waits until it watches the desktop.
+    void start(const CorvaneProgram::Start &how = {});
+    void startWithInView(int count) { start({count, {}, {}}); }
+    CorvaneProgram &corvane() { return *corvane_; }
+
+    QString makeFolder(const QString &name);
+    QString makeFile(const QString &name, const QByteArray &contents);
+
+    /// A point of the shelf where a drop is welcome and that leaves its left end to be looked at.
+    QPoint dropPoint();
+    /// With a drag in the hand: moves over the shelf, waits until it shows that it would take the
+    /// drop, and releases.
+    void dropOnShelf();
+    /// Drops files by a source of our own, which needs no window to be waited for.
+    testing::AssertionResult dropFiles(const QStringList &paths);
+    testing::AssertionResult dropOffers(const QList<XdndSource::Offer> &offers);
+    static QByteArray uriList(const QStringList &paths);
+
+    /// The clipboard as text, once it says `expected` or time is up.
+    QByteArray clipboardText(const QByteArray &expected);
+    /// Presses in the shelf, which gives it the keyboard.
+    void focusShelf(QPoint at);
+
+    XDesktop &desktop_;
+    std::unique_ptr<CorvaneProgram> corvane_;
+
+private:
+    QString files_;
+};
+
+/// The same on every kind of desktop.
+class EveryDesktop : public DesktopTest, public testing::WithParamInterface<DesktopKind> {
+protected:
+    EveryDesktop()
+        : DesktopTest(GetParam())
+    {
+    }
+};
+
+std::string nameOf(const testing::TestParamInfo<DesktopKind> &kind);
+
+inline auto everyDesktop()
+{
+    return testing::Values(DesktopKind{WindowManager::Openbox, Compositor::Picom},
+                           DesktopKind{WindowManager::Openbox, Compositor::None},
+                           DesktopKind{WindowManager::Xfwm4, Compositor::Picom},
+                           DesktopKind{WindowManager::Xfwm4, Compositor::None});
+}
+
+/// Each window manager and each compositor once.
+inline auto twoDesktops()
+{
+    return testing::Values(DesktopKind{WindowManager::Openbox, Compositor::Picom},
+                           DesktopKind{WindowManager::Xfwm4, Compositor::None});
+}
+
+} // namespace corvane::e2e

@@ -1,0 +1,41 @@
+// The desktop itself and the programs on it, without the program under test: where these fail, the
+// others cannot be believed.
+
+#include "e2e/desktop_test.h"
+
+#include <QFile>
+
+namespace corvane::e2e {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QByteArray bytesOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+using VirtualDesktop = EveryDesktop;
+INSTANTIATE_TEST_SUITE_P(, VirtualDesktop, everyDesktop(), nameOf);
+
+TEST_P(VirtualDesktop, carriesAFileFromOneFileManagerWindowToAnother)
+{
+    makeFile(u"from/report.txt"_s, "carried\n");
+    const QString to = makeFolder(u"to"_s);
+    FileManager left(desktop_, makeFolder(u"from"_s), QRect(60, 300, 560, 400));
+    ASSERT_EQ(left.problem(), QString());
+    FileManager right(desktop_, to, QRect(760, 300, 560, 400));
+    ASSERT_EQ(right.problem(), QString());
+
+    hands().beginDrag(left.firstFile(), right.emptyPlace());
+    hands().glideTo(right.emptyPlace());
+    hands().aim(right.emptyPlace());
+    hands().release();
+    ASSERT_TRUE(right.chooseCopy());
+
+    EXPECT_TRUE(eventually([&] { return bytesOf(to + u"/report.txt"_s) == "carried\n"; }));
+}
+
+} // namespace
+} // namespace corvane::e2e
