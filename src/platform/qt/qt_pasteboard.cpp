@@ -16,8 +16,10 @@ namespace {
 /// The name as the source spells it, empty when it is not offered.
 QString spelling(const QStringList &types, const QString &type)
 {
-    const auto index = types.indexOf(type, 0, Qt::CaseInsensitive);
-    return index < 0 ? QString() : types[index];
+    const auto found = std::ranges::find_if(types, [&](const QString &offered) {
+        return offered.compare(type, Qt::CaseInsensitive) == 0;
+    });
+    return found == types.end() ? QString() : *found;
 }
 
 /// The types that carry plain text, the most exact first.

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/panel_events.h"
+
+#include <optional>
+
+class QKeyEvent;
+class QWheelEvent;
+
+namespace corvane {
+
+/// The key's event with its virtual key code: letters by what they type in the user's layout, keys
+/// with a name by that name, everything else by its position.
+KeyEvent keyEventFrom(const QKeyEvent &event);
+
+/// The horizontal part of a scroll; none where there is nothing horizontal about it. With Shift
+/// held a vertical wheel scrolls sideways. `time` is on the main queue's clock.
+std::optional<ScrollEvent> scrollEventFrom(const QWheelEvent &event, double time);
+
+} // namespace corvane

@@ -1,0 +1,221 @@
+#include "platform/qt/qt_panel_window.h"
+
+#include "platform/main_queue.h"
+#include "platform/panel_surface.h"
+#include "platform/qt/drag_session.h"
+#include "platform/qt/panel_event_translation.h"
+#include "platform/qt/qt_geometry.h"
+
+#include <QEnterEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QWheelEvent>
+
+#include <utility>
+
+namespace corvane {
+
+QtPanelWindow::QtPanelWindow(PanelSurface &surface, MainQueue &queue, DragSupport *support)
+    : m_surface(surface)
+    , m_queue(queue)
+    , m_support(support)
+    , m_dropTarget(support)
+    , m_canvas([this](QPainter &painter) { paint(painter); },
+               [this](QEvent &event) { return handle(event); })
+{
+    m_surface.adopt(m_canvas);
+    m_surface.observeComposited([this, alive = m_alive] {
+        if (*alive)
+            updateRegions();
+    });
+}
+
+QtPanelWindow::~QtPanelWindow()
+{
+    *m_alive = false;
+    m_content = nullptr;
+    m_dropTarget.setContent(nullptr);
+    orderOut();
+}
+
+void QtPanelWindow::setContent(PanelContent *content)
+{
+    m_content = content;
+    m_dropTarget.setContent(content);
+    setNeedsDisplay({{}, m_frame.size()});
+}
+
+void QtPanelWindow::setFrame(const QRectF &frame)
+{
+    m_frame = frame;
+    const QRect geometry = qt_geometry::toQt(frame);
+    m_canvas.setCanvasSize(geometry.size());
+    m_surface.place(m_canvas, geometry);
+    updateRegions();
+}
+
+void QtPanelWindow::orderFrontRegardless()
+{
+    if (std::exchange(m_isVisible, true)) {
+        m_canvas.raise();
+        return;
+    }
+    updateRegions();
+    m_surface.willShow(m_canvas);
+    // Before it is mapped: it comes up where it was in the stack.
+    m_canvas.raise();
+    m_canvas.show();
+}
+
+void QtPanelWindow::orderOut()
+{
+    if (!std::exchange(m_isVisible, false))
+        return;
+    m_surface.giveKeyboardBack(m_canvas);
+    m_canvas.hide();
+    m_surface.didHide(m_canvas);
+}
+
+void QtPanelWindow::setIgnoresMouseEvents(bool ignores)
+{
+    m_ignoresMouseEvents = ignores;
+    updateRegions();
+}
+
+void QtPanelWindow::setBody(const QRectF &rect, const QPainterPath &outline)
+{
+    m_body = rect;
+    m_outline = outline;
+    updateRegions();
+}
+
+void QtPanelWindow::makeKey()
+{
+    if (m_isVisible)
+        m_surface.takeKeyboard(m_canvas);
+}
+
+void QtPanelWindow::setNeedsDisplay(const QRectF &rect)
+{
+    m_canvas.repaintSoon(qt_geometry::flipped(rect, m_frame.height()).toAlignedRect());
+}
+
+void QtPanelWindow::beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended)
+{
+    if (std::exchange(m_isDragging, true)) {
+        ended(DragOperation::None);
+        return;
+    }
+    const auto alive = m_alive;
+    const DragOperation operation = runDragSession(m_canvas, drag, m_support);
+    if (!*alive)
+        return;
+    m_isDragging = false;
+    ended(operation);
+}
+
+QTransform QtPanelWindow::toDevicePixels() const
+{
+    const double scale = m_canvas.devicePixelRatio();
+    return QTransform(scale, 0, 0, -scale, 0, m_frame.height() * scale);
+}
+
+void QtPanelWindow::updateRegions()
+{
+    const QTransform toPixels = toDevicePixels();
+    const QRectF body = m_body.value_or(QRectF({}, m_frame.size()));
+    const QRegion input = m_ignoresMouseEvents ? QRegion() : toPixels.mapRect(body).toRect();
+    if (std::exchange(m_inputRegion, input) != input)
+        m_surface.setInputRegion(m_canvas, input);
+
+    QRegion bounding;
+    if (m_body && !m_surface.isComposited()) {
+        const QPolygonF outline = m_outline.toFillPolygon(toPixels);
+        bounding = QRegion(outline.toPolygon(), m_outline.fillRule());
+        if (bounding.isEmpty())
+            bounding = toPixels.mapRect(body).toRect();
+    }
+    if (std::exchange(m_boundingRegion, bounding) != bounding)
+        m_surface.setBoundingRegion(m_canvas, bounding);
+}
+
+void QtPanelWindow::paint(QPainter &painter)
+{
+    if (!m_content)
+        return;
+    painter.translate(0, m_frame.height());
+    painter.scale(1, -1);
+    m_content->paint(painter, m_frame.size(), m_canvas.devicePixelRatio());
+}
+
+bool QtPanelWindow::handle(QEvent &event)
+{
+    if (!m_content)
+        return false;
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+        return handleMouse(static_cast<QMouseEvent &>(event));
+    case QEvent::Enter: {
+        const QPointF position = static_cast<QEnterEvent &>(event).position();
+        m_content->mouseEntered({qt_geometry::flipped(position, m_frame.height())});
+        return true;
+    }
+    case QEvent::Leave:
+        m_content->mouseExited();
+        return true;
+    case QEvent::Wheel:
+        if (const auto scroll = scrollEventFrom(static_cast<QWheelEvent &>(event), m_queue.now()))
+            m_content->scrollWheel(*scroll);
+        return true;
+    case QEvent::KeyPress:
+        event.setAccepted(m_content->keyDown(keyEventFrom(static_cast<QKeyEvent &>(event))));
+        return true;
+    default:
+        return handleDrag(event);
+    }
+}
+
+bool QtPanelWindow::handleMouse(QMouseEvent &event)
+{
+    const MouseEvent mouse{qt_geometry::flipped(event.position(), m_frame.height())};
+    if (event.type() == QEvent::MouseMove) {
+        if (event.buttons().testFlag(Qt::LeftButton))
+            m_content->mouseDragged(mouse);
+        else
+            m_content->mouseMoved(mouse);
+        return true;
+    }
+    if (event.button() != Qt::LeftButton)
+        return true;
+    // The second press of a double click is a click like any other.
+    if (event.type() == QEvent::MouseButtonRelease)
+        m_content->mouseUp(mouse);
+    else
+        m_content->mouseDown(mouse);
+    return true;
+}
+
+bool QtPanelWindow::handleDrag(QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::DragEnter:
+        m_dropTarget.enter(static_cast<QDragEnterEvent &>(event), m_frame.height());
+        return true;
+    case QEvent::DragMove:
+        m_dropTarget.move(static_cast<QDragMoveEvent &>(event), m_frame.height());
+        return true;
+    case QEvent::DragLeave:
+        m_dropTarget.leave();
+        return true;
+    case QEvent::Drop:
+        m_dropTarget.drop(static_cast<QDropEvent &>(event), m_frame.height());
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace corvane

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/panel_window.h"
+#include "platform/qt/panel_canvas.h"
+#include "platform/qt/panel_drop_target.h"
+
+#include <memory>
+#include <optional>
+
+class QMouseEvent;
+
+namespace corvane {
+
+class DragSupport;
+class MainQueue;
+class PanelSurface;
+
+/// A panel on a Qt window of its own. Everything that it is given must outlive it; without a
+/// support drags are what Qt makes of them. Main thread only.
+class QtPanelWindow : public PanelWindow {
+public:
+    QtPanelWindow(PanelSurface &surface, MainQueue &queue, DragSupport *support = nullptr);
+    ~QtPanelWindow() override;
+
+    void setContent(PanelContent *content) override;
+    QRectF frame() const override { return m_frame; }
+    void setFrame(const QRectF &frame) override;
+    bool isVisible() const override { return m_isVisible; }
+    void orderFrontRegardless() override;
+    void orderOut() override;
+    void setIgnoresMouseEvents(bool ignores) override;
+    void setBody(const QRectF &rect, const QPainterPath &outline) override;
+    void makeKey() override;
+    void setNeedsDisplay(const QRectF &rect) override;
+    void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) override;
+
+    /// The window itself, for its back end's tests.
+    QWindow &window() { return m_canvas; }
+
+private:
+    void paint(QPainter &painter);
+    bool handle(QEvent &event);
+    bool handleMouse(QMouseEvent &event);
+    bool handleDrag(QEvent &event);
+    void updateRegions();
+    QTransform toDevicePixels() const;
+
+    PanelSurface &m_surface;
+    MainQueue &m_queue;
+    DragSupport *m_support;
+    PanelContent *m_content = nullptr;
+    PanelDropTarget m_dropTarget;
+    PanelCanvas m_canvas;
+    QRectF m_frame;
+    bool m_isVisible = false;
+    bool m_ignoresMouseEvents = false;
+    /// The whole panel until it is told.
+    std::optional<QRectF> m_body;
+    QPainterPath m_outline;
+    std::optional<QRegion> m_inputRegion;
+    std::optional<QRegion> m_boundingRegion;
+    bool m_isDragging = false;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane
