@@ -24,6 +24,8 @@ public:
     DragWriter(QColor tileColor, GlyphPainter paintGlyph);
 
     static PasteboardWriter pasteboardWriter(const DropItem &item);
+    /// False for a file that is gone: a target would be handed a dead address, and the item lost.
+    static bool isAvailable(const DropItem &item);
     /// A square of `side` points at `scale` pixels per point: a rounded tile with the item's
     /// thumbnail, fitted, or its glyph.
     Image dragImage(const DropItem &item, double side, double scale) const;

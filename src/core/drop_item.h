@@ -70,3 +70,5 @@ private:
 };
 
 } // namespace corvane
+
+Q_DECLARE_TYPEINFO(corvane::DropItem, Q_RELOCATABLE_TYPE);

@@ -8,6 +8,8 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <optional>
+
 namespace corvane {
 
 class ImageCodec;
@@ -35,6 +37,10 @@ public:
     QString describe(const QByteArray &imageData, const UTType &type) const;
 
 private:
+    DropItem spooledItem(const QUrl &url) const;
+    std::optional<DropItem> promisedFileItem(Pasteboard &pasteboard) const;
+    std::optional<DropItem> imageItem(Pasteboard &pasteboard) const;
+
     ScratchSpool &m_spool;
     const ImageConverter &m_converter;
     const ImageCodec &m_codec;

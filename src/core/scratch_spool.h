@@ -9,9 +9,16 @@
 namespace corvane {
 
 /// The private directory for files of the shelf's own making. It lives for one run.
+///
+/// The temporary directory may belong to everybody. So a directory that stands there already is
+/// used only if it is a real one, ours and closed to others, and one that lives is told by the lock
+/// that its process holds on it: a process number says nothing once it was given out again, or in
+/// another container. Without a safe directory there is no spool, and callers keep their bytes.
 class ScratchSpool {
 public:
     static constexpr int maximumBasenameCharacters = 120;
+    /// What file systems allow for a name, with number and extension.
+    static constexpr int maximumNameBytes = 255;
 
     /// `temporaryDirectory` is a native path. Nothing is made before the first use.
     ScratchSpool(QByteArray temporaryDirectory, qint64 processIdentifier);
@@ -40,8 +47,17 @@ public:
     static QString safeBasename(const QString &name);
 
 private:
+    bool open();
+    void close();
+    bool stillStands() const;
+    QByteArray freePath(const QString &basename, const QString &extension) const;
+
     QByteArray m_temporaryDirectory;
     QByteArray m_directory;
+    /// The directory with links on the way to it resolved; empty while it is not open.
+    QByteArray m_resolvedDirectory;
+    /// The open directory, which carries the lock; -1 while it is not open.
+    int m_descriptor = -1;
 };
 
 } // namespace corvane

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "core/item_index.h"
 #include "core/shelf_state.h"
 #include "platform/callback_list.h"
 
-#include <QHash>
 #include <QList>
 #include <QSet>
 #include <QUuid>
@@ -54,6 +54,9 @@ public:
     const QList<DropItem> &items() const { return m_items; }
     void setItems(QList<DropItem> items);
 
+    /// Where the item is, none when it is not on the shelf (any more). Costs the same for any number.
+    std::optional<int> indexOf(const QUuid &id) const { return m_index.indexOf(id, m_items); }
+
     int focusedIndex() const { return m_focusedIndex; }
     std::optional<DropItem> focusedItem() const;
     /// Index of the first item in the carousel.
@@ -95,6 +98,14 @@ public:
     void dragEnded();
 
 private:
+    int count() const { return static_cast<int>(m_items.size()); }
+    void startLoading(const DropItem &item);
+    /// Finds the item again, changes it in its place and publishes; nothing if it is gone.
+    template<typename Change>
+    void change(const QUuid &id, Change apply);
+    void mergeThumbnail(const QUuid &id, const std::optional<Image> &thumbnail);
+    void mergeLinkPreview(const QUuid &id, const QUrl &url, const LinkPreview &preview);
+
     const Settings &m_settings;
     const ScratchSpool &m_spool;
     ThumbnailSource &m_thumbnails;
@@ -111,6 +122,10 @@ private:
     CallbackList<const QList<DropItem> &> m_itemObservers;
     bool m_isDragInFlight = false;
     bool m_isOwnDrag = false;
+
+    mutable ItemIndex m_index;
+    /// What loading holds of the store, weakly.
+    std::shared_ptr<ShelfStore *> m_self = std::make_shared<ShelfStore *>(this);
 };
 
 } // namespace corvane

@@ -74,16 +74,25 @@ QUrl fromNativePath(const QByteArray &path)
     return QUrl::fromEncoded(encoded, QUrl::StrictMode);
 }
 
+QString lastPathComponent(const QByteArray &nativePath)
+{
+    return QString::fromUtf8(lastComponent(nativePath));
+}
+
 QString lastPathComponent(const QUrl &url)
 {
-    return QString::fromUtf8(lastComponent(nativePath(url)));
+    return lastPathComponent(nativePath(url));
+}
+
+QString pathExtension(const QString &name)
+{
+    const qsizetype dot = extensionDot(name);
+    return dot < 0 ? QString() : name.mid(dot + 1);
 }
 
 QString pathExtension(const QUrl &url)
 {
-    const QString name = lastPathComponent(url);
-    const qsizetype dot = extensionDot(name);
-    return dot < 0 ? QString() : name.mid(dot + 1);
+    return pathExtension(lastPathComponent(url));
 }
 
 QString stem(const QUrl &url)

@@ -21,9 +21,15 @@ QUrl fromNativePath(const QByteArray &path);
 /// replaced, so this is for people, not for opening files.
 QString lastPathComponent(const QUrl &url);
 
+/// The same of a native path.
+QString lastPathComponent(const QByteArray &nativePath);
+
 /// What stands after the last dot of the name, as it is written; "" when there is no dot, when the
 /// only dot leads the name (".bashrc"), or when nothing follows it.
 QString pathExtension(const QUrl &url);
+
+/// The same of a name alone.
+QString pathExtension(const QString &name);
 
 /// The name without the extension and its dot.
 QString stem(const QUrl &url);

@@ -1,0 +1,81 @@
+#include "core/characters.h"
+
+#include <QTextBoundaryFinder>
+
+namespace corvane::characters {
+
+namespace {
+
+/// Whether the character never joins another one like it. Line ends are counted apart.
+bool standsAlone(QChar character)
+{
+    const char16_t code = character.unicode();
+    const bool isLatin = code < 0x300;
+    const bool isGreekOrCyrillic = code >= 0x370 && code < 0x483;
+    const bool isIdeograph = code >= 0x4e00 && code < 0xa000;
+    return isLatin || isGreekOrCyrillic || isIdeograph;
+}
+
+/// The end of the stretch that begins at `start` and needs the full rules: up to and with the
+/// first lone character that another one follows.
+qsizetype endOfStretch(QStringView text, qsizetype start)
+{
+    qsizetype end = start + 1;
+    while (end < text.size() && !(standsAlone(text[end - 1]) && standsAlone(text[end])))
+        ++end;
+    return end;
+}
+
+qsizetype countByTheRules(QStringView text)
+{
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.data(), text.size());
+    qsizetype total = 0;
+    while (finder.toNextBoundary() >= 0)
+        ++total;
+    return total;
+}
+
+} // namespace
+
+qsizetype count(QStringView text)
+{
+    qsizetype total = 0;
+    qsizetype position = 0;
+    while (position < text.size()) {
+        const qsizetype next = position + 1;
+        const bool isAlone
+            = standsAlone(text[position]) && (next == text.size() || standsAlone(text[next]));
+        if (isAlone) {
+            const bool endsLine = text[position] == QLatin1Char('\n') && position > 0
+                && text[position - 1] == QLatin1Char('\r');
+            total += endsLine ? 0 : 1;
+            position = next;
+            continue;
+        }
+        const qsizetype end = endOfStretch(text, position);
+        total += countByTheRules(text.sliced(position, end - position));
+        if (text[position] == QLatin1Char('\n') && position > 0
+            && text[position - 1] == QLatin1Char('\r'))
+            --total;
+        position = end;
+    }
+    return total;
+}
+
+QString prefix(const QString &text, qsizetype maximum, qsizetype maximumBytes)
+{
+    // No character of a text that is worth keeping is so long, and a stranger's text may be huge.
+    constexpr qsizetype longestCharacter = 64;
+    const QString head = text.left((maximum + 1) * longestCharacter);
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, head);
+    qsizetype end = 0;
+    for (qsizetype taken = 0; taken < maximum; ++taken) {
+        const qsizetype boundary = finder.toNextBoundary();
+        if (boundary < 0 || QStringView(head).left(boundary).toUtf8().size() > maximumBytes)
+            break;
+        end = boundary;
+    }
+    return text.left(end);
+}
+
+} // namespace corvane::characters

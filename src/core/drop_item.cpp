@@ -1,0 +1,95 @@
+#include "core/drop_item.h"
+
+#include <QSharedData>
+
+#include <utility>
+
+namespace corvane {
+
+struct DropItem::Data : QSharedData {
+    QUuid id;
+    Payload payload;
+    QString title;
+    QString subtitle;
+    std::optional<Image> thumbnail;
+    bool isSpooled = false;
+};
+
+DropItem::DropItem(Payload payload, QString title, QString subtitle, bool isSpooled)
+    : m_data(new Data)
+{
+    m_data->id = QUuid::createUuid();
+    m_data->payload = std::move(payload);
+    m_data->title = std::move(title);
+    m_data->subtitle = std::move(subtitle);
+    m_data->isSpooled = isSpooled;
+}
+
+DropItem::DropItem(const DropItem &) = default;
+DropItem::DropItem(DropItem &&) noexcept = default;
+DropItem &DropItem::operator=(const DropItem &) = default;
+DropItem &DropItem::operator=(DropItem &&) noexcept = default;
+DropItem::~DropItem() = default;
+
+QUuid DropItem::id() const
+{
+    return m_data->id;
+}
+
+const DropItem::Payload &DropItem::payload() const
+{
+    return m_data->payload;
+}
+
+QString DropItem::title() const
+{
+    return m_data->title;
+}
+
+void DropItem::setTitle(const QString &title)
+{
+    m_data->title = title;
+}
+
+QString DropItem::subtitle() const
+{
+    return m_data->subtitle;
+}
+
+void DropItem::setSubtitle(const QString &subtitle)
+{
+    m_data->subtitle = subtitle;
+}
+
+std::optional<Image> DropItem::thumbnail() const
+{
+    return m_data->thumbnail;
+}
+
+void DropItem::setThumbnail(const Image &thumbnail)
+{
+    m_data->thumbnail = thumbnail;
+}
+
+bool DropItem::isSpooled() const
+{
+    return m_data->isSpooled;
+}
+
+PhosphorIcon DropItem::glyph() const
+{
+    struct Chooser {
+        const QString &subtitle;
+
+        PhosphorIcon operator()(const File &) const
+        {
+            return subtitle == QLatin1String("Folder") ? PhosphorIcon::Folder : PhosphorIcon::File;
+        }
+        PhosphorIcon operator()(const ImageBytes &) const { return PhosphorIcon::Image; }
+        PhosphorIcon operator()(const Text &) const { return PhosphorIcon::TextAlignLeft; }
+        PhosphorIcon operator()(const Link &) const { return PhosphorIcon::Link; }
+    };
+    return std::visit(Chooser{m_data->subtitle}, m_data->payload);
+}
+
+} // namespace corvane

@@ -1,0 +1,195 @@
+#include "core/pasteboard_ingest.h"
+
+#include "core/byte_count.h"
+#include "core/characters.h"
+#include "core/image_converter.h"
+#include "core/item_description.h"
+#include "core/scratch_spool.h"
+#include "platform/file_url.h"
+#include "platform/image_codec.h"
+#include "platform/pasteboard.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace corvane {
+
+namespace {
+
+const QString imageBasename = QStringLiteral("Image");
+
+/// Every name that plain text goes by.
+const QStringList plainTextTypes = {
+    QStringLiteral("text/plain"),  QStringLiteral("text/plain;charset=utf-8"),
+    QStringLiteral("UTF8_STRING"), QStringLiteral("STRING"),
+    QStringLiteral("TEXT"),
+};
+
+bool isPlainText(const QString &type)
+{
+    return type.startsWith(QLatin1String("text/plain;"), Qt::CaseInsensitive)
+        || plainTextTypes.contains(type, Qt::CaseInsensitive);
+}
+
+/// The first address alone decides: a web link that comes second is no link.
+std::optional<QUrl> webLink(Pasteboard &pasteboard)
+{
+    const QList<QUrl> urls = pasteboard.urls();
+    const bool isWebLink = !urls.isEmpty() && !urls.constFirst().isLocalFile()
+        && urls.constFirst().scheme().startsWith(QLatin1String("http"));
+    return isWebLink ? std::optional(urls.constFirst()) : std::nullopt;
+}
+
+std::optional<DropItem> linkItem(Pasteboard &pasteboard)
+{
+    const auto url = webLink(pasteboard);
+    if (!url)
+        return std::nullopt;
+    const QString address = url->toString(QUrl::FullyEncoded);
+    const QString path = url->path();
+    const QString host = url->host();
+    const bool isHomePage = path.isEmpty() || path == QLatin1String("/");
+    return DropItem(DropItem::Link{*url}, isHomePage ? address : path,
+                    host.isEmpty() ? address : host, false);
+}
+
+std::optional<DropItem> textItem(Pasteboard &pasteboard)
+{
+    const auto text = pasteboard.string();
+    if (!text || QStringView(*text).trimmed().isEmpty())
+        return std::nullopt;
+    const qsizetype count = characters::count(*text);
+    const QString subtitle = count == 1 ? QStringLiteral("1 character")
+                                        : QString::number(count) + QStringLiteral(" characters");
+    return DropItem(DropItem::Text{*text}, item_description::titleOfText(*text), subtitle, false);
+}
+
+} // namespace
+
+PasteboardIngest::PasteboardIngest(ScratchSpool &spool, const ImageConverter &converter,
+                                   const ImageCodec &codec)
+    : m_spool(spool)
+    , m_converter(converter)
+    , m_codec(codec)
+{
+}
+
+QStringList PasteboardIngest::acceptedTypes()
+{
+    // Rich text is taken although nothing reads it: what offers it offers plain text as well.
+    return QStringList{QStringLiteral("text/uri-list"), UTType::png().identifier(),
+                       UTType::tiff().identifier(), QStringLiteral("text/x-moz-url")}
+    + plainTextTypes + QStringList{QStringLiteral("application/rtf"), QStringLiteral("text/rtf")};
+}
+
+bool PasteboardIngest::canRead(Pasteboard &pasteboard)
+{
+    const QStringList types = pasteboard.types();
+    const bool offersContents = std::any_of(types.begin(), types.end(), [](const QString &type) {
+        return type.compare(UTType::png().identifier(), Qt::CaseInsensitive) == 0
+            || type.compare(UTType::tiff().identifier(), Qt::CaseInsensitive) == 0
+            || isPlainText(type);
+    });
+    return offersContents || !pasteboard.fileUrls().isEmpty() || webLink(pasteboard);
+}
+
+QList<DropItem> PasteboardIngest::readAll(Pasteboard &pasteboard) const
+{
+    const QList<QUrl> files = pasteboard.fileUrls();
+    if (!files.isEmpty()) {
+        QList<DropItem> items;
+        items.reserve(files.size());
+        for (const QUrl &url : files)
+            items << fileItem(url);
+        return items;
+    }
+    if (const auto saved = promisedFileItem(pasteboard))
+        return {*saved};
+    if (const auto image = imageItem(pasteboard))
+        return {*image};
+    if (const auto link = linkItem(pasteboard))
+        return {*link};
+    if (const auto text = textItem(pasteboard))
+        return {*text};
+    return {};
+}
+
+DropItem PasteboardIngest::spooledItem(const QUrl &url) const
+{
+    return DropItem(DropItem::File{url}, file_url::lastPathComponent(url), describe(url), true);
+}
+
+DropItem PasteboardIngest::fileItem(const QUrl &url) const
+{
+    const item_description::FileName name(url);
+    if (UTType::forFilenameExtension(name.extension).isTiff()) {
+        if (const auto png = m_converter.transcode(url, UTType::png()))
+            return spooledItem(*png);
+    }
+    return DropItem(DropItem::File{url}, name.whole, item_description::ofFile(name), false);
+}
+
+/// A browser that can save the original file gives more than its pixels.
+std::optional<DropItem> PasteboardIngest::promisedFileItem(Pasteboard &pasteboard) const
+{
+    const auto promised = pasteboard.promisedFileName();
+    if (!promised)
+        return std::nullopt;
+    const item_description::FileName name(*promised);
+    const auto destination = m_spool.reserve(name.stem(), name.extension);
+    if (!destination)
+        return std::nullopt;
+    const bool isSaved = pasteboard.receivePromisedFile(*destination)
+        && item_description::isRegularFile(*destination);
+    if (!isSaved) {
+        m_spool.discard(*destination);
+        return std::nullopt;
+    }
+    if (UTType::forFilenameExtension(name.extension).isTiff()) {
+        if (const auto png = m_converter.transcode(*destination, UTType::png())) {
+            m_spool.discard(*destination);
+            return spooledItem(*png);
+        }
+    }
+    return spooledItem(*destination);
+}
+
+std::optional<DropItem> PasteboardIngest::imageItem(Pasteboard &pasteboard) const
+{
+    UTType type = UTType::png();
+    auto data = pasteboard.dataFor(type);
+    if (!data || data->isEmpty()) {
+        type = UTType::tiff();
+        data = pasteboard.dataFor(type);
+    }
+    if (!data || data->isEmpty())
+        return std::nullopt;
+    if (type.isTiff()) {
+        if (const auto png = m_converter.transcode(*data, UTType::png(), imageBasename))
+            return spooledItem(*png);
+    }
+    const QString subtitle = describe(*data, type);
+    const QString extension = type.preferredFilenameExtension();
+    const auto url = m_spool.store(*data, imageBasename,
+                                   extension.isEmpty() ? QStringLiteral("png") : extension);
+    if (!url)
+        return DropItem(DropItem::ImageBytes{*data, type}, imageBasename, subtitle, false);
+    return DropItem(DropItem::File{*url}, file_url::lastPathComponent(*url), subtitle, true);
+}
+
+QString PasteboardIngest::describe(const QUrl &url)
+{
+    return item_description::ofFile(item_description::FileName(url));
+}
+
+QString PasteboardIngest::describe(const QByteArray &imageData, const UTType &type) const
+{
+    const QString extension = type.preferredFilenameExtension();
+    const QString kind = (extension.isEmpty() ? QStringLiteral("image") : extension).toUpper();
+    if (const auto size = m_codec.pixelSize(imageData))
+        return QString::number(size->width()) + QStringLiteral(" × ")
+            + QString::number(size->height()) + item_description::separator() + kind;
+    return kind + item_description::separator() + formatByteCount(imageData.size());
+}
+
+} // namespace corvane

@@ -1,0 +1,220 @@
+#include "core/shelf_store.h"
+
+#include "core/feedback.h"
+#include "core/item_loading.h"
+#include "core/scratch_spool.h"
+#include "core/settings.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace corvane {
+
+ShelfStore::ShelfStore(const Settings &settings, const ScratchSpool &spool,
+                       ThumbnailSource &thumbnails, LinkPreviewSource &linkPreviews,
+                       const Feedback &feedback)
+    : m_settings(settings)
+    , m_spool(spool)
+    , m_thumbnails(thumbnails)
+    , m_linkPreviews(linkPreviews)
+    , m_feedback(feedback)
+{
+}
+
+ShelfStore::~ShelfStore() = default;
+
+void ShelfStore::observeState(StateObserver observer)
+{
+    m_stateObservers.add(std::move(observer));
+}
+
+void ShelfStore::observeItems(ItemObserver observer)
+{
+    m_itemObservers.add(std::move(observer));
+}
+
+void ShelfStore::publishItems()
+{
+    m_itemObservers.notify(m_items);
+}
+
+void ShelfStore::setState(ShelfState state)
+{
+    const ShelfState old = std::exchange(m_state, state);
+    if (old != state)
+        m_stateObservers.notify(old, state);
+}
+
+void ShelfStore::setItems(QList<DropItem> items)
+{
+    m_items = std::move(items);
+    m_index.invalidate();
+    publishItems();
+}
+
+std::optional<DropItem> ShelfStore::focusedItem() const
+{
+    const bool isInside = m_focusedIndex >= 0 && m_focusedIndex < count();
+    return isInside ? std::optional(m_items[m_focusedIndex]) : std::nullopt;
+}
+
+std::vector<std::pair<int, DropItem>> ShelfStore::visibleItems() const
+{
+    const int start = std::min(std::max(count() - 1, 0), std::max(m_scrollOffset, 0));
+    const int end = std::min(start + m_settings.inViewCount(), count());
+    std::vector<std::pair<int, DropItem>> visible;
+    for (int i = start; i < end; ++i)
+        visible.emplace_back(i, m_items[i]);
+    return visible;
+}
+
+QList<DropItem> ShelfStore::selectedItems() const
+{
+    QList<DropItem> selected;
+    for (const DropItem &item : m_items) {
+        if (m_selection.contains(item.id()))
+            selected << item;
+    }
+    return selected;
+}
+
+bool ShelfStore::accept(const QList<DropItem> &newItems)
+{
+    if (newItems.isEmpty())
+        return false;
+    // An observer may change the caller's list under our feet, if that list is ours.
+    const QList<DropItem> arrivals = newItems;
+    m_items.append(arrivals);
+    m_index.invalidate();
+    publishItems();
+    m_selection.reserve(m_selection.size() + arrivals.size());
+    for (const DropItem &item : arrivals)
+        m_selection.insert(item.id());
+    focus(count() - 1);
+    setState(ShelfState::Occupied);
+    for (const DropItem &item : arrivals)
+        startLoading(item);
+    return true;
+}
+
+void ShelfStore::ejected(int index, bool keep)
+{
+    if (keep)
+        m_feedback.show(QStringLiteral("Kept on the shelf"));
+    else
+        // The program that took the drop may still be reading the spooled file.
+        discard(index, false);
+}
+
+void ShelfStore::ejected(const QList<QUuid> &ids, bool keep)
+{
+    if (keep) {
+        m_feedback.show(QStringLiteral("Kept on the shelf"));
+        return;
+    }
+    // A copy: an observer may change the caller's list.
+    const QList<QUuid> leaving = ids;
+    for (const QUuid &id : leaving) {
+        if (const auto index = indexOf(id))
+            discard(*index, false);
+    }
+}
+
+void ShelfStore::removeSelected()
+{
+    const QList<DropItem> leaving = selectedItems();
+    for (const DropItem &item : leaving) {
+        if (const auto index = indexOf(item.id()))
+            discard(*index, true);
+    }
+}
+
+void ShelfStore::clearAll()
+{
+    for (const DropItem &item : std::as_const(m_items)) {
+        const auto *file = std::get_if<DropItem::File>(&item.payload());
+        if (item.isSpooled() && file)
+            m_spool.discard(file->url);
+    }
+    setItems({});
+    m_selection.clear();
+    m_isViewAllOpen = false;
+    m_focusedIndex = 0;
+    m_scrollOffset = 0;
+    setState(ShelfState::Idle);
+}
+
+void ShelfStore::discard(int index, bool deletingSpoolFile)
+{
+    if (index < 0 || index >= count())
+        return;
+    const DropItem item = m_items.takeAt(index);
+    m_index.removed(item.id());
+    publishItems();
+    m_selection.remove(item.id());
+    const auto *file = std::get_if<DropItem::File>(&item.payload());
+    if (deletingSpoolFile && item.isSpooled() && file)
+        m_spool.discard(file->url);
+    if (!m_items.isEmpty()) {
+        focus(std::min(count() - 1, index));
+        return;
+    }
+    m_isViewAllOpen = false;
+    m_focusedIndex = 0;
+    m_scrollOffset = 0;
+    setState(ShelfState::Idle);
+}
+
+void ShelfStore::focus(int index)
+{
+    if (m_items.isEmpty())
+        return;
+    m_focusedIndex = std::min(count() - 1, std::max(index, 0));
+    const int inView = m_settings.inViewCount();
+    int offset = std::min(m_focusedIndex, m_scrollOffset);
+    // By the difference: an offset may be anything.
+    if (m_focusedIndex - inView >= offset)
+        offset = m_focusedIndex - inView + 1;
+    m_scrollOffset = std::min(std::max(count() - inView, 0), std::max(offset, 0));
+    publishItems();
+}
+
+void ShelfStore::toggleSelection(const DropItem &item)
+{
+    if (!m_selection.remove(item.id()))
+        m_selection.insert(item.id());
+    publishItems();
+}
+
+void ShelfStore::toggleSelectAll()
+{
+    const bool isEverythingSelected = !m_items.isEmpty() && m_selection.size() == m_items.size();
+    m_selection.clear();
+    if (!isEverythingSelected) {
+        m_selection.reserve(m_items.size());
+        for (const DropItem &item : std::as_const(m_items))
+            m_selection.insert(item.id());
+    }
+    publishItems();
+}
+
+void ShelfStore::toggleManually()
+{
+    if (m_state == ShelfState::Occupied)
+        setState(ShelfState::Idle);
+    else if (!m_items.isEmpty())
+        setState(ShelfState::Occupied);
+    else
+        setState(m_state == ShelfState::Idle ? ShelfState::Expanded : ShelfState::Idle);
+}
+
+void ShelfStore::dragEnded()
+{
+    m_isDragInFlight = false;
+    if (m_state == ShelfState::Expanded)
+        setState(m_items.isEmpty() ? ShelfState::Idle : ShelfState::Occupied);
+    else
+        publishItems();
+}
+
+} // namespace corvane

@@ -1,0 +1,67 @@
+// What completes an item after it was accepted: thumbnails and link previews. Results come back
+// after any time, so the store is held weakly and the item found again by its id.
+
+#include "core/item_loading.h"
+#include "core/settings.h"
+#include "core/shelf_store.h"
+
+namespace corvane {
+
+template<typename Change>
+void ShelfStore::change(const QUuid &id, Change apply)
+{
+    const auto index = indexOf(id);
+    if (!index)
+        return;
+    apply(m_items[*index]);
+    publishItems();
+}
+
+void ShelfStore::startLoading(const DropItem &item)
+{
+    const QUuid id = item.id();
+    const auto mergeThumbnail
+        = [weak = std::weak_ptr(m_self), id](const std::optional<Image> &image) {
+              if (const auto self = weak.lock())
+                  (*self)->mergeThumbnail(id, image);
+          };
+    if (const auto *link = std::get_if<DropItem::Link>(&item.payload())) {
+        if (!m_settings.linkPreviews())
+            return;
+        m_linkPreviews.load(link->url,
+                            [weak = std::weak_ptr(m_self), id,
+                             url = link->url](const std::optional<LinkPreview> &preview) {
+                                const auto self = weak.lock();
+                                if (self && preview)
+                                    (*self)->mergeLinkPreview(id, url, *preview);
+                            });
+    } else if (const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload())) {
+        m_thumbnails.generateForImageData(image->data, mergeThumbnail);
+    } else if (const auto *file = std::get_if<DropItem::File>(&item.payload())) {
+        m_thumbnails.generateForFile(file->url, mergeThumbnail);
+    }
+}
+
+void ShelfStore::mergeThumbnail(const QUuid &id, const std::optional<Image> &thumbnail)
+{
+    if (thumbnail)
+        change(id, [&](DropItem &item) { item.setThumbnail(*thumbnail); });
+}
+
+void ShelfStore::mergeLinkPreview(const QUuid &id, const QUrl &url, const LinkPreview &preview)
+{
+    const std::weak_ptr<ShelfStore *> alive = m_self;
+    if (!preview.title.isEmpty()) {
+        change(id, [&](DropItem &item) { item.setTitle(preview.title); });
+        if (alive.expired())
+            return;
+        const QString host = url.host();
+        const QString address = host.isEmpty() ? url.toString(QUrl::FullyEncoded) : host;
+        const QString subtitle = preview.siteName.value_or(address);
+        change(id, [&](DropItem &item) { item.setSubtitle(subtitle); });
+    }
+    if (preview.image && !alive.expired())
+        change(id, [&](DropItem &item) { item.setThumbnail(*preview.image); });
+}
+
+} // namespace corvane

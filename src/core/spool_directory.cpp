@@ -1,0 +1,88 @@
+#include "core/spool_directory.h"
+
+#include <QStringBuilder>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+
+namespace corvane::spool_directory {
+
+namespace {
+
+const QByteArray prefix = QByteArrayLiteral("Corvane-");
+
+bool isSpoolName(const QByteArray &name)
+{
+    if (!name.startsWith(prefix))
+        return false;
+    const QByteArray number = name.mid(prefix.size());
+    return !number.isEmpty()
+        && std::all_of(number.begin(), number.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+bool isSafe(int descriptor)
+{
+    struct stat status = {};
+    return ::fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode)
+        && status.st_uid == ::geteuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+}
+
+} // namespace
+
+QByteArray name(qint64 processIdentifier)
+{
+    return prefix + QByteArray::number(processIdentifier);
+}
+
+int openAndLock(const QByteArray &path)
+{
+    constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+    const int descriptor = ::open(path.constData(), flags);
+    if (descriptor < 0)
+        return -1;
+    // Between opening and locking, somebody who tidies up may have removed it.
+    const bool isOurs = isSafe(descriptor) && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0
+        && isAt(path, descriptor);
+    if (isOurs)
+        return descriptor;
+    ::close(descriptor);
+    return -1;
+}
+
+bool isAt(const QByteArray &path, int descriptor)
+{
+    struct stat named = {};
+    struct stat opened = {};
+    return ::lstat(path.constData(), &named) == 0 && ::fstat(descriptor, &opened) == 0
+        && named.st_dev == opened.st_dev && named.st_ino == opened.st_ino;
+}
+
+std::vector<QByteArray> candidates(const QByteArray &temporaryDirectory)
+{
+    std::vector<QByteArray> paths;
+    const auto closeDirectory = [](DIR *directory) { ::closedir(directory); };
+    const std::unique_ptr<DIR, decltype(closeDirectory)> directory(
+        ::opendir(temporaryDirectory.constData()), closeDirectory);
+    while (const dirent *entry = directory ? ::readdir(directory.get()) : nullptr) {
+        const QByteArray entryName(&entry->d_name[0]);
+        if (isSpoolName(entryName))
+            paths.push_back(temporaryDirectory + '/' + entryName);
+    }
+    return paths;
+}
+
+void remove(const QByteArray &path)
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(std::filesystem::path(path.constData()), ignored);
+}
+
+} // namespace corvane::spool_directory
