@@ -1,0 +1,169 @@
+#include "platform/x11/x11_drag_desktop.h"
+
+#include "platform/checked_math.h"
+#include "platform/x11/x11_qt.h"
+#include "platform/x11/x11_reply.h"
+
+#include <xcb/xfixes.h>
+#include <xcb/xinput.h>
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+#include <vector>
+
+namespace corvane {
+
+namespace {
+
+constexpr std::uint8_t leftButton = 1;
+
+std::uint32_t maskFor(bool hearsMotion)
+{
+    std::uint32_t mask
+        = XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_RELEASE;
+    if (hearsMotion)
+        mask |= XCB_INPUT_XI_EVENT_MASK_RAW_MOTION;
+    return mask;
+}
+
+} // namespace
+
+X11DragDesktop::X11DragDesktop(X11Connection &connection)
+    : m_connection(connection)
+    , m_listener(
+          connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
+{
+    std::iota(m_buttonMapping.begin(), m_buttonMapping.end(), std::uint8_t{1});
+    if (!m_connection.isConnected())
+        return;
+    readButtonMapping();
+    if (m_connection.hasXFixes())
+        xcb_xfixes_select_selection_input(m_connection.get(), m_connection.root(),
+                                          m_connection.atom("XdndSelection"),
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER);
+    m_connection.flush();
+}
+
+X11DragDesktop::~X11DragDesktop()
+{
+    listenTo(Listening::Nothing);
+    m_connection.removeListener(m_listener);
+}
+
+std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMonitor(Handler onLeftMouseDragged)
+{
+    if (!m_connection.isConnected() || !m_connection.hasXInput())
+        return std::nullopt;
+    if (m_listening == Listening::Nothing)
+        listenTo((pressedMouseButtons() & left) != 0 ? Listening::ButtonsAndMotion
+                                                     : Listening::Buttons);
+    m_monitors.emplace(m_nextHandle, std::move(onLeftMouseDragged));
+    return m_nextHandle++;
+}
+
+std::optional<EventMonitors::Handle> X11DragDesktop::addLocalMonitor(Handler)
+{
+    return std::nullopt;
+}
+
+void X11DragDesktop::removeMonitor(Handle handle)
+{
+    m_monitors.erase(handle);
+    if (m_monitors.empty())
+        listenTo(Listening::Nothing);
+}
+
+unsigned X11DragDesktop::pressedMouseButtons() const
+{
+    const X11Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+        m_connection.get(), xcb_query_pointer(m_connection.get(), m_connection.root()), nullptr));
+    if (!reply)
+        return 0;
+    // X11 counts left, middle, right; here it is left, right, other.
+    const auto isDown = [&](unsigned mask) { return (reply->mask & mask) != 0 ? 1U : 0U; };
+    return isDown(XCB_BUTTON_MASK_1) * left | isDown(XCB_BUTTON_MASK_3) << 1
+        | isDown(XCB_BUTTON_MASK_2) << 2;
+}
+
+void X11DragDesktop::handle(const xcb_generic_event_t &event)
+{
+    const auto type = static_cast<std::uint8_t>(event.response_type & 0x7f);
+    if (m_connection.isSelectionNotify(event)) {
+        handleSelection(event);
+    } else if (type == XCB_MAPPING_NOTIFY) {
+        const auto &mapping = reinterpret_cast<const xcb_mapping_notify_event_t &>(event);
+        if (mapping.request == XCB_MAPPING_POINTER)
+            readButtonMapping();
+    } else if (type == XCB_GE_GENERIC) {
+        const auto &raw = reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event);
+        if (raw.extension != m_connection.xinputOpcode())
+            return;
+        if (raw.event_type == XCB_INPUT_RAW_MOTION)
+            notify();
+        else if (raw.event_type == XCB_INPUT_RAW_BUTTON_PRESS)
+            handleRawButton(raw.detail, true);
+        else if (raw.event_type == XCB_INPUT_RAW_BUTTON_RELEASE)
+            handleRawButton(raw.detail, false);
+    }
+}
+
+void X11DragDesktop::handleSelection(const xcb_generic_event_t &event)
+{
+    const auto &news = reinterpret_cast<const xcb_xfixes_selection_notify_event_t &>(event);
+    if (news.selection != m_connection.atom("XdndSelection"))
+        return;
+    // Some programs give the selection up after a drag, which starts nothing.
+    if (news.owner == XCB_NONE || x11_qt::isOwn(news.owner))
+        return;
+    m_changeCount = checkedAdd(m_changeCount, qint64{1});
+}
+
+void X11DragDesktop::handleRawButton(std::uint32_t button, bool isPress)
+{
+    if (button == 0 || button > m_buttonMapping.size() || m_buttonMapping[button - 1] != leftButton
+        || m_listening == Listening::Nothing)
+        return;
+    listenTo(isPress ? Listening::ButtonsAndMotion : Listening::Buttons);
+}
+
+void X11DragDesktop::listenTo(Listening what)
+{
+    if (std::exchange(m_listening, what) == what)
+        return;
+    const std::uint32_t mask
+        = what == Listening::Nothing ? 0 : maskFor(what == Listening::ButtonsAndMotion);
+    struct {
+        xcb_input_event_mask_t head;
+        std::uint32_t mask;
+    } const request = {{XCB_INPUT_DEVICE_ALL_MASTER, 1}, mask};
+    xcb_input_xi_select_events(m_connection.get(), m_connection.root(), 1, &request.head);
+    m_connection.flush();
+}
+
+void X11DragDesktop::readButtonMapping()
+{
+    const X11Reply<xcb_get_pointer_mapping_reply_t> reply(xcb_get_pointer_mapping_reply(
+        m_connection.get(), xcb_get_pointer_mapping(m_connection.get()), nullptr));
+    if (!reply)
+        return;
+    const std::uint8_t *map = xcb_get_pointer_mapping_map(reply.get());
+    std::copy_n(map, xcb_get_pointer_mapping_map_length(reply.get()), m_buttonMapping.begin());
+}
+
+void X11DragDesktop::notify() const
+{
+    // By handle, and through a copy: a handler may remove any monitor, itself too.
+    std::vector<Handle> handles;
+    for (const auto &[handle, handler] : m_monitors)
+        handles.push_back(handle);
+    for (const Handle handle : handles) {
+        const auto found = m_monitors.find(handle);
+        if (found == m_monitors.end())
+            continue;
+        const Handler handler = found->second;
+        handler();
+    }
+}
+
+} // namespace corvane

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/drag_pasteboard.h"
+#include "platform/event_monitors.h"
+#include "platform/mouse_buttons.h"
+#include "platform/x11/x11_connection.h"
+
+#include <array>
+#include <map>
+
+namespace corvane {
+
+/// Notices drags of every program on an X11 desktop.
+///
+/// A program that starts to drag takes the ownership of the drag selection, and the server tells
+/// that. The pointer is heard through raw events, which come also while a drag's source has grabbed
+/// it; its motion only while the left button is held, so that an idle pointer wakes nobody. The
+/// connection must outlive it.
+class X11DragDesktop : public DragPasteboard, public EventMonitors, public MouseButtons {
+public:
+    explicit X11DragDesktop(X11Connection &connection);
+    ~X11DragDesktop() override;
+    X11DragDesktop(const X11DragDesktop &) = delete;
+    X11DragDesktop &operator=(const X11DragDesktop &) = delete;
+
+    qint64 changeCount() const override { return m_changeCount; }
+    std::optional<Handle> addGlobalMonitor(Handler onLeftMouseDragged) override;
+    /// None: the global monitor hears this program too.
+    std::optional<Handle> addLocalMonitor(Handler onLeftMouseDragged) override;
+    void removeMonitor(Handle handle) override;
+    unsigned pressedMouseButtons() const override;
+
+private:
+    enum class Listening {
+        Nothing,
+        Buttons,
+        ButtonsAndMotion,
+    };
+
+    void handle(const xcb_generic_event_t &event);
+    void handleSelection(const xcb_generic_event_t &event);
+    void handleRawButton(std::uint32_t button, bool isPress);
+    void listenTo(Listening what);
+    void readButtonMapping();
+    void notify() const;
+
+    X11Connection &m_connection;
+    X11Connection::ListenerId m_listener;
+    qint64 m_changeCount = 0;
+    Listening m_listening = Listening::Nothing;
+    /// Which logical button each physical one is: raw events tell physical ones, and left-handed
+    /// people exchange them.
+    std::array<std::uint8_t, 256> m_buttonMapping{};
+    std::map<Handle, Handler> m_monitors;
+    Handle m_nextHandle = 1;
+};
+
+} // namespace corvane

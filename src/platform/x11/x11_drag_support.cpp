@@ -1,0 +1,151 @@
+#include "platform/x11/x11_drag_support.h"
+
+#include "platform/file_url.h"
+#include "platform/x11/file_arrival.h"
+#include "platform/x11/x11_qt.h"
+#include "platform/x11/x11_reply.h"
+
+#include <QCoreApplication>
+#include <QMimeData>
+
+#include <array>
+#include <vector>
+
+namespace corvane {
+
+namespace {
+
+constexpr auto directSave = "XdndDirectSave0";
+constexpr std::uint32_t longestFileName = 1024;
+
+/// The names under which programs ask for plain text.
+constexpr std::array textNames = {"text/plain", "text/plain;charset=utf-8", "UTF8_STRING"};
+
+} // namespace
+
+X11DragSupport::X11DragSupport(X11Connection &connection)
+    : m_connection(connection)
+{
+    QCoreApplication::instance()->installNativeEventFilter(this);
+}
+
+X11DragSupport::~X11DragSupport()
+{
+    if (auto *application = QCoreApplication::instance())
+        application->removeNativeEventFilter(this);
+}
+
+QString X11DragSupport::directSaveType() const
+{
+    return QLatin1String(directSave);
+}
+
+std::optional<QString> X11DragSupport::promisedFileName()
+{
+    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        m_connection.get(),
+        xcb_get_property(m_connection.get(), 0, m_source, m_connection.atom(directSave),
+                         XCB_GET_PROPERTY_TYPE_ANY, 0, longestFileName / 4),
+        nullptr));
+    if (!reply || reply->format != 8)
+        return std::nullopt;
+    const QByteArray name(static_cast<const char *>(xcb_get_property_value(reply.get())),
+                          xcb_get_property_value_length(reply.get()));
+    if (name.isEmpty())
+        return std::nullopt;
+    return QString::fromUtf8(name);
+}
+
+bool X11DragSupport::receivePromisedFile(const QUrl &destination, const Fetch &fetch)
+{
+    FileArrival arrival(file_url::nativePath(destination));
+    const QByteArray address = destination.toEncoded(QUrl::FullyEncoded);
+    const X11Reply<xcb_generic_error_t> error(xcb_request_check(
+        m_connection.get(),
+        xcb_change_property_checked(m_connection.get(), XCB_PROP_MODE_REPLACE, m_source,
+                                    m_connection.atom(directSave), m_connection.atom("text/plain"),
+                                    8, static_cast<std::uint32_t>(address.size()),
+                                    address.constData())));
+    // 'S' is success; 'F' asks us to save by ourselves, 'E' is an error.
+    if (!error && fetch(directSaveType()).startsWith('S') && arrival.wait())
+        return true;
+    arrival.discard();
+    return false;
+}
+
+void X11DragSupport::dragWillBegin(const QMimeData &contents)
+{
+    m_contents.clear();
+    for (const QString &format : contents.formats())
+        m_contents.insert(m_connection.atom(format.toUtf8().constData()), contents.data(format));
+    if (contents.hasText()) {
+        for (const char *name : textNames)
+            m_contents.insert(m_connection.atom(name), contents.text().toUtf8());
+    }
+}
+
+bool X11DragSupport::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
+{
+    if (eventType != "xcb_generic_event_t")
+        return false;
+    const auto *event = static_cast<const xcb_generic_event_t *>(message);
+    const int type = event->response_type & 0x7f;
+    if (type == XCB_CLIENT_MESSAGE) {
+        const auto *client = static_cast<const xcb_client_message_event_t *>(message);
+        if (client->format == 32 && client->type == m_connection.atom("XdndEnter"))
+            m_source = client->data.data32[0];
+    } else if (type == XCB_SELECTION_CLEAR) {
+        // Another program drags now: nobody will ask for ours again.
+        const auto *clear = static_cast<const xcb_selection_clear_event_t *>(message);
+        if (clear->selection == m_connection.atom("XdndSelection"))
+            m_contents.clear();
+    } else if (type == XCB_SELECTION_REQUEST && !m_contents.isEmpty()) {
+        const auto *request = static_cast<const xcb_selection_request_event_t *>(message);
+        if (request->selection == m_connection.atom("XdndSelection")) {
+            answer(*request);
+            return true;
+        }
+    }
+    return false;
+}
+
+void X11DragSupport::answer(const xcb_selection_request_event_t &request)
+{
+    // Old programs name no property and mean the target's name.
+    const xcb_atom_t property = request.property != XCB_NONE ? request.property : request.target;
+    xcb_selection_notify_event_t notify = {};
+    notify.response_type = XCB_SELECTION_NOTIFY;
+    notify.time = request.time;
+    notify.requestor = request.requestor;
+    notify.selection = request.selection;
+    notify.target = request.target;
+    notify.property = writeAnswer(request, property) ? property : xcb_atom_t{XCB_NONE};
+    xcb_send_event(m_connection.get(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char *>(&notify));
+    m_connection.flush();
+}
+
+bool X11DragSupport::writeAnswer(const xcb_selection_request_event_t &request, xcb_atom_t property)
+{
+    auto *const connection = m_connection.get();
+    if (request.target == m_connection.atom("TARGETS")) {
+        std::vector<xcb_atom_t> targets(m_contents.keyBegin(), m_contents.keyEnd());
+        targets.push_back(request.target);
+        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, request.requestor, property,
+                            XCB_ATOM_ATOM, 32, static_cast<std::uint32_t>(targets.size()),
+                            targets.data());
+        return true;
+    }
+    const auto found = m_contents.constFind(request.target);
+    // More than one request holds would end the connection, and the process with it.
+    constexpr std::uint32_t requestHead = 64;
+    if (found == m_contents.cend()
+        || found->size() / 4 + requestHead > xcb_get_maximum_request_length(connection))
+        return false;
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, request.requestor, property,
+                        request.target, 8, static_cast<std::uint32_t>(found->size()),
+                        found->constData());
+    return true;
+}
+
+} // namespace corvane

@@ -1,0 +1,204 @@
+#include "platform/x11/x11_panel_surface.h"
+
+#include "platform/x11/x11_qt.h"
+#include "platform/x11/x11_reply.h"
+
+#include <QByteArray>
+#include <QWindow>
+
+#include <xcb/shape.h>
+#include <xcb/xfixes.h>
+
+#include <utility>
+#include <vector>
+
+namespace corvane {
+
+namespace {
+
+std::vector<xcb_rectangle_t> rectanglesOf(const QRegion &region)
+{
+    std::vector<xcb_rectangle_t> rectangles;
+    for (const QRect &rect : region)
+        rectangles.push_back(
+            {static_cast<std::int16_t>(rect.x()), static_cast<std::int16_t>(rect.y()),
+             static_cast<std::uint16_t>(rect.width()), static_cast<std::uint16_t>(rect.height())});
+    return rectangles;
+}
+
+void setShape(const QWindow &window, xcb_shape_kind_t kind, const QRegion &region)
+{
+    auto *const qt = x11_qt::connection();
+    const xcb_window_t native = x11_qt::nativeWindow(window);
+    if (!qt || native == XCB_NONE)
+        return;
+    const auto rectangles = rectanglesOf(region);
+    x11_qt::ignoreErrors(xcb_shape_rectangles_checked(
+        qt, XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_UNSORTED, native, 0, 0,
+        static_cast<std::uint32_t>(rectangles.size()), rectangles.data()));
+    xcb_flush(qt);
+}
+
+void clearShape(const QWindow &window, xcb_shape_kind_t kind)
+{
+    auto *const qt = x11_qt::connection();
+    const xcb_window_t native = x11_qt::nativeWindow(window);
+    if (!qt || native == XCB_NONE)
+        return;
+    x11_qt::ignoreErrors(
+        xcb_shape_mask_checked(qt, XCB_SHAPE_SO_SET, kind, native, 0, 0, XCB_PIXMAP_NONE));
+    xcb_flush(qt);
+}
+
+void flushQt()
+{
+    if (auto *const qt = x11_qt::connection())
+        xcb_flush(qt);
+}
+
+} // namespace
+
+X11PanelSurface::X11PanelSurface(X11Connection &connection)
+    : m_connection(connection)
+    , m_listener(
+          connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
+{
+    const QByteArray name = "_NET_WM_CM_S" + QByteArray::number(m_connection.screenNumber());
+    m_compositorSelection = m_connection.atom(name.constData());
+    if (m_connection.hasXFixes())
+        xcb_xfixes_select_selection_input(
+            m_connection.get(), m_connection.root(), m_compositorSelection,
+            XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER
+                | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY
+                | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
+    const X11Reply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
+        m_connection.get(), xcb_get_selection_owner(m_connection.get(), m_compositorSelection),
+        nullptr));
+    m_isComposited = owner && owner->owner != XCB_NONE;
+}
+
+X11PanelSurface::~X11PanelSurface()
+{
+    m_connection.removeListener(m_listener);
+}
+
+void X11PanelSurface::adopt(QWindow &window)
+{
+    auto *const qt = x11_qt::connection();
+    if (!qt)
+        return;
+    // Compositors would draw a shadow around the whole window, body or not.
+    const std::uint32_t noShadow = 0;
+    xcb_change_property(qt, XCB_PROP_MODE_REPLACE, x11_qt::nativeWindow(window),
+                        m_connection.atom("_COMPTON_SHADOW"), XCB_ATOM_CARDINAL, 32, 1, &noShadow);
+    xcb_flush(qt);
+}
+
+void X11PanelSurface::place(QWindow &window, const QRect &geometry)
+{
+    window.setGeometry(geometry);
+    flushQt();
+}
+
+void X11PanelSurface::willShow(QWindow &)
+{
+    // It is already all that it should be.
+}
+
+void X11PanelSurface::didHide(QWindow &)
+{
+    flushQt();
+}
+
+void X11PanelSurface::setInputRegion(QWindow &window, const QRegion &region)
+{
+    setShape(window, XCB_SHAPE_SK_INPUT, region);
+}
+
+void X11PanelSurface::setBoundingRegion(QWindow &window, const QRegion &region)
+{
+    if (region.isEmpty())
+        clearShape(window, XCB_SHAPE_SK_BOUNDING);
+    else
+        setShape(window, XCB_SHAPE_SK_BOUNDING, region);
+}
+
+void X11PanelSurface::takeKeyboard(QWindow &window)
+{
+    const xcb_window_t focus = focusedWindow();
+    if (focus != x11_qt::nativeWindow(window)) {
+        m_previousFocus = focus;
+        m_previousActive = activeWindow();
+    }
+    window.requestActivate();
+    flushQt();
+}
+
+void X11PanelSurface::giveKeyboardBack(QWindow &window)
+{
+    const xcb_window_t active = std::exchange(m_previousActive, XCB_NONE);
+    const xcb_window_t focus = std::exchange(m_previousFocus, XCB_NONE);
+    // Somebody else has it by now: the user went on.
+    if (focusedWindow() != x11_qt::nativeWindow(window))
+        return;
+    if (active != XCB_NONE)
+        activate(active);
+    else if (focus != XCB_NONE)
+        xcb_set_input_focus(m_connection.get(), XCB_INPUT_FOCUS_POINTER_ROOT, focus,
+                            XCB_CURRENT_TIME);
+    m_connection.flush();
+}
+
+void X11PanelSurface::observeComposited(std::function<void()> callback)
+{
+    m_observers.add(std::move(callback));
+}
+
+void X11PanelSurface::handle(const xcb_generic_event_t &event)
+{
+    if (!m_connection.isSelectionNotify(event))
+        return;
+    const auto &news = reinterpret_cast<const xcb_xfixes_selection_notify_event_t &>(event);
+    if (news.selection != m_compositorSelection)
+        return;
+    const bool isComposited
+        = news.subtype == XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER && news.owner != XCB_NONE;
+    if (std::exchange(m_isComposited, isComposited) != isComposited)
+        m_observers.notify();
+}
+
+xcb_window_t X11PanelSurface::focusedWindow() const
+{
+    const X11Reply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(
+        m_connection.get(), xcb_get_input_focus(m_connection.get()), nullptr));
+    return reply ? reply->focus : XCB_NONE;
+}
+
+xcb_window_t X11PanelSurface::activeWindow() const
+{
+    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        m_connection.get(),
+        xcb_get_property(m_connection.get(), 0, m_connection.root(),
+                         m_connection.atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 0, 1),
+        nullptr));
+    if (!reply || xcb_get_property_value_length(reply.get()) < int{sizeof(xcb_window_t)})
+        return XCB_NONE;
+    return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
+}
+
+void X11PanelSurface::activate(xcb_window_t window)
+{
+    // As a pager would: a program that asks for itself may be refused.
+    constexpr std::uint32_t fromPager = 2;
+    xcb_client_message_event_t message = {};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = m_connection.atom("_NET_ACTIVE_WINDOW");
+    message.data.data32[0] = fromPager;
+    xcb_send_event(m_connection.get(), 0, m_connection.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char *>(&message));
+}
+
+} // namespace corvane

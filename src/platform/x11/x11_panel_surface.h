@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/callback_list.h"
+#include "platform/panel_surface.h"
+#include "platform/x11/x11_connection.h"
+
+namespace corvane {
+
+/// Panels on X11: windows that no window manager manages, so that they stand exactly where they
+/// should on every desktop. Requests are sent off at once, since they come from timers too. The
+/// connection must outlive it.
+class X11PanelSurface : public PanelSurface {
+public:
+    explicit X11PanelSurface(X11Connection &connection);
+    ~X11PanelSurface() override;
+    X11PanelSurface(const X11PanelSurface &) = delete;
+    X11PanelSurface &operator=(const X11PanelSurface &) = delete;
+
+    void adopt(QWindow &window) override;
+    void place(QWindow &window, const QRect &geometry) override;
+    void willShow(QWindow &window) override;
+    void didHide(QWindow &window) override;
+    void setInputRegion(QWindow &window, const QRegion &region) override;
+    void setBoundingRegion(QWindow &window, const QRegion &region) override;
+    void takeKeyboard(QWindow &window) override;
+    void giveKeyboardBack(QWindow &window) override;
+    bool isComposited() const override { return m_isComposited; }
+    void observeComposited(std::function<void()> callback) override;
+
+private:
+    void handle(const xcb_generic_event_t &event);
+    xcb_window_t focusedWindow() const;
+    xcb_window_t activeWindow() const;
+    void activate(xcb_window_t window);
+
+    X11Connection &m_connection;
+    X11Connection::ListenerId m_listener;
+    xcb_atom_t m_compositorSelection;
+    bool m_isComposited = false;
+    CallbackList<> m_observers;
+    /// Who had the keyboard before a panel took it: as the window manager names it, and as the
+    /// server does where there is none.
+    xcb_window_t m_previousActive = XCB_NONE;
+    xcb_window_t m_previousFocus = XCB_NONE;
+};
+
+} // namespace corvane

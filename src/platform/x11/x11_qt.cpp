@@ -1,0 +1,42 @@
+#include "platform/x11/x11_qt.h"
+
+#include <QGuiApplication>
+#include <QWindow>
+
+namespace corvane::x11_qt {
+
+namespace {
+
+QNativeInterface::QX11Application *application()
+{
+    return qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+}
+
+} // namespace
+
+xcb_connection_t *connection()
+{
+    const auto *x11 = application();
+    return x11 ? x11->connection() : nullptr;
+}
+
+bool isOwn(xcb_window_t window)
+{
+    auto *const qt = connection();
+    if (!qt)
+        return false;
+    const xcb_setup_t *setup = xcb_get_setup(qt);
+    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
+}
+
+xcb_window_t nativeWindow(const QWindow &window)
+{
+    return window.handle() ? static_cast<xcb_window_t>(window.winId()) : XCB_NONE;
+}
+
+void ignoreErrors(xcb_void_cookie_t cookie)
+{
+    xcb_discard_reply(connection(), cookie.sequence);
+}
+
+} // namespace corvane::x11_qt
