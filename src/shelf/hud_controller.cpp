@@ -1,0 +1,219 @@
+#include "shelf/hud_controller.h"
+
+#include "core/feedback.h"
+#include "core/quick_actions.h"
+#include "core/settings.h"
+#include "core/shelf_store.h"
+#include "input/screen_locator.h"
+#include "platform/checked_math.h"
+#include "platform/geometry.h"
+#include "platform/main_queue.h"
+#include "shelf/item_presenter.h"
+#include "shelf/theme.h"
+#include "shelf/view_all_bar.h"
+
+#include <algorithm>
+
+namespace corvane {
+
+namespace {
+
+QRectF unionOf(const QRectF &left, const QRectF &right)
+{
+    const double x = std::min(minX(left), minX(right));
+    const double y = std::min(minY(left), minY(right));
+    return {x, y, std::max(maxX(left), maxX(right)) - x, std::max(maxY(left), maxY(right)) - y};
+}
+
+} // namespace
+
+HUDController::HUDController(const Context &context)
+    : m_context(context)
+    , m_panel(context.view.panel)
+    , m_shelf(context.view)
+    , m_store(context.store)
+{
+    m_panel.setFrame(initialFrame);
+    m_panel.setContent(&m_shelf);
+    m_panel.setIgnoresMouseEvents(true);
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.feedback.handler = [this, alive](const QString &message) {
+        if (!alive.expired())
+            m_shelf.flash(message);
+    };
+    wireShelf();
+    wireStore();
+    wireScreenChanges();
+    render();
+}
+
+HUDController::~HUDController()
+{
+    m_panel.setContent(nullptr);
+}
+
+void HUDController::wireShelf()
+{
+    // The shelf is part of the controller and goes with it.
+    m_shelf.onDropAccepted = [this](const QList<DropItem> &items) { m_store.accept(items); };
+    m_shelf.onEjected = [this](const QUuid &id, bool keep) {
+        if (const auto index = m_store.indexOf(id))
+            m_store.ejected(*index, keep);
+    };
+    m_shelf.onRemove = [this](int index) { m_store.discard(index, true); };
+    m_shelf.onFocus = [this](int index) { m_store.focus(index); };
+    m_shelf.onScroll = [this](int steps) { scroll(steps); };
+    m_shelf.onCopy = [this] {
+        const Modifiers modifiers = m_context.view.keyboard.currentModifiers();
+        if (const auto item = m_store.focusedItem())
+            m_context.quickActions.copy(*item, modifiers.testFlag(Modifier::Option));
+    };
+    m_shelf.onViewAll = [this] { toggleViewAll(); };
+    m_shelf.onDragOutChanged = [this](bool isDraggingOut) {
+        if (m_store.isOwnDrag() == isDraggingOut)
+            return;
+        m_store.setOwnDrag(isDraggingOut);
+        m_store.publishItems();
+    };
+    m_shelf.onQuickLook = [this] {
+        const auto item = m_store.focusedItem();
+        if (item && m_context.presenter)
+            m_context.presenter->present(*item);
+    };
+}
+
+void HUDController::wireStore()
+{
+    const std::weak_ptr<bool> alive = m_alive;
+    m_store.observeState([this, alive](ShelfState, ShelfState) {
+        if (!alive.expired())
+            render();
+    });
+    m_store.observeItems([this, alive](const QList<DropItem> &) {
+        if (!alive.expired())
+            render();
+    });
+    m_context.settings.observeLayout([this, alive] {
+        if (!alive.expired())
+            layoutSettingChanged();
+    });
+}
+
+void HUDController::wireScreenChanges()
+{
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.screens.observeChanges([this, alive] {
+        if (!alive.expired())
+            render();
+    });
+}
+
+void HUDController::layoutSettingChanged()
+{
+    const int count = static_cast<int>(m_store.items().size());
+    const int last = std::max(count - m_context.settings.inViewCount(), 0);
+    m_store.setScrollOffset(std::min(m_store.scrollOffset(), last));
+    m_store.publishItems();
+    render();
+}
+
+ScreenPointer HUDController::activeScreen() const
+{
+    const ScreenPointer screen = m_context.screenLocator.activeScreen();
+    return screen ? screen : m_context.screens.mainScreen();
+}
+
+ShelfSnapshot HUDController::makeSnapshot(const ScreenPointer &screen) const
+{
+    const ScreenLocator::Notch notch = ScreenLocator::notch(screen);
+    ShelfSnapshot snapshot;
+    snapshot.state = m_store.state();
+    snapshot.visible = m_store.visibleItems();
+    snapshot.totalCount = static_cast<int>(m_store.items().size());
+    snapshot.focusedIndex = m_store.focusedIndex();
+    snapshot.inViewCount = m_context.settings.inViewCount();
+    snapshot.canScrollBack = m_store.scrollOffset() > 0;
+    snapshot.canScrollForward
+        = checkedAdd(m_store.scrollOffset(), snapshot.inViewCount) < snapshot.totalCount;
+    snapshot.notch = {notch.width, notch.inset};
+    snapshot.receptive = m_store.isDragInFlight() && !m_store.isOwnDrag();
+    return snapshot;
+}
+
+void HUDController::render()
+{
+    const ScreenPointer screen = activeScreen();
+    const ShelfSnapshot snapshot = makeSnapshot(screen);
+    const QSizeF size = m_shelf.preferredSize(snapshot);
+    QRectF frame;
+    if (snapshot.state != ShelfState::Idle && screen) {
+        m_hideGeneration = checkedAdd<std::int64_t>(m_hideGeneration, 1);
+        frame = {midX(screen->frame) - 0.5 * size.width(), maxY(screen->frame) - size.height(),
+                 size.width(), size.height()};
+        m_shelf.setRefreshRate(screen->refreshRate);
+        resizeWindow(frame);
+        m_panel.setIgnoresMouseEvents(false);
+        m_panel.orderFrontRegardless();
+    }
+    m_shelf.apply(snapshot);
+    const bool isShown = snapshot.state != ShelfState::Idle;
+    if (m_context.viewAll)
+        m_context.viewAll->render(frame, isShown ? screen : nullptr);
+    if (!isShown)
+        scheduleHide();
+}
+
+void HUDController::resizeWindow(const QRectF &target)
+{
+    m_shrinkGeneration = checkedAdd<std::int64_t>(m_shrinkGeneration, 1);
+    const ScreenPointer active = m_context.screenLocator.activeScreen();
+    const bool isSameScreen = m_lastScreen.lock() == active;
+    m_lastScreen = active;
+    if (!m_panel.isVisible() || !isSameScreen) {
+        m_panel.setFrame(target);
+        return;
+    }
+    // Large enough for where the body is and for where it goes, until it has gone there.
+    m_panel.setFrame(unionOf(m_panel.frame(), target));
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.view.queue.asyncAfter(
+        Theme::Motion::spring().settlingDuration(), [this, alive, target, g = m_shrinkGeneration] {
+            if (alive.expired() || g != m_shrinkGeneration || m_store.state() == ShelfState::Idle)
+                return;
+            m_panel.setFrame(target);
+            m_shelf.panelWasResized();
+        });
+}
+
+void HUDController::scheduleHide()
+{
+    m_hideGeneration = checkedAdd<std::int64_t>(m_hideGeneration, 1);
+    m_panel.setIgnoresMouseEvents(true);
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.view.queue.asyncAfter(hideDelay, [this, alive, g = m_hideGeneration] {
+        if (alive.expired() || g != m_hideGeneration || m_store.state() != ShelfState::Idle)
+            return;
+        m_panel.orderOut();
+    });
+}
+
+void HUDController::scroll(int steps)
+{
+    const int count = static_cast<int>(m_store.items().size());
+    const int last = std::max(count - m_context.settings.inViewCount(), 0);
+    const int offset = std::min(last, std::max(checkedAdd(m_store.scrollOffset(), steps), 0));
+    if (offset == m_store.scrollOffset())
+        return;
+    m_store.setScrollOffset(offset);
+    m_store.publishItems();
+}
+
+void HUDController::toggleViewAll()
+{
+    if (!m_store.isViewAllOpen() && m_store.items().size() < 2)
+        return;
+    m_store.setViewAllOpen(!m_store.isViewAllOpen());
+    m_store.publishItems();
+}
+
+} // namespace corvane

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "platform/screens.h"
+#include "shelf/shelf_view.h"
+
+#include <QRectF>
+
+#include <cstdint>
+#include <memory>
+
+namespace corvane {
+
+class ItemPresenter;
+class QuickActions;
+class ScreenLocator;
+class Settings;
+class ShelfStore;
+class ViewAllBar;
+struct Feedback;
+
+/// Turns the model into the floating shelf: on every change of the store, the settings or the
+/// screens it derives a snapshot, sizes and places the panel, and shows or hides it; and it turns
+/// what the user does on the shelf into operations of the store.
+///
+///     idle --render--> shown: ordered front, takes clicks
+///     shown --render(idle)--> hiding: takes no clicks, slides away
+///     hiding --0.37 s--> hidden: ordered out      hiding --render--> shown
+///
+/// Delayed work is never cancelled: it finds a newer generation and does nothing. Main thread only.
+/// Everything that it is given must outlive it.
+class HUDController {
+public:
+    static constexpr QRectF initialFrame{0, 0, 560, 136};
+    /// The closing slide's 0.32 s and a margin.
+    static constexpr double hideDelay = 0.32 + 0.05;
+
+    struct Context {
+        ShelfView::Context view;
+        ShelfStore &store;
+        Settings &settings;
+        Feedback &feedback;
+        Screens &screens;
+        const ScreenLocator &screenLocator;
+        QuickActions &quickActions;
+        /// Null where there is none.
+        ItemPresenter *presenter = nullptr;
+        ViewAllBar *viewAll = nullptr;
+    };
+    explicit HUDController(const Context &context);
+    ~HUDController();
+    HUDController(const HUDController &) = delete;
+    HUDController &operator=(const HUDController &) = delete;
+
+    const ShelfView &shelf() const { return m_shelf; }
+
+private:
+    void wireShelf();
+    void wireStore();
+    void wireScreenChanges();
+
+    ScreenPointer activeScreen() const;
+    ShelfSnapshot makeSnapshot(const ScreenPointer &screen) const;
+    void render();
+    void resizeWindow(const QRectF &target);
+    void scheduleHide();
+    void scroll(int steps);
+    void toggleViewAll();
+    void layoutSettingChanged();
+
+    Context m_context;
+    PanelWindow &m_panel;
+    ShelfView m_shelf;
+    ShelfStore &m_store;
+    std::int64_t m_hideGeneration = 0;
+    std::int64_t m_shrinkGeneration = 0;
+    std::weak_ptr<const Screen> m_lastScreen;
+    // Whatever was handed out does nothing once the controller is gone.
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "shelf/bitmap_layer.h"
+#include "shelf/shape_layer.h"
+#include "shelf/shelf_layout.h"
+#include "shelf/text_layer.h"
+
+namespace corvane {
+
+struct Theme;
+
+/// The layers of one visible item.
+class ShelfCell {
+public:
+    ShelfCell(LayerTree &tree, Layer &superlayer, const Theme &theme,
+              const LayerAnimator &animator);
+
+    /// How the cell looks apart from where it is.
+    struct Look {
+        bool isCarousel = false;
+        bool isFocused = false;
+        bool showsBadge = false;
+        /// The item is under the pointer on its way out.
+        bool isDragged = false;
+        /// Shown in place of the subtitle.
+        QString flash;
+    };
+    void fill(const DropItem &item, const Look &look);
+    void layout(const ShelfLayout::Cell &layout);
+
+    int itemIndex() const { return m_itemIndex; }
+
+private:
+    const Theme &m_theme;
+    int m_itemIndex = 0;
+    QSizeF m_thumbSize;
+    Layer m_root;
+    BitmapLayer m_thumb;
+    TextLayer m_title;
+    TextLayer m_subtitle;
+    ShapeLayer m_focusRing;
+    Layer m_badge;
+    BitmapLayer m_badgeCross;
+    std::optional<DropItem> m_item;
+
+    void showThumbnail();
+};
+
+/// The picture shown for an item in a tile of `side` points: its thumbnail, fitted, or its glyph.
+QImage thumbnailContents(double side, const DropItem &item, const Theme &theme, double scale);
+
+} // namespace corvane

@@ -1,0 +1,32 @@
+#include "shelf/shelf_hit_test.h"
+
+#include "platform/geometry.h"
+
+namespace corvane {
+
+ShelfHit hitTest(const ShelfLayout &layout, bool isCarousel, QPointF point)
+{
+    if (contains(layout.arrowHits[0], point))
+        return shelf_hit::Arrow{ArrowSide::Left};
+    if (contains(layout.arrowHits[1], point))
+        return shelf_hit::Arrow{ArrowSide::Right};
+    if (contains(layout.viewAllHit, point))
+        return shelf_hit::ViewAll{};
+    if (isCarousel) {
+        for (const ShelfLayout::Cell &cell : layout.cells) {
+            if (contains(cell.badge.translated(cell.root.topLeft()), point))
+                return shelf_hit::Badge{cell.itemIndex};
+        }
+    }
+    for (std::size_t i = 0; i < allShelfActions.size(); ++i) {
+        if (contains(layout.actionHits[i], point))
+            return shelf_hit::Button{allShelfActions[i]};
+    }
+    for (const ShelfLayout::Cell &cell : layout.cells) {
+        if (contains(cell.root, point))
+            return shelf_hit::Cell{cell.itemIndex};
+    }
+    return {};
+}
+
+} // namespace corvane

@@ -1,0 +1,100 @@
+#pragma once
+
+#include "shelf/bitmap_layer.h"
+#include "shelf/shape_layer.h"
+#include "shelf/shelf_cell.h"
+#include "shelf/shelf_hit_test.h"
+#include "shelf/shelf_layout.h"
+#include "shelf/text_layer.h"
+
+#include <QUuid>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+namespace corvane {
+
+/// Everything that decides how the shelf looks at one moment.
+struct ShelfLook {
+    ShelfSnapshot snapshot;
+    ShelfLayout layout;
+    ShelfHit hovered;
+    bool isHovering = false;
+    bool isDragTargeted = false;
+    /// Shown for a moment in place of the details; "" for none.
+    QString flashMessage;
+    /// The item that is being dragged out.
+    std::optional<QUuid> draggedItem;
+};
+
+/// The layers that the shelf is painted with. They follow the look that they are given; where and
+/// when things move is the animator's business.
+///
+/// Coordinates: the origin is the top centre of the panel, from which the body hangs, so that a
+/// panel that changes its size around the body moves nothing.
+class ShelfLayers {
+public:
+    ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimator &animator);
+
+    /// Puts everything where the look has it, and slides the body down from the screen's edge or up
+    /// behind it. What is out of sight is laid out at once: only the slide is seen.
+    void apply(const ShelfLook &look);
+    void paint(QPainter &painter, double scale) const { m_body.render(painter, scale); }
+
+    /// The body's outline as it is painted now.
+    QPainterPath presentedOutline() const;
+    std::size_t cellCount() const { return m_cells.size(); }
+
+private:
+    /// Out of sight, and staying there.
+    bool isAway() const;
+    void syncCellCount(std::size_t count);
+    void applyBody(const ShelfLook &look);
+    void applyDropTarget(const ShelfLook &look);
+    void applyCells(const ShelfLook &look);
+    void applyControls(const ShelfLook &look);
+    void applyButton(BitmapLayer &layer, const std::optional<QRectF> &frame, bool isHovered,
+                     const ShelfLook &look);
+    void applyArrow(std::size_t side, const ShelfLook &look);
+
+    /// Darkens the right end of a row of cells that does not fit.
+    class EdgeFade : public Layer {
+    public:
+        using Layer::Layer;
+
+    protected:
+        void draw(QPainter &painter, QSizeF size, double scale) const override;
+    };
+    struct Arrow {
+        explicit Arrow(LayerTree &tree)
+            : plate(tree)
+            , caret(tree)
+        {
+        }
+        Layer plate;
+        BitmapLayer caret;
+    };
+
+    LayerTree &m_tree;
+    const Theme &m_theme;
+    const LayerAnimator &m_animator;
+    Layer m_body;
+    ShapeLayer m_shelf;
+    ShapeLayer m_ring;
+    TextLayer m_hint;
+    Layer m_hoverPlate;
+    Layer m_divider;
+    Layer m_cellRow;
+    EdgeFade m_edgeFade;
+    Arrow m_leftArrow;
+    Arrow m_rightArrow;
+    std::array<BitmapLayer, 3> m_actionButtons;
+    BitmapLayer m_viewAllButton;
+    TextLayer m_flash;
+    ShapeLayer m_hairline;
+    // After the layers that contain them.
+    std::vector<std::unique_ptr<ShelfCell>> m_cells;
+};
+
+} // namespace corvane

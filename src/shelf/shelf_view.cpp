@@ -1,0 +1,255 @@
+#include "shelf/shelf_view.h"
+
+#include "core/pasteboard_ingest.h"
+#include "platform/checked_math.h"
+#include "platform/geometry.h"
+#include "platform/main_queue.h"
+#include "shelf/pill_path.h"
+#include "shelf/theme.h"
+
+#include <QPainter>
+
+#include <cmath>
+#include <type_traits>
+
+namespace corvane {
+
+namespace {
+
+template<typename... Arguments>
+void call(const std::function<void(Arguments...)> &callback,
+          std::type_identity_t<Arguments>... arguments)
+{
+    if (callback)
+        callback(arguments...);
+}
+
+} // namespace
+
+ShelfView::ShelfView(const Context &context)
+    : m_context(context)
+    , m_tree(context.queue, context.motionPreference)
+    , m_layers(m_tree, context.theme, context.animator)
+{
+    m_tree.onNeedsDisplay = [this] {
+        m_context.panel.setNeedsDisplay({{0, 0}, m_context.panel.frame().size()});
+    };
+}
+
+ShelfView::~ShelfView()
+{
+    m_tree.onNeedsDisplay = nullptr;
+}
+
+QSizeF ShelfView::preferredSize(const ShelfSnapshot &snapshot) const
+{
+    return corvane::preferredSize(snapshot,
+                                  detailTextWidth(snapshot, m_context.theme, m_context.measurer));
+}
+
+void ShelfView::apply(const ShelfSnapshot &snapshot)
+{
+    m_look.snapshot = snapshot;
+    relayout();
+}
+
+void ShelfView::relayout()
+{
+    const double textWidth = detailTextWidth(m_look.snapshot, m_context.theme, m_context.measurer);
+    m_look.layout = layoutShelf(m_look.snapshot, textWidth);
+    m_layers.apply(m_look);
+    updateBody();
+}
+
+void ShelfView::updateBody()
+{
+    const QSizeF size = m_context.panel.frame().size();
+    QPainterPath outline = m_layers.presentedOutline().translated(size.width() / 2, size.height());
+    m_context.panel.setBody(bodyRect(), outline);
+}
+
+QRectF ShelfView::bodyRect() const
+{
+    const QSizeF panel = m_context.panel.frame().size();
+    const QSizeF size = m_look.layout.size;
+    return {panel.width() * 0.5 - size.width() * 0.5, panel.height() - size.height(), size.width(),
+            size.height()};
+}
+
+QPointF ShelfView::inBody(QPointF point) const
+{
+    return point - bodyRect().topLeft();
+}
+
+bool ShelfView::hitTest(QPointF point) const
+{
+    return m_look.snapshot.state != ShelfState::Idle && contains(bodyRect(), point);
+}
+
+void ShelfView::setRefreshRate(double rate)
+{
+    if (rate > 0)
+        m_tree.setFrameInterval(1 / rate);
+}
+
+void ShelfView::paint(QPainter &painter, QSizeF size, double scale)
+{
+    m_scale = scale;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(size.width() / 2, size.height());
+    m_layers.paint(painter, scale);
+    // Where windows are not blended the panel is cut to what was just painted.
+    if (m_tree.isMoving())
+        updateBody();
+}
+
+void ShelfView::flash(const QString &message)
+{
+    if (m_look.snapshot.visible.empty() || m_look.snapshot.receptive)
+        return;
+    m_look.flashMessage = message;
+    m_flashToken = checkedAdd(m_flashToken, 1);
+    relayout();
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.queue.asyncAfter(flashDuration, [this, alive, token = m_flashToken] {
+        if (alive.expired() || token != m_flashToken)
+            return;
+        m_look.flashMessage.clear();
+        relayout();
+    });
+}
+
+void ShelfView::updateHover(QPointF point)
+{
+    const bool isInside = hitTest(point);
+    const ShelfHit hit = isInside
+        ? corvane::hitTest(m_look.layout, m_look.snapshot.isCarousel(), inBody(point))
+        : ShelfHit();
+    if (isInside == m_look.isHovering && hit == m_look.hovered)
+        return;
+    m_look.isHovering = isInside;
+    m_look.hovered = hit;
+    relayout();
+}
+
+void ShelfView::mouseEntered(const MouseEvent &event)
+{
+    updateHover(event.location);
+}
+
+void ShelfView::mouseMoved(const MouseEvent &event)
+{
+    updateHover(event.location);
+}
+
+void ShelfView::mouseExited()
+{
+    if (!m_look.isHovering && m_look.hovered == ShelfHit())
+        return;
+    m_look.isHovering = false;
+    m_look.hovered = {};
+    relayout();
+}
+
+void ShelfView::mouseDown(const MouseEvent &event)
+{
+    if (!hitTest(event.location))
+        return;
+    m_context.panel.makeKey();
+    const ShelfHit hit
+        = corvane::hitTest(m_look.layout, m_look.snapshot.isCarousel(), inBody(event.location));
+    if (const auto *arrow = std::get_if<shelf_hit::Arrow>(&hit))
+        call(onScroll, arrow->side == ArrowSide::Left ? -1 : 1);
+    else if (std::holds_alternative<shelf_hit::ViewAll>(hit))
+        call(onViewAll);
+    else if (const auto *badge = std::get_if<shelf_hit::Badge>(&hit))
+        call(onRemove, badge->itemIndex);
+    else if (const auto *button = std::get_if<shelf_hit::Button>(&hit))
+        performAction(button->action);
+    else if (const auto *cell = std::get_if<shelf_hit::Cell>(&hit))
+        pressCell(cell->itemIndex, event.location);
+}
+
+void ShelfView::performAction(ShelfAction action)
+{
+    switch (action) {
+    case ShelfAction::QuickLook:
+        call(onQuickLook);
+        break;
+    case ShelfAction::Copy:
+        call(onCopy);
+        break;
+    case ShelfAction::Clear:
+        call(onRemove, m_look.snapshot.focusedIndex);
+        break;
+    }
+}
+
+void ShelfView::pressCell(int itemIndex, QPointF point)
+{
+    m_mouseDownIndex = itemIndex;
+    m_mouseDownPoint = point;
+    if (itemIndex != m_look.snapshot.focusedIndex)
+        call(onFocus, itemIndex);
+}
+
+void ShelfView::mouseUp(const MouseEvent & /*event*/)
+{
+    m_mouseDownIndex.reset();
+    m_mouseDownPoint.reset();
+}
+
+void ShelfView::scrollWheel(const ScrollEvent &event)
+{
+    if (!m_look.snapshot.hasArrows())
+        return;
+    const bool hasPhases = event.phase != ScrollEvent::Phase::None;
+    if (!hasPhases && event.time - m_lastScrollTime > scrollMemory)
+        m_scrollAccumulator = 0;
+    m_lastScrollTime = event.time;
+    m_scrollAccumulator += event.deltaX;
+    const double step = event.hasPreciseDeltas ? preciseScrollStep : wheelScrollStep;
+    while (std::abs(m_scrollAccumulator) >= step) {
+        const bool isBack = m_scrollAccumulator > 0;
+        m_scrollAccumulator -= isBack ? step : -step;
+        call(onScroll, isBack ? -1 : 1);
+    }
+    if (event.phase == ScrollEvent::Phase::Ended)
+        m_scrollAccumulator = 0;
+}
+
+bool ShelfView::keyDown(const KeyEvent &event)
+{
+    if (m_look.snapshot.visible.empty())
+        return false;
+    const int focused = m_look.snapshot.focusedIndex;
+    switch (event.keyCode) {
+    case key_code::c:
+        if (!event.modifiers.testFlag(Modifier::Command))
+            return false;
+        call(onCopy);
+        return true;
+    case key_code::space:
+        call(onQuickLook);
+        return true;
+    case key_code::deleteBackward:
+    case key_code::deleteForward:
+    // Escape removes too, like Delete.
+    case key_code::escape:
+        call(onRemove, focused);
+        return true;
+    case key_code::leftArrow:
+        call(onFocus, checkedAdd(focused, -1));
+        return true;
+    case key_code::rightArrow:
+        call(onFocus, checkedAdd(focused, 1));
+        return true;
+    case key_code::downArrow:
+        call(onViewAll);
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace corvane

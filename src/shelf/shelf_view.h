@@ -1,0 +1,126 @@
+#pragma once
+
+#include "platform/panel_window.h"
+#include "shelf/shelf_hit_test.h"
+#include "shelf/shelf_layers.h"
+#include "shelf/shelf_snapshot.h"
+
+#include <QList>
+#include <QUuid>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace corvane {
+
+class DragWriter;
+class Keyboard;
+class LayerAnimator;
+class MainQueue;
+class MotionPreference;
+class PasteboardIngest;
+class TextMeasurer;
+struct Theme;
+
+/// The content of the shelf's panel: shows a snapshot, and turns what the user does on it into
+/// callbacks. It never changes the model itself. A callback that is not set is skipped. Main thread
+/// only; everything in the context must outlive the view.
+class ShelfView : public PanelContent {
+public:
+    static constexpr double flashDuration = 1.4;
+    /// A press that moves farther than this, in points, is a drag.
+    static constexpr double dragDistance = 3;
+    static constexpr double preciseScrollStep = 28;
+    static constexpr double wheelScrollStep = 4;
+    /// What a device without phases has left over is forgotten after this many seconds.
+    static constexpr double scrollMemory = 0.25;
+
+    struct Context {
+        PanelWindow &panel;
+        MainQueue &queue;
+        const MotionPreference &motionPreference;
+        const Theme &theme;
+        const LayerAnimator &animator;
+        const TextMeasurer &measurer;
+        const Keyboard &keyboard;
+        const PasteboardIngest &ingest;
+        const DragWriter &dragWriter;
+    };
+    explicit ShelfView(const Context &context);
+    ~ShelfView() override;
+
+    std::function<void(const QList<DropItem> &)> onDropAccepted;
+    /// An item was dropped elsewhere; `keep` when Shift was held at that moment. By its id, because
+    /// indices may have moved while the drag went on.
+    std::function<void(const QUuid &id, bool keep)> onEjected;
+    std::function<void(int index)> onRemove;
+    std::function<void(int index)> onFocus;
+    /// Negative is back.
+    std::function<void(int steps)> onScroll;
+    std::function<void()> onCopy;
+    std::function<void()> onQuickLook;
+    std::function<void()> onViewAll;
+    std::function<void(bool isDraggingOut)> onDragOutChanged;
+
+    void apply(const ShelfSnapshot &snapshot);
+    QSizeF preferredSize(const ShelfSnapshot &snapshot) const;
+    /// Shows a short message in place of the details; dropped where there is no room for it.
+    void flash(const QString &message);
+    /// To be called after the panel's frame changed without a new snapshot.
+    void panelWasResized() { updateBody(); }
+    /// Frames a second while something moves.
+    void setRefreshRate(double rate);
+    /// Whether a point of the panel belongs to the shelf; nowhere while it is closed.
+    bool hitTest(QPointF point) const;
+
+    /// What is on the screen, for whoever wants to check it.
+    const ShelfLook &look() const { return m_look; }
+    std::size_t cellCount() const { return m_layers.cellCount(); }
+    bool isMoving() const { return m_tree.isMoving(); }
+
+    void paint(QPainter &painter, QSizeF size, double scale) override;
+    void mouseDown(const MouseEvent &event) override;
+    void mouseDragged(const MouseEvent &event) override;
+    void mouseUp(const MouseEvent &event) override;
+    void mouseEntered(const MouseEvent &event) override;
+    void mouseMoved(const MouseEvent &event) override;
+    void mouseExited() override;
+    void scrollWheel(const ScrollEvent &event) override;
+    bool keyDown(const KeyEvent &event) override;
+    DragOperation draggingEntered(const DraggingInfo &info) override;
+    DragOperation draggingUpdated(const DraggingInfo &info) override;
+    void draggingExited() override;
+    bool performDragOperation(const DraggingInfo &info) override;
+    void draggingEnded() override;
+
+private:
+    void relayout();
+    void updateBody();
+    QRectF bodyRect() const;
+    QPointF inBody(QPointF point) const;
+    void updateHover(QPointF point);
+    void performAction(ShelfAction action);
+    void pressCell(int itemIndex, QPointF point);
+    void beginDragOut(const DropItem &item, int index, QPointF from);
+    QRectF thumbFrame(int index) const;
+    void dragOutEnded(DragOperation operation);
+    void setDragTargeted(bool targeted);
+
+    Context m_context;
+    LayerTree m_tree;
+    ShelfLayers m_layers;
+    ShelfLook m_look;
+    QSizeF m_bodySize;
+    double m_scale = 1;
+    std::optional<QPointF> m_mouseDownPoint;
+    std::optional<int> m_mouseDownIndex;
+    bool m_refusesDrag = false;
+    int m_flashToken = 0;
+    double m_scrollAccumulator = 0;
+    double m_lastScrollTime = 0;
+    // What the queue still holds for a view that is gone does nothing.
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

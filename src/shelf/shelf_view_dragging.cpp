@@ -1,0 +1,134 @@
+// The shelf as a source and as a destination of drags.
+
+#include "core/drag_writer.h"
+#include "core/pasteboard_ingest.h"
+#include "platform/geometry.h"
+#include "platform/keyboard.h"
+#include "shelf/shelf_view.h"
+
+#include <QCoreApplication>
+#include <QLineF>
+
+#include <algorithm>
+#include <utility>
+
+namespace corvane {
+
+void ShelfView::mouseDragged(const MouseEvent &event)
+{
+    if (!m_mouseDownIndex || !m_mouseDownPoint || m_look.draggedItem)
+        return;
+    const int index = *m_mouseDownIndex;
+    const auto &visible = m_look.snapshot.visible;
+    const auto entry = std::find_if(visible.begin(), visible.end(),
+                                    [index](const auto &pair) { return pair.first == index; });
+    if (entry == visible.end())
+        return;
+    if (QLineF(*m_mouseDownPoint, event.location).length() <= dragDistance)
+        return;
+    const QPointF from = *m_mouseDownPoint;
+    m_mouseDownPoint.reset();
+    // A copy: the drag may run an event loop in which the snapshot is replaced.
+    beginDragOut(DropItem(entry->second), index, from);
+}
+
+QRectF ShelfView::thumbFrame(int index) const
+{
+    for (const ShelfLayout::Cell &cell : m_look.layout.cells) {
+        if (cell.itemIndex == index)
+            return cell.thumb.translated(cell.root.topLeft());
+    }
+    return {0, 0, 1, 1};
+}
+
+void ShelfView::beginDragOut(const DropItem &item, int index, QPointF from)
+{
+    if (!DragWriter::isAvailable(item)) {
+        flash(QCoreApplication::translate("ShelfView", "The file is no longer there"));
+        return;
+    }
+    m_look.draggedItem = item.id();
+    if (onDragOutChanged)
+        onDragOutChanged(true);
+    relayout();
+
+    // Picked up by its picture, the picture stays where it was under the pointer.
+    const QRectF thumb = thumbFrame(index);
+    const bool isOnThumb = contains(thumb, inBody(from));
+    DragOut drag;
+    drag.contents.writers.push_back(DragWriter::pasteboardWriter(item));
+    drag.image = m_context.dragWriter.dragImage(item, thumb.width(), m_scale);
+    drag.hotSpot = isOnThumb ? inBody(from) - thumb.topLeft()
+                             : QPointF(thumb.width() / 2, thumb.height() / 2);
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.panel.beginDraggingSession(std::move(drag), [this, alive](DragOperation operation) {
+        if (!alive.expired())
+            dragOutEnded(operation);
+    });
+}
+
+void ShelfView::dragOutEnded(DragOperation operation)
+{
+    const auto draggedItem = std::exchange(m_look.draggedItem, std::nullopt);
+    m_mouseDownIndex.reset();
+    if (onDragOutChanged)
+        onDragOutChanged(false);
+    if (operation == DragOperation::None || !draggedItem) {
+        relayout();
+        return;
+    }
+    const bool keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
+    relayout();
+    if (onEjected)
+        onEjected(*draggedItem, keep);
+}
+
+void ShelfView::setDragTargeted(bool targeted)
+{
+    if (m_look.isDragTargeted == targeted)
+        return;
+    m_look.isDragTargeted = targeted;
+    relayout();
+}
+
+DragOperation ShelfView::draggingEntered(const DraggingInfo &info)
+{
+    m_refusesDrag = m_look.snapshot.state == ShelfState::Idle || info.isOwn
+        || !PasteboardIngest::canRead(info.pasteboard);
+    if (m_refusesDrag)
+        return DragOperation::None;
+    setDragTargeted(true);
+    return DragOperation::Copy;
+}
+
+DragOperation ShelfView::draggingUpdated(const DraggingInfo & /*info*/)
+{
+    return m_look.snapshot.state == ShelfState::Idle || m_refusesDrag ? DragOperation::None
+                                                                      : DragOperation::Copy;
+}
+
+void ShelfView::draggingExited()
+{
+    setDragTargeted(false);
+}
+
+bool ShelfView::performDragOperation(const DraggingInfo &info)
+{
+    m_look.isDragTargeted = false;
+    const QList<DropItem> items
+        = info.isOwn ? QList<DropItem>() : m_context.ingest.readAll(info.pasteboard);
+    if (items.isEmpty()) {
+        relayout();
+        return false;
+    }
+    if (onDropAccepted)
+        onDropAccepted(items);
+    return true;
+}
+
+void ShelfView::draggingEnded()
+{
+    setDragTargeted(false);
+}
+
+} // namespace corvane

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "shelf/layer.h"
+
+#include <QFont>
+#include <QImage>
+#include <QString>
+
+namespace corvane {
+
+/// A layer that shows one line of text, cut with an ellipsis where it does not fit. The text is
+/// plain: nothing in it is markup, and characters that could reorder or forge what is read are
+/// shown as what they are, a stranger's (see display_text.h).
+class TextLayer : public Layer {
+public:
+    using Layer::Layer;
+
+    QString string() const { return m_string; }
+    void setString(const QString &string);
+    void setFont(const QFont &font);
+    void setColor(const QColor &color);
+    void setAlignment(Qt::Alignment alignment);
+
+protected:
+    void draw(QPainter &painter, QSizeF size, double scale) const override;
+
+private:
+    void invalidate();
+    QImage rasterized(double width, double height, double scale) const;
+
+    QString m_string;
+    QFont m_font;
+    QColor m_color = Qt::white;
+    Qt::Alignment m_alignment = Qt::AlignLeft;
+    // The letters are drawn once and moved as a picture, sharp on whole pixels.
+    mutable QImage m_bitmap;
+    mutable QSizeF m_bitmapBounds;
+    mutable double m_bitmapScale = 0;
+};
+
+} // namespace corvane

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/motion_preference.h"
+
+namespace corvane::test {
+
+class FakeMotionPreference : public MotionPreference {
+public:
+    bool reducesMotion() const override { return reduces; }
+
+    bool reduces = false;
+};
+
+} // namespace corvane::test

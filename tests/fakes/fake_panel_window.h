@@ -1,0 +1,63 @@
+#pragma once
+
+#include "platform/panel_window.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <utility>
+
+namespace corvane::test {
+
+/// A panel that shows nothing and keeps a log of what it was told.
+class FakePanelWindow : public PanelWindow {
+public:
+    void setContent(PanelContent *newContent) override { content = newContent; }
+    QRectF frame() const override { return m_frame; }
+    void setFrame(const QRectF &frame) override
+    {
+        m_frame = frame;
+        frames.push_back(frame);
+    }
+    bool isVisible() const override { return visible; }
+    void orderFrontRegardless() override
+    {
+        visible = true;
+        log << QStringLiteral("orderFront");
+    }
+    void orderOut() override
+    {
+        visible = false;
+        log << QStringLiteral("orderOut");
+    }
+    void setIgnoresMouseEvents(bool ignores) override { ignoresMouseEvents = ignores; }
+    void setBody(const QRectF &rect, const QPainterPath &path) override
+    {
+        body = rect;
+        outline = path;
+    }
+    void makeKey() override { isKey = true; }
+    void setNeedsDisplay(const QRectF &) override { ++displayRequests; }
+    void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) override
+    {
+        dragOut = std::move(drag);
+        endDragOut = std::move(ended);
+    }
+
+    PanelContent *content = nullptr;
+    bool visible = false;
+    bool ignoresMouseEvents = false;
+    bool isKey = false;
+    QRectF body;
+    QPainterPath outline;
+    int displayRequests = 0;
+    std::vector<QRectF> frames;
+    QStringList log;
+    std::optional<DragOut> dragOut;
+    std::function<void(DragOperation)> endDragOut;
+
+private:
+    QRectF m_frame;
+};
+
+} // namespace corvane::test

@@ -1,0 +1,85 @@
+#pragma once
+
+#include "core/drag_writer.h"
+#include "core/image_converter.h"
+#include "core/pasteboard_ingest.h"
+#include "core/scratch_spool.h"
+#include "fakes/fake_image_codec.h"
+#include "fakes/fake_keyboard.h"
+#include "fakes/fake_motion_preference.h"
+#include "fakes/fake_panel_window.h"
+#include "fakes/fake_pasteboard.h"
+#include "fakes/fake_text_measurer.h"
+#include "fakes/test_clock.h"
+#include "shelf/layer_animator.h"
+#include "shelf/shelf_view.h"
+#include "shelf/theme.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QTemporaryDir>
+
+namespace corvane::test {
+
+/// Everything that a shelf view stands on, faked, and the user's hands.
+struct ShelfDesk {
+    explicit ShelfDesk(const QFont &font = QFont(), const TextMeasurer *measurer = nullptr)
+        : theme(font, 96)
+        , m_measurer(measurer ? measurer : &fakeMeasurer)
+    {
+        panel.setFrame({0, 0, 560, 136});
+    }
+
+    ShelfView::Context context()
+    {
+        return {panel, clock, motion, theme, animator, *m_measurer, keyboard, ingest, dragWriter};
+    }
+
+    static DropItem fileItem(const QString &name, const QString &subtitle = QStringLiteral("TXT"))
+    {
+        return {DropItem::File{QUrl::fromLocalFile(QStringLiteral("/nowhere/") + name)}, name,
+                subtitle, false};
+    }
+    static DropItem textItem(const QString &text)
+    {
+        return {DropItem::Text{text}, text, QStringLiteral("5 characters"), false};
+    }
+
+    /// Gives the panel the frame that the view wants, as its controller does.
+    static void fit(PanelWindow &panel, ShelfView &view, const ShelfSnapshot &snapshot)
+    {
+        panel.setFrame({{100, 500}, view.preferredSize(snapshot)});
+    }
+
+    static QImage paint(ShelfView &view, const PanelWindow &panel, double scale = 1)
+    {
+        const QSizeF size = panel.frame().size();
+        QImage image((size * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+        image.setDevicePixelRatio(scale);
+        image.fill(Qt::transparent);
+        QPainter painter(&image);
+        painter.translate(0, size.height());
+        painter.scale(1, -1);
+        view.paint(painter, size, scale);
+        return image;
+    }
+
+    QTemporaryDir temporary;
+    TestClock clock;
+    FakePanelWindow panel;
+    FakeMotionPreference motion;
+    FakeTextMeasurer fakeMeasurer;
+    FakeKeyboard keyboard;
+    FakeImageCodec codec;
+    ScratchSpool spool{temporary.path().toUtf8(), 4711};
+    ImageConverter converter{codec, spool};
+    PasteboardIngest ingest{spool, converter, codec};
+    DragWriter dragWriter{Qt::gray, [](QPainter &, PhosphorIcon, const QRectF &) {}};
+    LayerAnimator animator;
+    Theme theme;
+
+private:
+    const TextMeasurer *m_measurer;
+};
+
+} // namespace corvane::test
