@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/login_items.h"
+
+namespace corvane {
+
+/// This program's entry among those that the desktop starts with the session:
+/// autostart/corvane.desktop below the user's configuration folder.
+class AutostartLoginItems : public LoginItems {
+public:
+    /// The program to start; the running one by default, and of an AppImage its file, since what
+    /// runs then is a temporary copy.
+    AutostartLoginItems();
+    explicit AutostartLoginItems(QString program);
+
+    bool isRegistered() const override;
+    std::optional<QString> registerItem() override;
+    std::optional<QString> unregisterItem() override;
+
+private:
+    QString m_program;
+};
+
+} // namespace corvane

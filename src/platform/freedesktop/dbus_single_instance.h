@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/single_instance.h"
+
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+
+namespace corvane {
+
+/// One process a session, by a name on the session bus. The process that holds the name offers
+/// org.freedesktop.Application, as desktops expect of a program of that name; a later process asks
+/// it to activate itself. Every question to the bus has a time limit.
+class DBusSingleInstance : public QObject, public SingleInstance {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
+
+public:
+    static constexpr int timeoutMilliseconds = 2'000;
+
+    /// The application's id in reverse domain order, which is the name on the bus.
+    explicit DBusSingleInstance(QString applicationId);
+
+    Outcome acquire(std::function<void()> onReopen) override;
+
+    /// What the desktop and later processes call.
+    Q_INVOKABLE Q_SCRIPTABLE void Activate(const QVariantMap &platformData);
+    Q_INVOKABLE Q_SCRIPTABLE void Open(const QStringList &uris, const QVariantMap &platformData);
+    Q_INVOKABLE Q_SCRIPTABLE void ActivateAction(const QString &name, const QVariantList &parameter,
+                                                 const QVariantMap &platformData);
+
+private:
+    enum class NameRequest {
+        Granted,
+        Taken,
+        Failed,
+    };
+
+    NameRequest requestName() const;
+    bool activateOther() const;
+    QString objectPath() const;
+
+    QString m_applicationId;
+    std::function<void()> m_onReopen;
+};
+
+} // namespace corvane
