@@ -1,0 +1,45 @@
+#pragma once
+
+#include "shelf/hud_controller.h"
+
+#include <memory>
+
+namespace corvane {
+
+class DragMonitor;
+class ScratchSpool;
+
+/// Connects the shelf to the desktop at launch, and takes it down at the end.
+///
+/// Everything in the context must outlive it. Main thread only.
+class AppDelegate {
+public:
+    struct Context {
+        DragMonitor &dragMonitor;
+        Settings &settings;
+        ShelfStore &store;
+        ScratchSpool &spool;
+        HUDController::Context hud;
+    };
+    explicit AppDelegate(const Context &context);
+    ~AppDelegate();
+    AppDelegate(const AppDelegate &) = delete;
+    AppDelegate &operator=(const AppDelegate &) = delete;
+
+    void applicationDidFinishLaunching();
+    /// Stops the drag monitor, then removes the spool. The process may be ending in more than one
+    /// way at once: only the first call does anything.
+    void applicationWillTerminate();
+    /// The user started the program again. False: there is nothing else to do.
+    bool applicationShouldHandleReopen(bool hasVisibleWindows);
+
+private:
+    void wireDragDetection();
+
+    Context m_context;
+    std::unique_ptr<HUDController> m_hud;
+    bool m_isTerminated = false;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

@@ -1,0 +1,74 @@
+#include "app/application.h"
+
+#include "app/app_info.h"
+#include "app/composition_root.h"
+#include "platform/freedesktop/dbus_single_instance.h"
+#include "platform/qt/unix_signals.h"
+
+#include <QApplication>
+
+#include <cstdio>
+
+namespace corvane {
+
+namespace {
+
+bool hasDisplay()
+{
+    return !qEnvironmentVariableIsEmpty("DISPLAY");
+}
+
+void setUpApplication(const AppInfo &info)
+{
+    QCoreApplication::setApplicationName(QStringLiteral("Corvane"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Corvane"));
+    QCoreApplication::setApplicationVersion(info.version());
+    QGuiApplication::setDesktopFileName(info.applicationId());
+    // The shelf comes and goes; none of its windows is the last one.
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+}
+
+} // namespace
+
+int runApplication(int argc, char **argv)
+{
+    if (!hasDisplay()) {
+        std::fputs("corvane: there is no X11 display to hang the shelf on (DISPLAY is not set)\n",
+                   stderr);
+        return 1;
+    }
+    // In a Wayland session the shelf runs through XWayland for now.
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    const AppInfo info = AppInfo::builtIn();
+    QApplication application(argc, argv);
+    setUpApplication(info);
+
+    AppDelegate *delegate = nullptr;
+    DBusSingleInstance instance(info.applicationId());
+    const auto outcome = instance.acquire([&delegate] {
+        if (delegate)
+            delegate->applicationShouldHandleReopen(false);
+    });
+    if (outcome == SingleInstance::Outcome::HandedOver)
+        return 0;
+
+    // However the process ends, nothing of the spool may outlive it.
+    const auto terminate = [&delegate] {
+        if (delegate)
+            delegate->applicationWillTerminate();
+        QCoreApplication::quit();
+    };
+    CompositionRoot root(terminate);
+    delegate = &root.delegate;
+    const UnixSignals signals(terminate);
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, terminate);
+
+    delegate->applicationDidFinishLaunching();
+    root.mainQueue.async([&root] { root.spool.removeLeftovers(); });
+    const int status = QApplication::exec();
+    delegate->applicationWillTerminate();
+    delegate = nullptr;
+    return status;
+}
+
+} // namespace corvane

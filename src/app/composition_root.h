@@ -1,0 +1,91 @@
+#pragma once
+
+#include "app/app_delegate.h"
+#include "app/no_link_previews.h"
+#include "core/drag_writer.h"
+#include "core/feedback.h"
+#include "core/image_converter.h"
+#include "core/pasteboard_ingest.h"
+#include "core/quick_actions.h"
+#include "core/scratch_spool.h"
+#include "core/settings.h"
+#include "core/shelf_store.h"
+#include "input/drag_monitor.h"
+#include "input/screen_locator.h"
+#include "platform/freedesktop/autostart_login_items.h"
+#include "platform/freedesktop/portal_motion_preference.h"
+#include "platform/qt/qt_file_icons.h"
+#include "platform/qt/qt_general_pasteboard.h"
+#include "platform/qt/qt_image_codec.h"
+#include "platform/qt/qt_keyboard.h"
+#include "platform/qt/qt_main_queue.h"
+#include "platform/qt/qt_panel_window.h"
+#include "platform/qt/qt_pointer.h"
+#include "platform/qt/qt_screens.h"
+#include "platform/qt/qt_text_measurer.h"
+#include "platform/qt/qt_thumbnail_generator.h"
+#include "platform/qt/qt_user_defaults.h"
+#include "platform/qt/qt_work_queue.h"
+#include "platform/x11/x11_connection.h"
+#include "platform/x11/x11_drag_desktop.h"
+#include "platform/x11/x11_drag_support.h"
+#include "platform/x11/x11_panel_surface.h"
+#include "services/thumbnail_service.h"
+#include "shelf/layer_animator.h"
+#include "shelf/theme.h"
+
+#include <functional>
+
+namespace corvane {
+
+/// Every long-lived object of the program, each standing after what it uses. Made once the
+/// application object exists.
+struct CompositionRoot {
+    /// `onServerLost` is called when the X server goes away.
+    explicit CompositionRoot(std::function<void()> onServerLost);
+    CompositionRoot(const CompositionRoot &) = delete;
+    CompositionRoot &operator=(const CompositionRoot &) = delete;
+
+    // The desktop.
+    QtMainQueue mainQueue;
+    QtWorkQueue workQueue;
+    QtScreens screens;
+    QtPointer pointer;
+    QtKeyboard keyboard;
+    QtGeneralPasteboard generalPasteboard;
+    QtUserDefaults userDefaults;
+    QtImageCodec imageCodec;
+    QtFileIcons fileIcons;
+    QtTextMeasurer textMeasurer;
+    QtThumbnailGenerator thumbnailGenerator;
+    AutostartLoginItems loginItems;
+    PortalMotionPreference motionPreference;
+    X11Connection connection;
+    X11DragDesktop dragDesktop;
+    X11PanelSurface panelSurface;
+    X11DragSupport dragSupport;
+    QtPanelWindow panel;
+
+    // Input.
+    DragMonitor dragMonitor;
+    ScreenLocator screenLocator;
+
+    // The model, and what completes it.
+    Settings settings;
+    Feedback feedback;
+    ScratchSpool spool;
+    ImageConverter imageConverter;
+    PasteboardIngest ingest;
+    QuickActions quickActions;
+    ThumbnailService thumbnails;
+    NoLinkPreviews linkPreviews;
+    ShelfStore store;
+
+    // The shelf.
+    Theme theme;
+    LayerAnimator layerAnimator;
+    DragWriter dragWriter;
+    AppDelegate delegate;
+};
+
+} // namespace corvane
