@@ -55,7 +55,7 @@ QUrl fileUrl(QByteArrayView rest)
 
 bool isFileScheme(QByteArrayView line)
 {
-    return line.size() > 5 && qstrnicmp(line.data(), "file:", 5) == 0;
+    return line.size() >= 5 && qstrnicmp(line.data(), "file:", 5) == 0;
 }
 
 /// Bytes that are no text would be replaced: encoded, they survive.

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "e2e/desktop/eventually.h"
+#include "e2e/desktop/hands.h"
+#include "e2e/desktop/x_server.h"
+
+namespace corvane::test {
+
+using e2e::eventually;
+
+/// The desktop that these tests run on, seen and touched from outside.
+struct Display {
+    e2e::XServer server{qgetenv("DISPLAY")};
+    e2e::Hands hands{server};
+};
+
+/// Runs the event loop until nothing has happened for a moment: for what must NOT come.
+inline void settle()
+{
+    eventually([] { return false; }, std::chrono::milliseconds{120});
+}
+
+} // namespace corvane::test

@@ -1,0 +1,162 @@
+#include "fakes/fake_pasteboard.h"
+#include "platform/file_url.h"
+#include "platform/pasteboard_writer.h"
+#include "platform/qt/mime_encoding.h"
+#include "platform/qt/qt_general_pasteboard.h"
+#include "platform/qt/qt_pasteboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+struct FakeOffer {
+    FakePasteboard pasteboard;
+    void offer(const QList<QUrl> &urls) { pasteboard.offerUrls(urls); }
+    void offer(const QString &text) { pasteboard.offerText(text); }
+    void offer(const QByteArray &data, const QString &type) { pasteboard.offerData(data, type); }
+};
+
+struct QtOffer {
+    QMimeData mimeData;
+    QtPasteboard pasteboard{&mimeData};
+    void offer(const QList<QUrl> &urls) { mimeData.setUrls(urls); }
+    void offer(const QString &text) { mimeData.setText(text); }
+    void offer(const QByteArray &data, const QString &type) { mimeData.setData(type, data); }
+};
+
+template<typename Source>
+class PasteboardContract : public testing::Test {
+protected:
+    Source source;
+    Pasteboard &pasteboard = source.pasteboard;
+};
+
+using Sources = testing::Types<FakeOffer, QtOffer>;
+TYPED_TEST_SUITE(PasteboardContract, Sources);
+
+const auto png = QStringLiteral("image/png");
+const QUrl file = file_url::fromNativePath("/a b#c/\xFF.txt");
+const QUrl link(QStringLiteral("https://example.org/x"));
+
+QByteArray dataOf(const PasteboardContents &contents, const char *type,
+                  PasteboardKind kind = PasteboardKind::Drag)
+{
+    return mimeDataFor(contents, kind)->data(QLatin1String(type));
+}
+
+} // namespace
+
+TYPED_TEST(PasteboardContract, anEmptyOneHasNothing)
+{
+    EXPECT_TRUE(this->pasteboard.types().isEmpty());
+    EXPECT_TRUE(this->pasteboard.urls().isEmpty());
+    EXPECT_FALSE(this->pasteboard.string());
+    EXPECT_FALSE(this->pasteboard.dataFor(UTType::png()));
+    EXPECT_FALSE(this->pasteboard.promisedFileName());
+    EXPECT_FALSE(this->pasteboard.receivePromisedFile(file));
+}
+
+TYPED_TEST(PasteboardContract, givesAddressesInOrderAndFilesAmongThem)
+{
+    this->source.offer(QList<QUrl>{link, file});
+    EXPECT_TRUE(this->pasteboard.offers(QStringLiteral("text/uri-list")));
+    EXPECT_EQ(this->pasteboard.urls(), QList<QUrl>({link, file}));
+    ASSERT_EQ(this->pasteboard.fileUrls().size(), 1);
+    EXPECT_EQ(file_url::nativePath(this->pasteboard.fileUrls().constFirst()), "/a b#c/\xFF.txt");
+}
+
+TYPED_TEST(PasteboardContract, givesTextAsItIs)
+{
+    this->source.offer(QStringLiteral("one\r\ntwo\n"));
+    EXPECT_EQ(this->pasteboard.string(), QStringLiteral("one\r\ntwo\n"));
+}
+
+TYPED_TEST(PasteboardContract, givesBytesUnderTheirType)
+{
+    this->source.offer(QByteArray("bytes"), png);
+    EXPECT_TRUE(this->pasteboard.offers(QStringLiteral("IMAGE/PNG")));
+    EXPECT_EQ(this->pasteboard.dataFor(UTType::png()), QByteArray("bytes"));
+    EXPECT_FALSE(this->pasteboard.dataFor(UTType::tiff()));
+}
+
+TEST(QtPasteboard, aTypeThatCameBackEmptyGivesNone)
+{
+    QMimeData mimeData;
+    mimeData.setData(png, {});
+    EXPECT_FALSE(QtPasteboard(&mimeData).dataFor(UTType::png()));
+    EXPECT_FALSE(QtPasteboard(nullptr).string());
+}
+
+TEST(QtPasteboard, exactTextComesBeforeOtherSpellings)
+{
+    QMimeData mimeData;
+    mimeData.setData(QStringLiteral("text/plain"), "caf\xE9");
+    mimeData.setData(QStringLiteral("text/plain;charset=UTF-8"), "caf\xC3\xA9!");
+    EXPECT_EQ(QtPasteboard(&mimeData).string(), QStringLiteral("café!"));
+}
+
+TEST(QtPasteboard, anEmptyAddressListLetsTheNextTypeSpeak)
+{
+    QMimeData mimeData;
+    mimeData.setData(QStringLiteral("text/x-moz-url"),
+                     QByteArray("h\0t\0t\0p\0:\0/\0/\0a\0/\0\n\0T\0", 22));
+    EXPECT_EQ(QtPasteboard(&mimeData).urls(), QList<QUrl>{QUrl(QStringLiteral("http://a/"))});
+    QMimeData netscape;
+    netscape.setData(QStringLiteral("_NETSCAPE_URL"), "http://b/\nTitle");
+    EXPECT_EQ(QtPasteboard(&netscape).urls(), QList<QUrl>{QUrl(QStringLiteral("http://b/"))});
+}
+
+TEST(MimeEncoding, filesAndLinksAreOneListWithExactBytes)
+{
+    const PasteboardContents contents{
+        {{PasteboardWriter::File{file}}, {PasteboardWriter::Link{link}}}, {}};
+    EXPECT_EQ(dataOf(contents, "text/uri-list"),
+              "file:///a%20b%23c/%FF.txt\r\nhttps://example.org/x\r\n");
+    const auto text = dataOf(contents, "text/plain");
+    EXPECT_TRUE(text.endsWith("\nhttps://example.org/x")) << text.constData();
+}
+
+TEST(MimeEncoding, onlyTheClipboardCarriesCopiedFiles)
+{
+    const PasteboardContents contents{
+        {{PasteboardWriter::File{file}}, {PasteboardWriter::File{link}}}, QStringLiteral("own")};
+    const auto type = "x-special/gnome-copied-files";
+    EXPECT_TRUE(dataOf(contents, type).isEmpty());
+    EXPECT_EQ(dataOf(contents, type, PasteboardKind::Clipboard), "copy\nfile:///a%20b%23c/%FF.txt");
+    EXPECT_EQ(dataOf(contents, "text/plain"), "own");
+}
+
+TEST(MimeEncoding, pictureBytesKeepTheirType)
+{
+    const PasteboardContents contents{{{PasteboardWriter::Data{"one", UTType(png)}},
+                                       {PasteboardWriter::Data{"two", UTType(png)}}},
+                                      {}};
+    EXPECT_EQ(dataOf(contents, "image/png"), "one");
+    EXPECT_FALSE(mimeDataFor(contents, PasteboardKind::Drag)->hasText());
+}
+
+TEST(MimeEncoding, whatIsWrittenIsReadAgain)
+{
+    const auto mimeData = mimeDataFor({{{PasteboardWriter::File{file}}}, {}}, PasteboardKind::Drag);
+    QtPasteboard pasteboard(mimeData.get());
+    ASSERT_EQ(pasteboard.fileUrls().size(), 1);
+    EXPECT_EQ(file_url::nativePath(pasteboard.fileUrls().constFirst()), "/a b#c/\xFF.txt");
+}
+
+TEST(QtGeneralPasteboard, replacesTheClipboard)
+{
+    QtGeneralPasteboard general;
+    general.write({{{PasteboardWriter::Data{"bytes", UTType(png)}}}, {}});
+    general.write({{{PasteboardWriter::Text{QStringLiteral("text")}}}, {}});
+    const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
+    EXPECT_EQ(clipboard->text(), QStringLiteral("text"));
+    EXPECT_FALSE(clipboard->hasFormat(png));
+}
+
+} // namespace corvane::test
