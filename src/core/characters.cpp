@@ -26,11 +26,22 @@ qsizetype endOfStretch(QStringView text, qsizetype start)
     return end;
 }
 
+/// The next boundary, -1 at the end. Beside Thai letters Qt finds some between the two halves of
+/// one code point.
+qsizetype nextBoundary(QTextBoundaryFinder &finder, QStringView text)
+{
+    qsizetype boundary = finder.toNextBoundary();
+    while (boundary > 0 && boundary < text.size() && text[boundary].isLowSurrogate()
+           && text[boundary - 1].isHighSurrogate())
+        boundary = finder.toNextBoundary();
+    return boundary;
+}
+
 qsizetype countByTheRules(QStringView text)
 {
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text.data(), text.size());
     qsizetype total = 0;
-    while (finder.toNextBoundary() >= 0)
+    while (nextBoundary(finder, text) >= 0)
         ++total;
     return total;
 }
@@ -70,7 +81,7 @@ QString prefix(const QString &text, qsizetype maximum, qsizetype maximumBytes)
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, head);
     qsizetype end = 0;
     for (qsizetype taken = 0; taken < maximum; ++taken) {
-        const qsizetype boundary = finder.toNextBoundary();
+        const qsizetype boundary = nextBoundary(finder, head);
         if (boundary < 0 || QStringView(head).left(boundary).toUtf8().size() > maximumBytes)
             break;
         end = boundary;

@@ -1,0 +1,68 @@
+#include "core/drop_item.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane {
+namespace {
+
+DropItem file(const QString &subtitle)
+{
+    const QUrl url(QStringLiteral("file:///tmp/a"));
+    return DropItem(DropItem::File{url}, QStringLiteral("a"), subtitle, false);
+}
+
+TEST(DropItem, ShowsAFolderByItsExactSubtitle)
+{
+    EXPECT_EQ(file(QStringLiteral("Folder")).glyph(), PhosphorIcon::Folder);
+    EXPECT_EQ(file(QStringLiteral("folder")).glyph(), PhosphorIcon::File);
+    EXPECT_EQ(file(QStringLiteral("TXT · 2 KB")).glyph(), PhosphorIcon::File);
+    DropItem renamed = file(QString());
+    renamed.setSubtitle(QStringLiteral("Folder"));
+    EXPECT_EQ(renamed.glyph(), PhosphorIcon::Folder);
+}
+
+TEST(DropItem, HasAGlyphForEachKind)
+{
+    const QString folder = QStringLiteral("Folder");
+    const DropItem image(DropItem::ImageBytes{"x", UTType::png()}, {}, folder, false);
+    const DropItem text(DropItem::Text{folder}, {}, folder, false);
+    const DropItem link(DropItem::Link{QUrl(QStringLiteral("http://x"))}, {}, folder, false);
+    EXPECT_EQ(image.glyph(), PhosphorIcon::Image);
+    EXPECT_EQ(text.glyph(), PhosphorIcon::TextAlignLeft);
+    EXPECT_EQ(link.glyph(), PhosphorIcon::Link);
+    EXPECT_EQ(rawValue(image.glyph()), QStringLiteral("image"));
+    EXPECT_EQ(rawValue(text.glyph()), QStringLiteral("textAlignLeft"));
+    EXPECT_EQ(rawValue(link.glyph()), QStringLiteral("link"));
+    EXPECT_EQ(rawValue(PhosphorIcon::Folder), QStringLiteral("folder"));
+    EXPECT_EQ(rawValue(PhosphorIcon::File), QStringLiteral("file"));
+}
+
+TEST(DropItem, NumbersItsKinds)
+{
+    EXPECT_EQ(DropItem::Payload(DropItem::File()).index(), 0U);
+    EXPECT_EQ(DropItem::Payload(DropItem::ImageBytes()).index(), 1U);
+    EXPECT_EQ(DropItem::Payload(DropItem::Text()).index(), 2U);
+    EXPECT_EQ(DropItem::Payload(DropItem::Link()).index(), 3U);
+}
+
+TEST(DropItem, IsAValue)
+{
+    const DropItem first = file(QString());
+    DropItem copy = first;
+    copy.setTitle(QStringLiteral("b"));
+    copy.setThumbnail({QImage(1, 1, QImage::Format_RGB32), QSizeF(30, 30)});
+    EXPECT_EQ(first.title(), QStringLiteral("a"));
+    EXPECT_FALSE(first.thumbnail().has_value());
+    EXPECT_EQ(copy.title(), QStringLiteral("b"));
+    EXPECT_TRUE(copy.thumbnail().has_value());
+    EXPECT_EQ(copy.id(), first.id());
+}
+
+TEST(DropItem, GetsAnIdOfItsOwn)
+{
+    EXPECT_FALSE(file({}).id().isNull());
+    EXPECT_NE(file({}).id(), file({}).id());
+}
+
+} // namespace
+} // namespace corvane

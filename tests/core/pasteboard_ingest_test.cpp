@@ -1,0 +1,480 @@
+#include "core/image_converter.h"
+#include "core/pasteboard_ingest.h"
+#include "core/temporary_spool.h"
+#include "fakes/fake_image_codec.h"
+#include "fakes/fake_pasteboard.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane {
+namespace {
+
+using test::contents;
+using test::exists;
+
+struct PasteboardIngestTest : testing::Test, test::TemporarySpool {
+    /// The only item of a drop.
+    DropItem single()
+    {
+        const QList<DropItem> items = ingest.readAll(pasteboard);
+        EXPECT_EQ(items.size(), 1);
+        return items.isEmpty() ? DropItem({}, {}, {}, false) : items.constFirst();
+    }
+    static QUrl fileOf(const DropItem &item)
+    {
+        const auto *file = std::get_if<DropItem::File>(&item.payload());
+        return file ? file->url : QUrl();
+    }
+    void offerText(const char *text) { pasteboard.offerText(QString::fromUtf8(text)); }
+    void offerLink(const char *address)
+    {
+        pasteboard.offerUrls({QUrl(QString::fromUtf8(address))});
+    }
+    void offerPng(const QByteArray &bytes) { pasteboard.offerData(bytes, png); }
+    void offerTiff(const QByteArray &bytes) { pasteboard.offerData(bytes, tiff); }
+
+    const QString png = QStringLiteral("image/png");
+    const QString tiff = QStringLiteral("image/tiff");
+    test::FakeImageCodec codec;
+    ImageConverter converter{codec, spool};
+    PasteboardIngest ingest{spool, converter, codec};
+    test::FakePasteboard pasteboard;
+};
+
+using Files = PasteboardIngestTest;
+
+TEST_F(Files, BecomeOneItemEachInTheirOrder)
+{
+    const QList<QUrl> urls
+        = {temporary.write("b.txt", "1"), temporary.write("a.png", "2"), temporary.write("c", "3")};
+    pasteboard.offerUrls(urls);
+    const QList<DropItem> items = ingest.readAll(pasteboard);
+    ASSERT_EQ(items.size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(fileOf(items[i]), urls[i]);
+        EXPECT_FALSE(items[i].isSpooled());
+        EXPECT_FALSE(items[i].thumbnail().has_value());
+    }
+    EXPECT_EQ(items[0].title(), QStringLiteral("b.txt"));
+    EXPECT_EQ(items[1].subtitle(), QStringLiteral("PNG · 1 byte"));
+    EXPECT_FALSE(exists(spool.directory()));
+}
+
+TEST_F(Files, ThatAreTheSameAreKeptApart)
+{
+    const QUrl url = temporary.write("a", "x");
+    pasteboard.offerUrls({url, url});
+    const QList<DropItem> items = ingest.readAll(pasteboard);
+    ASSERT_EQ(items.size(), 2);
+    EXPECT_NE(items[0].id(), items[1].id());
+}
+
+TEST_F(Files, WinOverEverythingElse)
+{
+    offerPng("png");
+    offerText("text");
+    pasteboard.promiseFile(QStringLiteral("a.png"), "x");
+    pasteboard.offerUrls({QUrl(QStringLiteral("http://x/")), temporary.write("a", "x")});
+    EXPECT_EQ(fileOf(single()), temporary.url("a"));
+    EXPECT_EQ(pasteboard.fetched, QStringList{QStringLiteral("fileUrls")});
+}
+
+TEST_F(Files, OfTiffBecomeSpooledPng)
+{
+    codec.teach("tiff bytes", {3, 2});
+    pasteboard.offerUrls({temporary.write("scan.tiff", "tiff bytes")});
+    const DropItem item = single();
+    EXPECT_EQ(item.title(), QStringLiteral("scan.png"));
+    EXPECT_TRUE(item.isSpooled());
+    EXPECT_TRUE(spool.contains(fileOf(item)));
+    EXPECT_EQ(contents(fileOf(item)), "image/png 3x2");
+    EXPECT_EQ(item.subtitle(), QStringLiteral("PNG · 13 bytes"));
+}
+
+TEST_F(Files, OfTiffStayWhereTheyAreWhenTheyCannotBeConverted)
+{
+    const QUrl broken = temporary.write("scan.tif", "broken");
+    EXPECT_EQ(fileOf(ingest.fileItem(broken)), broken);
+    EXPECT_FALSE(ingest.fileItem(broken).isSpooled());
+    codec.teach("tiff bytes", {3, 2});
+    spoil();
+    const QUrl good = temporary.write("good.tif", "tiff bytes");
+    EXPECT_EQ(fileOf(ingest.fileItem(good)), good);
+    EXPECT_EQ(ingest.fileItem(good).subtitle(), QStringLiteral("TIF · 10 bytes"));
+}
+
+TEST_F(Files, OfCamerasAreNoTiff)
+{
+    codec.teach("raw", {3, 2});
+    const QUrl raw = temporary.write("photo.nef", "raw");
+    EXPECT_EQ(fileOf(ingest.fileItem(raw)), raw);
+}
+
+TEST_F(Files, AreDescribedByKindAndSize)
+{
+    const auto described = [this](const QByteArray &name, const QByteArray &bytes) {
+        return PasteboardIngest::describe(temporary.write(name, bytes));
+    };
+    EXPECT_EQ(described("a.txt", QByteArray(2048, 'x')), QStringLiteral("TXT · 2 KB"));
+    EXPECT_EQ(described("noextension", "12"), QStringLiteral("2 bytes"));
+    EXPECT_EQ(described(".bashrc", "12"), QStringLiteral("2 bytes"));
+    EXPECT_EQ(described("archive.tar.gz", ""), QStringLiteral("GZ · 0 bytes"));
+    EXPECT_EQ(PasteboardIngest::describe(temporary.url("gone.txt")), QStringLiteral("TXT"));
+    EXPECT_EQ(PasteboardIngest::describe(temporary.url("gone")), QString());
+}
+
+TEST_F(Files, ThatArePipesHaveNoSize)
+{
+    ASSERT_EQ(::mkfifo(temporary.path("pipe.txt").constData(), 0600), 0);
+    EXPECT_EQ(PasteboardIngest::describe(temporary.url("pipe.txt")), QStringLiteral("TXT"));
+}
+
+TEST_F(Files, ThatAreFoldersSaySo)
+{
+    temporary.write("Photos.d/a", "x");
+    for (const char *name : {"Photos.d", "Photos.d/"}) {
+        const DropItem item = ingest.fileItem(temporary.url(name));
+        EXPECT_EQ(item.title(), QStringLiteral("Photos.d"));
+        EXPECT_EQ(item.subtitle(), QStringLiteral("Folder"));
+        EXPECT_EQ(item.glyph(), PhosphorIcon::Folder);
+    }
+}
+
+TEST_F(Files, WithAnyNameAreFound)
+{
+    for (const char *name :
+         {"a #1.txt", "100%.txt", "a b.txt", "\xf0\x9f\x90\xa6.txt", "a?.txt", "a\nb.txt"}) {
+        const DropItem item = ingest.fileItem(temporary.write(name, "12"));
+        EXPECT_EQ(item.title(), QString::fromUtf8(name));
+        EXPECT_EQ(item.subtitle(), QStringLiteral("TXT · 2 bytes"));
+    }
+    const QByteArray longest = QByteArray(251, 'x') + QByteArray(".txt");
+    EXPECT_EQ(ingest.fileItem(temporary.write(longest, "12")).title().size(), 255);
+}
+
+TEST_F(Files, WithANameThatIsNoUtf8AreFound)
+{
+    const QByteArray path = temporary.path("caf\xe9.txt");
+    ASSERT_EQ(::link(temporary.write("plain", "12").path().toUtf8().constData(), path.constData()),
+              0);
+    EXPECT_EQ(ingest.fileItem(file_url::fromNativePath(path)).subtitle(),
+              QStringLiteral("TXT · 2 bytes"));
+    ::unlink(path.constData());
+}
+
+using Pictures = PasteboardIngestTest;
+
+TEST_F(Pictures, AreSpooled)
+{
+    codec.teach("png bytes", {1200, 800});
+    offerPng("png bytes");
+    const DropItem item = single();
+    EXPECT_EQ(item.title(), QStringLiteral("Image.png"));
+    EXPECT_EQ(item.subtitle(), QStringLiteral("1200 × 800 · PNG"));
+    EXPECT_TRUE(item.isSpooled());
+    EXPECT_EQ(contents(fileOf(item)), "png bytes");
+    EXPECT_EQ(single().title(), QStringLiteral("Image 2.png"));
+}
+
+TEST_F(Pictures, OfPngWinOverTiff)
+{
+    codec.teach("tiff bytes", {3, 2});
+    offerTiff("tiff bytes");
+    offerPng("png bytes");
+    EXPECT_EQ(contents(fileOf(single())), "png bytes");
+    EXPECT_FALSE(pasteboard.fetched.contains(tiff));
+}
+
+TEST_F(Pictures, OfTiffBecomePng)
+{
+    codec.teach("tiff bytes", {3, 2});
+    offerTiff("tiff bytes");
+    const DropItem item = single();
+    EXPECT_EQ(item.title(), QStringLiteral("Image.png"));
+    EXPECT_EQ(item.subtitle(), QStringLiteral("PNG · 13 bytes"));
+    EXPECT_TRUE(item.isSpooled());
+    EXPECT_EQ(contents(fileOf(item)), "image/png 3x2");
+}
+
+TEST_F(Pictures, OfTiffThatCannotBeConvertedAreSpooledAsTheyAre)
+{
+    offerTiff("broken");
+    const DropItem item = single();
+    EXPECT_TRUE(item.title().startsWith(QStringLiteral("Image.tif"))) << qPrintable(item.title());
+    EXPECT_TRUE(item.subtitle().endsWith(QStringLiteral(" · 6 bytes")));
+    EXPECT_TRUE(item.isSpooled());
+    EXPECT_EQ(contents(fileOf(item)), "broken");
+}
+
+TEST_F(Pictures, StayInMemoryWithoutASpool)
+{
+    spoil();
+    offerPng("png bytes");
+    const DropItem item = single();
+    const auto *bytes = std::get_if<DropItem::ImageBytes>(&item.payload());
+    ASSERT_NE(bytes, nullptr);
+    EXPECT_EQ(bytes->data, "png bytes");
+    EXPECT_EQ(bytes->type, UTType::png());
+    EXPECT_EQ(item.title(), QStringLiteral("Image"));
+    EXPECT_EQ(item.subtitle(), QStringLiteral("PNG · 9 bytes"));
+    EXPECT_FALSE(item.isSpooled());
+}
+
+TEST_F(Pictures, WinOverLinksAndText)
+{
+    offerLink("http://x/");
+    offerText("text");
+    offerPng("png bytes");
+    EXPECT_EQ(single().title(), QStringLiteral("Image.png"));
+}
+
+TEST_F(Pictures, ThatNeverCameLeaveTheOthersTheirTurn)
+{
+    pasteboard.offered << png << tiff;
+    pasteboard.bytes.insert(png, QByteArray());
+    offerText("text");
+    EXPECT_EQ(single().title(), QStringLiteral("text"));
+}
+
+TEST_F(Pictures, OfATypeWithoutAnExtensionAreCalledImage)
+{
+    EXPECT_EQ(ingest.describe("12", UTType(QStringLiteral("x-own/kind"))),
+              QStringLiteral("IMAGE · 2 bytes"));
+}
+
+using PromisedFiles = PasteboardIngestTest;
+
+TEST_F(PromisedFiles, AreTakenBeforePixels)
+{
+    offerPng("png bytes");
+    pasteboard.promiseFile(QStringLiteral("Cat photo.jpeg"), "original");
+    const DropItem item = single();
+    EXPECT_EQ(item.title(), QStringLiteral("Cat photo.jpeg"));
+    EXPECT_EQ(item.subtitle(), QStringLiteral("JPEG · 8 bytes"));
+    EXPECT_TRUE(item.isSpooled());
+    EXPECT_TRUE(spool.contains(fileOf(item)));
+    EXPECT_EQ(contents(fileOf(item)), "original");
+    EXPECT_FALSE(pasteboard.fetched.contains(png));
+}
+
+TEST_F(PromisedFiles, GetASafeName)
+{
+    pasteboard.promiseFile(QStringLiteral("../../.ssh/..authorized:keys"), "x");
+    const DropItem item = single();
+    EXPECT_TRUE(spool.contains(fileOf(item)));
+    EXPECT_EQ(item.title(), QStringLiteral("authorized-keys"));
+    pasteboard.promisedName = QString();
+    EXPECT_EQ(single().title(), QStringLiteral("Item"));
+    pasteboard.promisedName = QString(100'000, QLatin1Char('x')) + QStringLiteral(".png");
+    EXPECT_EQ(single().title(), QString(120, QLatin1Char('x')) + QStringLiteral(".png"));
+}
+
+TEST_F(PromisedFiles, OfTiffBecomePng)
+{
+    codec.teach("tiff bytes", {3, 2});
+    pasteboard.promiseFile(QStringLiteral("scan.tiff"), "tiff bytes");
+    EXPECT_EQ(single().title(), QStringLiteral("scan.png"));
+    EXPECT_FALSE(exists(temporary.path("Corvane-4711/scan.tiff")));
+}
+
+TEST_F(PromisedFiles, ThatAreRefusedLeaveTheOthersTheirTurn)
+{
+    pasteboard.refuseFile(QStringLiteral("a.png"));
+    offerPng("png bytes");
+    EXPECT_EQ(single().title(), QStringLiteral("Image.png"));
+    EXPECT_FALSE(exists(temporary.path("Corvane-4711/a.png")));
+}
+
+TEST_F(PromisedFiles, ThatAreNotThereAfterAllLeaveTheOthersTheirTurn)
+{
+    pasteboard.refuseFile(QStringLiteral("a.png"));
+    pasteboard.writePromisedFile = [](const QUrl &) { return true; };
+    offerLink("http://x/a");
+    EXPECT_EQ(single().title(), QStringLiteral("/a"));
+    pasteboard.writePromisedFile = [](const QUrl &destination) {
+        return ::symlink("/etc/passwd", file_url::nativePath(destination).constData()) == 0;
+    };
+    EXPECT_EQ(single().title(), QStringLiteral("/a"));
+    EXPECT_FALSE(exists(temporary.path("Corvane-4711/a.png")));
+}
+
+TEST_F(PromisedFiles, AreNotAskedForWithoutASpool)
+{
+    spoil();
+    pasteboard.promiseFile(QStringLiteral("a.png"), "x");
+    offerPng("png bytes");
+    EXPECT_EQ(single().title(), QStringLiteral("Image"));
+    EXPECT_FALSE(pasteboard.fetched.contains(QStringLiteral("promisedFile")));
+}
+
+using Links = PasteboardIngestTest;
+
+TEST_F(Links, AreTitledWithTheirPath)
+{
+    offerLink("https://example.org/a/b?q=1");
+    const DropItem item = single();
+    EXPECT_EQ(item.title(), QStringLiteral("/a/b"));
+    EXPECT_EQ(item.subtitle(), QStringLiteral("example.org"));
+    EXPECT_FALSE(item.isSpooled());
+    const auto *link = std::get_if<DropItem::Link>(&item.payload());
+    ASSERT_NE(link, nullptr);
+    EXPECT_EQ(link->url, QUrl(QStringLiteral("https://example.org/a/b?q=1")));
+}
+
+TEST_F(Links, ToAHomePageAreTitledWithTheirAddress)
+{
+    for (const char *address :
+         {"https://example.org", "http://example.org/", "http://example.org?q"}) {
+        pasteboard = {};
+        offerLink(address);
+        EXPECT_EQ(single().title(), QString::fromLatin1(address));
+        EXPECT_EQ(single().subtitle(), QStringLiteral("example.org"));
+    }
+}
+
+TEST_F(Links, WithoutAHostAreDescribedByTheirAddress)
+{
+    offerLink("http:/a");
+    EXPECT_EQ(single().subtitle(), QStringLiteral("http:/a"));
+}
+
+TEST_F(Links, AreDecidedByTheFirstAddressAlone)
+{
+    pasteboard.offerUrls({QUrl(QStringLiteral("ftp://x/a")), QUrl(QStringLiteral("http://x/a"))});
+    EXPECT_TRUE(ingest.readAll(pasteboard).isEmpty());
+    offerText("ftp://x/a");
+    EXPECT_EQ(std::get_if<DropItem::Link>(&single().payload()), nullptr);
+    EXPECT_EQ(single().title(), QStringLiteral("ftp://x/a"));
+}
+
+TEST_F(Links, WinOverText)
+{
+    offerLink("http://x/a");
+    offerText("text");
+    EXPECT_EQ(single().title(), QStringLiteral("/a"));
+}
+
+using Texts = PasteboardIngestTest;
+
+TEST_F(Texts, AreTitledWithTheirFirstLineAndKeptAsTheyAre)
+{
+    offerText("hello\nworld");
+    const DropItem item = single();
+    EXPECT_EQ(item.title(), QStringLiteral("hello"));
+    EXPECT_EQ(item.subtitle(), QStringLiteral("11 characters"));
+    EXPECT_EQ(std::get<DropItem::Text>(item.payload()).string, QStringLiteral("hello\nworld"));
+    EXPECT_FALSE(item.isSpooled());
+}
+
+TEST_F(Texts, OfOneCharacterSaySo)
+{
+    offerText("x");
+    EXPECT_EQ(single().subtitle(), QStringLiteral("1 character"));
+    offerText("e\xcc\x81");
+    EXPECT_EQ(single().subtitle(), QStringLiteral("1 character"));
+}
+
+TEST_F(Texts, OfNothingButBlanksAreNoItem)
+{
+    for (const char *blank : {"", " ", " \n\t\r\n ", "\xc2\xa0\n"}) {
+        offerText(blank);
+        EXPECT_TRUE(ingest.readAll(pasteboard).isEmpty());
+    }
+}
+
+TEST_F(Texts, AreNotTrimmedButTheirTitleIs)
+{
+    offerText("\n\n  hello  \n x ");
+    EXPECT_EQ(single().title(), QStringLiteral("hello"));
+    EXPECT_EQ(single().subtitle(), QStringLiteral("15 characters"));
+    EXPECT_EQ(std::get<DropItem::Text>(single().payload()).string,
+              QStringLiteral("\n\n  hello  \n x "));
+    offerText("hello\r\nworld");
+    EXPECT_EQ(single().title(), QStringLiteral("hello"));
+}
+
+TEST_F(Texts, HaveAnEmptyTitleWhenTheirFirstLineIsBlank)
+{
+    offerText("   \nhello");
+    EXPECT_EQ(single().title(), QString());
+    EXPECT_EQ(single().subtitle(), QStringLiteral("9 characters"));
+}
+
+TEST_F(Texts, OfTwoHundredMegabytesAreSharedAndNotCopied)
+{
+    const QString line(200 * 1024 * 1024 / 2, QLatin1Char('x'));
+    pasteboard.offerText(line);
+    const DropItem item = single();
+    EXPECT_EQ(std::get<DropItem::Text>(item.payload()).string.constData(), line.constData());
+    EXPECT_EQ(item.subtitle(), QStringLiteral("104857600 characters"));
+    EXPECT_LT(item.title().size(), 20'000);
+    EXPECT_TRUE(line.startsWith(item.title()));
+}
+
+TEST_F(PasteboardIngestTest, FindsNothingOnAnEmptyPasteboard)
+{
+    EXPECT_TRUE(ingest.readAll(pasteboard).isEmpty());
+}
+
+TEST_F(PasteboardIngestTest, TakesRichTextButHasNoReaderForIt)
+{
+    EXPECT_TRUE(PasteboardIngest::acceptedTypes().contains(QStringLiteral("application/rtf")));
+    pasteboard.offerData("{\\rtf1 hello}", QStringLiteral("text/rtf"));
+    EXPECT_TRUE(ingest.readAll(pasteboard).isEmpty());
+    EXPECT_FALSE(PasteboardIngest::canRead(pasteboard));
+}
+
+TEST_F(PasteboardIngestTest, NamesTheTypesThatItTakesInTheirOrder)
+{
+    const QStringList types = PasteboardIngest::acceptedTypes();
+    const QStringList main = {QStringLiteral("text/uri-list"),
+                              png,
+                              tiff,
+                              QStringLiteral("text/x-moz-url"),
+                              QStringLiteral("text/plain"),
+                              QStringLiteral("application/rtf"),
+                              QStringLiteral("text/rtf")};
+    qsizetype last = -1;
+    for (const QString &type : main) {
+        EXPECT_GT(types.indexOf(type), last) << qPrintable(type);
+        last = types.indexOf(type);
+    }
+    EXPECT_TRUE(types.contains(QStringLiteral("UTF8_STRING")));
+}
+
+TEST_F(PasteboardIngestTest, FetchesNothingLargeBeforeTheDrop)
+{
+    offerPng("png bytes");
+    offerText("text");
+    offerLink("http://x/");
+    EXPECT_TRUE(PasteboardIngest::canRead(pasteboard));
+    for (const QString &type :
+         {png, tiff, QStringLiteral("string"), QStringLiteral("promisedFile")})
+        EXPECT_FALSE(pasteboard.fetched.contains(type)) << qPrintable(type);
+    EXPECT_FALSE(exists(spool.directory()));
+}
+
+TEST_F(PasteboardIngestTest, SaysBeforeTheDropWhatItCouldTake)
+{
+    const auto canRead = [this](const char *type) {
+        pasteboard = {};
+        pasteboard.offered << QString::fromLatin1(type);
+        return PasteboardIngest::canRead(pasteboard);
+    };
+    for (const char *type : {"image/png", "image/tiff", "text/plain", "UTF8_STRING", "STRING",
+                             "text/plain;charset=utf-16", "TEXT/PLAIN"})
+        EXPECT_TRUE(canRead(type)) << type;
+    for (const char *type : {"image/jpeg", "text/html", "application/x-thing", "text/uri-list"})
+        EXPECT_FALSE(canRead(type)) << type;
+    const auto canReadAddress = [this](const char *address) {
+        pasteboard = {};
+        offerLink(address);
+        return PasteboardIngest::canRead(pasteboard);
+    };
+    EXPECT_TRUE(canReadAddress("file:///a"));
+    EXPECT_TRUE(canReadAddress("https://x/"));
+    EXPECT_FALSE(canReadAddress("ftp://x/"));
+}
+
+} // namespace
+} // namespace corvane

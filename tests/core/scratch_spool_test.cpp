@@ -1,0 +1,375 @@
+#include "core/scratch_spool.h"
+#include "core/temporary_spool.h"
+
+#include <gtest/gtest.h>
+#include <sys/resource.h>
+
+#include <memory>
+
+namespace corvane {
+namespace {
+
+using test::contents;
+using test::exists;
+
+const QString image = QStringLiteral("Image");
+const QString png = QStringLiteral("png");
+
+struct ScratchSpoolTest : testing::Test, test::TemporarySpool {
+    QByteArray directory() const { return temporary.path("Corvane-4711"); }
+    QString nameOf(const std::optional<QUrl> &url)
+    {
+        return url ? file_url::lastPathComponent(*url) : QString();
+    }
+};
+
+TEST_F(ScratchSpoolTest, MakesSafeNames)
+{
+    const auto safe
+        = [](const char *name) { return ScratchSpool::safeBasename(QString::fromUtf8(name)); };
+    EXPECT_EQ(safe("  "), QStringLiteral("Item"));
+    EXPECT_EQ(safe(""), QStringLiteral("Item"));
+    EXPECT_EQ(safe("..."), QStringLiteral("Item"));
+    EXPECT_EQ(safe("..hidden"), QStringLiteral("hidden"));
+    EXPECT_EQ(safe("a/b:c"), QStringLiteral("a-b-c"));
+    EXPECT_EQ(safe("../../etc/passwd"), QStringLiteral("-..-etc-passwd"));
+    EXPECT_EQ(safe(" \n name\t"), QStringLiteral("name"));
+}
+
+TEST_F(ScratchSpoolTest, StripsDotsBeforeItTrims)
+{
+    EXPECT_EQ(ScratchSpool::safeBasename(QStringLiteral(" .hidden")), QStringLiteral(".hidden"));
+    EXPECT_EQ(ScratchSpool::safeBasename(QStringLiteral(". name")), QStringLiteral("name"));
+}
+
+TEST_F(ScratchSpoolTest, CutsNamesToOneHundredAndTwentyCharacters)
+{
+    EXPECT_EQ(ScratchSpool::safeBasename(QString(300, QLatin1Char('x'))),
+              QString(120, QLatin1Char('x')));
+    const QString bird = QStringLiteral("\U0001F426");
+    EXPECT_EQ(ScratchSpool::safeBasename(bird.repeated(300)), bird.repeated(120));
+}
+
+TEST_F(ScratchSpoolTest, IsNamedAfterTheProcessAndMadeOnFirstUse)
+{
+    EXPECT_EQ(file_url::nativePath(spool.directory()), directory());
+    EXPECT_FALSE(exists(directory()));
+    EXPECT_TRUE(spool.reserve(image, png).has_value());
+    struct stat status = {};
+    ASSERT_EQ(::lstat(directory().constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0700U);
+}
+
+TEST_F(ScratchSpoolTest, NumbersNamesThatAreTaken)
+{
+    EXPECT_EQ(nameOf(spool.store("1", image, png)), QStringLiteral("Image.png"));
+    EXPECT_EQ(nameOf(spool.store("2", image, png)), QStringLiteral("Image 2.png"));
+    EXPECT_EQ(nameOf(spool.store("3", image, png)), QStringLiteral("Image 3.png"));
+    EXPECT_EQ(contents(temporary.url("Corvane-4711/Image 2.png")), "2");
+}
+
+TEST_F(ScratchSpoolTest, ReservesWithoutMakingTheFile)
+{
+    EXPECT_EQ(nameOf(spool.reserve(image, png)), QStringLiteral("Image.png"));
+    EXPECT_EQ(nameOf(spool.reserve(image, png)), QStringLiteral("Image.png"));
+    EXPECT_FALSE(exists(temporary.path("Corvane-4711/Image.png")));
+}
+
+TEST_F(ScratchSpoolTest, DoesNotWriteThroughALinkThatLeadsNowhere)
+{
+    ASSERT_TRUE(spool.reserve(image, png).has_value());
+    const QByteArray link = temporary.path("Corvane-4711/Image.png");
+    ASSERT_EQ(::symlink(temporary.path("nowhere").constData(), link.constData()), 0);
+    EXPECT_EQ(nameOf(spool.store("x", image, png)), QStringLiteral("Image 2.png"));
+    EXPECT_FALSE(exists(temporary.path("nowhere")));
+}
+
+TEST_F(ScratchSpoolTest, KeepsNamesWithinTwoHundredAndFiftyFiveBytes)
+{
+    const QString birds = QStringLiteral("\U0001F426").repeated(120);
+    for (int i = 0; i < 11; ++i) {
+        const auto url = spool.store("x", birds, png);
+        ASSERT_TRUE(url.has_value());
+        const QByteArray name = nameOf(url).toUtf8();
+        EXPECT_LE(name.size(), 255);
+        EXPECT_GT(name.size(), 240);
+        EXPECT_TRUE(name.endsWith(".png"));
+        EXPECT_FALSE(nameOf(url).contains(QChar::ReplacementCharacter));
+    }
+    EXPECT_TRUE(spool.store("x", QString(300, QLatin1Char('x')), QString(300, QLatin1Char('y'))));
+}
+
+TEST_F(ScratchSpoolTest, KeepsAHostileExtensionInside)
+{
+    const auto url = spool.store("x", image, QStringLiteral("/../../png"));
+    ASSERT_TRUE(url.has_value());
+    EXPECT_TRUE(spool.contains(*url));
+    EXPECT_EQ(nameOf(url), QStringLiteral("Image.-..-..-png"));
+    EXPECT_TRUE(spool.contains(*spool.store("x", QStringLiteral("a\0b"), QStringLiteral("p\0g"))));
+    EXPECT_EQ(nameOf(spool.store("x", QStringLiteral("README"), {})), QStringLiteral("README"));
+}
+
+TEST_F(ScratchSpoolTest, GivesFilesToTheirOwnerAlone)
+{
+    const auto url = spool.store("x", image, png);
+    struct stat status = {};
+    ASSERT_EQ(::lstat(file_url::nativePath(*url).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0600U);
+}
+
+TEST_F(ScratchSpoolTest, ContainsWholeComponentsOnly)
+{
+    const QUrl inside = *spool.store("x", image, png);
+    EXPECT_TRUE(spool.contains(inside));
+    EXPECT_TRUE(spool.contains(temporary.url("Corvane-4711/not-there")));
+    EXPECT_TRUE(spool.contains(temporary.url("./Corvane-4711/../Corvane-4711/Image.png")));
+    EXPECT_FALSE(spool.contains(spool.directory()));
+    EXPECT_FALSE(spool.contains(temporary.url("Corvane-4711/")));
+    EXPECT_FALSE(spool.contains(temporary.write("Corvane-47110/a", "x")));
+    EXPECT_FALSE(spool.contains(temporary.url("Corvane-4711/..")));
+    EXPECT_FALSE(spool.contains(temporary.url("Corvane-4711/.")));
+    EXPECT_FALSE(spool.contains(temporary.write("a", "x")));
+    EXPECT_FALSE(spool.contains(temporary.url("Corvane-4711/../a")));
+    EXPECT_FALSE(spool.contains(QUrl(QStringLiteral("https://x") + inside.path())));
+    EXPECT_FALSE(spool.contains(QUrl()));
+}
+
+TEST_F(ScratchSpoolTest, FindsItselfBehindALinkedTemporaryDirectory)
+{
+    const QByteArray link = temporary.path("link");
+    const test::TemporaryFolder real;
+    ASSERT_EQ(::symlink(real.path().constData(), link.constData()), 0);
+    ScratchSpool linked(link, 1);
+    const auto url = linked.store("x", image, png);
+    ASSERT_TRUE(url.has_value());
+    EXPECT_TRUE(linked.contains(*url));
+    EXPECT_TRUE(linked.contains(real.url("Corvane-1/Image.png")));
+    linked.discard(*url);
+    EXPECT_FALSE(exists(*url));
+}
+
+TEST_F(ScratchSpoolTest, DiscardsOnlyWhatIsInside)
+{
+    const QUrl inside = *spool.store("x", image, png);
+    const QUrl outside = temporary.write("a", "x");
+    const QUrl neighbour = temporary.write("Corvane-47110/a", "x");
+    spool.discard(outside);
+    spool.discard(neighbour);
+    spool.discard(spool.directory());
+    spool.discard(temporary.url("Corvane-4711/../a"));
+    spool.discard(temporary.url("Corvane-4711/.."));
+    EXPECT_TRUE(exists(outside));
+    EXPECT_TRUE(exists(neighbour));
+    EXPECT_TRUE(exists(inside));
+    spool.discard(inside);
+    EXPECT_FALSE(exists(inside));
+    spool.discard(inside);
+}
+
+TEST_F(ScratchSpoolTest, RemovesALinkAndNotWhatItLeadsTo)
+{
+    const QUrl outside = temporary.write("keep/a", "x");
+    ASSERT_TRUE(spool.reserve(image, png).has_value());
+    const QByteArray link = temporary.path("Corvane-4711/link");
+    ASSERT_EQ(::symlink(temporary.path("keep").constData(), link.constData()), 0);
+    spool.discard(temporary.url("Corvane-4711/link/a"));
+    EXPECT_TRUE(exists(outside)) << "the parent is resolved";
+    spool.discard(file_url::fromNativePath(link));
+    EXPECT_FALSE(exists(link));
+    ASSERT_EQ(::symlink(temporary.path("keep").constData(), link.constData()), 0);
+    spool.discardAll();
+    EXPECT_FALSE(exists(directory()));
+    EXPECT_TRUE(exists(outside));
+}
+
+TEST_F(ScratchSpoolTest, GoesWithEverythingInIt)
+{
+    spool.store("x", image, png);
+    temporary.write("Corvane-4711/folder/deep/a", "x");
+    spool.discardAll();
+    EXPECT_FALSE(exists(directory()));
+    spool.discardAll();
+}
+
+TEST_F(ScratchSpoolTest, CanBeUsedAgainAfterItWasTidiedAway)
+{
+    spool.store("x", image, png);
+    QDir(temporary.directory.filePath(QStringLiteral("Corvane-4711"))).removeRecursively();
+    EXPECT_TRUE(spool.store("x", image, png).has_value());
+}
+
+TEST_F(ScratchSpoolTest, IsAnotherDirectoryForEachProcess)
+{
+    ScratchSpool second(temporary.path(), 4712);
+    const auto first = spool.store("1", image, png);
+    const auto other = second.store("2", image, png);
+    ASSERT_TRUE(first && other);
+    EXPECT_NE(*first, *other);
+    second.discardAll();
+    EXPECT_TRUE(exists(*first));
+}
+
+TEST_F(ScratchSpoolTest, RefusesALinkInItsPlace)
+{
+    ASSERT_EQ(::mkdir(temporary.path("trap").constData(), 0700), 0);
+    ASSERT_EQ(::symlink(temporary.path("trap").constData(), directory().constData()), 0);
+    const QUrl inTrap = temporary.write("trap/a", "x");
+    EXPECT_FALSE(spool.reserve(image, png).has_value());
+    EXPECT_FALSE(spool.store("x", image, png).has_value());
+    EXPECT_FALSE(spool.contains(inTrap));
+    spool.discard(temporary.url("Corvane-4711/a"));
+    spool.discardAll();
+    EXPECT_TRUE(exists(inTrap));
+    EXPECT_TRUE(exists(directory()));
+}
+
+TEST_F(ScratchSpoolTest, RefusesADirectoryThatIsOpenToOthers)
+{
+    for (const mode_t mode : {0755U, 0710U, 0701U, 0777U}) {
+        ASSERT_EQ(::mkdir(directory().constData(), 0700), 0);
+        ASSERT_EQ(::chmod(directory().constData(), mode), 0);
+        EXPECT_FALSE(spool.reserve(image, png).has_value()) << mode;
+        ASSERT_EQ(::rmdir(directory().constData()), 0);
+    }
+}
+
+TEST_F(ScratchSpoolTest, RefusesADirectoryOfSomebodyElse)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root can give a directory away";
+    ASSERT_EQ(::mkdir(directory().constData(), 0700), 0);
+    ASSERT_EQ(::chown(directory().constData(), 65534, 65534), 0);
+    EXPECT_FALSE(spool.reserve(image, png).has_value());
+}
+
+TEST_F(ScratchSpoolTest, RefusesADirectoryThatAnotherProcessHolds)
+{
+    ASSERT_TRUE(spool.reserve(image, png).has_value());
+    // A process in another container may have the same number.
+    ScratchSpool sameNumber(temporary.path(), 4711);
+    EXPECT_FALSE(sameNumber.reserve(image, png).has_value());
+    sameNumber.discardAll();
+    EXPECT_TRUE(exists(directory()));
+}
+
+TEST_F(ScratchSpoolTest, TakesOverADirectoryThatADeadProcessLeft)
+{
+    ASSERT_EQ(::mkdir(directory().constData(), 0700), 0);
+    temporary.write("Corvane-4711/Image.png", "old");
+    EXPECT_EQ(nameOf(spool.store("x", image, png)), QStringLiteral("Image 2.png"));
+}
+
+TEST_F(ScratchSpoolTest, HasNoAddressWhereAFileIsInTheWay)
+{
+    spoil();
+    EXPECT_FALSE(spool.reserve(image, png).has_value());
+    spool.discardAll();
+    EXPECT_TRUE(exists(directory()));
+}
+
+TEST_F(ScratchSpoolTest, MakesATemporaryDirectoryThatIsMissing)
+{
+    ScratchSpool deep(temporary.path("not/there/yet"), 1);
+    EXPECT_TRUE(deep.store("x", image, png).has_value());
+}
+
+/// Files can grow no larger while it lives: what a full disk does to a write.
+class FullDisk {
+public:
+    FullDisk()
+    {
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit tiny = {16, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &tiny);
+        m_handler = ::signal(SIGXFSZ, SIG_IGN);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &m_before);
+        ::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_before = {};
+    void (*m_handler)(int) = nullptr;
+};
+
+TEST_F(ScratchSpoolTest, LeavesNothingBehindWhenTheDiskIsFull)
+{
+    ASSERT_TRUE(spool.reserve(image, png).has_value());
+    {
+        const FullDisk fullDisk;
+        EXPECT_FALSE(spool.store(QByteArray(1000, 'x'), image, png).has_value());
+    }
+    const auto everything = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+    EXPECT_EQ(QDir(QFile::decodeName(directory())).entryList(everything), QStringList());
+    EXPECT_EQ(nameOf(spool.store("x", image, png)), QStringLiteral("Image.png"));
+}
+
+struct LeftoversTest : ScratchSpoolTest {
+    QByteArray leave(const QByteArray &name)
+    {
+        temporary.write(name + QByteArray("/Image.png"), "x");
+        ::chmod(temporary.path(name).constData(), 0700);
+        return temporary.path(name);
+    }
+};
+
+TEST_F(LeftoversTest, OfTheDeadAreRemoved)
+{
+    const QByteArray dead = leave("Corvane-99");
+    // The number of a living process says nothing.
+    const QByteArray reused = leave(QByteArray("Corvane-") + QByteArray::number(::getpid()));
+    spool.removeLeftovers();
+    EXPECT_FALSE(exists(dead));
+    EXPECT_FALSE(exists(reused));
+}
+
+TEST_F(LeftoversTest, AreNotWhatTheLivingHold)
+{
+    ScratchSpool living(temporary.path(), 99);
+    const auto held = living.store("x", image, png);
+    const auto own = spool.store("x", image, png);
+    spool.removeLeftovers();
+    EXPECT_TRUE(exists(*held));
+    EXPECT_TRUE(exists(*own));
+}
+
+TEST_F(LeftoversTest, AreLeftAloneWhereTheyAreNotSafe)
+{
+    const QByteArray open = leave("Corvane-1");
+    ::chmod(open.constData(), 0755);
+    const QUrl target = temporary.write("keep/a", "x");
+    ::chmod(temporary.path("keep").constData(), 0700);
+    const QByteArray link = temporary.path("Corvane-2");
+    ASSERT_EQ(::symlink(temporary.path("keep").constData(), link.constData()), 0);
+    spool.removeLeftovers();
+    EXPECT_TRUE(exists(open));
+    EXPECT_TRUE(exists(link));
+    EXPECT_TRUE(exists(target));
+}
+
+TEST_F(LeftoversTest, AreOnlyWhatIsNamedLikeASpool)
+{
+    for (const char *name :
+         {"Corvane-Preview-1", "Corvane-", "Corvane-1x", "corvane-1", "Other-1"}) {
+        const QByteArray path = leave(name);
+        spool.removeLeftovers();
+        EXPECT_TRUE(exists(path)) << name;
+    }
+}
+
+TEST_F(LeftoversTest, OfSomebodyElseAreLeftAlone)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root can give a directory away";
+    const QByteArray foreign = leave("Corvane-5");
+    ASSERT_EQ(::chown(foreign.constData(), 65534, 65534), 0);
+    spool.removeLeftovers();
+    EXPECT_TRUE(exists(foreign));
+}
+
+} // namespace
+} // namespace corvane

@@ -1,0 +1,200 @@
+#include "core/shelf_store_fixture.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane {
+namespace {
+
+using test::ShelfStoreTest;
+
+Image picture()
+{
+    QImage bitmap(2, 2, QImage::Format_RGB32);
+    bitmap.fill(Qt::red);
+    return {bitmap, QSizeF(30, 30)};
+}
+
+LinkPreview preview(const char *title, const std::optional<QString> &siteName = std::nullopt)
+{
+    return {QString::fromLatin1(title), siteName, std::nullopt};
+}
+
+using Thumbnails = ShelfStoreTest;
+
+TEST_F(Thumbnails, AreAskedForByKindInOrder)
+{
+    const DropItem bytes(DropItem::ImageBytes{"png", UTType::png()}, {}, {}, false);
+    const DropItem first = file("a");
+    store.accept({first, text("b"), bytes, link("http://x/")});
+    ASSERT_EQ(thumbnails.requests.size(), 2U);
+    EXPECT_EQ(thumbnails.requests[0].url, urlOf(first));
+    EXPECT_EQ(thumbnails.requests[1].data, "png");
+}
+
+TEST_F(Thumbnails, AreStartedAfterEverythingWasPublished)
+{
+    store.observeState(
+        [this](ShelfState, ShelfState) { detail << QString::number(thumbnails.requests.size()); });
+    store.accept({file("a")});
+    EXPECT_EQ(detail, QStringList{QStringLiteral("0")});
+    EXPECT_EQ(thumbnails.requests.size(), 1U);
+}
+
+TEST_F(Thumbnails, AreMergedAndPublished)
+{
+    store.accept({file("a"), file("b")});
+    log.clear();
+    thumbnails.requests[1].completion(picture());
+    EXPECT_FALSE(store.items()[0].thumbnail().has_value());
+    EXPECT_TRUE(store.items()[1].thumbnail().has_value());
+    EXPECT_EQ(log, QStringList{QStringLiteral("items ab")});
+}
+
+TEST_F(Thumbnails, ThatDidNotComeChangeNothing)
+{
+    store.accept({file("a")});
+    log.clear();
+    thumbnails.requests[0].completion(std::nullopt);
+    EXPECT_EQ(log, QStringList());
+}
+
+TEST_F(Thumbnails, FindTheirItemWhereverItIsNow)
+{
+    store.accept({file("a"), file("b"), file("c")});
+    store.discard(0, false);
+    thumbnails.requests[2].completion(picture());
+    EXPECT_FALSE(store.items()[0].thumbnail().has_value());
+    EXPECT_TRUE(store.items()[1].thumbnail().has_value());
+}
+
+TEST_F(Thumbnails, OfAnItemThatLeftAreDropped)
+{
+    store.accept({file("a"), file("b")});
+    store.discard(0, false);
+    log.clear();
+    thumbnails.requests[0].completion(picture());
+    EXPECT_EQ(log, QStringList());
+    EXPECT_FALSE(store.items()[0].thumbnail().has_value());
+}
+
+TEST_F(Thumbnails, AndPreviewsMayComeAfterTheStoreIsGone)
+{
+    store.accept({file("a"), link("http://x/")});
+    ownedStore.reset();
+    log.clear();
+    thumbnails.requests[0].completion(picture());
+    linkPreviews.requests[0].completion(preview("title"));
+    EXPECT_EQ(log, QStringList());
+}
+
+TEST_F(Thumbnails, AreMergedWithoutCopyingTheList)
+{
+    QList<DropItem> items;
+    for (int i = 0; i < 10'000; ++i)
+        items << DropItem(DropItem::File{QUrl(QStringLiteral("file:///a"))}, {}, {}, false);
+    store.accept(items);
+    items.clear();
+    thumbnails.requests[0].completion(picture());
+    const DropItem *list = store.items().constData();
+    for (std::size_t i = 1; i < thumbnails.requests.size(); i += 1000)
+        thumbnails.requests[i].completion(picture());
+    EXPECT_EQ(store.items().constData(), list);
+}
+
+using LinkPreviews = ShelfStoreTest;
+
+TEST_F(LinkPreviews, AreAskedForLinksAlone)
+{
+    store.accept({text("a"), link("http://x/"), file("b")});
+    ASSERT_EQ(linkPreviews.requests.size(), 1U);
+    EXPECT_EQ(linkPreviews.requests[0].url, QUrl(QStringLiteral("http://x/")));
+}
+
+TEST_F(LinkPreviews, AreNotAskedForWhenTheyAreOff)
+{
+    settings.setLinkPreviews(false);
+    store.accept({link("http://x/")});
+    EXPECT_TRUE(linkPreviews.requests.empty());
+}
+
+TEST_F(LinkPreviews, PublishTitleAndSubtitleEachOnItsOwn)
+{
+    store.accept({link("http://x.org/a")});
+    log.clear();
+    store.observeItems([this](const QList<DropItem> &items) {
+        detail << items[0].title() + QLatin1Char('|') + items[0].subtitle();
+    });
+    linkPreviews.requests[0].completion(preview("New", QStringLiteral("Site")));
+    EXPECT_EQ(detail, (QStringList{QStringLiteral("New|old"), QStringLiteral("New|Site")}));
+}
+
+TEST_F(LinkPreviews, TakeTheHostWhereTheSiteHasNoName)
+{
+    store.accept({link("http://x.org/a"), link("http:/a")});
+    linkPreviews.requests[0].completion(preview("New"));
+    linkPreviews.requests[1].completion(preview("New"));
+    EXPECT_EQ(store.items()[0].subtitle(), QStringLiteral("x.org"));
+    EXPECT_EQ(store.items()[1].subtitle(), QStringLiteral("http:/a"));
+}
+
+TEST_F(LinkPreviews, CountAnEmptySiteNameAsPresent)
+{
+    store.accept({link("http://x.org/a")});
+    linkPreviews.requests[0].completion(preview("New", QStringLiteral("")));
+    EXPECT_EQ(store.items()[0].subtitle(), QString());
+}
+
+TEST_F(LinkPreviews, WithoutATitleMayStillBringAPicture)
+{
+    store.accept({link("http://x.org/a")});
+    log.clear();
+    LinkPreview found = preview("", QStringLiteral("Site"));
+    found.image = picture();
+    linkPreviews.requests[0].completion(found);
+    EXPECT_EQ(store.items()[0].title(), QStringLiteral("http://x.org/a"));
+    EXPECT_EQ(store.items()[0].subtitle(), QStringLiteral("old"));
+    EXPECT_TRUE(store.items()[0].thumbnail().has_value());
+    EXPECT_EQ(log.size(), 1);
+}
+
+TEST_F(LinkPreviews, PublishThreeTimesWithAPicture)
+{
+    store.accept({link("http://x.org/a")});
+    log.clear();
+    LinkPreview found = preview("New");
+    found.image = picture();
+    linkPreviews.requests[0].completion(found);
+    EXPECT_EQ(log.size(), 3);
+}
+
+TEST_F(LinkPreviews, ThatFailedChangeNothing)
+{
+    store.accept({link("http://x.org/a")});
+    log.clear();
+    linkPreviews.requests[0].completion(std::nullopt);
+    EXPECT_EQ(log, QStringList());
+}
+
+TEST_F(LinkPreviews, OfAnItemThatLeftAreDropped)
+{
+    store.accept({link("http://x.org/a"), text("b")});
+    store.discard(0, false);
+    log.clear();
+    linkPreviews.requests[0].completion(preview("New"));
+    EXPECT_EQ(log, QStringList());
+}
+
+TEST_F(LinkPreviews, StopWhenAnObserverRemovesTheItemInBetween)
+{
+    store.accept({link("http://x.org/a")});
+    bool isFirst = true;
+    store.observeItems([&](const QList<DropItem> &) {
+        if (std::exchange(isFirst, false))
+            store.clearAll();
+    });
+    linkPreviews.requests[0].completion(preview("New"));
+    EXPECT_TRUE(store.items().isEmpty());
+}
+
+} // namespace
+} // namespace corvane
