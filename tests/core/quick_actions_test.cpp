@@ -1,0 +1,181 @@
+#include "core/feedback.h"
+#include "core/quick_actions.h"
+#include "core/temporary_spool.h"
+#include "fakes/fake_general_pasteboard.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace corvane {
+namespace {
+
+const DropItem text(DropItem::Text{QStringLiteral("h\u00e9llo\n")}, {}, {}, false);
+const DropItem link(DropItem::Link{QUrl(QStringLiteral("https://x.org/a%20b?q#f"))}, {}, {}, false);
+const DropItem image(DropItem::ImageBytes{"png bytes", UTType::png()}, {}, {}, false);
+
+struct QuickActionsTest : testing::Test {
+    QuickActionsTest()
+    {
+        feedback.handler = [this](const QString &message) { messages << message; };
+    }
+
+    DropItem file(const QByteArray &name, const QByteArray &contents)
+    {
+        return DropItem(DropItem::File{temporary.write(name, contents)}, {}, {}, false);
+    }
+    const PasteboardContents &written()
+    {
+        EXPECT_EQ(pasteboard.writes.size(), 1U);
+        return pasteboard.writes.back();
+    }
+    /// The only writer of the last write, if it is of that kind.
+    template<typename Content>
+    Content writer()
+    {
+        EXPECT_EQ(written().writers.size(), 1U);
+        return std::get<Content>(written().writers.front().content);
+    }
+    /// What copying as a data URI puts on the clipboard.
+    std::optional<QString> dataUri(const DropItem &item)
+    {
+        actions.copy(item, true);
+        return messages.last() == QStringLiteral("Data URI copied")
+            ? pasteboard.writes.back().string
+            : std::nullopt;
+    }
+
+    test::TemporaryFolder temporary;
+    test::FakeGeneralPasteboard pasteboard;
+    Feedback feedback;
+    QuickActions actions{pasteboard, feedback};
+    QStringList messages;
+};
+
+TEST_F(QuickActionsTest, CopiesAFileAndItsPath)
+{
+    const DropItem item = file("a #1.txt", "x");
+    actions.copy(item, false);
+    EXPECT_EQ(writer<PasteboardWriter::File>().url, temporary.url("a #1.txt"));
+    EXPECT_EQ(written().string, QString::fromUtf8(temporary.path("a #1.txt")));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Path copied")});
+}
+
+TEST_F(QuickActionsTest, CopiesAnImage)
+{
+    actions.copy(image, false);
+    EXPECT_EQ(writer<PasteboardWriter::Data>().bytes, "png bytes");
+    EXPECT_EQ(writer<PasteboardWriter::Data>().type, UTType::png());
+    EXPECT_FALSE(written().string.has_value());
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Image copied")});
+}
+
+TEST_F(QuickActionsTest, CopiesATextAsItIs)
+{
+    actions.copy(text, false);
+    EXPECT_EQ(written().string, QStringLiteral("h\u00e9llo\n"));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Text copied")});
+}
+
+TEST_F(QuickActionsTest, CopiesALinkAndItsFullText)
+{
+    actions.copy(link, false);
+    EXPECT_EQ(writer<PasteboardWriter::Link>().url, std::get<DropItem::Link>(link.payload()).url);
+    EXPECT_EQ(written().string, QStringLiteral("https://x.org/a%20b?q#f"));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Link copied")});
+}
+
+TEST_F(QuickActionsTest, CopiesNothingOfNothing)
+{
+    actions.copy(QList<DropItem>());
+    EXPECT_TRUE(pasteboard.writes.empty());
+    EXPECT_TRUE(messages.isEmpty());
+}
+
+TEST_F(QuickActionsTest, CopiesAListOfOneLikeTheOne)
+{
+    actions.copy({link});
+    EXPECT_EQ(written().string, QStringLiteral("https://x.org/a%20b?q#f"));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Link copied")});
+}
+
+TEST_F(QuickActionsTest, CopiesSeveralInOneGoAndCountsThem)
+{
+    actions.copy({text, link});
+    ASSERT_EQ(written().writers.size(), 2U);
+    EXPECT_TRUE(std::holds_alternative<PasteboardWriter::Text>(written().writers[0].content));
+    EXPECT_TRUE(std::holds_alternative<PasteboardWriter::Link>(written().writers[1].content));
+    EXPECT_FALSE(written().string.has_value());
+    EXPECT_EQ(messages, QStringList{QStringLiteral("2 items copied")});
+}
+
+TEST_F(QuickActionsTest, WorksWhereNobodyShowsMessages)
+{
+    feedback.handler = {};
+    actions.copy(text, false);
+    EXPECT_EQ(pasteboard.writes.size(), 1U);
+}
+
+using DataUris = QuickActionsTest;
+
+TEST_F(DataUris, AreMadeOfText)
+{
+    EXPECT_EQ(dataUri(text), QStringLiteral("data:text/plain;base64,aMOpbGxvCg=="));
+    EXPECT_TRUE(written().writers.empty());
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Data URI copied")});
+}
+
+TEST_F(DataUris, AreMadeOfImages)
+{
+    EXPECT_EQ(dataUri(image), QStringLiteral("data:image/png;base64,cG5nIGJ5dGVz"));
+    const DropItem untyped(DropItem::ImageBytes{"x", UTType()}, {}, {}, false);
+    EXPECT_EQ(dataUri(untyped), QStringLiteral("data:application/octet-stream;base64,eA=="));
+}
+
+TEST_F(DataUris, OfFilesGoByTheirExtensionAndNotTheirContents)
+{
+    EXPECT_EQ(dataUri(file("a.txt", "\x89PNG\r\n\x1a\n")),
+              QStringLiteral("data:text/plain;base64,iVBORw0KGgo="));
+    EXPECT_EQ(dataUri(file("plain", "text")),
+              QStringLiteral("data:application/octet-stream;base64,dGV4dA=="));
+    EXPECT_EQ(dataUri(file("empty.png", "")), QStringLiteral("data:image/png;base64,"));
+}
+
+TEST_F(DataUris, HaveNoLineBreaks)
+{
+    const auto uri = dataUri(file("a.bin", QByteArray(10'000, '\xff')));
+    ASSERT_TRUE(uri.has_value());
+    EXPECT_FALSE(uri->contains(QLatin1Char('\n')));
+}
+
+TEST_F(DataUris, EndJustBelowTheLimit)
+{
+    EXPECT_TRUE(dataUri(file("below", QByteArray(8'388'607, 'x'))).has_value());
+    EXPECT_FALSE(dataUri(file("at", QByteArray(8'388'608, 'x'))).has_value());
+}
+
+TEST_F(DataUris, OfFilesThatAreTooLargeGiveWayToThePath)
+{
+    actions.copy(file("large.bin", QByteArray(9'000'000, 'x')), true);
+    EXPECT_EQ(writer<PasteboardWriter::File>().url, temporary.url("large.bin"));
+    EXPECT_EQ(written().string, QString::fromUtf8(temporary.path("large.bin")));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Path copied")});
+}
+
+TEST_F(DataUris, OfWhatCannotBeReadGiveWayToThePath)
+{
+    EXPECT_FALSE(dataUri(DropItem(DropItem::File{temporary.url("gone")}, {}, {}, false)));
+    EXPECT_FALSE(dataUri(DropItem(DropItem::File{temporary.url("")}, {}, {}, false)));
+    ASSERT_EQ(::mkfifo(temporary.path("pipe").constData(), 0600), 0);
+    EXPECT_FALSE(dataUri(DropItem(DropItem::File{temporary.url("pipe")}, {}, {}, false)));
+    EXPECT_EQ(messages.last(), QStringLiteral("Path copied"));
+}
+
+TEST_F(DataUris, OfLinksGiveWayToTheLink)
+{
+    EXPECT_FALSE(dataUri(link).has_value());
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Link copied")});
+}
+
+} // namespace
+} // namespace corvane
