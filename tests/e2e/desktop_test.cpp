@@ -1,10 +1,12 @@
 #include "e2e/desktop_test.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
 
 #include <array>
+#include <iostream>
 
 namespace corvane::e2e {
 
@@ -18,7 +20,36 @@ std::array<std::unique_ptr<XDesktop>, 4> &desktops()
     return all;
 }
 
+XDesktop *current = nullptr;
+
+/// Takes a picture of the desktop at the moment of a failure: afterwards the windows are gone.
+class FailurePictures : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo &test) override
+    {
+        name_ = QString::fromUtf8(test.test_suite_name()) + u'.' + QString::fromUtf8(test.name());
+        name_.replace(u'/', u'-');
+        count_ = 0;
+    }
+    void OnTestPartResult(const testing::TestPartResult &result) override
+    {
+        if (!result.failed() || current == nullptr || !current->problem().isEmpty())
+            return;
+        const QString folder
+            = QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../e2e-failures"_s);
+        QDir().mkpath(folder);
+        current->server().picture().save(folder + u'/' + name_ + u"-%1.png"_s.arg(++count_));
+    }
+    QString name_;
+    int count_ = 0;
+};
+
 } // namespace
+
+void takePicturesOfFailures()
+{
+    // GoogleTest owns its listeners.
+    testing::UnitTest::GetInstance()->listeners().Append(new FailurePictures);
+}
 
 XDesktop &desktopOf(DesktopKind kind)
 {
@@ -31,6 +62,7 @@ XDesktop &desktopOf(DesktopKind kind)
 
 void endDesktops()
 {
+    current = nullptr;
     for (auto &desktop : desktops())
         desktop.reset();
 }
@@ -45,6 +77,7 @@ DesktopTest::DesktopTest(DesktopKind kind)
     : desktop_(desktopOf(kind))
     , files_(desktop_.path(u"home/files"_s))
 {
+    current = &desktop_;
 }
 
 void DesktopTest::SetUp()
@@ -61,16 +94,8 @@ void DesktopTest::TearDown()
     for (const uint32_t modifier : {keys::shift, keys::control, keys::alt})
         hands().keyUp(modifier);
     hands().release();
-    if (HasFailure()) {
-        const QString shots = QDir::current().filePath(u"build/e2e-failures"_s);
-        QDir().mkpath(shots);
-        const auto *info = testing::UnitTest::GetInstance()->current_test_info();
-        QString name = QString::fromUtf8(info->test_suite_name()) + u'.'
-            + QString::fromUtf8(info->name());
-        server().picture().save(shots + u'/' + name.replace(u'/', u'-') + u".png"_s);
-        if (corvane_)
-            std::cout << corvane_->program().output().toStdString();
-    }
+    if (HasFailure() && corvane_)
+        std::cout << corvane_->program().output().toStdString();
     corvane_.reset();
     QDir(files_).removeRecursively();
 }

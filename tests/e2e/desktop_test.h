@@ -19,6 +19,8 @@ namespace corvane::e2e {
 /// most tests.
 XDesktop &desktopOf(DesktopKind kind);
 void endDesktops();
+/// Leaves a picture of the desktop at each failure, in e2e-failures/ of the build folder.
+void takePicturesOfFailures();
 
 /// A test on a desktop that others have used before: programs, files and the program under test are
 /// its own and go with it.

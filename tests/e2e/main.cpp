@@ -10,6 +10,7 @@ int main(int argc, char **argv)
 {
     testing::InitGoogleTest(&argc, argv);
     const QCoreApplication application(argc, argv);
+    corvane::e2e::takePicturesOfFailures();
     const int status = RUN_ALL_TESTS();
     corvane::e2e::endDesktops();
     return status;

@@ -56,6 +56,7 @@ FileManager::FileManager(XDesktop &desktop, const QString &folder, const QRect &
     QFile file(config + u"/settings.conf"_s);
     if (file.open(QFile::WriteOnly))
         file.write(settings);
+    file.close();
 
     QList<xcb_window_t> others;
     for (const WindowFacts &window : desktop.server().windows())

@@ -207,4 +207,29 @@ void XServer::activate(xcb_window_t window)
     sendToRoot(window, "_NET_ACTIVE_WINDOW", {2U, 0U, 0U, 0U, 0U});
 }
 
+MapLog::MapLog(const QByteArray &display)
+    : server_(display)
+{
+    const uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
+    xcb_change_window_attributes(server_.connection(), server_.root(), XCB_CW_EVENT_MASK, &mask);
+    // Whatever happens after the answer is seen.
+    server_.focusedWindow();
+}
+
+int MapLog::panelsShown(qint64 pid)
+{
+    server_.focusedWindow();
+    while (auto event = owned(xcb_poll_for_event(server_.connection()))) {
+        if ((event->response_type & 0x7f) == XCB_MAP_NOTIFY)
+            shown_.append(reinterpret_cast<const xcb_map_notify_event_t &>(*event).window);
+    }
+    int count = 0;
+    for (const xcb_window_t window : shown_) {
+        const auto facts = server_.facts(window);
+        if (facts && facts->pid == pid && facts->isOverrideRedirect && facts->frame.top() == 0)
+            ++count;
+    }
+    return count;
+}
+
 } // namespace corvane::e2e

@@ -73,4 +73,17 @@ private:
     xcb_window_t root_ = noWindow;
 };
 
+/// Which windows have been shown since it was made, however shortly.
+class MapLog {
+public:
+    explicit MapLog(const QByteArray &display);
+
+    /// How often windows of a program that hang from the top edge have been shown.
+    int panelsShown(qint64 pid);
+
+private:
+    XServer server_;
+    QList<xcb_window_t> shown_;
+};
+
 } // namespace corvane::e2e

@@ -27,9 +27,12 @@ public:
     void pump();
     /// Waits as eventually() does, and goes on answering meanwhile.
     template <class Condition>
-    bool pumpUntil(Condition &&condition);
+    bool pumpUntil(Condition &&condition,
+                   std::chrono::milliseconds limit = std::chrono::seconds{20});
 
     int clicks() const { return clicks_; }
+    /// Any message, also one that no sane program would send.
+    void send(xcb_window_t to, const QByteArray &type, std::array<uint32_t, 5> data);
     /// The connection ends at once, as when the program is killed.
     void die();
 
@@ -37,7 +40,6 @@ protected:
     virtual void clientMessage(const xcb_client_message_event_t &) { }
     virtual void otherEvent(const xcb_generic_event_t &) { }
 
-    void send(xcb_window_t to, const QByteArray &type, std::array<uint32_t, 5> data);
     xcb_connection_t *connection() { return connection_->connection(); }
     xcb_atom_t atom(const QByteArray &name);
     QByteArray nameOf(xcb_atom_t atom);
@@ -80,6 +82,7 @@ public:
     void letGo();
     /// What the target said at the end; none where it never did.
     std::optional<Status> waitForFinish();
+    bool hasFinished() const { return finish_.has_value(); }
 
     /// The types that were asked for, in order.
     QList<QByteArray> asked() const { return asked_; }
@@ -113,7 +116,7 @@ public:
     XdndTarget(XDesktop &desktop, const QRect &frame, bool accepts, QByteArray wantedType);
 
     /// Whether something is over it and has been answered.
-    bool isHovered() const { return positions_ > 1; }
+    bool isHovered() const { return positions_ > 0; }
     bool hasDrop() const { return data_.has_value(); }
     QByteArray data() const { return data_.value_or(QByteArray()); }
     QList<QByteArray> offeredTypes() const { return types_; }
@@ -134,9 +137,9 @@ private:
 };
 
 template <class Condition>
-bool XdndPeer::pumpUntil(Condition &&condition)
+bool XdndPeer::pumpUntil(Condition &&condition, std::chrono::milliseconds limit)
 {
-    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds{20};
+    const auto deadline = std::chrono::steady_clock::now() + limit;
     for (;;) {
         pump();
         if (static_cast<bool>(condition()))

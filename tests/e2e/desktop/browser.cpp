@@ -1,0 +1,122 @@
+#include "e2e/desktop/browser.h"
+
+#include "e2e/desktop/eventually.h"
+
+#include <QDir>
+#include <QFile>
+#include <QUrl>
+
+namespace corvane::e2e {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Found again in the window's picture: no other part of it has this colour.
+constexpr QRgb pageColour = qRgb(0x33, 0xcc, 0x99);
+
+constexpr auto page = R"(<!doctype html><title>page</title>
+<style>body { margin: 0; background: #33cc99 } a { display: block; height: 100px; font-size: 60px }
+img { display: block; width: 200px; height: 200px }</style>
+<a href="%1">a link to drag</a><img src="picture.png">
+)";
+
+// A browser that has never run before greets, asks, and looks for updates; none of that here.
+constexpr auto firefoxPreferences = R"(
+user_pref("browser.aboutwelcome.enabled", false);
+user_pref("browser.shell.checkDefaultBrowser", false);
+user_pref("browser.startup.homepage_override.mstone", "ignore");
+user_pref("datareporting.policy.dataSubmissionEnabled", false);
+user_pref("datareporting.policy.firstRunURL", "");
+user_pref("toolkit.telemetry.enabled", false);
+user_pref("app.update.enabled", false);
+user_pref("app.normandy.enabled", false);
+user_pref("browser.safebrowsing.downloads.enabled", false);
+user_pref("network.captive-portal-service.enabled", false);
+user_pref("network.connectivity-service.enabled", false);
+user_pref("extensions.getAddons.cache.enabled", false);
+user_pref("browser.tabs.firefox-view", false);
+user_pref("browser.toolbars.bookmarks.visibility", "never");
+)";
+
+void write(const QString &path, const QByteArray &contents)
+{
+    QFile file(path);
+    if (file.open(QFile::WriteOnly))
+        file.write(contents);
+}
+
+/// Where the page begins in a picture of its window; null where it is not to be seen.
+QRect findPage(const QImage &window)
+{
+    for (int y = 0; y < window.height(); ++y) {
+        // The page's own width: near its right edge, where neither link nor picture is.
+        if ((window.pixel(window.width() - 40, y) | 0xff000000) == pageColour)
+            return {0, y, window.width(), window.height() - y};
+    }
+    return {};
+}
+
+} // namespace
+
+bool Browser::isInstalled(Kind kind)
+{
+    return e2e::isInstalled(kind == Kind::Chromium ? u"chromium"_s : u"firefox-esr"_s);
+}
+
+QStringList Browser::command(Kind kind, const QString &url) const
+{
+    const QString profile = desktop_.path(u"home/browser"_s);
+    QDir(profile).removeRecursively();
+    QDir().mkpath(profile);
+    if (kind == Kind::Chromium) {
+        // Its sandbox does not work for the super-user, whom test machines run as.
+        return {u"chromium"_s, u"--no-sandbox"_s, u"--test-type"_s, u"--no-first-run"_s, u"--disable-gpu"_s,
+                u"--disable-background-networking"_s, u"--disable-component-update"_s,
+                u"--disable-sync"_s, u"--disable-quic"_s, u"--disable-dev-shm-usage"_s,
+                u"--password-store=basic"_s, u"--ozone-platform=x11"_s,
+                u"--user-data-dir="_s + profile, u"--app="_s + url};
+    }
+    write(profile + u"/user.js"_s, firefoxPreferences);
+    return {u"firefox-esr"_s, u"--no-remote"_s, u"--profile"_s, profile, url};
+}
+
+Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteArray &picture,
+                 const QRect &frame)
+    : desktop_(desktop)
+{
+    const QString folder = desktop.path(u"home/site"_s);
+    QDir().mkpath(folder);
+    write(folder + u"/picture.png"_s, picture);
+    write(folder + u"/page.html"_s, QString::fromLatin1(page).arg(link).toUtf8());
+
+    QStringList arguments
+        = command(kind, QUrl::fromLocalFile(folder + u"/page.html"_s).toString());
+    const QString name = arguments.takeFirst();
+    const QByteArray title = kind == Kind::Chromium ? "hromium" : "irefox";
+    program_ = desktop.start(name, arguments);
+    const auto window = desktop.waitForWindow(
+        [&](const WindowFacts &candidate) { return candidate.windowClass.contains(title); });
+    if (!window) {
+        problem_ = name + u" shows no window: "_s + QString::fromUtf8(program_->output());
+        return;
+    }
+    const auto placed = desktop.place(window->id, frame);
+    if (!placed) {
+        problem_ = name + u"'s window cannot be placed"_s;
+        return;
+    }
+    const bool shown = eventually(
+        [&] {
+            page_ = findPage(desktop_.server().picture(placed->frame))
+                        .translated(placed->frame.topLeft());
+            return !page_.isEmpty();
+        },
+        std::chrono::seconds{40});
+    if (!shown)
+        problem_ = name + u" does not show the page"_s;
+    else
+        desktop_.pictureAtRest(QRect(page_.topLeft(), QSize(400, 300)));
+}
+
+} // namespace corvane::e2e

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "e2e/desktop/x_desktop.h"
+
+namespace corvane::e2e {
+
+/// A web browser's window on a page of ours with a link and a picture.
+class Browser {
+public:
+    enum class Kind { Chromium, Firefox };
+
+    static bool isInstalled(Kind kind);
+
+    /// `picture` is the PNG file that the page shows.
+    Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteArray &picture,
+            const QRect &frame);
+
+    QString problem() const { return problem_; }
+    QPoint link() const { return page_.topLeft() + QPoint(60, 50); }
+    QPoint picture() const { return page_.topLeft() + QPoint(100, 200); }
+
+private:
+    QStringList command(Kind kind, const QString &page) const;
+
+    XDesktop &desktop_;
+    std::unique_ptr<Program> program_;
+    QString problem_;
+    QRect page_;
+};
+
+} // namespace corvane::e2e

@@ -1,0 +1,135 @@
+// How the program begins and ends, and what it leaves behind: nothing.
+
+#include "e2e/desktop_test.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImage>
+
+#include <csignal>
+
+namespace corvane::e2e {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+QByteArray aPicture()
+{
+    QImage image(16, 16, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray png;
+    QBuffer buffer(&png);
+    image.save(&buffer, "png");
+    return png;
+}
+
+class Life : public DesktopTest {
+protected:
+    /// Has something in the spool, so that there is something to be left behind.
+    void startWithSpool()
+    {
+        start();
+        ASSERT_TRUE(dropOffers({{"image/png", aPicture()}}));
+        ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+        ASSERT_EQ(corvane().spooled(), QStringList{u"Image.png"_s});
+    }
+};
+
+TEST_F(Life, aSecondStartOpensAndClosesTheShelfAndEndsByItself)
+{
+    start();
+    EXPECT_FALSE(corvane().isShown());
+    EXPECT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::empty));
+    EXPECT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(corvane().waitUntilHidden());
+}
+
+TEST_F(Life, aSecondStartBringsBackWhatLiesOnTheShelf)
+{
+    start();
+    ASSERT_TRUE(dropFiles({makeFile(u"one.txt"_s, "x")}));
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    const QSize size = corvane().size();
+    EXPECT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    EXPECT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(corvane().waitForSize(size));
+}
+
+TEST_F(Life, beingToldToEndLeavesNoSpool)
+{
+    startWithSpool();
+    corvane().program().signal(SIGTERM);
+    EXPECT_EQ(corvane().program().waitForEnd(), 0);
+    EXPECT_FALSE(QFile::exists(corvane().spool()));
+}
+
+TEST_F(Life, anInterruptFromTheTerminalLeavesNoSpool)
+{
+    startWithSpool();
+    corvane().program().signal(SIGINT);
+    EXPECT_EQ(corvane().program().waitForEnd(), 0);
+    EXPECT_FALSE(QFile::exists(corvane().spool()));
+}
+
+TEST_F(Life, theNextStartClearsUpAfterOneThatWasKilled)
+{
+    startWithSpool();
+    const QString left = corvane().spool();
+    corvane().program().signal(SIGKILL);
+    ASSERT_TRUE(corvane().program().waitForEnd());
+    ASSERT_TRUE(QFile::exists(left));
+    start();
+    EXPECT_TRUE(eventually([&] { return !QFile::exists(left); }));
+}
+
+TEST_F(Life, withoutASessionBusItRunsAlone)
+{
+    auto environment = desktop_.environment();
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nowhere"_s);
+    corvane_ = std::make_unique<CorvaneProgram>(desktop_, CorvaneProgram::Start{{}, {}, environment});
+    // Nobody can be asked whether it is up: it is once a drag opens it.
+    ASSERT_TRUE(eventually([&] {
+        XdndSource source(desktop_, {{"text/plain", "x"}});
+        source.pickUp();
+        const bool shown = eventually([&] { return corvane().isShown(); }, std::chrono::seconds{1});
+        source.letGo();
+        return shown;
+    }));
+}
+
+TEST_F(Life, withoutADisplayItSaysSoAndEnds)
+{
+    auto environment = desktop_.environment();
+    environment.insert(u"DISPLAY"_s, u":4000"_s);
+    Program program(CorvaneProgram::path(), {}, environment);
+    const auto status = program.waitForEnd();
+    ASSERT_TRUE(status);
+    EXPECT_NE(*status, 0);
+    EXPECT_TRUE(program.output().contains("display")) << program.output().constData();
+}
+
+TEST(LifeOnADesktopThatEnds, theXServerGoesAwayAndTheSpoolWithIt)
+{
+    XDesktop desktop({WindowManager::Openbox, Compositor::None});
+    ASSERT_EQ(desktop.problem(), QString());
+    CorvaneProgram corvane(desktop);
+    ASSERT_TRUE(corvane.waitUntilReady());
+    {
+        XdndSource source(desktop, {{"image/png", aPicture()}});
+        source.pickUp();
+        ASSERT_TRUE(corvane.waitForSize(CorvaneProgram::empty));
+        ASSERT_TRUE(source.hover(corvane.panel().value_or(WindowFacts{}).id, corvane.body().center()));
+        source.drop();
+        ASSERT_TRUE(source.waitForFinish());
+    }
+    ASSERT_TRUE(eventually([&] { return !corvane.spooled().isEmpty(); }));
+
+    desktop.endServer();
+    EXPECT_TRUE(corvane.program().waitForEnd());
+    EXPECT_FALSE(QFile::exists(corvane.spool()));
+}
+
+} // namespace
+} // namespace corvane::e2e

@@ -1,0 +1,80 @@
+// Several screens, which come and go.
+
+#include "e2e/desktop_test.h"
+
+namespace corvane::e2e {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class Screens : public DesktopTest {
+protected:
+    void TearDown() override
+    {
+        xrandr({u"--delmonitor"_s, u"right"_s});
+        xrandr({u"--delmonitor"_s, u"left"_s});
+        DesktopTest::TearDown();
+    }
+
+    bool xrandr(const QStringList &arguments)
+    {
+        return outputOf(u"xrandr"_s, arguments, desktop_.environment()).has_value();
+    }
+
+    /// Cuts the one screen of the server into two that stand side by side.
+    bool addSecond()
+    {
+        return xrandr({u"--setmonitor"_s, u"left"_s, u"756/200x982/260+0+0"_s, u"screen"_s})
+            && xrandr({u"--setmonitor"_s, u"right"_s, u"756/200x982/260+756+0"_s, u"none"_s});
+    }
+
+    bool removeSecond()
+    {
+        return xrandr({u"--delmonitor"_s, u"right"_s}) && xrandr({u"--delmonitor"_s, u"left"_s});
+    }
+
+    static constexpr QRect whole{0, 0, 1512, 982};
+    static constexpr QRect left{0, 0, 756, 982};
+    static constexpr QRect right{756, 0, 756, 982};
+};
+
+TEST_F(Screens, theShelfOpensOnTheScreenWhereTheDragIs)
+{
+    ASSERT_TRUE(addSecond());
+    start();
+    {
+        XdndSource source(desktop_, {{"text/plain", "x"}});
+        source.pickUp();
+        EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::empty, left));
+        source.letGo();
+        ASSERT_TRUE(corvane().waitUntilHidden());
+    }
+    hands().moveTo(right.center());
+    ASSERT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::empty, right));
+}
+
+TEST_F(Screens, theShelfFollowsWhenAScreenComesAndGoes)
+{
+    start();
+    hands().moveTo(right.center());
+    ASSERT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::empty, whole));
+    ASSERT_TRUE(addSecond());
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::empty, right));
+    ASSERT_TRUE(removeSecond());
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::empty, whole));
+}
+
+TEST_F(Screens, whatLiesOnTheShelfStaysWhenItsScreenGoes)
+{
+    ASSERT_TRUE(addSecond());
+    startWithInView(3);
+    ASSERT_TRUE(dropFiles({makeFile(u"a.txt"_s, "x"), makeFile(u"b.txt"_s, "x")}));
+    ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(3, 2), left));
+    ASSERT_TRUE(removeSecond());
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(3, 2), whole));
+}
+
+} // namespace
+} // namespace corvane::e2e
