@@ -8,6 +8,8 @@
 int main(int argc, char **argv)
 {
     testing::InitGoogleTest(&argc, argv);
+    // Tests of a process's end fork, and Qt has threads: the child starts afresh.
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
 
     const QTemporaryDir home;
     for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"})

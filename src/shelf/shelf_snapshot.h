@@ -23,7 +23,7 @@ struct ShelfSnapshot {
     bool canScrollBack = false;
     bool canScrollForward = false;
     /// Width and height of the notch, both 0 on a screen without one.
-    QSizeF notch;
+    QSizeF notch{0, 0};
     /// A drag that did not start on the shelf is going on: the shelf may take a drop.
     bool receptive = false;
 

@@ -1,0 +1,194 @@
+#include "app/app_delegate.h"
+#include "app/app_info.h"
+#include "core/feedback.h"
+#include "core/quick_actions.h"
+#include "core/settings.h"
+#include "core/shelf_store.h"
+#include "fakes/fake_drag_desktop.h"
+#include "fakes/fake_general_pasteboard.h"
+#include "fakes/fake_login_items.h"
+#include "fakes/fake_pointer.h"
+#include "fakes/fake_screens.h"
+#include "fakes/memory_user_defaults.h"
+#include "fakes/recording_item_loading.h"
+#include "fakes/shelf_desk.h"
+#include "input/drag_monitor.h"
+#include "input/screen_locator.h"
+
+#include <QDir>
+#include <QJsonObject>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+class AppDelegateTest : public testing::Test {
+protected:
+    AppDelegateTest()
+    {
+        screens.attach(QRectF(0, 0, 1512, 982));
+        delegate.emplace(AppDelegate::Context{
+            monitor,
+            settings,
+            store,
+            desk.spool,
+            {desk.context(), store, settings, feedback, screens, locator, quickActions}});
+        delegate->applicationDidFinishLaunching();
+        store.observeState([this](ShelfState from, ShelfState to) {
+            log << QStringLiteral("state %1 %2")
+                       .arg(static_cast<int>(from))
+                       .arg(static_cast<int>(to));
+        });
+        store.observeItems([this](const QList<DropItem> &) { log << QStringLiteral("items"); });
+    }
+
+    /// A drag of another program that has begun and goes on.
+    void drag()
+    {
+        desktop.press();
+        desktop.pickUp();
+        desktop.moveTo({1, 0});
+    }
+    void release()
+    {
+        desktop.release();
+        desk.clock.advance(DragMonitor::pollInterval + DragMonitor::settleDelay + 0.001);
+    }
+
+    ShelfDesk desk;
+    MemoryUserDefaults defaults;
+    FakeLoginItems loginItems;
+    Settings settings{defaults, loginItems};
+    Feedback feedback;
+    RecordingThumbnails thumbnails;
+    RecordingLinkPreviews linkPreviews;
+    ShelfStore store{settings, desk.spool, thumbnails, linkPreviews, feedback};
+    FakeScreens screens;
+    FakePointer pointer;
+    ScreenLocator locator{screens, pointer};
+    FakeGeneralPasteboard clipboard;
+    QuickActions quickActions{clipboard, feedback};
+    FakeDragDesktop desktop;
+    DragMonitor monitor{desktop, desktop, desktop, desk.clock};
+    std::optional<AppDelegate> delegate;
+    QStringList log;
+};
+
+} // namespace
+
+TEST_F(AppDelegateTest, RegistersTheDefaultsBeforeAnythingReadsASetting)
+{
+    EXPECT_TRUE(settings.autoShowOnDrag());
+    EXPECT_EQ(settings.inViewCount(), 1);
+}
+
+TEST_F(AppDelegateTest, ADragOpensTheShelfAndItsEndClosesIt)
+{
+    drag();
+    EXPECT_EQ(log, QStringList{QStringLiteral("state 0 1")});
+    EXPECT_TRUE(store.isDragInFlight());
+    EXPECT_TRUE(desk.panel.visible);
+    log.clear();
+    release();
+    EXPECT_EQ(log, QStringList{QStringLiteral("state 1 0")});
+    EXPECT_FALSE(store.isDragInFlight());
+}
+
+TEST_F(AppDelegateTest, ADragOverAnOpenShelfTellsTheViewsInstead)
+{
+    store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
+    log.clear();
+    drag();
+    EXPECT_EQ(log, QStringList{QStringLiteral("items")});
+    release();
+    EXPECT_EQ(log, (QStringList{QStringLiteral("items"), QStringLiteral("items")}));
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+}
+
+TEST_F(AppDelegateTest, WithTheSettingOffADragLeavesTheStoreUntouched)
+{
+    settings.setAutoShowOnDrag(false);
+    drag();
+    EXPECT_TRUE(log.isEmpty());
+    EXPECT_FALSE(store.isDragInFlight());
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, TheEndOfADragIsHeardWhateverTheSetting)
+{
+    store.toggleManually();
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+    settings.setAutoShowOnDrag(false);
+    drag();
+    release();
+    EXPECT_EQ(store.state(), ShelfState::Idle) << "an empty shelf opened by hand closes too";
+}
+
+TEST_F(AppDelegateTest, AClosedShelfThatHoldsItemsOpensForADragAndStaysOpen)
+{
+    store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
+    store.toggleManually();
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+    drag();
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+    release();
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+}
+
+TEST_F(AppDelegateTest, ReopeningTogglesTheShelf)
+{
+    EXPECT_FALSE(delegate->applicationShouldHandleReopen(false));
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+    EXPECT_FALSE(delegate->applicationShouldHandleReopen(true));
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, TerminationStopsTheMonitorAndRemovesTheSpool)
+{
+    const auto spooled
+        = desk.spool.store(QByteArrayLiteral("x"), QStringLiteral("Image"), QStringLiteral("png"));
+    ASSERT_TRUE(spooled);
+    EXPECT_TRUE(QFile::exists(spooled->toLocalFile()));
+    delegate->applicationWillTerminate();
+    delegate->applicationWillTerminate();
+    EXPECT_FALSE(QDir(desk.spool.directory().toLocalFile()).exists());
+    drag();
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, ADragHeardAfterItIsGoneDoesNothing)
+{
+    delegate.reset();
+    drag();
+    release();
+    EXPECT_TRUE(log.isEmpty());
+}
+
+TEST(AppInfo, GivesTheTextsOfTheDictionary)
+{
+    const AppInfo info(
+        QJsonObject{{QStringLiteral("CFBundleShortVersionString"), QStringLiteral("1.2.3")},
+                    {QStringLiteral("CFBundleVersion"), QStringLiteral("45")}});
+    EXPECT_EQ(info.version(), QStringLiteral("1.2.3"));
+    EXPECT_EQ(info.build(), QStringLiteral("45"));
+}
+
+TEST(AppInfo, MissingOrWrongKeysGiveZeros)
+{
+    EXPECT_EQ(AppInfo({}).version(), QStringLiteral("0.0.0"));
+    EXPECT_EQ(AppInfo({}).build(), QStringLiteral("0"));
+    const AppInfo numbers(QJsonObject{{QStringLiteral("CFBundleShortVersionString"), 1.5},
+                                      {QStringLiteral("CFBundleVersion"), 7}});
+    EXPECT_EQ(numbers.version(), QStringLiteral("0.0.0"));
+    EXPECT_EQ(numbers.build(), QStringLiteral("0"));
+}
+
+TEST(AppInfo, TheBuiltInDictionaryIsThere)
+{
+    EXPECT_NE(AppInfo::builtIn().version(), QStringLiteral("0.0.0"));
+    EXPECT_TRUE(AppInfo::builtIn().applicationId().contains(u'.'));
+}
+
+} // namespace corvane::test

@@ -1,0 +1,419 @@
+#include "core/feedback.h"
+#include "core/quick_actions.h"
+#include "core/settings.h"
+#include "core/shelf_store.h"
+#include "fakes/fake_general_pasteboard.h"
+#include "fakes/fake_login_items.h"
+#include "fakes/fake_pointer.h"
+#include "fakes/fake_screens.h"
+#include "fakes/memory_user_defaults.h"
+#include "fakes/recording_item_loading.h"
+#include "fakes/shelf_desk.h"
+#include "input/screen_locator.h"
+#include "platform/geometry.h"
+#include "shelf/hud_controller.h"
+#include "shelf/item_presenter.h"
+#include "shelf/view_all_bar.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+struct RecordingPresenter : ItemPresenter {
+    void present(const DropItem &item) override { titles << item.title(); }
+    QStringList titles;
+};
+
+struct RecordingViewAllBar : ViewAllBar {
+    void render(const QRectF &pillFrame, const ScreenPointer &screen) override
+    {
+        frames.push_back(pillFrame);
+        screens.push_back(screen);
+        if (shelf)
+            sizesSeen.push_back(shelf->look().layout.size);
+    }
+    const ShelfView *shelf = nullptr;
+    std::vector<QRectF> frames;
+    std::vector<ScreenPointer> screens;
+    std::vector<QSizeF> sizesSeen;
+};
+
+class HUDControllerTest : public testing::Test {
+protected:
+    HUDControllerTest()
+    {
+        settings.registerDefaults();
+        screen = screens.attach(QRectF(0, 0, 1512, 982));
+        pointer.position = QPointF(700, 900);
+        controller.emplace(context());
+        bar.shelf = &controller->shelf();
+    }
+
+    HUDController::Context context()
+    {
+        return {desk.context(), store,        settings,   feedback, screens,
+                locator,        quickActions, &presenter, &bar};
+    }
+
+    void accept(int count)
+    {
+        QList<DropItem> items;
+        for (int i = 0; i < count; ++i)
+            items << ShelfDesk::textItem(QStringLiteral("item %1").arg(i));
+        store.accept(items);
+    }
+    ShelfView &view() { return *static_cast<ShelfView *>(desk.panel.content); }
+    const ShelfSnapshot &snapshot() { return view().look().snapshot; }
+    QRectF frame() const { return desk.panel.frame(); }
+    void settle() { desk.clock.advance(3); }
+
+    ShelfDesk desk;
+    MemoryUserDefaults defaults;
+    FakeLoginItems loginItems;
+    Settings settings{defaults, loginItems};
+    Feedback feedback;
+    RecordingThumbnails thumbnails;
+    RecordingLinkPreviews linkPreviews;
+    ShelfStore store{settings, desk.spool, thumbnails, linkPreviews, feedback};
+    FakeScreens screens;
+    std::shared_ptr<Screen> screen;
+    FakePointer pointer;
+    ScreenLocator locator{screens, pointer};
+    FakeGeneralPasteboard clipboard;
+    QuickActions quickActions{clipboard, feedback};
+    RecordingPresenter presenter;
+    RecordingViewAllBar bar;
+    std::optional<HUDController> controller;
+};
+
+} // namespace
+
+TEST_F(HUDControllerTest, StartsHiddenAndClickThrough)
+{
+    EXPECT_FALSE(desk.panel.visible);
+    EXPECT_TRUE(desk.panel.ignoresMouseEvents);
+    EXPECT_EQ(desk.panel.frames.front(), QRectF(0, 0, 560, 136));
+}
+
+TEST_F(HUDControllerTest, HangsFromTheTopCentreOfTheScreen)
+{
+    store.toggleManually();
+    EXPECT_TRUE(desk.panel.visible);
+    EXPECT_FALSE(desk.panel.ignoresMouseEvents);
+    EXPECT_EQ(frame(), QRectF(756 - 146, 982 - 56, 292, 56));
+}
+
+TEST_F(HUDControllerTest, OpensOnTheScreenWithThePointer)
+{
+    screens.attach(QRectF(1512, 200, 1000, 800));
+    pointer.position = QPointF(1600, 300);
+    store.toggleManually();
+    EXPECT_EQ(frame(), QRectF(2012 - 146, 1000 - 56, 292, 56));
+}
+
+TEST_F(HUDControllerTest, WithoutAPointerItOpensOnTheMainScreen)
+{
+    pointer.position.reset();
+    store.toggleManually();
+    EXPECT_EQ(frame().y(), 982 - 56);
+    EXPECT_TRUE(desk.panel.visible);
+}
+
+TEST_F(HUDControllerTest, WithNoScreenNothingIsPlacedOrShown)
+{
+    screens.detach(screen);
+    const std::size_t placed = desk.panel.frames.size();
+    accept(2);
+    EXPECT_FALSE(desk.panel.visible);
+    EXPECT_EQ(desk.panel.frames.size(), placed);
+    EXPECT_EQ(snapshot().totalCount, 2) << "the view still gets the snapshot";
+    EXPECT_EQ(snapshot().notch, QSizeF(0, 0));
+    EXPECT_EQ(bar.frames.back(), QRectF());
+    EXPECT_FALSE(bar.screens.back());
+}
+
+TEST_F(HUDControllerTest, InViewCountIsClampedWhateverIsStored)
+{
+    accept(3);
+    for (const auto &[stored, used] :
+         {std::pair(0, 1), std::pair(-4, 1), std::pair(9, 6), std::pair(4, 4)}) {
+        defaults.setInteger(stored, QString::fromLatin1(Settings::inViewCountKey));
+        store.publishItems();
+        EXPECT_EQ(snapshot().inViewCount, used);
+    }
+}
+
+TEST_F(HUDControllerTest, KnowsWhetherThereIsMoreOnEitherSide)
+{
+    settings.setInViewCount(3);
+    accept(3);
+    EXPECT_FALSE(snapshot().canScrollBack);
+    EXPECT_FALSE(snapshot().canScrollForward);
+    accept(2);
+    EXPECT_EQ(store.scrollOffset(), 2);
+    EXPECT_TRUE(snapshot().canScrollBack);
+    EXPECT_FALSE(snapshot().canScrollForward);
+}
+
+TEST_F(HUDControllerTest, ScrollingStopsAtBothEnds)
+{
+    settings.setInViewCount(3);
+    accept(5);
+    store.focus(0);
+    view().onScroll(10);
+    EXPECT_EQ(store.scrollOffset(), 2);
+    int published = 0;
+    store.observeItems([&](const QList<DropItem> &) { ++published; });
+    view().onScroll(10);
+    EXPECT_EQ(published, 0) << "a step that changes nothing tells nobody";
+    view().onScroll(-10);
+    EXPECT_EQ(store.scrollOffset(), 0);
+    EXPECT_EQ(published, 1);
+    store.setScrollOffset(std::numeric_limits<int>::max());
+    EXPECT_DEATH(view().onScroll(1), "overflowed");
+}
+
+TEST_F(HUDControllerTest, ALayoutChangeLowersTheOffsetAtMostThenPublishesAndRenders)
+{
+    settings.setInViewCount(1);
+    accept(5);
+    EXPECT_EQ(store.scrollOffset(), 4);
+    int published = 0;
+    store.observeItems([&](const QList<DropItem> &) { ++published; });
+    const std::size_t renders = bar.frames.size();
+    settings.setInViewCount(3);
+    EXPECT_EQ(store.scrollOffset(), 2);
+    EXPECT_EQ(published, 1);
+    EXPECT_EQ(bar.frames.size() - renders, 2U);
+    settings.setInViewCount(1);
+    EXPECT_EQ(store.scrollOffset(), 2) << "never raised";
+}
+
+TEST_F(HUDControllerTest, HidesAfterTheSlideAndAMargin)
+{
+    store.toggleManually();
+    store.toggleManually();
+    EXPECT_TRUE(desk.panel.ignoresMouseEvents) << "clicks fall through at once";
+    desk.clock.advance(0.36);
+    EXPECT_TRUE(desk.panel.visible);
+    desk.clock.advance(0.02);
+    EXPECT_FALSE(desk.panel.visible);
+}
+
+TEST_F(HUDControllerTest, ReopeningInTimeLeavesThePanelOnScreen)
+{
+    store.toggleManually();
+    store.toggleManually();
+    desk.clock.advance(0.3);
+    store.toggleManually();
+    settle();
+    EXPECT_TRUE(desk.panel.visible);
+    EXPECT_FALSE(desk.panel.log.contains(QStringLiteral("orderOut")));
+}
+
+TEST_F(HUDControllerTest, EveryIdleRenderRestartsTheDelay)
+{
+    store.toggleManually();
+    store.toggleManually();
+    desk.clock.advance(0.3);
+    store.publishItems();
+    desk.clock.advance(0.3);
+    EXPECT_TRUE(desk.panel.visible);
+    desk.clock.advance(0.1);
+    EXPECT_FALSE(desk.panel.visible);
+}
+
+TEST_F(HUDControllerTest, AVisiblePanelCoversOldAndNewUntilTheSpringHasSettled)
+{
+    settings.setInViewCount(3);
+    accept(1);
+    const QRectF small = frame();
+    EXPECT_EQ(small.width(), 104);
+    accept(4);
+    EXPECT_EQ(frame().width(), 316);
+    store.clearAll();
+    store.toggleManually();
+    EXPECT_EQ(frame().size(), QSizeF(316, 62)) << "a panel about to hide still counts as visible";
+    desk.clock.advance(Theme::Motion::spring().settlingDuration() + 0.001);
+    EXPECT_EQ(frame().size(), QSizeF(292, 56));
+    EXPECT_EQ(desk.panel.body, QRectF(0, 0, 292, 56)) << "clicks follow the new frame";
+}
+
+TEST_F(HUDControllerTest, ALaterResizeVoidsAnEarlierShrink)
+{
+    settings.setInViewCount(3);
+    accept(5);
+    store.discard(4, true);
+    store.discard(3, true);
+    store.discard(2, true);
+    const double settled = Theme::Motion::spring().settlingDuration();
+    desk.clock.advance(settled / 2);
+    accept(3);
+    const std::size_t before = desk.panel.frames.size();
+    desk.clock.advance(settled / 2 + 0.01);
+    EXPECT_EQ(desk.panel.frames.size(), before) << "the first shrink does nothing";
+    desk.clock.advance(settled);
+    EXPECT_EQ(frame().width(), 316);
+}
+
+TEST_F(HUDControllerTest, AShrinkNeedsAnOpenShelf)
+{
+    settings.setInViewCount(3);
+    accept(5);
+    settle();
+    store.discard(4, true);
+    store.discard(3, true);
+    store.toggleManually();
+    const QRectF closing = frame();
+    settle();
+    EXPECT_EQ(frame(), closing);
+}
+
+TEST_F(HUDControllerTest, AnotherScreenGetsItsFrameAtOnce)
+{
+    screens.attach(QRectF(1512, 0, 1000, 800));
+    settings.setInViewCount(3);
+    accept(5);
+    settle();
+    pointer.position = QPointF(1700, 100);
+    store.publishItems();
+    EXPECT_EQ(frame(), QRectF(2012 - 158, 800 - 62, 316, 62));
+}
+
+TEST_F(HUDControllerTest, ScreenChangesRender)
+{
+    store.toggleManually();
+    settle();
+    screen->frame = {0, 0, 800, 600};
+    screens.notifyChanges();
+    EXPECT_EQ(maxY(frame()), 982) << "large enough for both until it has settled";
+    settle();
+    EXPECT_EQ(frame(), QRectF(400 - 146, 600 - 56, 292, 56));
+}
+
+TEST_F(HUDControllerTest, TheNotchWidensTheShelf)
+{
+    screen->safeAreaInsets.top = 32;
+    screen->auxiliaryTopLeftArea = QRectF(0, 950, 651, 32);
+    screen->auxiliaryTopRightArea = QRectF(861, 950, 651, 32);
+    store.toggleManually();
+    EXPECT_EQ(snapshot().notch, QSizeF(210, 32));
+    EXPECT_EQ(frame().size(), QSizeF(294, 88));
+    screen->auxiliaryTopLeftArea.reset();
+    store.publishItems();
+    EXPECT_EQ(snapshot().notch, QSizeF(0, 32));
+}
+
+TEST_F(HUDControllerTest, OnlyADragFromElsewhereMakesItReceptive)
+{
+    accept(1);
+    store.setDragInFlight(true);
+    store.publishItems();
+    EXPECT_TRUE(snapshot().receptive);
+    view().onDragOutChanged(true);
+    EXPECT_FALSE(snapshot().receptive);
+    int published = 0;
+    store.observeItems([&](const QList<DropItem> &) { ++published; });
+    view().onDragOutChanged(true);
+    EXPECT_EQ(published, 0) << "an equal value tells nobody";
+    view().onDragOutChanged(false);
+    EXPECT_EQ(published, 1);
+}
+
+TEST_F(HUDControllerTest, TheViewAllBarIsRenderedAfterTheViewHasItsSnapshot)
+{
+    settings.setInViewCount(3);
+    accept(5);
+    EXPECT_EQ(bar.sizesSeen.back(), QSizeF(316, 62));
+    EXPECT_EQ(bar.frames.back().size(), QSizeF(316, 62));
+    EXPECT_TRUE(bar.screens.back());
+    store.toggleManually();
+    EXPECT_EQ(bar.frames.back(), QRectF());
+    EXPECT_FALSE(bar.screens.back());
+}
+
+TEST_F(HUDControllerTest, TheBarOpensWithTwoItemsAndAlwaysCloses)
+{
+    accept(1);
+    view().onViewAll();
+    EXPECT_FALSE(store.isViewAllOpen());
+    accept(1);
+    view().onViewAll();
+    EXPECT_TRUE(store.isViewAllOpen());
+    store.discard(0, true);
+    EXPECT_TRUE(store.isViewAllOpen()) << "not tidied up by itself";
+    view().onViewAll();
+    EXPECT_FALSE(store.isViewAllOpen());
+}
+
+TEST_F(HUDControllerTest, GesturesBecomeOperationsOfTheStore)
+{
+    accept(3);
+    view().onFocus(1);
+    EXPECT_EQ(store.focusedIndex(), 1);
+    view().onQuickLook();
+    EXPECT_EQ(presenter.titles, QStringList{QStringLiteral("item 1")});
+    view().onRemove(0);
+    EXPECT_EQ(store.items().size(), 2);
+    const QUuid last = store.items().last().id();
+    view().onEjected(last, true);
+    EXPECT_EQ(store.items().size(), 2);
+    EXPECT_EQ(view().look().flashMessage, QStringLiteral("Kept on the shelf"));
+    view().onDropAccepted({ShelfDesk::textItem(QStringLiteral("new"))});
+    view().onEjected(last, false);
+    EXPECT_FALSE(store.indexOf(last));
+    EXPECT_EQ(store.items().size(), 2) << "found again by its id although indices moved";
+    view().onEjected(QUuid::createUuid(), false);
+    EXPECT_EQ(store.items().size(), 2);
+}
+
+TEST_F(HUDControllerTest, OptionCopiesAsADataUri)
+{
+    accept(1);
+    view().onCopy();
+    EXPECT_EQ(view().look().flashMessage, QStringLiteral("Text copied"));
+    desk.keyboard.modifiers = Modifier::Option;
+    view().onCopy();
+    EXPECT_EQ(view().look().flashMessage, QStringLiteral("Data URI copied"));
+}
+
+TEST_F(HUDControllerTest, WithoutAFocusedItemCopyAndPreviewDoNothing)
+{
+    view().onCopy();
+    view().onQuickLook();
+    EXPECT_TRUE(presenter.titles.isEmpty());
+    EXPECT_TRUE(clipboard.writes.empty());
+}
+
+TEST_F(HUDControllerTest, WorksWithoutPresenterAndBar)
+{
+    controller.reset();
+    HUDController::Context bare = context();
+    bare.presenter = nullptr;
+    bare.viewAll = nullptr;
+    controller.emplace(bare);
+    accept(2);
+    view().onQuickLook();
+    view().onViewAll();
+    EXPECT_TRUE(desk.panel.visible);
+}
+
+TEST_F(HUDControllerTest, WhatOutlivesItDoesNothing)
+{
+    store.toggleManually();
+    store.toggleManually();
+    controller.reset();
+    EXPECT_EQ(desk.panel.content, nullptr);
+    accept(1);
+    settings.setInViewCount(2);
+    screens.notifyChanges();
+    feedback.show(QStringLiteral("nobody listens"));
+    desk.clock.advance(5);
+    EXPECT_TRUE(desk.panel.visible) << "the pending hide is void";
+}
+
+} // namespace corvane::test
