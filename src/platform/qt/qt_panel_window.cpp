@@ -154,7 +154,6 @@ bool QtPanelWindow::handle(QEvent &event)
         return false;
     switch (event.type()) {
     case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonDblClick:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove:
         return handleMouse(static_cast<QMouseEvent &>(event));
@@ -190,7 +189,7 @@ bool QtPanelWindow::handleMouse(QMouseEvent &event)
     }
     if (event.button() != Qt::LeftButton)
         return true;
-    // The second press of a double click is a click like any other.
+    // The second press of a double click comes as a press too, before it comes as what it is.
     if (event.type() == QEvent::MouseButtonRelease)
         m_content->mouseUp(mouse);
     else

@@ -1,0 +1,256 @@
+#include "platform/file_url.h"
+#include "platform/qt/qt_file_icons.h"
+#include "platform/qt/qt_image_codec.h"
+#include "platform/qt/qt_thumbnail_generator.h"
+#include "platform/work_queue.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImageWriter>
+#include <QTemporaryDir>
+#include <QtEndian>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace corvane::test {
+
+namespace {
+
+/// Left half red, right half blue.
+QImage halves(int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    image.fill(Qt::blue);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width / 2; ++x)
+            image.setPixelColor(x, y, Qt::red);
+    }
+    return image;
+}
+
+QByteArray written(const QImage &image, const char *format)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImageWriter writer(&buffer, format);
+    EXPECT_TRUE(writer.write(image)) << format;
+    return bytes;
+}
+
+/// A JPEG that says that it must be turned a quarter clockwise.
+QByteArray turnedJpeg(const QImage &image)
+{
+    constexpr char orientation[] = "\xff\xe1\x00\x22"
+                                   "Exif\0\0"
+                                   "II*\0\x08\0\0\0"
+                                   "\x01\0"
+                                   "\x12\x01\x03\0\x01\0\0\0\x06\0\0\0"
+                                   "\0\0\0\0";
+    return written(image, "jpeg").insert(2, QByteArray(orientation, sizeof orientation - 1));
+}
+
+/// A PNG whose head claims a size that its few bytes do not have.
+QByteArray boastingPng(quint32 width, quint32 height)
+{
+    QByteArray bytes = written(halves(8, 8), "png");
+    qToBigEndian(width, bytes.data() + 16);
+    qToBigEndian(height, bytes.data() + 20);
+    quint32 crc = 0xffffffff;
+    for (int i = 12; i < 29; ++i) {
+        crc ^= static_cast<unsigned char>(bytes[i]);
+        for (int bit = 0; bit < 8; ++bit)
+            crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xedb88320 : 0);
+    }
+    qToBigEndian(~crc, bytes.data() + 29);
+    return bytes;
+}
+
+bool isReady(const QImage &image)
+{
+    return image.format() == QImage::Format_ARGB32_Premultiplied
+        || image.format() == QImage::Format_RGB32;
+}
+
+class ImageCodecTest : public testing::Test {
+protected:
+    ~ImageCodecTest() override
+    {
+        // Qt cannot remove what it cannot spell.
+        for (const QByteArray &path : paths)
+            ::unlink(path.constData());
+    }
+    QUrl saved(const QByteArray &name, const QByteArray &bytes)
+    {
+        const QUrl url = file_url::fromNativePath(folder.path().toUtf8() + '/' + name);
+        paths << file_url::nativePath(url);
+        FILE *file = std::fopen(paths.constLast().constData(), "w");
+        std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), file);
+        std::fclose(file);
+        return url;
+    }
+
+    QtImageCodec codec;
+    QTemporaryDir folder;
+    QByteArrayList paths;
+};
+
+/// Runs work at once, on the caller's thread.
+struct ImmediateWorkQueue : WorkQueue {
+    void run(std::function<void()> work) override { work(); }
+};
+
+} // namespace
+
+TEST_F(ImageCodecTest, thumbnailsKeepProportionsAndTheLimit)
+{
+    const auto image = codec.thumbnail(written(halves(400, 100), "png"), 60);
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->size(), QSize(60, 15));
+    EXPECT_TRUE(isReady(*image));
+    EXPECT_EQ(image->pixelColor(5, 7), QColor(Qt::red));
+    EXPECT_EQ(codec.thumbnail(written(halves(2000, 2), "png"), 60)->size(), QSize(60, 1));
+}
+
+TEST_F(ImageCodecTest, aSmallerPictureKeepsItsSize)
+{
+    EXPECT_EQ(codec.thumbnail(written(halves(20, 10), "png"), 60)->size(), QSize(20, 10));
+}
+
+TEST_F(ImageCodecTest, turnsPicturesUpright)
+{
+    const auto bytes = turnedJpeg(halves(400, 100));
+    EXPECT_EQ(codec.pixelSize(bytes), QSize(400, 100));
+    const auto thumbnail = codec.thumbnail(bytes, 60);
+    ASSERT_TRUE(thumbnail);
+    EXPECT_EQ(thumbnail->size(), QSize(15, 60));
+    EXPECT_GT(thumbnail->pixelColor(7, 5).red(), 200);
+    EXPECT_GT(thumbnail->pixelColor(7, 55).blue(), 200);
+    EXPECT_EQ(codec.decode(bytes)->size(), QSize(100, 400));
+}
+
+TEST_F(ImageCodecTest, readsEveryFormatOfItsKind)
+{
+    for (const char *format : {"png", "jpeg", "bmp", "webp", "tiff", "ppm", "ico"}) {
+        const auto bytes = written(halves(40, 20), format);
+        const auto whole = codec.decode(bytes);
+        ASSERT_TRUE(whole) << format;
+        EXPECT_EQ(whole->size(), QSize(40, 20)) << format;
+        EXPECT_TRUE(isReady(*whole)) << format;
+        EXPECT_GT(codec.thumbnail(bytes, 10)->pixelColor(2, 2).red(), 200) << format;
+    }
+}
+
+TEST_F(ImageCodecTest, drawsSvgAtTheWantedSize)
+{
+    const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='4'>"
+                           "<rect width='8' height='4' fill='#ff0000'/></svg>";
+    const auto image = codec.thumbnail(svg, 60);
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->size(), QSize(60, 30));
+    EXPECT_EQ(image->pixelColor(30, 15), QColor(Qt::red));
+    EXPECT_EQ(codec.decode(svg)->size(), QSize(8, 4));
+    const QByteArray huge
+        = "<svg xmlns='http://www.w3.org/2000/svg' width='90000' height='90000'/>";
+    EXPECT_FALSE(codec.decode(huge));
+    EXPECT_EQ(codec.thumbnail(huge, 60)->size(), QSize(60, 60));
+}
+
+TEST_F(ImageCodecTest, doesNotDecodeWhatWouldNotFit)
+{
+    const auto bomb = boastingPng(30'000, 30'000);
+    EXPECT_EQ(codec.pixelSize(bomb), QSize(30'000, 30'000));
+    EXPECT_FALSE(codec.decode(bomb));
+    EXPECT_FALSE(codec.thumbnail(bomb, 60));
+    EXPECT_FALSE(codec.thumbnail(boastingPng(0x7fffffff, 0x7fffffff), 60));
+}
+
+TEST_F(ImageCodecTest, brokenBytesYieldNone)
+{
+    const auto png = written(halves(64, 64), "png");
+    for (const QByteArray &bytes :
+         {QByteArray(), QByteArray("no picture"), png.first(30), png.first(png.size() / 2),
+          QByteArray(10'000, '\0'), QByteArray("\x1f\x8b\x08 packed drawing"),
+          QByteArray("II*\0\xff\xff\xff\xff", 8), QByteArray("<svg")}) {
+        EXPECT_FALSE(codec.decode(bytes)) << bytes.left(12).toHex().constData();
+        EXPECT_FALSE(codec.thumbnail(bytes, 60)) << bytes.left(12).toHex().constData();
+    }
+    EXPECT_FALSE(codec.pixelSize("no picture"));
+    EXPECT_FALSE(codec.thumbnail(png, 0));
+}
+
+TEST_F(ImageCodecTest, readsFilesByTheirExactNames)
+{
+    const auto png = written(halves(40, 20), "png");
+    for (const char *name : {"plain.png", "a b#c?d%.png", "caf\xE9.png", "png.named.jpg", "none"}) {
+        const QUrl url = saved(name, png);
+        EXPECT_EQ(codec.decodeFile(url)->size(), QSize(40, 20)) << name;
+        EXPECT_EQ(codec.fileThumbnail(url, 10)->size(), QSize(10, 5)) << name;
+    }
+}
+
+TEST_F(ImageCodecTest, opensRegularFilesOnly)
+{
+    const QByteArray pipe = folder.path().toUtf8() + "/pipe.png";
+    ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
+    EXPECT_FALSE(codec.fileThumbnail(file_url::fromNativePath(pipe), 60));
+    EXPECT_FALSE(codec.fileThumbnail(QUrl::fromLocalFile(folder.path()), 60));
+    EXPECT_FALSE(codec.fileThumbnail(QUrl(QStringLiteral("file:///dev/zero")), 60));
+    EXPECT_FALSE(codec.fileThumbnail(QUrl(QStringLiteral("file:///gone.png")), 60));
+    EXPECT_FALSE(codec.fileThumbnail(QUrl(QStringLiteral("https://example.org/x.png")), 60));
+}
+
+TEST_F(ImageCodecTest, writesWhatItReads)
+{
+    const auto image = halves(40, 20);
+    for (const char *name : {"image/png", "image/tiff", "image/jpeg", "image/webp"}) {
+        const auto bytes = codec.encode(image, UTType(QLatin1String(name)));
+        ASSERT_TRUE(bytes) << name;
+        EXPECT_EQ(codec.decode(*bytes)->size(), image.size()) << name;
+    }
+    EXPECT_EQ(codec.decode(*codec.encode(image, UTType::png())), image);
+    EXPECT_FALSE(codec.encode(image, UTType(QStringLiteral("application/pdf"))));
+    EXPECT_FALSE(codec.encode({}, UTType::png()));
+}
+
+TEST_F(ImageCodecTest, aJpegShowsWhiteWhereThePictureWasTransparent)
+{
+    QImage clear(16, 16, QImage::Format_ARGB32_Premultiplied);
+    clear.fill(Qt::transparent);
+    const auto bytes = codec.encode(clear, UTType(QStringLiteral("image/jpeg")));
+    EXPECT_GT(codec.decode(*bytes)->pixelColor(8, 8).lightness(), 250);
+}
+
+TEST_F(ImageCodecTest, generatesThumbnailsOfPictureFilesOnly)
+{
+    ImmediateWorkQueue queue;
+    QtThumbnailGenerator generator(codec, queue);
+    std::vector<std::optional<QImage>> results;
+    const auto keep = [&](std::optional<QImage> image) { results.push_back(std::move(image)); };
+    generator.generateBestRepresentation(
+        {saved("a.png", written(halves(400, 100), "png")), {30, 30}, 2}, keep);
+    generator.generateBestRepresentation({saved("a.txt", "text"), {30, 30}, 2}, keep);
+    ASSERT_EQ(results.size(), 2U);
+    EXPECT_EQ(results[0]->size(), QSize(60, 15));
+    EXPECT_FALSE(results[1]);
+}
+
+TEST_F(ImageCodecTest, everyFileHasAnIconOfTheWantedSize)
+{
+    QtFileIcons icons;
+    for (const QUrl &url :
+         {saved("a.txt", ""), saved("b.unknown", ""), saved("noextension", ""),
+          QUrl::fromLocalFile(folder.path()), QUrl::fromLocalFile(folder.path() + u'/'),
+          QUrl(QStringLiteral("file:///gone.png")), QUrl()}) {
+        const Image icon = icons.iconForFile(url, 30, 1.5);
+        EXPECT_EQ(icon.bitmap.size(), QSize(45, 45)) << url.toEncoded().constData();
+        EXPECT_EQ(icon.size, QSizeF(30, 30));
+        EXPECT_NE(icon.bitmap, QImage(icon.bitmap.size(), icon.bitmap.format()));
+    }
+    EXPECT_NE(icons.iconForFile(QUrl::fromLocalFile(folder.path()), 30, 1).bitmap,
+              icons.iconForFile(saved("a.txt", ""), 30, 1).bitmap);
+}
+
+} // namespace corvane::test

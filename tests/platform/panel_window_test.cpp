@@ -1,0 +1,308 @@
+#include "platform/panel_fixture.h"
+
+#include <QElapsedTimer>
+
+namespace corvane::test {
+
+namespace {
+
+using PanelWindowTest = PanelFixture;
+
+/// A selection owner that does nothing else: what makes a compositor known.
+class CompositorName {
+public:
+    explicit CompositorName(Display &display)
+        : m_server(display.server)
+        , m_window(xcb_generate_id(m_server.connection()))
+    {
+        xcb_create_window(m_server.connection(), XCB_COPY_FROM_PARENT, m_window, m_server.root(), 0,
+                          0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0,
+                          nullptr);
+        xcb_set_selection_owner(m_server.connection(), m_window, m_server.atom("_NET_WM_CM_S0"),
+                                XCB_CURRENT_TIME);
+        xcb_flush(m_server.connection());
+    }
+    ~CompositorName()
+    {
+        xcb_destroy_window(m_server.connection(), m_window);
+        xcb_flush(m_server.connection());
+    }
+
+private:
+    e2e::XServer &m_server;
+    xcb_window_t m_window;
+};
+
+/// An ordinary window of another program, managed and with the focus.
+class ManagedWindow {
+public:
+    explicit ManagedWindow(const QRect &frame)
+        : m_window(xcb_generate_id(m_server.connection()))
+    {
+        const std::uint32_t values[] = {0x336633, XCB_EVENT_MASK_BUTTON_PRESS};
+        xcb_create_window(m_server.connection(), XCB_COPY_FROM_PARENT, m_window, m_server.root(), 0,
+                          0, 100, 100, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+                          XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values);
+        xcb_map_window(m_server.connection(), m_window);
+        xcb_flush(m_server.connection());
+        eventually([&] { return m_server.activeWindow() == m_window; });
+        m_server.moveResize(m_window, frame);
+        eventually([&] { return m_server.facts(m_window)->frame.size() == frame.size(); });
+    }
+    ~ManagedWindow()
+    {
+        xcb_destroy_window(m_server.connection(), m_window);
+        xcb_flush(m_server.connection());
+    }
+    xcb_window_t id() const { return m_window; }
+    int clicks()
+    {
+        while (xcb_generic_event_t *event = xcb_poll_for_event(m_server.connection())) {
+            m_clicks += (event->response_type & 0x7f) == XCB_BUTTON_PRESS ? 1 : 0;
+            std::free(event);
+        }
+        return m_clicks;
+    }
+
+private:
+    e2e::XServer m_server{qgetenv("DISPLAY")};
+    xcb_window_t m_window;
+    int m_clicks = 0;
+};
+
+} // namespace
+
+TEST_F(PanelWindowTest, isMadeHidden)
+{
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_NE(id(), e2e::noWindow);
+    EXPECT_FALSE(facts().isViewable);
+}
+
+TEST_F(PanelWindowTest, standsExactlyWhereItWasPut)
+{
+    show();
+    EXPECT_EQ(facts().frame, QRect(600, 400, 300, 100));
+    EXPECT_TRUE(facts().isOverrideRedirect);
+    panel.setFrame({100.4, 881.6, 320, 100});
+    EXPECT_TRUE(eventually([&] { return facts().frame == QRect(100, 0, 320, 100); }));
+    EXPECT_EQ(panel.frame(), QRectF(100.4, 881.6, 320, 100));
+}
+
+TEST_F(PanelWindowTest, hidesAndShowsAgain)
+{
+    show();
+    panel.orderOut();
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_TRUE(eventually([&] { return !facts().isViewable; }));
+    content.paints = 0;
+    show();
+}
+
+TEST_F(PanelWindowTest, comesUpAboveWindowsThatAreYounger)
+{
+    const ManagedWindow other({550, 350, 400, 200});
+    show();
+    const auto windows = display.server.windows();
+    const auto place = [&](xcb_window_t window) {
+        return std::ranges::find(windows, window, &e2e::WindowFacts::id) - windows.begin();
+    };
+    EXPECT_GT(place(id()), place(other.id()));
+}
+
+TEST_F(PanelWindowTest, takesNoFocusWhenItIsShown)
+{
+    const ManagedWindow other({100, 100, 300, 200});
+    show();
+    settle();
+    EXPECT_EQ(display.server.activeWindow(), other.id());
+    EXPECT_EQ(display.server.focusedWindow(), other.id());
+}
+
+TEST_F(PanelWindowTest, paintsInPointsFromTheBottomLeft)
+{
+    show();
+    EXPECT_TRUE(eventually([&] { return colorAt(at(10, 90)) == QColor(Qt::red); }));
+    EXPECT_NE(colorAt(at(10, 10)), QColor(Qt::red));
+}
+
+TEST_F(PanelWindowTest, repaintsOnlyWhatWasAskedFor)
+{
+    show();
+    settle();
+    content.paints = 0;
+    content.color = Qt::green;
+    panel.setNeedsDisplay({0, 0, 20, 20});
+    panel.setNeedsDisplay({20, 0, 20, 20});
+    EXPECT_TRUE(eventually([&] { return colorAt(at(30, 90)) == QColor(Qt::green); }));
+    EXPECT_EQ(colorAt(at(50, 90)), QColor(Qt::red));
+    EXPECT_EQ(content.paints, 1);
+    EXPECT_EQ(content.clip, QRectF(0, 0, 40, 20));
+}
+
+TEST_F(PanelWindowTest, anExposedPanelIsNotPaintedAgain)
+{
+    show();
+    settle();
+    content.paints = 0;
+    {
+        const ManagedWindow other({500, 300, 500, 300});
+        settle();
+    }
+    settle();
+    EXPECT_EQ(content.paints, 0);
+    EXPECT_EQ(colorAt(at(10, 90)), QColor(Qt::red));
+}
+
+TEST_F(PanelWindowTest, onlyTheBodyTakesClicks)
+{
+    ManagedWindow below({500, 300, 500, 300});
+    setBody();
+    show();
+    EXPECT_EQ(display.server.inputShape(id()), QList<QRect>{QRect(50, 0, 200, 60)});
+    display.hands.click(at(150, 30));
+    EXPECT_TRUE(eventually([&] { return content.count("down") == 1; }));
+    EXPECT_TRUE(content.log.contains(QStringLiteral("down 150 70")));
+    const int clicksBefore = below.clicks();
+    display.hands.click(at(20, 80));
+    EXPECT_TRUE(eventually([&] { return below.clicks() == clicksBefore + 1; }));
+    EXPECT_EQ(content.count("down"), 1);
+}
+
+TEST_F(PanelWindowTest, takesNoClickWhileItIgnoresThem)
+{
+    setBody();
+    panel.setIgnoresMouseEvents(true);
+    show();
+    EXPECT_TRUE(display.server.inputShape(id()).isEmpty());
+    panel.setIgnoresMouseEvents(false);
+    EXPECT_TRUE(eventually(
+        [&] { return display.server.inputShape(id()) == QList<QRect>{QRect(50, 0, 200, 60)}; }));
+}
+
+TEST_F(PanelWindowTest, theBodyHangsFromTheBottomLeftAlsoWhenThePanelGrows)
+{
+    setBody();
+    show();
+    panel.setFrame({600, 432, 300, 150});
+    EXPECT_TRUE(eventually(
+        [&] { return display.server.inputShape(id()) == QList<QRect>{QRect(50, 50, 200, 60)}; }));
+}
+
+TEST_F(PanelWindowTest, isCutToItsOutlineOnlyWithoutACompositor)
+{
+    setBody();
+    show();
+    const QList<QRect> whole{QRect(0, 0, 300, 100)};
+    const QList<QRect> cut{QRect(50, 0, 200, 60)};
+    EXPECT_TRUE(eventually([&] { return display.server.boundingShape(id()) == cut; }));
+    {
+        const CompositorName compositor(display);
+        EXPECT_TRUE(eventually([&] { return display.server.boundingShape(id()) == whole; }));
+        EXPECT_TRUE(surface.isComposited());
+        EXPECT_TRUE(X11PanelSurface(connection).isComposited());
+    }
+    EXPECT_TRUE(eventually([&] { return display.server.boundingShape(id()) == cut; }));
+    EXPECT_FALSE(surface.isComposited());
+}
+
+TEST_F(PanelWindowTest, reportsThePointer)
+{
+    setBody();
+    show();
+    display.hands.glideTo(at(100, 20));
+    EXPECT_TRUE(eventually([&] { return content.count("entered") == 1; }));
+    display.hands.glideTo(at(120, 30));
+    EXPECT_TRUE(eventually([&] { return content.lastMove == QPointF(120, 70); }));
+    display.hands.press(3);
+    display.hands.release(3);
+    display.hands.press(1);
+    display.hands.glideTo(at(125, 35));
+    display.hands.release(1);
+    EXPECT_TRUE(eventually([&] { return content.count("up") == 1; }));
+    EXPECT_EQ(content.count("down"), 1);
+    EXPECT_TRUE(content.log.contains(QStringLiteral("dragged 125 65")));
+    display.hands.glideTo(at(100, 300));
+    EXPECT_TRUE(eventually([&] { return content.count("exited") == 1; }));
+}
+
+TEST_F(PanelWindowTest, aDoubleClickIsTwoClicks)
+{
+    show();
+    display.hands.doubleClick(at(150, 30));
+    EXPECT_TRUE(eventually([&] { return content.count("up") == 2; }));
+    EXPECT_EQ(content.count("down"), 2);
+}
+
+TEST_F(PanelWindowTest, wheelsScrollSideways)
+{
+    show();
+    display.hands.glideTo(at(150, 30));
+    display.hands.turn(e2e::Hands::Wheel::Left);
+    EXPECT_TRUE(eventually([&] { return content.scrolls.size() == 1; }));
+    EXPECT_EQ(content.scrolls[0].deltaX, 4);
+    display.hands.turn(e2e::Hands::Wheel::Down);
+    display.hands.keyDown(e2e::keys::shift);
+    display.hands.turn(e2e::Hands::Wheel::Down);
+    display.hands.keyUp(e2e::keys::shift);
+    EXPECT_TRUE(eventually([&] { return content.scrolls.size() == 2; }));
+    EXPECT_EQ(content.scrolls[1].deltaX, -4);
+    EXPECT_EQ(content.count("down"), 0);
+}
+
+TEST_F(PanelWindowTest, takesTheKeyboardOnAClickAndGivesItBack)
+{
+    const ManagedWindow other({100, 100, 300, 200});
+    content.onMouseDown = [this] { panel.makeKey(); };
+    show();
+    display.hands.click(at(150, 30));
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    display.hands.key('c', {e2e::keys::control});
+    ASSERT_TRUE(eventually(
+        [&] { return !content.keys.empty() && content.keys.back().keyCode == key_code::c; }));
+    EXPECT_TRUE(content.keys.back().modifiers.testFlag(Modifier::Command));
+    display.hands.key(e2e::keys::escape);
+    EXPECT_TRUE(eventually([&] { return content.keys.back().keyCode == key_code::escape; }));
+    panel.orderOut();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+}
+
+TEST_F(PanelWindowTest, leavesTheKeyboardWithSomebodyWhoTookItMeanwhile)
+{
+    const ManagedWindow first({100, 100, 300, 200});
+    content.onMouseDown = [this] { panel.makeKey(); };
+    show();
+    display.hands.click(at(150, 30));
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    const ManagedWindow second({500, 600, 300, 200});
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == second.id(); }));
+    panel.orderOut();
+    settle();
+    EXPECT_EQ(display.server.focusedWindow(), second.id());
+}
+
+TEST_F(PanelWindowTest, aHiddenPanelNeverTakesTheKeyboard)
+{
+    const ManagedWindow other({100, 100, 300, 200});
+    panel.makeKey();
+    settle();
+    EXPECT_EQ(display.server.focusedWindow(), other.id());
+}
+
+TEST_F(PanelWindowTest, asksForNoShadow)
+{
+    const auto shadow = display.server.property(id(), "_COMPTON_SHADOW");
+    EXPECT_EQ(shadow, QByteArray(4, '\0'));
+}
+
+TEST_F(PanelWindowTest, contentMayGoWhileThePanelIsShown)
+{
+    show();
+    panel.setContent(nullptr);
+    display.hands.click(at(150, 30));
+    panel.setNeedsDisplay({0, 0, 300, 100});
+    settle();
+    EXPECT_EQ(content.count("down"), 0);
+}
+
+} // namespace corvane::test
