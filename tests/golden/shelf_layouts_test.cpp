@@ -100,8 +100,8 @@ INSTANTIATE_TEST_SUITE_P(EveryState, ShelfLayouts,
                                          Case{"layout-5-in-3-receptive", 5, 3, true, {0, 0}},
                                          Case{"layout-1-in-1-receptive", 1, 1, true, {0, 0}},
                                          Case{"layout-6-in-6-receptive", 6, 6, true, {0, 0}}),
-                         [](const auto &info) {
-                             std::string name = info.param.name;
+                         [](const auto &given) {
+                             std::string name = given.param.name;
                              std::erase(name, '-');
                              return name;
                          });
