@@ -1,10 +1,33 @@
 #include "core/drop_item.h"
 
+#include <QRandomGenerator>
 #include <QSharedData>
 
+#include <array>
+#include <cstring>
 #include <utility>
 
 namespace corvane {
+
+namespace {
+
+/// A random id. Not `QUuid::createUuid`, which asks the system each time: ids keep no secret, and a
+/// drop may bring ten thousand items.
+QUuid randomId()
+{
+    std::array<quint32, 4> words = {};
+    QRandomGenerator::global()->fillRange(words.data(), static_cast<qsizetype>(words.size()));
+    QUuid id;
+    id.data1 = words[0];
+    id.data2 = static_cast<ushort>(words[1] >> 16U);
+    // Version 4 and its variant: made by chance.
+    id.data3 = static_cast<ushort>((words[1] & 0x0fffU) | 0x4000U);
+    std::memcpy(&id.data4[0], &words[2], sizeof id.data4);
+    id.data4[0] = static_cast<uchar>((id.data4[0] & 0x3fU) | 0x80U);
+    return id;
+}
+
+} // namespace
 
 struct DropItem::Data : QSharedData {
     QUuid id;
@@ -18,7 +41,7 @@ struct DropItem::Data : QSharedData {
 DropItem::DropItem(Payload payload, QString title, QString subtitle, bool isSpooled)
     : m_data(new Data)
 {
-    m_data->id = QUuid::createUuid();
+    m_data->id = randomId();
     m_data->payload = std::move(payload);
     m_data->title = std::move(title);
     m_data->subtitle = std::move(subtitle);

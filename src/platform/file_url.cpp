@@ -16,13 +16,12 @@ bool standsForItself(char byte)
         || byte == '/';
 }
 
-QByteArray lastComponent(const QByteArray &path)
+QByteArrayView lastComponent(QByteArrayView path)
 {
-    qsizetype end = path.size();
-    while (end > 1 && path[end - 1] == '/')
-        --end;
-    const qsizetype slash = end > 1 ? path.lastIndexOf('/', end - 1) : -1;
-    return path.mid(slash + 1, end - slash - 1);
+    while (path.size() > 1 && path.endsWith('/'))
+        path.chop(1);
+    const qsizetype slash = path.size() > 1 ? path.lastIndexOf('/') : -1;
+    return path.sliced(slash + 1);
 }
 
 /// Where the extension's dot stands, -1 without an extension. The dots that lead a name hide

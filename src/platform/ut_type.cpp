@@ -4,7 +4,7 @@
 #include <QMimeDatabase>
 #include <QMimeType>
 #include <QMutex>
-#include <QSet>
+#include <QStringList>
 
 namespace corvane {
 
@@ -51,9 +51,16 @@ UTType::UTType(const QString &identifier)
 UTType UTType::forFilenameExtension(const QString &extension)
 {
     static ExtensionCache cache;
+    // Most drops are of one kind, and then even the cache is worth going past.
+    thread_local QString lastExtension;
+    thread_local QString lastIdentifier;
     if (extension.isEmpty() || extension.contains(QLatin1Char('/')))
         return {};
-    return UTType(cache.identifier(extension));
+    if (extension != lastExtension) {
+        lastIdentifier = cache.identifier(extension);
+        lastExtension = extension;
+    }
+    return UTType(lastIdentifier);
 }
 
 UTType UTType::png()
@@ -73,10 +80,7 @@ QString UTType::preferredFilenameExtension() const
 
 bool UTType::isTiff() const
 {
-    static const QSet<QString> aliases = [] {
-        const QStringList names = QMimeDatabase().mimeTypeForName(tiffIdentifier).aliases();
-        return QSet<QString>(names.begin(), names.end());
-    }();
+    static const QStringList aliases = QMimeDatabase().mimeTypeForName(tiffIdentifier).aliases();
     return m_identifier == tiffIdentifier || aliases.contains(m_identifier);
 }
 

@@ -62,6 +62,8 @@ TEST(DropItem, GetsAnIdOfItsOwn)
 {
     EXPECT_FALSE(file({}).id().isNull());
     EXPECT_NE(file({}).id(), file({}).id());
+    EXPECT_EQ(file({}).id().version(), QUuid::Random);
+    EXPECT_EQ(file({}).id().variant(), QUuid::DCE);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "platform/callback_list.h"
 
 #include <gtest/gtest.h>
+
 #include <string>
 
 namespace corvane {
