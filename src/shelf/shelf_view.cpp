@@ -57,6 +57,12 @@ void ShelfView::relayout()
 {
     const double textWidth = detailTextWidth(m_look.snapshot, m_context.theme, m_context.measurer);
     m_look.layout = layoutShelf(m_look.snapshot, textWidth);
+    // The pointer may rest while the shelf changes beneath it.
+    const bool isInside = m_pointer && hitTest(fromTopCentre(*m_pointer));
+    m_look.isHovering = isInside;
+    m_look.hovered = isInside ? corvane::hitTest(m_look.layout, m_look.snapshot.isCarousel(),
+                                                 inBody(fromTopCentre(*m_pointer)))
+                              : ShelfHit();
     m_layers.apply(m_look);
     updateBody();
 }
@@ -121,15 +127,22 @@ void ShelfView::flash(const QString &message)
 
 void ShelfView::updateHover(QPointF point)
 {
+    const ShelfHit before = m_look.hovered;
+    const bool wasHovering = m_look.isHovering;
+    const QSizeF panel = m_context.panel.frame().size();
+    m_pointer = point - QPointF(panel.width() / 2, panel.height());
     const bool isInside = hitTest(point);
     const ShelfHit hit = isInside
         ? corvane::hitTest(m_look.layout, m_look.snapshot.isCarousel(), inBody(point))
         : ShelfHit();
-    if (isInside == m_look.isHovering && hit == m_look.hovered)
-        return;
-    m_look.isHovering = isInside;
-    m_look.hovered = hit;
-    relayout();
+    if (isInside != wasHovering || hit != before)
+        relayout();
+}
+
+QPointF ShelfView::fromTopCentre(QPointF point) const
+{
+    const QSizeF panel = m_context.panel.frame().size();
+    return point + QPointF(panel.width() / 2, panel.height());
 }
 
 void ShelfView::mouseEntered(const MouseEvent &event)
@@ -144,10 +157,9 @@ void ShelfView::mouseMoved(const MouseEvent &event)
 
 void ShelfView::mouseExited()
 {
+    m_pointer.reset();
     if (!m_look.isHovering && m_look.hovered == ShelfHit())
         return;
-    m_look.isHovering = false;
-    m_look.hovered = {};
     relayout();
 }
 

@@ -99,6 +99,7 @@ private:
     void updateBody();
     QRectF bodyRect() const;
     QPointF inBody(QPointF point) const;
+    QPointF fromTopCentre(QPointF point) const;
     void updateHover(QPointF point);
     void performAction(ShelfAction action);
     void pressCell(int itemIndex, QPointF point);
@@ -111,8 +112,9 @@ private:
     LayerTree m_tree;
     ShelfLayers m_layers;
     ShelfLook m_look;
-    QSizeF m_bodySize;
     double m_scale = 1;
+    /// Where the pointer is over the panel, from its top centre, which stays when the panel resizes.
+    std::optional<QPointF> m_pointer;
     std::optional<QPointF> m_mouseDownPoint;
     std::optional<int> m_mouseDownIndex;
     bool m_refusesDrag = false;

@@ -264,6 +264,17 @@ TEST_F(ShelfViewTest, ThePointerBesideTheBodyHoversNothing)
     EXPECT_FALSE(view.look().isHovering);
 }
 
+TEST_F(ShelfViewTest, HoverFollowsTheShelfUnderARestingPointer)
+{
+    show(holding(9, 3, 1));
+    view.mouseMoved({middleOf(1)});
+    EXPECT_EQ(view.look().hovered, ShelfHit(shelf_hit::Cell{2}));
+    show(holding(9, 3, 2));
+    EXPECT_EQ(view.look().hovered, ShelfHit(shelf_hit::Cell{3}));
+    view.apply({});
+    EXPECT_FALSE(view.look().isHovering);
+}
+
 // Keys
 
 TEST_F(ShelfViewTest, KeysDoWhatTheyShould)

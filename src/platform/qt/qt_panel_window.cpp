@@ -3,6 +3,7 @@
 #include "platform/main_queue.h"
 #include "platform/panel_surface.h"
 #include "platform/qt/drag_session.h"
+#include "platform/qt/outline_region.h"
 #include "platform/qt/panel_event_translation.h"
 #include "platform/qt/qt_geometry.h"
 
@@ -130,10 +131,11 @@ void QtPanelWindow::updateRegions()
 
     QRegion bounding;
     if (m_body && !m_surface.isComposited()) {
-        const QPolygonF outline = m_outline.toFillPolygon(toPixels);
-        bounding = QRegion(outline.toPolygon(), m_outline.fillRule());
+        const QSizeF pixels = m_frame.size() * m_canvas.devicePixelRatio();
+        bounding = outlineRegion(toPixels.map(m_outline), {qRound(pixels.width()), qRound(pixels.height())});
+        // An empty region would mean the whole window: a pixel at the edge stands for nothing.
         if (bounding.isEmpty())
-            bounding = toPixels.mapRect(body).toRect();
+            bounding = QRect(0, 0, 1, 1);
     }
     if (std::exchange(m_boundingRegion, bounding) != bounding)
         m_surface.setBoundingRegion(m_canvas, bounding);
