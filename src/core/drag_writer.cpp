@@ -6,10 +6,10 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <sys/stat.h>
+
 #include <cmath>
 #include <utility>
-
-#include <sys/stat.h>
 
 namespace corvane {
 
@@ -61,7 +61,7 @@ PasteboardWriter DragWriter::pasteboardWriter(const DropItem &item)
 bool DragWriter::isAvailable(const DropItem &item)
 {
     const auto *file = std::get_if<DropItem::File>(&item.payload());
-    struct stat status {};
+    struct stat status { };
     return !file || lstat(file_url::nativePath(file->url).constData(), &status) == 0;
 }
 

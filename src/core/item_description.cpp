@@ -48,7 +48,7 @@ QString ofFile(const FileName &name)
     const auto status = statusOf(name.nativePath);
     if (status && S_ISDIR(status->st_mode))
         return QStringLiteral("Folder");
-    const QString kind = name.extension.toUpper();
+    QString kind = name.extension.toUpper();
     // A pipe or a device has no size to speak of.
     if (!status || !S_ISREG(status->st_mode))
         return kind;

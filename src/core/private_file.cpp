@@ -88,7 +88,7 @@ std::optional<QByteArray> read(const QByteArray &path, qint64 limit)
         return std::nullopt;
     QByteArray data;
     // By what comes, not by the size that was told: the file may grow meanwhile.
-    QByteArray buffer(64 * 1024, Qt::Uninitialized);
+    QByteArray buffer(qsizetype(64) * 1024, Qt::Uninitialized);
     while (true) {
         const auto room = static_cast<std::size_t>(buffer.size());
         const ssize_t count = ::read(file.number(), buffer.data(), room);

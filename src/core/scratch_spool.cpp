@@ -111,7 +111,7 @@ QByteArray ScratchSpool::freePath(const QString &basename, const QString &extens
             = characters::prefix(stem, maximumBasenameCharacters, maximumNameBytes - ending.size());
         // A single character can be longer than a file name may be.
         const QByteArray name = fitting.isEmpty() ? QByteArrayLiteral("Item") : fitting.toUtf8();
-        const QByteArray path = m_directory + '/' + name + ending;
+        QByteArray path = m_directory + '/' + name + ending;
         if (!exists(path))
             return path;
     }

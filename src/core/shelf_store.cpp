@@ -82,7 +82,8 @@ bool ShelfStore::accept(const QList<DropItem> &newItems)
 {
     if (newItems.isEmpty())
         return false;
-    // An observer may change the caller's list under our feet, if that list is ours.
+    // An observer may change the caller's list, which may be ours, under our feet.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const QList<DropItem> arrivals = newItems;
     m_items.append(arrivals);
     m_index.invalidate();
@@ -113,6 +114,7 @@ void ShelfStore::ejected(const QList<QUuid> &ids, bool keep)
         return;
     }
     // A copy: an observer may change the caller's list.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const QList<QUuid> leaving = ids;
     for (const QUuid &id : leaving) {
         if (const auto index = indexOf(id))

@@ -6,6 +6,8 @@
 #include <QMutex>
 #include <QStringList>
 
+#include <utility>
+
 namespace corvane {
 
 namespace {
@@ -43,8 +45,8 @@ const QString tiffIdentifier = QStringLiteral("image/tiff");
 
 } // namespace
 
-UTType::UTType(const QString &identifier)
-    : m_identifier(identifier)
+UTType::UTType(QString identifier)
+    : m_identifier(std::move(identifier))
 {
 }
 

@@ -12,7 +12,7 @@ public:
     /// No type at all; `isValid` is false and every text is empty.
     UTType() = default;
     /// From a MIME name. A name that the database does not know is kept as it is.
-    explicit UTType(const QString &identifier);
+    explicit UTType(QString identifier);
 
     /// The type that the database gives to a file-name extension (no dot, any case); invalid when
     /// it knows none. The contents of a file are never looked at.

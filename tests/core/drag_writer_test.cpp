@@ -1,4 +1,5 @@
 #include "core/drag_writer.h"
+#include "core/temporary_spool.h"
 #include "platform/geometry.h"
 
 #include <QPainter>
@@ -39,6 +40,15 @@ TEST_F(DragWriterTest, WritesEachKindAsWhatItIs)
     const auto image = written(DropItem::ImageBytes{"bytes", UTType::png()});
     EXPECT_EQ(std::get<PasteboardWriter::Data>(image).bytes, "bytes");
     EXPECT_EQ(std::get<PasteboardWriter::Data>(image).type, UTType::png());
+}
+
+TEST_F(DragWriterTest, HasNothingToCarryOfAFileThatIsGone)
+{
+    const test::TemporaryFolder temporary;
+    const auto file = [](const QUrl &url) { return DropItem(DropItem::File{url}, {}, {}, false); };
+    EXPECT_TRUE(DragWriter::isAvailable(file(temporary.write("caf #1", "x"))));
+    EXPECT_FALSE(DragWriter::isAvailable(file(temporary.url("gone"))));
+    EXPECT_TRUE(DragWriter::isAvailable(text()));
 }
 
 TEST_F(DragWriterTest, MakesTheImageAtTheScale)

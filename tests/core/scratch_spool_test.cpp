@@ -267,6 +267,15 @@ TEST_F(ScratchSpoolTest, HasNoAddressWhereAFileIsInTheWay)
     EXPECT_TRUE(exists(directory()));
 }
 
+TEST_F(ScratchSpoolTest, HasNoAddressWhereTheDirectoryCannotBeMade)
+{
+    temporary.write("file", "x");
+    ScratchSpool below(temporary.path("file"), 1);
+    EXPECT_FALSE(below.reserve(image, png).has_value());
+    EXPECT_FALSE(below.store("x", image, png).has_value());
+    EXPECT_EQ(file_url::nativePath(below.directory()), temporary.path("file/Corvane-1"));
+}
+
 TEST_F(ScratchSpoolTest, MakesATemporaryDirectoryThatIsMissing)
 {
     ScratchSpool deep(temporary.path("not/there/yet"), 1);
