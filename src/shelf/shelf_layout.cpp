@@ -2,6 +2,7 @@
 
 #include "platform/geometry.h"
 #include "platform/text_measurer.h"
+#include "shelf/display_text.h"
 #include "shelf/pill_path.h"
 #include "shelf/theme.h"
 
@@ -125,8 +126,9 @@ double detailTextWidth(const ShelfSnapshot &snapshot, const Theme &theme,
     double width = 0;
     if (!snapshot.visible.empty()) {
         const DropItem &item = snapshot.visible.front().second;
-        width = std::max(measurer.width(item.title(), theme.typography.primary),
-                         measurer.width(item.subtitle(), theme.typography.secondary));
+        // As it is drawn, which also bounds what a stranger's text may cost.
+        width = std::max(measurer.width(displayText(item.title()), theme.typography.primary),
+                         measurer.width(displayText(item.subtitle()), theme.typography.secondary));
     }
     return std::clamp(width + 8, 84.0, 190.0);
 }

@@ -113,7 +113,8 @@ private:
     ShelfLayers m_layers;
     ShelfLook m_look;
     double m_scale = 1;
-    /// Where the pointer is over the panel, from its top centre, which stays when the panel resizes.
+    /// Where the pointer is over the panel, from its top centre, which stays when the panel
+    /// resizes.
     std::optional<QPointF> m_pointer;
     std::optional<QPointF> m_mouseDownPoint;
     std::optional<int> m_mouseDownIndex;

@@ -1,4 +1,5 @@
 #include "fakes/shelf_desk.h"
+#include "platform/text_measurer.h"
 #include "shelf/pill_path.h"
 #include "shelf/shelf_hit_test.h"
 #include "shelf/shelf_layout.h"
@@ -96,6 +97,24 @@ TEST(ShelfLayout, TextWidthIsTheWiderLineWithAMarginWithinLimits)
     EXPECT_EQ(measure(QString(10, u'x'), QString(12, u'y')), 128);
     snapshot.visible.clear();
     EXPECT_EQ(detailTextWidth(snapshot, desk.theme, desk.fakeMeasurer), 84);
+}
+
+TEST(ShelfLayout, NoMoreOfAnEndlessTitleIsMeasuredThanIsShown)
+{
+    struct LongestText : TextMeasurer {
+        double width(const QString &text, const QFont &) const override
+        {
+            longest = std::max(longest, text.size());
+            return 1;
+        }
+        mutable qsizetype longest = 0;
+    };
+    ShelfDesk desk;
+    ShelfSnapshot snapshot = holding(1, 1);
+    snapshot.visible[0].second.setTitle(QString(50'000'000, u'x'));
+    const LongestText measurer;
+    detailTextWidth(snapshot, desk.theme, measurer);
+    EXPECT_LE(measurer.longest, 1024);
 }
 
 TEST(ShelfLayout, ArrowsNeedMoreItemsThanTheSetting)
