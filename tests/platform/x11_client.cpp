@@ -110,7 +110,7 @@ void X11Client::sendMessage(xcb_window_t to, const char *type, std::array<std::u
 // The source
 
 DragSource::DragSource(QHash<QByteArray, QByteArray> offers, QByteArray action)
-    : X11Client({1300, 850, 50, 50})
+    : X11Client(frame)
     , m_offers(std::move(offers))
     , m_action(std::move(action))
 {

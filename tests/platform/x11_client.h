@@ -48,6 +48,8 @@ private:
 /// A program that something is dragged out of.
 class DragSource : public X11Client {
 public:
+    static constexpr QRect frame{1300, 850, 100, 100};
+
     struct Answer {
         bool accepts = false;
         QByteArray action;

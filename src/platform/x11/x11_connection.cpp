@@ -42,8 +42,10 @@ X11Connection::X11Connection(std::function<void()> onLost)
         = new QSocketNotifier(xcb_get_file_descriptor(m_connection), QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, &X11Connection::readEvents);
     // Waiting for a reply may read events along with it, and then the socket has nothing to tell.
-    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+    const auto *dispatcher = QAbstractEventDispatcher::instance();
+    connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this,
             &X11Connection::handleQueuedEvents);
+    connect(dispatcher, &QAbstractEventDispatcher::awake, this, &X11Connection::handleQueuedEvents);
 
     // Qt calls `exit` when its own connection breaks, and may notice before we do. The list is
     // touched first, so that it is there still when the process ends.

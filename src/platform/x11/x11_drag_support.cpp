@@ -91,9 +91,7 @@ bool X11DragSupport::nativeEventFilter(const QByteArray &eventType, void *messag
     const auto *event = static_cast<const xcb_generic_event_t *>(message);
     const int type = event->response_type & 0x7f;
     if (type == XCB_CLIENT_MESSAGE) {
-        const auto *client = static_cast<const xcb_client_message_event_t *>(message);
-        if (client->format == 32 && client->type == m_connection.atom("XdndEnter"))
-            m_source = client->data.data32[0];
+        readMessage(*static_cast<xcb_client_message_event_t *>(message));
     } else if (type == XCB_SELECTION_CLEAR) {
         // Another program drags now: nobody will ask for ours again.
         const auto *clear = static_cast<const xcb_selection_clear_event_t *>(message);
@@ -107,6 +105,19 @@ bool X11DragSupport::nativeEventFilter(const QByteArray &eventType, void *messag
         }
     }
     return false;
+}
+
+void X11DragSupport::readMessage(xcb_client_message_event_t &message)
+{
+    if (message.format != 32)
+        return;
+    if (message.type == m_connection.atom("XdndEnter"))
+        m_source = message.data.data32[0];
+    // Qt takes any flag for consent, the wish to hear every position too. It would drop on a target
+    // that refuses, and report a copy that nobody took.
+    constexpr std::uint32_t accepts = 1;
+    if (message.type == m_connection.atom("XdndStatus") && (message.data.data32[1] & accepts) == 0)
+        message.data.data32[1] = 0;
 }
 
 void X11DragSupport::answer(const xcb_selection_request_event_t &request)

@@ -33,6 +33,7 @@ public:
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
 private:
+    void readMessage(xcb_client_message_event_t &message);
     void answer(const xcb_selection_request_event_t &request);
     bool writeAnswer(const xcb_selection_request_event_t &request, xcb_atom_t property);
 

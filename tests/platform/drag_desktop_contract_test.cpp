@@ -1,0 +1,228 @@
+#include "fakes/fake_drag_desktop.h"
+#include "platform/display.h"
+#include "platform/x11/x11_connection.h"
+#include "platform/x11/x11_drag_desktop.h"
+#include "platform/x11_client.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+/// The user's verbs on the stand-in ...
+struct FakeHands {
+    FakeDragDesktop desktop;
+    void press() { desktop.press(); }
+    void release() { desktop.release(); }
+    void pressRight() { desktop.press(FakeDragDesktop::rightButton); }
+    void releaseRight() { desktop.release(FakeDragDesktop::rightButton); }
+    void move() { desktop.moveTo({1, 0}); }
+    void pickUp() { desktop.pickUp(); }
+    void putDown() { }
+    bool until(const std::function<bool()> &condition) { return condition(); }
+    void waitABit() { }
+};
+
+/// ... and on a real desktop.
+struct RealHands {
+    X11Connection connection;
+    X11DragDesktop desktop{connection};
+    Display display;
+    DragSource source{{{"text/plain", "x"}}, "XdndActionCopy"};
+
+    /// Over the source's window: the window manager has menus on the desktop itself.
+    RealHands() { display.hands.moveTo(DragSource::frame.center()); }
+    ~RealHands()
+    {
+        display.hands.release(1);
+        display.hands.release(3);
+    }
+    void press() { display.hands.press(1); }
+    void release() { display.hands.release(1); }
+    void pressRight() { display.hands.press(3); }
+    void releaseRight() { display.hands.release(3); }
+    void move() { display.hands.moveBy({7, 3}); }
+    void pickUp() { source.pickUp(); }
+    void putDown() { source.putDown(); }
+    bool until(const std::function<bool()> &condition) { return eventually(condition); }
+    void waitABit() { settle(); }
+};
+
+template<typename Hands>
+class DragDesktopContract : public testing::Test {
+protected:
+    Hands hands;
+    DragPasteboard &pasteboard = hands.desktop;
+    EventMonitors &monitors = hands.desktop;
+    MouseButtons &buttons = hands.desktop;
+    int heard = 0;
+
+    std::optional<EventMonitors::Handle> listen()
+    {
+        const auto handle = monitors.addGlobalMonitor([this] { ++heard; });
+        // The hands have a connection of their own, which may be faster.
+        hands.waitABit();
+        return handle;
+    }
+};
+
+using AllHands = testing::Types<FakeHands, RealHands>;
+TYPED_TEST_SUITE(DragDesktopContract, AllHands);
+
+} // namespace
+
+TYPED_TEST(DragDesktopContract, theChangeCountGrowsWithEachDrag)
+{
+    const auto before = this->pasteboard.changeCount();
+    this->hands.waitABit();
+    EXPECT_EQ(this->pasteboard.changeCount(), before);
+    this->hands.pickUp();
+    EXPECT_TRUE(this->hands.until([&] { return this->pasteboard.changeCount() == before + 1; }));
+    this->hands.putDown();
+    this->hands.waitABit();
+    EXPECT_EQ(this->pasteboard.changeCount(), before + 1);
+    this->hands.pickUp();
+    EXPECT_TRUE(this->hands.until([&] { return this->pasteboard.changeCount() == before + 2; }));
+    this->hands.putDown();
+}
+
+TYPED_TEST(DragDesktopContract, hearsThePointerMoveWithTheLeftButtonHeld)
+{
+    ASSERT_TRUE(this->listen());
+    this->hands.press();
+    this->hands.waitABit();
+    this->hands.move();
+    EXPECT_TRUE(this->hands.until([&] { return this->heard > 0; }));
+    this->hands.release();
+    this->hands.waitABit();
+    this->heard = 0;
+    this->hands.move();
+    this->hands.waitABit();
+    EXPECT_EQ(this->heard, 0);
+}
+
+TYPED_TEST(DragDesktopContract, hearsNothingWithAnotherButton)
+{
+    ASSERT_TRUE(this->listen());
+    this->hands.pressRight();
+    this->hands.waitABit();
+    this->hands.move();
+    this->hands.waitABit();
+    EXPECT_EQ(this->heard, 0);
+    this->hands.releaseRight();
+}
+
+TYPED_TEST(DragDesktopContract, tellsTheButtonsThatAreDown)
+{
+    EXPECT_EQ(this->buttons.pressedMouseButtons(), 0U);
+    this->hands.press();
+    EXPECT_EQ(this->buttons.pressedMouseButtons(), MouseButtons::left);
+    this->hands.pressRight();
+    EXPECT_EQ(this->buttons.pressedMouseButtons(), 3U);
+    this->hands.release();
+    EXPECT_EQ(this->buttons.pressedMouseButtons(), 2U);
+    this->hands.releaseRight();
+    EXPECT_EQ(this->buttons.pressedMouseButtons(), 0U);
+}
+
+TYPED_TEST(DragDesktopContract, aRemovedMonitorHearsNothing)
+{
+    const auto first = this->listen();
+    int second = 0;
+    const auto other = this->monitors.addGlobalMonitor([&] { ++second; });
+    ASSERT_TRUE(first && other);
+    EXPECT_NE(*first, *other);
+    this->monitors.removeMonitor(*first);
+    this->monitors.removeMonitor(*first);
+    this->monitors.removeMonitor(12345);
+    this->hands.press();
+    this->hands.waitABit();
+    this->hands.move();
+    EXPECT_TRUE(this->hands.until([&] { return second > 0; }));
+    EXPECT_EQ(this->heard, 0);
+}
+
+TYPED_TEST(DragDesktopContract, aMonitorMayRemoveItselfFromItsHandler)
+{
+    std::optional<EventMonitors::Handle> handle;
+    handle = this->monitors.addGlobalMonitor([&] {
+        ++this->heard;
+        this->monitors.removeMonitor(*handle);
+    });
+    this->hands.waitABit();
+    this->hands.press();
+    this->hands.waitABit();
+    this->hands.move();
+    EXPECT_TRUE(this->hands.until([&] { return this->heard == 1; }));
+    this->hands.move();
+    this->hands.waitABit();
+    EXPECT_EQ(this->heard, 1);
+}
+
+TEST(X11DragDesktop, hasNoLocalMonitorBecauseTheGlobalOneHearsAll)
+{
+    X11Connection connection;
+    X11DragDesktop desktop(connection);
+    EXPECT_FALSE(desktop.addLocalMonitor([] {}));
+}
+
+TEST(X11DragDesktop, anOwnDragAndTheClipboardAreNoChange)
+{
+    X11Connection connection;
+    const X11DragDesktop desktop(connection);
+    Display display;
+    QWindow window;
+    window.create();
+    // As Qt's own drag does it.
+    auto *const qt = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+    xcb_set_selection_owner(qt, static_cast<xcb_window_t>(window.winId()),
+                            display.server.atom("XdndSelection"), XCB_CURRENT_TIME);
+    xcb_flush(qt);
+    QGuiApplication::clipboard()->setText(QStringLiteral("text"));
+    ASSERT_TRUE(eventually(
+        [&] { return display.server.selectionOwner("XdndSelection") == window.winId(); }));
+    settle();
+    EXPECT_EQ(desktop.changeCount(), 0);
+}
+
+TEST(X11DragDesktop, leftHandedPeopleDragWithTheOtherButton)
+{
+    RealHands hands;
+    int heard = 0;
+    ASSERT_TRUE(hands.desktop.addGlobalMonitor([&] { ++heard; }));
+    auto *const server = hands.display.server.connection();
+    const std::array<std::uint8_t, 10> swapped = {3, 2, 1, 4, 5, 6, 7, 8, 9, 10};
+    const auto reply = xcb_set_pointer_mapping_reply(
+        server, xcb_set_pointer_mapping(server, swapped.size(), swapped.data()), nullptr);
+    ASSERT_TRUE(reply);
+    std::free(reply);
+    settle();
+    hands.pressRight();
+    EXPECT_EQ(hands.desktop.pressedMouseButtons(), MouseButtons::left);
+    settle();
+    hands.move();
+    EXPECT_TRUE(eventually([&] { return heard > 0; }));
+    hands.releaseRight();
+    const std::array<std::uint8_t, 10> usual = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10};
+    std::free(xcb_set_pointer_mapping_reply(
+        server, xcb_set_pointer_mapping(server, usual.size(), usual.data()), nullptr));
+    settle();
+}
+
+TEST(X11DragDesktop, startedInMidDragItHearsTheRest)
+{
+    RealHands hands;
+    int heard = 0;
+    hands.press();
+    ASSERT_TRUE(hands.desktop.addGlobalMonitor([&] { ++heard; }));
+    settle();
+    hands.move();
+    EXPECT_TRUE(eventually([&] { return heard > 0; }));
+}
+
+} // namespace corvane::test

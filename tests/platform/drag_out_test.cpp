@@ -1,0 +1,166 @@
+#include "platform/panel_fixture.h"
+#include "platform/x11/x11_drag_desktop.h"
+#include "platform/x11_client.h"
+
+#include <algorithm>
+
+namespace corvane::test {
+
+namespace {
+
+class DragOutTest : public PanelFixture {
+protected:
+    DragOutTest()
+    {
+        content.onMouseDragged = [this] {
+            content.onMouseDragged = nullptr;
+            panel.beginDraggingSession(
+                drag(), [this](DragOperation operation) { results.push_back(operation); });
+        };
+    }
+
+    DragOut drag() const
+    {
+        QImage image(32, 32, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::yellow);
+        return {{{{PasteboardWriter::File{QUrl(QStringLiteral("file:///tmp/a%FF.txt"))}},
+                  {PasteboardWriter::Data{bytes, UTType::png()}}},
+                 QStringLiteral("täxt")},
+                {image, {16, 16}},
+                {8, 8}};
+    }
+
+    /// Drags out of the panel to `goal` and lets go there. The drag blocks this thread in an event
+    /// loop of its own, so the hands are on another one.
+    void dragTo(
+        QPoint goal, const std::function<bool()> &mayLetGo = [] { return true; })
+    {
+        std::thread user([this, goal, mayLetGo] {
+            Display own;
+            own.hands.beginDrag(at(150, 30), goal);
+            own.hands.glideTo(goal);
+            for (int i = 0; i < 400 && !mayLetGo(); ++i)
+                own.hands.aim(goal);
+            own.hands.release();
+        });
+        EXPECT_TRUE(eventually([&] { return !results.empty(); }));
+        user.join();
+    }
+
+    QByteArray bytes = "picture";
+    std::vector<DragOperation> results;
+};
+
+} // namespace
+
+TEST_F(DragOutTest, givesATargetThatAsksLikeGtkEverything)
+{
+    show();
+    DropTarget target({100, 100, 200, 200});
+    target.wanted = {"text/uri-list", "UTF8_STRING", "text/plain;charset=utf-8", "image/png",
+                     "application/vnd.portal.filetransfer"};
+    dragTo({200, 200}, [&] { return target.isOver(); });
+    ASSERT_TRUE(eventually([&] { return target.hasFinished(); }));
+    EXPECT_EQ(results, std::vector{DragOperation::Copy});
+    EXPECT_EQ(target.received("text/uri-list"), "file:///tmp/a%FF.txt\r\n");
+    EXPECT_EQ(target.received("UTF8_STRING"), "t\xC3\xA4xt");
+    EXPECT_EQ(target.received("text/plain;charset=utf-8"), "t\xC3\xA4xt");
+    EXPECT_EQ(target.received("image/png"), "picture");
+    EXPECT_FALSE(target.received("application/vnd.portal.filetransfer"));
+    EXPECT_TRUE(target.targets().contains("text/uri-list"));
+    EXPECT_TRUE(target.targets().contains("UTF8_STRING"));
+}
+
+TEST_F(DragOutTest, offersCopyAndLinkAndNeverAMove)
+{
+    show();
+    DropTarget target({100, 100, 200, 200});
+    dragTo({200, 200}, [&] { return target.isOver(); });
+    EXPECT_TRUE(target.actions().contains("XdndActionCopy"));
+    EXPECT_TRUE(target.actions().contains("XdndActionLink"));
+    EXPECT_FALSE(target.actions().contains("XdndActionMove"));
+}
+
+TEST_F(DragOutTest, aRefusingTargetTakesNothing)
+{
+    show();
+    DropTarget target({100, 100, 200, 200});
+    target.accepts = false;
+    content.accepts = false;
+    dragTo({200, 200}, [&] { return target.isOver(); });
+    EXPECT_EQ(results, std::vector{DragOperation::None});
+}
+
+TEST_F(DragOutTest, nothingIsTakenByTheEmptyDesktop)
+{
+    show();
+    dragTo({1000, 800});
+    EXPECT_EQ(results, std::vector{DragOperation::None});
+}
+
+TEST_F(DragOutTest, moreThanOneRequestCarriesIsRefusedAndEndsNothing)
+{
+    show();
+    bytes = QByteArray(20'000'000, 'x');
+    DropTarget target({100, 100, 200, 200});
+    target.wanted = {"image/png", "text/uri-list"};
+    dragTo({200, 200}, [&] { return target.isOver(); });
+    ASSERT_TRUE(eventually([&] { return target.hasFinished(); }));
+    EXPECT_FALSE(target.received("image/png"));
+    EXPECT_TRUE(target.received("text/uri-list"));
+}
+
+TEST_F(DragOutTest, itsOwnDragIsKnownAsSuchAndChangesNoCount)
+{
+    show();
+    X11DragDesktop desktop(connection);
+    content.accepts = false;
+    dragTo(at(100, 40));
+    EXPECT_TRUE(content.isOwn);
+    EXPECT_EQ(desktop.changeCount(), 0);
+    EXPECT_EQ(results, std::vector{DragOperation::None});
+}
+
+TEST_F(DragOutTest, aSecondDragInsideTheFirstIsNone)
+{
+    show();
+    int inner = 0;
+    const auto start = content.onMouseDragged;
+    queue.asyncAfter(0.3, [&] {
+        panel.beginDraggingSession(drag(), [&](DragOperation operation) {
+            inner += operation == DragOperation::None ? 1 : 100;
+        });
+    });
+    dragTo({1000, 800}, [&] { return inner != 0; });
+    EXPECT_EQ(inner, 1);
+    EXPECT_EQ(results.size(), 1U);
+}
+
+TEST_F(DragOutTest, aPanelThatDiesInItsDragReportsNothing)
+{
+    auto dying = std::make_unique<QtPanelWindow>(surface, queue, &support);
+    RecordingContent dyingContent;
+    dying->setContent(&dyingContent);
+    dying->setFrame({600, 482, 300, 100});
+    bool hasReturned = false;
+    bool hasEnded = false;
+    dyingContent.onMouseDragged = [&] {
+        dyingContent.onMouseDragged = nullptr;
+        queue.asyncAfter(0.05, [&] { dying.reset(); });
+        dying->beginDraggingSession(drag(), [&](DragOperation) { hasEnded = true; });
+        hasReturned = true;
+    };
+    dying->orderFrontRegardless();
+    ASSERT_TRUE(eventually([&] { return dyingContent.paints > 0; }));
+    std::thread user([this] {
+        Display own;
+        own.hands.beginDrag(at(150, 30), {1000, 800});
+        own.hands.glideTo({1000, 800});
+        own.hands.release();
+    });
+    EXPECT_TRUE(eventually([&] { return hasReturned; }));
+    user.join();
+    EXPECT_FALSE(hasEnded);
+}
+
+} // namespace corvane::test

@@ -1,0 +1,216 @@
+// What needs a process of its own: the one instance of a session, signals, and the loss of the
+// server.
+
+#include "e2e/desktop/x_desktop.h"
+#include "platform/display.h"
+#include "platform/freedesktop/dbus_single_instance.h"
+#include "platform/freedesktop/portal_motion_preference.h"
+#include "platform/qt/unix_signals.h"
+#include "platform/x11/x11_connection.h"
+
+#include <QApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace corvane::test {
+
+namespace {
+
+const auto applicationId = QStringLiteral("example.corvane.PlatformTest");
+
+/// Runs one of the scenes below in a process of its own, and gives what it printed and how it
+/// ended.
+struct Scene {
+    explicit Scene(const char *name,
+                   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment())
+    {
+        environment.insert(QStringLiteral("CORVANE_SCENE"), QStringLiteral("1"));
+        process.setProcessEnvironment(environment);
+        process.start(QCoreApplication::applicationFilePath(),
+                      {QStringLiteral("--gtest_filter=Scene.DISABLED_") + QLatin1String(name),
+                       QStringLiteral("--gtest_also_run_disabled_tests"),
+                       QStringLiteral("--gtest_brief=1")});
+    }
+    ~Scene()
+    {
+        process.kill();
+        process.waitForFinished();
+    }
+    bool waitFor(const char *text)
+    {
+        return eventually([&] {
+            output += process.readAllStandardOutput();
+            return output.contains(text);
+        });
+    }
+    bool waitForEnd()
+    {
+        return eventually([&] { return process.state() == QProcess::NotRunning; });
+    }
+
+    QProcess process;
+    QByteArray output;
+};
+
+void say(const char *text)
+{
+    std::puts(text);
+    std::fflush(stdout);
+}
+
+const char *nameOf(SingleInstance::Outcome outcome)
+{
+    switch (outcome) {
+    case SingleInstance::Outcome::First:
+        return "first";
+    case SingleInstance::Outcome::HandedOver:
+        return "handed over";
+    case SingleInstance::Outcome::Unknown:
+        break;
+    }
+    return "unknown";
+}
+
+} // namespace
+
+// The scenes. They run only where a test starts them.
+
+TEST(Scene, DISABLED_instance)
+{
+    DBusSingleInstance instance(applicationId);
+    say(nameOf(instance.acquire([] { say("reopened"); })));
+    QTimer::singleShot(std::chrono::seconds{20}, qApp, &QCoreApplication::quit);
+    QApplication::exec();
+}
+
+TEST(Scene, DISABLED_signals)
+{
+    const UnixSignals signals([] {
+        say("terminating");
+        QCoreApplication::exit();
+    });
+    say("ready");
+    QApplication::exec();
+    say("ended");
+}
+
+TEST(Scene, DISABLED_stuckAfterSignal)
+{
+    const UnixSignals signals([] { say("terminating"); });
+    say("ready");
+    QApplication::exec();
+}
+
+TEST(Scene, DISABLED_serverLoss)
+{
+    const X11Connection connection([] { say("lost"); });
+    say("ready");
+    QApplication::exec();
+}
+
+TEST(SingleInstance, aSecondProcessHandsOverToTheFirst)
+{
+    Scene first("instance");
+    ASSERT_TRUE(first.waitFor("first"));
+    DBusSingleInstance second(applicationId);
+    EXPECT_EQ(second.acquire([] {}), SingleInstance::Outcome::HandedOver);
+    EXPECT_TRUE(first.waitFor("reopened"));
+    first.process.kill();
+    ASSERT_TRUE(first.waitForEnd());
+    EXPECT_EQ(second.acquire([] {}), SingleInstance::Outcome::First);
+}
+
+TEST(SingleInstance, aFirstOneThatIsStuckStillCountsAsTheOne)
+{
+    Scene first("instance");
+    ASSERT_TRUE(first.waitFor("first"));
+    ::kill(static_cast<pid_t>(first.process.processId()), SIGSTOP);
+    QElapsedTimer timer;
+    timer.start();
+    // With a connection of its own: this process may hold the name by now.
+    Scene second("instance");
+    EXPECT_TRUE(second.waitFor("handed over"));
+    EXPECT_LT(timer.elapsed(), 10'000);
+    ::kill(static_cast<pid_t>(first.process.processId()), SIGCONT);
+}
+
+TEST(SingleInstance, withoutABusItGoesOnAlone)
+{
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), QStringLiteral("/nonexistent"));
+    Scene without("instance", environment);
+    EXPECT_TRUE(without.waitFor("unknown"));
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"),
+                       QStringLiteral("unix:path=/nonexistent/bus"));
+    Scene broken("instance", environment);
+    EXPECT_TRUE(broken.waitFor("unknown"));
+}
+
+TEST(UnixSignals, eachEndsTheProcessInOrder)
+{
+    for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
+        Scene scene("signals");
+        ASSERT_TRUE(scene.waitFor("ready"));
+        ::kill(static_cast<pid_t>(scene.process.processId()), signal);
+        EXPECT_TRUE(scene.waitFor("ended")) << signal;
+        ASSERT_TRUE(scene.waitForEnd());
+        EXPECT_EQ(scene.process.exitStatus(), QProcess::NormalExit) << signal;
+    }
+}
+
+TEST(UnixSignals, aSecondOneEndsAProcessThatIsStuck)
+{
+    Scene scene("stuckAfterSignal");
+    ASSERT_TRUE(scene.waitFor("ready"));
+    ::kill(static_cast<pid_t>(scene.process.processId()), SIGTERM);
+    ASSERT_TRUE(scene.waitFor("terminating"));
+    ::kill(static_cast<pid_t>(scene.process.processId()), SIGTERM);
+    ASSERT_TRUE(scene.waitForEnd());
+    EXPECT_EQ(scene.process.exitStatus(), QProcess::CrashExit);
+}
+
+TEST(X11Connection, tellsTheLossOfTheServerOnce)
+{
+    for (int attempt = 0; attempt < 3; ++attempt) {
+        e2e::XDesktop desktop;
+        ASSERT_TRUE(desktop.problem().isEmpty()) << qPrintable(desktop.problem());
+        auto environment = desktop.environment();
+        environment.insert(QStringLiteral("CORVANE_TESTS_HAVE_A_DESKTOP"), QStringLiteral("1"));
+        Scene scene("serverLoss", environment);
+        ASSERT_TRUE(scene.waitFor("ready"));
+        desktop.endServer();
+        EXPECT_TRUE(scene.waitForEnd());
+        EXPECT_TRUE(scene.waitFor("lost"));
+        EXPECT_EQ(scene.output.count("lost"), 1);
+    }
+}
+
+TEST(X11Connection, withoutAServerEveryQuestionIsAnsweredWithNothing)
+{
+    const QByteArray display = qgetenv("DISPLAY");
+    qputenv("DISPLAY", ":54321");
+    X11Connection connection;
+    qputenv("DISPLAY", display);
+    EXPECT_FALSE(connection.isConnected());
+    EXPECT_FALSE(connection.hasXFixes());
+    EXPECT_EQ(connection.atom("XdndSelection"), xcb_atom_t{XCB_NONE});
+    connection.flush();
+}
+
+TEST(MotionPreference, followsTheToolkitWhereThereIsNoPortal)
+{
+    const PortalMotionPreference preference;
+    settle();
+    EXPECT_FALSE(preference.reducesMotion());
+}
+
+} // namespace corvane::test

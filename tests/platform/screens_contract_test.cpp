@@ -1,0 +1,106 @@
+#include "fakes/fake_screens.h"
+#include "platform/display.h"
+#include "platform/qt/qt_geometry.h"
+#include "platform/qt/qt_keyboard.h"
+#include "platform/qt/qt_main_queue.h"
+#include "platform/qt/qt_pointer.h"
+#include "platform/qt/qt_screens.h"
+
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+struct FakeDisplays {
+    FakeScreens screens;
+    std::shared_ptr<Screen> attached = screens.attach(QRectF(0, 0, 1512, 982));
+
+    void resize(int width, int height)
+    {
+        attached->frame = {0, 0, double(width), double(height)};
+        screens.notifyChanges();
+    }
+    bool until(const std::function<bool()> &condition) { return condition(); }
+};
+
+struct RealDisplays {
+    QtMainQueue queue;
+    QtScreens screens{queue};
+
+    ~RealDisplays() { resize(1512, 982); }
+    void resize(int width, int height)
+    {
+        const auto size = QStringLiteral("%1x%2").arg(width).arg(height);
+        QProcess::execute(QStringLiteral("xrandr"), {QStringLiteral("--fb"), size});
+        eventually([&] { return screens.mainScreen()->frame.size() == QSizeF(width, height); });
+    }
+    bool until(const std::function<bool()> &condition) { return eventually(condition); }
+};
+
+template<typename Displays>
+class ScreensContract : public testing::Test {
+protected:
+    Displays displays;
+    Screens &screens = displays.screens;
+};
+
+using AllDisplays = testing::Types<FakeDisplays, RealDisplays>;
+TYPED_TEST_SUITE(ScreensContract, AllDisplays);
+
+} // namespace
+
+TYPED_TEST(ScreensContract, thePrimaryScreenStandsAtTheOrigin)
+{
+    ASSERT_EQ(this->screens.screens().size(), 1U);
+    const ScreenPointer screen = this->screens.screens().front();
+    EXPECT_EQ(screen->frame, QRectF(0, 0, 1512, 982));
+    EXPECT_EQ(screen->backingScaleFactor, 1);
+    EXPECT_GE(screen->refreshRate, 1);
+    EXPECT_EQ(screen->safeAreaInsets.top, 0);
+    EXPECT_EQ(this->screens.mainScreen(), screen);
+}
+
+TYPED_TEST(ScreensContract, aScreenIsTheSameObjectEachTime)
+{
+    EXPECT_EQ(this->screens.screens().front(), this->screens.screens().front());
+    EXPECT_EQ(this->screens.mainScreen(), this->screens.mainScreen());
+}
+
+TEST(QtGeometry, isTurnedOverAndBack)
+{
+    EXPECT_EQ(qt_geometry::primaryHeight(), 982);
+    EXPECT_EQ(qt_geometry::toGlobal(QPointF(10, 0)), QPointF(10, 982));
+    EXPECT_EQ(qt_geometry::toGlobal(QRectF(10, 20, 30, 40)), QRectF(10, 922, 30, 40));
+    EXPECT_EQ(qt_geometry::toQt({10, 922, 30, 40}), QRect(10, 20, 30, 40));
+    // Fractions go to whole points, the size is kept.
+    EXPECT_EQ(qt_geometry::toQt({10.5, 922.4, 30, 40}), QRect(11, 20, 30, 40));
+    // A screen below the primary one.
+    EXPECT_EQ(qt_geometry::toQt({0, -100, 30, 100}), QRect(0, 982, 30, 100));
+    EXPECT_EQ(qt_geometry::toQt({1e300, -1e300, 1e300, 0}).height(), 1);
+}
+
+TEST(QtPointer, tellsTheMiddleOfThePixel)
+{
+    Display display;
+    const QtPointer pointer;
+    display.hands.moveTo({30, 0});
+    EXPECT_EQ(pointer.location(), QPointF(30.5, 981.5));
+    display.hands.moveTo({1511, 981});
+    EXPECT_EQ(pointer.location(), QPointF(1511.5, 0.5));
+}
+
+TEST(QtKeyboard, tellsTheModifiersThatAreHeld)
+{
+    Display display;
+    const QtKeyboard keyboard;
+    EXPECT_EQ(keyboard.currentModifiers(), Modifiers());
+    display.hands.keyDown(e2e::keys::shift);
+    EXPECT_TRUE(eventually([&] { return keyboard.currentModifiers() == Modifier::Shift; }));
+    display.hands.keyUp(e2e::keys::shift);
+    EXPECT_TRUE(eventually([&] { return keyboard.currentModifiers() == Modifiers(); }));
+}
+
+} // namespace corvane::test
