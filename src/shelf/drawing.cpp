@@ -36,8 +36,9 @@ QImage fitted(const QImage &bitmap, QSizeF size, double cornerRadius, double sca
         return result;
     const QSize space = result.size();
     const QSize fit = bitmap.size().scaled(space, Qt::KeepAspectRatio).expandedTo({1, 1});
-    const QRectF place((space.width() - fit.width()) / 2, (space.height() - fit.height()) / 2,
+    const QRect pixels((space.width() - fit.width()) / 2, (space.height() - fit.height()) / 2,
                        fit.width(), fit.height());
+    const QRectF place(pixels);
 
     QImage scaled = bitmap.scaled(fit, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     scaled.setDevicePixelRatio(1);

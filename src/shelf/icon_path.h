@@ -13,7 +13,7 @@ namespace corvane {
 struct PathCommand {
     enum class Kind { Move, Line, Quad, Curve, Close };
 
-    Kind kind;
+    Kind kind = Kind::Close;
     /// The end point is the last one used; control points stand before it.
     std::array<QPointF, 3> points{};
 };

@@ -5,6 +5,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 
 namespace corvane {
 
@@ -92,10 +93,10 @@ namespace {
 
 QString keyPath(int key)
 {
-    static const QString paths[]
+    static const std::array paths
         = {QStringLiteral("bounds"),  QStringLiteral("position"),     QStringLiteral("transform"),
            QStringLiteral("opacity"), QStringLiteral("cornerRadius"), QStringLiteral("path")};
-    return paths[key];
+    return paths.at(static_cast<std::size_t>(key));
 }
 
 } // namespace

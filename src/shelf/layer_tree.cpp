@@ -41,7 +41,7 @@ bool LayerTree::allowsMotion() const
     return m_withoutMotion == 0 && !m_preference.reducesMotion();
 }
 
-void LayerTree::needsDisplay()
+void LayerTree::needsDisplay() const
 {
     if (onNeedsDisplay)
         onNeedsDisplay();

@@ -49,7 +49,7 @@ private:
 
     /// False while motions are off, for a moment or by the user's wish.
     bool allowsMotion() const;
-    void needsDisplay();
+    void needsDisplay() const;
     /// The time at which a motion that is made now starts.
     double motionStart();
     void startedMoving(Layer &layer);

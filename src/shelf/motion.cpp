@@ -35,7 +35,6 @@ MovingValue::MovingValue(Motion motion, Components from, Components velocity, Co
     , m_velocity(std::move(velocity))
     , m_target(std::move(target))
     , m_start(time)
-    , m_duration(0)
 {
     if (const auto *curve = std::get_if<CurveMotion>(&m_motion))
         m_duration = curve->duration;

@@ -53,7 +53,7 @@ private:
     Components m_velocity;
     Components m_target;
     double m_start;
-    double m_duration;
+    double m_duration = 0;
 };
 
 } // namespace corvane
