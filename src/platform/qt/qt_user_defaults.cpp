@@ -5,7 +5,7 @@
 namespace corvane {
 
 QtUserDefaults::QtUserDefaults()
-    : m_settings(std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+    : m_settings(std::make_unique<QSettings>(QSettings::NativeFormat, QSettings::UserScope,
                                              QStringLiteral("Corvane"), QStringLiteral("Corvane")))
 {
     m_settings->setFallbacksEnabled(false);
