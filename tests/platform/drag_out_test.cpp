@@ -12,8 +12,7 @@ class DragOutTest : public PanelFixture {
 protected:
     DragOutTest()
     {
-        content.onMouseDragged = [this] {
-            content.onMouseDragged = nullptr;
+        content.onFirstDragged = [this] {
             panel.beginDraggingSession(
                 drag(), [this](DragOperation operation) { results.push_back(operation); });
         };
@@ -125,7 +124,6 @@ TEST_F(DragOutTest, aSecondDragInsideTheFirstIsNone)
 {
     show();
     int inner = 0;
-    const auto start = content.onMouseDragged;
     queue.asyncAfter(0.3, [&] {
         panel.beginDraggingSession(drag(), [&](DragOperation operation) {
             inner += operation == DragOperation::None ? 1 : 100;
@@ -144,8 +142,7 @@ TEST_F(DragOutTest, aPanelThatDiesInItsDragReportsNothing)
     dying->setFrame({600, 482, 300, 100});
     bool hasReturned = false;
     bool hasEnded = false;
-    dyingContent.onMouseDragged = [&] {
-        dyingContent.onMouseDragged = nullptr;
+    dyingContent.onFirstDragged = [&] {
         queue.asyncAfter(0.05, [&] { dying.reset(); });
         dying->beginDraggingSession(drag(), [&](DragOperation) { hasEnded = true; });
         hasReturned = true;

@@ -3,6 +3,7 @@
 // starts them, and then itself again.
 
 #include "e2e/desktop/x_desktop.h"
+#include "platform/scenes.h"
 
 #include <QApplication>
 #include <QProcess>
@@ -40,6 +41,8 @@ int main(int argc, char **argv)
         testing::InitGoogleTest(&argc, argv);
         QApplication application(argc, argv);
         QApplication::setQuitOnLastWindowClosed(false);
+        if (qEnvironmentVariableIsSet(corvane::test::sceneVariable))
+            return corvane::test::playScene(qgetenv(corvane::test::sceneVariable));
         return RUN_ALL_TESTS();
     }
     for (int i = 1; i < argc; ++i) {

@@ -5,16 +5,12 @@
 #include "platform/display.h"
 #include "platform/freedesktop/dbus_single_instance.h"
 #include "platform/freedesktop/portal_motion_preference.h"
-#include "platform/qt/unix_signals.h"
+#include "platform/scenes.h"
 #include "platform/x11/x11_connection.h"
 
-#include <QApplication>
 #include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusVariant>
 #include <QElapsedTimer>
 #include <QProcess>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -32,12 +28,9 @@ struct Scene {
     explicit Scene(const char *name,
                    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment())
     {
-        environment.insert(QStringLiteral("CORVANE_SCENE"), QStringLiteral("1"));
+        environment.insert(QLatin1String(sceneVariable), QLatin1String(name));
         process.setProcessEnvironment(environment);
-        process.start(QCoreApplication::applicationFilePath(),
-                      {QStringLiteral("--gtest_filter=Scene.DISABLED_") + QLatin1String(name),
-                       QStringLiteral("--gtest_also_run_disabled_tests"),
-                       QStringLiteral("--gtest_brief=1")});
+        process.start(QCoreApplication::applicationFilePath(), QStringList());
     }
     ~Scene()
     {
@@ -60,72 +53,19 @@ struct Scene {
     QByteArray output;
 };
 
-void say(const char *text)
-{
-    std::puts(text);
-    std::fflush(stdout);
-}
-
-const char *nameOf(SingleInstance::Outcome outcome)
-{
-    switch (outcome) {
-    case SingleInstance::Outcome::First:
-        return "first";
-    case SingleInstance::Outcome::HandedOver:
-        return "handed over";
-    case SingleInstance::Outcome::Unknown:
-        break;
-    }
-    return "unknown";
-}
-
 } // namespace
-
-// The scenes. They run only where a test starts them.
-
-TEST(Scene, DISABLED_instance)
-{
-    DBusSingleInstance instance(applicationId);
-    say(nameOf(instance.acquire([] { say("reopened"); })));
-    QTimer::singleShot(std::chrono::seconds{20}, qApp, &QCoreApplication::quit);
-    QApplication::exec();
-}
-
-TEST(Scene, DISABLED_signals)
-{
-    const UnixSignals signals([] {
-        say("terminating");
-        QCoreApplication::exit();
-    });
-    say("ready");
-    QApplication::exec();
-    say("ended");
-}
-
-TEST(Scene, DISABLED_stuckAfterSignal)
-{
-    const UnixSignals signals([] { say("terminating"); });
-    say("ready");
-    QApplication::exec();
-}
-
-TEST(Scene, DISABLED_serverLoss)
-{
-    const X11Connection connection([] { say("lost"); });
-    say("ready");
-    QApplication::exec();
-}
 
 TEST(SingleInstance, aSecondProcessHandsOverToTheFirst)
 {
     Scene first("instance");
     ASSERT_TRUE(first.waitFor("first"));
-    DBusSingleInstance second(applicationId);
+    DBusSingleInstance second(sceneApplicationId());
     EXPECT_EQ(second.acquire([] {}), SingleInstance::Outcome::HandedOver);
     EXPECT_TRUE(first.waitFor("reopened"));
     first.process.kill();
     ASSERT_TRUE(first.waitForEnd());
     EXPECT_EQ(second.acquire([] {}), SingleInstance::Outcome::First);
+    QDBusConnection::sessionBus().unregisterService(sceneApplicationId());
 }
 
 TEST(SingleInstance, aFirstOneThatIsStuckStillCountsAsTheOne)
@@ -135,7 +75,6 @@ TEST(SingleInstance, aFirstOneThatIsStuckStillCountsAsTheOne)
     ::kill(static_cast<pid_t>(first.process.processId()), SIGSTOP);
     QElapsedTimer timer;
     timer.start();
-    // With a connection of its own: this process may hold the name by now.
     Scene second("instance");
     EXPECT_TRUE(second.waitFor("handed over"));
     EXPECT_LT(timer.elapsed(), 10'000);

@@ -7,6 +7,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 
 namespace corvane::test {
 
@@ -29,8 +30,8 @@ public:
     void mouseDragged(const MouseEvent &event) override
     {
         note("dragged", event.location);
-        if (onMouseDragged)
-            onMouseDragged();
+        if (const auto act = std::exchange(onFirstDragged, {}))
+            act();
     }
     void mouseUp(const MouseEvent &event) override { note("up", event.location); }
     void mouseEntered(const MouseEvent &) override { log << QStringLiteral("entered"); }
@@ -80,7 +81,7 @@ public:
     std::vector<KeyEvent> keys;
     std::vector<ScrollEvent> scrolls;
     std::function<void()> onMouseDown;
-    std::function<void()> onMouseDragged;
+    std::function<void()> onFirstDragged;
     std::function<bool(Pasteboard &)> onPerform;
 
 private:

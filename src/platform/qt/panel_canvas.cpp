@@ -30,6 +30,11 @@ void PanelCanvas::setCanvasSize(QSize size)
         repaintSoon(QRect({}, size));
 }
 
+void PanelCanvas::forgetOwner()
+{
+    m_hasOwner = false;
+}
+
 void PanelCanvas::repaintSoon(const QRegion &region)
 {
     m_dirty |= region;
@@ -58,7 +63,7 @@ bool PanelCanvas::event(QEvent *event)
     default:
         break;
     }
-    return m_handle(*event) || QWindow::event(event);
+    return (m_hasOwner && m_handle(*event)) || QWindow::event(event);
 }
 
 void PanelCanvas::exposed(const QRegion &region)
@@ -89,7 +94,7 @@ bool PanelCanvas::prepareStore()
 void PanelCanvas::repaint()
 {
     // A window that has just been mapped takes pixels before it hears that it is exposed.
-    if (!isVisible() || !prepareStore())
+    if (!m_hasOwner || !isVisible() || !prepareStore())
         return;
     const QRegion region = std::exchange(m_dirty, {}) & QRect({}, m_size);
     if (region.isEmpty())

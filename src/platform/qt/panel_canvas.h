@@ -28,6 +28,8 @@ public:
     void repaintSoon(const QRegion &region);
     /// The size to paint at from now on, which the window system may report later.
     void setCanvasSize(QSize size);
+    /// Calls nobody any more.
+    void forgetOwner();
 
 protected:
     bool event(QEvent *event) override;
@@ -44,6 +46,7 @@ private:
     double m_storeScale = 0;
     QRegion m_dirty;
     bool m_isRepaintDue = false;
+    bool m_hasOwner = true;
 };
 
 } // namespace corvane

@@ -83,27 +83,28 @@ void PanelDropTarget::drop(QDropEvent &event, double panelHeight)
 {
     event.ignore();
     const State state = std::exchange(m_state, State::Outside);
-    PanelContent *content = m_content;
-    if (!content)
+    if (!m_content)
         return;
     if (state == State::Accepted) {
         QtPasteboard pasteboard(event.mimeData(), m_support);
         const bool isTaken = guarded(false, [&] {
-            return content->performDragOperation(infoFrom(event, panelHeight, pasteboard));
+            return m_content->performDragOperation(infoFrom(event, panelHeight, pasteboard));
         });
         if (isTaken)
             acceptAsCopy(event);
     }
-    content->draggingEnded();
+    // It may have been taken away in the drop.
+    if (m_content)
+        m_content->draggingEnded();
 }
 
 void PanelDropTarget::leave()
 {
     if (std::exchange(m_state, State::Outside) == State::Outside || !m_content)
         return;
-    PanelContent *content = m_content;
-    content->draggingExited();
-    content->draggingEnded();
+    m_content->draggingExited();
+    if (m_content)
+        m_content->draggingEnded();
 }
 
 } // namespace corvane

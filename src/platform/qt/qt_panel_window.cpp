@@ -21,10 +21,10 @@ QtPanelWindow::QtPanelWindow(PanelSurface &surface, MainQueue &queue, DragSuppor
     , m_queue(queue)
     , m_support(support)
     , m_dropTarget(support)
-    , m_canvas([this](QPainter &painter) { paint(painter); },
-               [this](QEvent &event) { return handle(event); })
+    , m_canvas(std::make_unique<PanelCanvas>([this](QPainter &painter) { paint(painter); },
+                                             [this](QEvent &event) { return handle(event); }))
 {
-    m_surface.adopt(m_canvas);
+    m_surface.adopt(*m_canvas);
     m_surface.observeComposited([this, alive = m_alive] {
         if (*alive)
             updateRegions();
@@ -37,6 +37,9 @@ QtPanelWindow::~QtPanelWindow()
     m_content = nullptr;
     m_dropTarget.setContent(nullptr);
     orderOut();
+    // Its drag goes on in Qt, and needs the window that it began in.
+    if (m_isDragging)
+        m_canvas.release()->forgetOwner();
 }
 
 void QtPanelWindow::setContent(PanelContent *content)
@@ -50,31 +53,31 @@ void QtPanelWindow::setFrame(const QRectF &frame)
 {
     m_frame = frame;
     const QRect geometry = qt_geometry::toQt(frame);
-    m_canvas.setCanvasSize(geometry.size());
-    m_surface.place(m_canvas, geometry);
+    m_canvas->setCanvasSize(geometry.size());
+    m_surface.place(*m_canvas, geometry);
     updateRegions();
 }
 
 void QtPanelWindow::orderFrontRegardless()
 {
     if (std::exchange(m_isVisible, true)) {
-        m_canvas.raise();
+        m_canvas->raise();
         return;
     }
     updateRegions();
-    m_surface.willShow(m_canvas);
+    m_surface.willShow(*m_canvas);
     // Before it is mapped: it comes up where it was in the stack.
-    m_canvas.raise();
-    m_canvas.show();
+    m_canvas->raise();
+    m_canvas->show();
 }
 
 void QtPanelWindow::orderOut()
 {
     if (!std::exchange(m_isVisible, false))
         return;
-    m_surface.giveKeyboardBack(m_canvas);
-    m_canvas.hide();
-    m_surface.didHide(m_canvas);
+    m_surface.giveKeyboardBack(*m_canvas);
+    m_canvas->hide();
+    m_surface.didHide(*m_canvas);
 }
 
 void QtPanelWindow::setIgnoresMouseEvents(bool ignores)
@@ -93,12 +96,12 @@ void QtPanelWindow::setBody(const QRectF &rect, const QPainterPath &outline)
 void QtPanelWindow::makeKey()
 {
     if (m_isVisible)
-        m_surface.takeKeyboard(m_canvas);
+        m_surface.takeKeyboard(*m_canvas);
 }
 
 void QtPanelWindow::setNeedsDisplay(const QRectF &rect)
 {
-    m_canvas.repaintSoon(qt_geometry::flipped(rect, m_frame.height()).toAlignedRect());
+    m_canvas->repaintSoon(qt_geometry::flipped(rect, m_frame.height()).toAlignedRect());
 }
 
 void QtPanelWindow::beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended)
@@ -108,16 +111,20 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, std::function<void(DragOp
         return;
     }
     const auto alive = m_alive;
-    const DragOperation operation = runDragSession(m_canvas, drag, m_support);
-    if (!*alive)
+    PanelCanvas *canvas = m_canvas.get();
+    const DragOperation operation = runDragSession(*canvas, drag, m_support);
+    if (!*alive) {
+        // Later: one of its events is what we are in.
+        canvas->deleteLater();
         return;
+    }
     m_isDragging = false;
     ended(operation);
 }
 
 QTransform QtPanelWindow::toDevicePixels() const
 {
-    const double scale = m_canvas.devicePixelRatio();
+    const double scale = m_canvas->devicePixelRatio();
     return QTransform(scale, 0, 0, -scale, 0, m_frame.height() * scale);
 }
 
@@ -127,18 +134,19 @@ void QtPanelWindow::updateRegions()
     const QRectF body = m_body.value_or(QRectF({}, m_frame.size()));
     const QRegion input = m_ignoresMouseEvents ? QRegion() : toPixels.mapRect(body).toRect();
     if (std::exchange(m_inputRegion, input) != input)
-        m_surface.setInputRegion(m_canvas, input);
+        m_surface.setInputRegion(*m_canvas, input);
 
     QRegion bounding;
     if (m_body && !m_surface.isComposited()) {
-        const QSizeF pixels = m_frame.size() * m_canvas.devicePixelRatio();
-        bounding = outlineRegion(toPixels.map(m_outline), {qRound(pixels.width()), qRound(pixels.height())});
+        const QSizeF pixels = m_frame.size() * m_canvas->devicePixelRatio();
+        bounding = outlineRegion(toPixels.map(m_outline),
+                                 {qRound(pixels.width()), qRound(pixels.height())});
         // An empty region would mean the whole window: a pixel at the edge stands for nothing.
         if (bounding.isEmpty())
             bounding = QRect(0, 0, 1, 1);
     }
     if (std::exchange(m_boundingRegion, bounding) != bounding)
-        m_surface.setBoundingRegion(m_canvas, bounding);
+        m_surface.setBoundingRegion(*m_canvas, bounding);
 }
 
 void QtPanelWindow::paint(QPainter &painter)
@@ -147,7 +155,7 @@ void QtPanelWindow::paint(QPainter &painter)
         return;
     painter.translate(0, m_frame.height());
     painter.scale(1, -1);
-    m_content->paint(painter, m_frame.size(), m_canvas.devicePixelRatio());
+    m_content->paint(painter, m_frame.size(), m_canvas->devicePixelRatio());
 }
 
 bool QtPanelWindow::handle(QEvent &event)

@@ -35,7 +35,7 @@ public:
     void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) override;
 
     /// The window itself, for its back end's tests.
-    QWindow &window() { return m_canvas; }
+    QWindow &window() { return *m_canvas; }
 
 private:
     void paint(QPainter &painter);
@@ -50,7 +50,7 @@ private:
     DragSupport *m_support;
     PanelContent *m_content = nullptr;
     PanelDropTarget m_dropTarget;
-    PanelCanvas m_canvas;
+    std::unique_ptr<PanelCanvas> m_canvas;
     QRectF m_frame;
     bool m_isVisible = false;
     bool m_ignoresMouseEvents = false;
