@@ -4,7 +4,6 @@
 #include "e2e/desktop/x_desktop.h"
 #include "platform/display.h"
 #include "platform/freedesktop/dbus_single_instance.h"
-#include "platform/freedesktop/portal_motion_preference.h"
 #include "platform/scenes.h"
 #include "platform/x11/x11_connection.h"
 
@@ -143,13 +142,6 @@ TEST(X11Connection, withoutAServerEveryQuestionIsAnsweredWithNothing)
     EXPECT_FALSE(connection.hasXFixes());
     EXPECT_EQ(connection.atom("XdndSelection"), xcb_atom_t{XCB_NONE});
     connection.flush();
-}
-
-TEST(MotionPreference, followsTheToolkitWhereThereIsNoPortal)
-{
-    const PortalMotionPreference preference;
-    settle();
-    EXPECT_FALSE(preference.reducesMotion());
 }
 
 } // namespace corvane::test
