@@ -10,8 +10,23 @@
 #include <QString>
 
 #include <gtest/gtest.h>
+
 #include <memory>
 #include <string>
+
+// GoogleTest finds these beside the types and would print lists of characters otherwise.
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+inline void PrintTo(const QByteArray &bytes, std::ostream *out)
+{
+    *out << '"' << bytes.left(2000).toStdString() << '"';
+}
+inline void PrintTo(const QSize &size, std::ostream *out)
+{
+    *out << size.width() << 'x' << size.height();
+}
 
 namespace corvane::e2e {
 
@@ -81,6 +96,12 @@ inline auto everyDesktop()
                            DesktopKind{WindowManager::Openbox, Compositor::None},
                            DesktopKind{WindowManager::Xfwm4, Compositor::Picom},
                            DesktopKind{WindowManager::Xfwm4, Compositor::None});
+}
+
+// So that a parameter's bytes are not printed.
+inline void PrintTo(const DesktopKind &kind, std::ostream *out)
+{
+    *out << nameOf({kind, 0});
 }
 
 /// Each window manager and each compositor once.

@@ -147,7 +147,8 @@ TEST_F(Hostile, nothingIsFetchedFromAPictureBeforeItIsDropped)
     start();
     XdndSource source(desktop_, {{"image/png", "not fetched"}, {"text/html", "<img>"}});
     ASSERT_TRUE(hover(source));
-    ASSERT_TRUE(source.hover(corvane().panel().value_or(WindowFacts{}).id, dropPoint() + QPoint(9, 0)));
+    ASSERT_TRUE(
+        source.hover(corvane().panel().value_or(WindowFacts{}).id, dropPoint() + QPoint(9, 0)));
     EXPECT_FALSE(source.asked().contains("image/png"));
     source.leave(corvane().panel().value_or(WindowFacts{}).id);
     source.letGo();
@@ -161,8 +162,8 @@ TEST_F(Hostile, listsOfFilesAreReadAsProgramsReallyWriteThem)
     const QString hash = makeFile(u"a # 100 % é 😀.txt"_s, "x");
     const QString plain = makeFile(u"plain.txt"_s, "x");
     const QByteArray withHost = "file://localhost" + QUrl::fromLocalFile(plain).toEncoded().mid(7);
-    const QByteArray list = "# a comment\n" + QUrl::fromLocalFile(hash).toEncoded() + "\n\n" + withHost
-        + "\r\n" + QUrl::fromLocalFile(plain).toEncoded() + "\nhttp://corvane.example/";
+    const QByteArray list = "# a comment\n" + QUrl::fromLocalFile(hash).toEncoded() + "\n\n"
+        + withHost + "\r\n" + QUrl::fromLocalFile(plain).toEncoded() + "\nhttp://corvane.example/";
     ASSERT_TRUE(dropOffers({{"text/uri-list", list}}));
     ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(6, 3)));
     const QList<QString> expected{hash, plain, plain};
@@ -294,9 +295,9 @@ TEST_F(Hostile, withNoTemporaryFolderPicturesAreKeptInMemory)
     auto environment = desktop_.environment();
     environment.insert(u"TMPDIR"_s, makeFile(u"no-folder"_s, "x") + u"/tmp"_s);
     start({{}, {}, environment});
-    const QByteArray png = QByteArray::fromBase64(
-        "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAADUlEQVR42mNk+M9QDwADhgGAWjR9awAAAABJRU5ErkJg"
-        "gg==");
+    const QByteArray png = QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAA"
+                                                  "DUlEQVR42mNk+M9QDwADhgGAWjR9awAAAABJRU5ErkJg"
+                                                  "gg==");
     ASSERT_TRUE(dropOffers({{"image/png", png}}));
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
     focusShelf(corvane().at(38, 22));

@@ -88,7 +88,8 @@ TEST_F(Life, withoutASessionBusItRunsAlone)
 {
     auto environment = desktop_.environment();
     environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nowhere"_s);
-    corvane_ = std::make_unique<CorvaneProgram>(desktop_, CorvaneProgram::Start{{}, {}, environment});
+    corvane_
+        = std::make_unique<CorvaneProgram>(desktop_, CorvaneProgram::Start{{}, {}, environment});
     // Nobody can be asked whether it is up: it is once a drag opens it.
     ASSERT_TRUE(eventually([&] {
         XdndSource source(desktop_, {{"text/plain", "x"}});
@@ -120,7 +121,8 @@ TEST(LifeOnADesktopThatEnds, theXServerGoesAwayAndTheSpoolWithIt)
         XdndSource source(desktop, {{"image/png", aPicture()}});
         source.pickUp();
         ASSERT_TRUE(corvane.waitForSize(CorvaneProgram::empty));
-        ASSERT_TRUE(source.hover(corvane.panel().value_or(WindowFacts{}).id, corvane.body().center()));
+        ASSERT_TRUE(
+            source.hover(corvane.panel().value_or(WindowFacts{}).id, corvane.body().center()));
         source.drop();
         ASSERT_TRUE(source.waitForFinish());
     }

@@ -63,7 +63,8 @@ TEST_P(MainJob, aFileIsKeptAndGoesOnIntoAnotherFolderByteForByte)
     ASSERT_TRUE(target.chooseCopy());
     EXPECT_TRUE(eventually([&] { return bytesOf(to + u"/report.txt"_s) == contents; }));
     EXPECT_TRUE(corvane().waitUntilHidden()) << "what has been dragged out leaves the shelf";
-    EXPECT_TRUE(QFile::exists(makeFolder(u"from"_s) + u"/report.txt"_s)) << "and is copied, not moved";
+    EXPECT_TRUE(QFile::exists(makeFolder(u"from"_s) + u"/report.txt"_s))
+        << "and is copied, not moved";
 }
 
 TEST_P(MainJob, threeFilesAreKeptInTheirOrder)
@@ -311,9 +312,8 @@ TEST_P(MainJob, theShelfOpensWithoutTakingTheKeyboardAndGivesItBackAfterwards)
     focusShelf(onlyItem());
     hands().key(keys::forwardDelete);
     ASSERT_TRUE(corvane().waitUntilHidden());
-    EXPECT_TRUE(eventually([&] {
-        return server().activeWindow() == active && server().focusedWindow() != panel;
-    }));
+    EXPECT_TRUE(eventually(
+        [&] { return server().activeWindow() == active && server().focusedWindow() != panel; }));
     hands().key('z');
     EXPECT_TRUE(eventually([&] { return editor.text("textz").contains('z'); }));
 }

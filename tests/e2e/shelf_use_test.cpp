@@ -101,7 +101,8 @@ TEST_P(ShelfUse, copyingNeedsControlOrSuperAndMakesADataAddressWithAlt)
     hold(3, 2);
     focusShelf(cell(0));
     ASSERT_TRUE(waitForFocus(0));
-    EXPECT_TRUE(desktop_.clipboard(u"text/uri-list"_s).value_or(QByteArray()).startsWith("file://"));
+    EXPECT_TRUE(
+        desktop_.clipboard(u"text/uri-list"_s).value_or(QByteArray()).startsWith("file://"));
 
     hands().key('c', {keys::control, keys::alt});
     EXPECT_EQ(clipboardText("data:text/plain;base64,MA=="), "data:text/plain;base64,MA==");
@@ -173,7 +174,8 @@ TEST_P(ShelfUse, theButtonsOfASingleItemCopyAndRemoveIt)
     start();
     ASSERT_TRUE(dropFiles({file}));
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-    // Slots of 22 from the right edge of the area that they serve, which ends 23 before the panel's.
+    // Slots of 22 from the right edge of the area that they serve, which ends 23 before the
+    // panel's.
     const double right = corvane().size().width() - 23;
     hands().click(corvane().at(right - 41 + 9, 22));
     EXPECT_EQ(clipboardText(file.toUtf8()), file.toUtf8());
@@ -199,7 +201,8 @@ TEST_P(ShelfUse, aThreePointMoveIsAClickAndFourPointsAreADrag)
     hands().moveTo(at + QPoint(4, 0));
     EXPECT_TRUE(eventually([&] { return server().selectionOwner("XdndSelection") != noWindow; }));
     hands().release();
-    EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight)) << "it was dropped on itself";
+    EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight))
+        << "it was dropped on itself";
 }
 
 class InViewCount : public DesktopTest, public testing::WithParamInterface<int> { };

@@ -71,11 +71,20 @@ QStringList Browser::command(Kind kind, const QString &url) const
     QDir().mkpath(profile);
     if (kind == Kind::Chromium) {
         // Its sandbox does not work for the super-user, whom test machines run as.
-        return {u"chromium"_s, u"--no-sandbox"_s, u"--test-type"_s, u"--no-first-run"_s, u"--disable-gpu"_s,
-                u"--disable-background-networking"_s, u"--disable-component-update"_s,
-                u"--disable-sync"_s, u"--disable-quic"_s, u"--disable-dev-shm-usage"_s,
-                u"--password-store=basic"_s, u"--ozone-platform=x11"_s,
-                u"--user-data-dir="_s + profile, u"--app="_s + url};
+        return {u"chromium"_s,
+                u"--no-sandbox"_s,
+                u"--test-type"_s,
+                u"--no-first-run"_s,
+                u"--disable-gpu"_s,
+                u"--disable-background-networking"_s,
+                u"--disable-component-update"_s,
+                u"--disable-sync"_s,
+                u"--disable-quic"_s,
+                u"--disable-dev-shm-usage"_s,
+                u"--password-store=basic"_s,
+                u"--ozone-platform=x11"_s,
+                u"--user-data-dir="_s + profile,
+                u"--app="_s + url};
     }
     write(profile + u"/user.js"_s, firefoxPreferences);
     return {u"firefox-esr"_s, u"--no-remote"_s, u"--profile"_s, profile, url};
@@ -90,13 +99,10 @@ Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteA
     write(folder + u"/picture.png"_s, picture);
     write(folder + u"/page.html"_s, QString::fromLatin1(page).arg(link).toUtf8());
 
-    QStringList arguments
-        = command(kind, QUrl::fromLocalFile(folder + u"/page.html"_s).toString());
+    QStringList arguments = command(kind, QUrl::fromLocalFile(folder + u"/page.html"_s).toString());
     const QString name = arguments.takeFirst();
-    const QByteArray title = kind == Kind::Chromium ? "hromium" : "irefox";
     program_ = desktop.start(name, arguments);
-    const auto window = desktop.waitForWindow(
-        [&](const WindowFacts &candidate) { return candidate.windowClass.contains(title); });
+    const auto window = desktop.waitForWindowOf(*program_);
     if (!window) {
         problem_ = name + u" shows no window: "_s + QString::fromUtf8(program_->output());
         return;

@@ -50,8 +50,7 @@ CarouselLayout layoutOf(int inView, int total)
     layout.arrows = inView < total ? 28 : 0;
     layout.left = layout.arrows + 23;
     layout.right = width - 23;
-    layout.padding
-        = std::max((layout.right - layout.arrows - layout.left - content) * 0.5, 0.0);
+    layout.padding = std::max((layout.right - layout.arrows - layout.left - content) * 0.5, 0.0);
     return layout;
 }
 
@@ -89,7 +88,8 @@ QString CorvaneProgram::path()
 
 bool CorvaneProgram::waitUntilReady()
 {
-    // It has its name on the bus, and then has nothing more to do: it has gone to sleep and stays so.
+    // It has its name on the bus, and then has nothing more to do: it has gone to sleep and stays
+    // so.
     const bool named = eventually([this] {
         const auto answer = outputOf(
             u"dbus-send"_s,
@@ -101,12 +101,12 @@ bool CorvaneProgram::waitUntilReady()
     QByteArray last;
     int same = 0;
     return named && program_->isRunning() && eventually([&] {
-        const QByteArray now = sleeps(program_->pid());
-        same = !now.isEmpty() && now == last ? same + 1 : 0;
-        last = now;
-        QThread::msleep(10);
-        return same >= 4;
-    });
+               const QByteArray now = sleeps(program_->pid());
+               same = !now.isEmpty() && now == last ? same + 1 : 0;
+               last = now;
+               QThread::msleep(10);
+               return same >= 4;
+           });
 }
 
 std::optional<int> CorvaneProgram::startAgain()
@@ -118,7 +118,8 @@ std::optional<int> CorvaneProgram::startAgain()
 std::optional<WindowFacts> CorvaneProgram::panel()
 {
     for (const WindowFacts &window : desktop_.server().windows()) {
-        // A drag's picture under the pointer is an override-redirect window, too, but hangs nowhere.
+        // A drag's picture under the pointer is an override-redirect window, too, but hangs
+        // nowhere.
         if (window.isViewable && window.isOverrideRedirect && window.pid == program_->pid()
             && window.frame.top() == 0)
             return window;
@@ -161,7 +162,10 @@ bool CorvaneProgram::waitForHeight(int height)
     return reached;
 }
 
-QSize CorvaneProgram::size() { return panel().value_or(WindowFacts{}).frame.size(); }
+QSize CorvaneProgram::size()
+{
+    return panel().value_or(WindowFacts{}).frame.size();
+}
 
 QRect CorvaneProgram::body()
 {
@@ -210,7 +214,10 @@ QPoint CorvaneProgram::badge(int inView, int total, int nth)
     return cell(inView, total, nth) + QPoint(13, -14);
 }
 
-QPoint CorvaneProgram::leftArrow(int, int) { return {23 + 11, carouselHeight - 31}; }
+QPoint CorvaneProgram::leftArrow(int, int)
+{
+    return {23 + 11, carouselHeight - 31};
+}
 
 QPoint CorvaneProgram::rightArrow(int inView, int total)
 {

@@ -30,7 +30,8 @@ public:
     bool waitUntilReady();
     Program &program() { return *program_; }
 
-    /// Starts it once more, as a user does who wants to see the shelf; the second one's exit status.
+    /// Starts it once more, as a user does who wants to see the shelf; the second one's exit
+    /// status.
     std::optional<int> startAgain();
 
     /// The panel while it is on screen.
@@ -38,7 +39,8 @@ public:
     bool isShown() { return panel().has_value(); }
     bool waitUntilShown();
     bool waitUntilHidden();
-    /// Waits until the panel is that large, at the middle of the top edge of the screen, and at rest.
+    /// Waits until the panel is that large, at the middle of the top edge of the screen, and at
+    /// rest.
     bool waitForSize(QSize size, const QRect &screen = {});
     /// The same where the width depends on a text.
     bool waitForHeight(int height);

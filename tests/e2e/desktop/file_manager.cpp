@@ -24,7 +24,10 @@ FallbackIconThemeName=breeze
 SingleClick=false
 )";
 
-bool isFileManager(const WindowFacts &window) { return window.windowClass.startsWith("pcmanfm-qt"); }
+bool isFileManager(const WindowFacts &window)
+{
+    return window.windowClass.startsWith("pcmanfm-qt");
+}
 
 /// The white area below the bars; null where there is none.
 QRect findView(const QImage &window)
@@ -33,7 +36,8 @@ QRect findView(const QImage &window)
     const int column = window.width() - 40;
     int top = -1;
     for (int y = 0; y < window.height(); ++y) {
-        const bool isWhite = window.pixel(column, y) == white && window.pixel(column / 2, y) == white;
+        const bool isWhite
+            = window.pixel(column, y) == white && window.pixel(column / 2, y) == white;
         if (isWhite && top < 0)
             top = y;
         if (!isWhite && top >= 0) {
@@ -50,22 +54,17 @@ QRect findView(const QImage &window)
 FileManager::FileManager(XDesktop &desktop, const QString &folder, const QRect &frame)
     : desktop_(desktop)
 {
-    const QString config = desktop.environment().value(u"XDG_CONFIG_HOME"_s)
-        + u"/pcmanfm-qt/default"_s;
+    const QString config
+        = desktop.environment().value(u"XDG_CONFIG_HOME"_s) + u"/pcmanfm-qt/default"_s;
     QDir().mkpath(config);
     QFile file(config + u"/settings.conf"_s);
     if (file.open(QFile::WriteOnly))
         file.write(settings);
     file.close();
 
-    QList<xcb_window_t> others;
-    for (const WindowFacts &window : desktop.server().windows())
-        others.append(window.id);
     // A bus of its own: otherwise a second one would open its folder in the first one's window.
     program_ = desktop.start(u"dbus-run-session"_s, {u"--"_s, u"pcmanfm-qt"_s, folder});
-    const auto window = desktop.waitForWindow([&](const WindowFacts &candidate) {
-        return isFileManager(candidate) && !others.contains(candidate.id);
-    });
+    const auto window = desktop.waitForWindowOf(*program_);
     if (!window) {
         problem_ = u"the file manager shows no window: "_s + QString::fromUtf8(program_->output());
         return;

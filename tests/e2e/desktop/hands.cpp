@@ -2,10 +2,11 @@
 
 #include <QThread>
 
+#include <xcb/xtest.h>
+
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <xcb/xtest.h>
 
 namespace corvane::e2e {
 
@@ -26,9 +27,15 @@ void Hands::fake(uint8_t type, uint8_t detail, QPoint point)
                                         xcb_get_input_focus(server_.connection()), nullptr));
 }
 
-void Hands::moveTo(QPoint point) { fake(XCB_MOTION_NOTIFY, 0, point); }
+void Hands::moveTo(QPoint point)
+{
+    fake(XCB_MOTION_NOTIFY, 0, point);
+}
 
-void Hands::moveBy(QPoint step) { fake(XCB_MOTION_NOTIFY, 1, step); }
+void Hands::moveBy(QPoint step)
+{
+    fake(XCB_MOTION_NOTIFY, 1, step);
+}
 
 void Hands::glideTo(QPoint point)
 {
@@ -42,9 +49,15 @@ void Hands::glideTo(QPoint point)
     moveTo(point);
 }
 
-void Hands::press(uint8_t button) { fake(XCB_BUTTON_PRESS, button); }
+void Hands::press(uint8_t button)
+{
+    fake(XCB_BUTTON_PRESS, button);
+}
 
-void Hands::release(uint8_t button) { fake(XCB_BUTTON_RELEASE, button); }
+void Hands::release(uint8_t button)
+{
+    fake(XCB_BUTTON_RELEASE, button);
+}
 
 void Hands::click(QPoint point, uint8_t button)
 {
@@ -77,7 +90,8 @@ void Hands::beginDrag(QPoint from, QPoint towards)
 
 void Hands::aim(QPoint point)
 {
-    for (const QPoint off : {QPoint(-3, 0), QPoint(2, 1), QPoint(-1, 0), QPoint(1, -1), QPoint(0, 0)}) {
+    for (const QPoint off :
+         {QPoint(-3, 0), QPoint(2, 1), QPoint(-1, 0), QPoint(1, -1), QPoint(0, 0)}) {
         moveTo(point + off);
         QThread::msleep(stepMilliseconds);
     }
@@ -103,9 +117,15 @@ uint8_t Hands::keyCode(uint32_t symbol)
     return code;
 }
 
-void Hands::keyDown(uint32_t symbol) { fake(XCB_KEY_PRESS, keyCode(symbol)); }
+void Hands::keyDown(uint32_t symbol)
+{
+    fake(XCB_KEY_PRESS, keyCode(symbol));
+}
 
-void Hands::keyUp(uint32_t symbol) { fake(XCB_KEY_RELEASE, keyCode(symbol)); }
+void Hands::keyUp(uint32_t symbol)
+{
+    fake(XCB_KEY_RELEASE, keyCode(symbol));
+}
 
 void Hands::key(uint32_t symbol, std::initializer_list<uint32_t> modifiers)
 {

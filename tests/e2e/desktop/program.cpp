@@ -4,9 +4,10 @@
 
 #include <QStandardPaths>
 
-#include <csignal>
 #include <sys/prctl.h>
 #include <unistd.h>
+
+#include <csignal>
 
 namespace corvane::e2e {
 
@@ -84,6 +85,9 @@ std::optional<QByteArray> outputOf(const QString &name, const QStringList &argum
     return process.readAllStandardOutput();
 }
 
-bool isInstalled(const QString &name) { return !QStandardPaths::findExecutable(name).isEmpty(); }
+bool isInstalled(const QString &name)
+{
+    return !QStandardPaths::findExecutable(name).isEmpty();
+}
 
 } // namespace corvane::e2e

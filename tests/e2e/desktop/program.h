@@ -13,8 +13,8 @@ namespace corvane::e2e {
 /// A running program, in a session of its own; it and what it started end with this object.
 class Program {
 public:
-    Program(const QString &name, const QStringList &arguments, const QProcessEnvironment &environment,
-            const QString &workingDirectory = {});
+    Program(const QString &name, const QStringList &arguments,
+            const QProcessEnvironment &environment, const QString &workingDirectory = {});
     ~Program();
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;

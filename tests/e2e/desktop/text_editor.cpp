@@ -15,8 +15,9 @@ TextEditor::TextEditor(XDesktop &desktop, const QByteArray &text, const QRect &f
     if (file.open(QFile::WriteOnly))
         file.write(text);
     file.close();
-    program_ = desktop.start(u"zenity"_s, {u"--text-info"_s, u"--editable"_s, u"--title=text"_s,
-                                           u"--font=Inter 20"_s, u"--filename="_s + file.fileName()});
+    program_ = desktop.start(u"zenity"_s,
+                             {u"--text-info"_s, u"--editable"_s, u"--title=text"_s,
+                              u"--font=Inter 20"_s, u"--filename="_s + file.fileName()});
     const auto window = desktop.waitForWindowOf(*program_);
     if (!window) {
         problem_ = u"the editor shows no window: "_s + QString::fromUtf8(program_->output());

@@ -4,6 +4,9 @@
 
 #include <QDir>
 #include <QFile>
+
+#include <unistd.h>
+
 #include <csignal>
 
 namespace corvane::e2e {
@@ -48,8 +51,9 @@ XDesktop::XDesktop(DesktopKind kind)
 void XDesktop::startServer()
 {
     // The server picks a free number by itself and writes it where it is told to.
-    xvfb_ = start(u"Xvfb"_s, {u"-displayfd"_s, u"1"_s, u"-noreset"_s, u"-nolisten"_s, u"tcp"_s,
-                              u"-screen"_s, u"0"_s, u"1512x982x24"_s});
+    xvfb_ = start(u"Xvfb"_s,
+                  {u"-displayfd"_s, u"1"_s, u"-noreset"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s,
+                   u"0"_s, u"1512x982x24"_s});
     // Its messages come the same way; a line with nothing but a number is the answer.
     QByteArray number;
     const bool told = eventually([&] {
@@ -99,8 +103,7 @@ void XDesktop::startWindowManager(WindowManager windowManager)
 
 void XDesktop::startCompositor()
 {
-    compositor_
-        = start(u"picom"_s, {u"--backend"_s, u"xrender"_s, u"--config"_s, u"/dev/null"_s});
+    compositor_ = start(u"picom"_s, {u"--backend"_s, u"xrender"_s, u"--config"_s, u"/dev/null"_s});
     if (!eventually([this] { return server_->selectionOwner("_NET_WM_CM_S0") != noWindow; }))
         problem_ = u"the compositor does not start"_s;
 }
@@ -126,8 +129,10 @@ XDesktop::waitForWindow(const std::function<bool(const WindowFacts &)> &holds)
 
 std::optional<WindowFacts> XDesktop::waitForWindowOf(const Program &program)
 {
-    return waitForWindow(
-        [&program](const WindowFacts &window) { return window.pid == program.pid(); });
+    // Each program leads a session of its own, so its helpers' windows count as its own.
+    return waitForWindow([&program](const WindowFacts &window) {
+        return window.pid > 0 && getsid(static_cast<pid_t>(window.pid)) == program.pid();
+    });
 }
 
 std::optional<WindowFacts> XDesktop::place(xcb_window_t window, const QRect &frame)
@@ -162,8 +167,8 @@ QImage XDesktop::pictureAtRest(const QRect &area)
 
 std::optional<QByteArray> XDesktop::clipboard(const QString &type)
 {
-    return outputOf(u"xclip"_s,
-                    {u"-selection"_s, u"clipboard"_s, u"-o"_s, u"-target"_s, type}, environment_);
+    return outputOf(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-o"_s, u"-target"_s, type},
+                    environment_);
 }
 
 void XDesktop::endServer()

@@ -2,9 +2,10 @@
 
 #include <QtEndian>
 
+#include <xcb/shape.h>
+
 #include <cstdlib>
 #include <cstring>
-#include <xcb/shape.h>
 
 namespace corvane::e2e {
 
@@ -13,10 +14,10 @@ namespace {
 struct Free {
     void operator()(void *reply) const { std::free(reply); }
 };
-template <class T>
+template<class T>
 using Reply = std::unique_ptr<T, Free>;
 
-template <class T>
+template<class T>
 Reply<T> owned(T *reply)
 {
     return Reply<T>(reply);
@@ -31,7 +32,10 @@ XServer::XServer(const QByteArray &display)
         root_ = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
 }
 
-bool XServer::isConnected() const { return xcb_connection_has_error(connection()) == 0; }
+bool XServer::isConnected() const
+{
+    return xcb_connection_has_error(connection()) == 0;
+}
 
 QSize XServer::size() const
 {
@@ -145,7 +149,10 @@ QList<QRect> XServer::shape(xcb_window_t window, uint8_t kind)
     return rectangles;
 }
 
-QList<QRect> XServer::inputShape(xcb_window_t window) { return shape(window, XCB_SHAPE_SK_INPUT); }
+QList<QRect> XServer::inputShape(xcb_window_t window)
+{
+    return shape(window, XCB_SHAPE_SK_INPUT);
+}
 
 QList<QRect> XServer::boundingShape(xcb_window_t window)
 {
@@ -157,13 +164,13 @@ QImage XServer::picture(const QRect &area)
     const QRect seen = area.intersected(QRect({0, 0}, size()));
     if (seen.isEmpty())
         return {};
-    auto reply = owned(xcb_get_image_reply(
-        connection(),
-        xcb_get_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP, root_,
-                      static_cast<int16_t>(seen.x()), static_cast<int16_t>(seen.y()),
-                      static_cast<uint16_t>(seen.width()), static_cast<uint16_t>(seen.height()),
-                      ~0U),
-        nullptr));
+    auto reply = owned(xcb_get_image_reply(connection(),
+                                           xcb_get_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP,
+                                                         root_, static_cast<int16_t>(seen.x()),
+                                                         static_cast<int16_t>(seen.y()),
+                                                         static_cast<uint16_t>(seen.width()),
+                                                         static_cast<uint16_t>(seen.height()), ~0U),
+                                           nullptr));
     QImage image(seen.size(), QImage::Format_RGB32);
     const auto length = reply ? xcb_get_image_data_length(reply.get()) : 0;
     if (length != image.sizeInBytes())
@@ -174,8 +181,8 @@ QImage XServer::picture(const QRect &area)
 
 QPoint XServer::pointerPosition()
 {
-    auto reply
-        = owned(xcb_query_pointer_reply(connection(), xcb_query_pointer(connection(), root_), nullptr));
+    auto reply = owned(
+        xcb_query_pointer_reply(connection(), xcb_query_pointer(connection(), root_), nullptr));
     return reply ? QPoint(reply->root_x, reply->root_y) : QPoint();
 }
 

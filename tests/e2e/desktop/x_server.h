@@ -5,9 +5,10 @@
 #include <QList>
 #include <QRect>
 
+#include <xcb/xcb.h>
+
 #include <memory>
 #include <optional>
-#include <xcb/xcb.h>
 
 namespace corvane::e2e {
 

@@ -2,8 +2,9 @@
 
 #include <QtEndian>
 
-#include <cstdlib>
 #include <xcb/xcb.h>
+
+#include <cstdlib>
 
 namespace corvane::e2e {
 
@@ -21,7 +22,8 @@ struct Free {
 
 XdndPeer::XdndPeer(XDesktop &desktop, const QRect &frame)
     : desktop_(desktop)
-    , connection_(std::make_unique<XServer>(desktop.environment().value(QStringLiteral("DISPLAY")).toLatin1()))
+    , connection_(std::make_unique<XServer>(
+          desktop.environment().value(QStringLiteral("DISPLAY")).toLatin1()))
     , window_(xcb_generate_id(connection()))
     , frame_(frame)
 {
@@ -31,11 +33,11 @@ XdndPeer::XdndPeer(XDesktop &desktop, const QRect &frame)
                                    | XCB_EVENT_MASK_PROPERTY_CHANGE};
     xcb_create_window(connection(), XCB_COPY_FROM_PARENT, window_, connection_->root(),
                       static_cast<int16_t>(frame.x()), static_cast<int16_t>(frame.y()),
-                      static_cast<uint16_t>(frame.width()), static_cast<uint16_t>(frame.height()), 0,
-                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
+                      static_cast<uint16_t>(frame.width()), static_cast<uint16_t>(frame.height()),
+                      0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
                       XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
-    xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window_, atom("XdndAware"), XCB_ATOM_ATOM,
-                        32, 1, &protocolVersion);
+    xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window_, atom("XdndAware"),
+                        XCB_ATOM_ATOM, 32, 1, &protocolVersion);
     xcb_map_window(connection(), window_);
     xcb_flush(connection());
     // Mapped once an answer to a later question has come.
@@ -44,7 +46,10 @@ XdndPeer::XdndPeer(XDesktop &desktop, const QRect &frame)
 
 XdndPeer::~XdndPeer() = default;
 
-void XdndPeer::die() { connection_.reset(); }
+void XdndPeer::die()
+{
+    connection_.reset();
+}
 
 xcb_atom_t XdndPeer::atom(const QByteArray &name)
 {
@@ -56,8 +61,8 @@ xcb_atom_t XdndPeer::atom(const QByteArray &name)
 
 QByteArray XdndPeer::nameOf(xcb_atom_t atom)
 {
-    const std::unique_ptr<xcb_get_atom_name_reply_t, Free> reply(xcb_get_atom_name_reply(
-        connection(), xcb_get_atom_name(connection(), atom), nullptr));
+    const std::unique_ptr<xcb_get_atom_name_reply_t, Free> reply(
+        xcb_get_atom_name_reply(connection(), xcb_get_atom_name(connection(), atom), nullptr));
     if (!reply)
         return {};
     return {xcb_get_atom_name_name(reply.get()), xcb_get_atom_name_name_length(reply.get())};
@@ -109,6 +114,9 @@ XdndSource::XdndSource(XDesktop &desktop, QList<Offer> offers, QByteArray propos
         types.push_back(atom(offer.type));
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window(), atom("XdndTypeList"),
                         XCB_ATOM_ATOM, 32, static_cast<uint32_t>(types.size()), types.data());
+    const std::array<xcb_atom_t, 2> actions{atom(proposedAction_), atom("XdndActionCopy")};
+    xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window(), atom("XdndActionList"),
+                        XCB_ATOM_ATOM, 32, actions.size(), actions.data());
 }
 
 void XdndSource::pickUp()
@@ -155,7 +163,10 @@ void XdndSource::drop()
     send(target_, "XdndDrop", {window(), 0, XCB_CURRENT_TIME, 0, 0});
 }
 
-void XdndSource::letGo() { desktop_.hands().release(); }
+void XdndSource::letGo()
+{
+    desktop_.hands().release();
+}
 
 std::optional<XdndSource::Status> XdndSource::waitForFinish()
 {
@@ -217,7 +228,8 @@ void XdndSource::answer(const xcb_selection_request_event_t &request)
                                 static_cast<uint32_t>(offer.data.size()), offer.data.constData());
         } else {
             const uint32_t watch = XCB_EVENT_MASK_PROPERTY_CHANGE;
-            xcb_change_window_attributes(connection(), request.requestor, XCB_CW_EVENT_MASK, &watch);
+            xcb_change_window_attributes(connection(), request.requestor, XCB_CW_EVENT_MASK,
+                                         &watch);
             const auto atLeast = static_cast<uint32_t>(offer.data.size());
             xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, request.requestor,
                                 request.property, atom("INCR"), 32, 1, &atLeast);
@@ -273,7 +285,7 @@ void XdndTarget::clientMessage(const xcb_client_message_event_t &message)
     } else if (message.type == atom("XdndPosition")) {
         ++positions_;
         send(source_, "XdndStatus",
-             {window(), accepts_ ? 3U : 2U, 0, 0, accepts_ ? atom("XdndActionCopy") : 0U});
+             {window(), accepts_ ? 3U : 0U, 0, 0, accepts_ ? atom("XdndActionCopy") : 0U});
     } else if (message.type == atom("XdndDrop")) {
         xcb_convert_selection(connection(), window(), atom("XdndSelection"), atom(wantedType_),
                               atom("RECEIVED"), data[2]);

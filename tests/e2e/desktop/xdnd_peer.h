@@ -26,7 +26,7 @@ public:
     /// Handles what has arrived since the last call.
     void pump();
     /// Waits as eventually() does, and goes on answering meanwhile.
-    template <class Condition>
+    template<class Condition>
     bool pumpUntil(Condition &&condition,
                    std::chrono::milliseconds limit = std::chrono::seconds{20});
 
@@ -68,7 +68,8 @@ public:
         QByteArray action;
     };
 
-    XdndSource(XDesktop &desktop, QList<Offer> offers, QByteArray proposedAction = "XdndActionCopy");
+    XdndSource(XDesktop &desktop, QList<Offer> offers,
+               QByteArray proposedAction = "XdndActionCopy");
 
     /// Presses in its own window, moves, and takes the drag selection: from here on the desktop
     /// knows that something is being dragged.
@@ -136,7 +137,7 @@ private:
     int positions_ = 0;
 };
 
-template <class Condition>
+template<class Condition>
 bool XdndPeer::pumpUntil(Condition &&condition, std::chrono::milliseconds limit)
 {
     const auto deadline = std::chrono::steady_clock::now() + limit;
