@@ -177,7 +177,7 @@ void HUDController::resizeWindow(const QRectF &target)
     m_panel.setFrame(unionOf(m_panel.frame(), target));
     const std::weak_ptr<bool> alive = m_alive;
     m_context.view.queue.asyncAfter(
-        Theme::Motion::spring().settlingDuration(), [this, alive, target, g = m_shrinkGeneration] {
+        Theme::Motion::settlingDuration(), [this, alive, target, g = m_shrinkGeneration] {
             if (alive.expired() || g != m_shrinkGeneration || m_store.state() == ShelfState::Idle)
                 return;
             m_panel.setFrame(target);

@@ -7,9 +7,8 @@ namespace corvane {
 
 namespace {
 
-// A spring's own settling time is for a way of length 1. In points a long way, or a fast start,
-// takes longer to become invisible: it is over when every component stays within this of its
-// target.
+// A spring comes to rest never quite; it is over when every component stays within this many points
+// of its target, however long the way was.
 constexpr double invisibleDistance = 0.02;
 
 double springDuration(const Spring &spring, const MovingValue::Components &from,
@@ -23,7 +22,7 @@ double springDuration(const Spring &spring, const MovingValue::Components &from,
         amplitude = std::max(
             amplitude, 2 * (std::abs(from[i] - target[i]) + std::abs(velocity[i]) / frequency));
     }
-    return std::max(spring.settlingDuration(), std::log(amplitude / invisibleDistance) / decay);
+    return std::log(amplitude / invisibleDistance) / decay;
 }
 
 } // namespace

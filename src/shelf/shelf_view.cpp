@@ -182,7 +182,7 @@ void ShelfView::mouseDown(const MouseEvent &event)
         pressCell(cell->itemIndex, event.location);
 }
 
-void ShelfView::performAction(ShelfAction action)
+void ShelfView::performAction(ShelfAction action) const
 {
     switch (action) {
     case ShelfAction::QuickLook:

@@ -101,7 +101,7 @@ private:
     QPointF inBody(QPointF point) const;
     QPointF fromTopCentre(QPointF point) const;
     void updateHover(QPointF point);
-    void performAction(ShelfAction action);
+    void performAction(ShelfAction action) const;
     void pressCell(int itemIndex, QPointF point);
     void beginDragOut(const DropItem &item, int index, QPointF from);
     QRectF thumbFrame(int index) const;

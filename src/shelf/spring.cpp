@@ -1,6 +1,7 @@
 #include "shelf/spring.h"
 
 #include <cmath>
+#include <limits>
 
 namespace corvane {
 
@@ -46,25 +47,28 @@ Spring::State Spring::after(double seconds, State from) const
 
 double Spring::settlingDuration() const
 {
-    const State start{1, 0};
-    // The envelope tells from when on it is surely settled; the last crossing lies before that.
     const double frequency = std::sqrt(stiffness / mass);
     const double ratio = damping / (2 * std::sqrt(stiffness * mass));
-    double end = 1 / frequency;
-    while (true) {
-        const double step = 0.05 / frequency;
-        bool settled = true;
-        // A look ahead over one whole oscillation at least.
-        for (double ahead = 0; ahead < 8 / frequency; ahead += step)
-            settled = settled && std::abs(after(end + ahead, start).distance) <= settledDistance;
-        if (settled || end * frequency > 1e6 || ratio <= 0)
-            break;
-        end += step;
-    }
-    double before = std::fmax(0.0, end - 0.05 / frequency);
-    for (int i = 0; i < 60; ++i) {
+    if (ratio <= 0)
+        return std::numeric_limits<double>::infinity();
+    const auto isSettled = [this](double time) {
+        return std::abs(after(time, {1, 0}).distance) <= settledDistance;
+    };
+    // By then even the slowest part of the motion has died away, many times over.
+    const double slowest
+        = ratio > 1 ? frequency * (ratio - std::sqrt(ratio * ratio - 1)) : ratio * frequency;
+    const double horizon = 20 / slowest;
+    // Fine enough to see every swing; the last unsettled sample brackets the moment.
+    const double step = 0.02 / frequency;
+    auto last = static_cast<long>(horizon / step);
+    while (last > 0 && isSettled(static_cast<double>(last) * step))
+        --last;
+    double before = static_cast<double>(last) * step;
+    double end = before + step;
+    constexpr int halvings = 60;
+    for (int i = 0; i < halvings; ++i) {
         const double middle = (before + end) / 2;
-        (std::abs(after(middle, start).distance) <= settledDistance ? end : before) = middle;
+        (isSettled(middle) ? end : before) = middle;
     }
     return end;
 }

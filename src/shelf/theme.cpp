@@ -15,6 +15,12 @@ QFont sized(QFont font, double pixels, QFont::Weight weight, double dotsPerInch)
 
 } // namespace
 
+double Theme::Motion::settlingDuration()
+{
+    static const double duration = spring().settlingDuration();
+    return duration;
+}
+
 Theme::Theme(const QFont &generalFont, double logicalDotsPerInch)
     : typography{sized(generalFont, 11, QFont::Medium, logicalDotsPerInch),
                  sized(generalFont, 10, QFont::Normal, logicalDotsPerInch),

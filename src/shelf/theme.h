@@ -42,6 +42,8 @@ struct Theme {
         /// Response 0.25 s and damping ratio 0.7: stiffness (2 pi / 0.25)^2, damping 2 x 0.7 x its
         /// root.
         static constexpr Spring spring() { return {1, 631.6546816697189, 35.18583772020568}; }
+        /// Of that spring, in seconds.
+        static double settlingDuration();
     };
 
     /// Fonts are the desktop's general font, sized in device-independent pixels whatever
