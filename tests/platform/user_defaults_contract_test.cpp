@@ -78,7 +78,7 @@ TEST(QtUserDefaults, aFileOfGarbageIsSurvivedAndWrittenOver)
     const QTemporaryDir folder;
     const QString path = folder.filePath(QStringLiteral("settings.ini"));
     for (const QByteArray &garbage :
-         {QByteArray("\0\xff\xfe[[[]]]===\n\n%%%\x01", 20), QByteArray(100'000, '['),
+         {QByteArray("\0\xff\xfe[[[]]]===\n\n%%%\x01", 18), QByteArray(100'000, '['),
           QByteArray("[General]\nsettings.inViewCount=@Variant(\0\0\0\x7f)\n"),
           QByteArray("settings.inViewCount=@ByteArray(\nsettings.inViewCount\n=\n"),
           QByteArray("[General]\nsettings.inViewCount=\\xzz@Invalid(@Rect(")}) {

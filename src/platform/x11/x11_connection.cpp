@@ -1,5 +1,6 @@
 #include "platform/x11/x11_connection.h"
 
+#include "platform/x11/x11_qt.h"
 #include "platform/x11/x11_reply.h"
 
 #include <QAbstractEventDispatcher>
@@ -152,9 +153,10 @@ void X11Connection::dispatch(const xcb_generic_event_t &event)
 
 void X11Connection::noticeLossAtExit()
 {
-    // Reading is what tells xcb that the other end is gone.
-    while (const X11Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)}) { }
-    if (!isConnected())
+    // The server closes its connections one after the other: Qt's may be gone while ours is not
+    // yet.
+    auto *const qt = x11_qt::connection();
+    if (!isConnected() || (qt && xcb_connection_has_error(qt) != 0))
         noticeLoss();
 }
 
