@@ -131,7 +131,13 @@ QPoint DesktopTest::dropPoint()
 
 void DesktopTest::dropOnShelf()
 {
-    ASSERT_TRUE(corvane().waitUntilShown()) << "the shelf does not open for the drag";
+    // A hand goes on moving, and only a move that follows the beginning of a drag tells of it: some
+    // programs take their time to begin.
+    int step = 1;
+    ASSERT_TRUE(eventually([&] {
+        hands().moveBy(QPoint(step = -step, 0));
+        return corvane().isShown();
+    })) << "the shelf does not open for the drag";
     // While something is dragged the shelf is as large as when it is empty, or larger by a width
     // that it grew to before.
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));

@@ -251,16 +251,17 @@ TEST_F(Settings, theShelfStaysClosedDuringDragsWhereItIsToldTo)
 {
     start({{}, "settings.autoShowOnDrag=false\n", {}});
     MapLog log(desktop_.environment().value(u"DISPLAY"_s).toLatin1());
-    {
-        XdndSource source(desktop_, {{"text/plain", "x"}});
-        source.pickUp();
-        source.letGo();
-    }
-    // Opened by hand it takes drops all the same; and that is the first time that it is shown.
+    XdndSource source(desktop_, {{"text/plain", "x"}});
+    source.pickUp();
+    // Opened by hand it takes the drop all the same; and that is the first time that it is shown.
     ASSERT_EQ(corvane().startAgain(), 0);
     ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::empty));
     EXPECT_EQ(log.panelsShown(corvane().program().pid()), 1);
-    ASSERT_TRUE(dropFiles({makeFile(u"one.txt"_s, "x")}));
+    const auto status
+        = source.hover(corvane().panel().value_or(WindowFacts{}).id, corvane().body().center());
+    ASSERT_TRUE(status && status->accepts);
+    source.drop();
+    EXPECT_TRUE(source.waitForFinish());
     EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 }
 

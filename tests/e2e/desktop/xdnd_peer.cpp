@@ -11,8 +11,9 @@ namespace corvane::e2e {
 namespace {
 
 constexpr uint32_t protocolVersion = 5;
-// What goes into one property; more is handed over piece by piece.
-constexpr qsizetype largestPiece = 200000;
+// What goes into one property; more is handed over piece by piece. The toolkit looks for the next
+// piece 20 times a second, so small pieces take long.
+constexpr qsizetype largestPiece = 4'000'000;
 
 struct Free {
     void operator()(void *reply) const { std::free(reply); }
