@@ -48,13 +48,14 @@ struct CompositionRoot {
 
     // The desktop.
     QtMainQueue mainQueue;
+    QtImageCodec imageCodec;
+    // After what its work uses: its end waits for work that is running.
     QtWorkQueue workQueue;
     QtScreens screens;
     QtPointer pointer;
     QtKeyboard keyboard;
     QtGeneralPasteboard generalPasteboard;
     QtUserDefaults userDefaults;
-    QtImageCodec imageCodec;
     QtFileIcons fileIcons;
     QtTextMeasurer textMeasurer;
     QtThumbnailGenerator thumbnailGenerator;
