@@ -71,7 +71,11 @@ TEST_P(BrowserOnDesktop, offersItsLinkToAnotherProgram)
     hands().beginDrag(browser.link(), target.frame().center());
     hands().glideTo(target.frame().center());
     hands().aim(target.frame().center());
-    ASSERT_TRUE(target.pumpUntil([&] { return target.isHovered(); }));
+    int step = 1;
+    ASSERT_TRUE(target.pumpUntil([&] {
+        hands().moveBy(QPoint(step = -step, 0));
+        return target.isHovered();
+    }));
     hands().aim(target.frame().center());
     target.pump();
     hands().release();

@@ -239,7 +239,8 @@ TEST_F(Hostile, aTextOfTwoHundredMegabytesIsKeptWhole)
     source.drop();
     // Piece by piece through the X server: this takes as long as it takes.
     ASSERT_TRUE(source.pumpUntil([&] { return source.hasFinished(); }, std::chrono::minutes{2}));
-    EXPECT_TRUE(source.waitForFinish()->accepts);
+    EXPECT_TRUE(source.waitForFinish()->accepts)
+        << source.asked().join(' ').toStdString() << ", left to send: " << source.unsent();
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 
     XdndTarget target(desktop_, QRect(900, 400, 200, 200), true, "text/plain");

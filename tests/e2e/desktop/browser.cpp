@@ -4,7 +4,7 @@
 
 #include <QDir>
 #include <QFile>
-#include <QUrl>
+#include <QRegularExpression>
 
 namespace corvane::e2e {
 
@@ -90,6 +90,20 @@ QStringList Browser::command(Kind kind, const QString &url) const
     return {u"firefox-esr"_s, u"--no-remote"_s, u"--profile"_s, profile, url};
 }
 
+QString Browser::serve(const QString &folder)
+{
+    server_ = desktop_.start(u"python3"_s, {u"-u"_s, u"-m"_s, u"http.server"_s, u"0"_s, u"--bind"_s,
+                                            u"127.0.0.1"_s, u"--directory"_s, folder});
+    // It picks a free port and says which.
+    QString port;
+    eventually([&] {
+        static const QRegularExpression told(u"port (\\d+)"_s);
+        port = told.match(QString::fromUtf8(server_->output())).captured(1);
+        return !port.isEmpty() || !server_->isRunning();
+    });
+    return port.isEmpty() ? QString() : u"http://127.0.0.1:"_s + port;
+}
+
 Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteArray &picture,
                  const QRect &frame)
     : desktop_(desktop)
@@ -99,7 +113,13 @@ Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteA
     write(folder + u"/picture.png"_s, picture);
     write(folder + u"/page.html"_s, QString::fromLatin1(page).arg(link).toUtf8());
 
-    QStringList arguments = command(kind, QUrl::fromLocalFile(folder + u"/page.html"_s).toString());
+    // Over HTTP, as pages are: what a page from a local file offers is a local file.
+    const QString address = serve(folder);
+    if (address.isEmpty()) {
+        problem_ = u"the page cannot be served: "_s + QString::fromUtf8(server_->output());
+        return;
+    }
+    QStringList arguments = command(kind, address + u"/page.html"_s);
     const QString name = arguments.takeFirst();
     program_ = desktop.start(name, arguments);
     const auto window = desktop.waitForWindowOf(*program_);

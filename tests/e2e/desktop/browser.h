@@ -22,7 +22,11 @@ public:
 private:
     QStringList command(Kind kind, const QString &page) const;
 
+    /// The address under which the folder's files can be fetched; empty where that fails.
+    QString serve(const QString &folder);
+
     XDesktop &desktop_;
+    std::unique_ptr<Program> server_;
     std::unique_ptr<Program> program_;
     QString problem_;
     QRect page_;

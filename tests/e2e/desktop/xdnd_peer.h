@@ -87,6 +87,14 @@ public:
 
     /// The types that were asked for, in order.
     QList<QByteArray> asked() const { return asked_; }
+    /// Bytes of the transfers under way that have not been fetched yet.
+    qsizetype unsent() const
+    {
+        qsizetype sum = 0;
+        for (const Transfer &transfer : transfers_)
+            sum += transfer.rest.size();
+        return sum;
+    }
 
 protected:
     void clientMessage(const xcb_client_message_event_t &message) override;
