@@ -1,7 +1,6 @@
 // The desktop itself and the programs on it, without the program under test: where these fail, the
 // others cannot be believed.
 
-#include "e2e/desktop/browser.h"
 #include "e2e/desktop/text_editor.h"
 #include "e2e/desktop_test.h"
 
@@ -54,34 +53,6 @@ TEST_P(VirtualDesktop, carriesTextIntoAnEditor)
     hands().release();
 
     EXPECT_EQ(other.text("some text"), "some text");
-}
-
-class BrowserOnDesktop : public DesktopTest, public testing::WithParamInterface<Browser::Kind> { };
-INSTANTIATE_TEST_SUITE_P(, BrowserOnDesktop,
-                         testing::Values(Browser::Kind::Chromium, Browser::Kind::Firefox));
-
-TEST_P(BrowserOnDesktop, offersItsLinkToAnotherProgram)
-{
-    if (!Browser::isInstalled(GetParam()))
-        GTEST_SKIP() << "this browser is not installed";
-    Browser browser(desktop_, GetParam(), u"http://corvane.example/a/b"_s, {},
-                    QRect(60, 200, 700, 600));
-    ASSERT_EQ(browser.problem(), QString());
-    XdndTarget target(desktop_, QRect(1000, 300, 200, 200), true, "text/plain");
-    hands().beginDrag(browser.link(), target.frame().center());
-    hands().glideTo(target.frame().center());
-    hands().aim(target.frame().center());
-    int step = 1;
-    ASSERT_TRUE(target.pumpUntil([&] {
-        hands().moveBy(QPoint(step = -step, 0));
-        return target.isHovered();
-    }));
-    hands().aim(target.frame().center());
-    target.pump();
-    hands().release();
-
-    EXPECT_TRUE(target.pumpUntil([&] { return target.hasDrop(); }));
-    EXPECT_TRUE(target.data().contains("http://corvane.example/a/b")) << target.data().constData();
 }
 
 } // namespace

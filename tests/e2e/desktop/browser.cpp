@@ -92,8 +92,9 @@ QStringList Browser::command(Kind kind, const QString &url) const
 
 QString Browser::serve(const QString &folder)
 {
-    server_ = desktop_.start(u"python3"_s, {u"-u"_s, u"-m"_s, u"http.server"_s, u"0"_s, u"--bind"_s,
-                                            u"127.0.0.1"_s, u"--directory"_s, folder});
+    server_ = desktop_.start(u"python3"_s,
+                             {u"-u"_s, u"-m"_s, u"http.server"_s, u"0"_s, u"--bind"_s,
+                              u"127.0.0.1"_s, u"--directory"_s, folder});
     // It picks a free port and says which.
     QString port;
     eventually([&] {

@@ -12,8 +12,9 @@ namespace {
 
 constexpr uint32_t protocolVersion = 5;
 // What goes into one property; more is handed over piece by piece. The toolkit looks for the next
-// piece 20 times a second, so small pieces take long.
-constexpr qsizetype largestPiece = 4'000'000;
+// piece 20 times a second and gives a transfer five seconds in all, so pieces are as large as the
+// server takes them.
+constexpr qsizetype largestPiece = 12'000'000;
 
 struct Free {
     void operator()(void *reply) const { std::free(reply); }
@@ -195,7 +196,7 @@ void XdndSource::otherEvent(const xcb_generic_event_t &event)
             if (change.state != XCB_PROPERTY_DELETE || change.window != transfers_[i].requestor
                 || change.atom != transfers_[i].property)
                 continue;
-            const bool isLast = transfers_[i].rest.isEmpty();
+            const bool isLast = transfers_[i].sent == transfers_[i].data.size();
             goOn(transfers_[i]);
             if (isLast)
                 transfers_.removeAt(i);
@@ -234,7 +235,7 @@ void XdndSource::answer(const xcb_selection_request_event_t &request)
             const auto atLeast = static_cast<uint32_t>(offer.data.size());
             xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, request.requestor,
                                 request.property, atom("INCR"), 32, 1, &atLeast);
-            transfers_.append({request.requestor, request.property, request.target, offer.data});
+            transfers_.append({request.requestor, request.property, request.target, offer.data, 0});
         }
         break;
     }
@@ -245,10 +246,12 @@ void XdndSource::answer(const xcb_selection_request_event_t &request)
 
 void XdndSource::goOn(Transfer &transfer)
 {
-    const QByteArray piece = transfer.rest.left(largestPiece);
-    transfer.rest = transfer.rest.mid(piece.size());
+    // Empty at last, which is how the end is told.
+    const qsizetype size = std::min(largestPiece, transfer.data.size() - transfer.sent);
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, transfer.requestor, transfer.property,
-                        transfer.type, 8, static_cast<uint32_t>(piece.size()), piece.constData());
+                        transfer.type, 8, static_cast<uint32_t>(size),
+                        transfer.data.constData() + transfer.sent);
+    transfer.sent += size;
     xcb_flush(connection());
 }
 

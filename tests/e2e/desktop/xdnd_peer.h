@@ -92,7 +92,7 @@ public:
     {
         qsizetype sum = 0;
         for (const Transfer &transfer : transfers_)
-            sum += transfer.rest.size();
+            sum += transfer.data.size() - transfer.sent;
         return sum;
     }
 
@@ -105,7 +105,8 @@ private:
         xcb_window_t requestor;
         xcb_atom_t property;
         xcb_atom_t type;
-        QByteArray rest;
+        QByteArray data;
+        qsizetype sent;
     };
     void answer(const xcb_selection_request_event_t &request);
     void goOn(Transfer &transfer);
