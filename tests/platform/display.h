@@ -20,4 +20,15 @@ inline void settle()
     eventually([] { return false; }, std::chrono::milliseconds{120});
 }
 
+/// So many bytes of text that a piece missing or repeated would be seen.
+inline QByteArray numberedBytes(qsizetype size)
+{
+    QByteArray bytes;
+    bytes.reserve(size + 16);
+    for (qsizetype line = 0; bytes.size() < size; ++line)
+        bytes += QByteArray::number(line) + '\n';
+    bytes.truncate(size);
+    return bytes;
+}
+
 } // namespace corvane::test

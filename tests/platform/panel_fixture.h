@@ -48,7 +48,7 @@ protected:
     QtMainQueue queue;
     X11Connection connection;
     X11PanelSurface surface{connection};
-    X11DragSupport support{connection};
+    X11DragSupport support{connection, queue};
     RecordingContent content;
     QtPanelWindow panel{surface, queue, &support};
 };

@@ -23,15 +23,6 @@ struct Free {
 constexpr std::uint32_t protocolVersion = 5;
 const QByteArray directSaveType = "XdndDirectSave0";
 
-QByteArray nameOf(xcb_connection_t *connection, xcb_atom_t atom)
-{
-    const std::unique_ptr<xcb_get_atom_name_reply_t, Free> reply(
-        xcb_get_atom_name_reply(connection, xcb_get_atom_name(connection, atom), nullptr));
-    if (!reply)
-        return {};
-    return {xcb_get_atom_name_name(reply.get()), xcb_get_atom_name_name_length(reply.get())};
-}
-
 } // namespace
 
 X11Client::X11Client(const QRect &frame)
@@ -85,6 +76,15 @@ xcb_atom_t X11Client::atom(const QByteArray &name)
     if (known == m_atoms.end())
         known = m_atoms.insert(name, m_server.atom(name));
     return *known;
+}
+
+QByteArray X11Client::nameOf(xcb_atom_t atom)
+{
+    const std::unique_ptr<xcb_get_atom_name_reply_t, Free> reply(
+        xcb_get_atom_name_reply(connection(), xcb_get_atom_name(connection(), atom), nullptr));
+    if (!reply)
+        return {};
+    return {xcb_get_atom_name_name(reply.get()), xcb_get_atom_name_name_length(reply.get())};
 }
 
 void X11Client::setBytes(xcb_window_t window, const char *property, xcb_atom_t type,
@@ -193,7 +193,7 @@ QList<QByteArray> DragSource::asked()
 
 DragSource::Answer DragSource::answerFrom(std::uint32_t flags, xcb_atom_t action)
 {
-    return {(flags & 1) != 0, action != e2e::noAtom ? nameOf(connection(), action) : QByteArray()};
+    return {(flags & 1) != 0, action != e2e::noAtom ? nameOf(action) : QByteArray()};
 }
 
 void DragSource::handle(const xcb_generic_event_t &event)
@@ -213,7 +213,7 @@ void DragSource::handle(const xcb_generic_event_t &event)
 
 void DragSource::answer(const xcb_selection_request_event_t &request)
 {
-    const QByteArray type = nameOf(connection(), request.target);
+    const QByteArray type = nameOf(request.target);
     {
         const std::lock_guard lock(m_mutex);
         m_asked << type;
@@ -260,99 +260,6 @@ QByteArray DragSource::saveDirectly()
         return "F";
     }
     return "S";
-}
-
-// The target
-
-DropTarget::DropTarget(const QRect &frame)
-    : X11Client(frame)
-    , m_asker(xcb_generate_id(connection()))
-{
-    xcb_create_window(connection(), XCB_COPY_FROM_PARENT, m_asker, m_server.root(), 0, 0, 1, 1, 0,
-                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
-    startThread();
-}
-
-std::optional<QByteArray> DropTarget::received(const QByteArray &type)
-{
-    const std::lock_guard lock(m_mutex);
-    return m_received.value(type);
-}
-
-bool DropTarget::isOver()
-{
-    const std::lock_guard lock(m_mutex);
-    return m_positions > 1;
-}
-
-bool DropTarget::hasFinished()
-{
-    const std::lock_guard lock(m_mutex);
-    return m_hasFinished;
-}
-
-QList<QByteArray> DropTarget::targets()
-{
-    const std::lock_guard lock(m_mutex);
-    return m_targets;
-}
-
-QList<QByteArray> DropTarget::actions()
-{
-    const std::lock_guard lock(m_mutex);
-    return m_actions;
-}
-
-void DropTarget::handle(const xcb_generic_event_t &event)
-{
-    const auto atoms = [this](xcb_window_t window, const char *property) {
-        const QByteArray bytes = m_server.property(window, property);
-        QList<QByteArray> names;
-        for (qsizetype i = 0; i + 4 <= bytes.size(); i += 4) {
-            xcb_atom_t each = e2e::noAtom;
-            std::memcpy(&each, bytes.constData() + i, sizeof each);
-            names << nameOf(connection(), each);
-        }
-        return names;
-    };
-    const int type = event.response_type & 0x7f;
-    const std::lock_guard lock(m_mutex);
-    if (type == XCB_SELECTION_NOTIFY) {
-        const auto &notify = reinterpret_cast<const xcb_selection_notify_event_t &>(event);
-        const QByteArray asked = nameOf(connection(), notify.target);
-        if (asked == "TARGETS")
-            m_targets = atoms(m_asker, "GIVEN");
-        if (notify.property != e2e::noAtom)
-            m_received[asked] = m_server.property(m_asker, "GIVEN");
-        ask();
-    } else if (type == XCB_CLIENT_MESSAGE) {
-        const auto &message = reinterpret_cast<const xcb_client_message_event_t &>(event);
-        if (message.type == atom("XdndEnter")) {
-            m_source = message.data.data32[0];
-            m_positions = 0;
-            m_actions = atoms(m_source, "XdndActionList");
-        } else if (message.type == atom("XdndPosition")) {
-            ++m_positions;
-            sendMessage(m_source, "XdndStatus",
-                        {window(), accepts ? 3U : 2U, 0, 0,
-                         accepts ? atom("XdndActionCopy") : xcb_atom_t{e2e::noAtom}});
-        } else if (message.type == atom("XdndDrop")) {
-            m_next = 0;
-            wanted.prepend("TARGETS");
-            ask();
-        }
-    }
-}
-
-void DropTarget::ask()
-{
-    if (m_next < wanted.size()) {
-        xcb_convert_selection(connection(), m_asker, atom("XdndSelection"), atom(wanted[m_next++]),
-                              atom("GIVEN"), XCB_CURRENT_TIME);
-        return;
-    }
-    sendMessage(m_source, "XdndFinished", {window(), 1, atom("XdndActionCopy"), 0, 0});
-    m_hasFinished = true;
 }
 
 } // namespace corvane::test

@@ -31,6 +31,7 @@ protected:
     void sendMessage(xcb_window_t to, const char *type, std::array<std::uint32_t, 5> data);
     xcb_connection_t *connection() const { return m_server.connection(); }
     xcb_atom_t atom(const QByteArray &name);
+    QByteArray nameOf(xcb_atom_t atom);
     void setBytes(xcb_window_t window, const char *property, xcb_atom_t type,
                   const QByteArray &bytes);
 
@@ -93,38 +94,6 @@ private:
     std::optional<Answer> m_status;
     std::optional<Answer> m_finish;
     QList<QByteArray> m_asked;
-};
-
-/// A program that something is dragged into. It asks the way GTK 4 does: from a window that the
-/// drop was not sent to, and without a time.
-class DropTarget : public X11Client {
-public:
-    explicit DropTarget(const QRect &frame);
-    ~DropTarget() override { stopThread(); }
-
-    /// What it was given, by the type it asked for; none for what was refused.
-    std::optional<QByteArray> received(const QByteArray &type);
-    bool isOver();
-    bool hasFinished();
-    QList<QByteArray> targets();
-    QList<QByteArray> actions();
-
-    /// Asked for after the drop, in order; `TARGETS` comes first by itself.
-    QList<QByteArray> wanted;
-    bool accepts = true;
-
-private:
-    void handle(const xcb_generic_event_t &event) override;
-    void ask();
-
-    xcb_window_t m_asker = e2e::noWindow;
-    xcb_window_t m_source = e2e::noWindow;
-    int m_positions = 0;
-    qsizetype m_next = 0;
-    bool m_hasFinished = false;
-    QHash<QByteArray, std::optional<QByteArray>> m_received;
-    QList<QByteArray> m_targets;
-    QList<QByteArray> m_actions;
 };
 
 } // namespace corvane::test

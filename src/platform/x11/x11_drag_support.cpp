@@ -23,8 +23,9 @@ constexpr std::array textNames = {"text/plain", "text/plain;charset=utf-8", "UTF
 
 } // namespace
 
-X11DragSupport::X11DragSupport(X11Connection &connection)
+X11DragSupport::X11DragSupport(X11Connection &connection, MainQueue &queue)
     : m_connection(connection)
+    , m_transfers(connection, queue)
 {
     QCoreApplication::instance()->installNativeEventFilter(this);
 }
@@ -76,11 +77,16 @@ bool X11DragSupport::receivePromisedFile(const QUrl &destination, const Fetch &f
 void X11DragSupport::dragWillBegin(const QMimeData &contents)
 {
     m_contents.clear();
-    for (const QString &format : contents.formats())
-        m_contents.insert(m_connection.atom(format.toUtf8().constData()), contents.data(format));
     if (contents.hasText()) {
+        // One array behind all its names: a text may be very large.
+        const QByteArray text = contents.text().toUtf8();
         for (const char *name : textNames)
-            m_contents.insert(m_connection.atom(name), contents.text().toUtf8());
+            m_contents.insert(m_connection.atom(name), text);
+    }
+    for (const QString &format : contents.formats()) {
+        const xcb_atom_t type = m_connection.atom(format.toUtf8().constData());
+        if (!m_contents.contains(type))
+            m_contents.insert(type, contents.data(format));
     }
 }
 
@@ -148,11 +154,10 @@ bool X11DragSupport::writeAnswer(const xcb_selection_request_event_t &request, x
         return true;
     }
     const auto found = m_contents.constFind(request.target);
-    // More than one request holds would end the connection, and the process with it.
-    constexpr std::uint32_t requestHead = 64;
-    if (found == m_contents.cend()
-        || found->size() / 4 + requestHead > xcb_get_maximum_request_length(connection))
+    if (found == m_contents.cend())
         return false;
+    if (found->size() > IncrementalTransfers::pieceBytes)
+        return m_transfers.begin(request.requestor, property, request.target, *found);
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, request.requestor, property,
                         request.target, 8, static_cast<std::uint32_t>(found->size()),
                         found->constData());

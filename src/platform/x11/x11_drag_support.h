@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/drag_support.h"
+#include "platform/x11/incremental_transfers.h"
 #include "platform/x11/x11_connection.h"
 
 #include <QAbstractNativeEventFilter>
@@ -9,7 +10,7 @@
 namespace corvane {
 
 /// The parts of drag and drop on X11 that Qt leaves out. Listens to the events that Qt receives,
-/// and must be made after the application object. The connection must outlive it.
+/// and must be made after the application object. The connection and the queue must outlive it.
 ///
 /// As a target: direct save, where the source is told a file's address in a property of its window,
 /// writes there, and says how that went.
@@ -17,10 +18,11 @@ namespace corvane {
 /// As a source: Qt answers only requests that carry the time of the drag or come from the window
 /// that the drop was sent to. GTK 4 asks from another window, without a time, and for the list of
 /// types first; unanswered, it takes nothing while Qt reports a copy. So all requests for what we
-/// drag are answered here, from a copy made when the drag began.
+/// drag are answered here, from a copy made when the drag began; at once what is small, piece by
+/// piece what is large, which goes on when that drag is over.
 class X11DragSupport : public DragSupport, public QAbstractNativeEventFilter {
 public:
-    explicit X11DragSupport(X11Connection &connection);
+    X11DragSupport(X11Connection &connection, MainQueue &queue);
     ~X11DragSupport() override;
     X11DragSupport(const X11DragSupport &) = delete;
     X11DragSupport &operator=(const X11DragSupport &) = delete;
@@ -42,6 +44,7 @@ private:
     xcb_window_t m_source = XCB_NONE;
     /// What we drag, by type.
     QHash<xcb_atom_t, QByteArray> m_contents;
+    IncrementalTransfers m_transfers;
 };
 
 } // namespace corvane

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "platform/main_queue.h"
+#include "platform/x11/x11_connection.h"
+
+#include <QByteArray>
+
+#include <cstddef>
+#include <list>
+
+namespace corvane {
+
+/// Hands other programs what is too large for one request, piece by piece.
+///
+///     begin: the property says how much is coming
+///     the reader removes the property --> the next piece is put into it
+///     all pieces taken                --> an empty one says so, and the transfer is over
+///
+/// A transfer also ends, and lets go of its contents, when the reader's window is gone, when the
+/// reader takes nothing for a while, or when it asks anew for the same property. Each holds the
+/// bytes that it was begun with, shared and not copied, so it depends on no drag. A clock runs only
+/// while a transfer does. The connection and the queue must outlive it.
+class IncrementalTransfers {
+public:
+    /// What one request carries on every server, and a size at which a piece costs little more than
+    /// its bytes. Whatever is larger should come here.
+    static constexpr qsizetype pieceBytes = 192 * 1024;
+    static constexpr std::size_t maximumTransfers = 32;
+    /// Seconds without a piece being taken after which a reader counts as gone.
+    static constexpr double patience = 30;
+
+    IncrementalTransfers(X11Connection &connection, MainQueue &queue);
+    ~IncrementalTransfers();
+    IncrementalTransfers(const IncrementalTransfers &) = delete;
+    IncrementalTransfers &operator=(const IncrementalTransfers &) = delete;
+
+    /// Announces `bytes` in a property of the reader's window; the caller then tells the reader.
+    /// False, and nothing is written, when the window is gone or too many transfers run.
+    bool begin(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type, const QByteArray &bytes);
+
+    std::size_t count() const { return m_transfers.size(); }
+
+private:
+    struct Transfer {
+        xcb_window_t reader;
+        xcb_atom_t property;
+        xcb_atom_t type;
+        QByteArray bytes;
+        qsizetype sent;
+        double lastProgress;
+    };
+
+    void handle(const xcb_generic_event_t &event);
+    void handlePropertyRemoved(xcb_window_t reader, xcb_atom_t property);
+    /// False when that was the end.
+    bool sendPiece(Transfer &transfer);
+    bool listenTo(xcb_window_t reader);
+    template<typename Predicate>
+    void endWhere(Predicate isOver);
+
+    X11Connection &m_connection;
+    MainQueue &m_queue;
+    X11Connection::ListenerId m_listener;
+    std::list<Transfer> m_transfers;
+    std::unique_ptr<MainQueue::Timer> m_patienceTimer;
+};
+
+} // namespace corvane
