@@ -108,14 +108,14 @@ void DesktopTest::start(const CorvaneProgram::Start &how)
 
 QString DesktopTest::makeFolder(const QString &name)
 {
-    const QString path = files_ + u'/' + name;
+    QString path = files_ + u'/' + name;
     QDir().mkpath(path);
     return path;
 }
 
 QString DesktopTest::makeFile(const QString &name, const QByteArray &contents)
 {
-    const QString path = files_ + u'/' + name;
+    QString path = files_ + u'/' + name;
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     EXPECT_TRUE(file.open(QFile::WriteOnly));

@@ -107,9 +107,9 @@ uint8_t Hands::keyCode(uint32_t symbol)
     if (mapping == nullptr)
         return 0;
     const xcb_keysym_t *symbols = xcb_get_keyboard_mapping_keysyms(mapping);
-    const int width = mapping->keysyms_per_keycode;
+    const size_t width = mapping->keysyms_per_keycode;
     uint8_t code = 0;
-    for (int i = 0; i < count && code == 0; ++i) {
+    for (size_t i = 0; i < count && code == 0; ++i) {
         if (symbols[i * width] == symbol)
             code = static_cast<uint8_t>(setup->min_keycode + i);
     }

@@ -44,7 +44,7 @@ QSize XServer::size() const
     return geometry ? QSize(geometry->width, geometry->height) : QSize();
 }
 
-xcb_atom_t XServer::atom(const QByteArray &name)
+xcb_atom_t XServer::atom(const QByteArray &name) const
 {
     auto reply = owned(xcb_intern_atom_reply(
         connection(),
@@ -53,7 +53,7 @@ xcb_atom_t XServer::atom(const QByteArray &name)
     return reply ? reply->atom : noAtom;
 }
 
-QByteArray XServer::property(xcb_window_t window, const QByteArray &name)
+QByteArray XServer::property(xcb_window_t window, const QByteArray &name) const
 {
     auto reply = owned(xcb_get_property_reply(
         connection(),
@@ -65,7 +65,8 @@ QByteArray XServer::property(xcb_window_t window, const QByteArray &name)
             xcb_get_property_value_length(reply.get())};
 }
 
-std::optional<xcb_window_t> XServer::windowProperty(xcb_window_t window, const QByteArray &name)
+std::optional<xcb_window_t> XServer::windowProperty(xcb_window_t window,
+                                                    const QByteArray &name) const
 {
     const QByteArray value = property(window, name);
     if (value.size() < 4)
@@ -73,21 +74,21 @@ std::optional<xcb_window_t> XServer::windowProperty(xcb_window_t window, const Q
     return qFromUnaligned<uint32_t>(value.constData());
 }
 
-xcb_window_t XServer::selectionOwner(const QByteArray &selection)
+xcb_window_t XServer::selectionOwner(const QByteArray &selection) const
 {
     auto reply = owned(xcb_get_selection_owner_reply(
         connection(), xcb_get_selection_owner(connection(), atom(selection)), nullptr));
     return reply ? reply->owner : noWindow;
 }
 
-xcb_window_t XServer::focusedWindow()
+xcb_window_t XServer::focusedWindow() const
 {
     auto reply = owned(
         xcb_get_input_focus_reply(connection(), xcb_get_input_focus(connection()), nullptr));
     return reply ? reply->focus : noWindow;
 }
 
-std::optional<WindowFacts> XServer::facts(xcb_window_t window)
+std::optional<WindowFacts> XServer::facts(xcb_window_t window) const
 {
     const auto attributesCookie = xcb_get_window_attributes(connection(), window);
     const auto geometryCookie = xcb_get_geometry(connection(), window);
@@ -109,7 +110,7 @@ std::optional<WindowFacts> XServer::facts(xcb_window_t window)
     return facts;
 }
 
-void XServer::collect(xcb_window_t window, int depth, QList<WindowFacts> &found)
+void XServer::collect(xcb_window_t window, int depth, QList<WindowFacts> &found) const
 {
     auto tree
         = owned(xcb_query_tree_reply(connection(), xcb_query_tree(connection(), window), nullptr));
@@ -127,14 +128,14 @@ void XServer::collect(xcb_window_t window, int depth, QList<WindowFacts> &found)
     }
 }
 
-QList<WindowFacts> XServer::windows()
+QList<WindowFacts> XServer::windows() const
 {
     QList<WindowFacts> found;
     collect(root_, 2, found);
     return found;
 }
 
-QList<QRect> XServer::shape(xcb_window_t window, uint8_t kind)
+QList<QRect> XServer::shape(xcb_window_t window, uint8_t kind) const
 {
     auto reply = owned(xcb_shape_get_rectangles_reply(
         connection(),
@@ -149,17 +150,17 @@ QList<QRect> XServer::shape(xcb_window_t window, uint8_t kind)
     return rectangles;
 }
 
-QList<QRect> XServer::inputShape(xcb_window_t window)
+QList<QRect> XServer::inputShape(xcb_window_t window) const
 {
     return shape(window, XCB_SHAPE_SK_INPUT);
 }
 
-QList<QRect> XServer::boundingShape(xcb_window_t window)
+QList<QRect> XServer::boundingShape(xcb_window_t window) const
 {
     return shape(window, XCB_SHAPE_SK_BOUNDING);
 }
 
-QImage XServer::picture(const QRect &area)
+QImage XServer::picture(const QRect &area) const
 {
     const QRect seen = area.intersected(QRect({0, 0}, size()));
     if (seen.isEmpty())
@@ -179,14 +180,15 @@ QImage XServer::picture(const QRect &area)
     return image;
 }
 
-QPoint XServer::pointerPosition()
+QPoint XServer::pointerPosition() const
 {
     auto reply = owned(
         xcb_query_pointer_reply(connection(), xcb_query_pointer(connection(), root_), nullptr));
     return reply ? QPoint(reply->root_x, reply->root_y) : QPoint();
 }
 
-void XServer::sendToRoot(xcb_window_t window, const QByteArray &type, std::array<uint32_t, 5> data)
+void XServer::sendToRoot(xcb_window_t window, const QByteArray &type,
+                         std::array<uint32_t, 5> data) const
 {
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;
@@ -200,7 +202,7 @@ void XServer::sendToRoot(xcb_window_t window, const QByteArray &type, std::array
     xcb_flush(connection());
 }
 
-void XServer::moveResize(xcb_window_t window, const QRect &frame)
+void XServer::moveResize(xcb_window_t window, const QRect &frame) const
 {
     // Static gravity, x, y, width and height given, asked by a pager.
     constexpr uint32_t flags = 10U | 0xfU << 8U | 2U << 12U;
@@ -209,7 +211,7 @@ void XServer::moveResize(xcb_window_t window, const QRect &frame)
                 static_cast<uint32_t>(frame.width()), static_cast<uint32_t>(frame.height())});
 }
 
-void XServer::activate(xcb_window_t window)
+void XServer::activate(xcb_window_t window) const
 {
     sendToRoot(window, "_NET_ACTIVE_WINDOW", {2U, 0U, 0U, 0U, 0U});
 }

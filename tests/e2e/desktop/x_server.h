@@ -37,38 +37,42 @@ public:
     xcb_window_t root() const { return root_; }
     QSize size() const;
 
-    xcb_atom_t atom(const QByteArray &name);
-    QByteArray property(xcb_window_t window, const QByteArray &name);
-    std::optional<xcb_window_t> windowProperty(xcb_window_t window, const QByteArray &name);
-    xcb_window_t selectionOwner(const QByteArray &selection);
-    xcb_window_t focusedWindow();
-    xcb_window_t activeWindow() { return windowProperty(root_, "_NET_ACTIVE_WINDOW").value_or(0); }
+    xcb_atom_t atom(const QByteArray &name) const;
+    QByteArray property(xcb_window_t window, const QByteArray &name) const;
+    std::optional<xcb_window_t> windowProperty(xcb_window_t window, const QByteArray &name) const;
+    xcb_window_t selectionOwner(const QByteArray &selection) const;
+    xcb_window_t focusedWindow() const;
+    xcb_window_t activeWindow() const
+    {
+        return windowProperty(root_, "_NET_ACTIVE_WINDOW").value_or(0);
+    }
 
     /// Every child of the root and, below a window manager's frames, the programs' own windows;
     /// from the bottom to the top of the stack.
-    QList<WindowFacts> windows();
-    std::optional<WindowFacts> facts(xcb_window_t window);
+    QList<WindowFacts> windows() const;
+    std::optional<WindowFacts> facts(xcb_window_t window) const;
 
     /// In the window's coordinates. Empty where the window is nothing but click-through.
-    QList<QRect> inputShape(xcb_window_t window);
-    QList<QRect> boundingShape(xcb_window_t window);
+    QList<QRect> inputShape(xcb_window_t window) const;
+    QList<QRect> boundingShape(xcb_window_t window) const;
 
-    QImage picture(const QRect &area);
-    QImage picture() { return picture(QRect({0, 0}, size())); }
-    QPoint pointerPosition();
+    QImage picture(const QRect &area) const;
+    QImage picture() const { return picture(QRect({0, 0}, size())); }
+    QPoint pointerPosition() const;
 
     /// Asks the window manager to place a managed window's inside at `frame`, frame and all as near
     /// as it does; the window tells afterwards where it really is.
-    void moveResize(xcb_window_t window, const QRect &frame);
-    void activate(xcb_window_t window);
+    void moveResize(xcb_window_t window, const QRect &frame) const;
+    void activate(xcb_window_t window) const;
 
 private:
     struct Disconnect {
         void operator()(xcb_connection_t *connection) const { xcb_disconnect(connection); }
     };
-    QList<QRect> shape(xcb_window_t window, uint8_t kind);
-    void collect(xcb_window_t window, int depth, QList<WindowFacts> &found);
-    void sendToRoot(xcb_window_t window, const QByteArray &type, std::array<uint32_t, 5> data);
+    QList<QRect> shape(xcb_window_t window, uint8_t kind) const;
+    void collect(xcb_window_t window, int depth, QList<WindowFacts> &found) const;
+    void sendToRoot(xcb_window_t window, const QByteArray &type,
+                    std::array<uint32_t, 5> data) const;
 
     std::unique_ptr<xcb_connection_t, Disconnect> connection_;
     xcb_window_t root_ = noWindow;

@@ -30,14 +30,15 @@ XdndPeer::XdndPeer(XDesktop &desktop, const QRect &frame)
     , frame_(frame)
 {
     // No window manager has a say: the window is where the test wants it, and takes no focus.
-    const uint32_t values[] = {0x446688, 1,
-                               XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE
-                                   | XCB_EVENT_MASK_PROPERTY_CHANGE};
+    const std::array<uint32_t, 3> values{0x446688, 1,
+                                         XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE
+                                             | XCB_EVENT_MASK_PROPERTY_CHANGE};
     xcb_create_window(connection(), XCB_COPY_FROM_PARENT, window_, connection_->root(),
                       static_cast<int16_t>(frame.x()), static_cast<int16_t>(frame.y()),
                       static_cast<uint16_t>(frame.width()), static_cast<uint16_t>(frame.height()),
                       0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                      XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK, values);
+                      XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK,
+                      values.data());
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window_, atom("XdndAware"),
                         XCB_ATOM_ATOM, 32, 1, &protocolVersion);
     xcb_map_window(connection(), window_);
