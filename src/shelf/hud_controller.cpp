@@ -174,7 +174,10 @@ void HUDController::resizeWindow(const QRectF &target)
         return;
     }
     // Large enough for where the body is and for where it goes, until it has gone there.
-    m_panel.setFrame(unionOf(m_panel.frame(), target));
+    const QRectF room = unionOf(m_panel.frame(), target);
+    m_panel.setFrame(room);
+    if (room == target)
+        return;
     const std::weak_ptr<bool> alive = m_alive;
     m_context.view.queue.asyncAfter(
         Theme::Motion::settlingDuration(), [this, alive, target, g = m_shrinkGeneration] {

@@ -42,45 +42,55 @@ MovingValue::MovingValue(Motion motion, Components from, Components velocity, Co
             = springDuration(std::get<SpringMotion>(m_motion).spring, m_from, m_velocity, m_target);
 }
 
-MovingValue::Sample MovingValue::sample(std::size_t component, double time) const
+/// Calls `use` with value and velocity of each component in turn. What depends on the time alone is
+/// found once: a path has many components.
+template<typename Use>
+void MovingValue::sample(double time, Use use) const
 {
-    const double from = m_from[component];
-    const double target = m_target[component];
     const double elapsed = std::max(0.0, time - m_start);
-    if (elapsed >= m_duration)
-        return {target, 0};
+    if (elapsed >= m_duration) {
+        for (const double target : m_target)
+            use(target, 0.0);
+        return;
+    }
 
     if (const auto *motion = std::get_if<SpringMotion>(&m_motion)) {
-        const auto state = motion->spring.after(elapsed, {from - target, m_velocity[component]});
-        return {target + state.distance, state.velocity};
+        const Spring::Course course = motion->spring.after(elapsed);
+        for (std::size_t i = 0; i < m_target.size(); ++i) {
+            const auto state = course.from({m_from[i] - m_target[i], m_velocity[i]});
+            use(m_target[i] + state.distance, state.velocity);
+        }
+        return;
     }
 
     // The curve has a start velocity of its own. What the value had beyond it is added as a bump
     // that is 0 at both ends, has that slope at the start and none at the end: d s (1 - s)^2.
-    const auto &motion = std::get<CurveMotion>(m_motion);
+    const TimingCurve &curve = std::get<CurveMotion>(m_motion).curve;
     const double s = elapsed / m_duration;
-    const double way = target - from;
-    const double extra = m_velocity[component] - way * motion.curve.slope(0) / m_duration;
-    const bool wasMoving = m_velocity[component] != 0;
-    const double bump = wasMoving ? extra * m_duration * s * (1 - s) * (1 - s) : 0;
-    const double bumpVelocity = wasMoving ? extra * (1 - s) * (1 - 3 * s) : 0;
-    return {from + way * motion.curve.progress(s) + bump,
-            way * motion.curve.slope(s) / m_duration + bumpVelocity};
+    const double progress = curve.progress(s);
+    const double slope = curve.slope(s) / m_duration;
+    const double startSlope = curve.slope(0) / m_duration;
+    for (std::size_t i = 0; i < m_target.size(); ++i) {
+        const double way = m_target[i] - m_from[i];
+        const double extra = m_velocity[i] == 0 ? 0 : m_velocity[i] - way * startSlope;
+        use(m_from[i] + way * progress + extra * m_duration * s * (1 - s) * (1 - s),
+            way * slope + extra * (1 - s) * (1 - 3 * s));
+    }
 }
 
 MovingValue::Components MovingValue::valueAt(double time) const
 {
-    Components values(m_target.size());
-    for (std::size_t i = 0; i < values.size(); ++i)
-        values[i] = sample(i, time).value;
+    Components values;
+    values.reserve(m_target.size());
+    sample(time, [&](double value, double) { values.push_back(value); });
     return values;
 }
 
 MovingValue::Components MovingValue::velocityAt(double time) const
 {
-    Components values(m_target.size());
-    for (std::size_t i = 0; i < values.size(); ++i)
-        values[i] = sample(i, time).velocity;
+    Components values;
+    values.reserve(m_target.size());
+    sample(time, [&](double, double velocity) { values.push_back(velocity); });
     return values;
 }
 

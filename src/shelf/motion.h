@@ -42,11 +42,8 @@ public:
     bool isOverAt(double time) const;
 
 private:
-    struct Sample {
-        double value;
-        double velocity;
-    };
-    Sample sample(std::size_t component, double time) const;
+    template<typename Use>
+    void sample(double time, Use use) const;
 
     Motion m_motion;
     Components m_from;

@@ -17,11 +17,27 @@ struct Spring {
         double velocity = 0;
     };
 
-    /// Where a spring that starts in `from` is `seconds` later: the solution of
-    /// mass x'' + damping x' + stiffness x = 0, for every damping.
-    State after(double seconds, State from) const;
+    /// What `seconds` make of any start, as a sum of what they make of its two parts.
+    struct Course {
+        /// Where a start at distance 1 and rest gets to, and one at distance 0 with velocity 1.
+        State ofDistance;
+        State ofVelocity;
 
-    /// The first time after which a spring let go at distance 1 stays settled.
+        State from(State start) const
+        {
+            return {start.distance * ofDistance.distance + start.velocity * ofVelocity.distance,
+                    start.distance * ofDistance.velocity + start.velocity * ofVelocity.velocity};
+        }
+    };
+
+    /// The solution of mass x'' + damping x' + stiffness x = 0, for every damping. Many values that
+    /// move together share it.
+    Course after(double seconds) const;
+    /// Where a spring that starts in `from` is `seconds` later.
+    State after(double seconds, State from) const { return after(seconds).from(from); }
+
+    /// The first time after which a spring let go at distance 1 stays settled. Costs nothing when
+    /// the same spring is asked again.
     double settlingDuration() const;
 
     friend bool operator==(const Spring &, const Spring &) = default;
