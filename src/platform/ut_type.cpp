@@ -1,45 +1,22 @@
 #include "platform/ut_type.h"
 
-#include <QHash>
 #include <QMimeDatabase>
 #include <QMimeType>
-#include <QMutex>
 #include <QStringList>
 
+#include <map>
 #include <utility>
 
 namespace corvane {
 
 namespace {
 
-/// A drop of many files has few extensions, and a look-up costs more than a file's `stat`.
-class ExtensionCache {
-public:
-    QString identifier(const QString &extension)
-    {
-        const QMutexLocker lock(&m_mutex);
-        const auto found = m_identifiers.constFind(extension);
-        if (found != m_identifiers.constEnd())
-            return *found;
-        // Extensions are a stranger's text: ten thousand different ones are not kept.
-        if (m_identifiers.size() >= maximumSize)
-            m_identifiers.clear();
-        return *m_identifiers.insert(extension, lookUp(extension));
-    }
-
-private:
-    static constexpr qsizetype maximumSize = 512;
-
-    static QString lookUp(const QString &extension)
-    {
-        const QString name = QStringLiteral("x.") + extension;
-        const QMimeType type = QMimeDatabase().mimeTypeForFile(name, QMimeDatabase::MatchExtension);
-        return type.isDefault() ? QString() : type.name();
-    }
-
-    QMutex m_mutex;
-    QHash<QString, QString> m_identifiers;
-};
+QString lookUp(const QString &extension)
+{
+    const QString name = QStringLiteral("x.") + extension;
+    const QMimeType type = QMimeDatabase().mimeTypeForFile(name, QMimeDatabase::MatchExtension);
+    return type.isDefault() ? QString() : type.name();
+}
 
 const QString tiffIdentifier = QStringLiteral("image/tiff");
 
@@ -52,17 +29,20 @@ UTType::UTType(QString identifier)
 
 UTType UTType::forFilenameExtension(const QString &extension)
 {
-    static ExtensionCache cache;
-    // Most drops are of one kind, and then even the cache is worth going past.
-    thread_local QString lastExtension;
-    thread_local QString lastIdentifier;
     if (extension.isEmpty() || extension.contains(QLatin1Char('/')))
         return {};
-    if (extension != lastExtension) {
-        lastIdentifier = cache.identifier(extension);
-        lastExtension = extension;
+    // A drop of many files has few extensions, and a look-up costs more than a file's `stat`. Of so
+    // few a map finds one faster than a hash, and without a lock.
+    thread_local std::map<QString, UTType> known;
+    auto found = known.find(extension);
+    if (found == known.end()) {
+        // Extensions are a stranger's text: ten thousand different ones are not kept.
+        constexpr std::size_t maximumSize = 512;
+        if (known.size() >= maximumSize)
+            known.clear();
+        found = known.emplace(extension, UTType(lookUp(extension))).first;
     }
-    return UTType(lastIdentifier);
+    return found->second;
 }
 
 UTType UTType::png()

@@ -25,19 +25,46 @@ int hexDigit(char byte)
 /// A percent sign that begins no code stands for itself.
 QByteArray percentDecoded(QByteArrayView text)
 {
-    QByteArray bytes;
-    bytes.reserve(text.size());
+    if (!text.contains('%'))
+        return text.toByteArray();
+    QByteArray bytes(text.size(), Qt::Uninitialized);
+    char *end = bytes.data();
     for (qsizetype i = 0; i < text.size(); ++i) {
         const bool isCode = text[i] == '%' && i + 2 < text.size() && hexDigit(text[i + 1]) >= 0
             && hexDigit(text[i + 2]) >= 0;
         if (isCode) {
-            bytes += static_cast<char>(hexDigit(text[i + 1]) * 16 + hexDigit(text[i + 2]));
+            *end++ = static_cast<char>(hexDigit(text[i + 1]) * 16 + hexDigit(text[i + 2]));
             i += 2;
         } else {
-            bytes += text[i];
+            *end++ = text[i];
         }
     }
+    bytes.truncate(end - bytes.constData());
     return bytes;
+}
+
+/// Whether every byte is a character that means only itself, or a code in capitals: nearly all that
+/// programs send, and as we would write it.
+bool isWellEncoded(QByteArrayView path)
+{
+    for (qsizetype i = 0; i < path.size(); ++i) {
+        const char byte = path[i];
+        if (byte != '%') {
+            const bool isPlain = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z')
+                || (byte >= '-' && byte <= '9') || byte == '_' || byte == '~';
+            if (!isPlain)
+                return false;
+            continue;
+        }
+        const auto isCapitalDigit = [&](qsizetype at) {
+            return at < path.size() && hexDigit(path[at]) >= 0 && path[at] < 'a';
+        };
+        const bool endsTheText = path.sliced(i).startsWith("%00");
+        if (!isCapitalDigit(i + 1) || !isCapitalDigit(i + 2) || endsTheText)
+            return false;
+        i += 2;
+    }
+    return true;
 }
 
 /// What follows "file:". A raw '#' or '?' can only belong to the name: no file has a fragment.
@@ -49,6 +76,8 @@ QUrl fileUrl(QByteArrayView rest)
     }
     if (!rest.startsWith('/'))
         return {};
+    if (isWellEncoded(rest))
+        return QUrl::fromEncoded("file://" + rest.toByteArray(), QUrl::TolerantMode);
     const QByteArray path = percentDecoded(rest);
     return path.contains('\0') ? QUrl() : file_url::fromNativePath(path);
 }
