@@ -82,11 +82,27 @@ QByteArray uriList(const std::vector<QByteArray> &paths)
     return list;
 }
 
+/// A list of addresses as a drop offers it: bytes, which nobody has read yet.
+class OfferedList : public QMimeData {
+public:
+    explicit OfferedList(const QByteArray &list)
+        : m_list(list)
+    {
+    }
+    bool hasFormat(const QString &type) const override { return formats().contains(type); }
+    QStringList formats() const override { return {QStringLiteral("text/uri-list")}; }
+
+protected:
+    QVariant retrieveData(const QString &, QMetaType) const override { return m_list; }
+
+private:
+    QByteArray m_list;
+};
+
 /// From the drop's data to the answer that the source waits for.
 double drop(CompositionRoot &root, const QByteArray &list)
 {
-    QMimeData data;
-    data.setData(QStringLiteral("text/uri-list"), list);
+    const OfferedList data(list);
     const double start = threadTime();
     QtPasteboard pasteboard(&data);
     root.store.accept(root.ingest.readAll(pasteboard));
