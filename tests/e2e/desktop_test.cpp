@@ -6,6 +6,7 @@
 #include <QUrl>
 
 #include <array>
+#include <filesystem>
 #include <iostream>
 
 namespace corvane::e2e {
@@ -97,7 +98,8 @@ void DesktopTest::TearDown()
     if (HasFailure() && corvane_)
         std::cout << corvane_->program().output().toStdString();
     corvane_.reset();
-    QDir(files_).removeRecursively();
+    // The toolkit does not find files whose names are no text.
+    std::filesystem::remove_all(files_.toStdString());
 }
 
 void DesktopTest::start(const CorvaneProgram::Start &how)

@@ -20,7 +20,7 @@ public:
     QPoint picture() const { return page_.topLeft() + QPoint(100, 200); }
 
 private:
-    QStringList command(Kind kind, const QString &page) const;
+    QStringList command(Kind kind, const QString &url) const;
 
     /// The address under which the folder's files can be fetched; empty where that fails.
     QString serve(const QString &folder);

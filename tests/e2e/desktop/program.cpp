@@ -51,7 +51,7 @@ bool Program::isRunning()
     return process_.state() != QProcess::NotRunning;
 }
 
-void Program::signal(int number)
+void Program::signal(int number) const
 {
     if (pid_ != 0)
         kill(static_cast<pid_t>(pid_), number);

@@ -23,7 +23,7 @@ public:
     bool isRunning();
 
     /// Sends a signal to the program alone.
-    void signal(int number);
+    void signal(int number) const;
     /// The exit status, 128 + the signal's number, or none if it does not end in time.
     std::optional<int> waitForEnd(std::chrono::milliseconds limit = std::chrono::seconds{10});
     /// What it has printed up to now, errors included.

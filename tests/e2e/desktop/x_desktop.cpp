@@ -179,7 +179,7 @@ void XDesktop::endServer()
     }
 }
 
-void XDesktop::removeTemporaryFiles()
+void XDesktop::removeTemporaryFiles() const
 {
     QDir(path(u"tmp"_s)).removeRecursively();
     QDir().mkpath(path(u"tmp"_s));

@@ -53,7 +53,7 @@ public:
     /// A server that is asked to go away takes its programs with it, as a logout does.
     void endServer();
 
-    void removeTemporaryFiles();
+    void removeTemporaryFiles() const;
 
 private:
     void startServer();
