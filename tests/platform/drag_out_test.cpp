@@ -1,6 +1,10 @@
 #include "platform/drop_target.h"
 #include "platform/panel_fixture.h"
+#include "platform/panel_scene.h"
+#include "platform/scene.h"
 #include "platform/x11/x11_drag_desktop.h"
+
+#include <QCryptographicHash>
 
 #include <algorithm>
 
@@ -24,7 +28,7 @@ protected:
         image.fill(Qt::yellow);
         return {{{{PasteboardWriter::File{QUrl(QStringLiteral("file:///tmp/a%FF.txt"))}},
                   {PasteboardWriter::Data{bytes, UTType::png()}}},
-                 QStringLiteral("täxt")},
+                 text},
                 {image, {16, 16}},
                 {8, 8}};
     }
@@ -47,6 +51,7 @@ protected:
     }
 
     QByteArray bytes = "picture";
+    QString text = QStringLiteral("täxt");
     std::vector<DragOperation> results;
 };
 
@@ -109,6 +114,31 @@ TEST_F(DragOutTest, whatIsTooLargeForOneRequestArrivesAfterTheDrag)
     // Not compared by the macro, which would print both.
     EXPECT_TRUE(target.received("image/png") == bytes);
     EXPECT_TRUE(target.received("text/uri-list"));
+}
+
+TEST_F(DragOutTest, aTextOf200MegabytesReachesAnotherPanelInBoundedMemory)
+{
+    show();
+    constexpr qsizetype size = 200'000'000;
+    const QByteArray sent = numberedBytes(size);
+    text = QString::fromUtf8(sent);
+    Scene other("panel");
+    ASSERT_TRUE(other.waitFor("\n"));
+    const auto window = other.output.mid(6).trimmed().toUInt();
+    e2e::XServer server(qgetenv("DISPLAY"));
+    // The second time it moves, its first answer has come.
+    dragTo(panelSceneFrame.topLeft() + panelSceneBody.center(),
+           [&] { return server.property(window, "WM_NAME").toInt() > 1; });
+    EXPECT_EQ(results, std::vector{DragOperation::Copy});
+    ASSERT_TRUE(other.serveUntil("text"));
+    const QList<QByteArray> facts
+        = other.output.sliced(other.output.indexOf("text")).trimmed().split(' ');
+    ASSERT_EQ(facts.size(), 4) << other.output.constData();
+    EXPECT_EQ(facts[1].toLongLong(), size);
+    EXPECT_EQ(facts[2], QCryptographicHash::hash(sent, QCryptographicHash::Sha1).toHex());
+#ifndef __SANITIZE_ADDRESS__
+    EXPECT_LE(facts[3].toLongLong() * 1024, 5 * size);
+#endif
 }
 
 TEST_F(DragOutTest, itsOwnDragIsKnownAsSuchAndChangesNoCount)

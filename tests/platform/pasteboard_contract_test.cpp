@@ -1,4 +1,5 @@
 #include "fakes/fake_pasteboard.h"
+#include "platform/display.h"
 #include "platform/file_url.h"
 #include "platform/pasteboard_writer.h"
 #include "platform/qt/mime_encoding.h"
@@ -8,6 +9,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -157,6 +159,27 @@ TEST(QtGeneralPasteboard, replacesTheClipboard)
     const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
     EXPECT_EQ(clipboard->text(), QStringLiteral("text"));
     EXPECT_FALSE(clipboard->hasFormat(png));
+}
+
+TEST(QtPasteboard, aTextThatIsTooLargeIsNoneRatherThanHalf)
+{
+    QMimeData mimeData;
+    mimeData.setData(QStringLiteral("text/plain"),
+                     QByteArray(QtPasteboard::maximumTextBytes + 1, 'x'));
+    EXPECT_FALSE(QtPasteboard(&mimeData).string());
+}
+
+TEST(QtGeneralPasteboard, anotherProgramGetsALargeTextWhole)
+{
+    const QByteArray text = numberedBytes(20'000'000);
+    QtGeneralPasteboard().write({{{PasteboardWriter::Text{QString::fromUtf8(text)}}}, {}});
+    QProcess reader;
+    reader.start(QStringLiteral("xclip"),
+                 {QStringLiteral("-selection"), QStringLiteral("clipboard"), QStringLiteral("-o"),
+                  QStringLiteral("-target"), QStringLiteral("UTF8_STRING")});
+    ASSERT_TRUE(eventually([&] { return reader.state() == QProcess::NotRunning; }));
+    EXPECT_TRUE(reader.readAllStandardOutput() == text);
+    QGuiApplication::clipboard()->clear();
 }
 
 } // namespace corvane::test

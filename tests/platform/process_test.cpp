@@ -4,12 +4,11 @@
 #include "e2e/desktop/x_desktop.h"
 #include "platform/display.h"
 #include "platform/freedesktop/dbus_single_instance.h"
-#include "platform/scenes.h"
+#include "platform/scene.h"
 #include "platform/x11/x11_connection.h"
 
 #include <QDBusConnection>
 #include <QElapsedTimer>
-#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -20,37 +19,6 @@ namespace corvane::test {
 namespace {
 
 const auto applicationId = QStringLiteral("example.corvane.PlatformTest");
-
-/// Runs one of the scenes below in a process of its own, and gives what it printed and how it
-/// ended.
-struct Scene {
-    explicit Scene(const char *name,
-                   QProcessEnvironment environment = QProcessEnvironment::systemEnvironment())
-    {
-        environment.insert(QLatin1String(sceneVariable), QLatin1String(name));
-        process.setProcessEnvironment(environment);
-        process.start(QCoreApplication::applicationFilePath(), QStringList());
-    }
-    ~Scene()
-    {
-        process.kill();
-        process.waitForFinished();
-    }
-    bool waitFor(const char *text)
-    {
-        return eventually([&] {
-            output += process.readAllStandardOutput();
-            return output.contains(text);
-        });
-    }
-    bool waitForEnd()
-    {
-        return eventually([&] { return process.state() == QProcess::NotRunning; });
-    }
-
-    QProcess process;
-    QByteArray output;
-};
 
 } // namespace
 

@@ -54,6 +54,8 @@ public:
     DragOperation draggingUpdated(const DraggingInfo &) override
     {
         ++updates;
+        if (onUpdate)
+            onUpdate();
         return accepts ? DragOperation::Copy : DragOperation::None;
     }
     void draggingExited() override { log << QStringLiteral("drag exited"); }
@@ -81,6 +83,7 @@ public:
     std::vector<KeyEvent> keys;
     std::vector<ScrollEvent> scrolls;
     std::function<void()> onMouseDown;
+    std::function<void()> onUpdate;
     std::function<void()> onFirstDragged;
     std::function<bool(Pasteboard &)> onPerform;
 

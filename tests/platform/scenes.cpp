@@ -1,6 +1,7 @@
 #include "platform/scenes.h"
 
 #include "platform/freedesktop/dbus_single_instance.h"
+#include "platform/panel_scene.h"
 #include "platform/qt/unix_signals.h"
 #include "platform/x11/x11_connection.h"
 
@@ -12,12 +13,6 @@
 namespace corvane::test {
 
 namespace {
-
-void say(const char *text)
-{
-    std::puts(text);
-    std::fflush(stdout);
-}
 
 const char *nameOf(SingleInstance::Outcome outcome)
 {
@@ -67,6 +62,12 @@ int serverLoss()
 
 } // namespace
 
+void say(const QByteArray &text)
+{
+    std::puts(text.constData());
+    std::fflush(stdout);
+}
+
 QString sceneApplicationId()
 {
     return QStringLiteral("example.corvane.PlatformTest");
@@ -82,6 +83,8 @@ int playScene(const QByteArray &name)
         return signals();
     if (name == "stuckAfterSignal")
         return stuckAfterSignal();
+    if (name == "panel")
+        return playPanel();
     return name == "serverLoss" ? serverLoss() : 1;
 }
 

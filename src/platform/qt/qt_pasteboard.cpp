@@ -4,6 +4,7 @@
 #include "platform/qt/pasteboard_text.h"
 #include "platform/qt/uri_list.h"
 
+#include <QDeadlineTimer>
 #include <QMimeData>
 
 #include <algorithm>
@@ -104,11 +105,17 @@ std::optional<QByteArray> QtPasteboard::dataFor(const UTType &type)
 
 std::optional<QString> QtPasteboard::string()
 {
+    const QDeadlineTimer deadline(textPatience);
     for (const QString &type : textTypes(types())) {
         // Through `data` and not `text`, which turns line ends and character sets over.
-        QString text = pasteboard_text::decoded(fetch(type), type);
+        const QByteArray bytes = fetch(type);
+        if (bytes.size() > maximumTextBytes)
+            return std::nullopt;
+        QString text = pasteboard_text::decoded(bytes, type);
         if (!text.isEmpty())
             return text;
+        if (deadline.hasExpired())
+            return std::nullopt;
     }
     return std::nullopt;
 }

@@ -12,6 +12,12 @@ class DragSupport;
 /// else each time it is asked for. Both must outlive it; without a support nothing is promised.
 class QtPasteboard : public Pasteboard {
 public:
+    /// A larger text counts as none, so that its source keeps it: half of it would be a loss.
+    static constexpr qsizetype maximumTextBytes = 256LL * 1024 * 1024;
+    /// How long a source may let us wait, in milliseconds, before its text is not asked for under
+    /// yet another name.
+    static constexpr int textPatience = 2'000;
+
     explicit QtPasteboard(const QMimeData *mimeData, DragSupport *support = nullptr);
 
     QStringList types() const override;

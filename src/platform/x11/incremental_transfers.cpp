@@ -7,11 +7,24 @@
 
 namespace corvane {
 
+namespace {
+
+qsizetype pieceThatFits(xcb_connection_t *connection)
+{
+    // Told in units of four bytes, the request's head included.
+    constexpr qsizetype head = 64;
+    const qsizetype longest = qsizetype{xcb_get_maximum_request_length(connection)} * 4 - head;
+    return std::clamp(longest, IncrementalTransfers::wholeBytes, IncrementalTransfers::pieceBytes);
+}
+
+} // namespace
+
 IncrementalTransfers::IncrementalTransfers(X11Connection &connection, MainQueue &queue)
     : m_connection(connection)
     , m_queue(queue)
     , m_listener(
           connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
+    , m_pieceBytes(pieceThatFits(connection.get()))
 {
 }
 
@@ -80,7 +93,7 @@ void IncrementalTransfers::handlePropertyRemoved(xcb_window_t reader, xcb_atom_t
 
 bool IncrementalTransfers::sendPiece(Transfer &transfer)
 {
-    const qsizetype size = std::min(pieceBytes, transfer.bytes.size() - transfer.sent);
+    const qsizetype size = std::min(m_pieceBytes, transfer.bytes.size() - transfer.sent);
     xcb_change_property(m_connection.get(), XCB_PROP_MODE_REPLACE, transfer.reader,
                         transfer.property, transfer.type, 8, static_cast<std::uint32_t>(size),
                         transfer.bytes.constData() + transfer.sent);

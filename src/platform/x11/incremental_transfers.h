@@ -22,9 +22,11 @@ namespace corvane {
 /// while a transfer does. The connection and the queue must outlive it.
 class IncrementalTransfers {
 public:
-    /// What one request carries on every server, and a size at which a piece costs little more than
-    /// its bytes. Whatever is larger should come here.
-    static constexpr qsizetype pieceBytes = 192 * 1024;
+    /// What one request carries on every server. Whatever is larger should come here.
+    static constexpr qsizetype wholeBytes = 192LL * 1024;
+    /// Larger than that where the server lets us: some readers copy all that they have at each
+    /// piece, and give up after a few seconds in all.
+    static constexpr qsizetype pieceBytes = 1024LL * 1024;
     static constexpr std::size_t maximumTransfers = 32;
     /// Seconds without a piece being taken after which a reader counts as gone.
     static constexpr double patience = 30;
@@ -61,6 +63,7 @@ private:
     X11Connection &m_connection;
     MainQueue &m_queue;
     X11Connection::ListenerId m_listener;
+    qsizetype m_pieceBytes;
     std::list<Transfer> m_transfers;
     std::unique_ptr<MainQueue::Timer> m_patienceTimer;
 };

@@ -156,7 +156,7 @@ bool X11DragSupport::writeAnswer(const xcb_selection_request_event_t &request, x
     const auto found = m_contents.constFind(request.target);
     if (found == m_contents.cend())
         return false;
-    if (found->size() > IncrementalTransfers::pieceBytes)
+    if (found->size() > IncrementalTransfers::wholeBytes)
         return m_transfers.begin(request.requestor, property, request.target, *found);
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, request.requestor, property,
                         request.target, 8, static_cast<std::uint32_t>(found->size()),

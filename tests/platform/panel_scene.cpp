@@ -1,0 +1,73 @@
+#include "platform/panel_scene.h"
+
+#include "platform/pasteboard.h"
+#include "platform/qt/qt_geometry.h"
+#include "platform/qt/qt_main_queue.h"
+#include "platform/qt/qt_panel_window.h"
+#include "platform/recording_content.h"
+#include "platform/scenes.h"
+#include "platform/x11/x11_connection.h"
+#include "platform/x11/x11_drag_support.h"
+#include "platform/x11/x11_panel_surface.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QFile>
+
+namespace corvane::test {
+
+namespace {
+
+/// The most memory that this process ever had, in KiB.
+qint64 peakMemory()
+{
+    QFile status(QStringLiteral("/proc/self/status"));
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    for (const QByteArray &line : status.readAll().split('\n')) {
+        if (line.startsWith("VmHWM:"))
+            return line.mid(6).chopped(2).trimmed().toLongLong();
+    }
+    return 0;
+}
+
+bool readText(Pasteboard &pasteboard)
+{
+    const qint64 before = peakMemory();
+    const auto text = pasteboard.string();
+    const qint64 grown = peakMemory() - before;
+    if (!text) {
+        say("no text");
+        return false;
+    }
+    const QByteArray bytes = text->toUtf8();
+    const QByteArray hash = QCryptographicHash::hash(bytes, QCryptographicHash::Sha1).toHex();
+    say("text " + QByteArray::number(bytes.size()) + ' ' + hash + ' ' + QByteArray::number(grown));
+    return true;
+}
+
+} // namespace
+
+int playPanel()
+{
+    QtMainQueue queue;
+    X11Connection connection;
+    X11PanelSurface surface(connection);
+    X11DragSupport support(connection, queue);
+    RecordingContent content;
+    content.onPerform = readText;
+    QtPanelWindow panel(surface, queue, &support);
+    panel.setContent(&content);
+    panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame)));
+    const QRectF body
+        = qt_geometry::flipped(QRectF(panelSceneBody), double{panelSceneFrame.height()});
+    QPainterPath outline;
+    outline.addRect(body);
+    panel.setBody(body, outline);
+    content.onUpdate = [&] { panel.window().setTitle(QString::number(content.updates)); };
+    panel.orderFrontRegardless();
+    say("panel " + QByteArray::number(panel.window().winId()));
+    return QCoreApplication::exec();
+}
+
+} // namespace corvane::test
