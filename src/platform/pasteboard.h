@@ -24,7 +24,8 @@ public:
 
     /// Every address on it in order, files and others alike, without those that do not parse.
     virtual QList<QUrl> urls() = 0;
-    /// The file addresses among them.
+    /// The file addresses among them, and those of mounted remote places as the files they are
+    /// here.
     virtual QList<QUrl> fileUrls() = 0;
     /// None when the type is not offered or nothing came.
     virtual std::optional<QByteArray> dataFor(const UTType &type) = 0;

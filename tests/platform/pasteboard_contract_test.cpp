@@ -7,6 +7,8 @@
 #include "platform/qt/qt_pasteboard.h"
 
 #include <QClipboard>
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QProcess>
@@ -159,6 +161,25 @@ TEST(QtGeneralPasteboard, replacesTheClipboard)
     const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
     EXPECT_EQ(clipboard->text(), QStringLiteral("text"));
     EXPECT_FALSE(clipboard->hasFormat(png));
+}
+
+TEST(QtPasteboard, givesTheFilesOfMountedRemotePlaces)
+{
+    const QString folder = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/gvfs");
+    ASSERT_TRUE(QDir().mkpath(folder + QStringLiteral("/sftp:host=example.org,user=me")));
+    QMimeData mimeData;
+    mimeData.setData(QStringLiteral("text/uri-list"),
+                     "sftp://me@example.org/a%20b\r\n"
+                     "sftp://me@elsewhere.org/c\r\n"
+                     "file:///d\r\n");
+    QtPasteboard pasteboard(&mimeData);
+    const QList<QUrl> files = pasteboard.fileUrls();
+    ASSERT_EQ(files.size(), 2);
+    EXPECT_EQ(file_url::nativePath(files[0]),
+              QFile::encodeName(folder) + "/sftp:host=example.org,user=me/a b");
+    EXPECT_EQ(file_url::nativePath(files[1]), "/d");
+    EXPECT_EQ(pasteboard.urls().size(), 3);
+    QDir(folder).removeRecursively();
 }
 
 TEST(QtPasteboard, aTextThatIsTooLargeIsNoneRatherThanHalf)

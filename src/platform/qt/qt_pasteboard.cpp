@@ -2,6 +2,7 @@
 
 #include "platform/drag_support.h"
 #include "platform/qt/pasteboard_text.h"
+#include "platform/qt/remote_mounts.h"
 #include "platform/qt/uri_list.h"
 
 #include <QDeadlineTimer>
@@ -90,8 +91,18 @@ QList<QUrl> QtPasteboard::urls()
 
 QList<QUrl> QtPasteboard::fileUrls()
 {
-    QList<QUrl> files = urls();
-    files.removeIf([](const QUrl &url) { return !url.isLocalFile(); });
+    QList<QUrl> files;
+    std::optional<RemoteMounts> mounts;
+    for (const QUrl &url : urls()) {
+        if (url.isLocalFile()) {
+            files.append(url);
+        } else if (RemoteMounts::mayHold(url)) {
+            if (!mounts)
+                mounts = RemoteMounts::ofSession();
+            if (const auto file = mounts->localFile(url))
+                files.append(*file);
+        }
+    }
     return files;
 }
 
