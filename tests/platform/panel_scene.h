@@ -7,7 +7,7 @@ namespace corvane::test {
 /// Where the scene's panel stands and which part of it takes clicks, from the panel's top left; in
 /// points and Qt's coordinates.
 inline constexpr QRect panelSceneFrame{100, 100, 301, 101};
-inline constexpr QRect panelSceneBody{51, 0, 201, 61};
+inline constexpr QRect panelSceneBody{50, 0, 200, 60};
 
 /// Shows a panel until it is ended, and prints its window's id. How often a drag has moved over it
 /// is its title. What is dropped on it is read as

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace corvane::test {
 
 namespace {
@@ -17,11 +19,23 @@ namespace {
 struct FakeDisplays {
     FakeScreens screens;
     std::shared_ptr<Screen> attached = screens.attach(QRectF(0, 0, 1512, 982));
+    std::shared_ptr<Screen> second;
 
     void resize(int width, int height)
     {
         attached->frame = {0, 0, double(width), double(height)};
         screens.notifyChanges();
+    }
+    void split()
+    {
+        attached->frame = {0, 0, 700, 982};
+        second = screens.attach(QRectF(700, 0, 812, 982));
+        screens.notifyChanges();
+    }
+    void unite()
+    {
+        screens.detach(second);
+        resize(1512, 982);
     }
     bool until(const std::function<bool()> &condition) { return condition(); }
 };
@@ -29,13 +43,44 @@ struct FakeDisplays {
 struct RealDisplays {
     QtMainQueue queue;
     QtScreens screens{queue};
+    bool isNamed = false;
+    bool isSplit = false;
 
-    ~RealDisplays() { resize(1512, 982); }
+    ~RealDisplays()
+    {
+        unite();
+        eventually([&] {
+            return screens.screens().size() == 1
+                && screens.mainScreen()->frame.size() == QSizeF(1512, 982);
+        });
+    }
+    static void xrandr(const QByteArray &arguments)
+    {
+        QProcess tool;
+        tool.start(QStringLiteral("xrandr"),
+                   QString::fromLatin1(arguments).split(QLatin1Char(' ')));
+        EXPECT_TRUE(tool.waitForFinished() && tool.exitCode() == 0);
+    }
+    /// The server's screen keeps its size; what the desktop takes for it is replaced.
     void resize(int width, int height)
     {
-        const auto size = QStringLiteral("%1x%2").arg(width).arg(height);
-        QProcess::execute(QStringLiteral("xrandr"), {QStringLiteral("--fb"), size});
-        eventually([&] { return screens.mainScreen()->frame.size() == QSizeF(width, height); });
+        isNamed = true;
+        xrandr("--setmonitor left " + QByteArray::number(width) + "/300x"
+               + QByteArray::number(height) + "/200+0+0 screen");
+    }
+    /// Cuts the server's one screen into two monitors.
+    void split()
+    {
+        isNamed = isSplit = true;
+        xrandr("--setmonitor left 700/200x982/260+0+0 screen");
+        xrandr("--setmonitor right 812/200x982/260+700+0 none");
+    }
+    void unite()
+    {
+        if (std::exchange(isSplit, false))
+            xrandr("--delmonitor right");
+        if (std::exchange(isNamed, false))
+            xrandr("--delmonitor left");
     }
     bool until(const std::function<bool()> &condition) { return eventually(condition); }
 };
@@ -67,6 +112,34 @@ TYPED_TEST(ScreensContract, aScreenIsTheSameObjectEachTime)
 {
     EXPECT_EQ(this->screens.screens().front(), this->screens.screens().front());
     EXPECT_EQ(this->screens.mainScreen(), this->screens.mainScreen());
+}
+
+TYPED_TEST(ScreensContract, aScreenThatComesIsThereAndGoesAgain)
+{
+    const QRectF left(0, 0, 700, 982);
+    const QRectF right(700, 0, 812, 982);
+    this->displays.split();
+    ASSERT_TRUE(this->displays.until([&] {
+        const auto screens = this->screens.screens();
+        return screens.size() == 2 && screens[0]->frame == left && screens[1]->frame == right;
+    }));
+    this->displays.unite();
+    EXPECT_TRUE(this->displays.until([&] {
+        const auto screens = this->screens.screens();
+        return screens.size() == 1 && screens[0]->frame == QRectF(0, 0, 1512, 982);
+    }));
+    EXPECT_EQ(this->screens.mainScreen(), this->screens.screens().front());
+}
+
+TYPED_TEST(ScreensContract, aChangeIsToldOnceAndIsThereByThen)
+{
+    std::vector<QSizeF> sizes;
+    this->screens.observeChanges(
+        [&] { sizes.push_back(this->screens.mainScreen()->frame.size()); });
+    this->displays.resize(1200, 800);
+    EXPECT_TRUE(this->displays.until([&] { return !sizes.empty(); }));
+    settle();
+    EXPECT_EQ(sizes, std::vector{QSizeF(1200, 800)});
 }
 
 TEST(QtGeometry, isTurnedOverAndBack)

@@ -1,0 +1,81 @@
+// The panel on desktops that draw everything larger: what Qt counts in points, the server counts in
+// pixels.
+
+#include "platform/panel_scene.h"
+#include "platform/scene.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+struct Desktop {
+    const char *name;
+    double scale;
+    /// Where the scale comes from: a variable of Qt's, or else the desktop's dots per inch.
+    const char *factor;
+};
+
+class PanelScaleTest : public testing::TestWithParam<Desktop> {
+protected:
+    PanelScaleTest()
+    {
+        environment.remove(QStringLiteral("QT_SCALE_FACTOR"));
+        if (GetParam().factor)
+            environment.insert(QStringLiteral("QT_SCALE_FACTOR"), QLatin1String(GetParam().factor));
+        else
+            setResource("Xft.dpi: " + QByteArray::number(qRound(96 * GetParam().scale)));
+    }
+    ~PanelScaleTest() override
+    {
+        if (!GetParam().factor)
+            setResource("");
+    }
+
+    static void setResource(const QByteArray &line)
+    {
+        QProcess xrdb;
+        xrdb.start(QStringLiteral("xrdb"), {QStringLiteral("-load"), QStringLiteral("-nocpp")});
+        xrdb.write(line + '\n');
+        xrdb.closeWriteChannel();
+        EXPECT_TRUE(xrdb.waitForFinished() && xrdb.exitCode() == 0);
+    }
+    /// The pixels that a rectangle in points covers, each edge on the nearest one.
+    static QRect pixels(const QRect &points)
+    {
+        const double scale = GetParam().scale;
+        const int left = qRound(points.x() * scale);
+        const int top = qRound(points.y() * scale);
+        return {left, top, qRound((points.x() + points.width()) * scale) - left,
+                qRound((points.y() + points.height()) * scale) - top};
+    }
+
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    Display display;
+};
+
+} // namespace
+
+TEST_P(PanelScaleTest, standsAndTakesClicksOnExactPixels)
+{
+    Scene scene("panel", environment);
+    ASSERT_TRUE(scene.waitFor("\n"));
+    const auto window = scene.output.mid(6).trimmed().toUInt();
+    ASSERT_TRUE(eventually([&] {
+        const auto facts = display.server.facts(window);
+        return facts && facts->isViewable;
+    }));
+    EXPECT_EQ(display.server.facts(window)->frame, pixels(panelSceneFrame));
+    EXPECT_EQ(display.server.inputShape(window), QList<QRect>{pixels(panelSceneBody)});
+    EXPECT_EQ(display.server.boundingShape(window), QList<QRect>{pixels(panelSceneBody)});
+}
+
+INSTANTIATE_TEST_SUITE_P(, PanelScaleTest,
+                         testing::Values(Desktop{"One", 1, "1"}, Desktop{"OneAndAHalf", 1.5, "1.5"},
+                                         Desktop{"Two", 2, "2"},
+                                         Desktop{"OneAndAHalfByDotsPerInch", 1.5, nullptr},
+                                         Desktop{"TwoByDotsPerInch", 2, nullptr}),
+                         [](const auto &desktop) { return desktop.param.name; });
+
+} // namespace corvane::test
