@@ -58,7 +58,8 @@ int playPanel()
     content.onPerform = readText;
     QtPanelWindow panel(surface, queue, &support);
     panel.setContent(&content);
-    panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame)));
+    const int moved = qEnvironmentVariableIntValue(panelSceneMove);
+    panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame.translated(moved, 0))));
     const QRectF body
         = qt_geometry::flipped(QRectF(panelSceneBody), double{panelSceneFrame.height()});
     QPainterPath outline;

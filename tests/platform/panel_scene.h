@@ -9,6 +9,9 @@ namespace corvane::test {
 inline constexpr QRect panelSceneFrame{100, 100, 301, 101};
 inline constexpr QRect panelSceneBody{50, 0, 200, 60};
 
+/// The variable that says by how many points the panel is moved to the right.
+constexpr auto panelSceneMove = "CORVANE_TEST_PANEL_MOVE";
+
 /// Shows a panel until it is ended, and prints its window's id. How often a drag has moved over it
 /// is its title. What is dropped on it is read as
 /// text; printed are its length, its hash, and what memory reading it took.
