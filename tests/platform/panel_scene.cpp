@@ -1,5 +1,6 @@
 #include "platform/panel_scene.h"
 
+#include "platform/display.h"
 #include "platform/pasteboard.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/qt/qt_main_queue.h"
@@ -58,8 +59,7 @@ int playPanel()
     content.onPerform = readText;
     QtPanelWindow panel(surface, queue, &support);
     panel.setContent(&content);
-    const int moved = qEnvironmentVariableIntValue(panelSceneMove);
-    panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame.translated(moved, 0))));
+    panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame)));
     const QRectF body
         = qt_geometry::flipped(QRectF(panelSceneBody), double{panelSceneFrame.height()});
     QPainterPath outline;
@@ -67,6 +67,10 @@ int playPanel()
     panel.setBody(body, outline);
     content.onUpdate = [&] { panel.window().setTitle(QString::number(content.updates)); };
     panel.orderFrontRegardless();
+    if (const int moved = qEnvironmentVariableIntValue(panelSceneMove)) {
+        eventually([&] { return panel.window().isExposed(); });
+        panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame.translated(moved, 0))));
+    }
     say("panel " + QByteArray::number(panel.window().winId()));
     return QCoreApplication::exec();
 }

@@ -9,7 +9,7 @@ namespace corvane::test {
 inline constexpr QRect panelSceneFrame{100, 100, 301, 101};
 inline constexpr QRect panelSceneBody{50, 0, 200, 60};
 
-/// The variable that says by how many points the panel is moved to the right.
+/// The variable that says by how many points the panel moves to the right once it is shown.
 constexpr auto panelSceneMove = "CORVANE_TEST_PANEL_MOVE";
 
 /// Shows a panel until it is ended, and prints its window's id. How often a drag has moved over it

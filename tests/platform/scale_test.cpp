@@ -55,6 +55,30 @@ protected:
     Display display;
 };
 
+/// The server's one screen, cut into two that stand side by side.
+struct TwoMonitors {
+    TwoMonitors()
+    {
+        xrandr("--setmonitor left 700/200x982/260+0+0 screen");
+        xrandr("--setmonitor right 812/200x982/260+700+0 none");
+    }
+    ~TwoMonitors()
+    {
+        xrandr("--delmonitor right");
+        xrandr("--delmonitor left");
+    }
+    TwoMonitors(const TwoMonitors &) = delete;
+    TwoMonitors &operator=(const TwoMonitors &) = delete;
+
+    static void xrandr(const char *arguments)
+    {
+        QProcess tool;
+        tool.start(QStringLiteral("xrandr"),
+                   QString::fromLatin1(arguments).split(QLatin1Char(' ')));
+        EXPECT_TRUE(tool.waitForFinished() && tool.exitCode() == 0) << arguments;
+    }
+};
+
 } // namespace
 
 TEST_P(PanelScaleTest, standsAndTakesClicksOnExactPixels)
@@ -78,37 +102,22 @@ INSTANTIATE_TEST_SUITE_P(, PanelScaleTest,
                                          Desktop{"TwoByDotsPerInch", 2, nullptr}),
                          [](const auto &desktop) { return desktop.param.name; });
 
-TEST(PanelOnScreensOfTwoScales, standsAndTakesClicksOnExactPixels)
+TEST(PanelOnScreensOfTwoScales, takesTheScaleOfTheScreenThatItMovesTo)
 {
-    const auto xrandr = [](const char *arguments) {
-        QProcess tool;
-        tool.start(QStringLiteral("xrandr"),
-                   QString::fromLatin1(arguments).split(QLatin1Char(' ')));
-        EXPECT_TRUE(tool.waitForFinished() && tool.exitCode() == 0) << arguments;
-    };
-    xrandr("--setmonitor left 700/200x982/260+0+0 screen");
-    xrandr("--setmonitor right 812/200x982/260+700+0 none");
-    {
-        auto environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("QT_SCREEN_SCALE_FACTORS"),
-                           QStringLiteral("left=1;right=2"));
-        environment.insert(QLatin1String(panelSceneMove), QStringLiteral("650"));
-        Scene scene("panel", environment);
-        ASSERT_TRUE(scene.waitFor("\n"));
-        const auto window = scene.output.mid(6).trimmed().toUInt();
-        Display display;
-        ASSERT_TRUE(eventually([&] {
-            const auto facts = display.server.facts(window);
-            return facts && facts->isViewable;
-        }));
-        // The right screen begins at 700, in points as in pixels.
-        EXPECT_EQ(display.server.facts(window)->frame, QRect(700 + 2 * 50, 2 * 100, 602, 202));
-        const QList<QRect> body{QRect(100, 0, 400, 120)};
-        EXPECT_EQ(display.server.inputShape(window), body);
-        EXPECT_EQ(display.server.boundingShape(window), body);
-    }
-    xrandr("--delmonitor right");
-    xrandr("--delmonitor left");
+    const TwoMonitors monitors;
+    Display display;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_SCREEN_SCALE_FACTORS"), QStringLiteral("left=1;right=2"));
+    environment.insert(QLatin1String(panelSceneMove), QStringLiteral("650"));
+    Scene scene("panel", environment);
+    ASSERT_TRUE(scene.waitFor("\n"));
+    const auto window = scene.output.mid(6).trimmed().toUInt();
+    // The right screen begins at 700, in points as in pixels.
+    const QRect frame(700 + 2 * 50, 2 * 100, 602, 202);
+    EXPECT_TRUE(eventually([&] { return display.server.facts(window)->frame == frame; }));
+    const QList<QRect> body{QRect(100, 0, 400, 120)};
+    EXPECT_TRUE(eventually([&] { return display.server.inputShape(window) == body; }));
+    EXPECT_TRUE(eventually([&] { return display.server.boundingShape(window) == body; }));
 }
 
 } // namespace corvane::test
