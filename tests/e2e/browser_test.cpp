@@ -18,14 +18,14 @@ protected:
         DesktopTest::SetUp();
         if (!Browser::isInstalled(GetParam()))
             GTEST_SKIP() << "this browser is not installed";
-        picture_ = QImage(40, 30, QImage::Format_RGB32);
-        picture_.fill(QColor(200, 30, 90));
-        QBuffer buffer(&png_);
-        picture_.save(&buffer, "png");
+        m_picture = QImage(40, 30, QImage::Format_RGB32);
+        m_picture.fill(QColor(200, 30, 90));
+        QBuffer buffer(&m_png);
+        m_picture.save(&buffer, "png");
     }
 
-    QImage picture_;
-    QByteArray png_;
+    QImage m_picture;
+    QByteArray m_png;
 };
 
 std::string browserName(const testing::TestParamInfo<Browser::Kind> &kind)
@@ -39,7 +39,7 @@ INSTANTIATE_TEST_SUITE_P(, FromBrowser,
 
 TEST_P(FromBrowser, aLinkIsKeptAsItsAddress)
 {
-    Browser browser(desktop_, GetParam(), u"http://corvane.example/a/b"_s, png_,
+    Browser browser(m_desktop, GetParam(), u"http://corvane.example/a/b"_s, m_png,
                     QRect(60, 200, 700, 600));
     ASSERT_EQ(browser.problem(), QString());
     start({{}, "settings.linkPreviews=false\n", {}});
@@ -54,7 +54,7 @@ TEST_P(FromBrowser, aLinkIsKeptAsItsAddress)
 
 TEST_P(FromBrowser, aPictureIsKept)
 {
-    Browser browser(desktop_, GetParam(), u"http://corvane.example/a/b"_s, png_,
+    Browser browser(m_desktop, GetParam(), u"http://corvane.example/a/b"_s, m_png,
                     QRect(60, 200, 700, 600));
     ASSERT_EQ(browser.problem(), QString());
     start();
@@ -67,7 +67,7 @@ TEST_P(FromBrowser, aPictureIsKept)
         ASSERT_EQ(corvane().spooled().size(), 1);
         QFile file(corvane().spool() + u'/' + corvane().spooled().first());
         ASSERT_TRUE(file.open(QFile::ReadOnly));
-        EXPECT_EQ(file.readAll(), png_);
+        EXPECT_EQ(file.readAll(), m_png);
     }
 }
 

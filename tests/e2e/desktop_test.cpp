@@ -27,9 +27,9 @@ XDesktop *current = nullptr;
 class FailurePictures : public testing::EmptyTestEventListener {
     void OnTestStart(const testing::TestInfo &test) override
     {
-        name_ = QString::fromUtf8(test.test_suite_name()) + u'.' + QString::fromUtf8(test.name());
-        name_.replace(u'/', u'-');
-        count_ = 0;
+        m_name = QString::fromUtf8(test.test_suite_name()) + u'.' + QString::fromUtf8(test.name());
+        m_name.replace(u'/', u'-');
+        m_count = 0;
     }
     void OnTestPartResult(const testing::TestPartResult &result) override
     {
@@ -38,10 +38,10 @@ class FailurePictures : public testing::EmptyTestEventListener {
         const QString folder
             = QDir::cleanPath(QCoreApplication::applicationDirPath() + u"/../e2e-failures"_s);
         QDir().mkpath(folder);
-        current->server().picture().save(folder + u'/' + name_ + u"-%1.png"_s.arg(++count_));
+        current->server().picture().save(folder + u'/' + m_name + u"-%1.png"_s.arg(++m_count));
     }
-    QString name_;
-    int count_ = 0;
+    QString m_name;
+    int m_count = 0;
 };
 
 } // namespace
@@ -75,17 +75,17 @@ std::string nameOf(const testing::TestParamInfo<DesktopKind> &kind)
 }
 
 DesktopTest::DesktopTest(DesktopKind kind)
-    : desktop_(desktopOf(kind))
-    , files_(desktop_.path(u"home/files"_s))
+    : m_desktop(desktopOf(kind))
+    , m_files(m_desktop.path(u"home/files"_s))
 {
-    current = &desktop_;
+    current = &m_desktop;
 }
 
 void DesktopTest::SetUp()
 {
-    ASSERT_EQ(desktop_.problem(), QString());
-    QDir().mkpath(files_);
-    desktop_.removeTemporaryFiles();
+    ASSERT_EQ(m_desktop.problem(), QString());
+    QDir().mkpath(m_files);
+    m_desktop.removeTemporaryFiles();
     hands().moveTo(QPoint(server().size().width() - 20, server().size().height() - 20));
 }
 
@@ -95,29 +95,29 @@ void DesktopTest::TearDown()
     for (const uint32_t modifier : {keys::shift, keys::control, keys::alt})
         hands().keyUp(modifier);
     hands().release();
-    if (HasFailure() && corvane_)
-        std::cout << corvane_->program().output().toStdString();
-    corvane_.reset();
+    if (HasFailure() && m_corvane)
+        std::cout << m_corvane->program().output().toStdString();
+    m_corvane.reset();
     // The toolkit does not find files whose names are no text.
-    std::filesystem::remove_all(files_.toStdString());
+    std::filesystem::remove_all(m_files.toStdString());
 }
 
 void DesktopTest::start(const CorvaneProgram::Start &how)
 {
-    corvane_ = std::make_unique<CorvaneProgram>(desktop_, how);
-    ASSERT_TRUE(corvane_->waitUntilReady()) << corvane_->program().output().toStdString();
+    m_corvane = std::make_unique<CorvaneProgram>(m_desktop, how);
+    ASSERT_TRUE(m_corvane->waitUntilReady()) << m_corvane->program().output().toStdString();
 }
 
 QString DesktopTest::makeFolder(const QString &name)
 {
-    QString path = files_ + u'/' + name;
+    QString path = m_files + u'/' + name;
     QDir().mkpath(path);
     return path;
 }
 
 QString DesktopTest::makeFile(const QString &name, const QByteArray &contents)
 {
-    QString path = files_ + u'/' + name;
+    QString path = m_files + u'/' + name;
     QDir().mkpath(QFileInfo(path).path());
     QFile file(path);
     EXPECT_TRUE(file.open(QFile::WriteOnly));
@@ -144,7 +144,7 @@ void DesktopTest::dropOnShelf()
     // that it grew to before.
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
     const auto leftEnd = [this] { return QRect(corvane().body().topLeft(), QSize(70, 56)); };
-    const QImage before = desktop_.pictureAtRest(leftEnd());
+    const QImage before = m_desktop.pictureAtRest(leftEnd());
     hands().glideTo(dropPoint());
     hands().aim(dropPoint());
     ASSERT_TRUE(eventually([&] { return server().picture(leftEnd()) != before; }))
@@ -162,7 +162,7 @@ QByteArray DesktopTest::uriList(const QStringList &paths)
 
 testing::AssertionResult DesktopTest::dropOffers(const QList<XdndSource::Offer> &offers)
 {
-    XdndSource source(desktop_, offers);
+    XdndSource source(m_desktop, offers);
     source.pickUp();
     if (!corvane().waitUntilShown())
         return testing::AssertionFailure() << "the shelf does not open for the drag";
@@ -189,7 +189,7 @@ QByteArray DesktopTest::clipboardText(const QByteArray &expected)
 {
     QByteArray text;
     eventually([&] {
-        text = desktop_.clipboard(u"UTF8_STRING"_s).value_or(QByteArray());
+        text = m_desktop.clipboard(u"UTF8_STRING"_s).value_or(QByteArray());
         return text == expected;
     });
     return text;

@@ -46,13 +46,13 @@ protected:
     void SetUp() override;
     void TearDown() override;
 
-    XServer &server() { return desktop_.server(); }
-    Hands &hands() { return desktop_.hands(); }
+    XServer &server() { return m_desktop.server(); }
+    Hands &hands() { return m_desktop.hands(); }
 
     /// Starts the program under test and waits until it watches the desktop.
     void start(const CorvaneProgram::Start &how = {});
     void startWithInView(int count) { start({count, {}, {}}); }
-    CorvaneProgram &corvane() { return *corvane_; }
+    CorvaneProgram &corvane() { return *m_corvane; }
 
     QString makeFolder(const QString &name);
     QString makeFile(const QString &name, const QByteArray &contents);
@@ -72,11 +72,11 @@ protected:
     /// Presses in the shelf, which gives it the keyboard.
     void focusShelf(QPoint at);
 
-    XDesktop &desktop_;
-    std::unique_ptr<CorvaneProgram> corvane_;
+    XDesktop &m_desktop;
+    std::unique_ptr<CorvaneProgram> m_corvane;
 
 private:
-    QString files_;
+    QString m_files;
 };
 
 /// The same on every kind of desktop.

@@ -24,9 +24,9 @@ TEST_P(VirtualDesktop, carriesAFileFromOneFileManagerWindowToAnother)
 {
     makeFile(u"from/report.txt"_s, "carried\n");
     const QString to = makeFolder(u"to"_s);
-    FileManager left(desktop_, makeFolder(u"from"_s), QRect(60, 300, 560, 400));
+    FileManager left(m_desktop, makeFolder(u"from"_s), QRect(60, 300, 560, 400));
     ASSERT_EQ(left.problem(), QString());
-    FileManager right(desktop_, to, QRect(760, 300, 560, 400));
+    FileManager right(m_desktop, to, QRect(760, 300, 560, 400));
     ASSERT_EQ(right.problem(), QString());
 
     hands().beginDrag(left.firstFile(), right.emptyPlace());
@@ -40,11 +40,11 @@ TEST_P(VirtualDesktop, carriesAFileFromOneFileManagerWindowToAnother)
 
 TEST_P(VirtualDesktop, carriesTextIntoAnEditor)
 {
-    TextEditor editor(desktop_, "some text", QRect(760, 300, 560, 400));
+    TextEditor editor(m_desktop, "some text", QRect(760, 300, 560, 400));
     ASSERT_EQ(editor.problem(), QString());
     EXPECT_EQ(editor.text("some text"), "some text");
 
-    TextEditor other(desktop_, "", QRect(60, 300, 560, 400));
+    TextEditor other(m_desktop, "", QRect(60, 300, 560, 400));
     ASSERT_EQ(other.problem(), QString());
     editor.selectAll();
     hands().beginDrag(editor.firstWord(), other.middle());

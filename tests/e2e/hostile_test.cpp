@@ -19,8 +19,8 @@ protected:
     void startWithOne()
     {
         startWithInView(3);
-        kept_ = makeFile(u"kept.txt"_s, "x");
-        ASSERT_TRUE(dropFiles({kept_}));
+        m_kept = makeFile(u"kept.txt"_s, "x");
+        ASSERT_TRUE(dropFiles({m_kept}));
         ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(3, 1)));
     }
 
@@ -51,14 +51,14 @@ protected:
         return clipboardText(expected);
     }
 
-    QString kept_;
+    QString m_kept;
 };
 
 TEST_F(Hostile, aSourceThatDiesInTheMiddleOfADropLeavesTheShelfAsItWas)
 {
     startWithOne();
     {
-        XdndSource source(desktop_, {{"text/uri-list", "", true}, {"text/plain", "", true}});
+        XdndSource source(m_desktop, {{"text/uri-list", "", true}, {"text/plain", "", true}});
         source.pickUp();
         ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
         source.send(corvane().panel().value_or(WindowFacts{}).id, "XdndEnter",
@@ -76,7 +76,7 @@ TEST_F(Hostile, aSourceThatDiesAfterTheDropLosesOnlyItsOwnData)
 {
     startWithOne();
     {
-        XdndSource source(desktop_, {{"text/plain", "", true}});
+        XdndSource source(m_desktop, {{"text/plain", "", true}});
         ASSERT_TRUE(hover(source));
         source.drop();
         ASSERT_TRUE(source.pumpUntil([&] { return source.asked().contains("text/plain"); }));
@@ -91,7 +91,7 @@ TEST_F(Hostile, aSourceThatNeverAnswersIsToldThatTheDropIsOver)
 {
     startWithOne();
     {
-        XdndSource source(desktop_, {{"text/plain", "", true}});
+        XdndSource source(m_desktop, {{"text/plain", "", true}});
         ASSERT_TRUE(hover(source));
         source.drop();
         EXPECT_TRUE(source.waitForFinish());
@@ -104,7 +104,7 @@ TEST_F(Hostile, aSourceThatNeverAnswersIsToldThatTheDropIsOver)
 TEST_F(Hostile, aSourceThatProposesMovingIsAnsweredWithCopying)
 {
     start();
-    XdndSource source(desktop_, {{"text/plain", "moved?"}}, "XdndActionMove");
+    XdndSource source(m_desktop, {{"text/plain", "moved?"}}, "XdndActionMove");
     source.pickUp();
     ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::empty));
     const auto status = source.hover(corvane().panel().value_or(WindowFacts{}).id, dropPoint());
@@ -121,7 +121,7 @@ TEST_F(Hostile, aSourceThatProposesMovingIsAnsweredWithCopying)
 TEST_F(Hostile, aDragWithNothingForTheShelfIsRefusedAndTheShelfCloses)
 {
     start();
-    XdndSource source(desktop_, {{"application/x-nobody-knows", "x"}});
+    XdndSource source(m_desktop, {{"application/x-nobody-knows", "x"}});
     EXPECT_FALSE(hover(source));
     source.letGo();
     EXPECT_TRUE(corvane().waitUntilHidden());
@@ -130,7 +130,7 @@ TEST_F(Hostile, aDragWithNothingForTheShelfIsRefusedAndTheShelfCloses)
 TEST_F(Hostile, aDropThatYieldsNothingIsFinishedAsRefused)
 {
     startWithOne();
-    XdndSource source(desktop_, {{"text/plain", " \n\t "}});
+    XdndSource source(m_desktop, {{"text/plain", " \n\t "}});
     if (hover(source)) {
         source.drop();
         const auto finish = source.waitForFinish();
@@ -145,7 +145,7 @@ TEST_F(Hostile, aDropThatYieldsNothingIsFinishedAsRefused)
 TEST_F(Hostile, nothingIsFetchedFromAPictureBeforeItIsDropped)
 {
     start();
-    XdndSource source(desktop_, {{"image/png", "not fetched"}, {"text/html", "<img>"}});
+    XdndSource source(m_desktop, {{"image/png", "not fetched"}, {"text/html", "<img>"}});
     ASSERT_TRUE(hover(source));
     ASSERT_TRUE(
         source.hover(corvane().panel().value_or(WindowFacts{}).id, dropPoint() + QPoint(9, 0)));
@@ -189,7 +189,7 @@ TEST_F(Hostile, aNameWhoseBytesAreNoTextIsHandedOnExactly)
     ASSERT_TRUE(dropOffers({{"text/uri-list", address + "\r\n"}}));
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 
-    XdndTarget target(desktop_, QRect(900, 400, 200, 200), true, "text/uri-list");
+    XdndTarget target(m_desktop, QRect(900, 400, 200, 200), true, "text/uri-list");
     hands().beginDrag(corvane().at(38, 22), target.frame().center());
     hands().glideTo(target.frame().center());
     ASSERT_TRUE(target.pumpUntil([&] { return target.isHovered(); }));
@@ -234,7 +234,7 @@ TEST_F(Hostile, aTextOfTwoHundredMegabytesIsKeptWhole)
     start();
     QByteArray text(200'000'000, 'x');
     text.replace(0, 5, "first");
-    XdndSource source(desktop_, {{"text/plain", text}});
+    XdndSource source(m_desktop, {{"text/plain", text}});
     ASSERT_TRUE(hover(source));
     source.drop();
     // Piece by piece through the X server: this takes as long as it takes.
@@ -243,7 +243,7 @@ TEST_F(Hostile, aTextOfTwoHundredMegabytesIsKeptWhole)
         << source.asked().join(' ').toStdString() << ", left to send: " << source.unsent();
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 
-    XdndTarget target(desktop_, QRect(900, 400, 200, 200), true, "text/plain");
+    XdndTarget target(m_desktop, QRect(900, 400, 200, 200), true, "text/plain");
     hands().beginDrag(corvane().at(38, 22), target.frame().center());
     hands().glideTo(target.frame().center());
     ASSERT_TRUE(target.pumpUntil([&] { return target.isHovered(); }));
@@ -288,12 +288,12 @@ TEST_F(Hostile, aFileThatIsGoneIsNotDraggedOutAndTakesNothingElseWithIt)
     EXPECT_EQ(server().selectionOwner("XdndSelection"), noWindow);
     hands().release();
     ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(3, 2)));
-    EXPECT_EQ(copiedCell(2, 0, kept_.toUtf8()), kept_.toUtf8());
+    EXPECT_EQ(copiedCell(2, 0, m_kept.toUtf8()), m_kept.toUtf8());
 }
 
 TEST_F(Hostile, withNoTemporaryFolderPicturesAreKeptInMemory)
 {
-    auto environment = desktop_.environment();
+    auto environment = m_desktop.environment();
     environment.insert(u"TMPDIR"_s, makeFile(u"no-folder"_s, "x") + u"/tmp"_s);
     start({{}, {}, environment});
     const QByteArray png = QByteArray::fromBase64("iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAYAAAAfFcSJAAAA"
@@ -303,7 +303,7 @@ TEST_F(Hostile, withNoTemporaryFolderPicturesAreKeptInMemory)
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
     focusShelf(corvane().at(38, 22));
     hands().key('c', {keys::control});
-    EXPECT_TRUE(eventually([&] { return desktop_.clipboard(u"image/png"_s).has_value(); }));
+    EXPECT_TRUE(eventually([&] { return m_desktop.clipboard(u"image/png"_s).has_value(); }));
 }
 
 } // namespace

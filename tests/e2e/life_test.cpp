@@ -86,13 +86,13 @@ TEST_F(Life, theNextStartClearsUpAfterOneThatWasKilled)
 
 TEST_F(Life, withoutASessionBusItRunsAlone)
 {
-    auto environment = desktop_.environment();
+    auto environment = m_desktop.environment();
     environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nowhere"_s);
-    corvane_
-        = std::make_unique<CorvaneProgram>(desktop_, CorvaneProgram::Start{{}, {}, environment});
+    m_corvane
+        = std::make_unique<CorvaneProgram>(m_desktop, CorvaneProgram::Start{{}, {}, environment});
     // Nobody can be asked whether it is up: it is once a drag opens it.
     ASSERT_TRUE(eventually([&] {
-        XdndSource source(desktop_, {{"text/plain", "x"}});
+        XdndSource source(m_desktop, {{"text/plain", "x"}});
         source.pickUp();
         const bool shown = eventually([&] { return corvane().isShown(); }, std::chrono::seconds{1});
         source.letGo();
@@ -102,7 +102,7 @@ TEST_F(Life, withoutASessionBusItRunsAlone)
 
 TEST_F(Life, withoutADisplayItSaysSoAndEnds)
 {
-    auto environment = desktop_.environment();
+    auto environment = m_desktop.environment();
     environment.insert(u"DISPLAY"_s, u":4000"_s);
     Program program(CorvaneProgram::path(), {}, environment);
     const auto status = program.waitForEnd();

@@ -49,9 +49,9 @@ TEST_P(MainJob, aFileIsKeptAndGoesOnIntoAnotherFolderByteForByte)
     QByteArray contents("\0\1\2 report", 10);
     makeFile(u"from/report.txt"_s, contents);
     const QString to = makeFolder(u"to"_s);
-    FileManager source(desktop_, makeFolder(u"from"_s), leftHalf());
+    FileManager source(m_desktop, makeFolder(u"from"_s), leftHalf());
     ASSERT_EQ(source.problem(), QString());
-    FileManager target(desktop_, to, rightHalf());
+    FileManager target(m_desktop, to, rightHalf());
     ASSERT_EQ(target.problem(), QString());
     start();
 
@@ -72,7 +72,7 @@ TEST_P(MainJob, threeFilesAreKeptInTheirOrder)
     for (const auto &name : {u"from/a.txt"_s, u"from/b.txt"_s, u"from/c.txt"_s})
         makeFile(name, "x");
     const QString folder = makeFolder(u"from"_s);
-    FileManager source(desktop_, folder, leftHalf());
+    FileManager source(m_desktop, folder, leftHalf());
     ASSERT_EQ(source.problem(), QString());
     startWithInView(3);
 
@@ -92,7 +92,7 @@ TEST_P(MainJob, threeFilesAreKeptInTheirOrder)
 TEST_P(MainJob, aFolderIsKept)
 {
     const QString folder = makeFolder(u"from/pictures"_s);
-    FileManager source(desktop_, makeFolder(u"from"_s), leftHalf());
+    FileManager source(m_desktop, makeFolder(u"from"_s), leftHalf());
     ASSERT_EQ(source.problem(), QString());
     start();
 
@@ -109,7 +109,7 @@ TEST_P(MainJob, aTiffPictureBecomesAPngThatEndsWithTheProgram)
     picture.fill(Qt::darkCyan);
     const QString folder = makeFolder(u"from"_s);
     ASSERT_TRUE(picture.save(folder + u"/scan.tiff"_s, "tiff"));
-    FileManager source(desktop_, folder, leftHalf());
+    FileManager source(m_desktop, folder, leftHalf());
     ASSERT_EQ(source.problem(), QString());
     start();
 
@@ -126,9 +126,9 @@ TEST_P(MainJob, aTiffPictureBecomesAPngThatEndsWithTheProgram)
 
 TEST_P(MainJob, textComesFromOneEditorAndGoesIntoAnother)
 {
-    TextEditor source(desktop_, "keep this", leftHalf());
+    TextEditor source(m_desktop, "keep this", leftHalf());
     ASSERT_EQ(source.problem(), QString());
-    TextEditor target(desktop_, "", rightHalf());
+    TextEditor target(m_desktop, "", rightHalf());
     ASSERT_EQ(target.problem(), QString());
     start();
 
@@ -146,7 +146,7 @@ TEST_P(MainJob, textComesFromOneEditorAndGoesIntoAnother)
 TEST_P(MainJob, whatIsDraggedOutIsOfferedForCopyingAndLinkingOnly)
 {
     const QString file = makeFile(u"one file.txt"_s, "x");
-    XdndTarget target(desktop_, QRect(900, 400, 200, 200), true, "text/uri-list");
+    XdndTarget target(m_desktop, QRect(900, 400, 200, 200), true, "text/uri-list");
     start();
     ASSERT_TRUE(dropFiles({file}));
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
@@ -165,7 +165,7 @@ TEST_P(MainJob, whatIsDraggedOutIsOfferedForCopyingAndLinkingOnly)
 
 TEST_P(MainJob, shiftAtTheEndOfADragOutKeepsTheItem)
 {
-    XdndTarget target(desktop_, QRect(900, 400, 200, 200), true, "text/uri-list");
+    XdndTarget target(m_desktop, QRect(900, 400, 200, 200), true, "text/uri-list");
     start();
     ASSERT_TRUE(dropFiles({makeFile(u"one.txt"_s, "x")}));
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
@@ -182,7 +182,7 @@ TEST_P(MainJob, shiftAtTheEndOfADragOutKeepsTheItem)
     EXPECT_TRUE(corvane().waitForSize(before));
     hands().keyUp(keys::shift);
 
-    XdndTarget second(desktop_, QRect(300, 400, 200, 200), true, "text/uri-list");
+    XdndTarget second(m_desktop, QRect(300, 400, 200, 200), true, "text/uri-list");
     dragOutTo(second.frame().center());
     ASSERT_TRUE(second.pumpUntil([&] { return second.isHovered(); }));
     hands().aim(second.frame().center());
@@ -194,7 +194,7 @@ TEST_P(MainJob, shiftAtTheEndOfADragOutKeepsTheItem)
 
 TEST_P(MainJob, escapeDuringADragOutKeepsTheItem)
 {
-    XdndTarget target(desktop_, QRect(900, 400, 200, 200), true, "text/uri-list");
+    XdndTarget target(m_desktop, QRect(900, 400, 200, 200), true, "text/uri-list");
     start();
     ASSERT_TRUE(dropFiles({makeFile(u"one.txt"_s, "x")}));
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
@@ -213,7 +213,7 @@ TEST_P(MainJob, escapeDuringADragOutKeepsTheItem)
 
 TEST_P(MainJob, aTargetThatRefusesLeavesTheItemOnTheShelf)
 {
-    XdndTarget target(desktop_, QRect(900, 400, 200, 200), false, "text/uri-list");
+    XdndTarget target(m_desktop, QRect(900, 400, 200, 200), false, "text/uri-list");
     start();
     ASSERT_TRUE(dropFiles({makeFile(u"one.txt"_s, "x")}));
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
@@ -235,7 +235,7 @@ TEST_P(MainJob, aTargetThatRefusesLeavesTheItemOnTheShelf)
 
 TEST_P(MainJob, clicksBesideTheBodyReachTheWindowBelow)
 {
-    XdndPeer below(desktop_, QRect(300, 0, 900, 200));
+    XdndPeer below(m_desktop, QRect(300, 0, 900, 200));
     start();
     ASSERT_EQ(corvane().startAgain(), 0);
     ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::empty));
@@ -255,7 +255,7 @@ TEST_P(MainJob, clicksBesideTheBodyReachTheWindowBelow)
 
 TEST_P(MainJob, aShelfThatHasClosedLetsEveryClickThrough)
 {
-    XdndPeer below(desktop_, QRect(300, 0, 900, 200));
+    XdndPeer below(m_desktop, QRect(300, 0, 900, 200));
     start();
     ASSERT_EQ(corvane().startAgain(), 0);
     ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::empty));
@@ -271,10 +271,10 @@ TEST_P(MainJob, aShelfThatHasClosedLetsEveryClickThrough)
 
 TEST_P(MainJob, selectingTextAndMovingAWindowNeverOpenTheShelf)
 {
-    TextEditor editor(desktop_, "a line of text that is long enough to be selected", leftHalf());
+    TextEditor editor(m_desktop, "a line of text that is long enough to be selected", leftHalf());
     ASSERT_EQ(editor.problem(), QString());
     start();
-    MapLog log(desktop_.environment().value(u"DISPLAY"_s).toLatin1());
+    MapLog log(m_desktop.environment().value(u"DISPLAY"_s).toLatin1());
 
     const auto dragAcross = [this](QPoint from, QPoint to) {
         hands().beginDrag(from, to);
@@ -287,7 +287,7 @@ TEST_P(MainJob, selectingTextAndMovingAWindowNeverOpenTheShelf)
     dragAcross(QPoint(1300, 800), QPoint(1400, 900));
 
     // A real drag opens it, and that is the first time that it is shown.
-    XdndSource source(desktop_, {{"text/plain", "x"}});
+    XdndSource source(m_desktop, {{"text/plain", "x"}});
     source.pickUp();
     ASSERT_TRUE(corvane().waitUntilShown());
     EXPECT_EQ(log.panelsShown(corvane().program().pid()), 1);
@@ -297,7 +297,7 @@ TEST_P(MainJob, selectingTextAndMovingAWindowNeverOpenTheShelf)
 
 TEST_P(MainJob, theShelfOpensWithoutTakingTheKeyboardAndGivesItBackAfterwards)
 {
-    TextEditor editor(desktop_, "text", leftHalf());
+    TextEditor editor(m_desktop, "text", leftHalf());
     ASSERT_EQ(editor.problem(), QString());
     hands().click(editor.middle());
     const xcb_window_t active = server().activeWindow();

@@ -18,7 +18,7 @@ protected:
 
     bool xrandr(const QStringList &arguments)
     {
-        return outputOf(u"xrandr"_s, arguments, desktop_.environment()).has_value();
+        return outputOf(u"xrandr"_s, arguments, m_desktop.environment()).has_value();
     }
 
     /// Cuts the one screen of the server into two that stand side by side.
@@ -43,7 +43,7 @@ TEST_F(Screens, theShelfOpensOnTheScreenWhereTheDragIs)
     ASSERT_TRUE(addSecond());
     start();
     {
-        XdndSource source(desktop_, {{"text/plain", "x"}});
+        XdndSource source(m_desktop, {{"text/plain", "x"}});
         source.pickUp();
         EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::empty, left));
         source.letGo();

@@ -14,18 +14,18 @@ protected:
     /// A shelf that shows `inView` items and holds files named 0.txt, 1.txt and so on.
     void hold(int inView, int total)
     {
-        inView_ = inView;
-        total_ = total;
+        m_inView = inView;
+        m_total = total;
         startWithInView(inView);
         for (int i = 0; i < total; ++i)
-            paths_.append(makeFile(u"%1.txt"_s.arg(i), QByteArray::number(i)));
-        ASSERT_TRUE(dropFiles(paths_));
+            m_paths.append(makeFile(u"%1.txt"_s.arg(i), QByteArray::number(i)));
+        ASSERT_TRUE(dropFiles(m_paths));
         ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(inView, total)));
     }
 
     QPoint cell(int nth)
     {
-        const QPoint at = CorvaneProgram::cell(inView_, total_, nth);
+        const QPoint at = CorvaneProgram::cell(m_inView, m_total, nth);
         return corvane().at(at.x(), at.y());
     }
 
@@ -35,10 +35,10 @@ protected:
         hands().key('c', {keys::control});
         QByteArray text;
         eventually([&] {
-            text = desktop_.clipboard(u"UTF8_STRING"_s).value_or(QByteArray());
+            text = m_desktop.clipboard(u"UTF8_STRING"_s).value_or(QByteArray());
             return !text.isEmpty();
         });
-        return static_cast<int>(paths_.indexOf(QString::fromUtf8(text)));
+        return static_cast<int>(m_paths.indexOf(QString::fromUtf8(text)));
     }
 
     /// Waits until the focused item is that file.
@@ -49,13 +49,13 @@ protected:
 
     bool waitForTotal(int total)
     {
-        total_ = total;
-        return corvane().waitForSize(CorvaneProgram::carousel(inView_, total));
+        m_total = total;
+        return corvane().waitForSize(CorvaneProgram::carousel(m_inView, total));
     }
 
-    int inView_ = 3;
-    int total_ = 0;
-    QStringList paths_;
+    int m_inView = 3;
+    int m_total = 0;
+    QStringList m_paths;
 };
 
 INSTANTIATE_TEST_SUITE_P(, ShelfUse, twoDesktops(), nameOf);
@@ -92,7 +92,7 @@ TEST_P(ShelfUse, aFocusedItemIsRemovedByDeleteForwardDeleteAndEscape)
     ASSERT_TRUE(waitForTotal(1));
     hands().key(keys::escape);
     EXPECT_TRUE(corvane().waitUntilHidden());
-    for (const QString &path : paths_)
+    for (const QString &path : m_paths)
         EXPECT_TRUE(QFile::exists(path)) << "a file that was dropped is never deleted";
 }
 
@@ -102,7 +102,7 @@ TEST_P(ShelfUse, copyingNeedsControlOrSuperAndMakesADataAddressWithAlt)
     focusShelf(cell(0));
     ASSERT_TRUE(waitForFocus(0));
     EXPECT_TRUE(
-        desktop_.clipboard(u"text/uri-list"_s).value_or(QByteArray()).startsWith("file://"));
+        m_desktop.clipboard(u"text/uri-list"_s).value_or(QByteArray()).startsWith("file://"));
 
     // Whether Alt is held is asked when the copy is made, so it is held until then.
     hands().keyDown(keys::alt);
@@ -115,9 +115,9 @@ TEST_P(ShelfUse, copyingNeedsControlOrSuperAndMakesADataAddressWithAlt)
     hands().key('c', {keys::alt});
     hands().key(keys::space);
     hands().key(keys::down);
-    EXPECT_EQ(desktop_.clipboard(u"UTF8_STRING"_s), "data:text/plain;base64,MA==");
+    EXPECT_EQ(m_desktop.clipboard(u"UTF8_STRING"_s), "data:text/plain;base64,MA==");
     hands().key('c', {keys::super});
-    EXPECT_EQ(clipboardText(paths_[1].toUtf8()), paths_[1].toUtf8());
+    EXPECT_EQ(clipboardText(m_paths[1].toUtf8()), m_paths[1].toUtf8());
 }
 
 TEST_P(ShelfUse, theArrowsPageThroughTheItems)
@@ -199,7 +199,7 @@ TEST_P(ShelfUse, aThreePointMoveIsAClickAndFourPointsAreADrag)
     hands().press();
     hands().moveTo(at + QPoint(3, 0));
     hands().moveTo(at + QPoint(2, 2));
-    desktop_.pictureAtRest(QRect(0, 0, 1512, 120));
+    m_desktop.pictureAtRest(QRect(0, 0, 1512, 120));
     EXPECT_EQ(server().selectionOwner("XdndSelection"), noWindow);
     hands().moveTo(at + QPoint(4, 0));
     EXPECT_TRUE(eventually([&] { return server().selectionOwner("XdndSelection") != noWindow; }));
@@ -234,7 +234,7 @@ TEST_F(Settings, countsOutOfRangeAreRaisedToOneAndLoweredToSix)
     startWithInView(-3);
     ASSERT_TRUE(dropFiles(paths));
     EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-    corvane_.reset();
+    m_corvane.reset();
     startWithInView(9);
     ASSERT_TRUE(dropFiles(paths));
     EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(6, 7)));
@@ -253,8 +253,8 @@ TEST_F(Settings, aFileFullOfGarbageIsReadAsDefaults)
 TEST_F(Settings, theShelfStaysClosedDuringDragsWhereItIsToldTo)
 {
     start({{}, "settings.autoShowOnDrag=false\n", {}});
-    MapLog log(desktop_.environment().value(u"DISPLAY"_s).toLatin1());
-    XdndSource source(desktop_, {{"text/plain", "x"}});
+    MapLog log(m_desktop.environment().value(u"DISPLAY"_s).toLatin1());
+    XdndSource source(m_desktop, {{"text/plain", "x"}});
     source.pickUp();
     // Opened by hand it takes the drop all the same; and that is the first time that it is shown.
     ASSERT_EQ(corvane().startAgain(), 0);

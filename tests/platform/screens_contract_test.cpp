@@ -120,13 +120,13 @@ TYPED_TEST(ScreensContract, aScreenThatComesIsThereAndGoesAgain)
     const QRectF right(700, 0, 812, 982);
     this->displays.split();
     ASSERT_TRUE(this->displays.until([&] {
-        const auto screens = this->screens.screens();
-        return screens.size() == 2 && screens[0]->frame == left && screens[1]->frame == right;
+        const auto attached = this->screens.screens();
+        return attached.size() == 2 && attached[0]->frame == left && attached[1]->frame == right;
     }));
     this->displays.unite();
     EXPECT_TRUE(this->displays.until([&] {
-        const auto screens = this->screens.screens();
-        return screens.size() == 1 && screens[0]->frame == QRectF(0, 0, 1512, 982);
+        const auto attached = this->screens.screens();
+        return attached.size() == 1 && attached[0]->frame == QRectF(0, 0, 1512, 982);
     }));
     EXPECT_EQ(this->screens.mainScreen(), this->screens.screens().front());
 }

@@ -66,7 +66,7 @@ bool Browser::isInstalled(Kind kind)
 
 QStringList Browser::command(Kind kind, const QString &url) const
 {
-    const QString profile = desktop_.path(u"home/browser"_s);
+    const QString profile = m_desktop.path(u"home/browser"_s);
     QDir(profile).removeRecursively();
     QDir().mkpath(profile);
     if (kind == Kind::Chromium) {
@@ -92,22 +92,22 @@ QStringList Browser::command(Kind kind, const QString &url) const
 
 QString Browser::serve(const QString &folder)
 {
-    server_ = desktop_.start(u"python3"_s,
-                             {u"-u"_s, u"-m"_s, u"http.server"_s, u"0"_s, u"--bind"_s,
-                              u"127.0.0.1"_s, u"--directory"_s, folder});
+    m_server = m_desktop.start(u"python3"_s,
+                               {u"-u"_s, u"-m"_s, u"http.server"_s, u"0"_s, u"--bind"_s,
+                                u"127.0.0.1"_s, u"--directory"_s, folder});
     // It picks a free port and says which.
     QString port;
     eventually([&] {
         static const QRegularExpression told(u"port (\\d+)"_s);
-        port = told.match(QString::fromUtf8(server_->output())).captured(1);
-        return !port.isEmpty() || !server_->isRunning();
+        port = told.match(QString::fromUtf8(m_server->output())).captured(1);
+        return !port.isEmpty() || !m_server->isRunning();
     });
     return port.isEmpty() ? QString() : u"http://127.0.0.1:"_s + port;
 }
 
 Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteArray &picture,
                  const QRect &frame)
-    : desktop_(desktop)
+    : m_desktop(desktop)
 {
     const QString folder = desktop.path(u"home/site"_s);
     QDir().mkpath(folder);
@@ -117,33 +117,33 @@ Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteA
     // Over HTTP, as pages are: what a page from a local file offers is a local file.
     const QString address = serve(folder);
     if (address.isEmpty()) {
-        problem_ = u"the page cannot be served: "_s + QString::fromUtf8(server_->output());
+        m_problem = u"the page cannot be served: "_s + QString::fromUtf8(m_server->output());
         return;
     }
     QStringList arguments = command(kind, address + u"/page.html"_s);
     const QString name = arguments.takeFirst();
-    program_ = desktop.start(name, arguments);
-    const auto window = desktop.waitForWindowOf(*program_);
+    m_program = desktop.start(name, arguments);
+    const auto window = desktop.waitForWindowOf(*m_program);
     if (!window) {
-        problem_ = name + u" shows no window: "_s + QString::fromUtf8(program_->output());
+        m_problem = name + u" shows no window: "_s + QString::fromUtf8(m_program->output());
         return;
     }
     const auto placed = desktop.place(window->id, frame);
     if (!placed) {
-        problem_ = name + u"'s window cannot be placed"_s;
+        m_problem = name + u"'s window cannot be placed"_s;
         return;
     }
     const bool shown = eventually(
         [&] {
-            page_ = findPage(desktop_.server().picture(placed->frame))
-                        .translated(placed->frame.topLeft());
-            return !page_.isEmpty();
+            m_page = findPage(m_desktop.server().picture(placed->frame))
+                         .translated(placed->frame.topLeft());
+            return !m_page.isEmpty();
         },
         std::chrono::seconds{40});
     if (!shown)
-        problem_ = name + u" does not show the page"_s;
+        m_problem = name + u" does not show the page"_s;
     else
-        desktop_.pictureAtRest(QRect(page_.topLeft(), QSize(400, 300)));
+        m_desktop.pictureAtRest(QRect(m_page.topLeft(), QSize(400, 300)));
 }
 
 } // namespace corvane::e2e

@@ -15,9 +15,9 @@ public:
     Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteArray &picture,
             const QRect &frame);
 
-    QString problem() const { return problem_; }
-    QPoint link() const { return page_.topLeft() + QPoint(60, 50); }
-    QPoint picture() const { return page_.topLeft() + QPoint(100, 200); }
+    QString problem() const { return m_problem; }
+    QPoint link() const { return m_page.topLeft() + QPoint(60, 50); }
+    QPoint picture() const { return m_page.topLeft() + QPoint(100, 200); }
 
 private:
     QStringList command(Kind kind, const QString &url) const;
@@ -25,11 +25,11 @@ private:
     /// The address under which the folder's files can be fetched; empty where that fails.
     QString serve(const QString &folder);
 
-    XDesktop &desktop_;
-    std::unique_ptr<Program> server_;
-    std::unique_ptr<Program> program_;
-    QString problem_;
-    QRect page_;
+    XDesktop &m_desktop;
+    std::unique_ptr<Program> m_server;
+    std::unique_ptr<Program> m_program;
+    QString m_problem;
+    QRect m_page;
 };
 
 } // namespace corvane::e2e

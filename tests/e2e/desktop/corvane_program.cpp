@@ -62,10 +62,10 @@ CorvaneProgram::CorvaneProgram(XDesktop &desktop)
 }
 
 CorvaneProgram::CorvaneProgram(XDesktop &desktop, const Start &start)
-    : desktop_(desktop)
-    , environment_(start.environment.isEmpty() ? desktop.environment() : start.environment)
+    : m_desktop(desktop)
+    , m_environment(start.environment.isEmpty() ? desktop.environment() : start.environment)
 {
-    const QString folder = environment_.value(u"XDG_CONFIG_HOME"_s) + u"/Corvane"_s;
+    const QString folder = m_environment.value(u"XDG_CONFIG_HOME"_s) + u"/Corvane"_s;
     QDir(folder).removeRecursively();
     QDir().mkpath(folder);
     if (start.inViewCount || !start.settings.isEmpty()) {
@@ -77,7 +77,7 @@ CorvaneProgram::CorvaneProgram(XDesktop &desktop, const Start &start)
             file.write(start.settings);
         }
     }
-    program_ = std::make_unique<Program>(path(), QStringList(), environment_);
+    m_program = std::make_unique<Program>(path(), QStringList(), m_environment);
 }
 
 QString CorvaneProgram::path()
@@ -95,13 +95,13 @@ bool CorvaneProgram::waitUntilReady()
             u"dbus-send"_s,
             {u"--session"_s, u"--print-reply=literal"_s, u"--dest=org.freedesktop.DBus"_s, u"/"_s,
              u"org.freedesktop.DBus.NameHasOwner"_s, u"string:"_s + QLatin1String(serviceName)},
-            environment_);
-        return (answer && answer->contains("true")) || !program_->isRunning();
+            m_environment);
+        return (answer && answer->contains("true")) || !m_program->isRunning();
     });
     QByteArray last;
     int same = 0;
-    return named && program_->isRunning() && eventually([&] {
-               const QByteArray now = sleeps(program_->pid());
+    return named && m_program->isRunning() && eventually([&] {
+               const QByteArray now = sleeps(m_program->pid());
                same = !now.isEmpty() && now == last ? same + 1 : 0;
                last = now;
                QThread::msleep(10);
@@ -111,16 +111,16 @@ bool CorvaneProgram::waitUntilReady()
 
 std::optional<int> CorvaneProgram::startAgain()
 {
-    Program second(path(), {}, environment_);
+    Program second(path(), {}, m_environment);
     return second.waitForEnd();
 }
 
 std::optional<WindowFacts> CorvaneProgram::panel()
 {
-    for (const WindowFacts &window : desktop_.server().windows()) {
+    for (const WindowFacts &window : m_desktop.server().windows()) {
         // A drag's picture under the pointer is an override-redirect window, too, but hangs
         // nowhere.
-        if (window.isViewable && window.isOverrideRedirect && window.pid == program_->pid()
+        if (window.isViewable && window.isOverrideRedirect && window.pid == m_program->pid()
             && window.frame.top() == 0)
             return window;
     }
@@ -139,7 +139,7 @@ bool CorvaneProgram::waitUntilHidden()
 
 bool CorvaneProgram::waitForSize(QSize size, const QRect &screen)
 {
-    const QRect where = screen.isNull() ? QRect({0, 0}, desktop_.server().size()) : screen;
+    const QRect where = screen.isNull() ? QRect({0, 0}, m_desktop.server().size()) : screen;
     const int left = where.x() + (where.width() - size.width()) / 2;
     const bool reached = eventually([&] {
         const auto now = panel();
@@ -147,7 +147,7 @@ bool CorvaneProgram::waitForSize(QSize size, const QRect &screen)
             && std::abs(now->frame.left() - left) <= 1;
     });
     if (reached)
-        desktop_.pictureAtRest(panel().value_or(WindowFacts{}).frame);
+        m_desktop.pictureAtRest(panel().value_or(WindowFacts{}).frame);
     return reached;
 }
 
@@ -158,7 +158,7 @@ bool CorvaneProgram::waitForHeight(int height)
         return now && now->frame.height() == height && body().height() == height;
     });
     if (reached)
-        desktop_.pictureAtRest(panel().value_or(WindowFacts{}).frame);
+        m_desktop.pictureAtRest(panel().value_or(WindowFacts{}).frame);
     return reached;
 }
 
@@ -173,7 +173,7 @@ QRect CorvaneProgram::body()
     if (!now)
         return {};
     QRect bounds;
-    for (const QRect &part : desktop_.server().inputShape(now->id))
+    for (const QRect &part : m_desktop.server().inputShape(now->id))
         bounds = bounds.united(part);
     return bounds.translated(now->frame.topLeft());
 }
@@ -185,7 +185,7 @@ QPoint CorvaneProgram::at(double x, double y)
 
 QString CorvaneProgram::spool() const
 {
-    return environment_.value(u"TMPDIR"_s) + u"/Corvane-%1"_s.arg(program_->pid());
+    return m_environment.value(u"TMPDIR"_s) + u"/Corvane-%1"_s.arg(m_program->pid());
 }
 
 QStringList CorvaneProgram::spooled() const

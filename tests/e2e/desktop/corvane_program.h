@@ -28,7 +28,7 @@ public:
 
     /// Up, and watching the desktop.
     bool waitUntilReady();
-    Program &program() { return *program_; }
+    Program &program() { return *m_program; }
 
     /// Starts it once more, as a user does who wants to see the shelf; the second one's exit
     /// status.
@@ -67,9 +67,9 @@ public:
     static constexpr int carouselHeight = 62;
 
 private:
-    XDesktop &desktop_;
-    QProcessEnvironment environment_;
-    std::unique_ptr<Program> program_;
+    XDesktop &m_desktop;
+    QProcessEnvironment m_environment;
+    std::unique_ptr<Program> m_program;
 };
 
 } // namespace corvane::e2e

@@ -9,7 +9,7 @@ namespace corvane::e2e {
 
 /// What one condition is waited for before a test takes it for broken. Generous: a loaded machine
 /// is slow, and a condition that comes true ends the wait at once.
-inline constexpr std::chrono::milliseconds patience{10000};
+inline constexpr std::chrono::milliseconds patience{30000};
 
 /// Waits until `condition` gives true (or something that converts to it), and tells whether it did.
 template<class Condition>

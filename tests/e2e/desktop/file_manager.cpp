@@ -52,7 +52,7 @@ QRect findView(const QImage &window)
 } // namespace
 
 FileManager::FileManager(XDesktop &desktop, const QString &folder, const QRect &frame)
-    : desktop_(desktop)
+    : m_desktop(desktop)
 {
     const QString config
         = desktop.environment().value(u"XDG_CONFIG_HOME"_s) + u"/pcmanfm-qt/default"_s;
@@ -63,30 +63,31 @@ FileManager::FileManager(XDesktop &desktop, const QString &folder, const QRect &
     file.close();
 
     // A bus of its own: otherwise a second one would open its folder in the first one's window.
-    program_ = desktop.start(u"dbus-run-session"_s, {u"--"_s, u"pcmanfm-qt"_s, folder});
-    const auto window = desktop.waitForWindowOf(*program_);
+    m_program = desktop.start(u"dbus-run-session"_s, {u"--"_s, u"pcmanfm-qt"_s, folder});
+    const auto window = desktop.waitForWindowOf(*m_program);
     if (!window) {
-        problem_ = u"the file manager shows no window: "_s + QString::fromUtf8(program_->output());
+        m_problem
+            = u"the file manager shows no window: "_s + QString::fromUtf8(m_program->output());
         return;
     }
     const auto placed = desktop.place(window->id, frame);
     if (!placed) {
-        problem_ = u"the file manager's window cannot be placed"_s;
+        m_problem = u"the file manager's window cannot be placed"_s;
         return;
     }
-    frame_ = placed->frame;
-    desktop_.hands().moveTo(QPoint(5, frame_.bottom() + 60));
+    m_frame = placed->frame;
+    m_desktop.hands().moveTo(QPoint(5, m_frame.bottom() + 60));
     const bool shown = eventually([this] {
-        view_ = findView(desktop_.server().picture(frame_)).translated(frame_.topLeft());
-        return !view_.isEmpty();
+        m_view = findView(m_desktop.server().picture(m_frame)).translated(m_frame.topLeft());
+        return !m_view.isEmpty();
     });
     if (!shown)
-        problem_ = u"the file manager shows no folder"_s;
+        m_problem = u"the file manager shows no folder"_s;
     if (QDir(folder).isEmpty())
         return;
     const bool listed = eventually([this] {
         const QImage icon
-            = desktop_.pictureAtRest(QRect(view_.topLeft() + QPoint(30, 4), QSize(56, 56)));
+            = m_desktop.pictureAtRest(QRect(m_view.topLeft() + QPoint(30, 4), QSize(56, 56)));
         for (int i = 0; i < icon.width() * icon.height(); ++i) {
             if ((icon.pixel(i % icon.width(), i / icon.width()) | 0xff000000) != 0xffffffff)
                 return true;
@@ -94,21 +95,21 @@ FileManager::FileManager(XDesktop &desktop, const QString &folder, const QRect &
         return false;
     });
     if (!listed)
-        problem_ = u"the file manager shows no files"_s;
+        m_problem = u"the file manager shows no files"_s;
 }
 
 void FileManager::selectAll()
 {
-    desktop_.hands().click(emptyPlace());
-    desktop_.hands().key('a', {keys::control});
-    desktop_.pictureAtRest(view_);
+    m_desktop.hands().click(emptyPlace());
+    m_desktop.hands().key('a', {keys::control});
+    m_desktop.pictureAtRest(m_view);
 }
 
 bool FileManager::chooseCopy()
 {
     QRect menu;
     const bool asked = eventually([&] {
-        for (const WindowFacts &window : desktop_.server().windows()) {
+        for (const WindowFacts &window : m_desktop.server().windows()) {
             if (window.isViewable && window.isOverrideRedirect && isFileManager(window)
                 && window.frame.height() > 40)
                 menu = window.frame;
@@ -117,9 +118,9 @@ bool FileManager::chooseCopy()
     });
     if (!asked)
         return false;
-    desktop_.pictureAtRest(menu);
-    desktop_.hands().key(keys::down);
-    desktop_.hands().key(keys::enter);
+    m_desktop.pictureAtRest(menu);
+    m_desktop.hands().key(keys::down);
+    m_desktop.hands().key(keys::enter);
     return true;
 }
 

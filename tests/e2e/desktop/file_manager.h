@@ -14,22 +14,22 @@ public:
     FileManager(XDesktop &desktop, const QString &folder, const QRect &frame);
 
     /// Empty when its window is there and its files are shown.
-    QString problem() const { return problem_; }
-    QRect frame() const { return frame_; }
+    QString problem() const { return m_problem; }
+    QRect frame() const { return m_frame; }
     /// Where the folder's first file is, in the order of their names.
-    QPoint firstFile() const { return view_.topLeft() + QPoint(58, 32); }
+    QPoint firstFile() const { return m_view.topLeft() + QPoint(58, 32); }
     /// A place in the folder's view where no file is.
-    QPoint emptyPlace() const { return view_.bottomRight() - QPoint(60, 40); }
+    QPoint emptyPlace() const { return m_view.bottomRight() - QPoint(60, 40); }
     void selectAll();
     /// After a drop: takes "Copy here" from the menu that asks what to do.
     bool chooseCopy();
 
 private:
-    XDesktop &desktop_;
-    std::unique_ptr<Program> program_;
-    QString problem_;
-    QRect frame_;
-    QRect view_;
+    XDesktop &m_desktop;
+    std::unique_ptr<Program> m_program;
+    QString m_problem;
+    QRect m_frame;
+    QRect m_view;
 };
 
 } // namespace corvane::e2e

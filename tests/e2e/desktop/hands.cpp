@@ -20,11 +20,11 @@ constexpr double longestStep = 120;
 
 void Hands::fake(uint8_t type, uint8_t detail, QPoint point)
 {
-    xcb_test_fake_input(server_.connection(), type, detail, XCB_CURRENT_TIME, server_.root(),
+    xcb_test_fake_input(m_server.connection(), type, detail, XCB_CURRENT_TIME, m_server.root(),
                         static_cast<int16_t>(point.x()), static_cast<int16_t>(point.y()), 0);
     // A question makes sure that the server has seen to it.
-    std::free(xcb_get_input_focus_reply(server_.connection(),
-                                        xcb_get_input_focus(server_.connection()), nullptr));
+    std::free(xcb_get_input_focus_reply(m_server.connection(),
+                                        xcb_get_input_focus(m_server.connection()), nullptr));
 }
 
 void Hands::moveTo(QPoint point)
@@ -39,7 +39,7 @@ void Hands::moveBy(QPoint step)
 
 void Hands::glideTo(QPoint point)
 {
-    const QPoint from = server_.pointerPosition();
+    const QPoint from = m_server.pointerPosition();
     const double distance = std::hypot(point.x() - from.x(), point.y() - from.y());
     const int steps = std::max(2, static_cast<int>(std::ceil(distance / longestStep)));
     for (int i = 1; i <= steps; ++i) {
@@ -99,11 +99,11 @@ void Hands::aim(QPoint point)
 
 uint8_t Hands::keyCode(uint32_t symbol)
 {
-    const xcb_setup_t *setup = xcb_get_setup(server_.connection());
+    const xcb_setup_t *setup = xcb_get_setup(m_server.connection());
     const auto count = static_cast<uint8_t>(setup->max_keycode - setup->min_keycode + 1);
     xcb_get_keyboard_mapping_reply_t *mapping = xcb_get_keyboard_mapping_reply(
-        server_.connection(),
-        xcb_get_keyboard_mapping(server_.connection(), setup->min_keycode, count), nullptr);
+        m_server.connection(),
+        xcb_get_keyboard_mapping(m_server.connection(), setup->min_keycode, count), nullptr);
     if (mapping == nullptr)
         return 0;
     const xcb_keysym_t *symbols = xcb_get_keyboard_mapping_keysyms(mapping);

@@ -13,7 +13,7 @@ namespace corvane::e2e {
 class Hands {
 public:
     explicit Hands(XServer &server)
-        : server_(server)
+        : m_server(server)
     {
     }
 
@@ -44,7 +44,7 @@ private:
     void fake(uint8_t type, uint8_t detail, QPoint point = {});
     uint8_t keyCode(uint32_t symbol);
 
-    XServer &server_;
+    XServer &m_server;
 };
 
 namespace keys {

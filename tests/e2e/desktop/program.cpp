@@ -14,62 +14,62 @@ namespace corvane::e2e {
 Program::Program(const QString &name, const QStringList &arguments,
                  const QProcessEnvironment &environment, const QString &workingDirectory)
 {
-    process_.setProcessEnvironment(environment);
-    process_.setProcessChannelMode(QProcess::MergedChannels);
+    m_process.setProcessEnvironment(environment);
+    m_process.setProcessChannelMode(QProcess::MergedChannels);
     if (!workingDirectory.isEmpty())
-        process_.setWorkingDirectory(workingDirectory);
-    process_.setChildProcessModifier([] {
+        m_process.setWorkingDirectory(workingDirectory);
+    m_process.setChildProcessModifier([] {
         // A session of its own, so that its children can be ended with it; and nothing is left over
         // if the test itself is ended.
         setsid();
         prctl(PR_SET_PDEATHSIG, SIGTERM);
     });
-    process_.start(name, arguments);
-    process_.closeWriteChannel();
-    if (process_.waitForStarted())
-        pid_ = process_.processId();
+    m_process.start(name, arguments);
+    m_process.closeWriteChannel();
+    if (m_process.waitForStarted())
+        m_pid = m_process.processId();
     else
-        qWarning("%s does not start: %s", qPrintable(name), qPrintable(process_.errorString()));
+        qWarning("%s does not start: %s", qPrintable(name), qPrintable(m_process.errorString()));
 }
 
 Program::~Program()
 {
-    if (pid_ == 0)
+    if (m_pid == 0)
         return;
     // The group is there as long as one of its members is, even after its leader.
-    const auto group = static_cast<pid_t>(pid_);
+    const auto group = static_cast<pid_t>(m_pid);
     killpg(group, SIGTERM);
     if (!waitForEnd(std::chrono::seconds{3}))
-        qWarning("%s does not end by itself", qPrintable(process_.program()));
+        qWarning("%s does not end by itself", qPrintable(m_process.program()));
     killpg(group, SIGKILL);
-    process_.waitForFinished();
+    m_process.waitForFinished();
 }
 
 bool Program::isRunning()
 {
     QCoreApplication::processEvents();
-    return process_.state() != QProcess::NotRunning;
+    return m_process.state() != QProcess::NotRunning;
 }
 
 void Program::signal(int number) const
 {
-    if (pid_ != 0)
-        kill(static_cast<pid_t>(pid_), number);
+    if (m_pid != 0)
+        kill(static_cast<pid_t>(m_pid), number);
 }
 
 std::optional<int> Program::waitForEnd(std::chrono::milliseconds limit)
 {
     if (!eventually([this] { return !isRunning(); }, limit))
         return std::nullopt;
-    if (process_.exitStatus() == QProcess::CrashExit)
-        return 128 + process_.exitCode();
-    return process_.exitCode();
+    if (m_process.exitStatus() == QProcess::CrashExit)
+        return 128 + m_process.exitCode();
+    return m_process.exitCode();
 }
 
 QByteArray Program::output()
 {
-    output_ += process_.readAll();
-    return output_;
+    m_output += m_process.readAll();
+    return m_output;
 }
 
 std::optional<QByteArray> outputOf(const QString &name, const QStringList &arguments,

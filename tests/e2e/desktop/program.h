@@ -19,7 +19,7 @@ public:
     Program(const Program &) = delete;
     Program &operator=(const Program &) = delete;
 
-    qint64 pid() const { return pid_; }
+    qint64 pid() const { return m_pid; }
     bool isRunning();
 
     /// Sends a signal to the program alone.
@@ -30,9 +30,9 @@ public:
     QByteArray output();
 
 private:
-    QProcess process_;
-    qint64 pid_ = 0;
-    QByteArray output_;
+    QProcess m_process;
+    qint64 m_pid = 0;
+    QByteArray m_output;
 };
 
 /// Runs a program to its end and gives its standard output; none if it failed or took too long.

@@ -9,21 +9,21 @@ class TextEditor {
 public:
     TextEditor(XDesktop &desktop, const QByteArray &text, const QRect &frame);
 
-    QString problem() const { return problem_; }
+    QString problem() const { return m_problem; }
     /// In the first line's first word.
-    QPoint firstWord() const { return frame_.topLeft() + QPoint(40, 40); }
-    QPoint middle() const { return frame_.center(); }
+    QPoint firstWord() const { return m_frame.topLeft() + QPoint(40, 40); }
+    QPoint middle() const { return m_frame.center(); }
     /// A bare part of the window, beside text and buttons.
-    QPoint titleBar() const { return frame_.topLeft() + QPoint(frame_.width() / 2, -8); }
+    QPoint titleBar() const { return m_frame.topLeft() + QPoint(m_frame.width() / 2, -8); }
     void selectAll();
     /// What stands in it, by way of the clipboard.
     QByteArray text(const QByteArray &expected);
 
 private:
-    XDesktop &desktop_;
-    std::unique_ptr<Program> program_;
-    QString problem_;
-    QRect frame_;
+    XDesktop &m_desktop;
+    std::unique_ptr<Program> m_program;
+    QString m_problem;
+    QRect m_frame;
 };
 
 } // namespace corvane::e2e

@@ -14,15 +14,15 @@ namespace corvane::e2e {
 using namespace Qt::StringLiterals;
 
 XDesktop::XDesktop(DesktopKind kind)
-    : environment_(QProcessEnvironment::systemEnvironment())
+    : m_environment(QProcessEnvironment::systemEnvironment())
 {
     for (const auto &name : {u"WAYLAND_DISPLAY"_s, u"XAUTHORITY"_s, u"DBUS_SESSION_BUS_ADDRESS"_s,
                              u"QT_SCALE_FACTOR"_s, u"XDG_CURRENT_DESKTOP"_s, u"DISPLAY"_s})
-        environment_.remove(name);
+        m_environment.remove(name);
     const auto folder = [this](const QString &variable, const QString &name) {
         QDir().mkpath(path(name));
         QFile::setPermissions(path(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        environment_.insert(variable, path(name));
+        m_environment.insert(variable, path(name));
     };
     folder(u"HOME"_s, u"home"_s);
     folder(u"XDG_CONFIG_HOME"_s, u"home/.config"_s);
@@ -30,87 +30,88 @@ XDesktop::XDesktop(DesktopKind kind)
     folder(u"XDG_DATA_HOME"_s, u"home/.local/share"_s);
     folder(u"XDG_RUNTIME_DIR"_s, u"runtime"_s);
     folder(u"TMPDIR"_s, u"tmp"_s);
-    environment_.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
-    environment_.insert(u"GDK_BACKEND"_s, u"x11"_s);
-    environment_.insert(u"XDG_SESSION_TYPE"_s, u"x11"_s);
-    environment_.insert(u"LANG"_s, u"C.UTF-8"_s);
-    environment_.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-    environment_.insert(u"LIBGL_ALWAYS_SOFTWARE"_s, u"1"_s);
-    environment_.insert(u"NO_AT_BRIDGE"_s, u"1"_s);
-    environment_.insert(u"GTK_A11Y"_s, u"none"_s);
+    m_environment.insert(u"QT_QPA_PLATFORM"_s, u"xcb"_s);
+    m_environment.insert(u"GDK_BACKEND"_s, u"x11"_s);
+    m_environment.insert(u"XDG_SESSION_TYPE"_s, u"x11"_s);
+    m_environment.insert(u"LANG"_s, u"C.UTF-8"_s);
+    m_environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    m_environment.insert(u"LIBGL_ALWAYS_SOFTWARE"_s, u"1"_s);
+    m_environment.insert(u"NO_AT_BRIDGE"_s, u"1"_s);
+    m_environment.insert(u"GTK_A11Y"_s, u"none"_s);
 
     startServer();
-    if (problem_.isEmpty())
+    if (m_problem.isEmpty())
         startBus();
-    if (problem_.isEmpty())
+    if (m_problem.isEmpty())
         startWindowManager(kind.windowManager);
-    if (problem_.isEmpty() && kind.compositor == Compositor::Picom)
+    if (m_problem.isEmpty() && kind.compositor == Compositor::Picom)
         startCompositor();
 }
 
 void XDesktop::startServer()
 {
     // The server picks a free number by itself and writes it where it is told to.
-    xvfb_ = start(u"Xvfb"_s,
-                  {u"-displayfd"_s, u"1"_s, u"-noreset"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s,
-                   u"0"_s, u"1512x982x24"_s});
+    m_xvfb = start(u"Xvfb"_s,
+                   {u"-displayfd"_s, u"1"_s, u"-noreset"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s,
+                    u"0"_s, u"1512x982x24"_s});
     // Its messages come the same way; a line with nothing but a number is the answer.
     QByteArray number;
     const bool told = eventually([&] {
-        for (const QByteArray &line : xvfb_->output().split('\n')) {
+        for (const QByteArray &line : m_xvfb->output().split('\n')) {
             bool isNumber = false;
             line.toInt(&isNumber);
             if (isNumber)
                 number = line;
         }
-        return !number.isEmpty() || !xvfb_->isRunning();
+        return !number.isEmpty() || !m_xvfb->isRunning();
     });
     if (!told || number.isEmpty()) {
-        problem_ = u"Xvfb does not start: "_s + QString::fromUtf8(xvfb_->output());
+        m_problem = u"Xvfb does not start: "_s + QString::fromUtf8(m_xvfb->output());
         return;
     }
     const QByteArray display = ":" + number;
-    environment_.insert(u"DISPLAY"_s, QString::fromLatin1(display));
-    server_ = std::make_unique<XServer>(display);
-    hands_ = std::make_unique<Hands>(*server_);
-    if (!server_->isConnected())
-        problem_ = u"there is no connection to Xvfb"_s;
+    m_environment.insert(u"DISPLAY"_s, QString::fromLatin1(display));
+    m_server = std::make_unique<XServer>(display);
+    m_hands = std::make_unique<Hands>(*m_server);
+    if (!m_server->isConnected())
+        m_problem = u"there is no connection to Xvfb"_s;
 }
 
 void XDesktop::startBus()
 {
     const QString address = u"unix:path="_s + path(u"runtime/bus"_s);
-    bus_ = start(u"dbus-daemon"_s,
-                 {u"--session"_s, u"--nofork"_s, u"--nopidfile"_s, u"--address="_s + address});
-    environment_.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, address);
+    m_bus = start(u"dbus-daemon"_s,
+                  {u"--session"_s, u"--nofork"_s, u"--nopidfile"_s, u"--address="_s + address});
+    m_environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, address);
     if (!eventually([this] { return QFile::exists(path(u"runtime/bus"_s)); }))
-        problem_ = u"the session bus does not start"_s;
+        m_problem = u"the session bus does not start"_s;
 }
 
 void XDesktop::startWindowManager(WindowManager windowManager)
 {
     // A manager's own compositor would make every run the same.
-    windowManager_ = windowManager == WindowManager::Openbox
+    m_windowManager = windowManager == WindowManager::Openbox
         ? start(u"openbox"_s, {u"--sm-disable"_s})
         : start(u"xfwm4"_s, {u"--compositor=off"_s, u"--sm-client-disable"_s});
     const bool up = eventually([this] {
-        const auto check = server_->windowProperty(server_->root(), "_NET_SUPPORTING_WM_CHECK");
-        return check && server_->windowProperty(*check, "_NET_SUPPORTING_WM_CHECK") == check;
+        const auto check = m_server->windowProperty(m_server->root(), "_NET_SUPPORTING_WM_CHECK");
+        return check && m_server->windowProperty(*check, "_NET_SUPPORTING_WM_CHECK") == check;
     });
     if (!up)
-        problem_ = u"the window manager does not start"_s;
+        m_problem = u"the window manager does not start"_s;
 }
 
 void XDesktop::startCompositor()
 {
-    compositor_ = start(u"picom"_s, {u"--backend"_s, u"xrender"_s, u"--config"_s, u"/dev/null"_s});
-    if (!eventually([this] { return server_->selectionOwner("_NET_WM_CM_S0") != noWindow; }))
-        problem_ = u"the compositor does not start"_s;
+    m_compositor = start(u"picom"_s, {u"--backend"_s, u"xrender"_s, u"--config"_s, u"/dev/null"_s});
+    if (!eventually([this] { return m_server->selectionOwner("_NET_WM_CM_S0") != noWindow; }))
+        m_problem = u"the compositor does not start"_s;
 }
 
 std::unique_ptr<Program> XDesktop::start(const QString &name, const QStringList &arguments)
 {
-    return std::make_unique<Program>(name, arguments, environment_, environment_.value(u"HOME"_s));
+    return std::make_unique<Program>(name, arguments, m_environment,
+                                     m_environment.value(u"HOME"_s));
 }
 
 std::optional<WindowFacts>
@@ -118,7 +119,7 @@ XDesktop::waitForWindow(const std::function<bool(const WindowFacts &)> &holds)
 {
     std::optional<WindowFacts> found;
     eventually([&] {
-        for (const WindowFacts &window : server_->windows()) {
+        for (const WindowFacts &window : m_server->windows()) {
             if (window.isViewable && !window.isOverrideRedirect && holds(window))
                 found = window;
         }
@@ -137,9 +138,9 @@ std::optional<WindowFacts> XDesktop::waitForWindowOf(const Program &program)
 
 std::optional<WindowFacts> XDesktop::place(xcb_window_t window, const QRect &frame)
 {
-    server_->moveResize(window, frame);
+    m_server->moveResize(window, frame);
     const bool placed = eventually([&] {
-        const auto now = server_->facts(window);
+        const auto now = m_server->facts(window);
         // Managers count their borders differently.
         return now && now->frame.size() == frame.size()
             && (now->frame.topLeft() - frame.topLeft()).manhattanLength() < 60;
@@ -147,7 +148,7 @@ std::optional<WindowFacts> XDesktop::place(xcb_window_t window, const QRect &fra
     if (!placed)
         return std::nullopt;
     pictureAtRest(frame);
-    return server_->facts(window);
+    return m_server->facts(window);
 }
 
 QImage XDesktop::pictureAtRest(const QRect &area)
@@ -157,7 +158,7 @@ QImage XDesktop::pictureAtRest(const QRect &area)
     int same = 0;
     eventually([&] {
         QThread::msleep(20);
-        const QImage now = server_->picture(area);
+        const QImage now = m_server->picture(area);
         same = now == last ? same + 1 : 0;
         last = now;
         return same >= enough;
@@ -168,14 +169,14 @@ QImage XDesktop::pictureAtRest(const QRect &area)
 std::optional<QByteArray> XDesktop::clipboard(const QString &type)
 {
     return outputOf(u"xclip"_s, {u"-selection"_s, u"clipboard"_s, u"-o"_s, u"-target"_s, type},
-                    environment_);
+                    m_environment);
 }
 
 void XDesktop::endServer()
 {
-    if (xvfb_) {
-        xvfb_->signal(SIGTERM);
-        xvfb_->waitForEnd();
+    if (m_xvfb) {
+        m_xvfb->signal(SIGTERM);
+        m_xvfb->waitForEnd();
     }
 }
 

@@ -29,15 +29,15 @@ public:
     explicit XDesktop(DesktopKind kind = {});
 
     /// Empty when it is up, otherwise what went wrong.
-    QString problem() const { return problem_; }
+    QString problem() const { return m_problem; }
 
-    XServer &server() { return *server_; }
-    Hands &hands() { return *hands_; }
+    XServer &server() { return *m_server; }
+    Hands &hands() { return *m_hands; }
 
     /// What programs on this desktop are started with. Tests may change their copy of it.
-    const QProcessEnvironment &environment() const { return environment_; }
-    QString home() const { return home_.path(); }
-    QString path(const QString &name) const { return home_.filePath(name); }
+    const QProcessEnvironment &environment() const { return m_environment; }
+    QString home() const { return m_home.path(); }
+    QString path(const QString &name) const { return m_home.filePath(name); }
 
     std::unique_ptr<Program> start(const QString &name, const QStringList &arguments);
     /// The first window, viewable and in the window manager's care, that the condition holds for.
@@ -61,16 +61,16 @@ private:
     void startWindowManager(WindowManager windowManager);
     void startCompositor();
 
-    QTemporaryDir home_;
-    QProcessEnvironment environment_;
-    QString problem_;
+    QTemporaryDir m_home;
+    QProcessEnvironment m_environment;
+    QString m_problem;
     // In the order in which they are started; they end in the opposite one.
-    std::unique_ptr<Program> xvfb_;
-    std::unique_ptr<XServer> server_;
-    std::unique_ptr<Hands> hands_;
-    std::unique_ptr<Program> bus_;
-    std::unique_ptr<Program> windowManager_;
-    std::unique_ptr<Program> compositor_;
+    std::unique_ptr<Program> m_xvfb;
+    std::unique_ptr<XServer> m_server;
+    std::unique_ptr<Hands> m_hands;
+    std::unique_ptr<Program> m_bus;
+    std::unique_ptr<Program> m_windowManager;
+    std::unique_ptr<Program> m_compositor;
 };
 
 } // namespace corvane::e2e

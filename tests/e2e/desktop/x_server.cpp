@@ -26,10 +26,10 @@ Reply<T> owned(T *reply)
 } // namespace
 
 XServer::XServer(const QByteArray &display)
-    : connection_(xcb_connect(display.constData(), nullptr))
+    : m_connection(xcb_connect(display.constData(), nullptr))
 {
     if (isConnected())
-        root_ = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+        m_root = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
 }
 
 bool XServer::isConnected() const
@@ -40,7 +40,7 @@ bool XServer::isConnected() const
 QSize XServer::size() const
 {
     auto geometry = owned(
-        xcb_get_geometry_reply(connection(), xcb_get_geometry(connection(), root_), nullptr));
+        xcb_get_geometry_reply(connection(), xcb_get_geometry(connection(), m_root), nullptr));
     return geometry ? QSize(geometry->width, geometry->height) : QSize();
 }
 
@@ -92,7 +92,7 @@ std::optional<WindowFacts> XServer::facts(xcb_window_t window) const
 {
     const auto attributesCookie = xcb_get_window_attributes(connection(), window);
     const auto geometryCookie = xcb_get_geometry(connection(), window);
-    const auto placeCookie = xcb_translate_coordinates(connection(), window, root_, 0, 0);
+    const auto placeCookie = xcb_translate_coordinates(connection(), window, m_root, 0, 0);
     auto attributes
         = owned(xcb_get_window_attributes_reply(connection(), attributesCookie, nullptr));
     auto geometry = owned(xcb_get_geometry_reply(connection(), geometryCookie, nullptr));
@@ -131,7 +131,7 @@ void XServer::collect(xcb_window_t window, int depth, QList<WindowFacts> &found)
 QList<WindowFacts> XServer::windows() const
 {
     QList<WindowFacts> found;
-    collect(root_, 2, found);
+    collect(m_root, 2, found);
     return found;
 }
 
@@ -167,7 +167,7 @@ QImage XServer::picture(const QRect &area) const
         return {};
     auto reply = owned(xcb_get_image_reply(connection(),
                                            xcb_get_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP,
-                                                         root_, static_cast<int16_t>(seen.x()),
+                                                         m_root, static_cast<int16_t>(seen.x()),
                                                          static_cast<int16_t>(seen.y()),
                                                          static_cast<uint16_t>(seen.width()),
                                                          static_cast<uint16_t>(seen.height()), ~0U),
@@ -183,7 +183,7 @@ QImage XServer::picture(const QRect &area) const
 QPoint XServer::pointerPosition() const
 {
     auto reply = owned(
-        xcb_query_pointer_reply(connection(), xcb_query_pointer(connection(), root_), nullptr));
+        xcb_query_pointer_reply(connection(), xcb_query_pointer(connection(), m_root), nullptr));
     return reply ? QPoint(reply->root_x, reply->root_y) : QPoint();
 }
 
@@ -196,7 +196,7 @@ void XServer::sendToRoot(xcb_window_t window, const QByteArray &type,
     message.window = window;
     message.type = atom(type);
     std::copy(data.begin(), data.end(), message.data.data32);
-    xcb_send_event(connection(), 0, root_,
+    xcb_send_event(connection(), 0, m_root,
                    XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT | XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY,
                    reinterpret_cast<const char *>(&message));
     xcb_flush(connection());
@@ -217,24 +217,24 @@ void XServer::activate(xcb_window_t window) const
 }
 
 MapLog::MapLog(const QByteArray &display)
-    : server_(display)
+    : m_server(display)
 {
     const uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
-    xcb_change_window_attributes(server_.connection(), server_.root(), XCB_CW_EVENT_MASK, &mask);
+    xcb_change_window_attributes(m_server.connection(), m_server.root(), XCB_CW_EVENT_MASK, &mask);
     // Whatever happens after the answer is seen.
-    server_.focusedWindow();
+    m_server.focusedWindow();
 }
 
 int MapLog::panelsShown(qint64 pid)
 {
-    server_.focusedWindow();
-    while (auto event = owned(xcb_poll_for_event(server_.connection()))) {
+    m_server.focusedWindow();
+    while (auto event = owned(xcb_poll_for_event(m_server.connection()))) {
         if ((event->response_type & 0x7f) == XCB_MAP_NOTIFY)
-            shown_.append(reinterpret_cast<const xcb_map_notify_event_t &>(*event).window);
+            m_shown.append(reinterpret_cast<const xcb_map_notify_event_t &>(*event).window);
     }
     int count = 0;
-    for (const xcb_window_t window : shown_) {
-        const auto facts = server_.facts(window);
+    for (const xcb_window_t window : m_shown) {
+        const auto facts = m_server.facts(window);
         if (facts && facts->pid == pid && facts->isOverrideRedirect && facts->frame.top() == 0)
             ++count;
     }

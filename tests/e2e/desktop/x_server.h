@@ -33,8 +33,8 @@ public:
     explicit XServer(const QByteArray &display);
 
     bool isConnected() const;
-    xcb_connection_t *connection() const { return connection_.get(); }
-    xcb_window_t root() const { return root_; }
+    xcb_connection_t *connection() const { return m_connection.get(); }
+    xcb_window_t root() const { return m_root; }
     QSize size() const;
 
     xcb_atom_t atom(const QByteArray &name) const;
@@ -44,7 +44,7 @@ public:
     xcb_window_t focusedWindow() const;
     xcb_window_t activeWindow() const
     {
-        return windowProperty(root_, "_NET_ACTIVE_WINDOW").value_or(0);
+        return windowProperty(m_root, "_NET_ACTIVE_WINDOW").value_or(0);
     }
 
     /// Every child of the root and, below a window manager's frames, the programs' own windows;
@@ -74,8 +74,8 @@ private:
     void sendToRoot(xcb_window_t window, const QByteArray &type,
                     std::array<uint32_t, 5> data) const;
 
-    std::unique_ptr<xcb_connection_t, Disconnect> connection_;
-    xcb_window_t root_ = noWindow;
+    std::unique_ptr<xcb_connection_t, Disconnect> m_connection;
+    xcb_window_t m_root = noWindow;
 };
 
 /// Which windows have been shown since it was made, however shortly.
@@ -87,8 +87,8 @@ public:
     int panelsShown(qint64 pid);
 
 private:
-    XServer server_;
-    QList<xcb_window_t> shown_;
+    XServer m_server;
+    QList<xcb_window_t> m_shown;
 };
 
 } // namespace corvane::e2e

@@ -23,42 +23,42 @@ struct Free {
 } // namespace
 
 XdndPeer::XdndPeer(XDesktop &desktop, const QRect &frame)
-    : desktop_(desktop)
-    , connection_(std::make_unique<XServer>(
+    : m_desktop(desktop)
+    , m_connection(std::make_unique<XServer>(
           desktop.environment().value(QStringLiteral("DISPLAY")).toLatin1()))
-    , window_(xcb_generate_id(connection()))
-    , frame_(frame)
+    , m_window(xcb_generate_id(connection()))
+    , m_frame(frame)
 {
     // No window manager has a say: the window is where the test wants it, and takes no focus.
     const std::array<uint32_t, 3> values{0x446688, 1,
                                          XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE
                                              | XCB_EVENT_MASK_PROPERTY_CHANGE};
-    xcb_create_window(connection(), XCB_COPY_FROM_PARENT, window_, connection_->root(),
+    xcb_create_window(connection(), XCB_COPY_FROM_PARENT, m_window, m_connection->root(),
                       static_cast<int16_t>(frame.x()), static_cast<int16_t>(frame.y()),
                       static_cast<uint16_t>(frame.width()), static_cast<uint16_t>(frame.height()),
                       0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
                       XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK,
                       values.data());
-    xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window_, atom("XdndAware"),
+    xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, m_window, atom("XdndAware"),
                         XCB_ATOM_ATOM, 32, 1, &protocolVersion);
-    xcb_map_window(connection(), window_);
+    xcb_map_window(connection(), m_window);
     xcb_flush(connection());
     // Mapped once an answer to a later question has come.
-    connection_->facts(window_);
+    m_connection->facts(m_window);
 }
 
 XdndPeer::~XdndPeer() = default;
 
 void XdndPeer::die()
 {
-    connection_.reset();
+    m_connection.reset();
 }
 
 xcb_atom_t XdndPeer::atom(const QByteArray &name)
 {
-    auto known = atoms_.find(name);
-    if (known == atoms_.end())
-        known = atoms_.insert(name, connection_->atom(name));
+    auto known = m_atoms.find(name);
+    if (known == m_atoms.end())
+        known = m_atoms.insert(name, m_connection->atom(name));
     return *known;
 }
 
@@ -86,7 +86,7 @@ void XdndPeer::send(xcb_window_t to, const QByteArray &type, std::array<uint32_t
 
 void XdndPeer::pump()
 {
-    if (!connection_)
+    if (!m_connection)
         return;
     for (;;) {
         const std::unique_ptr<xcb_generic_event_t, Free> event(xcb_poll_for_event(connection()));
@@ -97,7 +97,7 @@ void XdndPeer::pump()
             clientMessage(reinterpret_cast<const xcb_client_message_event_t &>(*event));
             break;
         case XCB_BUTTON_PRESS:
-            ++clicks_;
+            ++m_clicks;
             break;
         default:
             otherEvent(*event);
@@ -109,81 +109,81 @@ void XdndPeer::pump()
 
 XdndSource::XdndSource(XDesktop &desktop, QList<Offer> offers, QByteArray proposedAction)
     : XdndPeer(desktop, QRect(40, 700, 120, 120))
-    , offers_(std::move(offers))
-    , proposedAction_(std::move(proposedAction))
+    , m_offers(std::move(offers))
+    , m_proposedAction(std::move(proposedAction))
 {
     std::vector<xcb_atom_t> types;
-    for (const Offer &offer : offers_)
+    for (const Offer &offer : m_offers)
         types.push_back(atom(offer.type));
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window(), atom("XdndTypeList"),
                         XCB_ATOM_ATOM, 32, static_cast<uint32_t>(types.size()), types.data());
-    const std::array<xcb_atom_t, 2> actions{atom(proposedAction_), atom("XdndActionCopy")};
+    const std::array<xcb_atom_t, 2> actions{atom(m_proposedAction), atom("XdndActionCopy")};
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, window(), atom("XdndActionList"),
                         XCB_ATOM_ATOM, 32, actions.size(), actions.data());
 }
 
 void XdndSource::pickUp()
 {
-    Hands &hands = desktop_.hands();
+    Hands &hands = m_desktop.hands();
     hands.beginDrag(frame().center(), frame().center() + QPoint(100, -100));
     xcb_set_selection_owner(connection(), window(), atom("XdndSelection"), XCB_CURRENT_TIME);
     xcb_flush(connection());
     // A real source's pointer goes on moving, too.
-    hands.glideTo(desktop_.server().pointerPosition() + QPoint(20, -20));
-    hands.glideTo(desktop_.server().pointerPosition() + QPoint(20, -20));
+    hands.glideTo(m_desktop.server().pointerPosition() + QPoint(20, -20));
+    hands.glideTo(m_desktop.server().pointerPosition() + QPoint(20, -20));
 }
 
 std::optional<XdndSource::Status> XdndSource::hover(xcb_window_t target, QPoint point)
 {
-    desktop_.hands().glideTo(point);
-    if (target_ != target) {
-        target_ = target;
+    m_desktop.hands().glideTo(point);
+    if (m_target != target) {
+        m_target = target;
         std::array<uint32_t, 5> enter{window(), protocolVersion << 24, 0, 0, 0};
-        if (offers_.size() > 3)
+        if (m_offers.size() > 3)
             enter[1] |= 1;
-        for (qsizetype i = 0; i < std::min<qsizetype>(3, offers_.size()); ++i)
-            enter[static_cast<size_t>(2 + i)] = atom(offers_[i].type);
+        for (qsizetype i = 0; i < std::min<qsizetype>(3, m_offers.size()); ++i)
+            enter[static_cast<size_t>(2 + i)] = atom(m_offers[i].type);
         send(target, "XdndEnter", enter);
     }
-    status_.reset();
+    m_status.reset();
     send(target, "XdndPosition",
          {window(), 0, static_cast<uint32_t>(point.x()) << 16 | static_cast<uint32_t>(point.y()),
-          XCB_CURRENT_TIME, atom(proposedAction_)});
-    pumpUntil([this] { return status_.has_value(); });
-    return status_;
+          XCB_CURRENT_TIME, atom(m_proposedAction)});
+    pumpUntil([this] { return m_status.has_value(); });
+    return m_status;
 }
 
 void XdndSource::leave(xcb_window_t target)
 {
     send(target, "XdndLeave", {window(), 0, 0, 0, 0});
-    target_ = noWindow;
+    m_target = noWindow;
 }
 
 void XdndSource::drop()
 {
-    finish_.reset();
-    desktop_.hands().release();
-    send(target_, "XdndDrop", {window(), 0, XCB_CURRENT_TIME, 0, 0});
+    m_finish.reset();
+    m_desktop.hands().release();
+    send(m_target, "XdndDrop", {window(), 0, XCB_CURRENT_TIME, 0, 0});
 }
 
 void XdndSource::letGo()
 {
-    desktop_.hands().release();
+    m_desktop.hands().release();
 }
 
 std::optional<XdndSource::Status> XdndSource::waitForFinish()
 {
-    pumpUntil([this] { return finish_.has_value(); });
-    return finish_;
+    pumpUntil([this] { return m_finish.has_value(); });
+    return m_finish;
 }
 
 void XdndSource::clientMessage(const xcb_client_message_event_t &message)
 {
     const uint32_t *data = message.data.data32;
     if (message.type == atom("XdndStatus"))
-        status_ = Status{(data[1] & 1U) != 0, data[4] != 0 ? nameOf(data[4]) : QByteArray()};
+        m_status = Status{(data[1] & 1U) != 0, data[4] != 0 ? nameOf(data[4]) : QByteArray()};
     else if (message.type == atom("XdndFinished"))
-        finish_ = Status{(data[1] & 1U) != 0, data[2] != 0 ? nameOf(data[2]) : QByteArray()};
+        m_finish = Status{(data[1] & 1U) != 0, data[2] != 0 ? nameOf(data[2]) : QByteArray()};
 }
 
 void XdndSource::otherEvent(const xcb_generic_event_t &event)
@@ -193,14 +193,14 @@ void XdndSource::otherEvent(const xcb_generic_event_t &event)
         answer(reinterpret_cast<const xcb_selection_request_event_t &>(event));
     } else if (type == XCB_PROPERTY_NOTIFY) {
         const auto &change = reinterpret_cast<const xcb_property_notify_event_t &>(event);
-        for (qsizetype i = 0; i < transfers_.size(); ++i) {
-            if (change.state != XCB_PROPERTY_DELETE || change.window != transfers_[i].requestor
-                || change.atom != transfers_[i].property)
+        for (qsizetype i = 0; i < m_transfers.size(); ++i) {
+            if (change.state != XCB_PROPERTY_DELETE || change.window != m_transfers[i].requestor
+                || change.atom != m_transfers[i].property)
                 continue;
-            const bool isLast = transfers_[i].sent == transfers_[i].data.size();
-            goOn(transfers_[i]);
+            const bool isLast = m_transfers[i].sent == m_transfers[i].data.size();
+            goOn(m_transfers[i]);
             if (isLast)
-                transfers_.removeAt(i);
+                m_transfers.removeAt(i);
             break;
         }
     }
@@ -209,7 +209,7 @@ void XdndSource::otherEvent(const xcb_generic_event_t &event)
 void XdndSource::answer(const xcb_selection_request_event_t &request)
 {
     const QByteArray type = nameOf(request.target);
-    asked_.append(type);
+    m_asked.append(type);
 
     xcb_selection_notify_event_t notify{};
     notify.response_type = XCB_SELECTION_NOTIFY;
@@ -219,7 +219,7 @@ void XdndSource::answer(const xcb_selection_request_event_t &request)
     notify.target = request.target;
     notify.property = noAtom;
 
-    for (const Offer &offer : offers_) {
+    for (const Offer &offer : m_offers) {
         if (offer.type != type)
             continue;
         if (offer.isSilent)
@@ -236,7 +236,8 @@ void XdndSource::answer(const xcb_selection_request_event_t &request)
             const auto atLeast = static_cast<uint32_t>(offer.data.size());
             xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, request.requestor,
                                 request.property, atom("INCR"), 32, 1, &atLeast);
-            transfers_.append({request.requestor, request.property, request.target, offer.data, 0});
+            m_transfers.append(
+                {request.requestor, request.property, request.target, offer.data, 0});
         }
         break;
     }
@@ -260,8 +261,8 @@ void XdndSource::goOn(Transfer &transfer)
 
 XdndTarget::XdndTarget(XDesktop &desktop, const QRect &frame, bool accepts, QByteArray wantedType)
     : XdndPeer(desktop, frame)
-    , accepts_(accepts)
-    , wantedType_(std::move(wantedType))
+    , m_accepts(accepts)
+    , m_wantedType(std::move(wantedType))
 {
 }
 
@@ -275,24 +276,24 @@ void XdndTarget::clientMessage(const xcb_client_message_event_t &message)
         return names;
     };
     if (message.type == atom("XdndEnter")) {
-        source_ = data[0];
-        positions_ = 0;
-        types_.clear();
+        m_source = data[0];
+        m_positions = 0;
+        m_types.clear();
         if ((data[1] & 1U) != 0) {
-            types_ = atomsOf(desktop_.server().property(source_, "XdndTypeList"));
+            m_types = atomsOf(m_desktop.server().property(m_source, "XdndTypeList"));
         } else {
             for (int i = 2; i < 5; ++i) {
                 if (data[i] != 0)
-                    types_.append(nameOf(data[i]));
+                    m_types.append(nameOf(data[i]));
             }
         }
-        actions_ = atomsOf(desktop_.server().property(source_, "XdndActionList"));
+        m_actions = atomsOf(m_desktop.server().property(m_source, "XdndActionList"));
     } else if (message.type == atom("XdndPosition")) {
-        ++positions_;
-        send(source_, "XdndStatus",
-             {window(), accepts_ ? 3U : 0U, 0, 0, accepts_ ? atom("XdndActionCopy") : 0U});
+        ++m_positions;
+        send(m_source, "XdndStatus",
+             {window(), m_accepts ? 3U : 0U, 0, 0, m_accepts ? atom("XdndActionCopy") : 0U});
     } else if (message.type == atom("XdndDrop")) {
-        xcb_convert_selection(connection(), window(), atom("XdndSelection"), atom(wantedType_),
+        xcb_convert_selection(connection(), window(), atom("XdndSelection"), atom(m_wantedType),
                               atom("RECEIVED"), data[2]);
         xcb_flush(connection());
     }
@@ -304,9 +305,9 @@ void XdndTarget::otherEvent(const xcb_generic_event_t &event)
         return;
     const auto &notify = reinterpret_cast<const xcb_selection_notify_event_t &>(event);
     if (notify.property != noAtom)
-        data_ = desktop_.server().property(window(), "RECEIVED");
-    send(source_, "XdndFinished",
-         {window(), data_ ? 1U : 0U, data_ ? atom("XdndActionCopy") : 0U, 0, 0});
+        m_data = m_desktop.server().property(window(), "RECEIVED");
+    send(m_source, "XdndFinished",
+         {window(), m_data ? 1U : 0U, m_data ? atom("XdndActionCopy") : 0U, 0, 0});
 }
 
 } // namespace corvane::e2e

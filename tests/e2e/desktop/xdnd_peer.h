@@ -20,8 +20,8 @@ public:
     XdndPeer(const XdndPeer &) = delete;
     XdndPeer &operator=(const XdndPeer &) = delete;
 
-    xcb_window_t window() const { return window_; }
-    QRect frame() const { return frame_; }
+    xcb_window_t window() const { return m_window; }
+    QRect frame() const { return m_frame; }
 
     /// Handles what has arrived since the last call.
     void pump();
@@ -30,7 +30,7 @@ public:
     bool pumpUntil(Condition &&condition,
                    std::chrono::milliseconds limit = std::chrono::seconds{20});
 
-    int clicks() const { return clicks_; }
+    int clicks() const { return m_clicks; }
     /// Any message, also one that no sane program would send.
     void send(xcb_window_t to, const QByteArray &type, std::array<uint32_t, 5> data);
     /// The connection ends at once, as when the program is killed.
@@ -40,18 +40,18 @@ protected:
     virtual void clientMessage(const xcb_client_message_event_t &) { }
     virtual void otherEvent(const xcb_generic_event_t &) { }
 
-    xcb_connection_t *connection() { return connection_->connection(); }
+    xcb_connection_t *connection() { return m_connection->connection(); }
     xcb_atom_t atom(const QByteArray &name);
     QByteArray nameOf(xcb_atom_t atom);
 
-    XDesktop &desktop_;
+    XDesktop &m_desktop;
 
 private:
-    std::unique_ptr<XServer> connection_;
-    xcb_window_t window_ = noWindow;
-    QRect frame_;
-    QHash<QByteArray, xcb_atom_t> atoms_;
-    int clicks_ = 0;
+    std::unique_ptr<XServer> m_connection;
+    xcb_window_t m_window = noWindow;
+    QRect m_frame;
+    QHash<QByteArray, xcb_atom_t> m_atoms;
+    int m_clicks = 0;
 };
 
 /// Drags something towards a window.
@@ -83,15 +83,15 @@ public:
     void letGo();
     /// What the target said at the end; none where it never did.
     std::optional<Status> waitForFinish();
-    bool hasFinished() const { return finish_.has_value(); }
+    bool hasFinished() const { return m_finish.has_value(); }
 
     /// The types that were asked for, in order.
-    QList<QByteArray> asked() const { return asked_; }
+    QList<QByteArray> asked() const { return m_asked; }
     /// Bytes of the transfers under way that have not been fetched yet.
     qsizetype unsent() const
     {
         qsizetype sum = 0;
-        for (const Transfer &transfer : transfers_)
+        for (const Transfer &transfer : m_transfers)
             sum += transfer.data.size() - transfer.sent;
         return sum;
     }
@@ -111,13 +111,13 @@ private:
     void answer(const xcb_selection_request_event_t &request);
     void goOn(Transfer &transfer);
 
-    QList<Offer> offers_;
-    QByteArray proposedAction_;
-    xcb_window_t target_ = noWindow;
-    std::optional<Status> status_;
-    std::optional<Status> finish_;
-    QList<QByteArray> asked_;
-    QList<Transfer> transfers_;
+    QList<Offer> m_offers;
+    QByteArray m_proposedAction;
+    xcb_window_t m_target = noWindow;
+    std::optional<Status> m_status;
+    std::optional<Status> m_finish;
+    QList<QByteArray> m_asked;
+    QList<Transfer> m_transfers;
 };
 
 /// Takes what is dropped on it, or refuses it.
@@ -126,24 +126,24 @@ public:
     XdndTarget(XDesktop &desktop, const QRect &frame, bool accepts, QByteArray wantedType);
 
     /// Whether something is over it and has been answered.
-    bool isHovered() const { return positions_ > 0; }
-    bool hasDrop() const { return data_.has_value(); }
-    QByteArray data() const { return data_.value_or(QByteArray()); }
-    QList<QByteArray> offeredTypes() const { return types_; }
-    QList<QByteArray> offeredActions() const { return actions_; }
+    bool isHovered() const { return m_positions > 0; }
+    bool hasDrop() const { return m_data.has_value(); }
+    QByteArray data() const { return m_data.value_or(QByteArray()); }
+    QList<QByteArray> offeredTypes() const { return m_types; }
+    QList<QByteArray> offeredActions() const { return m_actions; }
 
 protected:
     void clientMessage(const xcb_client_message_event_t &message) override;
     void otherEvent(const xcb_generic_event_t &event) override;
 
 private:
-    bool accepts_;
-    QByteArray wantedType_;
-    xcb_window_t source_ = noWindow;
-    QList<QByteArray> types_;
-    QList<QByteArray> actions_;
-    std::optional<QByteArray> data_;
-    int positions_ = 0;
+    bool m_accepts;
+    QByteArray m_wantedType;
+    xcb_window_t m_source = noWindow;
+    QList<QByteArray> m_types;
+    QList<QByteArray> m_actions;
+    std::optional<QByteArray> m_data;
+    int m_positions = 0;
 };
 
 template<class Condition>
