@@ -52,9 +52,14 @@ QtMainQueue::~QtMainQueue() = default;
 
 void QtMainQueue::async(Work work)
 {
-    const std::lock_guard lock(m_mutex);
-    m_waiting.push_back(std::move(work));
-    if (!std::exchange(m_isWoken, true))
+    bool isWoken = false;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_waiting.push_back(std::move(work));
+        isWoken = std::exchange(m_isWoken, true);
+    }
+    // Not under the lock: the main thread would wake up only to wait for it.
+    if (!isWoken)
         QCoreApplication::postEvent(this, new QEvent(wakeUp));
 }
 
@@ -91,13 +96,16 @@ void QtMainQueue::timerEvent(QTimerEvent *event)
 
 bool QtMainQueue::takeNext(Work &work)
 {
-    const std::lock_guard lock(m_mutex);
-    if (m_waiting.empty()) {
-        m_isWoken = false;
-        return false;
+    if (m_ready.empty()) {
+        const std::lock_guard lock(m_mutex);
+        m_ready.swap(m_waiting);
+        if (m_ready.empty()) {
+            m_isWoken = false;
+            return false;
+        }
     }
-    work = std::move(m_waiting.front());
-    m_waiting.pop_front();
+    work = std::move(m_ready.front());
+    m_ready.pop_front();
     return true;
 }
 

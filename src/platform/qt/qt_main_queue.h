@@ -38,6 +38,8 @@ private:
     void runSlice();
     bool takeNext(Work &work);
 
+    /// Taken over from what waits, all at once: the main thread seldom meets another at the lock.
+    std::deque<Work> m_ready;
     std::mutex m_mutex;
     std::deque<Work> m_waiting;
     /// A wake-up is on its way. Guarded by the mutex.

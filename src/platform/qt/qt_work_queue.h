@@ -6,8 +6,8 @@
 
 namespace corvane {
 
-/// A few threads of its own, which give way to everybody else and end when they have been idle for
-/// a while. Destroying it drops the work that has not begun and waits for the work that has.
+/// A few threads of its own, which end when they have been idle for a while. Destroying it drops
+/// the work that has not begun and waits for the work that has.
 class QtWorkQueue : public WorkQueue {
 public:
     /// Decoding is the heaviest work there is, and each thread may hold one decoded picture.

@@ -76,8 +76,12 @@ QUrl fileUrl(QByteArrayView rest)
     }
     if (!rest.startsWith('/'))
         return {};
-    if (isWellEncoded(rest))
-        return QUrl::fromEncoded("file://" + rest.toByteArray(), QUrl::TolerantMode);
+    if (isWellEncoded(rest)) {
+        QByteArray address;
+        address.reserve(rest.size() + 7);
+        address.append("file://").append(rest);
+        return QUrl::fromEncoded(address, QUrl::TolerantMode);
+    }
     const QByteArray path = percentDecoded(rest);
     return path.contains('\0') ? QUrl() : file_url::fromNativePath(path);
 }
