@@ -15,8 +15,13 @@ ScreenLocator::ScreenLocator(const Screens &screens, const Pointer &pointer)
 
 ScreenPointer ScreenLocator::activeScreen() const
 {
+    const auto screens = m_screens.screens();
+    // Asking for the pointer means waiting for the window system, and ten thousand thumbnails each
+    // have the shelf looked for.
+    if (screens.size() == 1)
+        return screens.front();
     if (const auto location = m_pointer.location()) {
-        for (const ScreenPointer &screen : m_screens.screens()) {
+        for (const ScreenPointer &screen : screens) {
             if (contains(screen->frame, *location))
                 return screen;
         }

@@ -117,12 +117,6 @@ void HUDController::layoutSettingChanged()
     render();
 }
 
-ScreenPointer HUDController::activeScreen() const
-{
-    const ScreenPointer screen = m_context.screenLocator.activeScreen();
-    return screen ? screen : m_context.screens.mainScreen();
-}
-
 ShelfSnapshot HUDController::makeSnapshot(const ScreenPointer &screen) const
 {
     const ScreenLocator::Notch notch = ScreenLocator::notch(screen);
@@ -142,7 +136,9 @@ ShelfSnapshot HUDController::makeSnapshot(const ScreenPointer &screen) const
 
 void HUDController::render()
 {
-    const ScreenPointer screen = activeScreen();
+    // Looked for once: where the pointer is has to be asked of the desktop.
+    const ScreenPointer active = m_context.screenLocator.activeScreen();
+    const ScreenPointer screen = active ? active : m_context.screens.mainScreen();
     const ShelfSnapshot snapshot = makeSnapshot(screen);
     const QSizeF size = m_shelf.preferredSize(snapshot);
     QRectF frame;
@@ -151,7 +147,7 @@ void HUDController::render()
         frame = {midX(screen->frame) - 0.5 * size.width(), maxY(screen->frame) - size.height(),
                  size.width(), size.height()};
         m_shelf.setRefreshRate(screen->refreshRate);
-        resizeWindow(frame);
+        resizeWindow(frame, active);
         m_panel.setIgnoresMouseEvents(false);
         m_panel.orderFrontRegardless();
     }
@@ -163,10 +159,9 @@ void HUDController::render()
         scheduleHide();
 }
 
-void HUDController::resizeWindow(const QRectF &target)
+void HUDController::resizeWindow(const QRectF &target, const ScreenPointer &active)
 {
     m_shrinkGeneration = checkedAdd<std::int64_t>(m_shrinkGeneration, 1);
-    const ScreenPointer active = m_context.screenLocator.activeScreen();
     const bool isSameScreen = m_lastScreen.lock() == active;
     m_lastScreen = active;
     if (!m_panel.isVisible() || !isSameScreen) {

@@ -58,10 +58,9 @@ private:
     void wireStore();
     void wireScreenChanges();
 
-    ScreenPointer activeScreen() const;
     ShelfSnapshot makeSnapshot(const ScreenPointer &screen) const;
     void render();
-    void resizeWindow(const QRectF &target);
+    void resizeWindow(const QRectF &target, const ScreenPointer &active);
     void scheduleHide();
     void scroll(int steps);
     void toggleViewAll();

@@ -138,9 +138,15 @@ void QtPanelWindow::updateRegions()
 
     QRegion bounding;
     if (m_body && !m_surface.isComposited()) {
-        const QSizeF pixels = m_frame.size() * m_canvas->devicePixelRatio();
-        bounding = outlineRegion(toPixels.map(m_outline),
-                                 {qRound(pixels.width()), qRound(pixels.height())});
+        const QSize pixels = (m_frame.size() * m_canvas->devicePixelRatio()).toSize();
+        const QPainterPath outline = toPixels.map(m_outline);
+        // Making it looks at every pixel, and most changes of the shelf leave its outline alone.
+        if (pixels != m_shapedSize || outline != m_shapedOutline) {
+            m_shapedSize = pixels;
+            m_shapedOutline = outline;
+            m_shape = outlineRegion(outline, pixels);
+        }
+        bounding = m_shape;
         // An empty region would mean the whole window: a pixel at the edge stands for nothing.
         if (bounding.isEmpty())
             bounding = QRect(0, 0, 1, 1);

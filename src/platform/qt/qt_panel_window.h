@@ -59,6 +59,10 @@ private:
     QPainterPath m_outline;
     std::optional<QRegion> m_inputRegion;
     std::optional<QRegion> m_boundingRegion;
+    /// The region of an outline, and what it was made from. In device pixels.
+    QRegion m_shape;
+    QPainterPath m_shapedOutline;
+    QSize m_shapedSize;
     bool m_isDragging = false;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };
