@@ -20,6 +20,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 
+#include <functional>
 #include <optional>
 
 namespace corvane::bench {
@@ -97,22 +98,18 @@ void paintFrame(QImage &pixels, PanelContent &content)
     content.paint(painter, panelSize, panelScale);
 }
 
-/// Six items change places with the drop target around them, over and over: body, ring and cells
-/// all move, in every frame.
-double animationFrame()
+/// The CPU time of a frame while six items on their shelf move; `change` sets them in motion anew.
+double animationFrame(const std::function<void(Shelf &)> &change)
 {
     Shelf shelf(6);
     for (std::size_t i = 0; i < 6; ++i)
         shelf.giveThumbnail(i);
     QImage pixels = panelPixels();
-    bool isReceptive = false;
     int frame = 0;
     return cpuTimeOf([&] {
-        constexpr int framesBetweenChanges = 8;
+        constexpr int framesBetweenChanges = 15;
         if (frame++ % framesBetweenChanges == 0) {
-            isReceptive = !isReceptive;
-            shelf.store.setDragInFlight(isReceptive);
-            shelf.store.publishItems();
+            change(shelf);
             shelf.desk.panel.setFrame({{0, 0}, QSizeF(panelSize)});
         }
         shelf.desk.clock.advance(1.0 / 60);
@@ -120,6 +117,24 @@ double animationFrame()
         shelf.desk.panel.frames.clear();
         shelf.desk.panel.log.clear();
     });
+}
+
+void slide(Shelf &shelf)
+{
+    shelf.store.toggleManually();
+}
+
+/// The body springs to another width, and its cells with it.
+void changeWidth(Shelf &shelf)
+{
+    shelf.settings.setInViewCount(11 - shelf.settings.inViewCount());
+}
+
+/// The same, and the dashed ring comes and goes.
+void becomeDropTarget(Shelf &shelf)
+{
+    shelf.store.setDragInFlight(!shelf.store.isDragInFlight());
+    shelf.store.publishItems();
 }
 
 double bareFill()
@@ -150,8 +165,12 @@ int main(int argc, char **argv)
     using namespace corvane::bench;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    print({"CPU of an animation frame, 560x136 at scale 2", bareFill() * 1000,
-           animationFrame() * 1000, "us", 4});
+    print({"CPU of a frame, 560x136 at scale 2, sliding", bareFill() * 1000,
+           animationFrame(slide) * 1000, "us", 4});
+    print({"CPU of a frame, changing its width", bareFill() * 1000,
+           animationFrame(changeWidth) * 1000, "us", 4});
+    print({"CPU of a frame, becoming a drop target", bareFill() * 1000,
+           animationFrame(becomeDropTarget) * 1000, "us", 4});
     print({"publishing a thumbnail, 10,000 items", publication(10) * 1000,
            publication(10'000) * 1000, "us", 2});
 }

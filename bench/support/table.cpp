@@ -78,10 +78,10 @@ double cpuTimeOf(const std::function<void()> &work)
     const int callsPerBatch = std::max(1, calls / 5);
     std::vector<double> times;
     for (int batch = 0; batch < batches; ++batch) {
-        const double start = threadTime();
+        const double start = processTime();
         for (int i = 0; i < callsPerBatch; ++i)
             work();
-        times.push_back((threadTime() - start) / callsPerBatch);
+        times.push_back((processTime() - start) / callsPerBatch);
     }
     return median(times);
 }

@@ -31,7 +31,8 @@ double now();
 double processTime();
 double threadTime();
 
-/// Milliseconds of CPU time that one call of `work` takes: the median of many batches.
+/// Milliseconds of CPU time that one call of `work` takes, on all threads: the median of many
+/// batches.
 double cpuTimeOf(const std::function<void()> &work);
 
 } // namespace corvane::bench

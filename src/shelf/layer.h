@@ -93,6 +93,7 @@ protected:
 private:
     friend class LayerTree;
 
+    bool onlyShifts() const { return m_moving.size() == 1 && m_moving.contains(Key::Transform); }
     /// False when nothing moves any more.
     bool dropFinishedMotions();
     QSizeF presentedBounds() const;

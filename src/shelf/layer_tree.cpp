@@ -41,8 +41,14 @@ bool LayerTree::allowsMotion() const
     return m_withoutMotion == 0 && !m_preference.reducesMotion();
 }
 
-void LayerTree::needsDisplay() const
+bool LayerTree::onlyShifts(const Layer &layer) const
 {
+    return m_moving.size() == 1 && m_moving.front() == &layer && layer.onlyShifts();
+}
+
+void LayerTree::needsDisplay()
+{
+    ++m_version;
     if (onNeedsDisplay)
         onNeedsDisplay();
 }
@@ -75,7 +81,8 @@ void LayerTree::frame()
     // What just ended still has to be painted where it came to rest.
     if (m_moving.empty())
         m_timer.reset();
-    needsDisplay();
+    if (onNeedsDisplay)
+        onNeedsDisplay();
 }
 
 } // namespace corvane

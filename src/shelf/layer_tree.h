@@ -2,6 +2,7 @@
 
 #include "platform/main_queue.h"
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <vector>
@@ -31,6 +32,10 @@ public:
     void setFrameInterval(double seconds);
     double frameTime() const { return m_frameTime; }
     bool isMoving() const { return m_timer != nullptr; }
+    /// Counts every change of what is painted, but not the frames of motions.
+    std::uint64_t version() const { return m_version; }
+    /// Whether a shift of this layer as a whole is all that moves.
+    bool onlyShifts(const Layer &layer) const;
 
     /// While one lives, changes apply at once.
     class WithoutMotion {
@@ -49,7 +54,7 @@ private:
 
     /// False while motions are off, for a moment or by the user's wish.
     bool allowsMotion() const;
-    void needsDisplay() const;
+    void needsDisplay();
     /// The time at which a motion that is made now starts.
     double motionStart();
     void startedMoving(Layer &layer);
@@ -60,6 +65,7 @@ private:
     const MotionPreference &m_preference;
     double m_frameInterval = 1.0 / 60;
     double m_frameTime = 0;
+    std::uint64_t m_version = 0;
     int m_withoutMotion = 0;
     std::vector<Layer *> m_moving;
     std::unique_ptr<MainQueue::Timer> m_timer;

@@ -1,6 +1,7 @@
 #include "shelf/shelf_layers.h"
 
 #include "platform/geometry.h"
+#include "shelf/drawing.h"
 #include "shelf/layer_animator.h"
 #include "shelf/pill_path.h"
 #include "shelf/stroke_icon.h"
@@ -132,6 +133,37 @@ void ShelfLayers::apply(const ShelfLook &look)
     }
     m_body.setTransform({0, look.snapshot.state == ShelfState::Idle ? height : 0});
     m_body.setMovesBeforePainted();
+}
+
+void ShelfLayers::paint(QPainter &painter, double scale)
+{
+    if (m_tree.onlyShifts(m_body)) {
+        paintShifted(painter, scale);
+        return;
+    }
+    m_picture = {};
+    m_body.render(painter, scale);
+}
+
+/// Nothing on the body changes while it slides: it is painted once, and then put where it belongs.
+void ShelfLayers::paintShifted(QPainter &painter, double scale)
+{
+    // The edge line lies half outside.
+    constexpr double margin = 1;
+    const QPointF corner = m_body.presentedFrame().topLeft() - QPointF(margin, margin);
+    if (m_picture.isNull() || m_pictureVersion != m_tree.version() || m_pictureScale != scale) {
+        const QSizeF size = m_body.bounds() + QSizeF(2 * margin, 2 * margin);
+        m_picture = transparentBitmap(size, scale);
+        m_pictureScale = scale;
+        m_pictureVersion = m_tree.version();
+        QPainter picture(&m_picture);
+        picture.setRenderHint(QPainter::Antialiasing);
+        picture.translate(0, size.height());
+        picture.scale(1, -1);
+        picture.translate(-corner);
+        m_body.render(picture, scale);
+    }
+    drawOnPixels(painter, m_picture, corner);
 }
 
 void ShelfLayers::syncCellCount(std::size_t count)

@@ -7,9 +7,11 @@
 #include "shelf/shelf_layout.h"
 #include "shelf/text_layer.h"
 
+#include <QImage>
 #include <QUuid>
 
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -40,13 +42,14 @@ public:
     /// Puts everything where the look has it, and slides the body down from the screen's edge or up
     /// behind it. What is out of sight is laid out at once: only the slide is seen.
     void apply(const ShelfLook &look);
-    void paint(QPainter &painter, double scale) const { m_body.render(painter, scale); }
+    void paint(QPainter &painter, double scale);
 
     /// The body's outline as it is painted now.
     QPainterPath presentedOutline() const;
     std::size_t cellCount() const { return m_cells.size(); }
 
 private:
+    void paintShifted(QPainter &painter, double scale);
     /// Out of sight, and staying there.
     bool isAway() const;
     void syncCellCount(std::size_t count);
@@ -93,6 +96,10 @@ private:
     BitmapLayer m_viewAllButton;
     TextLayer m_flash;
     ShapeLayer m_hairline;
+    /// The whole body while it slides, and what it was made from.
+    QImage m_picture;
+    double m_pictureScale = 0;
+    std::uint64_t m_pictureVersion = 0;
     // After the layers that contain them.
     std::vector<std::unique_ptr<ShelfCell>> m_cells;
 };
