@@ -54,7 +54,8 @@ public:
     const QList<DropItem> &items() const { return m_items; }
     void setItems(QList<DropItem> items);
 
-    /// Where the item is, none when it is not on the shelf (any more). Costs the same for any number.
+    /// Where the item is, none when it is not on the shelf (any more). Costs the same for any
+    /// number.
     std::optional<int> indexOf(const QUuid &id) const { return m_index.indexOf(id, m_items); }
 
     int focusedIndex() const { return m_focusedIndex; }
