@@ -1,19 +1,8 @@
 #include "app/app_delegate.h"
 #include "app/app_info.h"
-#include "core/feedback.h"
-#include "core/quick_actions.h"
-#include "core/settings.h"
-#include "core/shelf_store.h"
 #include "fakes/fake_drag_desktop.h"
-#include "fakes/fake_general_pasteboard.h"
-#include "fakes/fake_login_items.h"
-#include "fakes/fake_pointer.h"
-#include "fakes/fake_screens.h"
-#include "fakes/memory_user_defaults.h"
-#include "fakes/recording_item_loading.h"
-#include "fakes/shelf_desk.h"
+#include "fakes/shelf_model.h"
 #include "input/drag_monitor.h"
-#include "input/screen_locator.h"
 
 #include <QDir>
 #include <QJsonObject>
@@ -24,17 +13,12 @@ namespace corvane::test {
 
 namespace {
 
-class AppDelegateTest : public testing::Test {
+class AppDelegateTest : public testing::Test, protected ShelfModel {
 protected:
     AppDelegateTest()
     {
-        screens.attach(QRectF(0, 0, 1512, 982));
-        delegate.emplace(AppDelegate::Context{
-            monitor,
-            settings,
-            store,
-            desk.spool,
-            {desk.context(), store, settings, feedback, screens, locator, quickActions}});
+        delegate.emplace(
+            AppDelegate::Context{monitor, settings, store, desk.spool, controllerContext()});
         delegate->applicationDidFinishLaunching();
         store.observeState([this](ShelfState from, ShelfState to) {
             log << QStringLiteral("state %1 %2")
@@ -57,19 +41,6 @@ protected:
         desk.clock.advance(DragMonitor::pollInterval + DragMonitor::settleDelay + 0.001);
     }
 
-    ShelfDesk desk;
-    MemoryUserDefaults defaults;
-    FakeLoginItems loginItems;
-    Settings settings{defaults, loginItems};
-    Feedback feedback;
-    RecordingThumbnails thumbnails;
-    RecordingLinkPreviews linkPreviews;
-    ShelfStore store{settings, desk.spool, thumbnails, linkPreviews, feedback};
-    FakeScreens screens;
-    FakePointer pointer;
-    ScreenLocator locator{screens, pointer};
-    FakeGeneralPasteboard clipboard;
-    QuickActions quickActions{clipboard, feedback};
     FakeDragDesktop desktop;
     DragMonitor monitor{desktop, desktop, desktop, desk.clock};
     std::optional<AppDelegate> delegate;

@@ -1,17 +1,5 @@
-#include "core/feedback.h"
-#include "core/quick_actions.h"
-#include "core/settings.h"
-#include "core/shelf_store.h"
-#include "fakes/fake_general_pasteboard.h"
-#include "fakes/fake_login_items.h"
-#include "fakes/fake_pointer.h"
-#include "fakes/fake_screens.h"
-#include "fakes/memory_user_defaults.h"
-#include "fakes/recording_item_loading.h"
-#include "fakes/shelf_desk.h"
-#include "input/screen_locator.h"
+#include "fakes/shelf_model.h"
 #include "platform/geometry.h"
-#include "shelf/hud_controller.h"
 #include "shelf/item_presenter.h"
 #include "shelf/view_all_bar.h"
 
@@ -42,12 +30,11 @@ struct RecordingViewAllBar : ViewAllBar {
     std::vector<QSizeF> sizesSeen;
 };
 
-class HUDControllerTest : public testing::Test {
+class HUDControllerTest : public testing::Test, protected ShelfModel {
 protected:
     HUDControllerTest()
     {
         settings.registerDefaults();
-        screen = screens.attach(QRectF(0, 0, 1512, 982));
         pointer.position = QPointF(700, 900);
         controller.emplace(context());
         bar.shelf = &controller->shelf();
@@ -55,8 +42,10 @@ protected:
 
     HUDController::Context context()
     {
-        return {desk.context(), store,        settings,   feedback, screens,
-                locator,        quickActions, &presenter, &bar};
+        HUDController::Context context = controllerContext();
+        context.presenter = &presenter;
+        context.viewAll = &bar;
+        return context;
     }
 
     void accept(int count)
@@ -71,20 +60,6 @@ protected:
     QRectF frame() const { return desk.panel.frame(); }
     void settle() { desk.clock.advance(3); }
 
-    ShelfDesk desk;
-    MemoryUserDefaults defaults;
-    FakeLoginItems loginItems;
-    Settings settings{defaults, loginItems};
-    Feedback feedback;
-    RecordingThumbnails thumbnails;
-    RecordingLinkPreviews linkPreviews;
-    ShelfStore store{settings, desk.spool, thumbnails, linkPreviews, feedback};
-    FakeScreens screens;
-    std::shared_ptr<Screen> screen;
-    FakePointer pointer;
-    ScreenLocator locator{screens, pointer};
-    FakeGeneralPasteboard clipboard;
-    QuickActions quickActions{clipboard, feedback};
     RecordingPresenter presenter;
     RecordingViewAllBar bar;
     std::optional<HUDController> controller;

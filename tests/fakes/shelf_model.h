@@ -1,0 +1,44 @@
+#pragma once
+
+#include "core/feedback.h"
+#include "core/quick_actions.h"
+#include "core/settings.h"
+#include "core/shelf_store.h"
+#include "fakes/fake_general_pasteboard.h"
+#include "fakes/fake_login_items.h"
+#include "fakes/fake_pointer.h"
+#include "fakes/fake_screens.h"
+#include "fakes/memory_user_defaults.h"
+#include "fakes/recording_item_loading.h"
+#include "fakes/shelf_desk.h"
+#include "input/screen_locator.h"
+#include "shelf/hud_controller.h"
+
+#include <memory>
+
+namespace corvane::test {
+
+/// A desk with a real model on it and one screen: what a shelf's controller is given.
+struct ShelfModel {
+    HUDController::Context controllerContext()
+    {
+        return {desk.context(), store, settings, feedback, screens, locator, quickActions};
+    }
+
+    ShelfDesk desk;
+    MemoryUserDefaults defaults;
+    FakeLoginItems loginItems;
+    Settings settings{defaults, loginItems};
+    Feedback feedback;
+    RecordingThumbnails thumbnails;
+    RecordingLinkPreviews linkPreviews;
+    ShelfStore store{settings, desk.spool, thumbnails, linkPreviews, feedback};
+    FakeScreens screens;
+    std::shared_ptr<Screen> screen = screens.attach(QRectF(0, 0, 1512, 982));
+    FakePointer pointer;
+    ScreenLocator locator{screens, pointer};
+    FakeGeneralPasteboard clipboard;
+    QuickActions quickActions{clipboard, feedback};
+};
+
+} // namespace corvane::test
