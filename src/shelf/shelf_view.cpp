@@ -104,9 +104,12 @@ void ShelfView::paint(QPainter &painter, QSizeF size, double scale)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(size.width() / 2, size.height());
     m_layers.paint(painter, scale);
-    // Where windows are not blended the panel is cut to what was just painted.
-    if (m_tree.isMoving())
+    // Where windows are not blended the panel is cut to what was just painted; once more when that
+    // has come to rest.
+    const bool isMoving = m_tree.isMoving();
+    if (isMoving || m_wasMoving)
         updateBody();
+    m_wasMoving = isMoving;
 }
 
 void ShelfView::flash(const QString &message)

@@ -113,6 +113,7 @@ private:
     ShelfLayers m_layers;
     ShelfLook m_look;
     double m_scale = 1;
+    bool m_wasMoving = false;
     /// Where the pointer is over the panel, from its top centre, which stays when the panel
     /// resizes.
     std::optional<QPointF> m_pointer;

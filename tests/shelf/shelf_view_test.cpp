@@ -109,6 +109,20 @@ TEST_F(ShelfViewTest, SlidesDownWhenItOpensAndUpWhenItCloses)
     EXPECT_EQ(ShelfDesk::paint(view, desk.panel).pixelColor(100, 20).alpha(), 0);
 }
 
+TEST_F(ShelfViewTest, ThePanelIsCutToWhereTheShelfComesToRest)
+{
+    show(holding(1, 1));
+    view.apply({});
+    desk.clock.advance(2);
+    ShelfDesk::paint(view, desk.panel);
+    view.apply(holding(1, 1));
+    for (int frame = 0; frame < 60; ++frame) {
+        desk.clock.advance(1.0 / 60);
+        ShelfDesk::paint(view, desk.panel);
+    }
+    EXPECT_EQ(desk.panel.outline.boundingRect(), desk.panel.body);
+}
+
 TEST_F(ShelfViewTest, OpensInItsNewShapeAndOnlySlides)
 {
     show(holding(5, 3));
