@@ -44,48 +44,32 @@ Spring::Course Spring::after(double seconds) const
             {envelope * t, envelope * (1 - frequency * t)}};
 }
 
-namespace {
-
-double findSettlingDuration(const Spring &spring)
-{
-    const Spring::State start{1, 0};
-    // The envelope tells from when on it is surely settled; the last crossing lies before that.
-    const double frequency = std::sqrt(spring.stiffness / spring.mass);
-    const double ratio = spring.damping / (2 * std::sqrt(spring.stiffness * spring.mass));
-    const auto isSettledAt = [&](double time) {
-        return std::abs(spring.after(time, start).distance) <= Spring::settledDistance;
-    };
-    double end = 1 / frequency;
-    while (true) {
-        const double step = 0.05 / frequency;
-        bool settled = true;
-        // A look ahead over one whole oscillation at least.
-        for (double ahead = 0; ahead < 8 / frequency; ahead += step)
-            settled = settled && isSettledAt(end + ahead);
-        if (settled || end * frequency > 1e6 || ratio <= 0)
-            break;
-        end += step;
-    }
-    double before = std::fmax(0.0, end - 0.05 / frequency);
-    for (int i = 0; i < 60; ++i) {
-        const double middle = (before + end) / 2;
-        (isSettledAt(middle) ? end : before) = middle;
-    }
-    return end;
-}
-
-} // namespace
-
 double Spring::settlingDuration() const
 {
-    // Asked for with every change that moves, always of the theme's spring.
-    thread_local Spring last;
-    thread_local double duration = findSettlingDuration(last);
-    if (*this != last) {
-        duration = findSettlingDuration(*this);
-        last = *this;
+    const double frequency = std::sqrt(stiffness / mass);
+    const double ratio = damping / (2 * std::sqrt(stiffness * mass));
+    if (ratio <= 0)
+        return std::numeric_limits<double>::infinity();
+    const auto isSettled = [this](double time) {
+        return std::abs(after(time, {1, 0}).distance) <= settledDistance;
+    };
+    // By then even the slowest part of the motion has died away, many times over.
+    const double slowest
+        = ratio > 1 ? frequency * (ratio - std::sqrt(ratio * ratio - 1)) : ratio * frequency;
+    const double horizon = 20 / slowest;
+    // Fine enough to see every swing; the last unsettled sample brackets the moment.
+    const double step = 0.02 / frequency;
+    auto last = static_cast<long>(horizon / step);
+    while (last > 0 && isSettled(static_cast<double>(last) * step))
+        --last;
+    double before = static_cast<double>(last) * step;
+    double end = before + step;
+    constexpr int halvings = 60;
+    for (int i = 0; i < halvings; ++i) {
+        const double middle = (before + end) / 2;
+        (isSettled(middle) ? end : before) = middle;
     }
-    return duration;
+    return end;
 }
 
 } // namespace corvane
