@@ -33,11 +33,12 @@ bool isFileManager(const WindowFacts &window)
 QRect findView(const QImage &window)
 {
     const QRgb white = qRgb(255, 255, 255);
+    // Near the right edge, where no icon stands however narrow the fonts make their columns.
     const int column = window.width() - 40;
     int top = -1;
     for (int y = 0; y < window.height(); ++y) {
         const bool isWhite
-            = window.pixel(column, y) == white && window.pixel(column / 2, y) == white;
+            = window.pixel(column, y) == white && window.pixel(column - 30, y) == white;
         if (isWhite && top < 0)
             top = y;
         if (!isWhite && top >= 0) {
