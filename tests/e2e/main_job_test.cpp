@@ -22,6 +22,14 @@ QByteArray bytesOf(const QString &path)
 
 class MainJob : public EveryDesktop {
 protected:
+    /// Ends a drag that is over the target.
+    void dropOn(XdndTarget &target)
+    {
+        hands().aim(target.frame().center());
+        target.pump();
+        hands().release();
+    }
+
     void dragFromFileManager(const FileManager &files)
     {
         hands().beginDrag(files.firstFile(), QPoint(756, 0));
@@ -155,9 +163,7 @@ TEST_P(MainJob, whatIsDraggedOutIsOfferedForCopyingAndLinkingOnly)
     ASSERT_TRUE(target.pumpUntil([&] { return target.isHovered(); }));
     EXPECT_THAT(target.offeredActions(), testing::Not(testing::Contains("XdndActionMove")));
     EXPECT_THAT(target.offeredActions(), testing::Contains("XdndActionCopy"));
-    hands().aim(target.frame().center());
-    target.pump();
-    hands().release();
+    dropOn(target);
     ASSERT_TRUE(target.pumpUntil([&] { return target.hasDrop(); }));
     EXPECT_EQ(target.data().trimmed(), uriList({file}).trimmed());
     EXPECT_TRUE(corvane().waitUntilHidden());
@@ -174,9 +180,7 @@ TEST_P(MainJob, shiftAtTheEndOfADragOutKeepsTheItem)
     dragOutTo(target.frame().center());
     ASSERT_TRUE(target.pumpUntil([&] { return target.isHovered(); }));
     hands().keyDown(keys::shift);
-    hands().aim(target.frame().center());
-    target.pump();
-    hands().release();
+    dropOn(target);
     ASSERT_TRUE(target.pumpUntil([&] { return target.hasDrop(); }));
     // The drag is over for the shelf once it takes clicks again and can be dragged from once more.
     EXPECT_TRUE(corvane().waitForSize(before));
@@ -185,9 +189,7 @@ TEST_P(MainJob, shiftAtTheEndOfADragOutKeepsTheItem)
     XdndTarget second(m_desktop, QRect(300, 400, 200, 200), true, "text/uri-list");
     dragOutTo(second.frame().center());
     ASSERT_TRUE(second.pumpUntil([&] { return second.isHovered(); }));
-    hands().aim(second.frame().center());
-    second.pump();
-    hands().release();
+    dropOn(second);
     EXPECT_TRUE(second.pumpUntil([&] { return second.hasDrop(); }));
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
@@ -221,9 +223,7 @@ TEST_P(MainJob, aTargetThatRefusesLeavesTheItemOnTheShelf)
 
     dragOutTo(target.frame().center());
     ASSERT_TRUE(target.pumpUntil([&] { return target.isHovered(); }));
-    hands().aim(target.frame().center());
-    target.pump();
-    hands().release();
+    dropOn(target);
     EXPECT_TRUE(corvane().waitForSize(before));
 
     // Nor does the bare desktop take anything.
