@@ -1,6 +1,7 @@
 #include "shelf/hud_controller.h"
 
 #include "core/feedback.h"
+#include "core/item_presenter.h"
 #include "core/quick_actions.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
@@ -8,7 +9,6 @@
 #include "platform/checked_math.h"
 #include "platform/geometry.h"
 #include "platform/main_queue.h"
-#include "shelf/item_presenter.h"
 #include "shelf/theme.h"
 #include "shelf/view_all_bar.h"
 

@@ -1,8 +1,8 @@
 #include "shelf/shelf_layout.h"
 
+#include "core/display_text.h"
 #include "platform/geometry.h"
 #include "platform/text_measurer.h"
-#include "shelf/display_text.h"
 #include "shelf/pill_path.h"
 #include "shelf/theme.h"
 

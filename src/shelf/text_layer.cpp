@@ -1,6 +1,6 @@
 #include "shelf/text_layer.h"
 
-#include "shelf/display_text.h"
+#include "core/display_text.h"
 #include "shelf/drawing.h"
 
 #include <QFontMetricsF>

@@ -1,5 +1,5 @@
+#include "core/display_text.h"
 #include "shelf/checkbox_renderer.h"
-#include "shelf/display_text.h"
 #include "shelf/drawing.h"
 #include "shelf/phosphor_icon_drawing.h"
 #include "shelf/stroke_icon.h"

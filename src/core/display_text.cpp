@@ -1,4 +1,4 @@
-#include "shelf/display_text.h"
+#include "core/display_text.h"
 
 namespace corvane {
 
