@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/preview_panel.h"
+
+#include <QStringList>
+
+#include <utility>
+
+namespace corvane::test {
+
+/// A preview panel that shows nothing and keeps a log of what it was told.
+class FakePreviewPanel : public PreviewPanel {
+public:
+    void setController(PreviewPanelController *controller) override
+    {
+        if (!controller)
+            orderOut();
+        m_controller = controller;
+    }
+    bool isVisible() const override { return m_isVisible; }
+    void orderOut() override
+    {
+        log << QStringLiteral("orderOut");
+        if (std::exchange(m_isVisible, false) && m_controller)
+            m_controller->endPreviewPanelControl(*this);
+    }
+    void makeKeyAndOrderFront() override
+    {
+        log << QStringLiteral("orderFront");
+        if (m_isVisible || (m_controller && !m_controller->acceptsPreviewPanelControl(*this)))
+            return;
+        m_isVisible = true;
+        if (m_controller)
+            m_controller->beginPreviewPanelControl(*this);
+    }
+    PreviewPanelDataSource *dataSource() const override { return m_dataSource; }
+    void setDataSource(PreviewPanelDataSource *dataSource) override { m_dataSource = dataSource; }
+    void reloadData() override
+    {
+        log << QStringLiteral("reload");
+        shown = m_dataSource && m_dataSource->numberOfPreviewItems() > 0
+            ? m_dataSource->previewItemAt(0)
+            : std::nullopt;
+    }
+
+    QStringList log;
+    /// What it would show since the last reload.
+    std::optional<QUrl> shown;
+
+private:
+    PreviewPanelController *m_controller = nullptr;
+    PreviewPanelDataSource *m_dataSource = nullptr;
+    bool m_isVisible = false;
+};
+
+} // namespace corvane::test

@@ -1,0 +1,178 @@
+#include "core/drop_item.h"
+#include "core/temporary_spool.h"
+#include "fakes/fake_preview_panel.h"
+#include "services/quick_look_presenter.h"
+
+#include <QRegularExpression>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace corvane::test {
+namespace {
+
+DropItem itemOf(DropItem::Payload payload)
+{
+    return {std::move(payload), QStringLiteral("title"), {}, false};
+}
+
+DropItem text(const QString &string)
+{
+    return itemOf(DropItem::Text{string});
+}
+
+DropItem image(const UTType &type)
+{
+    return itemOf(DropItem::ImageBytes{QByteArrayLiteral("pixels"), type});
+}
+
+struct QuickLookPresenterTest : testing::Test {
+    QStringList scratchFiles() const
+    {
+        return QDir(folder.directory.path()).entryList(QDir::Files | QDir::Hidden);
+    }
+
+    TemporaryFolder folder;
+    FakePreviewPanel panel;
+    std::optional<QuickLookPresenter> presenter{std::in_place, panel, folder.path()};
+};
+
+TEST_F(QuickLookPresenterTest, HasNothingToShowAtFirst)
+{
+    EXPECT_EQ(presenter->numberOfPreviewItems(), 0);
+    EXPECT_FALSE(presenter->previewItemAt(0).has_value());
+    EXPECT_FALSE(presenter->scratchURL().has_value());
+}
+
+TEST_F(QuickLookPresenterTest, ShowsAFileItselfAndWritesNothing)
+{
+    const QUrl url(QStringLiteral("file:///home/a%FFb.txt"));
+    presenter->present(itemOf(DropItem::File{url}));
+    EXPECT_EQ(presenter->previewURL(), url);
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_TRUE(scratchFiles().isEmpty());
+}
+
+TEST_F(QuickLookPresenterTest, GivesTheOneAddressForAnyIndex)
+{
+    const QUrl url(QStringLiteral("file:///home/a.txt"));
+    presenter->present(itemOf(DropItem::File{url}));
+    EXPECT_EQ(presenter->numberOfPreviewItems(), 1);
+    for (const int index : {-1, 0, 1, 4711})
+        EXPECT_EQ(presenter->previewItemAt(index), url);
+}
+
+TEST_F(QuickLookPresenterTest, NamesAScratchFileByAUuidWithoutBraces)
+{
+    presenter->present(text(QStringLiteral("é")));
+    ASSERT_EQ(scratchFiles().size(), 1);
+    static const QRegularExpression shape(QStringLiteral(
+        "^Corvane-Preview-[0-9A-F]{8}-[0-9A-F]{4}-4[0-9A-F]{3}-[0-9A-F]{4}-[0-9A-F]{12}\\.txt$"));
+    EXPECT_TRUE(shape.match(scratchFiles().constFirst()).hasMatch())
+        << scratchFiles().constFirst().toStdString();
+    EXPECT_EQ(presenter->previewURL(), presenter->scratchURL());
+    EXPECT_EQ(contents(*presenter->scratchURL()), QByteArray("\xC3\xA9"));
+}
+
+TEST_F(QuickLookPresenterTest, LetsNobodyElseReadAScratchFile)
+{
+    presenter->present(text(QStringLiteral("secret")));
+    struct stat status = {};
+    ASSERT_EQ(::stat(file_url::nativePath(*presenter->scratchURL()).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0600U);
+}
+
+TEST_F(QuickLookPresenterTest, WritesALinkAsALineOfText)
+{
+    presenter->present(itemOf(DropItem::Link{QUrl(QStringLiteral("https://example.org/a b?ü"))}));
+    ASSERT_TRUE(presenter->scratchURL().has_value());
+    EXPECT_EQ(contents(*presenter->scratchURL()), "https://example.org/a%20b?%C3%BC");
+    EXPECT_TRUE(scratchFiles().constFirst().endsWith(QLatin1String(".txt")));
+}
+
+TEST_F(QuickLookPresenterTest, WritesAPictureWithItsTypesExtension)
+{
+    presenter->present(image(UTType::png()));
+    EXPECT_TRUE(scratchFiles().constFirst().endsWith(QLatin1String(".png")));
+    EXPECT_EQ(contents(*presenter->scratchURL()), "pixels");
+    presenter->present(image(UTType(QStringLiteral("image/webp"))));
+    EXPECT_TRUE(scratchFiles().constFirst().endsWith(QLatin1String(".webp")));
+}
+
+TEST_F(QuickLookPresenterTest, WritesAPictureOfATypeWithoutExtensionAsPng)
+{
+    presenter->present(image(UTType(QStringLiteral("image/x-nobody-knows"))));
+    EXPECT_TRUE(scratchFiles().constFirst().endsWith(QLatin1String(".png")));
+    presenter->present(image(UTType()));
+    EXPECT_TRUE(scratchFiles().constFirst().endsWith(QLatin1String(".png")));
+}
+
+TEST_F(QuickLookPresenterTest, KeepsOnlyTheSecondOfTwoScratchFiles)
+{
+    presenter->present(text(QStringLiteral("one")));
+    const auto first = presenter->scratchURL();
+    presenter->present(text(QStringLiteral("two")));
+    EXPECT_FALSE(exists(*first));
+    EXPECT_EQ(scratchFiles().size(), 1);
+    EXPECT_EQ(contents(*presenter->scratchURL()), "two");
+}
+
+TEST_F(QuickLookPresenterTest, HidesAVisiblePanelAndStillReplacesAddressAndScratchFile)
+{
+    presenter->present(text(QStringLiteral("one")));
+    const auto first = presenter->previewURL();
+    presenter->present(text(QStringLiteral("two")));
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_EQ(panel.log, (QStringList{QStringLiteral("orderFront"), QStringLiteral("orderOut")}));
+    EXPECT_NE(presenter->previewURL(), first);
+    EXPECT_EQ(contents(*presenter->previewURL()), "two");
+    EXPECT_FALSE(exists(*first));
+}
+
+TEST_F(QuickLookPresenterTest, DiscardsTheScratchFileEvenWhenAFileFollows)
+{
+    presenter->present(text(QStringLiteral("one")));
+    presenter->present(itemOf(DropItem::File{QUrl(QStringLiteral("file:///home/a.txt"))}));
+    EXPECT_TRUE(scratchFiles().isEmpty());
+    EXPECT_FALSE(presenter->scratchURL().has_value());
+}
+
+TEST_F(QuickLookPresenterTest, DiscardsAScratchFileOnce)
+{
+    presenter->present(text(QStringLiteral("one")));
+    const QUrl url = *presenter->scratchURL();
+    presenter->discardScratch();
+    EXPECT_FALSE(exists(url));
+    EXPECT_FALSE(presenter->scratchURL().has_value());
+    EXPECT_EQ(presenter->previewURL(), url) << "it stays what was presented last";
+    folder.write(file_url::lastPathComponent(url).toUtf8(), "somebody else's");
+    presenter->discardScratch();
+    EXPECT_TRUE(exists(url));
+}
+
+TEST_F(QuickLookPresenterTest, IgnoresAScratchFileThatIsGoneAlready)
+{
+    presenter->present(text(QStringLiteral("one")));
+    ASSERT_TRUE(QFile::remove(presenter->scratchURL()->toLocalFile()));
+    presenter->discardScratch();
+    EXPECT_FALSE(presenter->scratchURL().has_value());
+}
+
+TEST_F(QuickLookPresenterTest, ShowsNothingWhereNothingCanBeWritten)
+{
+    QuickLookPresenter homeless(panel, "/nowhere/at/all");
+    homeless.present(text(QStringLiteral("one")));
+    EXPECT_TRUE(panel.log.isEmpty());
+    EXPECT_FALSE(homeless.previewURL().has_value());
+    EXPECT_FALSE(homeless.scratchURL().has_value());
+}
+
+TEST_F(QuickLookPresenterTest, LeavesNoScratchFileBehindAtItsEnd)
+{
+    presenter->present(text(QStringLiteral("one")));
+    presenter.reset();
+    EXPECT_TRUE(scratchFiles().isEmpty());
+}
+
+} // namespace
+} // namespace corvane::test
