@@ -1,9 +1,23 @@
 // Entry of the test programs that need no display: a user's home of their own, and Qt off screen.
 
+#ifdef QT_WIDGETS_LIB
+#include <QApplication>
+#endif
 #include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+namespace {
+
+// What links widgets tests them too.
+#ifdef QT_WIDGETS_LIB
+using Application = QApplication;
+#else
+using Application = QGuiApplication;
+#endif
+
+} // namespace
 
 int main(int argc, char **argv)
 {
@@ -17,6 +31,6 @@ int main(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
 
-    const QGuiApplication application(argc, argv);
+    const Application application(argc, argv);
     return RUN_ALL_TESTS();
 }
