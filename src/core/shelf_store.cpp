@@ -215,6 +215,14 @@ void ShelfStore::dragEnded()
     m_isDragInFlight = false;
     if (m_state == ShelfState::Expanded)
         setState(m_items.isEmpty() ? ShelfState::Idle : ShelfState::Occupied);
+void ShelfStore::toggleViewAll()
+{
+    if (!m_isViewAllOpen && m_items.size() < 2)
+        return;
+    m_isViewAllOpen = !m_isViewAllOpen;
+    publishItems();
+}
+
     else
         publishItems();
 }

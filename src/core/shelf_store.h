@@ -95,6 +95,9 @@ public:
     void toggleSelectAll();
     /// Opens or closes the shelf for the user.
     void toggleManually();
+    /// Opens or closes the view-all bar for the user, and publishes. A closed one stays closed, and
+    /// nothing is published, with fewer than two items: it is not offered for a single one.
+    void toggleViewAll();
     /// The drag in flight ended, somewhere.
     void dragEnded();
 

@@ -68,7 +68,7 @@ void HUDController::wireShelf()
         if (const auto item = m_store.focusedItem())
             m_context.quickActions.copy(*item, modifiers.testFlag(Modifier::Option));
     };
-    m_shelf.onViewAll = [this] { toggleViewAll(); };
+    m_shelf.onViewAll = [this] { m_store.toggleViewAll(); };
     m_shelf.onDragOutChanged = [this](bool isDraggingOut) {
         if (m_store.isOwnDrag() == isDraggingOut)
             return;
@@ -203,14 +203,6 @@ void HUDController::scroll(int steps)
     if (offset == m_store.scrollOffset())
         return;
     m_store.setScrollOffset(offset);
-    m_store.publishItems();
-}
-
-void HUDController::toggleViewAll()
-{
-    if (!m_store.isViewAllOpen() && m_store.items().size() < 2)
-        return;
-    m_store.setViewAllOpen(!m_store.isViewAllOpen());
     m_store.publishItems();
 }
 

@@ -63,7 +63,6 @@ private:
     void resizeWindow(const QRectF &target, const ScreenPointer &active);
     void scheduleHide();
     void scroll(int steps);
-    void toggleViewAll();
     void layoutSettingChanged();
 
     Context m_context;

@@ -422,6 +422,38 @@ TEST_F(ToggleManually, FromExpandedWithItemsGivesOccupied)
     EXPECT_EQ(store.state(), ShelfState::Occupied);
 }
 
+using ToggleViewAll = ShelfStoreTest;
+
+TEST_F(ToggleViewAll, OpensAndClosesTheBarAndPublishes)
+{
+    fill(2);
+    log.clear();
+    store.toggleViewAll();
+    EXPECT_TRUE(store.isViewAllOpen());
+    store.toggleViewAll();
+    EXPECT_FALSE(store.isViewAllOpen());
+    EXPECT_EQ(log.size(), 2);
+}
+
+TEST_F(ToggleViewAll, IsNotOfferedForASingleItem)
+{
+    fill(1);
+    log.clear();
+    store.toggleViewAll();
+    EXPECT_FALSE(store.isViewAllOpen());
+    EXPECT_TRUE(log.isEmpty());
+}
+
+TEST_F(ToggleViewAll, ClosesAnOpenBarWhateverTheNumberOfItems)
+{
+    fill(1);
+    store.setViewAllOpen(true);
+    log.clear();
+    store.toggleViewAll();
+    EXPECT_FALSE(store.isViewAllOpen());
+    EXPECT_EQ(log.size(), 1);
+}
+
 using DragEnded = ShelfStoreTest;
 
 TEST_F(DragEnded, ClosesAnEmptyShelfThatIsOpenAlsoByHand)
