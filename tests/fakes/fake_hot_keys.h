@@ -1,0 +1,97 @@
+#pragma once
+
+#include "platform/hot_key_service.h"
+
+#include <map>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace corvane::test {
+
+/// A desktop's hot keys. Its verbs are the user's and the other programs'.
+class FakeHotKeys : public HotKeyService {
+public:
+    using Combination = std::pair<std::uint32_t, std::uint32_t>;
+
+    std::optional<HandlerRef> installHandler(Handler onPressed) override
+    {
+        if (refusesHandler)
+            return std::nullopt;
+        m_handlers.push_back(std::move(onPressed));
+        return static_cast<HandlerRef>(m_handlers.size());
+    }
+    std::optional<Handle> registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers,
+                                         const HotKeyIdentifier &identifier) override
+    {
+        const Combination wanted = {keyCode, modifiers};
+        constexpr std::uint32_t known = 256 | 512 | 2048 | 4096;
+        if (keyCode > 127 || (modifiers & ~known) != 0 || takenByOthers.contains(wanted)
+            || isRegistered(wanted))
+            return std::nullopt;
+        m_registered.emplace(m_nextHandle, Registration{wanted, identifier});
+        return m_nextHandle++;
+    }
+    void unregisterHotKey(Handle handle) override
+    {
+        if (m_registered.erase(handle) > 0)
+            ++unregistrations;
+    }
+    std::unique_ptr<Suspension> suspend() override { return std::make_unique<Counted>(*this); }
+
+    /// Whether the press was for us.
+    bool press(std::uint32_t keyCode, std::uint32_t modifiers)
+    {
+        if (suspensions > 0)
+            return false;
+        for (const auto &[handle, registration] : m_registered) {
+            if (registration.combination != Combination{keyCode, modifiers})
+                continue;
+            pressed(registration.identifier);
+            return true;
+        }
+        return false;
+    }
+    void pressed(const std::optional<HotKeyIdentifier> &identifier)
+    {
+        // A copy: a handler may unregister what it came from.
+        for (const Handler &handler : std::vector(m_handlers))
+            handler(identifier);
+    }
+    bool isRegistered(const Combination &combination) const
+    {
+        for (const auto &[handle, registration] : m_registered) {
+            if (registration.combination == combination)
+                return true;
+        }
+        return false;
+    }
+    std::size_t registrationCount() const { return m_registered.size(); }
+    std::size_t handlerCount() const { return m_handlers.size(); }
+
+    std::set<Combination> takenByOthers;
+    bool refusesHandler = false;
+    int unregistrations = 0;
+    int suspensions = 0;
+
+private:
+    struct Registration {
+        Combination combination;
+        HotKeyIdentifier identifier;
+    };
+    struct Counted : Suspension {
+        explicit Counted(FakeHotKeys &keys)
+            : m_keys(keys)
+        {
+            ++m_keys.suspensions;
+        }
+        ~Counted() override { --m_keys.suspensions; }
+        FakeHotKeys &m_keys;
+    };
+
+    std::vector<Handler> m_handlers;
+    std::map<Handle, Registration> m_registered;
+    Handle m_nextHandle = 1;
+};
+
+} // namespace corvane::test

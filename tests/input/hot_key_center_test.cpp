@@ -1,0 +1,263 @@
+#include "fakes/fake_hot_keys.h"
+#include "fakes/test_clock.h"
+#include "input/hot_key_center.h"
+#include "input/shortcut_binder.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+const Shortcut shiftCommandD = {2, Shortcut::command | Shortcut::shift, QStringLiteral("D")};
+const Shortcut controlF5 = {96, Shortcut::control, QStringLiteral("F5")};
+
+using Binding = HotKeyCenter::Binding;
+
+class HotKeyCenterTest : public testing::Test {
+protected:
+    bool apply(const std::optional<Shortcut> &shortcut, Binding binding = Binding::Shelf)
+    {
+        return center->apply(shortcut, binding, [this] { ++calls; });
+    }
+    bool press(const Shortcut &shortcut)
+    {
+        const bool isOurs = keys.press(shortcut.keyCode, shortcut.modifiers);
+        clock.runPending();
+        return isOurs;
+    }
+
+    FakeHotKeys keys;
+    TestClock clock;
+    std::optional<HotKeyCenter> center{std::in_place, keys, clock};
+    int calls = 0;
+};
+
+} // namespace
+
+TEST_F(HotKeyCenterTest, APressRunsTheHandlerOnceAndNotBeforeTheMainQueueDoes)
+{
+    EXPECT_TRUE(apply(shiftCommandD));
+    keys.press(shiftCommandD.keyCode, shiftCommandD.modifiers);
+    EXPECT_EQ(calls, 0);
+    clock.runPending();
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(HotKeyCenterTest, IdentifiesItsKeysBySignatureAndNumber)
+{
+    EXPECT_EQ(HotKeyCenter::idOf(Binding::Shelf), 1U);
+    EXPECT_EQ(HotKeyCenter::idOf(Binding::ViewAll), 2U);
+    std::vector<HotKeyIdentifier> heard;
+    keys.installHandler([&](const auto &pressed) { heard.push_back(*pressed); });
+    apply(shiftCommandD, Binding::Shelf);
+    apply(controlF5, Binding::ViewAll);
+    press(shiftCommandD);
+    press(controlF5);
+    EXPECT_EQ(heard, (std::vector<HotKeyIdentifier>{{0x4352564E, 1}, {0x4352564E, 2}}));
+}
+
+TEST_F(HotKeyCenterTest, InstallsNoEventHandlerBeforeTheFirstShortcut)
+{
+    EXPECT_TRUE(apply(std::nullopt));
+    EXPECT_EQ(keys.handlerCount(), 0U);
+    apply(shiftCommandD);
+    apply(controlF5, Binding::ViewAll);
+    EXPECT_EQ(keys.handlerCount(), 1U);
+}
+
+TEST_F(HotKeyCenterTest, ApplyingNoneRemovesTheRegistrationAndSucceeds)
+{
+    apply(controlF5, Binding::ViewAll);
+    EXPECT_TRUE(apply(std::nullopt, Binding::ViewAll));
+    EXPECT_EQ(keys.registrationCount(), 0U);
+    EXPECT_FALSE(press(controlF5));
+    EXPECT_EQ(calls, 0);
+}
+
+TEST_F(HotKeyCenterTest, AHandlerIsStoredEvenForNone)
+{
+    apply(shiftCommandD);
+    int second = 0;
+    keys.press(shiftCommandD.keyCode, shiftCommandD.modifiers);
+    EXPECT_TRUE(center->apply(std::nullopt, Binding::Shelf, [&] { ++second; }));
+    clock.runPending();
+    EXPECT_EQ(calls, 0);
+    EXPECT_EQ(second, 1) << "a press on its way finds the handler that stands there now";
+}
+
+TEST_F(HotKeyCenterTest, ReRegisteringTheSameShortcutSucceeds)
+{
+    EXPECT_TRUE(apply(shiftCommandD));
+    EXPECT_TRUE(apply(shiftCommandD));
+    EXPECT_EQ(keys.unregistrations, 1);
+    EXPECT_EQ(keys.registrationCount(), 1U);
+    EXPECT_TRUE(press(shiftCommandD));
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(HotKeyCenterTest, AFailedApplyLeavesTheOldCombinationDeadToo)
+{
+    apply(shiftCommandD);
+    keys.takenByOthers.insert({controlF5.keyCode, controlF5.modifiers});
+    EXPECT_FALSE(apply(controlF5));
+    EXPECT_EQ(keys.registrationCount(), 0U);
+    EXPECT_FALSE(press(shiftCommandD));
+    EXPECT_FALSE(press(controlF5));
+    EXPECT_EQ(calls, 0);
+}
+
+TEST_F(HotKeyCenterTest, TheOtherBindingsCombinationIsRefused)
+{
+    EXPECT_TRUE(apply(shiftCommandD, Binding::Shelf));
+    EXPECT_FALSE(apply(shiftCommandD, Binding::ViewAll));
+    EXPECT_TRUE(press(shiftCommandD));
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(HotKeyCenterTest, UnregisteringKeepsTheHandlerForAPressOnItsWay)
+{
+    apply(shiftCommandD);
+    keys.press(shiftCommandD.keyCode, shiftCommandD.modifiers);
+    center->unregister(Binding::Shelf);
+    center->unregister(Binding::Shelf);
+    EXPECT_EQ(keys.unregistrations, 1);
+    clock.runPending();
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(HotKeyCenterTest, UnregisteringAllForgetsTheHandlers)
+{
+    apply(shiftCommandD, Binding::Shelf);
+    apply(controlF5, Binding::ViewAll);
+    keys.press(shiftCommandD.keyCode, shiftCommandD.modifiers);
+    center->unregisterAll();
+    clock.runPending();
+    EXPECT_EQ(calls, 0);
+    EXPECT_EQ(keys.registrationCount(), 0U);
+}
+
+TEST_F(HotKeyCenterTest, AfterUnregisteringAllItAppliesAgainWithTheSameEventHandler)
+{
+    apply(shiftCommandD);
+    center->unregisterAll();
+    EXPECT_TRUE(apply(shiftCommandD));
+    EXPECT_EQ(keys.handlerCount(), 1U);
+    press(shiftCommandD);
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(HotKeyCenterTest, WithoutAnEventHandlerItRegistersAllTheSame)
+{
+    keys.refusesHandler = true;
+    EXPECT_TRUE(apply(shiftCommandD));
+    EXPECT_EQ(keys.registrationCount(), 1U);
+}
+
+TEST_F(HotKeyCenterTest, APressThatCannotBeReadOrIsOfNobodyIsIgnored)
+{
+    apply(shiftCommandD);
+    keys.pressed(std::nullopt);
+    keys.pressed(HotKeyIdentifier{HotKeyCenter::signature, 77});
+    clock.runPending();
+    EXPECT_EQ(calls, 0);
+}
+
+TEST_F(HotKeyCenterTest, TheSignatureIsNotLookedAt)
+{
+    apply(shiftCommandD);
+    keys.pressed(HotKeyIdentifier{0, 1});
+    clock.runPending();
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(HotKeyCenterTest, AHandlerMayReplaceItself)
+{
+    center->apply(shiftCommandD, Binding::Shelf, [this] {
+        ++calls;
+        center->apply(std::nullopt, Binding::Shelf, {});
+    });
+    press(shiftCommandD);
+    EXPECT_EQ(calls, 1);
+    EXPECT_FALSE(press(shiftCommandD));
+}
+
+TEST_F(HotKeyCenterTest, APressHeardAfterItIsGoneDoesNothing)
+{
+    apply(shiftCommandD);
+    keys.press(shiftCommandD.keyCode, shiftCommandD.modifiers);
+    center.reset();
+    EXPECT_EQ(keys.registrationCount(), 0U);
+    clock.runPending();
+    keys.pressed(HotKeyIdentifier{HotKeyCenter::signature, 1});
+    clock.runPending();
+    EXPECT_EQ(calls, 0);
+}
+
+namespace {
+
+class ShortcutBinderTest : public HotKeyCenterTest {
+protected:
+    std::optional<Shortcut> shelfShortcut = shiftCommandD;
+    std::optional<Shortcut> viewAllShortcut;
+    std::optional<ShortcutBinder> binder{std::in_place, *center, [this] { return shelfShortcut; },
+                                         [this] { return viewAllShortcut; }};
+};
+
+} // namespace
+
+TEST_F(ShortcutBinderTest, EachShortcutRunsItsOwnAction)
+{
+    QStringList log;
+    binder->onToggleShelf = [&] { log << QStringLiteral("shelf"); };
+    binder->onToggleViewAll = [&] { log << QStringLiteral("all"); };
+    viewAllShortcut = controlF5;
+    EXPECT_TRUE(binder->bindShelf());
+    EXPECT_TRUE(binder->bindViewAll());
+    press(shiftCommandD);
+    press(controlF5);
+    EXPECT_EQ(log, (QStringList{QStringLiteral("shelf"), QStringLiteral("all")}));
+}
+
+TEST_F(ShortcutBinderTest, AShortcutOfNoneBindsNothingAndSucceeds)
+{
+    EXPECT_TRUE(binder->bindViewAll());
+    EXPECT_EQ(keys.registrationCount(), 0U);
+}
+
+TEST_F(ShortcutBinderTest, ReadsTheStoredShortcutEachTimeItBinds)
+{
+    binder->onToggleShelf = [this] { ++calls; };
+    binder->bindShelf();
+    shelfShortcut = controlF5;
+    EXPECT_TRUE(binder->bindShelf());
+    EXPECT_FALSE(press(shiftCommandD));
+    EXPECT_TRUE(press(controlF5));
+    EXPECT_EQ(calls, 1);
+}
+
+TEST_F(ShortcutBinderTest, TellsThatAShortcutIsTaken)
+{
+    keys.takenByOthers.insert({shiftCommandD.keyCode, shiftCommandD.modifiers});
+    EXPECT_FALSE(binder->bindShelf());
+}
+
+TEST_F(ShortcutBinderTest, WithNoActionSetAPressDoesNothing)
+{
+    EXPECT_TRUE(binder->bindShelf());
+    EXPECT_TRUE(press(shiftCommandD));
+    binder->onToggleShelf = [this] { ++calls; };
+    press(shiftCommandD);
+    EXPECT_EQ(calls, 1) << "the action is looked up when the press comes";
+}
+
+TEST_F(ShortcutBinderTest, APressAfterTheBinderIsGoneDoesNothing)
+{
+    binder->onToggleShelf = [this] { ++calls; };
+    binder->bindShelf();
+    binder.reset();
+    EXPECT_TRUE(press(shiftCommandD));
+    EXPECT_EQ(calls, 0);
+}
+
+} // namespace corvane::test
