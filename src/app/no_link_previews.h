@@ -7,7 +7,7 @@ namespace corvane {
 /// Stands where link previews will come from: a link keeps what it was dropped with.
 class NoLinkPreviews : public LinkPreviewSource {
 public:
-    void load(const QUrl & /*url*/, Completion /*completion*/) override { }
+    void load(const QUrl & /*url*/, IsWanted /*isWanted*/, Completion /*completion*/) override { }
 };
 
 } // namespace corvane

@@ -34,11 +34,14 @@ struct LinkPreview {
 class LinkPreviewSource {
 public:
     using Completion = std::function<void(std::optional<LinkPreview>)>;
+    using IsWanted = std::function<bool()>;
 
     virtual ~LinkPreviewSource() = default;
 
     /// Calls `completion` at most once, later, on the main thread; none when nothing was found.
-    virtual void load(const QUrl &url, Completion completion) = 0;
+    /// What has not been fetched yet once `isWanted` says no is not fetched any more: an item may
+    /// leave, or the user forbid it, while others are being loaded. Main thread only, both.
+    virtual void load(const QUrl &url, IsWanted isWanted, Completion completion) = 0;
 };
 
 } // namespace corvane

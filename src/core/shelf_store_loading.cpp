@@ -28,13 +28,19 @@ void ShelfStore::startLoading(const DropItem &item)
     if (const auto *link = std::get_if<DropItem::Link>(&item.payload())) {
         if (!m_settings.linkPreviews())
             return;
-        m_linkPreviews.load(link->url,
-                            [weak = std::weak_ptr(m_self), id,
-                             url = link->url](const std::optional<LinkPreview> &preview) {
-                                const auto self = weak.lock();
-                                if (self && preview)
-                                    (*self)->mergeLinkPreview(id, url, *preview);
-                            });
+        m_linkPreviews.load(
+            link->url,
+            [weak = std::weak_ptr(m_self), id] {
+                const auto self = weak.lock();
+                return self && (*self)->m_settings.linkPreviews()
+                    && (*self)->indexOf(id).has_value();
+            },
+            [weak = std::weak_ptr(m_self), id,
+             url = link->url](const std::optional<LinkPreview> &preview) {
+                const auto self = weak.lock();
+                if (self && preview)
+                    (*self)->mergeLinkPreview(id, url, *preview);
+            });
     } else if (const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload())) {
         m_thumbnails.generateForImageData(image->data, mergeThumbnail);
     } else if (const auto *file = std::get_if<DropItem::File>(&item.payload())) {

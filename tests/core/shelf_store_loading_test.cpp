@@ -117,6 +117,24 @@ TEST_F(LinkPreviews, AreNotAskedForWhenTheyAreOff)
     EXPECT_TRUE(linkPreviews.requests.empty());
 }
 
+TEST_F(LinkPreviews, AreNoLongerWantedOnceTheyAreOff)
+{
+    store.accept({link("http://x/")});
+    EXPECT_TRUE(linkPreviews.requests[0].isWanted());
+    settings.setLinkPreviews(false);
+    EXPECT_FALSE(linkPreviews.requests[0].isWanted());
+}
+
+TEST_F(LinkPreviews, AreNoLongerWantedOnceTheirItemLeft)
+{
+    store.accept({link("http://x/"), link("http://y/")});
+    store.discard(0, false);
+    EXPECT_FALSE(linkPreviews.requests[0].isWanted());
+    EXPECT_TRUE(linkPreviews.requests[1].isWanted());
+    ownedStore.reset();
+    EXPECT_FALSE(linkPreviews.requests[1].isWanted());
+}
+
 TEST_F(LinkPreviews, PublishTitleAndSubtitleEachOnItsOwn)
 {
     store.accept({link("http://x.org/a")});

@@ -34,12 +34,13 @@ class RecordingLinkPreviews : public LinkPreviewSource {
 public:
     struct Request {
         QUrl url;
+        IsWanted isWanted;
         Completion completion;
     };
 
-    void load(const QUrl &url, Completion completion) override
+    void load(const QUrl &url, IsWanted isWanted, Completion completion) override
     {
-        requests.push_back({url, std::move(completion)});
+        requests.push_back({url, std::move(isWanted), std::move(completion)});
     }
 
     std::vector<Request> requests;

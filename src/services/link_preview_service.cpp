@@ -1,0 +1,171 @@
+#include "services/link_preview_service.h"
+
+#include "core/characters.h"
+#include "platform/image_codec.h"
+#include "platform/main_queue.h"
+#include "platform/work_queue.h"
+
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+bool isOfTheWeb(const QUrl &url)
+{
+    return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+}
+
+bool isSuccess(const std::optional<WebResponse> &response)
+{
+    return response && response->statusCode >= 200 && response->statusCode <= 299;
+}
+
+QString shortened(const QString &text)
+{
+    // Whatever accents a stranger piles upon each character.
+    constexpr qsizetype maximumBytes = 16 * LinkPreviewService::maximumTextLength;
+    return text.size() <= LinkPreviewService::maximumTextLength
+        ? text
+        : characters::prefix(text, LinkPreviewService::maximumTextLength, maximumBytes);
+}
+
+} // namespace
+
+LinkPreviewService::LinkPreviewService(WebClient &webClient, const ImageCodec &codec,
+                                       MainQueue &mainQueue, WorkQueue &workQueue,
+                                       const Product &product)
+    : m_webClient(webClient)
+    , m_codec(codec)
+    , m_mainQueue(mainQueue)
+    , m_workQueue(workQueue)
+    , m_userAgent("Mozilla/5.0 (Macintosh; Intel Mac OS X) Corvane/" + product.version.toUtf8()
+                  + " (+" + product.homePage.toUtf8() + ")")
+{
+}
+
+LinkPreviewService::~LinkPreviewService() = default;
+
+void LinkPreviewService::load(const QUrl &url, IsWanted isWanted, Completion completion)
+{
+    if (!isOfTheWeb(url)) {
+        m_mainQueue.async([weak = std::weak_ptr(m_self), completion = std::move(completion)] {
+            if (weak.lock())
+                completion(std::nullopt);
+        });
+        return;
+    }
+    m_waiting.push_back({url, std::move(isWanted), std::move(completion), {}});
+    if (m_waiting.size() > maximumWaiting)
+        m_waiting.pop_front();
+    startNext();
+}
+
+void LinkPreviewService::startNext()
+{
+    while (m_running.size() < maximumLoads && !m_waiting.empty()) {
+        Load load = std::move(m_waiting.back());
+        m_waiting.pop_back();
+        if (!load.isWanted())
+            continue;
+        const Number number = ++m_lastNumber;
+        m_running.emplace(number, std::move(load));
+        fetchPreview(number);
+    }
+}
+
+void LinkPreviewService::fetchPreview(Number number)
+{
+    WebRequest request;
+    request.url = m_running.at(number).url;
+    request.userAgent = m_userAgent;
+    request.accept = "text/html,application/xhtml+xml";
+    request.maximumBytes = page_reader::maximumPageBytes;
+    m_webClient.get(
+        request,
+        [weak = std::weak_ptr(m_self), number](const std::optional<WebResponse> &response) {
+            if (const auto self = weak.lock())
+                (*self)->readPage(number, response);
+        });
+}
+
+void LinkPreviewService::readPage(Number number, const std::optional<WebResponse> &response)
+{
+    if (!isSuccess(response) || response->expectedContentLength >= refusedPageBytes) {
+        finish(number, false);
+        return;
+    }
+    const QUrl base = response->url.isEmpty() ? m_running.at(number).url : response->url;
+    m_workQueue.run([&mainQueue = m_mainQueue, weak = std::weak_ptr(m_self), number, base,
+                     body = response->body, foundIn = response->foundIn] {
+        page_reader::Preview preview = page_reader::parse(page_reader::decodePage(body), base);
+        for (auto *text : {&preview.title, &preview.siteName}) {
+            if (*text)
+                *text = shortened(**text);
+        }
+        mainQueue.async([weak, number, preview, foundIn] {
+            if (const auto self = weak.lock())
+                (*self)->takePreview(number, preview, foundIn);
+        });
+    });
+}
+
+void LinkPreviewService::takePreview(Number number, const page_reader::Preview &preview,
+                                     AddressSpace foundIn)
+{
+    Load &load = m_running.at(number);
+    load.preview.title = preview.title.value_or(QString());
+    load.preview.siteName = preview.siteName;
+    if (preview.imageURL && isOfTheWeb(*preview.imageURL) && load.isWanted())
+        fetchThumbnail(number, *preview.imageURL, foundIn);
+    else
+        finish(number, preview.isUseful());
+}
+
+void LinkPreviewService::fetchThumbnail(Number number, const QUrl &url, AddressSpace foundIn)
+{
+    WebRequest request;
+    request.url = url;
+    request.userAgent = m_userAgent;
+    // One more tells a picture that is too large from one that is just not.
+    request.maximumBytes = maximumPictureBytes + 1;
+    request.foundIn = foundIn;
+    m_webClient.get(
+        request,
+        [weak = std::weak_ptr(m_self), number](const std::optional<WebResponse> &response) {
+            if (const auto self = weak.lock())
+                (*self)->decodePicture(number, response);
+        });
+}
+
+void LinkPreviewService::decodePicture(Number number, const std::optional<WebResponse> &response)
+{
+    if (!isSuccess(response) || response->body.size() > maximumPictureBytes) {
+        finish(number, true);
+        return;
+    }
+    m_workQueue.run([&codec = m_codec, &mainQueue = m_mainQueue, weak = std::weak_ptr(m_self),
+                     number, body = response->body] {
+        mainQueue.async([weak, number, bitmap = codec.thumbnail(body, pictureSide)] {
+            if (const auto self = weak.lock())
+                (*self)->takePicture(number, bitmap);
+        });
+    });
+}
+
+void LinkPreviewService::takePicture(Number number, const std::optional<QImage> &bitmap)
+{
+    if (bitmap && !bitmap->isNull())
+        m_running.at(number).preview.image = Image{*bitmap, QSizeF(bitmap->size())};
+    finish(number, true);
+}
+
+void LinkPreviewService::finish(Number number, bool hasPreview)
+{
+    const Load load = std::move(m_running.extract(number).mapped());
+    startNext();
+    // Last: whoever hears of it may end the service.
+    load.completion(hasPreview ? std::optional(load.preview) : std::nullopt);
+}
+
+} // namespace corvane

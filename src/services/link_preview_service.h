@@ -1,0 +1,88 @@
+#pragma once
+
+#include "core/item_loading.h"
+#include "platform/web_client.h"
+#include "services/page_reader.h"
+
+#include <QByteArray>
+
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <memory>
+
+namespace corvane {
+
+class ImageCodec;
+class MainQueue;
+class WorkQueue;
+
+/// Fetches the page behind a link and the picture that the page names, one after the other.
+///
+/// Keeps nothing once a load has ended. Few loads run at a time; of those that wait the newest is
+/// next, because its item is what the user looks at. Everything is called on the main thread;
+/// pages are read and pictures decoded beside it. What the service was given must outlive it and
+/// all work that is under way; the service itself may go earlier, and then nothing is answered.
+class LinkPreviewService : public LinkPreviewSource {
+public:
+    /// A page that is declared to have so many bytes, or more, is no page.
+    static constexpr qint64 refusedPageBytes = 12LL * 1024 * 1024;
+    /// A picture of more bytes is not decoded.
+    static constexpr qint64 maximumPictureBytes = 4LL * 1024 * 1024;
+    /// The picture's longer side.
+    static constexpr int pictureSide = 192;
+    static constexpr std::size_t maximumLoads = 4;
+    /// What waits costs memory alone; beyond this the oldest get no preview.
+    static constexpr std::size_t maximumWaiting = 10'000;
+    /// In characters. A page may say as much as it likes, an item shows a line.
+    static constexpr qsizetype maximumTextLength = 1000;
+
+    /// How servers are told who asks.
+    struct Product {
+        QString version;
+        QString homePage;
+    };
+
+    LinkPreviewService(WebClient &webClient, const ImageCodec &codec, MainQueue &mainQueue,
+                       WorkQueue &workQueue, const Product &product);
+    LinkPreviewService(const LinkPreviewService &) = delete;
+    LinkPreviewService &operator=(const LinkPreviewService &) = delete;
+    ~LinkPreviewService() override;
+
+    void load(const QUrl &url, IsWanted isWanted, Completion completion) override;
+
+private:
+    struct Load {
+        QUrl url;
+        IsWanted isWanted;
+        Completion completion;
+        /// As far as it is known.
+        LinkPreview preview;
+    };
+    /// Work that runs elsewhere carries its load's number alone: what the caller handed over is
+    /// neither called nor destroyed on another thread.
+    using Number = std::uint64_t;
+
+    void startNext();
+    void fetchPreview(Number number);
+    void readPage(Number number, const std::optional<WebResponse> &response);
+    void takePreview(Number number, const page_reader::Preview &preview, AddressSpace foundIn);
+    void fetchThumbnail(Number number, const QUrl &url, AddressSpace foundIn);
+    void decodePicture(Number number, const std::optional<WebResponse> &response);
+    void takePicture(Number number, const std::optional<QImage> &bitmap);
+    /// With what the load has found, or with none.
+    void finish(Number number, bool hasPreview);
+
+    WebClient &m_webClient;
+    const ImageCodec &m_codec;
+    MainQueue &m_mainQueue;
+    WorkQueue &m_workQueue;
+    QByteArray m_userAgent;
+    std::deque<Load> m_waiting;
+    std::map<Number, Load> m_running;
+    Number m_lastNumber = 0;
+    /// Held weakly by all work; looked at on the main thread alone.
+    std::shared_ptr<LinkPreviewService *> m_self = std::make_shared<LinkPreviewService *>(this);
+};
+
+} // namespace corvane
