@@ -1,0 +1,105 @@
+#include "input/shortcut_recorder.h"
+
+#include <utility>
+
+namespace corvane {
+
+using Disposition = KeyMonitors::Disposition;
+
+namespace {
+
+/// Shift alone types capitals.
+constexpr std::uint32_t sufficientModifiers
+    = Shortcut::command | Shortcut::option | Shortcut::control;
+
+} // namespace
+
+ShortcutRecorder::ShortcutRecorder(KeyMonitors &monitors, HotKeyService &hotKeys)
+    : m_monitors(monitors)
+    , m_hotKeys(hotKeys)
+{
+}
+
+ShortcutRecorder::~ShortcutRecorder()
+{
+    onNeedsDisplay = nullptr;
+    stopRecording();
+}
+
+void ShortcutRecorder::setShortcut(const std::optional<Shortcut> &shortcut)
+{
+    m_shortcut = shortcut;
+    needsDisplay();
+}
+
+void ShortcutRecorder::setConflict(bool conflict)
+{
+    m_hasConflict = conflict;
+    needsDisplay();
+}
+
+void ShortcutRecorder::clicked()
+{
+    if (m_isRecording)
+        stopRecording();
+    else
+        startRecording();
+}
+
+void ShortcutRecorder::startRecording()
+{
+    if (m_isRecording)
+        return;
+    m_isRecording = true;
+    needsDisplay();
+    if (onTakeFocus)
+        onTakeFocus();
+    m_localMonitor = m_monitors.addLocalMonitor(
+        [weak = std::weak_ptr(m_self)](const KeyMonitors::Event &event) {
+            const auto self = weak.lock();
+            return self ? (*self)->handle(event) : Disposition::Pass;
+        });
+    m_suspension = m_hotKeys.suspend();
+}
+
+void ShortcutRecorder::stopRecording()
+{
+    if (const auto monitor = std::exchange(m_localMonitor, std::nullopt))
+        m_monitors.removeMonitor(*monitor);
+    m_suspension.reset();
+    m_isRecording = false;
+    needsDisplay();
+}
+
+Disposition ShortcutRecorder::handle(const KeyMonitors::Event &event)
+{
+    if (!m_isRecording)
+        return Disposition::Pass;
+    if (event.kind != KeyMonitors::Event::Kind::KeyDown)
+        return Disposition::Swallow;
+    if (event.keyCode == key_code::escape) {
+        stopRecording();
+        return Disposition::Swallow;
+    }
+    const std::uint32_t modifiers = Shortcut::modifierBits(event.modifiers);
+    // A key without a code could be stored, but never be registered.
+    if ((modifiers & sufficientModifiers) == 0 || event.keyCode == key_code::unknown)
+        return Disposition::Swallow;
+    const Shortcut recorded = {event.keyCode, modifiers,
+                               Shortcut::label({event.keyCode, event.charactersIgnoringModifiers})};
+    m_shortcut = recorded;
+    needsDisplay();
+    stopRecording();
+    // A copy: it may destroy the recorder.
+    if (const auto change = onChange)
+        change(recorded);
+    return Disposition::Swallow;
+}
+
+void ShortcutRecorder::needsDisplay() const
+{
+    if (onNeedsDisplay)
+        onNeedsDisplay();
+}
+
+} // namespace corvane

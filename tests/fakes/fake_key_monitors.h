@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/key_monitors.h"
+
+#include <map>
+#include <utility>
+
+namespace corvane::test {
+
+/// A keyboard that types into this program, seen by what watches its keys.
+class FakeKeyMonitors : public KeyMonitors {
+public:
+    Handle addLocalMonitor(Handler handler) override
+    {
+        m_monitors.emplace(m_nextHandle, std::move(handler));
+        return m_nextHandle++;
+    }
+    void removeMonitor(Handle handle) override { m_monitors.erase(handle); }
+
+    /// Each tells whether the rest of the window got the event.
+    bool type(std::uint32_t keyCode, Modifiers modifiers, const QString &characters = {})
+    {
+        return send({Event::Kind::KeyDown, keyCode, modifiers, characters});
+    }
+    bool holdModifiers(Modifiers modifiers)
+    {
+        return send({Event::Kind::ModifiersChanged, key_code::unknown, modifiers, {}});
+    }
+    std::size_t monitorCount() const { return m_monitors.size(); }
+
+private:
+    bool send(const Event &event)
+    {
+        // A copy: a handler may remove monitors.
+        for (const auto &[handle, handler] : std::map(m_monitors)) {
+            if (handler(event) == Disposition::Swallow)
+                return false;
+        }
+        return true;
+    }
+
+    std::map<Handle, Handler> m_monitors;
+    Handle m_nextHandle = 1;
+};
+
+} // namespace corvane::test
