@@ -1,0 +1,57 @@
+#include "platform/qt/web/qt_web_client.h"
+
+#include "platform/qt/web/web_fetches.h"
+
+#include <utility>
+
+namespace corvane {
+
+QtWebClient::QtWebClient(MainQueue &mainQueue, WebNetwork network)
+    : m_mainQueue(mainQueue)
+    , m_network(std::move(network))
+{
+    m_thread.setObjectName(QStringLiteral("web"));
+}
+
+QtWebClient::~QtWebClient()
+{
+    m_token.reset();
+    m_thread.quit();
+    m_thread.wait();
+}
+
+void QtWebClient::get(const WebRequest &request, Completion completion)
+{
+    if (!m_fetches)
+        startThread();
+    const std::uint64_t number = ++m_lastNumber;
+    m_completions.emplace(number, std::move(completion));
+    QMetaObject::invokeMethod(
+        m_fetches, [fetches = m_fetches, number, request] { fetches->add(number, request); },
+        Qt::QueuedConnection);
+}
+
+void QtWebClient::startThread()
+{
+    m_fetches
+        = new WebFetches(std::move(m_network),
+                         [this, &mainQueue = m_mainQueue, token = std::weak_ptr(m_token)](
+                             std::uint64_t number, std::optional<WebResponse> response) {
+                             mainQueue.async([this, token, number, answer = std::move(response)] {
+                                 if (!token.expired())
+                                     complete(number, answer);
+                             });
+                         });
+    m_fetches->moveToThread(&m_thread);
+    QObject::connect(&m_thread, &QThread::finished, m_fetches, &QObject::deleteLater);
+    m_thread.start();
+}
+
+void QtWebClient::complete(std::uint64_t number, std::optional<WebResponse> response)
+{
+    // Taken out first: it may ask for more, or end this.
+    const auto completion = m_completions.extract(number);
+    completion.mapped()(std::move(response));
+}
+
+} // namespace corvane

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "platform/main_queue.h"
+#include "platform/qt/web/web_network.h"
+#include "platform/web_client.h"
+
+#include <QThread>
+
+#include <cstdint>
+#include <map>
+#include <memory>
+
+namespace corvane {
+
+class WebFetches;
+
+/// The web client on Qt's sockets, with an HTTP/1.1 of its own: one connection for each request, no
+/// more of a response in memory than is wanted, and no answer to whoever asks who the user is.
+/// The toolkit's own client logs in by itself where a server asks for the desktop's credentials,
+/// and sends a request again when it was not answered.
+///
+/// Names, TLS and decompression have a thread of their own. It is started by the first request and
+/// sleeps between requests; there are no connections then and no timers. From https a redirection
+/// may lead to http, as a link may in browsers.
+///
+/// Destroying it ends what is under way at once; what was not completed never is.
+class QtWebClient : public WebClient {
+public:
+    /// `mainQueue` must outlive it.
+    explicit QtWebClient(MainQueue &mainQueue, WebNetwork network = {});
+    QtWebClient(const QtWebClient &) = delete;
+    QtWebClient &operator=(const QtWebClient &) = delete;
+    ~QtWebClient() override;
+
+    void get(const WebRequest &request, Completion completion) override;
+
+private:
+    void startThread();
+    void complete(std::uint64_t number, std::optional<WebResponse> response);
+
+    MainQueue &m_mainQueue;
+    WebNetwork m_network;
+    /// They belong to the main thread and do not leave it.
+    std::map<std::uint64_t, Completion> m_completions;
+    std::uint64_t m_lastNumber = 0;
+    QThread m_thread;
+    /// Lives on the thread, which ends it.
+    WebFetches *m_fetches = nullptr;
+    /// Answers that are still on their way to the main thread do nothing once it is gone.
+    std::shared_ptr<bool> m_token = std::make_shared<bool>();
+};
+
+} // namespace corvane

@@ -1,0 +1,143 @@
+#include "platform/qt/web/web_fetch.h"
+
+#include "platform/qt/web/mailbox.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+/// A host with more addresses than that is tried at the first ones.
+constexpr qsizetype maximumAddresses = 6;
+
+int milliseconds(double seconds)
+{
+    return static_cast<int>(std::lround(seconds * 1000));
+}
+
+bool isOfTheWeb(const QUrl &url)
+{
+    return url.isValid() && !url.host().isEmpty() && url.port(1) > 0
+        && (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https"));
+}
+
+} // namespace
+
+void WebFetch::Deleter::operator()(HttpExchange *exchange) const
+{
+    // It may be the one that calls.
+    exchange->cancel();
+    exchange->deleteLater();
+}
+
+WebFetch::WebFetch(const WebNetwork &network, WebRequest request)
+    : m_network(network)
+    , m_request(std::move(request))
+    , m_farthest(m_request.foundIn)
+    , m_mailbox(std::make_shared<Mailbox>(*this))
+{
+    for (QTimer *timer : {&m_silence, &m_whole}) {
+        timer->setSingleShot(true);
+        connect(timer, &QTimer::timeout, this, [this] { finish(std::nullopt); });
+    }
+    m_silence.setInterval(milliseconds(network.requestTimeout));
+    m_whole.setInterval(milliseconds(network.resourceTimeout));
+}
+
+WebFetch::~WebFetch()
+{
+    m_mailbox->close();
+}
+
+void WebFetch::start()
+{
+    m_silence.start();
+    m_whole.start();
+    visit(m_request.url);
+}
+
+void WebFetch::visit(const QUrl &url)
+{
+    m_url = url.adjusted(QUrl::RemoveUserInfo);
+    if (!isOfTheWeb(m_url) || m_network.proxies.apply(m_url))
+        return finish(std::nullopt);
+    m_network.resolver->resolve(m_url.host(QUrl::FullyEncoded),
+                                [this, mailbox = m_mailbox](const QList<QHostAddress> &addresses) {
+                                    mailbox->post([this, addresses] { exchangeWith(addresses); });
+                                });
+}
+
+QList<QHostAddress> WebFetch::allowed(const QList<QHostAddress> &found) const
+{
+    QList<QHostAddress> first;
+    QList<QHostAddress> second;
+    for (const QHostAddress &address : found) {
+        if (m_farthest && m_network.spaceOf(address) < *m_farthest)
+            continue;
+        const bool isOfFirstFamily
+            = first.isEmpty() || first.constFirst().protocol() == address.protocol();
+        (isOfFirstFamily ? first : second).append(address);
+    }
+    // A host may be out of reach by one of them altogether.
+    QList<QHostAddress> all;
+    for (qsizetype i = 0; i < std::max(first.size(), second.size()); ++i)
+        all += first.mid(i, 1) + second.mid(i, 1);
+    return all.mid(0, maximumAddresses);
+}
+
+void WebFetch::exchangeWith(const QList<QHostAddress> &found)
+{
+    if (m_hasEnded)
+        return;
+    HttpExchange::Plan plan{
+        m_url,          m_request.userAgent,        m_request.accept,     m_request.maximumBytes,
+        allowed(found), m_network.nextAddressAfter, m_network.authorities};
+    auto request = HttpExchange::requestFor(plan);
+    if (plan.addresses.isEmpty() || !request)
+        return finish(std::nullopt);
+    m_exchange.reset(new HttpExchange(std::move(plan), std::move(*request)));
+    m_exchange->onProgress = [this] { m_silence.start(); };
+    m_exchange->onEnd = [this] { exchangeEnded(); };
+    m_exchange->start();
+}
+
+void WebFetch::exchangeEnded()
+{
+    const auto exchange = std::move(m_exchange);
+    const HttpResponseReader &reader = exchange->response();
+    if (m_hasEnded || reader.state() != HttpResponseReader::State::Complete)
+        return finish(std::nullopt);
+    const AddressSpace space = m_network.spaceOf(exchange->peer());
+    m_farthest = std::max(m_farthest.value_or(space), space);
+    if (const auto location = reader.head().redirection())
+        return follow(*location);
+    finish(WebResponse{reader.head().statusCode, reader.expectedContentLength(), m_url,
+                       reader.body(), *m_farthest});
+}
+
+void WebFetch::follow(const QByteArray &location)
+{
+    if (++m_redirects > WebClient::maximumRedirects)
+        return finish(std::nullopt);
+    QUrl next = m_url.resolved(QUrl::fromEncoded(location));
+    // What a page is looked at for outlives its move.
+    if (!next.hasFragment() && m_url.hasFragment())
+        next.setFragment(m_url.fragment(QUrl::FullyEncoded), QUrl::StrictMode);
+    visit(next);
+}
+
+void WebFetch::finish(std::optional<WebResponse> response)
+{
+    if (std::exchange(m_hasEnded, true))
+        return;
+    m_silence.stop();
+    m_whole.stop();
+    m_exchange.reset();
+    QMetaObject::invokeMethod(
+        this, [this, answer = std::move(response)] { onEnd(answer); }, Qt::QueuedConnection);
+}
+
+} // namespace corvane

@@ -1,0 +1,45 @@
+#include "platform/qt/web/web_fetches.h"
+
+#include <utility>
+
+namespace corvane {
+
+WebFetches::WebFetches(WebNetwork network, Deliver deliver)
+    : m_network(std::move(network))
+    , m_deliver(std::move(deliver))
+{
+}
+
+WebFetches::~WebFetches() = default;
+
+void WebFetches::add(std::uint64_t number, WebRequest request)
+{
+    m_waiting.emplace_back(number, std::move(request));
+    startNext();
+}
+
+void WebFetches::startNext()
+{
+    while (!m_waiting.empty() && m_running.size() < maximumAtOnce) {
+        auto [number, request] = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        auto fetch = std::make_unique<WebFetch>(m_network, std::move(request));
+        fetch->onEnd = [this, id = number](std::optional<WebResponse> response) {
+            ended(id, std::move(response));
+        };
+        WebFetch &started = *fetch;
+        m_running.emplace(number, std::move(fetch));
+        started.start();
+    }
+}
+
+void WebFetches::ended(std::uint64_t number, std::optional<WebResponse> response)
+{
+    auto fetch = m_running.extract(number);
+    // It is the one that calls.
+    fetch.mapped().release()->deleteLater();
+    m_deliver(number, std::move(response));
+    startNext();
+}
+
+} // namespace corvane

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/qt/web/address_space.h"
+#include "platform/qt/web/host_resolver.h"
+#include "platform/qt/web/proxy_settings.h"
+#include "platform/qt/web/system_host_resolver.h"
+#include "platform/web_client.h"
+
+#include <QList>
+#include <QSslCertificate>
+
+#include <functional>
+#include <memory>
+
+namespace corvane {
+
+/// The network as fetches see it, and how long they bear with it; all times in seconds.
+struct WebNetwork {
+    /// Kept by what still runs when everything else has ended.
+    std::shared_ptr<HostResolver> resolver = std::make_shared<SystemHostResolver>();
+    /// Any thread.
+    std::function<AddressSpace(const QHostAddress &)> spaceOf = addressSpaceOf;
+    ProxySettings proxies = ProxySettings::fromEnvironment();
+    /// Trusted beside those of the system.
+    QList<QSslCertificate> authorities;
+
+    double requestTimeout = WebClient::requestTimeout;
+    double resourceTimeout = WebClient::resourceTimeout;
+    /// A host's next address has its turn when one has been silent for this long.
+    double nextAddressAfter = 1;
+};
+
+} // namespace corvane
