@@ -1,5 +1,6 @@
 #include "platform/qt/qt_image_codec.h"
 
+#include "platform/qt/picture_reader.h"
 #include "platform/qt/regular_file.h"
 
 #include <QBuffer>
@@ -16,9 +17,6 @@ namespace corvane {
 
 namespace {
 
-constexpr std::array readableFormats
-    = {"png", "jpeg", "gif", "bmp", "webp", "tiff", "svg",  "ico", "icns",
-       "ppm", "pgm",  "pbm", "xpm", "avif", "heif", "heic", "jp2", "jxl"};
 constexpr std::array lossyFormats = {"jpeg", "jpg", "webp", "avif", "heif", "heic", "jp2", "jxl"};
 
 template<std::size_t Count>
@@ -27,56 +25,12 @@ bool isAmong(const std::array<const char *, Count> &formats, const QByteArray &f
     return std::ranges::any_of(formats, [&](const char *known) { return format == known; });
 }
 
-/// Ready to be asked, or false when the bytes are no picture that we read.
-bool prepare(QImageReader &reader, QIODevice &device)
-{
-    // Compressed SVG is the only picture that begins like this; nothing bounds what it expands to.
-    if (device.peek(2) == "\x1f\x8b")
-        return false;
-    reader.setDevice(&device);
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    return reader.canRead() && isAmong(readableFormats, reader.format());
-}
-
-bool isVector(const QImageReader &reader)
-{
-    return reader.format() == "svg";
-}
-
-/// Whether the decoded pixels stay below the limit. A size that the format does not tell before
-/// decoding is held by the allocation limit instead.
-bool fits(QSize size, QImage::Format format)
-{
-    if (!size.isValid())
-        return true;
-    qint64 bytesPerPixel = 4;
-    if (format != QImage::Format_Invalid)
-        bytesPerPixel
-            = std::max<qint64>(bytesPerPixel, QImage::toPixelFormat(format).bitsPerPixel() / 8);
-    return qint64{size.width()} * size.height() <= ImageCodec::maximumDecodedBytes / bytesPerPixel;
-}
-
-std::optional<QImage> read(QImageReader &reader)
-{
-    QImage image = reader.read();
-    if (image.isNull())
-        return std::nullopt;
-    const auto format
-        = image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
-    image = std::move(image).convertToFormat(format);
-    image.setDevicePixelRatio(1);
-    if (image.isNull())
-        return std::nullopt;
-    return image;
-}
-
 std::optional<QImage> decodeDevice(QIODevice &device)
 {
-    QImageReader reader;
-    if (!prepare(reader, device) || !fits(reader.size(), reader.imageFormat()))
+    PictureReader picture;
+    if (!picture.open(device) || !picture.fits())
         return std::nullopt;
-    return read(reader);
+    return picture.read();
 }
 
 QSize scaledToFit(QSize size, int maximumPixels)
@@ -86,18 +40,19 @@ QSize scaledToFit(QSize size, int maximumPixels)
 
 std::optional<QImage> thumbnailDevice(QIODevice &device, int maximumPixels)
 {
-    QImageReader reader;
-    if (maximumPixels < 1 || !prepare(reader, device))
+    PictureReader picture;
+    if (maximumPixels < 1 || !picture.open(device))
         return std::nullopt;
-    const QSize size = reader.size();
-    const bool vector = isVector(reader);
-    if (!vector && !fits(size, reader.imageFormat()))
+    const QSize size = picture.reader().size();
+    const bool vector = picture.isVector();
+    if (!vector && !picture.fits())
         return std::nullopt;
     const bool isLarger = std::max(size.width(), size.height()) > maximumPixels;
     // The picture is turned upright after it was scaled; a square limit holds either way.
     if (vector || isLarger)
-        reader.setScaledSize(scaledToFit(size.isEmpty() ? QSize{1, 1} : size, maximumPixels));
-    auto image = read(reader);
+        picture.reader().setScaledSize(
+            scaledToFit(size.isEmpty() ? QSize{1, 1} : size, maximumPixels));
+    auto image = picture.read();
     if (image && std::max(image->width(), image->height()) > maximumPixels)
         image = image->scaled(scaledToFit(image->size(), maximumPixels), Qt::IgnoreAspectRatio,
                               Qt::SmoothTransformation);
@@ -140,10 +95,10 @@ QtImageCodec::QtImageCodec()
 std::optional<QSize> QtImageCodec::pixelSize(const QByteArray &data) const
 {
     return withData<QSize>(data, [](QIODevice &device) -> std::optional<QSize> {
-        QImageReader reader;
-        if (!prepare(reader, device) || reader.size().isEmpty())
+        PictureReader picture;
+        if (!picture.open(device) || picture.reader().size().isEmpty())
             return std::nullopt;
-        return reader.size();
+        return picture.reader().size();
     });
 }
 

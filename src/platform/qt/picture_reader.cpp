@@ -1,0 +1,84 @@
+#include "platform/qt/picture_reader.h"
+
+#include "platform/image_codec.h"
+#include "platform/qt/svg_without_references.h"
+
+#include <algorithm>
+#include <array>
+
+namespace corvane {
+
+namespace {
+
+constexpr std::array readableFormats
+    = {"png", "jpeg", "gif", "bmp", "webp", "tiff", "svg",  "ico", "icns",
+       "ppm", "pgm",  "pbm", "xpm", "avif", "heif", "heic", "jp2", "jxl"};
+
+bool isReadable(const QByteArray &format)
+{
+    return std::ranges::any_of(readableFormats, [&](const char *known) { return format == known; });
+}
+
+} // namespace
+
+bool PictureReader::open(QIODevice &device)
+{
+    // Compressed drawings are the only pictures that begin like this.
+    if (device.peek(2) == "\x1f\x8b")
+        return false;
+    m_reader.setDevice(&device);
+    m_reader.setDecideFormatFromContent(true);
+    m_reader.setAutoTransform(true);
+    if (!m_reader.canRead() || !isReadable(m_reader.format()))
+        return false;
+    return !isVector() || openDrawing(device);
+}
+
+bool PictureReader::openDrawing(QIODevice &device)
+{
+    const auto drawing = svgWithoutReferences(device.read(maximumDrawingBytes + 1));
+    if (!drawing)
+        return false;
+    m_drawing = *drawing;
+    m_buffer.setData(m_drawing);
+    m_buffer.open(QIODevice::ReadOnly);
+    m_reader.setDevice(&m_buffer);
+    m_reader.setDecideFormatFromContent(false);
+    m_reader.setAutoDetectImageFormat(false);
+    m_reader.setFormat("svg");
+    return m_reader.canRead();
+}
+
+bool PictureReader::isVector() const
+{
+    return m_reader.format() == "svg";
+}
+
+bool PictureReader::fits() const
+{
+    const QSize size = m_reader.size();
+    if (!size.isValid())
+        return true;
+    const QImage::Format format = m_reader.imageFormat();
+    qint64 bytesPerPixel = 4;
+    if (format != QImage::Format_Invalid)
+        bytesPerPixel
+            = std::max<qint64>(bytesPerPixel, QImage::toPixelFormat(format).bitsPerPixel() / 8);
+    return qint64{size.width()} * size.height() <= ImageCodec::maximumDecodedBytes / bytesPerPixel;
+}
+
+std::optional<QImage> PictureReader::read()
+{
+    QImage image = m_reader.read();
+    if (image.isNull())
+        return std::nullopt;
+    const auto format
+        = image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+    image = std::move(image).convertToFormat(format);
+    image.setDevicePixelRatio(1);
+    if (image.isNull())
+        return std::nullopt;
+    return image;
+}
+
+} // namespace corvane
