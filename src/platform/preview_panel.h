@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QUrl>
 
 #include <optional>
@@ -16,6 +17,9 @@ public:
     virtual int numberOfPreviewItems() const = 0;
     /// A file address, or none.
     virtual std::optional<QUrl> previewItemAt(int index) const = 0;
+    /// What to call an item whose file is only lent to the panel, so that neither its name nor
+    /// opening it elsewhere means anything; none for a file of the user's.
+    virtual std::optional<QString> previewItemTitle(int index) const = 0;
 };
 
 /// Who may fill the panel while it is on screen. The panel asks nothing else of its user, so the

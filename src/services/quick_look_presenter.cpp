@@ -60,10 +60,16 @@ void QuickLookPresenter::present(const DropItem &item)
     if (!url)
         return;
     m_previewURL = url;
+    m_title = item.title();
     if (m_panel.isVisible())
         m_panel.orderOut();
     else
         m_panel.makeKeyAndOrderFront();
+}
+
+std::optional<QString> QuickLookPresenter::previewItemTitle(int /*index*/) const
+{
+    return m_scratchURL ? std::optional(m_title) : std::nullopt;
 }
 
 void QuickLookPresenter::discardScratch()

@@ -39,6 +39,8 @@ public:
     int numberOfPreviewItems() const override { return m_previewURL ? 1 : 0; }
     /// The one address, whatever the index.
     std::optional<QUrl> previewItemAt(int /*index*/) const override { return m_previewURL; }
+    /// The item's title while the address is a scratch file.
+    std::optional<QString> previewItemTitle(int index) const override;
 
 private:
     std::optional<QUrl> resolveURL(const DropItem &item);
@@ -50,6 +52,7 @@ private:
     QByteArray m_temporaryDirectory;
     std::optional<QUrl> m_previewURL;
     std::optional<QUrl> m_scratchURL;
+    QString m_title;
 };
 
 } // namespace corvane

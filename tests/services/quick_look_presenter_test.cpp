@@ -74,6 +74,14 @@ TEST_F(QuickLookPresenterTest, NamesAScratchFileByAUuidWithoutBraces)
     EXPECT_EQ(contents(*presenter->scratchURL()), QByteArray("\xC3\xA9"));
 }
 
+TEST_F(QuickLookPresenterTest, CallsAScratchFileByItsItemsTitleAndAFileByItsName)
+{
+    presenter->present(text(QStringLiteral("one")));
+    EXPECT_EQ(presenter->previewItemTitle(0), QStringLiteral("title"));
+    presenter->present(itemOf(DropItem::File{QUrl(QStringLiteral("file:///home/a.txt"))}));
+    EXPECT_FALSE(presenter->previewItemTitle(0).has_value());
+}
+
 TEST_F(QuickLookPresenterTest, LetsNobodyElseReadAScratchFile)
 {
     presenter->present(text(QStringLiteral("secret")));

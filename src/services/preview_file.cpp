@@ -1,0 +1,179 @@
+#include "services/preview_file.h"
+
+#include "core/byte_count.h"
+#include "core/display_text.h"
+#include "platform/file_url.h"
+#include "platform/preview_documents.h"
+#include "services/preview_text.h"
+
+#include <QDateTime>
+#include <QLocale>
+#include <QMimeDatabase>
+#include <QStringBuilder>
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <string_view>
+#include <utility>
+
+namespace corvane::preview_file {
+
+namespace {
+
+/// Enough for every magic number of the MIME database.
+constexpr qint64 maximumSniffed = 16'384;
+
+/// Up to `limit` bytes from the beginning of a regular file.
+QByteArray beginningOf(const QByteArray &path, qint64 limit)
+{
+    // Without blocking: the path may have become a pipe that nobody writes to.
+    const int file = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (file < 0)
+        return {};
+    QByteArray data;
+    struct stat status = {};
+    if (::fstat(file, &status) == 0 && S_ISREG(status.st_mode)) {
+        QByteArray buffer(std::min<qint64>(limit, 1'000'000), Qt::Uninitialized);
+        while (data.size() < limit) {
+            const auto room = std::min<qint64>(buffer.size(), limit - data.size());
+            const ssize_t count = ::read(file, buffer.data(), static_cast<std::size_t>(room));
+            if (count < 0 && errno == EINTR)
+                continue;
+            if (count <= 0)
+                break;
+            data.append(buffer.constData(), count);
+        }
+    }
+    ::close(file);
+    return data;
+}
+
+QString itemCount(const QByteArray &path)
+{
+    DIR *const folder = ::opendir(path.constData());
+    if (!folder)
+        return {};
+    int count = 0;
+    while (const dirent *entry = ::readdir(folder)) {
+        const std::string_view name(static_cast<const char *>(entry->d_name));
+        if (name != "." && name != ".." && ++count > maximumCounted)
+            break;
+    }
+    ::closedir(folder);
+    if (count > maximumCounted)
+        return QStringLiteral("More than 10,000 items");
+    return count == 1 ? QStringLiteral("1 item") : QString::number(count) % u" items";
+}
+
+QString timeOf(const struct stat &status)
+{
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(status.st_mtim.tv_sec);
+    if (!time.isValid())
+        return {};
+    return QLocale().toString(time.date(), u"d MMMM yyyy") % u", "
+        % QLocale().toString(time.time(), QLocale::ShortFormat);
+}
+
+QString kindOf(const QMimeType &type)
+{
+    QString kind = displayText(type.comment());
+    if (!kind.isEmpty())
+        kind[0] = kind[0].toUpper();
+    return kind;
+}
+
+QMimeType specialType(mode_t mode)
+{
+    const char *name = "inode/fifo";
+    if (S_ISSOCK(mode))
+        name = "inode/socket";
+    else if (S_ISCHR(mode))
+        name = "inode/chardevice";
+    else if (S_ISBLK(mode))
+        name = "inode/blockdevice";
+    return QMimeDatabase().mimeTypeForName(QLatin1String(name));
+}
+
+/// To open such a file may mean to run it, and looking at something must not lead there.
+bool isProgram(const QMimeType &type)
+{
+    static constexpr std::array programs = {u"application/x-desktop",
+                                            u"application/x-executable",
+                                            u"application/x-sharedlib",
+                                            u"application/x-ms-dos-executable",
+                                            u"application/vnd.microsoft.portable-executable",
+                                            u"application/vnd.appimage"};
+    return std::ranges::any_of(
+        programs, [&](const char16_t *name) { return type.inherits(QString::fromUtf16(name)); });
+}
+
+PreviewContent::Text textOf(const QByteArray &path, const QMimeType &type, const QString &name)
+{
+    // One byte more tells whether there is more.
+    QByteArray bytes = beginningOf(path, preview_text::maximumBytes + 1);
+    const bool isCut = bytes.size() > preview_text::maximumBytes;
+    bytes.truncate(preview_text::maximumBytes);
+    preview_text::Decoded decoded = preview_text::decode(bytes, isCut);
+    return {std::move(decoded.text), preview_text::isMonospaced(type, name), decoded.isCut};
+}
+
+void readRegular(PreviewContent &content, QSize wanted, PreviewDocuments &documents)
+{
+    const QByteArray path = file_url::nativePath(content.url);
+    const QString name = file_url::lastPathComponent(content.url);
+    const QByteArray beginning = beginningOf(path, maximumSniffed);
+    const QMimeType type = QMimeDatabase().mimeTypeForFileNameAndData(name, beginning);
+    content.details.kind = kindOf(type);
+    content.canBeOpened = !isProgram(type);
+    if (beginning.isEmpty())
+        return;
+    if (type.name().startsWith(u"image/") || type.inherits(QStringLiteral("application/pdf"))) {
+        if (auto opened = documents.open(content.url, wanted)) {
+            std::visit([&](auto &body) { content.body = std::move(body); }, *opened);
+            return;
+        }
+    }
+    if (preview_text::isText(type))
+        content.body = textOf(path, type, name);
+}
+
+} // namespace
+
+QString shownName(const QUrl &url)
+{
+    return displayText(file_url::lastPathComponent(url));
+}
+
+PreviewContent read(const QUrl &url, QSize wanted, PreviewDocuments &documents)
+{
+    PreviewContent content;
+    content.url = url;
+    content.details.name = shownName(url);
+    const QByteArray path = file_url::nativePath(url);
+    struct stat status = {};
+    if (path.isEmpty() || path.contains('\0') || ::stat(path.constData(), &status) != 0) {
+        content.body = PreviewContent::Missing{};
+        return content;
+    }
+    content.details.modified = timeOf(status);
+    if (S_ISDIR(status.st_mode)) {
+        content.details.kind
+            = kindOf(QMimeDatabase().mimeTypeForName(QStringLiteral("inode/directory")));
+        content.details.size = itemCount(path);
+        content.canBeOpened = true;
+    } else if (S_ISREG(status.st_mode)) {
+        content.details.size = formatByteCount(status.st_size);
+        readRegular(content, wanted, documents);
+    } else {
+        content.details.kind = kindOf(specialType(status.st_mode));
+    }
+    return content;
+}
+
+} // namespace corvane::preview_file

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "platform/preview_content.h"
+
+namespace corvane {
+
+class PreviewDocuments;
+
+/// What the preview of a file shows. Everything here may wait for a disk.
+namespace preview_file {
+
+/// Items of a folder beyond which nobody needs to know how many there are.
+inline constexpr int maximumCounted = 10'000;
+
+/// The content of the file at `url`, a picture fitted into `wanted` pixels. Of special files
+/// (pipes, devices, sockets) nothing is read.
+PreviewContent read(const QUrl &url, QSize wanted, PreviewDocuments &documents);
+
+/// Its name as it can be shown; the disk is not asked.
+QString shownName(const QUrl &url);
+
+} // namespace preview_file
+
+} // namespace corvane

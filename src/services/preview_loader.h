@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/preview_content.h"
+
+#include <atomic>
+#include <cstdint>
+
+namespace corvane {
+
+class MainQueue;
+class PreviewDocuments;
+class WorkQueue;
+
+/// Makes the contents of previews on other threads: whatever touches the file happens there, so
+/// that a disk which does not answer keeps nobody waiting but the preview.
+///
+/// What it is given must outlive it and all work that is under way. Once it is gone, or has been
+/// told to forget, nothing is answered.
+class PreviewLoader : public PreviewLoading {
+public:
+    PreviewLoader(PreviewDocuments &documents, MainQueue &mainQueue, WorkQueue &workQueue);
+    PreviewLoader(const PreviewLoader &) = delete;
+    PreviewLoader &operator=(const PreviewLoader &) = delete;
+    ~PreviewLoader() override;
+
+    PreviewDetails placeholder(const QUrl &url) const override;
+    void load(const QUrl &url, QSize wanted,
+              std::function<void(PreviewContent)> completion) override;
+    void cancel() override;
+    void render(std::shared_ptr<PreviewDocument> document, int page, QSize pixels,
+                std::function<void(std::optional<QImage>)> completion) override;
+    void nextFrame(std::shared_ptr<PreviewDocument> document, QSize limit,
+                   std::function<void(std::optional<PreviewDocument::Frame>)> completion) override;
+
+private:
+    template<class Result>
+    void inBackground(std::function<Result()> work, std::function<void(Result)> completion);
+
+    PreviewDocuments &m_documents;
+    MainQueue &m_mainQueue;
+    WorkQueue &m_workQueue;
+    /// What was asked for before the last `cancel` holds an older number. Held weakly by all work.
+    using Generation = std::atomic<std::uint64_t>;
+    std::shared_ptr<Generation> m_generation = std::make_shared<Generation>(0);
+};
+
+} // namespace corvane
