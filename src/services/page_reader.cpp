@@ -17,7 +17,8 @@ namespace {
 
 // Patterns run over UTF-8 and ask for the bounds of a match alone, never for its groups: then RE2
 // goes over each byte once or twice. Its own \s knows the ASCII blanks only. Ignoring case it takes
-// the long s and the Kelvin sign for letters of ours, but nothing that is looked for has an s or k.
+// the long s and the Kelvin sign for letters of ours, but no name of a tag or an attribute has any
+// of the two, and the keys are compared once more.
 constexpr const char *blanks = R"(\t-\r \x{85}\x{a0}\x{1680}\x{2000}-\x{200a}\x{2028}\x{2029})"
                                R"(\x{202f}\x{205f}\x{3000})";
 
@@ -99,7 +100,10 @@ class MetaTable {
 public:
     explicit MetaTable(std::string_view html)
     {
-        static const Pattern metaTag("<meta[" + std::string(blanks) + "][^>]*>");
+        // A tag reaches from the first opening in sight to the first angle. Of all the tags, those
+        // are found in which a key stands: no other says anything, and a page may be made of them.
+        static const Pattern metaTag("<meta[" + std::string(blanks) + "][^>]*(?:" + anyKey()
+                                     + ")[^>]*>");
         while (const auto tag = metaTag.find(html)) {
             read(*tag);
             html = after(html, *tag);
@@ -118,6 +122,14 @@ public:
     }
 
 private:
+    static std::string anyKey()
+    {
+        std::string alternatives;
+        for (const std::string_view key : keys)
+            alternatives.append(alternatives.empty() ? "" : "|").append(key);
+        return alternatives;
+    }
+
     static std::optional<std::size_t> indexOf(std::string_view key)
     {
         const auto *found = std::find(keys.begin(), keys.end(), key);
