@@ -1,0 +1,21 @@
+#include "app/focus_ring.h"
+
+#include "app/window_look.h"
+
+#include <QPainter>
+
+namespace corvane::focus_ring {
+
+void draw(QPainter &painter, const QPalette &palette, const QRectF &rect, double radius)
+{
+    constexpr double width = 2;
+    constexpr double inset = width / 2;
+    painter.save();
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(WindowLook::accent(palette), width));
+    painter.drawRoundedRect(rect.adjusted(inset, inset, -inset, -inset), radius - inset,
+                            radius - inset);
+    painter.restore();
+}
+
+} // namespace corvane::focus_ring
