@@ -6,6 +6,7 @@
 #include "platform/mouse_buttons.h"
 
 #include <map>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -29,15 +30,27 @@ public:
     {
         return refusesLocalMonitor ? std::nullopt : add(m_local, std::move(handler));
     }
+    std::optional<Handle> addGlobalMouseDownMonitor(Handler handler) override
+    {
+        return refusesGlobalMonitor ? std::nullopt : add(m_mouseDown, std::move(handler));
+    }
     void removeMonitor(Handle handle) override
     {
         removed.push_back(handle);
+        m_mouseDown.erase(handle);
         m_global.erase(handle);
         m_local.erase(handle);
     }
     unsigned pressedMouseButtons() const override { return m_pressed; }
 
     void press(unsigned buttons = MouseButtons::left) { m_pressed |= buttons; }
+    /// A press in another program's window; nobody may know where.
+    void pressElsewhere(std::optional<QPointF> point, unsigned buttons = MouseButtons::left)
+    {
+        pointer.position = point;
+        press(buttons);
+        notify(m_mouseDown);
+    }
     void release(unsigned buttons = MouseButtons::left) { m_pressed &= ~buttons; }
     /// Some program starts to drag contents: the drag pasteboard changes.
     void pickUp() { ++m_changeCount; }
@@ -55,6 +68,7 @@ public:
     }
 
     std::size_t monitorCount() const { return m_global.size() + m_local.size(); }
+    std::size_t mouseDownMonitorCount() const { return m_mouseDown.size(); }
 
     FakePointer pointer;
     bool refusesGlobalMonitor = false;
@@ -73,13 +87,17 @@ private:
     void move(QPointF point, const Monitors &monitors)
     {
         pointer.position = point;
-        if ((m_pressed & MouseButtons::left) == 0)
-            return;
+        if ((m_pressed & MouseButtons::left) != 0)
+            notify(monitors);
+    }
+    static void notify(const Monitors &monitors)
+    {
         // A copy: a handler may remove monitors.
         for (const auto &[handle, handler] : Monitors(monitors))
             handler();
     }
 
+    Monitors m_mouseDown;
     Monitors m_global;
     Monitors m_local;
     Handle m_nextHandle = 1;

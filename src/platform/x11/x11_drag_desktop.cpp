@@ -16,7 +16,10 @@ namespace corvane {
 
 namespace {
 
+constexpr std::uint8_t disabledButton = 0;
 constexpr std::uint8_t leftButton = 1;
+constexpr std::uint8_t firstWheelButton = 4;
+constexpr std::uint8_t lastWheelButton = 7;
 
 std::uint32_t maskFor(bool hearsMotion)
 {
@@ -53,9 +56,10 @@ X11DragDesktop::~X11DragDesktop()
 
 std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMonitor(Handler onLeftMouseDragged)
 {
-    if (!m_connection.isConnected() || !m_connection.hasXInput())
+    if (!canListen())
         return std::nullopt;
-    if (m_listening == Listening::Nothing)
+    // The first one may come in mid-drag.
+    if (m_monitors.empty())
         listenTo((pressedMouseButtons() & left) != 0 ? Listening::ButtonsAndMotion
                                                      : Listening::Buttons);
     m_monitors.emplace(m_nextHandle, std::move(onLeftMouseDragged));
@@ -67,11 +71,23 @@ std::optional<EventMonitors::Handle> X11DragDesktop::addLocalMonitor(Handler)
     return std::nullopt;
 }
 
+std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMouseDownMonitor(Handler onMouseDown)
+{
+    if (!canListen())
+        return std::nullopt;
+    if (m_listening == Listening::Nothing)
+        listenTo(Listening::Buttons);
+    m_mouseDownMonitors.emplace(m_nextHandle, std::move(onMouseDown));
+    return m_nextHandle++;
+}
+
 void X11DragDesktop::removeMonitor(Handle handle)
 {
+    m_mouseDownMonitors.erase(handle);
     m_monitors.erase(handle);
-    if (m_monitors.empty())
-        listenTo(Listening::Nothing);
+    if (!m_monitors.empty())
+        return;
+    listenTo(m_mouseDownMonitors.empty() ? Listening::Nothing : Listening::Buttons);
 }
 
 unsigned X11DragDesktop::pressedMouseButtons() const
@@ -100,7 +116,7 @@ void X11DragDesktop::handle(const xcb_generic_event_t &event)
         if (raw.extension != m_connection.xinputOpcode())
             return;
         if (raw.event_type == XCB_INPUT_RAW_MOTION)
-            notify();
+            notify(m_monitors);
         else if (raw.event_type == XCB_INPUT_RAW_BUTTON_PRESS)
             handleRawButton(raw.detail, true);
         else if (raw.event_type == XCB_INPUT_RAW_BUTTON_RELEASE)
@@ -121,10 +137,39 @@ void X11DragDesktop::handleSelection(const xcb_generic_event_t &event)
 
 void X11DragDesktop::handleRawButton(std::uint32_t button, bool isPress)
 {
-    if (button == 0 || button > m_buttonMapping.size() || m_buttonMapping[button - 1] != leftButton
-        || m_listening == Listening::Nothing)
+    if (button == 0 || button > m_buttonMapping.size() || m_listening == Listening::Nothing)
         return;
-    listenTo(isPress ? Listening::ButtonsAndMotion : Listening::Buttons);
+    const std::uint8_t logical = m_buttonMapping[button - 1];
+    if (logical == leftButton && !m_monitors.empty())
+        listenTo(isPress ? Listening::ButtonsAndMotion : Listening::Buttons);
+    const bool isWheel = logical >= firstWheelButton && logical <= lastWheelButton;
+    if (isPress && logical != disabledButton && !isWheel && !m_mouseDownMonitors.empty()
+        && !isOverOwnWindow())
+        notify(m_mouseDownMonitors);
+}
+
+/// Raw events name no window: the one under the pointer is asked for, from the desktop down through
+/// a window manager's frames.
+bool X11DragDesktop::isOverOwnWindow() const
+{
+    // Deeper than any desktop nests its windows.
+    constexpr int maximumDepth = 32;
+    xcb_window_t window = m_connection.root();
+    for (int depth = 0; depth < maximumDepth; ++depth) {
+        const X11Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+            m_connection.get(), xcb_query_pointer(m_connection.get(), window), nullptr));
+        if (!reply || reply->child == XCB_NONE)
+            return false;
+        if (x11_qt::isOwn(reply->child))
+            return true;
+        window = reply->child;
+    }
+    return false;
+}
+
+bool X11DragDesktop::canListen() const
+{
+    return m_connection.isConnected() && m_connection.hasXInput();
 }
 
 void X11DragDesktop::listenTo(Listening what)
@@ -151,15 +196,15 @@ void X11DragDesktop::readButtonMapping()
     std::copy_n(map, xcb_get_pointer_mapping_map_length(reply.get()), m_buttonMapping.begin());
 }
 
-void X11DragDesktop::notify() const
+void X11DragDesktop::notify(const Monitors &monitors)
 {
     // By handle, and through a copy: a handler may remove any monitor, itself too.
     std::vector<Handle> handles;
-    for (const auto &[handle, handler] : m_monitors)
+    for (const auto &[handle, handler] : monitors)
         handles.push_back(handle);
     for (const Handle handle : handles) {
-        const auto found = m_monitors.find(handle);
-        if (found == m_monitors.end())
+        const auto found = monitors.find(handle);
+        if (found == monitors.end())
             continue;
         const Handler handler = found->second;
         handler();

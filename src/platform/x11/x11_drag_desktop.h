@@ -27,10 +27,13 @@ public:
     std::optional<Handle> addGlobalMonitor(Handler onLeftMouseDragged) override;
     /// None: the global monitor hears this program too.
     std::optional<Handle> addLocalMonitor(Handler onLeftMouseDragged) override;
+    std::optional<Handle> addGlobalMouseDownMonitor(Handler onMouseDown) override;
     void removeMonitor(Handle handle) override;
     unsigned pressedMouseButtons() const override;
 
 private:
+    using Monitors = std::map<Handle, Handler>;
+
     enum class Listening {
         Nothing,
         Buttons,
@@ -40,9 +43,11 @@ private:
     void handle(const xcb_generic_event_t &event);
     void handleSelection(const xcb_generic_event_t &event);
     void handleRawButton(std::uint32_t button, bool isPress);
+    bool canListen() const;
     void listenTo(Listening what);
     void readButtonMapping();
-    void notify() const;
+    bool isOverOwnWindow() const;
+    static void notify(const Monitors &monitors);
 
     X11Connection &m_connection;
     X11Connection::ListenerId m_listener;
@@ -51,7 +56,8 @@ private:
     /// Which logical button each physical one is: raw events tell physical ones, and left-handed
     /// people exchange them.
     std::array<std::uint8_t, 256> m_buttonMapping{};
-    std::map<Handle, Handler> m_monitors;
+    Monitors m_monitors;
+    Monitors m_mouseDownMonitors;
     Handle m_nextHandle = 1;
 };
 
