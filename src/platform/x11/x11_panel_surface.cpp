@@ -9,6 +9,7 @@
 #include <xcb/shape.h>
 #include <xcb/xfixes.h>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -87,6 +88,7 @@ void X11PanelSurface::adopt(QWindow &window)
     auto *const qt = x11_qt::connection();
     if (!qt)
         return;
+    m_panels.push_back(x11_qt::nativeWindow(window));
     // Compositors would draw a shadow around the whole window, body or not.
     const std::uint32_t noShadow = 0;
     xcb_change_property(qt, XCB_PROP_MODE_REPLACE, x11_qt::nativeWindow(window),
@@ -126,7 +128,7 @@ void X11PanelSurface::setBoundingRegion(QWindow &window, const QRegion &region)
 void X11PanelSurface::takeKeyboard(QWindow &window)
 {
     const xcb_window_t focus = focusedWindow();
-    if (focus != x11_qt::nativeWindow(window)) {
+    if (!isPanel(focus)) {
         m_previousFocus = focus;
         m_previousActive = activeWindow();
     }
@@ -136,11 +138,11 @@ void X11PanelSurface::takeKeyboard(QWindow &window)
 
 void X11PanelSurface::giveKeyboardBack(QWindow &window)
 {
-    const xcb_window_t active = std::exchange(m_previousActive, XCB_NONE);
-    const xcb_window_t focus = std::exchange(m_previousFocus, XCB_NONE);
-    // Somebody else has it by now: the user went on.
+    // Somebody else has it by now: the user went on, or to another panel.
     if (focusedWindow() != x11_qt::nativeWindow(window))
         return;
+    const xcb_window_t active = std::exchange(m_previousActive, XCB_NONE);
+    const xcb_window_t focus = std::exchange(m_previousFocus, XCB_NONE);
     if (active != XCB_NONE)
         activate(active);
     else if (focus != XCB_NONE)
@@ -184,6 +186,11 @@ xcb_window_t X11PanelSurface::activeWindow() const
     if (!reply || xcb_get_property_value_length(reply.get()) < int{sizeof(xcb_window_t)})
         return XCB_NONE;
     return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
+}
+
+bool X11PanelSurface::isPanel(xcb_window_t window) const
+{
+    return std::find(m_panels.begin(), m_panels.end(), window) != m_panels.end();
 }
 
 void X11PanelSurface::activate(xcb_window_t window)

@@ -4,6 +4,8 @@
 #include "platform/panel_surface.h"
 #include "platform/x11/x11_connection.h"
 
+#include <vector>
+
 namespace corvane {
 
 /// Panels on X11: windows that no window manager manages, so that they stand exactly where they
@@ -32,14 +34,16 @@ private:
     xcb_window_t focusedWindow() const;
     xcb_window_t activeWindow() const;
     void activate(xcb_window_t window);
+    bool isPanel(xcb_window_t window) const;
 
     X11Connection &m_connection;
     X11Connection::ListenerId m_listener;
     xcb_atom_t m_compositorSelection;
     bool m_isComposited = false;
     CallbackList<> m_observers;
-    /// Who had the keyboard before a panel took it: as the window manager names it, and as the
-    /// server does where there is none.
+    std::vector<xcb_window_t> m_panels;
+    /// Who had the keyboard before panels took it, which may take it from each other: as the window
+    /// manager names it, and as the server does where there is none.
     xcb_window_t m_previousActive = XCB_NONE;
     xcb_window_t m_previousFocus = XCB_NONE;
 };
