@@ -1,0 +1,56 @@
+#include "core/drag_set.h"
+
+#include "core/drag_writer.h"
+#include "core/scratch_spool.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace corvane {
+
+namespace {
+
+DragSet alone(const DropItem &item)
+{
+    DragSet set;
+    set.contents.writers.push_back(DragWriter::pasteboardWriter(item));
+    set.items << item;
+    return set;
+}
+
+std::optional<QUrl> saved(const DropItem &item, const DropItem::ImageBytes &image,
+                          ScratchSpool &spool)
+{
+    const QString extension = image.type.preferredFilenameExtension();
+    return spool.store(image.data, item.title(),
+                       extension.isEmpty() ? QStringLiteral("png") : extension);
+}
+
+} // namespace
+
+DragSet makeDragSet(const QList<DropItem> &items, ScratchSpool &spool)
+{
+    QList<DropItem> available;
+    std::copy_if(items.begin(), items.end(), std::back_inserter(available),
+                 DragWriter::isAvailable);
+    if (available.size() == 1)
+        return alone(available.constFirst());
+
+    DragSet set;
+    set.contents.writers.reserve(static_cast<std::size_t>(available.size()));
+    for (const DropItem &item : std::as_const(available)) {
+        PasteboardWriter writer = DragWriter::pasteboardWriter(item);
+        if (const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload())) {
+            const auto url = saved(item, *image, spool);
+            if (!url)
+                continue;
+            set.savedFiles << *url;
+            writer = {PasteboardWriter::File{*url}};
+        }
+        set.contents.writers.push_back(std::move(writer));
+        set.items << item;
+    }
+    return set.items.isEmpty() && !available.isEmpty() ? alone(available.constFirst()) : set;
+}
+
+} // namespace corvane

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/drop_item.h"
+#include "platform/pasteboard_writer.h"
+
+#include <QList>
+#include <QUrl>
+
+namespace corvane {
+
+class ScratchSpool;
+
+/// What leaves the shelf in one drag.
+struct DragSet {
+    PasteboardContents contents;
+    /// The items whose contents are in it, in their order. Others cannot travel and stay.
+    QList<DropItem> items;
+    /// Files that were made for this drag alone; of no use once it has failed.
+    QList<QUrl> savedFiles;
+};
+
+/// Puts together what of `items` can travel. A file that is gone cannot. A picture that is held in
+/// memory travels as its bytes when it is alone; beside others, where a target takes addresses or
+/// nothing, it is saved into the spool, and stays if that fails. Where nothing else can travel the
+/// first one goes alone.
+DragSet makeDragSet(const QList<DropItem> &items, ScratchSpool &spool);
+
+} // namespace corvane
