@@ -19,6 +19,7 @@ Q_DECLARE_OPERATORS_FOR_FLAGS(Modifiers)
 
 /// Virtual key codes: they name a key by its position on an ANSI keyboard.
 namespace key_code {
+constexpr std::uint32_t a = 0;
 constexpr std::uint32_t c = 8;
 constexpr std::uint32_t space = 49;
 constexpr std::uint32_t deleteBackward = 51;

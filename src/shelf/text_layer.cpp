@@ -48,6 +48,14 @@ void TextLayer::setAlignment(Qt::Alignment alignment)
     invalidate();
 }
 
+void TextLayer::setElideMode(Qt::TextElideMode mode)
+{
+    if (mode == m_elideMode)
+        return;
+    m_elideMode = mode;
+    invalidate();
+}
+
 QImage TextLayer::rasterized(double width, double height, double scale) const
 {
     QImage bitmap = transparentBitmap({width, height}, scale);
@@ -55,7 +63,7 @@ QImage TextLayer::rasterized(double width, double height, double scale) const
     painter.setFont(m_font);
     painter.setPen(m_color);
     const QFontMetricsF metrics(m_font, &bitmap);
-    const QString line = metrics.elidedText(displayText(m_string), Qt::ElideRight, width);
+    const QString line = metrics.elidedText(displayText(m_string), m_elideMode, width);
     const double advance = metrics.horizontalAdvance(line);
     double x = 0;
     if (m_alignment & Qt::AlignHCenter)

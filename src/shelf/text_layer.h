@@ -20,6 +20,8 @@ public:
     void setFont(const QFont &font);
     void setColor(const QColor &color);
     void setAlignment(Qt::Alignment alignment);
+    /// Where a line that does not fit is cut; at its right end unless set.
+    void setElideMode(Qt::TextElideMode mode);
 
 protected:
     void draw(QPainter &painter, QSizeF size, double scale) const override;
@@ -32,6 +34,7 @@ private:
     QFont m_font;
     QColor m_color = Qt::white;
     Qt::Alignment m_alignment = Qt::AlignLeft;
+    Qt::TextElideMode m_elideMode = Qt::ElideRight;
     // The letters are drawn once and moved as a picture, sharp on whole pixels.
     mutable QImage m_bitmap;
     mutable QSizeF m_bitmapBounds;

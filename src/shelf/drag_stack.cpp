@@ -1,0 +1,59 @@
+#include "shelf/drag_stack.h"
+
+#include "shelf/drawing.h"
+#include "shelf/theme.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <array>
+
+namespace corvane::drag_stack {
+
+namespace {
+
+/// Around the front card, for the corners of the turned ones and for the badge.
+constexpr double margin = 14;
+constexpr double badgeHeight = 20;
+/// How far the cards behind the front one are turned, in degrees.
+constexpr std::array<double, maximumCards> turns{0, 7, -6};
+
+void paintBadge(QPainter &painter, qsizetype count, double whole, const Theme &theme)
+{
+    QFont font = theme.typography.primary;
+    font.setWeight(QFont::DemiBold);
+    const QString number = QString::number(count);
+    const QFontMetricsF metrics(font, painter.device());
+    const double width = std::max(badgeHeight, metrics.horizontalAdvance(number) + 12);
+    const QRectF badge(whole - width - 1, 1, width, badgeHeight);
+    painter.setPen(QPen(QColor::fromRgbF(0, 0, 0, 0.35F), 1));
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(badge, badgeHeight / 2, badgeHeight / 2);
+    painter.setPen(Qt::black);
+    painter.setFont(font);
+    painter.drawText(badge, Qt::AlignCenter, number);
+}
+
+} // namespace
+
+Image image(const std::vector<Image> &cards, qsizetype count, double side, const Theme &theme,
+            double scale)
+{
+    const double whole = side + 2 * margin;
+    QImage bitmap = transparentBitmap({whole, whole}, scale);
+    QPainter painter(&bitmap);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    for (std::size_t i = std::min(cards.size(), maximumCards); i-- > 0;) {
+        painter.save();
+        painter.translate(whole / 2, whole / 2);
+        painter.rotate(turns.at(i));
+        painter.drawImage(QRectF(-side / 2, -side / 2, side, side), cards[i].bitmap);
+        painter.restore();
+    }
+    paintBadge(painter, count, whole, theme);
+    painter.end();
+    return {bitmap, QSizeF(whole, whole)};
+}
+
+} // namespace corvane::drag_stack

@@ -1,0 +1,158 @@
+#pragma once
+
+#include "core/drop_item.h"
+#include "platform/panel_window.h"
+#include "shelf/bitmap_layer.h"
+#include "shelf/glass_background.h"
+#include "shelf/text_layer.h"
+#include "shelf/view_all_tile.h"
+
+#include <QList>
+#include <QSet>
+#include <QUuid>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace corvane {
+
+class DragWriter;
+class Keyboard;
+class MainQueue;
+class MotionPreference;
+class ScratchSpool;
+struct Theme;
+
+/// The content of the view-all bar: a page of tiles between two arrows, above a row of actions. It
+/// shows what it is given, and turns what the user does into callbacks. A callback that is not set
+/// is skipped.
+///
+///     idle --press on a tile--> pressed --release--> toggled, idle
+///                               pressed --3 points--> dragging --end--> idle
+///
+/// Nothing in it moves by itself: changes apply at once. It takes no drops. Main thread only;
+/// everything in the context must outlive the view.
+class ViewAllView : public PanelContent {
+public:
+    static constexpr double cornerRadius = 20;
+    /// A press that moves farther than this, in points, is a drag.
+    static constexpr double dragDistance = 3;
+    static constexpr double preciseScrollStep = 34;
+    static constexpr double wheelScrollStep = 4;
+
+    struct Context {
+        PanelWindow &panel;
+        MainQueue &queue;
+        const MotionPreference &motionPreference;
+        const Theme &theme;
+        const Keyboard &keyboard;
+        const DragWriter &dragWriter;
+        ScratchSpool &spool;
+    };
+    explicit ViewAllView(const Context &context);
+    ~ViewAllView() override;
+
+    std::function<void(const DropItem &)> onToggleItem;
+    std::function<void()> onToggleSelectAll;
+    std::function<void()> onCopySelected;
+    std::function<void()> onRemoveSelected;
+    /// Items were dropped elsewhere, those alone whose contents were handed over; `keep` when Shift
+    /// was held at that moment.
+    std::function<void(const QList<QUuid> &ids, bool keep)> onEjected;
+    /// -1 is back, 1 forward.
+    std::function<void(int step)> onScroll;
+    std::function<void()> onClose;
+    std::function<void(bool isDraggingOut)> onDragOutChanged;
+    /// Nothing of what was to be dragged is there any more.
+    std::function<void()> onNothingToDrag;
+
+    /// Shows the page of `items` that begins at `offset`, or as near to it as there is one. The
+    /// list and the set are looked at again at every event, so they must stay where they are: a
+    /// copy would make the next change of any of many thousand items copy them all.
+    void apply(const QList<DropItem> &items, const QSet<QUuid> &selection, int offset);
+    /// By the panel's present width.
+    int itemsPerPage() const;
+    int offset() const { return m_offset; }
+    /// In the order of the items, not of their selection. Walks all items.
+    QList<DropItem> selectedInOrder() const;
+
+    /// What is on the screen, for whoever wants to check it.
+    const ViewAllLayout &layout() const { return m_layout; }
+    std::optional<ViewAllControl> hoveredControl() const { return m_hoveredControl; }
+    std::optional<QUuid> hovered() const { return m_hovered; }
+    std::size_t tileCount() const { return m_tiles.size(); }
+
+    void paint(QPainter &painter, QSizeF size, double scale) override;
+    void mouseDown(const MouseEvent &event) override;
+    void mouseDragged(const MouseEvent &event) override;
+    void mouseUp(const MouseEvent &event) override;
+    void mouseEntered(const MouseEvent &event) override;
+    void mouseMoved(const MouseEvent &event) override;
+    void mouseExited() override;
+    void scrollWheel(const ScrollEvent &event) override;
+    bool keyDown(const KeyEvent &event) override;
+    DragOperation draggingEntered(const DraggingInfo &info) override;
+    DragOperation draggingUpdated(const DraggingInfo &info) override;
+    void draggingExited() override { }
+    bool performDragOperation(const DraggingInfo &info) override;
+    void draggingEnded() override { }
+
+private:
+    struct Arrow {
+        explicit Arrow(LayerTree &tree)
+            : plate(tree)
+            , caret(tree)
+        {
+        }
+        Layer plate;
+        BitmapLayer caret;
+    };
+
+    void buildLayers();
+    int itemCount() const { return m_items ? static_cast<int>(m_items->size()) : 0; }
+    view_all_layout::Range visible() const;
+    void syncTiles();
+    void relayout();
+    void applyLayout();
+    void applyArrow(Arrow &arrow, const ViewAllLayout::Arrow &layout);
+    const DropItem *itemAt(QPointF point) const;
+    const DropItem *itemWithId(const QUuid &id) const;
+    bool findHovered();
+    void updateHover(QPointF point);
+    void press(ViewAllControl control) const;
+    Image dragImage(const DropItem &grabbed, const QList<DropItem> &items) const;
+    void beginDrag(const DropItem &grabbed);
+    void dragEnded(DragOperation operation, const QList<QUrl> &savedFiles);
+
+    Context m_context;
+    LayerTree m_tree;
+    std::unique_ptr<GlassBackground> m_glass;
+    Layer m_contentHost;
+    Layer m_content;
+    Arrow m_leftArrow;
+    Arrow m_rightArrow;
+    BitmapLayer m_selectAllBox;
+    TextLayer m_selectAllLabel;
+    BitmapLayer m_copyButton;
+    BitmapLayer m_trashButton;
+    // After the layer that contains them.
+    std::vector<std::unique_ptr<ViewAllTile>> m_tiles;
+
+    const QList<DropItem> *m_items = nullptr;
+    const QSet<QUuid> *m_selection = nullptr;
+    int m_offset = 0;
+    ViewAllLayout m_layout;
+    std::optional<QPointF> m_pointer;
+    std::optional<QUuid> m_hovered;
+    std::optional<ViewAllControl> m_hoveredControl;
+    QList<QUuid> m_draggingIds;
+    std::optional<QUuid> m_mouseDownId;
+    std::optional<QPointF> m_mouseDownPoint;
+    double m_scale = 1;
+    // A drag may end after the view.
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

@@ -1,0 +1,242 @@
+// The pointer and the keys on the view-all bar, and the bar as a source of drags.
+
+#include "core/drag_set.h"
+#include "core/drag_writer.h"
+#include "core/scratch_spool.h"
+#include "platform/keyboard.h"
+#include "shelf/drag_stack.h"
+#include "shelf/view_all_view.h"
+
+#include <QLineF>
+
+#include <algorithm>
+#include <cmath>
+#include <type_traits>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+template<typename... Arguments>
+void call(const std::function<void(Arguments...)> &callback,
+          std::type_identity_t<Arguments>... arguments)
+{
+    if (callback)
+        callback(arguments...);
+}
+
+} // namespace
+
+/// False when what is under the pointer is what was. While it is on a control the tile that it came
+/// from stays the hovered one.
+bool ViewAllView::findHovered()
+{
+    std::optional<ViewAllControl> control;
+    std::optional<QUuid> hovered;
+    if (m_pointer) {
+        control = view_all_layout::controlAt(m_layout, *m_pointer);
+        const DropItem *item = itemAt(*m_pointer);
+        hovered = control ? m_hovered : item ? std::optional(item->id()) : std::nullopt;
+    }
+    const bool isSame = control == m_hoveredControl && hovered == m_hovered;
+    m_hoveredControl = control;
+    m_hovered = hovered;
+    return !isSame;
+}
+
+void ViewAllView::updateHover(QPointF point)
+{
+    m_pointer = point;
+    if (findHovered())
+        relayout();
+}
+
+void ViewAllView::mouseEntered(const MouseEvent &event)
+{
+    updateHover(event.location);
+}
+
+void ViewAllView::mouseMoved(const MouseEvent &event)
+{
+    updateHover(event.location);
+}
+
+void ViewAllView::mouseExited()
+{
+    m_pointer.reset();
+    if (findHovered())
+        relayout();
+}
+
+void ViewAllView::mouseDown(const MouseEvent &event)
+{
+    m_context.panel.makeKey();
+    m_context.panel.orderFrontRegardless();
+    if (const auto control = view_all_layout::controlAt(m_layout, event.location)) {
+        press(*control);
+    } else if (const DropItem *item = itemAt(event.location)) {
+        m_mouseDownId = item->id();
+        m_mouseDownPoint = event.location;
+    }
+}
+
+void ViewAllView::press(ViewAllControl control) const
+{
+    switch (control) {
+    case ViewAllControl::Back:
+        call(onScroll, -1);
+        break;
+    case ViewAllControl::Forward:
+        call(onScroll, 1);
+        break;
+    case ViewAllControl::SelectAll:
+        call(onToggleSelectAll);
+        break;
+    case ViewAllControl::Copy:
+        call(onCopySelected);
+        break;
+    case ViewAllControl::Trash:
+        call(onRemoveSelected);
+        break;
+    }
+}
+
+void ViewAllView::mouseDragged(const MouseEvent &event)
+{
+    if (!m_draggingIds.isEmpty())
+        return;
+    updateHover(event.location);
+    if (!m_mouseDownPoint || !m_mouseDownId
+        || QLineF(*m_mouseDownPoint, event.location).length() <= dragDistance)
+        return;
+    const DropItem *grabbed = itemWithId(*m_mouseDownId);
+    if (!grabbed)
+        return;
+    m_mouseDownId.reset();
+    m_mouseDownPoint.reset();
+    // A copy: the drag may run an event loop in which the items change.
+    beginDrag(DropItem(*grabbed));
+}
+
+void ViewAllView::mouseUp(const MouseEvent & /*event*/)
+{
+    const auto pressed = std::exchange(m_mouseDownId, std::nullopt);
+    m_mouseDownPoint.reset();
+    const DropItem *item = pressed ? itemWithId(*pressed) : nullptr;
+    if (item)
+        call(onToggleItem, DropItem(*item));
+}
+
+Image ViewAllView::dragImage(const DropItem &grabbed, const QList<DropItem> &items) const
+{
+    const double side = view_all_layout::thumbSide;
+    std::vector<Image> cards;
+    const auto add = [&](const DropItem &item) {
+        if (cards.size() < drag_stack::maximumCards)
+            cards.push_back(m_context.dragWriter.dragImage(item, side, m_scale));
+    };
+    // What was grabbed lies on top, if it travels.
+    const bool hasGrabbed = std::any_of(items.begin(), items.end(), [&](const DropItem &item) {
+        return item.id() == grabbed.id();
+    });
+    if (hasGrabbed)
+        add(grabbed);
+    for (const DropItem &item : items) {
+        if (cards.size() == drag_stack::maximumCards)
+            break;
+        if (item.id() != grabbed.id())
+            add(item);
+    }
+    return items.size() == 1
+        ? cards.front()
+        : drag_stack::image(cards, items.size(), side, m_context.theme, m_scale);
+}
+
+void ViewAllView::beginDrag(const DropItem &grabbed)
+{
+    const bool isSelected = m_selection && m_selection->contains(grabbed.id());
+    DragSet set
+        = makeDragSet(isSelected ? selectedInOrder() : QList<DropItem>{grabbed}, m_context.spool);
+    if (set.items.isEmpty()) {
+        call(onNothingToDrag);
+        return;
+    }
+    for (const DropItem &item : std::as_const(set.items))
+        m_draggingIds << item.id();
+    call(onDragOutChanged, true);
+
+    DragOut drag;
+    drag.contents = std::move(set.contents);
+    drag.image = dragImage(grabbed, set.items);
+    drag.hotSpot = {drag.image.size.width() / 2, drag.image.size.height() / 2};
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.panel.beginDraggingSession(
+        std::move(drag), [this, alive, saved = set.savedFiles](DragOperation operation) {
+            if (!alive.expired())
+                dragEnded(operation, saved);
+        });
+}
+
+void ViewAllView::dragEnded(DragOperation operation, const QList<QUrl> &savedFiles)
+{
+    const QList<QUuid> ids = std::exchange(m_draggingIds, {});
+    call(onDragOutChanged, false);
+    if (operation == DragOperation::None) {
+        for (const QUrl &url : savedFiles)
+            m_context.spool.discard(url);
+        return;
+    }
+    const bool keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
+    call(onEjected, ids, keep);
+}
+
+void ViewAllView::scrollWheel(const ScrollEvent &event)
+{
+    if (itemCount() <= itemsPerPage())
+        return;
+    const double step = event.hasPreciseDeltas ? preciseScrollStep : wheelScrollStep;
+    if (std::abs(event.deltaX) >= step)
+        call(onScroll, event.deltaX > 0 ? -1 : 1);
+}
+
+bool ViewAllView::keyDown(const KeyEvent &event)
+{
+    const bool isCommand = event.modifiers.testFlag(Modifier::Command);
+    switch (event.keyCode) {
+    case key_code::a:
+        if (isCommand)
+            call(onToggleSelectAll);
+        return isCommand;
+    case key_code::c:
+        if (isCommand)
+            call(onCopySelected);
+        return isCommand;
+    case key_code::deleteBackward:
+    case key_code::deleteForward:
+        call(onRemoveSelected);
+        return true;
+    case key_code::escape:
+        call(onClose);
+        return true;
+    default:
+        return false;
+    }
+}
+
+DragOperation ViewAllView::draggingEntered(const DraggingInfo & /*info*/)
+{
+    return DragOperation::None;
+}
+
+DragOperation ViewAllView::draggingUpdated(const DraggingInfo & /*info*/)
+{
+    return DragOperation::None;
+}
+
+bool ViewAllView::performDragOperation(const DraggingInfo & /*info*/)
+{
+    return false;
+}
+
+} // namespace corvane
