@@ -1,0 +1,144 @@
+#include "shelf/view_all_controller.h"
+
+#include "core/feedback.h"
+#include "core/quick_actions.h"
+#include "core/shelf_store.h"
+#include "platform/checked_math.h"
+#include "platform/geometry.h"
+#include "platform/pointer.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace corvane {
+
+ViewAllController::ViewAllController(const Context &context)
+    : m_context(context)
+    , m_panel(context.view.panel)
+    , m_view(context.view)
+    , m_store(context.store)
+{
+    m_panel.setFrame(initialFrame);
+    m_panel.setContent(&m_view);
+    m_panel.setIgnoresMouseEvents(true);
+    wireView();
+}
+
+ViewAllController::~ViewAllController()
+{
+    stopWatchingOutsideClicks();
+    m_panel.setContent(nullptr);
+}
+
+void ViewAllController::wireView()
+{
+    // The view is part of the controller and goes with it.
+    m_view.onToggleItem = [this](const DropItem &item) { m_store.toggleSelection(item); };
+    m_view.onToggleSelectAll = [this] { m_store.toggleSelectAll(); };
+    m_view.onRemoveSelected = [this] { m_store.removeSelected(); };
+    m_view.onCopySelected = [this] { m_context.quickActions.copy(m_store.selectedItems()); };
+    m_view.onEjected = [this](const QList<QUuid> &ids, bool keep) { m_store.ejected(ids, keep); };
+    m_view.onScroll = [this](int step) { scroll(step); };
+    m_view.onClose = [this] { close(); };
+    m_view.onDragOutChanged = [this](bool isDraggingOut) {
+        if (m_store.isOwnDrag() == isDraggingOut)
+            return;
+        m_store.setOwnDrag(isDraggingOut);
+        m_store.publishItems();
+    };
+    m_view.onNothingToDrag = [this] {
+        m_context.feedback.show(
+            QCoreApplication::translate("ShelfView", "The file is no longer there"));
+    };
+}
+
+void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &screen)
+{
+    m_pillFrame = pillFrame;
+    m_lastScreen = screen;
+    if (m_store.isViewAllOpen() && screen && m_store.items().size() >= minimumItems)
+        show(*screen);
+    else
+        hide();
+}
+
+void ViewAllController::show(const Screen &screen)
+{
+    const double width = std::round(screen.frame.width() * widthShare);
+    const double height = view_all_layout::barHeight;
+    const QRectF frame(midX(screen.frame) - width / 2, minY(m_pillFrame) - gap - height, width,
+                       height);
+    if (m_panel.frame() != frame)
+        m_panel.setFrame(frame);
+
+    const auto count = static_cast<int>(m_store.items().size());
+    m_offset
+        = view_all_layout::clampedOffset(m_offset, count, view_all_layout::itemsPerPage(width));
+    m_view.apply(m_store.items(), m_store.selection(), m_offset);
+
+    m_wantsKeyboard = m_wantsKeyboard || !m_panel.isVisible();
+    m_panel.setIgnoresMouseEvents(false);
+    m_panel.orderFrontRegardless();
+    // Once: a picture that arrives later must not take it from a window that the user went to. And
+    // never from a drag, whose source may end it on losing the keyboard.
+    if (m_wantsKeyboard && !m_store.isDragInFlight()) {
+        m_wantsKeyboard = false;
+        m_panel.makeKey();
+    }
+    if (!m_outsideClickMonitor)
+        startWatchingOutsideClicks();
+}
+
+void ViewAllController::hide()
+{
+    stopWatchingOutsideClicks();
+    m_panel.setIgnoresMouseEvents(true);
+    m_offset = 0;
+    m_wantsKeyboard = false;
+    m_panel.orderOut();
+}
+
+void ViewAllController::close()
+{
+    if (!m_store.isViewAllOpen())
+        return;
+    m_store.setViewAllOpen(false);
+    m_store.publishItems();
+}
+
+void ViewAllController::scroll(int step)
+{
+    m_offset = std::max(0, checkedAdd(m_offset, step));
+    // By value: rendering writes it.
+    render(QRectF(m_pillFrame), m_lastScreen.lock());
+}
+
+void ViewAllController::startWatchingOutsideClicks()
+{
+    const std::weak_ptr<bool> alive = m_alive;
+    m_outsideClickMonitor = m_context.eventMonitors.addGlobalMouseDownMonitor([this, alive] {
+        if (!alive.expired())
+            clickedElsewhere();
+    });
+}
+
+void ViewAllController::stopWatchingOutsideClicks()
+{
+    if (const auto monitor = std::exchange(m_outsideClickMonitor, std::nullopt))
+        m_context.eventMonitors.removeMonitor(*monitor);
+}
+
+void ViewAllController::clickedElsewhere()
+{
+    const auto location = m_context.pointer.location();
+    // Where nobody tells where the pointer is, it is enough that another program had the click.
+    const bool isOurs
+        = location && (contains(m_panel.frame(), *location) || contains(m_pillFrame, *location));
+    if (!isOurs)
+        close();
+}
+
+} // namespace corvane

@@ -1,0 +1,79 @@
+#pragma once
+
+#include "platform/event_monitors.h"
+#include "shelf/view_all_bar.h"
+#include "shelf/view_all_view.h"
+
+#include <QRectF>
+
+#include <memory>
+#include <optional>
+
+namespace corvane {
+
+class Pointer;
+class QuickActions;
+class ShelfStore;
+struct Feedback;
+
+/// Shows the view-all bar below the shelf while the store says that it is open, pages it, closes it
+/// on a click elsewhere, and turns what the user does on it into operations of the store.
+///
+///     hidden --render: open, a screen, 2 items--> shown: in front, takes clicks, watches clicks
+///     shown  --render: one of them missing------> hidden: takes no clicks, at its first page
+///
+/// It keeps no items; a bar that hides for want of items stays open as far as the store is
+/// concerned. Main thread only; everything in the context must outlive it.
+class ViewAllController : public ViewAllBar {
+public:
+    static constexpr QRectF initialFrame{0, 0, 600, view_all_layout::barHeight};
+    /// Of the screen's width.
+    static constexpr double widthShare = 0.8;
+    /// Between the shelf and the bar.
+    static constexpr double gap = 10;
+    static constexpr int minimumItems = 2;
+
+    struct Context {
+        ViewAllView::Context view;
+        ShelfStore &store;
+        QuickActions &quickActions;
+        EventMonitors &eventMonitors;
+        const Pointer &pointer;
+        const Feedback &feedback;
+    };
+    explicit ViewAllController(const Context &context);
+    ~ViewAllController() override;
+    ViewAllController(const ViewAllController &) = delete;
+    ViewAllController &operator=(const ViewAllController &) = delete;
+
+    void render(const QRectF &pillFrame, const ScreenPointer &screen) override;
+
+    const ViewAllView &view() const { return m_view; }
+    int offset() const { return m_offset; }
+    bool isWatchingOutsideClicks() const { return m_outsideClickMonitor.has_value(); }
+
+private:
+    void wireView();
+    void show(const Screen &screen);
+    void hide();
+    void close();
+    void scroll(int step);
+    void startWatchingOutsideClicks();
+    void stopWatchingOutsideClicks();
+    void clickedElsewhere();
+
+    Context m_context;
+    PanelWindow &m_panel;
+    ViewAllView m_view;
+    ShelfStore &m_store;
+    int m_offset = 0;
+    QRectF m_pillFrame;
+    std::weak_ptr<const Screen> m_lastScreen;
+    std::optional<EventMonitors::Handle> m_outsideClickMonitor;
+    /// Shown, but has not had the keyboard yet.
+    bool m_wantsKeyboard = false;
+    // Whatever was handed out does nothing once the controller is gone.
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

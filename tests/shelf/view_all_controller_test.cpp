@@ -1,0 +1,362 @@
+#include "fakes/fake_drag_desktop.h"
+#include "fakes/shelf_model.h"
+#include "shelf/view_all_controller.h"
+
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+/// The bar below a shelf whose controller renders it, as in the program.
+class ViewAllControllerTest : public testing::Test, protected ShelfModel {
+protected:
+    ViewAllControllerTest()
+    {
+        settings.registerDefaults();
+        pointer.position = QPointF(700, 900);
+        bar.emplace(context());
+        HUDController::Context hud = controllerContext();
+        hud.viewAll = &*bar;
+        shelf.emplace(hud);
+    }
+
+    ViewAllController::Context context()
+    {
+        return {{panel, desk.clock, desk.motion, desk.theme, desk.keyboard, desk.dragWriter,
+                 desk.spool},
+                store,
+                quickActions,
+                desktop,
+                desktop.pointer,
+                feedback};
+    }
+    void accept(int count)
+    {
+        QList<DropItem> items;
+        for (int i = 0; i < count; ++i)
+            items << ShelfDesk::textItem(QStringLiteral("item %1").arg(i));
+        store.accept(items);
+    }
+    void setOpen(bool open)
+    {
+        store.setViewAllOpen(open);
+        store.publishItems();
+    }
+    void open(int count)
+    {
+        accept(count);
+        setOpen(true);
+    }
+    const ViewAllView &view() { return bar->view(); }
+    QRectF pill() const { return desk.panel.frame(); }
+    int publications() { return std::exchange(m_published, 0); }
+    void countPublications()
+    {
+        store.observeItems([this](const QList<DropItem> &) { ++m_published; });
+    }
+    QPointF middleOf(std::size_t tile) { return view().layout().tiles.at(tile).root.center(); }
+    void drag(QPointF from)
+    {
+        panel.content->mouseDown({from});
+        panel.content->mouseDragged({from + QPointF(9, 0)});
+    }
+
+    FakePanelWindow panel;
+    FakeDragDesktop desktop;
+    std::optional<ViewAllController> bar;
+    std::optional<HUDController> shelf;
+
+private:
+    int m_published = 0;
+};
+
+} // namespace
+
+// Showing and hiding
+
+TEST_F(ViewAllControllerTest, startsHiddenAndClickThrough)
+{
+    EXPECT_EQ(panel.frames.front(), QRectF(0, 0, 600, 132));
+    EXPECT_TRUE(panel.content);
+    EXPECT_FALSE(panel.visible);
+    EXPECT_TRUE(panel.ignoresMouseEvents);
+    EXPECT_FALSE(bar->isWatchingOutsideClicks());
+}
+
+TEST_F(ViewAllControllerTest, hangsBelowThePillInTheMiddleOfTheScreen)
+{
+    open(20);
+    EXPECT_TRUE(panel.visible);
+    EXPECT_FALSE(panel.ignoresMouseEvents);
+    EXPECT_EQ(panel.frame(), QRectF(756 - 605, pill().y() - 10 - 132, 1210, 132));
+    EXPECT_EQ(view().tileCount(), 12U);
+}
+
+TEST_F(ViewAllControllerTest, followsTheShelfToAnotherScreen)
+{
+    open(2);
+    screens.attach(QRectF(1512, 200, 1000, 800));
+    pointer.position = QPointF(1600, 300);
+    store.publishItems();
+    EXPECT_EQ(panel.frame().x(), 1512 + 100);
+    EXPECT_EQ(panel.frame().width(), 800);
+    EXPECT_EQ(panel.frame().y() + 132 + 10, pill().y());
+}
+
+TEST_F(ViewAllControllerTest, aScreenTooNarrowForAnArrowShowsOneTile)
+{
+    screen->frame = {0, 0, 115, 982};
+    open(4);
+    EXPECT_EQ(panel.frame().width(), 92);
+    EXPECT_EQ(view().tileCount(), 1U);
+}
+
+TEST_F(ViewAllControllerTest, withOneItemItStaysHiddenAndWatchesNothing)
+{
+    accept(1);
+    setOpen(true);
+    EXPECT_FALSE(panel.visible);
+    EXPECT_FALSE(bar->isWatchingOutsideClicks());
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
+}
+
+TEST_F(ViewAllControllerTest, itHidesBelowTwoItemsWithoutClearingTheFlag)
+{
+    open(3);
+    store.discard(0, true);
+    EXPECT_TRUE(panel.visible);
+    store.discard(0, true);
+    EXPECT_FALSE(panel.visible);
+    EXPECT_TRUE(panel.ignoresMouseEvents);
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
+    EXPECT_TRUE(store.isViewAllOpen());
+    accept(1);
+    EXPECT_TRUE(panel.visible) << "still open as far as the store is concerned";
+}
+
+TEST_F(ViewAllControllerTest, itHidesWithTheShelf)
+{
+    open(3);
+    store.toggleManually();
+    EXPECT_FALSE(panel.visible);
+    EXPECT_FALSE(bar->isWatchingOutsideClicks());
+}
+
+TEST_F(ViewAllControllerTest, withNoScreenItHides)
+{
+    open(3);
+    screens.detach(screen);
+    screen.reset();
+    pointer.position.reset();
+    store.publishItems();
+    EXPECT_FALSE(panel.visible);
+}
+
+TEST_F(ViewAllControllerTest, aHiddenBarIsAtItsFirstPageAgain)
+{
+    open(20);
+    view().onScroll(1);
+    view().onScroll(1);
+    ASSERT_EQ(bar->offset(), 2);
+    setOpen(false);
+    EXPECT_EQ(bar->offset(), 0);
+    setOpen(true);
+    EXPECT_EQ(view().offset(), 0);
+}
+
+TEST_F(ViewAllControllerTest, pagingStopsAtBothEnds)
+{
+    open(20);
+    view().onScroll(-1);
+    EXPECT_EQ(bar->offset(), 0);
+    for (int i = 0; i < 30; ++i)
+        view().onScroll(1);
+    EXPECT_EQ(bar->offset(), 20 - 12);
+    EXPECT_EQ(view().offset(), 8);
+    view().onScroll(-1);
+    EXPECT_EQ(bar->offset(), 7);
+}
+
+TEST_F(ViewAllControllerTest, thePageFollowsItemsThatGo)
+{
+    open(20);
+    for (int i = 0; i < 8; ++i)
+        view().onScroll(1);
+    for (int i = 0; i < 5; ++i)
+        store.discard(19 - i, true);
+    EXPECT_EQ(bar->offset(), 15 - 12);
+}
+
+// The keyboard
+
+TEST_F(ViewAllControllerTest, takesTheKeyboardWhenItIsShownAndNotAgain)
+{
+    open(3);
+    EXPECT_TRUE(panel.isKey);
+    panel.isKey = false;
+    store.publishItems();
+    view().onScroll(1);
+    EXPECT_FALSE(panel.isKey) << "a picture that arrives takes it from nobody";
+    setOpen(false);
+    setOpen(true);
+    EXPECT_TRUE(panel.isKey);
+}
+
+TEST_F(ViewAllControllerTest, takesNoKeyboardFromADragThatGoesOn)
+{
+    accept(3);
+    store.setDragInFlight(true);
+    setOpen(true);
+    EXPECT_TRUE(panel.visible);
+    EXPECT_FALSE(panel.isKey);
+    store.dragEnded();
+    EXPECT_TRUE(panel.isKey);
+}
+
+// Clicks elsewhere
+
+TEST_F(ViewAllControllerTest, aClickElsewhereClosesIt)
+{
+    open(3);
+    ASSERT_EQ(desktop.mouseDownMonitorCount(), 1U);
+    desktop.pressElsewhere(QPointF(20, 20));
+    EXPECT_FALSE(store.isViewAllOpen());
+    EXPECT_FALSE(panel.visible);
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
+}
+
+TEST_F(ViewAllControllerTest, aClickOnTheShelfsRectangleDoesNotCloseIt)
+{
+    open(3);
+    desktop.pressElsewhere(pill().center());
+    EXPECT_TRUE(store.isViewAllOpen());
+    desktop.pressElsewhere(panel.frame().center());
+    EXPECT_TRUE(store.isViewAllOpen());
+    desktop.pressElsewhere(QPointF(756, pill().y() - 5));
+    EXPECT_FALSE(store.isViewAllOpen()) << "between the two is elsewhere";
+}
+
+TEST_F(ViewAllControllerTest, whereNobodyTellsWhereThePointerIsAnyClickElsewhereCloses)
+{
+    open(3);
+    desktop.pressElsewhere(std::nullopt);
+    EXPECT_FALSE(store.isViewAllOpen());
+}
+
+TEST_F(ViewAllControllerTest, watchesOnceHoweverOftenItIsRendered)
+{
+    open(3);
+    store.publishItems();
+    store.publishItems();
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 1U);
+}
+
+TEST_F(ViewAllControllerTest, aMonitorThatWasRefusedIsTriedAgain)
+{
+    desktop.refusesGlobalMonitor = true;
+    open(3);
+    EXPECT_TRUE(panel.visible);
+    EXPECT_FALSE(bar->isWatchingOutsideClicks());
+    desktop.refusesGlobalMonitor = false;
+    store.publishItems();
+    EXPECT_TRUE(bar->isWatchingOutsideClicks());
+}
+
+TEST_F(ViewAllControllerTest, itsEndRemovesTheMonitorAndTheContent)
+{
+    open(3);
+    shelf.reset();
+    bar.reset();
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
+    EXPECT_FALSE(panel.content);
+}
+
+// What the view asks for
+
+TEST_F(ViewAllControllerTest, aTileTogglesItsItemInTheStore)
+{
+    open(3);
+    ASSERT_EQ(store.selection().size(), 3) << "what arrives is selected";
+    panel.content->mouseDown({middleOf(1)});
+    panel.content->mouseUp({middleOf(1)});
+    EXPECT_FALSE(store.selection().contains(store.items()[1].id()));
+    EXPECT_EQ(view().layout().selectionText, QStringLiteral("2 of 3 selected"));
+    EXPECT_EQ(view().layout().tiles[1].thumbOpacity, 0.38);
+}
+
+TEST_F(ViewAllControllerTest, selectAllRemoveAndCopyActOnTheStore)
+{
+    open(3);
+    view().onToggleSelectAll();
+    EXPECT_TRUE(store.selection().isEmpty());
+    view().onCopySelected();
+    EXPECT_TRUE(clipboard.writes.empty());
+    view().onRemoveSelected();
+    EXPECT_EQ(store.items().size(), 3);
+    view().onToggleSelectAll();
+    view().onCopySelected();
+    ASSERT_EQ(clipboard.writes.size(), 1U);
+    EXPECT_EQ(clipboard.writes[0].writers.size(), 3U);
+    view().onRemoveSelected();
+    EXPECT_TRUE(store.items().isEmpty());
+    EXPECT_FALSE(panel.visible);
+}
+
+TEST_F(ViewAllControllerTest, closingTwiceTellsOnce)
+{
+    open(3);
+    countPublications();
+    view().onClose();
+    EXPECT_EQ(publications(), 1);
+    EXPECT_FALSE(panel.visible);
+    view().onClose();
+    EXPECT_EQ(publications(), 0);
+}
+
+TEST_F(ViewAllControllerTest, anEqualOnDragOutChangedTellsNobody)
+{
+    open(3);
+    countPublications();
+    view().onDragOutChanged(false);
+    EXPECT_EQ(publications(), 0);
+    view().onDragOutChanged(true);
+    EXPECT_EQ(publications(), 1);
+    EXPECT_TRUE(store.isOwnDrag());
+    view().onDragOutChanged(true);
+    EXPECT_EQ(publications(), 0);
+}
+
+TEST_F(ViewAllControllerTest, whatIsDroppedElsewhereLeavesAndWhatIsKeptStays)
+{
+    open(4);
+    store.toggleSelection(store.items()[0]);
+    drag(middleOf(1));
+    EXPECT_TRUE(store.isOwnDrag());
+    desk.keyboard.modifiers = Modifier::Shift;
+    panel.endDragOut(DragOperation::Copy);
+    EXPECT_EQ(store.items().size(), 4);
+    desk.keyboard.modifiers = {};
+    drag(middleOf(1));
+    panel.endDragOut(DragOperation::Copy);
+    EXPECT_FALSE(store.isOwnDrag());
+    ASSERT_EQ(store.items().size(), 1);
+    EXPECT_EQ(store.items()[0].title(), QStringLiteral("item 0"));
+    EXPECT_FALSE(panel.visible);
+}
+
+TEST_F(ViewAllControllerTest, tellsWhenTheFileToBeDraggedIsGone)
+{
+    QStringList messages;
+    store.accept({ShelfDesk::fileItem(QStringLiteral("gone.txt"))});
+    open(1);
+    feedback.handler = [&](const QString &message) { messages << message; };
+    store.toggleSelection(store.items()[0]);
+    drag(middleOf(0));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("The file is no longer there")});
+    EXPECT_FALSE(store.isOwnDrag());
+}
+
+} // namespace corvane::test
