@@ -42,6 +42,7 @@ CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
     , panelSurface(connection)
     , dragSupport(connection, mainQueue)
     , panel(panelSurface, mainQueue, &dragSupport)
+    , viewAllPanel(panelSurface, mainQueue, &dragSupport)
     , dragMonitor(dragDesktop, dragDesktop, dragDesktop, mainQueue)
     , screenLocator(screens, pointer)
     , settings(userDefaults, loginItems)
@@ -53,6 +54,12 @@ CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
     , store(settings, spool, thumbnails, linkPreviews, feedback)
     , theme(QGuiApplication::font(), logicalDotsPerInch())
     , dragWriter(makeDragWriter(theme))
+    , viewAll({{viewAllPanel, mainQueue, motionPreference, theme, keyboard, dragWriter, spool},
+               store,
+               quickActions,
+               dragDesktop,
+               pointer,
+               feedback})
     , delegate({dragMonitor,
                 settings,
                 store,
@@ -64,7 +71,9 @@ CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
                  feedback,
                  screens,
                  screenLocator,
-                 quickActions}})
+                 quickActions,
+                 nullptr,
+                 &viewAll}})
 {
 }
 

@@ -33,6 +33,7 @@
 #include "services/thumbnail_service.h"
 #include "shelf/layer_animator.h"
 #include "shelf/theme.h"
+#include "shelf/view_all_controller.h"
 
 #include <functional>
 
@@ -66,6 +67,7 @@ struct CompositionRoot {
     X11PanelSurface panelSurface;
     X11DragSupport dragSupport;
     QtPanelWindow panel;
+    QtPanelWindow viewAllPanel;
 
     // Input.
     DragMonitor dragMonitor;
@@ -86,6 +88,7 @@ struct CompositionRoot {
     Theme theme;
     LayerAnimator layerAnimator;
     DragWriter dragWriter;
+    ViewAllController viewAll;
     AppDelegate delegate;
 };
 
