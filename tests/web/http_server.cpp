@@ -2,6 +2,8 @@
 
 #include <QSslConfiguration>
 #include <QSslServer>
+#include <QSslSocket>
+#include <QTimer>
 
 namespace corvane::test {
 
@@ -40,10 +42,14 @@ void HttpServer::answerForEver(const QByteArray &target, const QByteArray &begin
                                const QByteArray &piece)
 {
     on(target, [beginning, piece](QTcpSocket &socket) {
-        QObject::connect(&socket, &QTcpSocket::bytesWritten, &socket, [&socket, piece] {
-            if (socket.bytesToWrite() == 0)
+        // Not when bytes were written: an encrypted socket says so as soon as it has them.
+        auto *timer = new QTimer(&socket);
+        QObject::connect(timer, &QTimer::timeout, &socket, [&socket, piece] {
+            const auto *secret = qobject_cast<QSslSocket *>(&socket);
+            if (socket.bytesToWrite() == 0 && (!secret || secret->encryptedBytesToWrite() == 0))
                 socket.write(piece);
         });
+        timer->start(0);
         socket.write(beginning);
     });
 }
