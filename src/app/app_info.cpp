@@ -48,4 +48,9 @@ QString AppInfo::applicationId() const
     return text(QStringLiteral("CFBundleIdentifier"), QStringLiteral("example.corvane.Corvane"));
 }
 
+QString AppInfo::homePage() const
+{
+    return text(QStringLiteral("CorvaneHomePage"), QStringLiteral("https://corvane.example/"));
+}
+
 } // namespace corvane

@@ -18,6 +18,7 @@ public:
     QString build() const;
     /// The name on the session's bus, and of the desktop entry.
     QString applicationId() const;
+    QString homePage() const;
 
 private:
     QString text(const QString &key, const QString &otherwise) const;

@@ -1,5 +1,6 @@
 #include "app/composition_root.h"
 
+#include "app/app_info.h"
 #include "shelf/phosphor_icon_drawing.h"
 
 #include <QCoreApplication>
@@ -32,10 +33,17 @@ DragWriter makeDragWriter(const Theme &theme)
         }};
 }
 
+LinkPreviewService::Product product()
+{
+    const AppInfo info = AppInfo::builtIn();
+    return {info.version(), info.homePage()};
+}
+
 } // namespace
 
 CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
-    : screens(mainQueue)
+    : webClient(mainQueue)
+    , screens(mainQueue)
     , thumbnailGenerator(imageCodec, workQueue)
     , connection(std::move(onServerLost))
     , dragDesktop(connection)
@@ -51,6 +59,7 @@ CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
     , ingest(spool, imageConverter, imageCodec)
     , quickActions(generalPasteboard, feedback)
     , thumbnails(thumbnailGenerator, fileIcons, imageCodec, screens, mainQueue, workQueue)
+    , linkPreviews(webClient, imageCodec, mainQueue, workQueue, product())
     , store(settings, spool, thumbnails, linkPreviews, feedback)
     , theme(QGuiApplication::font(), logicalDotsPerInch())
     , dragWriter(makeDragWriter(theme))

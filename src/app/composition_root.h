@@ -1,7 +1,6 @@
 #pragma once
 
 #include "app/app_delegate.h"
-#include "app/no_link_previews.h"
 #include "core/drag_writer.h"
 #include "core/feedback.h"
 #include "core/image_converter.h"
@@ -26,10 +25,12 @@
 #include "platform/qt/qt_thumbnail_generator.h"
 #include "platform/qt/qt_user_defaults.h"
 #include "platform/qt/qt_work_queue.h"
+#include "platform/qt/web/qt_web_client.h"
 #include "platform/x11/x11_connection.h"
 #include "platform/x11/x11_drag_desktop.h"
 #include "platform/x11/x11_drag_support.h"
 #include "platform/x11/x11_panel_surface.h"
+#include "services/link_preview_service.h"
 #include "services/thumbnail_service.h"
 #include "shelf/layer_animator.h"
 #include "shelf/theme.h"
@@ -52,6 +53,7 @@ struct CompositionRoot {
     QtImageCodec imageCodec;
     // After what its work uses: its end waits for work that is running.
     QtWorkQueue workQueue;
+    QtWebClient webClient;
     QtScreens screens;
     QtPointer pointer;
     QtKeyboard keyboard;
@@ -81,7 +83,7 @@ struct CompositionRoot {
     PasteboardIngest ingest;
     QuickActions quickActions;
     ThumbnailService thumbnails;
-    NoLinkPreviews linkPreviews;
+    LinkPreviewService linkPreviews;
     ShelfStore store;
 
     // The shelf.
