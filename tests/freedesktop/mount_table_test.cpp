@@ -1,0 +1,114 @@
+#include "platform/freedesktop/mount_table.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <optional>
+
+namespace corvane::test {
+
+namespace {
+
+/// A folder whose `net` is said to be mounted from elsewhere; really everything is local.
+class MountTableTest : public testing::Test {
+protected:
+    MountTableTest()
+    {
+        for (const char *name : {"net", "net/deep", "local", "two words"})
+            ::mkdir(path(name).constData(), 0700);
+        mount("net", "nfs4");
+        mount("two\\040words", "fuse.sshfs");
+    }
+
+    QByteArray path(const QByteArray &name) const { return top + '/' + name; }
+    void mount(const QByteArray &name, const QByteArray &type)
+    {
+        lines += "36 35 98:0 / " + path(name) + " rw,noatime master:1 - " + type + " server rw\n";
+        QFile file(folder.filePath(QStringLiteral("table")));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        file.write(lines);
+        table.emplace(path("table"));
+    }
+    void link(const QByteArray &target, const char *name) const
+    {
+        ASSERT_EQ(::symlink(target.constData(), path(name).constData()), 0);
+    }
+    bool isRemote(const QByteArray &name) const { return table->isRemote(path(name)); }
+
+    QTemporaryDir folder;
+    QByteArray top = QFile::encodeName(folder.path());
+    QByteArray lines = "22 1 0:21 / / rw - ext4 /dev/vda rw\nnonsense\n1 2 3\n";
+    std::optional<MountTable> table;
+};
+
+} // namespace
+
+TEST_F(MountTableTest, tellsWhatLiesBehindANetwork)
+{
+    EXPECT_TRUE(isRemote("net"));
+    EXPECT_TRUE(isRemote("net/a.png"));
+    EXPECT_TRUE(isRemote("net/deep/a.png"));
+    EXPECT_TRUE(isRemote("two words/a"));
+    EXPECT_FALSE(isRemote("local/a.png"));
+    EXPECT_FALSE(isRemote("network"));
+    EXPECT_FALSE(isRemote(""));
+    EXPECT_FALSE(table->isRemote("/"));
+    EXPECT_FALSE(table->isRemote(""));
+}
+
+TEST_F(MountTableTest, followsLinksAndDotsWithoutTouchingWhatIsRemote)
+{
+    link(path("net"), "absolute");
+    link("../net/deep", "local/relative");
+    link("local/relative", "chain");
+    link("local", "home");
+    EXPECT_TRUE(isRemote("absolute/a"));
+    EXPECT_TRUE(isRemote("local/relative"));
+    EXPECT_TRUE(isRemote("chain/a"));
+    EXPECT_TRUE(isRemote("local/../net/a"));
+    EXPECT_TRUE(isRemote("./local//..//net/a"));
+    EXPECT_FALSE(isRemote("home/a"));
+}
+
+TEST_F(MountTableTest, linksThatLeadInACircleEnd)
+{
+    link("two", "one");
+    link("one", "two");
+    EXPECT_FALSE(isRemote("one/a"));
+}
+
+TEST_F(MountTableTest, aMountCoversTheOneBelowIt)
+{
+    mount("net", "ext4");
+    EXPECT_FALSE(isRemote("net/a"));
+    mount("net", "autofs");
+    EXPECT_TRUE(isRemote("net/a")) << "touching it would mount it";
+}
+
+TEST_F(MountTableTest, knowsTheKindsOfFileSystems)
+{
+    for (const char *type : {"nfs", "nfs4", "cifs", "smb3", "9p", "afs", "ceph", "autofs", "fuse",
+                             "fuse.gvfsd-fuse", "fuse.sshfs", "fuse.rclone"})
+        EXPECT_TRUE(MountTable::isRemoteType(type)) << type;
+    for (const char *type : {"ext4", "btrfs", "xfs", "tmpfs", "overlay", "fuseblk", "zfs", "vfat"})
+        EXPECT_FALSE(MountTable::isRemoteType(type)) << type;
+}
+
+TEST_F(MountTableTest, withoutATableNothingIsRemote)
+{
+    EXPECT_FALSE(MountTable("/nonexistent").isRemote(path("net/a")));
+}
+
+TEST_F(MountTableTest, readsTheKernelsOwn)
+{
+    const MountTable own;
+    EXPECT_FALSE(own.isRemote("/proc/self/status"));
+    EXPECT_FALSE(own.isRemote(path("local/a")));
+}
+
+} // namespace corvane::test
