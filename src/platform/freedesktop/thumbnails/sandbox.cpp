@@ -1,0 +1,134 @@
+#include "platform/freedesktop/thumbnails/sandbox.h"
+
+#include "platform/cancellation.h"
+#include "platform/freedesktop/thumbnails/bounded_process.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <climits>
+
+namespace corvane {
+
+namespace {
+
+constexpr auto outputFolder = "/out";
+
+/// Runs its arguments and gives what they made. A constant: nothing of a file, of its name or of a
+/// thumbnailer's entry becomes part of the script.
+constexpr auto script = R"("$@" >/dev/null </dev/null && exec cat /out/thumbnail.png)";
+
+QByteArray find(const QByteArrayList &folders, const QByteArray &name)
+{
+    for (const QByteArray &folder : folders) {
+        const QByteArray path = folder + '/' + name;
+        if (::access(path.constData(), X_OK) == 0)
+            return path;
+    }
+    return {};
+}
+
+/// A folder of the system at the root, which is a link into /usr on nearly every system.
+QByteArrayList rootFolder(const QByteArray &path)
+{
+    struct stat status = {};
+    QByteArray target(PATH_MAX, Qt::Uninitialized);
+    if (::lstat(path.constData(), &status) != 0)
+        return {};
+    if (!S_ISLNK(status.st_mode))
+        return {"--ro-bind-try", path, path};
+    target.truncate(std::max<ssize_t>(
+        ::readlink(path.constData(), target.data(), static_cast<std::size_t>(target.size())), 0));
+    return {"--symlink", target, path};
+}
+
+QByteArrayList readOnly(const QByteArray &path)
+{
+    return {"--ro-bind-try", path, path};
+}
+
+QByteArrayList memory(const QByteArray &path)
+{
+    return {"--size", QByteArray::number(Sandbox::fileBytes), "--tmpfs", path};
+}
+
+} // namespace
+
+Sandbox::Sandbox(const QByteArrayList &programFolders)
+    : m_bubblewrap(find(programFolders, "bwrap"))
+    , m_limiter(find(programFolders, "prlimit"))
+    , m_shell(find(programFolders, "sh"))
+{
+}
+
+QByteArray Sandbox::outputPath()
+{
+    return "/out/thumbnail.png";
+}
+
+QByteArrayList Sandbox::walls() const
+{
+    QByteArrayList arguments = {m_bubblewrap,
+                                "--unshare-all",
+                                "--die-with-parent",
+                                "--new-session",
+                                "--cap-drop",
+                                "ALL",
+                                "--clearenv",
+                                "--setenv",
+                                "PATH",
+                                "/usr/local/bin:/usr/bin:/bin"};
+    arguments << QByteArrayList{"--setenv", "LANG", "C.UTF-8", "--setenv", "HOME", "/tmp"};
+    arguments << QByteArrayList{"--ro-bind", "/usr", "/usr"};
+    for (const char *path : {"/bin", "/sbin", "/lib", "/lib32", "/lib64", "/libx32"})
+        arguments << rootFolder(path);
+    for (const char *path :
+         {"/opt", "/nix/store", "/gnu/store", "/etc/alternatives", "/etc/fonts", "/etc/ld.so.cache",
+          "/etc/ld.so.conf", "/etc/ld.so.conf.d", "/var/cache/fontconfig"})
+        arguments << readOnly(path);
+    arguments << QByteArrayList{"--proc", "/proc", "--dev", "/dev"};
+    for (const char *path : {"/dev/shm", "/tmp", outputFolder})
+        arguments << memory(path);
+    return arguments;
+}
+
+QByteArrayList Sandbox::command(const Program &program) const
+{
+    QByteArrayList arguments = walls();
+    const QByteArray path = program.command.constFirst();
+    // A user's own program is shown alone, without what lies beside it.
+    if (!path.startsWith("/usr/"))
+        arguments << QByteArrayList{"--ro-bind", path, path};
+    if (!program.inputFile.isEmpty())
+        arguments << QByteArrayList{"--ro-bind", program.inputFile, program.inputPath};
+    // What is in memory but has no bound.
+    arguments << QByteArrayList{"--remount-ro", "/dev", "--remount-ro", "/", "--chdir",
+                                "/tmp",         "--"};
+    arguments << m_limiter << "--as=" + QByteArray::number(addressSpace)
+              << "--cpu=" + QByteArray::number(processorSeconds)
+              << "--fsize=" + QByteArray::number(fileBytes)
+              << "--nproc=" + QByteArray::number(processes) << "--core=0"
+              << "--" << m_shell << "-c" << script << "sh";
+    return arguments + program.command;
+}
+
+bool Sandbox::isAvailable() const
+{
+    const std::lock_guard lock(m_mutex);
+    if (!m_isAvailable)
+        m_isAvailable = tryOut();
+    return *m_isAvailable;
+}
+
+bool Sandbox::tryOut() const
+{
+    if (m_bubblewrap.isEmpty() || m_limiter.isEmpty() || m_shell.isEmpty())
+        return false;
+    const Program program = {{m_shell, "-c", "echo inside > /out/thumbnail.png"}, {}, {}};
+    Cancellation never;
+    const auto result = bounded_process::run(command(program), {5, 1024}, never);
+    return result.outcome == bounded_process::Result::Outcome::Ended && result.exitCode == 0
+        && result.output == "inside\n";
+}
+
+} // namespace corvane
