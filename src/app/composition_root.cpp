@@ -1,6 +1,7 @@
 #include "app/composition_root.h"
 
 #include "app/app_info.h"
+#include "platform/file_url.h"
 #include "shelf/phosphor_icon_drawing.h"
 
 #include <QCoreApplication>
@@ -33,6 +34,22 @@ DragWriter makeDragWriter(const Theme &theme)
         }};
 }
 
+/// Files of the shelf's own making are private, and gone with it.
+SharedThumbnailCache::Places thumbnailPlaces(const ScratchSpool &spool)
+{
+    return {SharedThumbnailCache::environmentCacheFolder(),
+            "corvane-" + QCoreApplication::applicationVersion().toUtf8(),
+            {file_url::nativePath(spool.directory())}};
+}
+
+QList<QUuid> itemsInView(const ShelfStore &store)
+{
+    QList<QUuid> items;
+    for (const auto &[index, item] : store.visibleItems())
+        items << item.id();
+    return items;
+}
+
 LinkPreviewService::Product product()
 {
     const AppInfo info = AppInfo::builtIn();
@@ -44,10 +61,11 @@ LinkPreviewService::Product product()
 CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
     : webClient(mainQueue)
     , screens(mainQueue)
-    , thumbnailGenerator(imageCodec, workQueue)
+    , fileIcons(mountTable)
     , connection(std::move(onServerLost))
     , dragDesktop(connection)
     , panelSurface(connection)
+    , windowActivation(connection)
     , dragSupport(connection, mainQueue)
     , panel(panelSurface, mainQueue, &dragSupport)
     , viewAllPanel(panelSurface, mainQueue, &dragSupport)
@@ -58,9 +76,21 @@ CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
     , imageConverter(imageCodec, spool)
     , ingest(spool, imageConverter, imageCodec)
     , quickActions(generalPasteboard, feedback)
-    , thumbnails(thumbnailGenerator, fileIcons, imageCodec, screens, mainQueue, workQueue)
+    , thumbnailCache(imageCodec, thumbnailPlaces(spool))
+    , thumbnailerRegistry(ThumbnailerRegistry::environmentDataFolders(),
+                          ThumbnailerRegistry::environmentProgramFolders())
+    , sandbox(ThumbnailerRegistry::environmentProgramFolders())
+    , thumbnailers(thumbnailerRegistry, sandbox)
+    , remoteFiles(mainQueue)
+    , thumbnailChain({mountTable, thumbnailCache, imageCodec, thumbnailers, thumbnailWork})
+    , remoteThumbnails({remoteFiles, thumbnailCache, imageCodec, mainQueue, thumbnailWork})
+    , thumbnails(thumbnailChain, remoteThumbnails, fileIcons, imageCodec, screens, mainQueue,
+                 thumbnailWork)
     , linkPreviews(webClient, imageCodec, mainQueue, workQueue, product())
     , store(settings, spool, thumbnails, linkPreviews, feedback)
+    , previewLoader(previewDocuments, mainQueue, previewWork)
+    , previewPanel({previewLoader, fileIcons, desktopServices, windowActivation, mainQueue, panel})
+    , presenter(previewPanel, QFile::encodeName(QDir::tempPath()))
     , theme(QGuiApplication::font(), logicalDotsPerInch())
     , dragWriter(makeDragWriter(theme))
     , viewAll({{viewAllPanel, mainQueue, motionPreference, theme, keyboard, dragWriter, spool},
@@ -73,6 +103,8 @@ CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
                 settings,
                 store,
                 spool,
+                previewPanel,
+                presenter,
                 {{panel, mainQueue, motionPreference, theme, layerAnimator, textMeasurer, keyboard,
                   ingest, dragWriter},
                  store,
@@ -81,9 +113,10 @@ CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
                  screens,
                  screenLocator,
                  quickActions,
-                 nullptr,
+                 &presenter,
                  &viewAll}})
 {
+    thumbnails.setItemsInView([this] { return itemsInView(store); });
 }
 
 } // namespace corvane

@@ -12,7 +12,16 @@
 #include "input/drag_monitor.h"
 #include "input/screen_locator.h"
 #include "platform/freedesktop/autostart_login_items.h"
+#include "platform/freedesktop/mount_table.h"
 #include "platform/freedesktop/portal_motion_preference.h"
+#include "platform/freedesktop/remote_file_threads.h"
+#include "platform/freedesktop/thumbnails/sandbox.h"
+#include "platform/freedesktop/thumbnails/sandboxed_thumbnailers.h"
+#include "platform/freedesktop/thumbnails/shared_thumbnail_cache.h"
+#include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
+#include "platform/qt/preview/qt_preview_documents.h"
+#include "platform/qt/preview/qt_preview_panel.h"
+#include "platform/qt/qt_desktop_services.h"
 #include "platform/qt/qt_file_icons.h"
 #include "platform/qt/qt_general_pasteboard.h"
 #include "platform/qt/qt_image_codec.h"
@@ -22,7 +31,6 @@
 #include "platform/qt/qt_pointer.h"
 #include "platform/qt/qt_screens.h"
 #include "platform/qt/qt_text_measurer.h"
-#include "platform/qt/qt_thumbnail_generator.h"
 #include "platform/qt/qt_user_defaults.h"
 #include "platform/qt/qt_work_queue.h"
 #include "platform/qt/web/qt_web_client.h"
@@ -30,7 +38,12 @@
 #include "platform/x11/x11_drag_desktop.h"
 #include "platform/x11/x11_drag_support.h"
 #include "platform/x11/x11_panel_surface.h"
+#include "platform/x11/x11_window_activation.h"
+#include "services/preview_loader.h"
+#include "services/quick_look_presenter.h"
 #include "services/link_preview_service.h"
+#include "services/remote_thumbnails.h"
+#include "services/thumbnail_chain.h"
 #include "services/thumbnail_service.h"
 #include "shelf/layer_animator.h"
 #include "shelf/theme.h"
@@ -59,14 +72,16 @@ struct CompositionRoot {
     QtKeyboard keyboard;
     QtGeneralPasteboard generalPasteboard;
     QtUserDefaults userDefaults;
+    QtDesktopServices desktopServices;
+    MountTable mountTable;
     QtFileIcons fileIcons;
     QtTextMeasurer textMeasurer;
-    QtThumbnailGenerator thumbnailGenerator;
     AutostartLoginItems loginItems;
     PortalMotionPreference motionPreference;
     X11Connection connection;
     X11DragDesktop dragDesktop;
     X11PanelSurface panelSurface;
+    X11WindowActivation windowActivation;
     X11DragSupport dragSupport;
     QtPanelWindow panel;
     QtPanelWindow viewAllPanel;
@@ -82,9 +97,26 @@ struct CompositionRoot {
     ImageConverter imageConverter;
     PasteboardIngest ingest;
     QuickActions quickActions;
+    SharedThumbnailCache thumbnailCache;
+    ThumbnailerRegistry thumbnailerRegistry;
+    Sandbox sandbox;
+    SandboxedThumbnailers thumbnailers;
+    RemoteFileThreads remoteFiles;
+    // Of their own: a thumbnail program may take its time. Like the other one after what it uses.
+    QtWorkQueue thumbnailWork;
+    ThumbnailChain thumbnailChain;
+    RemoteThumbnails remoteThumbnails;
     ThumbnailService thumbnails;
     LinkPreviewService linkPreviews;
     ShelfStore store;
+
+    // The preview.
+    QtPreviewDocuments previewDocuments;
+    // Of its own: a file whose disk does not answer keeps nothing else waiting.
+    QtWorkQueue previewWork;
+    PreviewLoader previewLoader;
+    QtPreviewPanel previewPanel;
+    QuickLookPresenter presenter;
 
     // The shelf.
     Theme theme;

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QUrl>
+#include <QUuid>
 
 #include <functional>
 #include <optional>
@@ -18,9 +19,14 @@ public:
 
     virtual ~ThumbnailSource() = default;
 
-    /// Both call `completion` exactly once, later, on the main thread; a file always gets an image.
-    virtual void generateForFile(const QUrl &url, Completion completion) = 0;
-    virtual void generateForImageData(const QByteArray &data, Completion completion) = 0;
+    /// Both call `completion` exactly once, later, on the main thread, unless the item's picture is
+    /// cancelled or asked for anew; a file always gets an image.
+    virtual void generateForFile(const QUuid &item, const QUrl &url, Completion completion) = 0;
+    virtual void generateForImageData(const QUuid &item, const QByteArray &data,
+                                      Completion completion)
+        = 0;
+    /// Nobody wants the item's picture any more; nothing when none is under way.
+    virtual void cancel(const QUuid &item) = 0;
 };
 
 /// What a web page says about itself.

@@ -47,8 +47,12 @@ void ShelfStore::setState(ShelfState state)
 
 void ShelfStore::setItems(QList<DropItem> items)
 {
-    m_items = std::move(items);
+    const QList<DropItem> replaced = std::exchange(m_items, std::move(items));
     m_index.invalidate();
+    for (const DropItem &item : replaced) {
+        if (!indexOf(item.id()))
+            m_thumbnails.cancel(item.id());
+    }
     publishItems();
 }
 
@@ -152,6 +156,7 @@ void ShelfStore::discard(int index, bool deletingSpoolFile)
         return;
     const DropItem item = m_items.takeAt(index);
     m_index.removed(item.id());
+    m_thumbnails.cancel(item.id());
     publishItems();
     m_selection.remove(item.id());
     const auto *file = std::get_if<DropItem::File>(&item.payload());
@@ -210,11 +215,6 @@ void ShelfStore::toggleManually()
         setState(m_state == ShelfState::Idle ? ShelfState::Expanded : ShelfState::Idle);
 }
 
-void ShelfStore::dragEnded()
-{
-    m_isDragInFlight = false;
-    if (m_state == ShelfState::Expanded)
-        setState(m_items.isEmpty() ? ShelfState::Idle : ShelfState::Occupied);
 void ShelfStore::toggleViewAll()
 {
     if (!m_isViewAllOpen && m_items.size() < 2)
@@ -223,6 +223,11 @@ void ShelfStore::toggleViewAll()
     publishItems();
 }
 
+void ShelfStore::dragEnded()
+{
+    m_isDragInFlight = false;
+    if (m_state == ShelfState::Expanded)
+        setState(m_items.isEmpty() ? ShelfState::Idle : ShelfState::Occupied);
     else
         publishItems();
 }

@@ -42,9 +42,9 @@ void ShelfStore::startLoading(const DropItem &item)
                     (*self)->mergeLinkPreview(id, url, *preview);
             });
     } else if (const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload())) {
-        m_thumbnails.generateForImageData(image->data, mergeThumbnail);
+        m_thumbnails.generateForImageData(id, image->data, mergeThumbnail);
     } else if (const auto *file = std::get_if<DropItem::File>(&item.payload())) {
-        m_thumbnails.generateForFile(file->url, mergeThumbnail);
+        m_thumbnails.generateForFile(id, file->url, mergeThumbnail);
     }
 }
 

@@ -4,7 +4,6 @@
 #include "platform/image_codec.h"
 #include "platform/main_queue.h"
 #include "platform/screens.h"
-#include "platform/thumbnail_generator.h"
 #include "platform/work_queue.h"
 
 #include <cmath>
@@ -24,19 +23,29 @@ std::optional<Image> atDisplaySize(const std::optional<QImage> &bitmap)
 
 } // namespace
 
-ThumbnailService::ThumbnailService(ThumbnailGenerator &generator, FileIcons &icons,
+ThumbnailService::ThumbnailService(ThumbnailGenerator &generator,
+                                   ThumbnailGenerator &remoteGenerator, FileIcons &icons,
                                    const ImageCodec &codec, const Screens &screens,
                                    MainQueue &mainQueue, WorkQueue &workQueue)
     : m_generator(generator)
+    , m_remoteGenerator(remoteGenerator)
     , m_icons(icons)
     , m_codec(codec)
     , m_screens(screens)
     , m_mainQueue(mainQueue)
     , m_workQueue(workQueue)
+    , m_queue(mainQueue, maximumRunning)
+    , m_remoteQueue(mainQueue, maximumRunningRemotely)
 {
 }
 
 ThumbnailService::~ThumbnailService() = default;
+
+void ThumbnailService::setItemsInView(const std::function<QList<QUuid>()> &itemsInView)
+{
+    m_queue.setItemsInView(itemsInView);
+    m_remoteQueue.setItemsInView(itemsInView);
+}
 
 double ThumbnailService::scale() const
 {
@@ -44,40 +53,81 @@ double ThumbnailService::scale() const
     return screen ? screen->backingScaleFactor : defaultScale;
 }
 
-void ThumbnailService::generateForFile(const QUrl &url, Completion completion)
+void ThumbnailService::cancel(const QUuid &item)
 {
-    const ThumbnailRequest request = {url, QSizeF(side, side), scale()};
-    // The generator answers on a thread of its own, where only what outlives it may be touched.
-    m_generator.generateBestRepresentation(
-        request,
-        [&mainQueue = m_mainQueue, weak = std::weak_ptr(m_self), request,
-         completion = std::move(completion)](const std::optional<QImage> &bitmap) {
-            mainQueue.async([weak, request, completion, image = atDisplaySize(bitmap)] {
-                const auto self = weak.lock();
-                if (!self)
-                    return;
-                if (image) {
-                    completion(image);
-                    return;
-                }
-                Image icon = (*self)->m_icons.iconForFile(request.url, side, request.scale);
-                icon.size = QSizeF(side, side);
-                completion(icon);
-            });
+    m_queue.cancel(item);
+    m_remoteQueue.cancel(item);
+}
+
+void ThumbnailService::generateForFile(const QUuid &item, const QUrl &url, Completion completion)
+{
+    enqueue(m_queue, m_generator, {item, url, std::move(completion)});
+}
+
+void ThumbnailService::enqueue(ThumbnailQueue &queue, ThumbnailGenerator &generator, FileJob job)
+{
+    const QUuid item = job.item;
+    queue.add(
+        item,
+        [this, &generator, job = std::move(job)](const std::shared_ptr<Cancellation> &cancellation,
+                                                 const ThumbnailQueue::Done &done) {
+            const ThumbnailRequest request = {job.url, QSizeF(side, side), scale(), cancellation};
+            // The generator answers on a thread of its own, where only what outlives it may be
+            // touched.
+            generator.generateBestRepresentation(
+                request,
+                [&mainQueue = m_mainQueue, weak = std::weak_ptr(m_self), request, job,
+                 done](const ThumbnailAnswer &answer) {
+                    mainQueue.async([weak, request, job, done, answer] {
+                        const auto self = weak.lock();
+                        if (!self)
+                            return;
+                        done();
+                        (*self)->answered(request, job, answer);
+                    });
+                });
         });
 }
 
-void ThumbnailService::generateForImageData(const QByteArray &data, Completion completion)
+void ThumbnailService::answered(const ThumbnailRequest &request, const FileJob &job,
+                                const ThumbnailAnswer &answer)
 {
-    const int maximumPixels = static_cast<int>(std::round(side * scale()));
-    m_workQueue.run([&codec = m_codec, &mainQueue = m_mainQueue, weak = std::weak_ptr(m_self), data,
-                     maximumPixels, completion = std::move(completion)] {
-        const auto image = atDisplaySize(codec.thumbnail(data, maximumPixels));
-        mainQueue.async([weak, completion, image] {
-            if (weak.lock())
-                completion(image);
+    if (request.cancellation->isCancelled())
+        return;
+    if (answer.isRemote && !job.isRemote) {
+        enqueue(m_remoteQueue, m_remoteGenerator, {job.item, job.url, job.completion, true});
+        return;
+    }
+    if (const auto image = atDisplaySize(answer.picture)) {
+        job.completion(image);
+        return;
+    }
+    Image icon = answer.isFolder ? m_icons.iconForFolder(side, request.scale)
+                                 : m_icons.iconForFile(job.url, side, request.scale);
+    icon.size = QSizeF(side, side);
+    job.completion(icon);
+}
+
+void ThumbnailService::generateForImageData(const QUuid &item, const QByteArray &data,
+                                            Completion completion)
+{
+    m_queue.add(
+        item,
+        [this, data, completion = std::move(completion)](
+            const std::shared_ptr<Cancellation> &cancellation, const ThumbnailQueue::Done &done) {
+            const int maximumPixels = static_cast<int>(std::round(side * scale()));
+            m_workQueue.run([&codec = m_codec, &mainQueue = m_mainQueue, data, maximumPixels,
+                             completion, cancellation, done] {
+                const auto image = cancellation->isCancelled()
+                    ? std::nullopt
+                    : atDisplaySize(codec.thumbnail(data, maximumPixels));
+                mainQueue.async([completion, image, cancellation, done] {
+                    done();
+                    if (!cancellation->isCancelled())
+                        completion(image);
+                });
+            });
         });
-    });
 }
 
 } // namespace corvane

@@ -1,7 +1,13 @@
 #pragma once
 
 #include "core/item_loading.h"
+#include "platform/thumbnail_generator.h"
+#include "services/thumbnail_queue.h"
 
+#include <QList>
+#include <QUuid>
+
+#include <functional>
 #include <memory>
 
 namespace corvane {
@@ -10,40 +16,65 @@ class FileIcons;
 class ImageCodec;
 class MainQueue;
 class Screens;
-class ThumbnailGenerator;
 class WorkQueue;
 
-/// Makes the small square pictures of the shelf's items.
+/// Makes the small square pictures of the shelf's items: what is in view first, of the rest the
+/// newest, two at a time, and none for an item that left.
 ///
-/// Keeps nothing: the item keeps its picture. What it was given must outlive it and all work that
-/// is under way; the service itself may go earlier, and then its requests are never answered.
+/// Files behind a network wait in a row of their own, where a server that does not answer keeps
+/// nobody else. Keeps nothing: the item keeps its picture. What it was given must outlive it and
+/// all work that is under way; the service itself may go earlier, and then its requests are never
+/// answered.
 class ThumbnailService : public ThumbnailSource {
 public:
     /// Width and height in points.
     static constexpr double side = 30;
     /// Pixels per point where no screen says otherwise.
     static constexpr double defaultScale = 2;
+    /// Each may hold a decoded picture.
+    static constexpr std::size_t maximumRunning = 2;
+    static constexpr std::size_t maximumRunningRemotely = 1;
 
-    ThumbnailService(ThumbnailGenerator &generator, FileIcons &icons, const ImageCodec &codec,
-                     const Screens &screens, MainQueue &mainQueue, WorkQueue &workQueue);
+    /// `remoteGenerator` is asked for what `generator` found to be remote.
+    ThumbnailService(ThumbnailGenerator &generator, ThumbnailGenerator &remoteGenerator,
+                     FileIcons &icons, const ImageCodec &codec, const Screens &screens,
+                     MainQueue &mainQueue, WorkQueue &workQueue);
     ThumbnailService(const ThumbnailService &) = delete;
     ThumbnailService &operator=(const ThumbnailService &) = delete;
     ~ThumbnailService() override;
 
+    /// Tells which items are in view; without it none is.
+    void setItemsInView(const std::function<QList<QUuid>()> &itemsInView);
+
     /// The best picture of the file that there is, else its icon.
-    void generateForFile(const QUrl &url, Completion completion) override;
+    void generateForFile(const QUuid &item, const QUrl &url, Completion completion) override;
     /// The bytes' picture, upright, scaled down while it is decoded; none when they are broken.
-    void generateForImageData(const QByteArray &data, Completion completion) override;
+    void generateForImageData(const QUuid &item, const QByteArray &data,
+                              Completion completion) override;
+    void cancel(const QUuid &item) override;
 
 private:
+    struct FileJob {
+        QUuid item;
+        QUrl url;
+        Completion completion;
+        bool isRemote = false;
+    };
+
     double scale() const;
+    void enqueue(ThumbnailQueue &queue, ThumbnailGenerator &generator, FileJob job);
+    void answered(const ThumbnailRequest &request, const FileJob &job,
+                  const ThumbnailAnswer &answer);
 
     ThumbnailGenerator &m_generator;
+    ThumbnailGenerator &m_remoteGenerator;
     FileIcons &m_icons;
     const ImageCodec &m_codec;
     const Screens &m_screens;
     MainQueue &m_mainQueue;
     WorkQueue &m_workQueue;
+    ThumbnailQueue m_queue;
+    ThumbnailQueue m_remoteQueue;
     /// Held weakly by all work; looked at on the main thread alone.
     std::shared_ptr<ThumbnailService *> m_self = std::make_shared<ThumbnailService *>(this);
 };

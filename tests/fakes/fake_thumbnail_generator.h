@@ -17,10 +17,10 @@ public:
         m_completions.push_back(std::move(completion));
     }
 
-    void answer(std::size_t index, const std::optional<QImage> &picture)
+    void answer(std::size_t index, const ThumbnailAnswer &answer)
     {
-        std::thread([completion = std::move(m_completions.at(index)), picture] {
-            completion(picture);
+        std::thread([completion = std::move(m_completions.at(index)), answer] {
+            completion(answer);
         }).join();
     }
 

@@ -17,16 +17,19 @@ public:
         Completion completion;
     };
 
-    void generateForFile(const QUrl &url, Completion completion) override
+    void generateForFile(const QUuid & /*item*/, const QUrl &url, Completion completion) override
     {
         requests.push_back({url, {}, std::move(completion)});
     }
-    void generateForImageData(const QByteArray &data, Completion completion) override
+    void generateForImageData(const QUuid & /*item*/, const QByteArray &data,
+                              Completion completion) override
     {
         requests.push_back({{}, data, std::move(completion)});
     }
+    void cancel(const QUuid &item) override { cancelled << item; }
 
     std::vector<Request> requests;
+    QList<QUuid> cancelled;
 };
 
 /// The same for link previews.

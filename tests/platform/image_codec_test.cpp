@@ -1,8 +1,7 @@
+#include "fakes/fake_file_locality.h"
 #include "platform/file_url.h"
 #include "platform/qt/qt_file_icons.h"
 #include "platform/qt/qt_image_codec.h"
-#include "platform/qt/qt_thumbnail_generator.h"
-#include "platform/work_queue.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -95,11 +94,6 @@ protected:
     QtImageCodec codec;
     QTemporaryDir folder;
     QByteArrayList paths;
-};
-
-/// Runs work at once, on the caller's thread.
-struct ImmediateWorkQueue : WorkQueue {
-    void run(std::function<void()> work) override { work(); }
 };
 
 } // namespace
@@ -223,23 +217,22 @@ TEST_F(ImageCodecTest, aJpegShowsWhiteWhereThePictureWasTransparent)
     EXPECT_GT(codec.decode(*bytes)->pixelColor(8, 8).lightness(), 250);
 }
 
-TEST_F(ImageCodecTest, generatesThumbnailsOfPictureFilesOnly)
+TEST_F(ImageCodecTest, doesNotDecodeDocumentsThatCanShowPages)
 {
-    ImmediateWorkQueue queue;
-    QtThumbnailGenerator generator(codec, queue);
-    std::vector<std::optional<QImage>> results;
-    const auto keep = [&](std::optional<QImage> image) { results.push_back(std::move(image)); };
-    generator.generateBestRepresentation(
-        {saved("a.png", written(halves(400, 100), "png")), {30, 30}, 2}, keep);
-    generator.generateBestRepresentation({saved("a.txt", "text"), {30, 30}, 2}, keep);
-    ASSERT_EQ(results.size(), 2U);
-    EXPECT_EQ(results[0]->size(), QSize(60, 15));
-    EXPECT_FALSE(results[1]);
+    const QByteArray pdf = "%PDF-1.4\n"
+                           "1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
+                           "2 0 obj<</Type/Pages/Kids[3 0 R]/Count 1>>endobj\n"
+                           "3 0 obj<</Type/Page/Parent 2 0 R/MediaBox[0 0 72 72]>>endobj\n"
+                           "trailer<</Root 1 0 R>>\n%%EOF\n";
+    EXPECT_FALSE(codec.thumbnail(pdf, 60));
+    EXPECT_FALSE(codec.fileThumbnail(saved("a.pdf", pdf), 60));
+    EXPECT_FALSE(codec.fileThumbnail(saved("a.png", pdf), 60));
 }
 
 TEST_F(ImageCodecTest, everyFileHasAnIconOfTheWantedSize)
 {
-    QtFileIcons icons;
+    const FakeFileLocality locality;
+    QtFileIcons icons(locality);
     for (const QUrl &url :
          {saved("a.txt", ""), saved("b.unknown", ""), saved("noextension", ""),
           QUrl::fromLocalFile(folder.path()), QUrl::fromLocalFile(folder.path() + u'/'),
@@ -251,6 +244,18 @@ TEST_F(ImageCodecTest, everyFileHasAnIconOfTheWantedSize)
     }
     EXPECT_NE(icons.iconForFile(QUrl::fromLocalFile(folder.path()), 30, 1).bitmap,
               icons.iconForFile(saved("a.txt", ""), 30, 1).bitmap);
+}
+
+TEST_F(ImageCodecTest, anIconOfARemoteFileTouchesNothing)
+{
+    FakeFileLocality locality;
+    QtFileIcons icons(locality);
+    const QUrl remote = QUrl::fromLocalFile(folder.path());
+    const QImage asFolder = icons.iconForFile(remote, 30, 1).bitmap;
+    EXPECT_EQ(asFolder, icons.iconForFolder(30, 1).bitmap);
+    locality.remoteFolder = folder.path().toUtf8();
+    EXPECT_NE(icons.iconForFile(remote, 30, 1).bitmap, asFolder) << "it was looked at";
+    EXPECT_EQ(icons.iconForFile(QUrl::fromLocalFile(folder.path() + u'/'), 30, 1).bitmap, asFolder);
 }
 
 } // namespace corvane::test

@@ -34,14 +34,16 @@ struct ThumbnailServiceTest : testing::Test {
     }
 
     const std::thread::id mainThread = std::this_thread::get_id();
+    const QUuid item = QUuid::createUuid();
     test::FakeThumbnailGenerator generator;
+    test::FakeThumbnailGenerator remote;
     test::FakeFileIcons icons;
     test::FakeImageCodec codec;
     test::FakeScreens screens;
     test::TestClock clock;
     test::FakeWorkQueue work;
     std::unique_ptr<ThumbnailService> service
-        = std::make_unique<ThumbnailService>(generator, icons, codec, screens, clock, work);
+        = std::make_unique<ThumbnailService>(generator, remote, icons, codec, screens, clock, work);
     int completions = 0;
     std::optional<Image> result;
 };
@@ -49,7 +51,9 @@ struct ThumbnailServiceTest : testing::Test {
 TEST_F(ThumbnailServiceTest, AsksForAFileAtTheSizeThatIsShown)
 {
     screens.attach(QRectF(0, 0, 100, 100), 1.5);
-    service->generateForFile(url, completion());
+    service->generateForFile(item, url, completion());
+    EXPECT_TRUE(generator.requests.empty()) << "the drop is not accepted yet";
+    clock.runPending();
     ASSERT_EQ(generator.requests.size(), 1U);
     EXPECT_EQ(generator.requests[0].url, url);
     EXPECT_EQ(generator.requests[0].size, QSizeF(30, 30));
@@ -58,10 +62,12 @@ TEST_F(ThumbnailServiceTest, AsksForAFileAtTheSizeThatIsShown)
 
 TEST_F(ThumbnailServiceTest, TakesAScaleOfTwoWithoutAScreen)
 {
-    service->generateForFile(url, completion());
+    service->generateForFile(item, url, completion());
+    clock.runPending();
     EXPECT_EQ(generator.requests[0].scale, 2);
     codec.teach("large", {4000, 1000});
-    service->generateForImageData("large", completion());
+    service->generateForImageData(item, "large", completion());
+    clock.runPending();
     work.runAll();
     clock.runPending();
     ASSERT_TRUE(result.has_value());
@@ -70,8 +76,9 @@ TEST_F(ThumbnailServiceTest, TakesAScaleOfTwoWithoutAScreen)
 
 TEST_F(ThumbnailServiceTest, GivesAFilesPictureLaterOnTheMainThread)
 {
-    service->generateForFile(url, completion());
-    generator.answer(0, bitmap(60, 40));
+    service->generateForFile(item, url, completion());
+    clock.runPending();
+    generator.answer(0, {bitmap(60, 40)});
     EXPECT_EQ(completions, 0);
     clock.runPending();
     EXPECT_EQ(completions, 1);
@@ -84,8 +91,9 @@ TEST_F(ThumbnailServiceTest, GivesAFilesPictureLaterOnTheMainThread)
 TEST_F(ThumbnailServiceTest, GivesAFileWithoutAPictureItsIcon)
 {
     screens.attach(QRectF(0, 0, 100, 100), 2);
-    service->generateForFile(url, completion());
-    generator.answer(0, std::nullopt);
+    service->generateForFile(item, url, completion());
+    clock.runPending();
+    generator.answer(0, {});
     EXPECT_TRUE(icons.asked.isEmpty()) << "icons belong to the main thread";
     clock.runPending();
     EXPECT_EQ(completions, 1);
@@ -97,8 +105,9 @@ TEST_F(ThumbnailServiceTest, GivesAFileWithoutAPictureItsIcon)
 
 TEST_F(ThumbnailServiceTest, TakesAnEmptyPictureForNone)
 {
-    service->generateForFile(url, completion());
-    generator.answer(0, QImage());
+    service->generateForFile(item, url, completion());
+    clock.runPending();
+    generator.answer(0, {QImage()});
     clock.runPending();
     ASSERT_TRUE(result.has_value());
     EXPECT_FALSE(result->isNull());
@@ -108,7 +117,8 @@ TEST_F(ThumbnailServiceTest, ShowsAWidePictureSquare)
 {
     screens.attach(QRectF(0, 0, 100, 100), 2);
     codec.teach("wide", {4000, 1000});
-    service->generateForImageData("wide", completion());
+    service->generateForImageData(item, "wide", completion());
+    clock.runPending();
     work.runAll();
     clock.runPending();
     ASSERT_TRUE(result.has_value());
@@ -120,7 +130,8 @@ TEST_F(ThumbnailServiceTest, RoundsPixelsAtAFractionalScale)
 {
     screens.attach(QRectF(0, 0, 100, 100), 1.25);
     codec.teach("large", {1000, 1000});
-    service->generateForImageData("large", completion());
+    service->generateForImageData(item, "large", completion());
+    clock.runPending();
     work.runAll();
     clock.runPending();
     EXPECT_EQ(result->bitmap.size(), QSize(38, 38));
@@ -129,7 +140,8 @@ TEST_F(ThumbnailServiceTest, RoundsPixelsAtAFractionalScale)
 TEST_F(ThumbnailServiceTest, KeepsASmallPictureSmall)
 {
     codec.teach("small", {8, 8});
-    service->generateForImageData("small", completion());
+    service->generateForImageData(item, "small", completion());
+    clock.runPending();
     work.runAll();
     clock.runPending();
     EXPECT_EQ(result->bitmap.size(), QSize(8, 8));
@@ -138,7 +150,8 @@ TEST_F(ThumbnailServiceTest, KeepsASmallPictureSmall)
 
 TEST_F(ThumbnailServiceTest, GivesNoneForBrokenBytesOnceOnTheMainThread)
 {
-    service->generateForImageData("broken", completion());
+    service->generateForImageData(item, "broken", completion());
+    clock.runPending();
     EXPECT_EQ(completions, 0);
     work.runAll();
     EXPECT_EQ(completions, 0);
@@ -147,20 +160,138 @@ TEST_F(ThumbnailServiceTest, GivesNoneForBrokenBytesOnceOnTheMainThread)
     EXPECT_FALSE(result.has_value());
 }
 
+TEST_F(ThumbnailServiceTest, GivesAFolderBehindALinkItsIcon)
+{
+    service->generateForFile(item, url, completion());
+    clock.runPending();
+    generator.answer(0, {std::nullopt, true});
+    clock.runPending();
+    EXPECT_EQ(completions, 1);
+    EXPECT_EQ(icons.foldersAsked, 1);
+    EXPECT_TRUE(icons.asked.isEmpty());
+}
+
+TEST_F(ThumbnailServiceTest, MakesAtMostTwoPicturesAtOnceOfFilesAndBytesTogether)
+{
+    codec.teach("bytes", {8, 8});
+    service->generateForImageData(QUuid::createUuid(), "bytes", completion());
+    for (int i = 0; i < 5; ++i)
+        service->generateForFile(QUuid::createUuid(), url, completion());
+    clock.runPending();
+    EXPECT_EQ(generator.requests.size(), 2U);
+    EXPECT_EQ(work.pendingCount(), 0U);
+    for (std::size_t i = 0; i < 4; ++i)
+        generator.answer(i, {}), clock.runPending();
+    EXPECT_EQ(generator.requests.size(), 5U);
+    EXPECT_EQ(work.pendingCount(), 1U) << "the oldest comes last";
+    generator.answer(4, {});
+    work.runAll();
+    clock.runPending();
+    EXPECT_EQ(completions, 6);
+}
+
+TEST_F(ThumbnailServiceTest, AFileThatAServerKeepsToItselfKeepsNoOther)
+{
+    for (int i = 0; i < 3; ++i)
+        service->generateForFile(QUuid::createUuid(), url, completion());
+    clock.runPending();
+    generator.answer(0, {std::nullopt, false, true});
+    clock.runPending();
+    EXPECT_EQ(completions, 0);
+    ASSERT_EQ(remote.requests.size(), 1U);
+    EXPECT_EQ(remote.requests[0].url, url);
+    ASSERT_EQ(generator.requests.size(), 3U) << "its place is free for the next";
+    generator.answer(1, {bitmap(1, 1)});
+    generator.answer(2, {std::nullopt, false, true});
+    clock.runPending();
+    EXPECT_EQ(completions, 1);
+    EXPECT_EQ(remote.requests.size(), 1U) << "one remote file at a time";
+    remote.answer(0, {bitmap(1, 1)});
+    clock.runPending();
+    EXPECT_EQ(completions, 2);
+    EXPECT_EQ(remote.requests.size(), 2U);
+    remote.answer(1, {});
+    clock.runPending();
+    EXPECT_EQ(completions, 3);
+    EXPECT_EQ(icons.asked.size(), 1);
+}
+
+TEST_F(ThumbnailServiceTest, CancellingDropsWhatWaitsAndWhatRuns)
+{
+    QList<QUuid> items;
+    for (int i = 0; i < 3; ++i) {
+        items << QUuid::createUuid();
+        service->generateForFile(items[i], url, completion());
+    }
+    clock.runPending();
+    ASSERT_EQ(generator.requests.size(), 2U);
+    for (const QUuid &each : items)
+        service->cancel(each);
+    EXPECT_TRUE(generator.requests[0].cancellation->isCancelled());
+    generator.answer(0, {bitmap(1, 1)});
+    generator.answer(1, {std::nullopt, false, true});
+    clock.runPending();
+    EXPECT_EQ(completions, 0);
+    EXPECT_EQ(generator.requests.size(), 2U);
+    EXPECT_TRUE(remote.requests.empty());
+}
+
+TEST_F(ThumbnailServiceTest, CancellingReachesARemoteFileToo)
+{
+    service->generateForFile(item, url, completion());
+    clock.runPending();
+    generator.answer(0, {std::nullopt, false, true});
+    clock.runPending();
+    ASSERT_EQ(remote.requests.size(), 1U);
+    service->cancel(item);
+    EXPECT_TRUE(remote.requests[0].cancellation->isCancelled());
+    remote.answer(0, {bitmap(1, 1)});
+    clock.runPending();
+    EXPECT_EQ(completions, 0);
+}
+
+TEST_F(ThumbnailServiceTest, BytesOfAnItemThatLeftAreNotDecoded)
+{
+    codec.teach("bytes", {8, 8});
+    service->generateForImageData(item, "bytes", completion());
+    clock.runPending();
+    service->cancel(item);
+    work.runAll();
+    clock.runPending();
+    EXPECT_EQ(completions, 0);
+}
+
+TEST_F(ThumbnailServiceTest, ItsEndStopsWhatRuns)
+{
+    service->generateForFile(item, url, completion());
+    clock.runPending();
+    service.reset();
+    EXPECT_TRUE(generator.requests[0].cancellation->isCancelled());
+}
+
 TEST_F(ThumbnailServiceTest, AnswersNothingOnceItIsGone)
 {
-    service->generateForFile(url, completion());
-    service->generateForFile(url, completion());
-    service->generateForImageData("x", completion());
-    service->generateForImageData("y", completion());
-    generator.answer(0, bitmap(1, 1));
-    work.runOne();
+    for (int i = 0; i < 2; ++i)
+        service->generateForFile(QUuid::createUuid(), url, completion());
+    clock.runPending();
+    generator.answer(0, {bitmap(1, 1)});
     service.reset();
-    generator.answer(1, std::nullopt);
-    work.runAll();
+    generator.answer(1, {});
     clock.advance(1);
     EXPECT_EQ(completions, 0);
     EXPECT_TRUE(icons.asked.isEmpty());
+}
+
+TEST_F(ThumbnailServiceTest, AnswersNoBytesOnceItIsGone)
+{
+    for (const char *data : {"x", "y"})
+        service->generateForImageData(QUuid::createUuid(), data, completion());
+    clock.runPending();
+    work.runOne();
+    service.reset();
+    work.runAll();
+    clock.advance(1);
+    EXPECT_EQ(completions, 0);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "platform/qt/qt_file_icons.h"
 
+#include "platform/file_locality.h"
 #include "platform/file_url.h"
 
 #include <QIcon>
@@ -17,15 +18,6 @@ namespace {
 
 /// Names of kinds and sizes there are; a cache that outgrew it would be a mistake somewhere.
 constexpr qsizetype maximumCached = 500;
-
-bool isFolder(const QUrl &url)
-{
-    struct stat status = {};
-    const QByteArray path = file_url::nativePath(url);
-    // Of a link itself: what it leads to may be on a disk that sleeps.
-    return !path.isEmpty() && !path.contains('\0') && ::lstat(path.constData(), &status) == 0
-        && S_ISDIR(status.st_mode);
-}
 
 /// A sheet with a turned corner, on a canvas of 32.
 QPainterPath sheet()
@@ -82,13 +74,38 @@ QImage iconImage(const QMimeType &type, bool asFolder, int pixels)
 
 } // namespace
 
+QtFileIcons::QtFileIcons(const FileLocality &locality)
+    : m_locality(locality)
+{
+}
+
+bool QtFileIcons::isFolder(const QUrl &url) const
+{
+    const QByteArray path = file_url::nativePath(url);
+    if (path.isEmpty() || path.endsWith('/') || m_locality.isRemote(path))
+        return path.endsWith('/');
+    struct stat status = {};
+    // Of a link itself: what it leads to may be on a disk that sleeps.
+    return ::lstat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
 Image QtFileIcons::iconForFile(const QUrl &url, double side, double scale)
 {
+    if (isFolder(url))
+        return iconForFolder(side, scale);
+    const auto type = m_database.mimeTypeForFile(file_url::lastPathComponent(url),
+                                                 QMimeDatabase::MatchExtension);
+    return icon(type, false, side, scale);
+}
+
+Image QtFileIcons::iconForFolder(double side, double scale)
+{
+    return icon(m_database.mimeTypeForName(QStringLiteral("inode/directory")), true, side, scale);
+}
+
+Image QtFileIcons::icon(const QMimeType &type, bool asFolder, double side, double scale)
+{
     const int pixels = static_cast<int>(std::clamp(std::round(side * scale), 1.0, 1024.0));
-    const bool asFolder = isFolder(url);
-    const QMimeType type = asFolder ? m_database.mimeTypeForName(QStringLiteral("inode/directory"))
-                                    : m_database.mimeTypeForFile(file_url::lastPathComponent(url),
-                                                                 QMimeDatabase::MatchExtension);
     const Key key{type.iconName(), pixels};
     auto found = m_cache.find(key);
     if (found == m_cache.end()) {

@@ -7,12 +7,23 @@
 
 namespace corvane {
 
+class FileLocality;
+
 /// Icons of the desktop's theme, chosen by a file's name alone: its contents are never read.
+/// Whether it is a folder is asked of local disks alone; elsewhere a folder is known by a trailing
+/// slash.
 class QtFileIcons : public FileIcons {
 public:
+    /// `locality` must outlive this.
+    explicit QtFileIcons(const FileLocality &locality);
+
     Image iconForFile(const QUrl &url, double side, double scale) override;
+    Image iconForFolder(double side, double scale) override;
 
 private:
+    Image icon(const QMimeType &type, bool asFolder, double side, double scale);
+    bool isFolder(const QUrl &url) const;
+
     struct Key {
         QString iconName;
         int pixels = 0;
@@ -23,6 +34,7 @@ private:
         }
     };
 
+    const FileLocality &m_locality;
     QMimeDatabase m_database;
     QHash<Key, QImage> m_cache;
 };

@@ -1,0 +1,89 @@
+#include "services/thumbnail_chain.h"
+
+#include "platform/external_thumbnailers.h"
+#include "platform/file_locality.h"
+#include "platform/file_url.h"
+#include "platform/file_version.h"
+#include "platform/image_codec.h"
+#include "platform/thumbnail_cache.h"
+#include "platform/work_queue.h"
+#include "services/made_picture.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+/// What a thumbnail program left, which may be anything: a PNG of a modest size, or nothing.
+std::optional<QImage> decoded(const ImageCodec &codec, const QByteArray &png, int pixels)
+{
+    constexpr int largestSide = 4096;
+    if (!png.startsWith("\x89PNG\r\n\x1a\n"))
+        return std::nullopt;
+    const auto size = codec.pixelSize(png);
+    if (!size || std::max(size->width(), size->height()) > largestSide)
+        return std::nullopt;
+    return codec.thumbnail(png, pixels);
+}
+
+std::optional<QImage> madeByProgram(const ThumbnailChain::Context &context, const FileVersion &file,
+                                    int pixels, Cancellation &cancellation)
+{
+    using Outcome = ExternalThumbnailers::Result::Outcome;
+    const auto result = context.thumbnailers.run(file, pixels, cancellation);
+    if (result.outcome == Outcome::NotThere || result.outcome == Outcome::Stopped)
+        return std::nullopt;
+    std::optional<QImage> picture;
+    if (result.outcome == Outcome::Made)
+        picture = decoded(context.codec, result.png, pixels);
+    if (picture)
+        context.cache.keep(file, *picture);
+    else
+        context.cache.keepFailure(file);
+    return picture;
+}
+
+ThumbnailAnswer make(const ThumbnailChain::Context &context, const ThumbnailRequest &request)
+{
+    const QByteArray path = file_url::nativePath(request.url);
+    if (path.isEmpty() || request.cancellation->isCancelled())
+        return {};
+    if (context.locality.isRemote(path))
+        return {std::nullopt, false, true};
+    const auto file = FileVersion::at(path);
+    if (!file || file->kind != FileVersion::Kind::Regular)
+        return {std::nullopt, file && file->kind == FileVersion::Kind::Folder};
+
+    const int pixels = request.pixels();
+    const ThumbnailCache::Found found = context.cache.find(*file, pixels);
+    if (found.picture || found.hasFailed)
+        return {found.picture};
+    const int toMake = context.cache.pixelsToMake(*file, pixels);
+    auto picture = context.codec.fileThumbnail(request.url, toMake);
+    if (picture)
+        made_picture::keepDecoded(context.cache, *file, *picture, toMake);
+    else if (!request.cancellation->isCancelled())
+        picture = madeByProgram(context, *file, toMake, *request.cancellation);
+    if (!picture)
+        return {};
+    return {made_picture::fitted(*picture, pixels)};
+}
+
+} // namespace
+
+ThumbnailChain::ThumbnailChain(const Context &context)
+    : m_context(context)
+{
+}
+
+void ThumbnailChain::generateBestRepresentation(const ThumbnailRequest &request,
+                                                Completion completion)
+{
+    m_context.workQueue.run([context = m_context, request, completion = std::move(completion)] {
+        completion(make(context, request));
+    });
+}
+
+} // namespace corvane
