@@ -77,6 +77,34 @@ TEST_F(Thumbnails, OfAnItemThatLeftAreDropped)
     EXPECT_FALSE(store.items()[0].thumbnail().has_value());
 }
 
+TEST_F(Thumbnails, OfItemsThatLeaveAreCancelled)
+{
+    store.accept({file("a"), file("b"), file("c"), file("d")});
+    QList<QUuid> ids;
+    for (const DropItem &item : store.items())
+        ids << item.id();
+    store.discard(0, false);
+    EXPECT_EQ(thumbnails.cancelled, ids.mid(0, 1));
+    store.ejected(0, true);
+    EXPECT_EQ(thumbnails.cancelled.size(), 1) << "it was kept";
+    store.ejected(0, false);
+    EXPECT_EQ(thumbnails.cancelled, ids.mid(0, 2));
+    store.setItems(store.items().mid(1));
+    EXPECT_EQ(thumbnails.cancelled, ids.mid(0, 3));
+    store.clearAll();
+    EXPECT_EQ(thumbnails.cancelled, ids);
+}
+
+TEST_F(Thumbnails, AreCancelledBeforeAnybodyHearsThatTheItemLeft)
+{
+    store.accept({file("a")});
+    store.observeItems([this](const QList<DropItem> &) {
+        detail << QString::number(thumbnails.cancelled.size());
+    });
+    store.discard(0, false);
+    EXPECT_EQ(detail.value(0), QStringLiteral("1"));
+}
+
 TEST_F(Thumbnails, AndPreviewsMayComeAfterTheStoreIsGone)
 {
     store.accept({file("a"), link("http://x/")});
