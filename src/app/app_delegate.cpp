@@ -4,6 +4,7 @@
 #include "core/settings.h"
 #include "core/shelf_store.h"
 #include "input/drag_monitor.h"
+#include "services/quick_look_presenter.h"
 
 #include <utility>
 
@@ -14,12 +15,16 @@ AppDelegate::AppDelegate(const Context &context)
 {
 }
 
-AppDelegate::~AppDelegate() = default;
+AppDelegate::~AppDelegate()
+{
+    m_context.previewPanel.setController(nullptr);
+}
 
 void AppDelegate::applicationDidFinishLaunching()
 {
     m_context.settings.registerDefaults();
     m_hud = std::make_unique<HUDController>(m_context.hud);
+    m_context.previewPanel.setController(this);
     wireDragDetection();
 }
 
@@ -50,6 +55,8 @@ void AppDelegate::applicationWillTerminate()
     if (std::exchange(m_isTerminated, true))
         return;
     m_context.dragMonitor.stop();
+    m_context.previewPanel.orderOut();
+    m_context.presenter.discardScratch();
     m_context.spool.discardAll();
 }
 
@@ -57,6 +64,23 @@ bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/)
 {
     m_context.store.toggleManually();
     return false;
+}
+
+bool AppDelegate::acceptsPreviewPanelControl(PreviewPanel & /*panel*/)
+{
+    return !m_isTerminated;
+}
+
+void AppDelegate::beginPreviewPanelControl(PreviewPanel &panel)
+{
+    panel.setDataSource(&m_context.presenter);
+    panel.reloadData();
+}
+
+void AppDelegate::endPreviewPanelControl(PreviewPanel &panel)
+{
+    panel.setDataSource(nullptr);
+    m_context.presenter.discardScratch();
 }
 
 } // namespace corvane

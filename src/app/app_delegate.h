@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/preview_panel.h"
 #include "shelf/hud_controller.h"
 
 #include <memory>
@@ -7,31 +8,39 @@
 namespace corvane {
 
 class DragMonitor;
+class QuickLookPresenter;
 class ScratchSpool;
 
 /// Connects the shelf to the desktop at launch, and takes it down at the end.
 ///
 /// Everything in the context must outlive it. Main thread only.
-class AppDelegate {
+class AppDelegate : public PreviewPanelController {
 public:
     struct Context {
         DragMonitor &dragMonitor;
         Settings &settings;
         ShelfStore &store;
         ScratchSpool &spool;
+        PreviewPanel &previewPanel;
+        QuickLookPresenter &presenter;
         HUDController::Context hud;
     };
     explicit AppDelegate(const Context &context);
-    ~AppDelegate();
+    ~AppDelegate() override;
     AppDelegate(const AppDelegate &) = delete;
     AppDelegate &operator=(const AppDelegate &) = delete;
 
     void applicationDidFinishLaunching();
-    /// Stops the drag monitor, then removes the spool. The process may be ending in more than one
-    /// way at once: only the first call does anything.
+    /// Stops the drag monitor, closes the preview and removes its scratch file, then the spool. The
+    /// process may be ending in more than one way at once: only the first call does anything.
     void applicationWillTerminate();
     /// The user started the program again. False: there is nothing else to do.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
+
+    /// Until the process is ending.
+    bool acceptsPreviewPanelControl(PreviewPanel &panel) override;
+    void beginPreviewPanelControl(PreviewPanel &panel) override;
+    void endPreviewPanelControl(PreviewPanel &panel) override;
 
 private:
     void wireDragDetection();

@@ -245,7 +245,9 @@ bool ShelfView::keyDown(const KeyEvent &event)
         call(onCopy);
         return true;
     case key_code::space:
-        call(onQuickLook);
+        // It toggles: held down, it would flicker.
+        if (!event.isRepeat)
+            call(onQuickLook);
         return true;
     case key_code::deleteBackward:
     case key_code::deleteForward:

@@ -1,8 +1,11 @@
 #include "app/app_delegate.h"
 #include "app/app_info.h"
+#include "core/temporary_spool.h"
 #include "fakes/fake_drag_desktop.h"
+#include "fakes/fake_preview_panel.h"
 #include "fakes/shelf_model.h"
 #include "input/drag_monitor.h"
+#include "services/quick_look_presenter.h"
 
 #include <QDir>
 #include <QJsonObject>
@@ -17,8 +20,8 @@ class AppDelegateTest : public testing::Test, protected ShelfModel {
 protected:
     AppDelegateTest()
     {
-        delegate.emplace(
-            AppDelegate::Context{monitor, settings, store, desk.spool, controllerContext()});
+        delegate.emplace(AppDelegate::Context{monitor, settings, store, desk.spool, previewPanel,
+                                              presenter, controllerContext()});
         delegate->applicationDidFinishLaunching();
         store.observeState([this](ShelfState from, ShelfState to) {
             log << QStringLiteral("state %1 %2")
@@ -43,6 +46,9 @@ protected:
 
     FakeDragDesktop desktop;
     DragMonitor monitor{desktop, desktop, desktop, desk.clock};
+    TemporaryFolder scratch;
+    FakePreviewPanel previewPanel;
+    QuickLookPresenter presenter{previewPanel, scratch.path()};
     std::optional<AppDelegate> delegate;
     QStringList log;
 };
@@ -127,6 +133,54 @@ TEST_F(AppDelegateTest, TerminationStopsTheMonitorAndRemovesTheSpool)
     EXPECT_FALSE(QDir(desk.spool.directory().toLocalFile()).exists());
     drag();
     EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, TakesControlOfThePreviewAndShowsWhatIsPresented)
+{
+    EXPECT_TRUE(delegate->acceptsPreviewPanelControl(previewPanel));
+    presenter.present(ShelfDesk::textItem(QStringLiteral("a")));
+    EXPECT_EQ(previewPanel.dataSource(), &presenter);
+    EXPECT_EQ(previewPanel.shown, presenter.previewURL());
+    EXPECT_EQ(previewPanel.log,
+              (QStringList{QStringLiteral("orderFront"), QStringLiteral("reload")}));
+}
+
+TEST_F(AppDelegateTest, TheEndOfThePreviewClearsItAndDiscardsTheScratchFile)
+{
+    presenter.present(ShelfDesk::textItem(QStringLiteral("a")));
+    const auto written = presenter.scratchURL();
+    ASSERT_TRUE(written && exists(*written));
+    previewPanel.orderOut();
+    EXPECT_EQ(previewPanel.dataSource(), nullptr);
+    EXPECT_FALSE(exists(*written));
+}
+
+TEST_F(AppDelegateTest, TerminationClosesThePreviewAndLeavesNoScratchFile)
+{
+    presenter.present(ShelfDesk::textItem(QStringLiteral("a")));
+    const auto written = presenter.scratchURL();
+    ASSERT_TRUE(written && exists(*written));
+    delegate->applicationWillTerminate();
+    EXPECT_FALSE(previewPanel.isVisible());
+    EXPECT_FALSE(exists(*written));
+}
+
+TEST_F(AppDelegateTest, TerminationDiscardsAScratchFileThatIsNoLongerShown)
+{
+    previewPanel.setController(nullptr);
+    presenter.present(ShelfDesk::textItem(QStringLiteral("a")));
+    const auto written = presenter.scratchURL();
+    delegate->applicationWillTerminate();
+    EXPECT_FALSE(exists(*written));
+}
+
+TEST_F(AppDelegateTest, APreviewThatEndsAfterItIsGoneAsksNobody)
+{
+    presenter.present(ShelfDesk::textItem(QStringLiteral("a")));
+    delegate.reset();
+    EXPECT_FALSE(previewPanel.isVisible());
+    presenter.present(ShelfDesk::textItem(QStringLiteral("b")));
+    previewPanel.orderOut();
 }
 
 TEST_F(AppDelegateTest, ADragHeardAfterItIsGoneDoesNothing)

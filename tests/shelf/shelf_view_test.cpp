@@ -291,6 +291,15 @@ TEST_F(ShelfViewTest, HoverFollowsTheShelfUnderARestingPointer)
 
 // Keys
 
+TEST_F(ShelfViewTest, SpaceHeldDownPresentsOnce)
+{
+    show(holding(5, 3, 1));
+    log.clear();
+    EXPECT_TRUE(view.keyDown({key_code::space, {}, false}));
+    EXPECT_TRUE(view.keyDown({key_code::space, {}, true}));
+    EXPECT_EQ(log.size(), 1);
+}
+
 TEST_F(ShelfViewTest, KeysDoWhatTheyShould)
 {
     show(holding(5, 3, 1));
