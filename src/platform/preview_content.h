@@ -79,7 +79,8 @@ struct PreviewContent {
 
     QUrl url;
     PreviewDetails details;
-    /// The desktop has programs for it.
+    bool isFolder = false;
+    /// It may be handed to the program that the desktop has for it.
     bool canBeOpened = false;
     std::variant<Plain, Missing, Picture, Pages, Text> body;
 };

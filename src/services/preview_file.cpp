@@ -166,6 +166,7 @@ PreviewContent read(const QUrl &url, QSize wanted, PreviewDocuments &documents)
         content.details.kind
             = kindOf(QMimeDatabase().mimeTypeForName(QStringLiteral("inode/directory")));
         content.details.size = itemCount(path);
+        content.isFolder = true;
         content.canBeOpened = true;
     } else if (S_ISREG(status.st_mode)) {
         content.details.size = formatByteCount(status.st_size);

@@ -122,8 +122,10 @@ void QtPreviewPanel::open()
 void QtPreviewPanel::setContent()
 {
     const QScreen *const target = screen();
-    const Image icon = m_context.icons.iconForFile(m_content.url, DetailsView::iconSide,
-                                                   target ? target->devicePixelRatio() : 1);
+    const double scale = target ? target->devicePixelRatio() : 1;
+    constexpr double side = DetailsView::iconSide;
+    const Image icon = m_content.isFolder ? m_context.icons.iconForFolder(side, scale)
+                                          : m_context.icons.iconForFile(m_content.url, side, scale);
     m_window->setContent(m_content, icon);
     // Somebody who has moved it or made it larger wants it so.
     if (!m_window->isVisible() || m_window->geometry() == m_placed)
