@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/keyboard.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+
+namespace corvane {
+
+/// What the user may press elsewhere for the same as a menu's row. It is shown beside the row and
+/// nothing more: no menu acts upon it. Here Command is the Super key and Control is Control.
+struct KeyEquivalent {
+    /// What the key types without modifiers, in lower case ("k", ","), or its sign or name ("↩",
+    /// "f5"); empty for none.
+    QString key;
+    Modifiers modifiers;
+
+    /// The modifiers and then the key, as menus on the bus and Qt's key sequences both call them:
+    /// "Control", "Alt", "Shift", "Super", "k". Empty for none.
+    QStringList names() const;
+    /// As people read it, "Ctrl+Alt+K"; Super is called Meta.
+    QString text() const;
+
+    friend bool operator==(const KeyEquivalent &, const KeyEquivalent &) = default;
+};
+
+/// One row of a menu. One without a title is a separator.
+struct MenuRow {
+    /// Positive, and the same for the same row whenever the menu is built: what is clicked in a
+    /// menu that has changed meanwhile is still that row.
+    int id = 0;
+    QString title;
+    KeyEquivalent keyEquivalent;
+    /// Done when the row is chosen; nothing where there is none.
+    std::function<void()> action;
+
+    bool isSeparator() const { return title.isEmpty(); }
+    /// Whether both look the same.
+    bool showsTheSameAs(const MenuRow &other) const;
+};
+
+using MenuRows = QList<MenuRow>;
+
+} // namespace corvane
