@@ -25,7 +25,10 @@ void AppDelegate::applicationDidFinishLaunching()
     m_context.settings.registerDefaults();
     m_hud = std::make_unique<HUDController>(m_context.hud);
     m_context.previewPanel.setController(this);
+    m_statusItem = std::make_unique<StatusItemController>(StatusItemController::Context{
+        m_context.statusItem, m_context.store, m_context.settings, m_context.terminate});
     wireDragDetection();
+    wireMenu();
 }
 
 void AppDelegate::wireDragDetection()
@@ -48,6 +51,12 @@ void AppDelegate::wireDragDetection()
             m_context.store.dragEnded();
     };
     monitor.start();
+}
+
+void AppDelegate::wireMenu()
+{
+    // The menu's rows are only there as long as the status item, which ends with this.
+    m_statusItem->onShowShelf = [this] { m_context.store.toggleManually(); };
 }
 
 void AppDelegate::applicationWillTerminate()

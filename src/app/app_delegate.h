@@ -1,8 +1,10 @@
 #pragma once
 
+#include "app/status_item_controller.h"
 #include "platform/preview_panel.h"
 #include "shelf/hud_controller.h"
 
+#include <functional>
 #include <memory>
 
 namespace corvane {
@@ -23,6 +25,9 @@ public:
         ScratchSpool &spool;
         PreviewPanel &previewPanel;
         QuickLookPresenter &presenter;
+        StatusItem &statusItem;
+        /// Ends the program.
+        std::function<void()> terminate;
         HUDController::Context hud;
     };
     explicit AppDelegate(const Context &context);
@@ -44,9 +49,11 @@ public:
 
 private:
     void wireDragDetection();
+    void wireMenu();
 
     Context m_context;
     std::unique_ptr<HUDController> m_hud;
+    std::unique_ptr<StatusItemController> m_statusItem;
     bool m_isTerminated = false;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };

@@ -12,7 +12,6 @@
 #include <QScreen>
 
 #include <cmath>
-#include <utility>
 
 namespace corvane {
 
@@ -58,17 +57,18 @@ LinkPreviewService::Product product()
 
 } // namespace
 
-CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
+CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     : webClient(mainQueue)
     , screens(mainQueue)
     , fileIcons(mountTable)
-    , connection(std::move(onServerLost))
+    , connection(terminate)
     , dragDesktop(connection)
     , panelSurface(connection)
     , windowActivation(connection)
     , dragSupport(connection, mainQueue)
     , panel(panelSurface, mainQueue, &dragSupport)
     , viewAllPanel(panelSurface, mainQueue, &dragSupport)
+    , statusItem(mainQueue)
     , dragMonitor(dragDesktop, dragDesktop, dragDesktop, mainQueue)
     , screenLocator(screens, pointer)
     , settings(userDefaults, loginItems)
@@ -105,6 +105,8 @@ CompositionRoot::CompositionRoot(std::function<void()> onServerLost)
                 spool,
                 previewPanel,
                 presenter,
+                statusItem,
+                terminate,
                 {{panel, mainQueue, motionPreference, theme, layerAnimator, textMeasurer, keyboard,
                   ingest, dragWriter},
                  store,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app_delegate.h"
+#include "app/desktop_status_item.h"
 #include "core/drag_writer.h"
 #include "core/feedback.h"
 #include "core/image_converter.h"
@@ -39,9 +40,9 @@
 #include "platform/x11/x11_drag_support.h"
 #include "platform/x11/x11_panel_surface.h"
 #include "platform/x11/x11_window_activation.h"
+#include "services/link_preview_service.h"
 #include "services/preview_loader.h"
 #include "services/quick_look_presenter.h"
-#include "services/link_preview_service.h"
 #include "services/remote_thumbnails.h"
 #include "services/thumbnail_chain.h"
 #include "services/thumbnail_service.h"
@@ -56,8 +57,8 @@ namespace corvane {
 /// Every long-lived object of the program, each standing after what it uses. Made once the
 /// application object exists.
 struct CompositionRoot {
-    /// `onServerLost` is called when the X server goes away.
-    explicit CompositionRoot(std::function<void()> onServerLost);
+    /// `terminate` is called when the user quits and when the X server goes away.
+    explicit CompositionRoot(const std::function<void()> &terminate);
     CompositionRoot(const CompositionRoot &) = delete;
     CompositionRoot &operator=(const CompositionRoot &) = delete;
 
@@ -85,6 +86,7 @@ struct CompositionRoot {
     X11DragSupport dragSupport;
     QtPanelWindow panel;
     QtPanelWindow viewAllPanel;
+    DesktopStatusItem statusItem;
 
     // Input.
     DragMonitor dragMonitor;

@@ -3,6 +3,7 @@
 #include "core/temporary_spool.h"
 #include "fakes/fake_drag_desktop.h"
 #include "fakes/fake_preview_panel.h"
+#include "fakes/fake_status_item.h"
 #include "fakes/shelf_model.h"
 #include "input/drag_monitor.h"
 #include "services/quick_look_presenter.h"
@@ -20,8 +21,9 @@ class AppDelegateTest : public testing::Test, protected ShelfModel {
 protected:
     AppDelegateTest()
     {
-        delegate.emplace(AppDelegate::Context{monitor, settings, store, desk.spool, previewPanel,
-                                              presenter, controllerContext()});
+        delegate.emplace(AppDelegate::Context{
+            monitor, settings, store, desk.spool, previewPanel, presenter, statusItem,
+            [this] { log << QStringLiteral("terminate"); }, controllerContext()});
         delegate->applicationDidFinishLaunching();
         store.observeState([this](ShelfState from, ShelfState to) {
             log << QStringLiteral("state %1 %2")
@@ -49,6 +51,7 @@ protected:
     TemporaryFolder scratch;
     FakePreviewPanel previewPanel;
     QuickLookPresenter presenter{previewPanel, scratch.path()};
+    FakeStatusItem statusItem;
     std::optional<AppDelegate> delegate;
     QStringList log;
 };
@@ -120,6 +123,38 @@ TEST_F(AppDelegateTest, ReopeningTogglesTheShelf)
     EXPECT_EQ(store.state(), ShelfState::Expanded);
     EXPECT_FALSE(delegate->applicationShouldHandleReopen(true));
     EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, ShowShelfInTheMenuOpensAndClosesIt)
+{
+    statusItem.open();
+    EXPECT_TRUE(statusItem.choose(u"Show Shelf"));
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+    EXPECT_TRUE(statusItem.choose(u"Show Shelf"));
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, QuitInTheMenuEndsTheProgram)
+{
+    statusItem.open();
+    EXPECT_TRUE(statusItem.choose(u"Quit Corvane"));
+    EXPECT_EQ(log, QStringList{QStringLiteral("terminate")});
+}
+
+TEST_F(AppDelegateTest, TheStatusItemFollowsTheShelf)
+{
+    EXPECT_EQ(statusItem.toolTip, QStringLiteral("Corvane"));
+    store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
+    EXPECT_EQ(statusItem.toolTip, QStringLiteral("Corvane — 1 item"));
+}
+
+TEST_F(AppDelegateTest, TheMenuDoesNothingOnceItIsGone)
+{
+    statusItem.open();
+    delegate.reset();
+    EXPECT_TRUE(statusItem.choose(u"Show Shelf"));
+    EXPECT_TRUE(statusItem.choose(u"Quit Corvane"));
+    EXPECT_TRUE(log.isEmpty());
 }
 
 TEST_F(AppDelegateTest, TerminationStopsTheMonitorAndRemovesTheSpool)
