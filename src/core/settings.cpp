@@ -53,6 +53,11 @@ void Settings::registerDefaults()
     });
 }
 
+bool Settings::areKept() const
+{
+    return m_defaults.areKept();
+}
+
 int Settings::inViewCount() const
 {
     const qint64 count = m_defaults.integerForKey(name(inViewCountKey));

@@ -34,6 +34,9 @@ public:
     /// Once, before anything reads a setting.
     void registerDefaults();
 
+    /// Whether changes outlive the process. May look at the disk.
+    bool areKept() const;
+
     /// How many thumbnails the carousel shows at once, 1 to 6 whatever is stored.
     int inViewCount() const;
     /// Stores the value clamped and then tells the layout observers, also when it did not change.

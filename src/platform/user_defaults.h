@@ -20,6 +20,10 @@ public:
 
     void registerDefaults(const QVariantMap &defaults);
 
+    /// Whether what is written now will be there at the next start. If not it lasts as long as this
+    /// process. May look at the disk.
+    virtual bool areKept() const { return true; }
+
     bool boolForKey(const QString &key) const;
     qint64 integerForKey(const QString &key) const;
     std::optional<QByteArray> dataForKey(const QString &key) const;

@@ -10,7 +10,10 @@ public:
     /// Any value at all, as a hand that edits the file could write it.
     void setRaw(const QString &key, const QVariant &value) { stored.insert(key, value); }
 
+    bool areKept() const override { return kept; }
+
     QVariantMap stored;
+    bool kept = true;
 
 protected:
     QVariant storedObject(const QString &key) const override { return stored.value(key); }

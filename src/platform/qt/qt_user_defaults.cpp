@@ -18,6 +18,11 @@ QtUserDefaults::QtUserDefaults(const QString &path)
 
 QtUserDefaults::~QtUserDefaults() = default;
 
+bool QtUserDefaults::areKept() const
+{
+    return m_settings->isWritable() && m_settings->status() != QSettings::AccessError;
+}
+
 QVariant QtUserDefaults::storedObject(const QString &key) const
 {
     return m_settings->value(key);

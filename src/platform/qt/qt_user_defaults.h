@@ -17,6 +17,8 @@ public:
     explicit QtUserDefaults(const QString &path);
     ~QtUserDefaults() override;
 
+    bool areKept() const override;
+
 protected:
     QVariant storedObject(const QString &key) const override;
     void setObject(const QString &key, const QVariant &value) override;
