@@ -53,4 +53,9 @@ QString AppInfo::homePage() const
     return text(QStringLiteral("CorvaneHomePage"), QStringLiteral("https://corvane.example/"));
 }
 
+QString AppInfo::supportAddress() const
+{
+    return text(QStringLiteral("CorvaneSupportAddress"), QStringLiteral("support@corvane.example"));
+}
+
 } // namespace corvane

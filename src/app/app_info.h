@@ -19,6 +19,8 @@ public:
     /// The name on the session's bus, and of the desktop entry.
     QString applicationId() const;
     QString homePage() const;
+    /// A mailbox.
+    QString supportAddress() const;
 
 private:
     QString text(const QString &key, const QString &otherwise) const;
