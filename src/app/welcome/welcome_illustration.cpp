@@ -1,0 +1,244 @@
+#include "app/welcome/welcome_illustration.h"
+
+#include "app/window_look.h"
+#include "shelf/pill_path.h"
+
+#include <QFont>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPalette>
+
+#include <algorithm>
+
+namespace corvane::welcome_illustration {
+
+namespace {
+
+constexpr QRectF leftWindow{52, 128, 186, 140};
+constexpr QRectF rightWindow{282, 116, 186, 152};
+constexpr double windowRadius = 9;
+constexpr double titleBarHeight = 20;
+constexpr QSizeF cardSize{40, 48};
+constexpr QRectF keyCap{238, 218, 44, 40};
+constexpr QSizeF notchSize{124, 23};
+constexpr QSizeF shelfSize{244, 58};
+constexpr double notchRadius = 8;
+constexpr double shelfRadius = 18;
+constexpr double ringInset = 7;
+
+struct Colours {
+    explicit Colours(const QPalette &palette)
+        : isDark(palette.color(QPalette::Window).lightnessF() < 0.5F)
+        , sky(isDark ? QColor(0x2A, 0x34, 0x52) : QColor(0xC9, 0xDD, 0xF4))
+        , ground(isDark ? QColor(0x4A, 0x36, 0x55) : QColor(0xF1, 0xDD, 0xD3))
+        , window(isDark ? QColor(0x2B, 0x2D, 0x33) : QColor(0xFC, 0xFC, 0xFD))
+        , titleBar(isDark ? QColor(0x36, 0x38, 0x3F) : QColor(0xEE, 0xEF, 0xF2))
+        , line(isDark ? QColor(0x4A, 0x4D, 0x56) : QColor(0xDD, 0xE0, 0xE6))
+        , accent(WindowLook::accent(palette))
+    {
+    }
+
+    bool isDark;
+    QColor sky;
+    QColor ground;
+    QColor window;
+    QColor titleBar;
+    QColor line;
+    QColor accent;
+};
+
+double between(double from, double to, double share)
+{
+    return from + (to - from) * share;
+}
+
+void drawShadow(QPainter &painter, const QRectF &rect, double radius, double depth)
+{
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    constexpr int rings = 5;
+    for (int i = rings; i > 0; --i) {
+        const double reach = depth * i / rings;
+        painter.setBrush(QColor(0, 0, 0, 9));
+        painter.drawRoundedRect(
+            rect.adjusted(-reach, -reach, reach, reach).translated(0, depth / 3), radius + reach,
+            radius + reach);
+    }
+    painter.restore();
+}
+
+void drawDesktop(QPainter &painter, const Colours &colours)
+{
+    const QRectF stage({0, 0}, WelcomeScene::stageSize);
+    QLinearGradient gradient(stage.topLeft(), stage.bottomRight());
+    gradient.setColorAt(0, colours.sky);
+    gradient.setColorAt(1, colours.ground);
+    painter.fillRect(stage, gradient);
+}
+
+void drawWindow(QPainter &painter, const QRectF &rect, const Colours &colours)
+{
+    drawShadow(painter, rect, windowRadius, 9);
+    QPainterPath outline;
+    outline.addRoundedRect(rect, windowRadius, windowRadius);
+    painter.save();
+    painter.setPen(Qt::NoPen);
+    painter.fillPath(outline, colours.window);
+    painter.setClipPath(outline, Qt::IntersectClip);
+    painter.fillRect(QRectF(rect.topLeft(), QSizeF(rect.width(), titleBarHeight)),
+                     colours.titleBar);
+    painter.restore();
+    painter.setBrush(colours.line);
+    painter.setPen(Qt::NoPen);
+    for (int i = 0; i < 3; ++i)
+        painter.drawEllipse(QPointF(rect.left() + 12 + i * 10, rect.top() + titleBarHeight / 2), 3,
+                            3);
+}
+
+/// A folder's window, with the places of its other files.
+void drawFiles(QPainter &painter, const Colours &colours)
+{
+    drawWindow(painter, leftWindow, colours);
+    painter.setBrush(colours.titleBar);
+    painter.setPen(Qt::NoPen);
+    for (int i = 0; i < 3; ++i) {
+        const double x = leftWindow.left() + 40 + i * 53.0;
+        if (i > 0)
+            painter.drawRoundedRect(QRectF(x - 20, 162, 40, 48), 4, 4);
+        painter.setBrush(colours.line);
+        painter.drawRoundedRect(QRectF(x - 15, 218, 30, 5), 2.5, 2.5);
+        painter.setBrush(colours.titleBar);
+    }
+}
+
+/// A window in which somebody writes.
+void drawDocument(QPainter &painter, const QRectF &rect, const Colours &colours)
+{
+    drawWindow(painter, rect, colours);
+    painter.setBrush(colours.line);
+    painter.setPen(Qt::NoPen);
+    const double left = rect.left() + 18;
+    painter.drawRoundedRect(QRectF(left, rect.top() + 34, 64, 7), 3.5, 3.5);
+    for (const double y : {50.0, 61.0, 116.0, 127.0}) {
+        if (rect.top() + y + 5 < rect.bottom() - 8)
+            painter.drawRoundedRect(QRectF(left, rect.top() + y, y == 61 ? 112 : 150, 5), 2.5, 2.5);
+    }
+}
+
+/// A picture: sky, sun and two hills on a white border.
+void drawCard(QPainter &painter, const WelcomeScene::Card &card, const Colours &colours)
+{
+    painter.save();
+    painter.setOpacity(painter.opacity() * card.opacity);
+    painter.translate(card.centre);
+    painter.scale(card.scale, card.scale);
+    const QRectF rect(QPointF(-cardSize.width() / 2, -cardSize.height() / 2), cardSize);
+    drawShadow(painter, rect, 5, 4);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    painter.drawRoundedRect(rect, 5, 5);
+    const QRectF inside = rect.adjusted(3, 3, -3, -3);
+    QPainterPath frame;
+    frame.addRoundedRect(inside, 3, 3);
+    painter.setClipPath(frame, Qt::IntersectClip);
+    painter.fillRect(inside, QColor(0xF6, 0xC4, 0x8A));
+    painter.setBrush(QColor(0xFF, 0xF3, 0xD0));
+    painter.drawEllipse(QPointF(8, -9), 5, 5);
+    painter.setBrush(colours.accent);
+    painter.drawPolygon(QPolygonF({{-22, 24}, {-6, -4}, {12, 24}}));
+    painter.setBrush(colours.accent.darker(125));
+    painter.drawPolygon(QPolygonF({{-6, 24}, {10, 4}, {26, 24}}));
+    painter.restore();
+}
+
+QRectF shelfBounds(double open)
+{
+    const QSizeF size(between(notchSize.width(), shelfSize.width(), open),
+                      between(notchSize.height(), shelfSize.height(), open));
+    return {QPointF((WelcomeScene::stageSize.width() - size.width()) / 2, 0), size};
+}
+
+void drawShelf(QPainter &painter, const WelcomeScene &scene)
+{
+    const QRectF bounds = shelfBounds(scene.shelf);
+    painter.save();
+    painter.translate(bounds.left(), bounds.bottom());
+    // Outlines of the shelf count upward.
+    painter.scale(1, -1);
+    QPainterPath body = pillPath(bounds.size(), between(notchRadius, shelfRadius, scene.shelf));
+    painter.fillPath(body, Qt::black);
+    painter.restore();
+    if (scene.ring <= 0)
+        return;
+    const QRectF ring = bounds.adjusted(bodyFlareRadius + ringInset, ringInset,
+                                        -bodyFlareRadius - ringInset, -ringInset);
+    QPen pen(QColor::fromRgbF(1, 1, 1, static_cast<float>(0.5 * scene.ring)), 1.5);
+    pen.setDashPattern({3, 3});
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(ring, shelfRadius - ringInset, shelfRadius - ringInset);
+}
+
+void drawKey(QPainter &painter, double pressed, const Colours &colours, const QFont &font)
+{
+    constexpr double travel = 3;
+    const QRectF cap = keyCap.translated(0, travel * pressed);
+    drawShadow(painter, keyCap, 8, 6);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(colours.line);
+    painter.drawRoundedRect(keyCap.adjusted(0, travel, 0, travel), 8, 8);
+    painter.setBrush(colours.window);
+    painter.drawRoundedRect(cap, 8, 8);
+    QColor glow = colours.accent;
+    glow.setAlphaF(static_cast<float>(pressed));
+    painter.setBrush(glow);
+    painter.drawRoundedRect(cap, 8, 8);
+    painter.setFont(font);
+    painter.setPen(pressed > 0.5 || colours.isDark ? Qt::white : QColor(0x30, 0x33, 0x3A));
+    painter.drawText(cap, Qt::AlignCenter, QStringLiteral("⇧"));
+}
+
+void drawPointer(QPainter &painter, QPointF tip)
+{
+    const QPolygonF arrow(
+        {{0, 0}, {0, 17}, {4, 13.4}, {6.6, 19.4}, {9.4, 18.2}, {6.8, 12.4}, {12.2, 12.2}});
+    painter.save();
+    painter.translate(tip);
+    painter.setPen(QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setBrush(Qt::black);
+    painter.drawPolygon(arrow);
+    painter.setPen(Qt::NoPen);
+    painter.drawPolygon(arrow);
+    painter.restore();
+}
+
+} // namespace
+
+void draw(QPainter &painter, const QRectF &area, const WelcomeScene &scene, const QPalette &palette,
+          const QFont &keyFont)
+{
+    const Colours colours(palette);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(area.topLeft());
+    painter.scale(area.width() / WelcomeScene::stageSize.width(),
+                  area.height() / WelcomeScene::stageSize.height());
+    painter.setClipRect(QRectF({0, 0}, WelcomeScene::stageSize), Qt::IntersectClip);
+    drawDesktop(painter, colours);
+    if (scene.showsKey)
+        drawDocument(painter, leftWindow, colours);
+    else
+        drawFiles(painter, colours);
+    drawDocument(painter, rightWindow, colours);
+    if (scene.showsKey)
+        drawKey(painter, scene.key, colours, keyFont);
+    drawShelf(painter, scene);
+    for (const WelcomeScene::Card &card : scene.cards)
+        drawCard(painter, card, colours);
+    painter.setOpacity(scene.pointerOpacity);
+    drawPointer(painter, scene.pointer);
+    painter.restore();
+}
+
+} // namespace corvane::welcome_illustration

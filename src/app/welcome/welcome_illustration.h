@@ -1,0 +1,17 @@
+#pragma once
+
+#include "app/welcome/welcome_scene.h"
+
+class QFont;
+class QPainter;
+class QPalette;
+class QRectF;
+
+namespace corvane::welcome_illustration {
+
+/// Draws a moment of a play: two windows on a desktop, the shelf at its top, and what moves.
+/// Light or dark, and the accent, are the palette's; `keyFont` has a sign for the Shift key.
+void draw(QPainter &painter, const QRectF &area, const WelcomeScene &scene, const QPalette &palette,
+          const QFont &keyFont);
+
+} // namespace corvane::welcome_illustration

@@ -1,0 +1,49 @@
+#include "app/welcome/welcome_step.h"
+
+#include <QCoreApplication>
+
+namespace corvane::welcome_step {
+
+namespace {
+
+constexpr auto context = "WelcomeStep";
+
+} // namespace
+
+QString title(WelcomeStep step)
+{
+    switch (step) {
+    case WelcomeStep::DragIn:
+        return QCoreApplication::translate(context, "Drag anything onto the notch");
+    case WelcomeStep::DragOut:
+        return QCoreApplication::translate(context, "Drag it back out when you arrive");
+    case WelcomeStep::Keep:
+        return QCoreApplication::translate(context, "Hold ⇧ to keep it on the shelf");
+    }
+    return {};
+}
+
+QString body(WelcomeStep step)
+{
+    switch (step) {
+    case WelcomeStep::DragIn:
+        return QCoreApplication::translate(
+            context,
+            "Start dragging a file, image or link and a shelf slides down from the notch. Drop it "
+            "there. It stays put while you switch apps, Spaces, or displays.");
+    case WelcomeStep::DragOut:
+        return QCoreApplication::translate(
+            context,
+            "Move the pointer to the notch and the shelf reappears. Drag the item into whatever "
+            "you are working in. Press Space to preview it, or ⌘C to copy its path.");
+    case WelcomeStep::Keep:
+        return QCoreApplication::translate(
+            context,
+            "Normally an item leaves the shelf when you drop it. Hold Shift as you release and it "
+            "stays, so you can drop the same thing into several places without collecting it "
+            "again.");
+    }
+    return {};
+}
+
+} // namespace corvane::welcome_step

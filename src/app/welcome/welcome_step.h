@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <array>
+
+namespace corvane {
+
+/// The steps of the guide, in order.
+enum class WelcomeStep {
+    DragIn,
+    DragOut,
+    Keep,
+};
+
+inline constexpr std::array allWelcomeSteps{WelcomeStep::DragIn, WelcomeStep::DragOut,
+                                            WelcomeStep::Keep};
+
+namespace welcome_step {
+
+QString title(WelcomeStep step);
+QString body(WelcomeStep step);
+
+} // namespace welcome_step
+
+} // namespace corvane

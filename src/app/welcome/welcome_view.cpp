@@ -1,0 +1,132 @@
+#include "app/welcome/welcome_view.h"
+
+#include "app/text_label.h"
+#include "app/welcome/illustration_view.h"
+#include "app/welcome/page_indicator.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+constexpr double titleSize = 21;
+constexpr double bodySize = 14;
+constexpr double bodyWidth = 400;
+constexpr double beforeTitle = 26;
+constexpr double afterTitle = 10;
+constexpr double buttonMargin = 22;
+constexpr double buttonWidth = 116;
+constexpr int lastStep = static_cast<int>(allWelcomeSteps.size()) - 1;
+
+} // namespace
+
+WelcomeView::WelcomeView(const MotionPreference &motion, std::function<void()> onClose,
+                         QWidget *parent)
+    : QWidget(parent)
+    , m_motion(motion)
+    , m_onClose(std::move(onClose))
+    , m_illustration(new IllustrationView(m_look, motion))
+    , m_title(new TextLabel({}, m_look.font(titleSize, QFont::DemiBold), TextLabel::Tone::Primary))
+    , m_body(new TextLabel({}, m_look.font(bodySize), TextLabel::Tone::Secondary))
+    , m_indicator(new PageIndicator(static_cast<int>(allWelcomeSteps.size()), m_look, motion))
+{
+    m_title->setAlignment(Qt::AlignCenter);
+    m_title->setWordWrap(true);
+    m_body->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    m_body->setWordWrap(true);
+    m_body->setFixedWidth(m_look.length(bodyWidth));
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_illustration);
+    layout->addSpacing(m_look.length(beforeTitle));
+    layout->addWidget(m_title);
+    layout->addSpacing(m_look.length(afterTitle));
+    layout->addWidget(m_body, 0, Qt::AlignHCenter);
+    layout->addStretch();
+    layout->addWidget(m_indicator, 0, Qt::AlignHCenter);
+    layout->addWidget(makeButtons());
+    showStep(0);
+}
+
+QWidget *WelcomeView::makeButtons()
+{
+    auto *buttons = new QWidget;
+    auto *layout = new QHBoxLayout(buttons);
+    const int margin = m_look.length(buttonMargin);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    m_back = new QPushButton(tr("Back"));
+    m_forward = new QPushButton;
+    for (QPushButton *button : {m_back, m_forward})
+        button->setMinimumWidth(m_look.length(buttonWidth));
+    m_back->setAccessibleDescription(tr("Goes to the step before"));
+    m_forward->setAutoDefault(true);
+    m_forward->setDefault(true);
+    connect(m_back, &QPushButton::clicked, this, &WelcomeView::goBack);
+    connect(m_forward, &QPushButton::clicked, this, &WelcomeView::goForward);
+    layout->addWidget(m_back);
+    layout->addStretch();
+    layout->addWidget(m_forward);
+    m_forward->setFocus();
+    return buttons;
+}
+
+bool WelcomeView::isLast() const
+{
+    return m_step == lastStep;
+}
+
+void WelcomeView::showStep(int step)
+{
+    m_step = step;
+    const WelcomeStep shown = allWelcomeSteps[static_cast<std::size_t>(step)];
+    m_illustration->setStep(shown);
+    m_illustration->setAccessibleName(tr("Illustration: %1").arg(welcome_step::title(shown)));
+    m_title->setText(welcome_step::title(shown));
+    m_body->setText(welcome_step::body(shown));
+    m_indicator->setCurrent(step);
+    if (step == 0 && m_back->hasFocus())
+        m_forward->setFocus(Qt::OtherFocusReason);
+    m_back->setVisible(step > 0);
+    m_forward->setText(isLast() ? tr("Start using it") : tr("Next"));
+    m_forward->setAccessibleDescription(isLast() ? tr("Closes this guide")
+                                                 : tr("Goes to the next step"));
+}
+
+void WelcomeView::goBack()
+{
+    if (m_step > 0)
+        showStep(m_step - 1);
+}
+
+void WelcomeView::goForward()
+{
+    if (!isLast())
+        showStep(m_step + 1);
+    else if (m_onClose)
+        m_onClose();
+}
+
+void WelcomeView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isBackward = event->key() == Qt::Key_Left || event->key() == Qt::Key_PageUp;
+    const bool isForward = event->key() == Qt::Key_Right || event->key() == Qt::Key_PageDown;
+    // Closing takes a deliberate press of its button.
+    if (isBackward)
+        goBack();
+    else if (isForward && !isLast())
+        goForward();
+    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        m_forward->click();
+    else
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace corvane

@@ -1,0 +1,31 @@
+#include "app/welcome/welcome_window_controller.h"
+
+#include "app/welcome/welcome_view.h"
+#include "app/window_look.h"
+
+#include <QVBoxLayout>
+
+namespace corvane {
+
+WelcomeWindowController::WelcomeWindowController(const MotionPreference &motion)
+    : m_window(new ShellWindow(
+        QSize(WindowLook().length(size.width()), WindowLook().length(size.height())),
+        [this] { windowWillClose(); }))
+    , m_view(new WelcomeView(motion, [window = m_window.get()] { window->close(); }))
+{
+    auto *layout = new QVBoxLayout(m_window.get());
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_view);
+}
+
+WelcomeWindowController::~WelcomeWindowController() = default;
+
+void WelcomeWindowController::windowWillClose() const
+{
+    // A copy: whoever is called may delete this.
+    const std::function<void()> callback = onClose;
+    if (callback)
+        callback();
+}
+
+} // namespace corvane

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "app/shell_window.h"
+
+#include <functional>
+
+namespace corvane {
+
+class MotionPreference;
+class WelcomeView;
+
+/// Owns the window of the guide. Finishing the guide and closing the window are the same. Main
+/// thread only; `motion` must outlive it.
+class WelcomeWindowController {
+public:
+    static constexpr QSize size{520, 560};
+
+    explicit WelcomeWindowController(const MotionPreference &motion);
+    WelcomeWindowController(const WelcomeWindowController &) = delete;
+    WelcomeWindowController &operator=(const WelcomeWindowController &) = delete;
+    ~WelcomeWindowController();
+
+    ShellWindow &window() { return *m_window; }
+    WelcomeView &view() { return *m_view; }
+
+    /// Called once each time the window closes; may delete the controller.
+    std::function<void()> onClose;
+
+private:
+    void windowWillClose() const;
+
+    ShellWindow::Pointer<ShellWindow> m_window;
+    WelcomeView *m_view;
+};
+
+} // namespace corvane

@@ -1,0 +1,198 @@
+#include "app/text_label.h"
+#include "app/welcome/illustration_view.h"
+#include "app/welcome/welcome_scene.h"
+#include "app/welcome/welcome_view.h"
+#include "app/welcome/welcome_window_controller.h"
+#include "app/widget_hands.h"
+#include "fakes/fake_motion_preference.h"
+
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace corvane::test {
+
+namespace {
+
+class WelcomeWindowTest : public testing::Test {
+protected:
+    WelcomeWindowTest()
+    {
+        motion.reduces = true;
+        make();
+    }
+    ~WelcomeWindowTest() override
+    {
+        controller.reset();
+        deletePending();
+    }
+
+    void make()
+    {
+        controller = std::make_unique<WelcomeWindowController>(motion);
+        controller->onClose = [this] { ++closed; };
+    }
+    ShellWindow &window() { return controller->window(); }
+    QPushButton *button(const char *text)
+    {
+        for (auto *button : window().findChildren<QPushButton *>()) {
+            if (button->text() == QString::fromUtf8(text) && button->isVisible())
+                return button;
+        }
+        return nullptr;
+    }
+    QString title() { return window().findChildren<TextLabel *>().at(0)->text(); }
+    IllustrationView &illustration() { return *window().findChild<IllustrationView *>(); }
+
+    FakeMotionPreference motion;
+    std::unique_ptr<WelcomeWindowController> controller;
+    int closed = 0;
+};
+
+} // namespace
+
+TEST_F(WelcomeWindowTest, TheFirstStepHasNoBackButton)
+{
+    window().present();
+    EXPECT_EQ(window().size(), QSize(520, 560));
+    EXPECT_EQ(title(), QStringLiteral("Drag anything onto the notch"));
+    EXPECT_EQ(button("Back"), nullptr);
+    EXPECT_NE(button("Next"), nullptr);
+}
+
+TEST_F(WelcomeWindowTest, NextAndBackGoThroughTheSteps)
+{
+    window().present();
+    button("Next")->click();
+    EXPECT_EQ(title(), QStringLiteral("Drag it back out when you arrive"));
+    button("Next")->click();
+    EXPECT_EQ(title(), QStringLiteral("Hold ⇧ to keep it on the shelf"));
+    EXPECT_EQ(button("Next"), nullptr);
+    button("Back")->click();
+    button("Back")->click();
+    EXPECT_EQ(controller->view().step(), 0);
+    EXPECT_EQ(button("Back"), nullptr);
+}
+
+TEST_F(WelcomeWindowTest, TheForwardButtonOfTheLastStepClosesInsteadOfAdvancing)
+{
+    window().present();
+    controller->view().goForward();
+    controller->view().goForward();
+    ASSERT_NE(button("Start using it"), nullptr);
+    button("Start using it")->click();
+    EXPECT_EQ(closed, 1);
+    EXPECT_EQ(controller->view().step(), 2);
+    EXPECT_FALSE(window().isVisible());
+}
+
+TEST_F(WelcomeWindowTest, ClosingTheWindowIsLikeFinishing)
+{
+    window().present();
+    window().close();
+    EXPECT_EQ(closed, 1);
+}
+
+TEST_F(WelcomeWindowTest, FinishingMayDropTheController)
+{
+    controller->onClose = [this] { controller.reset(); };
+    window().present();
+    controller->view().goForward();
+    controller->view().goForward();
+    button("Start using it")->click();
+    EXPECT_EQ(controller, nullptr);
+}
+
+TEST_F(WelcomeWindowTest, ItIsReadWithTheKeyboardAlone)
+{
+    window().present();
+    typeKey(window(), Qt::Key_Right);
+    typeKey(window(), Qt::Key_Return);
+    EXPECT_EQ(controller->view().step(), 2);
+    // Paging does not close; the button does.
+    typeKey(window(), Qt::Key_Right);
+    EXPECT_EQ(closed, 0);
+    typeKey(window(), Qt::Key_Left);
+    EXPECT_EQ(controller->view().step(), 1);
+    typeKey(window(), Qt::Key_Escape);
+    EXPECT_EQ(closed, 1);
+}
+
+TEST_F(WelcomeWindowTest, TheBackButtonThatGoesAwayLeavesTheKeyboardToNext)
+{
+    window().present();
+    controller->view().goForward();
+    button("Back")->setFocus();
+    button("Back")->click();
+    EXPECT_EQ(window().focusWidget(), button("Next"));
+}
+
+TEST_F(WelcomeWindowTest, NothingMovesWhereLessMovementIsWanted)
+{
+    window().present();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(illustration().isPlaying());
+    controller->view().goForward();
+    EXPECT_FALSE(illustration().isPlaying());
+}
+
+TEST_F(WelcomeWindowTest, TheIllustrationPlaysOnlyWhileItCanBeSeen)
+{
+    motion.reduces = false;
+    make();
+    EXPECT_FALSE(illustration().isPlaying());
+    window().present();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(illustration().isPlaying());
+    window().hide();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(illustration().isPlaying());
+    window().present();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(illustration().isPlaying());
+}
+
+TEST(WelcomeScene, EndsWhereItBegins)
+{
+    for (const WelcomeStep step : {WelcomeStep::DragIn, WelcomeStep::DragOut}) {
+        EXPECT_NEAR(welcome_scene::at(step, 0).shelf, welcome_scene::at(step, 1).shelf, 1e-9);
+        EXPECT_NEAR(welcome_scene::at(step, 0).pointerOpacity, 0, 1e-9);
+        EXPECT_NEAR(welcome_scene::at(step, 1).pointerOpacity, 0, 1e-9);
+    }
+    const WelcomeScene first = welcome_scene::at(WelcomeStep::Keep, 0);
+    const WelcomeScene last = welcome_scene::at(WelcomeStep::Keep, 1);
+    EXPECT_EQ(first.pointer, last.pointer);
+    EXPECT_NEAR(last.key, 0, 1e-9);
+}
+
+TEST(WelcomeScene, WithShiftHeldTheItemStaysOnTheShelf)
+{
+    for (double phase = 0; phase <= 1; phase += 0.01) {
+        const WelcomeScene scene = welcome_scene::at(WelcomeStep::Keep, phase);
+        EXPECT_EQ(scene.cards.first().centre,
+                  welcome_scene::at(WelcomeStep::Keep, 0).cards.first().centre);
+        EXPECT_EQ(scene.cards.first().opacity, 1);
+    }
+}
+
+TEST(WelcomeScene, NothingJumpsWhileItIsSeen)
+{
+    constexpr double step = 0.002;
+    constexpr double furthest = 8;
+    for (const WelcomeStep which : allWelcomeSteps) {
+        WelcomeScene before = welcome_scene::at(which, 0);
+        for (double phase = step; phase <= 1; phase += step) {
+            const WelcomeScene now = welcome_scene::at(which, phase);
+            EXPECT_LT((now.pointer - before.pointer).manhattanLength(), furthest) << phase;
+            for (qsizetype i = 0; i < std::min(now.cards.size(), before.cards.size()); ++i)
+                EXPECT_LT((now.cards[i].centre - before.cards[i].centre).manhattanLength(),
+                          furthest)
+                    << phase;
+            before = now;
+        }
+    }
+}
+
+} // namespace corvane::test

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWidget>
+
+namespace corvane::test {
+
+/// Types a key into a window: whatever has the keyboard in it gets it first.
+inline void typeKey(QWidget &window, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+{
+    QWidget *target = window.focusWidget() ? window.focusWidget() : &window;
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, key, modifiers);
+        QCoreApplication::sendEvent(target, &event);
+    }
+}
+
+/// The control of a window that screen readers call by this name.
+template<typename Control>
+Control *named(QWidget &window, const QString &name)
+{
+    for (Control *control : window.findChildren<Control *>()) {
+        if (control->accessibleName() == name)
+            return control;
+    }
+    return nullptr;
+}
+
+/// What is deleted later is deleted now.
+inline void deletePending()
+{
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+} // namespace corvane::test
