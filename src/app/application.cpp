@@ -8,6 +8,7 @@
 #include <QApplication>
 
 #include <cstdio>
+#include <utility>
 
 namespace corvane {
 
@@ -16,6 +17,13 @@ namespace {
 bool hasDisplay()
 {
     return !qEnvironmentVariableIsEmpty("DISPLAY");
+}
+
+/// Whether the desktop had the session bus start the program. What the bus delivers first is then
+/// the launch itself and not yet a wish to see the shelf.
+bool isStartedByBus()
+{
+    return QCoreApplication::arguments().contains(QLatin1String("--started-by-bus"));
 }
 
 void setUpApplication(const AppInfo &info)
@@ -45,8 +53,9 @@ int runApplication(int argc, char **argv)
 
     AppDelegate *delegate = nullptr;
     DBusSingleInstance instance(info.applicationId());
-    const auto outcome = instance.acquire([&delegate] {
-        if (delegate)
+    bool isBeingLaunched = isStartedByBus();
+    const auto outcome = instance.acquire([&delegate, &isBeingLaunched] {
+        if (!std::exchange(isBeingLaunched, false) && delegate)
             delegate->applicationShouldHandleReopen(false);
     });
     if (outcome == SingleInstance::Outcome::HandedOver)
