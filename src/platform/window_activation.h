@@ -1,0 +1,19 @@
+#pragma once
+
+class QWindow;
+
+namespace corvane {
+
+/// Brings a window of ours forward.
+class WindowActivation {
+public:
+    virtual ~WindowActivation() = default;
+
+    /// Puts a window that is shown in front of all others and gives it the keyboard, as the answer
+    /// to what the user did just now: the desktop takes it for that and not for a window that
+    /// pushes itself forward, also where the user's click or key went to another program. May
+    /// happen a moment after the call. Main thread only.
+    virtual void bringToFront(QWindow &window) = 0;
+};
+
+} // namespace corvane
