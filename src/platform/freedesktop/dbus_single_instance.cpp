@@ -96,9 +96,11 @@ void DBusSingleInstance::Open(const QStringList &, const QVariantMap &platformDa
     Activate(platformData);
 }
 
-void DBusSingleInstance::ActivateAction(const QString &, const QVariantList &, const QVariantMap &)
+void DBusSingleInstance::ActivateAction(const QString &name, const QVariantList &,
+                                        const QVariantMap &)
 {
-    // It has no actions.
+    if (onAction)
+        onAction(name);
 }
 
 } // namespace corvane

@@ -24,6 +24,9 @@ public:
 
     Outcome acquire(std::function<void()> onReopen) override;
 
+    /// Called with the name of an action that the desktop's menu for the program offers.
+    std::function<void(const QString &)> onAction;
+
     /// What the desktop and later processes call.
     Q_INVOKABLE Q_SCRIPTABLE void Activate(const QVariantMap &platformData);
     Q_INVOKABLE Q_SCRIPTABLE void Open(const QStringList &uris, const QVariantMap &platformData);
