@@ -3,8 +3,14 @@
 #include "app/window_look.h"
 
 #include <QPainter>
+#include <QWidget>
 
 namespace corvane::focus_ring {
+
+bool isWanted(const QWidget &widget)
+{
+    return widget.hasFocus() && widget.window()->testAttribute(Qt::WA_KeyboardFocusChange);
+}
 
 void draw(QPainter &painter, const QPalette &palette, const QRectF &rect, double radius)
 {
