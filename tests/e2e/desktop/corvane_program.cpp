@@ -65,19 +65,34 @@ CorvaneProgram::CorvaneProgram(XDesktop &desktop, const Start &start)
     : m_desktop(desktop)
     , m_environment(start.environment.isEmpty() ? desktop.environment() : start.environment)
 {
-    const QString folder = m_environment.value(u"XDG_CONFIG_HOME"_s) + u"/Corvane"_s;
-    QDir(folder).removeRecursively();
-    QDir().mkpath(folder);
-    if (start.inViewCount || !start.settings.isEmpty()) {
-        QFile file(folder + u"/Corvane.conf"_s);
-        if (file.open(QFile::WriteOnly)) {
-            file.write("[General]\n");
-            if (start.inViewCount)
-                file.write("settings.inViewCount=" + QByteArray::number(*start.inViewCount) + '\n');
-            file.write(start.settings);
-        }
-    }
+    if (!start.keepsSettings)
+        writeSettings(start);
     m_program = std::make_unique<Program>(path(), QStringList(), m_environment);
+}
+
+QString CorvaneProgram::settingsFolder() const
+{
+    return m_environment.value(u"XDG_CONFIG_HOME"_s) + u"/Corvane"_s;
+}
+
+void CorvaneProgram::writeSettings(const Start &start) const
+{
+    QDir(settingsFolder()).removeRecursively();
+    QDir().mkpath(settingsFolder());
+    QFile file(settingsFolder() + u"/Corvane.conf"_s);
+    if (!file.open(QFile::WriteOnly))
+        return;
+    file.write("[General]\n");
+    if (start.hasSeenWelcome)
+        file.write("settings.seenWelcome=true\n");
+    if (start.inViewCount)
+        file.write("settings.inViewCount=" + QByteArray::number(*start.inViewCount) + '\n');
+    file.write(start.settings);
+}
+
+QByteArray CorvaneProgram::settings() const
+{
+    return contents(settingsFolder() + u"/Corvane.conf"_s);
 }
 
 QString CorvaneProgram::path()

@@ -14,13 +14,17 @@ namespace corvane::e2e {
 /// The program under test, looked at from outside only: windows, files, clipboard, exit status.
 class CorvaneProgram {
 public:
-    /// Everything that a test wants different from a fresh user's first start.
+    /// Everything that a test wants different from the start of a user who has changed nothing.
     struct Start {
         /// settings.inViewCount; the program's own default where none is given.
         std::optional<int> inViewCount;
         /// Further lines of the settings file's [General] section.
         QByteArray settings;
         QProcessEnvironment environment;
+        /// Whether the guide that welcomes a new user has been shown before.
+        bool hasSeenWelcome = true;
+        /// Goes on with the settings that an earlier start has left.
+        bool keepsSettings = false;
     };
 
     explicit CorvaneProgram(XDesktop &desktop);
@@ -50,6 +54,8 @@ public:
     /// A point of the body, from its top left.
     QPoint at(double x, double y);
 
+    /// The settings file's contents.
+    QByteArray settings() const;
     QString spool() const;
     QStringList spooled() const;
 
@@ -67,6 +73,9 @@ public:
     static constexpr int carouselHeight = 62;
 
 private:
+    QString settingsFolder() const;
+    void writeSettings(const Start &start) const;
+
     XDesktop &m_desktop;
     QProcessEnvironment m_environment;
     std::unique_ptr<Program> m_program;
