@@ -95,6 +95,12 @@ HttpExchange::HttpExchange(Plan plan, QByteArray request)
     connect(&m_patience, &QTimer::timeout, this, &HttpExchange::tryNextAddress);
 }
 
+HttpExchange::~HttpExchange()
+{
+    if (m_socket)
+        m_socket->disconnect(this);
+}
+
 void HttpExchange::start()
 {
     tryNextAddress();
@@ -177,19 +183,8 @@ void HttpExchange::finish()
     m_reader.end();
     m_patience.stop();
     dropSocket();
-    const auto tell = [this] {
-        if (!m_isCancelled)
-            onEnd();
-    };
-    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
-}
-
-void HttpExchange::cancel()
-{
-    m_isCancelled = true;
-    m_hasEnded = true;
-    m_patience.stop();
-    dropSocket();
+    QMetaObject::invokeMethod(
+        this, [this] { onEnd(); }, Qt::QueuedConnection);
 }
 
 void HttpExchange::dropSocket()

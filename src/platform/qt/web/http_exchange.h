@@ -36,15 +36,17 @@ public:
     static std::optional<QByteArray> requestFor(const Plan &plan);
 
     HttpExchange(Plan plan, QByteArray request);
+    HttpExchange(const HttpExchange &) = delete;
+    HttpExchange &operator=(const HttpExchange &) = delete;
+    ~HttpExchange() override;
 
     /// Whenever something has come from the other side.
     std::function<void()> onProgress;
-    /// Once, later, at the end; the reader is complete or has failed.
+    /// Once, later, at the end; the response is complete or has failed. Destroying the exchange
+    /// before that ends it without a word.
     std::function<void()> onEnd;
 
     void start();
-    /// Ends it without a word.
-    void cancel();
 
     const HttpResponseReader &response() const { return m_reader; }
     /// Where the response came from.
@@ -67,7 +69,6 @@ private:
     QTimer m_patience;
     bool m_isConnected = false;
     bool m_hasEnded = false;
-    bool m_isCancelled = false;
 };
 
 } // namespace corvane

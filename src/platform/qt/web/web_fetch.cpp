@@ -26,13 +26,6 @@ bool isOfTheWeb(const QUrl &url)
 
 } // namespace
 
-void WebFetch::Deleter::operator()(HttpExchange *exchange) const
-{
-    // It may be the one that calls.
-    exchange->cancel();
-    exchange->deleteLater();
-}
-
 WebFetch::WebFetch(const WebNetwork &network, WebRequest request)
     : m_network(network)
     , m_request(std::move(request))
@@ -98,7 +91,7 @@ void WebFetch::exchangeWith(const QList<QHostAddress> &found)
     auto request = HttpExchange::requestFor(plan);
     if (plan.addresses.isEmpty() || !request)
         return finish(std::nullopt);
-    m_exchange.reset(new HttpExchange(std::move(plan), std::move(*request)));
+    m_exchange = std::make_unique<HttpExchange>(std::move(plan), std::move(*request));
     m_exchange->onProgress = [this] { m_silence.start(); };
     m_exchange->onEnd = [this] { exchangeEnded(); };
     m_exchange->start();
@@ -106,7 +99,9 @@ void WebFetch::exchangeWith(const QList<QHostAddress> &found)
 
 void WebFetch::exchangeEnded()
 {
-    const auto exchange = std::move(m_exchange);
+    // It is the one that calls.
+    HttpExchange *const exchange = m_exchange.release();
+    exchange->deleteLater();
     const HttpResponseReader &reader = exchange->response();
     if (m_hasEnded || reader.state() != HttpResponseReader::State::Complete)
         return finish(std::nullopt);

@@ -38,10 +38,6 @@ public:
     void start();
 
 private:
-    struct Deleter {
-        void operator()(HttpExchange *exchange) const;
-    };
-
     void visit(const QUrl &url);
     void exchangeWith(const QList<QHostAddress> &found);
     /// Those that may be connected to, the two families in turns.
@@ -59,7 +55,7 @@ private:
     QTimer m_silence;
     QTimer m_whole;
     std::shared_ptr<Mailbox> m_mailbox;
-    std::unique_ptr<HttpExchange, Deleter> m_exchange;
+    std::unique_ptr<HttpExchange> m_exchange;
     bool m_hasEnded = false;
 };
 
