@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/preview_documents.h"
+
+namespace corvane::test {
+
+/// Pictures and documents by the names of their files: "*.png" and "*.pdf", unless they are broken.
+class FakePreviewDocuments : public PreviewDocuments {
+public:
+    class Document : public PreviewDocument {
+    public:
+        std::optional<QImage> render(int page, QSize pixels) override
+        {
+            QImage image(pixels, QImage::Format_RGB32);
+            image.fill(QColor(page, 0, 0));
+            return image;
+        }
+        std::optional<Frame> nextFrame(QSize) override { return Frame{QImage(), 0.1}; }
+    };
+
+    std::optional<Opened> open(const QUrl &url, QSize wanted) override
+    {
+        opened << url;
+        if (isBroken)
+            return std::nullopt;
+        if (url.path().endsWith(QLatin1String(".png"))) {
+            PreviewContent::Picture picture;
+            picture.pixelSize = wanted;
+            picture.document = std::make_shared<Document>();
+            return picture;
+        }
+        PreviewContent::Pages pages;
+        pages.count = 1;
+        pages.sizes = {QSize(595, 842)};
+        pages.document = std::make_shared<Document>();
+        return pages;
+    }
+
+    QList<QUrl> opened;
+    bool isBroken = false;
+};
+
+} // namespace corvane::test

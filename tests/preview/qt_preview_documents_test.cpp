@@ -1,0 +1,234 @@
+#include "core/temporary_spool.h"
+#include "platform/qt/preview/qt_preview_documents.h"
+#include "platform/qt/qt_image_codec.h"
+
+#include <QBuffer>
+#include <QImageReader>
+#include <QPainter>
+#include <QPdfWriter>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+namespace {
+
+QByteArray encoded(QSize size, const char *format, QColor color = Qt::red)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(color);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QBuffer::WriteOnly);
+    image.save(&buffer, format);
+    return bytes;
+}
+
+QByteArray svg(const QByteArray &inside)
+{
+    return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink'"
+           " width='40' height='20'>"
+        + inside + "</svg>";
+}
+
+/// Two frames of one pixel that stay for `delay` hundredths of a second each; `rounds` is the
+/// number of repeats, 0 for ever.
+QByteArray animation(char delay, char rounds)
+{
+    QByteArray gif("GIF89a\1\0\1\0\x80\0\0", 13);
+    gif += QByteArray("\xFF\0\0\0\0\xFF", 6);
+    gif += QByteArray("!\xFF\x0BNETSCAPE2.0\3\1", 16) + rounds + QByteArray("\0\0", 2);
+    for (const char *pixel : {"\x44", "\x4C"})
+        gif += QByteArray("!\xF9\4\0", 4) + delay + QByteArray("\0\0\0", 3)
+            + QByteArray(",\0\0\0\0\1\0\1\0\0\2\2", 12) + pixel + QByteArray("\1\0", 2);
+    return gif + ';';
+}
+
+struct QtPreviewDocumentsTest : testing::Test {
+    std::optional<PreviewContent::Picture> picture(const QByteArray &name, const QByteArray &bytes,
+                                                   QSize wanted = {200, 100})
+    {
+        auto opened = documents.open(folder.write(name, bytes), wanted);
+        if (!opened || !std::holds_alternative<PreviewContent::Picture>(*opened))
+            return std::nullopt;
+        return std::get<PreviewContent::Picture>(*opened);
+    }
+    QUrl writePdf(int pages)
+    {
+        const QUrl url = folder.url("a.pdf");
+        QPdfWriter writer(url.toLocalFile());
+        writer.setPageSize(QPageSize(QPageSize::A4));
+        QPainter painter(&writer);
+        for (int page = 1; page < pages; ++page)
+            writer.newPage();
+        painter.end();
+        return url;
+    }
+    /// The middle of the rendered drawing.
+    QColor middle(const QByteArray &drawing)
+    {
+        const auto drawn = picture("a.svg", drawing);
+        return drawn ? drawn->fitted.pixelColor(drawn->fitted.rect().center()) : QColor();
+    }
+
+    TemporaryFolder folder;
+    QtImageCodec limits;
+    QtPreviewDocuments documents;
+};
+
+TEST_F(QtPreviewDocumentsTest, FitsALargePictureAndRendersMoreOfItOnDemand)
+{
+    const auto large = picture("a.jpg", encoded({800, 400}, "jpeg"));
+    ASSERT_TRUE(large.has_value());
+    EXPECT_EQ(large->pixelSize, QSize(800, 400));
+    EXPECT_EQ(large->fitted.size(), QSize(200, 100));
+    EXPECT_EQ(large->document->render(0, {800, 400})->size(), QSize(800, 400));
+    EXPECT_EQ(large->document->render(0, {333, 77})->size(), QSize(333, 77));
+}
+
+TEST_F(QtPreviewDocumentsTest, KeepsASmallPictureAsItIs)
+{
+    EXPECT_EQ(picture("a.png", encoded({20, 10}, "png"))->fitted.size(), QSize(20, 10));
+}
+
+TEST_F(QtPreviewDocumentsTest, RefusesToRenderMorePixelsThanMayBeDecoded)
+{
+    const auto small = picture("a.png", encoded({20, 10}, "png"));
+    EXPECT_FALSE(small->document->render(0, {30'000, 30'000}).has_value());
+    EXPECT_FALSE(small->document->render(0, {0, 10}).has_value());
+}
+
+TEST_F(QtPreviewDocumentsTest, RefusesAPictureWhoseHeaderPromisesGigabytes)
+{
+    QByteArray header = encoded({1, 1}, "png");
+    // Width and height stand behind the signature and the chunk's head; its check sum is right.
+    header.replace(16, 8, QByteArray("\0\0\x75\x30\0\0\x75\x30", 8));
+    header.replace(29, 4, "\xe9\x45\x6f\xed");
+    ASSERT_EQ(QImageReader(folder.write("b.png", header).toLocalFile()).size(),
+              QSize(30'000, 30'000));
+    EXPECT_FALSE(picture("a.png", header).has_value());
+}
+
+TEST_F(QtPreviewDocumentsTest, IsNotMisledByAName)
+{
+    EXPECT_TRUE(picture("a.png", encoded({20, 10}, "jpeg")).has_value());
+    EXPECT_FALSE(picture("a.png", "no picture").has_value());
+    EXPECT_FALSE(picture("a.svgz", QByteArray("\x1f\x8b\x08\0\0\0\0\0", 8)).has_value());
+}
+
+TEST_F(QtPreviewDocumentsTest, RendersADrawingSharpAtEverySize)
+{
+    const auto drawing = picture("a.svg", svg("<rect width='40' height='20' fill='#ff0000'/>"));
+    ASSERT_TRUE(drawing.has_value());
+    EXPECT_TRUE(drawing->isVector);
+    EXPECT_EQ(drawing->pixelSize, QSize(40, 20));
+    EXPECT_EQ(drawing->fitted.size(), QSize(200, 100));
+    EXPECT_EQ(drawing->document->render(0, {400, 200})->pixelColor(399, 199), QColor(Qt::red));
+}
+
+TEST_F(QtPreviewDocumentsTest, FollowsNoReferenceOfADrawing)
+{
+    const QByteArray other = folder.path("other.png");
+    folder.write("other.png", encoded({40, 20}, "png"));
+    folder.write("inner.svg", svg("<rect width='40' height='20' fill='#ff0000'/>"));
+    const auto image = [](const QByteArray &attributes) {
+        return svg("<rect width='40' height='20' fill='#0000ff'/><image width='40' height='20' "
+                   + attributes + "/>");
+    };
+    const QByteArray innerDrawing
+        = svg("<image width='40' height='20' xlink:href='" + other + "'/>");
+    for (const QByteArray &reference :
+         {other, QByteArray("other.png"), QByteArray("file://" + other), folder.path("inner.svg"),
+          QByteArray("data:image/svg+xml;base64," + innerDrawing.toBase64())}) {
+        EXPECT_EQ(middle(image("xlink:href='" + reference + "'")), QColor(Qt::blue))
+            << reference.constData();
+        EXPECT_EQ(middle(image("href='" + reference + "'")), QColor(Qt::blue));
+    }
+    const QByteArray inside = "data:image/png;base64," + encoded({40, 20}, "png").toBase64();
+    EXPECT_EQ(middle(image("xlink:href='" + inside + "'")), QColor(Qt::red))
+        << "a bitmap that is part of the drawing stays";
+}
+
+TEST_F(QtPreviewDocumentsTest, RefusesADrawingThatGrowsByEntities)
+{
+    QByteArray bomb = "<?xml version='1.0'?><!DOCTYPE svg [<!ENTITY a0 'aaaaaaaaaa'>";
+    for (int i = 1; i < 10; ++i) {
+        const QByteArray inner = "&a" + QByteArray::number(i - 1) + ';';
+        bomb += "<!ENTITY a" + QByteArray::number(i) + " '" + inner.repeated(10) + "'>";
+    }
+    EXPECT_FALSE(picture("a.svg", bomb + "]>" + svg("<text>&a9;</text>")).has_value());
+}
+
+TEST_F(QtPreviewDocumentsTest, SurvivesADrawingOfEndlessDepth)
+{
+    constexpr int depth = 100'000;
+    picture("a.svg", svg(QByteArray("<g>").repeated(depth) + QByteArray("</g>").repeated(depth)));
+}
+
+TEST_F(QtPreviewDocumentsTest, PlaysAnAnimationWithItsDelaysAndRounds)
+{
+    const auto moving = picture("a.gif", animation(5, 1));
+    ASSERT_TRUE(moving.has_value());
+    EXPECT_TRUE(moving->isAnimated);
+    std::vector<double> durations;
+    for (int i = 0; i < 4; ++i) {
+        const auto frame = moving->document->nextFrame({10, 10});
+        ASSERT_TRUE(frame.has_value()) << i;
+        durations.push_back(frame->duration);
+    }
+    EXPECT_EQ(durations, std::vector<double>(4, 0.05));
+    EXPECT_FALSE(moving->document->nextFrame({10, 10}).has_value()) << "it repeats once";
+}
+
+TEST_F(QtPreviewDocumentsTest, PlaysAnEndlessAnimationFrameByFrame)
+{
+    const auto moving = picture("a.gif", animation(0, 0));
+    ASSERT_TRUE(moving.has_value());
+    for (int i = 0; i < 20; ++i) {
+        const auto frame = moving->document->nextFrame({10, 10});
+        ASSERT_TRUE(frame.has_value());
+        EXPECT_EQ(frame->duration, QtPreviewDocuments::frameInstead)
+            << "nobody means no time at all";
+    }
+}
+
+TEST_F(QtPreviewDocumentsTest, ASinglePictureIsNoAnimation)
+{
+    const QByteArray whole = animation(5, 0);
+    const qsizetype second = whole.lastIndexOf("!\xF9");
+    const auto still = picture("a.gif", whole.left(second) + ';');
+    ASSERT_TRUE(still.has_value());
+    still->document->nextFrame({10, 10});
+    EXPECT_FALSE(still->document->nextFrame({10, 10}).has_value());
+}
+
+TEST_F(QtPreviewDocumentsTest, RendersThePagesOfADocument)
+{
+    const auto opened = documents.open(writePdf(3), {200, 100});
+    if (!opened)
+        GTEST_SKIP() << "there is no reader of documents here";
+    const auto &pages = std::get<PreviewContent::Pages>(*opened);
+    EXPECT_EQ(pages.count, 3);
+    EXPECT_EQ(pages.sizes, QList<QSize>(3, QSize(595, 842)));
+    const auto page = pages.document->render(2, {300, 424});
+    ASSERT_TRUE(page.has_value());
+    EXPECT_EQ(page->size(), QSize(300, 424));
+    EXPECT_EQ(page->pixelColor(1, 1), QColor(Qt::white)) << "paper is white";
+    EXPECT_FALSE(pages.document->render(3, {300, 424}).has_value());
+}
+
+TEST_F(QtPreviewDocumentsTest, RefusesABrokenDocument)
+{
+    EXPECT_FALSE(documents.open(folder.write("b.pdf", "%PDF-1.4\ngarbage"), {200, 100}));
+}
+
+TEST_F(QtPreviewDocumentsTest, OpensNoPipeAndNoDevice)
+{
+    ASSERT_EQ(::mkfifo(folder.path("pipe.png").constData(), 0600), 0);
+    EXPECT_FALSE(documents.open(folder.url("pipe.png"), {200, 100}));
+    ASSERT_EQ(::symlink("/dev/zero", folder.path("zero.png").constData()), 0);
+    EXPECT_FALSE(documents.open(folder.url("zero.png"), {200, 100}));
+    EXPECT_FALSE(documents.open(folder.url("nowhere.png"), {200, 100}));
+}
+
+} // namespace
+} // namespace corvane::test

@@ -1,0 +1,364 @@
+#include "fakes/fake_desktop_services.h"
+#include "fakes/fake_file_icons.h"
+#include "fakes/fake_panel_window.h"
+#include "fakes/fake_preview_documents.h"
+#include "fakes/fake_window_activation.h"
+#include "fakes/test_clock.h"
+#include "platform/qt/preview/qt_preview_panel.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QWidget>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+namespace {
+
+/// Answers when the test says so.
+class ManualLoading : public PreviewLoading {
+public:
+    PreviewDetails placeholder(const QUrl &url) const override
+    {
+        return {url.fileName(), {}, {}, {}};
+    }
+    void load(const QUrl &url, QSize wanted,
+              std::function<void(PreviewContent)> completion) override
+    {
+        asked << url;
+        wantedPixels = wanted;
+        m_completion = std::move(completion);
+    }
+    void cancel() override { m_completion = nullptr; }
+    void render(std::shared_ptr<PreviewDocument>, int, QSize pixels,
+                std::function<void(std::optional<QImage>)>) override
+    {
+        rendered << pixels;
+    }
+    void nextFrame(std::shared_ptr<PreviewDocument>, QSize,
+                   std::function<void(std::optional<PreviewDocument::Frame>)> completion) override
+    {
+        ++framesAsked;
+        frameAsked = std::move(completion);
+    }
+
+    void answer(PreviewContent content)
+    {
+        content.url = asked.last();
+        content.details.name = asked.last().fileName();
+        if (const auto completion = std::exchange(m_completion, nullptr))
+            completion(std::move(content));
+    }
+    bool isWaitedFor() const { return m_completion != nullptr; }
+
+    QList<QUrl> asked;
+    QSize wantedPixels;
+    QList<QSize> rendered;
+    int framesAsked = 0;
+    std::function<void(std::optional<PreviewDocument::Frame>)> frameAsked;
+
+private:
+    std::function<void(PreviewContent)> m_completion;
+};
+
+struct OneItem : PreviewPanelDataSource, PreviewPanelController {
+    int numberOfPreviewItems() const override { return url.isEmpty() ? 0 : 1; }
+    std::optional<QUrl> previewItemAt(int) const override { return url; }
+    std::optional<QString> previewItemTitle(int) const override { return title; }
+    bool acceptsPreviewPanelControl(PreviewPanel &) override { return accepts; }
+    void beginPreviewPanelControl(PreviewPanel &panel) override
+    {
+        ++begun;
+        panel.setDataSource(this);
+        panel.reloadData();
+    }
+    void endPreviewPanelControl(PreviewPanel &panel) override
+    {
+        ++ended;
+        panel.setDataSource(nullptr);
+    }
+
+    QUrl url{QStringLiteral("file:///home/a.txt")};
+    std::optional<QString> title;
+    bool accepts = true;
+    int begun = 0;
+    int ended = 0;
+};
+
+PreviewContent textOf(const QString &text)
+{
+    PreviewContent content;
+    content.canBeOpened = true;
+    content.body = PreviewContent::Text{text, false, false};
+    return content;
+}
+
+struct QtPreviewPanelTest : testing::Test {
+    QtPreviewPanelTest()
+    {
+        shelf.setFrame({300, 500, 200, 44});
+        panel.emplace(QtPreviewPanel::Context{loading, icons, desktop, activation, clock, shelf});
+        panel->setController(&item);
+    }
+    ~QtPreviewPanelTest() override
+    {
+        panel.reset();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+
+    static QWidget *window()
+    {
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (widget->isVisible())
+                return widget;
+        }
+        return nullptr;
+    }
+    void show(PreviewContent content)
+    {
+        panel->makeKeyAndOrderFront();
+        loading.answer(std::move(content));
+    }
+    static void key(QWindow &to, QEvent::Type type, int code, quint64 time, bool isRepeat = false)
+    {
+        constexpr quint32 scanCode = 65;
+        QKeyEvent event(type, code, Qt::NoModifier, scanCode, 0, 0, {}, isRepeat);
+        event.setTimestamp(time);
+        QCoreApplication::sendEvent(&to, &event);
+    }
+    static void press(int code) { key(*window()->windowHandle(), QEvent::KeyPress, code, 1000); }
+
+    ManualLoading loading;
+    FakeFileIcons icons;
+    FakeDesktopServices desktop;
+    FakeWindowActivation activation;
+    TestClock clock;
+    FakePanelWindow shelf;
+    OneItem item;
+    std::optional<QtPreviewPanel> panel;
+};
+
+TEST_F(QtPreviewPanelTest, OpensWithTheContentAndTakesTheKeyboardForTheUser)
+{
+    panel->makeKeyAndOrderFront();
+    EXPECT_TRUE(panel->isVisible());
+    EXPECT_EQ(item.begun, 1);
+    EXPECT_EQ(loading.asked, QList<QUrl>{item.url});
+    EXPECT_EQ(window(), nullptr) << "it waits a moment for the content";
+    loading.answer(textOf(QStringLiteral("hello")));
+    ASSERT_NE(window(), nullptr);
+    EXPECT_EQ(window()->windowTitle(), QStringLiteral("a.txt"));
+    EXPECT_EQ(activation.broughtForward, QList<const QWindow *>{window()->windowHandle()});
+    ASSERT_NE(window()->findChild<QPlainTextEdit *>(), nullptr);
+    EXPECT_EQ(window()->findChild<QPlainTextEdit *>()->toPlainText(), QStringLiteral("hello"));
+}
+
+TEST_F(QtPreviewPanelTest, OpensWithoutTheContentOfADiskThatDoesNotAnswer)
+{
+    panel->makeKeyAndOrderFront();
+    clock.advance(QtPreviewPanel::patience);
+    ASSERT_NE(window(), nullptr);
+    EXPECT_EQ(window()->windowTitle(), QStringLiteral("a.txt"));
+    EXPECT_EQ(icons.asked, QList<QUrl>{item.url});
+    QWidget *const same = window();
+    loading.answer(textOf(QStringLiteral("at last")));
+    EXPECT_EQ(window(), same);
+    EXPECT_EQ(window()->findChild<QPlainTextEdit *>()->toPlainText(), QStringLiteral("at last"));
+}
+
+TEST_F(QtPreviewPanelTest, StaysWhereTheUserHasPutItWhenTheContentComesLate)
+{
+    panel->makeKeyAndOrderFront();
+    clock.advance(QtPreviewPanel::patience);
+    window()->setGeometry(10, 20, 500, 400);
+    loading.answer(textOf(QStringLiteral("at last")));
+    EXPECT_EQ(window()->geometry(), QRect(10, 20, 500, 400));
+}
+
+TEST_F(QtPreviewPanelTest, OpensInTheMiddleOfTheShelfsScreen)
+{
+    show(textOf(QStringLiteral("hello")));
+    const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_LE((window()->geometry().center() - room.center()).manhattanLength(), 2);
+}
+
+TEST_F(QtPreviewPanelTest, OneThatIsHiddenBeforeItOpenedNeverOpens)
+{
+    panel->makeKeyAndOrderFront();
+    panel->orderOut();
+    EXPECT_EQ(item.ended, 1);
+    EXPECT_FALSE(loading.isWaitedFor());
+    clock.advance(1);
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(QtPreviewPanelTest, TheWaitOfAnEarlierShowingDoesNotOpenTheNextOneEarly)
+{
+    panel->makeKeyAndOrderFront();
+    panel->orderOut();
+    clock.advance(QtPreviewPanel::patience / 2);
+    panel->makeKeyAndOrderFront();
+    clock.advance(QtPreviewPanel::patience / 2);
+    EXPECT_EQ(window(), nullptr);
+    clock.advance(QtPreviewPanel::patience / 2);
+    EXPECT_NE(window(), nullptr);
+}
+
+TEST_F(QtPreviewPanelTest, SpaceAndEscapeCloseItOnce)
+{
+    for (const int code : {int(Qt::Key_Space), int(Qt::Key_Escape)}) {
+        show(textOf(QStringLiteral("hello")));
+        press(code);
+        EXPECT_FALSE(panel->isVisible());
+        EXPECT_EQ(window(), nullptr);
+    }
+    EXPECT_EQ(item.begun, 2);
+    EXPECT_EQ(item.ended, 2);
+    panel->orderOut();
+    EXPECT_EQ(item.ended, 2);
+}
+
+TEST_F(QtPreviewPanelTest, TheRepeatsOfTheKeyThatOpenedItDoNotCloseIt)
+{
+    show(textOf(QStringLiteral("hello")));
+    QWindow &handle = *window()->windowHandle();
+    key(handle, QEvent::KeyPress, Qt::Key_Space, 1000, true);
+    EXPECT_TRUE(panel->isVisible());
+    // A repeat that the toolkit does not know for one.
+    key(handle, QEvent::KeyRelease, Qt::Key_Space, 1030);
+    key(handle, QEvent::KeyPress, Qt::Key_Space, 1030);
+    EXPECT_TRUE(panel->isVisible());
+    key(handle, QEvent::KeyRelease, Qt::Key_Space, 1060);
+    key(handle, QEvent::KeyPress, Qt::Key_Space, 1400);
+    EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(QtPreviewPanelTest, TheRepeatsOfTheKeyThatClosedItReachNoOtherWindow)
+{
+    struct Heard : QWindow {
+        void keyPressEvent(QKeyEvent *) override { ++presses; }
+        int presses = 0;
+    } other;
+    show(textOf(QStringLiteral("hello")));
+    press(Qt::Key_Escape);
+    key(other, QEvent::KeyPress, Qt::Key_Escape, 1500, true);
+    key(other, QEvent::KeyRelease, Qt::Key_Escape, 1530);
+    key(other, QEvent::KeyPress, Qt::Key_Escape, 1530);
+    EXPECT_EQ(other.presses, 0);
+    key(other, QEvent::KeyRelease, Qt::Key_Escape, 1560);
+    key(other, QEvent::KeyPress, Qt::Key_Escape, 2000);
+    EXPECT_EQ(other.presses, 1) << "pressed anew it means something again";
+}
+
+TEST_F(QtPreviewPanelTest, TheWindowsOwnCloseButtonEndsItToo)
+{
+    show(textOf(QStringLiteral("hello")));
+    window()->close();
+    EXPECT_FALSE(panel->isVisible());
+    EXPECT_EQ(item.ended, 1);
+}
+
+TEST_F(QtPreviewPanelTest, ShowsNamesAsPlainText)
+{
+    item.url = QUrl(QStringLiteral("file:///home/<b>[*].txt"));
+    show({});
+    EXPECT_EQ(window()->windowTitle(), QStringLiteral("<b>[*][*].txt"))
+        << "which a title shows as it is";
+    EXPECT_TRUE(window()->findChildren<QLabel *>().isEmpty()) << "labels may see markup";
+}
+
+TEST_F(QtPreviewPanelTest, CallsALentFileByItsTitleAndOpensItNowhere)
+{
+    item.title = QStringLiteral("Some text");
+    show(textOf(QStringLiteral("hello")));
+    EXPECT_EQ(window()->windowTitle(), QStringLiteral("Some text"));
+    EXPECT_FALSE(window()->findChild<QPushButton *>()->isVisible());
+}
+
+TEST_F(QtPreviewPanelTest, OpensTheFileWithTheDesktopsProgramAndCloses)
+{
+    show(textOf(QStringLiteral("hello")));
+    window()->findChild<QPushButton *>()->click();
+    EXPECT_EQ(desktop.opened, QList<QUrl>{item.url});
+    EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(QtPreviewPanelTest, ShowsNothingWhereNobodyTakesControl)
+{
+    item.accepts = false;
+    panel->makeKeyAndOrderFront();
+    EXPECT_FALSE(panel->isVisible());
+    EXPECT_EQ(item.begun, 0);
+    panel->setController(nullptr);
+    panel->makeKeyAndOrderFront();
+    EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(QtPreviewPanelTest, ALongTextIsAllThereInTheEndAndReadableAtOnce)
+{
+    const QString text = QStringLiteral("0123456789\n").repeated(20'000);
+    show(textOf(text));
+    const auto *view = window()->findChild<QPlainTextEdit *>();
+    EXPECT_TRUE(view->toPlainText().startsWith(QStringLiteral("0123456789\n")));
+    EXPECT_LT(view->document()->characterCount(), text.size());
+    clock.runPending();
+    EXPECT_EQ(view->toPlainText(), text);
+}
+
+TEST_F(QtPreviewPanelTest, AsksForMorePixelsOnlyWhenThereIsRoomForThem)
+{
+    PreviewContent content;
+    PreviewContent::Picture picture;
+    picture.pixelSize = {1600, 1200};
+    picture.fitted = QImage(160, 120, QImage::Format_RGB32);
+    picture.document = std::make_shared<FakePreviewDocuments::Document>();
+    content.body = picture;
+    show(content);
+    ASSERT_EQ(loading.rendered.size(), 1);
+    EXPECT_LE(loading.rendered[0].width(), loading.wantedPixels.width());
+    press(Qt::Key_Plus);
+    EXPECT_EQ(loading.rendered.size(), 1) << "one at a time";
+}
+
+TEST_F(QtPreviewPanelTest, AnAnimationThatNobodySeesMakesNoFrames)
+{
+    PreviewContent content;
+    PreviewContent::Picture picture;
+    picture.pixelSize = {16, 12};
+    picture.fitted = QImage(16, 12, QImage::Format_RGB32);
+    picture.isAnimated = true;
+    picture.document = std::make_shared<FakePreviewDocuments::Document>();
+    content.body = picture;
+    show(content);
+    EXPECT_EQ(loading.framesAsked, 1);
+    const PreviewDocument::Frame frame{picture.fitted, 0.1};
+    loading.frameAsked(frame);
+    clock.runPending();
+    EXPECT_EQ(loading.framesAsked, 2) << "the next one is made while this one stands";
+    loading.frameAsked(frame);
+    clock.advance(0.05);
+    EXPECT_EQ(loading.framesAsked, 2);
+    clock.advance(0.06);
+    EXPECT_EQ(loading.framesAsked, 3);
+    panel->orderOut();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    loading.frameAsked(frame);
+    clock.advance(1);
+    EXPECT_EQ(loading.framesAsked, 3);
+    EXPECT_EQ(clock.pendingCount(), 0U);
+}
+
+TEST_F(QtPreviewPanelTest, KeepsNothingOnceItIsHidden)
+{
+    show(textOf(QStringLiteral("hello")));
+    panel->orderOut();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(QApplication::topLevelWidgets().isEmpty());
+}
+
+} // namespace
+} // namespace corvane::test

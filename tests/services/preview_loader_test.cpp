@@ -1,0 +1,117 @@
+#include "core/temporary_spool.h"
+#include "fakes/fake_preview_documents.h"
+#include "fakes/fake_work_queue.h"
+#include "fakes/test_clock.h"
+#include "services/preview_loader.h"
+
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace corvane::test {
+namespace {
+
+struct PreviewLoaderTest : testing::Test {
+    auto keep()
+    {
+        return [this](PreviewContent content) {
+            EXPECT_EQ(std::this_thread::get_id(), mainThread);
+            loaded.push_back(std::move(content));
+        };
+    }
+    void runAll()
+    {
+        work.runAll();
+        clock.runPending();
+    }
+
+    const std::thread::id mainThread = std::this_thread::get_id();
+    TemporaryFolder folder;
+    FakePreviewDocuments documents;
+    TestClock clock;
+    FakeWorkQueue work;
+    std::optional<PreviewLoader> loader{std::in_place, documents, clock, work};
+    std::vector<PreviewContent> loaded;
+};
+
+TEST_F(PreviewLoaderTest, KnowsANameWithoutTheDisk)
+{
+    EXPECT_EQ(loader->placeholder(QUrl(QStringLiteral("file:///nowhere/a%0Ab.txt"))).name,
+              QStringLiteral("a b.txt"));
+    EXPECT_EQ(work.pendingCount(), 0U);
+}
+
+TEST_F(PreviewLoaderTest, LooksAtTheFileOnAnotherThreadAndAnswersOnTheMainOne)
+{
+    const QUrl url = folder.url("later.txt");
+    loader->load(url, {800, 600}, keep());
+    // It would have been missing at the time of the call.
+    folder.write("later.txt", "x");
+    EXPECT_TRUE(loaded.empty());
+    work.runAll();
+    EXPECT_TRUE(loaded.empty());
+    clock.runPending();
+    ASSERT_EQ(loaded.size(), 1U);
+    EXPECT_TRUE(std::holds_alternative<PreviewContent::Text>(loaded[0].body));
+}
+
+TEST_F(PreviewLoaderTest, AnswersOnlyTheLastOfTwoLoads)
+{
+    loader->load(folder.write("one.txt", "1"), {800, 600}, keep());
+    loader->load(folder.write("two.txt", "2"), {800, 600}, keep());
+    runAll();
+    ASSERT_EQ(loaded.size(), 1U);
+    EXPECT_EQ(loaded[0].details.name, QStringLiteral("two.txt"));
+}
+
+TEST_F(PreviewLoaderTest, ALoadThatHasEndedIsForgottenTooWhenANewOneBegins)
+{
+    loader->load(folder.write("one.txt", "1"), {800, 600}, keep());
+    work.runAll();
+    loader->load(folder.write("two.txt", "2"), {800, 600}, keep());
+    runAll();
+    ASSERT_EQ(loaded.size(), 1U);
+    EXPECT_EQ(loaded[0].details.name, QStringLiteral("two.txt"));
+}
+
+TEST_F(PreviewLoaderTest, ReadsNothingForWhatWasCancelled)
+{
+    loader->load(folder.write("a.png", "\x89PNG\r\n\x1a\n"), {800, 600}, keep());
+    loader->cancel();
+    runAll();
+    EXPECT_TRUE(loaded.empty());
+    EXPECT_TRUE(documents.opened.isEmpty());
+}
+
+TEST_F(PreviewLoaderTest, AnswersNothingOnceItIsGone)
+{
+    loader->load(folder.write("one.txt", "1"), {800, 600}, keep());
+    loader->load(folder.write("two.txt", "2"), {800, 600}, keep());
+    work.runOne();
+    loader.reset();
+    runAll();
+    EXPECT_TRUE(loaded.empty());
+}
+
+TEST_F(PreviewLoaderTest, RendersPagesAndFramesUntilCancelled)
+{
+    const auto document = std::make_shared<FakePreviewDocuments::Document>();
+    std::optional<QImage> page;
+    int frames = 0;
+    const auto keepPage = [&](const std::optional<QImage> &image) { page = image; };
+    const auto countFrame = [&](const std::optional<PreviewDocument::Frame> &) { ++frames; };
+    loader->render(document, 3, {20, 10}, keepPage);
+    loader->nextFrame(document, {20, 10}, countFrame);
+    runAll();
+    ASSERT_TRUE(page.has_value());
+    EXPECT_EQ(page->size(), QSize(20, 10));
+    EXPECT_EQ(page->pixelColor(0, 0), QColor(3, 0, 0));
+    EXPECT_EQ(frames, 1);
+    loader->nextFrame(document, {20, 10}, countFrame);
+    loader->cancel();
+    runAll();
+    EXPECT_EQ(frames, 1);
+}
+
+} // namespace
+} // namespace corvane::test
