@@ -37,13 +37,19 @@ void writeStart(QXmlStreamWriter &writer, const QXmlStreamReader &reader)
                               declared.namespaceUri().toString());
     }
     const auto attributes = reader.attributes();
-    for (const auto &attribute : attributes) {
-        const bool isReference
-            = reader.name() == QLatin1String("image") && attribute.name() == QLatin1String("href");
-        if (!isReference || isBitmapInside(attribute.value()))
-            writer.writeAttribute(attribute.qualifiedName().toString(),
-                                  attribute.value().toString());
-    }
+    for (const auto &attribute : attributes)
+        writer.writeAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
+}
+
+/// Whether the element is an image whose contents are elsewhere.
+bool isReference(const QXmlStreamReader &reader)
+{
+    if (reader.name() != QLatin1String("image"))
+        return false;
+    const auto attributes = reader.attributes();
+    return std::ranges::any_of(attributes, [](const QXmlStreamAttribute &attribute) {
+        return attribute.name() == QLatin1String("href") && !isBitmapInside(attribute.value());
+    });
 }
 
 } // namespace
@@ -58,7 +64,10 @@ std::optional<QByteArray> svgWithoutReferences(const QByteArray &svg)
     while (!reader.atEnd()) {
         switch (reader.readNext()) {
         case QXmlStreamReader::StartElement:
-            writeStart(writer, reader);
+            if (isReference(reader))
+                reader.skipCurrentElement();
+            else
+                writeStart(writer, reader);
             break;
         case QXmlStreamReader::EndElement:
             writer.writeEndElement();
