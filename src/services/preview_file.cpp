@@ -76,8 +76,10 @@ QString timeOf(const struct stat &status)
     const QDateTime time = QDateTime::fromSecsSinceEpoch(status.st_mtim.tv_sec);
     if (!time.isValid())
         return {};
-    return QLocale().toString(time.date(), u"d MMMM yyyy") % u", "
-        % QLocale().toString(time.time(), QLocale::ShortFormat);
+    const QLocale locale;
+    const QString hours = locale.timeFormat(QLocale::ShortFormat).remove(QLatin1String(":ss"));
+    return locale.toString(time.date(), u"d MMMM yyyy") % u", "
+        % locale.toString(time.time(), hours);
 }
 
 QString kindOf(const QMimeType &type)
@@ -100,15 +102,15 @@ QMimeType specialType(mode_t mode)
     return QMimeDatabase().mimeTypeForName(QLatin1String(name));
 }
 
-/// To open such a file may mean to run it, and looking at something must not lead there.
+/// To open such a file may mean to run it, and looking at something must not lead there. Scripts
+/// are programs too, by their type, but what opens them is an editor.
 bool isProgram(const QMimeType &type)
 {
-    static constexpr std::array programs = {u"application/x-desktop",
-                                            u"application/x-executable",
-                                            u"application/x-sharedlib",
-                                            u"application/x-ms-dos-executable",
-                                            u"application/vnd.microsoft.portable-executable",
-                                            u"application/vnd.appimage"};
+    static constexpr std::array programs = {
+        u"application/x-executable", u"application/x-sharedlib", u"application/x-ms-dos-executable",
+        u"application/vnd.microsoft.portable-executable", u"application/vnd.appimage"};
+    if (preview_text::isText(type))
+        return type.inherits(QStringLiteral("application/x-desktop"));
     return std::ranges::any_of(
         programs, [&](const char16_t *name) { return type.inherits(QString::fromUtf16(name)); });
 }

@@ -38,11 +38,14 @@ QStringList linesOf(const PreviewContent &content)
     if (std::holds_alternative<PreviewContent::Missing>(content.body))
         return {QStringLiteral("This item is no longer there.")};
     const PreviewDetails &details = content.details;
+    QStringList what;
+    for (const QString &part : {details.kind, details.size}) {
+        if (!part.isEmpty())
+            what << part;
+    }
     QStringList lines;
-    if (!details.kind.isEmpty())
-        lines << details.kind;
-    if (!details.size.isEmpty())
-        lines << details.size;
+    if (!what.isEmpty())
+        lines << what.join(QStringLiteral("  ·  "));
     if (!details.modified.isEmpty())
         lines << QLatin1String("Modified ") + details.modified;
     return lines;

@@ -11,8 +11,8 @@ namespace corvane::preview_geometry {
 
 /// Of the screen's room, in either direction.
 inline constexpr double largestPart = 0.8;
-inline constexpr QSize smallestWindow{360, 240};
-inline constexpr QSize detailsWindow{480, 216};
+inline constexpr QSize smallestWindow{360, 200};
+inline constexpr QSize detailsWindow{480, 208};
 /// The line below the content.
 inline constexpr int barHeight = 40;
 /// Around and between pages.

@@ -84,7 +84,7 @@ PreviewWindow::PreviewWindow(PreviewLoading &loading, MainQueue &queue)
     m_layout->setSpacing(0);
     m_bar->setFixedHeight(preview_geometry::barHeight);
     auto *const row = new QHBoxLayout(m_bar);
-    row->setContentsMargins(sideMargin, 0, sideMargin / 2, 0);
+    row->setContentsMargins(sideMargin, 0, sideMargin - 4, 0);
     row->setSpacing(gap);
     row->addWidget(m_line, 1);
     row->addWidget(m_open);
@@ -105,8 +105,10 @@ void PreviewWindow::setContent(const PreviewContent &content, const Image &icon)
     // "[*]" would stand for the mark of an unsaved document.
     QString title = content.details.name;
     setWindowTitle(title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
-    m_line->setText(lineFor(content));
+    const QString line = lineFor(content);
+    m_line->setText(line);
     m_open->setVisible(content.canBeOpened);
+    m_bar->setVisible(content.canBeOpened || !line.isEmpty());
     m_open->setAccessibleName(QLatin1String("Open ") + content.details.name);
     delete m_view;
     m_picture = nullptr;
@@ -178,6 +180,8 @@ void PreviewWindow::closeEvent(QCloseEvent *event)
 
 void PreviewWindow::paintEvent(QPaintEvent *)
 {
+    if (!m_bar->isVisible())
+        return;
     // A line as thin as a pixel between the content and what is said about it.
     QPainter painter(this);
     QColor color = palette().color(QPalette::WindowText);
