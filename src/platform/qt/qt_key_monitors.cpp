@@ -1,0 +1,129 @@
+#include "platform/qt/qt_key_monitors.h"
+
+#include "platform/keyboard_layout.h"
+#include "platform/virtual_key_codes.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+#include <utility>
+#include <vector>
+
+namespace corvane {
+
+namespace {
+
+bool isModifierKey(int key)
+{
+    switch (key) {
+    case Qt::Key_Shift:
+    case Qt::Key_Control:
+    case Qt::Key_Meta:
+    case Qt::Key_Alt:
+    case Qt::Key_AltGr:
+    case Qt::Key_CapsLock:
+    case Qt::Key_NumLock:
+    case Qt::Key_ScrollLock:
+    case Qt::Key_Super_L:
+    case Qt::Key_Super_R:
+    case Qt::Key_Hyper_L:
+    case Qt::Key_Hyper_R:
+    case Qt::Key_Mode_switch:
+        return true;
+    default:
+        return false;
+    }
+}
+
+/// By position: a combination is registered by it, too.
+std::uint32_t keyCodeFrom(const QKeyEvent &event)
+{
+    const std::uint32_t scanCode = event.nativeScanCode();
+    return scanCode < virtual_key_codes::x11Offset
+        ? key_code::unknown
+        : virtual_key_codes::fromEvdev(scanCode - virtual_key_codes::x11Offset);
+}
+
+/// Not as elsewhere in our windows, where Control is Command, too.
+Modifiers heldModifiers(Qt::KeyboardModifiers modifiers)
+{
+    Modifiers result;
+    result.setFlag(Modifier::Shift, modifiers.testFlag(Qt::ShiftModifier));
+    result.setFlag(Modifier::Control, modifiers.testFlag(Qt::ControlModifier));
+    result.setFlag(Modifier::Option, modifiers.testFlag(Qt::AltModifier));
+    result.setFlag(Modifier::Command, modifiers.testFlag(Qt::MetaModifier));
+    return result;
+}
+
+} // namespace
+
+QtKeyMonitors::QtKeyMonitors(const KeyboardLayout &layout)
+    : m_layout(layout)
+{
+}
+
+QtKeyMonitors::~QtKeyMonitors() = default;
+
+KeyMonitors::Handle QtKeyMonitors::addLocalMonitor(Handler handler)
+{
+    if (m_monitors.empty())
+        QCoreApplication::instance()->installEventFilter(this);
+    m_monitors.emplace(m_nextHandle, std::move(handler));
+    return m_nextHandle++;
+}
+
+void QtKeyMonitors::removeMonitor(Handle handle)
+{
+    m_monitors.erase(handle);
+    if (m_monitors.empty())
+        QCoreApplication::instance()->removeEventFilter(this);
+}
+
+bool QtKeyMonitors::eventFilter(QObject *watched, QEvent *event)
+{
+    switch (event->type()) {
+    case QEvent::ShortcutOverride:
+        // Accepted, it is no shortcut of a window or menu but comes again as a key press.
+        event->accept();
+        return true;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        if (notify(*static_cast<QKeyEvent *>(event)) == Disposition::Swallow) {
+            event->accept();
+            return true;
+        }
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+KeyMonitors::Disposition QtKeyMonitors::notify(const QKeyEvent &key)
+{
+    Event event;
+    event.modifiers = heldModifiers(key.modifiers());
+    if (isModifierKey(key.key())) {
+        event.kind = Event::Kind::ModifiersChanged;
+    } else if (key.type() == QEvent::KeyPress) {
+        event.keyCode = keyCodeFrom(key);
+        event.charactersIgnoringModifiers = m_layout.charactersOf(event.keyCode);
+    } else {
+        return Disposition::Pass;
+    }
+    // By handle, and through a copy: a handler may remove any monitor, itself too.
+    std::vector<Handle> handles;
+    for (const auto &[handle, handler] : m_monitors)
+        handles.push_back(handle);
+    for (const Handle handle : handles) {
+        const auto found = m_monitors.find(handle);
+        if (found == m_monitors.end())
+            continue;
+        const Handler handler = found->second;
+        if (handler(event) == Disposition::Swallow)
+            return Disposition::Swallow;
+    }
+    return Disposition::Pass;
+}
+
+} // namespace corvane

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/key_monitors.h"
+
+#include <QObject>
+
+#include <map>
+
+class QKeyEvent;
+
+namespace corvane {
+
+class KeyboardLayout;
+
+/// Key monitors over the toolkit's events, before shortcuts and focus handling see them: Tab and
+/// Return come, too. It looks at events only while there is a monitor. Needs the application
+/// object; the layout must outlive it.
+///
+/// An input method gets a key before we do where the focused widget takes text.
+class QtKeyMonitors : public QObject, public KeyMonitors {
+public:
+    explicit QtKeyMonitors(const KeyboardLayout &layout);
+    ~QtKeyMonitors() override;
+
+    Handle addLocalMonitor(Handler handler) override;
+    void removeMonitor(Handle handle) override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    Disposition notify(const QKeyEvent &event);
+
+    const KeyboardLayout &m_layout;
+    std::map<Handle, Handler> m_monitors;
+    Handle m_nextHandle = 1;
+};
+
+} // namespace corvane
