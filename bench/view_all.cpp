@@ -9,6 +9,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 
+#include <algorithm>
 #include <optional>
 
 namespace corvane::bench {
@@ -115,6 +116,22 @@ double publication(int count)
     });
 }
 
+/// The same among few items and among many, each the least disturbed of several that alternate:
+/// what differs is small beside what a busy machine adds.
+void compare(const char *name, double (*figure)(int))
+{
+    constexpr int few = 10;
+    constexpr int many = 10'000;
+    constexpr int rounds = 5;
+    double floor = figure(few);
+    double measured = figure(many);
+    for (int i = 1; i < rounds; ++i) {
+        floor = std::min(floor, figure(few));
+        measured = std::min(measured, figure(many));
+    }
+    print({name, floor * 1000, measured * 1000, "us", 1.5});
+}
+
 } // namespace
 
 } // namespace corvane::bench
@@ -124,9 +141,7 @@ int main(int argc, char **argv)
     using namespace corvane::bench;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
-    print({"opening the view-all bar, 10,000 items", opening(10) * 1000, opening(10'000) * 1000,
-           "us", 1.5});
-    print({"paging it by one", paging(10) * 1000, paging(10'000) * 1000, "us", 1.5});
-    print({"publishing a thumbnail while it is open", publication(10) * 1000,
-           publication(10'000) * 1000, "us", 1.5});
+    compare("opening the view-all bar, 10,000 items", opening);
+    compare("paging it by one", paging);
+    compare("publishing a thumbnail while it is open", publication);
 }
