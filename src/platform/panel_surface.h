@@ -31,6 +31,8 @@ public:
     virtual void takeKeyboard(QWindow &window) = 0;
     /// Gives the keyboard back if the window still has it.
     virtual void giveKeyboardBack(QWindow &window) = 0;
+    /// Gives the keyboard back if nobody has it: what had it was hidden, and nothing took it since.
+    virtual void giveUnclaimedKeyboardBack() = 0;
 
     /// Whether windows are blended with what lies below; without it transparency shows as black.
     virtual bool isComposited() const = 0;

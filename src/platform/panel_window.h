@@ -76,9 +76,12 @@ public:
     /// cannot blend windows; both in the panel's coordinates.
     virtual void setBody(const QRectF &rect, const QPainterPath &outline) = 0;
 
-    /// Takes the keyboard. Only in answer to a click: a window that takes it by itself is a
-    /// nuisance.
+    /// Takes the keyboard. Only where the user asked for it, by a click or a key: a window that
+    /// takes it by itself is a nuisance.
     virtual void makeKey() = 0;
+    /// The user clicked in another program, which is about to get the keyboard: until the panel is
+    /// shown again, hiding it takes the keyboard from nobody.
+    virtual void userWentOn() = 0;
 
     /// Asks for a repaint of part of the panel, in its coordinates.
     virtual void setNeedsDisplay(const QRectF &rect) = 0;

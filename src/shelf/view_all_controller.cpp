@@ -137,8 +137,10 @@ void ViewAllController::clickedElsewhere()
     // Where nobody tells where the pointer is, it is enough that another program had the click.
     const bool isOurs
         = location && (contains(m_panel.frame(), *location) || contains(m_pillFrame, *location));
-    if (!isOurs)
-        close();
+    if (isOurs || !m_store.isViewAllOpen())
+        return;
+    m_panel.userWentOn();
+    close();
 }
 
 } // namespace corvane

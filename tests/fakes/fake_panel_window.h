@@ -37,6 +37,7 @@ public:
         outline = path;
     }
     void makeKey() override { isKey = true; }
+    void userWentOn() override { log << QStringLiteral("userWentOn"); }
     void setNeedsDisplay(const QRectF &) override { ++displayRequests; }
     void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) override
     {

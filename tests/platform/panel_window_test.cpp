@@ -281,6 +281,53 @@ TEST_F(PanelWindowTest, leavesTheKeyboardWithSomebodyWhoTookItMeanwhile)
     EXPECT_EQ(display.server.focusedWindow(), second.id());
 }
 
+TEST_F(PanelWindowTest, aPanelThatTookItFromAnotherGivesItBackToTheProgram)
+{
+    const ManagedWindow other({100, 100, 300, 200});
+    QtPanelWindow second(surface, queue);
+    second.setFrame({600, 200, 300, 100});
+    content.onMouseDown = [&] {
+        panel.makeKey();
+        second.orderFrontRegardless();
+        second.makeKey();
+    };
+    show();
+    display.hands.click(at(150, 30));
+    const auto secondId = static_cast<xcb_window_t>(second.window().winId());
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == secondId; }));
+    // The first one, which has nothing to give back, forgets nothing.
+    panel.orderOut();
+    second.orderOut();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+}
+
+TEST_F(PanelWindowTest, takesTheKeyboardOnDemandWithoutAnEventOfItsOwn)
+{
+    show();
+    const ManagedWindow other({100, 100, 300, 200});
+    display.hands.click({150, 150});
+    settle();
+    panel.makeKey();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+}
+
+TEST_F(PanelWindowTest, takesTheKeyboardFromNobodyWhenTheUserWentOn)
+{
+    const ManagedWindow before({100, 100, 300, 200});
+    const ManagedWindow clicked({500, 600, 300, 200});
+    display.hands.click({150, 150});
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == before.id(); }));
+    show();
+    panel.makeKey();
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    display.hands.click({650, 700});
+    panel.userWentOn();
+    panel.orderOut();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == clicked.id(); }));
+    settle();
+    EXPECT_EQ(display.server.focusedWindow(), clicked.id());
+}
+
 TEST_F(PanelWindowTest, aHiddenPanelNeverTakesTheKeyboard)
 {
     const ManagedWindow other({100, 100, 300, 200});

@@ -222,9 +222,12 @@ TEST_F(ViewAllControllerTest, aClickElsewhereClosesIt)
 {
     open(3);
     ASSERT_EQ(desktop.mouseDownMonitorCount(), 1U);
+    panel.log.clear();
     desktop.pressElsewhere(QPointF(20, 20));
     EXPECT_FALSE(store.isViewAllOpen());
     EXPECT_FALSE(panel.visible);
+    EXPECT_EQ(panel.log, (QStringList{QStringLiteral("userWentOn"), QStringLiteral("orderOut")}))
+        << "the keyboard is left to what was clicked";
     EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
 }
 

@@ -60,6 +60,7 @@ void QtPanelWindow::setFrame(const QRectF &frame)
 
 void QtPanelWindow::orderFrontRegardless()
 {
+    m_userWentOn = false;
     if (std::exchange(m_isVisible, true)) {
         m_canvas->raise();
         return;
@@ -75,9 +76,19 @@ void QtPanelWindow::orderOut()
 {
     if (!std::exchange(m_isVisible, false))
         return;
-    m_surface.giveKeyboardBack(*m_canvas);
+    const bool userWentOn = std::exchange(m_userWentOn, false);
+    if (!userWentOn)
+        m_surface.giveKeyboardBack(*m_canvas);
     m_canvas->hide();
     m_surface.didHide(*m_canvas);
+    if (!userWentOn)
+        return;
+    // Now would be too early: the window manager may hear of the click after us, and our wish would
+    // come after the user's. What was clicked may also be something that takes no keyboard.
+    m_queue.asyncAfter(focusDelay, [this, alive = m_alive] {
+        if (*alive && !m_isVisible)
+            m_surface.giveUnclaimedKeyboardBack();
+    });
 }
 
 void QtPanelWindow::setIgnoresMouseEvents(bool ignores)

@@ -19,6 +19,9 @@ class PanelSurface;
 /// support drags are what Qt makes of them. Main thread only.
 class QtPanelWindow : public PanelWindow {
 public:
+    /// How long a window manager may take to give the keyboard to what was clicked.
+    static constexpr double focusDelay = 0.3;
+
     QtPanelWindow(PanelSurface &surface, MainQueue &queue, DragSupport *support = nullptr);
     ~QtPanelWindow() override;
 
@@ -31,6 +34,7 @@ public:
     void setIgnoresMouseEvents(bool ignores) override;
     void setBody(const QRectF &rect, const QPainterPath &outline) override;
     void makeKey() override;
+    void userWentOn() override { m_userWentOn = true; }
     void setNeedsDisplay(const QRectF &rect) override;
     void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) override;
 
@@ -53,6 +57,7 @@ private:
     std::unique_ptr<PanelCanvas> m_canvas;
     QRectF m_frame;
     bool m_isVisible = false;
+    bool m_userWentOn = false;
     bool m_ignoresMouseEvents = false;
     /// The whole panel until it is told.
     std::optional<QRectF> m_body;

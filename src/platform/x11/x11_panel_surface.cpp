@@ -133,14 +133,32 @@ void X11PanelSurface::takeKeyboard(QWindow &window)
         m_previousActive = activeWindow();
     }
     window.requestActivate();
+    // Qt asks with the time of the latest event it had, which the window manager may have overtaken
+    // when the wish came from somewhere else. On its connection: the window may be about to be
+    // mapped there.
+    if (auto *const qt = x11_qt::connection())
+        x11_qt::ignoreErrors(xcb_set_input_focus_checked(
+            qt, XCB_INPUT_FOCUS_PARENT, x11_qt::nativeWindow(window), XCB_CURRENT_TIME));
     flushQt();
 }
 
 void X11PanelSurface::giveKeyboardBack(QWindow &window)
 {
     // Somebody else has it by now: the user went on, or to another panel.
-    if (focusedWindow() != x11_qt::nativeWindow(window))
-        return;
+    if (focusedWindow() == x11_qt::nativeWindow(window))
+        giveToPrevious();
+}
+
+void X11PanelSurface::giveUnclaimedKeyboardBack()
+{
+    const xcb_window_t focus = focusedWindow();
+    if (focus == XCB_INPUT_FOCUS_NONE || focus == XCB_INPUT_FOCUS_POINTER_ROOT
+        || focus == m_connection.root())
+        giveToPrevious();
+}
+
+void X11PanelSurface::giveToPrevious()
+{
     const xcb_window_t active = std::exchange(m_previousActive, XCB_NONE);
     const xcb_window_t focus = std::exchange(m_previousFocus, XCB_NONE);
     if (active != XCB_NONE)

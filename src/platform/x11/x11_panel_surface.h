@@ -26,6 +26,7 @@ public:
     void setBoundingRegion(QWindow &window, const QRegion &region) override;
     void takeKeyboard(QWindow &window) override;
     void giveKeyboardBack(QWindow &window) override;
+    void giveUnclaimedKeyboardBack() override;
     bool isComposited() const override { return m_isComposited; }
     void observeComposited(std::function<void()> callback) override;
 
@@ -34,6 +35,7 @@ private:
     xcb_window_t focusedWindow() const;
     xcb_window_t activeWindow() const;
     void activate(xcb_window_t window);
+    void giveToPrevious();
     bool isPanel(xcb_window_t window) const;
 
     X11Connection &m_connection;
