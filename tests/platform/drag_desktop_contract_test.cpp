@@ -21,6 +21,7 @@ struct FakeHands {
     void release() { desktop.release(); }
     void pressRight() { desktop.press(FakeDragDesktop::rightButton); }
     void releaseRight() { desktop.release(FakeDragDesktop::rightButton); }
+    void pressElsewhere() { desktop.pressElsewhere(QPointF(1, 0)); }
     void move() { desktop.moveTo({1, 0}); }
     void pickUp() { desktop.pickUp(); }
     void putDown() { }
@@ -46,6 +47,7 @@ struct RealHands {
     void release() { display.hands.release(1); }
     void pressRight() { display.hands.press(3); }
     void releaseRight() { display.hands.release(3); }
+    void pressElsewhere() { press(); }
     void move() { display.hands.moveBy({7, 3}); }
     void pickUp() { source.pickUp(); }
     void putDown() { source.putDown(); }
@@ -162,6 +164,71 @@ TYPED_TEST(DragDesktopContract, aMonitorMayRemoveItselfFromItsHandler)
     this->hands.move();
     this->hands.waitABit();
     EXPECT_EQ(this->heard, 1);
+}
+
+TYPED_TEST(DragDesktopContract, hearsPressesInOtherProgramsWindows)
+{
+    int presses = 0;
+    const auto handle = this->monitors.addGlobalMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(handle);
+    this->hands.waitABit();
+    this->hands.pressElsewhere();
+    EXPECT_TRUE(this->hands.until([&] { return presses == 1; }));
+    this->hands.release();
+    this->monitors.removeMonitor(*handle);
+    this->hands.waitABit();
+    this->hands.pressElsewhere();
+    this->hands.waitABit();
+    EXPECT_EQ(presses, 1);
+}
+
+TEST(X11DragDesktop, wheelsPressNothingAndSideButtonsDo)
+{
+    RealHands hands;
+    int presses = 0;
+    ASSERT_TRUE(hands.desktop.addGlobalMouseDownMonitor([&] { ++presses; }));
+    settle();
+    for (const std::uint8_t button : std::initializer_list<std::uint8_t>{4, 5, 6, 7, 2, 3, 8, 9}) {
+        hands.display.hands.press(button);
+        hands.display.hands.release(button);
+    }
+    EXPECT_TRUE(eventually([&] { return presses >= 4; }));
+    settle();
+    EXPECT_EQ(presses, 4);
+}
+
+TEST(X11DragDesktop, pressesInOurOwnWindowsAreNotTold)
+{
+    RealHands hands;
+    QWindow window;
+    window.setFlag(Qt::X11BypassWindowManagerHint);
+    window.setGeometry(200, 200, 100, 100);
+    window.show();
+    ASSERT_TRUE(eventually([&] { return window.isExposed(); }));
+    int presses = 0;
+    ASSERT_TRUE(hands.desktop.addGlobalMouseDownMonitor([&] { ++presses; }));
+    settle();
+    hands.display.hands.click({250, 250});
+    settle();
+    EXPECT_EQ(presses, 0);
+    hands.display.hands.click(DragSource::frame.center());
+    EXPECT_TRUE(eventually([&] { return presses == 1; }));
+}
+
+TEST(X11DragDesktop, aMonitorOfPressesAloneIsNotWokenByMotion)
+{
+    RealHands hands;
+    int presses = 0;
+    int motions = 0;
+    const auto dragging = hands.desktop.addGlobalMonitor([&] { ++motions; });
+    ASSERT_TRUE(hands.desktop.addGlobalMouseDownMonitor([&] { ++presses; }));
+    hands.desktop.removeMonitor(*dragging);
+    settle();
+    hands.press();
+    EXPECT_TRUE(eventually([&] { return presses == 1; }));
+    hands.move();
+    settle();
+    EXPECT_EQ(motions, 0);
 }
 
 TEST(X11DragDesktop, hasNoLocalMonitorBecauseTheGlobalOneHearsAll)
