@@ -1,5 +1,6 @@
 #include "shelf/drag_stack.h"
 
+#include "core/drag_writer.h"
 #include "shelf/drawing.h"
 #include "shelf/theme.h"
 
@@ -18,6 +19,8 @@ constexpr double margin = 14;
 constexpr double badgeHeight = 20;
 /// How far the cards behind the front one are turned, in degrees.
 constexpr std::array<double, maximumCards> turns{0, 7, -6};
+
+const QColor ground(44, 45, 48);
 
 void paintBadge(QPainter &painter, qsizetype count, double whole, const Theme &theme)
 {
@@ -48,7 +51,12 @@ Image image(const std::vector<Image> &cards, qsizetype count, double side, const
         painter.save();
         painter.translate(whole / 2, whole / 2);
         painter.rotate(turns.at(i));
-        painter.drawImage(QRectF(-side / 2, -side / 2, side, side), cards[i].bitmap);
+        // Cards let through what lies below them; in a stack that would be the next card.
+        const QRectF card(-side / 2, -side / 2, side, side);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ground);
+        painter.drawRoundedRect(card, DragWriter::tileCornerRadius, DragWriter::tileCornerRadius);
+        painter.drawImage(card, cards[i].bitmap);
         painter.restore();
     }
     paintBadge(painter, count, whole, theme);
