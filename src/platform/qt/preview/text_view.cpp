@@ -13,8 +13,8 @@ namespace corvane {
 
 namespace {
 
-/// Laid out in a few milliseconds.
-constexpr qsizetype piece = 24 * 1024;
+/// Laid out in a few milliseconds, and more than a window shows.
+constexpr qsizetype piece = 8 * 1024;
 
 } // namespace
 
