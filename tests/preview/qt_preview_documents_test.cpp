@@ -71,7 +71,7 @@ struct QtPreviewDocumentsTest : testing::Test {
     }
 
     TemporaryFolder folder;
-    QtImageCodec limits;
+    QtImageCodec codec;
     QtPreviewDocuments documents;
 };
 
@@ -142,6 +142,9 @@ TEST_F(QtPreviewDocumentsTest, FollowsNoReferenceOfADrawing)
         EXPECT_EQ(middle(image("xlink:href='" + reference + "'")), QColor(Qt::blue))
             << reference.constData();
         EXPECT_EQ(middle(image("href='" + reference + "'")), QColor(Qt::blue));
+        const auto decoded = codec.decode(image("xlink:href='" + reference + "'"));
+        ASSERT_TRUE(decoded.has_value());
+        EXPECT_EQ(decoded->pixelColor(20, 10), QColor(Qt::blue)) << "on the shelf neither";
     }
     const QByteArray inside = "data:image/png;base64," + encoded({40, 20}, "png").toBase64();
     EXPECT_EQ(middle(image("xlink:href='" + inside + "'")), QColor(Qt::red))
