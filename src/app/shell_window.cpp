@@ -73,6 +73,9 @@ QPoint ShellWindow::centre() const
 void ShellWindow::closeEvent(QCloseEvent *event)
 {
     event->accept();
+    // It may be told to close although it is hidden: at the end of the program all windows are.
+    if (!isVisible())
+        return;
     m_position = pos();
     // The window's owner may let go of it now.
     m_isClosing = true;

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QSize>
 
 class QPalette;
 
@@ -16,6 +17,7 @@ public:
 
     /// Points to device-independent pixels.
     int length(double points) const;
+    QSize length(QSize points) const { return {length(points.width()), length(points.height())}; }
     /// The desktop's general font at that many points.
     QFont font(double points, QFont::Weight weight = QFont::Normal) const;
 

@@ -1,0 +1,160 @@
+#include "app/preferences/general_pane.h"
+
+#include "app/preferences/number_picker.h"
+#include "app/preferences/preference_section.h"
+#include "app/preferences/setting_row.h"
+#include "app/preferences/shortcut_row.h"
+#include "app/preferences/switch_button.h"
+#include "app/text_label.h"
+#include "app/updater.h"
+#include "core/settings.h"
+#include "input/shortcut_binder.h"
+#include "platform/login_items.h"
+
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace corvane {
+
+namespace {
+
+constexpr double betweenSections = 20;
+constexpr double noticeSize = 12;
+
+} // namespace
+
+GeneralPane::GeneralPane(const PreferencesContext &context, QWidget *parent)
+    : QWidget(parent)
+    , m_context(context)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(m_look.length(betweenSections));
+    if (!m_context.settings.areKept())
+        layout->addWidget(makeUnkeptNotice());
+    layout->addWidget(makeShelfSection());
+    layout->addWidget(makeBehaviourSection());
+    layout->addWidget(makeShortcutsSection());
+    layout->addWidget(makeUpdatesSection());
+}
+
+QWidget *GeneralPane::makeUnkeptNotice()
+{
+    auto *notice = new TextLabel(tr("Your settings folder cannot be written to. Changes work until "
+                                    "Corvane quits, and are not kept."),
+                                 m_look.font(noticeSize), TextLabel::Tone::Secondary);
+    notice->setWordWrap(true);
+    return notice;
+}
+
+PreferenceSection *GeneralPane::makeShelfSection()
+{
+    auto *section = new PreferenceSection(tr("Shelf"), m_look);
+    const QString title = tr("Items in view");
+    auto *picker = new NumberPicker(Settings::minimumInViewCount, Settings::maximumInViewCount,
+                                    title, m_look);
+    picker->setNumber(m_context.settings.inViewCount());
+    auto *row = new SettingRow(title, inViewDetail(picker->number()), {picker}, m_look);
+    connect(picker, &NumberPicker::picked, this, [this, row](int count) {
+        m_context.settings.setInViewCount(count);
+        row->setDetail(inViewDetail(count));
+    });
+    section->addRow(row);
+    return section;
+}
+
+QString GeneralPane::inViewDetail(int count) const
+{
+    if (count == 1)
+        return tr("One at a time. Use the arrows to page through the rest.");
+    return tr("%n thumbnails at once, with arrows for the rest.", nullptr, count);
+}
+
+PreferenceSection *GeneralPane::makeBehaviourSection()
+{
+    const Settings &settings = m_context.settings;
+    auto *section = new PreferenceSection(tr("Behaviour"), m_look);
+    section->addRow(
+        makeSwitchRow(tr("Launch at login"), tr("Corvane runs in the menu bar with no Dock icon."),
+                      m_context.loginItems.isRegistered(), &Settings::setLaunchAtLogin));
+    section->addRow(makeSwitchRow(tr("Open the shelf when a drag begins"),
+                                  tr("Turn off to summon it only with the shortcut."),
+                                  settings.autoShowOnDrag(), &Settings::setAutoShowOnDrag));
+    section->addRow(makeSwitchRow(
+        tr("Show previews for dropped links"),
+        tr("Asks the linked site for its title and image. It is the only time Corvane "
+           "uses the network on your behalf, and the site learns you have the link."),
+        settings.linkPreviews(), &Settings::setLinkPreviews));
+    return section;
+}
+
+SettingRow *GeneralPane::makeSwitchRow(const QString &title, const QString &detail, bool on,
+                                       void (Settings::*write)(bool))
+{
+    auto *control = new SwitchButton(title, detail, m_look, m_context.motion);
+    control->setChecked(on);
+    connect(control, &SwitchButton::toggled, this,
+            [&settings = m_context.settings, write](bool value) { (settings.*write)(value); });
+    return new SettingRow(title, detail, {control}, m_look);
+}
+
+PreferenceSection *GeneralPane::makeShortcutsSection()
+{
+    Settings &settings = m_context.settings;
+    ShortcutBinder &binder = m_context.shortcutBinder;
+    const QString conflict = tr("Another app already uses that combination.");
+    auto *section = new PreferenceSection(tr("Shortcuts"), m_look);
+
+    auto *shelf
+        = new ShortcutRow(tr("Show or hide the shelf"),
+                          {tr("Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only."), conflict},
+                          m_context.keyMonitors, m_context.hotKeys, m_look);
+    shelf->setShortcut(settings.shortcut());
+    shelf->onChange = [&settings, &binder, shelf](const std::optional<Shortcut> &shortcut) {
+        settings.setShortcut(shortcut);
+        shelf->setConflict(!binder.bindShelf());
+    };
+    section->addRow(shelf);
+
+    auto *viewAll
+        = new ShortcutRow(tr("Show or hide all items"),
+                          {tr("Unset by default. ↓ on the shelf does the same thing."), conflict},
+                          m_context.keyMonitors, m_context.hotKeys, m_look);
+    viewAll->setShortcut(settings.viewAllShortcut());
+    viewAll->onChange = [&settings, &binder, viewAll](const std::optional<Shortcut> &shortcut) {
+        settings.setViewAllShortcut(shortcut);
+        viewAll->setConflict(!binder.bindViewAll());
+    };
+    section->addRow(viewAll);
+    return section;
+}
+
+PreferenceSection *GeneralPane::makeUpdatesSection()
+{
+    Updater *const updater = m_context.updater;
+    auto *section = new PreferenceSection(tr("Updates"), m_look);
+    const QString title = tr("Check for updates automatically");
+    // A button that can do nothing says why.
+    const QString detail = updater ? QString() : tr("This build does not know where to look.");
+    auto *checkNow = new QPushButton(tr("Check Now"));
+    checkNow->setAutoDefault(false);
+    checkNow->setAccessibleDescription(updater ? tr("Looks for a new version at once") : detail);
+    checkNow->setEnabled(updater != nullptr);
+    if (updater)
+        connect(checkNow, &QPushButton::clicked, this, [updater] { updater->checkForUpdates(); });
+    else
+        checkNow->setToolTip(detail);
+
+    auto *control = new SwitchButton(title, detail, m_look, m_context.motion);
+    control->setChecked(m_context.settings.autoCheckUpdates());
+    connect(control, &SwitchButton::toggled, this,
+            [updater, &settings = m_context.settings](bool on) {
+                settings.setAutoCheckUpdates(on);
+                if (updater)
+                    updater->setAutomaticallyChecksForUpdates(on);
+            });
+    section->addRow(new SettingRow(title, detail, {checkNow, control}, m_look));
+    return section;
+}
+
+} // namespace corvane

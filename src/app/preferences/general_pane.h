@@ -1,0 +1,40 @@
+#pragma once
+
+#include "app/preferences/preferences_context.h"
+#include "app/window_look.h"
+
+#include <QWidget>
+
+class QVBoxLayout;
+
+namespace corvane {
+
+class NumberPicker;
+class PreferenceSection;
+class SettingRow;
+class ShortcutRow;
+class SwitchButton;
+
+/// Every setting of the user. Each control writes what it shows at once. The settings are read when
+/// the pane is made; conflicts of shortcuts are known to the pane alone.
+class GeneralPane : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit GeneralPane(const PreferencesContext &context, QWidget *parent = nullptr);
+
+private:
+    QWidget *makeUnkeptNotice();
+    PreferenceSection *makeShelfSection();
+    PreferenceSection *makeBehaviourSection();
+    PreferenceSection *makeShortcutsSection();
+    PreferenceSection *makeUpdatesSection();
+    SettingRow *makeSwitchRow(const QString &title, const QString &detail, bool on,
+                              void (Settings::*write)(bool));
+    QString inViewDetail(int count) const;
+
+    PreferencesContext m_context;
+    WindowLook m_look;
+};
+
+} // namespace corvane

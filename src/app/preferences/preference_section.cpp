@@ -1,0 +1,76 @@
+#include "app/preferences/preference_section.h"
+
+#include "app/text_label.h"
+
+#include <QPainter>
+#include <QVBoxLayout>
+
+namespace corvane {
+
+namespace {
+
+constexpr double titleSize = 11;
+constexpr double titleInset = 2;
+constexpr double afterTitle = 6;
+constexpr double cardRadius = 8;
+constexpr double cardOpacity = 0.045;
+constexpr double lineOpacity = 0.1;
+constexpr double lineInset = 12;
+
+/// The rows' ground.
+class Card : public QWidget {
+public:
+    explicit Card(const WindowLook &look)
+        : m_look(look)
+    {
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(WindowLook::tint(palette(), cardOpacity));
+        painter.drawRoundedRect(rect(), m_look.length(cardRadius), m_look.length(cardRadius));
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        const int inset = m_look.length(lineInset);
+        for (int i = 1; i < layout()->count(); ++i) {
+            const int y = layout()->itemAt(i)->geometry().top();
+            painter.fillRect(QRect(inset, y, width() - 2 * inset, 1),
+                             WindowLook::tint(palette(), lineOpacity));
+        }
+    }
+
+private:
+    WindowLook m_look;
+};
+
+} // namespace
+
+PreferenceSection::PreferenceSection(const QString &title, const WindowLook &look, QWidget *parent)
+    : QWidget(parent)
+    , m_look(look)
+    , m_card(new Card(look))
+    , m_rows(new QVBoxLayout(m_card))
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(m_look.length(afterTitle));
+    auto *heading
+        = new TextLabel(title, m_look.font(titleSize, QFont::DemiBold), TextLabel::Tone::Heading);
+    heading->setContentsMargins(m_look.length(titleInset), 0, 0, 0);
+    layout->addWidget(heading);
+    layout->addWidget(m_card);
+    m_rows->setContentsMargins(0, 0, 0, 0);
+    m_rows->setSpacing(0);
+    // Screen readers say it on entering the group.
+    setAccessibleName(title);
+}
+
+void PreferenceSection::addRow(QWidget *row)
+{
+    m_rows->addWidget(row);
+}
+
+} // namespace corvane

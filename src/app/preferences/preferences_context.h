@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/app_info.h"
+
+namespace corvane {
+
+class DesktopServices;
+class HotKeyService;
+class KeyMonitors;
+class LoginItems;
+class MotionPreference;
+class Settings;
+class ShortcutBinder;
+class Updater;
+
+/// What the panes read and write. Everything must outlive the window.
+struct PreferencesContext {
+    Settings &settings;
+    const LoginItems &loginItems;
+    ShortcutBinder &shortcutBinder;
+    KeyMonitors &keyMonitors;
+    HotKeyService &hotKeys;
+    DesktopServices &desktopServices;
+    const MotionPreference &motion;
+    AppInfo appInfo;
+    /// Null where this build does not know where to look for updates.
+    Updater *updater = nullptr;
+};
+
+} // namespace corvane

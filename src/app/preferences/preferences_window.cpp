@@ -1,0 +1,152 @@
+#include "app/preferences/preferences_window.h"
+
+#include "app/preferences/about_pane.h"
+#include "app/preferences/choice_button.h"
+#include "app/preferences/general_pane.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+constexpr double tabFontSize = 12;
+constexpr double tabHorizontalPadding = 13;
+constexpr double tabVerticalPadding = 5;
+constexpr double tabSpacing = 4;
+constexpr double tabBarMargin = 10;
+constexpr double paneTop = 20;
+constexpr double paneSides = 24;
+constexpr double paneBottom = 26;
+constexpr double dividerOpacity = 0.12;
+
+class Divider : public QWidget {
+public:
+    Divider() { setFixedHeight(1); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter(this).fillRect(rect(), WindowLook::tint(palette(), dividerOpacity));
+    }
+};
+
+} // namespace
+
+PreferencesWindow::PreferencesWindow(const PreferencesContext &context, TabSelection &selection,
+                                     std::function<void()> onClose)
+    : ShellWindow(WindowLook().length(contentSize), std::move(onClose))
+    , m_context(context)
+    , m_selection(selection)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeTabBar());
+    layout->addWidget(new Divider);
+    m_area = new QScrollArea;
+    m_area->setFrameShape(QFrame::NoFrame);
+    m_area->setWidgetResizable(true);
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    // The window's ground, whatever colour the style has for areas.
+    m_area->viewport()->setAutoFillBackground(false);
+    layout->addWidget(m_area);
+
+    const std::weak_ptr<bool> alive = m_alive;
+    m_selection.observe([this, alive] {
+        if (!alive.expired())
+            showSelectedTab();
+    });
+    showSelectedTab();
+}
+
+QWidget *PreferencesWindow::makeTabBar()
+{
+    auto *bar = new QWidget;
+    auto *layout = new QHBoxLayout(bar);
+    const int margin = m_look.length(tabBarMargin);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(m_look.length(tabSpacing));
+    layout->addStretch();
+    for (std::size_t i = 0; i < allPreferencesTabs.size(); ++i) {
+        const PreferencesTab tab = allPreferencesTabs[i];
+        auto *button
+            = new ChoiceButton(preferences_tab::title(tab),
+                               {tabFontSize, tabHorizontalPadding, tabVerticalPadding}, m_look);
+        button->setAccessibleDescription(tr("Pane of the preferences"));
+        connect(button, &QRadioButton::clicked, this, [this, tab] { m_selection.setTab(tab); });
+        layout->addWidget(button);
+        m_tabs[i] = button;
+    }
+    layout->addStretch();
+    return bar;
+}
+
+QWidget *PreferencesWindow::makePane()
+{
+    QWidget *pane = m_selection.tab() == PreferencesTab::General
+        ? static_cast<QWidget *>(new GeneralPane(m_context))
+        : new AboutPane(m_context);
+    auto *page = new QWidget;
+    auto *layout = new QVBoxLayout(page);
+    layout->setContentsMargins(m_look.length(paneSides), m_look.length(paneTop),
+                               m_look.length(paneSides), m_look.length(paneBottom));
+    layout->addWidget(pane);
+    layout->addStretch();
+    page->setAutoFillBackground(false);
+    return page;
+}
+
+void PreferencesWindow::showSelectedTab()
+{
+    const auto at
+        = std::find(allPreferencesTabs.begin(), allPreferencesTabs.end(), m_selection.tab());
+    ChoiceButton *button = m_tabs[static_cast<std::size_t>(at - allPreferencesTabs.begin())];
+    button->setChecked(true);
+    if (m_shown == m_selection.tab())
+        return;
+    m_shown = m_selection.tab();
+    // The keyboard would otherwise be lost with the control that had it.
+    if (focusWidget() != nullptr)
+        button->setFocus(Qt::OtherFocusReason);
+    m_area->setWidget(makePane());
+}
+
+void PreferencesWindow::stepTab(int step)
+{
+    const int count = static_cast<int>(allPreferencesTabs.size());
+    const int next = (static_cast<int>(m_selection.tab()) + step + count) % count;
+    m_selection.setTab(allPreferencesTabs[static_cast<std::size_t>(next)]);
+}
+
+void PreferencesWindow::keyPressEvent(QKeyEvent *event)
+{
+    const bool withControl = event->modifiers().testFlag(Qt::ControlModifier);
+    if (withControl && (event->key() == Qt::Key_Tab || event->key() == Qt::Key_PageDown))
+        stepTab(1);
+    else if (withControl && (event->key() == Qt::Key_Backtab || event->key() == Qt::Key_PageUp))
+        stepTab(-1);
+    else
+        ShellWindow::keyPressEvent(event);
+}
+
+void PreferencesWindow::showEvent(QShowEvent *event)
+{
+    if (!event->spontaneous()) {
+        m_area->setWidget(makePane());
+        // Nothing is marked before the user reaches for the keyboard.
+        setFocus(Qt::OtherFocusReason);
+    }
+    ShellWindow::showEvent(event);
+}
+
+} // namespace corvane

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "app/preferences/preferences_context.h"
+#include "app/preferences/tab_selection.h"
+#include "app/shell_window.h"
+#include "app/window_look.h"
+
+#include <array>
+
+class QScrollArea;
+
+namespace corvane {
+
+class ChoiceButton;
+
+/// A row of tabs above the chosen pane. The selection must outlive it.
+class PreferencesWindow : public ShellWindow {
+    Q_OBJECT
+
+public:
+    static constexpr QSize contentSize{480, 560};
+
+    PreferencesWindow(const PreferencesContext &context, TabSelection &selection,
+                      std::function<void()> onClose);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    /// Reads the settings anew: they may have changed while it was closed.
+    void showEvent(QShowEvent *event) override;
+
+private:
+    QWidget *makeTabBar();
+    QWidget *makePane();
+    void showSelectedTab();
+    void stepTab(int step);
+
+    PreferencesContext m_context;
+    TabSelection &m_selection;
+    WindowLook m_look;
+    std::array<ChoiceButton *, allPreferencesTabs.size()> m_tabs{};
+    QScrollArea *m_area = nullptr;
+    std::optional<PreferencesTab> m_shown;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "app/window_look.h"
+
+#include <QWidget>
+
+namespace corvane {
+
+class TextLabel;
+
+/// A title and an explanation on the left, controls at the right.
+class SettingRow : public QWidget {
+    Q_OBJECT
+
+public:
+    /// An empty detail takes no room. The row owns the controls from now on.
+    SettingRow(const QString &title, const QString &detail, const QList<QWidget *> &controls,
+               const WindowLook &look, QWidget *parent = nullptr);
+
+    QString title() const;
+    QString detail() const;
+    void setDetail(const QString &detail);
+
+private:
+    TextLabel *m_title;
+    TextLabel *m_detail;
+};
+
+} // namespace corvane

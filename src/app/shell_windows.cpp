@@ -1,0 +1,58 @@
+#include "app/shell_windows.h"
+
+#include "app/preferences/preferences_window_controller.h"
+#include "app/welcome/welcome_window_controller.h"
+#include "core/settings.h"
+#include "platform/main_queue.h"
+#include "platform/window_activation.h"
+
+#include <QWindow>
+
+namespace corvane {
+
+ShellWindows::ShellWindows(const Context &context)
+    : m_context(context)
+{
+}
+
+ShellWindows::~ShellWindows() = default;
+
+void ShellWindows::showPreferences(PreferencesTab tab)
+{
+    if (!m_preferences) {
+        m_preferences = std::make_unique<PreferencesWindowController>(m_context.preferences);
+        m_preferences->onClose = [this] { m_preferences.reset(); };
+    }
+    m_preferences->selection().setTab(tab);
+    bringForward(m_preferences->window());
+}
+
+void ShellWindows::showWelcome()
+{
+    if (!m_welcome) {
+        m_welcome = std::make_unique<WelcomeWindowController>(m_context.preferences.motion);
+        m_welcome->onClose = [this] { m_welcome.reset(); };
+    }
+    // Now and not when it is closed: it comes by itself at most once.
+    m_context.preferences.settings.setSeenWelcome(true);
+    bringForward(m_welcome->window());
+}
+
+void ShellWindows::showWelcomeOnFirstLaunch()
+{
+    if (m_context.preferences.settings.seenWelcome())
+        return;
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.queue.asyncAfter(welcomeDelay, [this, alive] {
+        if (!alive.expired())
+            showWelcome();
+    });
+}
+
+void ShellWindows::bringForward(ShellWindow &window)
+{
+    window.present();
+    m_context.activation.bringToFront(*window.windowHandle());
+}
+
+} // namespace corvane

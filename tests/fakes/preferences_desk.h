@@ -1,0 +1,53 @@
+#pragma once
+
+#include "app/preferences/preferences_context.h"
+#include "core/settings.h"
+#include "fakes/fake_desktop_services.h"
+#include "fakes/fake_hot_keys.h"
+#include "fakes/fake_key_monitors.h"
+#include "fakes/fake_login_items.h"
+#include "fakes/fake_motion_preference.h"
+#include "fakes/memory_user_defaults.h"
+#include "fakes/test_clock.h"
+#include "input/hot_key_center.h"
+#include "input/shortcut_binder.h"
+
+#include <QJsonObject>
+
+namespace corvane::test {
+
+/// Everything that the preferences read and write, with real settings on top of fakes. Nothing
+/// moves by itself.
+struct PreferencesDesk {
+    PreferencesDesk()
+    {
+        settings.registerDefaults();
+        motion.reduces = true;
+    }
+
+    PreferencesContext context()
+    {
+        return {settings, loginItems, binder, keyMonitors, hotKeys,
+                services, motion,     info,   updater};
+    }
+
+    MemoryUserDefaults defaults;
+    FakeLoginItems loginItems;
+    Settings settings{defaults, loginItems};
+    TestClock clock;
+    FakeHotKeys hotKeys;
+    HotKeyCenter center{hotKeys, clock};
+    ShortcutBinder binder{center, [this] { return settings.shortcut(); },
+                          [this] { return settings.viewAllShortcut(); }};
+    FakeKeyMonitors keyMonitors;
+    FakeDesktopServices services;
+    FakeMotionPreference motion;
+    AppInfo info{QJsonObject{
+        {QStringLiteral("CFBundleShortVersionString"), QStringLiteral("1.2")},
+        {QStringLiteral("CFBundleVersion"), QStringLiteral("34")},
+        {QStringLiteral("CorvaneHomePage"), QStringLiteral("https://corvane.example/")},
+        {QStringLiteral("CorvaneSupportAddress"), QStringLiteral("support@corvane.example")}}};
+    Updater *updater = nullptr;
+};
+
+} // namespace corvane::test
