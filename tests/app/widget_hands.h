@@ -6,6 +6,14 @@
 
 namespace corvane::test {
 
+/// Gives a window the keyboard, as a user does who clicks it.
+inline bool activate(QWidget &window)
+{
+    window.activateWindow();
+    QCoreApplication::processEvents();
+    return window.isActiveWindow();
+}
+
 /// Types a key into a window: whatever has the keyboard in it gets it first.
 inline void typeKey(QWidget &window, Qt::Key key, Qt::KeyboardModifiers modifiers = {})
 {

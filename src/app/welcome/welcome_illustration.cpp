@@ -15,12 +15,12 @@ namespace corvane::welcome_illustration {
 
 namespace {
 
-constexpr QRectF leftWindow{52, 128, 186, 140};
-constexpr QRectF rightWindow{282, 116, 186, 152};
+constexpr QRectF leftWindow{52, 140, 186, 152};
+constexpr QRectF rightWindow{282, 126, 186, 166};
 constexpr double windowRadius = 9;
 constexpr double titleBarHeight = 20;
 constexpr QSizeF cardSize{40, 48};
-constexpr QRectF keyCap{238, 218, 44, 40};
+constexpr QRectF keyCap{238, 240, 44, 40};
 constexpr QSizeF notchSize{124, 23};
 constexpr QSizeF shelfSize{244, 58};
 constexpr double notchRadius = 8;
@@ -104,10 +104,9 @@ void drawFiles(QPainter &painter, const Colours &colours)
     painter.setPen(Qt::NoPen);
     for (int i = 0; i < 3; ++i) {
         const double x = leftWindow.left() + 40 + i * 53.0;
-        if (i > 0)
-            painter.drawRoundedRect(QRectF(x - 20, 162, 40, 48), 4, 4);
+        painter.drawRoundedRect(QRectF(x - 20, 176, 40, 48), 4, 4);
         painter.setBrush(colours.line);
-        painter.drawRoundedRect(QRectF(x - 15, 218, 30, 5), 2.5, 2.5);
+        painter.drawRoundedRect(QRectF(x - 15, 232, 30, 5), 2.5, 2.5);
         painter.setBrush(colours.titleBar);
     }
 }
@@ -120,7 +119,7 @@ void drawDocument(QPainter &painter, const QRectF &rect, const Colours &colours)
     painter.setPen(Qt::NoPen);
     const double left = rect.left() + 18;
     painter.drawRoundedRect(QRectF(left, rect.top() + 34, 64, 7), 3.5, 3.5);
-    for (const double y : {50.0, 61.0, 116.0, 127.0}) {
+    for (const double y : {50.0, 61.0, 130.0, 141.0}) {
         if (rect.top() + y + 5 < rect.bottom() - 8)
             painter.drawRoundedRect(QRectF(left, rect.top() + y, y == 61 ? 112 : 150, 5), 2.5, 2.5);
     }
@@ -173,7 +172,7 @@ void drawShelf(QPainter &painter, const WelcomeScene &scene)
         return;
     const QRectF ring = bounds.adjusted(bodyFlareRadius + ringInset, ringInset,
                                         -bodyFlareRadius - ringInset, -ringInset);
-    QPen pen(QColor::fromRgbF(1, 1, 1, static_cast<float>(0.5 * scene.ring)), 1.5);
+    QPen pen(QColor::fromRgbF(1, 1, 1, static_cast<float>(0.6 * scene.ring)), 2);
     pen.setDashPattern({3, 3});
     painter.setPen(pen);
     painter.setBrush(Qt::NoBrush);

@@ -6,9 +6,9 @@ namespace corvane::welcome_scene {
 
 namespace {
 
-constexpr QPointF leftFile{112, 186};
-constexpr QPointF leftPlace{150, 214};
-constexpr QPointF rightPlace{394, 202};
+constexpr QPointF leftFile{92, 200};
+constexpr QPointF leftPlace{146, 234};
+constexpr QPointF rightPlace{396, 220};
 constexpr QPointF slot{260, 29};
 constexpr double slotScale = 0.82;
 constexpr double liftedScale = 1.06;
@@ -46,7 +46,7 @@ double leaving(double phase)
 WelcomeScene dragIn(double phase)
 {
     WelcomeScene scene;
-    const QPointF home(236, 252);
+    const QPointF home(236, 272);
     const QPointF grip = leftFile + QPointF(2, 4);
     const QPointF drop = slot + QPointF(2, 4);
     scene.pointer
@@ -71,7 +71,7 @@ WelcomeScene dragIn(double phase)
 WelcomeScene dragOut(double phase)
 {
     WelcomeScene scene;
-    const QPointF home(196, 246);
+    const QPointF home(196, 262);
     const QPointF grip = slot + QPointF(2, 4);
     const QPointF drop = rightPlace + QPointF(2, 4);
     scene.pointer = between(home, {258, 5}, eased(phase, 0.02, 0.2));
@@ -149,9 +149,9 @@ double telling(WelcomeStep step)
     case WelcomeStep::DragIn:
         return 0.46;
     case WelcomeStep::DragOut:
-        return 0.58;
+        return 0.63;
     case WelcomeStep::Keep:
-        return 0.7;
+        return 0.75;
     }
     return 0;
 }

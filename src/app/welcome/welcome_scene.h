@@ -11,7 +11,7 @@ namespace corvane {
 /// A moment of the little play that shows a step: where everything is. Points of a stage of
 /// `stageSize`, y downward, its top edge the screen's.
 struct WelcomeScene {
-    static constexpr QSizeF stageSize{520, 300};
+    static constexpr QSizeF stageSize{520, 320};
     /// Seconds that a play takes; it begins again where it ends.
     static constexpr double duration = 3.6;
 

@@ -17,7 +17,7 @@ namespace {
 
 constexpr double titleSize = 21;
 constexpr double bodySize = 14;
-constexpr double bodyWidth = 400;
+constexpr double textInset = 58;
 constexpr double beforeTitle = 26;
 constexpr double afterTitle = 10;
 constexpr double buttonMargin = 22;
@@ -40,7 +40,8 @@ WelcomeView::WelcomeView(const MotionPreference &motion, std::function<void()> o
     m_title->setWordWrap(true);
     m_body->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     m_body->setWordWrap(true);
-    m_body->setFixedWidth(m_look.length(bodyWidth));
+    for (TextLabel *text : {m_title, m_body})
+        text->setContentsMargins(m_look.length(textInset), 0, m_look.length(textInset), 0);
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -49,7 +50,7 @@ WelcomeView::WelcomeView(const MotionPreference &motion, std::function<void()> o
     layout->addSpacing(m_look.length(beforeTitle));
     layout->addWidget(m_title);
     layout->addSpacing(m_look.length(afterTitle));
-    layout->addWidget(m_body, 0, Qt::AlignHCenter);
+    layout->addWidget(m_body);
     layout->addStretch();
     layout->addWidget(m_indicator, 0, Qt::AlignHCenter);
     layout->addWidget(makeButtons());
@@ -64,8 +65,10 @@ QWidget *WelcomeView::makeButtons()
     layout->setContentsMargins(margin, margin, margin, margin);
     m_back = new QPushButton(tr("Back"));
     m_forward = new QPushButton;
-    for (QPushButton *button : {m_back, m_forward})
+    for (QPushButton *button : {m_back, m_forward}) {
         button->setMinimumWidth(m_look.length(buttonWidth));
+        button->installEventFilter(this);
+    }
     m_back->setAccessibleDescription(tr("Goes to the step before"));
     m_forward->setAutoDefault(true);
     m_forward->setDefault(true);
@@ -112,6 +115,19 @@ void WelcomeView::goForward()
         showStep(m_step + 1);
     else if (m_onClose)
         m_onClose();
+}
+
+bool WelcomeView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        // Arrows turn the pages; buttons would hand the keyboard to each other.
+        if (key == Qt::Key_Left || key == Qt::Key_Right) {
+            keyPressEvent(static_cast<QKeyEvent *>(event));
+            return true;
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }
 
 void WelcomeView::keyPressEvent(QKeyEvent *event)

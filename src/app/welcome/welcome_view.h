@@ -31,6 +31,8 @@ public:
     /// To the next step; from the last one it closes.
     void goForward();
 
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 

@@ -8,9 +8,7 @@
 namespace corvane {
 
 WelcomeWindowController::WelcomeWindowController(const MotionPreference &motion)
-    : m_window(new ShellWindow(
-        QSize(WindowLook().length(size.width()), WindowLook().length(size.height())),
-        [this] { windowWillClose(); }))
+    : m_window(new ShellWindow(WindowLook().length(contentSize), [this] { windowWillClose(); }))
     , m_view(new WelcomeView(motion, [window = m_window.get()] { window->close(); }))
 {
     auto *layout = new QVBoxLayout(m_window.get());

@@ -13,7 +13,7 @@ class WelcomeView;
 /// thread only; `motion` must outlive it.
 class WelcomeWindowController {
 public:
-    static constexpr QSize size{520, 560};
+    static constexpr QSize contentSize{520, 560};
 
     explicit WelcomeWindowController(const MotionPreference &motion);
     WelcomeWindowController(const WelcomeWindowController &) = delete;
