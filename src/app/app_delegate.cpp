@@ -4,7 +4,11 @@
 #include "core/settings.h"
 #include "core/shelf_store.h"
 #include "input/drag_monitor.h"
+#include "input/hot_key_center.h"
+#include "input/shortcut_binder.h"
 #include "services/quick_look_presenter.h"
+
+#include <QtDebug>
 
 #include <utility>
 
@@ -28,6 +32,7 @@ void AppDelegate::applicationDidFinishLaunching()
     m_statusItem = std::make_unique<StatusItemController>(StatusItemController::Context{
         m_context.statusItem, m_context.store, m_context.settings, m_context.terminate});
     wireDragDetection();
+    wireHotKey();
     wireMenu();
 }
 
@@ -53,6 +58,25 @@ void AppDelegate::wireDragDetection()
     monitor.start();
 }
 
+void AppDelegate::wireHotKey()
+{
+    ShortcutBinder &shortcuts = m_context.shortcuts;
+    const std::weak_ptr<bool> alive = m_alive;
+    shortcuts.onToggleShelf = [this, alive] {
+        if (!alive.expired())
+            m_context.store.toggleManually();
+    };
+    shortcuts.onToggleViewAll = [this, alive] {
+        if (!alive.expired())
+            m_context.store.toggleViewAll();
+    };
+    const bool isShelfBound = shortcuts.bindShelf();
+    const bool isViewAllBound = shortcuts.bindViewAll();
+    if (!isShelfBound || !isViewAllBound)
+        qWarning("[Corvane] A shortcut is already claimed by another app; the menu bar item still "
+                 "works.");
+}
+
 void AppDelegate::wireMenu()
 {
     // The menu's rows are only there as long as the status item, which ends with this.
@@ -64,6 +88,7 @@ void AppDelegate::applicationWillTerminate()
     if (std::exchange(m_isTerminated, true))
         return;
     m_context.dragMonitor.stop();
+    m_context.hotKeys.unregisterAll();
     m_context.previewPanel.orderOut();
     m_context.presenter.discardScratch();
     m_context.spool.discardAll();

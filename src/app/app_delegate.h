@@ -10,8 +10,10 @@
 namespace corvane {
 
 class DragMonitor;
+class HotKeyCenter;
 class QuickLookPresenter;
 class ScratchSpool;
+class ShortcutBinder;
 
 /// Connects the shelf to the desktop at launch, and takes it down at the end.
 ///
@@ -20,6 +22,8 @@ class AppDelegate : public PreviewPanelController {
 public:
     struct Context {
         DragMonitor &dragMonitor;
+        HotKeyCenter &hotKeys;
+        ShortcutBinder &shortcuts;
         Settings &settings;
         ShelfStore &store;
         ScratchSpool &spool;
@@ -36,8 +40,9 @@ public:
     AppDelegate &operator=(const AppDelegate &) = delete;
 
     void applicationDidFinishLaunching();
-    /// Stops the drag monitor, closes the preview and removes its scratch file, then the spool. The
-    /// process may be ending in more than one way at once: only the first call does anything.
+    /// Stops the drag monitor, gives the hot keys back, closes the preview and removes its scratch
+    /// file, then the spool. The process may be ending in more than one way at once: only the first
+    /// call does anything.
     void applicationWillTerminate();
     /// The user started the program again. False: there is nothing else to do.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
@@ -49,6 +54,7 @@ public:
 
 private:
     void wireDragDetection();
+    void wireHotKey();
     void wireMenu();
 
     Context m_context;

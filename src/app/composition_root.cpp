@@ -63,6 +63,9 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , fileIcons(mountTable)
     , connection(terminate)
     , dragDesktop(connection)
+    , hotKeyService(connection, mainQueue)
+    , keyboardLayout(connection)
+    , keyMonitors(keyboardLayout)
     , panelSurface(connection)
     , windowActivation(connection)
     , dragSupport(connection, mainQueue)
@@ -71,7 +74,11 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , statusItem(mainQueue)
     , dragMonitor(dragDesktop, dragDesktop, dragDesktop, mainQueue)
     , screenLocator(screens, pointer)
+    , hotKeys(hotKeyService, mainQueue)
     , settings(userDefaults, loginItems)
+    , shortcuts(
+          hotKeys, [this] { return settings.shortcut(); },
+          [this] { return settings.viewAllShortcut(); })
     , spool(QFile::encodeName(QDir::tempPath()), QCoreApplication::applicationPid())
     , imageConverter(imageCodec, spool)
     , ingest(spool, imageConverter, imageCodec)
@@ -100,6 +107,8 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                pointer,
                feedback})
     , delegate({dragMonitor,
+                hotKeys,
+                shortcuts,
                 settings,
                 store,
                 spool,

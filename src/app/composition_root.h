@@ -11,7 +11,9 @@
 #include "core/settings.h"
 #include "core/shelf_store.h"
 #include "input/drag_monitor.h"
+#include "input/hot_key_center.h"
 #include "input/screen_locator.h"
+#include "input/shortcut_binder.h"
 #include "platform/freedesktop/autostart_login_items.h"
 #include "platform/freedesktop/mount_table.h"
 #include "platform/freedesktop/portal_motion_preference.h"
@@ -26,6 +28,7 @@
 #include "platform/qt/qt_file_icons.h"
 #include "platform/qt/qt_general_pasteboard.h"
 #include "platform/qt/qt_image_codec.h"
+#include "platform/qt/qt_key_monitors.h"
 #include "platform/qt/qt_keyboard.h"
 #include "platform/qt/qt_main_queue.h"
 #include "platform/qt/qt_panel_window.h"
@@ -38,6 +41,8 @@
 #include "platform/x11/x11_connection.h"
 #include "platform/x11/x11_drag_desktop.h"
 #include "platform/x11/x11_drag_support.h"
+#include "platform/x11/x11_hot_keys.h"
+#include "platform/x11/x11_keyboard_layout.h"
 #include "platform/x11/x11_panel_surface.h"
 #include "platform/x11/x11_window_activation.h"
 #include "services/link_preview_service.h"
@@ -81,6 +86,9 @@ struct CompositionRoot {
     PortalMotionPreference motionPreference;
     X11Connection connection;
     X11DragDesktop dragDesktop;
+    X11HotKeys hotKeyService;
+    X11KeyboardLayout keyboardLayout;
+    QtKeyMonitors keyMonitors;
     X11PanelSurface panelSurface;
     X11WindowActivation windowActivation;
     X11DragSupport dragSupport;
@@ -91,9 +99,11 @@ struct CompositionRoot {
     // Input.
     DragMonitor dragMonitor;
     ScreenLocator screenLocator;
+    HotKeyCenter hotKeys;
 
     // The model, and what completes it.
     Settings settings;
+    ShortcutBinder shortcuts;
     Feedback feedback;
     ScratchSpool spool;
     ImageConverter imageConverter;

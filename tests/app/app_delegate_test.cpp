@@ -2,10 +2,13 @@
 #include "app/app_info.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_drag_desktop.h"
+#include "fakes/fake_hot_keys.h"
 #include "fakes/fake_preview_panel.h"
 #include "fakes/fake_status_item.h"
 #include "fakes/shelf_model.h"
 #include "input/drag_monitor.h"
+#include "input/hot_key_center.h"
+#include "input/shortcut_binder.h"
 #include "services/quick_look_presenter.h"
 
 #include <QDir>
@@ -21,10 +24,7 @@ class AppDelegateTest : public testing::Test, protected ShelfModel {
 protected:
     AppDelegateTest()
     {
-        delegate.emplace(AppDelegate::Context{
-            monitor, settings, store, desk.spool, previewPanel, presenter, statusItem,
-            [this] { log << QStringLiteral("terminate"); }, controllerContext()});
-        delegate->applicationDidFinishLaunching();
+        launch();
         store.observeState([this](ShelfState from, ShelfState to) {
             log << QStringLiteral("state %1 %2")
                        .arg(static_cast<int>(from))
@@ -32,6 +32,29 @@ protected:
         });
         store.observeItems([this](const QList<DropItem> &) { log << QStringLiteral("items"); });
     }
+
+    void launch()
+    {
+        delegate.emplace(AppDelegate::Context{
+            monitor, hotKeys, shortcuts, settings, store, desk.spool, previewPanel, presenter,
+            statusItem, [this] { log << QStringLiteral("terminate"); }, controllerContext()});
+        delegate->applicationDidFinishLaunching();
+    }
+    bool pressHotKey(const FakeHotKeys::Combination &hotKey)
+    {
+        const bool isOurs = hotKeyService.press(hotKey.first, hotKey.second);
+        desk.clock.runPending();
+        return isOurs;
+    }
+    void bindViewAll()
+    {
+        settings.setViewAllShortcut(
+            Shortcut{viewAllHotKey.first, viewAllHotKey.second, QStringLiteral("K")});
+        ASSERT_TRUE(shortcuts.bindViewAll());
+    }
+
+    static constexpr FakeHotKeys::Combination shelfHotKey = {2, 768};
+    static constexpr FakeHotKeys::Combination viewAllHotKey = {40, 4096};
 
     /// A drag of another program that has begun and goes on.
     void drag()
@@ -48,6 +71,10 @@ protected:
 
     FakeDragDesktop desktop;
     DragMonitor monitor{desktop, desktop, desktop, desk.clock};
+    FakeHotKeys hotKeyService;
+    HotKeyCenter hotKeys{hotKeyService, desk.clock};
+    ShortcutBinder shortcuts{hotKeys, [this] { return settings.shortcut(); },
+                             [this] { return settings.viewAllShortcut(); }};
     TemporaryFolder scratch;
     FakePreviewPanel previewPanel;
     QuickLookPresenter presenter{previewPanel, scratch.path()};
@@ -216,6 +243,81 @@ TEST_F(AppDelegateTest, APreviewThatEndsAfterItIsGoneAsksNobody)
     EXPECT_FALSE(previewPanel.isVisible());
     presenter.present(ShelfDesk::textItem(QStringLiteral("b")));
     previewPanel.orderOut();
+}
+
+TEST_F(AppDelegateTest, TheShelfsHotKeyTogglesIt)
+{
+    EXPECT_TRUE(pressHotKey(shelfHotKey));
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+    EXPECT_TRUE(pressHotKey(shelfHotKey));
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, TheViewAllHotKeyDoesNothingForASingleItem)
+{
+    bindViewAll();
+    store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
+    log.clear();
+    EXPECT_TRUE(pressHotKey(viewAllHotKey));
+    EXPECT_FALSE(store.isViewAllOpen());
+    EXPECT_TRUE(log.isEmpty());
+}
+
+TEST_F(AppDelegateTest, TheViewAllHotKeyOpensTheBarForTwoItemsAlsoWhileTheShelfIsClosed)
+{
+    bindViewAll();
+    store.accept(
+        {ShelfDesk::textItem(QStringLiteral("a")), ShelfDesk::textItem(QStringLiteral("b"))});
+    store.setState(ShelfState::Idle);
+    log.clear();
+    EXPECT_TRUE(pressHotKey(viewAllHotKey));
+    EXPECT_TRUE(store.isViewAllOpen());
+    EXPECT_EQ(log, QStringList{QStringLiteral("items")});
+}
+
+TEST_F(AppDelegateTest, TheViewAllHotKeyClosesAnOpenBarWhateverTheItemCount)
+{
+    bindViewAll();
+    store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
+    store.setViewAllOpen(true);
+    log.clear();
+    EXPECT_TRUE(pressHotKey(viewAllHotKey));
+    EXPECT_FALSE(store.isViewAllOpen());
+    EXPECT_EQ(log, QStringList{QStringLiteral("items")});
+}
+
+TEST_F(AppDelegateTest, TerminationGivesTheHotKeysBackAndForgetsAPressOnItsWay)
+{
+    hotKeyService.press(shelfHotKey.first, shelfHotKey.second);
+    delegate->applicationWillTerminate();
+    desk.clock.runPending();
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+    EXPECT_EQ(hotKeyService.registrationCount(), 0U);
+    EXPECT_FALSE(pressHotKey(shelfHotKey));
+}
+
+TEST_F(AppDelegateTest, AHotKeyPressedAfterItIsGoneDoesNothing)
+{
+    delegate.reset();
+    EXPECT_TRUE(pressHotKey(shelfHotKey));
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, ShortcutsThatAreTakenAreSaidOnceAndStartUpGoesOn)
+{
+    delegate.reset();
+    hotKeys.unregisterAll();
+    hotKeyService.takenByOthers = {shelfHotKey, viewAllHotKey};
+    settings.setViewAllShortcut(
+        Shortcut{viewAllHotKey.first, viewAllHotKey.second, QStringLiteral("K")});
+    testing::internal::CaptureStderr();
+    launch();
+    const QString said = QString::fromStdString(testing::internal::GetCapturedStderr());
+    const auto line = QStringLiteral("[Corvane] A shortcut is already claimed by another app; the "
+                                     "menu bar item still works.");
+    EXPECT_EQ(said.count(line), 1) << qPrintable(said);
+    EXPECT_FALSE(delegate->applicationShouldHandleReopen(false));
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
 }
 
 TEST_F(AppDelegateTest, ADragHeardAfterItIsGoneDoesNothing)
