@@ -125,7 +125,7 @@ QImage image(int cards, int side, const QColor &foreground)
     }
     QImage result = layer(side);
     QPainter painter(&result);
-    constexpr double outlineOpacity = 0.4;
+    constexpr double outlineOpacity = 0.55;
     painter.setOpacity(outlineOpacity);
     painter.drawImage(0, 0, outline);
     painter.setOpacity(1);
