@@ -1,5 +1,6 @@
 #include "app/app_delegate.h"
 
+#include "app/shell_windows.h"
 #include "core/scratch_spool.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
@@ -34,6 +35,7 @@ void AppDelegate::applicationDidFinishLaunching()
     wireDragDetection();
     wireHotKey();
     wireMenu();
+    m_context.windows.showWelcomeOnFirstLaunch();
 }
 
 void AppDelegate::wireDragDetection()
@@ -81,6 +83,8 @@ void AppDelegate::wireMenu()
 {
     // The menu's rows are only there as long as the status item, which ends with this.
     m_statusItem->onShowShelf = [this] { m_context.store.toggleManually(); };
+    m_statusItem->onPreferences = [this] { showPreferences(PreferencesTab::General); };
+    m_statusItem->onWelcome = [this] { showWelcome(); };
 }
 
 void AppDelegate::applicationWillTerminate()
@@ -98,6 +102,16 @@ bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/)
 {
     m_context.store.toggleManually();
     return false;
+}
+
+void AppDelegate::showPreferences(PreferencesTab tab)
+{
+    m_context.windows.showPreferences(tab);
+}
+
+void AppDelegate::showWelcome()
+{
+    m_context.windows.showWelcome();
 }
 
 bool AppDelegate::acceptsPreviewPanelControl(PreviewPanel & /*panel*/)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/preferences/preferences_tab.h"
 #include "app/status_item_controller.h"
 #include "platform/preview_panel.h"
 #include "shelf/hud_controller.h"
@@ -13,6 +14,7 @@ class DragMonitor;
 class HotKeyCenter;
 class QuickLookPresenter;
 class ScratchSpool;
+class ShellWindows;
 class ShortcutBinder;
 
 /// Connects the shelf to the desktop at launch, and takes it down at the end.
@@ -30,6 +32,7 @@ public:
         PreviewPanel &previewPanel;
         QuickLookPresenter &presenter;
         StatusItem &statusItem;
+        ShellWindows &windows;
         /// Ends the program.
         std::function<void()> terminate;
         HUDController::Context hud;
@@ -46,6 +49,9 @@ public:
     void applicationWillTerminate();
     /// The user started the program again. False: there is nothing else to do.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
+
+    void showPreferences(PreferencesTab tab);
+    void showWelcome();
 
     /// Until the process is ending.
     bool acceptsPreviewPanelControl(PreviewPanel &panel) override;

@@ -58,6 +58,10 @@ int runApplication(int argc, char **argv)
         if (!std::exchange(isBeingLaunched, false) && delegate)
             delegate->applicationShouldHandleReopen(false);
     });
+    instance.onAction = [&delegate](const QString &name) {
+        if (delegate && name == QStringLiteral("preferences"))
+            delegate->showPreferences(PreferencesTab::General);
+    };
     if (outcome == SingleInstance::Outcome::HandedOver)
         return 0;
 

@@ -106,6 +106,10 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                dragDesktop,
                pointer,
                feedback})
+    , windows({{settings, loginItems, shortcuts, keyMonitors, hotKeyService, desktopServices,
+                motionPreference, AppInfo::builtIn()},
+               windowActivation,
+               mainQueue})
     , delegate({dragMonitor,
                 hotKeys,
                 shortcuts,
@@ -115,6 +119,7 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                 previewPanel,
                 presenter,
                 statusItem,
+                windows,
                 terminate,
                 {{panel, mainQueue, motionPreference, theme, layerAnimator, textMeasurer, keyboard,
                   ingest, dragWriter},

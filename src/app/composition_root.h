@@ -2,6 +2,7 @@
 
 #include "app/app_delegate.h"
 #include "app/desktop_status_item.h"
+#include "app/shell_windows.h"
 #include "core/drag_writer.h"
 #include "core/feedback.h"
 #include "core/image_converter.h"
@@ -135,6 +136,7 @@ struct CompositionRoot {
     LayerAnimator layerAnimator;
     DragWriter dragWriter;
     ViewAllController viewAll;
+    ShellWindows windows;
     AppDelegate delegate;
 };
 

@@ -1,10 +1,16 @@
 #include "app/app_delegate.h"
 #include "app/app_info.h"
+#include "app/preferences/preferences_window_controller.h"
+#include "app/shell_windows.h"
+#include "app/welcome/welcome_window_controller.h"
 #include "core/temporary_spool.h"
+#include "fakes/fake_desktop_services.h"
 #include "fakes/fake_drag_desktop.h"
 #include "fakes/fake_hot_keys.h"
+#include "fakes/fake_key_monitors.h"
 #include "fakes/fake_preview_panel.h"
 #include "fakes/fake_status_item.h"
+#include "fakes/fake_window_activation.h"
 #include "fakes/shelf_model.h"
 #include "input/drag_monitor.h"
 #include "input/hot_key_center.h"
@@ -24,6 +30,7 @@ class AppDelegateTest : public testing::Test, protected ShelfModel {
 protected:
     AppDelegateTest()
     {
+        settings.setSeenWelcome(true);
         launch();
         store.observeState([this](ShelfState from, ShelfState to) {
             log << QStringLiteral("state %1 %2")
@@ -37,7 +44,8 @@ protected:
     {
         delegate.emplace(AppDelegate::Context{
             monitor, hotKeys, shortcuts, settings, store, desk.spool, previewPanel, presenter,
-            statusItem, [this] { log << QStringLiteral("terminate"); }, controllerContext()});
+            statusItem, windows, [this] { log << QStringLiteral("terminate"); },
+            controllerContext()});
         delegate->applicationDidFinishLaunching();
     }
     bool pressHotKey(const FakeHotKeys::Combination &hotKey)
@@ -79,6 +87,13 @@ protected:
     FakePreviewPanel previewPanel;
     QuickLookPresenter presenter{previewPanel, scratch.path()};
     FakeStatusItem statusItem;
+    FakeKeyMonitors keyMonitors;
+    FakeDesktopServices desktopServices;
+    FakeWindowActivation activation;
+    ShellWindows windows{{{settings, loginItems, shortcuts, keyMonitors, hotKeyService,
+                           desktopServices, desk.motion, AppInfo({})},
+                          activation,
+                          desk.clock}};
     std::optional<AppDelegate> delegate;
     QStringList log;
 };
@@ -326,6 +341,30 @@ TEST_F(AppDelegateTest, ADragHeardAfterItIsGoneDoesNothing)
     drag();
     release();
     EXPECT_TRUE(log.isEmpty());
+}
+
+TEST_F(AppDelegateTest, TheMenuOpensThePreferencesAtGeneral)
+{
+    statusItem.open();
+    ASSERT_TRUE(statusItem.choose(u"Preferences"));
+    ASSERT_NE(windows.preferences(), nullptr);
+    EXPECT_EQ(windows.preferences()->selection().tab(), PreferencesTab::General);
+}
+
+TEST_F(AppDelegateTest, TheMenuOpensTheGuide)
+{
+    statusItem.open();
+    ASSERT_TRUE(statusItem.choose(u"How It Works"));
+    EXPECT_NE(windows.welcome(), nullptr);
+}
+
+TEST_F(AppDelegateTest, TheFirstLaunchShowsTheGuide)
+{
+    settings.setSeenWelcome(false);
+    launch();
+    desk.clock.advance(ShellWindows::welcomeDelay);
+    EXPECT_NE(windows.welcome(), nullptr);
+    EXPECT_TRUE(settings.seenWelcome());
 }
 
 TEST(AppInfo, GivesTheTextsOfTheDictionary)
