@@ -21,7 +21,9 @@ IllustrationView::IllustrationView(const WindowLook &look, const MotionPreferenc
     , m_look(look)
     , m_motion(motion)
 {
-    setFixedHeight(m_look.length(WelcomeScene::stageSize.height()));
+    // On a small screen the texts and buttons need their room first.
+    setMaximumHeight(m_look.length(WelcomeScene::stageSize.height()));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
     m_phase.setDuration(playMilliseconds);
     m_phase.setStartValue(0.0);
     m_phase.setEndValue(1.0);

@@ -23,6 +23,7 @@ public:
                      QWidget *parent = nullptr);
 
     void setStep(WelcomeStep step);
+    QSize sizeHint() const override { return {0, maximumHeight()}; }
     bool isPlaying() const { return m_phase.state() == QAbstractAnimation::Running; }
 
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -68,13 +68,12 @@ void drawShadow(QPainter &painter, const QRectF &rect, double radius, double dep
     painter.restore();
 }
 
-void drawDesktop(QPainter &painter, const Colours &colours)
+void drawDesktop(QPainter &painter, const QRectF &area, const Colours &colours)
 {
-    const QRectF stage({0, 0}, WelcomeScene::stageSize);
-    QLinearGradient gradient(stage.topLeft(), stage.bottomRight());
+    QLinearGradient gradient(area.topLeft(), area.bottomRight());
     gradient.setColorAt(0, colours.sky);
     gradient.setColorAt(1, colours.ground);
-    painter.fillRect(stage, gradient);
+    painter.fillRect(area, gradient);
 }
 
 void drawWindow(QPainter &painter, const QRectF &rect, const Colours &colours)
@@ -220,11 +219,12 @@ void draw(QPainter &painter, const QRectF &area, const WelcomeScene &scene, cons
     const Colours colours(palette);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.translate(area.topLeft());
-    painter.scale(area.width() / WelcomeScene::stageSize.width(),
-                  area.height() / WelcomeScene::stageSize.height());
-    painter.setClipRect(QRectF({0, 0}, WelcomeScene::stageSize), Qt::IntersectClip);
-    drawDesktop(painter, colours);
+    painter.setClipRect(area, Qt::IntersectClip);
+    drawDesktop(painter, area, colours);
+    const QSizeF stage = WelcomeScene::stageSize;
+    const double scale = std::min(area.width() / stage.width(), area.height() / stage.height());
+    painter.translate(area.center().x() - stage.width() * scale / 2, area.top());
+    painter.scale(scale, scale);
     if (scene.showsKey)
         drawDocument(painter, leftWindow, colours);
     else

@@ -9,7 +9,8 @@ class QRectF;
 
 namespace corvane::welcome_illustration {
 
-/// Draws a moment of a play: two windows on a desktop, the shelf at its top, and what moves.
+/// Draws a moment of a play: two windows on a desktop, the shelf at its top, and what moves. The
+/// desktop fills the area; the stage stands in its middle, as large as it fits.
 /// Light or dark, and the accent, are the palette's; `keyFont` has a sign for the Shift key.
 void draw(QPainter &painter, const QRectF &area, const WelcomeScene &scene, const QPalette &palette,
           const QFont &keyFont);

@@ -46,11 +46,12 @@ WelcomeView::WelcomeView(const MotionPreference &motion, std::function<void()> o
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_illustration);
+    layout->addWidget(m_illustration, 1);
     layout->addSpacing(m_look.length(beforeTitle));
     layout->addWidget(m_title);
     layout->addSpacing(m_look.length(afterTitle));
     layout->addWidget(m_body);
+    layout->addSpacing(m_look.length(afterTitle));
     layout->addStretch();
     layout->addWidget(m_indicator, 0, Qt::AlignHCenter);
     layout->addWidget(makeButtons());
