@@ -103,6 +103,14 @@ TEST(QtUserDefaults, aPlaceThatCannotBeWrittenIsSurvived)
     QtUserDefaults defaults(QStringLiteral("/dev/null/settings.ini"));
     defaults.setInteger(4, key);
     EXPECT_EQ(defaults.integerForKey(key), 4);
+    EXPECT_FALSE(defaults.areKept());
+}
+
+TEST(QtUserDefaults, aPlaceThatIsYetToBeMadeKeepsThem)
+{
+    const QTemporaryDir folder;
+    QtUserDefaults defaults(folder.filePath(QStringLiteral("new/settings.ini")));
+    EXPECT_TRUE(defaults.areKept());
 }
 
 } // namespace corvane::test
