@@ -122,6 +122,12 @@ struct QtPreviewPanelTest : testing::Test {
         panel->makeKeyAndOrderFront();
         loading.answer(std::move(content));
     }
+    /// Until nothing waits to be painted.
+    static void paint()
+    {
+        for (int turn = 0; turn < 50; ++turn)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 1);
+    }
     static void key(QWindow &to, QEvent::Type type, int code, quint64 time, bool isRepeat = false)
     {
         constexpr quint32 scanCode = 65;
@@ -334,20 +340,25 @@ TEST_F(QtPreviewPanelTest, AnAnimationThatNobodySeesMakesNoFrames)
     picture.document = std::make_shared<FakePreviewDocuments::Document>();
     content.body = picture;
     show(content);
+    paint();
     EXPECT_EQ(loading.framesAsked, 1);
     const PreviewDocument::Frame frame{picture.fitted, 0.1};
     loading.frameAsked(frame);
     clock.runPending();
+    paint();
     EXPECT_EQ(loading.framesAsked, 2) << "the next one is made while this one stands";
     loading.frameAsked(frame);
     clock.advance(0.05);
+    paint();
     EXPECT_EQ(loading.framesAsked, 2);
     clock.advance(0.06);
+    paint();
     EXPECT_EQ(loading.framesAsked, 3);
     panel->orderOut();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     loading.frameAsked(frame);
     clock.advance(1);
+    paint();
     EXPECT_EQ(loading.framesAsked, 3);
     EXPECT_EQ(clock.pendingCount(), 0U);
 }

@@ -7,6 +7,7 @@
 #include <QNativeGestureEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
@@ -48,6 +49,7 @@ PictureView::PictureView(const PreviewContent::Picture &picture, PreviewLoading 
     , m_loading(loading)
     , m_queue(queue)
     , m_best(picture.fitted)
+    , m_isAnimating(picture.isAnimated && picture.document)
 {
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(QStringLiteral("Picture"));
@@ -156,7 +158,9 @@ void PictureView::askForPixels()
 
 void PictureView::askForFrame()
 {
-    if (!m_isAnimating || std::exchange(m_isFrameAsked, true))
+    const QWindow *const handle = window()->windowHandle();
+    const bool isSeen = handle && handle->isExposed();
+    if (!m_isAnimating || !isSeen || std::exchange(m_isFrameDue, true))
         return;
     const QSize limit = m_picture.fitted.size().expandedTo({1, 1});
     m_loading.nextFrame(
@@ -164,11 +168,9 @@ void PictureView::askForFrame()
         [this, alive = std::weak_ptr(m_alive)](const std::optional<PreviewDocument::Frame> &next) {
             if (alive.expired())
                 return;
-            m_isFrameAsked = false;
-            if (!next) {
-                m_isAnimating = false;
+            m_isAnimating = next.has_value();
+            if (!next)
                 return;
-            }
             m_queue.asyncAfter(std::max(m_frameEnd - m_queue.now(), 0.0),
                                [this, alive, frame = *next] {
                                    if (!alive.expired())
@@ -181,8 +183,9 @@ void PictureView::showFrame(const PreviewDocument::Frame &frame)
 {
     m_best = frame.image;
     m_frameEnd = m_queue.now() + frame.duration;
+    m_isFrameDue = false;
+    // Painting asks for the next one.
     update();
-    askForFrame();
 }
 
 void PictureView::paintEvent(QPaintEvent *)
@@ -196,6 +199,8 @@ void PictureView::paintEvent(QPaintEvent *)
     const bool isEnlarged = m_zoom.scale() >= 2 && !m_picture.isVector;
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !isEnlarged);
     painter.drawImage(target, m_best);
+    // Only here: while nobody sees it, it is not painted and stands still.
+    askForFrame();
 }
 
 void PictureView::resizeEvent(QResizeEvent *)
@@ -212,13 +217,6 @@ void PictureView::resizeEvent(QResizeEvent *)
 void PictureView::showEvent(QShowEvent *)
 {
     askForPixels();
-    m_isAnimating = m_picture.isAnimated && m_picture.document;
-    askForFrame();
-}
-
-void PictureView::hideEvent(QHideEvent *)
-{
-    m_isAnimating = false;
 }
 
 void PictureView::wheelEvent(QWheelEvent *event)

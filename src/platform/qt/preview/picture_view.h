@@ -27,7 +27,6 @@ protected:
     void paintEvent(QPaintEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void showEvent(QShowEvent *event) override;
-    void hideEvent(QHideEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
@@ -53,8 +52,9 @@ private:
     QImage m_best;
     QSize m_asked;
     bool m_isRendering = false;
-    bool m_isAnimating = false;
-    bool m_isFrameAsked = false;
+    bool m_isAnimating;
+    /// The next frame is being made, or waits until the present one has stood.
+    bool m_isFrameDue = false;
     /// When the present frame has stood long enough, on the queue's clock.
     double m_frameEnd = 0;
     QPointF m_grip;
