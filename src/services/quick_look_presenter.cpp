@@ -1,5 +1,6 @@
 #include "services/quick_look_presenter.h"
 
+#include "core/display_text.h"
 #include "core/drop_item.h"
 #include "core/private_file.h"
 #include "platform/file_url.h"
@@ -69,7 +70,7 @@ void QuickLookPresenter::present(const DropItem &item)
 
 std::optional<QString> QuickLookPresenter::previewItemTitle(int /*index*/) const
 {
-    return m_scratchURL ? std::optional(m_title) : std::nullopt;
+    return m_scratchURL ? std::optional(displayText(m_title)) : std::nullopt;
 }
 
 void QuickLookPresenter::discardScratch()

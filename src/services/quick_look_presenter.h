@@ -39,7 +39,7 @@ public:
     int numberOfPreviewItems() const override { return m_previewURL ? 1 : 0; }
     /// The one address, whatever the index.
     std::optional<QUrl> previewItemAt(int /*index*/) const override { return m_previewURL; }
-    /// The item's title while the address is a scratch file.
+    /// The item's title, fit to be shown, while the address is a scratch file.
     std::optional<QString> previewItemTitle(int index) const override;
 
 private:

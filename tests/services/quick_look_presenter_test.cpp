@@ -80,6 +80,9 @@ TEST_F(QuickLookPresenterTest, CallsAScratchFileByItsItemsTitleAndAFileByItsName
     EXPECT_EQ(presenter->previewItemTitle(0), QStringLiteral("title"));
     presenter->present(itemOf(DropItem::File{QUrl(QStringLiteral("file:///home/a.txt"))}));
     EXPECT_FALSE(presenter->previewItemTitle(0).has_value());
+    presenter->present(
+        {DropItem::Text{QStringLiteral("x")}, QStringLiteral("a\u202Eb"), {}, false});
+    EXPECT_EQ(presenter->previewItemTitle(0), QStringLiteral("a\uFFFDb")) << "harmless";
 }
 
 TEST_F(QuickLookPresenterTest, LetsNobodyElseReadAScratchFile)
