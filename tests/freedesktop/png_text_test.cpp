@@ -2,8 +2,6 @@
 
 #include <QBuffer>
 #include <QImage>
-#include <QImageReader>
-#include <QImageWriter>
 
 #include <gtest/gtest.h>
 
@@ -15,13 +13,12 @@ QByteArray picture(const QString &key = {}, const QString &text = {})
 {
     QImage image(4, 4, QImage::Format_RGB32);
     image.fill(Qt::red);
+    if (!key.isEmpty())
+        image.setText(key, text);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "png");
-    if (!key.isEmpty())
-        writer.setText(key, text);
-    EXPECT_TRUE(writer.write(image));
+    EXPECT_TRUE(image.save(&buffer, "png"));
     return bytes;
 }
 
@@ -45,19 +42,16 @@ TEST(PngText, isReadAgainAndLeavesThePictureWhole)
     EXPECT_EQ(textOf(png, "Thumb::URI"), longUri);
     EXPECT_EQ(textOf(png, "Thumb::MTime"), "12");
     EXPECT_EQ(png_text::thumbnailTexts(png)->size(), 2);
-    QBuffer buffer;
-    buffer.setData(png);
-    buffer.open(QIODevice::ReadOnly);
-    QImageReader reader(&buffer);
-    EXPECT_EQ(reader.text(QStringLiteral("Thumb::URI")), QString::fromLatin1(longUri))
+    const QImage shown = QImage::fromData(png);
+    EXPECT_EQ(shown.text(QStringLiteral("Thumb::URI")), QString::fromLatin1(longUri))
         << "the check sums are right";
-    EXPECT_EQ(reader.read().pixelColor(1, 1), QColor(Qt::red));
+    EXPECT_EQ(shown.pixelColor(1, 1), QColor(Qt::red));
 }
 
 TEST(PngText, isWrittenSoThatEveryProgramCanReadIt)
 {
     const QByteArray png = png_text::withTexts(picture(), {{"Thumb::URI", longUri}});
-    EXPECT_TRUE(png.contains(QByteArray("tEXtThumb::URI\0", 15) + longUri));
+    EXPECT_TRUE(png.contains(QByteArray(QByteArray("tEXtThumb::URI\0", 15) + longUri)));
 }
 
 TEST(PngText, isReadWhereOthersCompressedIt)
@@ -88,9 +82,9 @@ TEST(PngText, thatIsBrokenOrEndlessIsLeftOut)
     const QByteArray head = picture().first(33);
     const QByteArray huge = QByteArray("\xff\xff\xff\xff", 4) + "tEXtThumb::URI";
     EXPECT_TRUE(png_text::thumbnailTexts(head + huge)->isEmpty());
-    const QByteArray cut = QByteArray("\0\0\0\x0e", 4) + "zTXtThumb::URI" + QByteArray(4, '\0');
+    const QByteArray cut = QByteArray("\0\0\0\x0a", 4) + "zTXtThumb::URI" + QByteArray(4, '\0');
     EXPECT_EQ(textOf(head + cut, "Thumb::URI"), "") << "no compressed bytes at all";
-    const QByteArray garbage = QByteArray("\0\0\0\x14", 4) + "zTXtThumb::URI"
+    const QByteArray garbage = QByteArray("\0\0\0\x10", 4) + "zTXtThumb::URI"
         + QByteArray("\0\0nope", 6) + QByteArray(4, '\0');
     EXPECT_EQ(textOf(head + garbage, "Thumb::URI"), "");
     QByteArray many = head;

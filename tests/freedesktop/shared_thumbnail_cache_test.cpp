@@ -93,11 +93,11 @@ protected:
         return QCryptographicHash::hash(thumbnailUri(file.path), QCryptographicHash::Md5).toHex()
             + ".png";
     }
-    void put(const QByteArray &folder, const FileVersion &file, const QImage &picture,
+    void put(const QByteArray &size, const FileVersion &file, const QImage &picture,
              const png_text::Texts &texts) const
     {
-        QDir().mkpath(QFile::decodeName(path("cache/thumbnails/" + folder)));
-        QFile out(QFile::decodeName(path("cache/thumbnails/" + folder + '/' + nameOf(file))));
+        QDir().mkpath(QFile::decodeName(path("cache/thumbnails/" + size)));
+        QFile out(QFile::decodeName(path("cache/thumbnails/" + size + '/' + nameOf(file))));
         ASSERT_TRUE(out.open(QFile::WriteOnly));
         out.write(png_text::withTexts(*codec.encode(picture, UTType::png()), texts));
     }
