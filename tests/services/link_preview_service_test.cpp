@@ -152,7 +152,7 @@ TEST_F(LinkPreviewServiceTest, ResolvesThePictureAgainstTheFinalAddress)
     load();
     web.answer(0,
                WebResponse{200, -1, QUrl(QStringLiteral("http://final.example/x/y")),
-                           "<meta property=\"og:image\" content=\"/img/card.png\">"});
+                           R"(<meta property="og:image" content="/img/card.png">)"});
     settle();
     ASSERT_EQ(web.requests.size(), 2U);
     EXPECT_EQ(web.requests[1].url, QUrl(QStringLiteral("http://final.example/img/card.png")));
@@ -215,7 +215,7 @@ TEST_F(LinkPreviewServiceTest, HasNoPreviewOfAPageThatIsNotUseful)
 TEST_F(LinkPreviewServiceTest, GivesABlankTitleAsAnEmptyOne)
 {
     load();
-    givePage("<meta property=\"og:title\" content=\"   \">");
+    givePage(R"(<meta property="og:title" content="   ">)");
     ASSERT_TRUE(result.has_value());
     EXPECT_EQ(result->title, QString());
 }

@@ -176,9 +176,9 @@ TEST(PageReader, SkipsATagWithoutContent)
 {
     const char *const title = "<title>document</title>";
     for (const char *tag :
-         {"<meta property=\"og:title\" content=\"\">", "<meta property=\"og:title\" content=''>",
+         {R"(<meta property="og:title" content="">)", "<meta property=\"og:title\" content=''>",
           "<meta property=\"og:title\" content=>", "<meta property=\"og:title\">",
-          "<meta property=\"og:title\" content=\"never closed>"})
+          R"(<meta property="og:title" content="never closed>)"})
         EXPECT_EQ(read(QByteArray(tag) + title).title, text("document")) << tag;
     EXPECT_EQ(read("<meta name=og:title content=''><meta name=og:title content=second>").title,
               text("second"));
@@ -328,7 +328,7 @@ TEST(PageReader, ResolvesThePictureAgainstThePage)
     };
     for (const Case &c : cases) {
         const QByteArray html
-            = QByteArray("<meta property=\"og:image\" content=\"") + c.content + "\">";
+            = QByteArray(R"(<meta property="og:image" content=")") + c.content + "\">";
         const Preview preview = read(html);
         ASSERT_TRUE(preview.imageURL.has_value()) << c.content;
         EXPECT_EQ(preview.imageURL->toEncoded(), c.url);
@@ -340,7 +340,7 @@ TEST(PageReader, HasNoPictureWhereTheFirstKeyHoldsNoAddress)
 {
     for (const char *content : {" ", "http://[", "http://a:99999999/", "http://a b/", "::"}) {
         const QByteArray html = QByteArray("<meta name=og:image content=\"") + content
-            + "\"><meta name=twitter:image content=\"http://x/\">";
+            + R"("><meta name=twitter:image content="http://x/">)";
         EXPECT_EQ(read(html).imageURL, std::nullopt) << content;
         EXPECT_FALSE(read(html).isUseful());
     }
