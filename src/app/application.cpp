@@ -58,7 +58,8 @@ int runApplication(int argc, char **argv)
         if (!std::exchange(isBeingLaunched, false) && delegate)
             delegate->applicationShouldHandleReopen(false);
     });
-    instance.onAction = [&delegate](const QString &name) {
+    instance.onAction = [&delegate, &isBeingLaunched](const QString &name) {
+        isBeingLaunched = false;
         if (delegate && name == QStringLiteral("preferences"))
             delegate->showPreferences(PreferencesTab::General);
     };
