@@ -20,6 +20,8 @@ namespace {
 
 constexpr double betweenSections = 20;
 constexpr double noticeSize = 12;
+constexpr double buttonTextSize = 12;
+constexpr QSize buttonSize{88, 26};
 
 } // namespace
 
@@ -138,6 +140,8 @@ PreferenceSection *GeneralPane::makeUpdatesSection()
     const QString detail = updater ? QString() : tr("This build does not know where to look.");
     auto *checkNow = new QPushButton(tr("Check Now"));
     checkNow->setAutoDefault(false);
+    checkNow->setFont(m_look.font(buttonTextSize));
+    checkNow->setMinimumSize(m_look.length(buttonSize));
     checkNow->setAccessibleDescription(updater ? tr("Looks for a new version at once") : detail);
     checkNow->setEnabled(updater != nullptr);
     if (updater)

@@ -21,7 +21,8 @@ constexpr double textInset = 58;
 constexpr double beforeTitle = 26;
 constexpr double afterTitle = 10;
 constexpr double buttonMargin = 22;
-constexpr double buttonWidth = 116;
+constexpr double buttonTextSize = 13;
+constexpr QSize buttonSize{116, 30};
 constexpr int lastStep = static_cast<int>(allWelcomeSteps.size()) - 1;
 
 } // namespace
@@ -67,7 +68,8 @@ QWidget *WelcomeView::makeButtons()
     m_back = new QPushButton(tr("Back"));
     m_forward = new QPushButton;
     for (QPushButton *button : {m_back, m_forward}) {
-        button->setMinimumWidth(m_look.length(buttonWidth));
+        button->setFont(m_look.font(buttonTextSize));
+        button->setMinimumSize(m_look.length(buttonSize));
         button->installEventFilter(this);
     }
     m_back->setAccessibleDescription(tr("Goes to the step before"));
