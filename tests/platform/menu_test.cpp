@@ -200,6 +200,7 @@ TEST(MenuPopup, showsKeysBesideTheRowsWithoutMakingShortcutsOfThem)
     ASSERT_EQ(actions.size(), 3);
     EXPECT_EQ(actions.at(0)->text(), QStringLiteral("Quit && go\tCtrl+Q"));
     EXPECT_TRUE(actions.at(1)->isSeparator());
+    EXPECT_EQ(actions.at(2)->text(), QStringLiteral("Other"));
     for (const QAction *action : actions)
         EXPECT_TRUE(action->shortcuts().isEmpty());
     menu->close();
