@@ -49,7 +49,7 @@ void ShellWindows::showWelcomeOnFirstLaunch()
     });
 }
 
-void ShellWindows::bringForward(ShellWindow &window)
+void ShellWindows::bringForward(ShellWindow &window) const
 {
     window.present();
     m_context.activation.bringToFront(*window.windowHandle());

@@ -43,7 +43,7 @@ public:
     WelcomeWindowController *welcome() const { return m_welcome.get(); }
 
 private:
-    void bringForward(ShellWindow &window);
+    void bringForward(ShellWindow &window) const;
 
     Context m_context;
     std::unique_ptr<PreferencesWindowController> m_preferences;

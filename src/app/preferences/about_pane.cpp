@@ -57,7 +57,7 @@ AboutPane::AboutPane(const PreferencesContext &context, QWidget *parent)
     layout->addStretch();
 }
 
-QWidget *AboutPane::makeParagraph(const QString &text)
+QWidget *AboutPane::makeParagraph(const QString &text) const
 {
     auto *paragraph = new TextLabel(text, m_look.font(textSize), TextLabel::Tone::Primary);
     paragraph->setWordWrap(true);

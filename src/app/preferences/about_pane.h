@@ -15,7 +15,7 @@ public:
     explicit AboutPane(const PreferencesContext &context, QWidget *parent = nullptr);
 
 private:
-    QWidget *makeParagraph(const QString &text);
+    QWidget *makeParagraph(const QString &text) const;
     QWidget *makeLinks();
     QWidget *makeLink(const QString &text, const QString &description, const QUrl &url);
 

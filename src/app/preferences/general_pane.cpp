@@ -40,7 +40,7 @@ GeneralPane::GeneralPane(const PreferencesContext &context, QWidget *parent)
     layout->addWidget(makeUpdatesSection());
 }
 
-QWidget *GeneralPane::makeUnkeptNotice()
+QWidget *GeneralPane::makeUnkeptNotice() const
 {
     auto *notice = new TextLabel(tr("Your settings folder cannot be written to. Changes work until "
                                     "Corvane quits, and are not kept."),
@@ -65,7 +65,7 @@ PreferenceSection *GeneralPane::makeShelfSection()
     return section;
 }
 
-QString GeneralPane::inViewDetail(int count) const
+QString GeneralPane::inViewDetail(int count)
 {
     if (count == 1)
         return tr("One at a time. Use the arrows to page through the rest.");

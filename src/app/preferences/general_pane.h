@@ -24,14 +24,14 @@ public:
     explicit GeneralPane(const PreferencesContext &context, QWidget *parent = nullptr);
 
 private:
-    QWidget *makeUnkeptNotice();
+    QWidget *makeUnkeptNotice() const;
     PreferenceSection *makeShelfSection();
     PreferenceSection *makeBehaviourSection();
     PreferenceSection *makeShortcutsSection();
     PreferenceSection *makeUpdatesSection();
     SettingRow *makeSwitchRow(const QString &title, const QString &detail, bool on,
                               void (Settings::*write)(bool));
-    QString inViewDetail(int count) const;
+    static QString inViewDetail(int count);
 
     PreferencesContext m_context;
     WindowLook m_look;

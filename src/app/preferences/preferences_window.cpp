@@ -91,7 +91,7 @@ QWidget *PreferencesWindow::makeTabBar()
     return bar;
 }
 
-QWidget *PreferencesWindow::makePane()
+QWidget *PreferencesWindow::makePane() const
 {
     QWidget *pane = m_selection.tab() == PreferencesTab::General
         ? static_cast<QWidget *>(new GeneralPane(m_context))

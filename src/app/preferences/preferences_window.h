@@ -30,7 +30,7 @@ protected:
 
 private:
     QWidget *makeTabBar();
-    QWidget *makePane();
+    QWidget *makePane() const;
     void showSelectedTab();
     void stepTab(int step);
 

@@ -122,13 +122,11 @@ void WelcomeView::goForward()
 
 bool WelcomeView::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        // Arrows turn the pages; buttons would hand the keyboard to each other.
-        if (key == Qt::Key_Left || key == Qt::Key_Right) {
-            keyPressEvent(static_cast<QKeyEvent *>(event));
-            return true;
-        }
+    // Arrows turn the pages; buttons would hand the keyboard to each other.
+    auto *press = event->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent *>(event) : nullptr;
+    if (press && (press->key() == Qt::Key_Left || press->key() == Qt::Key_Right)) {
+        keyPressEvent(press);
+        return true;
     }
     return QWidget::eventFilter(watched, event);
 }
