@@ -25,7 +25,7 @@ inline QByteArray film(const QColor &color = Qt::red)
             bytes += number(value);
         return bytes;
     };
-    const auto chunk = [&](const QByteArray &name, const QByteArray &data) {
+    const auto chunk = [&](const QByteArray &name, const QByteArray &data) -> QByteArray {
         return name + number(static_cast<quint32>(data.size())) + data
             + QByteArray(data.size() % 2, '\0');
     };

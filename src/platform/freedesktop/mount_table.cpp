@@ -100,8 +100,8 @@ MountTable::Mounts MountTable::readTable() const
     if (m_descriptor < 0)
         m_descriptor = ::open(m_tablePath.constData(), O_RDONLY | O_CLOEXEC);
     QByteArray table;
-    std::array<char, 65'536> buffer;
-    constexpr qsizetype longestTable = 16 * 1024 * 1024;
+    std::array<char, 65'536> buffer = {};
+    constexpr qsizetype longestTable = qsizetype(16) * 1024 * 1024;
     while (m_descriptor >= 0 && table.size() < longestTable) {
         const auto count = ::pread(m_descriptor, buffer.data(), buffer.size(), table.size());
         if (count < 0 && errno == EINTR)

@@ -101,7 +101,7 @@ bool readAll(int output, int stop, const Limits &limits, QByteArray &data)
         + std::chrono::duration_cast<Clock::duration>(
                               std::chrono::duration<double>(limits.seconds));
     std::array<pollfd, 2> sources = {pollfd{output, POLLIN, 0}, pollfd{stop, POLLIN, 0}};
-    std::array<char, 65'536> buffer;
+    std::array<char, 65'536> buffer = {};
     while (true) {
         const int ready = ::poll(sources.data(), sources.size(), millisecondsUntil(deadline));
         if (ready < 0 && errno == EINTR)

@@ -32,7 +32,7 @@ QByteArray unpacked(const QByteArray &packed)
 QByteArray takeText(QByteArray &data)
 {
     const qsizetype end = data.indexOf('\0');
-    const QByteArray text = data.first(end < 0 ? data.size() : end);
+    QByteArray text = data.first(end < 0 ? data.size() : end);
     data = end < 0 ? QByteArray() : data.sliced(end + 1);
     return text;
 }

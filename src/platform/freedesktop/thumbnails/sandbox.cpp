@@ -21,7 +21,7 @@ constexpr auto script = R"("$@" >/dev/null </dev/null && exec cat /out/thumbnail
 QByteArray find(const QByteArrayList &folders, const QByteArray &name)
 {
     for (const QByteArray &folder : folders) {
-        const QByteArray path = folder + '/' + name;
+        QByteArray path = folder + '/' + name;
         if (::access(path.constData(), X_OK) == 0)
             return path;
     }

@@ -65,7 +65,7 @@ SharedThumbnailCache::SharedThumbnailCache(const ImageCodec &codec, Places place
 
 QByteArray SharedThumbnailCache::environmentCacheFolder()
 {
-    const QByteArray cache = qgetenv("XDG_CACHE_HOME");
+    QByteArray cache = qgetenv("XDG_CACHE_HOME");
     if (cache.startsWith('/'))
         return cache;
     const QByteArray home = qgetenv("HOME");
