@@ -109,7 +109,7 @@ Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteA
                  const QRect &frame)
     : m_desktop(desktop)
 {
-    const QString folder = desktop.path(u"home/site"_s);
+    const QString folder = site(desktop);
     QDir().mkpath(folder);
     write(folder + u"/picture.png"_s, picture);
     write(folder + u"/page.html"_s, QString::fromLatin1(page).arg(link).toUtf8());

@@ -11,13 +11,22 @@ public:
 
     static bool isInstalled(Kind kind);
 
-    /// `picture` is the PNG file that the page shows.
+    /// `picture` is the PNG file that the page shows. A relative `link` leads to a file beside the
+    /// page, in the folder `site`.
     Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteArray &picture,
             const QRect &frame);
+
+    static QString site(const XDesktop &desktop)
+    {
+        return desktop.path(QStringLiteral("home/site"));
+    }
 
     QString problem() const { return m_problem; }
     QPoint link() const { return m_page.topLeft() + QPoint(60, 50); }
     QPoint picture() const { return m_page.topLeft() + QPoint(100, 200); }
+
+    /// What the site has been asked for, by whomever.
+    QByteArray requests() { return m_server->output(); }
 
 private:
     QStringList command(Kind kind, const QString &url) const;
