@@ -13,7 +13,7 @@ namespace {
 QByteArray firstSet(std::initializer_list<const char *> names)
 {
     for (const char *name : names) {
-        if (const QByteArray value = qgetenv(name); !value.isEmpty())
+        if (QByteArray value = qgetenv(name); !value.isEmpty())
             return value;
     }
     return {};
