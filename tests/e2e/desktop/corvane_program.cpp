@@ -67,7 +67,7 @@ CorvaneProgram::CorvaneProgram(XDesktop &desktop, const Start &start)
 {
     if (!start.keepsSettings)
         writeSettings(start);
-    m_program = std::make_unique<Program>(path(), QStringList(), m_environment);
+    m_program = std::make_unique<Program>(path(), start.arguments, m_environment);
 }
 
 QString CorvaneProgram::settingsFolder() const

@@ -25,6 +25,7 @@ public:
         bool hasSeenWelcome = true;
         /// Goes on with the settings that an earlier start has left.
         bool keepsSettings = false;
+        QStringList arguments = {};
     };
 
     explicit CorvaneProgram(XDesktop &desktop);

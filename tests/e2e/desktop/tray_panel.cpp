@@ -1,0 +1,207 @@
+#include "e2e/desktop/tray_panel.h"
+
+#include "e2e/desktop/eventually.h"
+
+#include <QDir>
+#include <QFile>
+#include <QRegularExpression>
+
+namespace corvane::e2e {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int panelHeight = 32;
+constexpr auto watcher = "org.kde.StatusNotifierWatcher";
+
+bool write(const QString &path, const QByteArray &text)
+{
+    QFile file(path);
+    return file.open(QFile::WriteOnly) && file.write(text) == text.size();
+}
+
+QByteArray answerOf(XDesktop &desktop, const QStringList &arguments)
+{
+    return outputOf(u"dbus-send"_s,
+                    QStringList{u"--session"_s, u"--print-reply"_s, u"--reply-timeout=5000"_s}
+                        + arguments,
+                    desktop.environment())
+        .value_or(QByteArray());
+}
+
+QByteArray handedIn(XDesktop &desktop)
+{
+    return answerOf(desktop,
+                    {u"--dest="_s + QLatin1String(watcher), u"/StatusNotifierWatcher"_s,
+                     u"org.freedesktop.DBus.Properties.Get"_s,
+                     u"string:"_s + QLatin1String(watcher),
+                     u"string:RegisteredStatusNotifierItems"_s});
+}
+
+bool hasWatcher(XDesktop &desktop)
+{
+    return answerOf(desktop,
+                    {u"--dest=org.freedesktop.DBus"_s, u"/"_s,
+                     u"org.freedesktop.DBus.NameHasOwner"_s, u"string:"_s + QLatin1String(watcher)})
+        .contains("true");
+}
+
+} // namespace
+
+X11Tray::X11Tray(XDesktop &desktop)
+    : m_desktop(desktop)
+{
+    const QString configuration = desktop.path(u"home/tint2rc"_s);
+    write(configuration,
+          "rounded = 0\nborder_width = 0\nbackground_color = #202226 100\npanel_items = S\n"
+          "panel_size = 300 32\npanel_position = bottom left horizontal\npanel_background_id = 1\n"
+          "panel_dock = 0\nstrut_policy = none\nsystray_padding = 4 4 4\n"
+          "systray_icon_size = 24\nsystray_background_id = 0\n");
+    m_program = desktop.start(u"tint2"_s, {u"-c"_s, configuration});
+}
+
+bool X11Tray::waitUntilReady()
+{
+    return eventually(
+        [this] { return m_desktop.server().selectionOwner("_NET_SYSTEM_TRAY_S0") != noWindow; });
+}
+
+QRect X11Tray::icon() const
+{
+    return {4, m_desktop.server().size().height() - panelHeight + 4, 24, 24};
+}
+
+bool X11Tray::isEmpty() const
+{
+    const QImage picture = m_desktop.server().picture(icon());
+    for (int y = 0; y < picture.height(); ++y) {
+        for (int x = 0; x < picture.width(); ++x) {
+            if (qGray(picture.pixel(x, y)) > 200)
+                return false;
+        }
+    }
+    return true;
+}
+
+bool X11Tray::waitForIcon()
+{
+    return eventually([this] { return !isEmpty(); });
+}
+
+bool X11Tray::waitUntilEmpty()
+{
+    return eventually([this] { return isEmpty(); });
+}
+
+NotifierPanel::NotifierPanel(XDesktop &desktop)
+    : m_desktop(desktop)
+{
+    const QString folder = desktop.environment().value(u"XDG_CONFIG_HOME"_s)
+        + u"/xfce4/xfconf/xfce-perchannel-xml"_s;
+    QDir().mkpath(folder);
+    write(folder + u"/xfce4-panel.xml"_s, R"(<?xml version="1.0" encoding="UTF-8"?>
+<channel name="xfce4-panel" version="1.0">
+  <property name="configver" type="int" value="2"/>
+  <property name="panels" type="array"><value type="int" value="1"/>
+    <property name="panel-1" type="empty">
+      <property name="position" type="string" value="p=6;x=0;y=0"/>
+      <property name="length" type="uint" value="20"/>
+      <property name="size" type="uint" value="32"/>
+      <property name="disable-struts" type="bool" value="true"/>
+      <property name="plugin-ids" type="array"><value type="int" value="1"/></property>
+    </property>
+  </property>
+  <property name="plugins" type="empty">
+    <property name="plugin-1" type="string" value="systray">
+      <property name="square-icons" type="bool" value="true"/>
+    </property>
+  </property>
+</channel>
+)");
+    m_program = desktop.start(u"xfce4-panel"_s, {u"--disable-wm-check"_s});
+}
+
+NotifierPanel::~NotifierPanel()
+{
+    m_program.reset();
+    // The part that shows the items is a program of its own and takes a moment longer.
+    eventually([this] { return !hasWatcher(m_desktop); });
+}
+
+bool NotifierPanel::waitUntilReady()
+{
+    return eventually([this] { return hasWatcher(m_desktop); });
+}
+
+bool NotifierPanel::waitForItemOf(qint64 pid)
+{
+    const QByteArray name = "org.kde.StatusNotifierItem-" + QByteArray::number(pid) + '-';
+    return eventually([&] { return handedIn(m_desktop).contains(name); });
+}
+
+QPoint NotifierPanel::icon() const
+{
+    // Behind the handle that the panel can be moved by.
+    return {28, panelHeight / 2};
+}
+
+NotifierFacts::NotifierFacts(XDesktop &desktop, qint64 pid)
+    : m_desktop(desktop)
+    , m_service(u"org.kde.StatusNotifierItem-%1-1"_s.arg(pid))
+{
+}
+
+QByteArray NotifierFacts::call(const QString &path, const QString &method,
+                               const QStringList &arguments) const
+{
+    return answerOf(m_desktop, QStringList{u"--dest="_s + m_service, path, method} + arguments);
+}
+
+QByteArray NotifierFacts::property(const QString &name) const
+{
+    return call(u"/StatusNotifierItem"_s, u"org.freedesktop.DBus.Properties.Get"_s,
+                {u"string:org.kde.StatusNotifierItem"_s, u"string:"_s + name});
+}
+
+QByteArray NotifierFacts::menuLayout() const
+{
+    const QString path = u"/StatusNotifierItem/Menu"_s;
+    call(path, u"com.canonical.dbusmenu.AboutToShow"_s, {u"int32:0"_s});
+    return call(path, u"com.canonical.dbusmenu.GetLayout"_s,
+                {u"int32:0"_s, u"int32:-1"_s, u"array:string:label,type"_s});
+}
+
+QStringList NotifierFacts::menu() const
+{
+    // The strings of an answer come in the order in which they are shown: keys and values by turns.
+    static const QRegularExpression value(
+        u"string \"(label|type)\"\\s+variant\\s+string \"([^\"]*)\""_s);
+    QStringList labels;
+    auto matches = value.globalMatch(QString::fromUtf8(menuLayout()));
+    while (matches.hasNext()) {
+        const auto match = matches.next();
+        labels << (match.captured(1) == u"type" ? u"-"_s : match.captured(2));
+    }
+    return labels;
+}
+
+bool NotifierFacts::choose(const QString &label) const
+{
+    static const QRegularExpression item(
+        u"int32 (\\d+)\\s+array \\[\\s+dict entry\\(\\s+string \"label\"\\s+variant\\s+string "
+        "\"([^\"]*)\""_s);
+    auto matches = item.globalMatch(QString::fromUtf8(menuLayout()));
+    while (matches.hasNext()) {
+        const auto match = matches.next();
+        if (match.captured(2) != label)
+            continue;
+        call(u"/StatusNotifierItem/Menu"_s, u"com.canonical.dbusmenu.Event"_s,
+             {u"int32:"_s + match.captured(1), u"string:clicked"_s, u"variant:string:"_s,
+              u"uint32:0"_s});
+        return true;
+    }
+    return false;
+}
+
+} // namespace corvane::e2e
