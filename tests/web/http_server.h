@@ -33,10 +33,7 @@ public:
     explicit HttpServer(const QString &address = QStringLiteral("127.0.0.1"),
                         const std::optional<Identity> &identity = std::nullopt);
 
-    void on(const QByteArray &target, Script script)
-    {
-        m_scripts.insert(target, std::move(script));
-    }
+    void on(const QByteArray &target, const Script &script) { m_scripts.insert(target, script); }
     /// Sends these bytes and closes.
     void answer(const QByteArray &target, const QByteArray &response);
     /// Sends the beginning, then pieces without end.
