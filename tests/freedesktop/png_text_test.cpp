@@ -74,6 +74,9 @@ TEST(PngText, ofWhatIsNoPngIsNone)
     EXPECT_FALSE(png_text::thumbnailTexts(""));
     EXPECT_FALSE(png_text::thumbnailTexts("GIF89a"));
     EXPECT_FALSE(png_text::thumbnailTexts(picture().first(20)));
+    QByteArray longHead = picture();
+    longHead[11] = 14;
+    EXPECT_FALSE(png_text::thumbnailTexts(longHead));
     EXPECT_EQ(png_text::withTexts("GIF89a", {{"Thumb::URI", "x"}}), "GIF89a");
 }
 

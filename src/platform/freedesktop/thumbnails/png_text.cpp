@@ -17,8 +17,9 @@ constexpr qsizetype maximumTextBytes = 4096;
 
 bool isPng(const QByteArray &bytes)
 {
+    // Its first chunk is the head, of 13 bytes.
     return bytes.size() >= headSize && bytes.startsWith(signature)
-        && bytes.sliced(signature.size() + 4, 4) == "IHDR";
+        && bytes.sliced(signature.size(), 8) == QByteArrayView("\0\0\0\x0dIHDR", 8);
 }
 
 QByteArray unpacked(const QByteArray &packed)
