@@ -45,7 +45,7 @@ ShortcutRecorderView::ShortcutRecorderView(KeyMonitors &monitors, HotKeyService 
 {
     ShortcutRecorderAccessible::install();
     setFocusPolicy(Qt::StrongFocus);
-    // Dead keys are to come as keys.
+    // An input method would take its keys first.
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_recorder.onNeedsDisplay = [this] { changed(); };

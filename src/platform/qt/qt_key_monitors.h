@@ -16,7 +16,8 @@ class KeyboardLayout;
 /// Return come, too. It looks at events only while there is a monitor. Needs the application
 /// object; the layout must outlive it.
 ///
-/// An input method gets a key before we do where the focused widget takes text.
+/// While there is a monitor, a key that it lets pass arrives as a key, but is no window's shortcut.
+/// Dead keys do not come: the toolkit composes letters of them first.
 class QtKeyMonitors : public QObject, public KeyMonitors {
 public:
     explicit QtKeyMonitors(const KeyboardLayout &layout);

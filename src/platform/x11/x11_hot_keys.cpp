@@ -75,8 +75,6 @@ void X11HotKeys::unregisterHotKey(Handle handle)
     if (found->second.grabbed)
         ungrab(*found->second.grabbed);
     m_hotKeys.erase(found);
-    // Whoever is told that it is free may take it at once.
-    m_connection.flush();
 }
 
 std::unique_ptr<HotKeyService::Suspension> X11HotKeys::suspend()
@@ -138,6 +136,8 @@ void X11HotKeys::ungrab(const Combination &combination)
     for (const std::uint16_t locks : m_mapping.lockVariants())
         xcb_ungrab_key(m_connection.get(), combination.key, m_connection.root(),
                        static_cast<std::uint16_t>(combination.modifiers | locks));
+    // Whoever is told that it is free may take it at once.
+    m_connection.flush();
 }
 
 void X11HotKeys::grabAll()
@@ -164,7 +164,6 @@ void X11HotKeys::ungrabAll()
             ungrab(*hotKey.grabbed);
         hotKey.grabbed.reset();
     }
-    m_connection.flush();
 }
 
 void X11HotKeys::handle(const xcb_generic_event_t &event)

@@ -1,7 +1,7 @@
 #include "platform/x11/x11_keyboard_layout.h"
 
 #include "platform/virtual_key_codes.h"
-#include "platform/x11/x11_connection.h"
+#include "platform/x11/x11_qt.h"
 
 #include <xkbcommon/xkbcommon-keysyms.h>
 #include <xkbcommon/xkbcommon-x11.h>
@@ -82,29 +82,25 @@ QString textOf(xkb_keymap *keymap, xkb_keycode_t key, xkb_layout_index_t layout)
 
 } // namespace
 
-X11KeyboardLayout::X11KeyboardLayout(X11Connection &connection)
-    : m_connection(connection)
-{
-}
-
 QString X11KeyboardLayout::charactersOf(std::uint32_t keyCode) const
 {
     const auto evdevCode = virtual_key_codes::toEvdev(keyCode);
-    if (!evdevCode || !m_connection.isConnected()
+    xcb_connection_t *const connection = x11_qt::connection();
+    if (!evdevCode || connection == nullptr || xcb_connection_has_error(connection) != 0
         || xkb_x11_setup_xkb_extension(
-               m_connection.get(), XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
+               connection, XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
                XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, nullptr, nullptr)
             == 0)
         return {};
-    const std::int32_t device = xkb_x11_get_core_keyboard_device_id(m_connection.get());
+    const std::int32_t device = xkb_x11_get_core_keyboard_device_id(connection);
     const XkbContext context(xkb_context_new(XKB_CONTEXT_NO_FLAGS));
     if (!context || device < 0)
         return {};
-    const XkbKeymap keymap(xkb_x11_keymap_new_from_device(context.get(), m_connection.get(), device,
+    const XkbKeymap keymap(xkb_x11_keymap_new_from_device(context.get(), connection, device,
                                                           XKB_KEYMAP_COMPILE_NO_FLAGS));
     if (!keymap)
         return {};
-    const XkbState state(xkb_x11_state_new_from_device(keymap.get(), m_connection.get(), device));
+    const XkbState state(xkb_x11_state_new_from_device(keymap.get(), connection, device));
     if (!state)
         return {};
     const xkb_keycode_t key = *evdevCode + virtual_key_codes::x11Offset;

@@ -4,18 +4,15 @@
 
 namespace corvane {
 
-class X11Connection;
-
 /// The layout as the X server has it now. Asked anew each time, which takes a few milliseconds: it
-/// is wanted when a shortcut is recorded and at no other time. The connection must outlive it.
+/// is wanted when a shortcut is recorded and at no other time.
+///
+/// It asks on Qt's connection, which uses the server's keyboard extension anyway: under that
+/// changes of the modifiers are told otherwise, and the hot keys hear of them on a connection of
+/// their own.
 class X11KeyboardLayout : public KeyboardLayout {
 public:
-    explicit X11KeyboardLayout(X11Connection &connection);
-
     QString charactersOf(std::uint32_t keyCode) const override;
-
-private:
-    X11Connection &m_connection;
 };
 
 } // namespace corvane
