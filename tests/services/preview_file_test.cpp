@@ -130,10 +130,10 @@ TEST_F(PreviewFileTest, ReadsNoPipeAndNoDevice)
 
 TEST_F(PreviewFileTest, ReadsOnlyTheBeginningOfALongFile)
 {
-    const QByteArray line = "0123456789abcde\n";
-    const auto whole = read(folder.write("a.log", line.repeated(625'000)));
+    const QByteArray line = QByteArray(99, 'x') + '\n';
+    const auto whole = read(folder.write("a.log", line.repeated(100'000)));
     EXPECT_FALSE(std::get<PreviewContent::Text>(whole.body).isCut);
-    const auto more = read(folder.write("b.log", line.repeated(625'000) + 'x'));
+    const auto more = read(folder.write("b.log", line.repeated(100'000) + 'x'));
     const auto &text = std::get<PreviewContent::Text>(more.body);
     EXPECT_TRUE(text.isCut);
     EXPECT_LE(text.text.size(), preview_text::maximumBytes);
@@ -151,6 +151,8 @@ TEST_F(PreviewFileTest, FindsAFileWhoseNameIsNoText)
     const QByteArray path = folder.path("a\xFF.txt");
     ASSERT_EQ(::close(::open(path.constData(), O_CREAT | O_WRONLY, 0600)), 0);
     EXPECT_FALSE(is<PreviewContent::Missing>(read(file_url::fromNativePath(path))));
+    // The toolkit could not, when it clears up.
+    ::unlink(path.constData());
 }
 
 TEST_F(PreviewFileTest, MakesANameHarmlessThatForges)
