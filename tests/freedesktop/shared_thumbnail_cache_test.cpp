@@ -176,29 +176,26 @@ TEST_F(SharedThumbnailCacheTest, theJudgeOfTheDesktopFindsWhatIsKeptForEveryName
     }
 }
 
-TEST_F(SharedThumbnailCacheTest, theJudgeKnowsOurFailures)
+TEST_F(SharedThumbnailCacheTest, failuresAreFiledUnderThisProgramsName)
 {
-    if (::access("/usr/bin/gio", X_OK) != 0)
-        GTEST_SKIP() << "gio is not installed";
     const FileVersion shown = file("files/a.avi");
     cache.keepFailure(shown);
     EXPECT_EQ(kept(), QByteArrayList{"thumbnails/fail/corvane-1.2/" + nameOf(shown)});
     EXPECT_TRUE(cache.find(shown, 60).hasFailed);
 }
 
-TEST_F(SharedThumbnailCacheTest, readsWhatAnotherProgramMade)
+TEST_F(SharedThumbnailCacheTest, readsWhatProgramsOfTheToolkitWrite)
 {
-    const QByteArray program = "/usr/bin/gdk-pixbuf-thumbnailer";
-    if (::access(program.constData(), X_OK) != 0)
-        GTEST_SKIP() << "gdk-pixbuf-thumbnailer is not installed";
-    for (const QByteArray &name : {QByteArray("it's (1) [2] + 100%.png"), QByteArray("Żółw.png")}) {
-        FileVersion shown = file("files/" + name);
-        ASSERT_TRUE(plain(300, 150).save(QFile::decodeName(shown.path)));
-        shown = FileVersion::at(shown.path).value();
+    // They let the toolkit write the texts, which compresses long ones.
+    for (const QByteArray &name : oddNames) {
+        const FileVersion shown = file("files/" + name);
+        QImage picture = plain(128, 64);
+        picture.setText(QStringLiteral("Thumb::URI"),
+                        QString::fromLatin1(thumbnailUri(shown.path)));
+        picture.setText(QStringLiteral("Thumb::MTime"), QString::number(shown.modificationTime));
         QDir().mkpath(QFile::decodeName(path("cache/thumbnails/normal")));
-        output(path("cache"),
-               {program, "-s", "128", thumbnailUri(shown.path),
-                path("cache/thumbnails/normal/" + nameOf(shown))});
+        ASSERT_TRUE(picture.save(
+            QFile::decodeName(path("cache/thumbnails/normal/" + nameOf(shown))), "png"));
         const auto found = cache.find(shown, 60);
         ASSERT_TRUE(found.picture) << name.constData();
         EXPECT_EQ(found.picture->size(), QSize(60, 30));
@@ -215,8 +212,8 @@ TEST_F(SharedThumbnailCacheTest, takesTheSmallestSizeThatIsLargeEnough)
     EXPECT_EQ(kept().size(), 4);
     EXPECT_EQ(cache.find(shown, 60).picture->size(), QSize(60, 60));
     EXPECT_EQ(cache.find(shown, 128).picture->size(), QSize(128, 128));
-    EXPECT_EQ(cache.find(shown, 129).picture->size(), QSize(129, 65));
-    EXPECT_EQ(cache.find(shown, 300).picture->size(), QSize(300, 38));
+    EXPECT_EQ(cache.find(shown, 129).picture->size(), QSize(129, 64));
+    EXPECT_EQ(cache.find(shown, 300).picture->size(), QSize(300, 37));
     EXPECT_EQ(cache.find(shown, 1024).picture->size(), QSize(1024, 128));
     EXPECT_FALSE(cache.find(shown, 1025).picture);
     EXPECT_EQ(cache.pixelsToMake(shown, 60), 128);
@@ -298,7 +295,7 @@ TEST_F(SharedThumbnailCacheTest, strangersInTheCacheDoNoHarm)
     QFile broken(QFile::decodeName(entry));
     ASSERT_TRUE(broken.open(QFile::WriteOnly));
     broken.write(png_text::withTexts(*codec.encode(plain(128, 64), UTType::png()), textsOf(shown))
-                     .first(400));
+                     .chopped(60));
     broken.close();
     EXPECT_FALSE(cache.find(shown, 60).picture);
 }
