@@ -5,6 +5,7 @@
 #include <poll.h>
 #include <xcb/xtest.h>
 
+#include <array>
 #include <cstdlib>
 #include <memory>
 #include <stdexcept>
@@ -20,6 +21,9 @@ template<typename Type>
 using Reply = std::unique_ptr<Type, Free>;
 
 constexpr std::uint32_t white = 0xffffff;
+
+/// By position, in the order in which they go down.
+constexpr std::array<std::uint8_t, 3> hotKey = {133, 50, 40};
 
 } // namespace
 
@@ -77,6 +81,18 @@ void XDesk::press()
 void XDesk::release()
 {
     fake(XCB_BUTTON_RELEASE, 1);
+}
+
+void XDesk::pressHotKey()
+{
+    for (const std::uint8_t key : hotKey)
+        fake(XCB_KEY_PRESS, key);
+}
+
+void XDesk::releaseHotKey()
+{
+    for (auto key = hotKey.rbegin(); key != hotKey.rend(); ++key)
+        fake(XCB_KEY_RELEASE, *key);
 }
 
 void XDesk::coverWithWhite()

@@ -24,6 +24,9 @@ public:
     void moveTo(int x, int y);
     void press();
     void release();
+    /// Super, Shift and the key that carries the D: what toggles the shelf when nothing is set.
+    void pressHotKey();
+    void releaseHotKey();
     /// Covers everything with a white window of ours.
     void coverWithWhite();
     /// Takes the selection that drags carry their contents by.
