@@ -1,0 +1,203 @@
+#include "shelf/edge_summoner.h"
+
+#include "core/shelf_store.h"
+#include "platform/checked_math.h"
+#include "platform/full_screen_windows.h"
+#include "platform/geometry.h"
+#include "platform/main_queue.h"
+#include "platform/mouse_buttons.h"
+#include "platform/pointer.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+QRectF edgeOf(const EdgeStretch &stretch)
+{
+    const QRectF &screen = stretch.screen->frame;
+    return {minX(screen) + stretch.left, maxY(screen) - EdgeSummoner::edgeDepth, stretch.width,
+            EdgeSummoner::edgeDepth};
+}
+
+} // namespace
+
+EdgeSummoner::EdgeSummoner(const Context &context)
+    : m_context(context)
+    , m_store(context.store)
+{
+    wire();
+    updateWatch();
+}
+
+EdgeSummoner::~EdgeSummoner()
+{
+    wait();
+    m_context.desktop.trigger.watch({});
+    m_context.desktop.trigger.onEntered = nullptr;
+    m_context.desktop.trigger.onLeft = nullptr;
+}
+
+void EdgeSummoner::wire()
+{
+    EdgeTrigger &trigger = m_context.desktop.trigger;
+    trigger.onEntered = whileAlive(&EdgeSummoner::entered);
+    trigger.onLeft = whileAlive(&EdgeSummoner::giveUp);
+    m_store.observeState(
+        [changed = whileAlive(&EdgeSummoner::stateChanged)](ShelfState, ShelfState) { changed(); });
+    m_store.observeItems([changed = whileAlive(&EdgeSummoner::itemsChanged)](
+                             const QList<DropItem> &) { changed(); });
+    m_context.screens.observeChanges(whileAlive(&EdgeSummoner::watchAnew));
+}
+
+std::function<void()> EdgeSummoner::whileAlive(void (EdgeSummoner::*work)())
+{
+    return [weak = std::weak_ptr(m_self), work] {
+        if (const auto self = weak.lock())
+            ((*self)->*work)();
+    };
+}
+
+void EdgeSummoner::after(double seconds, void (EdgeSummoner::*work)())
+{
+    m_generation = checkedAdd<std::int64_t>(m_generation, 1);
+    m_context.queue.asyncAfter(seconds, [weak = std::weak_ptr(m_self), work, g = m_generation] {
+        const auto self = weak.lock();
+        if (self && (*self)->m_generation == g)
+            ((*self)->*work)();
+    });
+}
+
+void EdgeSummoner::entered()
+{
+    if (m_phase != Phase::Waiting)
+        return;
+    m_phase = Phase::Approached;
+    // Whoever clicks up there wants what lies there.
+    m_pressMonitor = m_context.desktop.eventMonitors.addGlobalMouseDownMonitor(
+        whileAlive(&EdgeSummoner::giveUp));
+    after(approachDelay, &EdgeSummoner::summon);
+}
+
+void EdgeSummoner::giveUp()
+{
+    if (m_phase == Phase::Approached)
+        wait();
+}
+
+void EdgeSummoner::wait()
+{
+    m_phase = Phase::Waiting;
+    m_generation = checkedAdd<std::int64_t>(m_generation, 1);
+    if (const auto monitor = std::exchange(m_pressMonitor, std::nullopt))
+        m_context.desktop.eventMonitors.removeMonitor(*monitor);
+}
+
+void EdgeSummoner::summon()
+{
+    const bool isWanted = isWelcome();
+    wait();
+    if (!isWanted)
+        return;
+    m_phase = Phase::Summoned;
+    m_summonedCount = m_store.items().size();
+    // Until the shelf has been reached the pointer is off it.
+    dismissLater();
+    m_store.toggleManually();
+    itemsChanged();
+}
+
+bool EdgeSummoner::isWelcome() const
+{
+    const Desktop &desktop = m_context.desktop;
+    const auto location = desktop.pointer.location();
+    if (!location || desktop.buttons.pressedMouseButtons() != 0)
+        return false;
+    const auto here = std::ranges::find_if(m_watched, [&](const EdgeStretch &stretch) {
+        return contains(edgeOf(stretch), *location);
+    });
+    return here != m_watched.end() && !desktop.fullScreenWindows.isCovered(*here->screen);
+}
+
+void EdgeSummoner::pointerIsInside(bool isInside)
+{
+    if (m_phase != Phase::Summoned)
+        return;
+    if (isInside)
+        m_generation = checkedAdd<std::int64_t>(m_generation, 1);
+    else
+        dismissLater();
+}
+
+void EdgeSummoner::shelfIsUsed()
+{
+    if (m_phase == Phase::Summoned)
+        wait();
+}
+
+void EdgeSummoner::dismissLater()
+{
+    after(leaveDelay, &EdgeSummoner::dismiss);
+}
+
+void EdgeSummoner::dismiss()
+{
+    // Something may be about to be dragged here.
+    if (m_context.desktop.buttons.pressedMouseButtons() != 0) {
+        dismissLater();
+        return;
+    }
+    wait();
+    m_store.toggleManually();
+}
+
+void EdgeSummoner::itemsChanged()
+{
+    const bool isUsed = m_store.isViewAllOpen() || m_store.isDragInFlight() || m_store.isOwnDrag()
+        || m_store.items().size() != m_summonedCount;
+    if (m_phase == Phase::Summoned && isUsed)
+        wait();
+    updateWatch();
+}
+
+void EdgeSummoner::stateChanged()
+{
+    if (m_phase == Phase::Summoned && m_store.state() != ShelfState::Occupied)
+        wait();
+    updateWatch();
+}
+
+void EdgeSummoner::watchAnew()
+{
+    // The screens are the same objects, and elsewhere now.
+    m_watched.clear();
+    m_context.desktop.trigger.watch({});
+    giveUp();
+    updateWatch();
+}
+
+void EdgeSummoner::updateWatch()
+{
+    auto wanted = stretches();
+    if (wanted == m_watched)
+        return;
+    m_watched = std::move(wanted);
+    giveUp();
+    m_context.desktop.trigger.watch(m_watched);
+}
+
+std::vector<EdgeStretch> EdgeSummoner::stretches() const
+{
+    std::vector<EdgeStretch> result;
+    if (m_store.state() != ShelfState::Idle || m_store.items().isEmpty())
+        return result;
+    for (const ScreenPointer &screen : m_context.screens.screens()) {
+        const double width = std::min(m_context.shelfWidth(screen), screen->frame.width());
+        result.push_back({screen, (screen->frame.width() - width) * 0.5, width});
+    }
+    return result;
+}
+
+} // namespace corvane

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "platform/edge_trigger.h"
+#include "platform/event_monitors.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace corvane {
+
+class FullScreenWindows;
+class MainQueue;
+class MouseButtons;
+class Pointer;
+class ShelfStore;
+
+/// Shows the hidden shelf while it holds items and the pointer is kept at the top edge of a screen,
+/// where the shelf would hang, and hides it again once the pointer has gone, as a hand would do it.
+///
+///     Waiting ----entered----> Approached --approachDelay later, welcome: shown--> Summoned
+///        ^                         |                                               |  |  |
+///        +--left, pressed, unwelcome                                               |  |  |
+///        +--pointer off the shelf for leaveDelay, no button held: hidden-----------+  |  |
+///        +--used by a key, a click or a drag: stays, as if opened by hand-------------+  |
+///        +--hidden by somebody else------------------------------------------------------+
+///
+/// Welcome is: no button is held, the pointer rests there, and no full-screen window has the
+/// screen. The edge is watched only while the shelf is hidden and holds items. Delayed work is
+/// voided by generations. Main thread only; everything in the context must outlive it.
+class EdgeSummoner {
+public:
+    /// Seconds at the edge until the shelf is shown.
+    static constexpr double approachDelay = 0.25;
+    /// Seconds off the shelf until it is hidden again.
+    static constexpr double leaveDelay = 0.8;
+    /// Points below the edge that still count as being there: a resting hand trembles.
+    static constexpr double edgeDepth = 3;
+
+    struct Desktop {
+        EdgeTrigger &trigger;
+        const FullScreenWindows &fullScreenWindows;
+        const MouseButtons &buttons;
+        EventMonitors &eventMonitors;
+        const Pointer &pointer;
+    };
+    struct Context {
+        Desktop desktop;
+        Screens &screens;
+        ShelfStore &store;
+        MainQueue &queue;
+        /// How wide the shelf would be on that screen, in points.
+        std::function<double(const ScreenPointer &screen)> shelfWidth;
+    };
+    explicit EdgeSummoner(const Context &context);
+    ~EdgeSummoner();
+    EdgeSummoner(const EdgeSummoner &) = delete;
+    EdgeSummoner &operator=(const EdgeSummoner &) = delete;
+
+    /// The pointer came onto the shown shelf, or went off it.
+    void pointerIsInside(bool isInside);
+    /// The user did something on the shelf: it stays open.
+    void shelfIsUsed();
+
+private:
+    enum class Phase {
+        Waiting,
+        Approached,
+        Summoned,
+    };
+
+    void wire();
+    void entered();
+    void giveUp();
+    void wait();
+    void summon();
+    bool isWelcome() const;
+    void dismissLater();
+    void dismiss();
+    void itemsChanged();
+    void stateChanged();
+    void watchAnew();
+    void updateWatch();
+    std::vector<EdgeStretch> stretches() const;
+    std::function<void()> whileAlive(void (EdgeSummoner::*work)());
+    void after(double seconds, void (EdgeSummoner::*work)());
+
+    Context m_context;
+    ShelfStore &m_store;
+    Phase m_phase = Phase::Waiting;
+    /// Bumped by whatever makes delayed work out of date.
+    std::int64_t m_generation = 0;
+    qsizetype m_summonedCount = 0;
+    std::vector<EdgeStretch> m_watched;
+    std::optional<EventMonitors::Handle> m_pressMonitor;
+    std::shared_ptr<EdgeSummoner *> m_self = std::make_shared<EdgeSummoner *>(this);
+};
+
+} // namespace corvane

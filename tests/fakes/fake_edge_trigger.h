@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/edge_trigger.h"
+#include "platform/full_screen_windows.h"
+
+#include <utility>
+
+namespace corvane::test {
+
+/// Top edges that a test pushes against. Like the real one it tells of nothing that is not watched.
+class FakeEdgeTrigger : public EdgeTrigger {
+public:
+    void watch(const std::vector<EdgeStretch> &stretches) override
+    {
+        watched = stretches;
+        ++watchCount;
+        m_isEntered = false;
+    }
+
+    void push()
+    {
+        if (watched.empty() || std::exchange(m_isEntered, true) || !onEntered)
+            return;
+        onEntered();
+    }
+    void leave()
+    {
+        if (std::exchange(m_isEntered, false) && onLeft)
+            onLeft();
+    }
+
+    std::vector<EdgeStretch> watched;
+    int watchCount = 0;
+
+private:
+    bool m_isEntered = false;
+};
+
+class FakeFullScreenWindows : public FullScreenWindows {
+public:
+    bool isCovered(const Screen &screen) const override { return &screen == covered; }
+
+    const Screen *covered = nullptr;
+};
+
+} // namespace corvane::test
