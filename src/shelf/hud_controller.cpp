@@ -75,6 +75,14 @@ void HUDController::wireShelf()
         m_store.setOwnDrag(isDraggingOut);
         m_store.publishItems();
     };
+    m_shelf.onPointerInside = [this](bool isInside) {
+        if (onPointerInside)
+            onPointerInside(isInside);
+    };
+    m_shelf.onUsed = [this] {
+        if (onUsed)
+            onUsed();
+    };
     m_shelf.onQuickLook = [this] {
         const auto item = m_store.focusedItem();
         if (item && m_context.presenter)
@@ -132,6 +140,14 @@ ShelfSnapshot HUDController::makeSnapshot(const ScreenPointer &screen) const
     snapshot.notch = {notch.width, notch.inset};
     snapshot.receptive = m_store.isDragInFlight() && !m_store.isOwnDrag();
     return snapshot;
+}
+
+double HUDController::openWidth(const ScreenPointer &screen) const
+{
+    ShelfSnapshot snapshot = makeSnapshot(screen);
+    snapshot.state = snapshot.totalCount > 0 ? ShelfState::Occupied : ShelfState::Expanded;
+    snapshot.receptive = false;
+    return m_shelf.preferredSize(snapshot).width();
 }
 
 void HUDController::render()

@@ -6,6 +6,7 @@
 #include <QRectF>
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 
 namespace corvane {
@@ -52,6 +53,13 @@ public:
     HUDController &operator=(const HUDController &) = delete;
 
     const ShelfView &shelf() const { return m_shelf; }
+    /// How wide the shelf would be on that screen if it were opened now, in points.
+    double openWidth(const ScreenPointer &screen) const;
+
+    /// The pointer came onto the shelf, or went off it.
+    std::function<void(bool isInside)> onPointerInside;
+    /// The user pressed, typed or is about to drop on the shelf.
+    std::function<void()> onUsed;
 
 private:
     void wireShelf();

@@ -150,6 +150,8 @@ QPointF ShelfView::fromTopCentre(QPointF point) const
 
 void ShelfView::mouseEntered(const MouseEvent &event)
 {
+    // The panel takes the pointer on its body alone.
+    call(onPointerInside, true);
     updateHover(event.location);
 }
 
@@ -161,6 +163,7 @@ void ShelfView::mouseMoved(const MouseEvent &event)
 void ShelfView::mouseExited()
 {
     m_pointer.reset();
+    call(onPointerInside, false);
     if (!m_look.isHovering && m_look.hovered == ShelfHit())
         return;
     relayout();
@@ -168,6 +171,7 @@ void ShelfView::mouseExited()
 
 void ShelfView::mouseDown(const MouseEvent &event)
 {
+    call(onUsed);
     if (!hitTest(event.location))
         return;
     m_context.panel.makeKey();
@@ -235,6 +239,7 @@ void ShelfView::scrollWheel(const ScrollEvent &event)
 
 bool ShelfView::keyDown(const KeyEvent &event)
 {
+    call(onUsed);
     if (m_look.snapshot.visible.empty())
         return false;
     const int focused = m_look.snapshot.focusedIndex;

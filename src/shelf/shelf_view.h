@@ -62,6 +62,9 @@ public:
     std::function<void()> onQuickLook;
     std::function<void()> onViewAll;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
+    std::function<void(bool isInside)> onPointerInside;
+    /// A press, a key or a drag that may be dropped here, before anything else comes of it.
+    std::function<void()> onUsed;
 
     void apply(const ShelfSnapshot &snapshot);
     QSizeF preferredSize(const ShelfSnapshot &snapshot) const;

@@ -97,6 +97,8 @@ DragOperation ShelfView::draggingEntered(const DraggingInfo &info)
         || !PasteboardIngest::canRead(info.pasteboard);
     if (m_refusesDrag)
         return DragOperation::None;
+    if (onUsed)
+        onUsed();
     setDragTargeted(true);
     return DragOperation::Copy;
 }
