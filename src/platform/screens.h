@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRect>
 #include <QRectF>
 
 #include <functional>
@@ -22,6 +23,9 @@ struct EdgeInsets {
 struct Screen {
     /// In global points, origin at the bottom left of the primary display.
     QRectF frame;
+    /// In pixels as the window system counts them, y downward; a fractional scale may leave its
+    /// size one pixel off. For back ends.
+    QRect nativeFrame;
     /// Pixels per point.
     double backingScaleFactor = 1;
     /// Frames per second.

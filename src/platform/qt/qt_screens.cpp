@@ -17,6 +17,9 @@ void refresh(Screen &screen, const QScreen &source)
 {
     screen.frame = qt_geometry::toGlobal(QRectF(source.geometry()));
     screen.backingScaleFactor = source.devicePixelRatio();
+    // Qt scales a screen's size and leaves its place as it is.
+    screen.nativeFrame = {source.geometry().topLeft(),
+                          (QSizeF(source.geometry().size()) * source.devicePixelRatio()).toSize()};
     // Virtual outputs report nothing useful, or zero.
     screen.refreshRate = source.refreshRate() >= 1 ? source.refreshRate() : 60;
 }

@@ -72,20 +72,27 @@ bool X11Connection::isConnected() const
 
 void X11Connection::setUpExtensions()
 {
+    bool hasBarriers = false;
     const auto *xfixes = xcb_get_extension_data(m_connection, &xcb_xfixes_id);
     if (xfixes && xfixes->present) {
         const X11Reply<xcb_xfixes_query_version_reply_t> version(xcb_xfixes_query_version_reply(
             m_connection, xcb_xfixes_query_version(m_connection, 5, 0), nullptr));
-        if (version)
+        if (version) {
             m_xfixesEvent = xfixes->first_event;
+            hasBarriers = version->major_version >= 5;
+        }
     }
     const auto *xinput = xcb_get_extension_data(m_connection, &xcb_input_id);
     if (xinput && xinput->present) {
         // A client that announces less than 2.2 hears nothing while a drag's source holds a grab.
         const X11Reply<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
-            m_connection, xcb_input_xi_query_version(m_connection, 2, 2), nullptr));
+            m_connection, xcb_input_xi_query_version(m_connection, 2, 3), nullptr));
         if (version && (version->major_version > 2 || version->minor_version >= 2))
             m_xinputOpcode = xinput->major_opcode;
+        // Barriers are XFixes', their news are of XInput 2.3.
+        const bool tellsHits
+            = version && (version->major_version > 2 || version->minor_version >= 3);
+        m_hasPointerBarriers = hasBarriers && tellsHits;
     }
 }
 

@@ -39,6 +39,8 @@ public:
     bool isSelectionNotify(const xcb_generic_event_t &event) const;
     bool hasXInput() const { return m_xinputOpcode != 0; }
     std::uint8_t xinputOpcode() const { return m_xinputOpcode; }
+    /// Whether the server keeps pointer barriers and tells who runs against them.
+    bool hasPointerBarriers() const { return m_hasPointerBarriers; }
 
     /// Every event of this connection goes to every listener, in the order they were added. A
     /// listener may add and remove listeners.
@@ -61,6 +63,7 @@ private:
     xcb_window_t m_root = XCB_NONE;
     std::uint8_t m_xfixesEvent = 0;
     std::uint8_t m_xinputOpcode = 0;
+    bool m_hasPointerBarriers = false;
     QSocketNotifier *m_notifier = nullptr;
     std::map<ListenerId, Listener> m_listeners;
     ListenerId m_nextListener = 1;
