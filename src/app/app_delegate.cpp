@@ -35,6 +35,7 @@ void AppDelegate::applicationDidFinishLaunching()
     wireDragDetection();
     wireHotKey();
     wireMenu();
+    wireEdge();
     m_context.windows.showWelcomeOnFirstLaunch();
 }
 
@@ -87,10 +88,27 @@ void AppDelegate::wireMenu()
     m_statusItem->onWelcome = [this] { showWelcome(); };
 }
 
+void AppDelegate::wireEdge()
+{
+    // It goes before the shelf, which it asks and hears.
+    m_edge = std::make_unique<EdgeSummoner>(EdgeSummoner::Context{
+        m_context.edge, m_context.hud.screens, m_context.store, m_context.hud.view.queue,
+        [this](const ScreenPointer &screen) { return m_hud->openWidth(screen); }});
+    m_hud->onPointerInside = [this](bool isInside) {
+        if (m_edge)
+            m_edge->pointerIsInside(isInside);
+    };
+    m_hud->onUsed = [this] {
+        if (m_edge)
+            m_edge->shelfIsUsed();
+    };
+}
+
 void AppDelegate::applicationWillTerminate()
 {
     if (std::exchange(m_isTerminated, true))
         return;
+    m_edge.reset();
     m_context.dragMonitor.stop();
     m_context.hotKeys.unregisterAll();
     m_context.previewPanel.orderOut();

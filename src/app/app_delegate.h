@@ -3,6 +3,7 @@
 #include "app/preferences/preferences_tab.h"
 #include "app/status_item_controller.h"
 #include "platform/preview_panel.h"
+#include "shelf/edge_summoner.h"
 #include "shelf/hud_controller.h"
 
 #include <functional>
@@ -36,6 +37,7 @@ public:
         /// Ends the program.
         std::function<void()> terminate;
         HUDController::Context hud;
+        EdgeSummoner::Desktop edge;
     };
     explicit AppDelegate(const Context &context);
     ~AppDelegate() override;
@@ -62,9 +64,11 @@ private:
     void wireDragDetection();
     void wireHotKey();
     void wireMenu();
+    void wireEdge();
 
     Context m_context;
     std::unique_ptr<HUDController> m_hud;
+    std::unique_ptr<EdgeSummoner> m_edge;
     std::unique_ptr<StatusItemController> m_statusItem;
     bool m_isTerminated = false;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);

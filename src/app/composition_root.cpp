@@ -67,6 +67,8 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , keyMonitors(keyboardLayout)
     , panelSurface(connection)
     , windowActivation(connection)
+    , pointerBarriers(connection, screens)
+    , fullScreenWindows(connection)
     , dragSupport(connection, mainQueue)
     , panel(panelSurface, mainQueue, &dragSupport)
     , viewAllPanel(panelSurface, mainQueue, &dragSupport)
@@ -129,7 +131,8 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                  screenLocator,
                  quickActions,
                  &presenter,
-                 &viewAll}})
+                 &viewAll},
+                {pointerBarriers, fullScreenWindows, dragDesktop, dragDesktop, pointer}})
 {
     thumbnails.setItemsInView([this] { return itemsInView(store); });
 }

@@ -42,9 +42,11 @@
 #include "platform/x11/x11_connection.h"
 #include "platform/x11/x11_drag_desktop.h"
 #include "platform/x11/x11_drag_support.h"
+#include "platform/x11/x11_full_screen_windows.h"
 #include "platform/x11/x11_hot_keys.h"
 #include "platform/x11/x11_keyboard_layout.h"
 #include "platform/x11/x11_panel_surface.h"
+#include "platform/x11/x11_pointer_barriers.h"
 #include "platform/x11/x11_window_activation.h"
 #include "services/link_preview_service.h"
 #include "services/preview_loader.h"
@@ -92,6 +94,8 @@ struct CompositionRoot {
     QtKeyMonitors keyMonitors;
     X11PanelSurface panelSurface;
     X11WindowActivation windowActivation;
+    X11PointerBarriers pointerBarriers;
+    X11FullScreenWindows fullScreenWindows;
     X11DragSupport dragSupport;
     QtPanelWindow panel;
     QtPanelWindow viewAllPanel;

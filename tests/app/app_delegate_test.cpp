@@ -6,6 +6,7 @@
 #include "core/temporary_spool.h"
 #include "fakes/fake_desktop_services.h"
 #include "fakes/fake_drag_desktop.h"
+#include "fakes/fake_edge_trigger.h"
 #include "fakes/fake_hot_keys.h"
 #include "fakes/fake_key_monitors.h"
 #include "fakes/fake_preview_panel.h"
@@ -43,9 +44,19 @@ protected:
     void launch()
     {
         delegate.emplace(AppDelegate::Context{
-            monitor, hotKeys, shortcuts, settings, store, desk.spool, previewPanel, presenter,
-            statusItem, windows, [this] { log << QStringLiteral("terminate"); },
-            controllerContext()});
+            monitor,
+            hotKeys,
+            shortcuts,
+            settings,
+            store,
+            desk.spool,
+            previewPanel,
+            presenter,
+            statusItem,
+            windows,
+            [this] { log << QStringLiteral("terminate"); },
+            controllerContext(),
+            {edgeTrigger, fullScreenWindows, desktop, desktop, desktop.pointer}});
         delegate->applicationDidFinishLaunching();
     }
     bool pressHotKey(const FakeHotKeys::Combination &hotKey)
@@ -87,6 +98,8 @@ protected:
     FakePreviewPanel previewPanel;
     QuickLookPresenter presenter{previewPanel, scratch.path()};
     FakeStatusItem statusItem;
+    FakeEdgeTrigger edgeTrigger;
+    FakeFullScreenWindows fullScreenWindows;
     FakeKeyMonitors keyMonitors;
     FakeDesktopServices desktopServices;
     FakeWindowActivation activation;
@@ -157,6 +170,65 @@ TEST_F(AppDelegateTest, AClosedShelfThatHoldsItemsOpensForADragAndStaysOpen)
     EXPECT_EQ(store.state(), ShelfState::Expanded);
     release();
     EXPECT_EQ(store.state(), ShelfState::Occupied);
+}
+
+TEST_F(AppDelegateTest, TheEdgeShowsTheShelfAndTheShelfTellsWhenThePointerLeavesIt)
+{
+    store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
+    store.toggleManually();
+    ASSERT_EQ(edgeTrigger.watched.size(), 1U);
+    const EdgeStretch watched = edgeTrigger.watched.front();
+    desktop.pointer.position = QPointF(756, 981.5);
+    edgeTrigger.push();
+    desk.clock.advance(EdgeSummoner::approachDelay);
+    ASSERT_EQ(store.state(), ShelfState::Occupied);
+    EXPECT_EQ(watched.width, desk.panel.frame().width()) << "where the shelf hangs";
+    EXPECT_EQ(watched.left, desk.panel.frame().x());
+
+    desk.panel.content->mouseEntered({{100, 40}});
+    desk.clock.advance(10);
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+    desk.panel.content->mouseExited();
+    desk.clock.advance(EdgeSummoner::leaveDelay);
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, AShelfThatTheEdgeShowedStaysOnceItIsPressedTypedOnOrDraggedTo)
+{
+    const std::vector<std::function<void(PanelContent &)>> uses
+        = {[](PanelContent &shelf) {
+               shelf.mouseDown({{100, 40}});
+           },
+           [](PanelContent &shelf) {
+               shelf.keyDown({key_code::rightArrow, {}, false});
+           },
+           [](PanelContent &shelf) {
+               FakePasteboard pasteboard;
+               pasteboard.text = QStringLiteral("x");
+               shelf.draggingEntered({pasteboard, {100, 40}});
+           }};
+    for (const auto &use : uses) {
+        store.clearAll();
+        store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
+        store.toggleManually();
+        desktop.pointer.position = QPointF(756, 981.5);
+        edgeTrigger.push();
+        desk.clock.advance(EdgeSummoner::approachDelay);
+        desk.panel.content->mouseEntered({{100, 40}});
+        use(*desk.panel.content);
+        desk.panel.content->mouseExited();
+        desk.clock.advance(10);
+        EXPECT_EQ(store.state(), ShelfState::Occupied);
+    }
+}
+
+TEST_F(AppDelegateTest, TheEdgeIsLeftAloneOnceTheProgramEnds)
+{
+    store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
+    store.toggleManually();
+    ASSERT_FALSE(edgeTrigger.watched.empty());
+    delegate->applicationWillTerminate();
+    EXPECT_TRUE(edgeTrigger.watched.empty());
 }
 
 TEST_F(AppDelegateTest, ReopeningTogglesTheShelf)
