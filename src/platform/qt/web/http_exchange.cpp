@@ -1,6 +1,7 @@
 #include "platform/qt/web/http_exchange.h"
 
-#include <QNetworkProxy>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
 #include <QSslConfiguration>
 
 #include <algorithm>
@@ -12,20 +13,20 @@ namespace corvane {
 
 namespace {
 
-constexpr qint64 socketBufferBytes = 64 * 1024;
+constexpr qint64 readBufferBytes = 65'536;
 /// Servers refuse far shorter ones.
-constexpr qsizetype maximumTargetBytes = 64 * 1024;
+constexpr qsizetype maximumTargetBytes = 65'536;
 
 bool isHttps(const QUrl &url)
 {
     return url.scheme() == QLatin1String("https");
 }
 
-int portOf(const QUrl &url)
+int usualPortOf(const QUrl &url)
 {
     constexpr int http = 80;
     constexpr int https = 443;
-    return url.port(isHttps(url) ? https : http);
+    return isHttps(url) ? https : http;
 }
 
 /// Nothing in it can end a line or a word.
@@ -48,8 +49,8 @@ QByteArray hostFieldOf(const QUrl &url)
             host.truncate(scope);
         host = '[' + host + ']';
     }
-    const bool isUsualPort = portOf(url) == portOf(QUrl(url.scheme() + QStringLiteral("://h")));
-    return isUsualPort ? host : host + ':' + QByteArray::number(portOf(url));
+    const int port = url.port(usualPortOf(url));
+    return port == usualPortOf(url) ? host : host + ':' + QByteArray::number(port);
 }
 
 /// The name that a certificate must be made out to.
@@ -61,35 +62,80 @@ QString certifiedNameOf(const QUrl &url)
     return name;
 }
 
+QSslConfiguration tlsConfiguration(const QList<QSslCertificate> &authorities)
+{
+    QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+    configuration.setProtocol(QSsl::TlsV1_2OrLater);
+    configuration.setPeerVerifyMode(QSslSocket::VerifyPeer);
+    if (!authorities.isEmpty())
+        configuration.addCaCertificates(authorities);
+    return configuration;
+}
+
+/// Nothing is kept, sent along or answered that was not asked for.
+void keepToOurselves(QNetworkRequest &request)
+{
+    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
+                         QNetworkRequest::ManualRedirectPolicy);
+    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
+    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+}
+
+/// Whether the server has answered, and it is only its answer that is called an error.
+bool hasAnswered(int statusCode, QNetworkReply::NetworkError error)
+{
+    if (error == QNetworkReply::NoError)
+        return statusCode > 0;
+    const bool isAboutContent = error >= QNetworkReply::ContentAccessDenied
+        && error <= QNetworkReply::UnknownContentError;
+    const bool isAboutServer
+        = error >= QNetworkReply::InternalServerError && error <= QNetworkReply::UnknownServerError;
+    return statusCode >= 400
+        && (isAboutContent || isAboutServer
+            || error == QNetworkReply::ProtocolInvalidOperationError);
+}
+
 } // namespace
 
-std::optional<QByteArray> HttpExchange::requestFor(const Plan &plan)
+std::optional<QNetworkRequest> HttpExchange::requestFor(const Plan &plan,
+                                                        const QHostAddress &address)
 {
-    QByteArray target = plan.url.path(QUrl::FullyEncoded).toLatin1();
-    if (target.isEmpty())
-        target = "/";
-    if (plan.url.hasQuery())
-        target += '?' + plan.url.query(QUrl::FullyEncoded).toLatin1();
+    const QByteArray target
+        = plan.url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
     const QByteArray host = hostFieldOf(plan.url);
     if (!isPlain(target) || !isPlain(host) || target.size() > maximumTargetBytes)
         return std::nullopt;
     if (!isFieldValue(plan.userAgent) || !isFieldValue(plan.accept))
         return std::nullopt;
 
-    QByteArray request = "GET " + target + " HTTP/1.1\r\nHost: " + host + "\r\n";
-    if (!plan.userAgent.isEmpty())
-        request += "User-Agent: " + plan.userAgent + "\r\n";
+    QUrl url = plan.url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
+    url.setHost(address.toString());
+    if (!url.isValid())
+        return std::nullopt;
+    QNetworkRequest request(url);
+    request.setRawHeader("Host", host);
+    request.setPeerVerifyName(certifiedNameOf(plan.url));
+    request.setRawHeader("User-Agent", plan.userAgent);
     if (!plan.accept.isEmpty())
-        request += "Accept: " + plan.accept + "\r\n";
-    request += QByteArray("Accept-Encoding: ") + ContentDecoder::accepted + "\r\n";
-    // Nothing is kept open for later: an idle connection wakes both of its sides.
-    return request + "Connection: close\r\n\r\n";
+        request.setRawHeader("Accept", plan.accept);
+    // The toolkit would tell the desktop's language.
+    request.setRawHeader("Accept-Language", "*");
+    // An idle connection wakes both of its sides.
+    request.setRawHeader("Connection", "close");
+    // The body is taken in small pieces and left where enough has come: nothing swells unseen.
+    request.setDecompressedSafetyCheckThreshold(-1);
+    keepToOurselves(request);
+    if (isHttps(plan.url))
+        request.setSslConfiguration(tlsConfiguration(plan.authorities));
+    return request;
 }
 
-HttpExchange::HttpExchange(Plan plan, QByteArray request)
-    : m_plan(std::move(plan))
-    , m_request(std::move(request))
-    , m_reader(m_plan.maximumBytes)
+HttpExchange::HttpExchange(QNetworkAccessManager &manager, Plan plan)
+    : m_manager(manager)
+    , m_plan(std::move(plan))
 {
     m_patience.setSingleShot(true);
     connect(&m_patience, &QTimer::timeout, this, &HttpExchange::tryNextAddress);
@@ -97,8 +143,7 @@ HttpExchange::HttpExchange(Plan plan, QByteArray request)
 
 HttpExchange::~HttpExchange()
 {
-    if (m_socket)
-        m_socket->disconnect(this);
+    dropReply();
 }
 
 void HttpExchange::start()
@@ -106,95 +151,100 @@ void HttpExchange::start()
     tryNextAddress();
 }
 
+std::optional<QByteArray> HttpExchange::redirection() const
+{
+    constexpr std::array statuses = {301, 302, 303, 307, 308};
+    if (std::ranges::find(statuses, m_statusCode) == statuses.end() || m_location.isEmpty())
+        return std::nullopt;
+    return m_location;
+}
+
 void HttpExchange::tryNextAddress()
 {
+    dropReply();
     if (m_plan.addresses.isEmpty())
-        return finish();
+        return finish(false);
     m_peer = m_plan.addresses.takeFirst();
+    const auto request = requestFor(m_plan, m_peer);
+    if (!request)
+        return finish(false);
     // The last one may take the time that is left.
     if (!m_plan.addresses.isEmpty())
         m_patience.start(static_cast<int>(std::lround(m_plan.nextAddressAfter * 1000)));
-    connectTo(m_peer);
-}
 
-void HttpExchange::connectTo(const QHostAddress &address)
-{
-    dropSocket();
-    m_socket = std::make_unique<QSslSocket>();
-    m_socket->setProxy(QNetworkProxy::NoProxy);
-    m_socket->setReadBufferSize(socketBufferBytes);
-    connect(m_socket.get(), &QSslSocket::readyRead, this, &HttpExchange::read);
-    connect(m_socket.get(), &QSslSocket::errorOccurred, this, &HttpExchange::fail);
-    connect(m_socket.get(), &QSslSocket::connected, this, [this] {
+    m_reply = m_manager.get(*request);
+    m_reply->setReadBufferSize(readBufferBytes);
+    connect(m_reply, &QNetworkReply::requestSent, this, [this] {
         m_isConnected = true;
         m_patience.stop();
         onProgress();
     });
-    const auto port = static_cast<quint16>(portOf(m_plan.url));
-    if (!isHttps(m_plan.url)) {
-        connect(m_socket.get(), &QSslSocket::connected, this, &HttpExchange::send);
-        m_socket->connectToHost(address.toString(), port);
-        return;
-    }
-    QSslConfiguration configuration = m_socket->sslConfiguration();
-    configuration.setProtocol(QSsl::TlsV1_2OrLater);
-    configuration.setPeerVerifyMode(QSslSocket::VerifyPeer);
-    if (!m_plan.authorities.isEmpty())
-        configuration.addCaCertificates(m_plan.authorities);
-    m_socket->setSslConfiguration(configuration);
-    connect(m_socket.get(), &QSslSocket::encrypted, this, &HttpExchange::send);
-    m_socket->connectToHostEncrypted(address.toString(), port, certifiedNameOf(m_plan.url));
+    connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::readHead);
+    connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::readBody);
+    connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::replyFinished);
 }
 
-void HttpExchange::send()
+void HttpExchange::readHead()
 {
     onProgress();
-    m_socket->write(m_request);
+    m_statusCode = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    m_location = m_reply->rawHeader("Location");
+    bool isNumber = false;
+    const qint64 length = m_reply->rawHeader("Content-Length").toLongLong(&isNumber);
+    const bool isCoded = m_reply->hasRawHeader("Content-Encoding");
+    m_expectedContentLength = isNumber && length >= 0 && !isCoded ? length : -1;
+    if (redirection())
+        finish(true);
 }
 
-void HttpExchange::read()
+void HttpExchange::readBody()
 {
-    std::array<char, socketBufferBytes> piece;
-    for (;;) {
-        const qint64 count = m_socket->read(piece.data(), piece.size());
-        if (count <= 0)
+    while (m_reply && m_body.size() < m_plan.maximumBytes) {
+        const QByteArray piece
+            = m_reply->read(std::min(readBufferBytes, m_plan.maximumBytes - m_body.size()));
+        if (piece.isEmpty())
             return;
         onProgress();
-        const auto state = m_reader.feed({piece.data(), count});
-        if (state == HttpResponseReader::State::Complete
-            || state == HttpResponseReader::State::Failed)
-            return finish();
+        m_body += piece;
     }
+    finish(true);
 }
 
-void HttpExchange::fail()
+bool HttpExchange::isWhole() const
+{
+    return m_expectedContentLength < 0 || m_body.size() >= m_expectedContentLength;
+}
+
+void HttpExchange::replyFinished()
 {
     if (!m_isConnected)
         return tryNextAddress();
-    // A server that closes is no failure, if all has come.
-    read();
-    finish();
+    const bool isAnswer = hasAnswered(m_statusCode, m_reply->error());
+    if (isAnswer)
+        readBody();
+    finish(isAnswer && isWhole());
 }
 
-void HttpExchange::finish()
+void HttpExchange::finish(bool isComplete)
 {
     if (std::exchange(m_hasEnded, true))
         return;
-    m_reader.end();
+    m_isComplete = isComplete;
     m_patience.stop();
-    dropSocket();
+    dropReply();
     QMetaObject::invokeMethod(
         this, [this] { onEnd(); }, Qt::QueuedConnection);
 }
 
-void HttpExchange::dropSocket()
+void HttpExchange::dropReply()
 {
-    if (!m_socket)
+    if (!m_reply)
         return;
-    m_socket->disconnect(this);
-    m_socket->abort();
+    QNetworkReply *const reply = std::exchange(m_reply, nullptr);
+    reply->disconnect(this);
+    reply->abort();
     // This may be its own signal.
-    m_socket.release()->deleteLater();
+    reply->deleteLater();
 }
 
 } // namespace corvane

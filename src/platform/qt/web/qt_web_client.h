@@ -14,10 +14,10 @@ namespace corvane {
 
 class WebFetches;
 
-/// The web client on Qt's sockets, with an HTTP/1.1 of its own: one connection for each request, no
-/// more of a response in memory than is wanted, and no answer to whoever asks who the user is.
-/// The toolkit's own client logs in by itself where a server asks for the desktop's credentials,
-/// and sends a request again when it was not answered.
+/// The web client on Qt's own: one manager, one connection for each request, no more of a body in
+/// memory than is wanted, and no answer to whoever asks who the user is. A request whose connection
+/// was closed without an answer is sent again, at most twice; a server's head has no limit but the
+/// time.
 ///
 /// Names, TLS and decompression have a thread of their own. It is started by the first request and
 /// sleeps between requests; there are no connections then and no timers. From https a redirection

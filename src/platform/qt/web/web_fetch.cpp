@@ -26,8 +26,9 @@ bool isOfTheWeb(const QUrl &url)
 
 } // namespace
 
-WebFetch::WebFetch(const WebNetwork &network, WebRequest request)
-    : m_network(network)
+WebFetch::WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, WebRequest request)
+    : m_manager(manager)
+    , m_network(network)
     , m_request(std::move(request))
     , m_farthest(m_request.foundIn)
     , m_mailbox(std::make_shared<Mailbox>(*this))
@@ -85,13 +86,10 @@ void WebFetch::exchangeWith(const QList<QHostAddress> &found)
 {
     if (m_hasEnded)
         return;
-    HttpExchange::Plan plan{
-        m_url,          m_request.userAgent,        m_request.accept,     m_request.maximumBytes,
-        allowed(found), m_network.nextAddressAfter, m_network.authorities};
-    auto request = HttpExchange::requestFor(plan);
-    if (plan.addresses.isEmpty() || !request)
-        return finish(std::nullopt);
-    m_exchange = std::make_unique<HttpExchange>(std::move(plan), std::move(*request));
+    m_exchange = std::make_unique<HttpExchange>(
+        m_manager,
+        HttpExchange::Plan{m_url, m_request.userAgent, m_request.accept, m_request.maximumBytes,
+                           allowed(found), m_network.nextAddressAfter, m_network.authorities});
     m_exchange->onProgress = [this] { m_silence.start(); };
     m_exchange->onEnd = [this] { exchangeEnded(); };
     m_exchange->start();
@@ -102,15 +100,14 @@ void WebFetch::exchangeEnded()
     // It is the one that calls.
     HttpExchange *const exchange = m_exchange.release();
     exchange->deleteLater();
-    const HttpResponseReader &reader = exchange->response();
-    if (m_hasEnded || reader.state() != HttpResponseReader::State::Complete)
+    if (m_hasEnded || !exchange->isComplete())
         return finish(std::nullopt);
     const AddressSpace space = m_network.spaceOf(exchange->peer());
     m_farthest = std::max(m_farthest.value_or(space), space);
-    if (const auto location = reader.head().redirection())
+    if (const auto location = exchange->redirection())
         return follow(*location);
-    finish(WebResponse{reader.head().statusCode, reader.expectedContentLength(), m_url,
-                       reader.body(), *m_farthest});
+    finish(WebResponse{exchange->statusCode(), exchange->expectedContentLength(), m_url,
+                       exchange->body(), *m_farthest});
 }
 
 void WebFetch::follow(const QByteArray &location)

@@ -26,8 +26,8 @@ class Mailbox;
 /// everything that it makes.
 class WebFetch : public QObject {
 public:
-    /// The network must outlive it.
-    WebFetch(const WebNetwork &network, WebRequest request);
+    /// The manager and the network must outlive it.
+    WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, WebRequest request);
     WebFetch(const WebFetch &) = delete;
     WebFetch &operator=(const WebFetch &) = delete;
     ~WebFetch() override;
@@ -46,6 +46,7 @@ private:
     void follow(const QByteArray &location);
     void finish(std::optional<WebResponse> response);
 
+    QNetworkAccessManager &m_manager;
     const WebNetwork &m_network;
     WebRequest m_request;
     QUrl m_url;

@@ -1,5 +1,7 @@
 #include "platform/qt/web/web_fetches.h"
 
+#include <QNetworkProxy>
+
 #include <utility>
 
 namespace corvane {
@@ -23,7 +25,7 @@ void WebFetches::startNext()
     while (!m_waiting.empty() && m_running.size() < maximumAtOnce) {
         auto [number, request] = std::move(m_waiting.front());
         m_waiting.pop_front();
-        auto fetch = std::make_unique<WebFetch>(m_network, std::move(request));
+        auto fetch = std::make_unique<WebFetch>(manager(), m_network, std::move(request));
         fetch->onEnd = [this, id = number](std::optional<WebResponse> response) {
             ended(id, std::move(response));
         };
@@ -31,6 +33,15 @@ void WebFetches::startNext()
         m_running.emplace(number, std::move(fetch));
         started.start();
     }
+}
+
+QNetworkAccessManager &WebFetches::manager()
+{
+    if (!m_manager) {
+        m_manager = std::make_unique<QNetworkAccessManager>();
+        m_manager->setProxy(QNetworkProxy::NoProxy);
+    }
+    return *m_manager;
 }
 
 void WebFetches::ended(std::uint64_t number, std::optional<WebResponse> response)

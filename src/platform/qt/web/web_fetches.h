@@ -3,6 +3,7 @@
 #include "platform/qt/web/web_fetch.h"
 #include "platform/qt/web/web_network.h"
 
+#include <QNetworkAccessManager>
 #include <QObject>
 
 #include <cstdint>
@@ -33,10 +34,13 @@ public:
 
 private:
     void startNext();
+    QNetworkAccessManager &manager();
     void ended(std::uint64_t number, std::optional<WebResponse> response);
 
     WebNetwork m_network;
     Deliver m_deliver;
+    /// Made on the thread, with the first fetch.
+    std::unique_ptr<QNetworkAccessManager> m_manager;
     std::deque<std::pair<std::uint64_t, WebRequest>> m_waiting;
     std::map<std::uint64_t, std::unique_ptr<WebFetch>> m_running;
 };
