@@ -25,8 +25,10 @@ Line lineOf(const EdgeStretch &stretch)
 /// What is left of the line beside the columns of `screen`, if that lies right above.
 std::vector<Line> without(const Line &line, const QRect &screen)
 {
+    // A fractional scale may have rounded its height down, and a barrier there would be in the way.
+    constexpr int rounding = 2;
     const int above = line.y - 1;
-    const bool liesAbove = screen.top() <= above && screen.bottom() >= above;
+    const bool liesAbove = screen.top() <= above && screen.bottom() + rounding >= above;
     if (!liesAbove || screen.right() < line.left || screen.left() > line.right)
         return {line};
     std::vector<Line> rest;
