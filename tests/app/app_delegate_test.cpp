@@ -204,7 +204,7 @@ TEST_F(AppDelegateTest, AShelfThatTheEdgeShowedStaysOnceItIsPressedTypedOnOrDrag
            },
            [](PanelContent &shelf) {
                FakePasteboard pasteboard;
-               pasteboard.text = QStringLiteral("x");
+               pasteboard.offerText(QStringLiteral("x"));
                shelf.draggingEntered({pasteboard, {100, 40}});
            }};
     for (const auto &use : uses) {
