@@ -8,6 +8,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace corvane {
 
 namespace {
@@ -26,9 +28,9 @@ constexpr double paragraphInset = 40;
 
 } // namespace
 
-AboutPane::AboutPane(const PreferencesContext &context, QWidget *parent)
+AboutPane::AboutPane(PreferencesContext context, QWidget *parent)
     : QWidget(parent)
-    , m_context(context)
+    , m_context(std::move(context))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, m_look.length(topSpace), 0, 0);

@@ -12,7 +12,7 @@ class AboutPane : public QWidget {
     Q_OBJECT
 
 public:
-    explicit AboutPane(const PreferencesContext &context, QWidget *parent = nullptr);
+    explicit AboutPane(PreferencesContext context, QWidget *parent = nullptr);
 
 private:
     QWidget *makeParagraph(const QString &text) const;

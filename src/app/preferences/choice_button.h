@@ -13,9 +13,9 @@ class ChoiceButton : public QRadioButton {
 
 public:
     struct Shape {
-        double fontSize;
-        double horizontalPadding;
-        double verticalPadding;
+        double fontSize = 0;
+        double horizontalPadding = 0;
+        double verticalPadding = 0;
         /// Of the smallest of a row; narrower texts get as much.
         double minimumWidth = 0;
     };

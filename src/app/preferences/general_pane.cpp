@@ -14,6 +14,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace corvane {
 
 namespace {
@@ -25,9 +27,9 @@ constexpr QSize buttonSize{88, 26};
 
 } // namespace
 
-GeneralPane::GeneralPane(const PreferencesContext &context, QWidget *parent)
+GeneralPane::GeneralPane(PreferencesContext context, QWidget *parent)
     : QWidget(parent)
-    , m_context(context)
+    , m_context(std::move(context))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -21,7 +21,7 @@ class GeneralPane : public QWidget {
     Q_OBJECT
 
 public:
-    explicit GeneralPane(const PreferencesContext &context, QWidget *parent = nullptr);
+    explicit GeneralPane(PreferencesContext context, QWidget *parent = nullptr);
 
 private:
     QWidget *makeUnkeptNotice() const;

@@ -19,10 +19,10 @@ QString rawValue(PreferencesTab tab)
     return QString::fromLatin1(name(tab));
 }
 
-std::optional<PreferencesTab> fromRawValue(const QString &text)
+std::optional<PreferencesTab> fromRawValue(const QString &rawValue)
 {
     for (const PreferencesTab tab : allPreferencesTabs) {
-        if (rawValue(tab) == text)
+        if (preferences_tab::rawValue(tab) == rawValue)
             return tab;
     }
     return std::nullopt;

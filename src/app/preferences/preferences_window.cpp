@@ -41,18 +41,18 @@ protected:
 
 } // namespace
 
-PreferencesWindow::PreferencesWindow(const PreferencesContext &context, TabSelection &selection,
+PreferencesWindow::PreferencesWindow(PreferencesContext context, TabSelection &selection,
                                      std::function<void()> onClose)
     : ShellWindow(WindowLook().length(contentSize), std::move(onClose))
-    , m_context(context)
+    , m_context(std::move(context))
     , m_selection(selection)
+    , m_area(new QScrollArea)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(makeTabBar());
     layout->addWidget(new Divider);
-    m_area = new QScrollArea;
     m_area->setFrameShape(QFrame::NoFrame);
     m_area->setWidgetResizable(true);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -20,7 +20,7 @@ class PreferencesWindow : public ShellWindow {
 public:
     static constexpr QSize contentSize{480, 560};
 
-    PreferencesWindow(const PreferencesContext &context, TabSelection &selection,
+    PreferencesWindow(PreferencesContext context, TabSelection &selection,
                       std::function<void()> onClose);
 
 protected:
@@ -38,7 +38,7 @@ private:
     TabSelection &m_selection;
     WindowLook m_look;
     std::array<ChoiceButton *, allPreferencesTabs.size()> m_tabs{};
-    QScrollArea *m_area = nullptr;
+    QScrollArea *m_area;
     std::optional<PreferencesTab> m_shown;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };

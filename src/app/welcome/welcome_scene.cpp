@@ -94,8 +94,8 @@ WelcomeScene dragOut(double phase)
 
 /// One of the two drags out of the shelf of the last step, begun and ended at these moments.
 struct Carry {
-    double begin;
-    double end;
+    double begin = 0;
+    double end = 0;
     QPointF to;
 };
 
