@@ -142,6 +142,16 @@ TYPED_TEST(ScreensContract, aChangeIsToldOnceAndIsThereByThen)
     EXPECT_EQ(sizes, std::vector{QSizeF(1200, 800)});
 }
 
+TEST(QtScreens, tellWhichPixelsOfTheServerTheyShow)
+{
+    RealDisplays displays;
+    displays.split();
+    ASSERT_TRUE(eventually([&] { return displays.screens.screens().size() == 2; }));
+    const auto attached = displays.screens.screens();
+    EXPECT_EQ(attached[0]->nativeFrame, QRect(0, 0, 700, 982));
+    EXPECT_EQ(attached[1]->nativeFrame, QRect(700, 0, 812, 982));
+}
+
 TEST(QtGeometry, isTurnedOverAndBack)
 {
     EXPECT_EQ(qt_geometry::primaryHeight(), 982);
