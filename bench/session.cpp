@@ -2,9 +2,11 @@
 
 #include "support/child.h"
 #include "support/table.h"
+#include "support/text_drop.h"
 #include "support/x_desk.h"
 
 #include <chrono>
+#include <stdexcept>
 #include <string>
 #include <thread>
 #include <vector>
@@ -41,11 +43,33 @@ struct Switches {
     long corvane;
 };
 
+/// The shelf then waits for the pointer at the top edge.
+void hideWithSomething(XDesk &desk)
+{
+    desk.watchWindows();
+    dropText(desk);
+    desk.moveTo(100, desk.height() - 10);
+    desk.pressHotKey();
+    desk.releaseHotKey();
+    if (!desk.waitForPanel(false))
+        throw std::runtime_error("the shelf does not hide");
+}
+
+void moveOften(XDesk &desk)
+{
+    for (int i = 0; i < 1000; ++i) {
+        desk.moveBy(i < 500 ? 2 : -2, i % 2 == 0 ? 3 : -3);
+        // Apart, so that a program which hears them has to wake up for each.
+        std::this_thread::sleep_for(2ms);
+    }
+    desk.sync();
+    std::this_thread::sleep_for(100ms);
+}
+
 void measureAtRest()
 {
     XDesk desk;
-    const int y = desk.height() - 10;
-    desk.moveTo(desk.width() / 2, y);
+    desk.moveTo(100, desk.height() - 10);
     const Child empty("empty_widgets");
     const Child corvane("corvane");
     empty.waitUntilQuiet();
@@ -69,14 +93,15 @@ void measureAtRest()
     printSince(beforeRest, "wake-ups in 20 s idle", 0);
 
     const Switches beforeMoves = switches();
-    for (int i = 0; i < 1000; ++i) {
-        desk.moveTo(100 + i, y - i % 2);
-        // Apart, so that a program which hears them has to wake up for each.
-        std::this_thread::sleep_for(2ms);
-    }
-    desk.sync();
-    std::this_thread::sleep_for(100ms);
+    moveOften(desk);
     printSince(beforeMoves, "wake-ups in 1000 pointer moves, no button", 5);
+
+    hideWithSomething(desk);
+    empty.waitUntilQuiet();
+    corvane.waitUntilQuiet();
+    const Switches beforeWatched = switches();
+    moveOften(desk);
+    printSince(beforeWatched, "the same while the top edge is watched", 5);
 }
 
 } // namespace

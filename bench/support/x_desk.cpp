@@ -73,6 +73,11 @@ void XDesk::moveTo(int x, int y)
     fake(XCB_MOTION_NOTIFY, 0, x, y);
 }
 
+void XDesk::moveBy(int x, int y)
+{
+    fake(XCB_MOTION_NOTIFY, 1, x, y);
+}
+
 void XDesk::press()
 {
     fake(XCB_BUTTON_PRESS, 1);

@@ -22,6 +22,8 @@ public:
     bool isComposited();
 
     void moveTo(int x, int y);
+    /// As a mouse moves it: by a step.
+    void moveBy(int x, int y);
     void press();
     void release();
     /// Super, Shift and the key that carries the D: what toggles the shelf when nothing is set.
