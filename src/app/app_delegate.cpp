@@ -15,8 +15,8 @@
 
 namespace corvane {
 
-AppDelegate::AppDelegate(const Context &context)
-    : m_context(context)
+AppDelegate::AppDelegate(Context context)
+    : m_context(std::move(context))
 {
 }
 

@@ -39,7 +39,7 @@ public:
         HUDController::Context hud;
         EdgeSummoner::Desktop edge;
     };
-    explicit AppDelegate(const Context &context);
+    explicit AppDelegate(Context context);
     ~AppDelegate() override;
     AppDelegate(const AppDelegate &) = delete;
     AppDelegate &operator=(const AppDelegate &) = delete;
