@@ -72,7 +72,7 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , dragSupport(connection, mainQueue)
     , panel(panelSurface, mainQueue, &dragSupport)
     , viewAllPanel(panelSurface, mainQueue, &dragSupport)
-    , statusItem(mainQueue)
+    , statusItem(mainQueue, connection)
     , dragMonitor(dragDesktop, dragDesktop, dragDesktop, mainQueue)
     , screenLocator(screens, pointer)
     , hotKeys(hotKeyService, mainQueue)
@@ -119,7 +119,7 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                 spool,
                 previewPanel,
                 presenter,
-                statusItem,
+                statusItem.item(),
                 windows,
                 terminate,
                 {{panel, mainQueue, motionPreference, theme, layerAnimator, textMeasurer, keyboard,

@@ -3,93 +3,57 @@
 #include "app/status_icon.h"
 #include "platform/main_queue.h"
 
-#include <QCursor>
 #include <QGuiApplication>
 #include <QPalette>
 
-#include <utility>
-
 namespace corvane {
 
-namespace {
-
-QColor foreground()
+DesktopStatusItem::DesktopStatusItem(MainQueue &mainQueue, X11Connection &connection)
+    : m_mainQueue(mainQueue)
+    , m_hosts(std::make_unique<NotifierHosts>())
+    , m_x11Tray(std::make_unique<X11TrayWatch>(connection))
 {
-    return status_icon::likelyForeground(qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
-                                         QGuiApplication::palette().color(QPalette::WindowText));
-}
-
-} // namespace
-
-DesktopStatusItem::DesktopStatusItem(MainQueue &mainQueue)
-    : m_notifier(QStringLiteral("Corvane"))
-{
-    m_notifier.setMenuOpener([this] {
-        if (m_menu)
-            m_popup.open(m_menu(), {QCursor::pos(), QSize(1, 1)});
-    });
     // The shelf does not wait for its icon.
     mainQueue.async([this, alive = std::weak_ptr<bool>(m_alive)] {
-        if (alive.expired())
+        if (!alive.expired())
+            search();
+    });
+}
+
+void DesktopStatusItem::search()
+{
+    m_hosts->start([this] { found(0); });
+    // A panel that has both announces one after the other, and the first icon decides for good.
+    constexpr double settleDelay = 1;
+    m_x11Tray->start([this] { found(settleDelay); });
+}
+
+void DesktopStatusItem::found(double delay)
+{
+    // Never at once: who found it ends here.
+    m_mainQueue.asyncAfter(delay, [this, alive = std::weak_ptr<bool>(m_alive)] {
+        if (alive.expired() || !m_hosts)
             return;
+        m_hosts.reset();
+        m_x11Tray.reset();
         updateForeground();
         // The event that is to be handled instead is seen only by filtering every event there is.
         QT_WARNING_PUSH
         QT_WARNING_DISABLE_DEPRECATED
-        QObject::connect(qGuiApp, &QGuiApplication::paletteChanged, &m_notifier,
-                         [this] { updateForeground(); });
+        QObject::connect(qGuiApp, &QGuiApplication::paletteChanged, qGuiApp, [this, alive] {
+            if (!alive.expired())
+                updateForeground();
+        });
         QT_WARNING_POP
-        m_notifier.start([this](bool isAvailable) { setOnBus(isAvailable); });
+        m_item.appear();
     });
-}
-
-void DesktopStatusItem::setOnBus(bool isOnBus)
-{
-    if (isOnBus) {
-        m_tray.reset();
-    } else if (!m_tray) {
-        m_tray = std::make_unique<QtTrayIcon>();
-        m_tray->setForeground(foreground());
-        m_tray->setToolTip(m_toolTip);
-        m_tray->setMenu(m_menu);
-        m_tray->setIcon(m_icon);
-    }
 }
 
 void DesktopStatusItem::updateForeground()
 {
-    m_notifier.setForeground(foreground());
-    if (m_tray)
-        m_tray->setForeground(foreground());
-}
-
-void DesktopStatusItem::setIcon(Icon icon)
-{
-    m_icon = std::move(icon);
-    m_notifier.setIcon(m_icon);
-    if (m_tray)
-        m_tray->setIcon(m_icon);
-}
-
-void DesktopStatusItem::setToolTip(const QString &toolTip)
-{
-    m_toolTip = toolTip;
-    m_notifier.setToolTip(toolTip);
-    if (m_tray)
-        m_tray->setToolTip(toolTip);
-}
-
-void DesktopStatusItem::setMenu(Menu menu)
-{
-    m_menu = std::move(menu);
-    m_notifier.setMenu(m_menu);
-    if (m_tray)
-        m_tray->setMenu(m_menu);
-}
-
-void DesktopStatusItem::menuChanged()
-{
-    m_notifier.menuChanged();
+    m_item.setForeground(
+        status_icon::likelyForeground(qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
+                                      QGuiApplication::palette().color(QPalette::WindowText)));
 }
 
 } // namespace corvane

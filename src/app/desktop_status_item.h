@@ -1,9 +1,8 @@
 #pragma once
 
-#include "platform/freedesktop/notifier_item.h"
-#include "platform/qt/menu_popup.h"
+#include "platform/freedesktop/notifier_hosts.h"
 #include "platform/qt/qt_tray_icon.h"
-#include "platform/status_item.h"
+#include "platform/x11/x11_tray_watch.h"
 
 #include <memory>
 
@@ -11,31 +10,28 @@ namespace corvane {
 
 class MainQueue;
 
-/// The status item wherever the desktop has a place for it: on the session bus while somebody
-/// gathers items there, in the X11 tray otherwise. Either may come and go; without both there is no
-/// icon, and nothing else is missing.
-class DesktopStatusItem : public StatusItem {
+/// Brings the status item up once the desktop has a place for it, a panel on the session bus or an
+/// X11 tray, whichever is seen first; where both are there it is the bus. Without either nothing is
+/// made, and nothing else is missing.
+class DesktopStatusItem {
 public:
-    /// Begins at the next turn of the queue, which must outlive it.
-    explicit DesktopStatusItem(MainQueue &mainQueue);
+    /// Begins at the next turn of the queue. Both must outlive it.
+    DesktopStatusItem(MainQueue &mainQueue, X11Connection &connection);
 
-    void setIcon(Icon icon) override;
-    void setToolTip(const QString &toolTip) override;
-    void setMenu(Menu menu) override;
-    void menuChanged() override;
+    StatusItem &item() { return m_item; }
 
 private:
-    void setOnBus(bool isOnBus);
+    void search();
+    /// Brings it up so many seconds later.
+    void found(double delay);
     /// Has it drawn in the colour of the present palette.
     void updateForeground();
 
-    Icon m_icon;
-    QString m_toolTip;
-    Menu m_menu;
-    MenuPopup m_popup;
-    NotifierItem m_notifier;
-    /// Only while it is needed: it watches the tray by itself.
-    std::unique_ptr<QtTrayIcon> m_tray;
+    MainQueue &m_mainQueue;
+    QtTrayIcon m_item;
+    // Both only until something is found.
+    std::unique_ptr<NotifierHosts> m_hosts;
+    std::unique_ptr<X11TrayWatch> m_x11Tray;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };
 

@@ -1,7 +1,6 @@
 #include "platform/menu.h"
 
 #include <QHash>
-#include <QKeySequence>
 
 #include <array>
 
@@ -11,27 +10,25 @@ namespace {
 
 struct ModifierName {
     Modifier modifier;
-    const char *onTheBus;
-    const char *inKeySequences;
+    const char *name;
 };
 constexpr std::array<ModifierName, 4> modifierNames = {{
-    {Modifier::Command, "Super", "Meta"},
-    {Modifier::Control, "Control", "Ctrl"},
-    {Modifier::Option, "Alt", "Alt"},
-    {Modifier::Shift, "Shift", "Shift"},
+    {Modifier::Command, "Meta"},
+    {Modifier::Control, "Ctrl"},
+    {Modifier::Option, "Alt"},
+    {Modifier::Shift, "Shift"},
 }};
 
-/// The keys that shortcuts keep by a sign. Where GTK and Qt call a key differently, Qt takes GTK's
-/// name too, in any case; it does not for the last four.
+/// The keys that shortcuts keep by a sign, as key sequences call them.
 const QHash<QString, QString> &namesOfSigns()
 {
     static const QHash<QString, QString> names = {
         {QStringLiteral("↩"), QStringLiteral("Return")},
         {QStringLiteral("⇥"), QStringLiteral("Tab")},
-        {QStringLiteral("␣"), QStringLiteral("space")},
-        {QStringLiteral("⌫"), QStringLiteral("BackSpace")},
-        {QStringLiteral("⌦"), QStringLiteral("Delete")},
-        {QStringLiteral("⎋"), QStringLiteral("Escape")},
+        {QStringLiteral("␣"), QStringLiteral("Space")},
+        {QStringLiteral("⌫"), QStringLiteral("Backspace")},
+        {QStringLiteral("⌦"), QStringLiteral("Del")},
+        {QStringLiteral("⎋"), QStringLiteral("Esc")},
         {QStringLiteral("←"), QStringLiteral("Left")},
         {QStringLiteral("→"), QStringLiteral("Right")},
         {QStringLiteral("↑"), QStringLiteral("Up")},
@@ -41,9 +38,6 @@ const QHash<QString, QString> &namesOfSigns()
         {QStringLiteral("⇞"), QStringLiteral("PgUp")},
         {QStringLiteral("⇟"), QStringLiteral("PgDown")},
         {QStringLiteral("⌤"), QStringLiteral("Enter")},
-        // Between names and key there are plus signs.
-        {QStringLiteral("+"), QStringLiteral("plus")},
-        {QStringLiteral("-"), QStringLiteral("minus")},
     };
     return names;
 }
@@ -59,31 +53,16 @@ QString nameOf(const QString &key)
 
 } // namespace
 
-QStringList KeyEquivalent::names() const
-{
-    QStringList names;
-    if (key.isEmpty())
-        return names;
-    for (const ModifierName &name : modifierNames) {
-        if (modifiers.testFlag(name.modifier))
-            names << QLatin1String(name.onTheBus);
-    }
-    return names << nameOf(key);
-}
-
-QString KeyEquivalent::text() const
+QKeySequence KeyEquivalent::sequence() const
 {
     if (key.isEmpty())
         return {};
-    QString sequence;
-    for (const ModifierName &name : modifierNames) {
-        if (modifiers.testFlag(name.modifier))
-            sequence += QLatin1String(name.inKeySequences) % QLatin1Char('+');
+    QString text;
+    for (const ModifierName &modifier : modifierNames) {
+        if (modifiers.testFlag(modifier.modifier))
+            text += QLatin1String(modifier.name) % QLatin1Char('+');
     }
-    // A sequence is spelt with the sign itself where the bus has a word.
-    const bool isSign = key == QLatin1String("+") || key == QLatin1String("-");
-    sequence += isSign ? key : nameOf(key);
-    return QKeySequence(sequence, QKeySequence::PortableText).toString(QKeySequence::NativeText);
+    return QKeySequence(text % nameOf(key), QKeySequence::PortableText);
 }
 
 bool MenuRow::showsTheSameAs(const MenuRow &other) const

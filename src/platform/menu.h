@@ -2,9 +2,9 @@
 
 #include "platform/keyboard.h"
 
+#include <QKeySequence>
 #include <QList>
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 
@@ -18,19 +18,15 @@ struct KeyEquivalent {
     QString key;
     Modifiers modifiers;
 
-    /// The modifiers and then the key, as menus on the bus and Qt's key sequences both call them:
-    /// "Control", "Alt", "Shift", "Super", "k". Empty for none.
-    QStringList names() const;
-    /// As people read it, "Ctrl+Alt+K"; Super is called Meta.
-    QString text() const;
+    /// For Qt, which calls Super Meta; empty for none.
+    QKeySequence sequence() const;
 
     friend bool operator==(const KeyEquivalent &, const KeyEquivalent &) = default;
 };
 
 /// One row of a menu. One without a title is a separator.
 struct MenuRow {
-    /// Positive, and the same for the same row whenever the menu is built: what is clicked in a
-    /// menu that has changed meanwhile is still that row.
+    /// The same for the same row whenever the menu is built.
     int id = 0;
     QString title;
     KeyEquivalent keyEquivalent;

@@ -199,18 +199,6 @@ TEST_F(BusTray, aPanelThatComesLaterAndOneThatComesBackShowTheItem)
     EXPECT_TRUE(another.waitForItemOf(corvane().program().pid()));
 }
 
-TEST_F(BusTray, withoutPanelsOnTheBusTheX11TrayShowsTheIcon)
-{
-    start();
-    {
-        NotifierPanel panel(m_desktop);
-        ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
-    }
-    X11Tray tray(m_desktop);
-    ASSERT_TRUE(tray.waitUntilReady());
-    EXPECT_TRUE(tray.waitForIcon());
-}
-
 TEST(Packaging, theDesktopEntryAndTheDescriptionAreValid)
 {
     const QString folder = QCoreApplication::applicationDirPath() + u"/../packaging/"_s;

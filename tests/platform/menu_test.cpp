@@ -1,12 +1,15 @@
-#include "platform/freedesktop/dbus_menu.h"
 #include "platform/menu.h"
-#include "platform/qt/menu_popup.h"
+#include "platform/qt/qt_tray_icon.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QImage>
 #include <QMenu>
+#include <QWidget>
 
 #include <gtest/gtest.h>
+
+#include <memory>
 
 namespace corvane::test {
 
@@ -17,210 +20,117 @@ KeyEquivalent keys(const char16_t *key, Modifiers modifiers = {})
     return {QString::fromUtf16(key), modifiers};
 }
 
+QString shown(const KeyEquivalent &keys)
+{
+    return keys.sequence().toString(QKeySequence::PortableText);
+}
+
 MenuRow row(int id, const char *title, std::function<void()> action = {})
 {
     return {id, QString::fromLatin1(title), {}, std::move(action)};
 }
 
-/// A panel that has a copy of the menu.
-class DBusMenuTest : public testing::Test {
+class QtTrayIconTest : public testing::Test {
 protected:
-    DBusMenuTest()
+    QtTrayIconTest()
     {
-        menu.setBuilder([this] { return rows; });
-        QObject::connect(&menu, &DBusMenu::LayoutUpdated, &menu, [this] { ++updates; });
+        item.setIcon([](int side, const QColor &color) {
+            QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
+            image.fill(color);
+            return image;
+        });
+        item.setMenu([this] { return rows; });
     }
 
-    DBusMenuLayout layout(const QStringList &properties = {})
+    static QMenu *menu()
     {
-        DBusMenuLayout root;
-        menu.GetLayout(0, -1, properties, root);
-        return root;
+        for (QWidget *widget : QApplication::topLevelWidgets()) {
+            if (auto *menu = qobject_cast<QMenu *>(widget))
+                return menu;
+        }
+        return nullptr;
     }
-    static DBusMenuLayout child(const DBusMenuLayout &root, int index)
-    {
-        return root.children.value(index).variant().value<DBusMenuLayout>();
-    }
-    void click(int id)
-    {
-        menu.Event(id, QStringLiteral("clicked"), {}, 0);
-        QCoreApplication::processEvents();
-    }
+    static QAction *action(int index) { return menu()->actions().value(index); }
 
     MenuRows rows{row(1, "one"), row(2, ""), row(3, "three")};
-    DBusMenu menu;
-    int updates = 0;
+    QtTrayIcon item;
 };
-
-QMenu *openMenu()
-{
-    return qobject_cast<QMenu *>(QApplication::activePopupWidget());
-}
 
 } // namespace
 
-TEST(KeyEquivalent, isSpelledAsMenusOnTheBusDo)
-{
-    EXPECT_EQ(keys(u"k", Modifier::Control | Modifier::Option).names(),
-              (QStringList{QStringLiteral("Control"), QStringLiteral("Alt"), QStringLiteral("k")}));
-    EXPECT_EQ(keys(u"d", Modifier::Command | Modifier::Shift).names(),
-              (QStringList{QStringLiteral("Super"), QStringLiteral("Shift"), QStringLiteral("d")}));
-    EXPECT_EQ(keys(u"+").names(), QStringList{QStringLiteral("plus")});
-    EXPECT_EQ(keys(u"f5").names(), QStringList{QStringLiteral("F5")});
-    EXPECT_EQ(keys(u"↩").names(), QStringList{QStringLiteral("Return")});
-    EXPECT_TRUE(keys(u"", Modifier::Control).names().isEmpty());
-}
-
 TEST(KeyEquivalent, isReadAsPeopleWriteIt)
 {
-    EXPECT_EQ(keys(u"k", Modifier::Control | Modifier::Option).text(),
+    EXPECT_EQ(shown(keys(u"k", Modifier::Control | Modifier::Option)),
               QStringLiteral("Ctrl+Alt+K"));
-    EXPECT_EQ(keys(u"d", Modifier::Command | Modifier::Shift).text(),
+    EXPECT_EQ(shown(keys(u"d", Modifier::Command | Modifier::Shift)),
               QStringLiteral("Meta+Shift+D"));
-    EXPECT_EQ(keys(u",", Modifier::Control).text(), QStringLiteral("Ctrl+,"));
-    EXPECT_EQ(keys(u"+", Modifier::Control).text(), QStringLiteral("Ctrl++"));
-    EXPECT_EQ(keys(u"⎋", Modifier::Command).text(), QStringLiteral("Meta+Esc"));
-    EXPECT_EQ(keys(u"").text(), QString());
+    EXPECT_EQ(shown(keys(u",", Modifier::Control)), QStringLiteral("Ctrl+,"));
+    EXPECT_EQ(shown(keys(u"+", Modifier::Control)), QStringLiteral("Ctrl++"));
+    EXPECT_EQ(shown(keys(u"-", Modifier::Control)), QStringLiteral("Ctrl+-"));
+    EXPECT_EQ(shown(keys(u"f5")), QStringLiteral("F5"));
+    EXPECT_EQ(shown(keys(u"⎋", Modifier::Command)), QStringLiteral("Meta+Esc"));
+    EXPECT_TRUE(keys(u"", Modifier::Control).sequence().isEmpty());
 }
 
 TEST(KeyEquivalent, everySignHasAName)
 {
     for (const char16_t *sign : {u"↩", u"⇥", u"␣", u"⌫", u"⌦", u"⎋", u"←", u"→", u"↑", u"↓", u"↖",
                                  u"↘", u"⇞", u"⇟", u"⌤"}) {
-        EXPECT_NE(keys(sign).names().value(0), QString::fromUtf16(sign));
-        EXPECT_FALSE(keys(sign).text().isEmpty()) << qPrintable(QString::fromUtf16(sign));
+        const QString name = shown(keys(sign));
+        EXPECT_FALSE(name.isEmpty() || name == QString::fromUtf16(sign))
+            << qPrintable(QString::fromUtf16(sign));
     }
 }
 
-TEST_F(DBusMenuTest, hasItsRowsUnderTheirIds)
+TEST_F(QtTrayIconTest, nothingIsMadeBeforeSomebodyIsThereToShowIt)
 {
-    rows[0].title = QStringLiteral("a_b");
+    EXPECT_FALSE(menu());
+    item.appear();
+    EXPECT_TRUE(menu());
+}
+
+TEST_F(QtTrayIconTest, theMenuHasTheRowsWithTheirKeys)
+{
+    rows[0].title = QStringLiteral("Quit & go");
     rows[0].keyEquivalent = keys(u"q", Modifier::Control);
-    const DBusMenuLayout root = layout();
-    EXPECT_EQ(root.id, 0);
-    ASSERT_EQ(root.children.size(), 3);
-    EXPECT_EQ(child(root, 0).id, 1);
-    EXPECT_EQ(child(root, 0).properties.value(QStringLiteral("label")), QStringLiteral("a__b"));
-    EXPECT_EQ(child(root, 0).properties.value(QStringLiteral("shortcut")).value<DBusMenuShortcut>(),
-              (DBusMenuShortcut{{QStringLiteral("Control"), QStringLiteral("q")}}));
-    EXPECT_EQ(child(root, 1).properties.value(QStringLiteral("type")), QStringLiteral("separator"));
-    EXPECT_EQ(child(root, 2).id, 3);
-    EXPECT_FALSE(child(root, 2).properties.contains(QStringLiteral("shortcut")));
+    item.appear();
+    ASSERT_EQ(menu()->actions().size(), 3);
+    EXPECT_EQ(action(0)->text(), QStringLiteral("Quit && go"));
+    EXPECT_EQ(action(0)->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
+    EXPECT_TRUE(action(1)->isSeparator());
+    EXPECT_TRUE(action(2)->shortcut().isEmpty());
 }
 
-TEST_F(DBusMenuTest, givesOnlyWhatItIsAskedFor)
+TEST_F(QtTrayIconTest, theMenuIsBuiltAnewWhenItOpensAndWhenItChanged)
 {
-    const DBusMenuLayout root = layout({QStringLiteral("type")});
-    EXPECT_TRUE(root.properties.isEmpty());
-    EXPECT_TRUE(child(root, 0).properties.isEmpty());
-    EXPECT_EQ(child(root, 1).properties.size(), 1);
-    const auto some = menu.GetGroupProperties({3}, {});
-    ASSERT_EQ(some.size(), 1);
-    EXPECT_EQ(some.constFirst().id, 3);
-    EXPECT_EQ(menu.GetProperty(3, QStringLiteral("label")).variant(), QStringLiteral("three"));
-    EXPECT_EQ(menu.GetProperty(77, QStringLiteral("nonsense")).variant(), QString());
-}
-
-TEST_F(DBusMenuTest, isBuiltAnewWhenItOpensAndTellsWhetherItChanged)
-{
-    layout();
-    EXPECT_FALSE(menu.AboutToShow(0));
+    item.appear();
     rows << row(4, "four");
-    EXPECT_TRUE(menu.AboutToShow(0));
-    EXPECT_EQ(updates, 1);
-    EXPECT_FALSE(menu.AboutToShow(0));
-    EXPECT_EQ(layout().children.size(), 4);
-    EXPECT_EQ(updates, 1);
-}
-
-TEST_F(DBusMenuTest, aChangeIsToldOnlyToThoseWhoHaveACopy)
-{
-    menu.announceChange();
-    EXPECT_EQ(updates, 0);
-    layout();
-    menu.announceChange();
-    EXPECT_EQ(updates, 0) << "nothing has changed";
+    EXPECT_EQ(menu()->actions().size(), 3);
+    Q_EMIT menu()->aboutToShow();
+    EXPECT_EQ(menu()->actions().size(), 4);
+    const QAction *before = action(0);
+    Q_EMIT menu()->aboutToShow();
+    EXPECT_EQ(action(0), before) << "panels are not told of nothing";
     rows.removeLast();
-    menu.announceChange();
-    EXPECT_EQ(updates, 1);
+    item.menuChanged();
+    EXPECT_EQ(menu()->actions().size(), 3);
 }
 
-TEST_F(DBusMenuTest, aClickDoesTheRowsWorkAfterThePanelHasItsAnswer)
+TEST_F(QtTrayIconTest, aRowDoesItsWorkOnceTheMenuHasDoneItsOwn)
 {
     int calls = 0;
-    rows[2].action = [&calls] { ++calls; };
-    layout();
-    menu.Event(3, QStringLiteral("clicked"), {}, 0);
+    rows[2].action = [&] {
+        ++calls;
+        rows.clear();
+        item.menuChanged();
+    };
+    item.setMenu([this] { return rows; });
+    item.appear();
+    action(2)->trigger();
     EXPECT_EQ(calls, 0);
     QCoreApplication::processEvents();
     EXPECT_EQ(calls, 1);
-    menu.Event(3, QStringLiteral("hovered"), {}, 0);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(calls, 1);
-}
-
-TEST_F(DBusMenuTest, aClickInACopyThatIsOutOfDateStillMeansItsRow)
-{
-    QStringList done;
-    rows[0].action = [&done] { done << QStringLiteral("one"); };
-    rows[2].action = [&done] { done << QStringLiteral("three"); };
-    layout();
-    rows.removeAt(1);
-    rows.prepend(row(9, "nine", [&done] { done << QStringLiteral("nine"); }));
-    menu.announceChange();
-    click(3);
-    click(1);
-    EXPECT_EQ(done, (QStringList{QStringLiteral("three"), QStringLiteral("one")}));
-}
-
-TEST_F(DBusMenuTest, nonsenseFromThePanelDoesNothing)
-{
-    layout();
-    click(77);
-    click(-1);
-    click(2);
-    EXPECT_EQ(menu.EventGroup({{77, QStringLiteral("clicked"), {}, 0}}), QList<int>{77});
-    QList<int> errors;
-    EXPECT_TRUE(menu.AboutToShowGroup({0, 77}, errors).isEmpty());
-    EXPECT_EQ(errors, QList<int>{77});
-    DBusMenuLayout none;
-    menu.GetLayout(77, -1, {}, none);
-    EXPECT_TRUE(none.children.isEmpty());
-}
-
-TEST(MenuPopup, showsKeysBesideTheRowsWithoutMakingShortcutsOfThem)
-{
-    MenuPopup popup;
-    MenuRow quit = row(1, "Quit & go");
-    quit.keyEquivalent = keys(u"q", Modifier::Control);
-    popup.open({quit, row(2, ""), row(3, "Other")}, {300, 200, 24, 24});
-    QMenu *menu = openMenu();
-    ASSERT_TRUE(menu);
-    const QList<QAction *> actions = menu->actions();
-    ASSERT_EQ(actions.size(), 3);
-    EXPECT_EQ(actions.at(0)->text(), QStringLiteral("Quit && go\tCtrl+Q"));
-    EXPECT_TRUE(actions.at(1)->isSeparator());
-    EXPECT_EQ(actions.at(2)->text(), QStringLiteral("Other"));
-    for (const QAction *action : actions)
-        EXPECT_TRUE(action->shortcuts().isEmpty());
-    menu->close();
-}
-
-TEST(MenuPopup, opensBesideItsPlaceAndDoesTheRowsWork)
-{
-    int calls = 0;
-    MenuPopup popup;
-    const QRect upper(300, 10, 24, 24);
-    popup.open({row(1, "One", [&calls] { ++calls; })}, upper);
-    ASSERT_TRUE(openMenu());
-    EXPECT_EQ(openMenu()->geometry().top(), upper.top() + upper.height());
-    openMenu()->actions().constFirst()->trigger();
-    EXPECT_EQ(calls, 1);
-    const QRect lower(300, 940, 24, 24);
-    popup.open({row(1, "One")}, lower);
-    ASSERT_TRUE(openMenu());
-    EXPECT_LE(openMenu()->geometry().bottom(), lower.top());
-    openMenu()->close();
+    EXPECT_TRUE(menu()->actions().isEmpty());
 }
 
 } // namespace corvane::test

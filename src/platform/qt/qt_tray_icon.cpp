@@ -1,90 +1,119 @@
 #include "platform/qt/qt_tray_icon.h"
 
-#include <QIconEngine>
-#include <QPainter>
+#include <QAction>
+#include <QCursor>
+#include <QIcon>
+#include <QMenu>
 #include <QPixmap>
+#include <QSystemTrayIcon>
 
 #include <algorithm>
-#include <cmath>
+#include <array>
 #include <utility>
 
 namespace corvane {
 
 namespace {
 
-/// Draws the icon in whatever size the tray has, so that it is never scaled.
-class DrawnIcon : public QIconEngine {
-public:
-    DrawnIcon(StatusItem::Icon icon, const QColor &foreground)
-        : m_icon(std::move(icon))
-        , m_foreground(foreground)
-    {
-    }
+/// The panels' sizes at the usual scales; a panel takes the nearest.
+constexpr std::array<int, 6> iconSides = {16, 22, 24, 32, 44, 48};
 
-    void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
-    {
-        const double scale = painter->device()->devicePixelRatio();
-        const int side = std::min(rect.width(), rect.height());
-        QImage image = m_icon(static_cast<int>(std::round(side * scale)), m_foreground);
-        image.setDevicePixelRatio(scale);
-        painter->drawImage(rect.x() + (rect.width() - side) / 2,
-                           rect.y() + (rect.height() - side) / 2, image);
+void add(QMenu &menu, const MenuRow &row)
+{
+    if (row.isSeparator()) {
+        menu.addSeparator();
+        return;
     }
-    QPixmap pixmap(const QSize &size, QIcon::Mode, QIcon::State) override
-    {
-        const int side = std::min(size.width(), size.height());
-        return QPixmap::fromImage(m_icon(side, m_foreground));
-    }
-    QIconEngine *clone() const override { return new DrawnIcon(m_icon, m_foreground); }
-
-private:
-    StatusItem::Icon m_icon;
-    QColor m_foreground;
-};
+    QString text = row.title;
+    // A single one would underline the letter after it.
+    text.replace(QLatin1Char('&'), QLatin1String("&&"));
+    QAction *action = menu.addAction(text);
+    // Shown by every kind of panel. It cannot fire: the menu belongs to no window.
+    action->setShortcut(row.keyEquivalent.sequence());
+    if (!row.action)
+        return;
+    // Later: the row may change the menu that is at work on it, or end the program before the panel
+    // has its answer.
+    QObject::connect(
+        action, &QAction::triggered, &menu, [work = row.action] { work(); }, Qt::QueuedConnection);
+}
 
 } // namespace
 
-QtTrayIcon::QtTrayIcon()
+QtTrayIcon::QtTrayIcon() = default;
+QtTrayIcon::~QtTrayIcon() = default;
+
+void QtTrayIcon::appear()
 {
-    QObject::connect(&m_tray, &QSystemTrayIcon::activated, &m_tray,
-                     [this](QSystemTrayIcon::ActivationReason reason) {
-                         const bool isClick = reason == QSystemTrayIcon::Trigger
-                             || reason == QSystemTrayIcon::Context;
-                         if (isClick && m_menu)
-                             m_popup.open(m_menu(), m_tray.geometry());
-                     });
+    if (m_tray)
+        return;
+    m_menu = std::make_unique<QMenu>();
+    QObject::connect(m_menu.get(), &QMenu::aboutToShow, m_menu.get(), [this] { menuChanged(); });
+    menuChanged();
+    m_tray = std::make_unique<QSystemTrayIcon>();
+    QObject::connect(m_tray.get(), &QSystemTrayIcon::activated, m_menu.get(), [this] {
+        // The X11 tray has opened it by itself for the right button.
+        if (!m_menu->isVisible())
+            m_menu->popup(QCursor::pos());
+    });
+    m_tray->setContextMenu(m_menu.get());
+    m_tray->setToolTip(m_toolTip);
+    draw();
+    m_tray->show();
+}
+
+void QtTrayIcon::draw()
+{
+    if (!m_tray || !m_icon)
+        return;
+    QIcon icon;
+    for (const int side : iconSides)
+        icon.addPixmap(QPixmap::fromImage(m_icon(side, m_foreground)));
+    m_tray->setIcon(icon);
 }
 
 void QtTrayIcon::setForeground(const QColor &foreground)
 {
-    m_foreground = foreground;
-    show();
+    if (std::exchange(m_foreground, foreground) != foreground)
+        draw();
 }
 
 void QtTrayIcon::setIcon(Icon icon)
 {
     m_icon = std::move(icon);
-    show();
-}
-
-void QtTrayIcon::show()
-{
-    if (!m_icon)
-        return;
-    // An icon owns its engine.
-    m_tray.setIcon(QIcon(new DrawnIcon(m_icon, m_foreground)));
-    if (!m_tray.isVisible())
-        m_tray.show();
+    draw();
 }
 
 void QtTrayIcon::setToolTip(const QString &toolTip)
 {
-    m_tray.setToolTip(toolTip);
+    m_toolTip = toolTip;
+    if (m_tray)
+        m_tray->setToolTip(toolTip);
 }
 
 void QtTrayIcon::setMenu(Menu menu)
 {
-    m_menu = std::move(menu);
+    m_build = std::move(menu);
+    // Rows that look the same do another's work.
+    m_rows.clear();
+    menuChanged();
+}
+
+void QtTrayIcon::menuChanged()
+{
+    if (!m_menu)
+        return;
+    MenuRows rows = m_build ? m_build() : MenuRows();
+    // Every row taken out or put in is told to the panels.
+    const bool isTheSame = std::equal(
+        rows.cbegin(), rows.cend(), m_rows.cbegin(), m_rows.cend(),
+        [](const MenuRow &one, const MenuRow &other) { return one.showsTheSameAs(other); });
+    m_rows = std::move(rows);
+    if (isTheSame)
+        return;
+    m_menu->clear();
+    for (const MenuRow &row : std::as_const(m_rows))
+        add(*m_menu, row);
 }
 
 } // namespace corvane

@@ -1,34 +1,47 @@
 #pragma once
 
-#include "platform/qt/menu_popup.h"
 #include "platform/status_item.h"
 
-#include <QSystemTrayIcon>
+#include <memory>
+
+class QMenu;
+class QSystemTrayIcon;
 
 namespace corvane {
 
-/// A status item in the tray of an X11 panel, for as long as it exists and whenever there is a
-/// tray. A click opens the menu, whichever button it was.
+/// A status item by Qt's own means: on the session bus where a panel shows such items, in the X11
+/// tray otherwise. A left click opens the menu too.
+///
+/// Qt decides between the two once in a process, when the icon is first made. So nothing is made
+/// before `appear`, and what it was made for it stays: panels of the same kind may come and go, but
+/// an icon in the X11 tray does not move to a panel on the bus that comes later, nor the other way.
 class QtTrayIcon : public StatusItem {
 public:
     QtTrayIcon();
+    ~QtTrayIcon() override;
+    QtTrayIcon(const QtTrayIcon &) = delete;
+    QtTrayIcon &operator=(const QtTrayIcon &) = delete;
 
+    /// Makes the icon. To be called once somebody is there to show it; again does nothing.
+    void appear();
     void setForeground(const QColor &foreground);
 
     void setIcon(Icon icon) override;
     void setToolTip(const QString &toolTip) override;
     void setMenu(Menu menu) override;
-    /// Nobody has a copy of this menu.
-    void menuChanged() override { }
+    void menuChanged() override;
 
 private:
-    void show();
+    void draw();
 
     Icon m_icon;
     QColor m_foreground = Qt::white;
-    Menu m_menu;
-    MenuPopup m_popup;
-    QSystemTrayIcon m_tray;
+    QString m_toolTip;
+    Menu m_build;
+    /// What the menu shows now.
+    MenuRows m_rows;
+    std::unique_ptr<QMenu> m_menu;
+    std::unique_ptr<QSystemTrayIcon> m_tray;
 };
 
 } // namespace corvane

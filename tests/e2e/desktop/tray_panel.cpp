@@ -166,7 +166,7 @@ QByteArray NotifierFacts::property(const QString &name) const
 
 QByteArray NotifierFacts::menuLayout() const
 {
-    const QString path = u"/StatusNotifierItem/Menu"_s;
+    const QString path = u"/MenuBar"_s;
     call(path, u"com.canonical.dbusmenu.AboutToShow"_s, {u"int32:0"_s});
     return call(path, u"com.canonical.dbusmenu.GetLayout"_s,
                 {u"int32:0"_s, u"int32:-1"_s, u"array:string:label,type"_s});
@@ -189,14 +189,14 @@ QStringList NotifierFacts::menu() const
 bool NotifierFacts::choose(const QString &label) const
 {
     static const QRegularExpression item(
-        u"int32 (\\d+)\\s+array \\[\\s+dict entry\\(\\s+string \"label\"\\s+variant\\s+string "
-        "\"([^\"]*)\""_s);
+        u"int32 (\\d+)\\s+array \\[((?:(?!int32).)*?)string \"label\"\\s+variant\\s+string \"([^\"]*)\""_s,
+        QRegularExpression::DotMatchesEverythingOption);
     auto matches = item.globalMatch(QString::fromUtf8(menuLayout()));
     while (matches.hasNext()) {
         const auto match = matches.next();
-        if (match.captured(2) != label)
+        if (match.captured(3) != label)
             continue;
-        call(u"/StatusNotifierItem/Menu"_s, u"com.canonical.dbusmenu.Event"_s,
+        call(u"/MenuBar"_s, u"com.canonical.dbusmenu.Event"_s,
              {u"int32:"_s + match.captured(1), u"string:clicked"_s, u"variant:string:"_s,
               u"uint32:0"_s});
         return true;
