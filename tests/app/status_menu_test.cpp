@@ -13,7 +13,7 @@ QStringList shown(const StatusMenuState &state)
 {
     QStringList lines;
     for (const MenuRow &row : status_menu::rows(state)) {
-        const QString keys = row.keyEquivalent.text();
+        const QString keys = row.keyEquivalent.sequence().toString(QKeySequence::PortableText);
         lines << (row.isSeparator()    ? QStringLiteral("—")
                       : keys.isEmpty() ? row.title
                                        : row.title + QLatin1String(" | ") + keys);
