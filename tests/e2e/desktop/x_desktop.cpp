@@ -117,14 +117,18 @@ std::unique_ptr<Program> XDesktop::start(const QString &name, const QStringList 
 std::optional<WindowFacts>
 XDesktop::waitForWindow(const std::function<bool(const WindowFacts &)> &holds)
 {
+    // Programs ask services of the desktop first, and wait 25 s for one that does not answer.
+    constexpr auto startOfAProgram = 4 * patience;
     std::optional<WindowFacts> found;
-    eventually([&] {
-        for (const WindowFacts &window : m_server->windows()) {
-            if (window.isViewable && !window.isOverrideRedirect && holds(window))
-                found = window;
-        }
-        return found.has_value();
-    });
+    eventually(
+        [&] {
+            for (const WindowFacts &window : m_server->windows()) {
+                if (window.isViewable && !window.isOverrideRedirect && holds(window))
+                    found = window;
+            }
+            return found.has_value();
+        },
+        startOfAProgram);
     return found;
 }
 
