@@ -39,6 +39,23 @@ QByteArray handedIn(XDesktop &desktop)
                      u"string:RegisteredStatusNotifierItems"_s});
 }
 
+/// The name that the item of that process goes by on the bus; empty while none has been handed in.
+QString serviceOf(XDesktop &desktop, qint64 pid)
+{
+    static const QRegularExpression item(u"string \"([^\"]+)/StatusNotifierItem\""_s);
+    auto matches = item.globalMatch(QString::fromUtf8(handedIn(desktop)));
+    while (matches.hasNext()) {
+        const QString service = matches.next().captured(1);
+        const QByteArray owner = answerOf(desktop,
+                                          {u"--dest=org.freedesktop.DBus"_s, u"/"_s,
+                                           u"org.freedesktop.DBus.GetConnectionUnixProcessID"_s,
+                                           u"string:"_s + service});
+        if (owner.contains(QByteArray("uint32 " + QByteArray::number(pid) + '\n')))
+            return service;
+    }
+    return {};
+}
+
 bool hasWatcher(XDesktop &desktop)
 {
     return answerOf(desktop,
@@ -136,8 +153,7 @@ bool NotifierPanel::waitUntilReady()
 
 bool NotifierPanel::waitForItemOf(qint64 pid)
 {
-    const QByteArray name = "org.kde.StatusNotifierItem-" + QByteArray::number(pid) + '-';
-    return eventually([&] { return handedIn(m_desktop).contains(name); });
+    return eventually([&] { return !serviceOf(m_desktop, pid).isEmpty(); });
 }
 
 QPoint NotifierPanel::icon() const
@@ -148,7 +164,7 @@ QPoint NotifierPanel::icon() const
 
 NotifierFacts::NotifierFacts(XDesktop &desktop, qint64 pid)
     : m_desktop(desktop)
-    , m_service(u"org.kde.StatusNotifierItem-%1-1"_s.arg(pid))
+    , m_service(serviceOf(desktop, pid))
 {
 }
 

@@ -49,7 +49,7 @@ private:
     std::unique_ptr<Program> m_program;
 };
 
-/// The status item of a process as the bus has it, asked as a panel asks.
+/// The status item that a process has handed in, asked as a panel asks.
 class NotifierFacts {
 public:
     NotifierFacts(XDesktop &desktop, qint64 pid);
