@@ -26,8 +26,6 @@ protected:
     ShortcutRecorderViewTest()
     {
         auto *const layout = new QVBoxLayout(&window);
-        view = new ShortcutRecorderView(keys, hotKeys);
-        other = new ShortcutRecorderView(keys, hotKeys);
         layout->addWidget(other);
         layout->addWidget(view);
         view->onChange = [this](const Shortcut &shortcut) { changes << shortcut.display(); };
@@ -74,8 +72,9 @@ protected:
     FakeKeyMonitors keys;
     FakeHotKeys hotKeys;
     QWidget window;
-    ShortcutRecorderView *view = nullptr;
-    ShortcutRecorderView *other = nullptr;
+    // The window owns them.
+    ShortcutRecorderView *view = new ShortcutRecorderView(keys, hotKeys);
+    ShortcutRecorderView *other = new ShortcutRecorderView(keys, hotKeys);
     QStringList changes;
 };
 

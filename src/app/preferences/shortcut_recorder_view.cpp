@@ -10,6 +10,9 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include <array>
+#include <utility>
+
 namespace corvane {
 
 namespace {
@@ -74,10 +77,9 @@ QString ShortcutRecorderView::spokenText() const
     if (isRecording() || !shortcut())
         return text();
     QStringList names;
-    const std::pair<std::uint32_t, QString> all[] = {{Shortcut::control, tr("Control")},
-                                                     {Shortcut::option, tr("Alt")},
-                                                     {Shortcut::shift, tr("Shift")},
-                                                     {Shortcut::command, tr("Super")}};
+    const std::array all
+        = {std::pair(Shortcut::control, tr("Control")), std::pair(Shortcut::option, tr("Alt")),
+           std::pair(Shortcut::shift, tr("Shift")), std::pair(Shortcut::command, tr("Super"))};
     for (const auto &[bit, name] : all) {
         if ((shortcut()->modifiers & bit) != 0)
             names << name;

@@ -81,22 +81,15 @@ void QtKeyMonitors::removeMonitor(Handle handle)
 
 bool QtKeyMonitors::eventFilter(QObject *watched, QEvent *event)
 {
-    switch (event->type()) {
-    case QEvent::ShortcutOverride:
-        // Accepted, it is no shortcut of a window or menu but comes again as a key press.
-        event->accept();
-        return true;
-    case QEvent::KeyPress:
-    case QEvent::KeyRelease:
-        if (notify(*static_cast<QKeyEvent *>(event)) == Disposition::Swallow) {
-            event->accept();
-            return true;
-        }
-        break;
-    default:
-        break;
-    }
-    return QObject::eventFilter(watched, event);
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    const auto *key = isKey ? dynamic_cast<QKeyEvent *>(event) : nullptr;
+    // An override that is accepted is no shortcut of a window or menu, but comes again as a key
+    // press.
+    if (!isOverride && (!key || notify(*key) == Disposition::Pass))
+        return QObject::eventFilter(watched, event);
+    event->accept();
+    return true;
 }
 
 KeyMonitors::Disposition QtKeyMonitors::notify(const QKeyEvent &key)

@@ -29,7 +29,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
-    Disposition notify(const QKeyEvent &event);
+    Disposition notify(const QKeyEvent &key);
 
     const KeyboardLayout &m_layout;
     std::map<Handle, Handler> m_monitors;

@@ -42,13 +42,13 @@ private:
         friend bool operator==(const Combination &, const Combination &) = default;
     };
     struct HotKey {
-        std::uint32_t keyCode;
-        std::uint32_t modifiers;
+        std::uint32_t keyCode = 0;
+        std::uint32_t modifiers = 0;
         HotKeyIdentifier identifier;
         /// None while it could not be had.
         std::optional<Combination> grabbed;
         /// It was to be taken again, and could not: said once.
-        bool isLost;
+        bool isLost = false;
     };
     class Counted;
 

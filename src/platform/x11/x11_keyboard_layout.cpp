@@ -74,7 +74,7 @@ QString textOf(xkb_keymap *keymap, xkb_keycode_t key, xkb_layout_index_t layout)
         const xkb_keysym_t *symbols = nullptr;
         if (xkb_keymap_key_get_syms_by_level(keymap, key, layout, level, &symbols) != 1)
             continue;
-        if (const QString text = textOf(*symbols); !text.isEmpty())
+        if (QString text = textOf(*symbols); !text.isEmpty())
             return text;
     }
     return {};
