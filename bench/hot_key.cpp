@@ -24,7 +24,8 @@ double millisecondsToMap(XDesk &desk)
         throw std::runtime_error("no panel");
     const double mapped = now() - start;
     desk.releaseHotKey();
-    desk.sync();
+    // Pressed again in the same millisecond it would be a key that repeats.
+    std::this_thread::sleep_for(50ms);
     desk.pressHotKey();
     if (!desk.waitForPanel(false))
         throw std::runtime_error("the panel stays");
