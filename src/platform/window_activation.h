@@ -4,7 +4,7 @@ class QWindow;
 
 namespace corvane {
 
-/// Brings a window of ours forward.
+/// Brings a window of ours forward, or has it written to.
 class WindowActivation {
 public:
     virtual ~WindowActivation() = default;
@@ -14,6 +14,9 @@ public:
     /// pushes itself forward, also where the user's click or key went to another program. May
     /// happen a moment after the call. Main thread only.
     virtual void bringToFront(QWindow &window) = 0;
+    /// Gives the keyboard to a shown window that the window manager does not know, at once. Main
+    /// thread only.
+    virtual void giveKeyboard(QWindow &window) = 0;
 };
 
 } // namespace corvane

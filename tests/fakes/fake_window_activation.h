@@ -6,12 +6,15 @@
 
 namespace corvane::test {
 
-/// Remembers which windows were brought forward.
+/// Remembers which windows were brought forward and which were given the keyboard.
 class FakeWindowActivation : public WindowActivation {
 public:
     void bringToFront(QWindow &window) override { broughtForward << &window; }
 
+    void giveKeyboard(QWindow &window) override { keyboardGiven << &window; }
+
     QList<const QWindow *> broughtForward;
+    QList<const QWindow *> keyboardGiven;
 };
 
 } // namespace corvane::test

@@ -133,12 +133,7 @@ void X11PanelSurface::takeKeyboard(QWindow &window)
         m_previousActive = activeWindow();
     }
     window.requestActivate();
-    // Qt asks with the time of the latest event it had, which the window manager may have overtaken
-    // when the wish came from somewhere else. On its connection: the window may be about to be
-    // mapped there.
-    if (auto *const qt = x11_qt::connection())
-        x11_qt::ignoreErrors(xcb_set_input_focus_checked(
-            qt, XCB_INPUT_FOCUS_PARENT, x11_qt::nativeWindow(window), XCB_CURRENT_TIME));
+
     flushQt();
 }
 

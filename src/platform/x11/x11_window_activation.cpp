@@ -33,6 +33,19 @@ void X11WindowActivation::bringToFront(QWindow &window)
     askForTime();
 }
 
+// Qt would ask with the time of the latest event that it had, which the window manager may have
+// overtaken.
+void X11WindowActivation::giveKeyboard(QWindow &window)
+{
+    auto *const qt = x11_qt::connection();
+    const xcb_window_t native = x11_qt::nativeWindow(window);
+    if (!qt || native == XCB_NONE)
+        return;
+    x11_qt::ignoreErrors(
+        xcb_set_input_focus_checked(qt, XCB_INPUT_FOCUS_PARENT, native, XCB_CURRENT_TIME));
+    xcb_flush(qt);
+}
+
 void X11WindowActivation::askForTime()
 {
     if (m_clock == XCB_NONE) {

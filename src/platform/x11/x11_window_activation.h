@@ -16,6 +16,7 @@ public:
     X11WindowActivation &operator=(const X11WindowActivation &) = delete;
 
     void bringToFront(QWindow &window) override;
+    void giveKeyboard(QWindow &window) override;
 
 private:
     void askForTime();

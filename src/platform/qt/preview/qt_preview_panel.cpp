@@ -13,6 +13,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
+#include <QTimer>
 
 #include <utility>
 
@@ -180,8 +181,17 @@ void QtPreviewPanel::giveKeyboardBack()
     m_previous = nullptr;
     // Before it is hidden: once it is, the window manager chooses among its own windows, and the
     // shelf is none of them.
-    if (m_window->isActiveWindow() && previous && previous->isVisible())
-        previous->requestActivate();
+    if (!m_window->isActiveWindow() || !previous || !previous->isVisible())
+        return;
+    m_context.activation.giveKeyboard(*previous);
+    // Some window managers think that they know better when they hear that it is gone, and have
+    // the keyboard given to nobody: unless the user went on to another window, it is asked for once
+    // more.
+    constexpr int aMoment = 200;
+    QTimer::singleShot(aMoment, previous, [previous, &activation = m_context.activation] {
+        if (previous->isVisible() && !QGuiApplication::focusWindow())
+            activation.giveKeyboard(*previous);
+    });
 }
 
 } // namespace corvane
