@@ -26,13 +26,13 @@ QtPreviewPanel::QtPreviewPanel(const Context &context)
 
 QtPreviewPanel::~QtPreviewPanel()
 {
-    setController(nullptr);
+    QtPreviewPanel::setController(nullptr);
 }
 
 void QtPreviewPanel::setController(PreviewPanelController *controller)
 {
     if (!controller)
-        orderOut();
+        QtPreviewPanel::orderOut();
     m_controller = controller;
 }
 
