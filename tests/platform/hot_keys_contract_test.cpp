@@ -9,7 +9,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <ranges>
 
 namespace corvane::test {
 
@@ -80,9 +79,8 @@ struct RealKeyboard {
     }
     void letGo()
     {
-        for (const std::uint32_t symbol : std::views::reverse(held))
-            display.hands.keyUp(symbol);
-        held.clear();
+        for (; !held.empty(); held.pop_back())
+            display.hands.keyUp(held.back());
     }
     void press(Key key, std::uint32_t modifiers)
     {
@@ -94,7 +92,7 @@ struct RealKeyboard {
     {
         return grabElsewhere(key, modifiers, false);
     }
-    void takeElsewhere(Key key, std::uint32_t modifiers)
+    void takeElsewhere(Key key, std::uint32_t modifiers) const
     {
         ASSERT_TRUE(grabElsewhere(key, modifiers, true));
     }
