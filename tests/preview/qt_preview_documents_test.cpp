@@ -37,7 +37,7 @@ QByteArray animation(char delay, char rounds)
     QByteArray gif("GIF89a\1\0\1\0\x80\0\0", 13);
     gif += QByteArray("\xFF\0\0\0\0\xFF", 6);
     gif += QByteArray("!\xFF\x0BNETSCAPE2.0\3\1", 16) + rounds + QByteArray("\0\0", 2);
-    for (const char *pixel : {"\x44", "\x4C"})
+    for (const char pixel : {char(0x44), char(0x4C)})
         gif += QByteArray("!\xF9\4\0", 4) + delay + QByteArray("\0\0\0", 3)
             + QByteArray(",\0\0\0\0\1\0\1\0\0\2\2", 12) + pixel + QByteArray("\1\0", 2);
     return gif + ';';
@@ -52,9 +52,9 @@ struct QtPreviewDocumentsTest : testing::Test {
             return std::nullopt;
         return std::get<PreviewContent::Picture>(*opened);
     }
-    QUrl writePdf(int pages)
+    QUrl writePdf(int pages) const
     {
-        const QUrl url = folder.url("a.pdf");
+        QUrl url = folder.url("a.pdf");
         QPdfWriter writer(url.toLocalFile());
         writer.setPageSize(QPageSize(QPageSize::A4));
         QPainter painter(&writer);

@@ -89,7 +89,7 @@ QImage onWhite(const QImage &image)
 
 QtImageCodec::QtImageCodec()
 {
-    QImageReader::setAllocationLimit(static_cast<int>(maximumDecodedBytes / (1024 * 1024)));
+    QImageReader::setAllocationLimit(static_cast<int>(maximumDecodedBytes / 1'048'576));
 }
 
 std::optional<QSize> QtImageCodec::pixelSize(const QByteArray &data) const

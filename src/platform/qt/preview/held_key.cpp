@@ -29,7 +29,7 @@ bool HeldKey::eventFilter(QObject * /*object*/, QEvent *event)
     if (!isRelease && event->type() != QEvent::KeyPress
         && event->type() != QEvent::ShortcutOverride)
         return false;
-    const auto &key = static_cast<const QKeyEvent &>(*event);
+    const auto &key = dynamic_cast<const QKeyEvent &>(*event);
     if (isRelease) {
         m_releasedKey = key.nativeScanCode();
         m_releaseTime = key.timestamp();

@@ -265,7 +265,7 @@ void PictureView::mouseDoubleClickEvent(QMouseEvent *event)
 bool PictureView::event(QEvent *event)
 {
     if (event->type() == QEvent::NativeGesture) {
-        auto &gesture = static_cast<QNativeGestureEvent &>(*event);
+        auto &gesture = dynamic_cast<QNativeGestureEvent &>(*event);
         if (gesture.gestureType() == Qt::ZoomNativeGesture) {
             zoom(1 + gesture.value(), gesture.position());
             return true;

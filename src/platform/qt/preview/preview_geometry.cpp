@@ -22,8 +22,8 @@ QSize bounded(QSize size, QSize available)
 
 struct SizeOf {
     QSize available;
-    double scale;
-    int lineHeight;
+    double scale = 1;
+    int lineHeight = 1;
 
     QSize operator()(const PreviewContent::Plain &) const { return detailsWindow; }
     QSize operator()(const PreviewContent::Missing &) const { return detailsWindow; }

@@ -160,7 +160,7 @@ bool PreviewWindow::handleKey(const QKeyEvent &key)
 bool PreviewWindow::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress && object == windowHandle()
-        && handleKey(static_cast<const QKeyEvent &>(*event)))
+        && handleKey(dynamic_cast<const QKeyEvent &>(*event)))
         return true;
     return QWidget::eventFilter(object, event);
 }

@@ -113,7 +113,7 @@ private:
         auto opened = std::make_unique<OpenPicture>();
         if (!opened->open(m_url))
             return false;
-        if (std::exchange(m_isBegun, true) == false)
+        if (!std::exchange(m_isBegun, true))
             m_roundsLeft = opened->picture.reader().loopCount();
         m_opened = std::move(opened);
         return true;

@@ -13,7 +13,6 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
-#include <QTimer>
 
 #include <utility>
 
@@ -187,11 +186,12 @@ void QtPreviewPanel::giveKeyboardBack()
     // Some window managers think that they know better when they hear that it is gone, and have
     // the keyboard given to nobody: unless the user went on to another window, it is asked for once
     // more.
-    constexpr int aMoment = 200;
-    QTimer::singleShot(aMoment, previous, [previous, &activation = m_context.activation] {
-        if (previous->isVisible() && !QGuiApplication::focusWindow())
-            activation.giveKeyboard(*previous);
-    });
+    constexpr double aMoment = 0.2;
+    m_context.queue.asyncAfter(
+        aMoment, [guarded = QPointer(previous), &activation = m_context.activation] {
+            if (guarded && guarded->isVisible() && !QGuiApplication::focusWindow())
+                activation.giveKeyboard(*guarded);
+        });
 }
 
 } // namespace corvane

@@ -14,7 +14,7 @@ namespace corvane {
 namespace {
 
 /// Laid out in a few milliseconds, and more than a window shows.
-constexpr qsizetype piece = 8 * 1024;
+constexpr qsizetype piece = 8'192;
 
 } // namespace
 
