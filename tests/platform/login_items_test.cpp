@@ -2,8 +2,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 namespace corvane::test {
 
@@ -16,15 +19,17 @@ protected:
         QDir(folder).removeRecursively();
         QFile::remove(folder);
     }
-    QByteArray entry() const
+    QString path() const { return folder + QLatin1String("/corvane.desktop"); }
+    static QByteArray contents(const QString &path)
     {
-        QFile file(folder + QLatin1String("/corvane.desktop"));
+        QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
+    QByteArray entry() const { return contents(path()); }
     void write(const QByteArray &text) const
     {
         QDir().mkpath(folder);
-        QFile file(folder + QLatin1String("/corvane.desktop"));
+        QFile file(path());
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text);
     }
@@ -61,6 +66,74 @@ TEST_F(LoginItemsTest, aHiddenEntryIsNotRegistered)
     EXPECT_FALSE(items.registerItem());
     EXPECT_TRUE(items.isRegistered());
     write("[Desktop Entry]\nHidden = false\n");
+    EXPECT_TRUE(items.isRegistered());
+}
+
+TEST_F(LoginItemsTest, aLinkIsReplacedAndRemovedAndWhatItLeadsToIsLeftAlone)
+{
+    const QTemporaryDir elsewhere;
+    const QString target = elsewhere.filePath(QStringLiteral("mine.desktop"));
+    const QByteArray text = "[Desktop Entry]\nExec=somebody else's\n";
+    write(text);
+    ASSERT_TRUE(QFile::rename(path(), target));
+    ASSERT_TRUE(QFile::link(target, path()));
+    EXPECT_TRUE(items.isRegistered()) << "the desktop starts what it leads to";
+    EXPECT_FALSE(items.registerItem());
+    EXPECT_FALSE(QFileInfo(path()).isSymLink());
+    EXPECT_TRUE(entry().contains("corvane"));
+    EXPECT_EQ(contents(target), text);
+
+    ASSERT_TRUE(QFile::remove(path()));
+    ASSERT_TRUE(QFile::link(target, path()));
+    EXPECT_FALSE(items.unregisterItem());
+    EXPECT_FALSE(items.isRegistered());
+    EXPECT_EQ(contents(target), text);
+}
+
+TEST_F(LoginItemsTest, aLinkThatLeadsNowhereIsNotRegisteredAndIsReplaced)
+{
+    QDir().mkpath(folder);
+    ASSERT_TRUE(QFile::link(QStringLiteral("/nowhere/at-all.desktop"), path()));
+    EXPECT_FALSE(items.isRegistered());
+    EXPECT_FALSE(items.registerItem());
+    EXPECT_TRUE(items.isRegistered());
+    EXPECT_FALSE(items.unregisterItem());
+
+    ASSERT_TRUE(QFile::link(QStringLiteral("/nowhere/at-all.desktop"), path()));
+    EXPECT_FALSE(items.unregisterItem());
+    EXPECT_FALSE(QFileInfo(path()).isSymLink());
+}
+
+TEST_F(LoginItemsTest, aPipeOfThatNameIsNotWaitedFor)
+{
+    QDir().mkpath(folder);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path()).constData(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_FALSE(items.isRegistered());
+    EXPECT_FALSE(items.registerItem());
+    EXPECT_TRUE(items.isRegistered());
+}
+
+TEST_F(LoginItemsTest, aFolderOfThatNameIsSaidAndLeftAlone)
+{
+    QDir().mkpath(path());
+    EXPECT_FALSE(items.isRegistered());
+    EXPECT_TRUE(items.registerItem());
+    EXPECT_TRUE(items.unregisterItem());
+    EXPECT_TRUE(QFileInfo(path()).isDir());
+}
+
+TEST_F(LoginItemsTest, anotherProgramsEntryOfThatNameIsReplacedAsAWhole)
+{
+    write("[Desktop Entry]\nExec=somebody else's\nOnlyShowIn=Nowhere;\n");
+    EXPECT_FALSE(items.registerItem());
+    EXPECT_FALSE(entry().contains("somebody else's"));
+    EXPECT_FALSE(entry().contains("OnlyShowIn"));
+}
+
+TEST_F(LoginItemsTest, onlyTheBeginningOfAnEndlessEntryIsRead)
+{
+    constexpr qsizetype large = 10'000'000;
+    write(QByteArray(large, 'x') + "\nHidden=true\n");
     EXPECT_TRUE(items.isRegistered());
 }
 

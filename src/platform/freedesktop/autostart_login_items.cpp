@@ -7,6 +7,10 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <utility>
 
 namespace corvane {
@@ -54,6 +58,34 @@ bool isHidden(const QByteArray &entry)
     return false;
 }
 
+/// The beginning of an entry, none if there is none. Whatever else has its name, a pipe for one, is
+/// not waited for.
+std::optional<QByteArray> readEntry(const QString &path)
+{
+    const int descriptor
+        = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (descriptor < 0)
+        return std::nullopt;
+    QFile file;
+    struct stat about = {};
+    const bool isFile = ::fstat(descriptor, &about) == 0 && S_ISREG(about.st_mode);
+    if (!file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
+        ::close(descriptor);
+        return std::nullopt;
+    }
+    constexpr qint64 longestEntry = 64 * 1024;
+    return isFile ? std::optional(file.read(longestEntry)) : std::nullopt;
+}
+
+/// Makes way for an entry of our own. What is written through a link lands in a stranger's file.
+void removeOtherThanFile(const QString &path)
+{
+    struct stat about = {};
+    const QByteArray name = QFile::encodeName(path);
+    if (::lstat(name.constData(), &about) == 0 && !S_ISREG(about.st_mode))
+        ::unlink(name.constData());
+}
+
 } // namespace
 
 AutostartLoginItems::AutostartLoginItems()
@@ -68,9 +100,8 @@ AutostartLoginItems::AutostartLoginItems(QString program)
 
 bool AutostartLoginItems::isRegistered() const
 {
-    QFile entry(entryPath());
-    constexpr qint64 longestEntry = 64 * 1024;
-    return entry.open(QIODevice::ReadOnly) && !isHidden(entry.read(longestEntry));
+    const auto entry = readEntry(entryPath());
+    return entry && !isHidden(*entry);
 }
 
 std::optional<QString> AutostartLoginItems::registerItem()
@@ -79,6 +110,7 @@ std::optional<QString> AutostartLoginItems::registerItem()
     const QString folder = QFileInfo(path).path();
     if (!QDir().mkpath(folder))
         return QStringLiteral("The folder %1 could not be created.").arg(folder);
+    removeOtherThanFile(path);
     QSaveFile entry(path);
     const QString text = QLatin1String("[Desktop Entry]\n"
                                        "Type=Application\n"

@@ -5,7 +5,8 @@
 namespace corvane {
 
 /// This program's entry among those that the desktop starts with the session:
-/// autostart/corvane.desktop below the user's configuration folder.
+/// autostart/corvane.desktop below the user's configuration folder. A link of that name is looked
+/// through as desktops do, but replaced and removed itself: what it leads to is somebody else's.
 class AutostartLoginItems : public LoginItems {
 public:
     /// The program to start; the running one by default, and of an AppImage its file, since what
