@@ -1,12 +1,16 @@
 #include "app/text_label.h"
 #include "app/welcome/illustration_view.h"
+#include "app/welcome/welcome_illustration.h"
 #include "app/welcome/welcome_scene.h"
 #include "app/welcome/welcome_view.h"
 #include "app/welcome/welcome_window_controller.h"
 #include "app/widget_hands.h"
 #include "fakes/fake_motion_preference.h"
 
+#include <QImage>
+#include <QPainter>
 #include <QPushButton>
+#include <QRegion>
 
 #include <gtest/gtest.h>
 
@@ -154,6 +158,67 @@ TEST_F(WelcomeWindowTest, TheIllustrationPlaysOnlyWhileItCanBeSeen)
     window().present();
     QCoreApplication::processEvents();
     EXPECT_TRUE(illustration().isPlaying());
+}
+
+TEST_F(WelcomeWindowTest, ThePictureFollowsThePalette)
+{
+    window().present();
+    const QImage before = illustration().grab().toImage();
+    QPalette dark;
+    dark.setColor(QPalette::Window, Qt::black);
+    illustration().setPalette(dark);
+    EXPECT_NE(illustration().grab().toImage(), before);
+}
+
+TEST_F(WelcomeWindowTest, EachStepHasAPictureOfItsOwn)
+{
+    window().present();
+    QList<QImage> pictures;
+    for (int step = 0; step < 3; ++step) {
+        const QImage picture = illustration().grab().toImage();
+        EXPECT_FALSE(pictures.contains(picture)) << step;
+        pictures << picture;
+        controller->view().goForward();
+    }
+}
+
+TEST(WelcomeIllustration, NothingChangesOutsideOfWhatIsPaintedAnew)
+{
+    constexpr int frames = 54;
+    for (const double scale : {1.0, 1.3}) {
+        const QRect area({0, 0}, (WelcomeScene::stageSize * scale).toSize());
+        const auto picture = [&](const WelcomeScene &scene) {
+            QImage image(area.size(), QImage::Format_RGB32);
+            QPainter painter(&image);
+            welcome_illustration::drawBackdrop(painter, area, scene.showsKey, QPalette());
+            welcome_illustration::drawActors(painter, area, scene, QPalette(), QFont());
+            return image;
+        };
+        for (const WelcomeStep step : allWelcomeSteps) {
+            WelcomeScene before = welcome_scene::at(step, 0);
+            QImage shown = picture(before);
+            for (int i = 1; i <= frames; ++i) {
+                const WelcomeScene now = welcome_scene::at(step, static_cast<double>(i) / frames);
+                QImage next = picture(now);
+                const QRegion changed = welcome_illustration::changed(area, before, now);
+                QImage patched = shown;
+                QPainter painter(&patched);
+                painter.setClipRegion(changed);
+                painter.drawImage(0, 0, next);
+                painter.end();
+                ASSERT_EQ(patched, next) << static_cast<int>(step) << ' ' << i;
+                before = now;
+                shown = next;
+            }
+        }
+    }
+}
+
+TEST(WelcomeIllustration, AMomentThatIsLikeTheOneBeforeIsNotPaintedAnew)
+{
+    const WelcomeScene scene = welcome_scene::at(WelcomeStep::DragIn, 0.1);
+    EXPECT_TRUE(
+        welcome_illustration::changed({{0, 0}, WelcomeScene::stageSize}, scene, scene).isEmpty());
 }
 
 TEST(WelcomeScene, EndsWhereItBegins)

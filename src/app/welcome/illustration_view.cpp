@@ -4,7 +4,11 @@
 #include "platform/motion_preference.h"
 
 #include <QPainter>
+#include <QRegion>
 #include <QWindow>
+
+#include <cmath>
+#include <utility>
 
 namespace corvane {
 
@@ -28,13 +32,34 @@ IllustrationView::IllustrationView(const WindowLook &look, const MotionPreferenc
     m_phase.setStartValue(0.0);
     m_phase.setEndValue(1.0);
     m_phase.setLoopCount(timesPlayed);
-    connect(&m_phase, &QVariantAnimation::valueChanged, this, [this] { update(); });
-    connect(&m_phase, &QVariantAnimation::finished, this, [this] { update(); });
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    connect(&m_phase, &QVariantAnimation::valueChanged, this, &IllustrationView::showPresentScene);
+    connect(&m_phase, &QVariantAnimation::finished, this, &IllustrationView::showPresentScene);
+    m_scene = presentScene();
+}
+
+WelcomeScene IllustrationView::presentScene() const
+{
+    if (!isPlaying())
+        return welcome_scene::at(m_step, welcome_scene::telling(m_step));
+    constexpr double frames = WelcomeScene::duration * framesPerSecond;
+    const double frame = std::floor(m_phase.currentValue().toDouble() * frames);
+    return welcome_scene::at(m_step, frame / frames);
+}
+
+void IllustrationView::showPresentScene()
+{
+    const WelcomeScene before = std::exchange(m_scene, presentScene());
+    const QRegion region = welcome_illustration::changed(rect(), before, m_scene);
+    if (!region.isEmpty())
+        update(region);
 }
 
 void IllustrationView::setStep(WelcomeStep step)
 {
     m_step = step;
+    m_backdrop = QImage();
+    update();
     play();
 }
 
@@ -52,7 +77,7 @@ void IllustrationView::play()
         m_phase.start();
     else
         m_isInterrupted = !m_motion.reducesMotion();
-    update();
+    showPresentScene();
 }
 
 void IllustrationView::hold()
@@ -61,6 +86,7 @@ void IllustrationView::hold()
         return;
     m_phase.stop();
     m_isInterrupted = true;
+    showPresentScene();
 }
 
 void IllustrationView::showEvent(QShowEvent *event)
@@ -96,13 +122,31 @@ void IllustrationView::enterEvent(QEnterEvent *event)
         play();
 }
 
+void IllustrationView::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        m_backdrop = QImage();
+    QWidget::changeEvent(event);
+}
+
+void IllustrationView::prepareBackdrop(double scale)
+{
+    const QSize size = (QSizeF(rect().size()) * scale).toSize();
+    if (m_backdrop.size() == size && m_backdrop.devicePixelRatio() == scale)
+        return;
+    m_backdrop = QImage(size, QImage::Format_RGB32);
+    m_backdrop.setDevicePixelRatio(scale);
+    QPainter painter(&m_backdrop);
+    welcome_illustration::drawBackdrop(painter, rect(), m_scene.showsKey, palette());
+}
+
 void IllustrationView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const double phase
-        = isPlaying() ? m_phase.currentValue().toDouble() : welcome_scene::telling(m_step);
-    welcome_illustration::draw(painter, rect(), welcome_scene::at(m_step, phase), palette(),
-                               m_look.font(keyFontSize, QFont::DemiBold));
+    prepareBackdrop(painter.deviceTransform().m11());
+    painter.drawImage(QPoint(0, 0), m_backdrop);
+    welcome_illustration::drawActors(painter, rect(), m_scene, palette(),
+                                     m_look.font(keyFontSize, QFont::DemiBold));
 }
 
 } // namespace corvane

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "app/welcome/welcome_scene.h"
 #include "app/welcome/welcome_step.h"
 #include "app/window_look.h"
 
+#include <QImage>
 #include <QVariantAnimation>
 #include <QWidget>
 
@@ -18,6 +20,8 @@ class IllustrationView : public QWidget {
 
 public:
     static constexpr int timesPlayed = 6;
+    /// Enough for something calm.
+    static constexpr int framesPerSecond = 30;
 
     IllustrationView(const WindowLook &look, const MotionPreference &motion,
                      QWidget *parent = nullptr);
@@ -29,6 +33,7 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
+    void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
     void enterEvent(QEnterEvent *event) override;
@@ -36,6 +41,11 @@ protected:
 
 private:
     bool canBeSeen() const;
+    WelcomeScene presentScene() const;
+    /// Has what differs from what was shown painted anew.
+    void showPresentScene();
+    /// `scale` is that of what is painted on, in pixels of it for each of ours.
+    void prepareBackdrop(double scale);
     void play();
     void hold();
 
@@ -45,6 +55,9 @@ private:
     QVariantAnimation m_phase;
     /// A play that was interrupted goes on when it can be seen again.
     bool m_isInterrupted = false;
+    WelcomeScene m_scene;
+    /// What stands still, painted once for each size and palette; null until it is.
+    QImage m_backdrop;
 };
 
 } // namespace corvane

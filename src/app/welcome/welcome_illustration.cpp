@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+#include <QRegion>
+#include <QTransform>
 
 #include <algorithm>
 
@@ -20,7 +22,11 @@ constexpr QRectF rightWindow{282, 126, 186, 166};
 constexpr double windowRadius = 9;
 constexpr double titleBarHeight = 20;
 constexpr QSizeF cardSize{40, 48};
+constexpr double cardShadow = 4;
 constexpr QRectF keyCap{238, 240, 44, 40};
+constexpr double keyShadow = 6;
+constexpr double keyTravel = 3;
+constexpr double arrowLine = 2.4;
 constexpr QSizeF notchSize{124, 23};
 constexpr QSizeF shelfSize{244, 58};
 constexpr double notchRadius = 8;
@@ -132,7 +138,7 @@ void drawCard(QPainter &painter, const WelcomeScene::Card &card, const Colours &
     painter.translate(card.centre);
     painter.scale(card.scale, card.scale);
     const QRectF rect(QPointF(-cardSize.width() / 2, -cardSize.height() / 2), cardSize);
-    drawShadow(painter, rect, 5, 4);
+    drawShadow(painter, rect, 5, cardShadow);
     painter.setPen(Qt::NoPen);
     painter.setBrush(Qt::white);
     painter.drawRoundedRect(rect, 5, 5);
@@ -180,12 +186,11 @@ void drawShelf(QPainter &painter, const WelcomeScene &scene)
 
 void drawKey(QPainter &painter, double pressed, const Colours &colours, const QFont &font)
 {
-    constexpr double travel = 3;
-    const QRectF cap = keyCap.translated(0, travel * pressed);
-    drawShadow(painter, keyCap, 8, 6);
+    const QRectF cap = keyCap.translated(0, keyTravel * pressed);
+    drawShadow(painter, keyCap, 8, keyShadow);
     painter.setPen(Qt::NoPen);
     painter.setBrush(colours.line);
-    painter.drawRoundedRect(keyCap.adjusted(0, travel, 0, travel), 8, 8);
+    painter.drawRoundedRect(keyCap.adjusted(0, keyTravel, 0, keyTravel), 8, 8);
     painter.setBrush(colours.window);
     painter.drawRoundedRect(cap, 8, 8);
     QColor glow = colours.accent;
@@ -197,39 +202,105 @@ void drawKey(QPainter &painter, double pressed, const Colours &colours, const QF
     painter.drawText(cap, Qt::AlignCenter, QStringLiteral("⇧"));
 }
 
+const QPolygonF &arrow()
+{
+    static const QPolygonF outline(
+        {{0, 0}, {0, 17}, {4, 13.4}, {6.6, 19.4}, {9.4, 18.2}, {6.8, 12.4}, {12.2, 12.2}});
+    return outline;
+}
+
 void drawPointer(QPainter &painter, QPointF tip)
 {
-    const QPolygonF arrow(
-        {{0, 0}, {0, 17}, {4, 13.4}, {6.6, 19.4}, {9.4, 18.2}, {6.8, 12.4}, {12.2, 12.2}});
     painter.save();
     painter.translate(tip);
-    painter.setPen(QPen(Qt::white, 2.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(Qt::white, arrowLine, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::black);
-    painter.drawPolygon(arrow);
+    painter.drawPolygon(arrow());
     painter.setPen(Qt::NoPen);
-    painter.drawPolygon(arrow);
+    painter.drawPolygon(arrow());
     painter.restore();
+}
+
+QRectF grown(const QRectF &rect, double by)
+{
+    return rect.adjusted(-by, -by, by, by);
+}
+
+QRectF boundsOf(const WelcomeScene::Card &card)
+{
+    const QSizeF size = cardSize * card.scale;
+    const QRectF rect({card.centre.x() - size.width() / 2, card.centre.y() - size.height() / 2},
+                      size);
+    // The shadow reaches a third further down, and no further on the other sides.
+    return grown(rect, cardShadow * 4 / 3 * card.scale);
+}
+
+QRectF pointerBounds(const WelcomeScene &scene)
+{
+    return grown(arrow().boundingRect().translated(scene.pointer), arrowLine);
+}
+
+/// The bounds of everything that is not as it was, as it was and as it is.
+QList<QRectF> changedBounds(const WelcomeScene &before, const WelcomeScene &after)
+{
+    QList<QRectF> bounds;
+    if (before.shelf != after.shelf || before.ring != after.ring)
+        bounds << shelfBounds(before.shelf) << shelfBounds(after.shelf);
+    if (before.key != after.key || before.showsKey != after.showsKey)
+        bounds << grown(keyCap, keyShadow * 4 / 3 + keyTravel);
+    if (before.pointer != after.pointer || before.pointerOpacity != after.pointerOpacity)
+        bounds << pointerBounds(before) << pointerBounds(after);
+    for (qsizetype i = 0; i < std::max(before.cards.size(), after.cards.size()); ++i) {
+        const bool isThere = i < before.cards.size() && i < after.cards.size();
+        if (isThere && before.cards[i] == after.cards[i])
+            continue;
+        if (i < before.cards.size())
+            bounds << boundsOf(before.cards[i]);
+        if (i < after.cards.size())
+            bounds << boundsOf(after.cards[i]);
+    }
+    return bounds;
+}
+
+/// Where the stage is in the area.
+QTransform stageIn(const QRectF &area)
+{
+    const QSizeF stage = WelcomeScene::stageSize;
+    const double scale = std::min(area.width() / stage.width(), area.height() / stage.height());
+    return QTransform()
+        .translate(area.center().x() - stage.width() * scale / 2, area.top())
+        .scale(scale, scale);
+}
+
+void raise(QPainter &painter, const QRectF &area)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setClipRect(area, Qt::IntersectClip);
+    painter.setTransform(stageIn(area), true);
 }
 
 } // namespace
 
-void draw(QPainter &painter, const QRectF &area, const WelcomeScene &scene, const QPalette &palette,
-          const QFont &keyFont)
+void drawBackdrop(QPainter &painter, const QRectF &area, bool showsKey, const QPalette &palette)
 {
     const Colours colours(palette);
     painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setClipRect(area, Qt::IntersectClip);
     drawDesktop(painter, area, colours);
-    const QSizeF stage = WelcomeScene::stageSize;
-    const double scale = std::min(area.width() / stage.width(), area.height() / stage.height());
-    painter.translate(area.center().x() - stage.width() * scale / 2, area.top());
-    painter.scale(scale, scale);
-    if (scene.showsKey)
+    raise(painter, area);
+    if (showsKey)
         drawDocument(painter, leftWindow, colours);
     else
         drawFiles(painter, colours);
     drawDocument(painter, rightWindow, colours);
+    painter.restore();
+}
+
+void drawActors(QPainter &painter, const QRectF &area, const WelcomeScene &scene,
+                const QPalette &palette, const QFont &keyFont)
+{
+    const Colours colours(palette);
+    painter.save();
+    raise(painter, area);
     if (scene.showsKey)
         drawKey(painter, scene.key, colours, keyFont);
     drawShelf(painter, scene);
@@ -238,6 +309,18 @@ void draw(QPainter &painter, const QRectF &area, const WelcomeScene &scene, cons
     painter.setOpacity(scene.pointerOpacity);
     drawPointer(painter, scene.pointer);
     painter.restore();
+}
+
+QRegion changed(const QRectF &area, const WelcomeScene &before, const WelcomeScene &after)
+{
+    const QTransform stage = stageIn(area);
+    QRegion region;
+    for (const QRectF &bounds : changedBounds(before, after)) {
+        // Soft edges cover a part of the next pixel, too.
+        constexpr double softness = 1;
+        region += grown(stage.mapRect(bounds), softness).toAlignedRect();
+    }
+    return region;
 }
 
 } // namespace corvane::welcome_illustration

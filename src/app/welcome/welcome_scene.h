@@ -20,6 +20,8 @@ struct WelcomeScene {
         /// Of its size in a window.
         double scale = 1;
         double opacity = 1;
+
+        friend bool operator==(const Card &, const Card &) = default;
     };
 
     /// 0 is the notch alone, 1 the open shelf.
@@ -33,6 +35,8 @@ struct WelcomeScene {
     /// Whether the Shift key is shown, and how far it is pressed, 0 to 1.
     bool showsKey = false;
     double key = 0;
+
+    friend bool operator==(const WelcomeScene &, const WelcomeScene &) = default;
 };
 
 namespace welcome_scene {
