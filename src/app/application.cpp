@@ -3,6 +3,7 @@
 #include "app/app_info.h"
 #include "app/composition_root.h"
 #include "platform/freedesktop/dbus_single_instance.h"
+#include "platform/freedesktop/session_bus.h"
 #include "platform/qt/unix_signals.h"
 
 #include <QApplication>
@@ -47,6 +48,7 @@ int runApplication(int argc, char **argv)
     }
     // In a Wayland session the shelf runs through XWayland for now.
     qputenv("QT_QPA_PLATFORM", "xcb");
+    session_bus::keepFromStarting();
     const AppInfo info = AppInfo::builtIn();
     QApplication application(argc, argv);
     setUpApplication(info);

@@ -33,6 +33,18 @@ protected:
         ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
         ASSERT_EQ(corvane().spooled(), QStringList{u"Image.png"_s});
     }
+    /// Where nobody can be asked whether it is up: it is once a drag opens it.
+    bool opensForADrag()
+    {
+        return eventually([&] {
+            XdndSource source(m_desktop, {{"text/plain", "x"}});
+            source.pickUp();
+            const bool shown
+                = eventually([&] { return corvane().isShown(); }, std::chrono::seconds{1});
+            source.letGo();
+            return shown;
+        });
+    }
 };
 
 TEST_F(Life, aSecondStartOpensAndClosesTheShelfAndEndsByItself)
@@ -90,14 +102,19 @@ TEST_F(Life, withoutASessionBusItRunsAlone)
     environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, u"unix:path=/nowhere"_s);
     m_corvane
         = std::make_unique<CorvaneProgram>(m_desktop, CorvaneProgram::Start{{}, {}, environment});
-    // Nobody can be asked whether it is up: it is once a drag opens it.
-    ASSERT_TRUE(eventually([&] {
-        XdndSource source(m_desktop, {{"text/plain", "x"}});
-        source.pickUp();
-        const bool shown = eventually([&] { return corvane().isShown(); }, std::chrono::seconds{1});
-        source.letGo();
-        return shown;
-    }));
+    EXPECT_TRUE(opensForADrag());
+}
+
+TEST_F(Life, whereTheSessionHasNoBusNoneIsStarted)
+{
+    auto environment = m_desktop.environment();
+    environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
+    environment.insert(u"XDG_RUNTIME_DIR"_s, makeFolder(u"runtime without a bus"_s));
+    m_corvane
+        = std::make_unique<CorvaneProgram>(m_desktop, CorvaneProgram::Start{{}, {}, environment});
+    EXPECT_TRUE(opensForADrag());
+    // A bus that is started for a display leaves its address there.
+    EXPECT_FALSE(QFile::exists(environment.value(u"HOME"_s) + u"/.dbus"_s));
 }
 
 TEST_F(Life, withoutADisplayItSaysSoAndEnds)

@@ -5,14 +5,31 @@
 
 namespace corvane::session_bus {
 
+namespace {
+
+constexpr auto address = "DBUS_SESSION_BUS_ADDRESS";
+
+bool isThere()
+{
+    if (!qEnvironmentVariableIsEmpty(address))
+        return true;
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return !runtime.isEmpty() && QFileInfo::exists(runtime + QLatin1String("/bus"));
+}
+
+} // namespace
+
 bool isAvailable()
 {
-    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS")) {
-        const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-        if (runtime.isEmpty() || !QFileInfo::exists(runtime + QLatin1String("/bus")))
-            return false;
-    }
-    return QDBusConnection::sessionBus().isConnected();
+    return isThere() && QDBusConnection::sessionBus().isConnected();
+}
+
+void keepFromStarting()
+{
+    // Without an address one is looked for with a program that starts a bus if it finds none. No
+    // transport has this name, so that nothing is tried at all.
+    if (!isThere())
+        qputenv(address, "disabled:");
 }
 
 } // namespace corvane::session_bus
