@@ -1,0 +1,1 @@
+// Owns the headers that the tests share.
