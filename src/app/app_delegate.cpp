@@ -28,6 +28,8 @@ AppDelegate::~AppDelegate()
 void AppDelegate::applicationDidFinishLaunching()
 {
     m_context.settings.registerDefaults();
+    if (!m_context.settings.areKept())
+        qWarning("[Corvane] The settings folder cannot be written to; changes are not kept.");
     m_hud = std::make_unique<HUDController>(m_context.hud);
     m_context.previewPanel.setController(this);
     m_statusItem = std::make_unique<StatusItemController>(StatusItemController::Context{

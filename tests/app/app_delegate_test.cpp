@@ -407,6 +407,21 @@ TEST_F(AppDelegateTest, ShortcutsThatAreTakenAreSaidOnceAndStartUpGoesOn)
     EXPECT_EQ(store.state(), ShelfState::Expanded);
 }
 
+TEST_F(AppDelegateTest, SettingsThatCannotBeKeptAreSaidOnceAndTheSessionGoesOn)
+{
+    delegate.reset();
+    defaults.kept = false;
+    testing::internal::CaptureStderr();
+    launch();
+    settings.setInViewCount(3);
+    settings.setAutoShowOnDrag(false);
+    const QString said = QString::fromStdString(testing::internal::GetCapturedStderr());
+    EXPECT_EQ(said.count(QStringLiteral("cannot be written to")), 1) << qPrintable(said);
+    EXPECT_EQ(settings.inViewCount(), 3);
+    delegate->applicationShouldHandleReopen(false);
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+}
+
 TEST_F(AppDelegateTest, ADragHeardAfterItIsGoneDoesNothing)
 {
     delegate.reset();

@@ -52,7 +52,7 @@ ShortcutRecorderView::ShortcutRecorderView(KeyMonitors &monitors, HotKeyService 
     setAttribute(Qt::WA_InputMethodEnabled, false);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_recorder.onNeedsDisplay = [this] { changed(); };
-    m_recorder.onTakeFocus = [this] { setFocus(Qt::MouseFocusReason); };
+    m_recorder.onTakeFocus = [this] { takeKeyboard(); };
     m_recorder.onChange = [this](const Shortcut &shortcut) {
         // A copy: it may destroy the view.
         if (const auto change = onChange)
@@ -63,6 +63,22 @@ ShortcutRecorderView::ShortcutRecorderView(KeyMonitors &monitors, HotKeyService 
 ShortcutRecorderView::~ShortcutRecorderView()
 {
     m_recorder.onNeedsDisplay = nullptr;
+    m_recorder.stopRecording();
+    giveKeyboardBack();
+}
+
+void ShortcutRecorderView::takeKeyboard()
+{
+    setFocus(Qt::MouseFocusReason);
+    // Alone: what another program holds would go there, and could not be said to be taken.
+    if (isVisible())
+        grabKeyboard();
+}
+
+void ShortcutRecorderView::giveKeyboardBack()
+{
+    if (keyboardGrabber() == this)
+        releaseKeyboard();
 }
 
 QString ShortcutRecorderView::text() const
@@ -176,6 +192,8 @@ void ShortcutRecorderView::hideEvent(QHideEvent *event)
 
 void ShortcutRecorderView::changed()
 {
+    if (!isRecording())
+        giveKeyboardBack();
     update();
     if (QAccessible::isActive()) {
         QAccessibleEvent event(this, QAccessible::NameChanged);

@@ -12,8 +12,9 @@ namespace corvane {
 
 /// The field in which the user changes a shortcut: a click, Space or Return, then the combination.
 ///
-/// While it waits for the combination, no other part of the window gets a key. The combination is
-/// shown in red where it could not be registered. What it is given must outlive it.
+/// While it waits for the combination, no other part of the window gets a key, and no other program
+/// either. The combination is shown in red where it could not be registered. What it is given must
+/// outlive it.
 class ShortcutRecorderView : public QWidget {
     Q_OBJECT
 
@@ -52,6 +53,8 @@ protected:
 private:
     QFont textFont() const;
     QColor textColor() const;
+    void takeKeyboard();
+    void giveKeyboardBack();
     void changed();
 
     WindowLook m_look;

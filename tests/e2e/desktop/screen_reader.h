@@ -1,0 +1,59 @@
+#pragma once
+
+#include "e2e/desktop/x_desktop.h"
+
+#include <QDBusConnection>
+#include <QList>
+#include <QRect>
+#include <QString>
+
+#include <optional>
+
+namespace corvane::e2e {
+
+/// What somebody hears who cannot see the windows of a program, asked as screen readers ask.
+class ScreenReader {
+public:
+    struct Element {
+        QString name;
+        QString description;
+        /// "label", "check box", "push button" and so on.
+        QString role;
+        /// In root coordinates.
+        QRect frame;
+    };
+
+    explicit ScreenReader(XDesktop &desktop);
+    ~ScreenReader();
+    ScreenReader(const ScreenReader &) = delete;
+    ScreenReader &operator=(const ScreenReader &) = delete;
+
+    bool isReady() const { return m_bus.isConnected(); }
+    /// What a program is started with that is to be heard.
+    static void addTo(QProcessEnvironment &environment);
+
+    /// Everything in the program's windows, from the outermost to the innermost.
+    QList<Element> elements(qint64 pid) const;
+    /// The first control, no mere text, whose name begins so.
+    std::optional<Element> control(qint64 pid, const QString &name,
+                                   const QString &description = {}) const;
+    /// Whether a text stands somewhere.
+    bool says(qint64 pid, const QString &text) const;
+
+private:
+    struct Place {
+        QString service;
+        QString path;
+    };
+    QVariantList ask(const Place &place, const QString &interface, const QString &method,
+                     const QVariantList &arguments = {}) const;
+    QString property(const Place &place, const QString &name) const;
+    QList<Place> children(const Place &place) const;
+    QRect frame(const Place &place) const;
+    std::optional<Place> program(qint64 pid) const;
+    void collect(const Place &place, int depth, QList<Element> &found) const;
+
+    QDBusConnection m_bus;
+};
+
+} // namespace corvane::e2e
