@@ -3,8 +3,11 @@
 #include "e2e/desktop_test.h"
 
 #include <QBuffer>
+#include <QDirIterator>
 #include <QFile>
 #include <QImage>
+
+#include <unistd.h>
 
 #include <csignal>
 
@@ -32,6 +35,33 @@ protected:
         ASSERT_TRUE(dropOffers({{"image/png", aPicture()}}));
         ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
         ASSERT_EQ(corvane().spooled(), QStringList{u"Image.png"_s});
+    }
+    /// Everything below the desktop's folder.
+    QStringList filesOfTheUser() const
+    {
+        QStringList files;
+        const QDir top(m_desktop.home());
+        QDirIterator all(top.path(),
+                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+        while (all.hasNext()) {
+            const QString path = all.next();
+            if (!all.fileInfo().isDir())
+                files << top.relativeFilePath(path);
+        }
+        return files;
+    }
+    /// What is left of a session, for people to read.
+    static QStringList processesOf(qint64 session)
+    {
+        QStringList found;
+        for (const QString &pid : QDir(u"/proc"_s).entryList(QDir::Dirs)) {
+            bool isPid = false;
+            const pid_t number = pid.toInt(&isPid);
+            if (isPid && getsid(number) == session)
+                found << pid;
+        }
+        return found;
     }
     /// Where nobody can be asked whether it is up: it is once a drag opens it.
     bool opensForADrag()
@@ -115,6 +145,28 @@ TEST_F(Life, whereTheSessionHasNoBusNoneIsStarted)
     EXPECT_TRUE(opensForADrag());
     // A bus that is started for a display leaves its address there.
     EXPECT_FALSE(QFile::exists(environment.value(u"HOME"_s) + u"/.dbus"_s));
+}
+
+TEST_F(Life, theEndLeavesNoProcessAndNothingButSettingsAndCaches)
+{
+    const QStringList before = filesOfTheUser();
+    startWithSpool();
+    const qint64 session = corvane().program().pid();
+    ASSERT_TRUE(dropOffers({{"text/plain", "some text"}}));
+    ASSERT_TRUE(dropFiles({makeFile(u"one.txt"_s, "x")}));
+    focusShelf(corvane().at(20, 20));
+    hands().key('c', {keys::control});
+    hands().key(keys::space);
+    corvane().program().signal(SIGTERM);
+    EXPECT_EQ(corvane().program().waitForEnd(), 0);
+    EXPECT_EQ(processesOf(session), QStringList());
+    for (const QString &file : filesOfTheUser()) {
+        if (before.contains(file))
+            continue;
+        EXPECT_TRUE(file.startsWith(u"home/.config/Corvane/"_s)
+                    || file.startsWith(u"home/.cache/"_s) || file.startsWith(u"home/files/"_s))
+            << file.toStdString();
+    }
 }
 
 TEST_F(Life, withoutADisplayItSaysSoAndEnds)
