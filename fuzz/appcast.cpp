@@ -21,7 +21,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const UpdateChoice choice = update_choice::choose(*items, system);
     if (!choice.newest)
         return 0;
-    for (const QChar c : choice.newest->notes + choice.newest->shownVersion) {
+    const QString shown = choice.newest->notes + choice.newest->shownVersion;
+    for (const QChar c : shown) {
         if ((c < u' ' && c != u'\n') || c == u'\u202E')
             std::abort();
     }

@@ -33,6 +33,8 @@ struct WebRequest {
     /// Where the address was found: the farthest place of the chain that led to it. None when the
     /// user gave the address, who may look wherever they like.
     std::optional<AddressSpace> foundIn;
+    /// Only https will do, and http to this machine; no redirection may lead to http at all.
+    bool mustBeSecure = false;
 };
 
 struct WebResponse {

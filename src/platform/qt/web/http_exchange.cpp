@@ -193,26 +193,38 @@ void HttpExchange::readHead()
     const qint64 length = m_reply->rawHeader("Content-Length").toLongLong(&isNumber);
     const bool isCoded = m_reply->hasRawHeader("Content-Encoding");
     m_expectedContentLength = isNumber && length >= 0 && !isCoded ? length : -1;
-    if (redirection())
+    // Of the others nobody wants the body that a download would bring.
+    constexpr int found = 200;
+    if (redirection() || (m_plan.take && m_statusCode != found))
         finish(true);
 }
 
 void HttpExchange::readBody()
 {
-    while (m_reply && m_body.size() < m_plan.maximumBytes) {
+    while (m_reply && m_bodyBytes < m_plan.maximumBytes) {
         const QByteArray piece
-            = m_reply->read(std::min(readBufferBytes, m_plan.maximumBytes - m_body.size()));
+            = m_reply->read(std::min(readBufferBytes, m_plan.maximumBytes - m_bodyBytes));
         if (piece.isEmpty())
             return;
         onProgress();
-        m_body += piece;
+        if (!takePiece(piece))
+            return finish(false);
     }
     finish(true);
 }
 
+bool HttpExchange::takePiece(const QByteArray &piece)
+{
+    m_bodyBytes += piece.size();
+    if (m_plan.take)
+        return m_plan.take(piece);
+    m_body += piece;
+    return true;
+}
+
 bool HttpExchange::isWhole() const
 {
-    return m_expectedContentLength < 0 || m_body.size() >= m_expectedContentLength;
+    return m_expectedContentLength < 0 || m_bodyBytes >= m_expectedContentLength;
 }
 
 void HttpExchange::replyFinished()

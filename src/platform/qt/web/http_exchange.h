@@ -33,6 +33,8 @@ public:
         QList<QHostAddress> addresses;
         double nextAddressAfter = 1;
         QList<QSslCertificate> authorities;
+        /// Takes the body of an answer of status 200, and the exchange keeps none; false ends it.
+        std::function<bool(const QByteArray &)> take;
     };
 
     /// The request as it goes to one of the addresses; none where the plan's texts cannot stand in
@@ -68,6 +70,7 @@ private:
     void tryNextAddress();
     void readHead();
     void readBody();
+    bool takePiece(const QByteArray &piece);
     void replyFinished();
     bool isWhole() const;
     void finish(bool isComplete);
@@ -82,6 +85,7 @@ private:
     QByteArray m_location;
     qint64 m_expectedContentLength = -1;
     QByteArray m_body;
+    qint64 m_bodyBytes = 0;
     bool m_isConnected = false;
     bool m_isComplete = false;
     bool m_hasEnded = false;

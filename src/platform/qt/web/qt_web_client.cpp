@@ -22,12 +22,23 @@ QtWebClient::~QtWebClient()
 
 void QtWebClient::get(const WebRequest &request, Completion completion)
 {
+    start(request, std::move(completion));
+}
+
+void QtWebClient::download(const WebDownload &download, Completion completion)
+{
+    start(download, std::move(completion));
+}
+
+template<class Task>
+void QtWebClient::start(const Task &task, Completion completion)
+{
     if (!m_fetches)
         startThread();
     const std::uint64_t number = ++m_lastNumber;
     m_completions.emplace(number, std::move(completion));
     QMetaObject::invokeMethod(
-        m_fetches, [fetches = m_fetches, number, request] { fetches->add(number, request); },
+        m_fetches, [fetches = m_fetches, number, task] { fetches->add(number, task); },
         Qt::QueuedConnection);
 }
 

@@ -3,6 +3,7 @@
 #include "platform/main_queue.h"
 #include "platform/qt/web/web_network.h"
 #include "platform/web_client.h"
+#include "platform/web_downloader.h"
 
 #include <QThread>
 
@@ -21,10 +22,10 @@ class WebFetches;
 ///
 /// Names, TLS and decompression have a thread of their own. It is started by the first request and
 /// sleeps between requests; there are no connections then and no timers. From https a redirection
-/// may lead to http, as a link may in browsers.
+/// may lead to http, as a link may in browsers, where the request does not say otherwise.
 ///
 /// Destroying it ends what is under way at once; what was not completed never is.
-class QtWebClient : public WebClient {
+class QtWebClient : public WebClient, public WebDownloader {
 public:
     /// `mainQueue` must outlive it.
     explicit QtWebClient(MainQueue &mainQueue, WebNetwork network = {});
@@ -33,8 +34,11 @@ public:
     ~QtWebClient() override;
 
     void get(const WebRequest &request, Completion completion) override;
+    void download(const WebDownload &download, Completion completion) override;
 
 private:
+    template<class Task>
+    void start(const Task &task, Completion completion);
     void startThread();
     void complete(std::uint64_t number, std::optional<WebResponse> response);
 

@@ -37,8 +37,15 @@ WebFetch::WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, We
         timer->setSingleShot(true);
         connect(timer, &QTimer::timeout, this, [this] { finish(std::nullopt); });
     }
-    m_silence.setInterval(milliseconds(network.requestTimeout));
-    m_whole.setInterval(milliseconds(network.resourceTimeout));
+    setTimeouts(network.requestTimeout, network.resourceTimeout);
+}
+
+WebFetch::WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, WebDownload download)
+    : WebFetch(manager, network, std::move(download.request))
+{
+    m_take = std::move(download.take);
+    m_cancellation = std::move(download.cancellation);
+    setTimeouts(network.downloadSilenceTimeout, network.downloadWholeTimeout);
 }
 
 WebFetch::~WebFetch()
@@ -46,17 +53,34 @@ WebFetch::~WebFetch()
     m_mailbox->close();
 }
 
+void WebFetch::setTimeouts(double silence, double whole)
+{
+    m_silence.setInterval(milliseconds(silence));
+    m_whole.setInterval(milliseconds(whole));
+}
+
 void WebFetch::start()
 {
     m_silence.start();
     m_whole.start();
+    if (m_cancellation) {
+        m_cancellationHandler
+            = std::make_unique<Cancellation::Handler>(*m_cancellation, [this, mailbox = m_mailbox] {
+                  mailbox->post([this] { finish(std::nullopt); });
+              });
+    }
     visit(m_request.url);
+}
+
+bool WebFetch::isSecureEnough(const QUrl &url) const
+{
+    return !m_request.mustBeSecure || m_redirects == 0 || url.scheme() == QLatin1String("https");
 }
 
 void WebFetch::visit(const QUrl &url)
 {
     m_url = url.adjusted(QUrl::RemoveUserInfo);
-    if (!isOfTheWeb(m_url) || m_network.proxies.apply(m_url))
+    if (!isOfTheWeb(m_url) || !isSecureEnough(m_url) || m_network.proxies.apply(m_url))
         return finish(std::nullopt);
     m_network.resolver->resolve(m_url.host(QUrl::FullyEncoded),
                                 [this, mailbox = m_mailbox](const QList<QHostAddress> &addresses) {
@@ -68,8 +92,13 @@ QList<QHostAddress> WebFetch::allowed(const QList<QHostAddress> &found) const
 {
     QList<QHostAddress> first;
     QList<QHostAddress> second;
+    const bool mustBeThisMachine
+        = m_request.mustBeSecure && m_url.scheme() != QLatin1String("https");
     for (const QHostAddress &address : found) {
-        if (m_farthest && m_network.spaceOf(address) < *m_farthest)
+        const AddressSpace space = m_network.spaceOf(address);
+        if (m_farthest && space < *m_farthest)
+            continue;
+        if (mustBeThisMachine && space != AddressSpace::Loopback)
             continue;
         const bool isOfFirstFamily
             = first.isEmpty() || first.constFirst().protocol() == address.protocol();
@@ -89,7 +118,8 @@ void WebFetch::exchangeWith(const QList<QHostAddress> &found)
     m_exchange = std::make_unique<HttpExchange>(
         m_manager,
         HttpExchange::Plan{m_url, m_request.userAgent, m_request.accept, m_request.maximumBytes,
-                           allowed(found), m_network.nextAddressAfter, m_network.authorities});
+                           allowed(found), m_network.nextAddressAfter, m_network.authorities,
+                           m_take});
     m_exchange->onProgress = [this] { m_silence.start(); };
     m_exchange->onEnd = [this] { exchangeEnded(); };
     m_exchange->start();

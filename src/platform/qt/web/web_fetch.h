@@ -3,6 +3,7 @@
 #include "platform/qt/web/http_exchange.h"
 #include "platform/qt/web/web_network.h"
 #include "platform/web_client.h"
+#include "platform/web_downloader.h"
 
 #include <QObject>
 #include <QTimer>
@@ -28,6 +29,7 @@ class WebFetch : public QObject {
 public:
     /// The manager and the network must outlive it.
     WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, WebRequest request);
+    WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, WebDownload download);
     WebFetch(const WebFetch &) = delete;
     WebFetch &operator=(const WebFetch &) = delete;
     ~WebFetch() override;
@@ -38,7 +40,9 @@ public:
     void start();
 
 private:
+    void setTimeouts(double silence, double whole);
     void visit(const QUrl &url);
+    bool isSecureEnough(const QUrl &url) const;
     void exchangeWith(const QList<QHostAddress> &found);
     /// Those that may be connected to, the two families in turns.
     QList<QHostAddress> allowed(const QList<QHostAddress> &found) const;
@@ -49,6 +53,9 @@ private:
     QNetworkAccessManager &m_manager;
     const WebNetwork &m_network;
     WebRequest m_request;
+    std::function<bool(const QByteArray &)> m_take;
+    std::shared_ptr<Cancellation> m_cancellation;
+    std::unique_ptr<Cancellation::Handler> m_cancellationHandler;
     QUrl m_url;
     /// The farthest place so far, of this request and of what led to it.
     std::optional<AddressSpace> m_farthest;

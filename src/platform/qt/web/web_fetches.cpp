@@ -14,18 +14,30 @@ WebFetches::WebFetches(WebNetwork network, Deliver deliver)
 
 WebFetches::~WebFetches() = default;
 
-void WebFetches::add(std::uint64_t number, WebRequest request)
+void WebFetches::add(std::uint64_t number, const WebRequest &request)
 {
-    m_waiting.emplace_back(number, std::move(request));
+    add(number,
+        [this, request] { return std::make_unique<WebFetch>(manager(), m_network, request); });
+}
+
+void WebFetches::add(std::uint64_t number, const WebDownload &download)
+{
+    add(number,
+        [this, download] { return std::make_unique<WebFetch>(manager(), m_network, download); });
+}
+
+void WebFetches::add(std::uint64_t number, Make make)
+{
+    m_waiting.emplace_back(number, std::move(make));
     startNext();
 }
 
 void WebFetches::startNext()
 {
     while (!m_waiting.empty() && m_running.size() < maximumAtOnce) {
-        auto [number, request] = std::move(m_waiting.front());
+        auto [number, make] = std::move(m_waiting.front());
         m_waiting.pop_front();
-        auto fetch = std::make_unique<WebFetch>(manager(), m_network, std::move(request));
+        auto fetch = make();
         fetch->onEnd = [this, id = number](std::optional<WebResponse> response) {
             ended(id, std::move(response));
         };

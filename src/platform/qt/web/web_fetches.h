@@ -30,9 +30,13 @@ public:
     WebFetches &operator=(const WebFetches &) = delete;
     ~WebFetches() override;
 
-    void add(std::uint64_t number, WebRequest request);
+    void add(std::uint64_t number, const WebRequest &request);
+    void add(std::uint64_t number, const WebDownload &download);
 
 private:
+    using Make = std::function<std::unique_ptr<WebFetch>()>;
+
+    void add(std::uint64_t number, Make make);
     void startNext();
     QNetworkAccessManager &manager();
     void ended(std::uint64_t number, std::optional<WebResponse> response);
@@ -41,7 +45,7 @@ private:
     Deliver m_deliver;
     /// Made on the thread, with the first fetch.
     std::unique_ptr<QNetworkAccessManager> m_manager;
-    std::deque<std::pair<std::uint64_t, WebRequest>> m_waiting;
+    std::deque<std::pair<std::uint64_t, Make>> m_waiting;
     std::map<std::uint64_t, std::unique_ptr<WebFetch>> m_running;
 };
 

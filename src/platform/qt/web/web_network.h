@@ -5,6 +5,7 @@
 #include "platform/qt/web/proxy_settings.h"
 #include "platform/qt/web/system_host_resolver.h"
 #include "platform/web_client.h"
+#include "platform/web_downloader.h"
 
 #include <QList>
 #include <QSslCertificate>
@@ -26,6 +27,8 @@ struct WebNetwork {
 
     double requestTimeout = WebClient::requestTimeout;
     double resourceTimeout = WebClient::resourceTimeout;
+    double downloadSilenceTimeout = WebDownloader::silenceTimeout;
+    double downloadWholeTimeout = WebDownloader::wholeTimeout;
     /// A host's next address has its turn when one has been silent for this long.
     double nextAddressAfter = 1;
 };
