@@ -2,8 +2,8 @@
 
 #include "core/drag_writer.h"
 #include "core/feedback.h"
-#include "core/private_file.h"
 #include "platform/file_url.h"
+#include "platform/regular_file.h"
 
 namespace corvane {
 
@@ -45,8 +45,8 @@ QString dataUriOf(const QByteArray &bytes, const QString &mediaType)
 struct DataUri {
     std::optional<QString> operator()(const DropItem::File &file) const
     {
-        const auto bytes
-            = private_file::read(file_url::nativePath(file.url), QuickActions::dataUriLimit);
+        const auto bytes = regular_file::contents(file_url::nativePath(file.url),
+                                                  QuickActions::dataUriLimit - 1);
         if (!bytes)
             return std::nullopt;
         const QString extension = file_url::pathExtension(file.url);

@@ -4,6 +4,7 @@
 #include "core/display_text.h"
 #include "platform/file_url.h"
 #include "platform/preview_documents.h"
+#include "platform/regular_file.h"
 #include "services/preview_text.h"
 
 #include <QDateTime>
@@ -12,13 +13,10 @@
 #include <QStringBuilder>
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <string_view>
 #include <utility>
 
@@ -28,31 +26,6 @@ namespace {
 
 /// Enough for every magic number of the MIME database.
 constexpr qint64 maximumSniffed = 16'384;
-
-/// Up to `limit` bytes from the beginning of a regular file.
-QByteArray beginningOf(const QByteArray &path, qint64 limit)
-{
-    // Without blocking: the path may have become a pipe that nobody writes to.
-    const int file = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
-    if (file < 0)
-        return {};
-    QByteArray data;
-    struct stat status = {};
-    if (::fstat(file, &status) == 0 && S_ISREG(status.st_mode)) {
-        QByteArray buffer(std::min<qint64>(limit, 1'000'000), Qt::Uninitialized);
-        while (data.size() < limit) {
-            const auto room = std::min<qint64>(buffer.size(), limit - data.size());
-            const ssize_t count = ::read(file, buffer.data(), static_cast<std::size_t>(room));
-            if (count < 0 && errno == EINTR)
-                continue;
-            if (count <= 0)
-                break;
-            data.append(buffer.constData(), count);
-        }
-    }
-    ::close(file);
-    return data;
-}
 
 QString itemCount(const QByteArray &path)
 {
@@ -118,7 +91,8 @@ bool isProgram(const QMimeType &type)
 PreviewContent::Text textOf(const QByteArray &path, const QMimeType &type, const QString &name)
 {
     // One byte more tells whether there is more.
-    QByteArray bytes = beginningOf(path, preview_text::maximumBytes + 1);
+    QByteArray bytes
+        = regular_file::beginning(path, preview_text::maximumBytes + 1).value_or(QByteArray());
     const bool isCut = bytes.size() > preview_text::maximumBytes;
     bytes.truncate(preview_text::maximumBytes);
     preview_text::Decoded decoded = preview_text::decode(bytes, isCut);
@@ -129,7 +103,8 @@ void readRegular(PreviewContent &content, QSize wanted, PreviewDocuments &docume
 {
     const QByteArray path = file_url::nativePath(content.url);
     const QString name = file_url::lastPathComponent(content.url);
-    const QByteArray beginning = beginningOf(path, maximumSniffed);
+    const QByteArray beginning
+        = regular_file::beginning(path, maximumSniffed).value_or(QByteArray());
     const QMimeType type = QMimeDatabase().mimeTypeForFileNameAndData(name, beginning);
     content.details.kind = kindOf(type);
     content.canBeOpened = !isProgram(type);

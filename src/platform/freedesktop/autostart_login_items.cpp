@@ -1,5 +1,7 @@
 #include "platform/freedesktop/autostart_login_items.h"
 
+#include "platform/regular_file.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -7,7 +9,6 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -58,25 +59,6 @@ bool isHidden(const QByteArray &entry)
     return false;
 }
 
-/// The beginning of an entry, none if there is none. Whatever else has its name, a pipe for one, is
-/// not waited for.
-std::optional<QByteArray> readEntry(const QString &path)
-{
-    const int descriptor
-        = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (descriptor < 0)
-        return std::nullopt;
-    QFile file;
-    struct stat about = {};
-    const bool isFile = ::fstat(descriptor, &about) == 0 && S_ISREG(about.st_mode);
-    if (!file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
-        ::close(descriptor);
-        return std::nullopt;
-    }
-    constexpr qint64 longestEntry = 64 * 1024;
-    return isFile ? std::optional(file.read(longestEntry)) : std::nullopt;
-}
-
 /// Makes way for an entry of our own. What is written through a link lands in a stranger's file.
 void removeOtherThanFile(const QString &path)
 {
@@ -100,7 +82,8 @@ AutostartLoginItems::AutostartLoginItems(QString program)
 
 bool AutostartLoginItems::isRegistered() const
 {
-    const auto entry = readEntry(entryPath());
+    constexpr qint64 longestEntry = 65'536;
+    const auto entry = regular_file::beginning(QFile::encodeName(entryPath()), longestEntry);
     return entry && !isHidden(*entry);
 }
 

@@ -1,57 +1,17 @@
 #include "platform/freedesktop/remote_file_threads.h"
 
 #include "platform/main_queue.h"
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "platform/regular_file.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <system_error>
 #include <thread>
 #include <utility>
 
 namespace corvane {
 
-namespace {
-
-std::optional<QByteArray> contents(int descriptor, qint64 limit)
-{
-    struct stat status = {};
-    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode) || status.st_size > limit)
-        return std::nullopt;
-    QByteArray data;
-    QByteArray buffer(qsizetype(256) * 1024, Qt::Uninitialized);
-    while (true) {
-        const auto count
-            = ::read(descriptor, buffer.data(), static_cast<std::size_t>(buffer.size()));
-        if (count < 0 && errno == EINTR)
-            continue;
-        // By what comes, not by the size that was told: the file may grow meanwhile.
-        if (count < 0 || data.size() + count > limit)
-            return std::nullopt;
-        if (count == 0)
-            return data;
-        data.append(buffer.constData(), count);
-    }
-}
-
-std::optional<QByteArray> readFile(const QByteArray &path, qint64 limit)
-{
-    // Non-blocking, or opening a pipe would wait for its writer.
-    const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    if (descriptor < 0)
-        return std::nullopt;
-    auto data = contents(descriptor, limit);
-    ::close(descriptor);
-    return data;
-}
-
-} // namespace
-
 RemoteFileThreads::RemoteFileThreads(MainQueue &mainQueue)
-    : RemoteFileThreads(mainQueue, {FileVersion::at, readFile})
+    : RemoteFileThreads(mainQueue, {FileVersion::at, regular_file::contents})
 {
 }
 

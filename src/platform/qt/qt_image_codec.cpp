@@ -1,7 +1,8 @@
 #include "platform/qt/qt_image_codec.h"
 
+#include "platform/file_url.h"
 #include "platform/qt/picture_reader.h"
-#include "platform/qt/regular_file.h"
+#include "platform/regular_file.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -72,7 +73,7 @@ template<typename Result, typename Function>
 std::optional<Result> withFile(const QUrl &url, Function function)
 {
     QFile file;
-    if (!openRegularFile(file, url))
+    if (!regular_file::open(file, file_url::nativePath(url)))
         return std::nullopt;
     return function(file);
 }

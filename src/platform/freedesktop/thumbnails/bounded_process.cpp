@@ -1,6 +1,7 @@
 #include "platform/freedesktop/thumbnails/bounded_process.h"
 
 #include "platform/cancellation.h"
+#include "platform/file_descriptor.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -16,33 +17,11 @@
 #include <cmath>
 #include <csignal>
 #include <cstdint>
-#include <utility>
 #include <vector>
 
 namespace corvane::bounded_process {
 
 namespace {
-
-class Descriptor {
-public:
-    explicit Descriptor(int number)
-        : m_number(number)
-    {
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    ~Descriptor() { close(); }
-
-    int number() const { return m_number; }
-    void close()
-    {
-        if (m_number >= 0)
-            ::close(std::exchange(m_number, -1));
-    }
-
-private:
-    int m_number;
-};
 
 /// The process, or -1. `output` becomes its standard output.
 pid_t start(const QByteArrayList &arguments, int output)
@@ -126,10 +105,10 @@ Result run(const QByteArrayList &arguments, const Limits &limits, Cancellation &
     std::array<int, 2> ends = {-1, -1};
     if (arguments.isEmpty() || ::pipe2(ends.data(), O_CLOEXEC) != 0)
         return {};
-    const Descriptor output(ends[0]);
-    Descriptor input(ends[1]);
-    const Descriptor stop(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
-    if (stop.number() < 0)
+    const FileDescriptor output(ends[0]);
+    FileDescriptor input(ends[1]);
+    const FileDescriptor stop(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK));
+    if (!stop.isOpen())
         return {};
     const Cancellation::Handler handler(cancellation,
                                         [&stop] { ::eventfd_write(stop.number(), 1); });

@@ -8,9 +8,6 @@
 /// not told apart.
 namespace corvane::private_cache_file {
 
-/// The bytes of a regular file of at most `limit` bytes; none for anything else.
-std::optional<QByteArray> read(const QByteArray &path, qint64 limit);
-
 /// Writes `folder`/`name` whole or not at all; readers see the old file or the new one. Makes
 /// `folder` and what is missing of the way to it from `base` on, all closed to others.
 bool write(const QByteArray &base, const QByteArray &folder, const QByteArray &name,

@@ -3,13 +3,10 @@
 #include "platform/cancellation.h"
 #include "platform/file_url.h"
 #include "platform/freedesktop/thumbnails/bounded_process.h"
+#include "platform/regular_file.h"
 
 #include <QFile>
 #include <QMimeDatabase>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <csignal>
@@ -20,19 +17,6 @@ namespace {
 
 using Outcome = ExternalThumbnailers::Result::Outcome;
 
-/// The regular file, open for reading; by its exact path, and without waiting for a pipe's writer.
-bool open(QFile &file, const QByteArray &path)
-{
-    const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-    struct stat status = {};
-    if (descriptor >= 0 && ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)
-        && file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
-        return true;
-    if (descriptor >= 0)
-        ::close(descriptor);
-    return false;
-}
-
 /// What the file is, by its name and where that says nothing by its contents, and then what that is
 /// a kind of, from near to far.
 QByteArrayList mimeTypes(const FileVersion &version)
@@ -41,7 +25,7 @@ QByteArrayList mimeTypes(const FileVersion &version)
     const QString name = file_url::lastPathComponent(version.path);
     QMimeType type = database.mimeTypeForFile(name, QMimeDatabase::MatchExtension);
     QFile file;
-    if (type.isDefault() && open(file, version.path))
+    if (type.isDefault() && regular_file::open(file, version.path))
         type = database.mimeTypeForFileNameAndData(name, &file);
     if (type.isDefault())
         return {};

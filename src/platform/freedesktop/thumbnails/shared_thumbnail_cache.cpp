@@ -4,6 +4,7 @@
 #include "platform/freedesktop/thumbnails/private_cache_file.h"
 #include "platform/freedesktop/thumbnails/thumbnail_uri.h"
 #include "platform/image_codec.h"
+#include "platform/regular_file.h"
 
 #include <QCryptographicHash>
 
@@ -88,7 +89,7 @@ std::optional<QByteArray> SharedThumbnailCache::entry(const QByteArray &folder,
                                                       const FileVersion &file) const
 {
     const QByteArray uri = thumbnailUri(file.path);
-    auto png = private_cache_file::read(folder + '/' + fileName(uri), maximumFileBytes);
+    auto png = regular_file::contents(folder + '/' + fileName(uri), maximumFileBytes);
     return png && shows(*png, file, uri) ? std::move(png) : std::nullopt;
 }
 

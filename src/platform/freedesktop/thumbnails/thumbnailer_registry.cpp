@@ -1,7 +1,8 @@
 #include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
 
+#include "platform/regular_file.h"
+
 #include <dirent.h>
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -14,23 +15,8 @@ namespace corvane {
 namespace {
 
 constexpr qsizetype maximumFiles = 1'000;
-
-/// The regular file's bytes; empty when it is none, or longer than such a file has reason to be.
-QByteArray smallFile(const QByteArray &path)
-{
-    constexpr qsizetype longest = qsizetype(64) * 1024;
-    const int descriptor = ::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0)
-        return {};
-    struct stat status = {};
-    QByteArray data;
-    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_size <= longest) {
-        data.resize(longest);
-        data.truncate(std::max<ssize_t>(::read(descriptor, data.data(), longest), 0));
-    }
-    ::close(descriptor);
-    return data;
-}
+/// Longer than such a file has reason to be.
+constexpr qint64 longestFile = 65'536;
 
 /// The names in a folder that end as they should, in a fixed order.
 QByteArrayList names(const QByteArray &folder)
@@ -137,7 +123,8 @@ void ThumbnailerRegistry::readFolder(const QByteArray &folder, QByteArrayList &s
             continue;
         // A file that says nothing useful covers the others too: so a user turns one off.
         seen << name;
-        const auto entry = ThumbnailerEntry::parse(smallFile(folder + '/' + name));
+        const auto entry = ThumbnailerEntry::parse(
+            regular_file::contents(folder + '/' + name, longestFile).value_or(QByteArray()));
         if (!entry)
             continue;
         for (const QByteArray &type : entry->mimeTypes) {

@@ -1,8 +1,9 @@
 #include "platform/qt/preview/qt_preview_documents.h"
 
+#include "platform/file_url.h"
 #include "platform/image_codec.h"
 #include "platform/qt/picture_reader.h"
-#include "platform/qt/regular_file.h"
+#include "platform/regular_file.h"
 
 #include <QFile>
 #include <QImageReader>
@@ -38,7 +39,7 @@ struct OpenPicture {
 
     bool open(const QUrl &url)
     {
-        return openRegularFile(file, url) && picture.open(file)
+        return regular_file::open(file, file_url::nativePath(url)) && picture.open(file)
             && (picture.isVector() || picture.fits());
     }
     bool isTurned()
@@ -133,7 +134,8 @@ public:
     bool open(const QUrl &url)
     {
         constexpr qint64 headerReach = 1024;
-        if (!openRegularFile(m_file, url) || !m_file.peek(headerReach).contains("%PDF-"))
+        if (!regular_file::open(m_file, file_url::nativePath(url))
+            || !m_file.peek(headerReach).contains("%PDF-"))
             return false;
         m_reader.setDevice(&m_file);
         m_reader.setAutoDetectImageFormat(false);
