@@ -8,10 +8,12 @@
 
 #include <QWindow>
 
+#include <utility>
+
 namespace corvane {
 
-ShellWindows::ShellWindows(const Context &context)
-    : m_context(context)
+ShellWindows::ShellWindows(Context context)
+    : m_context(std::move(context))
 {
 }
 

@@ -26,7 +26,7 @@ public:
     /// From the launch to the guide, in seconds: the status item shall be there first.
     static constexpr double welcomeDelay = 0.6;
 
-    explicit ShellWindows(const Context &context);
+    explicit ShellWindows(Context context);
     ShellWindows(const ShellWindows &) = delete;
     ShellWindows &operator=(const ShellWindows &) = delete;
     ~ShellWindows();

@@ -1,5 +1,6 @@
 #include "app/preferences/general_pane.h"
 
+#include "app/action_button.h"
 #include "app/preferences/number_picker.h"
 #include "app/preferences/preference_section.h"
 #include "app/preferences/setting_row.h"
@@ -11,7 +12,6 @@
 #include "input/shortcut_binder.h"
 #include "platform/login_items.h"
 
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -140,14 +140,11 @@ PreferenceSection *GeneralPane::makeUpdatesSection()
     const QString title = tr("Check for updates automatically");
     // A button that can do nothing says why.
     const QString detail = updater ? QString() : tr("This build does not know where to look.");
-    auto *checkNow = new QPushButton(tr("Check Now"));
-    checkNow->setAutoDefault(false);
-    checkNow->setFont(m_look.font(buttonTextSize));
-    checkNow->setMinimumSize(m_look.length(buttonSize));
+    auto *checkNow = new ActionButton(tr("Check Now"), buttonTextSize, buttonSize, m_look);
     checkNow->setAccessibleDescription(updater ? tr("Looks for a new version at once") : detail);
     checkNow->setEnabled(updater != nullptr);
     if (updater)
-        connect(checkNow, &QPushButton::clicked, this, [updater] { updater->checkForUpdates(); });
+        connect(checkNow, &ActionButton::clicked, this, [updater] { updater->checkForUpdates(); });
     else
         checkNow->setToolTip(detail);
 

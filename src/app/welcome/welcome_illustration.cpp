@@ -63,10 +63,12 @@ void drawShadow(QPainter &painter, const QRectF &rect, double radius, double dep
 {
     painter.save();
     painter.setPen(Qt::NoPen);
-    constexpr int rings = 5;
+    // Each ring a unit wider than the next: narrower steps cannot be seen.
+    const int rings = std::max(2, static_cast<int>(depth));
+    constexpr int darkest = 45;
     for (int i = rings; i > 0; --i) {
         const double reach = depth * i / rings;
-        painter.setBrush(QColor(0, 0, 0, 9));
+        painter.setBrush(QColor(0, 0, 0, darkest / rings));
         painter.drawRoundedRect(
             rect.adjusted(-reach, -reach, reach, reach).translated(0, depth / 3), radius + reach,
             radius + reach);

@@ -1,12 +1,12 @@
 #include "app/welcome/welcome_view.h"
 
+#include "app/action_button.h"
 #include "app/text_label.h"
 #include "app/welcome/illustration_view.h"
 #include "app/welcome/page_indicator.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -65,15 +65,11 @@ QWidget *WelcomeView::makeButtons()
     auto *layout = new QHBoxLayout(buttons);
     const int margin = m_look.length(buttonMargin);
     layout->setContentsMargins(margin, margin, margin, margin);
-    m_back = new QPushButton(tr("Back"));
-    m_forward = new QPushButton;
-    for (QPushButton *button : {m_back, m_forward}) {
-        button->setFont(m_look.font(buttonTextSize));
-        button->setMinimumSize(m_look.length(buttonSize));
+    m_back = new ActionButton(tr("Back"), buttonTextSize, buttonSize, m_look);
+    m_forward = new ActionButton({}, buttonTextSize, buttonSize, m_look);
+    for (QPushButton *button : {m_back, m_forward})
         button->installEventFilter(this);
-    }
     m_back->setAccessibleDescription(tr("Goes to the step before"));
-    m_forward->setAutoDefault(true);
     m_forward->setDefault(true);
     connect(m_back, &QPushButton::clicked, this, &WelcomeView::goBack);
     connect(m_forward, &QPushButton::clicked, this, &WelcomeView::goForward);

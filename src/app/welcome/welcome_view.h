@@ -7,10 +7,9 @@
 
 #include <functional>
 
-class QPushButton;
-
 namespace corvane {
 
+class ActionButton;
 class IllustrationView;
 class MotionPreference;
 class PageIndicator;
@@ -49,8 +48,8 @@ private:
     TextLabel *m_title;
     TextLabel *m_body;
     PageIndicator *m_indicator;
-    QPushButton *m_back = nullptr;
-    QPushButton *m_forward = nullptr;
+    ActionButton *m_back = nullptr;
+    ActionButton *m_forward = nullptr;
 };
 
 } // namespace corvane
