@@ -67,4 +67,8 @@ int main()
     printHostile("the same of both, and attributes", "<title <meta property=og:title content='");
     printHostile("the same of complete tags alone", "<meta name=a content=b>\n");
     printHostile("the same of tags that name a key", "<meta og:title>");
+    printHostile("the same of one tag again and again",
+                 R"(<meta property="og:title" content="x">)");
+    printHostile("the same of it without a content", R"(<meta property="og:title" content="">)");
+    printHostile("the same of keys as contents", "<meta name=a content=og:title>");
 }

@@ -222,6 +222,21 @@ TEST(PageReader, PrefersTheFirstKeyThatAnythingIsHeldUnder)
     EXPECT_EQ(read("<p>nothing").imageURL, std::nullopt);
 }
 
+TEST(PageReader, FindsAPreferredKeyBehindAnyNumberOfOthers)
+{
+    const auto many
+        = [](const char *tag) { return repeated(tag, 100'000) + text("<meta name=b content=b>"); };
+    const QString page = many("<meta name=twitter:title content=b>")
+        + many("<meta name=description content=b>") + many("<meta name=og:title content=''>")
+        + many("<meta name=a name=og:title content=b>")
+        + text("<meta name=og:title content=a><meta name=twitter:description content=a>");
+    EXPECT_EQ(parse(page, pageUrl).title, text("a"));
+    EXPECT_EQ(parse(page, pageUrl).summary, text("a"));
+    const QString held = text("<meta name=og:title content=a>") + page + page;
+    EXPECT_EQ(parse(held, pageUrl).title, text("a"));
+    EXPECT_EQ(parse(held, pageUrl).summary, text("a"));
+}
+
 TEST(PageReader, PrefersThePropertyToTheName)
 {
     EXPECT_EQ(read("<meta name=og:title property=og:description content=a>").summary, text("a"));
@@ -266,6 +281,16 @@ TEST(PageReader, ReadsAttributesAsTheyAreWritten)
         Case{"name=descriptions content=a", nullptr},
         Case{"name=' description' content=a", nullptr},
         Case{"name=d\u212aescription content=a", nullptr},
+        // What names the key may stand before, behind and inside of the content.
+        Case{"content=a name=description", "a"},
+        Case{"content='a' b name='description'", "a"},
+        Case{"content=name=description", "name=description"},
+        Case{"content=\"name=description\"", "name=description"},
+        Case{"content='name=description '", "name=description"},
+        Case{"content=\"x name='description' y\"", "x name='description' y"},
+        Case{"content='' name=description", nullptr},
+        Case{"content=\"\" content=a name=description", nullptr},
+        Case{"name=\"description\"content=\"a\"", "a"},
         // Blanks are those of Unicode.
         Case{"name\u00a0=\u2003description\u3000content=a\u2028b", "a"},
         Case{"name=description content=\u200ba", "\u200ba"},
