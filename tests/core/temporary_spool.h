@@ -56,7 +56,7 @@ struct TemporarySpool {
     ScratchSpool spool{temporary.path(), 4711};
 
     /// From now on nothing can be written to it.
-    void spoil() { temporary.write("Corvane-4711", "in the way"); }
+    void spoil() const { temporary.write("Corvane-4711", "in the way"); }
 };
 
 } // namespace corvane::test

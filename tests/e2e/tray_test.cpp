@@ -177,6 +177,35 @@ TEST_F(BusTray, theMenuAndTheToolTipFollowTheShelf)
     EXPECT_TRUE(eventually([&] { return item.menu() == QStringList{u"Show Shelf"_s} + end; }));
 }
 
+TEST_F(BusTray, aChangedShortcutShowsTheNextTimeTheMenuOpens)
+{
+    NotifierPanel panel(m_desktop);
+    ASSERT_TRUE(panel.waitUntilReady());
+    start();
+    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
+    const NotifierFacts item(m_desktop, corvane().program().pid());
+    EXPECT_EQ(item.keys(u"Show Shelf"_s), u"Super+Shift+D"_s);
+    ASSERT_TRUE(item.choose(u"Preferences…"_s));
+    const auto isOpen = [this] {
+        for (const WindowFacts &window : server().windows()) {
+            if (window.isViewable && window.id == server().activeWindow()
+                && window.pid == corvane().program().pid())
+                return true;
+        }
+        return false;
+    };
+    ASSERT_TRUE(eventually(isOpen));
+    // By keyboard past the tabs, the numbers and three switches to the field of the shortcut.
+    constexpr int stops = 6;
+    for (int i = 0; i < stops; ++i)
+        hands().key(keys::tab);
+    hands().key(keys::space);
+    hands().key('j', {keys::super, keys::alt});
+    EXPECT_TRUE(eventually([&] { return item.keys(u"Show Shelf"_s) == u"Super+Alt+J"_s; }))
+        << item.keys(u"Show Shelf"_s).toStdString();
+    EXPECT_EQ(item.keys(u"Quit Corvane"_s), u"Control+Q"_s);
+}
+
 TEST_F(BusTray, quittingFromTheMenuEndsTheProgram)
 {
     NotifierPanel panel(m_desktop);

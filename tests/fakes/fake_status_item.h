@@ -39,7 +39,7 @@ public:
         return found != rows.cend() ? &*found : nullptr;
     }
     /// Chooses that row in the menu that was opened last; false if it is not there.
-    bool choose(QStringView title)
+    bool choose(QStringView title) const
     {
         const MenuRow *chosen = row(title);
         if (!chosen)

@@ -43,9 +43,9 @@ public:
             {
                 const std::lock_guard lock(m_mutex);
                 // Sums of periods miss their target by a rounding error.
-                if (m_due.empty() || m_due.begin()->first.time > target + 1e-9)
+                if (m_due.empty() || m_due.begin()->first.first > target + 1e-9)
                     break;
-                m_now = std::max(m_now, m_due.begin()->first.time);
+                m_now = std::max(m_now, m_due.begin()->first.first);
                 work = std::move(m_due.begin()->second);
                 m_due.erase(m_due.begin());
             }
@@ -58,11 +58,8 @@ public:
     std::size_t pendingCount() const { return m_due.size(); }
 
 private:
-    struct Key {
-        double time;
-        std::uint64_t order;
-        auto operator<=>(const Key &) const = default;
-    };
+    /// When it is due, and how much was asked for before it.
+    using Key = std::pair<double, std::uint64_t>;
     struct RepeatingTimer : Timer {
         std::shared_ptr<bool> alive = std::make_shared<bool>(true);
         ~RepeatingTimer() override { *alive = false; }

@@ -37,7 +37,7 @@ QString quoted(const QString &argument)
     QString result;
     for (const QChar character : argument) {
         if (character == QLatin1Char('\\'))
-            result += QLatin1String("\\\\\\\\");
+            result += QLatin1String(R"(\\\\)");
         else if (character == QLatin1Char('"') || character == QLatin1Char('`')
                  || character == QLatin1Char('$'))
             result += QLatin1String("\\\\") % character;

@@ -97,7 +97,7 @@ void DBusSingleInstance::Open(const QStringList &, const QVariantMap &platformDa
 }
 
 void DBusSingleInstance::ActivateAction(const QString &name, const QVariantList &,
-                                        const QVariantMap &)
+                                        const QVariantMap &) const
 {
     if (onAction)
         onAction(name);

@@ -31,7 +31,7 @@ public:
     Q_INVOKABLE Q_SCRIPTABLE void Activate(const QVariantMap &platformData);
     Q_INVOKABLE Q_SCRIPTABLE void Open(const QStringList &uris, const QVariantMap &platformData);
     Q_INVOKABLE Q_SCRIPTABLE void ActivateAction(const QString &name, const QVariantList &parameter,
-                                                 const QVariantMap &platformData);
+                                                 const QVariantMap &platformData) const;
 
 private:
     enum class NameRequest {

@@ -185,7 +185,7 @@ QByteArray NotifierFacts::menuLayout() const
     const QString path = u"/MenuBar"_s;
     call(path, u"com.canonical.dbusmenu.AboutToShow"_s, {u"int32:0"_s});
     return call(path, u"com.canonical.dbusmenu.GetLayout"_s,
-                {u"int32:0"_s, u"int32:-1"_s, u"array:string:label,type"_s});
+                {u"int32:0"_s, u"int32:-1"_s, u"array:string:label,type,shortcut"_s});
 }
 
 QStringList NotifierFacts::menu() const
@@ -200,6 +200,29 @@ QStringList NotifierFacts::menu() const
         labels << (match.captured(1) == u"type" ? u"-"_s : match.captured(2));
     }
     return labels;
+}
+
+QString NotifierFacts::keys(const QString &label) const
+{
+    // Up to the next row; its keys come in an array within an array.
+    static const QRegularExpression string(u"string \"([^\"]*)\""_s);
+    const QString layout = QString::fromUtf8(menuLayout());
+    for (const QString &row : layout.split(u"int32 "_s)) {
+        QStringList strings;
+        for (auto matches = string.globalMatch(row); matches.hasNext();)
+            strings << matches.next().captured(1);
+        const qsizetype at = strings.indexOf(u"shortcut"_s);
+        if (strings.contains(label) && at >= 0) {
+            const QStringList properties{u"label"_s, label, u"visible"_s};
+            QStringList keys;
+            for (const QString &one : strings.mid(at + 1)) {
+                if (!properties.contains(one))
+                    keys << one;
+            }
+            return keys.join(u'+');
+        }
+    }
+    return {};
 }
 
 bool NotifierFacts::choose(const QString &label) const

@@ -59,6 +59,8 @@ public:
     /// The labels of the menu from top to bottom; a separator is a dash. Announces first that the
     /// menu opens.
     QStringList menu() const;
+    /// The keys that are shown beside the row of that label, "Super+Shift+D"; empty for none.
+    QString keys(const QString &label) const;
     /// Chooses the row of that label; false if there is none.
     bool choose(const QString &label) const;
 
