@@ -82,14 +82,15 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
           [this] { return settings.viewAllShortcut(); })
     , spool(QFile::encodeName(QDir::tempPath()), QCoreApplication::applicationPid())
     , imageConverter(imageCodec, spool)
-    , ingest(spool, imageConverter, imageCodec)
+    , remoteFiles(mainQueue)
+    , remoteDescriptions(remoteFiles)
+    , ingest(spool, imageConverter, imageCodec, mountTable, remoteDescriptions)
     , quickActions(generalPasteboard, feedback)
     , thumbnailCache(imageCodec, thumbnailPlaces(spool))
     , thumbnailerRegistry(ThumbnailerRegistry::environmentDataFolders(),
                           ThumbnailerRegistry::environmentProgramFolders())
     , sandbox(ThumbnailerRegistry::environmentProgramFolders())
     , thumbnailers(thumbnailerRegistry, sandbox)
-    , remoteFiles(mainQueue)
     , thumbnailChain({mountTable, thumbnailCache, imageCodec, thumbnailers, thumbnailWork})
     , remoteThumbnails({remoteFiles, thumbnailCache, imageCodec, mainQueue, thumbnailWork})
     , thumbnails(thumbnailChain, remoteThumbnails, fileIcons, imageCodec, screens, mainQueue,
@@ -134,6 +135,9 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                  &viewAll},
                 {pointerBarriers, fullScreenWindows, dragDesktop, dragDesktop, pointer}})
 {
+    remoteDescriptions.onFound = [this](const QUuid &item, const QString &description) {
+        store.describe(item, description);
+    };
     thumbnails.setItemsInView([this] { return itemsInView(store); });
 }
 

@@ -8,6 +8,7 @@
 #include "core/image_converter.h"
 #include "core/pasteboard_ingest.h"
 #include "core/quick_actions.h"
+#include "core/remote_descriptions.h"
 #include "core/scratch_spool.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
@@ -112,13 +113,14 @@ struct CompositionRoot {
     Feedback feedback;
     ScratchSpool spool;
     ImageConverter imageConverter;
+    RemoteFileThreads remoteFiles;
+    RemoteDescriptions remoteDescriptions;
     PasteboardIngest ingest;
     QuickActions quickActions;
     SharedThumbnailCache thumbnailCache;
     ThumbnailerRegistry thumbnailerRegistry;
     Sandbox sandbox;
     SandboxedThumbnailers thumbnailers;
-    RemoteFileThreads remoteFiles;
     // Of their own: a thumbnail program may take its time. Like the other one after what it uses.
     QtWorkQueue thumbnailWork;
     ThumbnailChain thumbnailChain;

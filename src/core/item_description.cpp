@@ -5,20 +5,7 @@
 
 #include <sys/stat.h>
 
-#include <optional>
-
 namespace corvane::item_description {
-
-namespace {
-
-std::optional<struct stat> statusOf(const QByteArray &path)
-{
-    struct stat status = {};
-    const bool isThere = !path.isEmpty() && ::stat(path.constData(), &status) == 0;
-    return isThere ? std::optional(status) : std::nullopt;
-}
-
-} // namespace
 
 FileName::FileName(const QUrl &url)
     : nativePath(file_url::nativePath(url))
@@ -43,16 +30,15 @@ QString separator()
     return QStringLiteral(" · ");
 }
 
-QString ofFile(const FileName &name)
+QString ofFile(const FileName &name, const std::optional<FileVersion> &version)
 {
-    const auto status = statusOf(name.nativePath);
-    if (status && S_ISDIR(status->st_mode))
+    if (version && version->kind == FileVersion::Kind::Folder)
         return QStringLiteral("Folder");
     QString kind = name.extension.toUpper();
     // A pipe or a device has no size to speak of.
-    if (!status || !S_ISREG(status->st_mode))
+    if (!version || version->kind != FileVersion::Kind::Regular)
         return kind;
-    const QString size = formatByteCount(status->st_size);
+    const QString size = formatByteCount(version->size);
     return kind.isEmpty() ? size : kind + separator() + size;
 }
 

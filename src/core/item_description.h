@@ -1,8 +1,12 @@
 #pragma once
 
+#include "platform/file_version.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QUrl>
+
+#include <optional>
 
 /// What is said about dropped things below their names.
 namespace corvane::item_description {
@@ -23,8 +27,9 @@ struct FileName {
 
 /// " · "
 QString separator();
-/// "Folder", or kind and size of a file: "TXT · 2 KB". Asks the disk once.
-QString ofFile(const FileName &name);
+/// "Folder", or kind and size of a file: "TXT · 2 KB". Of what is not there, or cannot be asked
+/// now, the kind that its name gives it.
+QString ofFile(const FileName &name, const std::optional<FileVersion> &version);
 /// The text's first line that is not empty, trimmed; cut where nobody reads on.
 QString titleOfText(const QString &text);
 /// Neither a folder, nor a link, nor anything else.

@@ -4,6 +4,7 @@
 #include "core/characters.h"
 #include "core/image_converter.h"
 #include "core/item_description.h"
+#include "core/remote_descriptions.h"
 #include "core/scratch_spool.h"
 #include "platform/file_url.h"
 #include "platform/image_codec.h"
@@ -67,10 +68,13 @@ std::optional<DropItem> textItem(Pasteboard &pasteboard)
 } // namespace
 
 PasteboardIngest::PasteboardIngest(ScratchSpool &spool, const ImageConverter &converter,
-                                   const ImageCodec &codec)
+                                   const ImageCodec &codec, const FileLocality &locality,
+                                   RemoteDescriptions &remoteDescriptions)
     : m_spool(spool)
     , m_converter(converter)
     , m_codec(codec)
+    , m_locality(locality)
+    , m_remoteDescriptions(remoteDescriptions)
 {
 }
 
@@ -97,10 +101,15 @@ QList<DropItem> PasteboardIngest::readAll(Pasteboard &pasteboard) const
 {
     const QList<QUrl> files = pasteboard.fileUrls();
     if (!files.isEmpty()) {
+        QList<QByteArray> paths;
+        paths.reserve(files.size());
+        for (const QUrl &url : files)
+            paths << file_url::nativePath(url);
+        const auto inspections = m_locality.inspect(paths);
         QList<DropItem> items;
         items.reserve(files.size());
-        for (const QUrl &url : files)
-            items << fileItem(url);
+        for (qsizetype i = 0; i < files.size(); ++i)
+            items << fileItem(files[i], inspections[static_cast<std::size_t>(i)]);
         return items;
     }
     if (const auto saved = promisedFileItem(pasteboard))
@@ -121,12 +130,22 @@ DropItem PasteboardIngest::spooledItem(const QUrl &url) const
 
 DropItem PasteboardIngest::fileItem(const QUrl &url) const
 {
+    return fileItem(url, m_locality.inspect({file_url::nativePath(url)}).front());
+}
+
+DropItem PasteboardIngest::fileItem(const QUrl &url,
+                                    const FileLocality::Inspection &inspection) const
+{
     const item_description::FileName name(url);
-    if (UTType::forFilenameExtension(name.extension).isTiff()) {
+    if (!inspection.isRemote && UTType::forFilenameExtension(name.extension).isTiff()) {
         if (const auto png = m_converter.transcode(url, UTType::png()))
             return spooledItem(*png);
     }
-    return DropItem(DropItem::File{url}, name.whole, item_description::ofFile(name), false);
+    DropItem item(DropItem::File{url}, name.whole,
+                  item_description::ofFile(name, inspection.version), false);
+    if (inspection.isRemote)
+        m_remoteDescriptions.find(item.id(), name.nativePath);
+    return item;
 }
 
 /// A browser that can save the original file gives more than its pixels.
@@ -179,7 +198,8 @@ std::optional<DropItem> PasteboardIngest::imageItem(Pasteboard &pasteboard) cons
 
 QString PasteboardIngest::describe(const QUrl &url)
 {
-    return item_description::ofFile(item_description::FileName(url));
+    const item_description::FileName name(url);
+    return item_description::ofFile(name, FileVersion::at(name.nativePath));
 }
 
 QString PasteboardIngest::describe(const QByteArray &imageData, const UTType &type) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "platform/file_locality.h"
 
 #include <QByteArray>
 #include <QList>
@@ -15,12 +16,17 @@ namespace corvane {
 class ImageCodec;
 class ImageConverter;
 class Pasteboard;
+class RemoteDescriptions;
 class ScratchSpool;
 
 /// Turns what was dropped into items. The references must outlive it.
+///
+/// A drop does not wait for a server: of a file behind a network only the name is looked at, it is
+/// kept as it is even if it is a TIFF picture, and the rest is asked for later.
 class PasteboardIngest {
 public:
-    PasteboardIngest(ScratchSpool &spool, const ImageConverter &converter, const ImageCodec &codec);
+    PasteboardIngest(ScratchSpool &spool, const ImageConverter &converter, const ImageCodec &codec,
+                     const FileLocality &locality, RemoteDescriptions &remoteDescriptions);
 
     /// The MIME names that the shelf takes drops of.
     static QStringList acceptedTypes();
@@ -33,10 +39,12 @@ public:
     QList<DropItem> readAll(Pasteboard &pasteboard) const;
 
     DropItem fileItem(const QUrl &url) const;
+    /// Of a file on this machine's disks.
     static QString describe(const QUrl &url);
     QString describe(const QByteArray &imageData, const UTType &type) const;
 
 private:
+    DropItem fileItem(const QUrl &url, const FileLocality::Inspection &inspection) const;
     DropItem spooledItem(const QUrl &url) const;
     std::optional<DropItem> promisedFileItem(Pasteboard &pasteboard) const;
     std::optional<DropItem> imageItem(Pasteboard &pasteboard) const;
@@ -44,6 +52,8 @@ private:
     ScratchSpool &m_spool;
     const ImageConverter &m_converter;
     const ImageCodec &m_codec;
+    const FileLocality &m_locality;
+    RemoteDescriptions &m_remoteDescriptions;
 };
 
 } // namespace corvane

@@ -91,6 +91,8 @@ public:
     void discard(int index, bool deletingSpoolFile);
     /// Focuses the item nearest to `index`, scrolls it into view and publishes; nothing when empty.
     void focus(int index);
+    /// Replaces what is said below an item's name, and publishes; nothing if it is gone.
+    void describe(const QUuid &id, const QString &subtitle);
     void toggleSelection(const DropItem &item);
     void toggleSelectAll();
     /// Opens or closes the shelf for the user.

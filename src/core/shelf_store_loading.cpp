@@ -48,6 +48,11 @@ void ShelfStore::startLoading(const DropItem &item)
     }
 }
 
+void ShelfStore::describe(const QUuid &id, const QString &subtitle)
+{
+    change(id, [&](DropItem &item) { item.setSubtitle(subtitle); });
+}
+
 void ShelfStore::mergeThumbnail(const QUuid &id, const std::optional<Image> &thumbnail)
 {
     if (thumbnail)

@@ -1,6 +1,12 @@
 #pragma once
 
+#include "platform/file_version.h"
+
 #include <QByteArray>
+#include <QList>
+
+#include <optional>
+#include <vector>
 
 namespace corvane {
 
@@ -12,6 +18,15 @@ public:
     /// Whether reaching `path` (absolute, as bytes) leads through a file system that may never
     /// answer. Nothing on such a file system is touched to find out. Any thread.
     virtual bool isRemote(const QByteArray &path) const = 0;
+
+    struct Inspection {
+        bool isRemote = false;
+        /// What is there, links followed; none of what is remote.
+        std::optional<FileVersion> version;
+    };
+    /// For each path what `isRemote` says, and what a local one leads to. Costs little more than to
+    /// look at the files where many lie in one folder. Any thread.
+    virtual std::vector<Inspection> inspect(const QList<QByteArray> &paths) const = 0;
 };
 
 } // namespace corvane

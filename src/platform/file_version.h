@@ -4,6 +4,8 @@
 
 #include <optional>
 
+struct stat;
+
 namespace corvane {
 
 /// A file as it was at one moment: a picture of it holds as long as none of this differs.
@@ -19,6 +21,8 @@ struct FileVersion {
 
     /// What is at `path`, links followed; none when nothing is. May wait for the disk.
     static std::optional<FileVersion> at(const QByteArray &path);
+    /// What the system said of it.
+    static FileVersion of(const QByteArray &path, const struct stat &status);
 };
 
 } // namespace corvane

@@ -1,10 +1,18 @@
 #include "core/image_converter.h"
 #include "core/pasteboard_ingest.h"
+#include "core/remote_descriptions.h"
 #include "core/temporary_spool.h"
+#include "fakes/fake_file_locality.h"
 #include "fakes/fake_image_codec.h"
 #include "fakes/fake_pasteboard.h"
+#include "fakes/fake_remote_files.h"
+#include "platform/file_url.h"
 
 #include <gtest/gtest.h>
+
+#include <optional>
+#include <utility>
+#include <vector>
 
 namespace corvane {
 namespace {
@@ -37,7 +45,10 @@ struct PasteboardIngestTest : testing::Test, test::TemporarySpool {
     const QString tiff = QStringLiteral("image/tiff");
     test::FakeImageCodec codec;
     ImageConverter converter{codec, spool};
-    PasteboardIngest ingest{spool, converter, codec};
+    test::FakeFileLocality locality;
+    test::FakeRemoteFiles remoteFiles;
+    RemoteDescriptions remoteDescriptions{remoteFiles};
+    PasteboardIngest ingest{spool, converter, codec, locality, remoteDescriptions};
     test::FakePasteboard pasteboard;
 };
 
@@ -160,6 +171,68 @@ TEST_F(Files, WithANameThatIsNoUtf8AreFound)
     EXPECT_EQ(ingest.fileItem(file_url::fromNativePath(path)).subtitle(),
               QStringLiteral("TXT · 2 bytes"));
     ::unlink(path.constData());
+}
+
+using RemoteFileItems = PasteboardIngestTest;
+
+TEST_F(RemoteFileItems, AreToldByTheirNamesAlone)
+{
+    temporary.write("net/Photos/a.txt", "12");
+    locality.remoteFolder = temporary.path("net");
+    pasteboard.offerUrls({temporary.write("here.txt", "12"), temporary.url("net/Photos/a.txt"),
+                          temporary.url("net/Photos")});
+    const QList<DropItem> items = ingest.readAll(pasteboard);
+    ASSERT_EQ(items.size(), 3);
+    EXPECT_EQ(items[0].subtitle(), QStringLiteral("TXT · 2 bytes"));
+    EXPECT_EQ(items[1].title(), QStringLiteral("a.txt"));
+    EXPECT_EQ(items[1].subtitle(), QStringLiteral("TXT"));
+    EXPECT_EQ(items[2].subtitle(), QString());
+    ASSERT_EQ(remoteFiles.inspections.size(), 2U) << "and asked for later";
+    EXPECT_EQ(remoteFiles.inspections[1].path, temporary.path("net/Photos"));
+}
+
+TEST_F(RemoteFileItems, AreDescribedOnceTheServerAnswers)
+{
+    std::vector<std::pair<QUuid, QString>> found;
+    remoteDescriptions.onFound = [&](const QUuid &item, const QString &description) {
+        found.emplace_back(item, description);
+    };
+    locality.remoteFolder = "/net";
+    const DropItem file = ingest.fileItem(file_url::fromNativePath("/net/a.txt"));
+    const DropItem folder = ingest.fileItem(file_url::fromNativePath("/net/Photos.d/"));
+    ingest.fileItem(file_url::fromNativePath("/net/lost.txt"));
+    ASSERT_EQ(remoteFiles.inspections.size(), 3U);
+    remoteFiles.inspections[0].answer(
+        FileVersion{"/net/a.txt", FileVersion::Kind::Regular, 0, 2048});
+    remoteFiles.inspections[1].answer(
+        FileVersion{"/net/Photos.d/", FileVersion::Kind::Folder, 0, 0});
+    remoteFiles.inspections[2].answer(std::nullopt);
+    ASSERT_EQ(found.size(), 2U);
+    EXPECT_EQ(found[0], std::pair(file.id(), QStringLiteral("TXT · 2 KB")));
+    EXPECT_EQ(found[1], std::pair(folder.id(), QStringLiteral("Folder")));
+}
+
+TEST_F(RemoteFileItems, OfTiffAreNotReadForTheDrop)
+{
+    codec.teach("tiff bytes", {3, 2});
+    const QUrl url = temporary.write("net/scan.tiff", "tiff bytes");
+    locality.remoteFolder = temporary.path("net");
+    const DropItem item = ingest.fileItem(url);
+    EXPECT_EQ(fileOf(item), url);
+    EXPECT_FALSE(item.isSpooled());
+    EXPECT_EQ(item.subtitle(), QStringLiteral("TIFF"));
+}
+
+TEST(RemoteDescriptionsTest, FindNothingOnceTheyAreGone)
+{
+    test::FakeRemoteFiles files;
+    std::optional<RemoteDescriptions> descriptions(files);
+    int found = 0;
+    descriptions->onFound = [&](const QUuid &, const QString &) { ++found; };
+    descriptions->find(QUuid::createUuid(), "/net/a");
+    descriptions.reset();
+    files.inspections[0].answer(FileVersion{"/net/a", FileVersion::Kind::Folder, 0, 0});
+    EXPECT_EQ(found, 0);
 }
 
 using Pictures = PasteboardIngestTest;

@@ -242,5 +242,18 @@ TEST_F(LinkPreviews, StopWhenAnObserverRemovesTheItemInBetween)
     EXPECT_TRUE(store.items().isEmpty());
 }
 
+TEST_F(ShelfStoreTest, ADescriptionThatComesLaterIsPublishedWhileItsItemIsThere)
+{
+    store.setItems({DropItem(DropItem::File{QUrl(QStringLiteral("file:///net/a"))},
+                             QStringLiteral("a"), QString(), false)});
+    log.clear();
+    store.describe(store.items()[0].id(), QStringLiteral("Folder"));
+    EXPECT_EQ(store.items()[0].subtitle(), QStringLiteral("Folder"));
+    EXPECT_EQ(store.items()[0].glyph(), PhosphorIcon::Folder);
+    EXPECT_EQ(log, QStringList{QStringLiteral("items a")});
+    store.describe(QUuid::createUuid(), QStringLiteral("x"));
+    EXPECT_EQ(log.size(), 1);
+}
+
 } // namespace
 } // namespace corvane

@@ -14,6 +14,16 @@ public:
         return !remoteFolder.isEmpty() && path.startsWith(remoteFolder);
     }
 
+    std::vector<Inspection> inspect(const QList<QByteArray> &paths) const override
+    {
+        std::vector<Inspection> inspections;
+        for (const QByteArray &path : paths) {
+            inspections.push_back(isRemote(path) ? Inspection{true, std::nullopt}
+                                                 : Inspection{false, FileVersion::at(path)});
+        }
+        return inspections;
+    }
+
     QByteArray remoteFolder;
 };
 

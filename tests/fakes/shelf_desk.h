@@ -3,12 +3,15 @@
 #include "core/drag_writer.h"
 #include "core/image_converter.h"
 #include "core/pasteboard_ingest.h"
+#include "core/remote_descriptions.h"
 #include "core/scratch_spool.h"
+#include "fakes/fake_file_locality.h"
 #include "fakes/fake_image_codec.h"
 #include "fakes/fake_keyboard.h"
 #include "fakes/fake_motion_preference.h"
 #include "fakes/fake_panel_window.h"
 #include "fakes/fake_pasteboard.h"
+#include "fakes/fake_remote_files.h"
 #include "fakes/fake_text_measurer.h"
 #include "fakes/test_clock.h"
 #include "shelf/layer_animator.h"
@@ -73,7 +76,10 @@ struct ShelfDesk {
     FakeImageCodec codec;
     ScratchSpool spool{temporary.path().toUtf8(), 4711};
     ImageConverter converter{codec, spool};
-    PasteboardIngest ingest{spool, converter, codec};
+    FakeFileLocality locality;
+    FakeRemoteFiles remoteFiles;
+    RemoteDescriptions remoteDescriptions{remoteFiles};
+    PasteboardIngest ingest{spool, converter, codec, locality, remoteDescriptions};
     DragWriter dragWriter{Qt::gray, [](QPainter &, PhosphorIcon, const QRectF &) {}};
     LayerAnimator animator;
     Theme theme;

@@ -99,6 +99,34 @@ TEST_F(MountTableTest, knowsTheKindsOfFileSystems)
         EXPECT_FALSE(MountTable::isRemoteType(type)) << type;
 }
 
+TEST_F(MountTableTest, inspectsWhatIsLocalAndOnlyThat)
+{
+    QFile file(QFile::decodeName(path("local/a")));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("123");
+    file.close();
+    link("a", "local/link");
+    link("../net/deep", "local/away");
+    link("local", "home");
+    const auto found = table->inspect(
+        {path("local/a"), path("local/link"), path("local/away"), path("local/away/a"),
+         path("local/gone"), path("gone/a"), path("net"), path("net/deep/"), path("local/"),
+         path("home/a"), path("home/../local/a"), path("local/.."), "/", "", "relative",
+         path("local/a") + QByteArray(1, '\0') + "b"});
+    QByteArray summary;
+    for (const auto &inspection : found) {
+        const auto &version = inspection.version;
+        summary += inspection.isRemote                   ? "remote"
+            : !version                                   ? "none"
+            : version->kind == FileVersion::Kind::Folder ? "folder"
+                                                         : QByteArray::number(version->size);
+        summary += ' ';
+    }
+    EXPECT_EQ(summary,
+              "3 3 remote remote none none remote remote folder 3 3 folder folder none none none ");
+    EXPECT_EQ(found[9].version->path, path("home/a")) << "as it was asked for";
+}
+
 TEST_F(MountTableTest, withoutATableNothingIsRemote)
 {
     EXPECT_FALSE(MountTable("/nonexistent").isRemote(path("net/a")));

@@ -11,9 +11,10 @@
 #include <array>
 #include <cerrno>
 #include <climits>
-#include <deque>
+#include <map>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace corvane {
 
@@ -54,11 +55,84 @@ std::optional<QByteArray> linkTarget(const QByteArray &path)
     return target;
 }
 
-void prepend(std::deque<QByteArray> &components, const QByteArray &path)
-{
-    const QByteArrayList more = path.split('/');
-    components.insert(components.begin(), more.begin(), more.end());
-}
+/// Follows paths, each from where the last one ended, at first from the root.
+class Walk {
+public:
+    enum class End { Remote, Nowhere, Somewhere };
+
+    explicit Walk(const std::map<QByteArray, bool> &mounts)
+        : m_mounts(&mounts)
+    {
+    }
+
+    End follow(const QByteArray &path)
+    {
+        prepend(path);
+        while (!m_ahead.empty()) {
+            const QByteArray component = m_ahead.back();
+            m_ahead.pop_back();
+            if (component == "..")
+                leave();
+            else if (const End end = enter(component); end != End::Somewhere)
+                return end;
+        }
+        return End::Somewhere;
+    }
+
+    /// What is where it ended.
+    std::optional<FileVersion> versionFor(const QByteArray &path) const
+    {
+        return m_isKnown ? FileVersion::of(path, m_status) : FileVersion::at(path);
+    }
+
+private:
+    void prepend(const QByteArray &path)
+    {
+        const QByteArrayList components = path.split('/');
+        for (auto component = components.rbegin(); component != components.rend(); ++component) {
+            if (!component->isEmpty() && *component != ".")
+                m_ahead.push_back(*component);
+        }
+    }
+
+    void leave()
+    {
+        m_reached.truncate(std::max<qsizetype>(m_reached.lastIndexOf('/'), 0));
+        m_isKnown = false;
+    }
+
+    End enter(const QByteArray &component)
+    {
+        const QByteArray next = m_reached + '/' + component;
+        const auto found = m_mounts->find(next);
+        if (found != m_mounts->end() && found->second)
+            return End::Remote;
+        if (::lstat(next.constData(), &m_status) != 0)
+            return End::Nowhere;
+        m_isKnown = !S_ISLNK(m_status.st_mode);
+        if (m_isKnown) {
+            m_reached = next;
+            return End::Somewhere;
+        }
+        constexpr int mostLinks = 40;
+        const auto target = linkTarget(next);
+        if (!target || ++m_links > mostLinks)
+            return End::Nowhere;
+        if (target->startsWith('/'))
+            m_reached.clear();
+        prepend(*target);
+        return End::Somewhere;
+    }
+
+    const std::map<QByteArray, bool> *m_mounts;
+    QByteArray m_reached;
+    /// The next one last.
+    std::vector<QByteArray> m_ahead;
+    int m_links = 0;
+    struct stat m_status = {};
+    /// Whether that is the status of where it is.
+    bool m_isKnown = false;
+};
 
 } // namespace
 
@@ -130,38 +204,39 @@ std::shared_ptr<const MountTable::Mounts> MountTable::mounts() const
 bool MountTable::isRemote(const QByteArray &path) const
 {
     const auto mounted = mounts();
-    std::deque<QByteArray> ahead;
-    prepend(ahead, path);
-    QByteArray reached;
-    constexpr int mostLinks = 40;
-    for (int links = 0; !ahead.empty();) {
-        const QByteArray component = ahead.front();
-        ahead.pop_front();
-        if (component.isEmpty() || component == ".")
-            continue;
-        if (component == "..") {
-            reached.truncate(std::max<qsizetype>(reached.lastIndexOf('/'), 0));
-            continue;
-        }
-        const QByteArray next = reached + '/' + component;
-        const auto found = mounted->find(next);
-        if (found != mounted->end() && found->second)
-            return true;
-        struct stat status = {};
-        if (::lstat(next.constData(), &status) != 0)
-            return false;
-        if (!S_ISLNK(status.st_mode)) {
-            reached = next;
+    Walk walk(*mounted);
+    return walk.follow(path) == Walk::End::Remote;
+}
+
+std::vector<FileLocality::Inspection> MountTable::inspect(const QList<QByteArray> &paths) const
+{
+    const auto mounted = mounts();
+    std::vector<Inspection> inspections;
+    inspections.reserve(static_cast<std::size_t>(paths.size()));
+    // Where the last folder leads: the next file is likely to lie in it, too.
+    QByteArray folder;
+    Walk toFolder(*mounted);
+    Walk::End folderEnd = Walk::End::Somewhere;
+    for (const QByteArray &path : paths) {
+        if (!path.startsWith('/') || path.contains('\0')) {
+            inspections.emplace_back();
             continue;
         }
-        const auto target = linkTarget(next);
-        if (!target || ++links > mostLinks)
-            return false;
-        if (target->startsWith('/'))
-            reached.clear();
-        prepend(ahead, *target);
+        const qsizetype slash = path.lastIndexOf('/', -2);
+        if (QByteArray next = path.first(slash + 1); next != folder) {
+            folder = std::move(next);
+            toFolder = Walk(*mounted);
+            folderEnd = toFolder.follow(folder);
+        }
+        Walk walk = toFolder;
+        const Walk::End end = folderEnd == Walk::End::Somewhere
+            ? walk.follow(
+                QByteArray::fromRawData(path.constData() + slash + 1, path.size() - slash - 1))
+            : folderEnd;
+        inspections.push_back({end == Walk::End::Remote,
+                               end == Walk::End::Somewhere ? walk.versionFor(path) : std::nullopt});
     }
-    return false;
+    return inspections;
 }
 
 } // namespace corvane

@@ -25,6 +25,7 @@ public:
     ~MountTable() override;
 
     bool isRemote(const QByteArray &path) const override;
+    std::vector<Inspection> inspect(const QList<QByteArray> &paths) const override;
 
     /// Whether a file system of that type is another machine's or program's, as the table names it.
     /// One that is mounted only when it is touched counts as remote.
