@@ -9,6 +9,7 @@ using namespace preview_geometry;
 
 constexpr QSize available{1500, 1000};
 constexpr int lineHeight = 20;
+constexpr int columnWidth = 8;
 
 PreviewContent picture(QSize pixels, bool isVector = false)
 {
@@ -20,16 +21,16 @@ PreviewContent picture(QSize pixels, bool isVector = false)
     return content;
 }
 
-PreviewContent text(const QString &string)
+PreviewContent text(const QString &string, bool isMonospaced = false)
 {
     PreviewContent content;
-    content.body = PreviewContent::Text{string, false, false};
+    content.body = PreviewContent::Text{string, isMonospaced, false};
     return content;
 }
 
 QSize sizeOf(const PreviewContent &content, double scale = 1)
 {
-    return windowSize(content, available, scale, lineHeight);
+    return windowSize(content, available, scale, {lineHeight, columnWidth});
 }
 
 TEST(PreviewSize, GivesAPictureItsOwnPixelsWhereTheyFit)
@@ -67,9 +68,25 @@ TEST(PreviewSize, GrowsWithTheLinesOfAText)
     EXPECT_GT(sizeOf(text(QString(1600, QLatin1Char('x')))).height(), 400) << "it wraps";
 }
 
+TEST(PreviewSize, GivesCodeUpToAHundredColumns)
+{
+    const auto lineOf = [](int columns, bool isMonospaced) {
+        const QString line = QStringLiteral("a\n") + QString(columns, QLatin1Char('x'));
+        return sizeOf(text(line + QStringLiteral("\nb"), isMonospaced)).width();
+    };
+    EXPECT_GE(lineOf(90, true), 90 * columnWidth);
+    EXPECT_EQ(lineOf(100, true) - lineOf(90, true), 10 * columnWidth);
+    EXPECT_EQ(lineOf(5000, true), lineOf(100, true));
+    EXPECT_EQ(lineOf(10, true), lineOf(80, true));
+    EXPECT_EQ(lineOf(5000, false), lineOf(10, false)) << "prose wraps";
+    const QString late = QStringLiteral("a\n").repeated(1000) + QString(100, QLatin1Char('x'));
+    EXPECT_EQ(sizeOf(text(late, true)).width(), lineOf(80, true)) << "nobody sees that line yet";
+}
+
 TEST(PreviewSize, FitsAScreenThatIsSmallerThanTheSmallestWindow)
 {
-    EXPECT_EQ(windowSize(picture({4000, 3000}), {400, 200}, 1, lineHeight), QSize(320, 160));
+    EXPECT_EQ(windowSize(picture({4000, 3000}), {400, 200}, 1, {lineHeight, columnWidth}),
+              QSize(320, 160));
 }
 
 TEST(PreviewSize, ShowsAWholePage)

@@ -73,6 +73,7 @@ DetailsView::DetailsView(const PreviewContent &content, const Image &icon, QWidg
     font.setPointSizeF(font.pointSizeF() * nameSize);
     font.setWeight(QFont::DemiBold);
     name->setFont(font);
+    name->setMaximumLines(2);
     name->setText(content.details.name);
     column->addWidget(name);
     const QStringList lines = linesOf(content);

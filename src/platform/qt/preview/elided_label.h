@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QStringList>
 #include <QWidget>
 
 namespace corvane {
 
-/// One line of plain text that gives way in its middle where there is no room for it.
+/// Plain text of one line, or a few, that gives way in the middle of its last where there is no
+/// room for it.
 class ElidedLabel : public QWidget {
 public:
     explicit ElidedLabel(QWidget *parent = nullptr);
@@ -12,9 +14,15 @@ public:
     void setText(const QString &text);
     /// What is beside the point recedes.
     void setSubdued(bool isSubdued);
+    /// One at first.
+    void setMaximumLines(int count);
+
+    /// As they stand in that width.
+    QStringList lines(int width) const;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
+    int heightForWidth(int width) const override;
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -22,6 +30,7 @@ protected:
 private:
     QString m_text;
     bool m_isSubdued = false;
+    int m_maximumLines = 1;
 };
 
 } // namespace corvane

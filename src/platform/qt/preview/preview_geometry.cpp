@@ -20,10 +20,41 @@ QSize bounded(QSize size, QSize available)
     return size.expandedTo(smallestWindow).boundedTo(limitOf(available));
 }
 
+/// Of the longest of the first lines, between what prose and what code is written in.
+int columnsOf(const PreviewContent::Text &text, int mostLines)
+{
+    constexpr qsizetype least = 80;
+    constexpr qsizetype most = 100;
+    if (!text.isMonospaced)
+        return least;
+    qsizetype longest = 0;
+    qsizetype begin = 0;
+    for (int line = 0; line < mostLines && begin <= text.text.size() && longest < most; ++line) {
+        const qsizetype newline = text.text.indexOf(QLatin1Char('\n'), begin);
+        const qsizetype end = newline < 0 ? text.text.size() : newline;
+        longest = std::max(longest, end - begin);
+        begin = end + 1;
+    }
+    return static_cast<int>(std::clamp(longest, least, most));
+}
+
+/// As many as it takes, where longer lines are wrapped.
+int linesOf(const PreviewContent::Text &text, int columns, int mostLines)
+{
+    int lines = 1;
+    int column = 0;
+    for (qsizetype i = 0; i < text.text.size() && lines < mostLines; ++i) {
+        const bool ends = text.text[i] == QLatin1Char('\n') || ++column > columns;
+        lines += ends ? 1 : 0;
+        column = ends ? 0 : column;
+    }
+    return lines;
+}
+
 struct SizeOf {
     QSize available;
     double scale = 1;
-    int lineHeight = 1;
+    TextMetrics metrics;
 
     QSize operator()(const PreviewContent::Plain &) const { return detailsWindow; }
     QSize operator()(const PreviewContent::Missing &) const { return detailsWindow; }
@@ -53,28 +84,26 @@ struct SizeOf {
     }
     QSize operator()(const PreviewContent::Text &text) const
     {
-        constexpr int width = 720;
+        constexpr int narrowest = 720;
         constexpr int tallest = 820;
-        constexpr int lineLength = 80;
         constexpr int margins = 48;
-        qsizetype lines = 1;
-        qsizetype column = 0;
-        const qsizetype enough = tallest / std::max(lineHeight, 1) + 1;
-        for (qsizetype i = 0; i < text.text.size() && lines < enough; ++i) {
-            const bool ends = text.text[i] == QLatin1Char('\n') || ++column > lineLength;
-            lines += ends ? 1 : 0;
-            column = ends ? 0 : column;
-        }
-        const auto height = static_cast<int>(lines) * lineHeight + margins + barHeight;
-        return {width, std::min(height, tallest)};
+        constexpr int scrollBar = 20;
+        const int mostLines = tallest / std::max(metrics.lineHeight, 1) + 1;
+        const int columns = columnsOf(text, mostLines);
+        const int width
+            = text.isMonospaced ? columns * metrics.columnWidth + margins + scrollBar : 0;
+        const int height
+            = linesOf(text, columns, mostLines) * metrics.lineHeight + margins + barHeight;
+        return {std::max(width, narrowest), std::min(height, tallest)};
     }
 };
 
 } // namespace
 
-QSize windowSize(const PreviewContent &content, QSize available, double scale, int lineHeight)
+QSize windowSize(const PreviewContent &content, QSize available, double scale,
+                 const TextMetrics &metrics)
 {
-    return bounded(std::visit(SizeOf{available, scale, lineHeight}, content.body), available);
+    return bounded(std::visit(SizeOf{available, scale, metrics}, content.body), available);
 }
 
 QRect centred(QSize size, const QRect &available)

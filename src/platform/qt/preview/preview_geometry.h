@@ -18,9 +18,18 @@ inline constexpr int barHeight = 40;
 /// Around and between pages.
 inline constexpr int pageMargin = 16;
 
+/// Of the font that a text is shown in, as far as its window depends on it.
+struct TextMetrics {
+    int lineHeight = 1;
+    /// Of an average character, or of every one.
+    int columnWidth = 1;
+};
+
 /// The window for what is shown, inside a screen that has `available` room and `scale` pixels per
-/// point. A picture gets its own pixels where they fit.
-QSize windowSize(const PreviewContent &content, QSize available, double scale, int lineHeight);
+/// point. A picture gets its own pixels where they fit, and code the columns that it begins with,
+/// up to a hundred.
+QSize windowSize(const PreviewContent &content, QSize available, double scale,
+                 const TextMetrics &metrics);
 
 /// A window of that size in the middle of the room.
 QRect centred(QSize size, const QRect &available);

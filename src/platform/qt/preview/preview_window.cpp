@@ -77,14 +77,15 @@ PreviewWindow::PreviewWindow(PreviewLoading &loading, MainQueue &queue)
     , m_line(new ElidedLabel(m_bar))
     , m_open(new QPushButton(QStringLiteral("Open"), m_bar))
 {
-    constexpr int sideMargin = 14;
+    // Where a text begins above it.
+    constexpr int sideMargin = 18;
     constexpr int gap = 12;
     setMinimumSize(preview_geometry::smallestWindow);
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setSpacing(0);
     m_bar->setFixedHeight(preview_geometry::barHeight);
     auto *const row = new QHBoxLayout(m_bar);
-    row->setContentsMargins(sideMargin, 0, sideMargin - 4, 0);
+    row->setContentsMargins(sideMargin, 0, gap, 0);
     row->setSpacing(gap);
     row->addWidget(m_line, 1);
     row->addWidget(m_open);

@@ -7,9 +7,11 @@
 #include "platform/qt/preview/details_view.h"
 #include "platform/qt/preview/preview_geometry.h"
 #include "platform/qt/preview/preview_window.h"
+#include "platform/qt/preview/text_view.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/window_activation.h"
 
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
@@ -138,8 +140,11 @@ void QtPreviewPanel::place()
     if (!target)
         return;
     const QRect room = target->availableGeometry();
+    const auto *const text = std::get_if<PreviewContent::Text>(&m_content.body);
+    const QFontMetrics font(text ? TextView::fontFor(*text) : m_window->font());
     const QSize size = preview_geometry::windowSize(
-        m_content, room.size(), target->devicePixelRatio(), m_window->fontMetrics().lineSpacing());
+        m_content, room.size(), target->devicePixelRatio(),
+        {font.lineSpacing(), font.horizontalAdvance(QLatin1Char('0'))});
     m_placed = preview_geometry::centred(size, room);
     m_window->setGeometry(m_placed);
 }

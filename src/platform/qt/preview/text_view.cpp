@@ -2,6 +2,7 @@
 
 #include "platform/main_queue.h"
 
+#include <QApplication>
 #include <QFontDatabase>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -31,8 +32,7 @@ TextView::TextView(const PreviewContent::Text &text, MainQueue &queue, QWidget *
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     setAccessibleName(QStringLiteral("Text"));
-    if (text.isMonospaced)
-        setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setFont(fontFor(text));
     setTabStopDistance(tabWidth * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
     document()->setDocumentMargin(margin);
     // A piece below the view must not move it.
@@ -41,6 +41,12 @@ TextView::TextView(const PreviewContent::Text &text, MainQueue &queue, QWidget *
 }
 
 TextView::~TextView() = default;
+
+QFont TextView::fontFor(const PreviewContent::Text &text)
+{
+    return text.isMonospaced ? QFontDatabase::systemFont(QFontDatabase::FixedFont)
+                             : QApplication::font("QPlainTextEdit");
+}
 
 void TextView::appendNext()
 {

@@ -15,6 +15,9 @@ public:
     TextView(const PreviewContent::Text &text, MainQueue &queue, QWidget *parent = nullptr);
     ~TextView() override;
 
+    /// Which font such a text is shown in.
+    static QFont fontFor(const PreviewContent::Text &text);
+
 private:
     void appendNext();
 

@@ -18,7 +18,7 @@ class WebFetches;
 /// The web client on Qt's own: one manager, one connection for each request, no more of a body in
 /// memory than is wanted, and no answer to whoever asks who the user is. A request whose connection
 /// was closed without an answer is sent again, at most twice; a server's head has no limit but the
-/// time.
+/// time, in which the toolkit, which reads heads byte by byte, takes a few tens of megabytes.
 ///
 /// Names, TLS and decompression have a thread of their own. It is started by the first request and
 /// sleeps between requests; there are no connections then and no timers. From https a redirection

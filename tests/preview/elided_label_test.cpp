@@ -1,0 +1,81 @@
+#include "platform/qt/preview/elided_label.h"
+
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+namespace {
+
+const QString name = QStringLiteral("one name that is made of quite a few words.txt");
+
+/// Enough for so many of the text's characters.
+int widthFor(const ElidedLabel &label, qsizetype characters)
+{
+    return label.fontMetrics().horizontalAdvance(name.left(characters)) + 2;
+}
+
+TEST(ElidedLabelTest, ShowsWhatFitsInOneLine)
+{
+    ElidedLabel label;
+    label.setText(name);
+    EXPECT_EQ(label.lines(widthFor(label, name.size())), QStringList{name});
+    label.setMaximumLines(3);
+    EXPECT_EQ(label.lines(widthFor(label, name.size())), QStringList{name});
+    EXPECT_EQ(label.heightForWidth(10'000), label.fontMetrics().height());
+}
+
+TEST(ElidedLabelTest, LeavesTheMiddleOfItsLastLineAway)
+{
+    ElidedLabel label;
+    label.setText(name);
+    const QStringList single = label.lines(widthFor(label, 20));
+    ASSERT_EQ(single.size(), 1);
+    EXPECT_TRUE(single[0].startsWith(QLatin1String("one"))) << qPrintable(single[0]);
+    EXPECT_TRUE(single[0].endsWith(QLatin1String(".txt"))) << qPrintable(single[0]);
+
+    label.setMaximumLines(2);
+    const QStringList two = label.lines(widthFor(label, 20));
+    ASSERT_EQ(two.size(), 2);
+    EXPECT_TRUE(name.startsWith(two[0])) << "at a word: " << qPrintable(two[0]);
+    EXPECT_TRUE(two[1].endsWith(QLatin1String(".txt"))) << qPrintable(two[1]);
+    EXPECT_EQ(label.heightForWidth(widthFor(label, 20)), 2 * label.fontMetrics().height());
+}
+
+TEST(ElidedLabelTest, IsGivenTheRoomOfItsLines)
+{
+    QWidget window;
+    auto *const column = new QVBoxLayout(&window);
+    auto *const label = new ElidedLabel(&window);
+    label->setText(name);
+    label->setMaximumLines(2);
+    column->addStretch();
+    column->addWidget(label);
+    column->addStretch();
+    window.resize(widthFor(*label, 20) + 40, 400);
+    column->activate();
+    EXPECT_EQ(label->height(), 2 * label->fontMetrics().height());
+}
+
+TEST(ElidedLabelTest, BreaksANameWithoutBlanks)
+{
+    ElidedLabel label;
+    label.setText(QString(300, QLatin1Char('x')));
+    label.setMaximumLines(2);
+    const QStringList lines = label.lines(200);
+    ASSERT_EQ(lines.size(), 2);
+    for (const QString &line : lines)
+        EXPECT_LE(label.fontMetrics().horizontalAdvance(line), 200);
+}
+
+TEST(ElidedLabelTest, SurvivesHavingNoTextAndNoRoom)
+{
+    ElidedLabel label;
+    label.setMaximumLines(2);
+    EXPECT_EQ(label.lines(100).size(), 1);
+    label.setText(name);
+    EXPECT_LE(label.lines(0).size(), 2);
+}
+
+} // namespace
+} // namespace corvane::test
