@@ -1,5 +1,7 @@
 #include "app/shell_window.h"
 
+#include "platform/qt/program_icon.h"
+
 #include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
@@ -52,6 +54,7 @@ ShellWindow::ShellWindow(QSize size, std::function<void()> onClose)
     , m_onClose(std::move(onClose))
 {
     setWindowTitle(QStringLiteral("Corvane"));
+    setWindowIcon(programIcon());
     setFixedSize(fitted(size));
 }
 

@@ -83,6 +83,11 @@ TEST_F(PreferencesWindowTest, HasOneSizeAndItsTitle)
     EXPECT_TRUE(window().windowFlags().testFlag(Qt::WindowCloseButtonHint));
 }
 
+TEST_F(PreferencesWindowTest, CarriesTheProgramsIcon)
+{
+    EXPECT_FALSE(window().windowIcon().pixmap(64).isNull());
+}
+
 TEST_F(PreferencesWindowTest, AskingForAboutSwitchesThePaneOfTheOpenWindow)
 {
     window().present();

@@ -1,0 +1,17 @@
+#include "platform/qt/program_icon.h"
+
+// A resource of a static library is there once this ran. Outside every namespace, as it has to be.
+static void registerResource()
+{
+    Q_INIT_RESOURCE(program_icon);
+}
+
+namespace corvane {
+
+QIcon programIcon()
+{
+    static const bool isRegistered = (registerResource(), true);
+    return isRegistered ? QIcon(QStringLiteral(":/corvane/corvane.svg")) : QIcon();
+}
+
+} // namespace corvane
