@@ -1,3 +1,4 @@
+#include "fakes/boasting_png.h"
 #include "fakes/fake_file_locality.h"
 #include "platform/file_url.h"
 #include "platform/qt/qt_file_icons.h"
@@ -7,7 +8,6 @@
 #include <QFile>
 #include <QImageWriter>
 #include <QTemporaryDir>
-#include <QtEndian>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -49,22 +49,6 @@ QByteArray turnedJpeg(const QImage &image)
                                    "\x12\x01\x03\0\x01\0\0\0\x06\0\0\0"
                                    "\0\0\0\0";
     return written(image, "jpeg").insert(2, QByteArray(orientation, sizeof orientation - 1));
-}
-
-/// A PNG whose head claims a size that its few bytes do not have.
-QByteArray boastingPng(quint32 width, quint32 height)
-{
-    QByteArray bytes = written(halves(8, 8), "png");
-    qToBigEndian(width, bytes.data() + 16);
-    qToBigEndian(height, bytes.data() + 20);
-    quint32 crc = 0xffffffff;
-    for (int i = 12; i < 29; ++i) {
-        crc ^= static_cast<unsigned char>(bytes[i]);
-        for (int bit = 0; bit < 8; ++bit)
-            crc = (crc >> 1) ^ ((crc & 1) != 0 ? 0xedb88320 : 0);
-    }
-    qToBigEndian(~crc, bytes.data() + 29);
-    return bytes;
 }
 
 bool isReady(const QImage &image)

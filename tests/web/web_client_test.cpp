@@ -301,15 +301,31 @@ TEST_F(WebClientTest, aCompressedBodyArrivesAsItWasAndNoLargerThanWanted)
 TEST_F(WebClientTest, aBombSwellsNoFartherThanWanted)
 {
     constexpr qsizetype lengthThatTheToolkitPutsInFront = 4;
+    constexpr qsizetype headOfDeflate = 2;
     const QByteArray bomb
         = qCompress(QByteArray(200'000'000, '\0')).sliced(lengthThatTheToolkitPutsInFront);
+    const QByteArray headOfGzip("\x1f\x8b\x08\0\0\0\0\0\0\xff", 10);
     HttpServer server;
-    server.answer("/", response(200, bomb, "Content-Encoding: deflate\r\n"));
+    server.answer("/deflate", response(200, bomb, "Content-Encoding: deflate\r\n"));
+    server.answer(
+        "/gzip",
+        response(200, headOfGzip + bomb.sliced(headOfDeflate), "Content-Encoding: gzip\r\n"));
     const qint64 before = residentBytes();
-    const auto answer = fetch(request(server.url(), 3'000'000));
-    ASSERT_TRUE(answer);
-    EXPECT_EQ(answer->body.size(), 3'000'000);
+    for (const auto &target : {u"/deflate"_s, u"/gzip"_s}) {
+        const auto answer = fetch(request(server.url(target), 3'000'000));
+        ASSERT_TRUE(answer) << qPrintable(target);
+        EXPECT_EQ(answer->body.size(), 3'000'000);
+    }
     EXPECT_LT(residentBytes() - before, 50'000'000);
+}
+
+TEST_F(WebClientTest, aBodyEndsWhereItWasSaidToEnd)
+{
+    HttpServer server;
+    server.answer("/", "HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\nhello and more");
+    const auto answer = fetch(server.url());
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->body, "hello");
 }
 
 TEST_F(WebClientTest, theHostIsNamedAsTheAddressNamesIt)

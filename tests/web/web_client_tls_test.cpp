@@ -135,6 +135,17 @@ TEST_F(WebClientTls, whatIsNoTlsBringsNothing)
     EXPECT_FALSE(fetch(url));
 }
 
+TEST_F(WebClientTls, connectionsCutAtAnyStageBringNothing)
+{
+    HttpServer server(localhost, authority().issue(u"DNS:site.test"_s));
+    for (const char *sent : {"", "HTTP/1.1 200 OK\r\nA: b\r\n",
+                             "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n012345678",
+                             "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5\r\n0123"}) {
+        server.answer("/", sent);
+        EXPECT_FALSE(fetch(siteOf(server))) << sent;
+    }
+}
+
 TEST_F(WebClientTls, aHandshakeThatNeverEndsIsLeft)
 {
     network.requestTimeout = 0.2;
