@@ -200,6 +200,8 @@ TEST_F(GeneralPaneTest, OnlyTheChangedShortcutIsBoundAnew)
     desk.binder.bindShelf();
     record(viewAllRow(), keyA, "a");
     EXPECT_EQ(desk.hotKeys.unregistrations, 0);
+    record(shelfRow(), keyB, "b");
+    EXPECT_EQ(desk.hotKeys.unregistrations, 1) << "its own before it";
     EXPECT_EQ(desk.hotKeys.registrationCount(), 2U);
     EXPECT_EQ(shelfRow().detail(), needsText);
 }

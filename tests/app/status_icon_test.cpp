@@ -42,7 +42,10 @@ int runsAt(const QImage &image, double y)
 {
     int runs = 0;
     bool inside = false;
-    for (double x = 0; x < status_icon::canvas.width(); x += 0.1) {
+    constexpr int perPoint = 10;
+    const int steps = static_cast<int>(status_icon::canvas.width() * perPoint);
+    for (int step = 0; step < steps; ++step) {
+        const double x = static_cast<double>(step) / perPoint;
         const bool covers = at(image, x, y).alpha() > 127;
         runs += covers && !inside ? 1 : 0;
         inside = covers;

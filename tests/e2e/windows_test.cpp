@@ -92,7 +92,7 @@ TEST_P(Windows, preferencesAreChangedWithTheKeyboardAlone)
     ASSERT_TRUE(openPreferences());
     ASSERT_TRUE(waitUntilActive(preferencesSize));
     const QRect frame = window(preferencesSize).value_or(WindowFacts{}).frame;
-    EXPECT_NEAR(frame.center().x(), server().size().width() / 2, 40);
+    EXPECT_NEAR(frame.center().x(), server().size().width() / 2.0, 40);
     m_desktop.pictureAtRest(frame);
     // Past the tabs to the numbers, and from one to three.
     hands().key(keys::tab);

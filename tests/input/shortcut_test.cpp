@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdint>
+
 namespace corvane {
 namespace {
 
@@ -50,7 +53,8 @@ TEST(Shortcut, HasTwentySevenNamedKeys)
     };
     for (auto sign = signs.begin(); sign != signs.end(); ++sign)
         EXPECT_EQ(names.value(sign.key()), sign.value()) << sign.key();
-    const std::uint32_t functionKeys[] = {122, 120, 99, 118, 96, 97, 98, 100, 101, 109, 103, 111};
+    const std::array<std::uint32_t, 12> functionKeys
+        = {122, 120, 99, 118, 96, 97, 98, 100, 101, 109, 103, 111};
     int number = 1;
     for (const std::uint32_t code : functionKeys)
         EXPECT_EQ(names.value(code), QStringLiteral("F%1").arg(number++));
