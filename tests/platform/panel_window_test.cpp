@@ -1,4 +1,5 @@
 #include "platform/panel_fixture.h"
+#include "platform/x11/x11_reply.h"
 
 #include <QElapsedTimer>
 
@@ -68,6 +69,43 @@ private:
     e2e::XServer m_server{qgetenv("DISPLAY")};
     xcb_window_t m_window;
     int m_clicks = 0;
+};
+
+/// What a window manager hears at the root window of somebody's wish to activate a window.
+class RootEars {
+public:
+    RootEars()
+    {
+        const std::uint32_t mask
+            = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_PROPERTY_CHANGE;
+        xcb_change_window_attributes(m_server.connection(), m_server.root(), XCB_CW_EVENT_MASK,
+                                     &mask);
+        m_server.focusedWindow();
+    }
+    xcb_window_t askedFor()
+    {
+        while (
+            const X11Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_server.connection())}) {
+            const int type = event->response_type & 0x7f;
+            const auto &message = reinterpret_cast<const xcb_client_message_event_t &>(*event);
+            if (type == XCB_PROPERTY_NOTIFY && m_askedFor == e2e::noWindow)
+                m_timeBefore = reinterpret_cast<const xcb_property_notify_event_t &>(*event).time;
+            if (type == XCB_CLIENT_MESSAGE && message.type == m_server.atom("_NET_ACTIVE_WINDOW")) {
+                m_askedFor = message.window;
+                m_time = message.data.data32[1];
+            }
+        }
+        return m_askedFor;
+    }
+    xcb_timestamp_t timeOfRequest() const { return m_time; }
+    /// Of the last event that carried one and came before it.
+    xcb_timestamp_t timeBeforeRequest() const { return m_timeBefore; }
+
+private:
+    e2e::XServer m_server{qgetenv("DISPLAY")};
+    xcb_window_t m_askedFor = e2e::noWindow;
+    xcb_timestamp_t m_time = 0;
+    xcb_timestamp_t m_timeBefore = 0;
 };
 
 } // namespace
@@ -309,6 +347,43 @@ TEST_F(PanelWindowTest, takesTheKeyboardOnDemandWithoutAnEventOfItsOwn)
     settle();
     panel.makeKey();
     EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+}
+
+TEST_F(PanelWindowTest, takesTheKeyboardAlsoFromWhoTookItAfterTheLastEventOfItsOwn)
+{
+    // The latest time that the toolkit knows of.
+    show();
+    display.hands.click(at(150, 30));
+    ASSERT_TRUE(eventually([&] { return content.count("up") == 1; }));
+    const ManagedWindow other({100, 100, 300, 200});
+    xcb_set_input_focus(display.server.connection(), XCB_INPUT_FOCUS_PARENT, other.id(),
+                        XCB_CURRENT_TIME);
+    ASSERT_EQ(display.server.focusedWindow(), other.id());
+    panel.makeKey();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+}
+
+TEST_F(PanelWindowTest, takesTheKeyboardInTheMomentInWhichItIsShown)
+{
+    const ManagedWindow other({100, 100, 300, 200});
+    panel.orderFrontRegardless();
+    panel.makeKey();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+}
+
+TEST_F(PanelWindowTest, tellsTheWindowManagerTheTimeWhenItGivesTheKeyboardBack)
+{
+    const ManagedWindow other({100, 100, 300, 200});
+    show();
+    panel.makeKey();
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    const xcb_timestamp_t before = connection.serverTime();
+    RootEars ears;
+    panel.orderOut();
+    ASSERT_TRUE(eventually([&] { return ears.askedFor() == other.id(); }));
+    EXPECT_GE(ears.timeOfRequest(), before);
+    EXPECT_GE(ears.timeBeforeRequest(), ears.timeOfRequest())
+        << "those that go by the latest event have seen one that is as late";
 }
 
 TEST_F(PanelWindowTest, takesTheKeyboardFromNobodyWhenTheUserWentOn)

@@ -1,6 +1,7 @@
 // A window of ours comes forward although the user's last click was in another program.
 
 #include "platform/display.h"
+#include "platform/x11/x11_qt.h"
 #include "platform/x11/x11_window_activation.h"
 
 #include <QWidget>
@@ -109,7 +110,22 @@ TEST_F(WindowActivationTest, AWindowThatLiesBehindAnotherComesForwardAgain)
     EXPECT_TRUE(comesForward(widget));
 }
 
-TEST_F(WindowActivationTest, AWindowThatIsGoneBeforeTheServerAnswersHarmsNobody)
+TEST_F(WindowActivationTest, TheWindowManagerHasBeenAskedWhenTheCallReturns)
+{
+    useAnotherProgram();
+    QWidget widget;
+    widget.show();
+    activation.bringToFront(*widget.windowHandle());
+    // Behind it: an answer that came later would take the keyboard from the other one again.
+    std::free(xcb_get_input_focus_reply(x11_qt::connection(),
+                                        xcb_get_input_focus(x11_qt::connection()), nullptr));
+    display.server.activate(other.id());
+    ASSERT_TRUE(eventually([&] { return display.server.activeWindow() == other.id(); }));
+    settle();
+    EXPECT_EQ(display.server.activeWindow(), other.id());
+}
+
+TEST_F(WindowActivationTest, AWindowThatIsGoneBeforeTheWindowManagerActsHarmsNobody)
 {
     auto widget = std::make_unique<QWidget>();
     widget->show();

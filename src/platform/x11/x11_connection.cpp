@@ -1,7 +1,6 @@
 #include "platform/x11/x11_connection.h"
 
 #include "platform/x11/x11_qt.h"
-#include "platform/x11/x11_reply.h"
 
 #include <QAbstractEventDispatcher>
 #include <QSocketNotifier>
@@ -115,6 +114,33 @@ bool X11Connection::isSelectionNotify(const xcb_generic_event_t &event) const
     return hasXFixes() && type == m_xfixesEvent + int{XCB_XFIXES_SELECTION_NOTIFY};
 }
 
+xcb_timestamp_t X11Connection::serverTime()
+{
+    makeClock();
+    // Nothing is added to it; the server tells when that happened.
+    xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_clock, XCB_ATOM_WM_NAME,
+                        XCB_ATOM_STRING, 8, 0, nullptr);
+    flush();
+    while (X11Reply<xcb_generic_event_t> event{xcb_wait_for_event(m_connection)}) {
+        const auto &news = reinterpret_cast<const xcb_property_notify_event_t &>(*event);
+        if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && news.window == m_clock)
+            return news.time;
+        m_setAside.push_back(std::move(event));
+    }
+    return XCB_CURRENT_TIME;
+}
+
+void X11Connection::makeClock()
+{
+    if (m_clock != XCB_NONE)
+        return;
+    m_clock = xcb_generate_id(m_connection);
+    const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_clock, m_root, -1, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
+                      &events);
+}
+
 X11Connection::ListenerId X11Connection::addListener(Listener listener)
 {
     m_listeners.emplace(m_nextListener, std::move(listener));
@@ -128,8 +154,7 @@ void X11Connection::removeListener(ListenerId id)
 
 void X11Connection::readEvents()
 {
-    while (const X11Reply<xcb_generic_event_t> event{xcb_poll_for_event(m_connection)})
-        dispatch(*event);
+    handleEvents(&xcb_poll_for_event);
     // Listeners ask for more; nothing else would send it off before the next event.
     flush();
     if (!isConnected())
@@ -138,9 +163,21 @@ void X11Connection::readEvents()
 
 void X11Connection::handleQueuedEvents()
 {
-    while (const X11Reply<xcb_generic_event_t> event{xcb_poll_for_queued_event(m_connection)})
-        dispatch(*event);
+    handleEvents(&xcb_poll_for_queued_event);
     flush();
+}
+
+void X11Connection::handleEvents(Poll poll)
+{
+    const auto next = [this, poll] {
+        if (m_setAside.empty())
+            return X11Reply<xcb_generic_event_t>(poll(m_connection));
+        auto first = std::move(m_setAside.front());
+        m_setAside.pop_front();
+        return first;
+    };
+    while (const auto event = next())
+        dispatch(*event);
 }
 
 void X11Connection::dispatch(const xcb_generic_event_t &event)

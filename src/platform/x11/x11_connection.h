@@ -1,10 +1,13 @@
 #pragma once
 
+#include "platform/x11/x11_reply.h"
+
 #include <QObject>
 
 #include <xcb/xcb.h>
 
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <map>
 #include <string>
@@ -42,6 +45,10 @@ public:
     /// Whether the server keeps pointer barriers and tells who runs against them.
     bool hasPointerBarriers() const { return m_hasPointerBarriers; }
 
+    /// The server's time at this moment, by asking it; none once it is gone. Events that come
+    /// before the answer are handled afterwards, in their order.
+    xcb_timestamp_t serverTime();
+
     /// Every event of this connection goes to every listener, in the order they were added. A
     /// listener may add and remove listeners.
     ListenerId addListener(Listener listener);
@@ -51,8 +58,11 @@ public:
 
 private:
     void setUpExtensions();
+    void makeClock();
     void readEvents();
     void handleQueuedEvents();
+    using Poll = xcb_generic_event_t *(*)(xcb_connection_t *);
+    void handleEvents(Poll poll);
     void dispatch(const xcb_generic_event_t &event);
     void noticeLoss();
     void noticeLossAtExit();
@@ -65,6 +75,10 @@ private:
     std::uint8_t m_xinputOpcode = 0;
     bool m_hasPointerBarriers = false;
     QSocketNotifier *m_notifier = nullptr;
+    /// Came while something else was waited for.
+    std::deque<X11Reply<xcb_generic_event_t>> m_setAside;
+    /// Never shown: it is there to have a property changed. Made when it is first needed.
+    xcb_window_t m_clock = XCB_NONE;
     std::map<ListenerId, Listener> m_listeners;
     ListenerId m_nextListener = 1;
     std::map<std::string, xcb_atom_t> m_atoms;

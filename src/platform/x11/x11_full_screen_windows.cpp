@@ -2,6 +2,7 @@
 
 #include "platform/screens.h"
 #include "platform/x11/x11_reply.h"
+#include "platform/x11/x11_window_manager.h"
 
 #include <algorithm>
 
@@ -12,7 +13,7 @@ bool X11FullScreenWindows::isCovered(const Screen &screen) const
     const QPoint place(screen.nativeFrame.center().x(), screen.nativeFrame.top());
     // In front there may be something small, such as a notification, and below it the film that has
     // the keyboard.
-    const xcb_window_t active = activeWindow();
+    const xcb_window_t active = X11WindowManager(m_connection).activeWindow();
     if (active != XCB_NONE && isFullScreen(active)) {
         const auto frame = frameOf(active);
         if (frame && frame->contains(place))
@@ -66,18 +67,6 @@ bool X11FullScreenWindows::hasAtom(xcb_window_t window, const char *property,
     const auto *const atoms = static_cast<const xcb_atom_t *>(xcb_get_property_value(reply.get()));
     const auto *const end = atoms + reply->value_len;
     return std::find(atoms, end, m_connection.atom(value)) != end;
-}
-
-xcb_window_t X11FullScreenWindows::activeWindow() const
-{
-    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection.get(),
-        xcb_get_property(m_connection.get(), 0, m_connection.root(),
-                         m_connection.atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 0, 1),
-        nullptr));
-    if (!reply || xcb_get_property_value_length(reply.get()) < int{sizeof(xcb_window_t)})
-        return XCB_NONE;
-    return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
 }
 
 /// The visible child that takes clicks at a point of the root window.

@@ -24,7 +24,6 @@ private:
     bool isFullScreen(xcb_window_t window) const;
     bool coversUnmanaged(xcb_window_t window, const QRect &screen) const;
     bool hasAtom(xcb_window_t window, const char *property, const char *value) const;
-    xcb_window_t activeWindow() const;
     xcb_window_t childAt(xcb_window_t window, QPoint point) const;
     std::optional<QRect> frameOf(xcb_window_t window) const;
 

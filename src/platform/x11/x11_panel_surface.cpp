@@ -61,6 +61,7 @@ void flushQt()
 
 X11PanelSurface::X11PanelSurface(X11Connection &connection)
     : m_connection(connection)
+    , m_windowManager(connection)
     , m_listener(
           connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
 {
@@ -130,11 +131,9 @@ void X11PanelSurface::takeKeyboard(QWindow &window)
     const xcb_window_t focus = focusedWindow();
     if (!isPanel(focus)) {
         m_previousFocus = focus;
-        m_previousActive = activeWindow();
+        m_previousActive = m_windowManager.activeWindow();
     }
-    window.requestActivate();
-
-    flushQt();
+    x11_qt::giveKeyboard(window, m_connection.serverTime());
 }
 
 void X11PanelSurface::giveKeyboardBack(QWindow &window)
@@ -156,11 +155,14 @@ void X11PanelSurface::giveToPrevious()
 {
     const xcb_window_t active = std::exchange(m_previousActive, XCB_NONE);
     const xcb_window_t focus = std::exchange(m_previousFocus, XCB_NONE);
+    const xcb_timestamp_t now = m_connection.serverTime();
     if (active != XCB_NONE)
-        activate(active);
-    else if (focus != XCB_NONE)
-        xcb_set_input_focus(m_connection.get(), XCB_INPUT_FOCUS_POINTER_ROOT, focus,
-                            XCB_CURRENT_TIME);
+        m_windowManager.activate(active, m_connection.get(), now);
+    // Also where there is a window manager, and after it was asked, so that it expects this. Some
+    // do not see that a window loses the keyboard while a key is grabbed, as a hot key is: they
+    // think that it has it still, and do nothing.
+    if (focus != XCB_NONE)
+        xcb_set_input_focus(m_connection.get(), XCB_INPUT_FOCUS_POINTER_ROOT, focus, now);
     m_connection.flush();
 }
 
@@ -189,36 +191,9 @@ xcb_window_t X11PanelSurface::focusedWindow() const
     return reply ? reply->focus : XCB_NONE;
 }
 
-xcb_window_t X11PanelSurface::activeWindow() const
-{
-    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection.get(),
-        xcb_get_property(m_connection.get(), 0, m_connection.root(),
-                         m_connection.atom("_NET_ACTIVE_WINDOW"), XCB_ATOM_WINDOW, 0, 1),
-        nullptr));
-    if (!reply || xcb_get_property_value_length(reply.get()) < int{sizeof(xcb_window_t)})
-        return XCB_NONE;
-    return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
-}
-
 bool X11PanelSurface::isPanel(xcb_window_t window) const
 {
     return std::find(m_panels.begin(), m_panels.end(), window) != m_panels.end();
-}
-
-void X11PanelSurface::activate(xcb_window_t window)
-{
-    // As a pager would: a program that asks for itself may be refused.
-    constexpr std::uint32_t fromPager = 2;
-    xcb_client_message_event_t message = {};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = window;
-    message.type = m_connection.atom("_NET_ACTIVE_WINDOW");
-    message.data.data32[0] = fromPager;
-    xcb_send_event(m_connection.get(), 0, m_connection.root(),
-                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
-                   reinterpret_cast<const char *>(&message));
 }
 
 } // namespace corvane

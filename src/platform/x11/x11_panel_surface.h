@@ -2,7 +2,7 @@
 
 #include "platform/callback_list.h"
 #include "platform/panel_surface.h"
-#include "platform/x11/x11_connection.h"
+#include "platform/x11/x11_window_manager.h"
 
 #include <vector>
 
@@ -33,12 +33,11 @@ public:
 private:
     void handle(const xcb_generic_event_t &event);
     xcb_window_t focusedWindow() const;
-    xcb_window_t activeWindow() const;
-    void activate(xcb_window_t window);
     void giveToPrevious();
     bool isPanel(xcb_window_t window) const;
 
     X11Connection &m_connection;
+    X11WindowManager m_windowManager;
     X11Connection::ListenerId m_listener;
     xcb_atom_t m_compositorSelection;
     bool m_isComposited = false;

@@ -34,6 +34,18 @@ xcb_window_t nativeWindow(const QWindow &window)
     return window.handle() ? static_cast<xcb_window_t>(window.winId()) : XCB_NONE;
 }
 
+// Qt would ask with the time of the latest event that it had. That may be long past where the
+// user's key or click went to somebody else, and then the server does nothing.
+void giveKeyboard(const QWindow &window, xcb_timestamp_t time)
+{
+    auto *const qt = connection();
+    const xcb_window_t native = nativeWindow(window);
+    if (!qt || native == XCB_NONE)
+        return;
+    ignoreErrors(xcb_set_input_focus_checked(qt, XCB_INPUT_FOCUS_PARENT, native, time));
+    xcb_flush(qt);
+}
+
 void ignoreErrors(xcb_void_cookie_t cookie)
 {
     xcb_discard_reply(connection(), cookie.sequence);

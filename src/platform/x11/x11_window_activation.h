@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/window_activation.h"
-#include "platform/x11/x11_connection.h"
+#include "platform/x11/x11_window_manager.h"
 
 namespace corvane {
 
@@ -10,26 +10,18 @@ namespace corvane {
 /// somebody else, so the server is asked for its time. The connection must outlive it.
 class X11WindowActivation : public WindowActivation {
 public:
-    explicit X11WindowActivation(X11Connection &connection);
-    ~X11WindowActivation() override;
-    X11WindowActivation(const X11WindowActivation &) = delete;
-    X11WindowActivation &operator=(const X11WindowActivation &) = delete;
+    explicit X11WindowActivation(X11Connection &connection)
+        : m_connection(connection)
+        , m_windowManager(connection)
+    {
+    }
 
     void bringToFront(QWindow &window) override;
     void giveKeyboard(QWindow &window) override;
 
 private:
-    void askForTime();
-    void handle(const xcb_generic_event_t &event);
-    void activate(xcb_window_t window, xcb_timestamp_t time);
-    bool hasWindowManager() const;
-
     X11Connection &m_connection;
-    X11Connection::ListenerId m_listener;
-    /// Never shown: it is there to have a property changed. Made when it is first needed.
-    xcb_window_t m_clock = XCB_NONE;
-    /// The window that waits for the answer.
-    xcb_window_t m_waiting = XCB_NONE;
+    X11WindowManager m_windowManager;
 };
 
 } // namespace corvane
