@@ -38,7 +38,7 @@ protected:
     e2e::WindowFacts facts() { return display.server.facts(id()).value_or(e2e::WindowFacts{}); }
     /// In Qt's coordinates, from the panel's top left.
     QPoint at(int x, int y) const { return QPoint(600, 400) + QPoint(x, y); }
-    QColor colorAt(QPoint point)
+    QColor colorAt(QPoint point) const
     {
         return display.server.picture({point, QSize(1, 1)}).pixelColor(0, 0);
     }

@@ -1,7 +1,10 @@
+#include "platform/geometry.h"
 #include "platform/panel_fixture.h"
 #include "platform/x11/x11_reply.h"
 
 #include <QElapsedTimer>
+
+#include <array>
 
 namespace corvane::test {
 
@@ -40,10 +43,10 @@ public:
     explicit ManagedWindow(const QRect &frame)
         : m_window(xcb_generate_id(m_server.connection()))
     {
-        const std::uint32_t values[] = {0x336633, XCB_EVENT_MASK_BUTTON_PRESS};
+        const std::array<std::uint32_t, 2> values = {0x336633, XCB_EVENT_MASK_BUTTON_PRESS};
         xcb_create_window(m_server.connection(), XCB_COPY_FROM_PARENT, m_window, m_server.root(), 0,
                           0, 100, 100, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                          XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values);
+                          XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values.data());
         xcb_map_window(m_server.connection(), m_window);
         xcb_flush(m_server.connection());
         eventually([&] { return m_server.activeWindow() == m_window; });
@@ -200,7 +203,7 @@ TEST_F(PanelWindowTest, onlyTheBodyTakesClicks)
     EXPECT_EQ(display.server.inputShape(id()), QList<QRect>{QRect(50, 0, 200, 60)});
     display.hands.click(at(150, 30));
     EXPECT_TRUE(eventually([&] { return content.count("down") == 1; }));
-    EXPECT_TRUE(content.log.contains(QStringLiteral("down 150 70")));
+    EXPECT_TRUE(content.log.contains(QStringLiteral("down 150.5 69.5")));
     const int clicksBefore = below.clicks();
     display.hands.click(at(20, 80));
     EXPECT_TRUE(eventually([&] { return below.clicks() == clicksBefore + 1; }));
@@ -251,7 +254,7 @@ TEST_F(PanelWindowTest, reportsThePointer)
     display.hands.glideTo(at(100, 20));
     EXPECT_TRUE(eventually([&] { return content.count("entered") == 1; }));
     display.hands.glideTo(at(120, 30));
-    EXPECT_TRUE(eventually([&] { return content.lastMove == QPointF(120, 70); }));
+    EXPECT_TRUE(eventually([&] { return content.lastMove == QPointF(120.5, 69.5); }));
     display.hands.press(3);
     display.hands.release(3);
     display.hands.press(1);
@@ -259,9 +262,21 @@ TEST_F(PanelWindowTest, reportsThePointer)
     display.hands.release(1);
     EXPECT_TRUE(eventually([&] { return content.count("up") == 1; }));
     EXPECT_EQ(content.count("down"), 1);
-    EXPECT_TRUE(content.log.contains(QStringLiteral("dragged 125 65")));
+    EXPECT_TRUE(content.log.contains(QStringLiteral("dragged 125.5 64.5")));
     display.hands.glideTo(at(100, 300));
     EXPECT_TRUE(eventually([&] { return content.count("exited") == 1; }));
+}
+
+TEST_F(PanelWindowTest, thePixelsAlongItsEdgesLieInsideIt)
+{
+    show();
+    for (const QPoint corner : {QPoint(0, 0), QPoint(299, 0), QPoint(0, 99), QPoint(299, 99)}) {
+        display.hands.glideTo(at(150, 50));
+        display.hands.moveTo(at(corner.x(), corner.y()));
+        const QPointF middle(corner.x() + 0.5, 99.5 - corner.y());
+        EXPECT_TRUE(eventually([&] { return content.lastMove == middle; }));
+        EXPECT_TRUE(contains({{0, 0}, panel.frame().size()}, content.lastMove));
+    }
 }
 
 TEST_F(PanelWindowTest, aDoubleClickIsTwoClicks)

@@ -76,7 +76,7 @@ protected:
     {
         return display.server.facts(other.id()).value_or(e2e::WindowFacts{});
     }
-    bool comesForward(const QWidget &widget)
+    bool comesForward(const QWidget &widget) const
     {
         return eventually([&] { return display.server.activeWindow() == widget.winId(); });
     }

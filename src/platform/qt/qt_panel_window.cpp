@@ -139,6 +139,14 @@ QTransform QtPanelWindow::toDevicePixels() const
     return QTransform(scale, 0, 0, -scale, 0, m_frame.height() * scale);
 }
 
+/// Qt names a pixel by its upper left corner. Ours is the middle of it, so that the pixels along
+/// the panel's edges, one of which is the screen's, lie inside whichever way y goes.
+QPointF QtPanelWindow::middleOfPixel(QPointF position) const
+{
+    const double half = 0.5 / m_canvas->devicePixelRatio();
+    return qt_geometry::flipped(position + QPointF(half, half), m_frame.height());
+}
+
 void QtPanelWindow::updateRegions()
 {
     const QTransform toPixels = toDevicePixels();
@@ -186,7 +194,7 @@ bool QtPanelWindow::handle(QEvent &event)
         return handleMouse(static_cast<QMouseEvent &>(event));
     case QEvent::Enter: {
         const QPointF position = static_cast<QEnterEvent &>(event).position();
-        m_content->mouseEntered({qt_geometry::flipped(position, m_frame.height())});
+        m_content->mouseEntered({middleOfPixel(position)});
         return true;
     }
     case QEvent::Leave:
@@ -206,7 +214,7 @@ bool QtPanelWindow::handle(QEvent &event)
 
 bool QtPanelWindow::handleMouse(QMouseEvent &event)
 {
-    const MouseEvent mouse{qt_geometry::flipped(event.position(), m_frame.height())};
+    const MouseEvent mouse{middleOfPixel(event.position())};
     if (event.type() == QEvent::MouseMove) {
         if (event.buttons().testFlag(Qt::LeftButton))
             m_content->mouseDragged(mouse);

@@ -48,6 +48,7 @@ private:
     bool handleDrag(QEvent &event);
     void updateRegions();
     QTransform toDevicePixels() const;
+    QPointF middleOfPixel(QPointF position) const;
 
     PanelSurface &m_surface;
     MainQueue &m_queue;
