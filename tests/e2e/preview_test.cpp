@@ -158,6 +158,15 @@ TEST_P(PreviewOnEveryDesktop, aHeldSpaceOpensItOnceAndLeavesItOpen)
 
 class Preview : public PreviewTest { };
 
+TEST_F(Preview, itsWindowCarriesTheProgramsIcon)
+{
+    hold(makeFile(u"letter.txt"_s, "dear reader"));
+    hands().key(keys::space);
+    ASSERT_TRUE(waitForPreview("letter.txt"));
+    const xcb_window_t window = preview().value_or(WindowFacts{}).id;
+    EXPECT_TRUE(eventually([&] { return !server().property(window, "_NET_WM_ICON").isEmpty(); }));
+}
+
 TEST_F(Preview, showsAPictureThatHasNoFile)
 {
     holdOffer({"image/png", pngOf({200, 100}, QColor(1, 200, 3))});

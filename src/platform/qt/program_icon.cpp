@@ -10,8 +10,8 @@ namespace corvane {
 
 QIcon programIcon()
 {
-    static const bool isRegistered = (registerResource(), true);
-    return isRegistered ? QIcon(QStringLiteral(":/corvane/corvane.svg")) : QIcon();
+    [[maybe_unused]] static const bool isRegistered = (registerResource(), true);
+    return QIcon(QStringLiteral(":/corvane/corvane.svg"));
 }
 
 } // namespace corvane

@@ -8,12 +8,14 @@
 #include "platform/qt/preview/preview_geometry.h"
 #include "platform/qt/preview/preview_window.h"
 #include "platform/qt/preview/text_view.h"
+#include "platform/qt/program_icon.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/window_activation.h"
 
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QScreen>
 
 #include <utility>
@@ -119,6 +121,11 @@ void QtPreviewPanel::open()
     setContent();
     m_window->show();
     m_context.activation.bringToFront(*m_window->windowHandle());
+    // The icon takes longer than the rest of the window, which need not wait for it.
+    m_context.queue.async([window = QPointer<QWidget>(m_window.get())] {
+        if (window)
+            window->setWindowIcon(programIcon());
+    });
 }
 
 void QtPreviewPanel::setContent()
