@@ -193,17 +193,17 @@ void HttpExchange::readHead()
     const qint64 length = m_reply->rawHeader("Content-Length").toLongLong(&isNumber);
     const bool isCoded = m_reply->hasRawHeader("Content-Encoding");
     m_expectedContentLength = isNumber && length >= 0 && !isCoded ? length : -1;
-    // Of the others nobody wants the body that a download would bring.
-    constexpr int found = 200;
-    if (redirection() || (m_plan.take && m_statusCode != found))
+    if (redirection())
         finish(true);
 }
 
 void HttpExchange::readBody()
 {
-    while (m_reply && m_bodyBytes < m_plan.maximumBytes) {
-        const QByteArray piece
-            = m_reply->read(std::min(readBufferBytes, m_plan.maximumBytes - m_bodyBytes));
+    // What comes instead of a file ends by itself, or soon.
+    const qint64 limit = comesInsteadOfFile() ? std::min(readBufferBytes, m_plan.maximumBytes)
+                                              : m_plan.maximumBytes;
+    while (m_reply && m_bodyBytes < limit) {
+        const QByteArray piece = m_reply->read(std::min(readBufferBytes, limit - m_bodyBytes));
         if (piece.isEmpty())
             return;
         onProgress();
@@ -216,10 +216,18 @@ void HttpExchange::readBody()
 bool HttpExchange::takePiece(const QByteArray &piece)
 {
     m_bodyBytes += piece.size();
+    if (comesInsteadOfFile())
+        return true;
     if (m_plan.take)
         return m_plan.take(piece);
     m_body += piece;
     return true;
+}
+
+bool HttpExchange::comesInsteadOfFile() const
+{
+    constexpr int found = 200;
+    return m_plan.take && m_statusCode != found;
 }
 
 bool HttpExchange::isWhole() const

@@ -71,6 +71,7 @@ private:
     void readHead();
     void readBody();
     bool takePiece(const QByteArray &piece);
+    bool comesInsteadOfFile() const;
     void replyFinished();
     bool isWhole() const;
     void finish(bool isComplete);
