@@ -1,0 +1,105 @@
+#include "app/updates/update_file.h"
+
+#include <QStringBuilder>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <system_error>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+const QByteArray prefix = QByteArrayLiteral(".corvane-update-");
+
+/// A leftover is one that nobody holds the lock of.
+void removeIfLeftOver(const QByteArray &path)
+{
+    constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW;
+    const int descriptor = ::open(path.constData(), flags);
+    if (descriptor < 0)
+        return;
+    struct stat status = {};
+    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == ::geteuid()
+        && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+        ::unlink(path.constData());
+    ::close(descriptor);
+}
+
+void removeLeftovers(const QByteArray &folder)
+{
+    std::error_code error;
+    std::filesystem::directory_iterator entry(folder.toStdString(), error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        const QByteArray path = QByteArray::fromStdString(entry->path().native());
+        if (path.mid(path.lastIndexOf('/') + 1).startsWith(prefix))
+            removeIfLeftOver(path);
+    }
+}
+
+/// A full disk is told of at once where the file system can set room aside.
+bool setRoomAside(int descriptor, qint64 length)
+{
+    return ::fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, length) == 0
+        || (errno != ENOSPC && errno != EFBIG && errno != EDQUOT);
+}
+
+} // namespace
+
+std::unique_ptr<UpdateFile> UpdateFile::make(const QByteArray &folder, qint64 length, int &error)
+{
+    // The downloads folder may never have been used.
+    ::mkdir(folder.constData(), S_IRWXU);
+    removeLeftovers(folder);
+    QByteArray path = folder + '/' + prefix + "XXXXXX";
+    const int descriptor = ::mkostemp(path.data(), O_CLOEXEC);
+    if (descriptor < 0) {
+        error = errno;
+        return nullptr;
+    }
+    std::unique_ptr<UpdateFile> file(new UpdateFile(descriptor, path));
+    if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && setRoomAside(descriptor, length))
+        return file;
+    error = errno;
+    return nullptr;
+}
+
+UpdateFile::UpdateFile(int descriptor, QByteArray path)
+    : m_descriptor(descriptor)
+    , m_path(std::move(path))
+{
+}
+
+UpdateFile::~UpdateFile()
+{
+    if (!m_path.isEmpty())
+        ::unlink(m_path.constData());
+    ::close(m_descriptor);
+}
+
+bool UpdateFile::append(const QByteArray &bytes)
+{
+    qsizetype written = 0;
+    while (written < bytes.size()) {
+        const auto count = ::write(m_descriptor, bytes.constData() + written,
+                                   static_cast<std::size_t>(bytes.size() - written));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0) {
+            m_error = count == 0 ? ENOSPC : errno;
+            return false;
+        }
+        written += count;
+    }
+    m_size += bytes.size();
+    return true;
+}
+
+} // namespace corvane

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <QByteArray>
+
+#include <memory>
+
+namespace corvane {
+
+/// A file that an update arrives in: in the folder where it will stay, under a name that means
+/// nothing to anybody, readable by nobody else. It goes with this object unless it was installed.
+///
+/// Used by one thread after the other.
+class UpdateFile {
+public:
+    /// Makes one with room for `length` bytes; none, and the error's number, where that cannot be.
+    /// What processes that died have left in the folder goes first.
+    static std::unique_ptr<UpdateFile> make(const QByteArray &folder, qint64 length, int &error);
+    UpdateFile(const UpdateFile &) = delete;
+    UpdateFile &operator=(const UpdateFile &) = delete;
+    ~UpdateFile();
+
+    /// False, and the error is kept, where the disk does not take it.
+    bool append(const QByteArray &bytes);
+    int error() const { return m_error; }
+    /// How many bytes have been taken.
+    qint64 size() const { return m_size; }
+
+    int descriptor() const { return m_descriptor; }
+    QByteArray path() const { return m_path; }
+
+    /// It has another name now, and stays.
+    void release() { m_path.clear(); }
+
+private:
+    UpdateFile(int descriptor, QByteArray path);
+
+    int m_descriptor;
+    QByteArray m_path;
+    qint64 m_size = 0;
+    int m_error = 0;
+};
+
+} // namespace corvane

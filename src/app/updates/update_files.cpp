@@ -1,0 +1,134 @@
+#include "app/updates/update_files.h"
+
+#include <QStringBuilder>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/sendfile.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+
+namespace corvane {
+
+namespace {
+
+int errorOf(int result)
+{
+    return result == 0 ? 0 : errno;
+}
+
+bool hasNoSecondNames(int error)
+{
+    return error == EPERM || error == EOPNOTSUPP || error == ENOSYS || error == EMLINK
+        || error == EXDEV;
+}
+
+/// Closed with its scope.
+class Descriptor {
+public:
+    explicit Descriptor(int number)
+        : m_number(number)
+    {
+    }
+    Descriptor(const Descriptor &) = delete;
+    Descriptor &operator=(const Descriptor &) = delete;
+    ~Descriptor()
+    {
+        if (m_number >= 0)
+            ::close(m_number);
+    }
+
+    int number() const { return m_number; }
+
+private:
+    int m_number;
+};
+
+int copyBytes(int from, int to)
+{
+    constexpr std::size_t piece = 1024UL * 1024;
+    while (true) {
+        const auto count = ::sendfile(to, from, nullptr, piece);
+        if (count == 0)
+            return 0;
+        if (count < 0 && errno != EINTR)
+            return errno;
+    }
+}
+
+} // namespace
+
+int PosixUpdateFiles::takePermissions(int descriptor, const QByteArray &path)
+{
+    struct stat status = {};
+    if (::stat(path.constData(), &status) != 0)
+        return errno;
+    return errorOf(::fchmod(descriptor, status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)));
+}
+
+int PosixUpdateFiles::sync(int descriptor)
+{
+    return errorOf(::fsync(descriptor));
+}
+
+int PosixUpdateFiles::syncFolder(const QByteArray &folder)
+{
+    const Descriptor opened(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (opened.number() < 0)
+        return errno;
+    // Not every file system knows how, and those that do not have nothing to write.
+    return ::fsync(opened.number()) == 0 || errno == EINVAL ? 0 : errno;
+}
+
+int PosixUpdateFiles::keep(const QByteArray &path, const QByteArray &otherPath)
+{
+    const int error = errorOf(::link(path.constData(), otherPath.constData()));
+    if (!hasNoSecondNames(error))
+        return error;
+    // Under a name of its own until it is whole.
+    QByteArray unfinished = otherPath + ".XXXXXX";
+    const Descriptor from(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
+    if (from.number() < 0)
+        return errno;
+    const Descriptor to(::mkostemp(unfinished.data(), O_CLOEXEC));
+    if (to.number() < 0)
+        return errno;
+    int outcome = copyBytes(from.number(), to.number());
+    if (outcome == 0)
+        outcome = takePermissions(to.number(), path);
+    if (outcome == 0)
+        outcome = sync(to.number());
+    if (outcome == 0)
+        outcome = moveToFreeName(unfinished, otherPath);
+    if (outcome != 0)
+        ::unlink(unfinished.constData());
+    return outcome;
+}
+
+int PosixUpdateFiles::replace(const QByteArray &from, const QByteArray &to)
+{
+    return errorOf(::rename(from.constData(), to.constData()));
+}
+
+int PosixUpdateFiles::moveToFreeName(const QByteArray &from, const QByteArray &to)
+{
+    const int error = errorOf(
+        ::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE));
+    if (error != EINVAL && error != ENOSYS)
+        return error;
+    // A file system that cannot refuse to replace: two names for a moment.
+    if (const int linked = errorOf(::link(from.constData(), to.constData())); linked != 0)
+        return linked;
+    return errorOf(::unlink(from.constData()));
+}
+
+int PosixUpdateFiles::remove(const QByteArray &path)
+{
+    return errorOf(::unlink(path.constData()));
+}
+
+} // namespace corvane

@@ -1,0 +1,107 @@
+#include "app/updates/update_installation.h"
+
+#include "app/updates/installation.h"
+#include "app/updates/update_file.h"
+#include "app/updates/update_files.h"
+
+#include <QStringBuilder>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace corvane::update_installation {
+
+namespace {
+
+constexpr int maximumNames = 100;
+constexpr qsizetype longestName = 120;
+
+QByteArray folderOf(const QByteArray &path)
+{
+    return path.left(path.lastIndexOf('/'));
+}
+
+bool isHarmless(QChar c)
+{
+    return (c >= u'0' && c <= u'9') || (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z')
+        || c == u'-' || c == u'_' || c == u'.' || c == u'+';
+}
+
+QByteArray numbered(const QByteArray &name, int number)
+{
+    if (number == 1)
+        return name;
+    const QByteArray suffix = '-' + QByteArray::number(number);
+    const qsizetype dot = name.lastIndexOf('.');
+    const qsizetype end = dot > 0 ? dot : name.size();
+    return name.left(end) + suffix + name.mid(end);
+}
+
+int keepOld(UpdateFiles &files, const QByteArray &appImage)
+{
+    const QByteArray previous = appImage + previousSuffix;
+    const int error = files.keep(appImage, previous);
+    // An update before this one has not been started yet: the one that is kept is that which runs.
+    return error == EEXIST && Installation::isReplaceable(previous) ? 0 : error;
+}
+
+} // namespace
+
+Outcome swap(UpdateFiles &files, UpdateFile &file, const QByteArray &appImage)
+{
+    // It may have been moved or replaced since the program was started.
+    if (!Installation::isReplaceable(appImage))
+        return {ENOENT};
+    const QByteArray folder = folderOf(appImage);
+    int error = files.takePermissions(file.descriptor(), appImage);
+    if (error == 0)
+        error = files.sync(file.descriptor());
+    if (error == 0)
+        error = keepOld(files, appImage);
+    if (error == 0)
+        error = files.syncFolder(folder);
+    if (error == 0)
+        error = files.replace(file.path(), appImage);
+    if (error != 0)
+        return {error};
+    file.release();
+    // It has happened; a disk that does not say so now will in a moment.
+    files.syncFolder(folder);
+    return {0, appImage};
+}
+
+Outcome handOver(UpdateFiles &files, UpdateFile &file, const QByteArray &name)
+{
+    const QByteArray folder = folderOf(file.path());
+    if (const int error = files.sync(file.descriptor()); error != 0)
+        return {error};
+    for (int number = 1; number <= maximumNames; ++number) {
+        const QByteArray path = folder + '/' + numbered(name, number);
+        const int error = files.moveToFreeName(file.path(), path);
+        if (error == 0) {
+            file.release();
+            files.syncFolder(folder);
+            return {0, path};
+        }
+        if (error != EEXIST)
+            return {error};
+    }
+    return {EEXIST};
+}
+
+QByteArray safeName(const QString &lastPartOfAddress, const QString &version)
+{
+    const bool isSafe = !lastPartOfAddress.isEmpty() && lastPartOfAddress.size() <= longestName
+        && !lastPartOfAddress.startsWith(u'.') && !lastPartOfAddress.startsWith(u'-')
+        && std::ranges::all_of(lastPartOfAddress, isHarmless);
+    return isSafe ? lastPartOfAddress.toLatin1() : "Corvane-" + version.toLatin1();
+}
+
+void removePrevious(UpdateFiles &files, const QByteArray &appImage)
+{
+    const QByteArray previous = appImage + previousSuffix;
+    if (Installation::isReplaceable(previous))
+        files.remove(previous);
+}
+
+} // namespace corvane::update_installation
