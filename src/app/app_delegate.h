@@ -38,6 +38,8 @@ public:
         std::function<void()> terminate;
         HUDController::Context hud;
         EdgeSummoner::Desktop edge;
+        /// None where there is nothing to look for.
+        Updater *updater = nullptr;
     };
     explicit AppDelegate(Context context);
     ~AppDelegate() override;

@@ -5,12 +5,6 @@
 
 #include <utility>
 
-// A static library's resources are linked in only if somebody asks for them, outside any namespace.
-static void registerResources()
-{
-    Q_INIT_RESOURCE(information);
-}
-
 namespace corvane {
 
 AppInfo::AppInfo(QJsonObject dictionary)
@@ -20,7 +14,6 @@ AppInfo::AppInfo(QJsonObject dictionary)
 
 AppInfo AppInfo::builtIn()
 {
-    registerResources();
     QFile file(QStringLiteral(":/corvane/information.json"));
     if (!file.open(QIODevice::ReadOnly))
         return AppInfo({});

@@ -9,7 +9,7 @@ namespace corvane {
 class AppInfo {
 public:
     explicit AppInfo(QJsonObject dictionary);
-    /// The dictionary of this build.
+    /// The dictionary that is built into this program; an empty one where there is none.
     static AppInfo builtIn();
 
     /// "CFBundleShortVersionString", "0.0.0" when it is no text.
@@ -22,9 +22,14 @@ public:
     /// A mailbox.
     QString supportAddress() const;
 
-private:
-    QString text(const QString &key, const QString &otherwise) const;
+    /// Where new versions are announced, and the key that they are signed with.
+    static inline const QString feedAddressKey = QStringLiteral("SUFeedURL");
+    static inline const QString updateKeyKey = QStringLiteral("SUPublicEDKey");
 
+    /// What the dictionary holds under a key, `otherwise` when that is no text.
+    QString text(const QString &key, const QString &otherwise = {}) const;
+
+private:
     QJsonObject m_dictionary;
 };
 

@@ -1,15 +1,18 @@
 #include "app/composition_root.h"
 
 #include "app/app_info.h"
+#include "app/updates/software_updater.h"
 #include "platform/file_url.h"
 #include "shelf/phosphor_icon_drawing.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QScreen>
+#include <QStandardPaths>
 
 #include <cmath>
 
@@ -108,8 +111,14 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                dragDesktop,
                pointer,
                feedback})
+    , installation(Installation::from(Installation::Evidence::ofThisProcess()))
+    , updateWindow(windowActivation, AppInfo::builtIn().version(),
+                   installation.kind == Installation::Kind::AppImage)
+    , updateClient(mainQueue)
+    , updates(AppInfo::builtIn(), installation, [this] { return makeUpdater(); })
     , windows({{settings, loginItems, shortcuts, keyMonitors, hotKeyService, desktopServices,
-                motionPreference, AppInfo::builtIn()},
+                motionPreference, AppInfo::builtIn(), updates.updater(),
+                installation.kind == Installation::Kind::Managed},
                windowActivation,
                mainQueue})
     , delegate({dragMonitor,
@@ -133,12 +142,33 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                  quickActions,
                  &presenter,
                  &viewAll},
-                {pointerBarriers, fullScreenWindows, dragDesktop, dragDesktop, pointer}})
+                {pointerBarriers, fullScreenWindows, dragDesktop, dragDesktop, pointer},
+                updates.updater()})
 {
     remoteDescriptions.onFound = [this](const QUuid &item, const QString &description) {
         store.describe(item, description);
     };
     thumbnails.setItemsInView([this] { return itemsInView(store); });
+}
+
+std::unique_ptr<Updater> CompositionRoot::makeUpdater()
+{
+    // It takes the setting now, which has to have its default by then.
+    settings.registerDefaults();
+    const AppInfo info = AppInfo::builtIn();
+    const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+    return std::make_unique<SoftwareUpdater>(
+        SoftwareUpdater::Context{updateClient,
+                                 {updateClient, mainQueue, updateWork},
+                                 updateFiles,
+                                 updateWindow,
+                                 desktopServices,
+                                 UpdateRecordFile(UpdateRecordFile::environmentFolder()),
+                                 [] { return QDateTime::currentSecsSinceEpoch(); },
+                                 settings.autoCheckUpdates()},
+        SoftwareUpdater::Program{
+            info.text(AppInfo::feedAddressKey), info.text(AppInfo::updateKeyKey), info.version(),
+            info.build(), UpdateSystem::thisOne(), installation, QFile::encodeName(downloads)});
 }
 
 } // namespace corvane

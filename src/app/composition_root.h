@@ -3,6 +3,9 @@
 #include "app/app_delegate.h"
 #include "app/desktop_status_item.h"
 #include "app/shell_windows.h"
+#include "app/updates/update_files.h"
+#include "app/updates/update_window_controller.h"
+#include "app/updates/updater_controller.h"
 #include "core/drag_writer.h"
 #include "core/feedback.h"
 #include "core/image_converter.h"
@@ -60,6 +63,7 @@
 #include "shelf/view_all_controller.h"
 
 #include <functional>
+#include <memory>
 
 namespace corvane {
 
@@ -142,8 +146,22 @@ struct CompositionRoot {
     LayerAnimator layerAnimator;
     DragWriter dragWriter;
     ViewAllController viewAll;
+
+    // Updates, where this build looks for any.
+    Installation installation;
+    PosixUpdateFiles updateFiles;
+    UpdateWindowController updateWindow;
+    // Of their own: an update takes minutes, and previews do not wait for it. Neither has a thread
+    // before it is used.
+    QtWebClient updateClient;
+    QtWorkQueue updateWork;
+    UpdaterController updates;
+
     ShellWindows windows;
     AppDelegate delegate;
+
+private:
+    std::unique_ptr<Updater> makeUpdater();
 };
 
 } // namespace corvane

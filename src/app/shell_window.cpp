@@ -58,6 +58,11 @@ ShellWindow::ShellWindow(QSize size, std::function<void()> onClose)
     setFixedSize(fitted(size));
 }
 
+void ShellWindow::setContentSize(QSize size)
+{
+    setFixedSize(fitted(size));
+}
+
 void ShellWindow::present()
 {
     if (!isVisible())

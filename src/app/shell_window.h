@@ -26,6 +26,9 @@ public:
     /// The size is in device-independent pixels; a screen that is smaller makes it smaller.
     ShellWindow(QSize size, std::function<void()> onClose);
 
+    /// Another size, fitted likewise.
+    void setContentSize(QSize size);
+
     /// Shows it where it was when it was closed, the first time in the middle of the screen.
     void present();
 

@@ -26,7 +26,9 @@ constexpr std::uint32_t keyB = 11;
 
 class RecordingUpdater : public Updater {
 public:
+    void start() override { }
     void checkForUpdates() override { ++checks; }
+    bool automaticallyChecksForUpdates() const override { return false; }
     void setAutomaticallyChecksForUpdates(bool on) override { automatic = on; }
 
     int checks = 0;
@@ -227,6 +229,16 @@ TEST_F(GeneralPaneTest, WithoutAnUpdaterCheckNowIsDisabledAndSaysWhy)
     const auto *button = row("Check for updates automatically").findChild<QPushButton *>();
     EXPECT_FALSE(button->isEnabled());
     EXPECT_FALSE(button->toolTip().isEmpty());
+}
+
+TEST_F(GeneralPaneTest, WhereOthersKeepTheProgramUpToDateItSaysSo)
+{
+    desk.isKeptUpToDateByOthers = true;
+    const QString detail = row("Check for updates automatically").detail();
+    EXPECT_EQ(detail, QStringLiteral("Your system's software manager keeps Corvane up to date."));
+    const auto *button = row("Check for updates automatically").findChild<QPushButton *>();
+    EXPECT_FALSE(button->isEnabled());
+    EXPECT_EQ(button->toolTip(), detail);
 }
 
 TEST_F(GeneralPaneTest, TheUpdaterFollowsTheSwitchAndChecksWhenAsked)

@@ -12,7 +12,9 @@ namespace {
 
 class CountingUpdater : public Updater {
 public:
+    void start() override { }
     void checkForUpdates() override { ++checks; }
+    bool automaticallyChecksForUpdates() const override { return false; }
     void setAutomaticallyChecksForUpdates(bool) override { }
 
     int checks = 0;

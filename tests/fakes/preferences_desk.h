@@ -28,7 +28,7 @@ struct PreferencesDesk {
     PreferencesContext context()
     {
         return {settings, loginItems, binder, keyMonitors, hotKeys,
-                services, motion,     info,   updater};
+                services, motion,     info,   updater,     isKeptUpToDateByOthers};
     }
 
     MemoryUserDefaults defaults;
@@ -48,6 +48,7 @@ struct PreferencesDesk {
         {QStringLiteral("CorvaneHomePage"), QStringLiteral("https://corvane.example/")},
         {QStringLiteral("CorvaneSupportAddress"), QStringLiteral("support@corvane.example")}}};
     Updater *updater = nullptr;
+    bool isKeptUpToDateByOthers = false;
 };
 
 } // namespace corvane::test

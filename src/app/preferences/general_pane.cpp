@@ -139,7 +139,10 @@ PreferenceSection *GeneralPane::makeUpdatesSection()
     auto *section = new PreferenceSection(tr("Updates"), m_look);
     const QString title = tr("Check for updates automatically");
     // A button that can do nothing says why.
-    const QString detail = updater ? QString() : tr("This build does not know where to look.");
+    const QString reason = m_context.isKeptUpToDateByOthers
+        ? tr("Your system's software manager keeps Corvane up to date.")
+        : tr("This build does not know where to look.");
+    const QString detail = updater ? QString() : reason;
     auto *checkNow = new ActionButton(tr("Check Now"), buttonTextSize, buttonSize, m_look);
     checkNow->setAccessibleDescription(updater ? tr("Looks for a new version at once") : detail);
     checkNow->setEnabled(updater != nullptr);

@@ -23,8 +23,11 @@ struct PreferencesContext {
     DesktopServices &desktopServices;
     const MotionPreference &motion;
     AppInfo appInfo;
-    /// Null where this build does not know where to look for updates.
+    /// Null where this build does not know where to look for updates, or where others keep it up
+    /// to date.
     Updater *updater = nullptr;
+    /// Whether the distribution, or Flatpak, does.
+    bool isKeptUpToDateByOthers = false;
 };
 
 } // namespace corvane

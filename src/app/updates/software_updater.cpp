@@ -1,0 +1,330 @@
+#include "app/updates/software_updater.h"
+
+#include "app/updates/update_file.h"
+#include "app/updates/update_files.h"
+#include "app/updates/update_installation.h"
+#include "platform/desktop_services.h"
+#include "platform/file_url.h"
+#include "platform/work_queue.h"
+
+#include <QStringBuilder>
+#include <QtDebug>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+using Stage = UpdateReport::Stage;
+
+bool isComplete(const AppcastEnclosure &enclosure)
+{
+    return !enclosure.signature.isEmpty() && enclosure.length > 0
+        && enclosure.length <= UpdateDownload::maximumBytes && enclosure.url.isValid()
+        && !enclosure.url.isRelative();
+}
+
+QByteArray folderOf(const QByteArray &path)
+{
+    return path.left(path.lastIndexOf('/'));
+}
+
+} // namespace
+
+/// How an installation ended.
+struct SoftwareUpdater::Installed {
+    std::optional<UpdateFailure> failure;
+    QByteArray path = {};
+};
+
+SoftwareUpdater::SoftwareUpdater(Context context, Program program)
+    : m_context(std::move(context))
+    , m_program(std::move(program))
+    , m_checksAutomatically(m_context.checksAutomatically)
+{
+    const std::weak_ptr<bool> alive = m_alive;
+    const auto guarded = [this, alive](void (SoftwareUpdater::*action)()) {
+        return [this, alive, action] {
+            if (!alive.expired())
+                (this->*action)();
+        };
+    };
+    m_context.display.onInstall = guarded(&SoftwareUpdater::install);
+    m_context.display.onDismiss = guarded(&SoftwareUpdater::dismiss);
+    m_context.display.onShowFile = [this, alive] {
+        if (!alive.expired())
+            showFile();
+    };
+}
+
+SoftwareUpdater::~SoftwareUpdater() = default;
+
+void SoftwareUpdater::start()
+{
+    m_record = m_context.record.load();
+    scheduleCheck();
+    if (m_program.installation.kind != Installation::Kind::AppImage)
+        return;
+    // Once the main queue runs, the AppImage does.
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.download.queue.async([this, alive] {
+        if (alive.expired())
+            return;
+        m_context.download.work.run(
+            [&files = m_context.files, appImage = m_program.installation.appImage] {
+                update_installation::removePrevious(files, appImage);
+            });
+    });
+}
+
+void SoftwareUpdater::setAutomaticallyChecksForUpdates(bool on)
+{
+    m_checksAutomatically = on;
+    scheduleCheck();
+}
+
+void SoftwareUpdater::scheduleCheck()
+{
+    m_timer.reset();
+    if (!m_checksAutomatically)
+        return;
+    double delay = firstCheckDelay;
+    if (m_record.lastCheck) {
+        // A check that lies in the future was made by a clock that was wrong.
+        const auto since = static_cast<double>(m_context.now() - *m_record.lastCheck);
+        if (since >= 0)
+            delay = std::max(delay, checkInterval - since);
+    }
+    m_timer = m_context.download.queue.repeating(delay, [this] { checkIsDue(); });
+}
+
+void SoftwareUpdater::checkIsDue()
+{
+    if (m_state == State::Resting)
+        return check(UpdateAttention::Unasked);
+    // The user is about to decide on one.
+    m_record.lastCheck = m_context.now();
+    scheduleCheck();
+}
+
+void SoftwareUpdater::checkForUpdates()
+{
+    m_attention = UpdateAttention::Asked;
+    if (m_state == State::Resting)
+        check(UpdateAttention::Asked);
+    else
+        m_context.display.show(m_report, UpdateAttention::Asked);
+}
+
+void SoftwareUpdater::check(UpdateAttention attention)
+{
+    m_state = State::Checking;
+    m_attention = attention;
+    m_offer.reset();
+    m_report = {Stage::Checking};
+    m_record.lastCheck = m_context.now();
+    m_context.record.save(m_record);
+    scheduleCheck();
+    if (attention == UpdateAttention::Asked)
+        m_context.display.show(m_report, attention);
+
+    WebRequest request;
+    request.url = QUrl(m_program.feedAddress, QUrl::StrictMode);
+    request.userAgent = "Corvane/" + m_program.version.toLatin1();
+    request.accept = "application/rss+xml, application/xml, text/xml";
+    // One more would be too many, and is to be seen.
+    request.maximumBytes = appcast::maximumBytes + 1;
+    request.mustBeSecure = true;
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.web.get(
+        request,
+        [this, alive, generation = ++m_generation](const std::optional<WebResponse> &response) {
+            if (!alive.expired() && generation == m_generation)
+                feedArrived(response);
+        });
+}
+
+void SoftwareUpdater::feedArrived(const std::optional<WebResponse> &response)
+{
+    constexpr int found = 200;
+    if (!response || response->statusCode != found)
+        return fail(UpdateFailure::Unreachable);
+    const auto items = appcast::read(response->body);
+    if (!items)
+        return fail(UpdateFailure::NotAFeed);
+    const UpdateChoice choice = update_choice::choose(*items, m_program.system);
+    if (goesBack(choice)) {
+        qWarning("[Corvane] The update feed went back in time; it is not followed.");
+        return fail(UpdateFailure::WentBack);
+    }
+    if (!choice.newest)
+        return rest({Stage::UpToDate});
+    m_record.highest(choice.scale) = choice.newest->version;
+    m_context.record.save(m_record);
+    const auto present = running(choice.scale);
+    // What runs may have no version that could be compared; then nothing is known to be newer.
+    if (!present || choice.newest->version <= *present)
+        return rest({Stage::UpToDate});
+    if (!isComplete(choice.newest->enclosure))
+        return fail(UpdateFailure::Incomplete);
+    m_feedFoundIn = response->foundIn;
+    offer(*choice.newest);
+}
+
+bool SoftwareUpdater::goesBack(const UpdateChoice &choice)
+{
+    if (choice.newest) {
+        const auto highest = m_record.highest(choice.scale);
+        return highest && choice.newest->version < *highest;
+    }
+    // A feed may end; but not before the program has what it told of.
+    return std::ranges::any_of(std::array{VersionScale::Build, VersionScale::ShortVersion},
+                               [this](VersionScale scale) {
+                                   const auto highest = m_record.highest(scale);
+                                   const auto present = running(scale);
+                                   return highest && present && *highest > *present;
+                               });
+}
+
+std::optional<UpdateVersion> SoftwareUpdater::running(VersionScale scale) const
+{
+    return UpdateVersion::fromText(scale == VersionScale::Build ? m_program.build
+                                                                : m_program.version);
+}
+
+void SoftwareUpdater::offer(const UpdateOffer &offer)
+{
+    m_state = State::Offering;
+    m_offer = offer;
+    m_report = {Stage::Available, offer.shownVersion, offer.notes};
+    m_report.total = offer.enclosure.length;
+    m_context.display.show(m_report, m_attention);
+}
+
+void SoftwareUpdater::install()
+{
+    if (m_state != State::Offering)
+        return;
+    m_state = State::Downloading;
+    m_report.stage = Stage::Downloading;
+    m_context.display.update(m_report);
+    const bool replaces = m_program.installation.kind == Installation::Kind::AppImage;
+    m_download = std::make_unique<UpdateDownload>(
+        m_context.download,
+        UpdateDownload::Plan{
+            m_offer->enclosure, m_feedFoundIn, "Corvane/" + m_program.version.toLatin1(),
+            replaces ? folderOf(m_program.installation.appImage) : m_program.downloadsFolder});
+    // They are not called any more once the download is gone, and it goes with this.
+    m_download->onProgress = [this](qint64 received) {
+        // More often nobody could see it.
+        constexpr qint64 steps = 200;
+        if (received < m_report.total && received - m_report.received < m_report.total / steps)
+            return;
+        m_report.received = received;
+        m_context.display.update(m_report);
+    };
+    m_download->onEnd
+        = [this](const std::shared_ptr<UpdateFile> &file, std::optional<UpdateFailure> failure) {
+              downloadEnded(file, failure);
+          };
+    m_download->start();
+}
+
+void SoftwareUpdater::downloadEnded(const std::shared_ptr<UpdateFile> &file,
+                                    std::optional<UpdateFailure> failure)
+{
+    m_download.reset();
+    if (failure)
+        return fail(*failure);
+    m_state = State::Installing;
+    m_report.stage = Stage::Installing;
+    m_context.display.update(m_report);
+    verifyAndInstall(file);
+}
+
+void SoftwareUpdater::verifyAndInstall(const std::shared_ptr<UpdateFile> &file)
+{
+    const std::weak_ptr<bool> alive = m_alive;
+    const auto work = [file, &files = m_context.files, key = m_program.publicKey,
+                       enclosure = m_offer->enclosure, version = m_offer->version.text(),
+                       installation = m_program.installation]() -> Installed {
+        const auto publicKey = UpdateKey::fromBase64(key);
+        if (!publicKey
+            || !publicKey->hasSigned(file->descriptor(), enclosure.length, enclosure.signature))
+            return {UpdateFailure::WrongSignature};
+        const QByteArray name
+            = update_installation::safeName(enclosure.url.fileName(QUrl::FullyDecoded), version);
+        const auto outcome = installation.kind == Installation::Kind::AppImage
+            ? update_installation::swap(files, *file, installation.appImage)
+            : update_installation::handOver(files, *file, name);
+        if (outcome.error == 0)
+            return {std::nullopt, outcome.path};
+        return {outcome.error == ENOSPC ? UpdateFailure::NoRoom : UpdateFailure::NotWritten};
+    };
+    m_context.download.work.run([this, alive, work, &queue = m_context.download.queue] {
+        const Installed outcome = work();
+        queue.async([this, alive, outcome] {
+            if (!alive.expired())
+                installed(outcome);
+        });
+    });
+}
+
+void SoftwareUpdater::installed(const Installed &outcome)
+{
+    if (outcome.failure)
+        return fail(*outcome.failure);
+    UpdateReport report = m_report;
+    const bool isReplaced = m_program.installation.kind == Installation::Kind::AppImage;
+    report.stage = isReplaced ? Stage::Replaced : Stage::HandedOver;
+    if (!isReplaced) {
+        m_handedOver = outcome.path;
+        report.fileName = file_url::lastPathComponent(outcome.path);
+    }
+    m_attention = UpdateAttention::Asked;
+    rest(report);
+    if (!isReplaced)
+        showFile();
+}
+
+void SoftwareUpdater::dismiss()
+{
+    // What is being put into its place is not left half done.
+    if (m_state == State::Installing)
+        return;
+    ++m_generation;
+    m_download.reset();
+    m_offer.reset();
+    m_state = State::Resting;
+}
+
+void SoftwareUpdater::showFile() const
+{
+    if (!m_handedOver.isEmpty())
+        m_context.desktop.open(file_url::fromNativePath(folderOf(m_handedOver)));
+}
+
+void SoftwareUpdater::rest(const UpdateReport &report)
+{
+    m_state = State::Resting;
+    m_report = report;
+    if (m_attention == UpdateAttention::Asked)
+        m_context.display.show(m_report, m_attention);
+}
+
+void SoftwareUpdater::fail(UpdateFailure failure)
+{
+    // Whoever has said "install" waits for the outcome.
+    if (m_state == State::Downloading || m_state == State::Installing)
+        m_attention = UpdateAttention::Asked;
+    UpdateReport report = m_report;
+    report.stage = Stage::Failed;
+    report.failure = failure;
+    rest(report);
+}
+
+} // namespace corvane

@@ -1,0 +1,115 @@
+#pragma once
+
+#include "app/updater.h"
+#include "app/updates/installation.h"
+#include "app/updates/update_choice.h"
+#include "app/updates/update_download.h"
+#include "app/updates/update_key.h"
+#include "app/updates/update_record.h"
+#include "app/updates/update_report.h"
+#include "platform/main_queue.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace corvane {
+
+class DesktopServices;
+class UpdateFiles;
+
+/// Looks for new versions in a feed, and takes them when the user says so.
+///
+///                 check               newer              install               whole
+///     Resting ----------> Checking ----------> Offering ----------> Downloading ------> Installing
+///        ^                   |                    |                     |                    |
+///        |      none, failed |             closed |    failed or closed |       done, failed |
+///        +-------------------+--------------------+---------------------+--------------------+
+///
+/// Checks by itself at most once a day, and is heard of then only if there is something to take. A
+/// feed that goes back in time is not followed. Nothing runs and nothing is open between checks but
+/// the one timer that is due.
+///
+/// Everything in the context must outlive it. Main thread only.
+class SoftwareUpdater : public Updater {
+public:
+    /// From the start to the first check, in seconds: the start has better things to do.
+    static constexpr double firstCheckDelay = 60;
+    /// At least so much from one check to the next that nobody asked for.
+    static constexpr double checkInterval = 24 * 3600;
+
+    /// What it is to keep up to date.
+    struct Program {
+        QString feedAddress;
+        /// In base64, as it is built in.
+        QString publicKey;
+        QString version;
+        QString build;
+        UpdateSystem system;
+        Installation installation;
+        /// A native path, for what is handed over.
+        QByteArray downloadsFolder;
+    };
+    struct Context {
+        WebClient &web;
+        UpdateDownload::Context download;
+        UpdateFiles &files;
+        UpdateDisplay &display;
+        DesktopServices &desktop;
+        UpdateRecordFile record;
+        /// Seconds since 1970.
+        std::function<qint64()> now;
+        bool checksAutomatically = false;
+    };
+
+    SoftwareUpdater(Context context, Program program);
+    SoftwareUpdater(const SoftwareUpdater &) = delete;
+    SoftwareUpdater &operator=(const SoftwareUpdater &) = delete;
+    ~SoftwareUpdater() override;
+
+    void start() override;
+    void checkForUpdates() override;
+    bool automaticallyChecksForUpdates() const override { return m_checksAutomatically; }
+    void setAutomaticallyChecksForUpdates(bool on) override;
+
+private:
+    enum class State { Resting, Checking, Offering, Downloading, Installing };
+    struct Installed;
+
+    void scheduleCheck();
+    void checkIsDue();
+    void check(UpdateAttention attention);
+    void feedArrived(const std::optional<WebResponse> &response);
+    /// Whether the feed told of a newer one before.
+    bool goesBack(const UpdateChoice &choice);
+    std::optional<UpdateVersion> running(VersionScale scale) const;
+    void offer(const UpdateOffer &offer);
+    void install();
+    void downloadEnded(const std::shared_ptr<UpdateFile> &file,
+                       std::optional<UpdateFailure> failure);
+    void verifyAndInstall(const std::shared_ptr<UpdateFile> &file);
+    void installed(const Installed &outcome);
+    void dismiss();
+    void showFile() const;
+    void rest(const UpdateReport &report);
+    void fail(UpdateFailure failure);
+
+    Context m_context;
+    Program m_program;
+    bool m_checksAutomatically;
+    UpdateRecord m_record;
+    std::unique_ptr<MainQueue::Timer> m_timer;
+    State m_state = State::Resting;
+    UpdateAttention m_attention = UpdateAttention::Unasked;
+    /// What is shown, or would be if somebody had asked.
+    UpdateReport m_report;
+    std::optional<UpdateOffer> m_offer;
+    AddressSpace m_feedFoundIn = AddressSpace::Public;
+    std::unique_ptr<UpdateDownload> m_download;
+    QByteArray m_handedOver;
+    /// What was begun before it was last raised is not waited for any more.
+    int m_generation = 0;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

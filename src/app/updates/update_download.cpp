@@ -1,0 +1,125 @@
+#include "app/updates/update_download.h"
+
+#include "app/updates/update_file.h"
+#include "platform/main_queue.h"
+#include "platform/web_downloader.h"
+#include "platform/work_queue.h"
+
+#include <atomic>
+#include <cerrno>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+UpdateFailure failureOf(int error)
+{
+    const bool isFull = error == ENOSPC || error == EDQUOT || error == EFBIG;
+    return isFull ? UpdateFailure::NoRoom : UpdateFailure::NotWritten;
+}
+
+} // namespace
+
+/// What the client's thread works with; the main thread looks at the file once it has ended.
+struct UpdateDownload::Transfer {
+    std::shared_ptr<UpdateFile> file;
+    qint64 expected = 0;
+    std::atomic<qint64> received = 0;
+    /// Whether the main thread has yet to hear of what has come.
+    std::atomic<bool> isTold = false;
+    bool isTooLong = false;
+};
+
+UpdateDownload::UpdateDownload(const Context &context, Plan plan)
+    : m_context(context)
+    , m_plan(std::move(plan))
+    , m_cancellation(std::make_shared<Cancellation>())
+{
+}
+
+UpdateDownload::~UpdateDownload()
+{
+    m_cancellation->cancel();
+}
+
+void UpdateDownload::start()
+{
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.work.run([this, alive, &queue = m_context.queue, folder = m_plan.folder,
+                        length = m_plan.enclosure.length] {
+        int error = 0;
+        const std::shared_ptr<UpdateFile> file = UpdateFile::make(folder, length, error);
+        queue.async([this, alive, file, error] {
+            if (!alive.expired())
+                fileMade(file, error);
+        });
+    });
+}
+
+void UpdateDownload::fileMade(const std::shared_ptr<UpdateFile> &file, int error)
+{
+    if (!file)
+        return finish(nullptr, failureOf(error));
+    const auto transfer = std::make_shared<Transfer>();
+    transfer->file = file;
+    transfer->expected = m_plan.enclosure.length;
+    const std::weak_ptr<bool> alive = m_alive;
+    const auto take = [this, alive, transfer, &queue = m_context.queue](const QByteArray &piece) {
+        transfer->isTooLong = transfer->file->size() + piece.size() > transfer->expected;
+        if (transfer->isTooLong || !transfer->file->append(piece))
+            return false;
+        transfer->received = transfer->file->size();
+        if (!transfer->isTold.exchange(true)) {
+            queue.async([this, alive, transfer] {
+                transfer->isTold = false;
+                if (!alive.expired())
+                    progressed(transfer->received);
+            });
+        }
+        return true;
+    };
+    WebRequest request;
+    request.url = m_plan.enclosure.url;
+    request.userAgent = m_plan.userAgent;
+    // One more would be too many, and is to be seen.
+    request.maximumBytes = transfer->expected + 1;
+    request.foundIn = m_plan.foundIn;
+    request.mustBeSecure = true;
+    m_context.web.download({request, take, m_cancellation},
+                           [this, alive, transfer](const std::optional<WebResponse> &response) {
+                               if (!alive.expired())
+                                   transferEnded(transfer, response);
+                           });
+}
+
+void UpdateDownload::progressed(qint64 bytes) const
+{
+    if (onProgress)
+        onProgress(bytes);
+}
+
+void UpdateDownload::transferEnded(const std::shared_ptr<Transfer> &transfer,
+                                   const std::optional<WebResponse> &response)
+{
+    constexpr int found = 200;
+    if (transfer->isTooLong)
+        return finish(nullptr, UpdateFailure::WrongLength);
+    if (transfer->file->error() != 0)
+        return finish(nullptr, failureOf(transfer->file->error()));
+    if (!response || response->statusCode != found)
+        return finish(nullptr, UpdateFailure::DownloadFailed);
+    if (transfer->file->size() != transfer->expected)
+        return finish(nullptr, UpdateFailure::WrongLength);
+    finish(transfer->file, std::nullopt);
+}
+
+void UpdateDownload::finish(const std::shared_ptr<UpdateFile> &file,
+                            std::optional<UpdateFailure> failure)
+{
+    // A copy: whoever is called may delete this.
+    const auto callback = onEnd;
+    callback(file, failure);
+}
+
+} // namespace corvane

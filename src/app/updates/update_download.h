@@ -1,0 +1,72 @@
+#pragma once
+
+#include "app/updates/appcast.h"
+#include "app/updates/update_report.h"
+#include "platform/web_client.h"
+
+#include <QByteArray>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace corvane {
+
+class Cancellation;
+class MainQueue;
+class UpdateFile;
+class WebDownloader;
+class WorkQueue;
+
+/// Fetches one announced file into a folder.
+///
+/// Destroying it ends the transfer; what has come goes with it, and nobody is called any more. Main
+/// thread only; nothing here keeps it waiting.
+class UpdateDownload {
+public:
+    /// Everything must outlive it.
+    struct Context {
+        WebDownloader &web;
+        MainQueue &queue;
+        WorkQueue &work;
+    };
+    struct Plan {
+        AppcastEnclosure enclosure;
+        /// Where the address was found.
+        AddressSpace foundIn = AddressSpace::Public;
+        QByteArray userAgent;
+        /// A native path.
+        QByteArray folder;
+    };
+
+    /// No update is that large, and its signature is checked in one go.
+    static constexpr qint64 maximumBytes = 1024LL * 1024 * 1024;
+
+    UpdateDownload(const Context &context, Plan plan);
+    UpdateDownload(const UpdateDownload &) = delete;
+    UpdateDownload &operator=(const UpdateDownload &) = delete;
+    ~UpdateDownload();
+
+    /// Now and then, with the bytes that have come.
+    std::function<void(qint64)> onProgress;
+    /// Once, with a file of the announced length or with what went wrong; may delete this.
+    std::function<void(std::shared_ptr<UpdateFile>, std::optional<UpdateFailure>)> onEnd;
+
+    void start();
+
+private:
+    struct Transfer;
+
+    void fileMade(const std::shared_ptr<UpdateFile> &file, int error);
+    void transferEnded(const std::shared_ptr<Transfer> &transfer,
+                       const std::optional<WebResponse> &response);
+    void progressed(qint64 bytes) const;
+    void finish(const std::shared_ptr<UpdateFile> &file, std::optional<UpdateFailure> failure);
+
+    Context m_context;
+    Plan m_plan;
+    std::shared_ptr<Cancellation> m_cancellation;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

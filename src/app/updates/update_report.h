@@ -1,0 +1,78 @@
+#pragma once
+
+#include <QString>
+
+#include <functional>
+
+namespace corvane {
+
+/// What went wrong.
+enum class UpdateFailure {
+    /// The feed could not be had.
+    Unreachable,
+    NotAFeed,
+    /// The feed's newest version is older than one that it told of before.
+    WentBack,
+    /// The version is announced without a signature, a length or an address.
+    Incomplete,
+    DownloadFailed,
+    /// Of another length than announced.
+    WrongLength,
+    WrongSignature,
+    NoRoom,
+    /// The disk does not take it, for another reason.
+    NotWritten,
+};
+
+/// What the user is told about updates at one moment.
+struct UpdateReport {
+    enum class Stage {
+        Checking,
+        UpToDate,
+        Available,
+        Downloading,
+        /// Being verified and put where it belongs.
+        Installing,
+        /// In the AppImage's place.
+        Replaced,
+        /// In the downloads folder.
+        HandedOver,
+        Failed,
+    };
+
+    Stage stage = Stage::Checking;
+    /// The version that is offered; fit to be shown, as are the notes.
+    QString version = {};
+    QString notes = {};
+    /// In bytes.
+    qint64 received = 0;
+    qint64 total = 0;
+    UpdateFailure failure = UpdateFailure::Unreachable;
+    /// The name of the file that was handed over.
+    QString fileName = {};
+
+    bool operator==(const UpdateReport &) const = default;
+};
+
+/// Whether the user waits for a report or is interrupted by it.
+enum class UpdateAttention { Asked, Unasked };
+
+/// Shows the user what there is to be known about updates. Main thread only.
+class UpdateDisplay {
+public:
+    virtual ~UpdateDisplay() = default;
+
+    /// Shows the report in place of the one before. One that was asked for comes forward.
+    virtual void show(const UpdateReport &report, UpdateAttention attention) = 0;
+    /// The report has changed, and is where it was.
+    virtual void update(const UpdateReport &report) = 0;
+
+    /// The user wants the version that is available.
+    std::function<void()> onInstall;
+    /// The user wants to see the file that was handed over.
+    std::function<void()> onShowFile;
+    /// The user has closed what was shown, or wants to end what is under way.
+    std::function<void()> onDismiss;
+};
+
+} // namespace corvane

@@ -1,0 +1,119 @@
+#include "app/updates/update_window.h"
+
+#include "app/text_label.h"
+#include "app/updates/update_texts.h"
+
+#include <QHBoxLayout>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+using Stage = UpdateReport::Stage;
+
+constexpr double titleSize = 15;
+constexpr double textSize = 12;
+constexpr double margin = 22;
+constexpr double spacing = 10;
+constexpr double betweenButtons = 8;
+constexpr QSize buttonSize{96, 28};
+constexpr int progressSteps = 1000;
+
+bool showsNotes(const UpdateReport &report)
+{
+    const bool isAboutThem = report.stage == Stage::Available || report.stage == Stage::Downloading
+        || report.stage == Stage::Installing;
+    return isAboutThem && !report.notes.isEmpty();
+}
+
+int progressOf(const UpdateReport &report)
+{
+    return report.total > 0 ? static_cast<int>(report.received * progressSteps / report.total) : 0;
+}
+
+} // namespace
+
+UpdateWindow::UpdateWindow(std::function<void()> onClose)
+    : ShellWindow(WindowLook().length(smallSize), std::move(onClose))
+    , m_title(new TextLabel({}, m_look.font(titleSize, QFont::DemiBold), TextLabel::Tone::Primary))
+    , m_detail(new TextLabel({}, m_look.font(textSize), TextLabel::Tone::Secondary))
+    , m_notes(new QPlainTextEdit)
+    , m_progress(new QProgressBar)
+    , m_action(new QPushButton)
+    , m_dismissal(new QPushButton)
+{
+    auto *layout = new QVBoxLayout(this);
+    const int edge = m_look.length(margin);
+    layout->setContentsMargins(edge, edge, edge, edge);
+    layout->setSpacing(m_look.length(spacing));
+    m_title->setWordWrap(true);
+    m_detail->setWordWrap(true);
+    layout->addWidget(m_title);
+    layout->addWidget(m_detail);
+    m_notes->setReadOnly(true);
+    m_notes->setFont(m_look.font(textSize));
+    m_notes->setAccessibleName(tr("What is new"));
+    m_notes->setTabChangesFocus(true);
+    layout->addWidget(m_notes, 1);
+    m_progress->setRange(0, progressSteps);
+    m_progress->setTextVisible(false);
+    m_progress->setAccessibleName(tr("Download"));
+    layout->addWidget(m_progress);
+    layout->addStretch();
+    layout->addLayout(makeButtons());
+}
+
+QHBoxLayout *UpdateWindow::makeButtons()
+{
+    auto *buttons = new QHBoxLayout;
+    buttons->setSpacing(m_look.length(betweenButtons));
+    buttons->addStretch();
+    for (QPushButton *button : {m_dismissal, m_action}) {
+        button->setFont(m_look.font(textSize));
+        button->setMinimumSize(m_look.length(buttonSize));
+        button->setAutoDefault(true);
+        buttons->addWidget(button);
+    }
+    connect(m_dismissal, &QPushButton::clicked, this, [this] { close(); });
+    connect(m_action, &QPushButton::clicked, this, [this] {
+        // A copy: whoever is called may delete this.
+        const auto action = onAction;
+        if (action)
+            action();
+    });
+    return buttons;
+}
+
+void UpdateWindow::setReport(const UpdateReport &report, const UpdateTexts &texts)
+{
+    setWindowTitle(texts.title);
+    m_title->setText(texts.title);
+    m_detail->setText(texts.detail);
+    m_detail->setVisible(!texts.detail.isEmpty());
+    const bool hasNotes = showsNotes(report);
+    m_notes->setVisible(hasNotes);
+    if (m_notes->toPlainText() != report.notes)
+        m_notes->setPlainText(report.notes);
+    m_progress->setVisible(report.stage == Stage::Downloading);
+    m_progress->setValue(progressOf(report));
+    setContentSize(m_look.length(hasNotes ? sizeWithNotes : smallSize));
+
+    const bool hadAction = !m_action->isHidden() && !m_action->text().isEmpty();
+    const bool hasAction = !texts.action.isEmpty();
+    m_action->setText(texts.action);
+    m_action->setVisible(hasAction);
+    m_dismissal->setText(texts.dismissal);
+    QPushButton *const usual = hasAction ? m_action : m_dismissal;
+    usual->setAccessibleDescription(texts.title + QLatin1Char(' ') + texts.detail);
+    // The button that had the keyboard may be gone, or mean something else.
+    if (hadAction != hasAction || !focusWidget())
+        usual->setFocus();
+}
+
+} // namespace corvane

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "app/shell_window.h"
+#include "app/updates/update_report.h"
+#include "app/window_look.h"
+
+#include <functional>
+
+class QHBoxLayout;
+class QPlainTextEdit;
+class QProgressBar;
+class QPushButton;
+
+namespace corvane {
+
+class TextLabel;
+struct UpdateTexts;
+
+/// Tells of an update: a title, what there is to know, the notes where there are any, how far the
+/// download is, and one or two buttons. Small where there are no notes.
+class UpdateWindow : public ShellWindow {
+    Q_OBJECT
+
+public:
+    static constexpr QSize smallSize{420, 168};
+    static constexpr QSize sizeWithNotes{460, 400};
+
+    explicit UpdateWindow(std::function<void()> onClose);
+
+    /// What the button does that is not for closing.
+    std::function<void()> onAction;
+
+    void setReport(const UpdateReport &report, const UpdateTexts &texts);
+
+private:
+    QHBoxLayout *makeButtons();
+
+    WindowLook m_look;
+    TextLabel *m_title;
+    TextLabel *m_detail;
+    QPlainTextEdit *m_notes;
+    QProgressBar *m_progress;
+    QPushButton *m_action;
+    QPushButton *m_dismissal;
+};
+
+} // namespace corvane

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "app/updates/update_report.h"
+#include "app/updates/update_window.h"
+
+#include <QString>
+
+namespace corvane {
+
+class WindowActivation;
+
+/// Shows reports in a window, which exists only while it is open. Closing it is dismissing what it
+/// shows. Main thread only; `activation` must outlive it.
+class UpdateWindowController : public UpdateDisplay {
+public:
+    /// `replaces` says whether an update takes the running version's place.
+    UpdateWindowController(WindowActivation &activation, QString runningVersion, bool replaces);
+    UpdateWindowController(const UpdateWindowController &) = delete;
+    UpdateWindowController &operator=(const UpdateWindowController &) = delete;
+    ~UpdateWindowController() override;
+
+    void show(const UpdateReport &report, UpdateAttention attention) override;
+    void update(const UpdateReport &report) override;
+
+    /// Null while it is closed.
+    UpdateWindow *window() const { return m_window.get(); }
+
+private:
+    void act();
+    void windowWillClose();
+
+    WindowActivation &m_activation;
+    QString m_runningVersion;
+    bool m_replaces;
+    UpdateReport m_report;
+    ShellWindow::Pointer<UpdateWindow> m_window;
+};
+
+} // namespace corvane

@@ -1,0 +1,28 @@
+#include "app/updates/updater_controller.h"
+
+#include "app/app_info.h"
+#include "app/updater.h"
+
+namespace corvane {
+
+UpdaterController::UpdaterController(const AppInfo &info, const Installation &installation,
+                                     const std::function<std::unique_ptr<Updater>()> &make)
+{
+    if (installation.kind == Installation::Kind::Managed
+        || !isConfigured(info, AppInfo::feedAddressKey)
+        || !isConfigured(info, AppInfo::updateKeyKey))
+        return;
+    m_updater = make();
+    m_updater->start();
+}
+
+UpdaterController::~UpdaterController() = default;
+
+bool UpdaterController::isConfigured(const AppInfo &info, const QString &key)
+{
+    // What is no text is none; the marker is left where nobody filled in a template.
+    const QString value = info.text(key);
+    return !value.isEmpty() && !value.contains(QLatin1String("REPLACE_"));
+}
+
+} // namespace corvane
