@@ -67,7 +67,8 @@ CorvaneProgram::CorvaneProgram(XDesktop &desktop, const Start &start)
 {
     if (!start.keepsSettings)
         writeSettings(start);
-    m_program = std::make_unique<Program>(path(), start.arguments, m_environment);
+    const QString program = start.program.isEmpty() ? path() : start.program;
+    m_program = std::make_unique<Program>(program, start.arguments, m_environment);
 }
 
 QString CorvaneProgram::settingsFolder() const

@@ -26,6 +26,8 @@ public:
         /// Goes on with the settings that an earlier start has left.
         bool keepsSettings = false;
         QStringList arguments = {};
+        /// Another build of the program, or one that starts it in its own place.
+        QString program = {};
     };
 
     explicit CorvaneProgram(XDesktop &desktop);
