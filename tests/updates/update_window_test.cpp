@@ -116,11 +116,22 @@ TEST_F(UpdateWindowTest, ItIsUsedWithTheKeyboardAlone)
     ASSERT_TRUE(activate(*controller.window()));
     EXPECT_EQ(controller.window()->focusWidget(), button("Install"));
     typeKey(*controller.window(), Qt::Key_Return);
-    EXPECT_EQ(log, QStringList{QStringLiteral("install")});
+    notes().setFocus();
+    typeKey(*controller.window(), Qt::Key_Return);
+    EXPECT_EQ(log, (QStringList{QStringLiteral("install"), QStringLiteral("install")}));
     controller.update(report(Stage::Downloading));
     EXPECT_EQ(controller.window()->focusWidget(), button("Cancel"));
     typeKey(*controller.window(), Qt::Key_Escape);
     EXPECT_EQ(log.back(), QStringLiteral("dismiss"));
+}
+
+TEST_F(UpdateWindowTest, ReturnOnLaterDoesNotInstall)
+{
+    show(Stage::Available);
+    ASSERT_TRUE(activate(*controller.window()));
+    button("Later")->setFocus();
+    typeKey(*controller.window(), Qt::Key_Return);
+    EXPECT_EQ(log, QStringList{QStringLiteral("dismiss")});
 }
 
 TEST_F(UpdateWindowTest, TheDownloadIsSeenToGoOn)

@@ -1,5 +1,7 @@
 #include "app/updates/update_files.h"
 
+#include "platform/file_descriptor.h"
+
 #include <QStringBuilder>
 
 #include <fcntl.h>
@@ -26,27 +28,6 @@ bool hasNoSecondNames(int error)
     return error == EPERM || error == EOPNOTSUPP || error == ENOSYS || error == EMLINK
         || error == EXDEV;
 }
-
-/// Closed with its scope.
-class Descriptor {
-public:
-    explicit Descriptor(int number)
-        : m_number(number)
-    {
-    }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-    ~Descriptor()
-    {
-        if (m_number >= 0)
-            ::close(m_number);
-    }
-
-    int number() const { return m_number; }
-
-private:
-    int m_number;
-};
 
 int copyBytes(int from, int to)
 {
@@ -77,8 +58,8 @@ int PosixUpdateFiles::sync(int descriptor)
 
 int PosixUpdateFiles::syncFolder(const QByteArray &folder)
 {
-    const Descriptor opened(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (opened.number() < 0)
+    const FileDescriptor opened(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!opened.isOpen())
         return errno;
     // Not every file system knows how, and those that do not have nothing to write.
     return ::fsync(opened.number()) == 0 || errno == EINVAL ? 0 : errno;
@@ -91,11 +72,11 @@ int PosixUpdateFiles::keep(const QByteArray &path, const QByteArray &otherPath)
         return error;
     // Under a name of its own until it is whole.
     QByteArray unfinished = otherPath + ".XXXXXX";
-    const Descriptor from(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
-    if (from.number() < 0)
+    const FileDescriptor from(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
+    if (!from.isOpen())
         return errno;
-    const Descriptor to(::mkostemp(unfinished.data(), O_CLOEXEC));
-    if (to.number() < 0)
+    const FileDescriptor to(::mkostemp(unfinished.data(), O_CLOEXEC));
+    if (!to.isOpen())
         return errno;
     int outcome = copyBytes(from.number(), to.number());
     if (outcome == 0)

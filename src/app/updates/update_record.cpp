@@ -1,6 +1,7 @@
 #include "app/updates/update_record.h"
 
 #include "platform/freedesktop/thumbnails/private_cache_file.h"
+#include "platform/regular_file.h"
 
 #include <QDir>
 #include <QFile>
@@ -46,7 +47,7 @@ QByteArray UpdateRecordFile::environmentFolder()
 
 UpdateRecord UpdateRecordFile::load() const
 {
-    const auto bytes = private_cache_file::read(m_folder + '/' + fileName, largestFile);
+    const auto bytes = regular_file::contents(m_folder + '/' + fileName, largestFile);
     const QJsonObject object = QJsonDocument::fromJson(bytes.value_or(QByteArray())).object();
     return {seconds(object.value(lastCheckKey)),
             UpdateVersion::fromText(object.value(buildKey).toString()),

@@ -1,12 +1,13 @@
 #include "app/updates/update_window.h"
 
+#include "app/action_button.h"
 #include "app/text_label.h"
 #include "app/updates/update_texts.h"
 
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -45,8 +46,8 @@ UpdateWindow::UpdateWindow(std::function<void()> onClose)
     , m_detail(new TextLabel({}, m_look.font(textSize), TextLabel::Tone::Secondary))
     , m_notes(new QPlainTextEdit)
     , m_progress(new QProgressBar)
-    , m_action(new QPushButton)
-    , m_dismissal(new QPushButton)
+    , m_action(new ActionButton({}, textSize, buttonSize, m_look))
+    , m_dismissal(new ActionButton({}, textSize, buttonSize, m_look))
 {
     auto *layout = new QVBoxLayout(this);
     const int edge = m_look.length(margin);
@@ -74,14 +75,10 @@ QHBoxLayout *UpdateWindow::makeButtons()
     auto *buttons = new QHBoxLayout;
     buttons->setSpacing(m_look.length(betweenButtons));
     buttons->addStretch();
-    for (QPushButton *button : {m_dismissal, m_action}) {
-        button->setFont(m_look.font(textSize));
-        button->setMinimumSize(m_look.length(buttonSize));
-        button->setAutoDefault(true);
-        buttons->addWidget(button);
-    }
-    connect(m_dismissal, &QPushButton::clicked, this, [this] { close(); });
-    connect(m_action, &QPushButton::clicked, this, [this] {
+    buttons->addWidget(m_dismissal);
+    buttons->addWidget(m_action);
+    connect(m_dismissal, &ActionButton::clicked, this, [this] { close(); });
+    connect(m_action, &ActionButton::clicked, this, [this] {
         // A copy: whoever is called may delete this.
         const auto action = onAction;
         if (action)
@@ -109,11 +106,23 @@ void UpdateWindow::setReport(const UpdateReport &report, const UpdateTexts &text
     m_action->setText(texts.action);
     m_action->setVisible(hasAction);
     m_dismissal->setText(texts.dismissal);
-    QPushButton *const usual = hasAction ? m_action : m_dismissal;
+    ActionButton *const usual = hasAction ? m_action : m_dismissal;
+    m_action->setDefault(hasAction);
+    m_dismissal->setDefault(!hasAction);
     usual->setAccessibleDescription(texts.title + QLatin1Char(' ') + texts.detail);
     // The button that had the keyboard may be gone, or mean something else.
     if (hadAction != hasAction || !focusWidget())
         usual->setFocus();
+}
+
+void UpdateWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return ShellWindow::keyPressEvent(event);
+    // The button that has the keyboard, so that "Later" does not install.
+    auto *const focused = qobject_cast<ActionButton *>(focusWidget());
+    ActionButton *const usual = m_action->isDefault() ? m_action : m_dismissal;
+    (focused ? focused : usual)->click();
 }
 
 } // namespace corvane

@@ -9,10 +9,10 @@
 class QHBoxLayout;
 class QPlainTextEdit;
 class QProgressBar;
-class QPushButton;
 
 namespace corvane {
 
+class ActionButton;
 class TextLabel;
 struct UpdateTexts;
 
@@ -32,6 +32,9 @@ public:
 
     void setReport(const UpdateReport &report, const UpdateTexts &texts);
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     QHBoxLayout *makeButtons();
 
@@ -40,8 +43,8 @@ private:
     TextLabel *m_detail;
     QPlainTextEdit *m_notes;
     QProgressBar *m_progress;
-    QPushButton *m_action;
-    QPushButton *m_dismissal;
+    ActionButton *m_action;
+    ActionButton *m_dismissal;
 };
 
 } // namespace corvane
