@@ -1,13 +1,12 @@
 #include "app/updates/installation.h"
 
+#include "platform/regular_file.h"
+
 #include <QStringBuilder>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <array>
-#include <climits>
 #include <cstdlib>
 #include <memory>
 
@@ -32,16 +31,9 @@ bool isBelow(const QByteArray &path, const QByteArray &folder)
 /// An ELF file whose unused bytes say "AI" and the format's number, 1 or 2.
 bool hasMark(const QByteArray &path)
 {
-    constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW;
-    const int descriptor = ::open(path.constData(), flags);
-    if (descriptor < 0)
-        return false;
     constexpr qsizetype markEnd = 11;
-    std::array<char, markEnd> head = {};
-    const bool isRead = ::pread(descriptor, head.data(), head.size(), 0) == markEnd;
-    ::close(descriptor);
-    const QByteArray bytes(head.data(), markEnd);
-    return isRead
+    const QByteArray bytes = regular_file::beginning(path, markEnd).value_or(QByteArray());
+    return bytes.size() == markEnd
         && bytes.startsWith("\x7f"
                             "ELF")
         && bytes.mid(8, 2) == "AI" && (bytes.back() == '\1' || bytes.back() == '\2');

@@ -1,5 +1,7 @@
 #include "app/updates/update_file.h"
 
+#include "platform/regular_file.h"
+
 #include <QStringBuilder>
 
 #include <fcntl.h>
@@ -22,15 +24,11 @@ const QByteArray prefix = QByteArrayLiteral(".corvane-update-");
 /// A leftover is one that nobody holds the lock of.
 void removeIfLeftOver(const QByteArray &path)
 {
-    constexpr int flags = O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | O_NOFOLLOW;
-    const int descriptor = ::open(path.constData(), flags);
-    if (descriptor < 0)
-        return;
+    const FileDescriptor opened = regular_file::open(path);
     struct stat status = {};
-    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == ::geteuid()
-        && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0)
+    if (opened.isOpen() && ::fstat(opened.number(), &status) == 0 && status.st_uid == ::geteuid()
+        && ::flock(opened.number(), LOCK_EX | LOCK_NB) == 0)
         ::unlink(path.constData());
-    ::close(descriptor);
 }
 
 void removeLeftovers(const QByteArray &folder)
@@ -59,20 +57,21 @@ std::unique_ptr<UpdateFile> UpdateFile::make(const QByteArray &folder, qint64 le
     ::mkdir(folder.constData(), S_IRWXU);
     removeLeftovers(folder);
     QByteArray path = folder + '/' + prefix + "XXXXXX";
-    const int descriptor = ::mkostemp(path.data(), O_CLOEXEC);
-    if (descriptor < 0) {
+    FileDescriptor made(::mkostemp(path.data(), O_CLOEXEC));
+    if (!made.isOpen()) {
         error = errno;
         return nullptr;
     }
-    std::unique_ptr<UpdateFile> file(new UpdateFile(descriptor, path));
-    if (::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && setRoomAside(descriptor, length))
+    std::unique_ptr<UpdateFile> file(new UpdateFile(std::move(made), path));
+    if (::flock(file->descriptor(), LOCK_EX | LOCK_NB) == 0
+        && setRoomAside(file->descriptor(), length))
         return file;
     error = errno;
     return nullptr;
 }
 
-UpdateFile::UpdateFile(int descriptor, QByteArray path)
-    : m_descriptor(descriptor)
+UpdateFile::UpdateFile(FileDescriptor descriptor, QByteArray path)
+    : m_descriptor(std::move(descriptor))
     , m_path(std::move(path))
 {
 }
@@ -81,14 +80,13 @@ UpdateFile::~UpdateFile()
 {
     if (!m_path.isEmpty())
         ::unlink(m_path.constData());
-    ::close(m_descriptor);
 }
 
 bool UpdateFile::append(const QByteArray &bytes)
 {
     qsizetype written = 0;
     while (written < bytes.size()) {
-        const auto count = ::write(m_descriptor, bytes.constData() + written,
+        const auto count = ::write(m_descriptor.number(), bytes.constData() + written,
                                    static_cast<std::size_t>(bytes.size() - written));
         if (count < 0 && errno == EINTR)
             continue;

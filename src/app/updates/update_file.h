@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/file_descriptor.h"
+
 #include <QByteArray>
 
 #include <memory>
@@ -25,16 +27,16 @@ public:
     /// How many bytes have been taken.
     qint64 size() const { return m_size; }
 
-    int descriptor() const { return m_descriptor; }
+    int descriptor() const { return m_descriptor.number(); }
     QByteArray path() const { return m_path; }
 
     /// It has another name now, and stays.
     void release() { m_path.clear(); }
 
 private:
-    UpdateFile(int descriptor, QByteArray path);
+    UpdateFile(FileDescriptor descriptor, QByteArray path);
 
-    int m_descriptor;
+    FileDescriptor m_descriptor;
     QByteArray m_path;
     qint64 m_size = 0;
     int m_error = 0;
