@@ -189,7 +189,7 @@ protected:
     {
         startUpdating();
         checkFromMenu();
-        EXPECT_TRUE(says("No update could be looked for"));
+        EXPECT_TRUE(says("Corvane could not check for updates"));
         EXPECT_TRUE(isUntouched());
     }
 

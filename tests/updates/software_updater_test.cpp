@@ -382,6 +382,22 @@ TEST_F(SoftwareUpdaterTest, AnUnverifiedFileIsNeverHandedOver)
     EXPECT_TRUE(desktop.opened.isEmpty());
 }
 
+TEST_F(SoftwareUpdaterTest, WhatHasBeenTakenIsNotOfferedAgainBeforeTheNextStart)
+{
+    beginDownload();
+    downloader.sendWhole(UpdateFolder::newImage());
+    settle();
+    display.onDismiss();
+    display.stages.clear();
+    pass(day);
+    answer(newer());
+    EXPECT_TRUE(display.stages.empty());
+    checkNow(newer());
+    EXPECT_EQ(display.stages, (std::vector{Stage::Checking, Stage::Replaced}));
+    checkNow(feed(item("12", UpdateFolder::newImage())));
+    EXPECT_EQ(display.report.stage, Stage::Available);
+}
+
 TEST_F(SoftwareUpdaterTest, AskingAgainShowsWhatIsUnderWay)
 {
     beginDownload();

@@ -168,7 +168,7 @@ TEST_F(UpdateWindowTest, EveryFailureSaysSomethingElse)
         UpdateReport failed{Stage::Failed};
         failed.failure = static_cast<UpdateFailure>(i);
         const auto texts = UpdateTexts::of(failed, QStringLiteral("1.0"), true);
-        EXPECT_EQ(texts.title, QStringLiteral("No update could be looked for"));
+        EXPECT_EQ(texts.title, QStringLiteral("Corvane could not check for updates"));
         EXPECT_FALSE(texts.detail.isEmpty());
         EXPECT_FALSE(details.contains(texts.detail)) << i;
         details << texts.detail;

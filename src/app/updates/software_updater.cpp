@@ -1,10 +1,6 @@
 #include "app/updates/software_updater.h"
 
-#include "app/updates/update_file.h"
-#include "app/updates/update_files.h"
 #include "app/updates/update_installation.h"
-#include "platform/desktop_services.h"
-#include "platform/file_url.h"
 #include "platform/work_queue.h"
 
 #include <QStringBuilder>
@@ -12,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <utility>
 
 namespace corvane {
@@ -28,18 +23,7 @@ bool isComplete(const AppcastEnclosure &enclosure)
         && !enclosure.url.isRelative();
 }
 
-QByteArray folderOf(const QByteArray &path)
-{
-    return path.left(path.lastIndexOf('/'));
-}
-
 } // namespace
-
-/// How an installation ended.
-struct SoftwareUpdater::Installed {
-    std::optional<UpdateFailure> failure;
-    QByteArray path = {};
-};
 
 SoftwareUpdater::SoftwareUpdater(Context context, Program program)
     : m_context(std::move(context))
@@ -169,6 +153,8 @@ void SoftwareUpdater::feedArrived(const std::optional<WebResponse> &response)
     // What runs may have no version that could be compared; then nothing is known to be newer.
     if (!present || choice.newest->version <= *present)
         return rest({Stage::UpToDate});
+    if (m_taken && choice.newest->version == *m_taken)
+        return rest(m_takenReport);
     if (!isComplete(choice.newest->enclosure))
         return fail(UpdateFailure::Incomplete);
     m_feedFoundIn = response->foundIn;
@@ -205,92 +191,6 @@ void SoftwareUpdater::offer(const UpdateOffer &offer)
     m_context.display.show(m_report, m_attention);
 }
 
-void SoftwareUpdater::install()
-{
-    if (m_state != State::Offering)
-        return;
-    m_state = State::Downloading;
-    m_report.stage = Stage::Downloading;
-    m_context.display.update(m_report);
-    const bool replaces = m_program.installation.kind == Installation::Kind::AppImage;
-    m_download = std::make_unique<UpdateDownload>(
-        m_context.download,
-        UpdateDownload::Plan{
-            m_offer->enclosure, m_feedFoundIn, "Corvane/" + m_program.version.toLatin1(),
-            replaces ? folderOf(m_program.installation.appImage) : m_program.downloadsFolder});
-    // They are not called any more once the download is gone, and it goes with this.
-    m_download->onProgress = [this](qint64 received) {
-        // More often nobody could see it.
-        constexpr qint64 steps = 200;
-        if (received < m_report.total && received - m_report.received < m_report.total / steps)
-            return;
-        m_report.received = received;
-        m_context.display.update(m_report);
-    };
-    m_download->onEnd
-        = [this](const std::shared_ptr<UpdateFile> &file, std::optional<UpdateFailure> failure) {
-              downloadEnded(file, failure);
-          };
-    m_download->start();
-}
-
-void SoftwareUpdater::downloadEnded(const std::shared_ptr<UpdateFile> &file,
-                                    std::optional<UpdateFailure> failure)
-{
-    m_download.reset();
-    if (failure)
-        return fail(*failure);
-    m_state = State::Installing;
-    m_report.stage = Stage::Installing;
-    m_context.display.update(m_report);
-    verifyAndInstall(file);
-}
-
-void SoftwareUpdater::verifyAndInstall(const std::shared_ptr<UpdateFile> &file)
-{
-    const std::weak_ptr<bool> alive = m_alive;
-    const auto work = [file, &files = m_context.files, key = m_program.publicKey,
-                       enclosure = m_offer->enclosure, version = m_offer->version.text(),
-                       installation = m_program.installation]() -> Installed {
-        const auto publicKey = UpdateKey::fromBase64(key);
-        if (!publicKey
-            || !publicKey->hasSigned(file->descriptor(), enclosure.length, enclosure.signature))
-            return {UpdateFailure::WrongSignature};
-        const QByteArray name
-            = update_installation::safeName(enclosure.url.fileName(QUrl::FullyDecoded), version);
-        const auto outcome = installation.kind == Installation::Kind::AppImage
-            ? update_installation::swap(files, *file, installation.appImage)
-            : update_installation::handOver(files, *file, name);
-        if (outcome.error == 0)
-            return {std::nullopt, outcome.path};
-        return {outcome.error == ENOSPC ? UpdateFailure::NoRoom : UpdateFailure::NotWritten};
-    };
-    m_context.download.work.run([this, alive, work, &queue = m_context.download.queue] {
-        const Installed outcome = work();
-        queue.async([this, alive, outcome] {
-            if (!alive.expired())
-                installed(outcome);
-        });
-    });
-}
-
-void SoftwareUpdater::installed(const Installed &outcome)
-{
-    if (outcome.failure)
-        return fail(*outcome.failure);
-    UpdateReport report = m_report;
-    const bool isReplaced = m_program.installation.kind == Installation::Kind::AppImage;
-    report.stage = isReplaced ? Stage::Replaced : Stage::HandedOver;
-    if (!isReplaced) {
-        m_handedOver = outcome.path;
-        report.fileName = file_url::lastPathComponent(outcome.path);
-    }
-    m_attention = UpdateAttention::Asked;
-    rest(report);
-    if (!isReplaced)
-        showFile();
-}
-
 void SoftwareUpdater::dismiss()
 {
     // What is being put into its place is not left half done.
@@ -300,12 +200,6 @@ void SoftwareUpdater::dismiss()
     m_download.reset();
     m_offer.reset();
     m_state = State::Resting;
-}
-
-void SoftwareUpdater::showFile() const
-{
-    if (!m_handedOver.isEmpty())
-        m_context.desktop.open(file_url::fromNativePath(folderOf(m_handedOver)));
 }
 
 void SoftwareUpdater::rest(const UpdateReport &report)

@@ -107,6 +107,9 @@ private:
     AddressSpace m_feedFoundIn = AddressSpace::Public;
     std::unique_ptr<UpdateDownload> m_download;
     QByteArray m_handedOver;
+    /// What has been taken while this program runs, and was told of it; it is not offered again.
+    std::optional<UpdateVersion> m_taken;
+    UpdateReport m_takenReport;
     /// What was begun before it was last raised is not waited for any more.
     int m_generation = 0;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);

@@ -115,7 +115,7 @@ void UpdateDownload::transferEnded(const std::shared_ptr<Transfer> &transfer,
 }
 
 void UpdateDownload::finish(const std::shared_ptr<UpdateFile> &file,
-                            std::optional<UpdateFailure> failure)
+                            std::optional<UpdateFailure> failure) const
 {
     // A copy: whoever is called may delete this.
     const auto callback = onEnd;

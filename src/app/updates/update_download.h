@@ -61,7 +61,8 @@ private:
     void transferEnded(const std::shared_ptr<Transfer> &transfer,
                        const std::optional<WebResponse> &response);
     void progressed(qint64 bytes) const;
-    void finish(const std::shared_ptr<UpdateFile> &file, std::optional<UpdateFailure> failure);
+    void finish(const std::shared_ptr<UpdateFile> &file,
+                std::optional<UpdateFailure> failure) const;
 
     Context m_context;
     Plan m_plan;

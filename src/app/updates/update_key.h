@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <optional>
+#include <utility>
 
 namespace corvane {
 
@@ -19,8 +20,8 @@ public:
     bool hasSigned(int descriptor, qint64 length, const QByteArray &signature) const;
 
 private:
-    explicit UpdateKey(const QByteArray &bytes)
-        : m_bytes(bytes)
+    explicit UpdateKey(QByteArray bytes)
+        : m_bytes(std::move(bytes))
     {
     }
 

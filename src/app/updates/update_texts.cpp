@@ -118,7 +118,7 @@ UpdateTexts UpdateTexts::of(const UpdateReport &report, const QString &runningVe
         break;
     }
     const QString title = report.version.isEmpty()
-        ? translated(QT_TRANSLATE_NOOP("UpdateTexts", "No update could be looked for"))
+        ? translated(QT_TRANSLATE_NOOP("UpdateTexts", "Corvane could not check for updates"))
         : translated(QT_TRANSLATE_NOOP("UpdateTexts", "Corvane was not updated"));
     return {title, failureText(report.failure), {}, close};
 }
