@@ -2,6 +2,7 @@
 #include "app/welcome/illustration_view.h"
 #include "app/welcome/welcome_illustration.h"
 #include "app/welcome/welcome_scene.h"
+#include "app/welcome/welcome_shapes.h"
 #include "app/welcome/welcome_view.h"
 #include "app/welcome/welcome_window_controller.h"
 #include "app/widget_hands.h"
@@ -202,7 +203,7 @@ TEST(WelcomeIllustration, NothingChangesOutsideOfWhatIsPaintedAnew)
             for (int i = 1; i <= frames; ++i) {
                 const WelcomeScene now = welcome_scene::at(step, static_cast<double>(i) / frames);
                 QImage next = picture(now);
-                const QRegion changed = welcome_illustration::changed(area, before, now);
+                const QRegion changed = welcome_shapes::changed(area, before, now);
                 QImage patched = shown;
                 QPainter painter(&patched);
                 painter.setClipRegion(changed);
@@ -219,8 +220,7 @@ TEST(WelcomeIllustration, NothingChangesOutsideOfWhatIsPaintedAnew)
 TEST(WelcomeIllustration, AMomentThatIsLikeTheOneBeforeIsNotPaintedAnew)
 {
     const WelcomeScene scene = welcome_scene::at(WelcomeStep::DragIn, 0.1);
-    EXPECT_TRUE(
-        welcome_illustration::changed({{0, 0}, WelcomeScene::stageSize}, scene, scene).isEmpty());
+    EXPECT_TRUE(welcome_shapes::changed({{0, 0}, WelcomeScene::stageSize}, scene, scene).isEmpty());
 }
 
 TEST(WelcomeScene, EndsWhereItBegins)

@@ -135,6 +135,16 @@ TEST_F(Life, withoutASessionBusItRunsAlone)
     EXPECT_TRUE(opensForADrag());
 }
 
+TEST_F(Life, aBusWithoutAnAddressIsFoundInItsUsualPlace)
+{
+    CorvaneProgram::Start how;
+    how.environment = m_desktop.environment();
+    how.environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
+    start(how);
+    EXPECT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::empty));
+}
+
 TEST_F(Life, whereTheSessionHasNoBusNoneIsStarted)
 {
     auto environment = m_desktop.environment();

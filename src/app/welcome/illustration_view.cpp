@@ -1,6 +1,7 @@
 #include "app/welcome/illustration_view.h"
 
 #include "app/welcome/welcome_illustration.h"
+#include "app/welcome/welcome_shapes.h"
 #include "platform/motion_preference.h"
 
 #include <QPainter>
@@ -50,7 +51,7 @@ WelcomeScene IllustrationView::presentScene() const
 void IllustrationView::showPresentScene()
 {
     const WelcomeScene before = std::exchange(m_scene, presentScene());
-    const QRegion region = welcome_illustration::changed(rect(), before, m_scene);
+    const QRegion region = welcome_shapes::changed(rect(), before, m_scene);
     if (!region.isEmpty())
         update(region);
 }

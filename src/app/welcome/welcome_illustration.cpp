@@ -1,5 +1,6 @@
 #include "app/welcome/welcome_illustration.h"
 
+#include "app/welcome/welcome_shapes.h"
 #include "app/window_look.h"
 #include "shelf/pill_path.h"
 
@@ -8,8 +9,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
-#include <QRegion>
-#include <QTransform>
 
 #include <algorithm>
 
@@ -17,18 +16,12 @@ namespace corvane::welcome_illustration {
 
 namespace {
 
+using namespace welcome_shapes;
+
 constexpr QRectF leftWindow{52, 140, 186, 152};
 constexpr QRectF rightWindow{282, 126, 186, 166};
 constexpr double windowRadius = 9;
 constexpr double titleBarHeight = 20;
-constexpr QSizeF cardSize{40, 48};
-constexpr double cardShadow = 4;
-constexpr QRectF keyCap{238, 240, 44, 40};
-constexpr double keyShadow = 6;
-constexpr double keyTravel = 3;
-constexpr double arrowLine = 2.4;
-constexpr QSizeF notchSize{124, 23};
-constexpr QSizeF shelfSize{244, 58};
 constexpr double notchRadius = 8;
 constexpr double shelfRadius = 18;
 constexpr double ringInset = 7;
@@ -158,13 +151,6 @@ void drawCard(QPainter &painter, const WelcomeScene::Card &card, const Colours &
     painter.restore();
 }
 
-QRectF shelfBounds(double open)
-{
-    const QSizeF size(between(notchSize.width(), shelfSize.width(), open),
-                      between(notchSize.height(), shelfSize.height(), open));
-    return {QPointF((WelcomeScene::stageSize.width() - size.width()) / 2, 0), size};
-}
-
 void drawShelf(QPainter &painter, const WelcomeScene &scene)
 {
     const QRectF bounds = shelfBounds(scene.shelf);
@@ -204,13 +190,6 @@ void drawKey(QPainter &painter, double pressed, const Colours &colours, const QF
     painter.drawText(cap, Qt::AlignCenter, QStringLiteral("⇧"));
 }
 
-const QPolygonF &arrow()
-{
-    static const QPolygonF outline(
-        {{0, 0}, {0, 17}, {4, 13.4}, {6.6, 19.4}, {9.4, 18.2}, {6.8, 12.4}, {12.2, 12.2}});
-    return outline;
-}
-
 void drawPointer(QPainter &painter, QPointF tip)
 {
     painter.save();
@@ -221,57 +200,6 @@ void drawPointer(QPainter &painter, QPointF tip)
     painter.setPen(Qt::NoPen);
     painter.drawPolygon(arrow());
     painter.restore();
-}
-
-QRectF grown(const QRectF &rect, double by)
-{
-    return rect.adjusted(-by, -by, by, by);
-}
-
-QRectF boundsOf(const WelcomeScene::Card &card)
-{
-    const QSizeF size = cardSize * card.scale;
-    const QRectF rect({card.centre.x() - size.width() / 2, card.centre.y() - size.height() / 2},
-                      size);
-    // The shadow reaches a third further down, and no further on the other sides.
-    return grown(rect, cardShadow * 4 / 3 * card.scale);
-}
-
-QRectF pointerBounds(const WelcomeScene &scene)
-{
-    return grown(arrow().boundingRect().translated(scene.pointer), arrowLine);
-}
-
-/// The bounds of everything that is not as it was, as it was and as it is.
-QList<QRectF> changedBounds(const WelcomeScene &before, const WelcomeScene &after)
-{
-    QList<QRectF> bounds;
-    if (before.shelf != after.shelf || before.ring != after.ring)
-        bounds << shelfBounds(before.shelf) << shelfBounds(after.shelf);
-    if (before.key != after.key || before.showsKey != after.showsKey)
-        bounds << grown(keyCap, keyShadow * 4 / 3 + keyTravel);
-    if (before.pointer != after.pointer || before.pointerOpacity != after.pointerOpacity)
-        bounds << pointerBounds(before) << pointerBounds(after);
-    for (qsizetype i = 0; i < std::max(before.cards.size(), after.cards.size()); ++i) {
-        const bool isThere = i < before.cards.size() && i < after.cards.size();
-        if (isThere && before.cards[i] == after.cards[i])
-            continue;
-        if (i < before.cards.size())
-            bounds << boundsOf(before.cards[i]);
-        if (i < after.cards.size())
-            bounds << boundsOf(after.cards[i]);
-    }
-    return bounds;
-}
-
-/// Where the stage is in the area.
-QTransform stageIn(const QRectF &area)
-{
-    const QSizeF stage = WelcomeScene::stageSize;
-    const double scale = std::min(area.width() / stage.width(), area.height() / stage.height());
-    return QTransform()
-        .translate(area.center().x() - stage.width() * scale / 2, area.top())
-        .scale(scale, scale);
 }
 
 void raise(QPainter &painter, const QRectF &area)
@@ -311,18 +239,6 @@ void drawActors(QPainter &painter, const QRectF &area, const WelcomeScene &scene
     painter.setOpacity(scene.pointerOpacity);
     drawPointer(painter, scene.pointer);
     painter.restore();
-}
-
-QRegion changed(const QRectF &area, const WelcomeScene &before, const WelcomeScene &after)
-{
-    const QTransform stage = stageIn(area);
-    QRegion region;
-    for (const QRectF &bounds : changedBounds(before, after)) {
-        // Soft edges cover a part of the next pixel, too.
-        constexpr double softness = 1;
-        region += grown(stage.mapRect(bounds), softness).toAlignedRect();
-    }
-    return region;
 }
 
 } // namespace corvane::welcome_illustration

@@ -6,7 +6,6 @@ class QFont;
 class QPainter;
 class QPalette;
 class QRectF;
-class QRegion;
 
 namespace corvane::welcome_illustration {
 
@@ -20,8 +19,5 @@ void drawBackdrop(QPainter &painter, const QRectF &area, bool showsKey, const QP
 /// What stands before it and may move; `keyFont` has a sign for the Shift key.
 void drawActors(QPainter &painter, const QRectF &area, const WelcomeScene &scene,
                 const QPalette &palette, const QFont &keyFont);
-
-/// Where the pictures of two moments of one play may differ, in whole units of the area.
-QRegion changed(const QRectF &area, const WelcomeScene &before, const WelcomeScene &after);
 
 } // namespace corvane::welcome_illustration
