@@ -4,27 +4,15 @@
 #include "platform/checked_math.h"
 #include "platform/geometry.h"
 #include "platform/main_queue.h"
+#include "shelf/optional_callback.h"
 #include "shelf/pill_path.h"
 #include "shelf/theme.h"
 
 #include <QPainter>
 
 #include <cmath>
-#include <type_traits>
 
 namespace corvane {
-
-namespace {
-
-template<typename... Arguments>
-void call(const std::function<void(Arguments...)> &callback,
-          std::type_identity_t<Arguments>... arguments)
-{
-    if (callback)
-        callback(arguments...);
-}
-
-} // namespace
 
 ShelfView::ShelfView(const Context &context)
     : m_context(context)

@@ -2,10 +2,9 @@
 
 #include "core/drop_item.h"
 #include "platform/panel_window.h"
-#include "shelf/bitmap_layer.h"
-#include "shelf/glass_background.h"
-#include "shelf/text_layer.h"
-#include "shelf/view_all_tile.h"
+#include "shelf/layer_tree.h"
+#include "shelf/view_all_layers.h"
+#include "shelf/view_all_layout.h"
 
 #include <QList>
 #include <QSet>
@@ -14,7 +13,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <vector>
+#include <span>
 
 namespace corvane {
 
@@ -36,7 +35,6 @@ struct Theme;
 /// everything in the context must outlive the view.
 class ViewAllView : public PanelContent {
 public:
-    static constexpr double cornerRadius = 20;
     /// A press that moves farther than this, in points, is a drag.
     static constexpr double dragDistance = 3;
     static constexpr double preciseScrollStep = 34;
@@ -82,7 +80,7 @@ public:
     const ViewAllLayout &layout() const { return m_layout; }
     std::optional<ViewAllControl> hoveredControl() const { return m_hoveredControl; }
     std::optional<QUuid> hovered() const { return m_hovered; }
-    std::size_t tileCount() const { return m_tiles.size(); }
+    std::size_t tileCount() const { return m_layers.tileCount(); }
 
     void paint(QPainter &painter, QSizeF size, double scale) override;
     void mouseDown(const MouseEvent &event) override;
@@ -100,23 +98,14 @@ public:
     void draggingEnded() override { }
 
 private:
-    struct Arrow {
-        explicit Arrow(LayerTree &tree)
-            : plate(tree)
-            , caret(tree)
-        {
-        }
-        Layer plate;
-        BitmapLayer caret;
-    };
-
-    void buildLayers();
     int itemCount() const { return m_items ? static_cast<int>(m_items->size()) : 0; }
+    bool isSelected(const DropItem &item) const
+    {
+        return m_selection && m_selection->contains(item.id());
+    }
     view_all_layout::Range visible() const;
-    void syncTiles();
+    std::span<const DropItem> page() const;
     void relayout();
-    void applyLayout();
-    void applyArrow(Arrow &arrow, const ViewAllLayout::Arrow &layout);
     const DropItem *itemAt(QPointF point) const;
     const DropItem *itemWithId(const QUuid &id) const;
     bool findHovered();
@@ -128,17 +117,7 @@ private:
 
     Context m_context;
     LayerTree m_tree;
-    std::unique_ptr<GlassBackground> m_glass;
-    Layer m_contentHost;
-    Layer m_content;
-    Arrow m_leftArrow;
-    Arrow m_rightArrow;
-    BitmapLayer m_selectAllBox;
-    TextLayer m_selectAllLabel;
-    BitmapLayer m_copyButton;
-    BitmapLayer m_trashButton;
-    // After the layer that contains them.
-    std::vector<std::unique_ptr<ViewAllTile>> m_tiles;
+    ViewAllLayers m_layers;
 
     const QList<DropItem> *m_items = nullptr;
     const QSet<QUuid> *m_selection = nullptr;

@@ -5,28 +5,16 @@
 #include "core/scratch_spool.h"
 #include "platform/keyboard.h"
 #include "shelf/drag_stack.h"
+#include "shelf/optional_callback.h"
 #include "shelf/view_all_view.h"
 
 #include <QLineF>
 
 #include <algorithm>
 #include <cmath>
-#include <type_traits>
 #include <utility>
 
 namespace corvane {
-
-namespace {
-
-template<typename... Arguments>
-void call(const std::function<void(Arguments...)> &callback,
-          std::type_identity_t<Arguments>... arguments)
-{
-    if (callback)
-        callback(arguments...);
-}
-
-} // namespace
 
 /// False when what is under the pointer is what was. While it is on a control the tile that it came
 /// from stays the hovered one.
@@ -155,9 +143,8 @@ Image ViewAllView::dragImage(const DropItem &grabbed, const QList<DropItem> &ite
 
 void ViewAllView::beginDrag(const DropItem &grabbed)
 {
-    const bool isSelected = m_selection && m_selection->contains(grabbed.id());
-    DragSet set
-        = makeDragSet(isSelected ? selectedInOrder() : QList<DropItem>{grabbed}, m_context.spool);
+    DragSet set = makeDragSet(isSelected(grabbed) ? selectedInOrder() : QList<DropItem>{grabbed},
+                              m_context.spool);
     if (set.items.isEmpty()) {
         call(onNothingToDrag);
         return;

@@ -55,7 +55,7 @@ protected:
             items << ShelfDesk::textItem(QStringLiteral("item %1").arg(i));
         store.accept(items);
     }
-    ShelfView &view() { return *static_cast<ShelfView *>(desk.panel.content); }
+    ShelfView &view() { return dynamic_cast<ShelfView &>(*desk.panel.content); }
     const ShelfSnapshot &snapshot() { return view().look().snapshot; }
     QRectF frame() const { return desk.panel.frame(); }
     void settle() { desk.clock.advance(3); }

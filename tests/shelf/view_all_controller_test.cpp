@@ -58,7 +58,7 @@ protected:
         store.observeItems([this](const QList<DropItem> &) { ++m_published; });
     }
     QPointF middleOf(std::size_t tile) { return view().layout().tiles.at(tile).root.center(); }
-    void drag(QPointF from)
+    void drag(QPointF from) const
     {
         panel.content->mouseDown({from});
         panel.content->mouseDragged({from + QPointF(9, 0)});

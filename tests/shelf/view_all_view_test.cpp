@@ -72,7 +72,7 @@ protected:
         view->mouseDown({from});
         view->mouseDragged({from + QPointF(4, 0)});
     }
-    void endDrag(DragOperation operation) { desk.panel.endDragOut(operation); }
+    void endDrag(DragOperation operation) const { desk.panel.endDragOut(operation); }
     void scroll(double delta, bool precise = false)
     {
         view->scrollWheel({delta, precise, ScrollEvent::Phase::None, 0});
