@@ -225,7 +225,7 @@ TEST(PageReader, PrefersTheFirstKeyThatAnythingIsHeldUnder)
 TEST(PageReader, FindsAPreferredKeyBehindAnyNumberOfOthers)
 {
     const auto many
-        = [](const char *tag) { return repeated(tag, 100'000) + text("<meta name=b content=b>"); };
+        = [](const char *tag) -> QString { return repeated(tag, 100'000) + text("<meta>"); };
     const QString page = many("<meta name=twitter:title content=b>")
         + many("<meta name=description content=b>") + many("<meta name=og:title content=''>")
         + many("<meta name=a name=og:title content=b>")
@@ -235,6 +235,14 @@ TEST(PageReader, FindsAPreferredKeyBehindAnyNumberOfOthers)
     const QString held = text("<meta name=og:title content=a>") + page + page;
     EXPECT_EQ(parse(held, pageUrl).title, text("a"));
     EXPECT_EQ(parse(held, pageUrl).summary, text("a"));
+}
+
+TEST(PageReader, PrefersAHeldKeyToALaterOneThatStandsBesideAnother)
+{
+    EXPECT_EQ(read("<meta name=og:title content=a>"
+                   "<meta name=twitter:title data-name=og:image content=b>")
+                  .title,
+              text("a"));
 }
 
 TEST(PageReader, PrefersThePropertyToTheName)

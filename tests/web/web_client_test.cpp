@@ -218,6 +218,7 @@ TEST_F(WebClientTest, connectionsCutAtAnyStageBringNothing)
     for (const char *sent : {"", "HTTP/1.1 2", "HTTP/1.1 200 OK\r\nA: b\r\n",
                              "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n",
                              "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n012345678",
+                             "HTTP/1.1 404 Not Found\r\nContent-Length: 10\r\n\r\n012345678",
                              "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5\r\n0123"}) {
         server.answer("/", sent);
         EXPECT_FALSE(fetch(server.url())) << sent;
