@@ -1,10 +1,10 @@
 #include "core/scratch_spool.h"
 
 #include "core/characters.h"
-#include "core/private_file.h"
 #include "core/spool_directory.h"
 #include "platform/checked_math.h"
 #include "platform/file_url.h"
+#include "platform/private_file.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

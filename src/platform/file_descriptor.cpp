@@ -49,6 +49,8 @@ bool FileDescriptor::write(const QByteArray &data) const
         const ssize_t count = ::write(m_number, data.constData() + written, rest);
         if (count < 0 && errno == EINTR)
             continue;
+        if (count == 0)
+            errno = ENOSPC;
         if (count <= 0)
             return false;
         written += count;

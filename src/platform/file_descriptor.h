@@ -21,7 +21,7 @@ public:
     /// False where what was written could not be kept: a full disk may speak up only now.
     bool close();
 
-    /// All the bytes, or false.
+    /// All the bytes, or false; `errno` says why.
     bool write(const QByteArray &data) const;
 
 private:

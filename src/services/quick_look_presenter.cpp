@@ -2,8 +2,8 @@
 
 #include "core/display_text.h"
 #include "core/drop_item.h"
-#include "core/private_file.h"
 #include "platform/file_url.h"
+#include "platform/private_file.h"
 
 #include <QUuid>
 

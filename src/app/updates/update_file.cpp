@@ -84,17 +84,9 @@ UpdateFile::~UpdateFile()
 
 bool UpdateFile::append(const QByteArray &bytes)
 {
-    qsizetype written = 0;
-    while (written < bytes.size()) {
-        const auto count = ::write(m_descriptor.number(), bytes.constData() + written,
-                                   static_cast<std::size_t>(bytes.size() - written));
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count <= 0) {
-            m_error = count == 0 ? ENOSPC : errno;
-            return false;
-        }
-        written += count;
+    if (!m_descriptor.write(bytes)) {
+        m_error = errno;
+        return false;
     }
     m_size += bytes.size();
     return true;

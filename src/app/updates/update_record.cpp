@@ -1,6 +1,6 @@
 #include "app/updates/update_record.h"
 
-#include "platform/freedesktop/thumbnails/private_cache_file.h"
+#include "platform/private_file.h"
 #include "platform/regular_file.h"
 
 #include <QDir>
@@ -63,7 +63,7 @@ void UpdateRecordFile::save(const UpdateRecord &record) const
         object.insert(buildKey, record.highestBuild->text());
     if (record.highestShortVersion)
         object.insert(shortVersionKey, record.highestShortVersion->text());
-    private_cache_file::write("/", m_folder, fileName, QJsonDocument(object).toJson());
+    private_file::replace("/", m_folder, fileName, QJsonDocument(object).toJson());
 }
 
 } // namespace corvane

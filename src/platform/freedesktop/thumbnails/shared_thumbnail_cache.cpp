@@ -1,9 +1,9 @@
 #include "platform/freedesktop/thumbnails/shared_thumbnail_cache.h"
 
 #include "platform/freedesktop/thumbnails/png_text.h"
-#include "platform/freedesktop/thumbnails/private_cache_file.h"
 #include "platform/freedesktop/thumbnails/thumbnail_uri.h"
 #include "platform/image_codec.h"
+#include "platform/private_file.h"
 #include "platform/regular_file.h"
 
 #include <QCryptographicHash>
@@ -145,7 +145,7 @@ void SharedThumbnailCache::write(const QByteArray &folder, const FileVersion &fi
                                    {"Thumb::MTime", QByteArray::number(file.modificationTime)},
                                    {"Thumb::Size", QByteArray::number(file.size)},
                                    {"Software", "Corvane"}};
-    private_cache_file::write(m_places.cacheFolder, folder, fileName(uri),
+    private_file::replace(m_places.cacheFolder, folder, fileName(uri),
                               png_text::withTexts(*png, texts));
 }
 
