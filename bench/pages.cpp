@@ -71,4 +71,6 @@ int main()
                  R"(<meta property="og:title" content="x">)");
     printHostile("the same of it without a content", R"(<meta property="og:title" content="">)");
     printHostile("the same of keys as contents", "<meta name=a content=og:title>");
+    printHostile("the same of keys that another name precedes",
+                 "<meta name=x name=og:title content=y>");
 }
