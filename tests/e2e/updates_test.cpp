@@ -315,7 +315,7 @@ TEST_F(Updates, aFeedThatARedirectionHasOnHttpIsNotFetched)
 
 TEST_F(Updates, aFeedThatIsNoXmlIsSaidToBe)
 {
-    announce("{\"version\": 11}");
+    announce(R"({"version": 11})");
     expectNoOffer();
 }
 

@@ -92,7 +92,7 @@ TEST(Appcast, WhatIsNoFeedIsNone)
 {
     for (const QByteArray &bytes :
          {QByteArray(), QByteArray("hello"), QByteArray("<html><body/></html>"),
-          QByteArray("<rss><channel><item></channel></rss>"), QByteArray("{\"a\": 1}"),
+          QByteArray("<rss><channel><item></channel></rss>"), QByteArray(R"({"a": 1})"),
           QByteArray(1000, '\0')})
         EXPECT_FALSE(appcast::read(bytes)) << bytes.toStdString();
 }

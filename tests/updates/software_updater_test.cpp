@@ -166,7 +166,7 @@ TEST_F(SoftwareUpdaterTest, AFeedThatCannotBeHadIsSaidToBe)
 TEST_F(SoftwareUpdaterTest, WhatIsNoFeedIsSaidToBe)
 {
     for (const QByteArray &bytes : {QByteArray("<html/>"), entityBomb(),
-                                    QByteArray(newer() + QByteArray(1024 * 1024, ' '))}) {
+                                    QByteArray(newer() + QByteArray(appcast::maximumBytes, ' '))}) {
         checkNow(bytes);
         EXPECT_TRUE(hasFailed(UpdateFailure::NotAFeed));
     }

@@ -128,8 +128,8 @@ TEST(UpdateSwap, TheNewOneTakesThePlaceAndTheOldOneIsKeptBesideIt)
     file.reset();
     EXPECT_EQ(outcome.error, 0);
     EXPECT_EQ(outcome.path, folder.appImage());
-    EXPECT_TRUE(folder.contents(folder.appImage()) == UpdateFolder::newImage());
-    EXPECT_TRUE(folder.contents(folder.previous()) == UpdateFolder::oldImage());
+    EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::newImage());
+    EXPECT_TRUE(UpdateFolder::contents(folder.previous()) == UpdateFolder::oldImage());
     EXPECT_EQ(permissions(folder.appImage()), 0751U);
     EXPECT_EQ(permissions(folder.previous()), 0751U);
     EXPECT_EQ(folder.names(), imageAndPrevious);
@@ -142,22 +142,22 @@ TEST(UpdateSwap, WheneverTheProcessIsKilledAWholeImageIsThereAndTheNextSwapWorks
         for (int step = 0; step < stepsOfSwap; ++step) {
             UpdateFolder folder;
             ASSERT_EQ(swapInOtherProcess(folder, step, fault), SIGKILL) << step;
-            const QByteArray image = folder.contents(folder.appImage());
+            const QByteArray image = UpdateFolder::contents(folder.appImage());
             const bool isReplaced
                 = step > 4 || (step == 4 && fault == FaultyFiles::Fault::KillAfter);
             EXPECT_TRUE(image == (isReplaced ? UpdateFolder::newImage() : UpdateFolder::oldImage()))
                 << step;
             EXPECT_EQ(permissions(folder.appImage()), 0740U) << step;
             if (isReplaced) {
-                EXPECT_TRUE(folder.contents(folder.previous()) == UpdateFolder::oldImage());
+                EXPECT_TRUE(UpdateFolder::contents(folder.previous()) == UpdateFolder::oldImage());
             }
 
             PosixUpdateFiles files;
             auto file = downloaded(folder);
             ASSERT_EQ(swap(files, *file, folder.appImage()).error, 0) << step;
             file.reset();
-            EXPECT_TRUE(folder.contents(folder.appImage()) == UpdateFolder::newImage());
-            EXPECT_TRUE(folder.contents(folder.previous()) == UpdateFolder::oldImage());
+            EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::newImage());
+            EXPECT_TRUE(UpdateFolder::contents(folder.previous()) == UpdateFolder::oldImage());
             EXPECT_EQ(folder.names(), imageAndPrevious) << step;
         }
     }
@@ -171,7 +171,7 @@ TEST(UpdateSwap, WhateverFailsBeforeTheReplacementLeavesTheOldOneUntouched)
         auto file = downloaded(folder);
         EXPECT_EQ(swap(files, *file, folder.appImage()).error, EIO) << step;
         file.reset();
-        EXPECT_TRUE(folder.contents(folder.appImage()) == UpdateFolder::oldImage()) << step;
+        EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::oldImage()) << step;
         EXPECT_EQ(folder.names().filter(QStringLiteral(".corvane-update")), QStringList());
     }
 }
@@ -183,7 +183,7 @@ TEST(UpdateSwap, AFailureAfterTheReplacementIsNone)
     auto file = downloaded(folder);
     EXPECT_EQ(swap(files, *file, folder.appImage()).error, 0);
     file.reset();
-    EXPECT_TRUE(folder.contents(folder.appImage()) == UpdateFolder::newImage());
+    EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::newImage());
 }
 
 TEST(UpdateSwap, OfTwoUpdatesInARowTheOneThatRunsIsKept)
@@ -194,7 +194,7 @@ TEST(UpdateSwap, OfTwoUpdatesInARowTheOneThatRunsIsKept)
         auto file = downloaded(folder);
         ASSERT_EQ(swap(files, *file, folder.appImage()).error, 0);
     }
-    EXPECT_TRUE(folder.contents(folder.previous()) == UpdateFolder::oldImage());
+    EXPECT_TRUE(UpdateFolder::contents(folder.previous()) == UpdateFolder::oldImage());
 }
 
 TEST(UpdateSwap, SomethingElseUnderTheNameOfTheKeptOneIsLeftAloneAndNothingHappens)
@@ -205,8 +205,8 @@ TEST(UpdateSwap, SomethingElseUnderTheNameOfTheKeptOneIsLeftAloneAndNothingHappe
     auto file = downloaded(folder);
     EXPECT_EQ(swap(files, *file, folder.appImage()).error, EEXIST);
     removePrevious(files, folder.appImage());
-    EXPECT_EQ(folder.contents(folder.previous()), "the user's");
-    EXPECT_TRUE(folder.contents(folder.appImage()) == UpdateFolder::oldImage());
+    EXPECT_EQ(UpdateFolder::contents(folder.previous()), "the user's");
+    EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::oldImage());
 }
 
 TEST(UpdateSwap, AnImageThatIsGoneOrAnotherFileByNowIsNotReplaced)
@@ -216,7 +216,7 @@ TEST(UpdateSwap, AnImageThatIsGoneOrAnotherFileByNowIsNotReplaced)
     PosixUpdateFiles files;
     auto file = downloaded(folder);
     EXPECT_NE(swap(files, *file, folder.appImage()).error, 0);
-    EXPECT_EQ(folder.contents(folder.appImage()), "the user's");
+    EXPECT_EQ(UpdateFolder::contents(folder.appImage()), "the user's");
     ASSERT_TRUE(QFile::remove(QFile::decodeName(folder.appImage())));
     EXPECT_NE(swap(files, *file, folder.appImage()).error, 0);
     EXPECT_FALSE(QFile::exists(QFile::decodeName(folder.appImage())));
@@ -231,7 +231,7 @@ TEST(UpdateSwap, TheKeptOneGoesOnceTheNewOneRuns)
     file.reset();
     removePrevious(files, folder.appImage());
     EXPECT_EQ(folder.names(), onlyTheImage);
-    EXPECT_TRUE(folder.contents(folder.appImage()) == UpdateFolder::newImage());
+    EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::newImage());
 }
 
 TEST(UpdateHandOver, NothingThatIsThereIsOverwritten)
@@ -244,9 +244,9 @@ TEST(UpdateHandOver, NothingThatIsThereIsOverwritten)
         const Outcome outcome = handOver(files, *file, "new.bin");
         EXPECT_EQ(outcome.error, 0);
         EXPECT_EQ(outcome.path, folder.path(name));
-        EXPECT_TRUE(folder.contents(outcome.path) == UpdateFolder::newImage());
+        EXPECT_TRUE(UpdateFolder::contents(outcome.path) == UpdateFolder::newImage());
     }
-    EXPECT_EQ(folder.contents(folder.path("new.bin")), "the user's");
+    EXPECT_EQ(UpdateFolder::contents(folder.path("new.bin")), "the user's");
 }
 
 TEST(UpdateHandOver, ALinkThatWaitsUnderTheNameIsNotFollowed)
@@ -256,7 +256,7 @@ TEST(UpdateHandOver, ALinkThatWaitsUnderTheNameIsNotFollowed)
     PosixUpdateFiles files;
     auto file = downloaded(folder);
     EXPECT_EQ(handOver(files, *file, "new").path, folder.path("new-2"));
-    EXPECT_TRUE(folder.contents(folder.appImage()) == UpdateFolder::oldImage());
+    EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::oldImage());
 }
 
 TEST(UpdateHandOver, NamesAreTakenFromTheAddressOnlyWhereTheyAreHarmless)
