@@ -36,7 +36,7 @@ QtPanelWindow::~QtPanelWindow()
     *m_alive = false;
     m_content = nullptr;
     m_dropTarget.setContent(nullptr);
-    orderOut();
+    QtPanelWindow::orderOut();
     // Its drag goes on in Qt, and needs the window that it began in.
     if (m_isDragging)
         m_canvas.release()->forgetOwner();
@@ -191,9 +191,9 @@ bool QtPanelWindow::handle(QEvent &event)
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseMove:
-        return handleMouse(static_cast<QMouseEvent &>(event));
+        return handleMouse(dynamic_cast<QMouseEvent &>(event));
     case QEvent::Enter: {
-        const QPointF position = static_cast<QEnterEvent &>(event).position();
+        const QPointF position = dynamic_cast<QEnterEvent &>(event).position();
         m_content->mouseEntered({middleOfPixel(position)});
         return true;
     }
@@ -201,11 +201,11 @@ bool QtPanelWindow::handle(QEvent &event)
         m_content->mouseExited();
         return true;
     case QEvent::Wheel:
-        if (const auto scroll = scrollEventFrom(static_cast<QWheelEvent &>(event), m_queue.now()))
+        if (const auto scroll = scrollEventFrom(dynamic_cast<QWheelEvent &>(event), m_queue.now()))
             m_content->scrollWheel(*scroll);
         return true;
     case QEvent::KeyPress:
-        event.setAccepted(m_content->keyDown(keyEventFrom(static_cast<QKeyEvent &>(event))));
+        event.setAccepted(m_content->keyDown(keyEventFrom(dynamic_cast<QKeyEvent &>(event))));
         return true;
     default:
         return handleDrag(event);
@@ -236,16 +236,16 @@ bool QtPanelWindow::handleDrag(QEvent &event)
 {
     switch (event.type()) {
     case QEvent::DragEnter:
-        m_dropTarget.enter(static_cast<QDragEnterEvent &>(event), m_frame.height());
+        m_dropTarget.enter(dynamic_cast<QDragEnterEvent &>(event), m_frame.height());
         return true;
     case QEvent::DragMove:
-        m_dropTarget.move(static_cast<QDragMoveEvent &>(event), m_frame.height());
+        m_dropTarget.move(dynamic_cast<QDragMoveEvent &>(event), m_frame.height());
         return true;
     case QEvent::DragLeave:
         m_dropTarget.leave();
         return true;
     case QEvent::Drop:
-        m_dropTarget.drop(static_cast<QDropEvent &>(event), m_frame.height());
+        m_dropTarget.drop(dynamic_cast<QDropEvent &>(event), m_frame.height());
         return true;
     default:
         return false;
