@@ -103,9 +103,9 @@ private:
 
 /// What a preview takes from tags, and for each of it the keys, in lower case, the preferred first.
 struct Field {
-    std::optional<std::string_view> MetaContents::*content;
+    std::optional<std::string_view> MetaContents::*content = nullptr;
     std::array<std::string_view, 3> keys;
-    std::size_t keyCount;
+    std::size_t keyCount = 0;
 };
 constexpr std::array fields = {
     Field{&MetaContents::title, {"og:title", "twitter:title"}, 2},
@@ -162,7 +162,7 @@ private:
             + key + "[^>]*)>";
     }
 
-    static constexpr std::size_t combinations = 3 * 2 * 4 * 4;
+    static constexpr std::size_t combinations = 3UL * 2 * 4 * 4;
     std::array<Entry, combinations> m_entries;
 };
 

@@ -13,6 +13,7 @@
 #include <climits>
 #include <map>
 #include <optional>
+#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -89,9 +90,9 @@ private:
     void prepend(const QByteArray &path)
     {
         const QByteArrayList components = path.split('/');
-        for (auto component = components.rbegin(); component != components.rend(); ++component) {
-            if (!component->isEmpty() && *component != ".")
-                m_ahead.push_back(*component);
+        for (const QByteArray &component : std::ranges::reverse_view(components)) {
+            if (!component.isEmpty() && component != ".")
+                m_ahead.push_back(component);
         }
     }
 
