@@ -2,8 +2,11 @@
 
 #include <QColor>
 #include <QFont>
+#include <QRect>
 #include <QSize>
+#include <QString>
 
+class QPainter;
 class QPalette;
 
 namespace corvane {
@@ -12,6 +15,9 @@ namespace corvane {
 /// font is of the usual size; where the user chose a larger one, everything grows with it.
 class WindowLook {
 public:
+    /// In points.
+    static constexpr double scrollBarWidth = 10;
+
     /// Of the desktop's general font as it is now.
     WindowLook();
 
@@ -20,6 +26,13 @@ public:
     QSize length(QSize points) const { return {length(points.width()), length(points.height())}; }
     /// The desktop's general font at that many points.
     QFont font(double points, QFont::Weight weight = QFont::Normal) const;
+
+    /// Style sheets for a scroll bar, a thumb and nothing else, and for a progress bar.
+    QString scrollBarStyle() const;
+    QString progressBarStyle() const;
+
+    /// The ground of things that belong together.
+    void drawCard(QPainter &painter, const QPalette &palette, const QRect &rect) const;
 
     /// What is there to be read after the rest.
     static QColor secondary(const QPalette &palette);

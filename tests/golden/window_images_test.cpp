@@ -1,8 +1,10 @@
-// Pictures of the preferences and of the guide, light and dark, at several scales.
+// Pictures of the preferences, of the guide and of updates, light and dark, at several scales.
 
 #include "app/preferences/preferences_window_controller.h"
+#include "app/updates/update_window_controller.h"
 #include "app/welcome/welcome_view.h"
 #include "app/welcome/welcome_window_controller.h"
+#include "fakes/fake_window_activation.h"
 #include "fakes/preferences_desk.h"
 #include "golden/golden.h"
 
@@ -121,6 +123,28 @@ TEST_F(WindowImages, EachStepOfTheGuide)
     expectPictures(controller.window(), "welcome-2");
     controller.view().goForward();
     expectPictures(controller.window(), "welcome-3");
+}
+
+TEST_F(WindowImages, EachStageOfAnUpdate)
+{
+    using Stage = UpdateReport::Stage;
+    FakeWindowActivation activation;
+    UpdateWindowController controller(activation, QStringLiteral("1.0"), true);
+    const QString notes = QStringLiteral("What is new:\n\n• The shelf opens a little faster\n"
+                                         "• Links show their pictures again after a site moved, "
+                                         "and ask no more than once when a page answers slowly")
+        + QStringLiteral("\n• Another line").repeated(12);
+    UpdateReport report = {Stage::Available, QStringLiteral("1.2"), notes, 0, 98'300'000};
+    controller.show(report, UpdateAttention::Asked);
+    expectPictures(*controller.window(), "update-available");
+    report.stage = Stage::Downloading;
+    report.received = 34'000'000;
+    controller.show(report, UpdateAttention::Asked);
+    expectPictures(*controller.window(), "update-downloading");
+    report.stage = Stage::Failed;
+    report.failure = UpdateFailure::WrongSignature;
+    controller.show(report, UpdateAttention::Asked);
+    expectPictures(*controller.window(), "update-failed");
 }
 
 } // namespace corvane::test

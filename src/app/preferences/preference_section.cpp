@@ -12,8 +12,6 @@ namespace {
 constexpr double titleSize = 11;
 constexpr double titleInset = 2;
 constexpr double afterTitle = 6;
-constexpr double cardRadius = 8;
-constexpr double cardOpacity = 0.045;
 constexpr double lineOpacity = 0.1;
 constexpr double lineInset = 12;
 
@@ -29,11 +27,7 @@ protected:
     void paintEvent(QPaintEvent *) override
     {
         QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(WindowLook::tint(palette(), cardOpacity));
-        painter.drawRoundedRect(rect(), m_look.length(cardRadius), m_look.length(cardRadius));
-        painter.setRenderHint(QPainter::Antialiasing, false);
+        m_look.drawCard(painter, palette(), rect());
         const int inset = m_look.length(lineInset);
         for (int i = 1; i < layout()->count(); ++i) {
             const int y = layout()->itemAt(i)->geometry().top();

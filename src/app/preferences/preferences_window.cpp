@@ -28,21 +28,6 @@ constexpr double paneTop = 20;
 constexpr double paneSides = 24;
 constexpr double paneBottom = 26;
 constexpr double dividerOpacity = 0.12;
-constexpr double scrollBarWidth = 10;
-
-/// A thumb and nothing else, in a colour that stands out from light and dark grounds.
-QString scrollBarLook(int width)
-{
-    return QStringLiteral("QScrollBar { background: transparent; width: %1px; margin: 0; }"
-                          "QScrollBar::handle { background: rgba(128, 128, 128, 140);"
-                          " border-radius: %2px; margin: 2px; min-height: %3px; }"
-                          "QScrollBar::handle:hover { background: rgba(128, 128, 128, 200); }"
-                          "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
-                          "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
-        .arg(width)
-        .arg(width / 2 - 2)
-        .arg(3 * width);
-}
 
 class Divider : public QWidget {
 public:
@@ -72,7 +57,7 @@ PreferencesWindow::PreferencesWindow(PreferencesContext context, TabSelection &s
     m_area->setFrameShape(QFrame::NoFrame);
     m_area->setWidgetResizable(true);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_area->verticalScrollBar()->setStyleSheet(scrollBarLook(m_look.length(scrollBarWidth)));
+    m_area->verticalScrollBar()->setStyleSheet(m_look.scrollBarStyle());
     m_area->setFocusPolicy(Qt::NoFocus);
     // The window's ground, whatever colour the style has for areas.
     m_area->viewport()->setAutoFillBackground(false);
@@ -116,7 +101,7 @@ QWidget *PreferencesWindow::makePane() const
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
     // The longer pane is scrolled, and has the scroll bar in its margin.
-    const double right = isGeneral ? paneSides - scrollBarWidth : paneSides;
+    const double right = isGeneral ? paneSides - WindowLook::scrollBarWidth : paneSides;
     layout->setContentsMargins(m_look.length(paneSides), m_look.length(paneTop),
                                m_look.length(right), m_look.length(paneBottom));
     layout->addWidget(pane);

@@ -6,8 +6,10 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QProgressBar>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -23,6 +25,7 @@ constexpr double textSize = 12;
 constexpr double margin = 22;
 constexpr double spacing = 10;
 constexpr double betweenButtons = 8;
+constexpr double notesMargin = 8;
 constexpr QSize buttonSize{96, 28};
 constexpr int progressSteps = 1000;
 
@@ -58,12 +61,18 @@ UpdateWindow::UpdateWindow(std::function<void()> onClose)
     layout->addWidget(m_title);
     layout->addWidget(m_detail);
     m_notes->setReadOnly(true);
+    m_notes->setFrameShape(QFrame::NoFrame);
+    // They stand on a card, and not on the style's ground for fields.
+    m_notes->viewport()->setAutoFillBackground(false);
+    m_notes->document()->setDocumentMargin(m_look.length(notesMargin));
+    m_notes->verticalScrollBar()->setStyleSheet(m_look.scrollBarStyle());
     m_notes->setFont(m_look.font(textSize));
     m_notes->setAccessibleName(tr("What is new"));
     m_notes->setTabChangesFocus(true);
     layout->addWidget(m_notes, 1);
     m_progress->setRange(0, progressSteps);
     m_progress->setTextVisible(false);
+    m_progress->setStyleSheet(m_look.progressBarStyle());
     m_progress->setAccessibleName(tr("Download"));
     layout->addWidget(m_progress);
     layout->addStretch();
@@ -113,6 +122,14 @@ void UpdateWindow::setReport(const UpdateReport &report, const UpdateTexts &text
     // The button that had the keyboard may be gone, or mean something else.
     if (hadAction != hasAction || !focusWidget())
         usual->setFocus();
+}
+
+void UpdateWindow::paintEvent(QPaintEvent *event)
+{
+    ShellWindow::paintEvent(event);
+    QPainter painter(this);
+    if (m_notes->isVisible())
+        m_look.drawCard(painter, palette(), m_notes->geometry());
 }
 
 void UpdateWindow::keyPressEvent(QKeyEvent *event)
