@@ -106,6 +106,19 @@ TEST_F(ViewAllControllerTest, followsTheShelfToAnotherScreen)
     EXPECT_EQ(panel.frame().y() + 132 + 10, pill().y());
 }
 
+TEST_F(ViewAllControllerTest, pagingLeavesItOnTheScreenThatTheShelfWentTo)
+{
+    open(20);
+    screens.attach(QRectF(1512, 200, 1000, 800));
+    pointer.position = QPointF(1600, 300);
+    store.publishItems();
+    const QRectF frame = panel.frame();
+    ASSERT_GT(frame.x(), 1512);
+    view().onScroll(1);
+    EXPECT_EQ(bar->offset(), 1);
+    EXPECT_EQ(panel.frame(), frame);
+}
+
 TEST_F(ViewAllControllerTest, aScreenTooNarrowForAnArrowShowsOneTile)
 {
     screen->frame = {0, 0, 115, 982};

@@ -199,6 +199,10 @@ TEST_F(ViewAllViewTest, hoveredStaysWhileAControlIsUnderThePointer)
     view->mouseMoved({middleOf(ViewAllControl::SelectAll)});
     EXPECT_EQ(view->hoveredControl(), ViewAllControl::SelectAll);
     EXPECT_EQ(view->hovered(), items[0].id());
+    // In no tile's column.
+    view->mouseMoved({middleOf(ViewAllControl::Back)});
+    EXPECT_EQ(view->hoveredControl(), ViewAllControl::Back);
+    EXPECT_EQ(view->hovered(), items[0].id());
     view->mouseMoved({middleOf(1)});
     EXPECT_FALSE(view->hoveredControl());
     EXPECT_EQ(view->hovered(), items[1].id());
