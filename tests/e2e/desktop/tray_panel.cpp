@@ -45,7 +45,7 @@ QString serviceOf(XDesktop &desktop, qint64 pid)
     static const QRegularExpression item(u"string \"([^\"]+)/StatusNotifierItem\""_s);
     auto matches = item.globalMatch(QString::fromUtf8(handedIn(desktop)));
     while (matches.hasNext()) {
-        const QString service = matches.next().captured(1);
+        QString service = matches.next().captured(1);
         const QByteArray owner = answerOf(desktop,
                                           {u"--dest=org.freedesktop.DBus"_s, u"/"_s,
                                            u"org.freedesktop.DBus.GetConnectionUnixProcessID"_s,
