@@ -27,9 +27,16 @@ bool isOfTheWeb(const QUrl &url)
 } // namespace
 
 WebFetch::WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, WebRequest request)
+    : WebFetch(manager, network, WebDownload{std::move(request), nullptr, nullptr})
+{
+}
+
+WebFetch::WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, WebDownload download)
     : m_manager(manager)
     , m_network(network)
-    , m_request(std::move(request))
+    , m_request(std::move(download.request))
+    , m_take(std::move(download.take))
+    , m_cancellation(std::move(download.cancellation))
     , m_farthest(m_request.foundIn)
     , m_mailbox(std::make_shared<Mailbox>(*this))
 {
@@ -37,26 +44,15 @@ WebFetch::WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, We
         timer->setSingleShot(true);
         connect(timer, &QTimer::timeout, this, [this] { finish(std::nullopt); });
     }
-    setTimeouts(network.requestTimeout, network.resourceTimeout);
-}
-
-WebFetch::WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, WebDownload download)
-    : WebFetch(manager, network, std::move(download.request))
-{
-    m_take = std::move(download.take);
-    m_cancellation = std::move(download.cancellation);
-    setTimeouts(network.downloadSilenceTimeout, network.downloadWholeTimeout);
+    m_silence.setInterval(
+        milliseconds(m_take ? network.downloadSilenceTimeout : network.requestTimeout));
+    m_whole.setInterval(
+        milliseconds(m_take ? network.downloadWholeTimeout : network.resourceTimeout));
 }
 
 WebFetch::~WebFetch()
 {
     m_mailbox->close();
-}
-
-void WebFetch::setTimeouts(double silence, double whole)
-{
-    m_silence.setInterval(milliseconds(silence));
-    m_whole.setInterval(milliseconds(whole));
 }
 
 void WebFetch::start()

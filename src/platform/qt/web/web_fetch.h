@@ -40,7 +40,6 @@ public:
     void start();
 
 private:
-    void setTimeouts(double silence, double whole);
     void visit(const QUrl &url);
     bool isSecureEnough(const QUrl &url) const;
     void exchangeWith(const QList<QHostAddress> &found);
