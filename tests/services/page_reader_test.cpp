@@ -298,7 +298,7 @@ TEST(PageReader, ReadsAttributesAsTheyAreWritten)
         Case{"content=\"x name='description' y\"", "x name='description' y"},
         Case{"content='' name=description", nullptr},
         Case{"content=\"\" content=a name=description", nullptr},
-        Case{"name=\"description\"content=\"a\"", "a"},
+        Case{R"(name="description"content="a")", "a"},
         // Blanks are those of Unicode.
         Case{"name\u00a0=\u2003description\u3000content=a\u2028b", "a"},
         Case{"name=description content=\u200ba", "\u200ba"},

@@ -11,9 +11,9 @@
 #include <array>
 #include <cerrno>
 #include <climits>
+#include <iterator>
 #include <map>
 #include <optional>
-#include <ranges>
 #include <utility>
 #include <vector>
 
@@ -90,10 +90,8 @@ private:
     void prepend(const QByteArray &path)
     {
         const QByteArrayList components = path.split('/');
-        for (const QByteArray &component : std::ranges::reverse_view(components)) {
-            if (!component.isEmpty() && component != ".")
-                m_ahead.push_back(component);
-        }
+        std::copy_if(components.rbegin(), components.rend(), std::back_inserter(m_ahead),
+                     [](const QByteArray &one) { return !one.isEmpty() && one != "."; });
     }
 
     void leave()
