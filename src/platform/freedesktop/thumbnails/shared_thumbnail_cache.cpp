@@ -146,7 +146,7 @@ void SharedThumbnailCache::write(const QByteArray &folder, const FileVersion &fi
                                    {"Thumb::Size", QByteArray::number(file.size)},
                                    {"Software", "Corvane"}};
     private_file::replace(m_places.cacheFolder, folder, fileName(uri),
-                              png_text::withTexts(*png, texts));
+                          png_text::withTexts(*png, texts));
 }
 
 } // namespace corvane
