@@ -196,6 +196,19 @@ protected:
     UpdateFolder folder;
     test::TestKey key;
     HttpServer announcer;
+    /// What the desktop would open goes into a file, whose path this is: what it starts has a life
+    /// of its own, and would stand on the desktop of the tests that follow.
+    QString standInForXdgOpen()
+    {
+        const QString opened = makeFolder(u"programs"_s) + u"/opened"_s;
+        const QString program = makeFile(
+            u"programs/xdg-open"_s, "#!/bin/sh\nprintf %s \"$1\" >'" + opened.toUtf8() + "'\n");
+        QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
+        environment.insert(u"PATH"_s,
+                           makeFolder(u"programs"_s) + u':' + environment.value(u"PATH"_s));
+        return opened;
+    }
+
     QProcessEnvironment environment;
     QByteArray newImage;
 
@@ -244,11 +257,16 @@ TEST_F(Updates, outsideAnAppImageTheFileIsInTheDownloads)
     ASSERT_TRUE(directories.open(QFile::WriteOnly));
     directories.write("XDG_DOWNLOAD_DIR=\"" + QFile::encodeName(downloads) + "\"\n");
     directories.close();
+    const QString shown = standInForXdgOpen();
     announceNewer();
     serve(newImage);
     startUpdating();
     takeOffer();
     EXPECT_TRUE(says("Corvane 11.0 is downloaded"));
+    EXPECT_TRUE(eventually([&] {
+        return UpdateFolder::contents(QFile::encodeName(shown))
+            == QUrl::fromLocalFile(downloads).toEncoded();
+    })) << "the folder is not shown";
     EXPECT_EQ(QDir(downloads).entryList(QDir::Files | QDir::Hidden),
               QStringList{u"Corvane-11.AppImage"_s});
     EXPECT_TRUE(UpdateFolder::contents(QFile::encodeName(downloads) + imagePath) == newImage);
