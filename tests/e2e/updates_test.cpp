@@ -408,6 +408,53 @@ TEST_F(Updates, aDownloadThatIsKilledLeavesTheImageAndTheNextOneTidiesUp)
     EXPECT_EQ(beside(), QStringList{u"Corvane.AppImage.before-update"_s});
 }
 
+/// A system call of the swap that the process does not live through.
+struct DeadlyCall {
+    const char *name;
+    QString calls;
+    /// Of those calls on this file.
+    const char *file;
+    int nth;
+    bool isReplaced;
+};
+
+class UpdatesKilled : public Updates, public testing::WithParamInterface<DeadlyCall> { };
+// With the old image alone, with a second name for it, and with the new one in its place.
+INSTANTIATE_TEST_SUITE_P(, UpdatesKilled,
+                         testing::Values(DeadlyCall{"keeping", u"link,linkat"_s, "Corvane.AppImage",
+                                                    1, false},
+                                         DeadlyCall{"replacing", u"fsync"_s, "", 1, false},
+                                         DeadlyCall{"syncing", u"fsync"_s, "", 2, true}),
+                         [](const auto &call) { return std::string(call.param.name); });
+
+TEST_P(UpdatesKilled, inTheMiddleOfTheSwapAWholeImageIsThereAndTheNextUpdateWorks)
+{
+    if (!outputOf(u"strace"_s, {u"-o"_s, u"/dev/null"_s, u"true"_s}, environment))
+        GTEST_SKIP() << "nothing can be traced here";
+    const DeadlyCall &call = GetParam();
+    announceNewer();
+    serve(newImage);
+    const QString inject
+        = u"inject="_s + call.calls + u":signal=KILL:when="_s + QString::number(call.nth);
+    QByteArray traced = folder.path(call.file);
+    while (traced.endsWith('/'))
+        traced.chop(1);
+    // The tracer is a process of its own, so that the program keeps the number it was started with.
+    startUpdating(u"strace"_s,
+                  {u"-D"_s, u"-f"_s, u"-o"_s, u"/dev/null"_s, u"-e"_s, inject, u"-P"_s,
+                   QFile::decodeName(traced), program()});
+    takeOffer();
+    EXPECT_TRUE(corvane().program().waitForEnd());
+    const QByteArray image = UpdateFolder::contents(folder.appImage());
+    EXPECT_TRUE(image == (call.isReplaced ? newImage : UpdateFolder::oldImage()));
+    EXPECT_TRUE(QFileInfo(QFile::decodeName(folder.appImage())).isExecutable());
+
+    startUpdating();
+    takeOffer();
+    EXPECT_TRUE(says("Corvane 11.0 is installed"));
+    EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == newImage);
+}
+
 TEST_F(Updates, whereNothingIsConfiguredTheMenuDoesNotOfferThem)
 {
     if (!isInstalled(u"xfce4-panel"_s))
