@@ -200,7 +200,7 @@ protected:
     /// of its own, and would stand on the desktop of the tests that follow.
     QString standInForXdgOpen()
     {
-        const QString opened = makeFolder(u"programs"_s) + u"/opened"_s;
+        QString opened = makeFolder(u"programs"_s) + u"/opened"_s;
         const QString program = makeFile(
             u"programs/xdg-open"_s, "#!/bin/sh\nprintf %s \"$1\" >'" + opened.toUtf8() + "'\n");
         QFile::setPermissions(program, QFile::ReadOwner | QFile::ExeOwner);
