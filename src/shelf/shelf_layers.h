@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shelf/arrow_layers.h"
 #include "shelf/bitmap_layer.h"
 #include "shelf/shape_layer.h"
 #include "shelf/shelf_cell.h"
@@ -69,15 +70,6 @@ private:
     protected:
         void draw(QPainter &painter, QSizeF size, double scale) const override;
     };
-    struct Arrow {
-        explicit Arrow(LayerTree &tree)
-            : plate(tree)
-            , caret(tree)
-        {
-        }
-        Layer plate;
-        BitmapLayer caret;
-    };
 
     LayerTree &m_tree;
     const Theme &m_theme;
@@ -90,8 +82,8 @@ private:
     Layer m_divider;
     Layer m_cellRow;
     EdgeFade m_edgeFade;
-    Arrow m_leftArrow;
-    Arrow m_rightArrow;
+    ArrowLayers m_leftArrow;
+    ArrowLayers m_rightArrow;
     std::array<BitmapLayer, 3> m_actionButtons;
     BitmapLayer m_viewAllButton;
     TextLayer m_flash;

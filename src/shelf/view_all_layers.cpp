@@ -91,7 +91,7 @@ void ViewAllLayers::syncTiles(std::size_t count)
         m_tiles.push_back(std::make_unique<ViewAllTile>(m_tree, m_content, m_theme));
 }
 
-void ViewAllLayers::apply(Arrow &arrow, const ViewAllLayout::Arrow &layout)
+void ViewAllLayers::apply(ArrowLayers &arrow, const ViewAllLayout::Arrow &layout)
 {
     const Theme::Palette &palette = m_theme.palette;
     using Fill = ViewAllLayout::Fill;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shelf/arrow_layers.h"
 #include "shelf/bitmap_layer.h"
 #include "shelf/glass_background.h"
 #include "shelf/text_layer.h"
@@ -33,19 +34,9 @@ public:
     static QPainterPath outline(const QRectF &bounds);
 
 private:
-    struct Arrow {
-        explicit Arrow(LayerTree &tree)
-            : plate(tree)
-            , caret(tree)
-        {
-        }
-        Layer plate;
-        BitmapLayer caret;
-    };
-
     void setUp();
     void syncTiles(std::size_t count);
-    void apply(Arrow &arrow, const ViewAllLayout::Arrow &layout);
+    void apply(ArrowLayers &arrow, const ViewAllLayout::Arrow &layout);
     void applyActions(const ViewAllLayout &layout);
 
     LayerTree &m_tree;
@@ -53,8 +44,8 @@ private:
     std::unique_ptr<GlassBackground> m_glass;
     Layer m_contentHost;
     Layer m_content;
-    Arrow m_leftArrow;
-    Arrow m_rightArrow;
+    ArrowLayers m_leftArrow;
+    ArrowLayers m_rightArrow;
     BitmapLayer m_selectAllBox;
     TextLayer m_selectAllLabel;
     BitmapLayer m_copyButton;

@@ -195,6 +195,13 @@ QByteArray DesktopTest::clipboardText(const QByteArray &expected)
     return text;
 }
 
+void DesktopTest::openMenu(QPoint at, uint8_t button)
+{
+    hands().click(at, button);
+    ASSERT_TRUE(eventually([this] { return corvane().popup().has_value(); }));
+    m_desktop.pictureAtRest(corvane().popup().value_or(WindowFacts{}).frame);
+}
+
 void DesktopTest::focusShelf(QPoint at)
 {
     hands().click(at);

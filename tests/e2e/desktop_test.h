@@ -69,6 +69,8 @@ protected:
 
     /// The clipboard as text, once it says `expected` or time is up.
     QByteArray clipboardText(const QByteArray &expected);
+    /// Clicks there, and waits until the program's menu has opened.
+    void openMenu(QPoint at, uint8_t button = 1);
     /// Presses in the shelf, which gives it the keyboard.
     void focusShelf(QPoint at);
 

@@ -1,5 +1,6 @@
 // The key that opens and closes the shelf whichever program has the keyboard.
 
+#include "e2e/desktop/rival.h"
 #include "e2e/desktop/text_editor.h"
 #include "e2e/desktop_test.h"
 
@@ -17,31 +18,6 @@ constexpr xcb_keycode_t positionOfD = 40;
 
 constexpr auto claimed
     = "[Corvane] A shortcut is already claimed by another app; the menu bar item still works.";
-
-/// Another program that wants the shelf's default combination for itself.
-class Rival {
-public:
-    explicit Rival(const XDesktop &desktop)
-        : m_server(desktop.environment().value(u"DISPLAY"_s).toLatin1())
-    {
-    }
-
-    /// Whether it gets it, with none of the lock keys on.
-    bool grab()
-    {
-        auto *const error = xcb_request_check(
-            m_server.connection(),
-            xcb_grab_key_checked(m_server.connection(), 0, m_server.root(),
-                                 XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_4, positionOfD,
-                                 XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
-        const bool isOurs = error == nullptr;
-        std::free(error);
-        return isOurs;
-    }
-
-private:
-    XServer m_server;
-};
 
 class HotKey : public EveryDesktop {
 protected:
@@ -94,7 +70,7 @@ TEST_P(HotKey, bringsBackWhatLiesOnTheShelf)
 TEST_P(HotKey, thatAnotherProgramHoldsIsSaidOnceAndTheShelfWorksAllTheSame)
 {
     Rival rival(m_desktop);
-    ASSERT_TRUE(rival.grab());
+    ASSERT_TRUE(rival.grab(positionOfD));
     start();
     EXPECT_EQ(corvane().program().output().count(claimed), 1);
     pressHotKey();
@@ -107,10 +83,10 @@ TEST_P(HotKey, isFreeForOthersAfterTheEnd)
 {
     start();
     EXPECT_FALSE(corvane().program().output().contains(claimed));
-    EXPECT_FALSE(Rival(m_desktop).grab());
+    EXPECT_FALSE(Rival(m_desktop).grab(positionOfD));
     corvane().program().signal(SIGTERM);
     ASSERT_EQ(corvane().program().waitForEnd(), 0);
-    EXPECT_TRUE(eventually([&] { return Rival(m_desktop).grab(); }));
+    EXPECT_TRUE(eventually([&] { return Rival(m_desktop).grab(positionOfD); }));
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // The preferences' shortcuts and switches, by pointer and keyboard, read as a screen reader does.
 
+#include "e2e/desktop/rival.h"
 #include "e2e/desktop/screen_reader.h"
 #include "e2e/desktop/text_editor.h"
 #include "e2e/desktop_test.h"
@@ -24,29 +25,6 @@ const auto usual = u"Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only."_
 constexpr xcb_keycode_t positionOfJ = 44;
 constexpr xcb_keycode_t positionOfK = 45;
 
-/// Another program that wants a key with Super and Shift for itself.
-class Rival {
-public:
-    explicit Rival(const XDesktop &desktop)
-        : m_server(desktop.environment().value(u"DISPLAY"_s).toLatin1())
-    {
-    }
-    bool grab(xcb_keycode_t key)
-    {
-        auto *const error
-            = xcb_request_check(m_server.connection(),
-                                xcb_grab_key_checked(m_server.connection(), 0, m_server.root(),
-                                                     XCB_MOD_MASK_SHIFT | XCB_MOD_MASK_4, key,
-                                                     XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
-        const bool isOurs = error == nullptr;
-        std::free(error);
-        return isOurs;
-    }
-
-private:
-    XServer m_server;
-};
-
 class Preferences : public EveryDesktop {
 protected:
     void SetUp() override
@@ -65,12 +43,7 @@ protected:
     /// As the desktop's menu for the program does.
     void openPreferences()
     {
-        ASSERT_TRUE(outputOf(u"gdbus"_s,
-                             {u"call"_s, u"--session"_s, u"--dest"_s, u"example.corvane.Corvane"_s,
-                              u"--object-path"_s, u"/example/corvane/Corvane"_s, u"--method"_s,
-                              u"org.freedesktop.Application.ActivateAction"_s, u"preferences"_s,
-                              u"[]"_s, u"{}"_s},
-                             m_desktop.environment()));
+        ASSERT_TRUE(corvane().activateAction(u"preferences"_s));
         ASSERT_TRUE(eventually([this] {
             const auto found = window();
             return found && server().activeWindow() == found->id;
@@ -79,12 +52,7 @@ protected:
     }
     std::optional<WindowFacts> window(QSize size = preferencesSize)
     {
-        for (const WindowFacts &window : server().windows()) {
-            if (window.isViewable && !window.isOverrideRedirect
-                && window.pid == corvane().program().pid() && window.frame.size() == size)
-                return window;
-        }
-        return std::nullopt;
+        return corvane().window(size);
     }
     std::optional<ScreenReader::Element> control(const QString &name,
                                                  const QString &description = {})

@@ -38,15 +38,7 @@ protected:
     }
     bool holds(int count) { return corvane().waitForSize(CorvaneProgram::carousel(inView, count)); }
 
-    std::optional<WindowFacts> bar()
-    {
-        for (const WindowFacts &window : server().windows()) {
-            if (window.isViewable && window.isOverrideRedirect
-                && window.pid == corvane().program().pid() && window.frame.height() == barHeight)
-                return window;
-        }
-        return std::nullopt;
-    }
+    std::optional<WindowFacts> bar() { return corvane().popup(barHeight); }
     bool waitUntilClosed()
     {
         return eventually([this] { return !bar(); });

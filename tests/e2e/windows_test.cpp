@@ -14,15 +14,7 @@ constexpr QSize preferencesSize{480, 560};
 
 class Windows : public EveryDesktop {
 protected:
-    std::optional<WindowFacts> window(QSize size)
-    {
-        for (const WindowFacts &window : server().windows()) {
-            if (window.isViewable && !window.isOverrideRedirect
-                && window.pid == corvane().program().pid() && window.frame.size() == size)
-                return window;
-        }
-        return std::nullopt;
-    }
+    std::optional<WindowFacts> window(QSize size) { return corvane().window(size); }
     /// In front, with the keyboard.
     bool waitUntilActive(QSize size)
     {
@@ -36,16 +28,7 @@ protected:
         return eventually([&] { return !window(size); });
     }
     /// As the desktop's menu for the program does.
-    bool openPreferences()
-    {
-        return outputOf(u"gdbus"_s,
-                        {u"call"_s, u"--session"_s, u"--dest"_s, u"example.corvane.Corvane"_s,
-                         u"--object-path"_s, u"/example/corvane/Corvane"_s, u"--method"_s,
-                         u"org.freedesktop.Application.ActivateAction"_s, u"preferences"_s, u"[]"_s,
-                         u"{}"_s},
-                        m_desktop.environment())
-            .has_value();
-    }
+    bool openPreferences() { return corvane().activateAction(u"preferences"_s); }
     void startForTheFirstTime() { start({{}, {}, {}, false}); }
     void startAnotherTime() { start({{}, {}, {}, true, true}); }
     void end()

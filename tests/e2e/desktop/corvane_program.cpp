@@ -114,15 +114,8 @@ bool CorvaneProgram::waitUntilReady()
             m_environment);
         return (answer && answer->contains("true")) || !m_program->isRunning();
     });
-    QByteArray last;
-    int same = 0;
-    return named && m_program->isRunning() && eventually([&] {
-               const QByteArray now = sleeps(m_program->pid());
-               same = !now.isEmpty() && now == last ? same + 1 : 0;
-               last = now;
-               QThread::msleep(10);
-               return same >= 4;
-           });
+    return named && m_program->isRunning()
+        && !atRest([this] { return sleeps(m_program->pid()); }).isEmpty();
 }
 
 std::optional<int> CorvaneProgram::startAgain()
@@ -131,16 +124,47 @@ std::optional<int> CorvaneProgram::startAgain()
     return second.waitForEnd();
 }
 
-std::optional<WindowFacts> CorvaneProgram::panel()
+bool CorvaneProgram::activateAction(const QString &action) const
+{
+    return outputOf(u"gdbus"_s,
+                    {u"call"_s, u"--session"_s, u"--dest"_s, QLatin1String(serviceName),
+                     u"--object-path"_s, u"/example/corvane/Corvane"_s, u"--method"_s,
+                     u"org.freedesktop.Application.ActivateAction"_s, action, u"[]"_s, u"{}"_s},
+                    m_environment)
+        .has_value();
+}
+
+template<class Condition>
+std::optional<WindowFacts> CorvaneProgram::find(Condition condition)
 {
     for (const WindowFacts &window : m_desktop.server().windows()) {
-        // A drag's picture under the pointer is an override-redirect window, too, but hangs
-        // nowhere.
-        if (window.isViewable && window.isOverrideRedirect && window.pid == m_program->pid()
-            && window.frame.top() == 0)
+        if (window.isViewable && window.pid == m_program->pid() && condition(window))
             return window;
     }
     return std::nullopt;
+}
+
+std::optional<WindowFacts> CorvaneProgram::window(QSize size)
+{
+    return find([size](const WindowFacts &window) {
+        return !window.isOverrideRedirect && (!size.isValid() || window.frame.size() == size);
+    });
+}
+
+std::optional<WindowFacts> CorvaneProgram::popup(int height)
+{
+    return find([height](const WindowFacts &window) {
+        return window.isOverrideRedirect && window.frame.top() > 0
+            && (height == 0 || window.frame.height() == height);
+    });
+}
+
+std::optional<WindowFacts> CorvaneProgram::panel()
+{
+    // A drag's picture under the pointer is an override-redirect window, too, but hangs nowhere.
+    return find([](const WindowFacts &window) {
+        return window.isOverrideRedirect && window.frame.top() == 0;
+    });
 }
 
 bool CorvaneProgram::waitUntilShown()

@@ -41,6 +41,15 @@ public:
     /// status.
     std::optional<int> startAgain();
 
+    /// Chooses an action of the desktop's menu for the program, such as "preferences".
+    bool activateAction(const QString &action) const;
+
+    /// The window that a window manager looks after, of that size where one is given, while it is
+    /// on screen.
+    std::optional<WindowFacts> window(QSize size = {});
+    /// A window that no window manager looks after and that does not hang from the top edge: a menu
+    /// or the view-all bar, of that height where one is given.
+    std::optional<WindowFacts> popup(int height = 0);
     /// The panel while it is on screen.
     std::optional<WindowFacts> panel();
     bool isShown() { return panel().has_value(); }
@@ -77,6 +86,8 @@ public:
 
 private:
     QString settingsFolder() const;
+    template<class Condition>
+    std::optional<WindowFacts> find(Condition condition);
     void writeSettings(const Start &start) const;
 
     XDesktop &m_desktop;

@@ -12,9 +12,15 @@ namespace corvane::e2e {
 
 namespace {
 
-// The time between two moves of a hand. Programs merge or overlook moves that follow faster.
-constexpr unsigned long stepMilliseconds = 25;
 constexpr double longestStep = 120;
+
+// No wait for anything: a hand needs time from one move to the next, and programs tell by that time
+// what it means. They merge, or overlook, what follows faster.
+void pause()
+{
+    constexpr unsigned long milliseconds = 25;
+    QThread::msleep(milliseconds);
+}
 
 } // namespace
 
@@ -44,7 +50,7 @@ void Hands::glideTo(QPoint point)
     const int steps = std::max(2, static_cast<int>(std::ceil(distance / longestStep)));
     for (int i = 1; i <= steps; ++i) {
         moveTo(from + (point - from) * (static_cast<double>(i) / steps));
-        QThread::msleep(stepMilliseconds);
+        pause();
     }
     moveTo(point);
 }
@@ -63,7 +69,7 @@ void Hands::click(QPoint point, uint8_t button)
 {
     glideTo(point);
     press(button);
-    QThread::msleep(stepMilliseconds);
+    pause();
     release(button);
 }
 
@@ -78,13 +84,13 @@ void Hands::beginDrag(QPoint from, QPoint towards)
 {
     glideTo(from);
     press();
-    QThread::msleep(stepMilliseconds);
+    pause();
     const QPoint way = towards - from;
     const double length = std::max(1.0, std::hypot(way.x(), way.y()));
     // Past every toolkit's threshold (4 to 10 pixels), and some steps beyond it.
     for (const double distance : {3.0, 9.0, 16.0, 24.0, 32.0}) {
         moveTo(from + way * (distance / length));
-        QThread::msleep(stepMilliseconds);
+        pause();
     }
 }
 
@@ -93,7 +99,7 @@ void Hands::aim(QPoint point)
     for (const QPoint off :
          {QPoint(-3, 0), QPoint(2, 1), QPoint(-1, 0), QPoint(1, -1), QPoint(0, 0)}) {
         moveTo(point + off);
-        QThread::msleep(stepMilliseconds);
+        pause();
     }
 }
 
@@ -142,7 +148,7 @@ void Hands::turn(Wheel direction, int notches)
     for (int i = 0; i < notches; ++i) {
         press(static_cast<uint8_t>(direction));
         release(static_cast<uint8_t>(direction));
-        QThread::msleep(stepMilliseconds);
+        pause();
     }
 }
 

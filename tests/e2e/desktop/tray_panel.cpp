@@ -156,10 +156,10 @@ bool NotifierPanel::waitForItemOf(qint64 pid)
     return eventually([&] { return !serviceOf(m_desktop, pid).isEmpty(); });
 }
 
-QPoint NotifierPanel::icon() const
+QRect NotifierPanel::iconFrame()
 {
     // Behind the handle that the panel can be moved by.
-    return {28, panelHeight / 2};
+    return {16, 4, 24, panelHeight - 8};
 }
 
 NotifierFacts::NotifierFacts(XDesktop &desktop, qint64 pid)

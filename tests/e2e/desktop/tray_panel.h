@@ -41,8 +41,8 @@ public:
     bool waitUntilReady();
     /// Waits until an item of that process has been handed in.
     bool waitForItemOf(qint64 pid);
-    /// A point of the first icon.
-    QPoint icon() const;
+    /// Where the first icon is.
+    static QRect iconFrame();
 
 private:
     XDesktop &m_desktop;

@@ -157,17 +157,7 @@ std::optional<WindowFacts> XDesktop::place(xcb_window_t window, const QRect &fra
 
 QImage XDesktop::pictureAtRest(const QRect &area)
 {
-    constexpr int enough = 4;
-    QImage last;
-    int same = 0;
-    eventually([&] {
-        QThread::msleep(20);
-        const QImage now = m_server->picture(area);
-        same = now == last ? same + 1 : 0;
-        last = now;
-        return same >= enough;
-    });
-    return last;
+    return atRest([&] { return m_server->picture(area); });
 }
 
 std::optional<QByteArray> XDesktop::clipboard(const QString &type)

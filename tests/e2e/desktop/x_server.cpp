@@ -241,4 +241,21 @@ int MapLog::panelsShown(qint64 pid)
     return count;
 }
 
+KeyLog::KeyLog(const QByteArray &display, xcb_window_t window)
+    : m_server(display)
+{
+    // Beside the window's own program: this mask is that of our connection.
+    const uint32_t mask = XCB_EVENT_MASK_KEY_PRESS;
+    xcb_change_window_attributes(m_server.connection(), window, XCB_CW_EVENT_MASK, &mask);
+    m_server.focusedWindow();
+}
+
+int KeyLog::presses()
+{
+    m_server.focusedWindow();
+    while (auto event = owned(xcb_poll_for_event(m_server.connection())))
+        m_presses += (event->response_type & 0x7f) == XCB_KEY_PRESS ? 1 : 0;
+    return m_presses;
+}
+
 } // namespace corvane::e2e

@@ -91,4 +91,17 @@ private:
     QList<xcb_window_t> m_shown;
 };
 
+/// How often keys have gone down in a window since it was made; the server's repetitions of a key
+/// that is held count, too.
+class KeyLog {
+public:
+    KeyLog(const QByteArray &display, xcb_window_t window);
+
+    int presses();
+
+private:
+    XServer m_server;
+    int m_presses = 0;
+};
+
 } // namespace corvane::e2e

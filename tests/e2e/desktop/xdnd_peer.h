@@ -1,11 +1,11 @@
 #pragma once
 
+#include "e2e/desktop/eventually.h"
 #include "e2e/desktop/x_desktop.h"
 
 #include <QHash>
 #include <QList>
 #include <QRect>
-#include <QThread>
 
 #include <optional>
 
@@ -149,15 +149,12 @@ private:
 template<class Condition>
 bool XdndPeer::pumpUntil(Condition &&condition, std::chrono::milliseconds limit)
 {
-    const auto deadline = std::chrono::steady_clock::now() + limit;
-    for (;;) {
-        pump();
-        if (static_cast<bool>(condition()))
-            return true;
-        if (std::chrono::steady_clock::now() >= deadline)
-            return false;
-        QThread::msleep(1);
-    }
+    return eventually(
+        [&] {
+            pump();
+            return static_cast<bool>(condition());
+        },
+        limit);
 }
 
 } // namespace corvane::e2e
