@@ -260,7 +260,7 @@ void ShelfLayers::applyButton(BitmapLayer &layer, const std::optional<QRectF> &f
 
 void ShelfLayers::applyArrow(std::size_t side, const ShelfLook &look)
 {
-    Arrow &arrow = side == 0 ? m_leftArrow : m_rightArrow;
+    ArrowLayers &arrow = side == 0 ? m_leftArrow : m_rightArrow;
     if (!look.layout.arrows) {
         arrow.plate.setOpacity(0);
         return;
