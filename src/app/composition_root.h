@@ -46,6 +46,7 @@
 #include "platform/x11/x11_connection.h"
 #include "platform/x11/x11_drag_desktop.h"
 #include "platform/x11/x11_drag_support.h"
+#include "platform/x11/x11_drop_support.h"
 #include "platform/x11/x11_full_screen_windows.h"
 #include "platform/x11/x11_hot_keys.h"
 #include "platform/x11/x11_keyboard_layout.h"
@@ -101,6 +102,7 @@ struct CompositionRoot {
     X11WindowActivation windowActivation;
     X11PointerBarriers pointerBarriers;
     X11FullScreenWindows fullScreenWindows;
+    X11DropSupport dropSupport;
     X11DragSupport dragSupport;
     QtPanelWindow panel;
     QtPanelWindow viewAllPanel;

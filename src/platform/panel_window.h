@@ -8,6 +8,7 @@
 #include <QRectF>
 
 #include <functional>
+#include <optional>
 
 class QPainter;
 
@@ -42,11 +43,19 @@ public:
 
 /// What is dragged out of a panel.
 struct DragOut {
+    using Ready = std::function<void(std::optional<PasteboardContents>)>;
+
     PasteboardContents contents;
     /// The picture under the pointer and the point of it that the pointer holds, in points from its
     /// bottom left.
     Image image;
     QPointF hotSpot;
+    /// Set while some of `contents` are still being made. They then stand for the final ones: as
+    /// many writers of the same kinds, in the same order, so that it can be told what is offered.
+    /// Called once, as the drag begins, with what is to be called on the main thread, now or later,
+    /// once: with the final contents, or with none where there will be none. Targets that ask
+    /// before that are answered then, or refused after a while.
+    std::function<void(Ready ready)> whenReady = {};
 };
 
 /// A borderless window that floats above everything, on every workspace and over full-screen

@@ -168,7 +168,7 @@ TEST_F(DragOutTest, aSecondDragInsideTheFirstIsNone)
 
 TEST_F(DragOutTest, aPanelThatDiesInItsDragReportsNothing)
 {
-    auto dying = std::make_unique<QtPanelWindow>(surface, queue, &support);
+    auto dying = std::make_unique<QtPanelWindow>(surface, queue, &dropSupport, &dragSupport);
     RecordingContent dyingContent;
     dying->setContent(&dyingContent);
     dying->setFrame({600, 482, 300, 100});

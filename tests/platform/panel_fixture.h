@@ -6,6 +6,7 @@
 #include "platform/recording_content.h"
 #include "platform/x11/x11_connection.h"
 #include "platform/x11/x11_drag_support.h"
+#include "platform/x11/x11_drop_support.h"
 #include "platform/x11/x11_panel_surface.h"
 
 #include <gtest/gtest.h>
@@ -48,9 +49,10 @@ protected:
     QtMainQueue queue;
     X11Connection connection;
     X11PanelSurface surface{connection};
-    X11DragSupport support{connection, queue};
+    X11DropSupport dropSupport{connection};
+    X11DragSupport dragSupport{connection, queue};
     RecordingContent content;
-    QtPanelWindow panel{surface, queue, &support};
+    QtPanelWindow panel{surface, queue, &dropSupport, &dragSupport};
 };
 
 } // namespace corvane::test

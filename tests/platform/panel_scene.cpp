@@ -9,6 +9,7 @@
 #include "platform/scenes.h"
 #include "platform/x11/x11_connection.h"
 #include "platform/x11/x11_drag_support.h"
+#include "platform/x11/x11_drop_support.h"
 #include "platform/x11/x11_panel_surface.h"
 
 #include <QCoreApplication>
@@ -54,10 +55,11 @@ int playPanel()
     QtMainQueue queue;
     X11Connection connection;
     X11PanelSurface surface(connection);
-    X11DragSupport support(connection, queue);
+    X11DropSupport dropSupport(connection);
+    X11DragSupport dragSupport(connection, queue);
     RecordingContent content;
     content.onPerform = readText;
-    QtPanelWindow panel(surface, queue, &support);
+    QtPanelWindow panel(surface, queue, &dropSupport, &dragSupport);
     panel.setContent(&content);
     panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame)));
     const QRectF body

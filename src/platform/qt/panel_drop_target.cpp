@@ -46,7 +46,7 @@ DraggingInfo infoFrom(const QDropEvent &event, double panelHeight, Pasteboard &p
 
 } // namespace
 
-PanelDropTarget::PanelDropTarget(DragSupport *support)
+PanelDropTarget::PanelDropTarget(DropSupport *support)
     : m_support(support)
 {
 }

@@ -8,7 +8,7 @@ class QDropEvent;
 
 namespace corvane {
 
-class DragSupport;
+class DropSupport;
 class PanelContent;
 
 /// A drag over a panel, told to its content and answered to its source.
@@ -21,7 +21,7 @@ class PanelContent;
 /// the source that the drop is finished: nothing may be thrown past these calls.
 class PanelDropTarget {
 public:
-    explicit PanelDropTarget(DragSupport *support);
+    explicit PanelDropTarget(DropSupport *support);
 
     /// Null while there is nobody to ask: everything is refused.
     void setContent(PanelContent *content) { m_content = content; }
@@ -38,7 +38,7 @@ private:
         Refused,
     };
 
-    DragSupport *m_support;
+    DropSupport *m_support;
     PanelContent *m_content = nullptr;
     State m_state = State::Outside;
 };

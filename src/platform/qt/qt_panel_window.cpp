@@ -16,11 +16,12 @@
 
 namespace corvane {
 
-QtPanelWindow::QtPanelWindow(PanelSurface &surface, MainQueue &queue, DragSupport *support)
+QtPanelWindow::QtPanelWindow(PanelSurface &surface, MainQueue &queue, DropSupport *dropSupport,
+                             DragSupport *dragSupport)
     : m_surface(surface)
     , m_queue(queue)
-    , m_support(support)
-    , m_dropTarget(support)
+    , m_dragSupport(dragSupport)
+    , m_dropTarget(dropSupport)
     , m_canvas(std::make_unique<PanelCanvas>([this](QPainter &painter) { paint(painter); },
                                              [this](QEvent &event) { return handle(event); }))
 {
@@ -123,7 +124,7 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, std::function<void(DragOp
     }
     const auto alive = m_alive;
     PanelCanvas *canvas = m_canvas.get();
-    const DragOperation operation = runDragSession(*canvas, drag, m_support);
+    const DragOperation operation = runDragSession(*canvas, drag, m_dragSupport);
     if (!*alive) {
         // Later: one of its events is what we are in.
         canvas->deleteLater();

@@ -12,17 +12,19 @@ class QMouseEvent;
 namespace corvane {
 
 class DragSupport;
+class DropSupport;
 class MainQueue;
 class PanelSurface;
 
-/// A panel on a Qt window of its own. Everything that it is given must outlive it; without a
-/// support drags are what Qt makes of them. Main thread only.
+/// A panel on a Qt window of its own. Everything that it is given must outlive it; without the
+/// supports drops and drags are what Qt makes of them. Main thread only.
 class QtPanelWindow : public PanelWindow {
 public:
     /// How long a window manager may take to give the keyboard to what was clicked.
     static constexpr double focusDelay = 0.3;
 
-    QtPanelWindow(PanelSurface &surface, MainQueue &queue, DragSupport *support = nullptr);
+    QtPanelWindow(PanelSurface &surface, MainQueue &queue, DropSupport *dropSupport = nullptr,
+                  DragSupport *dragSupport = nullptr);
     ~QtPanelWindow() override;
 
     void setContent(PanelContent *content) override;
@@ -52,7 +54,7 @@ private:
 
     PanelSurface &m_surface;
     MainQueue &m_queue;
-    DragSupport *m_support;
+    DragSupport *m_dragSupport;
     PanelContent *m_content = nullptr;
     PanelDropTarget m_dropTarget;
     std::unique_ptr<PanelCanvas> m_canvas;

@@ -1,6 +1,6 @@
 #include "platform/qt/qt_pasteboard.h"
 
-#include "platform/drag_support.h"
+#include "platform/drop_support.h"
 #include "platform/qt/pasteboard_text.h"
 #include "platform/qt/remote_mounts.h"
 #include "platform/qt/uri_list.h"
@@ -46,7 +46,7 @@ QStringList textTypes(const QStringList &types)
 
 } // namespace
 
-QtPasteboard::QtPasteboard(const QMimeData *mimeData, DragSupport *support)
+QtPasteboard::QtPasteboard(const QMimeData *mimeData, DropSupport *support)
     : m_mimeData(mimeData)
     , m_support(support)
 {

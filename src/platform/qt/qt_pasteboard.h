@@ -6,7 +6,7 @@ class QMimeData;
 
 namespace corvane {
 
-class DragSupport;
+class DropSupport;
 
 /// What a drop or the clipboard carries, behind `QMimeData`. Addresses are fetched once, everything
 /// else each time it is asked for. Both must outlive it; without a support nothing is promised.
@@ -18,7 +18,7 @@ public:
     /// yet another name.
     static constexpr int textPatience = 2'000;
 
-    explicit QtPasteboard(const QMimeData *mimeData, DragSupport *support = nullptr);
+    explicit QtPasteboard(const QMimeData *mimeData, DropSupport *support = nullptr);
 
     QStringList types() const override;
     QList<QUrl> urls() override;
@@ -33,7 +33,7 @@ private:
     QList<QUrl> readUrls() const;
 
     const QMimeData *m_mimeData;
-    DragSupport *m_support;
+    DropSupport *m_support;
     std::optional<QList<QUrl>> m_urls;
 };
 

@@ -1,7 +1,5 @@
 #include "platform/x11/x11_drag_support.h"
 
-#include "platform/file_url.h"
-#include "platform/x11/file_arrival.h"
 #include "platform/x11/x11_qt.h"
 #include "platform/x11/x11_reply.h"
 
@@ -14,9 +12,6 @@
 namespace corvane {
 
 namespace {
-
-constexpr auto directSave = "XdndDirectSave0";
-constexpr std::uint32_t longestFileName = 1024;
 
 /// The names under which programs ask for plain text.
 constexpr std::array textNames = {"text/plain", "text/plain;charset=utf-8", "UTF8_STRING"};
@@ -34,44 +29,6 @@ X11DragSupport::~X11DragSupport()
 {
     if (auto *application = QCoreApplication::instance())
         application->removeNativeEventFilter(this);
-}
-
-QString X11DragSupport::directSaveType() const
-{
-    return QLatin1String(directSave);
-}
-
-std::optional<QString> X11DragSupport::promisedFileName()
-{
-    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection.get(),
-        xcb_get_property(m_connection.get(), 0, m_source, m_connection.atom(directSave),
-                         XCB_GET_PROPERTY_TYPE_ANY, 0, longestFileName / 4),
-        nullptr));
-    if (!reply || reply->format != 8)
-        return std::nullopt;
-    const QByteArray name(static_cast<const char *>(xcb_get_property_value(reply.get())),
-                          xcb_get_property_value_length(reply.get()));
-    if (name.isEmpty())
-        return std::nullopt;
-    return QString::fromUtf8(name);
-}
-
-bool X11DragSupport::receivePromisedFile(const QUrl &destination, const Fetch &fetch)
-{
-    FileArrival arrival(file_url::nativePath(destination));
-    const QByteArray address = destination.toEncoded(QUrl::FullyEncoded);
-    const X11Reply<xcb_generic_error_t> error(xcb_request_check(
-        m_connection.get(),
-        xcb_change_property_checked(m_connection.get(), XCB_PROP_MODE_REPLACE, m_source,
-                                    m_connection.atom(directSave), m_connection.atom("text/plain"),
-                                    8, static_cast<std::uint32_t>(address.size()),
-                                    address.constData())));
-    // 'S' is success; 'F' asks us to save by ourselves, 'E' is an error.
-    if (!error && fetch(directSaveType()).startsWith('S') && arrival.wait())
-        return true;
-    arrival.discard();
-    return false;
 }
 
 void X11DragSupport::dragWillBegin(const QMimeData &contents)
@@ -117,8 +74,6 @@ void X11DragSupport::readMessage(xcb_client_message_event_t &message)
 {
     if (message.format != 32)
         return;
-    if (message.type == m_connection.atom("XdndEnter"))
-        m_source = message.data.data32[0];
     // Qt takes any flag for consent, the wish to hear every position too. It would drop on a target
     // that refuses, and report a copy that nobody took.
     constexpr std::uint32_t accepts = 1;

@@ -9,13 +9,10 @@
 
 namespace corvane {
 
-/// The parts of drag and drop on X11 that Qt leaves out. Listens to the events that Qt receives,
-/// and must be made after the application object. The connection and the queue must outlive it.
+/// What Qt leaves out for a source of drags on X11. Listens to the events that Qt receives, and
+/// must be made after the application object. The connection and the queue must outlive it.
 ///
-/// As a target: direct save, where the source is told a file's address in a property of its window,
-/// writes there, and says how that went.
-///
-/// As a source: Qt answers only requests that carry the time of the drag or come from the window
+/// Qt answers only requests that carry the time of the drag or come from the window
 /// that the drop was sent to. GTK 4 asks from another window, without a time, and for the list of
 /// types first; unanswered, it takes nothing while Qt reports a copy. So all requests for what we
 /// drag are answered here, from a copy made when the drag began; at once what is small, piece by
@@ -27,9 +24,6 @@ public:
     X11DragSupport(const X11DragSupport &) = delete;
     X11DragSupport &operator=(const X11DragSupport &) = delete;
 
-    QString directSaveType() const override;
-    std::optional<QString> promisedFileName() override;
-    bool receivePromisedFile(const QUrl &destination, const Fetch &fetch) override;
     void dragWillBegin(const QMimeData &contents) override;
 
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
@@ -40,8 +34,6 @@ private:
     bool writeAnswer(const xcb_selection_request_event_t &request, xcb_atom_t property);
 
     X11Connection &m_connection;
-    /// The window that the latest drag over one of ours came from.
-    xcb_window_t m_source = XCB_NONE;
     /// What we drag, by type.
     QHash<xcb_atom_t, QByteArray> m_contents;
     IncrementalTransfers m_transfers;
