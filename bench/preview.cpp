@@ -3,6 +3,7 @@
 
 #include "fakes/fake_desktop_services.h"
 #include "fakes/fake_file_icons.h"
+#include "fakes/fake_file_locality.h"
 #include "fakes/fake_panel_window.h"
 #include "fakes/fake_window_activation.h"
 #include "platform/file_url.h"
@@ -161,7 +162,8 @@ int run()
     QtMainQueue queue;
     QtPreviewDocuments documents;
     QtWorkQueue work;
-    PreviewLoader loader(documents, queue, work);
+    const test::FakeFileLocality locality;
+    PreviewLoader loader({documents, locality, queue, work, work});
     test::FakeFileIcons icons;
     test::FakeDesktopServices desktop;
     test::FakeWindowActivation activation;

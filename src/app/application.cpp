@@ -2,13 +2,17 @@
 
 #include "app/app_info.h"
 #include "app/composition_root.h"
+#include "platform/end_deadline.h"
 #include "platform/freedesktop/dbus_single_instance.h"
 #include "platform/freedesktop/session_bus.h"
 #include "platform/qt/unix_signals.h"
 
 #include <QApplication>
 
+#include <unistd.h>
+
 #include <cstdio>
+#include <memory>
 #include <utility>
 
 namespace corvane {
@@ -25,6 +29,19 @@ bool hasDisplay()
 bool isStartedByBus()
 {
     return QCoreApplication::arguments().contains(QLatin1String("--started-by-bus"));
+}
+
+/// Of the time that the end may take, what is left to threads. The clipboard needs the rest.
+constexpr std::chrono::milliseconds patienceForThreads{150};
+
+/// The steps of the end, the first time that it is asked for.
+void putInOrder(AppDelegate *delegate)
+{
+    if (!delegate)
+        return;
+    end_deadline::set(end_deadline::forSteps);
+    delegate->applicationWillTerminate();
+    end_deadline::set(end_deadline::forRest);
 }
 
 void setUpApplication(const AppInfo &info)
@@ -50,7 +67,7 @@ int runApplication(int argc, char **argv)
     qputenv("QT_QPA_PLATFORM", "xcb");
     session_bus::keepFromStarting();
     const AppInfo info = AppInfo::builtIn();
-    QApplication application(argc, argv);
+    auto application = std::make_unique<QApplication>(argc, argv);
     setUpApplication(info);
 
     AppDelegate *delegate = nullptr;
@@ -69,22 +86,28 @@ int runApplication(int argc, char **argv)
         return 0;
 
     // However the process ends, nothing of the spool may outlive it.
+    end_deadline::prepare();
     const auto terminate = [&delegate] {
-        if (delegate)
-            delegate->applicationWillTerminate();
+        putInOrder(std::exchange(delegate, nullptr));
         QCoreApplication::quit();
     };
-    CompositionRoot root(terminate);
-    delegate = &root.delegate;
+    auto root = std::make_unique<CompositionRoot>(terminate);
+    delegate = &root->delegate;
     const UnixSignals signals(terminate);
-    QObject::connect(&application, &QCoreApplication::aboutToQuit, terminate);
+    QObject::connect(application.get(), &QCoreApplication::aboutToQuit, terminate);
 
     delegate->applicationDidFinishLaunching();
-    root.mainQueue.async([&root] { root.spool.removeLeftovers(); });
+    root->workQueue.run(root->spool.leftoversRemoval());
     const int status = QApplication::exec();
-    delegate->applicationWillTerminate();
-    delegate = nullptr;
-    return status;
+    putInOrder(std::exchange(delegate, nullptr));
+    root->userDefaults.synchronize();
+    if (root->finishWork(patienceForThreads))
+        return status;
+    // What a thread that does not come back may use has to stay, and everything else that is owed
+    // to the desktop goes with the application object: the clipboard's contents, above all.
+    [[maybe_unused]] const CompositionRoot *const kept = root.release();
+    application.reset();
+    ::_exit(status);
 }
 
 } // namespace corvane

@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
@@ -14,6 +15,7 @@
 #include <QScreen>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cmath>
 
 namespace corvane {
@@ -101,9 +103,9 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                  thumbnailWork)
     , linkPreviews(webClient, imageCodec, mainQueue, workQueue, product())
     , store(settings, spool, thumbnails, linkPreviews, feedback)
-    , previewLoader(previewDocuments, mainQueue, previewWork)
+    , previewLoader({previewDocuments, mountTable, mainQueue, previewWork, remotePreviewWork})
     , previewPanel({previewLoader, fileIcons, desktopServices, windowActivation, mainQueue, panel})
-    , presenter(previewPanel, QFile::encodeName(QDir::tempPath()))
+    , presenter({previewPanel, mainQueue, previewWork}, QFile::encodeName(QDir::tempPath()))
     , theme(QGuiApplication::font(), logicalDotsPerInch())
     , dragWriter(makeDragWriter(theme))
     , viewAll({{viewAllPanel, mainQueue, motionPreference, theme, keyboard, dragWriter, spool},
@@ -150,6 +152,22 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
         store.describe(item, description);
     };
     thumbnails.setItemsInView([this] { return itemsInView(store); });
+}
+
+bool CompositionRoot::finishWork(std::chrono::milliseconds patience)
+{
+    const QDeadlineTimer deadline(patience);
+    bool haveAllEnded = true;
+    const auto finish = [&](auto &threads) {
+        const std::chrono::milliseconds rest(std::max<qint64>(deadline.remainingTime(), 0));
+        haveAllEnded = threads.finish(rest) && haveAllEnded;
+    };
+    for (QtWorkQueue *queue :
+         {&workQueue, &thumbnailWork, &previewWork, &remotePreviewWork, &updateWork})
+        finish(*queue);
+    finish(webClient);
+    finish(updateClient);
+    return haveAllEnded;
 }
 
 std::unique_ptr<Updater> CompositionRoot::makeUpdater()

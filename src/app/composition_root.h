@@ -63,6 +63,7 @@
 #include "shelf/theme.h"
 #include "shelf/view_all_controller.h"
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -75,6 +76,10 @@ struct CompositionRoot {
     explicit CompositionRoot(const std::function<void()> &terminate);
     CompositionRoot(const CompositionRoot &) = delete;
     CompositionRoot &operator=(const CompositionRoot &) = delete;
+
+    /// Has every thread end, and waits no longer than that; whether all have, so that nothing here
+    /// is used any more and it can be destroyed.
+    bool finishWork(std::chrono::milliseconds patience);
 
     // The desktop.
     QtMainQueue mainQueue;
@@ -137,8 +142,10 @@ struct CompositionRoot {
 
     // The preview.
     QtPreviewDocuments previewDocuments;
-    // Of its own: a file whose disk does not answer keeps nothing else waiting.
+    // Of its own: a preview waits for no thumbnails. Files whose server may not answer have another
+    // one, so that they keep nothing else waiting.
     QtWorkQueue previewWork;
+    QtWorkQueue remotePreviewWork{QtWorkQueue::maximumHangingThreads};
     PreviewLoader previewLoader;
     QtPreviewPanel previewPanel;
     QuickLookPresenter presenter;

@@ -154,20 +154,20 @@ void ScratchSpool::discard(const QUrl &url) const
 void ScratchSpool::discardAll()
 {
     if (stillStands())
-        spool_directory::remove(m_directory);
+        spool_directory::removeAtEnd(m_directory);
     close();
 }
 
-void ScratchSpool::removeLeftovers()
+std::function<void()> ScratchSpool::leftoversRemoval() const
 {
-    for (const QByteArray &path : spool_directory::candidates(m_temporaryDirectory)) {
-        // Whoever lives holds the lock, this spool too.
-        const int descriptor = spool_directory::openAndLock(path);
-        if (descriptor < 0)
-            continue;
-        spool_directory::remove(path);
-        ::close(descriptor);
-    }
+    if (m_descriptor < 0)
+        spool_directory::setAside(m_directory);
+    return [folder = m_temporaryDirectory, own = m_directory] {
+        for (const QByteArray &path : spool_directory::candidates(folder)) {
+            if (path != own)
+                spool_directory::removeLeftover(path);
+        }
+    };
 }
 
 QString ScratchSpool::safeBasename(const QString &name)

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QUrl>
 
+#include <functional>
 #include <optional>
 
 namespace corvane {
@@ -39,10 +40,13 @@ public:
     bool contains(const QUrl &url) const;
     /// Deletes one spooled file; an address outside is left alone, a failure ignored.
     void discard(const QUrl &url) const;
-    /// Deletes the directory and everything in it.
+    /// Deletes the directory and everything in it. Where that is more than a moment's work, a
+    /// process that outlives this one does the rest.
     void discardAll();
-    /// Removes what dead processes of this user left in the temporary directory.
-    void removeLeftovers();
+    /// Work that removes what dead processes of this user left in the temporary directory, for any
+    /// thread; it does not need this object. What a dead process of this number left gets another
+    /// name at once, so that the work never meets the directory that is used here.
+    [[nodiscard]] std::function<void()> leftoversRemoval() const;
 
     static QString safeBasename(const QString &name);
 

@@ -1,14 +1,18 @@
 #include "core/spool_directory.h"
 
+#include <QRandomGenerator>
 #include <QStringBuilder>
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <spawn.h>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <system_error>
@@ -33,6 +37,35 @@ bool isSafe(int descriptor)
     struct stat status = {};
     return ::fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode)
         && status.st_uid == ::geteuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+}
+
+bool holdsMoreThan(int most, const QByteArray &path)
+{
+    std::error_code problem;
+    std::filesystem::directory_iterator entry(path.constData(), problem);
+    int count = 0;
+    while (!problem && entry != std::filesystem::directory_iterator() && ++count <= most)
+        entry.increment(problem);
+    return count > most;
+}
+
+/// Has another program remove it; whether that has begun.
+bool haveRemoved(QByteArray path)
+{
+    std::array<char, 3> program = {"rm"};
+    std::array<char, 4> option = {"-rf"};
+    std::array<char, 3> endOfOptions = {"--"};
+    const std::array<char *, 5> arguments
+        = {program.data(), option.data(), endOfOptions.data(), path.data(), nullptr};
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    // What ends this process by its group or its terminal need not end that one.
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+    pid_t process = -1;
+    const int problem
+        = ::posix_spawnp(&process, program.data(), nullptr, &attributes, arguments.data(), environ);
+    posix_spawnattr_destroy(&attributes);
+    return problem == 0;
 }
 
 } // namespace
@@ -77,6 +110,34 @@ std::vector<QByteArray> candidates(const QByteArray &temporaryDirectory)
             paths.push_back(temporaryDirectory + '/' + entryName);
     }
     return paths;
+}
+
+void setAside(const QByteArray &path)
+{
+    const int descriptor = openAndLock(path);
+    if (descriptor < 0)
+        return;
+    // Nobody has to find it but who looks for leftovers.
+    const QByteArray folder = path.first(path.lastIndexOf('/') + 1);
+    const auto number = QRandomGenerator::system()->generate64();
+    ::rename(path.constData(),
+             QByteArray(folder + prefix + QByteArray::number(number)).constData());
+    ::close(descriptor);
+}
+
+void removeLeftover(const QByteArray &path)
+{
+    const int descriptor = openAndLock(path);
+    if (descriptor < 0)
+        return;
+    remove(path);
+    ::close(descriptor);
+}
+
+void removeAtEnd(const QByteArray &path)
+{
+    if (!holdsMoreThan(mostRemovedAtEnd, path) || !haveRemoved(path))
+        remove(path);
 }
 
 void remove(const QByteArray &path)

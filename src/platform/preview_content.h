@@ -93,6 +93,8 @@ public:
 
     /// What can be told without touching the disk: a name.
     virtual PreviewDetails placeholder(const QUrl &url) const = 0;
+    /// Whether the disk that it lies on may never answer; it is not touched to find out.
+    virtual bool mayNeverAnswer(const QUrl &url) const = 0;
     /// Makes the content of a file. A picture is fitted into `wanted` pixels. Forgets what was
     /// asked for before: its completion never comes.
     virtual void load(const QUrl &url, QSize wanted, std::function<void(PreviewContent)> completion)

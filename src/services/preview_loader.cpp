@@ -1,6 +1,8 @@
 #include "services/preview_loader.h"
 
 #include "platform/checked_math.h"
+#include "platform/file_locality.h"
+#include "platform/file_url.h"
 #include "platform/main_queue.h"
 #include "platform/preview_documents.h"
 #include "platform/work_queue.h"
@@ -10,11 +12,32 @@
 
 namespace corvane {
 
-PreviewLoader::PreviewLoader(PreviewDocuments &documents, MainQueue &mainQueue,
-                             WorkQueue &workQueue)
-    : m_documents(documents)
-    , m_mainQueue(mainQueue)
-    , m_workQueue(workQueue)
+namespace {
+
+/// The same document, which ends on a thread of that queue: closing a file may wait, too.
+void endOn(WorkQueue &queue, std::shared_ptr<PreviewDocument> &document)
+{
+    if (PreviewDocument *const raw = document.get()) {
+        document = std::shared_ptr<PreviewDocument>(
+            raw, [&queue, kept = std::move(document)](PreviewDocument *) mutable {
+                queue.run([kept = std::move(kept)] {});
+            });
+    }
+}
+
+void endOn(WorkQueue &queue, PreviewContent &content)
+{
+    if (auto *const picture = std::get_if<PreviewContent::Picture>(&content.body))
+        endOn(queue, picture->document);
+    else if (auto *const pages = std::get_if<PreviewContent::Pages>(&content.body))
+        endOn(queue, pages->document);
+}
+
+} // namespace
+
+PreviewLoader::PreviewLoader(const Context &context)
+    : m_context(context)
+    , m_workQueue(&context.workQueue)
 {
 }
 
@@ -27,14 +50,20 @@ PreviewDetails PreviewLoader::placeholder(const QUrl &url) const
     return details;
 }
 
+bool PreviewLoader::mayNeverAnswer(const QUrl &url) const
+{
+    const QByteArray path = file_url::nativePath(url);
+    return !path.isEmpty() && m_context.locality.isRemote(path);
+}
+
 template<class Result>
 void PreviewLoader::inBackground(std::function<Result()> work,
                                  std::function<void(Result)> completion)
 {
     // Work reaches only what outlives it; the loader may be gone when it ends.
-    m_workQueue.run([&mainQueue = m_mainQueue, weak = std::weak_ptr(m_generation),
-                     asked = m_generation->load(), work = std::move(work),
-                     completion = std::move(completion)] {
+    m_workQueue->run([&mainQueue = m_context.mainQueue, weak = std::weak_ptr(m_generation),
+                      asked = m_generation->load(), work = std::move(work),
+                      completion = std::move(completion)] {
         const auto isForgotten = [weak, asked] {
             const auto generation = weak.lock();
             return !generation || generation->load() != asked;
@@ -53,9 +82,16 @@ void PreviewLoader::load(const QUrl &url, QSize wanted,
                          std::function<void(PreviewContent)> completion)
 {
     cancel();
-    inBackground<PreviewContent>([&documents = m_documents, url,
-                                  wanted] { return preview_file::read(url, wanted, documents); },
-                                 std::move(completion));
+    const bool isRemote = mayNeverAnswer(url);
+    m_workQueue = isRemote ? &m_context.remoteWorkQueue : &m_context.workQueue;
+    inBackground<PreviewContent>(
+        [&documents = m_context.documents, isRemote, &queue = *m_workQueue, url, wanted] {
+            PreviewContent content = preview_file::read(url, wanted, documents);
+            if (isRemote)
+                endOn(queue, content);
+            return content;
+        },
+        std::move(completion));
 }
 
 void PreviewLoader::cancel()

@@ -7,23 +7,35 @@
 
 namespace corvane {
 
+class FileLocality;
 class MainQueue;
 class PreviewDocuments;
 class WorkQueue;
 
 /// Makes the contents of previews on other threads: whatever touches the file happens there, so
-/// that a disk which does not answer keeps nobody waiting but the preview.
+/// that a disk which does not answer keeps nobody waiting but the preview. Files behind a network
+/// have threads of their own, and their documents are closed there, too: that asks the server
+/// again.
 ///
 /// What it is given must outlive it and all work that is under way. Once it is gone, or has been
 /// told to forget, nothing is answered.
 class PreviewLoader : public PreviewLoading {
 public:
-    PreviewLoader(PreviewDocuments &documents, MainQueue &mainQueue, WorkQueue &workQueue);
+    struct Context {
+        PreviewDocuments &documents;
+        const FileLocality &locality;
+        MainQueue &mainQueue;
+        WorkQueue &workQueue;
+        /// For files that may never be answered for.
+        WorkQueue &remoteWorkQueue;
+    };
+    explicit PreviewLoader(const Context &context);
     PreviewLoader(const PreviewLoader &) = delete;
     PreviewLoader &operator=(const PreviewLoader &) = delete;
     ~PreviewLoader() override;
 
     PreviewDetails placeholder(const QUrl &url) const override;
+    bool mayNeverAnswer(const QUrl &url) const override;
     void load(const QUrl &url, QSize wanted,
               std::function<void(PreviewContent)> completion) override;
     void cancel() override;
@@ -36,9 +48,9 @@ private:
     template<class Result>
     void inBackground(std::function<Result()> work, std::function<void(Result)> completion);
 
-    PreviewDocuments &m_documents;
-    MainQueue &m_mainQueue;
-    WorkQueue &m_workQueue;
+    Context m_context;
+    /// For what was loaded last.
+    WorkQueue *m_workQueue;
     /// What was asked for before the last `cancel` holds an older number. Held weakly by all work.
     using Generation = std::atomic<std::uint64_t>;
     std::shared_ptr<Generation> m_generation = std::make_shared<Generation>(0);

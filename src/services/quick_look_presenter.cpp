@@ -2,8 +2,11 @@
 
 #include "core/display_text.h"
 #include "core/drop_item.h"
+#include "platform/checked_math.h"
 #include "platform/file_url.h"
+#include "platform/main_queue.h"
 #include "platform/private_file.h"
+#include "platform/work_queue.h"
 
 #include <QUuid>
 
@@ -44,8 +47,8 @@ QString extensionOf(const UTType &type)
 
 } // namespace
 
-QuickLookPresenter::QuickLookPresenter(PreviewPanel &panel, QByteArray temporaryDirectory)
-    : m_panel(panel)
+QuickLookPresenter::QuickLookPresenter(const Context &context, QByteArray temporaryDirectory)
+    : m_context(context)
     , m_temporaryDirectory(std::move(temporaryDirectory))
 {
 }
@@ -62,10 +65,10 @@ void QuickLookPresenter::present(const DropItem &item)
         return;
     m_previewURL = url;
     m_title = item.title();
-    if (m_panel.isVisible())
-        m_panel.orderOut();
+    if (m_context.panel.isVisible())
+        m_context.panel.orderOut();
     else
-        m_panel.makeKeyAndOrderFront();
+        m_context.panel.makeKeyAndOrderFront();
 }
 
 std::optional<QString> QuickLookPresenter::previewItemTitle(int /*index*/) const
@@ -75,6 +78,9 @@ std::optional<QString> QuickLookPresenter::previewItemTitle(int /*index*/) const
 
 void QuickLookPresenter::discardScratch()
 {
+    m_isWriting = false;
+    // Before the file goes: what is written after that is removed by who wrote it.
+    m_generation->store(checkedAdd<std::uint64_t>(m_generation->load(), 1));
     if (const auto url = std::exchange(m_scratchURL, std::nullopt))
         ::unlink(file_url::nativePath(*url).constData());
 }
@@ -83,32 +89,69 @@ std::optional<QUrl> QuickLookPresenter::resolveURL(const DropItem &item)
 {
     discardScratch();
     const QString textExtension = QStringLiteral("txt");
-    return std::visit(Overloaded{
-                          [](const DropItem::File &file) { return std::optional(file.url); },
-                          [&](const DropItem::ImageBytes &image) {
-                              return writeScratch(image.data, extensionOf(image.type));
-                          },
-                          [&](const DropItem::Text &text) {
-                              return writeScratch(text.string.toUtf8(), textExtension);
-                          },
-                          [&](const DropItem::Link &link) {
-                              return writeScratch(link.url.toString(QUrl::FullyEncoded).toUtf8(),
-                                                  textExtension);
-                          },
-                      },
-                      item.payload());
+    return std::visit(
+        Overloaded{
+            [](const DropItem::File &file) { return std::optional(file.url); },
+            [&](const DropItem::ImageBytes &image) {
+                return writeScratch([data = image.data] { return data; }, image.data.size(),
+                                    extensionOf(image.type));
+            },
+            [&](const DropItem::Text &text) {
+                return writeScratch([string = text.string] { return string.toUtf8(); },
+                                    text.string.size(), textExtension);
+            },
+            [&](const DropItem::Link &link) {
+                const QByteArray line = link.url.toString(QUrl::FullyEncoded).toUtf8();
+                return writeScratch([line] { return line; }, line.size(), textExtension);
+            },
+        },
+        item.payload());
 }
 
-std::optional<QUrl> QuickLookPresenter::writeScratch(const QByteArray &data,
-                                                     const QString &extension)
+std::optional<QUrl> QuickLookPresenter::writeScratch(const std::function<QByteArray()> &data,
+                                                     qsizetype size, const QString &extension)
 {
     const QString uuid = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
     const QString name = QLatin1String("Corvane-Preview-") + uuid + QLatin1Char('.') + extension;
     const QByteArray path = m_temporaryDirectory + '/' + name.toUtf8();
-    if (!private_file::create(path, data))
+    if (size > longestAtOnce)
+        writeInBackground(data, path);
+    else if (!private_file::create(path, data()))
         return std::nullopt;
     m_scratchURL = file_url::fromNativePath(path);
     return m_scratchURL;
+}
+
+void QuickLookPresenter::writeInBackground(const std::function<QByteArray()> &data,
+                                           const QByteArray &path)
+{
+    m_isWriting = true;
+    m_context.workQueue.run([this, &mainQueue = m_context.mainQueue, generation = m_generation,
+                             asked = m_generation->load(), data, path] {
+        const auto isWanted = [generation, asked] { return generation->load() == asked; };
+        if (!isWanted())
+            return;
+        const bool isThere = private_file::create(path, data());
+        if (!isWanted())
+            ::unlink(path.constData());
+        mainQueue.async([this, isWanted, isThere] {
+            // It discards its scratch file before it goes.
+            if (isWanted())
+                written(isThere);
+        });
+    });
+}
+
+void QuickLookPresenter::written(bool isThere)
+{
+    m_isWriting = false;
+    if (isThere) {
+        m_context.panel.reloadData();
+        return;
+    }
+    m_scratchURL.reset();
+    m_previewURL.reset();
+    m_context.panel.orderOut();
 }
 
 } // namespace corvane

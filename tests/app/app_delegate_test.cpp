@@ -12,6 +12,7 @@
 #include "fakes/fake_preview_panel.h"
 #include "fakes/fake_status_item.h"
 #include "fakes/fake_window_activation.h"
+#include "fakes/fake_work_queue.h"
 #include "fakes/shelf_model.h"
 #include "input/drag_monitor.h"
 #include "input/hot_key_center.h"
@@ -96,7 +97,8 @@ protected:
                              [this] { return settings.viewAllShortcut(); }};
     TemporaryFolder scratch;
     FakePreviewPanel previewPanel;
-    QuickLookPresenter presenter{previewPanel, scratch.path()};
+    FakeWorkQueue scratchWork;
+    QuickLookPresenter presenter{{previewPanel, desk.clock, scratchWork}, scratch.path()};
     FakeStatusItem statusItem;
     FakeEdgeTrigger edgeTrigger;
     FakeFullScreenWindows fullScreenWindows;

@@ -1,10 +1,13 @@
 #include "core/scratch_spool.h"
+#include "core/spool_directory.h"
 #include "core/temporary_spool.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
+#include <sys/wait.h>
 
 #include <memory>
+#include <thread>
 
 namespace corvane {
 namespace {
@@ -317,6 +320,19 @@ TEST_F(ScratchSpoolTest, LeavesNothingBehindWhenTheDiskIsFull)
     EXPECT_EQ(nameOf(spool.store("x", image, png)), QStringLiteral("Image.png"));
 }
 
+TEST_F(ScratchSpoolTest, LeavesVeryMuchToAProcessThatOutlivesThisOne)
+{
+    for (int i = 0; i <= spool_directory::mostRemovedAtEnd; ++i)
+        temporary.write("Corvane-4711/" + QByteArray::number(i), "x");
+    ::chmod(directory().constData(), 0700);
+    ASSERT_TRUE(spool.reserve(image, png).has_value());
+    spool.discardAll();
+    int status = 0;
+    ASSERT_GT(::wait(&status), 0);
+    EXPECT_EQ(status, 0);
+    EXPECT_FALSE(exists(directory()));
+}
+
 struct LeftoversTest : ScratchSpoolTest {
     QByteArray leave(const QByteArray &name)
     {
@@ -331,7 +347,7 @@ TEST_F(LeftoversTest, OfTheDeadAreRemoved)
     const QByteArray dead = leave("Corvane-99");
     // The number of a living process says nothing.
     const QByteArray reused = leave(QByteArray("Corvane-") + QByteArray::number(::getpid()));
-    spool.removeLeftovers();
+    spool.leftoversRemoval()();
     EXPECT_FALSE(exists(dead));
     EXPECT_FALSE(exists(reused));
 }
@@ -341,9 +357,32 @@ TEST_F(LeftoversTest, AreNotWhatTheLivingHold)
     ScratchSpool living(temporary.path(), 99);
     const auto held = living.store("x", image, png);
     const auto own = spool.store("x", image, png);
-    spool.removeLeftovers();
+    spool.leftoversRemoval()();
     EXPECT_TRUE(exists(*held));
     EXPECT_TRUE(exists(*own));
+}
+
+TEST_F(LeftoversTest, OfAProcessWithOurNumberAreNeverTakenForOurs)
+{
+    const QByteArray left = leave("Corvane-4711");
+    const auto remove = spool.leftoversRemoval();
+    EXPECT_FALSE(exists(left)) << "it has another name already";
+    // It is made before that work has begun, by a process that does not hold it yet.
+    leave("Corvane-4711");
+    remove();
+    EXPECT_TRUE(exists(left));
+    EXPECT_EQ(QDir(temporary.directory.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList{QStringLiteral("Corvane-4711")});
+}
+
+TEST_F(LeftoversTest, GoOnAnyThreadAndWithoutTheSpool)
+{
+    const QByteArray dead = leave("Corvane-99");
+    auto other = std::make_unique<ScratchSpool>(temporary.path(), 5);
+    const auto remove = other->leftoversRemoval();
+    other.reset();
+    std::thread(remove).join();
+    EXPECT_FALSE(exists(dead));
 }
 
 TEST_F(LeftoversTest, AreLeftAloneWhereTheyAreNotSafe)
@@ -354,7 +393,7 @@ TEST_F(LeftoversTest, AreLeftAloneWhereTheyAreNotSafe)
     ::chmod(temporary.path("keep").constData(), 0700);
     const QByteArray link = temporary.path("Corvane-2");
     ASSERT_EQ(::symlink(temporary.path("keep").constData(), link.constData()), 0);
-    spool.removeLeftovers();
+    spool.leftoversRemoval()();
     EXPECT_TRUE(exists(open));
     EXPECT_TRUE(exists(link));
     EXPECT_TRUE(exists(target));
@@ -365,7 +404,7 @@ TEST_F(LeftoversTest, AreOnlyWhatIsNamedLikeASpool)
     for (const char *name :
          {"Corvane-Preview-1", "Corvane-", "Corvane-1x", "corvane-1", "Other-1"}) {
         const QByteArray path = leave(name);
-        spool.removeLeftovers();
+        spool.leftoversRemoval()();
         EXPECT_TRUE(exists(path)) << name;
     }
 }
@@ -376,7 +415,7 @@ TEST_F(LeftoversTest, OfSomebodyElseAreLeftAlone)
         GTEST_SKIP() << "only root can give a directory away";
     const QByteArray foreign = leave("Corvane-5");
     ASSERT_EQ(::chown(foreign.constData(), 65534, 65534), 0);
-    spool.removeLeftovers();
+    spool.leftoversRemoval()();
     EXPECT_TRUE(exists(foreign));
 }
 

@@ -1,3 +1,4 @@
+#include "platform/freedesktop/file_system_kind.h"
 #include "platform/freedesktop/mount_table.h"
 
 #include <QFile>
@@ -26,9 +27,10 @@ protected:
     }
 
     QByteArray path(const QByteArray &name) const { return top + '/' + name; }
-    void mount(const QByteArray &name, const QByteArray &type)
+    void mount(const QByteArray &name, const QByteArray &type, const QByteArray &source = "server")
     {
-        lines += "36 35 98:0 / " + path(name) + " rw,noatime master:1 - " + type + " server rw\n";
+        lines += "36 35 98:0 / " + path(name) + " rw,noatime master:1 - " + type + ' ' + source
+            + " rw\n";
         QFile file(folder.filePath(QStringLiteral("table")));
         ASSERT_TRUE(file.open(QFile::WriteOnly));
         file.write(lines);
@@ -92,11 +94,38 @@ TEST_F(MountTableTest, aMountCoversTheOneBelowIt)
 
 TEST_F(MountTableTest, knowsTheKindsOfFileSystems)
 {
-    for (const char *type : {"nfs", "nfs4", "cifs", "smb3", "9p", "afs", "ceph", "autofs", "fuse",
-                             "fuse.gvfsd-fuse", "fuse.sshfs", "fuse.rclone"})
-        EXPECT_TRUE(MountTable::isRemoteType(type)) << type;
+    for (const char *type :
+         {"nfs", "nfs4", "cifs", "smb3", "9p", "afs", "ceph", "autofs", "fuse", "fuse.gvfsd-fuse",
+          "fuse.kio-fuse", "fuse.sshfs", "fuse.rclone", "fuse.jmtpfs", "fuse.nobody-knows"})
+        EXPECT_TRUE(file_system_kind::isRemote(type, "/mnt")) << type;
     for (const char *type : {"ext4", "btrfs", "xfs", "tmpfs", "overlay", "fuseblk", "zfs", "vfat"})
-        EXPECT_FALSE(MountTable::isRemoteType(type)) << type;
+        EXPECT_FALSE(file_system_kind::isRemote(type, "/mnt")) << type;
+}
+
+TEST_F(MountTableTest, aProgramsFileSystemIsRemoteOnlyIfItReallyIs)
+{
+    for (const char *type : {"fuse.gocryptfs", "fuse.encfs", "fuse.cryfs", "fuse.portal",
+                             "fuse.bindfs", "fuse.mergerfs", "fuse.Some_Program-x86_64.AppImage"})
+        EXPECT_FALSE(file_system_kind::isRemote(type, "/mnt")) << type;
+    EXPECT_FALSE(file_system_kind::isRemote("fuse.program", "/tmp/.mount_progra3xQ7"));
+    mount("local", "fuse.gocryptfs", path("cipher"));
+    EXPECT_FALSE(isRemote("local/a"));
+    mount("local", "fuse.sshfs", "host:/home");
+    EXPECT_TRUE(isRemote("local/a"));
+}
+
+TEST_F(MountTableTest, whatShowsAnotherFolderIsAsRemoteAsThat)
+{
+    mount("local", "fuse.gocryptfs", path("net/cipher"));
+    EXPECT_TRUE(isRemote("local/a"));
+    mount("local", "fuse.cryfs", "cryfs@" + path("net/deep"));
+    EXPECT_TRUE(isRemote("local/a"));
+    mount("local", "fuse.mergerfs", path("other") + ':' + path("net"));
+    EXPECT_TRUE(isRemote("local/a"));
+    mount("local", "fuse.mergerfs", path("other") + ':' + path("another"));
+    EXPECT_FALSE(isRemote("local/a"));
+    mount("deep", "fuse.bindfs", path("two\\040words/a"));
+    EXPECT_TRUE(isRemote("deep/a")) << "also through a name that is written in another way";
 }
 
 TEST_F(MountTableTest, inspectsWhatIsLocalAndOnlyThat)

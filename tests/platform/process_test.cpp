@@ -84,6 +84,25 @@ TEST(UnixSignals, aSecondOneEndsAProcessThatIsStuck)
     EXPECT_EQ(scene.process.exitStatus(), QProcess::CrashExit);
 }
 
+TEST(EndDeadline, endsAProcessWhoseMainThreadIsStuckAfterASignal)
+{
+    Scene scene("stuckForGood");
+    ASSERT_TRUE(scene.waitFor("ready"));
+    ::kill(static_cast<pid_t>(scene.process.processId()), SIGTERM);
+    ASSERT_TRUE(scene.waitForEnd());
+    EXPECT_EQ(scene.process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(scene.process.exitCode(), 0);
+}
+
+TEST(EndDeadline, endsAProcessThatWaitsForItsThreadsAndIgnoresStrangersAlarms)
+{
+    Scene scene("stuckThread");
+    ASSERT_TRUE(scene.waitFor("ready"));
+    ASSERT_TRUE(scene.waitForEnd());
+    EXPECT_EQ(scene.process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(scene.process.exitCode(), 0);
+}
+
 TEST(X11Connection, tellsTheLossOfTheServerOnce)
 {
     for (int attempt = 0; attempt < 3; ++attempt) {

@@ -1,7 +1,9 @@
 #include "platform/scenes.h"
 
+#include "platform/end_deadline.h"
 #include "platform/freedesktop/dbus_single_instance.h"
 #include "platform/panel_scene.h"
+#include "platform/qt/qt_work_queue.h"
 #include "platform/qt/unix_signals.h"
 #include "platform/x11/x11_connection.h"
 
@@ -9,6 +11,8 @@
 #include <QTimer>
 
 #include <chrono>
+#include <csignal>
+#include <semaphore>
 
 namespace corvane::test {
 
@@ -46,6 +50,32 @@ int signals()
     return status;
 }
 
+/// Its main thread waits for what never comes, and so does one that somebody waits for.
+int stuckForGood()
+{
+    end_deadline::prepare();
+    const UnixSignals watched([] {});
+    say("ready");
+    std::binary_semaphore never{0};
+    never.acquire();
+    return 1;
+}
+
+/// It has done what had to be done, and a thread does not come back.
+int stuckThread()
+{
+    end_deadline::prepare();
+    QtWorkQueue queue;
+    queue.run([] {
+        std::binary_semaphore never{0};
+        never.acquire();
+    });
+    std::raise(SIGALRM);
+    say("ready");
+    end_deadline::set(std::chrono::milliseconds{10});
+    return 1;
+}
+
 int stuckAfterSignal()
 {
     const UnixSignals watched([] { say("terminating"); });
@@ -81,6 +111,10 @@ int playScene(const QByteArray &name)
         return instance();
     if (name == "signals")
         return signals();
+    if (name == "stuckForGood")
+        return stuckForGood();
+    if (name == "stuckThread")
+        return stuckThread();
     if (name == "stuckAfterSignal")
         return stuckAfterSignal();
     if (name == "panel")

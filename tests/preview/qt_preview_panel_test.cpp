@@ -4,6 +4,7 @@
 #include "fakes/fake_preview_documents.h"
 #include "fakes/fake_window_activation.h"
 #include "fakes/test_clock.h"
+#include "platform/qt/preview/elided_label.h"
 #include "platform/qt/preview/qt_preview_panel.h"
 
 #include <QApplication>
@@ -15,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace corvane::test {
 namespace {
 
@@ -25,6 +28,7 @@ public:
     {
         return {url.fileName(), {}, {}, {}};
     }
+    bool mayNeverAnswer(const QUrl &) const override { return isRemote; }
     void load(const QUrl &url, QSize wanted,
               std::function<void(PreviewContent)> completion) override
     {
@@ -54,6 +58,7 @@ public:
     }
     bool isWaitedFor() const { return m_completion != nullptr; }
 
+    bool isRemote = false;
     QList<QUrl> asked;
     QSize wantedPixels;
     QList<QSize> rendered;
@@ -65,7 +70,7 @@ private:
 };
 
 struct OneItem : PreviewPanelDataSource, PreviewPanelController {
-    int numberOfPreviewItems() const override { return url.isEmpty() ? 0 : 1; }
+    int numberOfPreviewItems() const override { return isThere ? 1 : 0; }
     std::optional<QUrl> previewItemAt(int) const override { return url; }
     std::optional<QString> previewItemTitle(int) const override { return title; }
     bool acceptsPreviewPanelControl(PreviewPanel &) override { return accepts; }
@@ -83,6 +88,7 @@ struct OneItem : PreviewPanelDataSource, PreviewPanelController {
 
     QUrl url{QStringLiteral("file:///home/a.txt")};
     std::optional<QString> title;
+    bool isThere = true;
     bool accepts = true;
     int begun = 0;
     int ended = 0;
@@ -172,6 +178,35 @@ TEST_F(QtPreviewPanelTest, OpensWithoutTheContentOfADiskThatDoesNotAnswer)
     QWidget *const same = window();
     loading.answer(textOf(QStringLiteral("at last")));
     EXPECT_EQ(window(), same);
+    EXPECT_EQ(window()->findChild<QPlainTextEdit *>()->toPlainText(), QStringLiteral("at last"));
+}
+
+TEST_F(QtPreviewPanelTest, OpensAtOnceForADiskThatMayNeverAnswerAndCanBeClosed)
+{
+    loading.isRemote = true;
+    panel->makeKeyAndOrderFront();
+    ASSERT_NE(window(), nullptr);
+    EXPECT_EQ(window()->windowTitle(), QStringLiteral("a.txt"));
+    const auto texts = window()->findChildren<ElidedLabel *>();
+    EXPECT_TRUE(std::ranges::any_of(texts, [](const auto *label) {
+        return label->accessibleName() == QStringLiteral("Loading…");
+    }));
+    press(Qt::Key_Escape);
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_FALSE(loading.isWaitedFor());
+}
+
+TEST_F(QtPreviewPanelTest, OpensAtOnceForWhatIsStillBeingWritten)
+{
+    item.isThere = false;
+    item.title = QStringLiteral("a long text");
+    panel->makeKeyAndOrderFront();
+    ASSERT_NE(window(), nullptr);
+    EXPECT_EQ(window()->windowTitle(), QStringLiteral("a long text"));
+    EXPECT_TRUE(loading.asked.isEmpty());
+    item.isThere = true;
+    panel->reloadData();
+    loading.answer(textOf(QStringLiteral("at last")));
     EXPECT_EQ(window()->findChild<QPlainTextEdit *>()->toPlainText(), QStringLiteral("at last"));
 }
 

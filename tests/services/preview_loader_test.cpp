@@ -1,4 +1,5 @@
 #include "core/temporary_spool.h"
+#include "fakes/fake_file_locality.h"
 #include "fakes/fake_preview_documents.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
@@ -30,7 +31,10 @@ struct PreviewLoaderTest : testing::Test {
     FakePreviewDocuments documents;
     TestClock clock;
     FakeWorkQueue work;
-    std::optional<PreviewLoader> loader{std::in_place, documents, clock, work};
+    FakeFileLocality locality;
+    FakeWorkQueue remoteWork;
+    std::optional<PreviewLoader> loader{
+        std::in_place, PreviewLoader::Context{documents, locality, clock, work, remoteWork}};
     std::vector<PreviewContent> loaded;
 };
 
@@ -53,6 +57,49 @@ TEST_F(PreviewLoaderTest, LooksAtTheFileOnAnotherThreadAndAnswersOnTheMainOne)
     clock.runPending();
     ASSERT_EQ(loaded.size(), 1U);
     EXPECT_TRUE(std::holds_alternative<PreviewContent::Text>(loaded[0].body));
+}
+
+TEST_F(PreviewLoaderTest, WhatMayNeverAnswerKeepsNothingLocalWaiting)
+{
+    locality.remoteFolder = folder.path("remote/");
+    const QUrl remote = folder.write("remote/one.txt", "1");
+    const QUrl local = folder.write("two.txt", "2");
+    EXPECT_TRUE(loader->mayNeverAnswer(remote));
+    EXPECT_FALSE(loader->mayNeverAnswer(local));
+    EXPECT_FALSE(loader->mayNeverAnswer(QUrl()));
+    loader->load(remote, {800, 600}, keep());
+    EXPECT_EQ(work.pendingCount(), 0U);
+    EXPECT_EQ(remoteWork.pendingCount(), 1U);
+    loader->load(local, {800, 600}, keep());
+    runAll();
+    ASSERT_EQ(loaded.size(), 1U);
+    EXPECT_EQ(loaded[0].details.name, QStringLiteral("two.txt"));
+    loader->load(remote, {800, 600}, keep());
+    remoteWork.runAll();
+    clock.runPending();
+    ASSERT_EQ(loaded.size(), 2U);
+    EXPECT_EQ(loaded[1].details.name, QStringLiteral("one.txt"));
+}
+
+TEST_F(PreviewLoaderTest, ADocumentThatMayNeverAnswerIsAskedAndClosedOnItsOwnThreads)
+{
+    locality.remoteFolder = folder.path("remote/");
+    const QUrl picture = folder.write("remote/a.png", "\x89PNG\r\n\x1a\n");
+    loader->load(picture, {800, 600}, keep());
+    remoteWork.runAll();
+    clock.runPending();
+    ASSERT_EQ(loaded.size(), 1U);
+    auto document = std::get<PreviewContent::Picture>(loaded[0].body).document;
+    ASSERT_NE(document, nullptr);
+    loader->render(document, 0, {10, 10}, [](const auto &) {});
+    EXPECT_EQ(work.pendingCount(), 0U);
+    EXPECT_EQ(remoteWork.pendingCount(), 1U);
+    remoteWork.runAll();
+    clock.runPending();
+    loaded.clear();
+    EXPECT_EQ(remoteWork.pendingCount(), 0U);
+    document.reset();
+    EXPECT_EQ(remoteWork.pendingCount(), 1U) << "closing it";
 }
 
 TEST_F(PreviewLoaderTest, AnswersOnlyTheLastOfTwoLoads)

@@ -1,6 +1,8 @@
 #include "core/drop_item.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_preview_panel.h"
+#include "fakes/fake_work_queue.h"
+#include "fakes/test_clock.h"
 #include "services/quick_look_presenter.h"
 
 #include <QRegularExpression>
@@ -34,7 +36,10 @@ struct QuickLookPresenterTest : testing::Test {
 
     TemporaryFolder folder;
     FakePreviewPanel panel;
-    std::optional<QuickLookPresenter> presenter{std::in_place, panel, folder.path()};
+    TestClock clock;
+    FakeWorkQueue work;
+    std::optional<QuickLookPresenter> presenter{
+        std::in_place, QuickLookPresenter::Context{panel, clock, work}, folder.path()};
 };
 
 TEST_F(QuickLookPresenterTest, HasNothingToShowAtFirst)
@@ -171,7 +176,7 @@ TEST_F(QuickLookPresenterTest, IgnoresAScratchFileThatIsGoneAlready)
 
 TEST_F(QuickLookPresenterTest, ShowsNothingWhereNothingCanBeWritten)
 {
-    QuickLookPresenter homeless(panel, "/nowhere/at/all");
+    QuickLookPresenter homeless({panel, clock, work}, "/nowhere/at/all");
     homeless.present(text(QStringLiteral("one")));
     EXPECT_TRUE(panel.log.isEmpty());
     EXPECT_FALSE(homeless.previewURL().has_value());
@@ -182,6 +187,92 @@ TEST_F(QuickLookPresenterTest, LeavesNoScratchFileBehindAtItsEnd)
 {
     presenter->present(text(QStringLiteral("one")));
     presenter.reset();
+    EXPECT_TRUE(scratchFiles().isEmpty());
+}
+
+struct LongTextTest : QuickLookPresenterTest, PreviewPanelController {
+    LongTextTest() { panel.setController(this); }
+    ~LongTextTest() override { panel.setController(nullptr); }
+    bool acceptsPreviewPanelControl(PreviewPanel &) override { return true; }
+    void beginPreviewPanelControl(PreviewPanel &) override
+    {
+        panel.setDataSource(&*presenter);
+        panel.reloadData();
+    }
+    void endPreviewPanelControl(PreviewPanel &) override
+    {
+        panel.setDataSource(nullptr);
+        presenter->discardScratch();
+    }
+
+    const QString longText{QuickLookPresenter::longestAtOnce + 1, QLatin1Char('x')};
+};
+
+TEST_F(LongTextTest, IsWrittenBesideTheMainThreadAndShownThen)
+{
+    presenter->present(text(longText));
+    EXPECT_TRUE(panel.isVisible());
+    EXPECT_FALSE(panel.shown.has_value());
+    EXPECT_EQ(presenter->previewItemTitle(0), QStringLiteral("title"));
+    EXPECT_TRUE(scratchFiles().isEmpty());
+    work.runAll();
+    EXPECT_FALSE(panel.shown.has_value());
+    clock.runPending();
+    ASSERT_TRUE(panel.shown.has_value());
+    EXPECT_EQ(panel.shown, presenter->scratchURL());
+    EXPECT_EQ(contents(*panel.shown).size(), longText.size());
+    panel.orderOut();
+    EXPECT_TRUE(scratchFiles().isEmpty());
+}
+
+TEST_F(LongTextTest, IsNotKeptWhenThePreviewIsClosedBefore)
+{
+    presenter->present(text(longText));
+    panel.orderOut();
+    work.runAll();
+    clock.runPending();
+    EXPECT_TRUE(scratchFiles().isEmpty());
+    EXPECT_FALSE(panel.shown.has_value());
+
+    presenter->present(text(longText));
+    work.runAll();
+    // It is there, and nobody has been told yet.
+    EXPECT_EQ(scratchFiles().size(), 1);
+    panel.orderOut();
+    EXPECT_TRUE(scratchFiles().isEmpty());
+    clock.runPending();
+    EXPECT_FALSE(panel.shown.has_value());
+}
+
+TEST_F(LongTextTest, IsForgottenWhenAnotherItemComes)
+{
+    presenter->present(text(longText));
+    panel.orderOut();
+    presenter->present(text(QStringLiteral("short")));
+    work.runAll();
+    clock.runPending();
+    EXPECT_EQ(scratchFiles().size(), 1);
+    EXPECT_EQ(panel.shown, presenter->scratchURL());
+}
+
+TEST_F(LongTextTest, ClosesThePreviewWhenItCannotBeWritten)
+{
+    presenter.emplace(QuickLookPresenter::Context{panel, clock, work}, "/nowhere/at/all");
+    presenter->present(text(longText));
+    EXPECT_TRUE(panel.isVisible());
+    work.runAll();
+    clock.runPending();
+    EXPECT_FALSE(panel.isVisible());
+    EXPECT_FALSE(presenter->previewURL().has_value());
+}
+
+TEST_F(LongTextTest, LeavesNoScratchFileBehindWhenThePresenterEndsFirst)
+{
+    presenter->present(text(longText));
+    panel.setController(nullptr);
+    presenter.reset();
+    work.runAll();
+    clock.runPending();
     EXPECT_TRUE(scratchFiles().isEmpty());
 }
 

@@ -1,5 +1,7 @@
 #include "platform/freedesktop/mount_table.h"
 
+#include "platform/freedesktop/file_system_kind.h"
+
 #include <QByteArrayList>
 
 #include <fcntl.h>
@@ -35,15 +37,33 @@ QByteArray unescaped(const QByteArray &text)
     return result;
 }
 
-/// Mount point and type of one line; the point is empty when it is no such line.
-std::pair<QByteArray, QByteArray> mount(const QByteArray &line)
+/// One line of the table; the point is empty when it is no such line.
+struct Mount {
+    QByteArray point;
+    QByteArray type;
+    QByteArray source;
+};
+
+Mount mount(const QByteArray &line)
 {
     const QByteArrayList fields = line.split(' ');
     constexpr qsizetype pointField = 4;
     const qsizetype separator = fields.indexOf("-", pointField);
     if (separator < 0)
         return {};
-    return {unescaped(fields[pointField]), fields.value(separator + 1)};
+    return {unescaped(fields[pointField]), fields.value(separator + 1),
+            unescaped(fields.value(separator + 2))};
+}
+
+/// Whether the nearest mount on the way to `path` is remote; links are not followed.
+bool liesOnRemote(const std::map<QByteArray, bool> &mounts, QByteArray path)
+{
+    while (!path.isEmpty()) {
+        if (const auto found = mounts.find(path); found != mounts.end())
+            return found->second;
+        path.truncate(std::max<qsizetype>(path.lastIndexOf('/'), 0));
+    }
+    return false;
 }
 
 std::optional<QByteArray> linkTarget(const QByteArray &path)
@@ -151,15 +171,6 @@ MountTable::~MountTable()
         ::close(m_descriptor);
 }
 
-bool MountTable::isRemoteType(const QByteArray &type)
-{
-    static constexpr std::array names
-        = {"nfs",    "nfs4", "cifs", "smb3", "smbfs",  "ncpfs", "9p",        "afs",
-           "autofs", "ceph", "coda", "fuse", "lustre", "ocfs2", "glusterfs", "davfs"};
-    return type.startsWith("fuse.")
-        || std::ranges::any_of(names, [&](const char *name) { return type == name; });
-}
-
 bool MountTable::hasChanged() const
 {
     if (m_descriptor < 0)
@@ -185,9 +196,15 @@ MountTable::Mounts MountTable::readTable() const
     }
     Mounts mounts;
     for (const QByteArray &line : table.split('\n')) {
-        const auto [point, type] = mount(line);
-        if (!point.isEmpty())
-            mounts[point] = isRemoteType(type);
+        const auto [point, type, source] = mount(line);
+        if (point.isEmpty())
+            continue;
+        const auto shown = file_system_kind::shownFolders(type, source);
+        // What it shows was mounted before it.
+        const bool isRemote = file_system_kind::isRemote(type, point)
+            || std::ranges::any_of(shown,
+                                   [&](const auto &one) { return liesOnRemote(mounts, one); });
+        mounts[point] = isRemote;
     }
     return mounts;
 }

@@ -27,10 +27,6 @@ public:
     bool isRemote(const QByteArray &path) const override;
     std::vector<Inspection> inspect(const QList<QByteArray> &paths) const override;
 
-    /// Whether a file system of that type is another machine's or program's, as the table names it.
-    /// One that is mounted only when it is touched counts as remote.
-    static bool isRemoteType(const QByteArray &type);
-
 private:
     /// Mount points by their paths, and whether they are remote. Of several at one place the last
     /// counts, which covers the rest.

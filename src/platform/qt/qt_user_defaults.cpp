@@ -23,6 +23,11 @@ bool QtUserDefaults::areKept() const
     return m_settings->isWritable() && m_settings->status() != QSettings::AccessError;
 }
 
+void QtUserDefaults::synchronize()
+{
+    m_settings->sync();
+}
+
 QVariant QtUserDefaults::storedObject(const QString &key) const
 {
     return m_settings->value(key);

@@ -18,6 +18,8 @@ public:
     ~QtUserDefaults() override;
 
     bool areKept() const override;
+    /// Writes what has been set; otherwise that happens soon, or when this is destroyed.
+    void synchronize();
 
 protected:
     QVariant storedObject(const QString &key) const override;

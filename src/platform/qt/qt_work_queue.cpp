@@ -10,9 +10,9 @@ constexpr int expiryMilliseconds = 5'000;
 
 } // namespace
 
-QtWorkQueue::QtWorkQueue()
+QtWorkQueue::QtWorkQueue(int threads)
 {
-    m_pool.setMaxThreadCount(maximumThreads);
+    m_pool.setMaxThreadCount(threads);
     m_pool.setExpiryTimeout(expiryMilliseconds);
 }
 
@@ -24,7 +24,15 @@ QtWorkQueue::~QtWorkQueue()
 
 void QtWorkQueue::run(std::function<void()> work)
 {
-    m_pool.start(std::move(work));
+    if (!m_isFinishing)
+        m_pool.start(std::move(work));
+}
+
+bool QtWorkQueue::finish(std::chrono::milliseconds patience)
+{
+    m_isFinishing = true;
+    m_pool.clear();
+    return m_pool.waitForDone(static_cast<int>(patience.count()));
 }
 
 } // namespace corvane

@@ -1,5 +1,7 @@
 #include "platform/qt/unix_signals.h"
 
+#include "platform/end_deadline.h"
+
 #include <QSocketNotifier>
 
 #include <sys/eventfd.h>
@@ -23,6 +25,8 @@ std::atomic<int> wakeDescriptor = -1;
 extern "C" void wakeMainThread(int)
 {
     const int savedError = errno;
+    // The main thread may wait for something that never comes.
+    end_deadline::set(end_deadline::forSteps);
     const std::uint64_t one = 1;
     // It can only fail while the counter is full, and then the wake-up is on its way.
     [[maybe_unused]] const auto written = ::write(wakeDescriptor, &one, sizeof one);

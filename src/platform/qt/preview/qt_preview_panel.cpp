@@ -67,17 +67,28 @@ void QtPreviewPanel::reloadData()
     m_title = m_dataSource->previewItemTitle(0);
     if (m_title)
         m_content.details.name = *m_title;
+    m_content.details.kind = QStringLiteral("Loading…");
+    if (url)
+        load(*url);
+    else
+        m_context.loading.cancel();
+    if (m_window)
+        setContent();
+    else if (!url || m_context.loading.mayNeverAnswer(*url))
+        open();
+    else
+        openSoon();
+}
+
+void QtPreviewPanel::load(const QUrl &url)
+{
     const QScreen *const target = screen();
     const double scale = target ? target->devicePixelRatio() : 1;
     const QSizeF room = target ? QSizeF(target->availableSize()) : QSizeF(1280, 720);
     const QSizeF wanted
         = room * preview_geometry::largestPart - QSizeF(0, preview_geometry::barHeight);
-    m_context.loading.load(m_content.url, (wanted * scale).toSize(),
+    m_context.loading.load(url, (wanted * scale).toSize(),
                            [this](PreviewContent content) { loaded(std::move(content)); });
-    if (m_window)
-        setContent();
-    else
-        openSoon();
 }
 
 void QtPreviewPanel::openSoon()

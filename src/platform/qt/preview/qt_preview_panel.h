@@ -26,7 +26,8 @@ class WindowActivation;
 class QtPreviewPanel : public PreviewPanel {
 public:
     /// Seconds that the content may take before the window opens without it: what comes sooner
-    /// would only be seen as a flicker.
+    /// would only be seen as a flicker. What has to be waited for anyway, because its disk may
+    /// never answer or because it is still being written, opens the window at once.
     static constexpr double patience = 0.1;
 
     /// Everything must outlive the panel.
@@ -52,6 +53,7 @@ public:
     void reloadData() override;
 
 private:
+    void load(const QUrl &url);
     void openSoon();
     void open();
     void loaded(PreviewContent content);

@@ -2,6 +2,8 @@
 
 #include "platform/qt/web/web_fetches.h"
 
+#include <QDeadlineTimer>
+
 #include <utility>
 
 namespace corvane {
@@ -18,6 +20,13 @@ QtWebClient::~QtWebClient()
     m_token.reset();
     m_thread.quit();
     m_thread.wait();
+}
+
+bool QtWebClient::finish(std::chrono::milliseconds patience)
+{
+    m_token.reset();
+    m_thread.quit();
+    return m_thread.wait(QDeadlineTimer(patience));
 }
 
 void QtWebClient::get(const WebRequest &request, Completion completion)

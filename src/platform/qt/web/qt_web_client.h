@@ -7,6 +7,7 @@
 
 #include <QThread>
 
+#include <chrono>
 #include <cstdint>
 #include <map>
 #include <memory>
@@ -35,6 +36,10 @@ public:
 
     void get(const WebRequest &request, Completion completion) override;
     void download(const WebDownload &download, Completion completion) override;
+
+    /// Ends what is under way, and waits no longer than that for the thread; whether it has ended,
+    /// so that destroying this waits for nothing.
+    bool finish(std::chrono::milliseconds patience);
 
 private:
     template<class Task>
