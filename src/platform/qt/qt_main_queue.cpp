@@ -1,20 +1,22 @@
 #include "platform/qt/qt_main_queue.h"
 
-#include <QCoreApplication>
-#include <QEvent>
+#include <QSocketNotifier>
 #include <QTimer>
 #include <QTimerEvent>
 
+#include <sys/eventfd.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <limits>
+#include <stdexcept>
 #include <utility>
 
 namespace corvane {
 
 namespace {
-
-constexpr auto wakeUp = static_cast<QEvent::Type>(QEvent::User + 1);
 
 int milliseconds(double seconds)
 {
@@ -44,23 +46,29 @@ private:
 } // namespace
 
 QtMainQueue::QtMainQueue()
+    : m_wakeUp(::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))
 {
+    // The process has no descriptor left: nothing else would work either.
+    if (m_wakeUp < 0)
+        throw std::runtime_error("no descriptor for the main queue");
+    m_notifier = std::make_unique<QSocketNotifier>(m_wakeUp, QSocketNotifier::Read);
+    connect(m_notifier.get(), &QSocketNotifier::activated, this, &QtMainQueue::wokenUp);
     m_clock.start();
 }
 
-QtMainQueue::~QtMainQueue() = default;
+QtMainQueue::~QtMainQueue()
+{
+    m_notifier.reset();
+    ::close(m_wakeUp);
+}
 
 void QtMainQueue::async(Work work)
 {
-    bool isWoken = false;
-    {
-        const std::lock_guard lock(m_mutex);
-        m_waiting.push_back(std::move(work));
-        isWoken = std::exchange(m_isWoken, true);
-    }
-    // Not under the lock: the main thread would wake up only to wait for it.
-    if (!isWoken)
-        QCoreApplication::postEvent(this, new QEvent(wakeUp));
+    if (!m_waiting.add(std::move(work)))
+        return;
+    const std::uint64_t one = 1;
+    // Cannot fail: the counter is set back long before it is full.
+    [[maybe_unused]] const auto written = ::write(m_wakeUp, &one, sizeof one);
 }
 
 void QtMainQueue::asyncAfter(double seconds, Work work)
@@ -78,12 +86,13 @@ double QtMainQueue::now() const
     return static_cast<double>(m_clock.nsecsElapsed()) * 1e-9;
 }
 
-bool QtMainQueue::event(QEvent *event)
+void QtMainQueue::wokenUp()
 {
-    if (event->type() != wakeUp)
-        return QObject::event(event);
-    runSlice();
-    return true;
+    std::uint64_t count = 0;
+    [[maybe_unused]] const auto read = ::read(m_wakeUp, &count, sizeof count);
+    // One slice a turn: where the next one is under way it takes what has come.
+    if (!m_nextSlice.isActive())
+        runSlice();
 }
 
 void QtMainQueue::timerEvent(QTimerEvent *event)
@@ -96,14 +105,10 @@ void QtMainQueue::timerEvent(QTimerEvent *event)
 
 bool QtMainQueue::takeNext(Work &work)
 {
-    if (m_ready.empty()) {
-        const std::lock_guard lock(m_mutex);
-        m_ready.swap(m_waiting);
-        if (m_ready.empty()) {
-            m_isWoken = false;
-            return false;
-        }
-    }
+    if (m_ready.empty())
+        m_waiting.takeAll(m_ready);
+    if (m_ready.empty())
+        return false;
     work = std::move(m_ready.front());
     m_ready.pop_front();
     return true;

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "platform/main_queue.h"
+#include "platform/qt/work_inbox.h"
 
 #include <QBasicTimer>
 #include <QElapsedTimer>
 #include <QObject>
 
 #include <deque>
-#include <mutex>
+#include <memory>
+
+class QSocketNotifier;
 
 namespace corvane {
 
@@ -31,19 +34,20 @@ public:
     double now() const override;
 
 protected:
-    bool event(QEvent *event) override;
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    void wokenUp();
     void runSlice();
     bool takeNext(Work &work);
 
-    /// Taken over from what waits, all at once: the main thread seldom meets another at the lock.
+    /// Taken over from what waits, all at once.
     std::deque<Work> m_ready;
-    std::mutex m_mutex;
-    std::deque<Work> m_waiting;
-    /// A wake-up is on its way. Guarded by the mutex.
-    bool m_isWoken = false;
+    WorkInbox m_waiting;
+    /// A counter of the kernel's that other threads raise and the event loop watches. Not a posted
+    /// event: posting takes a lock that the main thread takes in every turn.
+    int m_wakeUp = -1;
+    std::unique_ptr<QSocketNotifier> m_notifier;
     QBasicTimer m_nextSlice;
     QElapsedTimer m_clock;
 };
