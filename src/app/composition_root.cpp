@@ -86,7 +86,7 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , shortcuts(
           hotKeys, [this] { return settings.shortcut(); },
           [this] { return settings.viewAllShortcut(); })
-    , spool(QFile::encodeName(QDir::tempPath()), QCoreApplication::applicationPid())
+    , spool(QFile::encodeName(QDir::tempPath()), QCoreApplication::applicationPid(), &workQueue)
     , imageConverter(imageCodec, spool)
     , remoteFiles(mainQueue)
     , remoteDescriptions(remoteFiles)

@@ -9,10 +9,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <climits>
-#include <cstdlib>
 #include <filesystem>
-#include <memory>
 #include <system_error>
 #include <utility>
 
@@ -25,14 +22,6 @@ QByteArray withoutTrailingSlashes(QByteArray path)
     while (path.size() > 1 && path.endsWith('/'))
         path.chop(1);
     return path;
-}
-
-/// Every link on the way resolved; empty when there is no such path.
-QByteArray resolved(const QByteArray &path)
-{
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.constData(), nullptr),
-                                                           &std::free);
-    return real ? QByteArray(real.get()) : QByteArray();
 }
 
 /// An extension comes from a stranger's file name too.
@@ -53,16 +42,15 @@ bool exists(const QByteArray &path)
 
 } // namespace
 
-ScratchSpool::ScratchSpool(QByteArray temporaryDirectory, qint64 processIdentifier)
+ScratchSpool::ScratchSpool(QByteArray temporaryDirectory, qint64 processIdentifier,
+                           WorkQueue *deletionQueue)
     : m_temporaryDirectory(withoutTrailingSlashes(std::move(temporaryDirectory)))
     , m_directory(m_temporaryDirectory + '/' + spool_directory::name(processIdentifier))
+    , m_deletions(deletionQueue)
 {
 }
 
-ScratchSpool::~ScratchSpool()
-{
-    close();
-}
+ScratchSpool::~ScratchSpool() = default;
 
 QUrl ScratchSpool::directory() const
 {
@@ -71,7 +59,7 @@ QUrl ScratchSpool::directory() const
 
 bool ScratchSpool::stillStands() const
 {
-    return m_descriptor >= 0 && spool_directory::isAt(m_directory, m_descriptor);
+    return m_open && m_open->stillStands();
 }
 
 /// Asked before every use: who tidies the temporary directory may have taken it away, and what was
@@ -80,22 +68,14 @@ bool ScratchSpool::open()
 {
     if (stillStands())
         return true;
-    close();
+    m_open.reset();
     std::error_code ignored;
     std::filesystem::create_directories(m_temporaryDirectory.constData(), ignored);
     ::mkdir(m_directory.constData(), S_IRWXU);
-    m_descriptor = spool_directory::openAndLock(m_directory);
-    if (m_descriptor >= 0)
-        m_resolvedDirectory = resolved(m_directory);
-    return m_descriptor >= 0;
-}
-
-void ScratchSpool::close()
-{
-    if (m_descriptor >= 0)
-        ::close(m_descriptor);
-    m_descriptor = -1;
-    m_resolvedDirectory.clear();
+    const int descriptor = spool_directory::openAndLock(m_directory);
+    if (descriptor >= 0)
+        m_open = std::make_shared<const OpenSpool>(m_directory, descriptor);
+    return descriptor >= 0;
 }
 
 QByteArray ScratchSpool::freePath(const QString &basename, const QString &extension) const
@@ -112,7 +92,7 @@ QByteArray ScratchSpool::freePath(const QString &basename, const QString &extens
         // A single character can be longer than a file name may be.
         const QByteArray name = fitting.isEmpty() ? QByteArrayLiteral("Item") : fitting.toUtf8();
         QByteArray path = m_directory + '/' + name + ending;
-        if (!exists(path))
+        if (!exists(path) && !m_deletions.isPending(path))
             return path;
     }
 }
@@ -134,33 +114,26 @@ std::optional<QUrl> ScratchSpool::store(const QByteArray &data, const QString &b
 
 bool ScratchSpool::contains(const QUrl &url) const
 {
-    const QByteArray path = withoutTrailingSlashes(file_url::nativePath(url));
-    const qsizetype slash = path.lastIndexOf('/');
-    const QByteArray name = path.mid(slash + 1);
-    // The last component is taken as it stands, and these two would lead out again.
-    if (!stillStands() || slash < 0 || name.isEmpty() || name == "." || name == "..")
-        return false;
-    const QByteArray parent = resolved(path.left(slash + 1));
-    return parent == m_resolvedDirectory
-        || parent.startsWith(QByteArray(m_resolvedDirectory + '/'));
+    return m_open && m_open->contains(file_url::nativePath(url));
 }
 
 void ScratchSpool::discard(const QUrl &url) const
 {
-    if (contains(url))
-        spool_directory::remove(withoutTrailingSlashes(file_url::nativePath(url)));
+    if (m_open)
+        m_deletions.add(m_open, file_url::nativePath(url));
 }
 
 void ScratchSpool::discardAll()
 {
+    m_deletions.stop();
     if (stillStands())
         spool_directory::removeAtEnd(m_directory);
-    close();
+    m_open.reset();
 }
 
 std::function<void()> ScratchSpool::leftoversRemoval() const
 {
-    if (m_descriptor < 0)
+    if (!m_open)
         spool_directory::setAside(m_directory);
     return [folder = m_temporaryDirectory, own = m_directory] {
         for (const QByteArray &path : spool_directory::candidates(folder)) {

@@ -1,13 +1,19 @@
 #pragma once
 
+#include "core/open_spool.h"
+#include "core/spool_deletions.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QUrl>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace corvane {
+
+class WorkQueue;
 
 /// The private directory for files of the shelf's own making. It lives for one run.
 ///
@@ -21,8 +27,10 @@ public:
     /// What file systems allow for a name, with number and extension.
     static constexpr int maximumNameBytes = 255;
 
-    /// `temporaryDirectory` is a native path. Nothing is made before the first use.
-    ScratchSpool(QByteArray temporaryDirectory, qint64 processIdentifier);
+    /// `temporaryDirectory` is a native path. Nothing is made before the first use. Single files
+    /// are deleted on the queue, which must outlive this; at once where there is none.
+    ScratchSpool(QByteArray temporaryDirectory, qint64 processIdentifier,
+                 WorkQueue *deletionQueue = nullptr);
     ~ScratchSpool();
     ScratchSpool(const ScratchSpool &) = delete;
     ScratchSpool &operator=(const ScratchSpool &) = delete;
@@ -38,7 +46,8 @@ public:
                               const QString &extension);
     /// Whether the address lies in the directory, by whole path components, the parent resolved.
     bool contains(const QUrl &url) const;
-    /// Deletes one spooled file; an address outside is left alone, a failure ignored.
+    /// Has one spooled file deleted; an address outside is left alone, a failure ignored. Its name
+    /// is not given out again before it is gone.
     void discard(const QUrl &url) const;
     /// Deletes the directory and everything in it. Where that is more than a moment's work, a
     /// process that outlives this one does the rest.
@@ -52,16 +61,14 @@ public:
 
 private:
     bool open();
-    void close();
     bool stillStands() const;
     QByteArray freePath(const QString &basename, const QString &extension) const;
 
     QByteArray m_temporaryDirectory;
     QByteArray m_directory;
-    /// The directory with links on the way to it resolved; empty while it is not open.
-    QByteArray m_resolvedDirectory;
-    /// The open directory, which carries the lock; -1 while it is not open.
-    int m_descriptor = -1;
+    /// None while it is not open.
+    std::shared_ptr<const OpenSpool> m_open;
+    mutable SpoolDeletions m_deletions;
 };
 
 } // namespace corvane

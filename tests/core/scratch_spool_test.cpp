@@ -1,6 +1,7 @@
 #include "core/scratch_spool.h"
 #include "core/spool_directory.h"
 #include "core/temporary_spool.h"
+#include "fakes/fake_work_queue.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -199,6 +200,60 @@ TEST_F(ScratchSpoolTest, CanBeUsedAgainAfterItWasTidiedAway)
     spool.store("x", image, png);
     QDir(temporary.directory.filePath(QStringLiteral("Corvane-4711"))).removeRecursively();
     EXPECT_TRUE(spool.store("x", image, png).has_value());
+}
+
+TEST_F(ScratchSpoolTest, DeletesBesideTheMainThreadWhereItHasAQueue)
+{
+    test::FakeWorkQueue queue;
+    ScratchSpool queued(temporary.path(), 4712, &queue);
+    QList<QUrl> urls;
+    for (int i = 0; i < 100; ++i)
+        urls << *queued.store("x", image, png);
+    const QUrl outside = temporary.write("of the user", "x");
+    for (const QUrl &url : urls)
+        queued.discard(url);
+    queued.discard(outside);
+    EXPECT_TRUE(exists(urls.constFirst()));
+    EXPECT_EQ(queue.pendingCount(), 1U) << "one piece of work for all of them";
+    queue.runAll();
+    for (const QUrl &url : urls)
+        EXPECT_FALSE(exists(url));
+    EXPECT_TRUE(exists(outside));
+    const auto later = queued.store("y", image, png);
+    queued.discard(*later);
+    queue.runAll();
+    EXPECT_FALSE(exists(*later));
+}
+
+TEST_F(ScratchSpoolTest, GivesANameOutAgainOnlyOnceItsFileIsGone)
+{
+    test::FakeWorkQueue queue;
+    ScratchSpool queued(temporary.path(), 4712, &queue);
+    const auto first = queued.store("1", image, png);
+    queued.discard(*first);
+    // Somebody else was faster.
+    ::unlink(file_url::nativePath(*first).constData());
+    const auto second = queued.store("2", image, png);
+    EXPECT_EQ(nameOf(second), QStringLiteral("Image 2.png"));
+    queued.discard(*first);
+    queue.runAll();
+    EXPECT_EQ(contents(*second), "2");
+    EXPECT_EQ(nameOf(queued.reserve(image, png)), QStringLiteral("Image.png"));
+}
+
+TEST_F(ScratchSpoolTest, GoesAsAWholeWithoutWaitingForSingleFiles)
+{
+    test::FakeWorkQueue queue;
+    ScratchSpool queued(temporary.path(), 4712, &queue);
+    const auto url = queued.store("x", image, png);
+    queued.discard(*url);
+    queued.discardAll();
+    EXPECT_FALSE(exists(temporary.path("Corvane-4712")));
+    // What begins only now finds a directory that is another one.
+    const auto again = queued.store("y", image, png);
+    EXPECT_EQ(nameOf(again), nameOf(url));
+    queue.runAll();
+    EXPECT_TRUE(exists(*again));
 }
 
 TEST_F(ScratchSpoolTest, IsAnotherDirectoryForEachProcess)

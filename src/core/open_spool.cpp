@@ -1,0 +1,70 @@
+#include "core/open_spool.h"
+
+#include "core/spool_directory.h"
+
+#include <QStringBuilder>
+
+#include <unistd.h>
+
+#include <cstdlib>
+#include <memory>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+QByteArray withoutTrailingSlashes(QByteArray path)
+{
+    while (path.size() > 1 && path.endsWith('/'))
+        path.chop(1);
+    return path;
+}
+
+/// Every link on the way resolved; empty when there is no such path.
+QByteArray resolved(const QByteArray &path)
+{
+    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.constData(), nullptr),
+                                                           &std::free);
+    return real ? QByteArray(real.get()) : QByteArray();
+}
+
+} // namespace
+
+OpenSpool::OpenSpool(QByteArray directory, int descriptor)
+    : m_directory(std::move(directory))
+    , m_resolvedDirectory(resolved(m_directory))
+    , m_descriptor(descriptor)
+{
+}
+
+OpenSpool::~OpenSpool()
+{
+    ::close(m_descriptor);
+}
+
+bool OpenSpool::stillStands() const
+{
+    return spool_directory::isAt(m_directory, m_descriptor);
+}
+
+bool OpenSpool::contains(const QByteArray &path) const
+{
+    const QByteArray whole = withoutTrailingSlashes(path);
+    const qsizetype slash = whole.lastIndexOf('/');
+    const QByteArray name = whole.mid(slash + 1);
+    // The last component is taken as it stands, and these two would lead out again.
+    if (slash < 0 || name.isEmpty() || name == "." || name == ".." || !stillStands())
+        return false;
+    const QByteArray parent = resolved(whole.left(slash + 1));
+    return parent == m_resolvedDirectory
+        || parent.startsWith(QByteArray(m_resolvedDirectory + '/'));
+}
+
+void OpenSpool::remove(const QByteArray &path) const
+{
+    if (contains(path))
+        spool_directory::remove(withoutTrailingSlashes(path));
+}
+
+} // namespace corvane
