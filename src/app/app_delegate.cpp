@@ -32,9 +32,9 @@ void AppDelegate::applicationDidFinishLaunching()
         qWarning("[Corvane] The settings folder cannot be written to; changes are not kept.");
     m_hud = std::make_unique<HUDController>(m_context.hud);
     m_context.previewPanel.setController(this);
-    m_statusItem = std::make_unique<StatusItemController>(
-        StatusItemController::Context{m_context.statusItem, m_context.store, m_context.settings,
-                                      m_context.terminate, m_context.updater});
+    m_statusItem = std::make_unique<StatusItemController>(StatusItemController::Context{
+        m_context.statusItem, m_context.store, m_context.settings, m_context.hud.view.queue,
+        m_context.terminate, m_context.updater});
     wireDragDetection();
     wireHotKey();
     wireMenu();

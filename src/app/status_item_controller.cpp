@@ -4,6 +4,7 @@
 #include "app/updater.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
+#include "platform/main_queue.h"
 #include "platform/status_item.h"
 
 #include <algorithm>
@@ -29,15 +30,28 @@ StatusItemController::StatusItemController(Context context)
     const std::weak_ptr<bool> alive = m_alive;
     m_context.statusItem.setMenu(
         [this, alive] { return alive.expired() ? MenuRows() : rebuild(); });
-    m_context.store.observeItems([this, alive](const QList<DropItem> &items) {
+    m_context.store.observeItems([this, alive](const QList<DropItem> &) {
         if (!alive.expired())
-            itemCountChanged(static_cast<int>(items.size()));
+            itemsChanged();
     });
 }
 
-void StatusItemController::itemCountChanged(int count)
+void StatusItemController::itemsChanged()
 {
     // Most publications change something else, and panels redraw what they are told of.
+    const bool isNew = m_context.store.items().size() != m_count;
+    if (!isNew || std::exchange(m_isUpdateScheduled, true))
+        return;
+    m_context.queue.async([this, alive = std::weak_ptr<bool>(m_alive)] {
+        if (!alive.expired())
+            update();
+    });
+}
+
+void StatusItemController::update()
+{
+    m_isUpdateScheduled = false;
+    const int count = static_cast<int>(m_context.store.items().size());
     if (std::exchange(m_count, count) == count)
         return;
     updateIcon(count);
@@ -47,7 +61,7 @@ void StatusItemController::itemCountChanged(int count)
 void StatusItemController::updateIcon(int count)
 {
     const int cards = std::min(count, status_icon::mostCards);
-    m_context.statusItem.setIcon([cards](int side, const QColor &foreground) {
+    m_context.statusItem.setIcon(cards, [cards](int side, const QColor &foreground) {
         return status_icon::image(cards, side, foreground);
     });
     m_context.statusItem.setToolTip(status_menu::toolTip(count));

@@ -9,6 +9,8 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace corvane {
 
@@ -16,12 +18,28 @@ namespace corvane {
 class ThumbnailSource {
 public:
     using Completion = std::function<void(std::optional<Image>)>;
+    struct File {
+        QUuid item;
+        QUrl url;
+    };
+    using FilesCompletion = std::function<void(const QUuid &item, std::optional<Image>)>;
 
     virtual ~ThumbnailSource() = default;
 
     /// Both call `completion` exactly once, later, on the main thread, unless the item's picture is
     /// cancelled or asked for anew; a file always gets an image.
     virtual void generateForFile(const QUuid &item, const QUrl &url, Completion completion) = 0;
+    /// The same for many files in their order, one completion for each: a drop of ten thousand
+    /// waits for nothing that can be made ready later.
+    virtual void generateForFiles(std::vector<File> files, FilesCompletion completion)
+    {
+        for (const File &file : files) {
+            generateForFile(file.item, file.url,
+                            [completion, item = file.item](std::optional<Image> image) {
+                                completion(item, std::move(image));
+                            });
+        }
+    }
     virtual void generateForImageData(const QUuid &item, const QByteArray &data,
                                       Completion completion)
         = 0;

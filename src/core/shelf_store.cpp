@@ -10,6 +10,25 @@
 
 namespace corvane {
 
+class ShelfStore::Operation {
+public:
+    explicit Operation(ShelfStore &store)
+        : m_store(store)
+    {
+        ++m_store.m_operations;
+    }
+    ~Operation()
+    {
+        if (--m_store.m_operations == 0)
+            m_store.m_endObservers.notify();
+    }
+    Operation(const Operation &) = delete;
+    Operation &operator=(const Operation &) = delete;
+
+private:
+    ShelfStore &m_store;
+};
+
 ShelfStore::ShelfStore(const Settings &settings, const ScratchSpool &spool,
                        ThumbnailSource &thumbnails, LinkPreviewSource &linkPreviews,
                        const Feedback &feedback)
@@ -23,6 +42,16 @@ ShelfStore::ShelfStore(const Settings &settings, const ScratchSpool &spool,
 
 ShelfStore::~ShelfStore() = default;
 
+template<typename Notify>
+void ShelfStore::publish(PublicationPace pace, Notify notify)
+{
+    const std::weak_ptr<ShelfStore *> alive = m_self;
+    const PublicationPace outer = std::exchange(m_pace, pace);
+    notify();
+    if (!alive.expired())
+        m_pace = outer;
+}
+
 void ShelfStore::observeState(StateObserver observer)
 {
     m_stateObservers.add(std::move(observer));
@@ -33,16 +62,26 @@ void ShelfStore::observeItems(ItemObserver observer)
     m_itemObservers.add(std::move(observer));
 }
 
+void ShelfStore::observeEndOfOperation(std::function<void()> observer)
+{
+    m_endObservers.add(std::move(observer));
+}
+
 void ShelfStore::publishItems()
 {
-    m_itemObservers.notify(m_items);
+    publishItems(PublicationPace::AtOnce);
+}
+
+void ShelfStore::publishItems(PublicationPace pace)
+{
+    publish(pace, [this] { m_itemObservers.notify(m_items); });
 }
 
 void ShelfStore::setState(ShelfState state)
 {
     const ShelfState old = std::exchange(m_state, state);
     if (old != state)
-        m_stateObservers.notify(old, state);
+        publish(PublicationPace::AtOnce, [&] { m_stateObservers.notify(old, state); });
 }
 
 void ShelfStore::setItems(QList<DropItem> items)
@@ -89,16 +128,18 @@ bool ShelfStore::accept(const QList<DropItem> &newItems)
     // An observer may change the caller's list, which may be ours, under our feet.
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const QList<DropItem> arrivals = newItems;
-    m_items.append(arrivals);
-    m_index.invalidate();
-    publishItems();
-    m_selection.reserve(m_selection.size() + arrivals.size());
-    for (const DropItem &item : arrivals)
-        m_selection.insert(item.id());
-    focus(count() - 1);
-    setState(ShelfState::Occupied);
-    for (const DropItem &item : arrivals)
-        startLoading(item);
+    {
+        const Operation operation(*this);
+        m_items.append(arrivals);
+        m_index.invalidate();
+        publishItems();
+        m_selection.reserve(m_selection.size() + arrivals.size());
+        for (const DropItem &item : arrivals)
+            m_selection.insert(item.id());
+        focus(count() - 1);
+        setState(ShelfState::Occupied);
+    }
+    startLoading(arrivals);
     return true;
 }
 
@@ -117,55 +158,71 @@ void ShelfStore::ejected(const QList<QUuid> &ids, bool keep)
         m_feedback.show(QStringLiteral("Kept on the shelf"));
         return;
     }
-    // A copy: an observer may change the caller's list.
-    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
-    const QList<QUuid> leaving = ids;
-    for (const QUuid &id : leaving) {
-        if (const auto index = indexOf(id))
-            discard(*index, false);
-    }
+    discardEach(ids, false);
 }
 
 void ShelfStore::removeSelected()
 {
-    const QList<DropItem> leaving = selectedItems();
-    for (const DropItem &item : leaving) {
-        if (const auto index = indexOf(item.id()))
-            discard(*index, true);
+    QList<QUuid> leaving;
+    leaving.reserve(m_selection.size());
+    for (const DropItem &item : std::as_const(m_items)) {
+        if (m_selection.contains(item.id()))
+            leaving << item.id();
+    }
+    discardEach(leaving, true);
+}
+
+void ShelfStore::discardEach(const QList<QUuid> &ids, bool deletingSpoolFiles)
+{
+    // A copy: an observer may change the caller's list.
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
+    const QList<QUuid> leaving = ids;
+    if (leaving.isEmpty())
+        return;
+    const Operation operation(*this);
+    for (const QUuid &id : leaving) {
+        if (const auto index = indexOf(id))
+            discard(*index, deletingSpoolFiles);
     }
 }
 
 void ShelfStore::clearAll()
 {
-    for (const DropItem &item : std::as_const(m_items)) {
-        const auto *file = std::get_if<DropItem::File>(&item.payload());
-        if (item.isSpooled() && file)
-            m_spool.discard(file->url);
-    }
+    const Operation operation(*this);
+    for (const DropItem &item : std::as_const(m_items))
+        discardSpoolFile(item);
     setItems({});
     m_selection.clear();
-    m_isViewAllOpen = false;
-    m_focusedIndex = 0;
-    m_scrollOffset = 0;
-    setState(ShelfState::Idle);
+    becomeEmpty();
 }
 
 void ShelfStore::discard(int index, bool deletingSpoolFile)
 {
     if (index < 0 || index >= count())
         return;
+    const Operation operation(*this);
     const DropItem item = m_items.takeAt(index);
     m_index.removed(item.id());
     m_thumbnails.cancel(item.id());
     publishItems();
     m_selection.remove(item.id());
-    const auto *file = std::get_if<DropItem::File>(&item.payload());
-    if (deletingSpoolFile && item.isSpooled() && file)
-        m_spool.discard(file->url);
-    if (!m_items.isEmpty()) {
+    if (deletingSpoolFile)
+        discardSpoolFile(item);
+    if (m_items.isEmpty())
+        becomeEmpty();
+    else
         focus(std::min(count() - 1, index));
-        return;
-    }
+}
+
+void ShelfStore::discardSpoolFile(const DropItem &item) const
+{
+    const auto *file = std::get_if<DropItem::File>(&item.payload());
+    if (item.isSpooled() && file)
+        m_spool.discard(file->url);
+}
+
+void ShelfStore::becomeEmpty()
+{
     m_isViewAllOpen = false;
     m_focusedIndex = 0;
     m_scrollOffset = 0;

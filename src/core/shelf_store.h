@@ -2,6 +2,7 @@
 
 #include "core/drop_item.h"
 #include "core/item_index.h"
+#include "core/publication_pace.h"
 #include "core/shelf_state.h"
 #include "platform/callback_list.h"
 
@@ -44,8 +45,15 @@ public:
 
     void observeState(StateObserver observer);
     void observeItems(ItemObserver observer);
+    /// Called once at the end of each operation that publishes more than once.
+    void observeEndOfOperation(std::function<void()> observer);
     /// Calls every item observer with the present items, for changes of what is not an item.
     void publishItems();
+    /// To be asked while an observer is being called: what the publication is part of.
+    PublicationPace pace() const
+    {
+        return m_operations > 0 ? PublicationPace::WithinOperation : m_pace;
+    }
 
     ShelfState state() const { return m_state; }
     /// Changes the state and, if it differs, tells the state observers.
@@ -104,11 +112,21 @@ public:
     void dragEnded();
 
 private:
+    /// An operation that publishes more than once, as long as it lives.
+    class Operation;
+
     int count() const { return static_cast<int>(m_items.size()); }
-    void startLoading(const DropItem &item);
+    void discardEach(const QList<QUuid> &ids, bool deletingSpoolFiles);
+    void discardSpoolFile(const DropItem &item) const;
+    void becomeEmpty();
+    void startLoading(const QList<DropItem> &items);
+    void startLink(const DropItem &item, const QUrl &url);
+    void publishItems(PublicationPace pace);
+    template<typename Notify>
+    void publish(PublicationPace pace, Notify notify);
     /// Finds the item again, changes it in its place and publishes; nothing if it is gone.
     template<typename Change>
-    void change(const QUuid &id, Change apply);
+    void change(const QUuid &id, PublicationPace pace, Change apply);
     void mergeThumbnail(const QUuid &id, const std::optional<Image> &thumbnail);
     void mergeLinkPreview(const QUuid &id, const QUrl &url, const LinkPreview &preview);
 
@@ -126,6 +144,10 @@ private:
     bool m_isViewAllOpen = false;
     CallbackList<ShelfState, ShelfState> m_stateObservers;
     CallbackList<const QList<DropItem> &> m_itemObservers;
+    CallbackList<> m_endObservers;
+    /// How many that publish more than once are going on, one within the other.
+    int m_operations = 0;
+    PublicationPace m_pace = PublicationPace::AtOnce;
     bool m_isDragInFlight = false;
     bool m_isOwnDrag = false;
 

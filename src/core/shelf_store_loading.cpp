@@ -5,74 +5,95 @@
 #include "core/settings.h"
 #include "core/shelf_store.h"
 
+#include <utility>
+#include <vector>
+
 namespace corvane {
 
 template<typename Change>
-void ShelfStore::change(const QUuid &id, Change apply)
+void ShelfStore::change(const QUuid &id, PublicationPace pace, Change apply)
 {
     const auto index = indexOf(id);
     if (!index)
         return;
     apply(m_items[*index]);
-    publishItems();
+    publishItems(pace);
 }
 
-void ShelfStore::startLoading(const DropItem &item)
+void ShelfStore::startLoading(const QList<DropItem> &items)
 {
-    const QUuid id = item.id();
-    const auto mergeThumbnail
-        = [weak = std::weak_ptr(m_self), id](const std::optional<Image> &image) {
+    const auto merge
+        = [weak = std::weak_ptr(m_self)](const QUuid &id, const std::optional<Image> &image) {
               if (const auto self = weak.lock())
                   (*self)->mergeThumbnail(id, image);
           };
-    if (const auto *link = std::get_if<DropItem::Link>(&item.payload())) {
-        if (!m_settings.linkPreviews())
-            return;
-        m_linkPreviews.load(
-            link->url,
-            [weak = std::weak_ptr(m_self), id] {
-                const auto self = weak.lock();
-                return self && (*self)->m_settings.linkPreviews()
-                    && (*self)->indexOf(id).has_value();
-            },
-            [weak = std::weak_ptr(m_self), id,
-             url = link->url](const std::optional<LinkPreview> &preview) {
-                const auto self = weak.lock();
-                if (self && preview)
-                    (*self)->mergeLinkPreview(id, url, *preview);
-            });
-    } else if (const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload())) {
-        m_thumbnails.generateForImageData(id, image->data, mergeThumbnail);
-    } else if (const auto *file = std::get_if<DropItem::File>(&item.payload())) {
-        m_thumbnails.generateForFile(id, file->url, mergeThumbnail);
+    std::vector<ThumbnailSource::File> files;
+    const auto startFiles = [&] {
+        if (!files.empty())
+            m_thumbnails.generateForFiles(std::exchange(files, {}), merge);
+    };
+    for (const DropItem &item : items) {
+        const QUuid id = item.id();
+        if (const auto *file = std::get_if<DropItem::File>(&item.payload())) {
+            files.push_back({id, file->url});
+            continue;
+        }
+        // In the order of the items.
+        startFiles();
+        if (const auto *link = std::get_if<DropItem::Link>(&item.payload()))
+            startLink(item, link->url);
+        else if (const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload()))
+            m_thumbnails.generateForImageData(
+                id, image->data,
+                [merge, id](const std::optional<Image> &picture) { merge(id, picture); });
     }
+    startFiles();
+}
+
+void ShelfStore::startLink(const DropItem &item, const QUrl &url)
+{
+    if (!m_settings.linkPreviews())
+        return;
+    const QUuid id = item.id();
+    m_linkPreviews.load(
+        url,
+        [weak = std::weak_ptr(m_self), id] {
+            const auto self = weak.lock();
+            return self && (*self)->m_settings.linkPreviews() && (*self)->indexOf(id).has_value();
+        },
+        [weak = std::weak_ptr(m_self), id, url](const std::optional<LinkPreview> &preview) {
+            const auto self = weak.lock();
+            if (self && preview)
+                (*self)->mergeLinkPreview(id, url, *preview);
+        });
 }
 
 void ShelfStore::describe(const QUuid &id, const QString &subtitle)
 {
-    change(id, [&](DropItem &item) { item.setSubtitle(subtitle); });
+    change(id, PublicationPace::Detail, [&](DropItem &item) { item.setSubtitle(subtitle); });
 }
 
 void ShelfStore::mergeThumbnail(const QUuid &id, const std::optional<Image> &thumbnail)
 {
     if (thumbnail)
-        change(id, [&](DropItem &item) { item.setThumbnail(*thumbnail); });
+        change(id, PublicationPace::Detail, [&](DropItem &item) { item.setThumbnail(*thumbnail); });
 }
 
 void ShelfStore::mergeLinkPreview(const QUuid &id, const QUrl &url, const LinkPreview &preview)
 {
     const std::weak_ptr<ShelfStore *> alive = m_self;
     if (!preview.title.isEmpty()) {
-        change(id, [&](DropItem &item) { item.setTitle(preview.title); });
+        change(id, PublicationPace::Detail, [&](DropItem &item) { item.setTitle(preview.title); });
         if (alive.expired())
             return;
         const QString host = url.host();
         const QString address = host.isEmpty() ? url.toString(QUrl::FullyEncoded) : host;
         const QString subtitle = preview.siteName.value_or(address);
-        change(id, [&](DropItem &item) { item.setSubtitle(subtitle); });
+        change(id, PublicationPace::Detail, [&](DropItem &item) { item.setSubtitle(subtitle); });
     }
     if (preview.image && !alive.expired())
-        change(id, [&](DropItem &item) { item.setThumbnail(*preview.image); });
+        change(id, PublicationPace::Detail,
+               [&](DropItem &item) { item.setThumbnail(*preview.image); });
 }
 
 } // namespace corvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -16,20 +17,24 @@ class CallbackList {
 public:
     using Callback = std::function<void(Arguments...)>;
 
-    void add(Callback callback) { m_callbacks.push_back(std::move(callback)); }
+    void add(Callback callback)
+    {
+        m_callbacks.push_back(std::make_shared<const Callback>(std::move(callback)));
+    }
 
     void notify(Arguments... arguments) const
     {
-        // By index, and through a copy: a callback that adds another may move the whole list.
+        // By index, and held: a callback that adds another may move the whole list. Shared, because
+        // a copy of what a callback has captured costs more than most calls do.
         const auto count = m_callbacks.size();
         for (std::size_t i = 0; i < count; ++i) {
-            const Callback callback = m_callbacks[i];
-            callback(arguments...);
+            const std::shared_ptr<const Callback> callback = m_callbacks[i];
+            (*callback)(arguments...);
         }
     }
 
 private:
-    std::vector<Callback> m_callbacks;
+    std::vector<std::shared_ptr<const Callback>> m_callbacks;
 };
 
 } // namespace corvane

@@ -22,7 +22,9 @@ public:
 
     virtual ~StatusItem() = default;
 
-    virtual void setIcon(Icon icon) = 0;
+    /// What was drawn for a shape is kept: the same shape always looks the same. There are to be
+    /// few.
+    virtual void setIcon(int shape, Icon icon) = 0;
     virtual void setToolTip(const QString &toolTip) = 0;
     /// Asked each time the menu opens.
     virtual void setMenu(Menu menu) = 0;

@@ -26,14 +26,37 @@ void ThumbnailQueue::setItemsInView(std::function<QList<QUuid>()> itemsInView)
 
 void ThumbnailQueue::add(const QUuid &item, Start start)
 {
-    const std::size_t number = ++m_lastNumber;
-    m_waiting.insert(item, {number, std::move(start)});
-    m_order.push_back({item, number});
+    add(std::vector<QUuid>{item},
+        [start = std::move(start)](std::size_t, const std::shared_ptr<Cancellation> &cancellation,
+                                   Done done) { start(cancellation, std::move(done)); });
+}
+
+void ThumbnailQueue::add(std::vector<QUuid> items, StartOne start)
+{
+    m_arrived.push_back(std::make_shared<const Batch>(Batch{std::move(items), std::move(start)}));
     scheduleFill();
+}
+
+void ThumbnailQueue::takeIn()
+{
+    for (const auto &batch : std::exchange(m_arrived, {})) {
+        const std::size_t count = batch->items.size();
+        if (count > 1) {
+            m_waiting.reserve(m_waiting.size() + static_cast<qsizetype>(count));
+            m_order.reserve(m_order.size() + count);
+        }
+        for (std::size_t position = 0; position < count; ++position) {
+            const QUuid &item = batch->items[position];
+            const std::size_t number = ++m_lastNumber;
+            m_waiting.insert(item, {number, batch, position});
+            m_order.push_back({item, number});
+        }
+    }
 }
 
 void ThumbnailQueue::cancel(const QUuid &item)
 {
+    takeIn();
     m_waiting.remove(item);
     for (const Running &running : m_running) {
         if (running.item == item)
@@ -55,6 +78,7 @@ void ThumbnailQueue::scheduleFill()
 void ThumbnailQueue::fill()
 {
     m_isFillScheduled = false;
+    takeIn();
     while (m_running.size() < m_maximumRunning && !m_waiting.isEmpty())
         begin(next());
     if (m_waiting.isEmpty())
@@ -85,10 +109,11 @@ void ThumbnailQueue::begin(const QUuid &item)
     const Waiting job = m_waiting.take(item);
     const auto cancellation = std::make_shared<Cancellation>();
     m_running.push_back({item, job.number, cancellation});
-    job.start(cancellation, [weak = std::weak_ptr(m_self), number = job.number] {
+    const auto done = [weak = std::weak_ptr(m_self), number = job.number] {
         if (const auto self = weak.lock())
             (*self)->finished(number);
-    });
+    };
+    job.batch->start(job.position, cancellation, done);
 }
 
 void ThumbnailQueue::finished(std::size_t number)

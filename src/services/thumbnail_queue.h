@@ -24,6 +24,9 @@ public:
     using Done = std::function<void()>;
     /// Begins a job. Whoever does the work watches the cancellation, which is never null.
     using Start = std::function<void(const std::shared_ptr<Cancellation> &cancellation, Done done)>;
+    /// The same for one of several, told by its position among them.
+    using StartOne = std::function<void(
+        std::size_t position, const std::shared_ptr<Cancellation> &cancellation, Done done)>;
 
     /// The main queue must outlive this. `maximumRunning` jobs run at once.
     ThumbnailQueue(MainQueue &mainQueue, std::size_t maximumRunning);
@@ -37,13 +40,20 @@ public:
 
     /// Nothing starts inside this call. A job that waits for the same item is replaced.
     void add(const QUuid &item, Start start);
+    /// Many at once, the last the newest. Costs next to nothing before the next turn.
+    void add(std::vector<QUuid> items, StartOne start);
     /// Drops the item's job: a waiting one never starts, a running one is told.
     void cancel(const QUuid &item);
 
 private:
+    struct Batch {
+        std::vector<QUuid> items;
+        StartOne start;
+    };
     struct Waiting {
         std::size_t number = 0;
-        Start start;
+        std::shared_ptr<const Batch> batch;
+        std::size_t position = 0;
     };
     struct Newest {
         QUuid item;
@@ -55,6 +65,7 @@ private:
         std::shared_ptr<Cancellation> cancellation;
     };
 
+    void takeIn();
     void scheduleFill();
     void fill();
     QUuid next();
@@ -65,6 +76,8 @@ private:
     std::size_t m_maximumRunning;
     std::function<QList<QUuid>()> m_itemsInView;
     std::size_t m_lastNumber = 0;
+    /// Added, but not yet among those that wait.
+    std::vector<std::shared_ptr<const Batch>> m_arrived;
     QHash<QUuid, Waiting> m_waiting;
     /// The newest at the end. An entry whose number no longer waits is stale and skipped.
     std::vector<Newest> m_order;

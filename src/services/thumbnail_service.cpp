@@ -6,6 +6,7 @@
 #include "platform/screens.h"
 #include "platform/work_queue.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -61,32 +62,49 @@ void ThumbnailService::cancel(const QUuid &item)
 
 void ThumbnailService::generateForFile(const QUuid &item, const QUrl &url, Completion completion)
 {
-    enqueue(m_queue, m_generator, {item, url, std::move(completion)});
+    m_queue.add(
+        item,
+        [this, job = FileJob{item, url, std::move(completion)}](
+            const std::shared_ptr<Cancellation> &cancellation, const ThumbnailQueue::Done &done) {
+            begin(m_generator, job, cancellation, done);
+        });
 }
 
-void ThumbnailService::enqueue(ThumbnailQueue &queue, ThumbnailGenerator &generator, FileJob job)
+void ThumbnailService::generateForFiles(std::vector<File> files, FilesCompletion completion)
 {
-    const QUuid item = job.item;
-    queue.add(
-        item,
-        [this, &generator, job = std::move(job)](const std::shared_ptr<Cancellation> &cancellation,
-                                                 const ThumbnailQueue::Done &done) {
-            const ThumbnailRequest request = {job.url, QSizeF(side, side), scale(), cancellation};
-            // The generator answers on a thread of its own, where only what outlives it may be
-            // touched.
-            generator.generateBestRepresentation(
-                request,
-                [&mainQueue = m_mainQueue, weak = std::weak_ptr(m_self), request, job,
-                 done](const ThumbnailAnswer &answer) {
-                    mainQueue.async([weak, request, job, done, answer] {
-                        const auto self = weak.lock();
-                        if (!self)
-                            return;
-                        done();
-                        (*self)->answered(request, job, answer);
-                    });
+    std::vector<QUuid> items(files.size());
+    std::transform(files.begin(), files.end(), items.begin(),
+                   [](const File &file) { return file.item; });
+    m_queue.add(std::move(items),
+                [this, files = std::move(files), completion = std::move(completion)](
+                    std::size_t position, const std::shared_ptr<Cancellation> &cancellation,
+                    const ThumbnailQueue::Done &done) {
+                    const File &file = files[position];
+                    const auto completed
+                        = [completion, item = file.item](std::optional<Image> image) {
+                              completion(item, std::move(image));
+                          };
+                    begin(m_generator, {file.item, file.url, completed}, cancellation, done);
                 });
-        });
+}
+
+void ThumbnailService::begin(ThumbnailGenerator &generator, const FileJob &job,
+                             const std::shared_ptr<Cancellation> &cancellation,
+                             const ThumbnailQueue::Done &done)
+{
+    const ThumbnailRequest request = {job.url, QSizeF(side, side), scale(), cancellation};
+    // The generator answers on a thread of its own, where only what outlives it may be touched.
+    generator.generateBestRepresentation(request,
+                                         [&mainQueue = m_mainQueue, weak = std::weak_ptr(m_self),
+                                          request, job, done](const ThumbnailAnswer &answer) {
+                                             mainQueue.async([weak, request, job, done, answer] {
+                                                 const auto self = weak.lock();
+                                                 if (!self)
+                                                     return;
+                                                 done();
+                                                 (*self)->answered(request, job, answer);
+                                             });
+                                         });
 }
 
 void ThumbnailService::answered(const ThumbnailRequest &request, const FileJob &job,
@@ -95,7 +113,12 @@ void ThumbnailService::answered(const ThumbnailRequest &request, const FileJob &
     if (request.cancellation->isCancelled())
         return;
     if (answer.isRemote && !job.isRemote) {
-        enqueue(m_remoteQueue, m_remoteGenerator, {job.item, job.url, job.completion, true});
+        m_remoteQueue.add(job.item,
+                          [this, remote = FileJob{job.item, job.url, job.completion, true}](
+                              const std::shared_ptr<Cancellation> &cancellation,
+                              const ThumbnailQueue::Done &done) {
+                              begin(m_remoteGenerator, remote, cancellation, done);
+                          });
         return;
     }
     if (const auto image = atDisplaySize(answer.picture)) {

@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace corvane {
 
@@ -48,6 +49,7 @@ public:
 
     /// The best picture of the file that there is, else its icon.
     void generateForFile(const QUuid &item, const QUrl &url, Completion completion) override;
+    void generateForFiles(std::vector<File> files, FilesCompletion completion) override;
     /// The bytes' picture, upright, scaled down while it is decoded; none when they are broken.
     void generateForImageData(const QUuid &item, const QByteArray &data,
                               Completion completion) override;
@@ -62,7 +64,8 @@ private:
     };
 
     double scale() const;
-    void enqueue(ThumbnailQueue &queue, ThumbnailGenerator &generator, FileJob job);
+    void begin(ThumbnailGenerator &generator, const FileJob &job,
+               const std::shared_ptr<Cancellation> &cancellation, const ThumbnailQueue::Done &done);
     void answered(const ThumbnailRequest &request, const FileJob &job,
                   const ThumbnailAnswer &answer);
 

@@ -27,6 +27,7 @@ QRectF edgeOf(const EdgeStretch &stretch)
 EdgeSummoner::EdgeSummoner(const Context &context)
     : m_context(context)
     , m_store(context.store)
+    , m_follower(context.store, context.queue, [this] { storeChanged(); })
 {
     wire();
     updateWatch();
@@ -45,10 +46,6 @@ void EdgeSummoner::wire()
     EdgeTrigger &trigger = m_context.desktop.trigger;
     trigger.onEntered = whileAlive(&EdgeSummoner::entered);
     trigger.onLeft = whileAlive(&EdgeSummoner::giveUp);
-    m_store.observeState(
-        [changed = whileAlive(&EdgeSummoner::stateChanged)](ShelfState, ShelfState) { changed(); });
-    m_store.observeItems([changed = whileAlive(&EdgeSummoner::itemsChanged)](
-                             const QList<DropItem> &) { changed(); });
     m_context.screens.observeChanges(whileAlive(&EdgeSummoner::watchAnew));
 }
 
@@ -106,7 +103,7 @@ void EdgeSummoner::summon()
     // Until the shelf has been reached the pointer is off it.
     dismissLater();
     m_store.toggleManually();
-    itemsChanged();
+    storeChanged();
 }
 
 bool EdgeSummoner::isWelcome() const
@@ -153,18 +150,12 @@ void EdgeSummoner::dismiss()
     m_store.toggleManually();
 }
 
-void EdgeSummoner::itemsChanged()
+void EdgeSummoner::storeChanged()
 {
-    const bool isUsed = m_store.isViewAllOpen() || m_store.isDragInFlight() || m_store.isOwnDrag()
+    const bool isUsed = m_store.state() != ShelfState::Occupied || m_store.isViewAllOpen()
+        || m_store.isDragInFlight() || m_store.isOwnDrag()
         || m_store.items().size() != m_summonedCount;
     if (m_phase == Phase::Summoned && isUsed)
-        wait();
-    updateWatch();
-}
-
-void EdgeSummoner::stateChanged()
-{
-    if (m_phase == Phase::Summoned && m_store.state() != ShelfState::Occupied)
         wait();
     updateWatch();
 }

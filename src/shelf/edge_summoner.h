@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store_follower.h"
 #include "platform/edge_trigger.h"
 #include "platform/event_monitors.h"
 
@@ -79,8 +80,7 @@ private:
     bool isWelcome() const;
     void dismissLater();
     void dismiss();
-    void itemsChanged();
-    void stateChanged();
+    void storeChanged();
     void watchAnew();
     void updateWatch();
     std::vector<EdgeStretch> stretches() const;
@@ -89,6 +89,7 @@ private:
 
     Context m_context;
     ShelfStore &m_store;
+    StoreFollower m_follower;
     Phase m_phase = Phase::Waiting;
     /// Bumped by whatever makes delayed work out of date.
     std::int64_t m_generation = 0;

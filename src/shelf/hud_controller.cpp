@@ -32,6 +32,7 @@ HUDController::HUDController(const Context &context)
     , m_panel(context.view.panel)
     , m_shelf(context.view)
     , m_store(context.store)
+    , m_follower(context.store, context.view.queue, [this] { render(); })
 {
     m_panel.setFrame(initialFrame);
     m_panel.setContent(&m_shelf);
@@ -42,7 +43,7 @@ HUDController::HUDController(const Context &context)
             m_shelf.flash(message);
     };
     wireShelf();
-    wireStore();
+    wireSettings();
     wireScreenChanges();
     render();
 }
@@ -90,17 +91,9 @@ void HUDController::wireShelf()
     };
 }
 
-void HUDController::wireStore()
+void HUDController::wireSettings()
 {
     const std::weak_ptr<bool> alive = m_alive;
-    m_store.observeState([this, alive](ShelfState, ShelfState) {
-        if (!alive.expired())
-            render();
-    });
-    m_store.observeItems([this, alive](const QList<DropItem> &) {
-        if (!alive.expired())
-            render();
-    });
     m_context.settings.observeLayout([this, alive] {
         if (!alive.expired())
             layoutSettingChanged();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/store_follower.h"
 #include "platform/screens.h"
 #include "shelf/shelf_view.h"
 
@@ -63,7 +64,7 @@ public:
 
 private:
     void wireShelf();
-    void wireStore();
+    void wireSettings();
     void wireScreenChanges();
 
     ShelfSnapshot makeSnapshot(const ScreenPointer &screen) const;
@@ -80,6 +81,7 @@ private:
     std::int64_t m_hideGeneration = 0;
     std::int64_t m_shrinkGeneration = 0;
     std::weak_ptr<const Screen> m_lastScreen;
+    StoreFollower m_follower;
     // Whatever was handed out does nothing once the controller is gone.
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };

@@ -261,6 +261,7 @@ TEST_F(AppDelegateTest, TheStatusItemFollowsTheShelf)
 {
     EXPECT_EQ(statusItem.toolTip, QStringLiteral("Corvane"));
     store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
+    desk.clock.runPending();
     EXPECT_EQ(statusItem.toolTip, QStringLiteral("Corvane — 1 item"));
 }
 

@@ -27,8 +27,9 @@ protected:
     void make(Updater *updater = nullptr)
     {
         controller.reset();
-        controller.emplace(StatusItemController::Context{
-            panel, store, settings, [this] { log << QStringLiteral("terminate"); }, updater});
+        controller.emplace(
+            StatusItemController::Context{panel, store, settings, desk.clock,
+                                          [this] { log << QStringLiteral("terminate"); }, updater});
         controller->onShowShelf = [this] { log << QStringLiteral("shelf"); };
         controller->onPreferences = [this] { log << QStringLiteral("preferences"); };
         controller->onWelcome = [this] { log << QStringLiteral("welcome"); };
@@ -39,6 +40,7 @@ protected:
         for (int i = 0; i < count; ++i)
             items << ShelfDesk::textItem(QString::number(i));
         store.setItems(items);
+        desk.clock.runPending();
     }
     bool showsIcon(int cards) const
     {
@@ -87,6 +89,48 @@ TEST_F(StatusItemControllerTest, ItemsThatOnlyChangeLeaveThePanelAlone)
     hold(3);
     EXPECT_EQ(panel.iconChanges, 1);
     EXPECT_EQ(panel.menuChanges, 1);
+}
+
+TEST_F(StatusItemControllerTest, OfAllThatHappensInOneTurnThePanelHearsTheOutcome)
+{
+    QList<DropItem> items;
+    for (int i = 0; i < 1'000; ++i)
+        items << ShelfDesk::textItem(QString::number(i));
+    store.accept(items);
+    desk.clock.runPending();
+    store.toggleSelection(items[0]);
+    store.toggleSelection(items[1]);
+    panel.iconChanges = 0;
+    panel.toolTipChanges = 0;
+    panel.menuChanges = 0;
+    store.removeSelected();
+    EXPECT_EQ(panel.toolTipChanges, 0);
+    desk.clock.runPending();
+    EXPECT_EQ(panel.iconChanges, 1);
+    EXPECT_EQ(panel.toolTipChanges, 1);
+    EXPECT_EQ(panel.menuChanges, 1);
+    EXPECT_TRUE(showsIcon(2));
+    EXPECT_EQ(panel.toolTip, QStringLiteral("Corvane — 2 items"));
+}
+
+TEST_F(StatusItemControllerTest, WhatIsTheSameAtTheEndOfATurnTellsThePanelNothing)
+{
+    hold(2);
+    panel.toolTipChanges = 0;
+    const DropItem item = store.items()[0];
+    store.discard(0, false);
+    store.accept({item});
+    desk.clock.runPending();
+    EXPECT_EQ(panel.toolTipChanges, 0);
+    hold(1);
+    EXPECT_EQ(panel.toolTip, QStringLiteral("Corvane — 1 item"));
+}
+
+TEST_F(StatusItemControllerTest, AMenuThatOpensInTheSameTurnIsUpToDate)
+{
+    store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
+    panel.open();
+    EXPECT_TRUE(panel.titles().contains(QStringLiteral("Clear Shelf (1 item)")));
 }
 
 TEST_F(StatusItemControllerTest, TheMenuIsBuiltAnewEachTimeItOpens)

@@ -310,6 +310,40 @@ TEST_F(ShelfStoreTest, DropsMessagesThatNobodyShows)
     EXPECT_EQ(store.items().size(), 1);
 }
 
+TEST_F(ShelfStoreTest, PublishesEachOfManyRemovalsAndThenItsFocus)
+{
+    fill(4);
+    store.toggleSelection(store.items()[1]);
+    store.observeEndOfOperation([this] { log << QStringLiteral("end"); });
+    log.clear();
+    store.removeSelected();
+    EXPECT_EQ(
+        log,
+        (QStringList{QStringLiteral("items bcd"), QStringLiteral("items bcd"),
+                     QStringLiteral("items bd"), QStringLiteral("items bd"),
+                     QStringLiteral("items b"), QStringLiteral("items b"), QStringLiteral("end")}));
+    log.clear();
+    store.ejected(QList<QUuid>{store.items()[0].id()}, false);
+    EXPECT_EQ(log,
+              (QStringList{QStringLiteral("items "), QStringLiteral("state 2 0"),
+                           QStringLiteral("end")}));
+}
+
+TEST_F(ShelfStoreTest, TellsWhatAPublicationIsPartOf)
+{
+    QList<PublicationPace> paces;
+    store.observeItems([&](const QList<DropItem> &) { paces << store.pace(); });
+    store.accept({file("a")});
+    EXPECT_EQ(paces, QList<PublicationPace>(2, PublicationPace::WithinOperation));
+    paces.clear();
+    store.focus(0);
+    store.describe(store.items()[0].id(), QStringLiteral("now known"));
+    store.toggleSelectAll();
+    EXPECT_EQ(paces,
+              (QList<PublicationPace>{PublicationPace::AtOnce, PublicationPace::Detail,
+                                      PublicationPace::AtOnce}));
+}
+
 TEST_F(ShelfStoreTest, RemovesTheSelectionWithItsSpooledFiles)
 {
     const DropItem first = spooled("1");

@@ -11,12 +11,17 @@ namespace corvane::test {
 /// A panel with one item in it, and the user's clicks.
 class FakeStatusItem : public StatusItem {
 public:
-    void setIcon(Icon newIcon) override
+    void setIcon(int newShape, Icon newIcon) override
     {
+        shape = newShape;
         icon = std::move(newIcon);
         ++iconChanges;
     }
-    void setToolTip(const QString &newToolTip) override { toolTip = newToolTip; }
+    void setToolTip(const QString &newToolTip) override
+    {
+        toolTip = newToolTip;
+        ++toolTipChanges;
+    }
     void setMenu(Menu newMenu) override { menu = std::move(newMenu); }
     void menuChanged() override { ++menuChanges; }
 
@@ -49,11 +54,13 @@ public:
         return true;
     }
 
+    int shape = -1;
     Icon icon;
     QString toolTip;
     Menu menu;
     MenuRows rows;
     int iconChanges = 0;
+    int toolTipChanges = 0;
     int menuChanges = 0;
 };
 

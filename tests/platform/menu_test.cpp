@@ -34,12 +34,18 @@ class QtTrayIconTest : public testing::Test {
 protected:
     QtTrayIconTest()
     {
-        item.setIcon([](int side, const QColor &color) {
+        setShape(0);
+        item.setMenu([this] { return rows; });
+    }
+
+    void setShape(int shape)
+    {
+        item.setIcon(shape, [this](int side, const QColor &color) {
+            ++pictures;
             QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
             image.fill(color);
             return image;
         });
-        item.setMenu([this] { return rows; });
     }
 
     static QMenu *menu()
@@ -53,6 +59,7 @@ protected:
     static QAction *action(int index) { return menu()->actions().value(index); }
 
     MenuRows rows{row(1, "one"), row(2, ""), row(3, "three")};
+    int pictures = 0;
     QtTrayIcon item;
 };
 
@@ -87,6 +94,26 @@ TEST_F(QtTrayIconTest, nothingIsMadeBeforeSomebodyIsThereToShowIt)
     EXPECT_FALSE(menu());
     item.appear();
     EXPECT_TRUE(menu());
+}
+
+TEST_F(QtTrayIconTest, eachShapeIsDrawnOnceInAColour)
+{
+    EXPECT_EQ(pictures, 0) << "nobody is there to show it";
+    item.appear();
+    const int each = pictures;
+    EXPECT_GT(each, 0);
+    for (int round = 0; round < 3; ++round) {
+        for (int shape = 0; shape < 4; ++shape)
+            setShape(shape);
+    }
+    EXPECT_EQ(pictures, 4 * each);
+    item.setForeground(Qt::red);
+    EXPECT_EQ(pictures, 5 * each) << "what is shown is drawn anew";
+    item.setForeground(Qt::red);
+    setShape(3);
+    EXPECT_EQ(pictures, 5 * each);
+    setShape(0);
+    EXPECT_EQ(pictures, 6 * each);
 }
 
 TEST_F(QtTrayIconTest, theMenuHasTheRowsWithTheirKeys)

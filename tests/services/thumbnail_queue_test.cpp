@@ -82,6 +82,29 @@ TEST_F(ThumbnailQueueTest, takesTheNewestFirst)
     EXPECT_EQ(started, QStringLiteral("cbeda"));
 }
 
+TEST_F(ThumbnailQueueTest, takesManyThatAreAddedAtOnceInTheSameOrder)
+{
+    add("a");
+    queue->add({item('b'), item('c'), item('d'), item('e')},
+               [this](std::size_t position, const auto &, auto done) {
+                   const char name = "bcde"[position];
+                   started += QLatin1Char(name);
+                   dones[name] = std::move(done);
+               });
+    add("f");
+    queue->cancel(item('e'));
+    EXPECT_EQ(started, QString());
+    clock.runPending();
+    EXPECT_EQ(started, QStringLiteral("fd"));
+    queue->cancel(item('b'));
+    inView = {item('a')};
+    finish('f');
+    finish('d');
+    finish('a');
+    finish('c');
+    EXPECT_EQ(started, QStringLiteral("fdac"));
+}
+
 TEST_F(ThumbnailQueueTest, takesWhatIsInViewBeforeTheRest)
 {
     inView = {item('b'), item('a')};

@@ -88,6 +88,28 @@ TEST_F(ThumbnailServiceTest, GivesAFilesPictureLaterOnTheMainThread)
     EXPECT_TRUE(icons.asked.isEmpty());
 }
 
+TEST_F(ThumbnailServiceTest, GivesEachOfManyFilesItsOwnPicture)
+{
+    std::vector<ThumbnailSource::File> files;
+    for (int i = 0; i < 3; ++i)
+        files.push_back({QUuid::createUuid(), QUrl(QStringLiteral("file:///%1").arg(i))});
+    QList<QUuid> answered;
+    service->generateForFiles(files, [&](const QUuid &of, const std::optional<Image> &image) {
+        answered << of;
+        EXPECT_TRUE(image.has_value());
+    });
+    service->cancel(files[1].item);
+    clock.runPending();
+    ASSERT_EQ(generator.requests.size(), 2U);
+    EXPECT_EQ(generator.requests[0].url, files[2].url) << "the newest first";
+    EXPECT_EQ(generator.requests[1].url, files[0].url);
+    generator.answer(1, {bitmap(60, 40)});
+    generator.answer(0, {});
+    clock.runPending();
+    EXPECT_EQ(answered, (QList<QUuid>{files[0].item, files[2].item}));
+    EXPECT_EQ(icons.asked, QList<QUrl>{files[2].url});
+}
+
 TEST_F(ThumbnailServiceTest, GivesAFileWithoutAPictureItsIcon)
 {
     screens.attach(QRectF(0, 0, 100, 100), 2);

@@ -31,7 +31,10 @@ protected:
                                   screens,
                                   store,
                                   desk.clock,
-                                  [this](const ScreenPointer &) { return width; }});
+                                  [this](const ScreenPointer &) {
+                                      ++measurements;
+                                      return width;
+                                  }});
     }
 
     /// The shelf holds two items and was closed by hand.
@@ -71,6 +74,7 @@ protected:
     static constexpr QPointF edge{760, 981.5};
 
     double width = 200;
+    int measurements = 0;
     FakeEdgeTrigger trigger;
     FakeFullScreenWindows fullScreenWindows;
     FakeDragDesktop desktop;
@@ -334,6 +338,20 @@ TEST_F(EdgeSummonerTest, AThumbnailThatArrivesIsNoUse)
     leaveShelf();
     desk.clock.advance(leaveDelay);
     EXPECT_FALSE(isShown());
+}
+
+TEST_F(EdgeSummonerTest, MeasuresTheHiddenShelfOnceAFrameWhilePicturesArrive)
+{
+    QList<DropItem> items;
+    for (int i = 0; i < 100; ++i)
+        items << ShelfDesk::fileItem(QString::number(i));
+    store.accept(items);
+    store.toggleManually();
+    measurements = 0;
+    for (const DropItem &item : items)
+        store.describe(item.id(), QStringLiteral("now known"));
+    desk.clock.advance(StoreFollower::detailDelay);
+    EXPECT_EQ(measurements, 1);
 }
 
 TEST_F(EdgeSummonerTest, DoesNotHideTheShelfWhileAButtonIsHeld)

@@ -270,6 +270,46 @@ TEST_F(HUDControllerTest, ScreenChangesRender)
     EXPECT_EQ(frame(), QRectF(400 - 146, 600 - 56, 292, 56));
 }
 
+TEST_F(HUDControllerTest, RendersOnceForAnOperationHoweverOftenItPublishes)
+{
+    bar.frames.clear();
+    accept(1'000);
+    EXPECT_EQ(bar.frames.size(), 1U);
+    store.discard(0, true);
+    EXPECT_EQ(bar.frames.size(), 2U);
+    store.toggleSelection(store.items()[10]);
+    bar.frames.clear();
+    store.removeSelected();
+    EXPECT_EQ(bar.frames.size(), 1U);
+    // Before anybody can press anything.
+    EXPECT_EQ(snapshot().totalCount, 1);
+    EXPECT_EQ(snapshot().focusedIndex, 0);
+    ASSERT_EQ(snapshot().visible.size(), 1U);
+    EXPECT_EQ(snapshot().visible[0].second.title(), QStringLiteral("item 11"));
+    store.clearAll();
+    EXPECT_EQ(bar.frames.size(), 2U);
+    EXPECT_TRUE(snapshot().visible.empty());
+    EXPECT_TRUE(desk.panel.ignoresMouseEvents);
+}
+
+TEST_F(HUDControllerTest, RendersOnceAFrameForPicturesThatArrive)
+{
+    QList<DropItem> items;
+    for (int i = 0; i < 100; ++i)
+        items << ShelfDesk::fileItem(QString::number(i));
+    store.accept(items);
+    settle();
+    bar.frames.clear();
+    QImage picture(2, 2, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    for (const auto &request : thumbnails.requests)
+        request.completion(Image{picture, {30, 30}});
+    EXPECT_EQ(bar.frames.size(), 0U);
+    desk.clock.advance(StoreFollower::detailDelay);
+    EXPECT_EQ(bar.frames.size(), 1U);
+    EXPECT_TRUE(snapshot().visible[0].second.thumbnail());
+}
+
 TEST_F(HUDControllerTest, TheNotchWidensTheShelf)
 {
     screen->safeAreaInsets.top = 32;

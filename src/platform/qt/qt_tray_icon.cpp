@@ -2,7 +2,6 @@
 
 #include <QAction>
 #include <QCursor>
-#include <QIcon>
 #include <QMenu>
 #include <QPixmap>
 #include <QSystemTrayIcon>
@@ -58,30 +57,43 @@ void QtTrayIcon::appear()
     });
     m_tray->setContextMenu(m_menu.get());
     m_tray->setToolTip(m_toolTip);
-    draw();
+    showIcon();
     m_tray->show();
 }
 
-void QtTrayIcon::draw()
+QIcon QtTrayIcon::drawn() const
 {
-    if (!m_tray || !m_icon)
-        return;
     QIcon icon;
     for (const int side : iconSides)
         icon.addPixmap(QPixmap::fromImage(m_icon(side, m_foreground)));
-    m_tray->setIcon(icon);
+    return icon;
+}
+
+void QtTrayIcon::showIcon()
+{
+    if (!m_tray || !m_icon)
+        return;
+    auto found = m_drawn.find(m_shape);
+    if (found == m_drawn.end())
+        found = m_drawn.emplace(m_shape, drawn()).first;
+    m_tray->setIcon(found->second);
 }
 
 void QtTrayIcon::setForeground(const QColor &foreground)
 {
-    if (std::exchange(m_foreground, foreground) != foreground)
-        draw();
+    if (std::exchange(m_foreground, foreground) == foreground)
+        return;
+    m_drawn.clear();
+    showIcon();
 }
 
-void QtTrayIcon::setIcon(Icon icon)
+void QtTrayIcon::setIcon(int shape, Icon icon)
 {
+    const bool isTheSame = m_icon && m_shape == shape;
+    m_shape = shape;
     m_icon = std::move(icon);
-    draw();
+    if (!isTheSame)
+        showIcon();
 }
 
 void QtTrayIcon::setToolTip(const QString &toolTip)

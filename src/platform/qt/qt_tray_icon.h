@@ -2,6 +2,9 @@
 
 #include "platform/status_item.h"
 
+#include <QIcon>
+
+#include <map>
 #include <memory>
 
 class QMenu;
@@ -26,15 +29,20 @@ public:
     void appear();
     void setForeground(const QColor &foreground);
 
-    void setIcon(Icon icon) override;
+    void setIcon(int shape, Icon icon) override;
     void setToolTip(const QString &toolTip) override;
     void setMenu(Menu menu) override;
     void menuChanged() override;
 
 private:
-    void draw();
+    void showIcon();
+    QIcon drawn() const;
 
+    int m_shape = 0;
     Icon m_icon;
+    /// By their shapes, in the present foreground. One is six pictures, and the panel is told of
+    /// each that it is handed.
+    std::map<int, QIcon> m_drawn;
     QColor m_foreground = Qt::white;
     QString m_toolTip;
     Menu m_build;
