@@ -4,6 +4,7 @@
 #include "app/composition_root.h"
 #include "platform/file_url.h"
 #include "platform/qt/qt_pasteboard.h"
+#include "support/heartbeat.h"
 #include "support/table.h"
 
 #include <QApplication>
@@ -13,7 +14,6 @@
 #include <QImage>
 #include <QMimeData>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <sys/stat.h>
 
@@ -109,45 +109,8 @@ double drop(CompositionRoot &root, const QByteArray &list)
     return threadTime() - start;
 }
 
-/// Milliseconds that the main thread has waited for a processor which others had.
-double waitForProcessor()
-{
-    QFile file(QStringLiteral("/proc/self/schedstat"));
-    file.open(QFile::ReadOnly);
-    return file.readAll().split(' ').value(1).toDouble() * 1e-6;
-}
-
-/// Runs the event loop until `isDone`, and measures the longest time from one look at what waits to
-/// the next: a beat every millisecond, less that millisecond.
-struct Heartbeat {
-    double longestGap = 0;
-    /// Without the time for which others had the processors.
-    double longestOwnGap = 0;
-
-    template<typename Condition>
-    void runUntil(Condition isDone)
-    {
-        double last = now();
-        double lastWait = waitForProcessor();
-        QEventLoop loop;
-        QTimer beat;
-        beat.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&beat, &QTimer::timeout, &loop, [&] {
-            const double wait = waitForProcessor();
-            const double gap = now() - last - 1;
-            longestGap = std::max(longestGap, gap);
-            longestOwnGap = std::max(longestOwnGap, gap - (wait - lastWait));
-            last = now();
-            lastWait = wait;
-            if (isDone())
-                loop.quit();
-        });
-        beat.start(1);
-        loop.exec();
-    }
-};
-
-/// The same with nothing to do but as many threads at work: what this machine does to anybody.
+/// The event loop with nothing to do beside as many threads at work: what this machine does to
+/// anybody.
 Heartbeat undisturbed()
 {
     std::atomic<bool> isOver = false;
