@@ -2,6 +2,7 @@
 
 #include "app/app_info.h"
 #include "app/composition_root.h"
+#include "app/unanswered_start.h"
 #include "platform/end_deadline.h"
 #include "platform/freedesktop/dbus_single_instance.h"
 #include "platform/freedesktop/session_bus.h"
@@ -84,6 +85,10 @@ int runApplication(int argc, char **argv)
     };
     if (outcome == SingleInstance::Outcome::HandedOver)
         return 0;
+    if (outcome == SingleInstance::Outcome::NotAnswering) {
+        tellOfUnansweredStart(instance.otherProcess());
+        return 1;
+    }
 
     // However the process ends, nothing of the spool may outlive it.
     end_deadline::prepare();

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QtGlobal>
+
 #include <functional>
+#include <optional>
 
 namespace corvane {
 
@@ -12,6 +15,9 @@ public:
         First,
         /// Another one runs and has been asked to show itself.
         HandedOver,
+        /// Another one runs, but did not answer within the time limit; it has been asked nothing
+        /// that it would do later.
+        NotAnswering,
         /// The session has nothing to tell by; this process goes on alone.
         Unknown,
     };
@@ -20,6 +26,9 @@ public:
 
     /// Calls `onReopen` on the main thread whenever a later process hands over to this one.
     virtual Outcome acquire(std::function<void()> onReopen) = 0;
+    /// The process that runs already, for people who want to end it; none where that cannot be
+    /// told.
+    virtual std::optional<qint64> otherProcess() const = 0;
 };
 
 } // namespace corvane

@@ -3,6 +3,9 @@
 #include "e2e/desktop_test.h"
 
 #include <QBuffer>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
 #include <QDirIterator>
 #include <QFile>
 #include <QImage>
@@ -25,6 +28,32 @@ QByteArray aPicture()
     image.save(&buffer, "png");
     return png;
 }
+
+/// What a desktop shows messages with.
+class NotificationService : public QDBusVirtualObject {
+public:
+    explicit NotificationService(const XDesktop &desktop)
+        : m_bus(QDBusConnection::connectToBus(
+            desktop.environment().value(u"DBUS_SESSION_BUS_ADDRESS"_s), u"notifications"_s))
+    {
+        m_bus.registerVirtualObject(u"/org/freedesktop/Notifications"_s, this);
+        EXPECT_TRUE(m_bus.registerService(u"org.freedesktop.Notifications"_s));
+    }
+    ~NotificationService() override { QDBusConnection::disconnectFromBus(m_bus.name()); }
+
+    QString introspect(const QString &) const override { return {}; }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &bus) override
+    {
+        shown << message.arguments().value(3).toString() + u' '
+                + message.arguments().value(4).toString();
+        return bus.send(message.createReply(1U));
+    }
+
+    QStringList shown;
+
+private:
+    QDBusConnection m_bus;
+};
 
 class Life : public DesktopTest {
 protected:
@@ -97,6 +126,38 @@ TEST_F(Life, aSecondStartBringsBackWhatLiesOnTheShelf)
     ASSERT_TRUE(corvane().waitUntilHidden());
     EXPECT_EQ(corvane().startAgain(), 0);
     EXPECT_TRUE(corvane().waitForSize(size));
+}
+
+TEST_F(Life, aSecondStartSaysThatTheFirstDoesNotAnswerAndChangesNothing)
+{
+    start();
+    corvane().program().signal(SIGSTOP);
+    Program second(CorvaneProgram::path(), {}, m_desktop.environment());
+    // There is no terminal to be read, and nothing that shows notifications.
+    const auto window = m_desktop.waitForWindowOf(second);
+    ASSERT_TRUE(window);
+    EXPECT_TRUE(second.output().contains("does not answer")) << second.output().constData();
+    EXPECT_TRUE(second.isRunning());
+    ASSERT_TRUE(eventually([&] { return server().activeWindow() == window->id; }));
+    hands().key(keys::escape);
+    EXPECT_EQ(second.waitForEnd(), 1);
+
+    corvane().program().signal(SIGCONT);
+    EXPECT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::empty)) << "by the second start alone";
+}
+
+TEST_F(Life, aSecondStartHasTheDesktopShowThatTheFirstDoesNotAnswer)
+{
+    start();
+    corvane().program().signal(SIGSTOP);
+    NotificationService desktop(m_desktop);
+    Program second(CorvaneProgram::path(), {}, m_desktop.environment());
+    ASSERT_TRUE(eventually([&] { return !desktop.shown.isEmpty(); }));
+    EXPECT_EQ(second.waitForEnd(), 1);
+    EXPECT_TRUE(desktop.shown.first().contains(u"does not answer"_s));
+    EXPECT_TRUE(desktop.shown.first().contains(QString::number(corvane().program().pid())));
+    corvane().program().signal(SIGCONT);
 }
 
 TEST_F(Life, beingToldToEndLeavesNoSpool)

@@ -25,6 +25,8 @@ const char *nameOf(SingleInstance::Outcome outcome)
         return "first";
     case SingleInstance::Outcome::HandedOver:
         return "handed over";
+    case SingleInstance::Outcome::NotAnswering:
+        return "not answering";
     case SingleInstance::Outcome::Unknown:
         break;
     }

@@ -19,6 +19,15 @@ constexpr quint32 primaryOwner = 1;
 constexpr quint32 nameExists = 3;
 constexpr quint32 alreadyOwner = 4;
 
+QDBusMessage toBus(const QString &method, const QVariantList &arguments)
+{
+    const auto name = QStringLiteral("org.freedesktop.DBus");
+    auto call = QDBusMessage::createMethodCall(name, QStringLiteral("/org/freedesktop/DBus"), name,
+                                               method);
+    call.setArguments(arguments);
+    return call;
+}
+
 } // namespace
 
 DBusSingleInstance::DBusSingleInstance(QString applicationId)
@@ -36,6 +45,7 @@ SingleInstance::Outcome DBusSingleInstance::acquire(std::function<void()> onReop
                                                  QDBusConnection::ExportScriptableInvokables);
     // The other one may end just while it is asked.
     constexpr int attempts = 2;
+    auto answer = Answer::Gone;
     for (int i = 0; i < attempts; ++i) {
         switch (requestName()) {
         case NameRequest::Granted:
@@ -43,21 +53,33 @@ SingleInstance::Outcome DBusSingleInstance::acquire(std::function<void()> onReop
         case NameRequest::Failed:
             return Outcome::Unknown;
         case NameRequest::Taken:
-            if (activateOther())
+            // The bus reports a process that ended and one that is stuck alike, so the name is
+            // asked for once more; waiting once more would tell nothing new.
+            if (answer == Answer::None)
+                return Outcome::NotAnswering;
+            answer = activateOther();
+            if (answer == Answer::Done)
                 return Outcome::HandedOver;
         }
     }
-    return Outcome::Unknown;
+    return answer == Answer::None ? Outcome::NotAnswering : Outcome::Unknown;
+}
+
+std::optional<qint64> DBusSingleInstance::otherProcess() const
+{
+    const auto reply = QDBusConnection::sessionBus().call(
+        toBus(QStringLiteral("GetConnectionUnixProcessID"), {m_applicationId}), QDBus::Block,
+        busMilliseconds);
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
+        return std::nullopt;
+    return reply.arguments().constFirst().toLongLong();
 }
 
 DBusSingleInstance::NameRequest DBusSingleInstance::requestName() const
 {
-    auto request = QDBusMessage::createMethodCall(
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("RequestName"));
-    request << m_applicationId << doNotQueue;
-    const auto reply
-        = QDBusConnection::sessionBus().call(request, QDBus::Block, timeoutMilliseconds);
+    const auto reply = QDBusConnection::sessionBus().call(
+        toBus(QStringLiteral("RequestName"), {m_applicationId, doNotQueue}), QDBus::Block,
+        busMilliseconds);
     if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
         return NameRequest::Failed;
     const quint32 answer = reply.arguments().constFirst().toUInt();
@@ -66,16 +88,28 @@ DBusSingleInstance::NameRequest DBusSingleInstance::requestName() const
     return answer == nameExists ? NameRequest::Taken : NameRequest::Failed;
 }
 
-bool DBusSingleInstance::activateOther() const
+DBusSingleInstance::Answer DBusSingleInstance::askOther(const QString &interface,
+                                                        const QString &method,
+                                                        const QVariantList &arguments) const
 {
-    auto call = QDBusMessage::createMethodCall(
-        m_applicationId, objectPath(), QLatin1String(interface), QStringLiteral("Activate"));
-    call << QVariantMap();
+    auto call = QDBusMessage::createMethodCall(m_applicationId, objectPath(), interface, method);
+    call.setArguments(arguments);
     call.setAutoStartService(false);
-    const auto reply = QDBusConnection::sessionBus().call(call, QDBus::Block, timeoutMilliseconds);
-    // One that is busy has the message and will see to it; a second shelf would be worse.
-    return reply.type() == QDBusMessage::ReplyMessage
-        || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NoReply");
+    const auto reply = QDBusConnection::sessionBus().call(call, QDBus::Block, answerMilliseconds);
+    if (reply.type() == QDBusMessage::ReplyMessage)
+        return Answer::Done;
+    return reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NoReply") ? Answer::None
+                                                                                    : Answer::Gone;
+}
+
+DBusSingleInstance::Answer DBusSingleInstance::activateOther() const
+{
+    // The program's main thread describes its object, and every version of it does.
+    const Answer alive = askOther(QStringLiteral("org.freedesktop.DBus.Introspectable"),
+                                  QStringLiteral("Introspect"), {});
+    if (alive != Answer::Done)
+        return alive;
+    return askOther(QLatin1String(interface), QStringLiteral("Activate"), {QVariantMap()});
 }
 
 QString DBusSingleInstance::objectPath() const
