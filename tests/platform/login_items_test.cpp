@@ -1,5 +1,6 @@
 #include "platform/freedesktop/autostart_login_items.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -18,6 +19,14 @@ protected:
     {
         QDir(folder).removeRecursively();
         QFile::remove(folder);
+        QFile file(program);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    }
+    ~LoginItemsTest() override
+    {
+        for (const char *name : {"APPIMAGE", "APPDIR", "XDG_CURRENT_DESKTOP"})
+            qunsetenv(name);
     }
     QString path() const { return folder + QLatin1String("/corvane.desktop"); }
     static QByteArray contents(const QString &path)
@@ -35,7 +44,9 @@ protected:
     }
 
     QString folder = qEnvironmentVariable("XDG_CONFIG_HOME") + QLatin1String("/autostart");
-    AutostartLoginItems items{QStringLiteral("/opt/my \"apps\"/100% $HOME\\corvane")};
+    QTemporaryDir programs;
+    QString program = programs.filePath(QStringLiteral("\"100%\" $HOME\\corvane"));
+    AutostartLoginItems items{program};
 };
 
 } // namespace
@@ -53,7 +64,8 @@ TEST_F(LoginItemsTest, registersAndUnregisters)
 
 TEST_F(LoginItemsTest, quotesThePathOfTheProgram)
 {
-    EXPECT_FALSE(items.registerItem());
+    AutostartLoginItems odd(QStringLiteral("/opt/my \"apps\"/100% $HOME\\corvane"));
+    EXPECT_FALSE(odd.registerItem());
     EXPECT_TRUE(
         entry().contains("\nExec=\"/opt/my \\\\\"apps\\\\\"/100%% \\\\$HOME\\\\\\\\corvane\"\n"))
         << entry().constData();
@@ -61,26 +73,96 @@ TEST_F(LoginItemsTest, quotesThePathOfTheProgram)
 
 TEST_F(LoginItemsTest, aHiddenEntryIsNotRegistered)
 {
-    write("[Desktop Entry]\nExec=corvane\nHidden=true\n");
+    write("[Desktop Entry]\nExec=true\nHidden=true\n");
     EXPECT_FALSE(items.isRegistered());
     EXPECT_FALSE(items.registerItem());
     EXPECT_TRUE(items.isRegistered());
-    write("[Desktop Entry]\nHidden = false\n");
+    write("[Desktop Entry]\nExec=true\nHidden = false\n");
     EXPECT_TRUE(items.isRegistered());
+}
+
+TEST_F(LoginItemsTest, anEntryThatAnotherProgramSwitchedOffIsNotRegistered)
+{
+    for (const char *line : {"X-GNOME-Autostart-enabled=false", "X-GNOME-Autostart-enabled = False",
+                             "X-MATE-Autostart-enabled=false", "Hidden=True", "Hidden=1"}) {
+        write("[Desktop Entry]\nExec=true\n" + QByteArray(line) + '\n');
+        EXPECT_FALSE(items.isRegistered()) << line;
+        EXPECT_FALSE(items.registerItem());
+        EXPECT_TRUE(items.isRegistered()) << "switched on again after " << line;
+    }
+    write("[Desktop Entry]\nExec=true\nX-GNOME-Autostart-enabled=true\n");
+    EXPECT_TRUE(items.isRegistered());
+}
+
+TEST_F(LoginItemsTest, whatOtherGroupsOfTheEntrySayCountsForNothing)
+{
+    write("[Desktop Entry]\nExec=true\n[Desktop Action off]\nHidden=true\n");
+    EXPECT_TRUE(items.isRegistered());
+    write("[Something]\nExec=true\n");
+    EXPECT_FALSE(items.isRegistered());
+}
+
+TEST_F(LoginItemsTest, anEntryForOtherDesktopsIsNotRegistered)
+{
+    qputenv("XDG_CURRENT_DESKTOP", "ubuntu:GNOME");
+    for (const char *line : {"OnlyShowIn=KDE;XFCE;", "NotShowIn=KDE;GNOME;"}) {
+        write("[Desktop Entry]\nExec=true\n" + QByteArray(line) + '\n');
+        EXPECT_FALSE(items.isRegistered()) << line;
+    }
+    for (const char *line : {"OnlyShowIn=KDE;GNOME", "NotShowIn=KDE;"}) {
+        write("[Desktop Entry]\nExec=true\n" + QByteArray(line) + '\n');
+        EXPECT_TRUE(items.isRegistered()) << line;
+    }
+}
+
+TEST_F(LoginItemsTest, anEntryWhoseProgramIsGoneIsNotRegistered)
+{
+    EXPECT_FALSE(items.registerItem());
+    EXPECT_TRUE(items.isRegistered());
+    ASSERT_TRUE(QFile::remove(program));
+    EXPECT_FALSE(items.isRegistered());
+    for (const char *lines : {"Name=Corvane", "Exec=", "Exec=\"true", "Exec=/nowhere/at-all",
+                              "Exec=true\nTryExec=nowhere-at-all"}) {
+        write("[Desktop Entry]\n" + QByteArray(lines) + '\n');
+        EXPECT_FALSE(items.isRegistered()) << lines;
+    }
+    write("[Desktop Entry]\nExec=true --hidden\nTryExec=true\n");
+    EXPECT_TRUE(items.isRegistered());
+}
+
+TEST_F(LoginItemsTest, theFileOfAnotherProgramsAppImageIsNotWritten)
+{
+    qputenv("APPIMAGE", "/home/somebody/Terminal.AppImage");
+    const QByteArray ours = "Exec=\"" + QCoreApplication::applicationFilePath().toUtf8() + "\"\n";
+    for (const QByteArray &mount : {QByteArray("/tmp/.mount_Terminal"), QByteArray(),
+                                    QByteArray("/"), QFile::encodeName(programs.path())}) {
+        qputenv("APPDIR", mount);
+        EXPECT_FALSE(AutostartLoginItems().registerItem());
+        EXPECT_TRUE(entry().contains(ours)) << entry().constData();
+    }
+}
+
+TEST_F(LoginItemsTest, theFileOfTheAppImageThatItRunsFromIsWritten)
+{
+    qputenv("APPIMAGE", "/home/somebody/Corvane.AppImage");
+    qputenv("APPDIR", QFile::encodeName(QCoreApplication::applicationDirPath()));
+    EXPECT_FALSE(AutostartLoginItems().registerItem());
+    EXPECT_TRUE(entry().contains("Exec=\"/home/somebody/Corvane.AppImage\"\n"))
+        << entry().constData();
 }
 
 TEST_F(LoginItemsTest, aLinkIsReplacedAndRemovedAndWhatItLeadsToIsLeftAlone)
 {
     const QTemporaryDir elsewhere;
     const QString target = elsewhere.filePath(QStringLiteral("mine.desktop"));
-    const QByteArray text = "[Desktop Entry]\nExec=somebody else's\n";
+    const QByteArray text = "[Desktop Entry]\nExec=true somebody else\n";
     write(text);
     ASSERT_TRUE(QFile::rename(path(), target));
     ASSERT_TRUE(QFile::link(target, path()));
     EXPECT_TRUE(items.isRegistered()) << "the desktop starts what it leads to";
     EXPECT_FALSE(items.registerItem());
     EXPECT_FALSE(QFileInfo(path()).isSymLink());
-    EXPECT_TRUE(entry().contains("corvane"));
+    EXPECT_FALSE(entry().contains("somebody else"));
     EXPECT_EQ(contents(target), text);
 
     ASSERT_TRUE(QFile::remove(path()));
@@ -133,7 +215,7 @@ TEST_F(LoginItemsTest, anotherProgramsEntryOfThatNameIsReplacedAsAWhole)
 TEST_F(LoginItemsTest, onlyTheBeginningOfAnEndlessEntryIsRead)
 {
     constexpr qsizetype large = 10'000'000;
-    write(QByteArray(large, 'x') + "\nHidden=true\n");
+    write("[Desktop Entry]\nExec=true\n" + QByteArray(large, 'x') + "\nHidden=true\n");
     EXPECT_TRUE(items.isRegistered());
 }
 

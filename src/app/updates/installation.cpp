@@ -1,32 +1,14 @@
 #include "app/updates/installation.h"
 
+#include "platform/app_image.h"
 #include "platform/regular_file.h"
-
-#include <QStringBuilder>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <cstdlib>
-#include <memory>
-
 namespace corvane {
 
 namespace {
-
-/// Empty where there is nothing.
-QByteArray canonical(const QByteArray &path)
-{
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.constData(), nullptr),
-                                                           &std::free);
-    return real ? QByteArray(real.get()) : QByteArray();
-}
-
-bool isBelow(const QByteArray &path, const QByteArray &folder)
-{
-    const QByteArray beginning = folder + '/';
-    return folder.startsWith('/') && folder != "/" && path.startsWith(beginning);
-}
 
 /// An ELF file whose unused bytes say "AI" and the format's number, 1 or 2.
 bool hasMark(const QByteArray &path)
@@ -45,7 +27,8 @@ Installation::Evidence Installation::Evidence::ofThisProcess()
 {
     const bool isFlatpak = !qEnvironmentVariableIsEmpty("FLATPAK_ID")
         || qgetenv("container") == "flatpak" || ::access("/.flatpak-info", F_OK) == 0;
-    return {canonical("/proc/self/exe"), qgetenv("APPIMAGE"), qgetenv("APPDIR"), isFlatpak};
+    const auto process = app_image::Evidence::ofThisProcess();
+    return {process.executable, process.file, process.folder, isFlatpak};
 }
 
 bool Installation::isReplaceable(const QByteArray &path)
@@ -63,13 +46,14 @@ Installation Installation::from(const Evidence &evidence)
 {
     if (evidence.isFlatpak)
         return {Kind::Managed};
-    const QByteArray executable = evidence.executable;
-    const bool isAbsolute = evidence.appImage.startsWith('/');
-    if (isAbsolute && isBelow(executable, canonical(evidence.appImageFolder))) {
-        const QByteArray path = canonical(evidence.appImage);
+    const QByteArray appImage
+        = app_image::containing({evidence.executable, evidence.appImage, evidence.appImageFolder});
+    if (!appImage.isEmpty()) {
+        const QByteArray path = app_image::canonical(appImage);
         return isReplaceable(path) ? Installation{Kind::AppImage, path} : Installation{Kind::Loose};
     }
-    if (isBelow(executable, "/usr") && !isBelow(executable, "/usr/local"))
+    if (app_image::isBelow(evidence.executable, "/usr")
+        && !app_image::isBelow(evidence.executable, "/usr/local"))
         return {Kind::Managed};
     return {Kind::Loose};
 }

@@ -1,17 +1,21 @@
 #include "platform/freedesktop/autostart_login_items.h"
 
+#include "platform/app_image.h"
+#include "platform/freedesktop/desktop_entry.h"
 #include "platform/regular_file.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QSaveFile>
 #include <QStandardPaths>
 
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace corvane {
@@ -24,10 +28,12 @@ QString entryPath()
         + QLatin1String("/autostart/corvane.desktop");
 }
 
+/// Of an AppImage its file, since what runs then is a temporary copy.
 QString runningProgram()
 {
-    const QString appImage = qEnvironmentVariable("APPIMAGE");
-    return appImage.isEmpty() ? QCoreApplication::applicationFilePath() : appImage;
+    const QByteArray appImage = app_image::containing(app_image::Evidence::ofThisProcess());
+    return appImage.isEmpty() ? QCoreApplication::applicationFilePath()
+                              : QFile::decodeName(appImage);
 }
 
 /// One argument of an Exec line. Its quoting is undone twice: once as text of the entry, once as a
@@ -49,14 +55,42 @@ QString quoted(const QString &argument)
     return QLatin1Char('"') % result % QLatin1Char('"');
 }
 
-bool isHidden(const QByteArray &entry)
+/// Whether somebody switched the entry off. Desktops keep it then, and have keys of their own.
+bool isSwitchedOff(const QHash<QByteArray, QByteArray> &entry)
 {
-    for (const QByteArray &line : entry.split('\n')) {
-        const auto equals = line.indexOf('=');
-        if (equals > 0 && line.first(equals).trimmed() == "Hidden")
-            return line.sliced(equals + 1).trimmed() == "true";
-    }
-    return false;
+    const auto says = [&](const char *key, const QByteArrayList &answers) {
+        return answers.contains(entry.value(key).toLower());
+    };
+    const QByteArrayList no = {"false", "0"};
+    return says("Hidden", {"true", "1"}) || says("X-GNOME-Autostart-enabled", no)
+        || says("X-MATE-Autostart-enabled", no);
+}
+
+/// Whether the desktop that runs is one that the entry is for.
+bool isForThisDesktop(const QHash<QByteArray, QByteArray> &entry)
+{
+    const QByteArrayList desktops = qgetenv("XDG_CURRENT_DESKTOP").split(':');
+    const auto isNamed = [&](const char *key) {
+        const QByteArrayList named = desktop_entry::list(entry.value(key));
+        return std::any_of(named.begin(), named.end(),
+                           [&](const QByteArray &name) { return desktops.contains(name); });
+    };
+    return entry.contains("OnlyShowIn") ? isNamed("OnlyShowIn") : !isNamed("NotShowIn");
+}
+
+bool canBeStarted(const QByteArray &program)
+{
+    return !program.isEmpty()
+        && !QStandardPaths::findExecutable(QFile::decodeName(program)).isEmpty();
+}
+
+/// Whether what the entry starts is there: an AppImage may have been moved since.
+bool leadsToProgram(const QHash<QByteArray, QByteArray> &entry)
+{
+    const QByteArrayList command = desktop_entry::arguments(entry.value("Exec"));
+    if (command.isEmpty() || !canBeStarted(QByteArray(command.constFirst()).replace("%%", "%")))
+        return false;
+    return !entry.contains("TryExec") || canBeStarted(entry.value("TryExec"));
 }
 
 /// Makes way for an entry of our own. What is written through a link lands in a stranger's file.
@@ -84,7 +118,10 @@ bool AutostartLoginItems::isRegistered() const
 {
     constexpr qint64 longestEntry = 65'536;
     const auto entry = regular_file::beginning(QFile::encodeName(entryPath()), longestEntry);
-    return entry && !isHidden(*entry);
+    if (!entry)
+        return false;
+    const auto keys = desktop_entry::group(*entry, "Desktop Entry");
+    return !isSwitchedOff(keys) && isForThisDesktop(keys) && leadsToProgram(keys);
 }
 
 std::optional<QString> AutostartLoginItems::registerItem()
