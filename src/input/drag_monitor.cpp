@@ -34,15 +34,21 @@ void DragMonitor::start()
     m_pasteboardBaseline = m_pasteboard.changeCount();
     m_globalMonitor = m_events.addGlobalMonitor(whileAlive(&DragMonitor::mouseDragged));
     m_localMonitor = m_events.addLocalMonitor(whileAlive(&DragMonitor::mouseDragged));
+    m_pressMonitor = m_events.addLeftMouseDownMonitor(whileAlive(&DragMonitor::leftMouseDown));
 }
 
 void DragMonitor::stop()
 {
-    for (auto *monitor : {&m_globalMonitor, &m_localMonitor}) {
+    for (auto *monitor : {&m_globalMonitor, &m_localMonitor, &m_pressMonitor}) {
         if (const auto handle = std::exchange(*monitor, std::nullopt))
             m_events.removeMonitor(*handle);
     }
     m_releasePoll.reset();
+}
+
+void DragMonitor::leftMouseDown()
+{
+    m_pasteboardBaseline = m_pasteboard.changeCount();
 }
 
 void DragMonitor::mouseDragged()

@@ -21,6 +21,10 @@ class MouseButtons;
 /// Both together are a drag; the first alone is a text selection or a window being moved. Nor does
 /// anybody tell of the release over another program's window, so the button is asked for.
 ///
+/// Contents may also change with no drag to follow: one with the right button, or one that was let
+/// go of before its source was ready. So what changed before the left button went down counts for
+/// nothing.
+///
 ///     Watching --dragged event, pasteboard changed--> Dragging --button seen up--> Settling
 ///        ^                                               ^                            |  |
 ///        |                                               +--dragged, changed again----+  |
@@ -57,6 +61,7 @@ private:
     /// `work` bound to the monitor; does nothing once that is gone.
     std::function<void()> whileAlive(void (DragMonitor::*work)());
 
+    void leftMouseDown();
     void mouseDragged();
     void beginPolling();
     void pollButton();
@@ -70,6 +75,7 @@ private:
 
     std::optional<EventMonitors::Handle> m_globalMonitor;
     std::optional<EventMonitors::Handle> m_localMonitor;
+    std::optional<EventMonitors::Handle> m_pressMonitor;
     std::unique_ptr<MainQueue::Timer> m_releasePoll;
     qint64 m_pasteboardBaseline = 0;
     bool m_isDragging = false;

@@ -23,6 +23,9 @@ public:
     virtual std::optional<Handle> addGlobalMonitor(Handler onLeftMouseDragged) = 0;
     /// For this program's own events. The events themselves always go their way.
     virtual std::optional<Handle> addLocalMonitor(Handler onLeftMouseDragged) = 0;
+    /// For presses of the left button wherever, in this program's windows too, before anything
+    /// that they lead to is told. None when the window system refuses.
+    virtual std::optional<Handle> addLeftMouseDownMonitor(Handler onLeftMouseDown) = 0;
     /// For presses of any button in other programs' windows, those in our own excepted. What a
     /// window system reports of a wheel as buttons is none. None when the window system refuses.
     virtual std::optional<Handle> addGlobalMouseDownMonitor(Handler onMouseDown) = 0;

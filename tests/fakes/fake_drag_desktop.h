@@ -34,16 +34,27 @@ public:
     {
         return refusesGlobalMonitor ? std::nullopt : add(m_mouseDown, std::move(handler));
     }
+    std::optional<Handle> addLeftMouseDownMonitor(Handler handler) override
+    {
+        return refusesGlobalMonitor ? std::nullopt : add(m_leftDown, std::move(handler));
+    }
     void removeMonitor(Handle handle) override
     {
         removed.push_back(handle);
+        m_leftDown.erase(handle);
         m_mouseDown.erase(handle);
         m_global.erase(handle);
         m_local.erase(handle);
     }
     unsigned pressedMouseButtons() const override { return m_pressed; }
 
-    void press(unsigned buttons = MouseButtons::left) { m_pressed |= buttons; }
+    void press(unsigned buttons = MouseButtons::left)
+    {
+        const bool isLeftNew = (buttons & ~m_pressed & MouseButtons::left) != 0;
+        m_pressed |= buttons;
+        if (isLeftNew)
+            notify(m_leftDown);
+    }
     /// A press in another program's window; nobody may know where.
     void pressElsewhere(std::optional<QPointF> point, unsigned buttons = MouseButtons::left)
     {
@@ -67,7 +78,10 @@ public:
         moveTo({1, 0});
     }
 
-    std::size_t monitorCount() const { return m_global.size() + m_local.size(); }
+    std::size_t monitorCount() const
+    {
+        return m_global.size() + m_local.size() + m_leftDown.size();
+    }
     std::size_t mouseDownMonitorCount() const { return m_mouseDown.size(); }
 
     FakePointer pointer;
@@ -98,6 +112,7 @@ private:
     }
 
     Monitors m_mouseDown;
+    Monitors m_leftDown;
     Monitors m_global;
     Monitors m_local;
     Handle m_nextHandle = 1;

@@ -178,7 +178,7 @@ TEST_F(DragMonitorTest, RemovesTheGlobalMonitorFirstAndEachOnce)
     monitor->stop();
     monitor->stop();
     monitor.reset();
-    EXPECT_EQ(desk.removed, (std::vector<EventMonitors::Handle>{1, 2}));
+    EXPECT_EQ(desk.removed, (std::vector<EventMonitors::Handle>{1, 2, 3}));
 }
 
 TEST_F(DragMonitorTest, CountsOnlyTheLeftButton)
@@ -188,6 +188,56 @@ TEST_F(DragMonitorTest, CountsOnlyTheLeftButton)
     desk.press(test::FakeDragDesktop::rightButton);
     desk.release();
     clock.advance(pollInterval + settleDelay);
+    EXPECT_EQ(log, beganAndEnded);
+}
+
+TEST_F(DragMonitorTest, TakesNoSelectionAfterADragWithTheRightButtonForADrag)
+{
+    monitor->start();
+    desk.press(test::FakeDragDesktop::rightButton);
+    desk.pickUp();
+    desk.moveTo({1, 0});
+    desk.release(test::FakeDragDesktop::rightButton);
+    desk.press();
+    desk.moveTo({2, 0});
+    EXPECT_EQ(log, QStringList());
+    desk.pickUp();
+    desk.moveTo({3, 0});
+    EXPECT_EQ(log, began);
+}
+
+TEST_F(DragMonitorTest, TakesNoSelectionForADragWhoseSourceWasReadyOnlyAfterTheRelease)
+{
+    monitor->start();
+    desk.press();
+    desk.moveTo({1, 0});
+    desk.release();
+    desk.pickUp();
+    clock.advance(1);
+    desk.press();
+    desk.moveTo({2, 0});
+    EXPECT_EQ(log, QStringList());
+    // Nor in a window of our own.
+    desk.release();
+    desk.pickUp();
+    desk.press();
+    desk.moveInsideOwnWindow({3, 0});
+    EXPECT_EQ(log, QStringList());
+}
+
+TEST_F(DragMonitorTest, GoesOnWithADragWhileFurtherButtonsArePressed)
+{
+    monitor->start();
+    desk.press();
+    desk.pickUp();
+    desk.press(test::FakeDragDesktop::rightButton);
+    desk.moveTo({1, 0});
+    EXPECT_EQ(log, began);
+    desk.press();
+    desk.moveTo({2, 0});
+    EXPECT_EQ(log, began);
+    desk.release();
+    clock.advance(1);
     EXPECT_EQ(log, beganAndEnded);
 }
 
@@ -207,7 +257,7 @@ TEST_F(DragMonitorTest, WorksWithTheMonitorThatItIsGiven)
     desk.startDrag();
     EXPECT_EQ(log, began);
     monitor->stop();
-    EXPECT_EQ(desk.removed.size(), 1U);
+    EXPECT_EQ(desk.removed.size(), 2U);
 }
 
 TEST_F(DragMonitorTest, WorksWithoutCallbacks)

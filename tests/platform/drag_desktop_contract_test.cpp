@@ -9,6 +9,9 @@
 #include <QWindow>
 
 #include <gtest/gtest.h>
+#include <xcb/xinput.h>
+
+#include <array>
 
 namespace corvane::test {
 
@@ -182,6 +185,44 @@ TYPED_TEST(DragDesktopContract, hearsPressesInOtherProgramsWindows)
     EXPECT_EQ(presses, 1);
 }
 
+TYPED_TEST(DragDesktopContract, hearsPressesOfTheLeftButtonAndOfNoOther)
+{
+    int presses = 0;
+    const auto handle = this->monitors.addLeftMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(handle);
+    this->hands.waitABit();
+    this->hands.pressRight();
+    this->hands.waitABit();
+    EXPECT_EQ(presses, 0);
+    this->hands.press();
+    EXPECT_TRUE(this->hands.until([&] { return presses == 1; }));
+    this->hands.releaseRight();
+    this->hands.release();
+    this->hands.waitABit();
+    this->hands.press();
+    EXPECT_TRUE(this->hands.until([&] { return presses == 2; }));
+    this->hands.release();
+    this->monitors.removeMonitor(*handle);
+    this->hands.waitABit();
+    this->hands.press();
+    this->hands.waitABit();
+    EXPECT_EQ(presses, 2);
+}
+
+TYPED_TEST(DragDesktopContract, thePressIsToldBeforeTheChangeThatItLeadsTo)
+{
+    std::optional<qint64> atPress;
+    ASSERT_TRUE(
+        this->monitors.addLeftMouseDownMonitor([&] { atPress = this->pasteboard.changeCount(); }));
+    const auto before = this->pasteboard.changeCount();
+    this->hands.waitABit();
+    this->hands.press();
+    this->hands.pickUp();
+    EXPECT_TRUE(this->hands.until([&] { return this->pasteboard.changeCount() == before + 1; }));
+    EXPECT_EQ(atPress, before);
+    this->hands.putDown();
+}
+
 TEST(X11DragDesktop, wheelsPressNothingAndSideButtonsDo)
 {
     RealHands hands;
@@ -279,6 +320,106 @@ TEST(X11DragDesktop, leftHandedPeopleDragWithTheOtherButton)
     std::free(xcb_set_pointer_mapping_reply(
         server, xcb_set_pointer_mapping(server, usual.size(), usual.data()), nullptr));
     settle();
+}
+
+/// Gives the device behind the hands an order of its own for its buttons, as `xinput
+/// set-button-map` does; the order of all devices together stays as it is.
+struct DeviceButtons {
+    explicit DeviceButtons(xcb_connection_t *connection)
+        : m_connection(connection)
+    {
+        const X11Reply<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
+            connection, xcb_input_xi_query_device(connection, XCB_INPUT_DEVICE_ALL), nullptr));
+        for (auto info = xcb_input_xi_query_device_infos_iterator(reply.get()); info.rem > 0;
+             xcb_input_xi_device_info_next(&info)) {
+            const QByteArrayView name(xcb_input_xi_device_info_name(info.data),
+                                      info.data->name_len);
+            if (info.data->type == XCB_INPUT_DEVICE_TYPE_SLAVE_POINTER
+                && name.toByteArray().contains("XTEST"))
+                m_device = static_cast<std::uint8_t>(info.data->deviceid);
+        }
+        std::free(xcb_input_open_device_reply(
+            connection, xcb_input_open_device(connection, m_device), nullptr));
+    }
+    ~DeviceButtons() { set({1, 2, 3, 4, 5, 6, 7, 8, 9, 10}); }
+
+    bool set(const std::array<std::uint8_t, 10> &order) const
+    {
+        const X11Reply<xcb_input_set_device_button_mapping_reply_t> reply(
+            xcb_input_set_device_button_mapping_reply(
+                m_connection,
+                xcb_input_set_device_button_mapping(
+                    m_connection, m_device, static_cast<std::uint8_t>(order.size()), order.data()),
+                nullptr));
+        settle();
+        return reply && reply->status == 0;
+    }
+
+private:
+    xcb_connection_t *m_connection;
+    std::uint8_t m_device = 0;
+};
+
+TEST(X11DragDesktop, buttonsThatAreExchangedForOneDeviceAloneDragToo)
+{
+    RealHands hands;
+    const DeviceButtons buttons(hands.display.server.connection());
+    ASSERT_TRUE(buttons.set({3, 2, 1, 4, 5, 6, 7, 8, 9, 10}));
+    int heard = 0;
+    int presses = 0;
+    ASSERT_TRUE(hands.desktop.addGlobalMonitor([&] { ++heard; }));
+    ASSERT_TRUE(hands.desktop.addLeftMouseDownMonitor([&] { ++presses; }));
+    settle();
+    // The first button is the right one now.
+    hands.press();
+    settle();
+    hands.move();
+    settle();
+    EXPECT_EQ(heard, 0);
+    EXPECT_EQ(presses, 0);
+    hands.release();
+    settle();
+
+    hands.pressRight();
+    EXPECT_TRUE(eventually([&] { return presses == 1; }));
+    hands.move();
+    EXPECT_TRUE(eventually([&] { return heard > 0; }));
+    hands.releaseRight();
+    settle();
+    heard = 0;
+    hands.move();
+    settle();
+    EXPECT_EQ(heard, 0);
+}
+
+TEST(X11DragDesktop, aSecondPressRightAfterAReleaseIsToldToo)
+{
+    RealHands hands;
+    int presses = 0;
+    ASSERT_TRUE(hands.desktop.addLeftMouseDownMonitor([&] { ++presses; }));
+    settle();
+    hands.press();
+    EXPECT_TRUE(eventually([&] { return presses == 1; }));
+    // Both are there before either is looked at.
+    hands.release();
+    hands.press();
+    EXPECT_TRUE(eventually([&] { return presses == 2; }));
+}
+
+TEST(X11DragDesktop, leftPressesInOurOwnWindowsAreToldToo)
+{
+    RealHands hands;
+    QWindow window;
+    window.setFlag(Qt::X11BypassWindowManagerHint);
+    window.setGeometry(200, 200, 100, 100);
+    window.show();
+    ASSERT_TRUE(eventually([&] { return window.isExposed(); }));
+    int presses = 0;
+    ASSERT_TRUE(hands.desktop.addLeftMouseDownMonitor([&] { ++presses; }));
+    settle();
+    hands.display.hands.moveTo({250, 250});
+    hands.press();
+    EXPECT_TRUE(eventually([&] { return presses == 1; }));
 }
 
 TEST(X11DragDesktop, startedInMidDragItHearsTheRest)

@@ -17,7 +17,6 @@ namespace corvane {
 namespace {
 
 constexpr std::uint8_t disabledButton = 0;
-constexpr std::uint8_t leftButton = 1;
 constexpr std::uint8_t firstWheelButton = 4;
 constexpr std::uint8_t lastWheelButton = 7;
 
@@ -56,14 +55,7 @@ X11DragDesktop::~X11DragDesktop()
 
 std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMonitor(Handler onLeftMouseDragged)
 {
-    if (!canListen())
-        return std::nullopt;
-    // The first one may come in mid-drag.
-    if (m_monitors.empty())
-        listenTo((pressedMouseButtons() & left) != 0 ? Listening::ButtonsAndMotion
-                                                     : Listening::Buttons);
-    m_monitors.emplace(m_nextHandle, std::move(onLeftMouseDragged));
-    return m_nextHandle++;
+    return add(m_monitors, std::move(onLeftMouseDragged));
 }
 
 std::optional<EventMonitors::Handle> X11DragDesktop::addLocalMonitor(Handler)
@@ -71,23 +63,34 @@ std::optional<EventMonitors::Handle> X11DragDesktop::addLocalMonitor(Handler)
     return std::nullopt;
 }
 
+std::optional<EventMonitors::Handle>
+X11DragDesktop::addLeftMouseDownMonitor(Handler onLeftMouseDown)
+{
+    return add(m_leftDownMonitors, std::move(onLeftMouseDown));
+}
+
 std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMouseDownMonitor(Handler onMouseDown)
+{
+    return add(m_mouseDownMonitors, std::move(onMouseDown));
+}
+
+std::optional<EventMonitors::Handle> X11DragDesktop::add(Monitors &monitors, Handler handler)
 {
     if (!canListen())
         return std::nullopt;
+    // The first one may come in mid-drag.
     if (m_listening == Listening::Nothing)
-        listenTo(Listening::Buttons);
-    m_mouseDownMonitors.emplace(m_nextHandle, std::move(onMouseDown));
+        m_isLeftDown = (pressedMouseButtons() & left) != 0;
+    monitors.emplace(m_nextHandle, std::move(handler));
+    listen();
     return m_nextHandle++;
 }
 
 void X11DragDesktop::removeMonitor(Handle handle)
 {
-    m_mouseDownMonitors.erase(handle);
-    m_monitors.erase(handle);
-    if (!m_monitors.empty())
-        return;
-    listenTo(m_mouseDownMonitors.empty() ? Listening::Nothing : Listening::Buttons);
+    for (Monitors *monitors : {&m_monitors, &m_leftDownMonitors, &m_mouseDownMonitors})
+        monitors->erase(handle);
+    listen();
 }
 
 unsigned X11DragDesktop::pressedMouseButtons() const
@@ -140,12 +143,28 @@ void X11DragDesktop::handleRawButton(std::uint32_t button, bool isPress)
     if (button == 0 || button > m_buttonMapping.size() || m_listening == Listening::Nothing)
         return;
     const std::uint8_t logical = m_buttonMapping[button - 1];
-    if (logical == leftButton && !m_monitors.empty())
-        listenTo(isPress ? Listening::ButtonsAndMotion : Listening::Buttons);
-    const bool isWheel = logical >= firstWheelButton && logical <= lastWheelButton;
-    if (isPress && logical != disabledButton && !isWheel && !m_mouseDownMonitors.empty()
-        && !isOverOwnWindow())
+    if (logical >= firstWheelButton && logical <= lastWheelButton)
+        return;
+    noticeLeftButton(button, isPress);
+    if (isPress && logical != disabledButton && !m_mouseDownMonitors.empty() && !isOverOwnWindow())
         notify(m_mouseDownMonitors);
+}
+
+/// The button's number does not tell whether it is the left one: each device may have an order of
+/// its own. What is down then does.
+void X11DragDesktop::noticeLeftButton(std::uint32_t button, bool isPress)
+{
+    const bool wasDown = m_isLeftDown;
+    // Its release is taken at its word: the button may be down again by the time we ask.
+    const bool isOwnRelease = !isPress && button == m_leftButton;
+    m_isLeftDown = !isOwnRelease && (pressedMouseButtons() & left) != 0;
+    if (!m_isLeftDown)
+        m_leftButton = 0;
+    listen();
+    if (!isPress || !m_isLeftDown || wasDown)
+        return;
+    m_leftButton = button;
+    notify(m_leftDownMonitors);
 }
 
 /// Raw events name no window: the one under the pointer is asked for, from the desktop down through
@@ -170,6 +189,15 @@ bool X11DragDesktop::isOverOwnWindow() const
 bool X11DragDesktop::canListen() const
 {
     return m_connection.isConnected() && m_connection.hasXInput();
+}
+
+void X11DragDesktop::listen()
+{
+    if (!m_monitors.empty())
+        listenTo(m_isLeftDown ? Listening::ButtonsAndMotion : Listening::Buttons);
+    else
+        listenTo(m_leftDownMonitors.empty() && m_mouseDownMonitors.empty() ? Listening::Nothing
+                                                                           : Listening::Buttons);
 }
 
 void X11DragDesktop::listenTo(Listening what)

@@ -27,6 +27,7 @@ public:
     std::optional<Handle> addGlobalMonitor(Handler onLeftMouseDragged) override;
     /// None: the global monitor hears this program too.
     std::optional<Handle> addLocalMonitor(Handler onLeftMouseDragged) override;
+    std::optional<Handle> addLeftMouseDownMonitor(Handler onLeftMouseDown) override;
     std::optional<Handle> addGlobalMouseDownMonitor(Handler onMouseDown) override;
     void removeMonitor(Handle handle) override;
     unsigned pressedMouseButtons() const override;
@@ -43,7 +44,11 @@ private:
     void handle(const xcb_generic_event_t &event);
     void handleSelection(const xcb_generic_event_t &event);
     void handleRawButton(std::uint32_t button, bool isPress);
+    std::optional<Handle> add(Monitors &monitors, Handler handler);
+    void noticeLeftButton(std::uint32_t button, bool isPress);
     bool canListen() const;
+    /// What its monitors need, and no more.
+    void listen();
     void listenTo(Listening what);
     void readButtonMapping();
     bool isOverOwnWindow() const;
@@ -53,10 +58,16 @@ private:
     X11Connection::ListenerId m_listener;
     qint64 m_changeCount = 0;
     Listening m_listening = Listening::Nothing;
-    /// Which logical button each physical one is: raw events tell physical ones, and left-handed
-    /// people exchange them.
+    /// Which logical button each physical one is, for wheels and buttons that are switched off:
+    /// raw events tell physical ones. It holds for all devices together. Left-handed people may
+    /// exchange the buttons of one device alone, so which button is the left one is not told by
+    /// it.
     std::array<std::uint8_t, 256> m_buttonMapping{};
+    bool m_isLeftDown = false;
+    /// The physical button that is down as the left one; 0 where that is not known.
+    std::uint32_t m_leftButton = 0;
     Monitors m_monitors;
+    Monitors m_leftDownMonitors;
     Monitors m_mouseDownMonitors;
     Handle m_nextHandle = 1;
 };
