@@ -37,7 +37,6 @@
 #include "platform/qt/qt_keyboard.h"
 #include "platform/qt/qt_main_queue.h"
 #include "platform/qt/qt_panel_window.h"
-#include "platform/qt/qt_pointer.h"
 #include "platform/qt/qt_screens.h"
 #include "platform/qt/qt_text_measurer.h"
 #include "platform/qt/qt_user_defaults.h"
@@ -51,6 +50,7 @@
 #include "platform/x11/x11_hot_keys.h"
 #include "platform/x11/x11_keyboard_layout.h"
 #include "platform/x11/x11_panel_surface.h"
+#include "platform/x11/x11_pointer.h"
 #include "platform/x11/x11_pointer_barriers.h"
 #include "platform/x11/x11_window_activation.h"
 #include "services/link_preview_service.h"
@@ -88,7 +88,6 @@ struct CompositionRoot {
     QtWorkQueue workQueue;
     QtWebClient webClient;
     QtScreens screens;
-    QtPointer pointer;
     QtKeyboard keyboard;
     QtGeneralPasteboard generalPasteboard;
     QtUserDefaults userDefaults;
@@ -99,6 +98,7 @@ struct CompositionRoot {
     AutostartLoginItems loginItems;
     PortalMotionPreference motionPreference;
     X11Connection connection;
+    X11Pointer pointer;
     X11DragDesktop dragDesktop;
     X11HotKeys hotKeyService;
     X11KeyboardLayout keyboardLayout;

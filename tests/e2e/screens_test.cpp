@@ -54,6 +54,24 @@ TEST_F(Screens, theShelfOpensOnTheScreenWhereTheDragIs)
     EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::empty, right));
 }
 
+TEST_F(Screens, theOutermostPixelsOfALargerScaleBelongToTheirScreen)
+{
+    ASSERT_TRUE(addSecond());
+    CorvaneProgram::Start how;
+    how.environment = m_desktop.environment();
+    how.environment.insert(u"QT_SCALE_FACTOR"_s, u"2"_s);
+    start(how);
+    const QSize size = CorvaneProgram::empty * 2;
+    hands().moveTo(right.bottomRight());
+    ASSERT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(corvane().waitForSize(size, right));
+    ASSERT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    hands().moveTo(left.bottomRight());
+    ASSERT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(corvane().waitForSize(size, left));
+}
+
 TEST_F(Screens, theShelfFollowsWhenAScreenComesAndGoes)
 {
     start();

@@ -1,10 +1,11 @@
 #include "fakes/fake_screens.h"
 #include "platform/display.h"
+#include "platform/geometry.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/qt/qt_keyboard.h"
 #include "platform/qt/qt_main_queue.h"
-#include "platform/qt/qt_pointer.h"
 #include "platform/qt/qt_screens.h"
+#include "platform/x11/x11_pointer.h"
 
 #include <QProcess>
 
@@ -165,14 +166,61 @@ TEST(QtGeometry, isTurnedOverAndBack)
     EXPECT_EQ(qt_geometry::toQt({1e300, -1e300, 1e300, 0}).height(), 1);
 }
 
-TEST(QtPointer, tellsTheMiddleOfThePixel)
+TEST(X11Pointer, tellsTheMiddleOfThePixel)
 {
     Display display;
-    const QtPointer pointer;
+    RealDisplays displays;
+    X11Connection connection;
+    const X11Pointer pointer(connection, displays.screens);
     display.hands.moveTo({30, 0});
     EXPECT_EQ(pointer.location(), QPointF(30.5, 981.5));
     display.hands.moveTo({1511, 981});
     EXPECT_EQ(pointer.location(), QPointF(1511.5, 0.5));
+}
+
+TEST(X11Pointer, eachPixelLiesOnTheScreenThatShowsItAtEveryScale)
+{
+    // As the toolkit has them: a scale shrinks a screen's size, and leaves its place.
+    for (const double scale : {1.0, 1.25, 1.5, 1.75, 2.0, 3.0}) {
+        FakeScreens screens;
+        for (const int left : {0, 1366}) {
+            const QSize points = (QSizeF(1366, 768) / scale).toSize();
+            const auto screen = screens.attach(
+                QRectF(left, 768 - points.height(), points.width(), points.height()));
+            screen->backingScaleFactor = scale;
+            screen->nativeFrame = {QPoint(left, 0), (QSizeF(points) * scale).toSize()};
+        }
+        const auto attached = screens.screens();
+        for (const int y : {0, 1, 300, 766, 767}) {
+            for (const int x : {0, 1, 683, 1364, 1365, 1366, 1367, 2000, 2730, 2731}) {
+                const auto place = X11Pointer::locationOf({x, y}, attached);
+                ASSERT_TRUE(place);
+                EXPECT_EQ(contains(attached[0]->frame, *place), x < 1366)
+                    << scale << ' ' << x << ' ' << y;
+                EXPECT_EQ(contains(attached[1]->frame, *place), x >= 1366)
+                    << scale << ' ' << x << ' ' << y;
+            }
+        }
+    }
+}
+
+TEST(X11Pointer, aPixelOfNoScreenLiesOnNone)
+{
+    FakeScreens screens;
+    EXPECT_FALSE(X11Pointer::locationOf({5, 5}, screens.screens()));
+    const auto screen = screens.attach(QRectF(0, 0, 700, 982));
+    screen->nativeFrame = {0, 0, 700, 982};
+    EXPECT_EQ(X11Pointer::locationOf({800, 5}, screens.screens()), QPointF(800.5, 976.5));
+}
+
+TEST(X11Pointer, withoutAServerThereIsNone)
+{
+    const QByteArray display = qgetenv("DISPLAY");
+    qputenv("DISPLAY", ":54321");
+    X11Connection connection;
+    qputenv("DISPLAY", display);
+    const FakeScreens screens;
+    EXPECT_FALSE(X11Pointer(connection, screens).location());
 }
 
 TEST(QtKeyboard, tellsTheModifiersThatAreHeld)
