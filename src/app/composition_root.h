@@ -50,6 +50,7 @@
 #include "platform/x11/x11_hot_keys.h"
 #include "platform/x11/x11_keyboard_layout.h"
 #include "platform/x11/x11_panel_surface.h"
+#include "platform/x11/x11_ping_answers.h"
 #include "platform/x11/x11_pointer.h"
 #include "platform/x11/x11_pointer_barriers.h"
 #include "platform/x11/x11_window_activation.h"
@@ -98,6 +99,7 @@ struct CompositionRoot {
     AutostartLoginItems loginItems;
     PortalMotionPreference motionPreference;
     X11Connection connection;
+    X11PingAnswers pingAnswers;
     X11Pointer pointer;
     X11DragDesktop dragDesktop;
     X11HotKeys hotKeyService;
