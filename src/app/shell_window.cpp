@@ -24,8 +24,12 @@ constexpr int heightOfOthers = 64;
 /// Where the user looks: the screen of the pointer.
 QScreen *presentScreen()
 {
-    QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
-    return screen ? screen : QGuiApplication::primaryScreen();
+    // Rounded to points, the last pixels of a screen may lie one point beyond it.
+    for (const QPoint beyond : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
+        if (QScreen *const screen = QGuiApplication::screenAt(QCursor::pos() - beyond))
+            return screen;
+    }
+    return QGuiApplication::primaryScreen();
 }
 
 QSize fitted(QSize size)
@@ -42,9 +46,18 @@ QSize fitted(QSize size)
 void ShellWindow::Deleter::operator()(ShellWindow *window) const
 {
     if (window->m_isClosing)
-        window->deleteLater();
+        window->letGo();
     else
         delete window;
+}
+
+void ShellWindow::letGo()
+{
+    m_onClose = nullptr;
+    // Keys and clicks that came together with the one that closed it are delivered before it is
+    // deleted, and would reach for what its owner took along.
+    setEnabled(false);
+    deleteLater();
 }
 
 ShellWindow::ShellWindow(QSize size, std::function<void()> onClose)
@@ -98,7 +111,9 @@ void ShellWindow::closeEvent(QCloseEvent *event)
 
 void ShellWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape || event->matches(QKeySequence::Close))
+    const bool isClosing = event->key() == Qt::Key_Escape || event->matches(QKeySequence::Close);
+    // A key that is still held may have been for something else, a shortcut's field for instance.
+    if (isClosing && !event->isAutoRepeat())
         close();
     else
         QWidget::keyPressEvent(event);

@@ -16,7 +16,8 @@ class ShellWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// Deletes a window, also from inside its own closing.
+    /// Deletes a window, also from inside its own closing: it takes no more input then, and what it
+    /// was given may go along with its owner.
     struct Deleter {
         void operator()(ShellWindow *window) const;
     };
@@ -39,6 +40,7 @@ protected:
     void mouseMoveEvent(QMouseEvent *event) override;
 
 private:
+    void letGo();
     QPoint centre() const;
 
     std::function<void()> m_onClose;

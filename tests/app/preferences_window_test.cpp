@@ -7,6 +7,7 @@
 #include "app/widget_hands.h"
 #include "fakes/preferences_desk.h"
 
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -146,6 +147,54 @@ TEST_F(PreferencesWindowTest, TheCallbackMayDropTheController)
     window().present();
     window().close();
     EXPECT_EQ(controller, nullptr);
+}
+
+TEST_F(PreferencesWindowTest, AClosedWindowThatItsOwnerLetGoOfTakesNoMoreInput)
+{
+    // They outlive the window here; otherwise they would go with its owner.
+    TabSelection selection;
+    ShellWindow::Pointer<PreferencesWindow> owned;
+    owned.reset(new PreferencesWindow(desk.context(), selection, [&] { owned.reset(); }));
+    const QPointer<PreferencesWindow> left(owned.get());
+    const auto tabs = left->findChildren<QRadioButton *>();
+    const auto about = std::ranges::find(tabs, QStringLiteral("About"), &QRadioButton::text);
+    ASSERT_NE(about, tabs.end());
+    owned->present();
+    typeKey(*left, Qt::Key_Escape);
+    ASSERT_EQ(owned, nullptr);
+    ASSERT_TRUE(left) << "the keys that came with Escape still arrive";
+
+    typeKey(*left, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(selection.tab(), PreferencesTab::General);
+    clickInto(**about);
+    (*about)->click();
+    EXPECT_EQ(selection.tab(), PreferencesTab::General);
+    typeKey(*left->findChild<ShortcutRecorderView *>(), Qt::Key_Space);
+    clickInto(*left->findChild<ShortcutRecorderView *>());
+    EXPECT_EQ(desk.keyMonitors.monitorCount(), 0U);
+    left->close();
+    deletePending();
+    EXPECT_FALSE(left);
+}
+
+TEST_F(PreferencesWindowTest, KeysThatComeWithTheOneThatClosesItReachNothingThatIsGone)
+{
+    controller->onClose = [this] { controller.reset(); };
+    const QPointer<ShellWindow> left(&window());
+    window().present();
+    typeKey(*left, Qt::Key_Escape);
+    ASSERT_EQ(controller, nullptr);
+    typeKey(*left, Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(left->findChild<AboutPane *>(), nullptr);
+}
+
+TEST_F(PreferencesWindowTest, AHeldKeyClosesNothing)
+{
+    window().present();
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, {}, QString(), true);
+    QCoreApplication::sendEvent(&window(), &held);
+    EXPECT_EQ(closed, 0);
+    EXPECT_TRUE(window().isVisible());
 }
 
 TEST_F(PreferencesWindowTest, EscapeAndControlWClose)

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QWidget>
 
 namespace corvane::test {
@@ -21,6 +22,18 @@ inline void typeKey(QWidget &window, Qt::Key key, Qt::KeyboardModifiers modifier
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         QKeyEvent event(type, key, modifiers);
         QCoreApplication::sendEvent(target, &event);
+    }
+}
+
+/// Clicks into the middle of a part of a window.
+inline void clickInto(QWidget &widget)
+{
+    const QPointF point = QRectF(widget.rect()).center();
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, point, widget.mapToGlobal(point), Qt::LeftButton,
+                          type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                          Qt::NoModifier);
+        QCoreApplication::sendEvent(&widget, &event);
     }
 }
 
