@@ -22,17 +22,43 @@ bool ShortcutBinder::bindViewAll()
                 &ShortcutBinder::onToggleViewAll);
 }
 
+bool ShortcutBinder::bind(HotKeyCenter::Binding binding)
+{
+    return binding == HotKeyCenter::Binding::Shelf ? bindShelf() : bindViewAll();
+}
+
+void ShortcutBinder::rebind(HotKeyCenter::Binding changed)
+{
+    using enum HotKeyCenter::Binding;
+    m_center.unregister(Shelf);
+    m_center.unregister(ViewAll);
+    bind(changed == Shelf ? ViewAll : Shelf);
+    bind(changed);
+}
+
+void ShortcutBinder::retryRefused()
+{
+    for (const HotKeyCenter::Binding binding : std::set(m_refused))
+        bind(binding);
+}
+
 bool ShortcutBinder::bind(const Stored &shortcut, HotKeyCenter::Binding binding,
                           std::function<void()> ShortcutBinder::*action)
 {
-    return m_center.apply(shortcut(), binding, [weak = std::weak_ptr(m_self), action] {
-        const auto self = weak.lock();
-        if (!self)
-            return;
-        // A copy: it may replace itself.
-        if (const auto run = (*self)->*action)
-            run();
-    });
+    const bool isBound
+        = m_center.apply(shortcut(), binding, [weak = std::weak_ptr(m_self), action] {
+              const auto self = weak.lock();
+              if (!self)
+                  return;
+              // A copy: it may replace itself.
+              if (const auto run = (*self)->*action)
+                  run();
+          });
+    if (isBound)
+        m_refused.erase(binding);
+    else
+        m_refused.insert(binding);
+    return isBound;
 }
 
 } // namespace corvane

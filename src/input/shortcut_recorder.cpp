@@ -77,7 +77,8 @@ Disposition ShortcutRecorder::handle(const KeyMonitors::Event &event)
         return Disposition::Pass;
     if (event.kind != KeyMonitors::Event::Kind::KeyDown)
         return Disposition::Swallow;
-    if (event.keyCode == key_code::escape) {
+    // People who exchange keys press the one that types it, or the one where it used to be.
+    if (event.isEscape || event.keyCode == key_code::escape) {
         stopRecording();
         return Disposition::Swallow;
     }

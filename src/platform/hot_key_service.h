@@ -42,8 +42,9 @@ public:
     virtual std::optional<HandlerRef> installHandler(Handler onPressed) = 0;
 
     /// Takes a combination for us alone: a virtual key code and modifier bits as shortcuts store
-    /// them. None if it is taken, by another program or by a registration of our own, or if no
-    /// keyboard can type it.
+    /// them. None if it is taken, by another program or by a registration of our own, if no
+    /// keyboard can type it, or if the user types with it: one without Command, Option and Control,
+    /// or whose key is itself a modifier.
     virtual std::optional<Handle> registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers,
                                                  const HotKeyIdentifier &identifier)
         = 0;

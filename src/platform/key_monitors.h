@@ -17,7 +17,9 @@ public:
     struct Event {
         enum class Kind {
             KeyDown,
-            /// A modifier key went down or up.
+            /// A modifier key went down or up, or another one that changes what keys do instead of
+            /// being one: locks, what switches layouts or input methods or begins a composition.
+            /// The key in Escape's place is told as a key, whatever it is.
             ModifiersChanged,
         };
         Kind kind = Kind::KeyDown;
@@ -28,6 +30,8 @@ public:
         /// What the key types in the user's layout with no modifier held; empty when it types
         /// nothing.
         QString charactersIgnoringModifiers;
+        /// By what it types, wherever the key stands.
+        bool isEscape = false;
     };
     enum class Disposition {
         /// It goes its way.

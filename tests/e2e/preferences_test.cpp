@@ -5,7 +5,9 @@
 #include "e2e/desktop/text_editor.h"
 #include "e2e/desktop_test.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <csignal>
 
@@ -20,10 +22,31 @@ const auto shelf = u"Show or hide the shelf"_s;
 const auto everything = u"Show or hide all items"_s;
 const auto prompt = u": Type a shortcut…"_s;
 const auto taken = u"Another app already uses that combination."_s;
+const auto unset = u"Unset by default. ↓ on the shelf does the same thing."_s;
 const auto usual = u"Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only."_s;
-/// Of the keys that carry the j and the k, whatever the layout.
+/// Of the keys that carry the d, the j and the k, whatever the layout.
+constexpr xcb_keycode_t positionOfD = 40;
 constexpr xcb_keycode_t positionOfJ = 44;
 constexpr xcb_keycode_t positionOfK = 45;
+
+/// Another keyboard layout, until the end of the test.
+class KeyboardSetup {
+public:
+    KeyboardSetup(const XDesktop &desktop, const QStringList &arguments)
+        : m_environment(desktop.environment())
+    {
+        EXPECT_TRUE(outputOf(u"setxkbmap"_s, arguments, m_environment));
+    }
+    ~KeyboardSetup()
+    {
+        outputOf(u"setxkbmap"_s, {u"-layout"_s, u"us"_s, u"-option"_s, QString()}, m_environment);
+    }
+    KeyboardSetup(const KeyboardSetup &) = delete;
+    KeyboardSetup &operator=(const KeyboardSetup &) = delete;
+
+private:
+    QProcessEnvironment m_environment;
+};
 
 class Preferences : public EveryDesktop {
 protected:
@@ -198,6 +221,124 @@ TEST_P(Preferences, theCombinationOfTheOtherShortcutIsSaidToBeTaken)
     press('d');
     EXPECT_TRUE(waitFor(everything + u": Shift Super D"_s, taken));
     expectItToggles('d');
+}
+
+TEST_P(Preferences, ofTwoEqualCombinationsTheOtherOneWorksWhenOneIsCleared)
+{
+    startWithPreferences();
+    ASSERT_TRUE(click(everything));
+    ASSERT_TRUE(waitFor(everything + prompt));
+    press('d');
+    ASSERT_TRUE(waitFor(everything + u": Shift Super D"_s, taken));
+    ASSERT_TRUE(click(u"Clear the shortcut"_s, shelf));
+    EXPECT_TRUE(waitFor(everything + u": Shift Super D"_s, unset));
+    EXPECT_FALSE(Rival(m_desktop).grab(positionOfD));
+}
+
+TEST_P(Preferences, aCombinationThatWasTakenAtLaunchIsSaidUntilItIsFree)
+{
+    {
+        Rival rival(m_desktop);
+        ASSERT_TRUE(rival.grab(positionOfD));
+        startWithPreferences();
+        EXPECT_TRUE(waitFor(shelf + u": Shift Super D"_s, taken));
+        hands().key(keys::escape);
+        ASSERT_TRUE(eventually([this] { return !window(); }));
+    }
+    openPreferences();
+    EXPECT_TRUE(waitFor(shelf + u": Shift Super D"_s, usual));
+    expectItToggles('d');
+}
+
+TEST_P(Preferences, switchingTheLayoutIsNotRecorded)
+{
+    const KeyboardSetup setup(m_desktop,
+                              {u"-layout"_s, u"us,ru"_s, u"-option"_s, u"grp:alt_shift_toggle"_s});
+    startWithPreferences();
+    ASSERT_TRUE(click(shelf));
+    ASSERT_TRUE(waitFor(shelf + prompt));
+    for (int i = 0; i < 2; ++i)
+        hands().key(keys::shift, {keys::alt});
+    hands().key('a', {keys::shift});
+    EXPECT_TRUE(waitFor(shelf + prompt));
+    press('j');
+    EXPECT_TRUE(waitFor(shelf + u": Shift Super J"_s, usual));
+}
+
+TEST_P(Preferences, escapeOnAnotherKeyEndsRecordingAndNothingElse)
+{
+    constexpr xcb_keycode_t placeOfCapsLock = 66;
+    const KeyboardSetup setup(m_desktop, {u"-option"_s, u"caps:swapescape"_s});
+    startWithPreferences();
+    ASSERT_TRUE(click(shelf));
+    ASSERT_TRUE(waitFor(shelf + prompt));
+    hands().keyDownAt(placeOfCapsLock);
+    hands().keyUpAt(placeOfCapsLock);
+    EXPECT_TRUE(waitFor(shelf + u": Shift Super D"_s));
+    EXPECT_TRUE(window()) << "Escape was for the field";
+}
+
+TEST_P(Preferences, aStoredKeyThatTypesIsNotTakenFromOtherPrograms)
+{
+    TextEditor editor(m_desktop, "text", QRect(40, 500, 300, 300));
+    ASSERT_EQ(editor.problem(), QString());
+    CorvaneProgram::Start how;
+    how.settings = R"x(settings.shortcut="@ByteArray({\"keyCode\":0,\"modifiers\":512,)x"
+                   R"x(\"character\":\"A\"})")x"
+                   "\n";
+    startWithPreferences(how);
+    EXPECT_TRUE(waitFor(shelf + u": Shift A"_s, taken));
+    hands().key(keys::escape);
+    ASSERT_TRUE(eventually([this] { return !window(); }));
+    hands().click(editor.middle());
+    editor.selectAll();
+    hands().key('a', {keys::shift});
+    EXPECT_EQ(editor.text("A").trimmed(), "A");
+    EXPECT_FALSE(corvane().isShown());
+}
+
+TEST_P(Preferences, keysThatComeTogetherWithEscapeReachNothing)
+{
+    startWithPreferences();
+    // All of them are there before the first is looked at.
+    corvane().program().signal(SIGSTOP);
+    hands().key(keys::escape);
+    for (int i = 0; i < 5; ++i)
+        hands().key(keys::tab, {keys::control});
+    hands().key(keys::space);
+    corvane().program().signal(SIGCONT);
+    ASSERT_TRUE(eventually([this] { return !window(); }));
+    EXPECT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::empty));
+    openPreferences();
+    corvane().program().signal(SIGTERM);
+    EXPECT_EQ(corvane().program().waitForEnd(), 0);
+}
+
+TEST_P(Preferences, launchAtLoginThatAnotherProgramSwitchedOffIsOffAndCanBeSwitchedOn)
+{
+    QDir().mkpath(QFileInfo(loginItem()).path());
+    QFile entry(loginItem());
+    ASSERT_TRUE(entry.open(QFile::WriteOnly));
+    entry.write("[Desktop Entry]\nType=Application\nName=Corvane\nExec=true\n"
+                "X-GNOME-Autostart-enabled=false\n");
+    entry.close();
+    CorvaneProgram::Start how;
+    how.environment = m_desktop.environment();
+    // As started from a terminal that is an AppImage itself.
+    how.environment.insert(u"APPIMAGE"_s, u"/home/somebody/Terminal.AppImage"_s);
+    how.environment.insert(u"APPDIR"_s, u"/tmp/.mount_Terminal"_s);
+    startWithPreferences(how);
+    ASSERT_TRUE(click(u"Launch at login"_s));
+    const auto isWritten = [&] {
+        const bool isOpen = entry.isOpen() || entry.open(QFile::ReadOnly);
+        const QByteArray text = isOpen ? entry.readAll() : QByteArray();
+        entry.close();
+        return text.contains("X-GNOME-Autostart-enabled=true")
+            && text.contains(CorvaneProgram::path().toUtf8());
+    };
+    EXPECT_TRUE(eventually(isWritten));
+    QFile::remove(loginItem());
 }
 
 TEST_P(Preferences, aClickIntoAnotherWindowEndsRecordingAndGivesTheKeyboardBack)

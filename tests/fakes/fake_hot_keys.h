@@ -25,9 +25,13 @@ public:
                                          const HotKeyIdentifier &identifier) override
     {
         const Combination wanted = {keyCode, modifiers};
-        constexpr std::uint32_t known = 256 | 512 | 2048 | 4096;
-        if (keyCode > 127 || (modifiers & ~known) != 0 || takenByOthers.contains(wanted)
-            || isRegistered(wanted))
+        constexpr std::uint32_t sufficient = 256 | 2048 | 4096;
+        constexpr std::uint32_t known = sufficient | 512;
+        constexpr std::uint32_t firstModifierKey = 54;
+        constexpr std::uint32_t lastModifierKey = 63;
+        const bool isModifierKey = keyCode >= firstModifierKey && keyCode <= lastModifierKey;
+        if (keyCode > 127 || isModifierKey || (modifiers & sufficient) == 0
+            || (modifiers & ~known) != 0 || takenByOthers.contains(wanted) || isRegistered(wanted))
             return std::nullopt;
         m_registered.emplace(m_nextHandle, Registration{wanted, identifier});
         return m_nextHandle++;

@@ -20,11 +20,22 @@ public:
     /// Each tells whether the rest of the window got the event.
     bool type(std::uint32_t keyCode, Modifiers modifiers, const QString &characters = {})
     {
-        return send({Event::Kind::KeyDown, keyCode, modifiers, characters});
+        return send(
+            {Event::Kind::KeyDown, keyCode, modifiers, characters, keyCode == key_code::escape});
+    }
+    /// Escape on another key than its own.
+    bool typeEscapeElsewhere(std::uint32_t keyCode)
+    {
+        return send({Event::Kind::KeyDown, keyCode, {}, {}, true});
+    }
+    /// Another key in Escape's place.
+    bool typeInEscapesPlace()
+    {
+        return send({Event::Kind::KeyDown, key_code::escape, {}, {}, false});
     }
     bool holdModifiers(Modifiers modifiers)
     {
-        return send({Event::Kind::ModifiersChanged, key_code::unknown, modifiers, {}});
+        return send({Event::Kind::ModifiersChanged, key_code::unknown, modifiers, {}, false});
     }
     std::size_t monitorCount() const { return m_monitors.size(); }
 

@@ -236,6 +236,51 @@ TEST_F(ShortcutBinderTest, ReadsTheStoredShortcutEachTimeItBinds)
     EXPECT_EQ(calls, 1);
 }
 
+TEST_F(ShortcutBinderTest, WhatTheUserTypesWithIsRefused)
+{
+    shelfShortcut = Shortcut{0, 0, QStringLiteral("A")};
+    viewAllShortcut = Shortcut{1, Shortcut::shift, QStringLiteral("S")};
+    EXPECT_FALSE(binder->bindShelf());
+    EXPECT_FALSE(binder->bindViewAll());
+    EXPECT_EQ(keys.registrationCount(), 0U);
+}
+
+TEST_F(ShortcutBinderTest, RemembersWhatWasRefused)
+{
+    keys.takenByOthers.insert({shiftCommandD.keyCode, shiftCommandD.modifiers});
+    EXPECT_FALSE(binder->isRefused(Binding::Shelf));
+    binder->bindShelf();
+    binder->bindViewAll();
+    EXPECT_TRUE(binder->isRefused(Binding::Shelf));
+    EXPECT_FALSE(binder->isRefused(Binding::ViewAll));
+    binder->retryRefused();
+    EXPECT_TRUE(binder->isRefused(Binding::Shelf));
+    keys.takenByOthers.clear();
+    binder->retryRefused();
+    EXPECT_FALSE(binder->isRefused(Binding::Shelf));
+    EXPECT_TRUE(press(shiftCommandD));
+}
+
+TEST_F(ShortcutBinderTest, WhatOneGivesUpGoesToTheOtherThatWaitsForIt)
+{
+    viewAllShortcut = shiftCommandD;
+    binder->bindShelf();
+    binder->bindViewAll();
+    EXPECT_TRUE(binder->isRefused(Binding::ViewAll));
+    shelfShortcut.reset();
+    binder->rebind(Binding::Shelf);
+    EXPECT_FALSE(binder->isRefused(Binding::ViewAll));
+    EXPECT_TRUE(press(shiftCommandD));
+    shelfShortcut = shiftCommandD;
+    binder->rebind(Binding::Shelf);
+    EXPECT_TRUE(binder->isRefused(Binding::Shelf));
+    EXPECT_FALSE(binder->isRefused(Binding::ViewAll)) << "the other one keeps it";
+    viewAllShortcut = controlF5;
+    binder->rebind(Binding::ViewAll);
+    EXPECT_FALSE(binder->isRefused(Binding::Shelf));
+    EXPECT_EQ(keys.registrationCount(), 2U);
+}
+
 TEST_F(ShortcutBinderTest, TellsThatAShortcutIsTaken)
 {
     keys.takenByOthers.insert({shiftCommandD.keyCode, shiftCommandD.modifiers});

@@ -88,6 +88,18 @@ TEST_F(ShortcutRecorderTest, EscapeEndsRecordingWithTheShortcutKept)
     }
 }
 
+TEST_F(ShortcutRecorderTest, EscapeEndsRecordingByItsSymbolAndByItsPlace)
+{
+    constexpr std::uint32_t capsLock = 57;
+    recorder->clicked();
+    EXPECT_FALSE(keys.typeEscapeElsewhere(capsLock));
+    EXPECT_FALSE(recorder->isRecording());
+    recorder->clicked();
+    EXPECT_FALSE(keys.typeInEscapesPlace());
+    EXPECT_FALSE(recorder->isRecording());
+    EXPECT_EQ(recorder->shortcut(), shiftCommandD);
+}
+
 TEST_F(ShortcutRecorderTest, KeysReachOthersBeforeAndAfterButNotMeanwhile)
 {
     EXPECT_TRUE(keys.type(keyA, Modifier::Command, typesA));

@@ -244,6 +244,19 @@ TYPED_TEST(HotKeysContract, impossibleValuesAreRefused)
         EXPECT_FALSE(this->take(keyD, modifiers)) << modifiers;
 }
 
+TYPED_TEST(HotKeysContract, whatTheUserTypesWithIsRefused)
+{
+    constexpr std::uint32_t leftShift = 56;
+    constexpr std::uint32_t capsLockKey = 57;
+    for (const std::uint32_t modifiers : {0U, shift})
+        EXPECT_FALSE(this->take(keyD, modifiers)) << modifiers;
+    EXPECT_FALSE(this->take({leftShift, keys::shift}, option));
+    EXPECT_FALSE(this->take({capsLockKey, capsLock}, control));
+    this->keyboard.press(keyD, shift);
+    this->keyboard.waitABit();
+    EXPECT_TRUE(this->heard.empty());
+}
+
 TYPED_TEST(HotKeysContract, whileSuspendedNothingIsHeard)
 {
     ASSERT_TRUE(this->take(keyD, command | shift));

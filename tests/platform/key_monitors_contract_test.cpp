@@ -18,6 +18,12 @@ namespace keys = e2e::keys;
 using Kind = KeyMonitors::Event::Kind;
 using Disposition = KeyMonitors::Disposition;
 
+/// Of keys that layouts give other meanings.
+namespace place {
+constexpr xcb_keycode_t escape = 9, control = 37, shift = 50, alt = 64, space = 65, capsLock = 66,
+                        rightAlt = 108, super = 133;
+} // namespace place
+
 void setLayout(const QStringList &arguments)
 {
     ASSERT_TRUE(e2e::outputOf(QStringLiteral("setxkbmap"), arguments,
@@ -154,6 +160,88 @@ TEST_F(QtKeyMonitorsTest, layoutsNameTheKeyAndItsPositionGivesTheCode)
     const auto letter = hear(cyrillicVe, {keys::control});
     EXPECT_EQ(letter.keyCode, 2U);
     EXPECT_EQ(letter.charactersIgnoringModifiers, QStringLiteral("в"));
+}
+
+TEST_F(QtKeyMonitorsTest, whatSwitchesLayoutsIsAModifierChange)
+{
+    listen(Disposition::Swallow);
+    struct Way {
+        const char *option;
+        std::vector<xcb_keycode_t> held;
+    };
+    const std::vector<Way> ways = {
+        {"grp:alt_shift_toggle", {place::alt, place::shift}},
+        {"grp:alt_shift_toggle", {place::shift, place::alt}},
+        {"grp:ctrl_shift_toggle", {place::control, place::shift}},
+        {"grp:ctrl_shift_toggle", {place::shift, place::control}},
+        {"grp:ctrl_alt_toggle", {place::control, place::alt}},
+        {"grp:win_space_toggle", {place::super, place::space}},
+        {"grp:caps_toggle", {place::control, place::capsLock}},
+        {"grp:shift_caps_toggle", {place::alt, place::shift, place::capsLock}},
+        {"compose:ralt", {place::control, place::rightAlt}},
+        {"compose:caps", {place::alt, place::capsLock}},
+        {"lv3:caps_switch", {place::control, place::capsLock}},
+        {"lv5:ralt_switch_lock", {place::control, place::rightAlt}},
+        {"korean:ralt_hangul", {place::control, place::rightAlt}},
+    };
+    for (const Way &way : ways) {
+        // Options add up otherwise.
+        useLayout({QStringLiteral("-layout"), QStringLiteral("us,ru"), QStringLiteral("-option"),
+                   QString(), QStringLiteral("-option"), QLatin1String(way.option)});
+        heard.clear();
+        modifierChanges = 0;
+        for (const xcb_keycode_t key : way.held)
+            display.hands.keyDownAt(key);
+        // Not each by itself: the toolkit keeps some of them, such as Compose, to itself.
+        EXPECT_TRUE(eventually([&] { return modifierChanges > 0; })) << way.option;
+        settle();
+        for (const xcb_keycode_t key : way.held)
+            display.hands.keyUpAt(key);
+        settle();
+        EXPECT_TRUE(heard.empty()) << way.option;
+    }
+}
+
+TEST_F(QtKeyMonitorsTest, theLevelsOfTheNeoLayoutAreModifierChanges)
+{
+    constexpr std::uint32_t level3 = 0xfe03;
+    constexpr std::uint32_t level5 = 0xfe11;
+    listen(Disposition::Swallow);
+    useLayout({QStringLiteral("-layout"), QStringLiteral("de"), QStringLiteral("-variant"),
+               QStringLiteral("neo")});
+    for (const std::uint32_t symbol : {level3, level5}) {
+        heard.clear();
+        modifierChanges = 0;
+        display.hands.key(symbol, {keys::control});
+        EXPECT_TRUE(eventually([&] { return modifierChanges >= 4 || !heard.empty(); }));
+        settle();
+        EXPECT_TRUE(heard.empty()) << symbol;
+    }
+}
+
+TEST_F(QtKeyMonitorsTest, escapeIsToldByItsSymbolAndItsPlaceIsAlwaysAKey)
+{
+    listen(Disposition::Swallow);
+    EXPECT_TRUE(hear(keys::escape).isEscape);
+    EXPECT_FALSE(hear('a').isEscape);
+    useLayout({QStringLiteral("-layout"), QStringLiteral("us"), QStringLiteral("-option"),
+               QStringLiteral("caps:swapescape")});
+    const auto tap = [&](xcb_keycode_t key) {
+        heard.clear();
+        display.hands.keyDownAt(key);
+        display.hands.keyUpAt(key);
+        const bool came = eventually([this] { return !heard.empty(); });
+        settle();
+        return came ? heard.front() : KeyMonitors::Event{};
+    };
+    const auto moved = tap(place::capsLock);
+    EXPECT_TRUE(moved.isEscape);
+    EXPECT_EQ(moved.keyCode, 57U);
+    const auto stranger = tap(place::escape);
+    EXPECT_FALSE(stranger.isEscape);
+    EXPECT_EQ(stranger.keyCode, key_code::escape);
+    // It has locked the capitals.
+    tap(place::escape);
 }
 
 TEST_F(QtKeyMonitorsTest, aMonitorMayRemoveItselfFromItsHandler)

@@ -105,32 +105,47 @@ SettingRow *GeneralPane::makeSwitchRow(const QString &title, const QString &deta
 PreferenceSection *GeneralPane::makeShortcutsSection()
 {
     Settings &settings = m_context.settings;
-    ShortcutBinder &binder = m_context.shortcutBinder;
     const QString conflict = tr("Another app already uses that combination.");
     auto *section = new PreferenceSection(tr("Shortcuts"), m_look);
 
-    auto *shelf
+    m_shelfShortcut
         = new ShortcutRow(tr("Show or hide the shelf"),
                           {tr("Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only."), conflict},
                           m_context.keyMonitors, m_context.hotKeys, m_look);
-    shelf->setShortcut(settings.shortcut());
-    shelf->onChange = [&settings, &binder, shelf](const std::optional<Shortcut> &shortcut) {
-        settings.setShortcut(shortcut);
-        shelf->setConflict(!binder.bindShelf());
+    m_shelfShortcut->setShortcut(settings.shortcut());
+    m_shelfShortcut->onChange = [this](const std::optional<Shortcut> &shortcut) {
+        m_context.settings.setShortcut(shortcut);
+        shortcutChanged(HotKeyCenter::Binding::Shelf);
     };
-    section->addRow(shelf);
+    section->addRow(m_shelfShortcut);
 
-    auto *viewAll
+    m_viewAllShortcut
         = new ShortcutRow(tr("Show or hide all items"),
                           {tr("Unset by default. ↓ on the shelf does the same thing."), conflict},
                           m_context.keyMonitors, m_context.hotKeys, m_look);
-    viewAll->setShortcut(settings.viewAllShortcut());
-    viewAll->onChange = [&settings, &binder, viewAll](const std::optional<Shortcut> &shortcut) {
-        settings.setViewAllShortcut(shortcut);
-        viewAll->setConflict(!binder.bindViewAll());
+    m_viewAllShortcut->setShortcut(settings.viewAllShortcut());
+    m_viewAllShortcut->onChange = [this](const std::optional<Shortcut> &shortcut) {
+        m_context.settings.setViewAllShortcut(shortcut);
+        shortcutChanged(HotKeyCenter::Binding::ViewAll);
     };
-    section->addRow(viewAll);
+    section->addRow(m_viewAllShortcut);
+
+    m_context.shortcutBinder.retryRefused();
+    showConflicts();
     return section;
+}
+
+void GeneralPane::shortcutChanged(HotKeyCenter::Binding changed)
+{
+    m_context.shortcutBinder.rebind(changed);
+    showConflicts();
+}
+
+void GeneralPane::showConflicts()
+{
+    const ShortcutBinder &binder = m_context.shortcutBinder;
+    m_shelfShortcut->setConflict(binder.isRefused(HotKeyCenter::Binding::Shelf));
+    m_viewAllShortcut->setConflict(binder.isRefused(HotKeyCenter::Binding::ViewAll));
 }
 
 PreferenceSection *GeneralPane::makeUpdatesSection()

@@ -2,6 +2,7 @@
 
 #include "app/preferences/preferences_context.h"
 #include "app/window_look.h"
+#include "input/hot_key_center.h"
 
 #include <QWidget>
 
@@ -16,7 +17,8 @@ class ShortcutRow;
 class SwitchButton;
 
 /// Every setting of the user. Each control writes what it shows at once. The settings are read when
-/// the pane is made; conflicts of shortcuts are known to the pane alone.
+/// the pane is made; a shortcut that was refused is tried once more then, and shown to be taken if
+/// it still is.
 class GeneralPane : public QWidget {
     Q_OBJECT
 
@@ -28,6 +30,8 @@ private:
     PreferenceSection *makeShelfSection();
     PreferenceSection *makeBehaviourSection();
     PreferenceSection *makeShortcutsSection();
+    void shortcutChanged(HotKeyCenter::Binding changed);
+    void showConflicts();
     PreferenceSection *makeUpdatesSection();
     SettingRow *makeSwitchRow(const QString &title, const QString &detail, bool on,
                               void (Settings::*write)(bool));
@@ -35,6 +39,8 @@ private:
 
     PreferencesContext m_context;
     WindowLook m_look;
+    ShortcutRow *m_shelfShortcut = nullptr;
+    ShortcutRow *m_viewAllShortcut = nullptr;
 };
 
 } // namespace corvane

@@ -13,28 +13,6 @@ namespace corvane {
 
 namespace {
 
-bool isModifierKey(int key)
-{
-    switch (key) {
-    case Qt::Key_Shift:
-    case Qt::Key_Control:
-    case Qt::Key_Meta:
-    case Qt::Key_Alt:
-    case Qt::Key_AltGr:
-    case Qt::Key_CapsLock:
-    case Qt::Key_NumLock:
-    case Qt::Key_ScrollLock:
-    case Qt::Key_Super_L:
-    case Qt::Key_Super_R:
-    case Qt::Key_Hyper_L:
-    case Qt::Key_Hyper_R:
-    case Qt::Key_Mode_switch:
-        return true;
-    default:
-        return false;
-    }
-}
-
 /// By position: a combination is registered by it, too.
 std::uint32_t keyCodeFrom(const QKeyEvent &event)
 {
@@ -96,11 +74,14 @@ KeyMonitors::Disposition QtKeyMonitors::notify(const QKeyEvent &key)
 {
     Event event;
     event.modifiers = heldModifiers(key.modifiers());
-    if (isModifierKey(key.key())) {
+    const bool isPress = key.type() == QEvent::KeyPress;
+    const std::uint32_t keyCode = keyCodeFrom(key);
+    if (m_layout.changesKeys(key.nativeVirtualKey()) && !(isPress && keyCode == key_code::escape)) {
         event.kind = Event::Kind::ModifiersChanged;
-    } else if (key.type() == QEvent::KeyPress) {
-        event.keyCode = keyCodeFrom(key);
-        event.charactersIgnoringModifiers = m_layout.charactersOf(event.keyCode);
+    } else if (isPress) {
+        event.keyCode = keyCode;
+        event.charactersIgnoringModifiers = m_layout.charactersOf(keyCode);
+        event.isEscape = key.key() == Qt::Key_Escape;
     } else {
         return Disposition::Pass;
     }

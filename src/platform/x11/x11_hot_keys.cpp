@@ -97,7 +97,7 @@ std::optional<X11HotKeys::Combination> X11HotKeys::combinationFor(std::uint32_t 
         return std::nullopt;
     const std::uint32_t key = *evdevCode + virtual_key_codes::x11Offset;
     const auto *setup = xcb_get_setup(m_connection.get());
-    if (key < setup->min_keycode || key > setup->max_keycode)
+    if (key < setup->min_keycode || key > setup->max_keycode || m_mapping.keys.test(key))
         return std::nullopt;
     return Combination{static_cast<xcb_keycode_t>(key), *mask};
 }

@@ -6,6 +6,8 @@
 #include <xkbcommon/xkbcommon-keysyms.h>
 #include <xkbcommon/xkbcommon-x11.h>
 
+#include <algorithm>
+#include <array>
 #include <memory>
 
 namespace corvane {
@@ -105,6 +107,27 @@ QString X11KeyboardLayout::charactersOf(std::uint32_t keyCode) const
         return {};
     const xkb_keycode_t key = *evdevCode + virtual_key_codes::x11Offset;
     return textOf(keymap.get(), key, xkb_state_key_get_layout(state.get(), key));
+}
+
+bool X11KeyboardLayout::changesKeys(std::uint32_t symbol) const
+{
+    struct Range {
+        std::uint32_t first;
+        std::uint32_t last;
+    };
+    constexpr std::array ranges = {
+        // Levels and layouts, shifted to, latched or locked.
+        Range{XKB_KEY_ISO_Lock, XKB_KEY_ISO_Last_Group_Lock},
+        Range{XKB_KEY_ISO_Level5_Shift, XKB_KEY_ISO_Level5_Lock},
+        // Compose, and the keys of Japanese and Korean keyboards that switch the input method.
+        Range{XKB_KEY_Multi_key, XKB_KEY_Hangul_Special},
+        Range{XKB_KEY_Shift_L, XKB_KEY_Hyper_R},
+        Range{XKB_KEY_Mode_switch, XKB_KEY_Num_Lock},
+        Range{XKB_KEY_Scroll_Lock, XKB_KEY_Scroll_Lock},
+    };
+    return std::ranges::any_of(ranges, [symbol](const Range &range) {
+        return symbol >= range.first && symbol <= range.last;
+    });
 }
 
 } // namespace corvane

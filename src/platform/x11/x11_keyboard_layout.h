@@ -13,6 +13,7 @@ namespace corvane {
 class X11KeyboardLayout : public KeyboardLayout {
 public:
     QString charactersOf(std::uint32_t keyCode) const override;
+    bool changesKeys(std::uint32_t symbol) const override;
 };
 
 } // namespace corvane

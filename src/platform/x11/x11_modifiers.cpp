@@ -58,6 +58,16 @@ public:
         return 0;
     }
 
+    std::bitset<256> keys() const
+    {
+        std::bitset<256> all;
+        const xcb_keycode_t *const codes = xcb_get_modifier_mapping_keycodes(m_modifiers.get());
+        const int count = xcb_get_modifier_mapping_keycodes_length(m_modifiers.get());
+        for (const xcb_keycode_t key : std::span(codes, static_cast<std::size_t>(count)))
+            all.set(key, key >= m_firstKey);
+        return all;
+    }
+
 private:
     std::span<const xcb_keycode_t> keysOf(std::size_t modifier) const
     {
@@ -94,7 +104,7 @@ X11Modifiers X11Modifiers::read(xcb_connection_t *connection)
         return {};
     return {mapping.bitOf({symbols::superLeft, symbols::superRight}),
             mapping.bitOf({symbols::altLeft, symbols::altRight}), mapping.bitOf({symbols::numLock}),
-            mapping.bitOf({symbols::scrollLock})};
+            mapping.bitOf({symbols::scrollLock}), mapping.keys()};
 }
 
 std::optional<std::uint16_t> X11Modifiers::maskFor(std::uint32_t modifiers) const
@@ -107,6 +117,9 @@ std::optional<std::uint16_t> X11Modifiers::maskFor(std::uint32_t modifiers) cons
                                         {storedShift, XCB_MOD_MASK_SHIFT},
                                         {storedOption, alt},
                                         {storedControl, XCB_MOD_MASK_CONTROL}}};
+    constexpr std::uint32_t sufficient = storedCommand | storedOption | storedControl;
+    if ((modifiers & sufficient) == 0)
+        return std::nullopt;
     std::uint32_t rest = modifiers;
     std::uint16_t mask = 0;
     for (const auto &[stored, bit] : pairs) {

@@ -2,6 +2,7 @@
 
 #include <xcb/xcb.h>
 
+#include <bitset>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -14,12 +15,15 @@ struct X11Modifiers {
     std::uint16_t alt = 0;
     std::uint16_t numLock = 0;
     std::uint16_t scrollLock = 0;
+    /// The keys that set a bit, by their key codes.
+    std::bitset<256> keys = {};
 
     /// Asks the server. All zero if it does not answer.
     static X11Modifiers read(xcb_connection_t *connection);
 
     /// The mask that stands for modifier bits as shortcuts store them. None for bits that have no
-    /// meaning, and for a modifier that no key sets.
+    /// meaning, for a modifier that no key sets, and without Command, Option and Control: the user
+    /// types with what is left.
     std::optional<std::uint16_t> maskFor(std::uint32_t modifiers) const;
     /// Every set of locked keys under which a combination has to work: the empty one first.
     std::vector<std::uint16_t> lockVariants() const;

@@ -133,6 +133,16 @@ void Hands::keyUp(uint32_t symbol)
     fake(XCB_KEY_RELEASE, keyCode(symbol));
 }
 
+void Hands::keyDownAt(xcb_keycode_t place)
+{
+    fake(XCB_KEY_PRESS, place);
+}
+
+void Hands::keyUpAt(xcb_keycode_t place)
+{
+    fake(XCB_KEY_RELEASE, place);
+}
+
 void Hands::key(uint32_t symbol, std::initializer_list<uint32_t> modifiers)
 {
     for (const uint32_t modifier : modifiers)

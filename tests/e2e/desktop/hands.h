@@ -35,6 +35,9 @@ public:
     void key(uint32_t symbol, std::initializer_list<uint32_t> modifiers = {});
     void keyDown(uint32_t symbol);
     void keyUp(uint32_t symbol);
+    /// By the key's place on the keyboard, whatever the layout makes of it.
+    void keyDownAt(xcb_keycode_t place);
+    void keyUpAt(xcb_keycode_t place);
 
     /// A turn of the wheel; XTEST knows wheels as buttons 4 to 7.
     enum class Wheel : uint8_t { Up = 4, Down = 5, Left = 6, Right = 7 };
