@@ -328,6 +328,15 @@ TEST_F(QtPreviewPanelTest, OpensTheFileWithTheDesktopsProgramAndCloses)
     EXPECT_FALSE(panel->isVisible());
 }
 
+TEST_F(QtPreviewPanelTest, ASecondClickThatCameWithTheFirstOpensNothingMore)
+{
+    show(textOf(QStringLiteral("hello")));
+    auto *const button = window()->findChild<QPushButton *>();
+    button->click();
+    button->click();
+    EXPECT_EQ(desktop.opened, QList<QUrl>{item.url});
+}
+
 TEST_F(QtPreviewPanelTest, ShowsNothingWhereNobodyTakesControl)
 {
     item.accepts = false;

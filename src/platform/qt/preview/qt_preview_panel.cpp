@@ -193,6 +193,8 @@ void QtPreviewPanel::closeWindow()
         return;
     giveKeyboardBack();
     m_window->hide();
+    // A click that came together with the one that closed it means nothing any more.
+    m_window->setEnabled(false);
     // Later: one of its events may be what we are in.
     m_window.release()->deleteLater();
 }
