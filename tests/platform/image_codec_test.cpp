@@ -116,7 +116,8 @@ TEST_F(ImageCodecTest, readsEveryFormatOfItsKind)
         const auto whole = codec.decode(bytes);
         ASSERT_TRUE(whole) << format;
         EXPECT_EQ(whole->size(), QSize(40, 20)) << format;
-        EXPECT_TRUE(isReady(*whole)) << format;
+        EXPECT_EQ(whole->pixelColor(2, 2).red() > 200, whole->pixelColor(30, 2).red() < 50);
+        EXPECT_TRUE(isReady(*codec.thumbnail(bytes, 10))) << format;
         EXPECT_GT(codec.thumbnail(bytes, 10)->pixelColor(2, 2).red(), 200) << format;
     }
 }
@@ -188,9 +189,111 @@ TEST_F(ImageCodecTest, writesWhatItReads)
         ASSERT_TRUE(bytes) << name;
         EXPECT_EQ(codec.decode(*bytes)->size(), image.size()) << name;
     }
-    EXPECT_EQ(codec.decode(*codec.encode(image, UTType::png())), image);
+    EXPECT_EQ(codec.decode(*codec.encode(image, UTType::png()))->convertToFormat(image.format()),
+              image);
     EXPECT_FALSE(codec.encode(image, UTType(QStringLiteral("application/pdf"))));
     EXPECT_FALSE(codec.encode({}, UTType::png()));
+}
+
+TEST_F(ImageCodecTest, keepsSixteenBitsAChannel)
+{
+    const QColor colour = QColor::fromRgba64(0x1234, 0x5678, 0x9abc, 0xdef0);
+    for (const auto format :
+         {QImage::Format_RGBX64, QImage::Format_RGBA64, QImage::Format_Grayscale16}) {
+        QImage image(8, 8, format);
+        image.fill(colour);
+        const auto back = codec.decode(written(image, "tiff"));
+        ASSERT_TRUE(back);
+        EXPECT_EQ(back->pixelColor(3, 3).rgba64(), image.pixelColor(3, 3).rgba64()) << format;
+        const auto png = codec.decode(*codec.encode(*back, UTType::png()));
+        EXPECT_EQ(png->pixelColor(3, 3).rgba64(), image.pixelColor(3, 3).rgba64()) << format;
+    }
+    QImage wide(8, 8, QImage::Format_RGBA32FPx4);
+    wide.fill(colour);
+    const auto png = codec.decode(*codec.encode(wide, UTType::png()));
+    EXPECT_EQ(png->pixelColor(3, 3).rgba64(), wide.pixelColor(3, 3).rgba64());
+}
+
+namespace {
+
+/// A TIFF of one row of pixels, eight bits a channel, whose last channel is an alpha of that kind:
+/// 0 not said, 1 multiplied into the colours, 2 not multiplied.
+QByteArray translucentTiff(const QByteArray &pixels, quint32 samples, quint32 alphaKind)
+{
+    const quint32 width = static_cast<quint32>(pixels.size()) / samples;
+    QByteArray tiff("II*\0\x08\0\0\0", 8);
+    const auto number = [&tiff](quint32 value, int bytes) {
+        for (int i = 0; i < bytes; ++i)
+            tiff.append(static_cast<char>(value >> (8 * i)));
+    };
+    constexpr quint32 count = 11;
+    const quint32 afterDirectory = 8 + 2 + count * 12 + 4;
+    number(count, 2);
+    const auto entry = [&](quint32 tag, quint32 values, quint32 value) {
+        number(tag, 2);
+        number(3, 2);
+        number(values, 4);
+        number(value, 4);
+    };
+    entry(256, 1, width);
+    entry(257, 1, 1);
+    entry(258, samples, samples <= 2 ? 0x0008'0008 : afterDirectory);
+    entry(259, 1, 1);
+    entry(262, 1, samples <= 2 ? 1 : 2);
+    entry(273, 1, afterDirectory + 8);
+    entry(277, 1, samples);
+    entry(278, 1, 1);
+    entry(279, 1, static_cast<quint32>(pixels.size()));
+    entry(284, 1, 1);
+    entry(338, 1, alphaKind);
+    number(0, 4);
+    for (int i = 0; i < 4; ++i)
+        number(8, 2);
+    return tiff + pixels;
+}
+
+} // namespace
+
+TEST_F(ImageCodecTest, keepsTheColoursOfTranslucentPixels)
+{
+    const QByteArray pixels("\xc8\x64\x32\x03\xff\x00\x80\x00\x01\x02\x03\xff", 12);
+    const auto image = codec.decode(translucentTiff(pixels, 4, 2));
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->pixel(0, 0), qRgba(200, 100, 50, 3));
+    EXPECT_EQ(image->pixel(1, 0), qRgba(255, 0, 128, 0));
+    EXPECT_EQ(image->pixel(2, 0), qRgba(1, 2, 3, 255));
+    const auto png = codec.decode(*codec.encode(*image, UTType::png()));
+    EXPECT_EQ(png->pixel(0, 0), qRgba(200, 100, 50, 3));
+    EXPECT_EQ(png->pixel(1, 0), qRgba(255, 0, 128, 0));
+}
+
+TEST_F(ImageCodecTest, readsTranslucentTiffOfEveryKind)
+{
+    const auto multiplied = codec.decode(translucentTiff({"\x40\x20\x10\x80", 4}, 4, 1));
+    ASSERT_TRUE(multiplied);
+    EXPECT_EQ(multiplied->format(), QImage::Format_ARGB32_Premultiplied);
+    EXPECT_NEAR(multiplied->pixelColor(0, 0).red(), 128, 1);
+    const auto unsaid = codec.decode(translucentTiff({"\xc8\x64\x32\x03", 4}, 4, 0));
+    ASSERT_TRUE(unsaid);
+    EXPECT_EQ(unsaid->pixel(0, 0), qRgba(200, 100, 50, 3));
+    const auto grey = codec.decode(translucentTiff({"\xc8\x03\x64\xff", 4}, 2, 2));
+    ASSERT_TRUE(grey);
+    EXPECT_EQ(grey->pixel(0, 0), qRgba(200, 200, 200, 3));
+    EXPECT_EQ(grey->pixel(1, 0), qRgba(100, 100, 100, 255));
+    const auto multipliedGrey = codec.decode(translucentTiff({"\x40\x80", 2}, 2, 1));
+    ASSERT_TRUE(multipliedGrey);
+    EXPECT_EQ(multipliedGrey->pixelColor(0, 0).alpha(), 128);
+    EXPECT_NEAR(multipliedGrey->pixelColor(0, 0).red(), 128, 1);
+}
+
+TEST_F(ImageCodecTest, brokenTiffDirectoriesYieldNone)
+{
+    const auto whole = translucentTiff({"\xc8\x64\x32\x03", 4}, 4, 2);
+    for (qsizetype length = 1; length < whole.size() - 4; length += 3)
+        EXPECT_FALSE(codec.decode(whole.first(length))) << length;
+    auto elsewhere = whole;
+    elsewhere.replace(4, 4, QByteArray(4, '\xff'));
+    EXPECT_FALSE(codec.decode(elsewhere));
 }
 
 TEST_F(ImageCodecTest, aJpegShowsWhiteWhereThePictureWasTransparent)

@@ -67,18 +67,22 @@ bool PictureReader::fits() const
     return qint64{size.width()} * size.height() <= ImageCodec::maximumDecodedBytes / bytesPerPixel;
 }
 
-std::optional<QImage> PictureReader::read()
+std::optional<QImage> PictureReader::readAsStored()
 {
     QImage image = m_reader.read();
-    if (image.isNull())
+    image.setDevicePixelRatio(1);
+    return image.isNull() ? std::nullopt : std::optional(std::move(image));
+}
+
+std::optional<QImage> PictureReader::read()
+{
+    auto image = readAsStored();
+    if (!image)
         return std::nullopt;
     const auto format
-        = image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
-    image = std::move(image).convertToFormat(format);
-    image.setDevicePixelRatio(1);
-    if (image.isNull())
-        return std::nullopt;
-    return image;
+        = image->hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
+    QImage converted = std::move(*image).convertToFormat(format);
+    return converted.isNull() ? std::nullopt : std::optional(std::move(converted));
 }
 
 } // namespace corvane

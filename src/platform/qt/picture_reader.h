@@ -27,6 +27,9 @@ public:
     /// The picture with what was set on the reader, upright, as `Format_ARGB32_Premultiplied` or
     /// `Format_RGB32`.
     std::optional<QImage> read();
+    /// The same in the format that its decoder gives it: no bit of a channel is dropped, and
+    /// colours are not multiplied with their alpha.
+    std::optional<QImage> readAsStored();
 
 private:
     bool openDrawing(QIODevice &device);

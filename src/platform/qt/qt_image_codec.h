@@ -6,7 +6,7 @@ namespace corvane {
 
 /// Pictures through Qt's image plug-ins. The format is decided by the contents, never by a name,
 /// and only formats with a signature are read: the others see a picture in any bytes. Bitmaps come
-/// as `Format_ARGB32_Premultiplied` or `Format_RGB32`, ready to be painted, and upright.
+/// upright; thumbnails as `Format_ARGB32_Premultiplied` or `Format_RGB32`, ready to be painted.
 class QtImageCodec : public ImageCodec {
 public:
     QtImageCodec();
