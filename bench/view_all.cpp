@@ -24,13 +24,14 @@ struct Bar : test::ShelfModel {
         settings.registerDefaults();
         screen->frame = {0, 0, 750, 982};
         pointer.position = QPointF(300, 900);
-        bar.emplace(ViewAllController::Context{{panel, desk.clock, desk.motion, desk.theme,
-                                                desk.keyboard, desk.dragWriter, desk.spool},
-                                               store,
-                                               quickActions,
-                                               desktop,
-                                               pointer,
-                                               feedback});
+        bar.emplace(
+            ViewAllController::Context{{panel, desk.clock, desk.motion, desk.theme, desk.keyboard,
+                                        desk.dragWriter, desk.spool, desk.preparation},
+                                       store,
+                                       quickActions,
+                                       desktop,
+                                       pointer,
+                                       feedback});
         HUDController::Context context = controllerContext();
         context.viewAll = &*bar;
         shelf.emplace(context);

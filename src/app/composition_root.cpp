@@ -89,10 +89,13 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
           hotKeys, [this] { return settings.shortcut(); },
           [this] { return settings.viewAllShortcut(); })
     , spool(QFile::encodeName(QDir::tempPath()), QCoreApplication::applicationPid(), &workQueue)
-    , imageConverter(imageCodec, spool)
+    , imageConverter(imageCodec)
+    , itemPreparation(spool, mainQueue, conversionWork)
+    , pictureItems(spool, imageConverter, imageCodec, itemPreparation)
     , remoteFiles(mainQueue)
     , remoteDescriptions(remoteFiles)
-    , ingest(spool, imageConverter, imageCodec, mountTable, remoteDescriptions)
+    , remotePictures(remoteFiles, pictureItems)
+    , ingest(spool, pictureItems, mountTable, remoteDescriptions, remotePictures)
     , quickActions(generalPasteboard, feedback)
     , thumbnailCache(imageCodec, thumbnailPlaces(spool))
     , thumbnailerRegistry(ThumbnailerRegistry::environmentDataFolders(),
@@ -110,7 +113,8 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , presenter({previewPanel, mainQueue, previewWork}, QFile::encodeName(QDir::tempPath()))
     , theme(QGuiApplication::font(), logicalDotsPerInch())
     , dragWriter(makeDragWriter(theme))
-    , viewAll({{viewAllPanel, mainQueue, motionPreference, theme, keyboard, dragWriter, spool},
+    , viewAll({{viewAllPanel, mainQueue, motionPreference, theme, keyboard, dragWriter, spool,
+                itemPreparation},
                store,
                quickActions,
                dragDesktop,
@@ -138,7 +142,7 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                 windows,
                 terminate,
                 {{panel, mainQueue, motionPreference, theme, layerAnimator, textMeasurer, keyboard,
-                  ingest, dragWriter},
+                  ingest, dragWriter, itemPreparation},
                  store,
                  settings,
                  feedback,
@@ -153,6 +157,8 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     remoteDescriptions.onFound = [this](const QUuid &item, const QString &description) {
         store.describe(item, description);
     };
+    itemPreparation.onReady = [this](const DropItem &made) { store.becomeReady(made); };
+    remotePictures.isWanted = [this](const QUuid &item) { return store.indexOf(item).has_value(); };
     thumbnails.setItemsInView([this] { return itemsInView(store); });
 }
 
@@ -164,8 +170,8 @@ bool CompositionRoot::finishWork(std::chrono::milliseconds patience)
         const std::chrono::milliseconds rest(std::max<qint64>(deadline.remainingTime(), 0));
         haveAllEnded = threads.finish(rest) && haveAllEnded;
     };
-    for (QtWorkQueue *queue :
-         {&workQueue, &thumbnailWork, &previewWork, &remotePreviewWork, &updateWork})
+    for (QtWorkQueue *queue : {&workQueue, &conversionWork, &thumbnailWork, &previewWork,
+                               &remotePreviewWork, &updateWork})
         finish(*queue);
     finish(webClient);
     finish(updateClient);

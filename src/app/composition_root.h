@@ -9,9 +9,12 @@
 #include "core/drag_writer.h"
 #include "core/feedback.h"
 #include "core/image_converter.h"
+#include "core/item_preparation.h"
 #include "core/pasteboard_ingest.h"
+#include "core/picture_items.h"
 #include "core/quick_actions.h"
 #include "core/remote_descriptions.h"
+#include "core/remote_pictures.h"
 #include "core/scratch_spool.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
@@ -126,8 +129,13 @@ struct CompositionRoot {
     Feedback feedback;
     ScratchSpool spool;
     ImageConverter imageConverter;
+    // Of its own: a stack of scans keeps neither thumbnails nor previews waiting.
+    QtWorkQueue conversionWork;
+    ItemPreparation itemPreparation;
+    PictureItems pictureItems;
     RemoteFileThreads remoteFiles;
     RemoteDescriptions remoteDescriptions;
+    RemotePictures remotePictures;
     PasteboardIngest ingest;
     QuickActions quickActions;
     SharedThumbnailCache thumbnailCache;

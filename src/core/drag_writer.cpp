@@ -62,7 +62,8 @@ bool DragWriter::isAvailable(const DropItem &item)
 {
     const auto *file = std::get_if<DropItem::File>(&item.payload());
     struct stat status { };
-    return !file || lstat(file_url::nativePath(file->url).constData(), &status) == 0;
+    return !file || item.isBeingMade()
+        || lstat(file_url::nativePath(file->url).constData(), &status) == 0;
 }
 
 Image DragWriter::dragImage(const DropItem &item, double side, double scale) const

@@ -25,6 +25,7 @@ public:
 
     static PasteboardWriter pasteboardWriter(const DropItem &item);
     /// False for a file that is gone: a target would be handed a dead address, and the item lost.
+    /// True for one that is still being made.
     static bool isAvailable(const DropItem &item);
     /// A square of `side` points at `scale` pixels per point: a rounded tile with the item's
     /// thumbnail, fitted, or its glyph.

@@ -36,6 +36,8 @@ struct DropItem::Data : QSharedData {
     QString subtitle;
     std::optional<Image> thumbnail;
     bool isSpooled = false;
+    bool isBeingMade = false;
+    std::optional<QUrl> original;
 };
 
 DropItem::DropItem(Payload payload, QString title, QString subtitle, bool isSpooled)
@@ -46,6 +48,15 @@ DropItem::DropItem(Payload payload, QString title, QString subtitle, bool isSpoo
     m_data->title = std::move(title);
     m_data->subtitle = std::move(subtitle);
     m_data->isSpooled = isSpooled;
+}
+
+DropItem DropItem::beingMade(File file, QString title, QString subtitle,
+                             std::optional<QUrl> original)
+{
+    DropItem item(std::move(file), std::move(title), std::move(subtitle), true);
+    item.m_data->isBeingMade = true;
+    item.m_data->original = std::move(original);
+    return item;
 }
 
 DropItem::DropItem(const DropItem &) = default;
@@ -99,8 +110,41 @@ bool DropItem::isSpooled() const
     return m_data->isSpooled;
 }
 
+bool DropItem::isBeingMade() const
+{
+    return m_data->isBeingMade;
+}
+
+std::optional<QUrl> DropItem::original() const
+{
+    return m_data->original;
+}
+
+std::optional<DropItem> DropItem::presentForm() const
+{
+    if (!isBeingMade())
+        return *this;
+    if (!m_data->original)
+        return std::nullopt;
+    return DropItem(File{*m_data->original}, m_data->title, m_data->subtitle, false);
+}
+
+void DropItem::become(const DropItem &made)
+{
+    const Data &from = *made.m_data;
+    Data &to = *m_data;
+    to.payload = from.payload;
+    to.title = from.title;
+    to.subtitle = from.subtitle;
+    to.isSpooled = from.isSpooled;
+    to.isBeingMade = from.isBeingMade;
+    to.original = from.original;
+}
+
 PhosphorIcon DropItem::glyph() const
 {
+    if (isBeingMade())
+        return PhosphorIcon::Image;
     struct Chooser {
         const QString &subtitle;
 

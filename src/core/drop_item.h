@@ -41,6 +41,10 @@ public:
 
     /// Makes a new item with a fresh random id and no thumbnail.
     DropItem(Payload payload, QString title, QString subtitle, bool isSpooled);
+    /// A new item whose file will be `file`, in the spool, but is still being made; from `original`
+    /// where that is a file that can be shown meanwhile.
+    static DropItem beingMade(File file, QString title, QString subtitle,
+                              std::optional<QUrl> original);
     DropItem(const DropItem &);
     DropItem(DropItem &&) noexcept;
     DropItem &operator=(const DropItem &);
@@ -60,8 +64,20 @@ public:
     /// The file lives in the scratch spool and belongs to the shelf.
     bool isSpooled() const;
 
+    /// The payload's file is not there yet. Such an item is like any other, but who needs the file
+    /// has to wait (`ItemPreparation::whenReady`).
+    bool isBeingMade() const;
+    std::optional<QUrl> original() const;
+    /// What can be looked at now: the item itself, or the file that it is made from; none where
+    /// there is no such file.
+    std::optional<DropItem> presentForm() const;
+    /// Takes over payload, texts and `isSpooled` of what it has been made into; id and thumbnail
+    /// stay.
+    void become(const DropItem &made);
+
     /// The icon drawn where there is no thumbnail. A file counts as a folder by its subtitle, which
-    /// is exactly "Folder" for a directory: the disk is not asked again.
+    /// is exactly "Folder" for a directory: the disk is not asked again. What is being made is a
+    /// picture.
     PhosphorIcon glyph() const;
 
 private:

@@ -1,42 +1,39 @@
 #include "core/image_converter.h"
 
-#include "core/scratch_spool.h"
-#include "platform/file_url.h"
+#include "core/spool_place.h"
 #include "platform/image_codec.h"
 
 namespace corvane {
 
 namespace {
 
-std::optional<QUrl> write(const std::optional<QImage> &picture, const UTType &type,
-                          const QString &basename, const ImageCodec &codec, ScratchSpool &spool)
+bool write(std::optional<QImage> picture, const UTType &type, const ImageCodec &codec,
+           const SpoolPlace &to)
 {
-    if (!picture)
-        return std::nullopt;
+    if (!picture || !to.isWanted())
+        return false;
     const auto encoded = codec.encode(*picture, type);
-    if (!encoded)
-        return std::nullopt;
-    const QString extension = type.preferredFilenameExtension();
-    return spool.store(*encoded, basename, extension.isEmpty() ? QStringLiteral("png") : extension);
+    // It may be a quarter of a gigabyte, and writing takes its time too.
+    picture.reset();
+    return encoded && to.write(*encoded);
 }
 
 } // namespace
 
-ImageConverter::ImageConverter(const ImageCodec &codec, ScratchSpool &spool)
+ImageConverter::ImageConverter(const ImageCodec &codec)
     : m_codec(codec)
-    , m_spool(spool)
 {
 }
 
-std::optional<QUrl> ImageConverter::transcode(const QUrl &fileAt, const UTType &type) const
+bool ImageConverter::transcode(const QUrl &fileAt, const UTType &type, const SpoolPlace &to) const
 {
-    return write(m_codec.decodeFile(fileAt), type, file_url::stem(fileAt), m_codec, m_spool);
+    return to.isWanted() && write(m_codec.decodeFile(fileAt), type, m_codec, to);
 }
 
-std::optional<QUrl> ImageConverter::transcode(const QByteArray &data, const UTType &type,
-                                              const QString &basename) const
+bool ImageConverter::transcode(const QByteArray &data, const UTType &type,
+                               const SpoolPlace &to) const
 {
-    return write(m_codec.decode(data), type, basename, m_codec, m_spool);
+    return to.isWanted() && write(m_codec.decode(data), type, m_codec, to);
 }
 
 } // namespace corvane

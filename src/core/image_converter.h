@@ -3,29 +3,26 @@
 #include "platform/ut_type.h"
 
 #include <QByteArray>
-#include <QString>
 #include <QUrl>
-
-#include <optional>
 
 namespace corvane {
 
 class ImageCodec;
-class ScratchSpool;
+class SpoolPlace;
 
-/// Re-encodes pictures into the spool. Both references must outlive it.
+/// Re-encodes pictures into the spool. It takes seconds for a large one, and holds the decoded
+/// picture meanwhile: any thread but the main one. The codec must outlive it.
 class ImageConverter {
 public:
-    ImageConverter(const ImageCodec &codec, ScratchSpool &spool);
+    explicit ImageConverter(const ImageCodec &codec);
 
-    /// The new file's address, named after the old one; none when it cannot be read or written.
-    std::optional<QUrl> transcode(const QUrl &fileAt, const UTType &type) const;
-    std::optional<QUrl> transcode(const QByteArray &data, const UTType &type,
-                                  const QString &basename) const;
+    /// Both write the new file to the place; false, and nothing is there, when the picture cannot
+    /// be read or written, or nobody wants the file any more.
+    bool transcode(const QUrl &fileAt, const UTType &type, const SpoolPlace &to) const;
+    bool transcode(const QByteArray &data, const UTType &type, const SpoolPlace &to) const;
 
 private:
     const ImageCodec &m_codec;
-    ScratchSpool &m_spool;
 };
 
 } // namespace corvane

@@ -1,13 +1,12 @@
 #include "core/pasteboard_ingest.h"
 
-#include "core/byte_count.h"
 #include "core/characters.h"
-#include "core/image_converter.h"
 #include "core/item_description.h"
+#include "core/picture_items.h"
 #include "core/remote_descriptions.h"
+#include "core/remote_pictures.h"
 #include "core/scratch_spool.h"
 #include "platform/file_url.h"
-#include "platform/image_codec.h"
 #include "platform/pasteboard.h"
 
 #include <algorithm>
@@ -16,8 +15,6 @@
 namespace corvane {
 
 namespace {
-
-const QString imageBasename = QStringLiteral("Image");
 
 /// Every name that plain text goes by.
 const QStringList plainTextTypes = {
@@ -67,14 +64,15 @@ std::optional<DropItem> textItem(Pasteboard &pasteboard)
 
 } // namespace
 
-PasteboardIngest::PasteboardIngest(ScratchSpool &spool, const ImageConverter &converter,
-                                   const ImageCodec &codec, const FileLocality &locality,
-                                   RemoteDescriptions &remoteDescriptions)
+PasteboardIngest::PasteboardIngest(ScratchSpool &spool, const PictureItems &pictures,
+                                   const FileLocality &locality,
+                                   RemoteDescriptions &remoteDescriptions,
+                                   RemotePictures &remotePictures)
     : m_spool(spool)
-    , m_converter(converter)
-    , m_codec(codec)
+    , m_pictures(pictures)
     , m_locality(locality)
     , m_remoteDescriptions(remoteDescriptions)
+    , m_remotePictures(remotePictures)
 {
 }
 
@@ -123,11 +121,6 @@ QList<DropItem> PasteboardIngest::readAll(Pasteboard &pasteboard) const
     return {};
 }
 
-DropItem PasteboardIngest::spooledItem(const QUrl &url) const
-{
-    return DropItem(DropItem::File{url}, file_url::lastPathComponent(url), describe(url), true);
-}
-
 DropItem PasteboardIngest::fileItem(const QUrl &url) const
 {
     return fileItem(url, m_locality.inspect({file_url::nativePath(url)}).front());
@@ -137,14 +130,17 @@ DropItem PasteboardIngest::fileItem(const QUrl &url,
                                     const FileLocality::Inspection &inspection) const
 {
     const item_description::FileName name(url);
-    if (!inspection.isRemote && UTType::forFilenameExtension(name.extension).isTiff()) {
-        if (const auto png = m_converter.transcode(url, UTType::png()))
-            return spooledItem(*png);
+    const bool isTiff = UTType::forFilenameExtension(name.extension).isTiff();
+    if (isTiff && !inspection.isRemote) {
+        if (const auto picture = m_pictures.ofTiffFile(url))
+            return *picture;
     }
     DropItem item(DropItem::File{url}, name.whole,
                   item_description::ofFile(name, inspection.version), false);
     if (inspection.isRemote)
         m_remoteDescriptions.find(item.id(), name.nativePath);
+    if (isTiff && inspection.isRemote)
+        m_remotePictures.convert(item);
     return item;
 }
 
@@ -165,12 +161,11 @@ std::optional<DropItem> PasteboardIngest::promisedFileItem(Pasteboard &pasteboar
         return std::nullopt;
     }
     if (UTType::forFilenameExtension(name.extension).isTiff()) {
-        if (const auto png = m_converter.transcode(*destination, UTType::png())) {
-            m_spool.discard(*destination);
-            return spooledItem(*png);
-        }
+        if (const auto picture = m_pictures.ofSpooledTiff(*destination))
+            return *picture;
     }
-    return spooledItem(*destination);
+    return DropItem(DropItem::File{*destination}, file_url::lastPathComponent(*destination),
+                    PictureItems::describe(*destination), true);
 }
 
 std::optional<DropItem> PasteboardIngest::imageItem(Pasteboard &pasteboard) const
@@ -183,33 +178,7 @@ std::optional<DropItem> PasteboardIngest::imageItem(Pasteboard &pasteboard) cons
     }
     if (!data || data->isEmpty())
         return std::nullopt;
-    if (type.isTiff()) {
-        if (const auto png = m_converter.transcode(*data, UTType::png(), imageBasename))
-            return spooledItem(*png);
-    }
-    const QString subtitle = describe(*data, type);
-    const QString extension = type.preferredFilenameExtension();
-    const auto url = m_spool.store(*data, imageBasename,
-                                   extension.isEmpty() ? QStringLiteral("png") : extension);
-    if (!url)
-        return DropItem(DropItem::ImageBytes{*data, type}, imageBasename, subtitle, false);
-    return DropItem(DropItem::File{*url}, file_url::lastPathComponent(*url), subtitle, true);
-}
-
-QString PasteboardIngest::describe(const QUrl &url)
-{
-    const item_description::FileName name(url);
-    return item_description::ofFile(name, FileVersion::at(name.nativePath));
-}
-
-QString PasteboardIngest::describe(const QByteArray &imageData, const UTType &type) const
-{
-    const QString extension = type.preferredFilenameExtension();
-    const QString kind = (extension.isEmpty() ? QStringLiteral("image") : extension).toUpper();
-    if (const auto size = m_codec.pixelSize(imageData))
-        return QString::number(size->width()) + QStringLiteral(" × ")
-            + QString::number(size->height()) + item_description::separator() + kind;
-    return kind + item_description::separator() + formatByteCount(imageData.size());
+    return m_pictures.ofBytes(*data, type);
 }
 
 } // namespace corvane

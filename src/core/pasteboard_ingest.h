@@ -13,20 +13,22 @@
 
 namespace corvane {
 
-class ImageCodec;
-class ImageConverter;
 class Pasteboard;
+class PictureItems;
 class RemoteDescriptions;
+class RemotePictures;
 class ScratchSpool;
 
 /// Turns what was dropped into items. The references must outlive it.
 ///
-/// A drop does not wait for a server: of a file behind a network only the name is looked at, it is
-/// kept as it is even if it is a TIFF picture, and the rest is asked for later.
+/// A drop waits for nothing: a picture that is to be converted or written comes as an item that is
+/// still being made, and of a file behind a network only the name is looked at, and the rest asked
+/// for later.
 class PasteboardIngest {
 public:
-    PasteboardIngest(ScratchSpool &spool, const ImageConverter &converter, const ImageCodec &codec,
-                     const FileLocality &locality, RemoteDescriptions &remoteDescriptions);
+    PasteboardIngest(ScratchSpool &spool, const PictureItems &pictures,
+                     const FileLocality &locality, RemoteDescriptions &remoteDescriptions,
+                     RemotePictures &remotePictures);
 
     /// The MIME names that the shelf takes drops of.
     static QStringList acceptedTypes();
@@ -39,21 +41,17 @@ public:
     QList<DropItem> readAll(Pasteboard &pasteboard) const;
 
     DropItem fileItem(const QUrl &url) const;
-    /// Of a file on this machine's disks.
-    static QString describe(const QUrl &url);
-    QString describe(const QByteArray &imageData, const UTType &type) const;
 
 private:
     DropItem fileItem(const QUrl &url, const FileLocality::Inspection &inspection) const;
-    DropItem spooledItem(const QUrl &url) const;
     std::optional<DropItem> promisedFileItem(Pasteboard &pasteboard) const;
     std::optional<DropItem> imageItem(Pasteboard &pasteboard) const;
 
     ScratchSpool &m_spool;
-    const ImageConverter &m_converter;
-    const ImageCodec &m_codec;
+    const PictureItems &m_pictures;
     const FileLocality &m_locality;
     RemoteDescriptions &m_remoteDescriptions;
+    RemotePictures &m_remotePictures;
 };
 
 } // namespace corvane

@@ -2,6 +2,7 @@
 
 #include "core/characters.h"
 #include "core/spool_directory.h"
+#include "core/spool_place.h"
 #include "platform/checked_math.h"
 #include "platform/file_url.h"
 #include "platform/private_file.h"
@@ -9,6 +10,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <system_error>
 #include <utility>
@@ -92,9 +94,14 @@ QByteArray ScratchSpool::freePath(const QString &basename, const QString &extens
         // A single character can be longer than a file name may be.
         const QByteArray name = fitting.isEmpty() ? QByteArrayLiteral("Item") : fitting.toUtf8();
         QByteArray path = m_directory + '/' + name + ending;
-        if (!exists(path) && !m_deletions.isPending(path))
+        if (!isKept(path) && !exists(path) && !m_deletions.isPending(path))
             return path;
     }
+}
+
+bool ScratchSpool::isKept(const QByteArray &path) const
+{
+    return !m_places.value(path).expired();
 }
 
 std::optional<QUrl> ScratchSpool::reserve(const QString &basename, const QString &extension)
@@ -102,6 +109,21 @@ std::optional<QUrl> ScratchSpool::reserve(const QString &basename, const QString
     if (!open())
         return std::nullopt;
     return file_url::fromNativePath(freePath(basename, safeExtension(extension)));
+}
+
+std::shared_ptr<SpoolPlace> ScratchSpool::keepPlace(const QString &basename,
+                                                    const QString &extension)
+{
+    const auto url = reserve(basename, extension);
+    if (!url)
+        return nullptr;
+    if (m_places.size() >= m_tidyPlacesAt) {
+        m_places.removeIf([](const auto &kept) { return kept.value().expired(); });
+        m_tidyPlacesAt = std::max<qsizetype>(2 * m_places.size(), 64);
+    }
+    auto place = std::make_shared<SpoolPlace>(*url);
+    m_places.insert(file_url::nativePath(*url), place);
+    return place;
 }
 
 std::optional<QUrl> ScratchSpool::store(const QByteArray &data, const QString &basename,
@@ -119,12 +141,19 @@ bool ScratchSpool::contains(const QUrl &url) const
 
 void ScratchSpool::discard(const QUrl &url) const
 {
+    const QByteArray path = file_url::nativePath(url);
+    if (const auto place = m_places.value(path).lock())
+        place->giveUp();
     if (m_open)
-        m_deletions.add(m_open, file_url::nativePath(url));
+        m_deletions.add(m_open, path);
 }
 
 void ScratchSpool::discardAll()
 {
+    for (const auto &kept : std::as_const(m_places)) {
+        if (const auto place = kept.lock())
+            place->giveUp();
+    }
     m_deletions.stop();
     if (stillStands())
         spool_directory::removeAtEnd(m_directory);

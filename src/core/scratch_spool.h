@@ -4,6 +4,7 @@
 #include "core/spool_deletions.h"
 
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 #include <QUrl>
 
@@ -13,6 +14,7 @@
 
 namespace corvane {
 
+class SpoolPlace;
 class WorkQueue;
 
 /// The private directory for files of the shelf's own making. It lives for one run.
@@ -40,6 +42,9 @@ public:
     /// A free address for a new file, which the caller writes; none when there is no directory that
     /// is safe to use.
     std::optional<QUrl> reserve(const QString &basename, const QString &extension);
+    /// The same for a file that will be written later, perhaps on another thread: its name is kept
+    /// for it. Discarding that name before gives the file up.
+    std::shared_ptr<SpoolPlace> keepPlace(const QString &basename, const QString &extension);
     /// Reserves, writes the bytes atomically and gives the address; none, and nothing left behind,
     /// when the bytes could not be written.
     std::optional<QUrl> store(const QByteArray &data, const QString &basename,
@@ -62,6 +67,7 @@ public:
 private:
     bool open();
     bool stillStands() const;
+    bool isKept(const QByteArray &path) const;
     QByteArray freePath(const QString &basename, const QString &extension) const;
 
     QByteArray m_temporaryDirectory;
@@ -69,6 +75,9 @@ private:
     /// None while it is not open.
     std::shared_ptr<const OpenSpool> m_open;
     mutable SpoolDeletions m_deletions;
+    /// By their paths; those that are gone are dropped from time to time.
+    QHash<QByteArray, std::weak_ptr<SpoolPlace>> m_places;
+    qsizetype m_tidyPlacesAt = 64;
 };
 
 } // namespace corvane

@@ -101,6 +101,9 @@ public:
     void focus(int index);
     /// Replaces what is said below an item's name, and publishes; nothing if it is gone.
     void describe(const QUuid &id, const QString &subtitle);
+    /// The item of that id becomes what it has been made into (published), and its thumbnail is
+    /// asked for; nothing if it is gone.
+    void becomeReady(const DropItem &made);
     void toggleSelection(const DropItem &item);
     void toggleSelectAll();
     /// Opens or closes the shelf for the user.

@@ -34,6 +34,9 @@ void ShelfStore::startLoading(const QList<DropItem> &items)
     };
     for (const DropItem &item : items) {
         const QUuid id = item.id();
+        // What is being made has no file yet.
+        if (item.isBeingMade())
+            continue;
         if (const auto *file = std::get_if<DropItem::File>(&item.payload())) {
             files.push_back({id, file->url});
             continue;
@@ -71,6 +74,16 @@ void ShelfStore::startLink(const DropItem &item, const QUrl &url)
 void ShelfStore::describe(const QUuid &id, const QString &subtitle)
 {
     change(id, PublicationPace::Detail, [&](DropItem &item) { item.setSubtitle(subtitle); });
+}
+
+void ShelfStore::becomeReady(const DropItem &made)
+{
+    const QUuid id = made.id();
+    const std::weak_ptr<ShelfStore *> alive = m_self;
+    // Followed at once: what is dragged or opened next has to be what is there now.
+    change(id, PublicationPace::AtOnce, [&](DropItem &item) { item.become(made); });
+    if (!alive.expired() && indexOf(id))
+        startLoading({made});
 }
 
 void ShelfStore::mergeThumbnail(const QUuid &id, const std::optional<Image> &thumbnail)

@@ -1,6 +1,7 @@
 #include "shelf/hud_controller.h"
 
 #include "core/feedback.h"
+#include "core/item_preparation.h"
 #include "core/item_presenter.h"
 #include "core/quick_actions.h"
 #include "core/settings.h"
@@ -87,8 +88,34 @@ void HUDController::wireShelf()
     m_shelf.onQuickLook = [this] {
         const auto item = m_store.focusedItem();
         if (item && m_context.presenter)
-            m_context.presenter->present(*item);
+            preview(*item);
     };
+}
+
+/// A picture whose file is still being written is shown once it is there, if the user still looks
+/// at it by then; asking for it twice takes it back.
+void HUDController::preview(const DropItem &item)
+{
+    if (const auto shown = item.presentForm()) {
+        m_context.presenter->present(*shown);
+        return;
+    }
+    if (m_awaitedPreview == item.id()) {
+        m_awaitedPreview.reset();
+        return;
+    }
+    m_awaitedPreview = item.id();
+    m_context.view.preparation.whenReady(item,
+                                         [this, alive = std::weak_ptr(m_alive),
+                                          id = item.id()](const std::optional<DropItem> &ready) {
+                                             if (alive.expired() || m_awaitedPreview != id)
+                                                 return;
+                                             m_awaitedPreview.reset();
+                                             const auto focused = m_store.focusedItem();
+                                             if (ready && focused && focused->id() == id
+                                                 && m_store.state() != ShelfState::Idle)
+                                                 m_context.presenter->present(*ready);
+                                         });
 }
 
 void HUDController::wireSettings()

@@ -5,10 +5,12 @@
 #include "shelf/shelf_view.h"
 
 #include <QRectF>
+#include <QUuid>
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace corvane {
 
@@ -73,6 +75,7 @@ private:
     void scheduleHide();
     void scroll(int steps);
     void layoutSettingChanged();
+    void preview(const DropItem &item);
 
     Context m_context;
     PanelWindow &m_panel;
@@ -81,6 +84,8 @@ private:
     std::int64_t m_hideGeneration = 0;
     std::int64_t m_shrinkGeneration = 0;
     std::weak_ptr<const Screen> m_lastScreen;
+    /// The item that is to be previewed once its file is there.
+    std::optional<QUuid> m_awaitedPreview;
     StoreFollower m_follower;
     // Whatever was handed out does nothing once the controller is gone.
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);

@@ -1,5 +1,6 @@
 #include "shelf/shelf_cell.h"
 
+#include "shelf/being_made_glyph.h"
 #include "shelf/drawing.h"
 #include "shelf/layer_animator.h"
 #include "shelf/phosphor_icon_drawing.h"
@@ -7,6 +8,8 @@
 #include "shelf/theme.h"
 
 #include <QPainter>
+
+#include <cmath>
 
 namespace corvane {
 
@@ -16,6 +19,7 @@ constexpr double thumbCornerRadius = 5;
 constexpr double focusRingCornerRadius = 8;
 constexpr double focusRingWidth = 1.75;
 constexpr double glyphShare = 0.6;
+constexpr double beingMadeGlyphShare = 0.5;
 
 } // namespace
 
@@ -28,8 +32,13 @@ QImage thumbnailContents(double side, const DropItem &item, const Theme &theme, 
     QPainter painter(&tile);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(theme.palette.controlPlate);
+    painter.setBrush(item.isBeingMade() ? theme.palette.buttonFillOff : theme.palette.controlPlate);
     painter.drawRoundedRect(QRectF(0, 0, side, side), thumbCornerRadius, thumbCornerRadius);
+    if (item.isBeingMade()) {
+        const double glyph = std::round(side * beingMadeGlyphShare);
+        painter.drawImage(QPointF(), beingMadeGlyph(side, glyph, theme, scale));
+        return tile;
+    }
     const double glyph = std::round(side * glyphShare);
     const double inset = (side - glyph) / 2;
     painter.drawImage(QPointF(inset, inset),
@@ -93,8 +102,9 @@ void ShelfCell::showThumbnail()
         return;
     const double side = m_thumbSize.width();
     const auto thumbnail = m_item->thumbnail();
-    const QString source
-        = thumbnail ? QString::number(thumbnail->bitmap.cacheKey()) : rawValue(m_item->glyph());
+    const QString source = thumbnail ? QString::number(thumbnail->bitmap.cacheKey())
+        : m_item->isBeingMade()      ? QStringLiteral("being made")
+                                     : rawValue(m_item->glyph());
     const QString key = source % u'@' % QString::number(side);
     m_thumb.setContents(key, [side, item = *m_item, &theme = m_theme](double scale) {
         return thumbnailContents(side, item, theme, scale);

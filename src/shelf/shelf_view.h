@@ -15,6 +15,7 @@
 namespace corvane {
 
 class DragWriter;
+class ItemPreparation;
 class Keyboard;
 class LayerAnimator;
 class MainQueue;
@@ -46,6 +47,7 @@ public:
         const Keyboard &keyboard;
         const PasteboardIngest &ingest;
         const DragWriter &dragWriter;
+        ItemPreparation &preparation;
     };
     explicit ShelfView(const Context &context);
     ~ShelfView() override;

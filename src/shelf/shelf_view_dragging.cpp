@@ -1,5 +1,6 @@
 // The shelf as a source and as a destination of drags.
 
+#include "core/awaited_contents.h"
 #include "core/drag_writer.h"
 #include "core/pasteboard_ingest.h"
 #include "platform/geometry.h"
@@ -57,6 +58,7 @@ void ShelfView::beginDragOut(const DropItem &item, int index, QPointF from)
     const bool isOnThumb = contains(thumb, inBody(from));
     DragOut drag;
     drag.contents.writers.push_back(DragWriter::pasteboardWriter(item));
+    drag.whenReady = awaitedContents(drag.contents, {item}, m_context.preparation);
     drag.image = m_context.dragWriter.dragImage(item, thumb.width(), m_scale);
     drag.hotSpot = isOnThumb ? inBody(from) - thumb.topLeft()
                              : QPointF(thumb.width() / 2, thumb.height() / 2);

@@ -2,6 +2,7 @@
 
 #include "core/drop_item.h"
 #include "platform/file_url.h"
+#include "shelf/being_made_glyph.h"
 #include "shelf/checkbox_renderer.h"
 #include "shelf/drawing.h"
 #include "shelf/phosphor_icon_drawing.h"
@@ -132,6 +133,12 @@ void ViewAllTile::showThumbnail(const DropItem &item)
                             [bitmap = thumbnail->bitmap](double scale) {
                                 return tileContents(bitmap, view_all_layout::thumbSide, scale);
                             });
+        return;
+    }
+    if (item.isBeingMade()) {
+        m_thumb.setContents(QStringLiteral("being made"), [&theme = m_theme](double scale) {
+            return beingMadeGlyph(view_all_layout::thumbSide, glyphSize, theme, scale);
+        });
         return;
     }
     m_thumb.setContents(rawValue(item.glyph()),

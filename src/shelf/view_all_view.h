@@ -18,6 +18,7 @@
 namespace corvane {
 
 class DragWriter;
+class ItemPreparation;
 class Keyboard;
 class MainQueue;
 class MotionPreference;
@@ -48,6 +49,7 @@ public:
         const Keyboard &keyboard;
         const DragWriter &dragWriter;
         ScratchSpool &spool;
+        ItemPreparation &preparation;
     };
     explicit ViewAllView(const Context &context);
     ~ViewAllView() override;

@@ -1,5 +1,6 @@
 // The pointer and the keys on the view-all bar, and the bar as a source of drags.
 
+#include "core/awaited_contents.h"
 #include "core/drag_set.h"
 #include "core/drag_writer.h"
 #include "core/scratch_spool.h"
@@ -155,6 +156,7 @@ void ViewAllView::beginDrag(const DropItem &grabbed)
 
     DragOut drag;
     drag.contents = std::move(set.contents);
+    drag.whenReady = awaitedContents(drag.contents, set.items, m_context.preparation);
     drag.image = dragImage(grabbed, set.items);
     drag.hotSpot = {drag.image.size.width() / 2, drag.image.size.height() / 2};
     const std::weak_ptr<bool> alive = m_alive;

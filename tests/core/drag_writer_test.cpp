@@ -49,6 +49,8 @@ TEST_F(DragWriterTest, HasNothingToCarryOfAFileThatIsGone)
     EXPECT_TRUE(DragWriter::isAvailable(file(temporary.write("caf #1", "x"))));
     EXPECT_FALSE(DragWriter::isAvailable(file(temporary.url("gone"))));
     EXPECT_TRUE(DragWriter::isAvailable(text()));
+    EXPECT_TRUE(
+        DragWriter::isAvailable(DropItem::beingMade({temporary.url("soon.png")}, {}, {}, {})));
 }
 
 TEST_F(DragWriterTest, MakesTheImageAtTheScale)

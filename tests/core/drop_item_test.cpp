@@ -58,6 +58,33 @@ TEST(DropItem, IsAValue)
     EXPECT_EQ(copy.id(), first.id());
 }
 
+TEST(DropItem, ThatIsBeingMadeBecomesWhatWasMadeAndStaysItself)
+{
+    const QUrl place = QUrl::fromLocalFile(QStringLiteral("/spool/a.png"));
+    const QUrl original = QUrl::fromLocalFile(QStringLiteral("/home/a.tiff"));
+    DropItem item = DropItem::beingMade({place}, QStringLiteral("a.png"), {}, original);
+    EXPECT_TRUE(item.isBeingMade());
+    EXPECT_TRUE(item.isSpooled());
+    EXPECT_EQ(item.original(), original);
+    EXPECT_EQ(std::get<DropItem::File>(item.presentForm()->payload()).url, original);
+    EXPECT_FALSE(DropItem::beingMade({place}, {}, {}, {}).presentForm().has_value());
+    EXPECT_EQ(item.glyph(), PhosphorIcon::Image);
+    const QUuid id = item.id();
+    const DropItem before = item;
+    item.become(DropItem(DropItem::File{original}, QStringLiteral("a.tiff"), QStringLiteral("TIFF"),
+                         false));
+    EXPECT_EQ(item.id(), id);
+    EXPECT_EQ(item.title(), QStringLiteral("a.tiff"));
+    EXPECT_EQ(item.subtitle(), QStringLiteral("TIFF"));
+    EXPECT_EQ(std::get<DropItem::File>(item.payload()).url, original);
+    EXPECT_FALSE(item.isSpooled());
+    EXPECT_FALSE(item.isBeingMade());
+    EXPECT_FALSE(item.original().has_value());
+    EXPECT_EQ(item.presentForm()->id(), id);
+    EXPECT_EQ(item.glyph(), PhosphorIcon::File);
+    EXPECT_TRUE(before.isBeingMade());
+}
+
 TEST(DropItem, GetsAnIdOfItsOwn)
 {
     EXPECT_FALSE(file({}).id().isNull());

@@ -1,11 +1,16 @@
 #include "core/image_converter.h"
+#include "core/item_preparation.h"
 #include "core/pasteboard_ingest.h"
+#include "core/picture_items.h"
 #include "core/remote_descriptions.h"
+#include "core/remote_pictures.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_file_locality.h"
 #include "fakes/fake_image_codec.h"
 #include "fakes/fake_pasteboard.h"
 #include "fakes/fake_remote_files.h"
+#include "fakes/fake_work_queue.h"
+#include "fakes/test_clock.h"
 #include "platform/file_url.h"
 
 #include <gtest/gtest.h>
@@ -21,8 +26,27 @@ using test::contents;
 using test::exists;
 
 struct PasteboardIngestTest : testing::Test, test::TemporarySpool {
-    /// The only item of a drop.
-    DropItem single()
+    PasteboardIngestTest()
+    {
+        preparation.onReady = [this](const DropItem &made) { ready.insert(made.id(), made); };
+    }
+
+    /// Everything that is made beside the main thread comes to its end.
+    void finishWork()
+    {
+        work.runAll();
+        clock.runPending();
+    }
+    /// What the item has become, all work done.
+    DropItem finished(const DropItem &item)
+    {
+        finishWork();
+        return ready.value(item.id(), item);
+    }
+    /// The only item of a drop, ready.
+    DropItem single() { return finished(singleAtOnce()); }
+    /// The same as it stands on the shelf at once.
+    DropItem singleAtOnce()
     {
         const QList<DropItem> items = ingest.readAll(pasteboard);
         EXPECT_EQ(items.size(), 1);
@@ -44,11 +68,17 @@ struct PasteboardIngestTest : testing::Test, test::TemporarySpool {
     const QString png = QStringLiteral("image/png");
     const QString tiff = QStringLiteral("image/tiff");
     test::FakeImageCodec codec;
-    ImageConverter converter{codec, spool};
+    ImageConverter converter{codec};
+    test::TestClock clock;
+    test::FakeWorkQueue work;
+    ItemPreparation preparation{spool, clock, work};
+    PictureItems pictures{spool, converter, codec, preparation};
     test::FakeFileLocality locality;
     test::FakeRemoteFiles remoteFiles;
     RemoteDescriptions remoteDescriptions{remoteFiles};
-    PasteboardIngest ingest{spool, converter, codec, locality, remoteDescriptions};
+    RemotePictures remotePictures{remoteFiles, pictures};
+    PasteboardIngest ingest{spool, pictures, locality, remoteDescriptions, remotePictures};
+    QHash<QUuid, DropItem> ready;
     test::FakePasteboard pasteboard;
 };
 
@@ -102,16 +132,70 @@ TEST_F(Files, OfTiffBecomeSpooledPng)
     EXPECT_EQ(item.subtitle(), QStringLiteral("PNG · 13 bytes"));
 }
 
+TEST_F(Files, OfTiffStandThereAtOnceUnderTheirFinalNames)
+{
+    codec.teach("tiff bytes", {3, 2});
+    const QUrl scan = temporary.write("scan.tiff", "tiff bytes");
+    const QUrl namesake = temporary.write("other/scan.tiff", "tiff bytes");
+    pasteboard.offerUrls({scan, namesake});
+    const QList<DropItem> items = ingest.readAll(pasteboard);
+    ASSERT_EQ(items.size(), 2);
+    EXPECT_EQ(items[0].title(), QStringLiteral("scan.png"));
+    EXPECT_EQ(items[1].title(), QStringLiteral("scan 2.png"));
+    for (const DropItem &item : items) {
+        EXPECT_TRUE(item.isBeingMade());
+        EXPECT_TRUE(item.isSpooled());
+        EXPECT_EQ(item.subtitle(), QStringLiteral("Converting to PNG…"));
+        EXPECT_EQ(item.glyph(), PhosphorIcon::Image);
+        EXPECT_FALSE(exists(fileOf(item)));
+    }
+    EXPECT_EQ(items[1].original(), namesake);
+    EXPECT_EQ(work.pendingCount(), 2U) << "nothing was decoded for the drop";
+    finishWork();
+    for (const DropItem &item : items) {
+        const DropItem made = ready.value(item.id(), DropItem({}, {}, {}, false));
+        EXPECT_EQ(made.title(), item.title());
+        EXPECT_EQ(fileOf(made), fileOf(item));
+        EXPECT_FALSE(made.isBeingMade());
+        EXPECT_FALSE(made.original().has_value());
+        EXPECT_EQ(contents(fileOf(made)), "image/png 3x2");
+    }
+}
+
+TEST_F(Files, OfTiffThatAreRemovedMeanwhileAreNotMade)
+{
+    codec.teach("tiff bytes", {3, 2});
+    const DropItem item = ingest.fileItem(temporary.write("scan.tiff", "tiff bytes"));
+    const DropItem next = ingest.fileItem(temporary.url("scan.tiff"));
+    spool.discard(fileOf(item));
+    finishWork();
+    EXPECT_FALSE(ready.contains(item.id()));
+    EXPECT_FALSE(exists(fileOf(item)));
+    EXPECT_TRUE(exists(temporary.url("scan.tiff")));
+    EXPECT_EQ(contents(fileOf(ready.value(next.id(), next))), "image/png 3x2");
+    EXPECT_EQ(ingest.fileItem(temporary.url("scan.tiff")).title(), QStringLiteral("scan.png"))
+        << "the name is free again";
+}
+
 TEST_F(Files, OfTiffStayWhereTheyAreWhenTheyCannotBeConverted)
 {
     const QUrl broken = temporary.write("scan.tif", "broken");
-    EXPECT_EQ(fileOf(ingest.fileItem(broken)), broken);
-    EXPECT_FALSE(ingest.fileItem(broken).isSpooled());
+    const DropItem item = finished(ingest.fileItem(broken));
+    EXPECT_EQ(fileOf(item), broken);
+    EXPECT_EQ(item.title(), QStringLiteral("scan.tif"));
+    EXPECT_EQ(item.subtitle(), QStringLiteral("TIF · 6 bytes"));
+    EXPECT_FALSE(item.isSpooled());
+    EXPECT_FALSE(item.isBeingMade());
+}
+
+TEST_F(Files, OfTiffStayWhereTheyAreWithoutASpool)
+{
     codec.teach("tiff bytes", {3, 2});
     spoil();
     const QUrl good = temporary.write("good.tif", "tiff bytes");
     EXPECT_EQ(fileOf(ingest.fileItem(good)), good);
     EXPECT_EQ(ingest.fileItem(good).subtitle(), QStringLiteral("TIF · 10 bytes"));
+    EXPECT_EQ(work.pendingCount(), 0U);
 }
 
 TEST_F(Files, OfCamerasAreNoTiff)
@@ -124,20 +208,20 @@ TEST_F(Files, OfCamerasAreNoTiff)
 TEST_F(Files, AreDescribedByKindAndSize)
 {
     const auto described = [this](const QByteArray &name, const QByteArray &bytes) {
-        return PasteboardIngest::describe(temporary.write(name, bytes));
+        return PictureItems::describe(temporary.write(name, bytes));
     };
     EXPECT_EQ(described("a.txt", QByteArray(2048, 'x')), QStringLiteral("TXT · 2 KB"));
     EXPECT_EQ(described("noextension", "12"), QStringLiteral("2 bytes"));
     EXPECT_EQ(described(".bashrc", "12"), QStringLiteral("2 bytes"));
     EXPECT_EQ(described("archive.tar.gz", ""), QStringLiteral("GZ · 0 bytes"));
-    EXPECT_EQ(PasteboardIngest::describe(temporary.url("gone.txt")), QStringLiteral("TXT"));
-    EXPECT_EQ(PasteboardIngest::describe(temporary.url("gone")), QString());
+    EXPECT_EQ(PictureItems::describe(temporary.url("gone.txt")), QStringLiteral("TXT"));
+    EXPECT_EQ(PictureItems::describe(temporary.url("gone")), QString());
 }
 
 TEST_F(Files, ThatArePipesHaveNoSize)
 {
     ASSERT_EQ(::mkfifo(temporary.path("pipe.txt").constData(), 0600), 0);
-    EXPECT_EQ(PasteboardIngest::describe(temporary.url("pipe.txt")), QStringLiteral("TXT"));
+    EXPECT_EQ(PictureItems::describe(temporary.url("pipe.txt")), QStringLiteral("TXT"));
 }
 
 TEST_F(Files, ThatAreFoldersSaySo)
@@ -223,6 +307,59 @@ TEST_F(RemoteFileItems, OfTiffAreNotReadForTheDrop)
     EXPECT_EQ(item.subtitle(), QStringLiteral("TIFF"));
 }
 
+TEST_F(RemoteFileItems, OfTiffAreConvertedOnceTheyCanBeRead)
+{
+    codec.teach("tiff bytes", {3, 2});
+    locality.remoteFolder = "/net";
+    const DropItem first = ingest.fileItem(file_url::fromNativePath("/net/a.tiff"));
+    const DropItem second = ingest.fileItem(file_url::fromNativePath("/net/b.tiff"));
+    ASSERT_EQ(remoteFiles.readings.size(), 1U) << "one after the other";
+    EXPECT_EQ(remoteFiles.readings[0].path, "/net/a.tiff");
+    remoteFiles.readings[0].answer("tiff bytes");
+    EXPECT_EQ(remoteFiles.readings.size(), 1U);
+    const DropItem made = finished(first);
+    EXPECT_EQ(made.title(), QStringLiteral("a.png"));
+    EXPECT_TRUE(made.isSpooled());
+    EXPECT_EQ(contents(fileOf(made)), "image/png 3x2");
+    ASSERT_EQ(remoteFiles.readings.size(), 2U);
+    remoteFiles.readings[1].answer(std::nullopt);
+    EXPECT_EQ(finished(second).title(), QStringLiteral("b.tiff"));
+    ingest.fileItem(file_url::fromNativePath("/net/c.tiff"));
+    EXPECT_EQ(remoteFiles.readings.size(), 3U);
+}
+
+TEST_F(RemoteFileItems, OfBrokenTiffStayWhatTheyAre)
+{
+    locality.remoteFolder = "/net";
+    const DropItem item = ingest.fileItem(file_url::fromNativePath("/net/a.tiff"));
+    ingest.fileItem(file_url::fromNativePath("/net/b.tiff"));
+    remoteFiles.readings[0].answer("broken");
+    finishWork();
+    EXPECT_FALSE(ready.contains(item.id()));
+    EXPECT_EQ(remoteFiles.readings.size(), 2U) << "the next has its turn";
+}
+
+TEST_F(RemoteFileItems, OfTiffThatAreNotWantedAnyMoreAreNeitherFetchedNorKept)
+{
+    codec.teach("tiff bytes", {3, 2});
+    locality.remoteFolder = "/net";
+    QSet<QUuid> shelf;
+    remotePictures.isWanted = [&shelf](const QUuid &id) { return shelf.contains(id); };
+    const DropItem removedEarly = ingest.fileItem(file_url::fromNativePath("/net/a.tiff"));
+    const DropItem removedLate = ingest.fileItem(file_url::fromNativePath("/net/b.tiff"));
+    const DropItem neverFetched = ingest.fileItem(file_url::fromNativePath("/net/c.tiff"));
+    const DropItem last = ingest.fileItem(file_url::fromNativePath("/net/d.tiff"));
+    shelf = {removedLate.id(), neverFetched.id(), last.id()};
+    remoteFiles.readings[0].answer("tiff bytes");
+    ASSERT_EQ(remoteFiles.readings.size(), 2U);
+    remoteFiles.readings[1].answer("tiff bytes");
+    shelf = {last.id()};
+    finishWork();
+    EXPECT_FALSE(exists(temporary.path("Corvane-4711/b.png")));
+    ASSERT_EQ(remoteFiles.readings.size(), 3U);
+    EXPECT_EQ(remoteFiles.readings[2].path, "/net/d.tiff");
+}
+
 TEST(RemoteDescriptionsTest, FindNothingOnceTheyAreGone)
 {
     test::FakeRemoteFiles files;
@@ -269,6 +406,30 @@ TEST_F(Pictures, OfTiffBecomePng)
     EXPECT_EQ(contents(fileOf(item)), "image/png 3x2");
 }
 
+TEST_F(Pictures, StandThereBeforeTheyAreWritten)
+{
+    codec.teach("png bytes", {1200, 800});
+    offerPng("png bytes");
+    const DropItem item = singleAtOnce();
+    EXPECT_TRUE(item.isBeingMade());
+    EXPECT_EQ(item.title(), QStringLiteral("Image.png"));
+    EXPECT_EQ(item.subtitle(), QStringLiteral("PNG · 9 bytes"));
+    EXPECT_FALSE(exists(fileOf(item)));
+    EXPECT_EQ(finished(item).subtitle(), QStringLiteral("1200 × 800 · PNG"));
+    EXPECT_EQ(contents(fileOf(item)), "png bytes");
+}
+
+TEST_F(Pictures, StayInMemoryWhereTheyCannotBeWritten)
+{
+    offerPng("png bytes");
+    const DropItem item = singleAtOnce();
+    temporary.write("Corvane-4711/Image.png", "in the way");
+    const DropItem kept = finished(item);
+    ASSERT_NE(std::get_if<DropItem::ImageBytes>(&kept.payload()), nullptr);
+    EXPECT_EQ(std::get<DropItem::ImageBytes>(kept.payload()).data, "png bytes");
+    EXPECT_FALSE(kept.isSpooled());
+}
+
 TEST_F(Pictures, OfTiffThatCannotBeConvertedAreSpooledAsTheyAre)
 {
     offerTiff("broken");
@@ -311,7 +472,7 @@ TEST_F(Pictures, ThatNeverCameLeaveTheOthersTheirTurn)
 
 TEST_F(Pictures, OfATypeWithoutAnExtensionAreCalledImage)
 {
-    EXPECT_EQ(ingest.describe("12", UTType(QStringLiteral("x-own/kind"))),
+    EXPECT_EQ(PictureItems::describe("12", UTType(QStringLiteral("x-own/kind")), codec),
               QStringLiteral("IMAGE · 2 bytes"));
 }
 
@@ -346,8 +507,32 @@ TEST_F(PromisedFiles, OfTiffBecomePng)
 {
     codec.teach("tiff bytes", {3, 2});
     pasteboard.promiseFile(QStringLiteral("scan.tiff"), "tiff bytes");
-    EXPECT_EQ(single().title(), QStringLiteral("scan.png"));
-    EXPECT_FALSE(exists(temporary.path("Corvane-4711/scan.tiff")));
+    const DropItem item = singleAtOnce();
+    EXPECT_EQ(item.title(), QStringLiteral("scan.png"));
+    EXPECT_EQ(item.original(), temporary.url("Corvane-4711/scan.tiff"));
+    EXPECT_TRUE(exists(*item.original()));
+    EXPECT_EQ(contents(fileOf(finished(item))), "image/png 3x2");
+    EXPECT_FALSE(exists(*item.original()));
+}
+
+TEST_F(PromisedFiles, OfTiffThatAreRemovedMeanwhileLeaveNothing)
+{
+    codec.teach("tiff bytes", {3, 2});
+    pasteboard.promiseFile(QStringLiteral("scan.tiff"), "tiff bytes");
+    const DropItem item = singleAtOnce();
+    spool.discard(fileOf(item));
+    finishWork();
+    EXPECT_FALSE(exists(fileOf(item)));
+    EXPECT_FALSE(exists(*item.original()));
+}
+
+TEST_F(PromisedFiles, OfTiffThatCannotBeConvertedStay)
+{
+    pasteboard.promiseFile(QStringLiteral("scan.tiff"), "broken");
+    const DropItem item = single();
+    EXPECT_EQ(item.title(), QStringLiteral("scan.tiff"));
+    EXPECT_TRUE(item.isSpooled());
+    EXPECT_EQ(contents(fileOf(item)), "broken");
 }
 
 TEST_F(PromisedFiles, ThatAreRefusedLeaveTheOthersTheirTurn)

@@ -1,5 +1,6 @@
 #include "core/scratch_spool.h"
 #include "core/spool_directory.h"
+#include "core/spool_place.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_work_queue.h"
 
@@ -70,6 +71,40 @@ TEST_F(ScratchSpoolTest, NumbersNamesThatAreTaken)
     EXPECT_EQ(nameOf(spool.store("2", image, png)), QStringLiteral("Image 2.png"));
     EXPECT_EQ(nameOf(spool.store("3", image, png)), QStringLiteral("Image 3.png"));
     EXPECT_EQ(contents(temporary.url("Corvane-4711/Image 2.png")), "2");
+}
+
+TEST_F(ScratchSpoolTest, KeepsNamesForFilesThatAreStillBeingMade)
+{
+    auto first = spool.keepPlace(image, png);
+    const auto second = spool.keepPlace(image, png);
+    ASSERT_TRUE(first && second);
+    EXPECT_EQ(nameOf(first->url()), QStringLiteral("Image.png"));
+    EXPECT_EQ(nameOf(second->url()), QStringLiteral("Image 2.png"));
+    EXPECT_EQ(nameOf(spool.reserve(image, png)), QStringLiteral("Image 3.png"));
+    EXPECT_FALSE(exists(first->url()));
+    EXPECT_TRUE(second->write("2"));
+    EXPECT_EQ(contents(second->url()), "2");
+    EXPECT_FALSE(second->write("again")) << "what is there stays";
+    first.reset();
+    EXPECT_EQ(nameOf(spool.reserve(image, png)), QStringLiteral("Image.png"));
+    for (int i = 0; i < 1'000; ++i)
+        EXPECT_EQ(nameOf(spool.keepPlace(image, png)->url()), QStringLiteral("Image.png"));
+}
+
+TEST_F(ScratchSpoolTest, WritesNothingThatWasDiscardedBefore)
+{
+    const auto place = spool.keepPlace(image, png);
+    const auto other = spool.keepPlace(image, png);
+    spool.discard(place->url());
+    EXPECT_FALSE(place->isWanted());
+    EXPECT_FALSE(place->write("1"));
+    EXPECT_FALSE(exists(place->url()));
+    EXPECT_TRUE(other->isWanted());
+    spool.discardAll();
+    EXPECT_FALSE(other->isWanted());
+    EXPECT_FALSE(other->write("2"));
+    spoil();
+    EXPECT_EQ(spool.keepPlace(image, png), nullptr);
 }
 
 TEST_F(ScratchSpoolTest, ReservesWithoutMakingTheFile)

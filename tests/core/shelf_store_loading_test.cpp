@@ -1,6 +1,9 @@
 #include "core/shelf_store_fixture.h"
+#include "core/spool_place.h"
 
 #include <gtest/gtest.h>
+
+#include <array>
 
 namespace corvane {
 namespace {
@@ -103,6 +106,59 @@ TEST_F(Thumbnails, AreCancelledBeforeAnybodyHearsThatTheItemLeft)
     });
     store.discard(0, false);
     EXPECT_EQ(detail.value(0), QStringLiteral("1"));
+}
+
+using Preparation = ShelfStoreTest;
+
+TEST_F(Preparation, OfAnItemIsPublishedAndItsThumbnailAskedFor)
+{
+    const DropItem pending = DropItem::beingMade({spool.directory()}, QStringLiteral("p"), {}, {});
+    store.accept({text("a"), pending});
+    EXPECT_TRUE(thumbnails.requests.empty()) << "there is no file yet";
+    store.discard(0, false);
+    log.clear();
+    DropItem made = pending;
+    made.become(file("m"));
+    store.observeItems(
+        [this](const QList<DropItem> &) { detail << QString::number(thumbnails.requests.size()); });
+    store.becomeReady(made);
+    EXPECT_EQ(log, QStringList{QStringLiteral("items m")});
+    EXPECT_EQ(detail, QStringList{QStringLiteral("0")});
+    ASSERT_EQ(thumbnails.requests.size(), 1U);
+    EXPECT_EQ(thumbnails.requests[0].url, urlOf(made));
+    EXPECT_FALSE(store.items()[0].isBeingMade());
+    EXPECT_EQ(store.items()[0].id(), pending.id());
+}
+
+TEST_F(Preparation, OfAnItemThatLeftChangesNothing)
+{
+    const DropItem pending = DropItem::beingMade({spool.directory()}, QStringLiteral("p"), {}, {});
+    store.accept({text("a")});
+    log.clear();
+    store.becomeReady(pending);
+    EXPECT_EQ(log, QStringList());
+    EXPECT_TRUE(thumbnails.requests.empty());
+}
+
+TEST_F(Preparation, EndsWhereTheItemIsRemovedButNotWhereItWasDraggedOut)
+{
+    const auto pending = [this](const std::shared_ptr<SpoolPlace> &place) {
+        return DropItem::beingMade({place->url()}, QStringLiteral("p"), {}, {});
+    };
+    const auto keep = [this] { return spool.keepPlace({}, QStringLiteral("png")); };
+    const std::array places = {keep(), keep(), keep(), keep()};
+    store.accept({pending(places[0]), pending(places[1]), pending(places[2]), pending(places[3])});
+    store.ejected(0, false);
+    EXPECT_TRUE(places[0]->isWanted());
+    store.discard(0, true);
+    EXPECT_FALSE(places[1]->isWanted());
+    store.toggleSelection(store.items()[1]);
+    store.removeSelected();
+    EXPECT_FALSE(places[2]->isWanted());
+    EXPECT_TRUE(places[3]->isWanted());
+    store.clearAll();
+    EXPECT_FALSE(places[3]->isWanted());
+    EXPECT_TRUE(places[0]->isWanted());
 }
 
 TEST_F(Thumbnails, AndPreviewsMayComeAfterTheStoreIsGone)

@@ -63,7 +63,7 @@ protected:
         start();
         ASSERT_TRUE(dropOffers({{"image/png", aPicture()}}));
         ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-        ASSERT_EQ(corvane().spooled(), QStringList{u"Image.png"_s});
+        ASSERT_TRUE(eventually([&] { return corvane().spooled() == QStringList{u"Image.png"_s}; }));
     }
     /// Everything below the desktop's folder.
     QStringList filesOfTheUser() const

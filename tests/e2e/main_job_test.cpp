@@ -123,7 +123,7 @@ TEST_P(MainJob, aTiffPictureBecomesAPngThatEndsWithTheProgram)
 
     dragFromFileManager(source);
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-    ASSERT_EQ(corvane().spooled(), QStringList{u"scan.png"_s});
+    ASSERT_TRUE(eventually([&] { return corvane().spooled() == QStringList{u"scan.png"_s}; }));
     const QImage kept(corvane().spool() + u"/scan.png"_s, "png");
     EXPECT_EQ(kept.convertToFormat(QImage::Format_RGB32), picture);
 

@@ -300,7 +300,7 @@ TEST_P(ViewAllItems, deleteRemovesWhatIsTickedAndItsSpooledFiles)
     ASSERT_TRUE(dropOffers({{"image/png", png}}));
     ASSERT_TRUE(dropFiles(makeFiles(2)));
     ASSERT_TRUE(holds(3));
-    ASSERT_EQ(corvane().spooled().size(), 1);
+    ASSERT_TRUE(eventually([&] { return corvane().spooled().size() == 1; }));
 
     ASSERT_TRUE(openFromButton(3));
     clickInBar(tile(2, 3));

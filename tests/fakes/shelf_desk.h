@@ -2,8 +2,11 @@
 
 #include "core/drag_writer.h"
 #include "core/image_converter.h"
+#include "core/item_preparation.h"
 #include "core/pasteboard_ingest.h"
+#include "core/picture_items.h"
 #include "core/remote_descriptions.h"
+#include "core/remote_pictures.h"
 #include "core/scratch_spool.h"
 #include "fakes/fake_file_locality.h"
 #include "fakes/fake_image_codec.h"
@@ -13,11 +16,13 @@
 #include "fakes/fake_pasteboard.h"
 #include "fakes/fake_remote_files.h"
 #include "fakes/fake_text_measurer.h"
+#include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
 #include "shelf/layer_animator.h"
 #include "shelf/shelf_view.h"
 #include "shelf/theme.h"
 
+#include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QTemporaryDir>
@@ -35,7 +40,8 @@ struct ShelfDesk {
 
     ShelfView::Context context()
     {
-        return {panel, clock, motion, theme, animator, *m_measurer, keyboard, ingest, dragWriter};
+        return {panel,       clock,    motion, theme,      animator,
+                *m_measurer, keyboard, ingest, dragWriter, preparation};
     }
 
     static DropItem fileItem(const QString &name, const QString &subtitle = QStringLiteral("TXT"))
@@ -46,6 +52,15 @@ struct ShelfDesk {
     static DropItem textItem(const QString &text)
     {
         return {DropItem::Text{text}, text, QStringLiteral("5 characters"), false};
+    }
+
+    /// A file that is there.
+    QUrl writtenFile(const QByteArray &name, const QByteArray &contents) const
+    {
+        QFile file(temporary.filePath(QString::fromUtf8(name)));
+        if (file.open(QFile::WriteOnly))
+            file.write(contents);
+        return QUrl::fromLocalFile(file.fileName());
     }
 
     /// Gives the panel the frame that the view wants, as its controller does.
@@ -75,11 +90,15 @@ struct ShelfDesk {
     FakeKeyboard keyboard;
     FakeImageCodec codec;
     ScratchSpool spool{temporary.path().toUtf8(), 4711};
-    ImageConverter converter{codec, spool};
+    ImageConverter converter{codec};
+    FakeWorkQueue work;
+    ItemPreparation preparation{spool, clock, work};
+    PictureItems pictures{spool, converter, codec, preparation};
     FakeFileLocality locality;
     FakeRemoteFiles remoteFiles;
     RemoteDescriptions remoteDescriptions{remoteFiles};
-    PasteboardIngest ingest{spool, converter, codec, locality, remoteDescriptions};
+    RemotePictures remotePictures{remoteFiles, pictures};
+    PasteboardIngest ingest{spool, pictures, locality, remoteDescriptions, remotePictures};
     DragWriter dragWriter{Qt::gray, [](QPainter &, PhosphorIcon, const QRectF &) {}};
     LayerAnimator animator;
     Theme theme;

@@ -60,6 +60,12 @@ QList<DropItem> sampleItems()
     };
 }
 
+DropItem beingMade(const QString &name)
+{
+    return DropItem::beingMade({QUrl::fromLocalFile(QStringLiteral("/nowhere/") + name)}, name,
+                               QStringLiteral("Converting to PNG…"), {});
+}
+
 ShelfSnapshot occupied(const QList<DropItem> &items, int inView, int focused)
 {
     ShelfSnapshot snapshot;
@@ -165,6 +171,20 @@ TEST_F(ShelfImages, OneItemShowsItsDetailsAndActions)
                                    onDesktop(Wallpaper::Dark, 1.5)));
     EXPECT_TRUE(matchesGoldenImage(QStringLiteral("one-item-copy-hovered-light-1x.png"),
                                    onDesktop(Wallpaper::Light, 1)));
+}
+
+TEST_F(ShelfImages, APictureThatIsBeingMadeSaysSo)
+{
+    const DropItem page = beingMade(QStringLiteral("contract page 1.png"));
+    show(occupied({page}, 1, 0));
+    EXPECT_TRUE(matchesGoldenImage(QStringLiteral("being-made-single-dark-2x.png"),
+                                   onDesktop(Wallpaper::Dark, 2)));
+    const QList<DropItem> items = sampleItems();
+    show(occupied({items[0], page, items[2]}, 3, 1));
+    EXPECT_TRUE(matchesGoldenImage(QStringLiteral("being-made-carousel-light-1x.png"),
+                                   onDesktop(Wallpaper::Light, 1)));
+    EXPECT_TRUE(matchesGoldenImage(QStringLiteral("being-made-carousel-light-2x.png"),
+                                   onDesktop(Wallpaper::Light, 2)));
 }
 
 TEST_F(ShelfImages, ALongTitleEndsInAnEllipsis)

@@ -156,7 +156,7 @@ protected:
     QList<DropItem> items = sampleItems();
     QSet<QUuid> selection;
     ViewAllView view{{desk.panel, desk.clock, desk.motion, desk.theme, desk.keyboard,
-                      desk.dragWriter, desk.spool}};
+                      desk.dragWriter, desk.spool, desk.preparation}};
 };
 
 } // namespace
@@ -194,6 +194,22 @@ TEST_F(ViewAllImages, APageOfItemsSomeOfThemTicked)
                 onDesktop(kind, scale)));
         }
     }
+}
+
+TEST_F(ViewAllImages, PicturesThatAreBeingMade)
+{
+    const auto beingMade = [](const QString &name) {
+        return DropItem::beingMade({QUrl::fromLocalFile(QStringLiteral("/nowhere/") + name)}, name,
+                                   {}, {});
+    };
+    items = items.first(2);
+    items << beingMade(QStringLiteral("page 1.png")) << beingMade(QStringLiteral("page 2.png"));
+    select({0, 2});
+    show();
+    EXPECT_TRUE(matchesGoldenImage(QStringLiteral("view-all-being-made-light-2x.png"),
+                                   onDesktop(Wallpaper::Light, 2)));
+    EXPECT_TRUE(matchesGoldenImage(QStringLiteral("view-all-being-made-dark-1x.png"),
+                                   onDesktop(Wallpaper::Dark, 1)));
 }
 
 TEST_F(ViewAllImages, TwoItemsAllTickedWithAButtonHovered)

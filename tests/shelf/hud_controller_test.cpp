@@ -386,6 +386,39 @@ TEST_F(HUDControllerTest, GesturesBecomeOperationsOfTheStore)
     EXPECT_EQ(store.items().size(), 2);
 }
 
+TEST_F(HUDControllerTest, APictureThatIsBeingMadeIsPreviewedByTheFileThatItIsMadeFrom)
+{
+    const DropItem::File place{QUrl(QStringLiteral("file:///spool/a.png"))};
+    const QUrl original(QStringLiteral("file:///home/a.tiff"));
+    store.accept({DropItem::beingMade(place, QStringLiteral("a.png"), {}, original)});
+    view().onQuickLook();
+    EXPECT_EQ(presenter.titles, QStringList{QStringLiteral("a.png")});
+}
+
+TEST_F(HUDControllerTest, APictureWithoutAFileIsPreviewedOnceItHasOne)
+{
+    const auto finish = [this] {
+        desk.work.runAll();
+        desk.clock.runPending();
+    };
+    const auto drop = [this] { store.accept({desk.pictures.ofBytes("png", UTType::png())}); };
+    drop();
+    view().onQuickLook();
+    EXPECT_TRUE(presenter.titles.isEmpty()) << "there is nothing to look at yet";
+    finish();
+    EXPECT_EQ(presenter.titles, QStringList{QStringLiteral("Image.png")});
+    drop();
+    view().onQuickLook();
+    view().onQuickLook();
+    finish();
+    EXPECT_EQ(presenter.titles.size(), 1) << "it was taken back";
+    drop();
+    view().onQuickLook();
+    store.focus(0);
+    finish();
+    EXPECT_EQ(presenter.titles.size(), 1) << "the user looks at another one";
+}
+
 TEST_F(HUDControllerTest, OptionCopiesAsADataUri)
 {
     accept(1);

@@ -510,6 +510,38 @@ TEST_F(ShelfViewTest, AFileThatIsGoneIsNotDraggedAndTheUserIsTold)
     EXPECT_TRUE(log.isEmpty());
 }
 
+TEST_F(ShelfViewTest, APictureThatIsBeingMadeIsDraggedAndHandedOverOnceItIsReady)
+{
+    desk.codec.teach("tiff bytes", {3, 2});
+    const DropItem item = *desk.pictures.ofTiffFile(desk.writtenFile("scan.tiff", "tiff bytes"));
+    ShelfSnapshot snapshot = holding(1, 1);
+    snapshot.visible[0].second = item;
+    show(snapshot);
+    press(middleOf(0));
+    view.mouseDragged({middleOf(0) + QPointF(9, 0)});
+    ASSERT_TRUE(desk.panel.dragOut);
+    ASSERT_TRUE(desk.panel.dragOut->whenReady);
+    std::optional<PasteboardContents> handedOver;
+    desk.panel.dragOut->whenReady(
+        [&](const std::optional<PasteboardContents> &contents) { handedOver = contents; });
+    EXPECT_FALSE(handedOver);
+    desk.work.runAll();
+    desk.clock.runPending();
+    ASSERT_TRUE(handedOver);
+    const QUrl url = std::get<PasteboardWriter::File>(handedOver->writers.at(0).content).url;
+    EXPECT_EQ(url, std::get<DropItem::File>(item.payload()).url);
+    EXPECT_TRUE(QFile::exists(url.toLocalFile()));
+}
+
+TEST_F(ShelfViewTest, WhatIsReadyIsHandedOverAtOnce)
+{
+    show(holding(1, 1));
+    press(middleOf(0));
+    view.mouseDragged({middleOf(0) + QPointF(9, 0)});
+    ASSERT_TRUE(desk.panel.dragOut);
+    EXPECT_FALSE(desk.panel.dragOut->whenReady);
+}
+
 TEST_F(ShelfViewTest, OnlyOneDragOutRunsAtATime)
 {
     show(holding(5, 3));

@@ -36,7 +36,7 @@ protected:
     ViewAllView::Context context()
     {
         return {desk.panel,    desk.clock,      desk.motion, desk.theme,
-                desk.keyboard, desk.dragWriter, desk.spool};
+                desk.keyboard, desk.dragWriter, desk.spool,  desk.preparation};
     }
     void hold(int count)
     {
@@ -440,6 +440,29 @@ TEST_F(ViewAllViewTest, oneItemDragsItsPictureAndSeveralAStack)
     const QSizeF size = desk.panel.dragOut->image.size;
     EXPECT_GT(size.width(), 64);
     EXPECT_EQ(desk.panel.dragOut->hotSpot, QPointF(size.width() / 2, size.height() / 2));
+}
+
+TEST_F(ViewAllViewTest, picturesThatAreBeingMadeAreHandedOverWithTheOthersOnceTheyAreReady)
+{
+    desk.codec.teach("tiff bytes", {3, 2});
+    hold(2);
+    items << *desk.pictures.ofTiffFile(desk.writtenFile("scan.tiff", "tiff bytes"));
+    view->apply(items, selection, 0);
+    select({0, 2});
+    drag(middleOf(2));
+    ASSERT_TRUE(desk.panel.dragOut);
+    ASSERT_TRUE(desk.panel.dragOut->whenReady);
+    std::optional<PasteboardContents> handedOver;
+    desk.panel.dragOut->whenReady(
+        [&](const std::optional<PasteboardContents> &contents) { handedOver = contents; });
+    EXPECT_FALSE(handedOver);
+    desk.work.runAll();
+    desk.clock.runPending();
+    ASSERT_TRUE(handedOver);
+    ASSERT_EQ(handedOver->writers.size(), 2U);
+    const QUrl url = std::get<PasteboardWriter::File>(handedOver->writers[1].content).url;
+    EXPECT_EQ(url.fileName(), QStringLiteral("scan.png"));
+    EXPECT_TRUE(QFile::exists(url.toLocalFile()));
 }
 
 TEST_F(ViewAllViewTest, noSecondDragBeginsWhileOneGoesOn)

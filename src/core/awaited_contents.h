@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/drop_item.h"
+#include "platform/panel_window.h"
+
+namespace corvane {
+
+class ItemPreparation;
+
+/// What a drag-out hands over once the items that are still being made when it begins are ready;
+/// empty when none is. `contents` has one writer for each of `items`. Where one of these is removed
+/// meanwhile, or becomes something else than was announced, nothing is handed over at all, so that
+/// no target takes a part for the whole.
+std::function<void(DragOut::Ready)> awaitedContents(const PasteboardContents &contents,
+                                                    const QList<DropItem> &items,
+                                                    ItemPreparation &preparation);
+
+} // namespace corvane

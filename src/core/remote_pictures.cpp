@@ -1,0 +1,57 @@
+#include "core/remote_pictures.h"
+
+#include "core/picture_items.h"
+#include "platform/file_url.h"
+#include "platform/remote_files.h"
+
+#include <utility>
+
+namespace corvane {
+
+RemotePictures::RemotePictures(RemoteFiles &files, const PictureItems &pictures)
+    : m_files(files)
+    , m_pictures(pictures)
+{
+}
+
+RemotePictures::~RemotePictures() = default;
+
+void RemotePictures::convert(const DropItem &item)
+{
+    const bool isFirst = m_waiting.empty() && !m_isBusy;
+    m_waiting.push_back(item);
+    if (isFirst)
+        fetchNext();
+}
+
+void RemotePictures::fetchNext()
+{
+    m_isBusy = !m_waiting.empty();
+    if (!m_isBusy)
+        return;
+    const DropItem item = m_waiting.front();
+    m_waiting.pop_front();
+    const auto goOn = [weak = std::weak_ptr(m_self)] {
+        const auto self = weak.lock();
+        if (!self)
+            return;
+        std::erase_if((*self)->m_waiting,
+                      [&](const DropItem &waiting) { return !(*self)->wants(waiting.id()); });
+        (*self)->fetchNext();
+    };
+    m_files.read(file_url::nativePath(std::get<DropItem::File>(item.payload()).url), maximumBytes,
+                 [weak = std::weak_ptr(m_self), item, goOn](const std::optional<QByteArray> &data) {
+                     const auto self = weak.lock();
+                     if (!self)
+                         return;
+                     const auto isStillWanted = [weak, id = item.id()] {
+                         const auto owner = weak.lock();
+                         return owner && (*owner)->wants(id);
+                     };
+                     if (!data || !isStillWanted()
+                         || !(*self)->m_pictures.convertFetched(item, *data, isStillWanted, goOn))
+                         goOn();
+                 });
+}
+
+} // namespace corvane

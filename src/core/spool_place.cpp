@@ -1,0 +1,29 @@
+#include "core/spool_place.h"
+
+#include "platform/file_url.h"
+#include "platform/private_file.h"
+
+#include <unistd.h>
+
+#include <utility>
+
+namespace corvane {
+
+SpoolPlace::SpoolPlace(QUrl url)
+    : m_url(std::move(url))
+{
+}
+
+bool SpoolPlace::write(const QByteArray &data) const
+{
+    const QByteArray path = file_url::nativePath(m_url);
+    if (!isWanted() || !private_file::create(path, data))
+        return false;
+    if (isWanted())
+        return true;
+    // Discarded while it was being written.
+    ::unlink(path.constData());
+    return false;
+}
+
+} // namespace corvane

@@ -1,0 +1,127 @@
+// Large TIFF pictures, which take seconds to be converted.
+
+#include "e2e/desktop_test.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QImage>
+#include <QUrl>
+
+#include <gmock/gmock.h>
+
+namespace corvane::e2e {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// A scanned page, as large as converting it must take longer than answering a drop.
+class Conversion : public DesktopTest {
+protected:
+    Conversion()
+    {
+        m_page.fill(qRgb(235, 232, 223));
+        // Noise, which makes it slow to pack.
+        std::uint32_t state = 1;
+        for (int y = 0; y < m_page.height(); ++y) {
+            auto *line = reinterpret_cast<QRgb *>(m_page.scanLine(y));
+            for (int x = 0; x < m_page.width(); ++x) {
+                state = state * 1664525U + 1013904223U;
+                line[x] ^= state >> 28U;
+            }
+        }
+    }
+
+    QString makePage(const QString &name)
+    {
+        const QString path = makeFile(name, {});
+        EXPECT_TRUE(m_page.save(path, "tiff"));
+        return path;
+    }
+    bool isThePage(const QString &path) const
+    {
+        return QImage(path, "png").convertToFormat(m_page.format()) == m_page;
+    }
+
+    /// Drops something, and whether no picture was there when the drop had been answered.
+    testing::AssertionResult dropAndLook(const QList<XdndSource::Offer> &offers)
+    {
+        XdndSource source(m_desktop, offers);
+        source.pickUp();
+        if (!corvane().waitForSize(CorvaneProgram::empty))
+            return testing::AssertionFailure() << "the shelf did not open";
+        const auto status = source.hover(corvane().panel().value_or(WindowFacts{}).id, dropPoint());
+        if (!status || !status->accepts)
+            return testing::AssertionFailure() << "the shelf refused";
+        source.drop();
+        const auto finish = source.waitForFinish();
+        if (!finish || !finish->accepts)
+            return testing::AssertionFailure() << "the drop was not finished well";
+        const QStringList there = corvane().spooled();
+        return there.isEmpty()
+            ? testing::AssertionSuccess()
+            : testing::AssertionFailure() << there.join(u' ').toStdString() << " was there first";
+    }
+
+    QImage m_page{2480, 3508, QImage::Format_RGB32};
+};
+
+TEST_F(Conversion, aLargeTiffIsAnsweredAtOnceAndBecomesAPngLater)
+{
+    const QString page = makePage(u"page.tiff"_s);
+    start();
+    ASSERT_TRUE(dropAndLook({{"text/uri-list", uriList({page})}}));
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight)) << "it stands there";
+    // It can be used like any other: its name is the final one.
+    focusShelf(corvane().at(38, 22));
+    hands().key('c', {keys::control});
+    const QByteArray made = QString(corvane().spool() + u"/page.png").toUtf8();
+    EXPECT_EQ(clipboardText(made), made);
+    ASSERT_TRUE(eventually([&] { return corvane().spooled() == QStringList{u"page.png"_s}; }));
+    EXPECT_TRUE(isThePage(QString::fromUtf8(made)));
+}
+
+TEST_F(Conversion, aLargeTiffFromMemoryIsAnsweredAtOnce)
+{
+    QByteArray tiff;
+    QBuffer buffer(&tiff);
+    ASSERT_TRUE(m_page.save(&buffer, "tiff"));
+    start();
+    ASSERT_TRUE(dropAndLook({{"image/tiff", tiff}}));
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    ASSERT_TRUE(eventually([&] { return corvane().spooled() == QStringList{u"Image.png"_s}; }));
+    EXPECT_TRUE(isThePage(corvane().spool() + u"/Image.png"_s));
+}
+
+TEST_F(Conversion, whatIsRemovedMeanwhileLeavesNothing)
+{
+    const QString page = makePage(u"page.tiff"_s);
+    const QString next = makePage(u"next.tiff"_s);
+    start();
+    ASSERT_TRUE(dropAndLook({{"text/uri-list", uriList({page})}}));
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    focusShelf(corvane().at(38, 22));
+    hands().key(keys::forwardDelete);
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    ASSERT_TRUE(dropFiles({next}));
+    // What was begun before has ended by then, one way or another.
+    ASSERT_TRUE(eventually([&] { return corvane().spooled().contains(u"next.png"_s); }));
+    EXPECT_TRUE(eventually([&] { return corvane().spooled() == QStringList{u"next.png"_s}; }));
+    EXPECT_TRUE(QFile::exists(page));
+}
+
+TEST_F(Conversion, aBrokenTiffStaysWhatItIs)
+{
+    const QString broken = makeFile(u"broken.tiff"_s, QByteArray("II*\0\x08\0\0\0 broken", 15));
+    start();
+    ASSERT_TRUE(dropFiles({broken}));
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    focusShelf(corvane().at(38, 22));
+    EXPECT_TRUE(eventually([&] {
+        hands().key('c', {keys::control});
+        return m_desktop.clipboard(u"text/plain"_s) == broken.toUtf8();
+    }));
+    EXPECT_EQ(corvane().spooled(), QStringList());
+}
+
+} // namespace
+} // namespace corvane::e2e
