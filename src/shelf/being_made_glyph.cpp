@@ -14,8 +14,8 @@ namespace {
 
 constexpr double glyphOpacity = 0.34;
 /// Of the glyph's side.
-constexpr double dotShare = 0.078;
-constexpr double dotStepShare = 0.24;
+constexpr double dotShare = 0.105;
+constexpr double dotStepShare = 0.28;
 constexpr double dotDropShare = 0.2;
 
 } // namespace

@@ -7,8 +7,6 @@
 #include <QImage>
 #include <QUrl>
 
-#include <gmock/gmock.h>
-
 namespace corvane::e2e {
 namespace {
 
