@@ -6,6 +6,11 @@
 #include <QStringList>
 
 #include <gtest/gtest.h>
+#include <sys/socket.h>
+
+#include <csignal>
+#include <future>
+#include <thread>
 
 namespace corvane::test {
 
@@ -44,6 +49,32 @@ TEST_F(X11ConnectionTest, theServersTimeNeverRunsBackwards)
     const xcb_timestamp_t first = connection.serverTime();
     EXPECT_NE(first, xcb_timestamp_t{XCB_CURRENT_TIME});
     EXPECT_GE(connection.serverTime(), first);
+}
+
+TEST_F(X11ConnectionTest, aServerThatStandsStillIsNotWaitedForAndItsLateAnswerIsNoLaterTime)
+{
+    connection.serverTime();
+    ucred server = {};
+    socklen_t size = sizeof server;
+    ASSERT_EQ(::getsockopt(xcb_get_file_descriptor(connection.get()), SOL_SOCKET, SO_PEERCRED,
+                           &server, &size),
+              0);
+    ASSERT_EQ(::kill(server.pid, SIGSTOP), 0);
+    std::promise<void> answered;
+    bool isAnsweredInTime = false;
+    // Whatever happens the server goes on, or this test would never end.
+    std::thread rescue([&, answer = answered.get_future()] {
+        isAnsweredInTime = answer.wait_for(std::chrono::seconds{20}) == std::future_status::ready;
+        ::kill(server.pid, SIGCONT);
+    });
+    const xcb_timestamp_t late = connection.serverTime();
+    answered.set_value();
+    rescue.join();
+    EXPECT_TRUE(isAnsweredInTime);
+    EXPECT_EQ(late, xcb_timestamp_t{XCB_CURRENT_TIME});
+    const xcb_timestamp_t after = connection.serverTime();
+    EXPECT_NE(after, xcb_timestamp_t{XCB_CURRENT_TIME});
+    EXPECT_GE(connection.serverTime(), after);
 }
 
 TEST_F(X11ConnectionTest, eventsThatComeWhileTheTimeIsAskedForAreHandledAfterwardsInTheirOrder)

@@ -3,8 +3,10 @@
 #include "platform/x11/x11_qt.h"
 
 #include <QAbstractEventDispatcher>
+#include <QDeadlineTimer>
 #include <QSocketNotifier>
 
+#include <poll.h>
 #include <xcb/xfixes.h>
 #include <xcb/xinput.h>
 
@@ -118,14 +120,27 @@ xcb_timestamp_t X11Connection::serverTime()
 {
     makeClock();
     // Nothing is added to it; the server tells when that happened.
-    xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_clock, XCB_ATOM_WM_NAME,
-                        XCB_ATOM_STRING, 8, 0, nullptr);
+    const auto asked = xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_clock,
+                                           XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, nullptr);
     flush();
-    while (X11Reply<xcb_generic_event_t> event{xcb_wait_for_event(m_connection)}) {
+    const QDeadlineTimer deadline(timePatience);
+    while (isConnected()) {
+        X11Reply<xcb_generic_event_t> event(xcb_poll_for_event(m_connection));
+        if (!event) {
+            pollfd waiting = {xcb_get_file_descriptor(m_connection), POLLIN, 0};
+            const int patience = static_cast<int>(deadline.remainingTime());
+            if (patience <= 0 || ::poll(&waiting, 1, patience) == 0)
+                break;
+            continue;
+        }
         const auto &news = reinterpret_cast<const xcb_property_notify_event_t &>(*event);
-        if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && news.window == m_clock)
+        const bool isOurs
+            = (event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && news.window == m_clock;
+        // An answer to an earlier question, which was not waited for, tells an earlier time.
+        if (isOurs && event->full_sequence == asked.sequence)
             return news.time;
-        m_setAside.push_back(std::move(event));
+        if (!isOurs)
+            m_setAside.push_back(std::move(event));
     }
     return XCB_CURRENT_TIME;
 }

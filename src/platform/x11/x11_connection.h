@@ -45,8 +45,12 @@ public:
     /// Whether the server keeps pointer barriers and tells who runs against them.
     bool hasPointerBarriers() const { return m_hasPointerBarriers; }
 
-    /// The server's time at this moment, by asking it; none once it is gone. Events that come
-    /// before the answer are handled afterwards, in their order.
+    /// Milliseconds that a busy server may take to tell its time.
+    static constexpr int timePatience = 100;
+
+    /// The server's time at this moment, by asking it; `XCB_CURRENT_TIME`, which means the same to
+    /// the server where nobody else is in between, once it is gone or does not answer. Events that
+    /// come before the answer are handled afterwards, in their order.
     xcb_timestamp_t serverTime();
 
     /// Every event of this connection goes to every listener, in the order they were added. A
