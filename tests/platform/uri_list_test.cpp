@@ -58,6 +58,11 @@ TEST(UriList, decodesPercentCodesOnce)
 {
     EXPECT_EQ(pathsOf("file:///a%20b/%23%3F%25"), QByteArrayList({"/a b/#?%"}));
     EXPECT_EQ(pathsOf("file:///100%2525"), QByteArrayList({"/100%25"}));
+    // The parentheses take it the long way; what ends it is a code.
+    EXPECT_EQ(pathsOf("file:///Lied%20(live)%20%C3%A9"), QByteArrayList({"/Lied (live) \xC3\xA9"}));
+    EXPECT_EQ(pathsOf("file:///Lied%20(live)%20%C3%A9\r\nfile:///(%25"),
+              QByteArrayList({"/Lied (live) \xC3\xA9", "/(%"}));
+    EXPECT_EQ(pathsOf("file:///(%4"), QByteArrayList({"/(%4"}));
     EXPECT_EQ(pathsOf("file:///%F0%9F%98%80.txt"), QByteArrayList({"/\xF0\x9F\x98\x80.txt"}));
 }
 
@@ -149,6 +154,21 @@ TEST(PasteboardText, isDecodedByItsBytes)
     EXPECT_EQ(pasteboard_text::decoded("a\r\nb\n"), QStringLiteral("a\r\nb\n"));
 }
 
+TEST(PasteboardText, inUtf16WithoutAMarkShowsItsByteOrder)
+{
+    const auto text = QStringLiteral("中 é\nx");
+    const auto declared = QStringLiteral("text/plain;charset=utf-16");
+    for (const auto encoding : {QStringConverter::Utf16LE, QStringConverter::Utf16BE}) {
+        const QByteArray bytes = utf16(text, encoding, false);
+        EXPECT_EQ(pasteboard_text::decoded(bytes), text);
+        EXPECT_EQ(pasteboard_text::decoded(bytes + QByteArray(2, '\0')), text);
+        EXPECT_EQ(pasteboard_text::decoded(bytes, declared), text);
+        EXPECT_EQ(pasteboard_text::decoded(utf16(text, encoding, true), declared), text);
+    }
+    EXPECT_EQ(pasteboard_text::decoded(QByteArray("abc\0", 4)), QStringLiteral("abc"));
+    EXPECT_EQ(pasteboard_text::decoded(QByteArray("a\0b", 3)), QString::fromLatin1("a\0b", 3));
+}
+
 TEST(PasteboardText, isDecodedByItsCharacterSet)
 {
     const auto latin = QStringLiteral("text/plain;charset=ISO-8859-1");
@@ -157,6 +177,14 @@ TEST(PasteboardText, isDecodedByItsCharacterSet)
     EXPECT_EQ(pasteboard_text::decoded(QByteArray("\xFF\xFEx\0", 4), wide), QStringLiteral("x"));
     const auto unknown = QStringLiteral("text/plain;charset=klingon");
     EXPECT_EQ(pasteboard_text::decoded("x", unknown), QStringLiteral("x"));
+    const auto euro = QStringLiteral("text/plain;charset=iso-8859-15");
+    EXPECT_EQ(pasteboard_text::decoded("\xA4", euro), QStringLiteral("€"));
+    const auto japanese = QStringLiteral("text/plain;charset=Shift_JIS");
+    EXPECT_EQ(pasteboard_text::decoded("\x93\xFA", japanese), QStringLiteral("日"));
+    EXPECT_EQ(pasteboard_text::decoded("caf\xE9\xFF", japanese), QStringLiteral("caféÿ"))
+        << "what is none of it";
+    const auto path = QStringLiteral("text/plain;charset=../../tmp/x//IGNORE");
+    EXPECT_EQ(pasteboard_text::decoded("x", path), QStringLiteral("x"));
     const auto wrong = QStringLiteral("text/plain;charset=utf-8");
     EXPECT_EQ(pasteboard_text::decoded("caf\xE9", wrong), QStringLiteral("café"));
 }
