@@ -35,6 +35,7 @@ void AppDelegate::applicationDidFinishLaunching()
     m_statusItem = std::make_unique<StatusItemController>(StatusItemController::Context{
         m_context.statusItem, m_context.store, m_context.settings, m_context.hud.view.queue,
         m_context.terminate, m_context.updater});
+    wireAwaitedDrops();
     wireDragDetection();
     wireHotKey();
     wireMenu();
@@ -51,6 +52,7 @@ void AppDelegate::wireDragDetection()
             return;
         ShelfStore &store = m_context.store;
         store.setDragInFlight(true);
+        m_isDragEndOwed = false;
         // An open shelf is told by its items that it may take a drop now.
         if (store.state() == ShelfState::Idle)
             store.setState(ShelfState::Expanded);
@@ -58,10 +60,23 @@ void AppDelegate::wireDragDetection()
             store.publishItems();
     };
     monitor.onDragEnded = [this, alive] {
-        if (!alive.expired())
+        if (alive.expired())
+            return;
+        // An empty shelf would close under what was dropped on it and is still on its way.
+        m_isDragEndOwed = m_isAwaitingDrop && m_context.store.items().isEmpty();
+        if (!m_isDragEndOwed)
             m_context.store.dragEnded();
     };
     monitor.start();
+}
+
+void AppDelegate::wireAwaitedDrops()
+{
+    m_hud->onAwaitsDrop = [this](bool isAwaiting) {
+        m_isAwaitingDrop = isAwaiting;
+        if (!isAwaiting && std::exchange(m_isDragEndOwed, false))
+            m_context.store.dragEnded();
+    };
 }
 
 void AppDelegate::wireHotKey()

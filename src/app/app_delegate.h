@@ -64,6 +64,7 @@ public:
 
 private:
     void wireDragDetection();
+    void wireAwaitedDrops();
     void wireHotKey();
     void wireMenu();
     void wireEdge();
@@ -73,6 +74,9 @@ private:
     std::unique_ptr<EdgeSummoner> m_edge;
     std::unique_ptr<StatusItemController> m_statusItem;
     bool m_isTerminated = false;
+    bool m_isAwaitingDrop = false;
+    /// The drag has ended, and the store will hear of it when its contents are here.
+    bool m_isDragEndOwed = false;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };
 

@@ -20,7 +20,7 @@ namespace {
 const QStringList plainTextTypes = {
     QStringLiteral("text/plain"),  QStringLiteral("text/plain;charset=utf-8"),
     QStringLiteral("UTF8_STRING"), QStringLiteral("STRING"),
-    QStringLiteral("TEXT"),
+    QStringLiteral("TEXT"),        QStringLiteral("text/unicode"),
 };
 
 bool isPlainText(const QString &type)
@@ -84,15 +84,25 @@ QStringList PasteboardIngest::acceptedTypes()
     + plainTextTypes + QStringList{QStringLiteral("application/rtf"), QStringLiteral("text/rtf")};
 }
 
-bool PasteboardIngest::canRead(Pasteboard &pasteboard)
+bool PasteboardIngest::needsAddresses(const QStringList &types)
 {
-    const QStringList types = pasteboard.types();
-    const bool offersContents = std::any_of(types.begin(), types.end(), [](const QString &type) {
+    return std::none_of(types.begin(), types.end(), [](const QString &type) {
         return type.compare(UTType::png().identifier(), Qt::CaseInsensitive) == 0
             || type.compare(UTType::tiff().identifier(), Qt::CaseInsensitive) == 0
             || isPlainText(type);
     });
-    return offersContents || !pasteboard.fileUrls().isEmpty() || webLink(pasteboard);
+}
+
+bool PasteboardIngest::canRead(Pasteboard &pasteboard)
+{
+    return !needsAddresses(pasteboard.types()) || !pasteboard.fileUrls().isEmpty()
+        || webLink(pasteboard);
+}
+
+std::optional<QUrl> PasteboardIngest::placeForPromisedFile(const QString &name) const
+{
+    const item_description::FileName wanted(name);
+    return m_spool.reserve(wanted.stem(), wanted.extension);
 }
 
 QList<DropItem> PasteboardIngest::readAll(Pasteboard &pasteboard) const
@@ -147,25 +157,19 @@ DropItem PasteboardIngest::fileItem(const QUrl &url,
 /// A browser that can save the original file gives more than its pixels.
 std::optional<DropItem> PasteboardIngest::promisedFileItem(Pasteboard &pasteboard) const
 {
-    const auto promised = pasteboard.promisedFileName();
-    if (!promised)
+    const auto file = pasteboard.promisedFile();
+    if (!file)
         return std::nullopt;
-    const item_description::FileName name(*promised);
-    const auto destination = m_spool.reserve(name.stem(), name.extension);
-    if (!destination)
-        return std::nullopt;
-    const bool isSaved = pasteboard.receivePromisedFile(*destination)
-        && item_description::isRegularFile(*destination);
-    if (!isSaved) {
-        m_spool.discard(*destination);
+    if (!item_description::isRegularFile(*file)) {
+        m_spool.discard(*file);
         return std::nullopt;
     }
-    if (UTType::forFilenameExtension(name.extension).isTiff()) {
-        if (const auto picture = m_pictures.ofSpooledTiff(*destination))
+    if (UTType::forFilenameExtension(item_description::FileName(*file).extension).isTiff()) {
+        if (const auto picture = m_pictures.ofSpooledTiff(*file))
             return *picture;
     }
-    return DropItem(DropItem::File{*destination}, file_url::lastPathComponent(*destination),
-                    PictureItems::describe(*destination), true);
+    return DropItem(DropItem::File{*file}, file_url::lastPathComponent(*file),
+                    PictureItems::describe(*file), true);
 }
 
 std::optional<DropItem> PasteboardIngest::imageItem(Pasteboard &pasteboard) const

@@ -37,6 +37,13 @@ public:
     /// it is enough that they are offered, so that nothing large is fetched before the drop.
     static bool canRead(Pasteboard &pasteboard);
 
+    /// Whether `canRead` depends on the addresses of a drag that offers these types.
+    static bool needsAddresses(const QStringList &types);
+
+    /// Where a source may write the file that it promises under that name, a stranger's text; none
+    /// when there is no safe place.
+    std::optional<QUrl> placeForPromisedFile(const QString &name) const;
+
     /// The items of one drop: files, else a picture, else a link, else text; perhaps none.
     QList<DropItem> readAll(Pasteboard &pasteboard) const;
 

@@ -6,6 +6,8 @@
 
 #include <QPainterPath>
 #include <QRectF>
+#include <QStringList>
+#include <QUrl>
 
 #include <functional>
 #include <optional>
@@ -36,6 +38,19 @@ public:
     virtual DragOperation draggingEntered(const DraggingInfo &info) = 0;
     virtual DragOperation draggingUpdated(const DraggingInfo &info) = 0;
     virtual void draggingExited() = 0;
+    /// Whether the answer to a drag that offers these types depends on the addresses it carries.
+    /// They are fetched before `draggingEntered` then; other contents are not there yet in it.
+    virtual bool needsAddresses(const QStringList & /*types*/) const { return false; }
+    /// The drag was let go here, and its contents are on their way, which may take long. Followed
+    /// by exactly one `performDragOperation` once they are here, perhaps with none; other drags may
+    /// come and go between the two.
+    virtual void dropIsAwaited() { }
+    /// Where a file of that name, a stranger's text, may be written for the drop that is awaited;
+    /// none where nowhere.
+    virtual std::optional<QUrl> placeForPromisedFile(const QString & /*name*/)
+    {
+        return std::nullopt;
+    }
     virtual bool performDragOperation(const DraggingInfo &info) = 0;
     /// After a drop or an exit: the drag is over as far as this panel is concerned.
     virtual void draggingEnded() = 0;

@@ -32,13 +32,9 @@ public:
     /// The plain text, none when there is none.
     virtual std::optional<QString> string() = 0;
 
-    /// The name of a file that the source will write where it is told to (direct save); none
-    /// when it offers no such thing. A stranger's text: make a safe name of it.
-    virtual std::optional<QString> promisedFileName() = 0;
-    /// Has the source write its file to `destination`, whose directory exists, and waits for it to
-    /// be complete, for a bounded time. False when the source refuses or does not deliver; nothing
-    /// is left at `destination` then.
-    virtual bool receivePromisedFile(const QUrl &destination) = 0;
+    /// The file that the source wrote where it was told to (direct save); none when it offered no
+    /// such thing, or did not deliver. It belongs to whoever named the place.
+    virtual std::optional<QUrl> promisedFile() = 0;
 };
 
 } // namespace corvane

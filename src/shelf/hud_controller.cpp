@@ -81,6 +81,10 @@ void HUDController::wireShelf()
         if (onPointerInside)
             onPointerInside(isInside);
     };
+    m_shelf.onAwaitsDrop = [this](bool isAwaiting) {
+        if (onAwaitsDrop)
+            onAwaitsDrop(isAwaiting);
+    };
     m_shelf.onUsed = [this] {
         if (onUsed)
             onUsed();

@@ -65,6 +65,9 @@ public:
     std::function<void()> onViewAll;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
     std::function<void(bool isInside)> onPointerInside;
+    /// Something was dropped here whose contents are still on their way; or the last of them is
+    /// here.
+    std::function<void(bool isAwaiting)> onAwaitsDrop;
     /// A press, a key or a drag that may be dropped here, before anything else comes of it.
     std::function<void()> onUsed;
 
@@ -96,6 +99,9 @@ public:
     DragOperation draggingEntered(const DraggingInfo &info) override;
     DragOperation draggingUpdated(const DraggingInfo &info) override;
     void draggingExited() override;
+    bool needsAddresses(const QStringList &types) const override;
+    void dropIsAwaited() override;
+    std::optional<QUrl> placeForPromisedFile(const QString &name) override;
     bool performDragOperation(const DraggingInfo &info) override;
     void draggingEnded() override;
 
@@ -111,7 +117,7 @@ private:
     void beginDragOut(const DropItem &item, int index, QPointF from);
     QRectF thumbFrame(int index) const;
     void dragOutEnded(DragOperation operation);
-    void setDragTargeted(bool targeted);
+    void updateDragTargeted();
 
     Context m_context;
     LayerTree m_tree;
@@ -125,6 +131,8 @@ private:
     std::optional<QPointF> m_mouseDownPoint;
     std::optional<int> m_mouseDownIndex;
     bool m_refusesDrag = false;
+    bool m_isDragOver = false;
+    int m_awaitedDrops = 0;
     int m_flashToken = 0;
     double m_scrollAccumulator = 0;
     double m_lastScrollTime = 0;

@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QLineF>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <utility>
@@ -85,12 +86,17 @@ void ShelfView::dragOutEnded(DragOperation operation)
         onEjected(*draggedItem, keep);
 }
 
-void ShelfView::setDragTargeted(bool targeted)
+/// What was let go here counts as held over the shelf until it is here: that shows that it comes.
+void ShelfView::updateDragTargeted()
 {
-    if (m_look.isDragTargeted == targeted)
-        return;
-    m_look.isDragTargeted = targeted;
-    relayout();
+    const bool isTargeted = m_isDragOver || m_awaitedDrops > 0;
+    if (std::exchange(m_look.isDragTargeted, isTargeted) != isTargeted)
+        relayout();
+}
+
+bool ShelfView::needsAddresses(const QStringList &types) const
+{
+    return PasteboardIngest::needsAddresses(types);
 }
 
 DragOperation ShelfView::draggingEntered(const DraggingInfo &info)
@@ -101,7 +107,8 @@ DragOperation ShelfView::draggingEntered(const DraggingInfo &info)
         return DragOperation::None;
     if (onUsed)
         onUsed();
-    setDragTargeted(true);
+    m_isDragOver = true;
+    updateDragTargeted();
     return DragOperation::Copy;
 }
 
@@ -113,12 +120,36 @@ DragOperation ShelfView::draggingUpdated(const DraggingInfo & /*info*/)
 
 void ShelfView::draggingExited()
 {
-    setDragTargeted(false);
+    m_isDragOver = false;
+    updateDragTargeted();
+}
+
+void ShelfView::dropIsAwaited()
+{
+    m_isDragOver = false;
+    if (++m_awaitedDrops == 1 && onAwaitsDrop)
+        onAwaitsDrop(true);
+}
+
+std::optional<QUrl> ShelfView::placeForPromisedFile(const QString &name)
+{
+    return m_context.ingest.placeForPromisedFile(name);
 }
 
 bool ShelfView::performDragOperation(const DraggingInfo &info)
 {
-    m_look.isDragTargeted = false;
+    const bool wasAwaited = m_awaitedDrops > 0;
+    if (wasAwaited)
+        --m_awaitedDrops;
+    else
+        m_isDragOver = false;
+    const std::weak_ptr<bool> alive = m_alive;
+    // Whoever waits for it is told in any case.
+    const auto isHere = qScopeGuard([&] {
+        if (!alive.expired() && wasAwaited && m_awaitedDrops == 0 && onAwaitsDrop)
+            onAwaitsDrop(false);
+    });
+    m_look.isDragTargeted = m_isDragOver || m_awaitedDrops > 0;
     const QList<DropItem> items
         = info.isOwn ? QList<DropItem>() : m_context.ingest.readAll(info.pasteboard);
     if (items.isEmpty()) {
@@ -132,7 +163,8 @@ bool ShelfView::performDragOperation(const DraggingInfo &info)
 
 void ShelfView::draggingEnded()
 {
-    setDragTargeted(false);
+    m_isDragOver = false;
+    updateDragTargeted();
 }
 
 } // namespace corvane

@@ -133,6 +133,64 @@ TEST_F(AppDelegateTest, ADragOpensTheShelfAndItsEndClosesIt)
     EXPECT_FALSE(store.isDragInFlight());
 }
 
+TEST_F(AppDelegateTest, AnEmptyShelfStaysOpenForWhatWasDroppedAndIsOnItsWay)
+{
+    drag();
+    desk.panel.content->dropIsAwaited();
+    release();
+    desk.clock.advance(60);
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+    FakePasteboard pasteboard;
+    pasteboard.offerText(QStringLiteral("late"));
+    log.clear();
+    EXPECT_TRUE(desk.panel.content->performDragOperation({pasteboard, {}, false}));
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+    EXPECT_FALSE(store.isDragInFlight());
+    EXPECT_EQ(store.items().size(), 1);
+}
+
+TEST_F(AppDelegateTest, AnEmptyShelfClosesWhenNothingComesOfWhatWasDropped)
+{
+    drag();
+    desk.panel.content->dropIsAwaited();
+    desk.panel.content->dropIsAwaited();
+    release();
+    FakePasteboard nothing;
+    EXPECT_FALSE(desk.panel.content->performDragOperation({nothing, {}, false}));
+    EXPECT_EQ(store.state(), ShelfState::Expanded) << "another one is on its way";
+    EXPECT_FALSE(desk.panel.content->performDragOperation({nothing, {}, false}));
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+    EXPECT_FALSE(store.isDragInFlight());
+}
+
+TEST_F(AppDelegateTest, ADragThatBeginsWhileADropIsOnItsWayEndsByItself)
+{
+    drag();
+    desk.panel.content->dropIsAwaited();
+    release();
+    drag();
+    FakePasteboard nothing;
+    desk.panel.content->performDragOperation({nothing, {}, false});
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+    EXPECT_TRUE(store.isDragInFlight());
+    release();
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, ADropThatComesInTimeIsThereBeforeItsDragEnds)
+{
+    drag();
+    FakePasteboard pasteboard;
+    pasteboard.offerText(QStringLiteral("a"));
+    desk.panel.content->dropIsAwaited();
+    desk.panel.content->performDragOperation({pasteboard, {}, false});
+    EXPECT_TRUE(store.isDragInFlight());
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+    release();
+    EXPECT_FALSE(store.isDragInFlight());
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+}
+
 TEST_F(AppDelegateTest, ADragOverAnOpenShelfTellsTheViewsInstead)
 {
     store.accept({ShelfDesk::textItem(QStringLiteral("a"))});

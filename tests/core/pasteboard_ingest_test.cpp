@@ -43,6 +43,13 @@ struct PasteboardIngestTest : testing::Test, test::TemporarySpool {
         finishWork();
         return ready.value(item.id(), item);
     }
+    /// The source has saved it where it was told to.
+    void promiseFile(const QString &name, const QByteArray &bytes)
+    {
+        const auto place = ingest.placeForPromisedFile(name);
+        ASSERT_TRUE(place);
+        pasteboard.saveFile(*place, bytes);
+    }
     /// The only item of a drop, ready.
     DropItem single() { return finished(singleAtOnce()); }
     /// The same as it stands on the shelf at once.
@@ -114,7 +121,7 @@ TEST_F(Files, WinOverEverythingElse)
 {
     offerPng("png");
     offerText("text");
-    pasteboard.promiseFile(QStringLiteral("a.png"), "x");
+    promiseFile(QStringLiteral("a.png"), "x");
     pasteboard.offerUrls({QUrl(QStringLiteral("http://x/")), temporary.write("a", "x")});
     EXPECT_EQ(fileOf(single()), temporary.url("a"));
     EXPECT_EQ(pasteboard.fetched, QStringList{QStringLiteral("fileUrls")});
@@ -481,7 +488,7 @@ using PromisedFiles = PasteboardIngestTest;
 TEST_F(PromisedFiles, AreTakenBeforePixels)
 {
     offerPng("png bytes");
-    pasteboard.promiseFile(QStringLiteral("Cat photo.jpeg"), "original");
+    promiseFile(QStringLiteral("Cat photo.jpeg"), "original");
     const DropItem item = single();
     EXPECT_EQ(item.title(), QStringLiteral("Cat photo.jpeg"));
     EXPECT_EQ(item.subtitle(), QStringLiteral("JPEG · 8 bytes"));
@@ -493,20 +500,20 @@ TEST_F(PromisedFiles, AreTakenBeforePixels)
 
 TEST_F(PromisedFiles, GetASafeName)
 {
-    pasteboard.promiseFile(QStringLiteral("../../.ssh/..authorized:keys"), "x");
+    promiseFile(QStringLiteral("../../.ssh/..authorized:keys"), "x");
     const DropItem item = single();
     EXPECT_TRUE(spool.contains(fileOf(item)));
     EXPECT_EQ(item.title(), QStringLiteral("authorized-keys"));
-    pasteboard.promisedName = QString();
+    promiseFile(QString(), "x");
     EXPECT_EQ(single().title(), QStringLiteral("Item"));
-    pasteboard.promisedName = QString(100'000, QLatin1Char('x')) + QStringLiteral(".png");
+    promiseFile(QString(100'000, QLatin1Char('x')) + QStringLiteral(".png"), "x");
     EXPECT_EQ(single().title(), QString(120, QLatin1Char('x')) + QStringLiteral(".png"));
 }
 
 TEST_F(PromisedFiles, OfTiffBecomePng)
 {
     codec.teach("tiff bytes", {3, 2});
-    pasteboard.promiseFile(QStringLiteral("scan.tiff"), "tiff bytes");
+    promiseFile(QStringLiteral("scan.tiff"), "tiff bytes");
     const DropItem item = singleAtOnce();
     EXPECT_EQ(item.title(), QStringLiteral("scan.png"));
     EXPECT_EQ(item.original(), temporary.url("Corvane-4711/scan.tiff"));
@@ -518,7 +525,7 @@ TEST_F(PromisedFiles, OfTiffBecomePng)
 TEST_F(PromisedFiles, OfTiffThatAreRemovedMeanwhileLeaveNothing)
 {
     codec.teach("tiff bytes", {3, 2});
-    pasteboard.promiseFile(QStringLiteral("scan.tiff"), "tiff bytes");
+    promiseFile(QStringLiteral("scan.tiff"), "tiff bytes");
     const DropItem item = singleAtOnce();
     spool.discard(fileOf(item));
     finishWork();
@@ -528,41 +535,27 @@ TEST_F(PromisedFiles, OfTiffThatAreRemovedMeanwhileLeaveNothing)
 
 TEST_F(PromisedFiles, OfTiffThatCannotBeConvertedStay)
 {
-    pasteboard.promiseFile(QStringLiteral("scan.tiff"), "broken");
+    promiseFile(QStringLiteral("scan.tiff"), "broken");
     const DropItem item = single();
     EXPECT_EQ(item.title(), QStringLiteral("scan.tiff"));
     EXPECT_TRUE(item.isSpooled());
     EXPECT_EQ(contents(fileOf(item)), "broken");
 }
 
-TEST_F(PromisedFiles, ThatAreRefusedLeaveTheOthersTheirTurn)
-{
-    pasteboard.refuseFile(QStringLiteral("a.png"));
-    offerPng("png bytes");
-    EXPECT_EQ(single().title(), QStringLiteral("Image.png"));
-    EXPECT_FALSE(exists(temporary.path("Corvane-4711/a.png")));
-}
-
 TEST_F(PromisedFiles, ThatAreNotThereAfterAllLeaveTheOthersTheirTurn)
 {
-    pasteboard.refuseFile(QStringLiteral("a.png"));
-    pasteboard.writePromisedFile = [](const QUrl &) { return true; };
     offerLink("http://x/a");
+    pasteboard.savedFile = ingest.placeForPromisedFile(QStringLiteral("a.png"));
     EXPECT_EQ(single().title(), QStringLiteral("/a"));
-    pasteboard.writePromisedFile = [](const QUrl &destination) {
-        return ::symlink("/etc/passwd", file_url::nativePath(destination).constData()) == 0;
-    };
+    ASSERT_EQ(::symlink("/etc/passwd", file_url::nativePath(*pasteboard.savedFile).constData()), 0);
     EXPECT_EQ(single().title(), QStringLiteral("/a"));
     EXPECT_FALSE(exists(temporary.path("Corvane-4711/a.png")));
 }
 
-TEST_F(PromisedFiles, AreNotAskedForWithoutASpool)
+TEST_F(PromisedFiles, HaveNoPlaceWithoutASpool)
 {
     spoil();
-    pasteboard.promiseFile(QStringLiteral("a.png"), "x");
-    offerPng("png bytes");
-    EXPECT_EQ(single().title(), QStringLiteral("Image"));
-    EXPECT_FALSE(pasteboard.fetched.contains(QStringLiteral("promisedFile")));
+    EXPECT_FALSE(ingest.placeForPromisedFile(QStringLiteral("a.png")));
 }
 
 using Links = PasteboardIngestTest;
@@ -706,8 +699,7 @@ TEST_F(PasteboardIngestTest, FetchesNothingLargeBeforeTheDrop)
     offerText("text");
     offerLink("http://x/");
     EXPECT_TRUE(PasteboardIngest::canRead(pasteboard));
-    for (const QString &type :
-         {png, tiff, QStringLiteral("string"), QStringLiteral("promisedFile")})
+    for (const QString &type : {png, tiff, QStringLiteral("string")})
         EXPECT_FALSE(pasteboard.fetched.contains(type)) << qPrintable(type);
     EXPECT_FALSE(exists(spool.directory()));
 }

@@ -87,20 +87,6 @@ TEST_F(Hostile, aSourceThatDiesAfterTheDropLosesOnlyItsOwnData)
     EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(3, 2)));
 }
 
-TEST_F(Hostile, aSourceThatNeverAnswersIsToldThatTheDropIsOver)
-{
-    startWithOne();
-    {
-        XdndSource source(m_desktop, {{"text/plain", "", true}});
-        ASSERT_TRUE(hover(source));
-        source.drop();
-        EXPECT_TRUE(source.waitForFinish());
-    }
-    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(3, 1)));
-    ASSERT_TRUE(dropFiles({makeFile(u"next.txt"_s, "x")}));
-    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(3, 2)));
-}
-
 TEST_F(Hostile, aSourceThatProposesMovingIsAnsweredWithCopying)
 {
     start();

@@ -5,8 +5,6 @@
 #include <QFile>
 #include <QHash>
 
-#include <functional>
-
 namespace corvane::test {
 
 /// A pasteboard that a test fills. `fetched` tells what was asked of the source, in order.
@@ -39,16 +37,7 @@ public:
         fetched << QStringLiteral("string");
         return text;
     }
-    std::optional<QString> promisedFileName() override
-    {
-        fetched << QStringLiteral("promisedFileName");
-        return promisedName;
-    }
-    bool receivePromisedFile(const QUrl &destination) override
-    {
-        fetched << QStringLiteral("promisedFile");
-        return writePromisedFile && writePromisedFile(destination);
-    }
+    std::optional<QUrl> promisedFile() override { return savedFile; }
 
     void offerUrls(const QList<QUrl> &urls)
     {
@@ -65,28 +54,20 @@ public:
         offered << type;
         bytes.insert(type, data);
     }
-    /// Offers to save a file directly, and does so when asked.
-    void promiseFile(const QString &name, const QByteArray &contents)
-    {
-        refuseFile(name);
-        writePromisedFile = [contents](const QUrl &destination) {
-            QFile file(destination.toLocalFile());
-            return file.open(QFile::WriteOnly) && file.write(contents) == contents.size();
-        };
-    }
-    /// Offers to save a file directly, and refuses when asked.
-    void refuseFile(const QString &name)
+    /// A file was saved directly, at its place.
+    void saveFile(const QUrl &place, const QByteArray &contents)
     {
         offered << QStringLiteral("XdndDirectSave0");
-        promisedName = name;
+        QFile file(place.toLocalFile());
+        if (file.open(QFile::WriteOnly) && file.write(contents) == contents.size())
+            savedFile = place;
     }
 
     QStringList offered;
     QList<QUrl> addresses;
     QHash<QString, QByteArray> bytes;
     std::optional<QString> text;
-    std::optional<QString> promisedName;
-    std::function<bool(const QUrl &)> writePromisedFile;
+    std::optional<QUrl> savedFile;
     QStringList fetched;
 };
 

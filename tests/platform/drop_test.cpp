@@ -33,10 +33,9 @@ protected:
     /// What came of asking the source to save its file.
     void dropAndReceive(DragSource &source)
     {
+        content.place = QUrl::fromLocalFile(folder.filePath(QStringLiteral("a picture.png")));
         content.onPerform = [this](Pasteboard &pasteboard) {
-            name = pasteboard.promisedFileName();
-            received = pasteboard.receivePromisedFile(
-                QUrl::fromLocalFile(folder.filePath(QStringLiteral("a picture.png"))));
+            received = pasteboard.promisedFile() == content.place;
             return received;
         };
         show();
@@ -55,7 +54,6 @@ protected:
     }
 
     QTemporaryDir folder;
-    std::optional<QString> name;
     bool received = false;
 };
 
@@ -75,10 +73,8 @@ TEST_F(DropTest, anAcceptedDropIsCopiedAndFinished)
     EXPECT_TRUE(source.asked().isEmpty());
 
     QList<QUrl> urls;
-    std::optional<QString> string;
     content.onPerform = [&](Pasteboard &pasteboard) {
         urls = pasteboard.fileUrls();
-        string = pasteboard.string();
         return true;
     };
     const auto finish = dropFrom(source);
@@ -86,9 +82,9 @@ TEST_F(DropTest, anAcceptedDropIsCopiedAndFinished)
     EXPECT_TRUE(finish->accepts);
     EXPECT_EQ(finish->action, "XdndActionCopy");
     EXPECT_EQ(urls, QList<QUrl>{QUrl(QStringLiteral("file:///a%20b"))});
-    EXPECT_EQ(string, QStringLiteral("hello"));
     EXPECT_EQ(content.log.mid(1),
-              QStringList({QStringLiteral("perform"), QStringLiteral("drag ended")}));
+              QStringList({QStringLiteral("awaited"), QStringLiteral("perform"),
+                           QStringLiteral("drag ended")}));
 }
 
 TEST_F(DropTest, isAnsweredWithCopyWhateverWasProposed)
@@ -179,6 +175,121 @@ TEST_F(DropTest, aPanelThatHidesInTheDropFinishesIt)
     EXPECT_TRUE(dropFrom(source)->accepts);
 }
 
+TEST_F(DropTest, goesOnWhileASourceIsSilent)
+{
+    show();
+    DragSource silent({{text, "late"}}, "XdndActionCopy");
+    silent.keepSilentAbout(text);
+    QStringList heard;
+    content.onPerform = [&](Pasteboard &pasteboard) {
+        heard << pasteboard.string().value_or(QString());
+        return true;
+    };
+    ASSERT_TRUE(hover(silent));
+    silent.drop(id());
+    ASSERT_TRUE(eventually([&] { return silent.asked().contains(text); }));
+    EXPECT_EQ(content.count("awaited"), 1);
+
+    DragSource quick({{text, "quick"}}, "XdndActionCopy");
+    ASSERT_TRUE(hover(quick));
+    EXPECT_TRUE(dropFrom(quick)->accepts);
+    EXPECT_EQ(heard, QStringList{QStringLiteral("quick")});
+    silent.answerTheRest();
+    EXPECT_TRUE(silent.waitForFinish()->accepts);
+    EXPECT_EQ(heard, QStringList({QStringLiteral("quick"), QStringLiteral("late")}));
+    EXPECT_EQ(content.count("drag exited"), 0);
+}
+
+TEST_F(DropTest, ofASourceThatEndsHasNothing)
+{
+    show();
+    bool hasText = true;
+    content.onPerform = [&](Pasteboard &pasteboard) {
+        hasText = pasteboard.string().has_value();
+        return false;
+    };
+    auto dying = std::make_unique<DragSource>(QHash<QByteArray, QByteArray>{{text, "never"}},
+                                              "XdndActionCopy");
+    dying->keepSilentAbout(text);
+    ASSERT_TRUE(hover(*dying));
+    dying->drop(id());
+    ASSERT_TRUE(eventually([&] { return dying->asked().contains(text); }));
+    dying.reset();
+    EXPECT_TRUE(eventually([&] { return content.count("drag ended") == 1; }));
+    EXPECT_EQ(content.count("perform"), 1);
+    EXPECT_FALSE(hasText);
+}
+
+TEST_F(DropTest, fetchesOnlyWhatWillBeRead)
+{
+    show();
+    DragSource files(
+        {{text, "hello"}, {"image/png", "x"}, {save, ""}, {"text/uri-list", "file:///a"}},
+        "XdndActionCopy");
+    ASSERT_TRUE(hover(files));
+    ASSERT_TRUE(dropFrom(files));
+    EXPECT_EQ(files.asked(), QList<QByteArray>{"text/uri-list"});
+
+    DragSource picture({{text, "hello"}, {"image/png", "x"}, {"image/tiff", "x"}},
+                       "XdndActionCopy");
+    ASSERT_TRUE(hover(picture));
+    ASSERT_TRUE(dropFrom(picture));
+    EXPECT_EQ(picture.asked(), QList<QByteArray>{"image/png"});
+
+    DragSource link(
+        {{text, "hello"}, {"text/uri-list", "http://a/"}, {"_NETSCAPE_URL", "http://b/"}},
+        "XdndActionCopy");
+    ASSERT_TRUE(hover(link));
+    ASSERT_TRUE(dropFrom(link));
+    EXPECT_EQ(link.asked(), QList<QByteArray>{"text/uri-list"});
+}
+
+TEST_F(DropTest, isEnteredWithTheAddressesThatDecideAboutIt)
+{
+    show();
+    content.wantsAddresses = true;
+    DragSource source({{"text/uri-list", "file:///a"}}, "XdndActionCopy");
+    source.keepSilentAbout("text/uri-list");
+    source.pickUp();
+    source.enter(id());
+    source.moveTo(id(), at(150, 30));
+    ASSERT_TRUE(eventually([&] { return source.asked().contains("text/uri-list"); }));
+    EXPECT_EQ(content.count("drag entered"), 0);
+    source.answerTheRest();
+    EXPECT_TRUE(source.waitForStatus()->accepts);
+    EXPECT_EQ(content.addresses, QList<QUrl>{QUrl(QStringLiteral("file:///a"))});
+    EXPECT_TRUE(dropFrom(source)->accepts);
+    EXPECT_EQ(source.asked().size(), 1) << "what is known is not asked for again";
+}
+
+TEST_F(DropTest, thatWasNotAcceptedIsFinishedAsRefused)
+{
+    show();
+    content.accepts = false;
+    DragSource source({{text, "hello"}}, "XdndActionCopy");
+    ASSERT_TRUE(hover(source));
+    const auto finish = dropFrom(source);
+    ASSERT_TRUE(finish);
+    EXPECT_FALSE(finish->accepts);
+    EXPECT_EQ(content.count("perform"), 0);
+    EXPECT_TRUE(source.asked().isEmpty());
+}
+
+TEST_F(DropTest, thatIsStillOnItsWayIsFinishedWhenItsPanelHasNoContentAnyMore)
+{
+    show();
+    DragSource source({{text, "never"}}, "XdndActionCopy");
+    source.keepSilentAbout(text);
+    ASSERT_TRUE(hover(source));
+    source.drop(id());
+    ASSERT_TRUE(eventually([&] { return source.asked().contains(text); }));
+    panel.setContent(nullptr);
+    const auto finish = source.waitForFinish();
+    ASSERT_TRUE(finish);
+    EXPECT_FALSE(finish->accepts);
+    EXPECT_EQ(content.count("perform"), 0);
+}
+
 TEST_F(DropTest, contentThatGoesInTheDropIsNotToldMore)
 {
     show();
@@ -196,7 +307,7 @@ TEST_F(DirectSaveTest, bringsTheOriginalFile)
 {
     DragSource source({{save, ""}, {text, "address"}}, "XdndActionCopy");
     dropAndReceive(source);
-    EXPECT_EQ(name, QStringLiteral("a picture.png"));
+    EXPECT_EQ(content.promisedName, QStringLiteral("a picture.png"));
     EXPECT_TRUE(received);
     EXPECT_EQ(bytes(), "promised");
 }
@@ -220,29 +331,31 @@ TEST_F(DirectSaveTest, aRefusalLeavesNothing)
     EXPECT_TRUE(isEmptyFolder());
 }
 
-TEST_F(DirectSaveTest, aSourceThatNeverWritesIsGivenUp)
+TEST_F(DirectSaveTest, isWaitedForWithoutStandingStill)
 {
-    DragSource source({{save, ""}}, "XdndActionCopy");
+    DragSource source({{save, ""}, {text, "address"}}, "XdndActionCopy");
     source.directSave = DragSource::DirectSave::AnswersOnly;
-    dropAndReceive(source);
-    EXPECT_FALSE(received);
-    EXPECT_TRUE(isEmptyFolder());
-}
-
-TEST_F(DirectSaveTest, aLinkIsNoFile)
-{
-    DragSource source({{save, ""}}, "XdndActionCopy");
-    source.directSave = DragSource::DirectSave::WritesLink;
-    dropAndReceive(source);
-    EXPECT_FALSE(received);
-    EXPECT_TRUE(isEmptyFolder());
+    content.place = QUrl::fromLocalFile(folder.filePath(QStringLiteral("a picture.png")));
+    show();
+    ASSERT_TRUE(hover(source));
+    source.drop(id());
+    ASSERT_TRUE(eventually([&] { return source.asked().contains(save); }));
+    settle();
+    EXPECT_EQ(content.count("perform"), 0);
+    QFile file(content.place->toLocalFile());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("late");
+    file.close();
+    EXPECT_TRUE(eventually([&] { return content.count("perform") == 1; }));
+    EXPECT_TRUE(source.waitForFinish());
+    EXPECT_EQ(bytes(), "late");
 }
 
 TEST_F(DirectSaveTest, nothingIsPromisedWhereItIsNotOffered)
 {
     DragSource source({{text, "hello"}}, "XdndActionCopy");
     dropAndReceive(source);
-    EXPECT_FALSE(name);
+    EXPECT_FALSE(content.promisedName);
     EXPECT_FALSE(received);
 }
 

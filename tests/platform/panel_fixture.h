@@ -49,7 +49,7 @@ protected:
     QtMainQueue queue;
     X11Connection connection;
     X11PanelSurface surface{connection};
-    X11DropSupport dropSupport{connection};
+    X11DropSupport dropSupport{connection, queue};
     X11DragSupport dragSupport{connection, queue};
     RecordingContent content;
     QtPanelWindow panel{surface, queue, &dropSupport, &dragSupport};

@@ -33,11 +33,10 @@ qint64 peakMemory()
     return 0;
 }
 
-bool readText(Pasteboard &pasteboard)
+bool readText(Pasteboard &pasteboard, qint64 memoryBefore)
 {
-    const qint64 before = peakMemory();
     const auto text = pasteboard.string();
-    const qint64 grown = peakMemory() - before;
+    const qint64 grown = peakMemory() - memoryBefore;
     if (!text) {
         say("no text");
         return false;
@@ -55,10 +54,11 @@ int playPanel()
     QtMainQueue queue;
     X11Connection connection;
     X11PanelSurface surface(connection);
-    X11DropSupport dropSupport(connection);
+    X11DropSupport dropSupport(connection, queue);
     X11DragSupport dragSupport(connection, queue);
     RecordingContent content;
-    content.onPerform = readText;
+    content.onPerform
+        = [before = peakMemory()](Pasteboard &pasteboard) { return readText(pasteboard, before); };
     QtPanelWindow panel(surface, queue, &dropSupport, &dragSupport);
     panel.setContent(&content);
     panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame)));

@@ -2,7 +2,9 @@
 #include "platform/display.h"
 #include "platform/file_url.h"
 #include "platform/pasteboard_writer.h"
+#include "platform/qt/fetched_pasteboard.h"
 #include "platform/qt/mime_encoding.h"
+#include "platform/qt/pasteboard_text.h"
 #include "platform/qt/qt_general_pasteboard.h"
 #include "platform/qt/qt_pasteboard.h"
 
@@ -26,6 +28,23 @@ struct FakeOffer {
     void offer(const QByteArray &data, const QString &type) { pasteboard.offerData(data, type); }
 };
 
+struct FetchedOffer {
+    FetchedPasteboard pasteboard{{QStringLiteral("text/uri-list"), QStringLiteral("text/plain"),
+                                  QStringLiteral("image/png")}};
+    void offer(const QList<QUrl> &urls)
+    {
+        QByteArray list;
+        for (const QUrl &url : urls)
+            list += url.toEncoded() + "\r\n";
+        pasteboard.setBytes(QStringLiteral("text/uri-list"), list);
+    }
+    void offer(const QString &text)
+    {
+        pasteboard.setBytes(QStringLiteral("text/plain"), text.toUtf8());
+    }
+    void offer(const QByteArray &data, const QString &type) { pasteboard.setBytes(type, data); }
+};
+
 struct QtOffer {
     QMimeData mimeData;
     QtPasteboard pasteboard{&mimeData};
@@ -41,7 +60,7 @@ protected:
     Pasteboard &pasteboard = source.pasteboard;
 };
 
-using Sources = testing::Types<FakeOffer, QtOffer>;
+using Sources = testing::Types<FakeOffer, FetchedOffer, QtOffer>;
 TYPED_TEST_SUITE(PasteboardContract, Sources);
 
 const auto png = QStringLiteral("image/png");
@@ -58,12 +77,10 @@ QByteArray dataOf(const PasteboardContents &contents, const char *type,
 
 TYPED_TEST(PasteboardContract, anEmptyOneHasNothing)
 {
-    EXPECT_TRUE(this->pasteboard.types().isEmpty());
     EXPECT_TRUE(this->pasteboard.urls().isEmpty());
     EXPECT_FALSE(this->pasteboard.string());
     EXPECT_FALSE(this->pasteboard.dataFor(UTType::png()));
-    EXPECT_FALSE(this->pasteboard.promisedFileName());
-    EXPECT_FALSE(this->pasteboard.receivePromisedFile(file));
+    EXPECT_FALSE(this->pasteboard.promisedFile());
 }
 
 TYPED_TEST(PasteboardContract, givesAddressesInOrderAndFilesAmongThem)
@@ -95,6 +112,23 @@ TEST(QtPasteboard, aTypeThatCameBackEmptyGivesNone)
     mimeData.setData(png, {});
     EXPECT_FALSE(QtPasteboard(&mimeData).dataFor(UTType::png()));
     EXPECT_FALSE(QtPasteboard(nullptr).string());
+}
+
+TEST(PasteboardText, isTakenUnderTheMostExactName)
+{
+    const QStringList types = {QStringLiteral("image/png"),
+                               QStringLiteral("TEXT"),
+                               QStringLiteral("STRING"),
+                               QStringLiteral("text/plain;charset=iso-8859-1"),
+                               QStringLiteral("text/unicode"),
+                               QStringLiteral("text/plain"),
+                               QStringLiteral("text/plain;charset=utf-16"),
+                               QStringLiteral("text/plain; charset=UTF-8"),
+                               QStringLiteral("UTF8_STRING"),
+                               QStringLiteral("text/plain")};
+    EXPECT_EQ(pasteboard_text::typesByExactness(types),
+              QStringList({types[8], types[7], types[6], types[5], types[4], types[3], types[2],
+                           types[1]}));
 }
 
 TEST(QtPasteboard, exactTextComesBeforeOtherSpellings)

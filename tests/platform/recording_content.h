@@ -49,6 +49,7 @@ public:
         note("drag entered", info.location);
         isOwn = info.isOwn;
         types = info.pasteboard.types();
+        addresses = info.pasteboard.urls();
         return accepts ? DragOperation::Copy : DragOperation::None;
     }
     DragOperation draggingUpdated(const DraggingInfo &) override
@@ -59,6 +60,13 @@ public:
         return accepts ? DragOperation::Copy : DragOperation::None;
     }
     void draggingExited() override { log << QStringLiteral("drag exited"); }
+    bool needsAddresses(const QStringList &) const override { return wantsAddresses; }
+    void dropIsAwaited() override { log << QStringLiteral("awaited"); }
+    std::optional<QUrl> placeForPromisedFile(const QString &name) override
+    {
+        promisedName = name;
+        return place;
+    }
     bool performDragOperation(const DraggingInfo &info) override
     {
         log << QStringLiteral("perform");
@@ -77,6 +85,10 @@ public:
     QStringList log;
     QPointF lastMove;
     QStringList types;
+    QList<QUrl> addresses;
+    bool wantsAddresses = false;
+    std::optional<QString> promisedName;
+    std::optional<QUrl> place;
     bool isOwn = false;
     bool accepts = true;
     int updates = 0;

@@ -207,17 +207,27 @@ void DragSource::handle(const xcb_generic_event_t &event)
         const std::lock_guard lock(m_mutex);
         (isStatus ? m_status : m_finish) = heard;
     } else if (type == XCB_SELECTION_REQUEST) {
-        answer(reinterpret_cast<const xcb_selection_request_event_t &>(event));
+        asked(reinterpret_cast<const xcb_selection_request_event_t &>(event));
     }
 }
 
-void DragSource::answer(const xcb_selection_request_event_t &request)
+void DragSource::asked(const xcb_selection_request_event_t &request)
 {
     const QByteArray type = nameOf(request.target);
     {
         const std::lock_guard lock(m_mutex);
         m_asked << type;
+        if (m_silent.contains(type)) {
+            m_unanswered << request;
+            return;
+        }
     }
+    answer(request);
+}
+
+void DragSource::answer(const xcb_selection_request_event_t &request)
+{
+    const QByteArray type = nameOf(request.target);
     xcb_selection_notify_event_t notify = {};
     notify.response_type = XCB_SELECTION_NOTIFY;
     notify.time = request.time;
@@ -233,6 +243,25 @@ void DragSource::answer(const xcb_selection_request_event_t &request)
     }
     xcb_send_event(connection(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT,
                    reinterpret_cast<const char *>(&notify));
+    xcb_flush(connection());
+}
+
+void DragSource::keepSilentAbout(const QByteArray &type)
+{
+    const std::lock_guard lock(m_mutex);
+    m_silent << type;
+}
+
+void DragSource::answerTheRest()
+{
+    QList<xcb_selection_request_event_t> requests;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_silent.clear();
+        requests = std::exchange(m_unanswered, {});
+    }
+    for (const auto &request : requests)
+        answer(request);
 }
 
 QByteArray DragSource::saveDirectly()

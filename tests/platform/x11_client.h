@@ -80,16 +80,23 @@ public:
     std::optional<Answer> waitForFinish();
     QList<QByteArray> asked();
 
+    /// Asked for these it says nothing before `answerTheRest`.
+    void keepSilentAbout(const QByteArray &type);
+    void answerTheRest();
+
     DirectSave directSave = DirectSave::Writes;
     QByteArray promisedBytes = "promised";
 
 private:
     void handle(const xcb_generic_event_t &event) override;
+    void asked(const xcb_selection_request_event_t &request);
     void answer(const xcb_selection_request_event_t &request);
     QByteArray saveDirectly();
     Answer answerFrom(std::uint32_t flags, xcb_atom_t action);
 
     QHash<QByteArray, QByteArray> m_offers;
+    QList<QByteArray> m_silent;
+    QList<xcb_selection_request_event_t> m_unanswered;
     QByteArray m_action;
     std::optional<Answer> m_status;
     std::optional<Answer> m_finish;

@@ -439,6 +439,40 @@ TEST_F(ShelfViewTest, OurOwnDragsAreRefused)
     EXPECT_TRUE(log.isEmpty());
 }
 
+TEST_F(ShelfViewTest, ADropThatIsOnItsWayKeepsTheTargetedLookUntilItIsHere)
+{
+    QStringList awaited;
+    view.onAwaitsDrop = [&](bool awaits) { awaited << QString::number(awaits); };
+    ShelfSnapshot snapshot;
+    snapshot.state = ShelfState::Expanded;
+    show(snapshot);
+    FakePasteboard pasteboard = textOnPasteboard();
+    view.draggingEntered({pasteboard, {}, false});
+    view.dropIsAwaited();
+    view.dropIsAwaited();
+    EXPECT_TRUE(view.look().isDragTargeted);
+    EXPECT_TRUE(view.performDragOperation({pasteboard, {}, false}));
+    view.draggingEnded();
+    EXPECT_TRUE(view.look().isDragTargeted);
+    EXPECT_EQ(awaited, QStringList{QStringLiteral("1")});
+    EXPECT_TRUE(view.performDragOperation({pasteboard, {}, false}));
+    EXPECT_FALSE(view.look().isDragTargeted);
+    EXPECT_EQ(awaited, QStringList({QStringLiteral("1"), QStringLiteral("0")}));
+}
+
+TEST_F(ShelfViewTest, ADropThatComesUnderAnotherDragLeavesThatOneWelcome)
+{
+    ShelfSnapshot snapshot;
+    snapshot.state = ShelfState::Expanded;
+    show(snapshot);
+    FakePasteboard pasteboard = textOnPasteboard();
+    view.draggingEntered({pasteboard, {}, false});
+    view.dropIsAwaited();
+    view.draggingEntered({pasteboard, {}, false});
+    view.performDragOperation({pasteboard, {}, false});
+    EXPECT_TRUE(view.look().isDragTargeted);
+}
+
 TEST_F(ShelfViewTest, ADropThatYieldsNothingFails)
 {
     show(holding(1, 1));

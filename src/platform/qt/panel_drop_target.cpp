@@ -1,11 +1,13 @@
 #include "platform/qt/panel_drop_target.h"
 
 #include "platform/panel_window.h"
+#include "platform/qt/drop_fetch.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/qt/qt_pasteboard.h"
 
 #include <QDropEvent>
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -46,9 +48,37 @@ DraggingInfo infoFrom(const QDropEvent &event, double panelHeight, Pasteboard &p
 
 } // namespace
 
-PanelDropTarget::PanelDropTarget(DropSupport *support)
+PanelDropTarget::PanelDropTarget(QWindow &window, DropSupport *support)
     : m_support(support)
 {
+    if (m_support)
+        m_support->addReceiver(window, *this);
+}
+
+PanelDropTarget::~PanelDropTarget()
+{
+    if (m_support)
+        m_support->removeReceiver(*this);
+}
+
+void PanelDropTarget::setContent(PanelContent *content)
+{
+    m_content = content;
+    if (!content)
+        m_awaited.clear();
+}
+
+/// Of another program's drag that we know more of than Qt does, what has been fetched of it so far.
+std::unique_ptr<Pasteboard> PanelDropTarget::pasteboardOf(const QDropEvent &event) const
+{
+    const auto drag = m_support && !event.source() ? m_support->incomingDrag() : nullptr;
+    if (!drag)
+        return std::make_unique<QtPasteboard>(event.mimeData());
+    const QStringList types = drag->types();
+    auto pasteboard = std::make_unique<FetchedPasteboard>(types);
+    for (const QString &type : addressTypes(types))
+        pasteboard->setBytes(type, drag->fetched(type));
+    return pasteboard;
 }
 
 void PanelDropTarget::enter(QDragEnterEvent &event, double panelHeight)
@@ -58,10 +88,11 @@ void PanelDropTarget::enter(QDragEnterEvent &event, double panelHeight)
     event.ignore();
     if (!m_content)
         return;
-    QtPasteboard pasteboard(event.mimeData(), m_support);
+    const auto pasteboard = pasteboardOf(event);
     const auto answer = guarded(DragOperation::None, [&] {
-        return m_content->draggingEntered(infoFrom(event, panelHeight, pasteboard));
+        return m_content->draggingEntered(infoFrom(event, panelHeight, *pasteboard));
     });
+    m_location = qt_geometry::flipped(event.position(), panelHeight);
     if (answer != DragOperation::None && acceptAsCopy(event))
         m_state = State::Accepted;
 }
@@ -71,9 +102,10 @@ void PanelDropTarget::move(QDragMoveEvent &event, double panelHeight)
     event.ignore();
     if (m_state != State::Accepted || !m_content)
         return;
-    QtPasteboard pasteboard(event.mimeData(), m_support);
+    m_location = qt_geometry::flipped(event.position(), panelHeight);
+    const auto pasteboard = pasteboardOf(event);
     const auto answer = guarded(DragOperation::None, [&] {
-        return m_content->draggingUpdated(infoFrom(event, panelHeight, pasteboard));
+        return m_content->draggingUpdated(infoFrom(event, panelHeight, *pasteboard));
     });
     if (answer != DragOperation::None)
         acceptAsCopy(event);
@@ -86,7 +118,7 @@ void PanelDropTarget::drop(QDropEvent &event, double panelHeight)
     if (!m_content)
         return;
     if (state == State::Accepted) {
-        QtPasteboard pasteboard(event.mimeData(), m_support);
+        QtPasteboard pasteboard(event.mimeData());
         const bool isTaken = guarded(false, [&] {
             return m_content->performDragOperation(infoFrom(event, panelHeight, pasteboard));
         });
@@ -104,6 +136,49 @@ void PanelDropTarget::leave()
         return;
     m_content->draggingExited();
     if (m_content)
+        m_content->draggingEnded();
+}
+
+bool PanelDropTarget::needsAddresses(const QStringList &types) const
+{
+    return m_content && m_content->needsAddresses(types);
+}
+
+QStringList PanelDropTarget::addressTypes(const QStringList &types) const
+{
+    return BytesPasteboard::addressTypes(types);
+}
+
+bool PanelDropTarget::takeDrop(std::shared_ptr<IncomingDrag> drop)
+{
+    if (m_state != State::Accepted || !m_content)
+        return false;
+    m_state = State::Outside;
+    m_content->dropIsAwaited();
+    if (!m_content)
+        return false;
+    const auto findPlace = [this](const QString &name) {
+        return guarded(std::optional<QUrl>(),
+                       [&] { return m_content->placeForPromisedFile(name); });
+    };
+    auto fetch = std::make_unique<DropFetch>(std::move(drop), findPlace);
+    DropFetch &started = *m_awaited.emplace_back(std::move(fetch));
+    started.start(
+        [this, &started](FetchedPasteboard &pasteboard) { contentsArrived(&started, pasteboard); });
+    return true;
+}
+
+void PanelDropTarget::contentsArrived(DropFetch *fetch, FetchedPasteboard &pasteboard)
+{
+    const auto found = std::ranges::find(m_awaited, fetch, &std::unique_ptr<DropFetch>::get);
+    // Kept until the source has been told, whatever becomes of this target meanwhile.
+    const auto kept = std::move(*found);
+    m_awaited.erase(found);
+    const bool isTaken = guarded(false, [&] {
+        return m_content->performDragOperation({pasteboard, m_location, false});
+    });
+    kept->drag().finish(isTaken);
+    if (m_content && m_state == State::Outside)
         m_content->draggingEnded();
 }
 

@@ -1,15 +1,23 @@
 #pragma once
 
+#include "platform/drop_support.h"
+
 #include <QPointF>
+
+#include <list>
+#include <memory>
 
 class QDragEnterEvent;
 class QDragMoveEvent;
 class QDropEvent;
+class QWindow;
 
 namespace corvane {
 
-class DropSupport;
+class DropFetch;
+class FetchedPasteboard;
 class PanelContent;
+class Pasteboard;
 
 /// A drag over a panel, told to its content and answered to its source.
 ///
@@ -17,19 +25,31 @@ class PanelContent;
 ///     Outside --enter, content refuses--> Refused  --leave---------> Outside
 ///
 /// What was refused on entering stays refused until it leaves. The only answer is Copy: after any
-/// other one the source could take its things away from under us. Whatever happens here, Qt tells
-/// the source that the drop is finished: nothing may be thrown past these calls.
-class PanelDropTarget {
+/// other one the source could take its things away from under us. Nothing may be thrown past these
+/// calls: whatever happens here, the source is told that its drop is finished.
+///
+/// With a support, what other programs drop is fetched first, in its source's time, and the content
+/// is told when it is here; several drops may be on their way. Without one, and for drags of this
+/// process, a drop is read while it is dropped.
+class PanelDropTarget : public DropReceiver {
 public:
-    explicit PanelDropTarget(DropSupport *support);
+    /// The support must outlive it, or be null. It is told of the window.
+    PanelDropTarget(QWindow &window, DropSupport *support);
+    ~PanelDropTarget() override;
+    PanelDropTarget(const PanelDropTarget &) = delete;
+    PanelDropTarget &operator=(const PanelDropTarget &) = delete;
 
-    /// Null while there is nobody to ask: everything is refused.
-    void setContent(PanelContent *content) { m_content = content; }
+    /// Null while there is nobody to ask: everything is refused, what is on its way too.
+    void setContent(PanelContent *content);
 
     void enter(QDragEnterEvent &event, double panelHeight);
     void move(QDragMoveEvent &event, double panelHeight);
     void drop(QDropEvent &event, double panelHeight);
     void leave();
+
+    bool needsAddresses(const QStringList &types) const override;
+    QStringList addressTypes(const QStringList &types) const override;
+    bool takeDrop(std::shared_ptr<IncomingDrag> drop) override;
 
 private:
     enum class State {
@@ -38,9 +58,16 @@ private:
         Refused,
     };
 
+    std::unique_ptr<Pasteboard> pasteboardOf(const QDropEvent &event) const;
+    void contentsArrived(DropFetch *fetch, FetchedPasteboard &pasteboard);
+
     DropSupport *m_support;
     PanelContent *m_content = nullptr;
     State m_state = State::Outside;
+    /// Where the drag was last, in the content's coordinates.
+    QPointF m_location;
+    /// What was let go and is on its way.
+    std::list<std::unique_ptr<DropFetch>> m_awaited;
 };
 
 } // namespace corvane

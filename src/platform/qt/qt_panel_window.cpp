@@ -21,9 +21,9 @@ QtPanelWindow::QtPanelWindow(PanelSurface &surface, MainQueue &queue, DropSuppor
     : m_surface(surface)
     , m_queue(queue)
     , m_dragSupport(dragSupport)
-    , m_dropTarget(dropSupport)
     , m_canvas(std::make_unique<PanelCanvas>([this](QPainter &painter) { paint(painter); },
                                              [this](QEvent &event) { return handle(event); }))
+    , m_dropTarget(*m_canvas, dropSupport)
 {
     m_surface.adopt(*m_canvas);
     m_surface.observeComposited([this, alive = m_alive] {

@@ -56,8 +56,8 @@ private:
     MainQueue &m_queue;
     DragSupport *m_dragSupport;
     PanelContent *m_content = nullptr;
-    PanelDropTarget m_dropTarget;
     std::unique_ptr<PanelCanvas> m_canvas;
+    PanelDropTarget m_dropTarget;
     QRectF m_frame;
     bool m_isVisible = false;
     bool m_userWentOn = false;

@@ -1,8 +1,7 @@
 #include "platform/x11/file_arrival.h"
 
-#include <QDeadlineTimer>
+#include <QSocketNotifier>
 
-#include <poll.h>
 #include <sys/inotify.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -15,13 +14,14 @@ namespace corvane {
 namespace {
 
 /// Some programs create the file, close it, and open it again to write.
-constexpr int quietMilliseconds = 20;
+constexpr double quietSeconds = 0.02;
 
 } // namespace
 
-FileArrival::FileArrival(QByteArray path)
+FileArrival::FileArrival(QByteArray path, MainQueue &queue)
     : m_path(std::move(path))
     , m_name(m_path.sliced(m_path.lastIndexOf('/') + 1))
+    , m_queue(queue)
     , m_descriptor(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK))
 {
     const QByteArray directory = m_path.chopped(m_name.size());
@@ -31,27 +31,27 @@ FileArrival::FileArrival(QByteArray path)
 
 FileArrival::~FileArrival()
 {
+    m_notifier.reset();
     if (m_descriptor >= 0)
         ::close(m_descriptor);
 }
 
-bool FileArrival::wait()
+void FileArrival::wait(std::function<void(bool)> done)
 {
-    const QDeadlineTimer deadline(timeoutMilliseconds);
-    while (!deadline.hasExpired()) {
-        const bool mayBeDone = m_wasClosed && isComplete();
-        const auto patience = mayBeDone ? qint64{quietMilliseconds} : deadline.remainingTime();
-        pollfd waiting = {m_descriptor, POLLIN, 0};
-        const int ready = ::poll(&waiting, 1, static_cast<int>(patience));
-        if (ready == 0 && mayBeDone)
-            return true;
-        if (ready > 0 && !readEvents())
-            return false;
-    }
-    return false;
+    m_done = std::move(done);
+    m_lastProgress = m_queue.now();
+    m_notifier = std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { readEvents(); });
+    m_patienceTimer = m_queue.repeating(patience / 10, [this, begun = m_queue.now()] {
+        const double now = m_queue.now();
+        if (now - m_lastProgress >= patience || now - begun >= longest)
+            finish(false);
+    });
+    // It may be there already.
+    readEvents();
 }
 
-bool FileArrival::readEvents()
+void FileArrival::readEvents()
 {
     alignas(inotify_event) std::array<char, 4096> buffer;
     const auto size = ::read(m_descriptor, buffer.data(), buffer.size());
@@ -61,9 +61,46 @@ bool FileArrival::readEvents()
         if (event->len == 0 || m_name != event->name)
             continue;
         m_wasClosed = (event->mask & (IN_CLOSE_WRITE | IN_MOVED_TO)) != 0;
+        m_lastProgress = m_queue.now();
     }
+    // One that writes without a pause is never looked at in the quiet.
+    if (isTooLarge())
+        finish(false);
+    else
+        lookAgainSoon();
+}
+
+void FileArrival::lookAgainSoon()
+{
+    const int generation = ++m_generation;
+    m_queue.asyncAfter(quietSeconds, [this, generation, alive = std::weak_ptr<bool>(m_alive)] {
+        if (!alive.expired() && generation == m_generation)
+            look();
+    });
+}
+
+void FileArrival::look()
+{
+    if (m_wasClosed && isComplete())
+        finish(true);
+}
+
+void FileArrival::finish(bool hasArrived)
+{
+    m_notifier.reset();
+    m_patienceTimer.reset();
+    ++m_generation;
+    m_queue.async([this, hasArrived, alive = std::weak_ptr<bool>(m_alive)] {
+        if (alive.expired() || !m_done)
+            return;
+        std::exchange(m_done, {})(hasArrived);
+    });
+}
+
+bool FileArrival::isTooLarge() const
+{
     struct stat status = {};
-    return ::lstat(m_path.constData(), &status) != 0 || status.st_size <= maximumBytes;
+    return ::lstat(m_path.constData(), &status) == 0 && status.st_size > maximumBytes;
 }
 
 bool FileArrival::isComplete() const

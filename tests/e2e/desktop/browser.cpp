@@ -15,10 +15,12 @@ namespace {
 // Found again in the window's picture: no other part of it has this colour.
 constexpr QRgb pageColour = qRgb(0x33, 0xcc, 0x99);
 
-constexpr auto page = R"(<!doctype html><title>page</title>
+constexpr auto page = R"(<!doctype html><meta charset="utf-8"><title>page</title>
 <style>body { margin: 0; background: #33cc99 } a { display: block; height: 100px; font-size: 60px }
-img { display: block; width: 200px; height: 200px }</style>
-<a href="%1">a link to drag</a><img src="picture.png">
+img { display: block; width: 200px; height: 200px }
+textarea { position: absolute; left: 220px; top: 100px; width: 300px; height: 300px; font-size: 30px;
+border: 0; padding: 8px; background: white; color: black }</style>
+<a href="%1">a link to drag</a><img src="picture.png"><textarea autocomplete="off">%2</textarea>
 )";
 
 // A browser that has never run before greets, asks, and looks for updates; none of that here.
@@ -112,7 +114,8 @@ Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteA
     const QString folder = site(desktop);
     QDir().mkpath(folder);
     write(folder + u"/picture.png"_s, picture);
-    write(folder + u"/page.html"_s, QString::fromLatin1(page).arg(link).toUtf8());
+    write(folder + u"/page.html"_s,
+          QString::fromLatin1(page).arg(link, QString::fromUtf8(initialText())).toUtf8());
 
     // Over HTTP, as pages are: what a page from a local file offers is a local file.
     const QString address = serve(folder);
@@ -144,6 +147,26 @@ Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteA
         m_problem = name + u" does not show the page"_s;
     else
         m_desktop.pictureAtRest(QRect(m_page.topLeft(), QSize(400, 300)));
+}
+
+void Browser::selectAllText()
+{
+    m_desktop.hands().click(belowText());
+    m_desktop.hands().key('a', {keys::control});
+    m_desktop.pictureAtRest(QRect(m_page.topLeft(), QSize(540, 400)));
+}
+
+QByteArray Browser::text(const QByteArray &expected)
+{
+    QByteArray text;
+    eventually([&] {
+        selectAllText();
+        m_desktop.hands().key('c', {keys::control});
+        m_desktop.pictureAtRest(QRect(m_page.topLeft(), QSize(540, 400)));
+        text = m_desktop.clipboard(u"UTF8_STRING"_s).value_or(QByteArray());
+        return text == expected;
+    });
+    return text;
 }
 
 } // namespace corvane::e2e

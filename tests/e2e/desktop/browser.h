@@ -4,7 +4,7 @@
 
 namespace corvane::e2e {
 
-/// A web browser's window on a page of ours with a link and a picture.
+/// A web browser's window on a page of ours with a link, a picture, and a text that can be edited.
 class Browser {
 public:
     enum class Kind { Chromium, Firefox };
@@ -24,6 +24,15 @@ public:
     QString problem() const { return m_problem; }
     QPoint link() const { return m_page.topLeft() + QPoint(60, 50); }
     QPoint picture() const { return m_page.topLeft() + QPoint(100, 200); }
+    /// In the first line's first word of the text, and below its last line.
+    QPoint firstWord() const { return m_page.topLeft() + QPoint(250, 125); }
+    QPoint belowText() const { return m_page.topLeft() + QPoint(400, 380); }
+    void selectAllText();
+    /// What stands in it, by way of the clipboard.
+    QByteArray text(const QByteArray &expected);
+
+    /// What the text is when a page is shown.
+    static QByteArray initialText() { return "first\nsecond line\n\n  last \xc3\xa9 \xe2\x82\xac"; }
 
     /// What the site has been asked for, by whomever.
     QByteArray requests() { return m_server->output(); }

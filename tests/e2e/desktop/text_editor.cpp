@@ -2,22 +2,74 @@
 
 #include "e2e/desktop/eventually.h"
 
+#include <QCoreApplication>
 #include <QFile>
+#include <QProcess>
 
 namespace corvane::e2e {
 
 using namespace Qt::StringLiterals;
 
-TextEditor::TextEditor(XDesktop &desktop, const QByteArray &text, const QRect &frame)
+namespace {
+
+constexpr auto python = "/usr/bin/python3";
+
+// No editor of this toolkit comes without half a desktop.
+constexpr auto gtk4Editor = R"(
+import os, sys
+os.environ["GSK_RENDERER"] = "cairo"
+import gi
+gi.require_version("Gtk", "4.0")
+from gi.repository import Gtk, GLib
+Gtk.init()
+view = Gtk.TextView(top_margin=8, left_margin=8)
+style = Gtk.CssProvider()
+style.load_from_data(b"textview { font: 20pt Inter; }")
+view.get_style_context().add_provider(style, Gtk.STYLE_PROVIDER_PRIORITY_APPLICATION)
+view.get_buffer().set_text(open(sys.argv[1], encoding="utf-8", newline="").read())
+window = Gtk.Window(title="text", child=view)
+window.present()
+GLib.MainLoop().run()
+)";
+
+} // namespace
+
+bool TextEditor::isInstalled(Toolkit toolkit)
+{
+    if (toolkit != Toolkit::Gtk4)
+        return true;
+    QProcess check;
+    check.start(QString::fromLatin1(python),
+                {u"-c"_s, u"import gi; gi.require_version('Gtk', '4.0')"_s});
+    return check.waitForFinished() && check.exitCode() == 0;
+}
+
+std::unique_ptr<Program> TextEditor::startEditor(Toolkit toolkit, const QString &file)
+{
+    switch (toolkit) {
+    case Toolkit::Gtk3:
+        return m_desktop.start(u"zenity"_s,
+                               {u"--text-info"_s, u"--editable"_s, u"--title=text"_s,
+                                u"--font=Inter 20"_s, u"--filename="_s + file});
+    case Toolkit::Gtk4:
+        return m_desktop.start(QString::fromLatin1(python),
+                               {u"-c"_s, QString::fromLatin1(gtk4Editor), file});
+    case Toolkit::Qt:
+        break;
+    }
+    return m_desktop.start(QCoreApplication::applicationDirPath() + u"/corvane_qt_editor"_s,
+                           {file});
+}
+
+TextEditor::TextEditor(XDesktop &desktop, const QByteArray &text, const QRect &frame,
+                       Toolkit toolkit)
     : m_desktop(desktop)
 {
     QFile file(desktop.path(u"home/text"_s));
     if (file.open(QFile::WriteOnly))
         file.write(text);
     file.close();
-    m_program = desktop.start(u"zenity"_s,
-                              {u"--text-info"_s, u"--editable"_s, u"--title=text"_s,
-                               u"--font=Inter 20"_s, u"--filename="_s + file.fileName()});
+    m_program = startEditor(toolkit, file.fileName());
     const auto window = desktop.waitForWindowOf(*m_program);
     if (!window) {
         m_problem = u"the editor shows no window: "_s + QString::fromUtf8(m_program->output());

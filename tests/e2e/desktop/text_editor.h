@@ -4,10 +4,14 @@
 
 namespace corvane::e2e {
 
-/// A window of a GTK 3 program with a text that can be edited, dragged from and dropped into.
+/// A window of another program with a text that can be edited, dragged from and dropped into.
 class TextEditor {
 public:
-    TextEditor(XDesktop &desktop, const QByteArray &text, const QRect &frame);
+    enum class Toolkit { Gtk3, Gtk4, Qt };
+    static bool isInstalled(Toolkit toolkit);
+
+    TextEditor(XDesktop &desktop, const QByteArray &text, const QRect &frame,
+               Toolkit toolkit = Toolkit::Gtk3);
 
     QString problem() const { return m_problem; }
     /// In the first line's first word.
@@ -20,6 +24,8 @@ public:
     QByteArray text(const QByteArray &expected);
 
 private:
+    std::unique_ptr<Program> startEditor(Toolkit toolkit, const QString &file);
+
     XDesktop &m_desktop;
     std::unique_ptr<Program> m_program;
     QString m_problem;

@@ -110,6 +110,7 @@ void XdndPeer::pump()
 XdndSource::XdndSource(XDesktop &desktop, QList<Offer> offers, QByteArray proposedAction)
     : XdndPeer(desktop, QRect(40, 700, 120, 120))
     , m_offers(std::move(offers))
+    , m_largestPiece(largestPiece)
     , m_proposedAction(std::move(proposedAction))
 {
     std::vector<xcb_atom_t> types;
@@ -135,6 +136,18 @@ void XdndSource::pickUp()
 
 std::optional<XdndSource::Status> XdndSource::hover(xcb_window_t target, QPoint point)
 {
+    enter(target, point);
+    return waitForStatus();
+}
+
+std::optional<XdndSource::Status> XdndSource::waitForStatus()
+{
+    pumpUntil([this] { return m_status.has_value(); });
+    return m_status;
+}
+
+void XdndSource::enter(xcb_window_t target, QPoint point)
+{
     m_desktop.hands().glideTo(point);
     if (m_target != target) {
         m_target = target;
@@ -149,8 +162,6 @@ std::optional<XdndSource::Status> XdndSource::hover(xcb_window_t target, QPoint 
     send(target, "XdndPosition",
          {window(), 0, static_cast<uint32_t>(point.x()) << 16 | static_cast<uint32_t>(point.y()),
           XCB_CURRENT_TIME, atom(m_proposedAction)});
-    pumpUntil([this] { return m_status.has_value(); });
-    return m_status;
 }
 
 void XdndSource::leave(xcb_window_t target)
@@ -190,7 +201,9 @@ void XdndSource::otherEvent(const xcb_generic_event_t &event)
 {
     const int type = event.response_type & 0x7f;
     if (type == XCB_SELECTION_REQUEST) {
-        answer(reinterpret_cast<const xcb_selection_request_event_t &>(event));
+        const auto &request = reinterpret_cast<const xcb_selection_request_event_t &>(event);
+        m_asked.append(nameOf(request.target));
+        answer(request);
     } else if (type == XCB_PROPERTY_NOTIFY) {
         const auto &change = reinterpret_cast<const xcb_property_notify_event_t &>(event);
         for (qsizetype i = 0; i < m_transfers.size(); ++i) {
@@ -209,7 +222,6 @@ void XdndSource::otherEvent(const xcb_generic_event_t &event)
 void XdndSource::answer(const xcb_selection_request_event_t &request)
 {
     const QByteArray type = nameOf(request.target);
-    m_asked.append(type);
 
     xcb_selection_notify_event_t notify{};
     notify.response_type = XCB_SELECTION_NOTIFY;
@@ -222,10 +234,12 @@ void XdndSource::answer(const xcb_selection_request_event_t &request)
     for (const Offer &offer : m_offers) {
         if (offer.type != type)
             continue;
-        if (offer.isSilent)
+        if (offer.isSilent) {
+            m_unanswered << request;
             return;
+        }
         notify.property = request.property;
-        if (offer.data.size() <= largestPiece) {
+        if (offer.data.size() <= m_largestPiece) {
             xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, request.requestor,
                                 request.property, request.target, 8,
                                 static_cast<uint32_t>(offer.data.size()), offer.data.constData());
@@ -246,10 +260,18 @@ void XdndSource::answer(const xcb_selection_request_event_t &request)
     xcb_flush(connection());
 }
 
+void XdndSource::answerTheRest()
+{
+    for (Offer &offer : m_offers)
+        offer.isSilent = false;
+    for (const auto &request : std::exchange(m_unanswered, {}))
+        answer(request);
+}
+
 void XdndSource::goOn(Transfer &transfer)
 {
     // Empty at last, which is how the end is told.
-    const qsizetype size = std::min(largestPiece, transfer.data.size() - transfer.sent);
+    const qsizetype size = std::min(m_largestPiece, transfer.data.size() - transfer.sent);
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, transfer.requestor, transfer.property,
                         transfer.type, 8, static_cast<uint32_t>(size),
                         transfer.data.constData() + transfer.sent);

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QRect>
 
+#include <xcb/xcb.h>
+
 #include <optional>
 
 namespace corvane::e2e {
@@ -60,7 +62,7 @@ public:
     struct Offer {
         QByteArray type;
         QByteArray data;
-        /// A type that is offered, asked for, and never answered.
+        /// A type that is offered, asked for, and not answered before `answerTheRest`.
         bool isSilent = false;
     };
     struct Status {
@@ -74,7 +76,11 @@ public:
     /// Presses in its own window, moves, and takes the drag selection: from here on the desktop
     /// knows that something is being dragged.
     void pickUp();
-    /// Moves over the target and asks it; none where no answer comes.
+    /// Moves over the target and asks it.
+    void enter(xcb_window_t target, QPoint point);
+    /// What it answered to that; none where no answer comes.
+    std::optional<Status> waitForStatus();
+    /// Moves over the target, asks it, and waits for the answer.
     std::optional<Status> hover(xcb_window_t target, QPoint point);
     void leave(xcb_window_t target);
     /// Releases the button over the target that was hovered last, and tells it so.
@@ -84,6 +90,11 @@ public:
     /// What the target said at the end; none where it never did.
     std::optional<Status> waitForFinish();
     bool hasFinished() const { return m_finish.has_value(); }
+
+    /// Answers what was asked for of silent types so far, and speaks from now on.
+    void answerTheRest();
+    /// How much goes into one property; more is handed over piece by piece.
+    void setLargestPiece(qsizetype bytes) { m_largestPiece = bytes; }
 
     /// The types that were asked for, in order.
     QList<QByteArray> asked() const { return m_asked; }
@@ -112,6 +123,9 @@ private:
     void goOn(Transfer &transfer);
 
     QList<Offer> m_offers;
+    /// Of silent types.
+    QList<xcb_selection_request_event_t> m_unanswered;
+    qsizetype m_largestPiece;
     QByteArray m_proposedAction;
     xcb_window_t m_target = noWindow;
     std::optional<Status> m_status;
