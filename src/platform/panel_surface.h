@@ -2,11 +2,20 @@
 
 #include <QRegion>
 
+#include <cstdint>
 #include <functional>
 
 class QWindow;
 
 namespace corvane {
+
+enum class KeyboardHolder {
+    /// One of the panels, whichever.
+    Panel,
+    Nobody,
+    /// Another window, of another program or of ours.
+    Other,
+};
 
 /// What a panel needs of the window system beyond what Qt does for every window. There is one for
 /// each window system; it serves all panels. Main thread only.
@@ -29,10 +38,23 @@ public:
 
     /// Gives the window the keyboard, and remembers who had it.
     virtual void takeKeyboard(QWindow &window) = 0;
+    /// Asks the window system, which knows it before any event tells.
+    virtual KeyboardHolder keyboardHolder() const = 0;
     /// Gives the keyboard back if the window still has it.
     virtual void giveKeyboardBack(QWindow &window) = 0;
+    /// The same, whichever of the panels has it.
+    virtual void giveKeyboardBack() = 0;
+    /// A key that a panel had is still down, perhaps: until it is released its repeats reach
+    /// nobody, whoever has the keyboard. By the window system's numbers.
+    virtual void swallowRepeats(std::uint32_t key, std::uint32_t modifiers) = 0;
+    /// At this moment, whatever events are on their way. The toolkit does not always know a
+    /// repeat's release from that of the hand.
+    virtual bool isKeyDown(std::uint32_t key) const = 0;
     /// Gives the keyboard back if nobody has it: what had it was hidden, and nothing took it since.
     virtual void giveUnclaimedKeyboardBack() = 0;
+
+    /// Whether a pointing device, by the window system's id for it, is a touchpad.
+    virtual bool isTouchpad(std::int64_t device) = 0;
 
     /// Whether windows are blended with what lies below; without it transparency shows as black.
     virtual bool isComposited() const = 0;

@@ -103,6 +103,11 @@ public:
     /// Takes the keyboard. Only where the user asked for it, by a click or a key: a window that
     /// takes it by itself is a nuisance.
     virtual void makeKey() = 0;
+    /// The same, unless a window that is no panel has the keyboard: for what is no answer to what
+    /// the user did just now.
+    virtual void makeKeyAmongPanels() = 0;
+    /// Gives the keyboard back to the window that had it, and stays on screen.
+    virtual void resignKey() = 0;
     /// The user clicked in another program, which is about to get the keyboard: until the panel is
     /// shown again, hiding it takes the keyboard from nobody.
     virtual void userWentOn() = 0;
@@ -113,6 +118,11 @@ public:
     /// Starts a drag that offers copy and link; the button must be down. The contents are fixed at
     /// this moment. `ended` is called exactly once with what the target did, perhaps before this
     /// returns: a drag may run an event loop of its own.
+    ///
+    /// Once the user lets go, whatever the target still does, the keyboard is with the window that
+    /// had it before the press. Where that was a panel and another program takes the drop, it is
+    /// with the window that had it before the panels: whoever has put something there goes on
+    /// there.
     virtual void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) = 0;
 };
 

@@ -37,6 +37,8 @@ public:
         outline = path;
     }
     void makeKey() override { isKey = true; }
+    void makeKeyAmongPanels() override { isKey = isKey || !othersHaveKeyboard; }
+    void resignKey() override { isKey = false; }
     void userWentOn() override { log << QStringLiteral("userWentOn"); }
     void setNeedsDisplay(const QRectF &) override { ++displayRequests; }
     void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) override
@@ -49,6 +51,8 @@ public:
     bool visible = false;
     bool ignoresMouseEvents = false;
     bool isKey = false;
+    /// The user went to a window that is no panel.
+    bool othersHaveKeyboard = false;
     QRectF body;
     QPainterPath outline;
     int displayRequests = 0;

@@ -2,7 +2,10 @@
 #include "platform/panel_fixture.h"
 #include "platform/x11/x11_reply.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QWheelEvent>
 
 #include <array>
 
@@ -416,6 +419,138 @@ TEST_F(PanelWindowTest, takesTheKeyboardFromNobodyWhenTheUserWentOn)
     EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == clicked.id(); }));
     settle();
     EXPECT_EQ(display.server.focusedWindow(), clicked.id());
+}
+
+TEST_F(PanelWindowTest, resigningGivesTheKeyboardBackAndLeavesThePanelOnScreen)
+{
+    const ManagedWindow other({100, 100, 300, 200});
+    show();
+    panel.makeKey();
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    panel.resignKey();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+    EXPECT_TRUE(facts().isViewable);
+    panel.makeKey();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+}
+
+TEST_F(PanelWindowTest, resigningTakesTheKeyboardFromNoOther)
+{
+    show();
+    panel.makeKey();
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    const ManagedWindow later({100, 100, 300, 200});
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == later.id(); }));
+    panel.resignKey();
+    settle();
+    EXPECT_EQ(display.server.focusedWindow(), later.id());
+}
+
+TEST_F(PanelWindowTest, resigningKeepsNoKeyboardForAWindowThatIsGone)
+{
+    show();
+    {
+        const ManagedWindow other({100, 100, 300, 200});
+        panel.makeKey();
+        ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    }
+    panel.resignKey();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() != id(); }));
+}
+
+TEST_F(PanelWindowTest, amongPanelsItTakesTheKeyboardFromPanelsAlone)
+{
+    const ManagedWindow other({100, 100, 300, 200});
+    QtPanelWindow second(surface, queue);
+    second.setFrame({600, 200, 300, 100});
+    const auto secondId = static_cast<xcb_window_t>(second.window().winId());
+    show();
+    second.orderFrontRegardless();
+    second.makeKeyAmongPanels();
+    settle();
+    EXPECT_EQ(display.server.focusedWindow(), other.id());
+    panel.makeKey();
+    second.makeKeyAmongPanels();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == secondId; }));
+    panel.makeKey();
+    second.makeKey();
+    panel.makeKeyAmongPanels();
+    settle();
+    EXPECT_EQ(display.server.focusedWindow(), id()) << "the latest wish is the one that counts";
+    second.orderOut();
+    panel.orderOut();
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+}
+
+TEST_F(PanelWindowTest, tellsRepeatsFromPressesAlsoWhereTheToolkitDoesNot)
+{
+    const auto send = [this](QEvent::Type type, quint64 time, quint32 scanCode, bool isRepeat) {
+        QKeyEvent event(type, Qt::Key_Escape, Qt::NoModifier, scanCode, 0, 0, {}, isRepeat);
+        event.setTimestamp(time);
+        QCoreApplication::sendEvent(&panel.window(), &event);
+    };
+    send(QEvent::KeyPress, 1000, 9, false);
+    send(QEvent::KeyPress, 1500, 9, true);
+    send(QEvent::KeyRelease, 1530, 9, false);
+    send(QEvent::KeyPress, 1530, 9, false);
+    send(QEvent::KeyRelease, 1600, 9, false);
+    send(QEvent::KeyPress, 1600, 10, false);
+    send(QEvent::KeyPress, 1700, 9, false);
+    std::vector<bool> repeats;
+    for (const KeyEvent &key : content.keys)
+        repeats.push_back(key.isRepeat);
+    EXPECT_EQ(repeats, (std::vector{false, true, true, false, false}));
+}
+
+TEST_F(PanelWindowTest, theRepeatsOfAKeyThatHidItReachNobodyElse)
+{
+    const ManagedWindow other({100, 100, 300, 200});
+    e2e::KeyLog log(qgetenv("DISPLAY"), other.id());
+    show();
+    panel.makeKey();
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    display.hands.keyDown(e2e::keys::escape);
+    ASSERT_TRUE(eventually([&] { return !content.keys.empty(); }));
+    panel.orderOut();
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+    // Many repeats long.
+    EXPECT_FALSE(eventually([&] { return log.presses() > 0; }, std::chrono::milliseconds{1200}));
+    display.hands.keyUp(e2e::keys::escape);
+    settle();
+    display.hands.key(e2e::keys::escape);
+    display.hands.key('x');
+    EXPECT_TRUE(eventually([&] { return log.presses() >= 2; })) << "pressed anew it is heard";
+    EXPECT_EQ(log.presses(), 2);
+}
+
+TEST_F(PanelWindowTest, aKeyThatIsUpAgainWhenThePanelHidesIsNotKeptFromAnybody)
+{
+    const ManagedWindow other({100, 100, 300, 200});
+    e2e::KeyLog log(qgetenv("DISPLAY"), other.id());
+    show();
+    panel.makeKey();
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    display.hands.keyDown(e2e::keys::escape);
+    ASSERT_TRUE(eventually([&] { return !content.keys.empty(); }));
+    // Released while nobody looks.
+    display.hands.keyUp(e2e::keys::escape);
+    panel.orderOut();
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+    display.hands.key(e2e::keys::escape);
+    EXPECT_TRUE(eventually([&] { return log.presses() == 1; }));
+}
+
+TEST_F(PanelWindowTest, fineWheelsComeAsWholeNotches)
+{
+    const auto turn = [this](int angle) {
+        QWheelEvent event({150, 30}, {}, {}, {angle, 0}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(&panel.window(), &event);
+    };
+    for (int i = 0; i < 8; ++i)
+        turn(-15);
+    ASSERT_EQ(content.scrolls.size(), 1U);
+    EXPECT_EQ(content.scrolls[0].deltaX, -4);
 }
 
 TEST_F(PanelWindowTest, aHiddenPanelNeverTakesTheKeyboard)

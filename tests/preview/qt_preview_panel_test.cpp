@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QWheelEvent>
 #include <QWidget>
 
 #include <gtest/gtest.h>
@@ -140,6 +141,11 @@ struct QtPreviewPanelTest : testing::Test {
         QKeyEvent event(type, code, Qt::NoModifier, scanCode, 0, 0, {}, isRepeat);
         event.setTimestamp(time);
         QCoreApplication::sendEvent(&to, &event);
+    }
+    static void pressControl(int code, bool isRepeat)
+    {
+        QKeyEvent event(QEvent::KeyPress, code, Qt::ControlModifier, 25, 0, 0, {}, isRepeat);
+        QCoreApplication::sendEvent(window()->windowHandle(), &event);
     }
     static void press(int code) { key(*window()->windowHandle(), QEvent::KeyPress, code, 1000); }
 
@@ -276,6 +282,47 @@ TEST_F(QtPreviewPanelTest, TheRepeatsOfTheKeyThatOpenedItDoNotCloseIt)
     key(handle, QEvent::KeyRelease, Qt::Key_Space, 1060);
     key(handle, QEvent::KeyPress, Qt::Key_Space, 1400);
     EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(QtPreviewPanelTest, ControlWClosesItUnlessItIsHeldSinceBefore)
+{
+    show(textOf(QStringLiteral("hello")));
+    pressControl(Qt::Key_W, true);
+    EXPECT_TRUE(panel->isVisible());
+    pressControl(Qt::Key_W, false);
+    EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(QtPreviewPanelTest, AWheelMovesAPictureByNotchesAndATouchpadByItsPixels)
+{
+    PreviewContent content;
+    PreviewContent::Picture picture;
+    picture.pixelSize = {4000, 3000};
+    picture.fitted = QImage(400, 300, QImage::Format_RGB32);
+    for (int y = 0; y < 300; ++y) {
+        for (int x = 0; x < 400; ++x)
+            picture.fitted.setPixel(x, y, qRgb(x % 256, y % 256, (x + y) % 256));
+    }
+    content.body = picture;
+    show(content);
+    QWidget *view = nullptr;
+    for (QWidget *widget : window()->findChildren<QWidget *>()) {
+        if (widget->accessibleName() == QStringLiteral("Picture"))
+            view = widget;
+    }
+    ASSERT_TRUE(view);
+    const auto after = [&](QPoint pixels, QPoint angle, Qt::ScrollPhase phase) {
+        press(Qt::Key_0);
+        press(Qt::Key_1);
+        QWheelEvent event({5, 5}, {}, pixels, angle, Qt::NoButton, {}, phase, false);
+        QCoreApplication::sendEvent(view, &event);
+        return view->grab().toImage();
+    };
+    const QImage notch = after({}, {0, 120}, Qt::NoScrollPhase);
+    EXPECT_NE(notch, after({}, {0, 60}, Qt::NoScrollPhase)) << "it moves at all";
+    EXPECT_EQ(notch, after({0, 120}, {0, 120}, Qt::NoScrollPhase))
+        << "pixels that a driver made up of notches";
+    EXPECT_EQ(notch, after({0, 60}, {0, 480}, Qt::ScrollUpdate)) << "pixels of a touchpad";
 }
 
 TEST_F(QtPreviewPanelTest, TheRepeatsOfTheKeyThatClosedItReachNoOtherWindow)

@@ -15,6 +15,8 @@ namespace {
 
 /// A notch is 120 in Qt and 4 here.
 constexpr double anglePerStep = 30;
+/// The distance for which touchpads announce a notch is 15 points.
+constexpr double anglePerPoint = 8;
 
 struct NamedKey {
     int qtKey;
@@ -72,6 +74,13 @@ ScrollEvent::Phase phaseFrom(Qt::ScrollPhase phase)
     return ScrollEvent::Phase::Changed;
 }
 
+double pointsOf(const QWheelEvent &event, bool isShifted)
+{
+    const bool hasPixels = event.phase() != Qt::NoScrollPhase && !event.pixelDelta().isNull();
+    return hasPixels ? horizontal(event.pixelDelta(), isShifted)
+                     : horizontal(event.angleDelta(), isShifted) / anglePerPoint;
+}
+
 } // namespace
 
 KeyEvent keyEventFrom(const QKeyEvent &event)
@@ -79,15 +88,17 @@ KeyEvent keyEventFrom(const QKeyEvent &event)
     return {keyCodeFrom(event), modifiersFrom(event.modifiers()), event.isAutoRepeat()};
 }
 
-std::optional<ScrollEvent> scrollEventFrom(const QWheelEvent &event, double time)
+std::optional<ScrollEvent> scrollEventFrom(const QWheelEvent &event, double time,
+                                           ScrollDevice device)
 {
     const bool isShifted = event.modifiers().testFlag(Qt::ShiftModifier);
     ScrollEvent scroll;
-    scroll.hasPreciseDeltas = !event.pixelDelta().isNull();
-    scroll.deltaX = scroll.hasPreciseDeltas
-        ? horizontal(event.pixelDelta(), isShifted)
-        : horizontal(event.angleDelta(), isShifted) / anglePerStep;
     scroll.phase = phaseFrom(event.phase());
+    scroll.hasPreciseDeltas
+        = device == ScrollDevice::Touchpad || scroll.phase != ScrollEvent::Phase::None;
+    scroll.deltaX = scroll.hasPreciseDeltas
+        ? pointsOf(event, isShifted)
+        : horizontal(event.angleDelta(), isShifted) / anglePerStep;
     scroll.time = time;
     if (scroll.deltaX == 0 && scroll.phase != ScrollEvent::Phase::Ended)
         return std::nullopt;

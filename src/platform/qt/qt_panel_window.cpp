@@ -4,13 +4,10 @@
 #include "platform/panel_surface.h"
 #include "platform/qt/drag_session.h"
 #include "platform/qt/outline_region.h"
-#include "platform/qt/panel_event_translation.h"
 #include "platform/qt/qt_geometry.h"
 
-#include <QEnterEvent>
-#include <QKeyEvent>
+#include <QGuiApplication>
 #include <QPainter>
-#include <QWheelEvent>
 
 #include <utility>
 
@@ -79,7 +76,7 @@ void QtPanelWindow::orderOut()
         return;
     const bool userWentOn = std::exchange(m_userWentOn, false);
     if (!userWentOn)
-        m_surface.giveKeyboardBack(*m_canvas);
+        giveKeyboardBack();
     m_canvas->hide();
     m_surface.didHide(*m_canvas);
     if (!userWentOn)
@@ -107,8 +104,29 @@ void QtPanelWindow::setBody(const QRectF &rect, const QPainterPath &outline)
 
 void QtPanelWindow::makeKey()
 {
+    m_resignsOnRelease = false;
     if (m_isVisible)
         m_surface.takeKeyboard(*m_canvas);
+}
+
+void QtPanelWindow::makeKeyAmongPanels()
+{
+    if (m_isVisible && m_surface.keyboardHolder() != KeyboardHolder::Other)
+        makeKey();
+}
+
+void QtPanelWindow::resignKey()
+{
+    if (m_isVisible)
+        giveKeyboardBack();
+}
+
+void QtPanelWindow::giveKeyboardBack()
+{
+    // What a key has closed is not to be repeated in the program behind.
+    if (const auto held = std::exchange(m_heldKey, std::nullopt))
+        m_surface.swallowRepeats(held->key, held->modifiers);
+    m_surface.giveKeyboardBack(*m_canvas);
 }
 
 void QtPanelWindow::setNeedsDisplay(const QRectF &rect)
@@ -131,21 +149,24 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, std::function<void(DragOp
         return;
     }
     m_isDragging = false;
+    letGo(operation);
     ended(operation);
+}
+
+void QtPanelWindow::letGo(DragOperation operation)
+{
+    if (operation == DragOperation::None && m_wasKeyBeforePress)
+        return;
+    // With the button still down it was Escape that ended the drag. Its repeats are nobody else's.
+    m_resignsOnRelease = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+    if (!m_resignsOnRelease)
+        m_surface.giveKeyboardBack();
 }
 
 QTransform QtPanelWindow::toDevicePixels() const
 {
     const double scale = m_canvas->devicePixelRatio();
     return QTransform(scale, 0, 0, -scale, 0, m_frame.height() * scale);
-}
-
-/// Qt names a pixel by its upper left corner. Ours is the middle of it, so that the pixels along
-/// the panel's edges, one of which is the screen's, lie inside whichever way y goes.
-QPointF QtPanelWindow::middleOfPixel(QPointF position) const
-{
-    const double half = 0.5 / m_canvas->devicePixelRatio();
-    return qt_geometry::flipped(position + QPointF(half, half), m_frame.height());
 }
 
 void QtPanelWindow::updateRegions()
@@ -182,75 +203,6 @@ void QtPanelWindow::paint(QPainter &painter)
     painter.translate(0, m_frame.height());
     painter.scale(1, -1);
     m_content->paint(painter, m_frame.size(), m_canvas->devicePixelRatio());
-}
-
-bool QtPanelWindow::handle(QEvent &event)
-{
-    if (!m_content)
-        return false;
-    switch (event.type()) {
-    case QEvent::MouseButtonPress:
-    case QEvent::MouseButtonRelease:
-    case QEvent::MouseMove:
-        return handleMouse(dynamic_cast<QMouseEvent &>(event));
-    case QEvent::Enter: {
-        const QPointF position = dynamic_cast<QEnterEvent &>(event).position();
-        m_content->mouseEntered({middleOfPixel(position)});
-        return true;
-    }
-    case QEvent::Leave:
-        m_content->mouseExited();
-        return true;
-    case QEvent::Wheel:
-        if (const auto scroll = scrollEventFrom(dynamic_cast<QWheelEvent &>(event), m_queue.now()))
-            m_content->scrollWheel(*scroll);
-        return true;
-    case QEvent::KeyPress:
-        event.setAccepted(m_content->keyDown(keyEventFrom(dynamic_cast<QKeyEvent &>(event))));
-        return true;
-    default:
-        return handleDrag(event);
-    }
-}
-
-bool QtPanelWindow::handleMouse(QMouseEvent &event)
-{
-    const MouseEvent mouse{middleOfPixel(event.position())};
-    if (event.type() == QEvent::MouseMove) {
-        if (event.buttons().testFlag(Qt::LeftButton))
-            m_content->mouseDragged(mouse);
-        else
-            m_content->mouseMoved(mouse);
-        return true;
-    }
-    if (event.button() != Qt::LeftButton)
-        return true;
-    // The second press of a double click comes as a press too, before it comes as what it is.
-    if (event.type() == QEvent::MouseButtonRelease)
-        m_content->mouseUp(mouse);
-    else
-        m_content->mouseDown(mouse);
-    return true;
-}
-
-bool QtPanelWindow::handleDrag(QEvent &event)
-{
-    switch (event.type()) {
-    case QEvent::DragEnter:
-        m_dropTarget.enter(dynamic_cast<QDragEnterEvent &>(event), m_frame.height());
-        return true;
-    case QEvent::DragMove:
-        m_dropTarget.move(dynamic_cast<QDragMoveEvent &>(event), m_frame.height());
-        return true;
-    case QEvent::DragLeave:
-        m_dropTarget.leave();
-        return true;
-    case QEvent::Drop:
-        m_dropTarget.drop(dynamic_cast<QDropEvent &>(event), m_frame.height());
-        return true;
-    default:
-        return false;
-    }
 }
 
 } // namespace corvane

@@ -1,13 +1,17 @@
 #pragma once
 
 #include "platform/panel_window.h"
+#include "platform/qt/key_repeats.h"
 #include "platform/qt/panel_canvas.h"
 #include "platform/qt/panel_drop_target.h"
+#include "platform/qt/wheel_steps.h"
 
 #include <memory>
 #include <optional>
 
+class QKeyEvent;
 class QMouseEvent;
+class QWheelEvent;
 
 namespace corvane {
 
@@ -36,6 +40,8 @@ public:
     void setIgnoresMouseEvents(bool ignores) override;
     void setBody(const QRectF &rect, const QPainterPath &outline) override;
     void makeKey() override;
+    void makeKeyAmongPanels() override;
+    void resignKey() override;
     void userWentOn() override { m_userWentOn = true; }
     void setNeedsDisplay(const QRectF &rect) override;
     void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) override;
@@ -47,6 +53,10 @@ private:
     void paint(QPainter &painter);
     bool handle(QEvent &event);
     bool handleMouse(QMouseEvent &event);
+    bool handleKey(QKeyEvent &event);
+    void handleWheel(QWheelEvent &event);
+    void letGo(DragOperation operation);
+    void giveKeyboardBack();
     bool handleDrag(QEvent &event);
     void updateRegions();
     QTransform toDevicePixels() const;
@@ -72,6 +82,18 @@ private:
     QPainterPath m_shapedOutline;
     QSize m_shapedSize;
     bool m_isDragging = false;
+    /// One of the panels had the keyboard when this one was pressed.
+    bool m_wasKeyBeforePress = false;
+    /// Escape has ended a drag and may be held.
+    bool m_resignsOnRelease = false;
+    /// The latest key that was pressed here and not released.
+    struct HeldKey {
+        std::uint32_t key = 0;
+        std::uint32_t modifiers = 0;
+    };
+    std::optional<HeldKey> m_heldKey;
+    KeyRepeats m_repeats;
+    WheelSteps m_wheelSteps;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };
 

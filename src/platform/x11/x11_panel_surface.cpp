@@ -62,6 +62,8 @@ void flushQt()
 X11PanelSurface::X11PanelSurface(X11Connection &connection)
     : m_connection(connection)
     , m_windowManager(connection)
+    , m_pointingDevices(connection)
+    , m_keyShield(connection)
     , m_listener(
           connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
 {
@@ -129,6 +131,8 @@ void X11PanelSurface::setBoundingRegion(QWindow &window, const QRegion &region)
 void X11PanelSurface::takeKeyboard(QWindow &window)
 {
     const xcb_window_t focus = focusedWindow();
+    if (focus == x11_qt::nativeWindow(window))
+        return;
     if (!isPanel(focus)) {
         m_previousFocus = focus;
         m_previousActive = m_windowManager.activeWindow();
@@ -143,12 +147,25 @@ void X11PanelSurface::giveKeyboardBack(QWindow &window)
         giveToPrevious();
 }
 
+void X11PanelSurface::giveKeyboardBack()
+{
+    if (isPanel(focusedWindow()))
+        giveToPrevious();
+}
+
 void X11PanelSurface::giveUnclaimedKeyboardBack()
+{
+    if (keyboardHolder() == KeyboardHolder::Nobody)
+        giveToPrevious();
+}
+
+KeyboardHolder X11PanelSurface::keyboardHolder() const
 {
     const xcb_window_t focus = focusedWindow();
     if (focus == XCB_INPUT_FOCUS_NONE || focus == XCB_INPUT_FOCUS_POINTER_ROOT
         || focus == m_connection.root())
-        giveToPrevious();
+        return KeyboardHolder::Nobody;
+    return isPanel(focus) ? KeyboardHolder::Panel : KeyboardHolder::Other;
 }
 
 void X11PanelSurface::giveToPrevious()
@@ -161,9 +178,18 @@ void X11PanelSurface::giveToPrevious()
     // Also where there is a window manager, and after it was asked, so that it expects this. Some
     // do not see that a window loses the keyboard while a key is grabbed, as a hot key is: they
     // think that it has it still, and do nothing.
-    if (focus != XCB_NONE)
-        xcb_set_input_focus(m_connection.get(), XCB_INPUT_FOCUS_POINTER_ROOT, focus, now);
-    m_connection.flush();
+    if (focus == XCB_NONE || !tryToFocus(focus, now))
+        tryToFocus(XCB_INPUT_FOCUS_POINTER_ROOT, now);
+}
+
+/// False where the window is gone or hidden: a panel must not keep the keyboard for that.
+bool X11PanelSurface::tryToFocus(xcb_window_t window, xcb_timestamp_t time)
+{
+    const X11Reply<xcb_generic_error_t> error(
+        xcb_request_check(m_connection.get(),
+                          xcb_set_input_focus_checked(m_connection.get(),
+                                                      XCB_INPUT_FOCUS_POINTER_ROOT, window, time)));
+    return !error;
 }
 
 void X11PanelSurface::observeComposited(std::function<void()> callback)
@@ -184,10 +210,14 @@ void X11PanelSurface::handle(const xcb_generic_event_t &event)
         m_observers.notify();
 }
 
+/// Asked for on Qt's connection, on which panels are given the keyboard: behind what was asked for
+/// there.
 xcb_window_t X11PanelSurface::focusedWindow() const
 {
-    const X11Reply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(
-        m_connection.get(), xcb_get_input_focus(m_connection.get()), nullptr));
+    auto *const qt = x11_qt::connection();
+    auto *const connection = qt ? qt : m_connection.get();
+    const X11Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
     return reply ? reply->focus : XCB_NONE;
 }
 

@@ -2,6 +2,8 @@
 
 #include "platform/callback_list.h"
 #include "platform/panel_surface.h"
+#include "platform/x11/x11_key_shield.h"
+#include "platform/x11/x11_pointing_devices.h"
 #include "platform/x11/x11_window_manager.h"
 
 #include <vector>
@@ -25,8 +27,19 @@ public:
     void setInputRegion(QWindow &window, const QRegion &region) override;
     void setBoundingRegion(QWindow &window, const QRegion &region) override;
     void takeKeyboard(QWindow &window) override;
+    KeyboardHolder keyboardHolder() const override;
     void giveKeyboardBack(QWindow &window) override;
+    void giveKeyboardBack() override;
     void giveUnclaimedKeyboardBack() override;
+    void swallowRepeats(std::uint32_t key, std::uint32_t modifiers) override
+    {
+        m_keyShield.hold(static_cast<xcb_keycode_t>(key), static_cast<std::uint16_t>(modifiers));
+    }
+    bool isKeyDown(std::uint32_t key) const override
+    {
+        return m_keyShield.isDown(static_cast<xcb_keycode_t>(key));
+    }
+    bool isTouchpad(std::int64_t device) override { return m_pointingDevices.isTouchpad(device); }
     bool isComposited() const override { return m_isComposited; }
     void observeComposited(std::function<void()> callback) override;
 
@@ -34,10 +47,13 @@ private:
     void handle(const xcb_generic_event_t &event);
     xcb_window_t focusedWindow() const;
     void giveToPrevious();
+    bool tryToFocus(xcb_window_t window, xcb_timestamp_t time);
     bool isPanel(xcb_window_t window) const;
 
     X11Connection &m_connection;
     X11WindowManager m_windowManager;
+    X11PointingDevices m_pointingDevices;
+    X11KeyShield m_keyShield;
     X11Connection::ListenerId m_listener;
     xcb_atom_t m_compositorSelection;
     bool m_isComposited = false;

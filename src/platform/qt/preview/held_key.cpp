@@ -11,13 +11,6 @@ void HeldKey::watch()
     QCoreApplication::instance()->installEventFilter(this);
 }
 
-bool HeldKey::isRepeat(const QKeyEvent &press) const
-{
-    return press.isAutoRepeat()
-        || (press.nativeScanCode() == m_releasedKey && press.timestamp() == m_releaseTime
-            && m_releaseTime != 0);
-}
-
 void HeldKey::swallow(const QKeyEvent &press)
 {
     m_swallowed = press.nativeScanCode();
@@ -30,10 +23,8 @@ bool HeldKey::eventFilter(QObject * /*object*/, QEvent *event)
         && event->type() != QEvent::ShortcutOverride)
         return false;
     const auto &key = dynamic_cast<const QKeyEvent &>(*event);
-    if (isRelease) {
-        m_releasedKey = key.nativeScanCode();
-        m_releaseTime = key.timestamp();
-    }
+    if (isRelease)
+        m_repeats.released(key);
     if (m_swallowed == 0 || key.nativeScanCode() != m_swallowed)
         return false;
     if (isRelease || isRepeat(key))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/qt/key_repeats.h"
+
 #include <QObject>
 
 class QKeyEvent;
@@ -12,9 +14,8 @@ class HeldKey : public QObject {
 public:
     /// Begins to watch the keys of every window of the process.
     void watch();
-    /// Whether the press is one of a key that has been down already. The toolkit cannot always
-    /// tell: a repeat is a release and a press of the same moment.
-    bool isRepeat(const QKeyEvent &press) const;
+    /// Whether the press is one of a key that has been down already.
+    bool isRepeat(const QKeyEvent &press) const { return m_repeats.isRepeat(press); }
     /// From now on the repeats of that key go nowhere; ends when it is pressed anew.
     void swallow(const QKeyEvent &press);
 
@@ -23,8 +24,7 @@ protected:
 
 private:
     quint32 m_swallowed = 0;
-    quint32 m_releasedKey = 0;
-    quint64 m_releaseTime = 0;
+    KeyRepeats m_repeats;
 };
 
 } // namespace corvane

@@ -224,8 +224,10 @@ void PictureView::wheelEvent(QWheelEvent *event)
     if (event->modifiers().testFlag(Qt::ControlModifier)) {
         zoom(std::pow(zoomStep, event->angleDelta().y() / notch), event->position());
     } else {
-        const QPointF pixels = event->pixelDelta();
-        m_zoom.moveBy(pixels.isNull() ? QPointF(event->angleDelta()) / notch * keyMove : pixels);
+        // Where nobody tells when a scroll begins and ends, pixels are the device's own units.
+        const bool hasPixels = event->phase() != Qt::NoScrollPhase && !event->pixelDelta().isNull();
+        m_zoom.moveBy(hasPixels ? QPointF(event->pixelDelta())
+                                : QPointF(event->angleDelta()) / notch * keyMove);
         changed();
     }
     event->accept();

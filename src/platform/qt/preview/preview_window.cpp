@@ -143,11 +143,9 @@ bool PreviewWindow::handleKey(const QKeyEvent &key)
 {
     const bool isControl = key.modifiers().testFlag(Qt::ControlModifier);
     const bool isPlain = (key.modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier)) == 0;
-    if (isControl && key.key() == Qt::Key_W) {
-        close();
-        return true;
-    }
-    if (isPlain && (key.key() == Qt::Key_Space || key.key() == Qt::Key_Escape))
+    const bool closes = (isControl && key.key() == Qt::Key_W)
+        || (isPlain && (key.key() == Qt::Key_Space || key.key() == Qt::Key_Escape));
+    if (closes)
         return onCloseKey && onCloseKey(key);
     const bool isEnter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
     if (isPlain && isEnter && m_open->hasFocus()) {

@@ -27,7 +27,7 @@ public:
     /// Replaces what is shown. The icon stands for what has nothing else to show.
     void setContent(const PreviewContent &content, const Image &icon);
 
-    /// Space and Escape, with the press; what it answers tells whether the key was taken.
+    /// Space, Escape and Ctrl+W, with the press; what it answers tells whether the key was taken.
     std::function<bool(const QKeyEvent &)> onCloseKey;
     /// The window manager's close button.
     std::function<void()> onClose;
