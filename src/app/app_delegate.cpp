@@ -111,7 +111,8 @@ void AppDelegate::wireEdge()
     // It goes before the shelf, which it asks and hears.
     m_edge = std::make_unique<EdgeSummoner>(EdgeSummoner::Context{
         m_context.edge, m_context.hud.screens, m_context.store, m_context.hud.view.queue,
-        [this](const ScreenPointer &screen) { return m_hud->openWidth(screen); }});
+        [this](const ScreenPointer &screen) { return m_hud->openWidth(screen); },
+        [this](double seconds) { m_hud->letClicksThrough(seconds); }});
     m_hud->onPointerInside = [this](bool isInside) {
         if (m_edge)
             m_edge->pointerIsInside(isInside);

@@ -73,9 +73,13 @@ void EdgeSummoner::entered()
         return;
     m_phase = Phase::Approached;
     // Whoever clicks up there wants what lies there.
-    m_pressMonitor = m_context.desktop.eventMonitors.addGlobalMouseDownMonitor(
-        whileAlive(&EdgeSummoner::giveUp));
+    watchPresses(&EdgeSummoner::giveUp);
     after(approachDelay, &EdgeSummoner::summon);
+}
+
+void EdgeSummoner::watchPresses(void (EdgeSummoner::*pressed)())
+{
+    m_pressMonitor = m_context.desktop.eventMonitors.addGlobalMouseDownMonitor(whileAlive(pressed));
 }
 
 void EdgeSummoner::giveUp()
@@ -88,6 +92,11 @@ void EdgeSummoner::wait()
 {
     m_phase = Phase::Waiting;
     m_generation = checkedAdd<std::int64_t>(m_generation, 1);
+    stopWatchingPresses();
+}
+
+void EdgeSummoner::stopWatchingPresses()
+{
     if (const auto monitor = std::exchange(m_pressMonitor, std::nullopt))
         m_context.desktop.eventMonitors.removeMonitor(*monitor);
 }
@@ -100,10 +109,23 @@ void EdgeSummoner::summon()
         return;
     m_phase = Phase::Summoned;
     m_summonedCount = m_store.items().size();
+    m_summonTime = m_context.queue.now();
+    watchPresses(&EdgeSummoner::clickedThrough);
     // Until the shelf has been reached the pointer is off it.
     dismissLater();
+    if (m_context.letClicksThrough)
+        m_context.letClicksThrough(clicksThroughTime);
     m_store.toggleManually();
     storeChanged();
+}
+
+/// Somebody was about to click what the shelf came to cover.
+void EdgeSummoner::clickedThrough()
+{
+    if (m_context.queue.now() - m_summonTime >= clicksThroughTime)
+        return;
+    wait();
+    m_store.toggleManually();
 }
 
 bool EdgeSummoner::isWelcome() const
@@ -122,10 +144,12 @@ void EdgeSummoner::pointerIsInside(bool isInside)
 {
     if (m_phase != Phase::Summoned)
         return;
-    if (isInside)
-        m_generation = checkedAdd<std::int64_t>(m_generation, 1);
-    else
+    if (!isInside) {
         dismissLater();
+        return;
+    }
+    m_generation = checkedAdd<std::int64_t>(m_generation, 1);
+    stopWatchingPresses();
 }
 
 void EdgeSummoner::shelfIsUsed()

@@ -22,9 +22,10 @@ class ShelfStore;
 /// where the shelf would hang, and hides it again once the pointer has gone, as a hand would do it.
 ///
 ///     Waiting ----entered----> Approached --approachDelay later, welcome: shown--> Summoned
-///        ^                         |                                               |  |  |
-///        +--left, pressed, unwelcome                                               |  |  |
-///        +--pointer off the shelf for leaveDelay, no button held: hidden-----------+  |  |
+///        ^                         |                                            |  |  |  |
+///        +--left, pressed, unwelcome                                            |  |  |  |
+///        +--pointer off the shelf for leaveDelay, no button held: hidden--------+  |  |  |
+///        +--clicked through within clicksThroughTime: hidden-----------------------+  |  |
 ///        +--used by a key, a click or a drag: stays, as if opened by hand-------------+  |
 ///        +--hidden by somebody else------------------------------------------------------+
 ///
@@ -37,6 +38,8 @@ public:
     static constexpr double approachDelay = 0.25;
     /// Seconds off the shelf until it is hidden again.
     static constexpr double leaveDelay = 0.8;
+    /// Seconds for which clicks on the shown shelf go to what it covers.
+    static constexpr double clicksThroughTime = 0.3;
     /// Points below the edge that still count as being there: a resting hand trembles.
     static constexpr double edgeDepth = 3;
 
@@ -54,6 +57,8 @@ public:
         MainQueue &queue;
         /// How wide the shelf would be on that screen, in points.
         std::function<double(const ScreenPointer &screen)> shelfWidth;
+        /// Called before the shelf is shown: for so many seconds its clicks go to what it covers.
+        std::function<void(double seconds)> letClicksThrough = {};
     };
     explicit EdgeSummoner(const Context &context);
     ~EdgeSummoner();
@@ -76,7 +81,10 @@ private:
     void entered();
     void giveUp();
     void wait();
+    void watchPresses(void (EdgeSummoner::*pressed)());
+    void stopWatchingPresses();
     void summon();
+    void clickedThrough();
     bool isWelcome() const;
     void dismissLater();
     void dismiss();
@@ -94,6 +102,7 @@ private:
     /// Bumped by whatever makes delayed work out of date.
     std::int64_t m_generation = 0;
     qsizetype m_summonedCount = 0;
+    double m_summonTime = 0;
     std::vector<EdgeStretch> m_watched;
     std::optional<EventMonitors::Handle> m_pressMonitor;
     std::shared_ptr<EdgeSummoner *> m_self = std::make_shared<EdgeSummoner *>(this);

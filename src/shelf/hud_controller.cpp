@@ -89,6 +89,10 @@ void HUDController::wireShelf()
         if (onUsed)
             onUsed();
     };
+    m_shelf.onPressed = [this] {
+        if (m_context.viewAll)
+            m_context.viewAll->shelfWasPressed();
+    };
     m_shelf.onQuickLook = [this] {
         const auto item = m_store.focusedItem();
         if (item && m_context.presenter)
@@ -188,7 +192,10 @@ void HUDController::render()
                  size.width(), size.height()};
         m_shelf.setRefreshRate(screen->refreshRate);
         resizeWindow(frame, active);
-        m_panel.setIgnoresMouseEvents(false);
+        // What is dragged is meant for the shelf from the first moment on.
+        if (m_store.isDragInFlight())
+            m_letsClicksThrough = false;
+        m_panel.setIgnoresMouseEvents(m_letsClicksThrough);
         m_panel.orderFrontRegardless();
     }
     m_shelf.apply(snapshot);
@@ -227,12 +234,33 @@ void HUDController::scheduleHide()
 {
     m_hideGeneration = checkedAdd<std::int64_t>(m_hideGeneration, 1);
     m_panel.setIgnoresMouseEvents(true);
+    m_letsClicksThrough = false;
+    // Now, not when it has slid away: what is typed from here on is for the program behind.
+    m_panel.resignKey();
     const std::weak_ptr<bool> alive = m_alive;
     m_context.view.queue.asyncAfter(hideDelay, [this, alive, g = m_hideGeneration] {
         if (alive.expired() || g != m_hideGeneration || m_store.state() != ShelfState::Idle)
             return;
         m_panel.orderOut();
     });
+}
+
+void HUDController::letClicksThrough(double seconds)
+{
+    m_clicksGeneration = checkedAdd<std::int64_t>(m_clicksGeneration, 1);
+    m_letsClicksThrough = true;
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.view.queue.asyncAfter(seconds, [this, alive, g = m_clicksGeneration] {
+        if (!alive.expired() && g == m_clicksGeneration)
+            takeClicks();
+    });
+}
+
+void HUDController::takeClicks()
+{
+    m_letsClicksThrough = false;
+    if (m_store.state() != ShelfState::Idle)
+        m_panel.setIgnoresMouseEvents(false);
 }
 
 void HUDController::scroll(int steps)

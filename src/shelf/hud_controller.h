@@ -56,6 +56,9 @@ public:
     HUDController &operator=(const HUDController &) = delete;
 
     const ShelfView &shelf() const { return m_shelf; }
+    /// The shelf is about to be shown unasked: for so many seconds its clicks go to what lies below
+    /// it, where whoever clicks has not seen it yet.
+    void letClicksThrough(double seconds);
     /// How wide the shelf would be on that screen if it were opened now, in points.
     double openWidth(const ScreenPointer &screen) const;
 
@@ -75,6 +78,7 @@ private:
     void render();
     void resizeWindow(const QRectF &target, const ScreenPointer &active);
     void scheduleHide();
+    void takeClicks();
     void scroll(int steps);
     void layoutSettingChanged();
     void preview(const DropItem &item);
@@ -85,6 +89,8 @@ private:
     ShelfStore &m_store;
     std::int64_t m_hideGeneration = 0;
     std::int64_t m_shrinkGeneration = 0;
+    std::int64_t m_clicksGeneration = 0;
+    bool m_letsClicksThrough = false;
     std::weak_ptr<const Screen> m_lastScreen;
     /// The item that is to be previewed once its file is there.
     std::optional<QUuid> m_awaitedPreview;

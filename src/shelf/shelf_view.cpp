@@ -38,6 +38,8 @@ QSizeF ShelfView::preferredSize(const ShelfSnapshot &snapshot) const
 void ShelfView::apply(const ShelfSnapshot &snapshot)
 {
     m_look.snapshot = snapshot;
+    if (snapshot.state == ShelfState::Idle)
+        forgetPress();
     relayout();
 }
 
@@ -163,8 +165,13 @@ void ShelfView::mouseDown(const MouseEvent &event)
     if (!hitTest(event.location))
         return;
     m_context.panel.makeKey();
-    const ShelfHit hit
-        = corvane::hitTest(m_look.layout, m_look.snapshot.isCarousel(), inBody(event.location));
+    press(corvane::hitTest(m_look.layout, m_look.snapshot.isCarousel(), inBody(event.location)),
+          event.location);
+    call(onPressed);
+}
+
+void ShelfView::press(const ShelfHit &hit, QPointF point)
+{
     if (const auto *arrow = std::get_if<shelf_hit::Arrow>(&hit))
         call(onScroll, arrow->side == ArrowSide::Left ? -1 : 1);
     else if (std::holds_alternative<shelf_hit::ViewAll>(hit))
@@ -174,22 +181,7 @@ void ShelfView::mouseDown(const MouseEvent &event)
     else if (const auto *button = std::get_if<shelf_hit::Button>(&hit))
         performAction(button->action);
     else if (const auto *cell = std::get_if<shelf_hit::Cell>(&hit))
-        pressCell(cell->itemIndex, event.location);
-}
-
-void ShelfView::performAction(ShelfAction action) const
-{
-    switch (action) {
-    case ShelfAction::QuickLook:
-        call(onQuickLook);
-        break;
-    case ShelfAction::Copy:
-        call(onCopy);
-        break;
-    case ShelfAction::Clear:
-        call(onRemove, m_look.snapshot.focusedIndex);
-        break;
-    }
+        pressCell(cell->itemIndex, point);
 }
 
 void ShelfView::pressCell(int itemIndex, QPointF point)
@@ -202,13 +194,18 @@ void ShelfView::pressCell(int itemIndex, QPointF point)
 
 void ShelfView::mouseUp(const MouseEvent & /*event*/)
 {
+    forgetPress();
+}
+
+void ShelfView::forgetPress()
+{
     m_mouseDownIndex.reset();
     m_mouseDownPoint.reset();
 }
 
 void ShelfView::scrollWheel(const ScrollEvent &event)
 {
-    if (!m_look.snapshot.hasArrows())
+    if (m_look.snapshot.state == ShelfState::Idle || !m_look.snapshot.hasArrows())
         return;
     const bool hasPhases = event.phase != ScrollEvent::Phase::None;
     if (!hasPhases && event.time - m_lastScrollTime > scrollMemory)
@@ -223,43 +220,6 @@ void ShelfView::scrollWheel(const ScrollEvent &event)
     }
     if (event.phase == ScrollEvent::Phase::Ended)
         m_scrollAccumulator = 0;
-}
-
-bool ShelfView::keyDown(const KeyEvent &event)
-{
-    call(onUsed);
-    if (m_look.snapshot.visible.empty())
-        return false;
-    const int focused = m_look.snapshot.focusedIndex;
-    switch (event.keyCode) {
-    case key_code::c:
-        if (!event.modifiers.testFlag(Modifier::Command))
-            return false;
-        call(onCopy);
-        return true;
-    case key_code::space:
-        // It toggles: held down, it would flicker.
-        if (!event.isRepeat)
-            call(onQuickLook);
-        return true;
-    case key_code::deleteBackward:
-    case key_code::deleteForward:
-    // Escape removes too, like Delete.
-    case key_code::escape:
-        call(onRemove, focused);
-        return true;
-    case key_code::leftArrow:
-        call(onFocus, checkedAdd(focused, -1));
-        return true;
-    case key_code::rightArrow:
-        call(onFocus, checkedAdd(focused, 1));
-        return true;
-    case key_code::downArrow:
-        call(onViewAll);
-        return true;
-    default:
-        return false;
-    }
 }
 
 } // namespace corvane

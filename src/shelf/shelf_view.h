@@ -70,6 +70,8 @@ public:
     std::function<void(bool isAwaiting)> onAwaitsDrop;
     /// A press, a key or a drag that may be dropped here, before anything else comes of it.
     std::function<void()> onUsed;
+    /// A press on the body, after what came of it.
+    std::function<void()> onPressed;
 
     void apply(const ShelfSnapshot &snapshot);
     QSizeF preferredSize(const ShelfSnapshot &snapshot) const;
@@ -112,8 +114,12 @@ private:
     QPointF inBody(QPointF point) const;
     QPointF fromTopCentre(QPointF point) const;
     void updateHover(QPointF point);
+    std::optional<int> itemToActOn() const;
     void performAction(ShelfAction action) const;
+    void press(const ShelfHit &hit, QPointF point);
     void pressCell(int itemIndex, QPointF point);
+    void forgetPress();
+    void pressKey(const KeyEvent &event) const;
     void beginDragOut(const DropItem &item, int index, QPointF from);
     QRectF thumbFrame(int index) const;
     void dragOutEnded(DragOperation operation);

@@ -59,13 +59,15 @@ void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &scr
 {
     m_pillFrame = pillFrame;
     m_lastScreen = screen;
+    const bool isDragged = m_store.isDragInFlight() || m_store.isOwnDrag();
+    const bool isDraggedOrWasJustNow = std::exchange(m_sawDrag, isDragged) || isDragged;
     if (m_store.isViewAllOpen() && screen && m_store.items().size() >= minimumItems)
-        show(*screen);
+        show(*screen, !isDraggedOrWasJustNow);
     else
         hide();
 }
 
-void ViewAllController::show(const Screen &screen)
+void ViewAllController::show(const Screen &screen, bool mayTakeKeyboard)
 {
     const double width = std::round(screen.frame.width() * widthShare);
     const double height = view_all_layout::barHeight;
@@ -79,17 +81,31 @@ void ViewAllController::show(const Screen &screen)
         = view_all_layout::clampedOffset(m_offset, count, view_all_layout::itemsPerPage(width));
     m_view.apply(m_store.items(), m_store.selection(), m_offset);
 
-    m_wantsKeyboard = m_wantsKeyboard || !m_panel.isVisible();
+    const bool wasShown = m_panel.isVisible();
     m_panel.setIgnoresMouseEvents(false);
     m_panel.orderFrontRegardless();
-    // Once: a picture that arrives later must not take it from a window that the user went to. And
-    // never from a drag, whose source may end it on losing the keyboard.
-    if (m_wantsKeyboard && !m_store.isDragInFlight()) {
-        m_wantsKeyboard = false;
-        m_panel.makeKey();
-    }
+    if (mayTakeKeyboard)
+        takeKeyboard(wasShown);
     if (!m_outsideClickMonitor)
         startWatchingOutsideClicks();
+}
+
+/// In every render that shows the bar, so that no click on the shelf takes the keys away from it.
+/// From another program only when it opens: what arrives later, such as a picture, takes it from
+/// nobody who went on typing elsewhere. Never from a drag, whose source may end it on losing the
+/// keyboard, nor at its end: what was dropped on goes on.
+void ViewAllController::takeKeyboard(bool wasShown)
+{
+    if (wasShown)
+        m_panel.makeKeyAmongPanels();
+    else
+        m_panel.makeKey();
+}
+
+void ViewAllController::shelfWasPressed()
+{
+    if (m_panel.isVisible())
+        m_panel.makeKey();
 }
 
 void ViewAllController::hide()
@@ -97,7 +113,7 @@ void ViewAllController::hide()
     stopWatchingOutsideClicks();
     m_panel.setIgnoresMouseEvents(true);
     m_offset = 0;
-    m_wantsKeyboard = false;
+    m_view.wasHidden();
     m_panel.orderOut();
 }
 

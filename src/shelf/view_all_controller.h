@@ -47,6 +47,7 @@ public:
     ViewAllController &operator=(const ViewAllController &) = delete;
 
     void render(const QRectF &pillFrame, const ScreenPointer &screen) override;
+    void shelfWasPressed() override;
 
     const ViewAllView &view() const { return m_view; }
     int offset() const { return m_offset; }
@@ -54,7 +55,8 @@ public:
 
 private:
     void wireView();
-    void show(const Screen &screen);
+    void show(const Screen &screen, bool mayTakeKeyboard);
+    void takeKeyboard(bool wasShown);
     void hide();
     void close();
     void scroll(int step);
@@ -70,8 +72,8 @@ private:
     QRectF m_pillFrame;
     std::weak_ptr<const Screen> m_lastScreen;
     std::optional<EventMonitors::Handle> m_outsideClickMonitor;
-    /// Shown, but has not had the keyboard yet.
-    bool m_wantsKeyboard = false;
+    /// Something was being dragged when the bar was last rendered.
+    bool m_sawDrag = false;
     // Whatever was handed out does nothing once the controller is gone.
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };

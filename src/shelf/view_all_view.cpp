@@ -35,11 +35,22 @@ view_all_layout::Range ViewAllView::visible() const
 
 void ViewAllView::apply(const QList<DropItem> &items, const QSet<QUuid> &selection, int offset)
 {
+    m_isShown = true;
     m_items = &items;
     m_selection = &selection;
     m_offset = view_all_layout::clampedOffset(offset, itemCount(), itemsPerPage());
     relayout();
     // The pointer may rest while the bar pages beneath it.
+    if (findHovered())
+        relayout();
+}
+
+void ViewAllView::wasHidden()
+{
+    m_isShown = false;
+    m_mouseDownId.reset();
+    m_mouseDownPoint.reset();
+    m_pointer.reset();
     if (findHovered())
         relayout();
 }

@@ -72,6 +72,9 @@ public:
     /// list and the set are looked at again at every event, so they must stay where they are: a
     /// copy would make the next change of any of many thousand items copy them all.
     void apply(const QList<DropItem> &items, const QSet<QUuid> &selection, int offset);
+    /// Half-finished presses come to nothing, and keys that were typed before mean nothing, until
+    /// it shows something again.
+    void wasHidden();
     /// By the panel's present width.
     int itemsPerPage() const;
     int offset() const { return m_offset; }
@@ -113,6 +116,7 @@ private:
     bool findHovered();
     void updateHover(QPointF point);
     void press(ViewAllControl control) const;
+    void pressKey(std::uint32_t keyCode) const;
     Image dragImage(const DropItem &grabbed, const QList<DropItem> &items) const;
     void beginDrag(const DropItem &grabbed);
     void dragEnded(DragOperation operation, const QList<QUrl> &savedFiles);
@@ -124,6 +128,7 @@ private:
     const QList<DropItem> *m_items = nullptr;
     const QSet<QUuid> *m_selection = nullptr;
     int m_offset = 0;
+    bool m_isShown = false;
     ViewAllLayout m_layout;
     std::optional<QPointF> m_pointer;
     std::optional<QUuid> m_hovered;

@@ -191,25 +191,42 @@ void ViewAllView::scrollWheel(const ScrollEvent &event)
 
 bool ViewAllView::keyDown(const KeyEvent &event)
 {
+    if (!m_isShown)
+        return false;
     const bool isCommand = event.modifiers.testFlag(Modifier::Command);
     switch (event.keyCode) {
     case key_code::a:
-        if (isCommand)
-            call(onToggleSelectAll);
-        return isCommand;
     case key_code::c:
-        if (isCommand)
-            call(onCopySelected);
-        return isCommand;
+        if (!isCommand)
+            return false;
+        break;
     case key_code::deleteBackward:
     case key_code::deleteForward:
-        call(onRemoveSelected);
-        return true;
     case key_code::escape:
-        call(onClose);
-        return true;
+        break;
     default:
         return false;
+    }
+    // All of them remove or toggle: once for each press.
+    if (!event.isRepeat)
+        pressKey(event.keyCode);
+    return true;
+}
+
+void ViewAllView::pressKey(std::uint32_t keyCode) const
+{
+    switch (keyCode) {
+    case key_code::a:
+        call(onToggleSelectAll);
+        break;
+    case key_code::c:
+        call(onCopySelected);
+        break;
+    case key_code::escape:
+        call(onClose);
+        break;
+    default:
+        call(onRemoveSelected);
     }
 }
 

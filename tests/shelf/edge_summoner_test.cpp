@@ -34,6 +34,10 @@ protected:
                                   [this](const ScreenPointer &) {
                                       ++measurements;
                                       return width;
+                                  },
+                                  [this](double seconds) {
+                                      EXPECT_FALSE(isShown()) << "before it is shown";
+                                      clicksThrough.push_back(seconds);
                                   }});
     }
 
@@ -80,6 +84,7 @@ protected:
     FakeDragDesktop desktop;
     std::optional<EdgeSummoner> summoner;
     int stateChanges = 0;
+    std::vector<double> clicksThrough;
 };
 
 } // namespace
@@ -252,6 +257,47 @@ TEST_F(EdgeSummonerTest, HidesTheShelfThatThePointerNeverReached)
     push();
     desk.clock.advance(approachDelay + leaveDelay);
     EXPECT_FALSE(isShown());
+}
+
+TEST_F(EdgeSummonerTest, LetsClicksThroughAtFirst)
+{
+    hideShelf();
+    push();
+    EXPECT_TRUE(clicksThrough.empty());
+    desk.clock.advance(approachDelay);
+    EXPECT_EQ(clicksThrough, std::vector{0.3});
+    EXPECT_TRUE(isShown());
+}
+
+TEST_F(EdgeSummonerTest, AClickThroughTheShelfIsForWhatLiesThereAndHidesIt)
+{
+    hideShelf();
+    push();
+    desk.clock.advance(approachDelay + 0.29);
+    desktop.pressElsewhere(edge);
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
+    desktop.release();
+    desk.clock.advance(3);
+    EXPECT_EQ(stateChanges, 2);
+}
+
+TEST_F(EdgeSummonerTest, ALaterPressElsewhereHidesNothingByItself)
+{
+    hideShelf();
+    push();
+    desk.clock.advance(approachDelay + 0.31);
+    desktop.pressElsewhere(QPointF(20, 20));
+    EXPECT_TRUE(isShown());
+    summoner->pointerIsInside(true);
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
+    leaveShelf();
+    desk.clock.advance(leaveDelay + moment);
+    EXPECT_TRUE(isShown()) << "something may be about to be dragged here";
+    desktop.release();
+    desk.clock.advance(leaveDelay + moment);
+    EXPECT_FALSE(isShown());
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
 }
 
 TEST_F(EdgeSummonerTest, CanBeSummonedAgainAndAgain)

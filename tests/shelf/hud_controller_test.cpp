@@ -24,7 +24,9 @@ struct RecordingViewAllBar : ViewAllBar {
         if (shelf)
             sizesSeen.push_back(shelf->look().layout.size);
     }
+    void shelfWasPressed() override { ++presses; }
     const ShelfView *shelf = nullptr;
+    int presses = 0;
     std::vector<QRectF> frames;
     std::vector<ScreenPointer> screens;
     std::vector<QSizeF> sizesSeen;
@@ -188,6 +190,115 @@ TEST_F(HUDControllerTest, ReopeningInTimeLeavesThePanelOnScreen)
     settle();
     EXPECT_TRUE(desk.panel.visible);
     EXPECT_FALSE(desk.panel.log.contains(QStringLiteral("orderOut")));
+}
+
+TEST_F(HUDControllerTest, KeysGoToTheProgramBehindFromTheMomentThatItCloses)
+{
+    accept(2);
+    desk.panel.isKey = true;
+    store.toggleManually();
+    EXPECT_TRUE(desk.panel.visible);
+    EXPECT_FALSE(desk.panel.isKey);
+    EXPECT_FALSE(view().keyDown({key_code::deleteBackward, {}, false}));
+    EXPECT_EQ(store.items().size(), 2);
+}
+
+TEST_F(HUDControllerTest, APressOnTheShelfIsToldToTheBarOnceEverythingElseIsDone)
+{
+    accept(2);
+    view().mouseDown({QPointF(1, -1)});
+    EXPECT_EQ(bar.presses, 0) << "beside the body";
+    view().mouseDown({view().look().layout.cells[0].root.center()});
+    EXPECT_EQ(bar.presses, 1);
+}
+
+TEST_F(HUDControllerTest, LetsClicksThroughForAsLongAsItIsTold)
+{
+    accept(1);
+    store.toggleManually();
+    settle();
+    controller->letClicksThrough(0.3);
+    store.toggleManually();
+    EXPECT_TRUE(desk.panel.visible);
+    EXPECT_TRUE(desk.panel.ignoresMouseEvents);
+    desk.clock.advance(0.29);
+    store.publishItems();
+    EXPECT_TRUE(desk.panel.ignoresMouseEvents) << "a picture that arrives changes nothing";
+    desk.clock.advance(0.02);
+    EXPECT_FALSE(desk.panel.ignoresMouseEvents);
+}
+
+TEST_F(HUDControllerTest, AShelfThatClosedWhileItLetClicksThroughTakesNone)
+{
+    accept(1);
+    store.toggleManually();
+    settle();
+    controller->letClicksThrough(0.3);
+    store.toggleManually();
+    store.toggleManually();
+    desk.clock.advance(0.31);
+    EXPECT_TRUE(desk.panel.ignoresMouseEvents);
+    store.toggleManually();
+    EXPECT_FALSE(desk.panel.ignoresMouseEvents) << "opened by hand";
+}
+
+TEST_F(HUDControllerTest, ADragNeedsNoPatience)
+{
+    accept(1);
+    store.toggleManually();
+    settle();
+    controller->letClicksThrough(0.3);
+    store.toggleManually();
+    store.setDragInFlight(true);
+    store.publishItems();
+    EXPECT_FALSE(desk.panel.ignoresMouseEvents);
+}
+
+TEST_F(HUDControllerTest, WithOneInViewButtonsAndKeysActOnTheOneThatIsSeen)
+{
+    settings.setInViewCount(1);
+    accept(4);
+    view().onScroll(-2);
+    ASSERT_EQ(snapshot().visible.front().first, 1);
+    ASSERT_EQ(store.focusedIndex(), 3);
+    const auto press = [this](ShelfAction action) {
+        view().mouseDown(
+            {view().look().layout.actionHits[static_cast<std::size_t>(action)].center()});
+    };
+    press(ShelfAction::Copy);
+    ASSERT_EQ(clipboard.writes.size(), 1U);
+    const PasteboardWriter &copied = clipboard.writes.back().writers.at(0);
+    const auto *text = std::get_if<PasteboardWriter::Text>(&copied.content);
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->string, QStringLiteral("item 1"));
+    view().onScroll(1);
+    press(ShelfAction::QuickLook);
+    EXPECT_EQ(presenter.titles, QStringList{QStringLiteral("item 2")});
+    view().onScroll(-2);
+    press(ShelfAction::Clear);
+    ASSERT_EQ(store.items().size(), 3);
+    EXPECT_EQ(store.items().front().title(), QStringLiteral("item 1"));
+}
+
+TEST_F(HUDControllerTest, WithSeveralInViewTheFocusedItemIsShownBeforeItIsActedOn)
+{
+    settings.setInViewCount(2);
+    accept(6);
+    view().onScroll(-4);
+    ASSERT_EQ(snapshot().visible.front().first, 0);
+    for (const std::uint32_t code : {key_code::deleteBackward, key_code::escape, key_code::space}) {
+        store.focus(5);
+        view().onScroll(-4);
+        EXPECT_TRUE(view().keyDown({code, {}, false}));
+        EXPECT_EQ(store.items().size(), 6);
+        EXPECT_TRUE(presenter.titles.isEmpty());
+        EXPECT_EQ(snapshot().visible.back().first, 5) << "it is in view now";
+    }
+    view().onScroll(-4);
+    EXPECT_TRUE(view().keyDown({key_code::c, Modifier::Command, false}));
+    EXPECT_TRUE(clipboard.writes.empty());
+    EXPECT_TRUE(view().keyDown({key_code::deleteForward, {}, false}));
+    EXPECT_EQ(store.items().size(), 5) << "and can be removed";
 }
 
 TEST_F(HUDControllerTest, EveryIdleRenderRestartsTheDelay)

@@ -300,6 +300,71 @@ TEST_F(ShelfViewTest, SpaceHeldDownPresentsOnce)
     EXPECT_EQ(log.size(), 1);
 }
 
+TEST_F(ShelfViewTest, AHeldKeyRemovesCopiesAndTogglesOnceAndMovesOn)
+{
+    show(holding(5, 3, 1));
+    for (const std::uint32_t code :
+         {key_code::escape, key_code::deleteBackward, key_code::deleteForward, key_code::space,
+          key_code::downArrow, key_code::c})
+        EXPECT_TRUE(view.keyDown({code, Modifier::Command, true})) << "nor is it passed on";
+    EXPECT_TRUE(log.isEmpty());
+    EXPECT_TRUE(view.keyDown({key_code::rightArrow, {}, true}));
+    EXPECT_TRUE(view.keyDown({key_code::leftArrow, {}, true}));
+    EXPECT_EQ(log, (QStringList{QStringLiteral("focus 2"), QStringLiteral("focus 0")}));
+}
+
+TEST_F(ShelfViewTest, AClosedShelfTakesNoKeyAndNoWheel)
+{
+    ShelfSnapshot closing = holding(5, 3);
+    show(closing);
+    closing.state = ShelfState::Idle;
+    view.apply(closing);
+    for (const std::uint32_t code : {key_code::escape, key_code::deleteBackward, key_code::space,
+                                     key_code::rightArrow, key_code::downArrow})
+        EXPECT_FALSE(key(code));
+    scroll(40);
+    EXPECT_TRUE(log.isEmpty());
+}
+
+TEST_F(ShelfViewTest, APressIsForgottenWhenTheShelfCloses)
+{
+    const ShelfSnapshot open = holding(5, 3);
+    show(open);
+    press(middleOf(0));
+    ShelfSnapshot closed = open;
+    closed.state = ShelfState::Idle;
+    view.apply(closed);
+    view.apply(open);
+    view.mouseDragged({middleOf(0) + QPointF(30, 0)});
+    EXPECT_FALSE(desk.panel.dragOut);
+}
+
+TEST_F(ShelfViewTest, ASingleItemInViewIsFocusedAndThenActedOn)
+{
+    ShelfSnapshot snapshot = holding(5, 1, 2);
+    snapshot.focusedIndex = 4;
+    show(snapshot);
+    press(layout().actionHits[static_cast<std::size_t>(ShelfAction::Clear)].center());
+    EXPECT_EQ(log, (QStringList{QStringLiteral("focus 2"), QStringLiteral("remove 2")}));
+    log.clear();
+    EXPECT_TRUE(key(key_code::c, Modifier::Command));
+    EXPECT_TRUE(key(key_code::space));
+    EXPECT_TRUE(key(key_code::escape));
+    EXPECT_EQ(log.join(u','), QStringLiteral("focus 2,copy,focus 2,quickLook,focus 2,remove 2"));
+}
+
+TEST_F(ShelfViewTest, AmongSeveralAFocusOutOfViewIsShownAndNothingMore)
+{
+    ShelfSnapshot snapshot = holding(9, 3, 2);
+    snapshot.focusedIndex = 7;
+    show(snapshot);
+    EXPECT_TRUE(key(key_code::c, Modifier::Command));
+    EXPECT_TRUE(key(key_code::space));
+    EXPECT_TRUE(key(key_code::escape));
+    EXPECT_TRUE(key(key_code::deleteForward));
+    EXPECT_EQ(log.join(u','), QStringLiteral("focus 7,focus 7,focus 7,focus 7"));
+}
+
 TEST_F(ShelfViewTest, KeysDoWhatTheyShould)
 {
     show(holding(5, 3, 1));

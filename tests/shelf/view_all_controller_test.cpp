@@ -205,28 +205,97 @@ TEST_F(ViewAllControllerTest, thePageFollowsItemsThatGo)
 
 // The keyboard
 
-TEST_F(ViewAllControllerTest, takesTheKeyboardWhenItIsShownAndNotAgain)
+TEST_F(ViewAllControllerTest, takesTheKeyboardInEveryRenderThatShowsIt)
 {
     open(3);
     EXPECT_TRUE(panel.isKey);
     panel.isKey = false;
     store.publishItems();
+    EXPECT_TRUE(panel.isKey);
+    panel.isKey = false;
     view().onScroll(1);
-    EXPECT_FALSE(panel.isKey) << "a picture that arrives takes it from nobody";
-    setOpen(false);
-    setOpen(true);
     EXPECT_TRUE(panel.isKey);
 }
 
-TEST_F(ViewAllControllerTest, takesNoKeyboardFromADragThatGoesOn)
+TEST_F(ViewAllControllerTest, aPictureThatArrivesTakesTheKeyboardFromNoOtherProgram)
+{
+    open(3);
+    panel.isKey = false;
+    panel.othersHaveKeyboard = true;
+    store.publishItems();
+    EXPECT_FALSE(panel.isKey);
+    setOpen(false);
+    setOpen(true);
+    EXPECT_TRUE(panel.isKey) << "opened anew it is what the user wants";
+}
+
+TEST_F(ViewAllControllerTest, aPressOnTheShelfLeavesTheKeysWithTheBar)
+{
+    settings.setInViewCount(2);
+    open(3);
+    const auto &layout = shelf->shelf().look().layout;
+    for (const QPointF point : {layout.arrowHits[1].center(), layout.cells[1].root.center(),
+                                layout.cells[0].root.center(), QPointF(3, 30)}) {
+        panel.isKey = false;
+        panel.othersHaveKeyboard = true;
+        desk.panel.content->mouseDown({point});
+        EXPECT_TRUE(panel.isKey) << point.x();
+        desk.panel.content->mouseUp({point});
+    }
+    panel.isKey = false;
+    desk.panel.content->mouseDown({layout.viewAllHit.center()});
+    EXPECT_FALSE(panel.visible);
+    EXPECT_FALSE(panel.isKey) << "closed by that press";
+}
+
+TEST_F(ViewAllControllerTest, takesNoKeyboardFromADragThatGoesOnNorAtItsEnd)
 {
     accept(3);
     store.setDragInFlight(true);
     setOpen(true);
     EXPECT_TRUE(panel.visible);
     EXPECT_FALSE(panel.isKey);
+    store.publishItems();
+    EXPECT_FALSE(panel.isKey);
     store.dragEnded();
-    EXPECT_TRUE(panel.isKey);
+    EXPECT_FALSE(panel.isKey);
+}
+
+TEST_F(ViewAllControllerTest, aDragThatOpensTheShelfOpensTheBarWithoutTheKeyboard)
+{
+    open(3);
+    store.toggleManually();
+    panel.isKey = false;
+    store.setDragInFlight(true);
+    store.setState(ShelfState::Expanded);
+    EXPECT_TRUE(panel.visible);
+    store.dragEnded();
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+    EXPECT_TRUE(panel.visible);
+    EXPECT_FALSE(panel.isKey);
+}
+
+TEST_F(ViewAllControllerTest, itsOwnDragTakesNoKeyboardEither)
+{
+    open(3);
+    store.toggleSelection(store.items()[0]);
+    panel.isKey = false;
+    panel.othersHaveKeyboard = true;
+    drag(middleOf(0));
+    panel.isKey = false;
+    panel.endDragOut(DragOperation::Copy);
+    EXPECT_TRUE(panel.visible) << "two are left";
+    EXPECT_FALSE(panel.isKey);
+}
+
+TEST_F(ViewAllControllerTest, aPressThatTheEndOfTheBarInterruptsTogglesNothing)
+{
+    open(3);
+    panel.content->mouseDown({middleOf(1)});
+    setOpen(false);
+    setOpen(true);
+    panel.content->mouseUp({middleOf(1)});
+    EXPECT_EQ(store.selection().size(), 3);
 }
 
 // Clicks elsewhere

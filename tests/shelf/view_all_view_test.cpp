@@ -564,6 +564,42 @@ TEST_F(ViewAllViewTest, commandAndALetterActOnTheSelection)
     EXPECT_EQ(log, (QStringList{QStringLiteral("select all"), QStringLiteral("copy")}));
 }
 
+TEST_F(ViewAllViewTest, aHeldKeyActsOnce)
+{
+    show(3);
+    for (const std::uint32_t code : {key_code::a, key_code::c, key_code::deleteBackward,
+                                     key_code::deleteForward, key_code::escape})
+        EXPECT_TRUE(view->keyDown({code, Modifier::Command, true})) << "nor is it passed on";
+    EXPECT_EQ(log, QStringList());
+}
+
+TEST_F(ViewAllViewTest, hiddenItTakesNoKeysUntilItIsShownAgain)
+{
+    show(3);
+    view->wasHidden();
+    EXPECT_FALSE(key(key_code::deleteBackward));
+    EXPECT_FALSE(key(key_code::escape));
+    EXPECT_FALSE(key(key_code::a, Modifier::Command));
+    EXPECT_EQ(log, QStringList());
+    view->apply(items, selection, 0);
+    EXPECT_TRUE(key(key_code::escape));
+    EXPECT_EQ(log, QStringList{QStringLiteral("close")});
+}
+
+TEST_F(ViewAllViewTest, hiddenItForgetsThePressAndThePointer)
+{
+    show(3);
+    view->mouseMoved({middleOf(1)});
+    view->mouseDown({middleOf(1)});
+    view->wasHidden();
+    view->apply(items, selection, 0);
+    EXPECT_FALSE(view->hovered());
+    view->mouseDragged({middleOf(1) + QPointF(30, 0)});
+    EXPECT_FALSE(desk.panel.dragOut);
+    view->mouseUp({middleOf(1)});
+    EXPECT_EQ(log, QStringList());
+}
+
 TEST_F(ViewAllViewTest, plainLettersArePassedOn)
 {
     show(3);
