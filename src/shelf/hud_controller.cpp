@@ -10,10 +10,13 @@
 #include "platform/checked_math.h"
 #include "platform/geometry.h"
 #include "platform/main_queue.h"
+#include "platform/motion_preference.h"
 #include "shelf/theme.h"
 #include "shelf/view_all_bar.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace corvane {
 
@@ -211,12 +214,14 @@ void HUDController::resizeWindow(const QRectF &target, const ScreenPointer &acti
     m_shrinkGeneration = checkedAdd<std::int64_t>(m_shrinkGeneration, 1);
     const bool isSameScreen = m_lastScreen.lock() == active;
     m_lastScreen = active;
+    const QSizeF before = std::exchange(m_target, target.size());
     if (!m_panel.isVisible() || !isSameScreen) {
+        m_overshoot = {};
         m_panel.setFrame(target);
         return;
     }
     // Large enough for where the body is and for where it goes, until it has gone there.
-    const QRectF room = unionOf(m_panel.frame(), target);
+    const QRectF room = unionOf(m_panel.frame(), withOvershoot(target, before));
     m_panel.setFrame(room);
     if (room == target)
         return;
@@ -225,9 +230,24 @@ void HUDController::resizeWindow(const QRectF &target, const ScreenPointer &acti
         Theme::Motion::settlingDuration(), [this, alive, target, g = m_shrinkGeneration] {
             if (alive.expired() || g != m_shrinkGeneration || m_store.state() == ShelfState::Idle)
                 return;
+            m_overshoot = {};
             m_panel.setFrame(target);
             m_shelf.panelWasResized();
         });
+}
+
+/// Springs add up, so what several ways that are under way go beyond their ends does, too.
+QRectF HUDController::withOvershoot(const QRectF &target, QSizeF before)
+{
+    if (m_context.view.motionPreference.reducesMotion())
+        return target;
+    const double share = Theme::Motion::spring().overshoot();
+    m_overshoot += {std::abs(target.width() - before.width()) * share,
+                    std::abs(target.height() - before.height()) * share};
+    // Whole points, so that what hangs from the middle of the top edge stays where it is.
+    const double side = std::ceil(m_overshoot.width() / 2);
+    const double below = std::ceil(m_overshoot.height());
+    return target.adjusted(-side, -below, side, 0);
 }
 
 void HUDController::scheduleHide()

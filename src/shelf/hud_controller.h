@@ -77,6 +77,7 @@ private:
     ShelfSnapshot makeSnapshot(const ScreenPointer &screen) const;
     void render();
     void resizeWindow(const QRectF &target, const ScreenPointer &active);
+    QRectF withOvershoot(const QRectF &target, QSizeF before);
     void scheduleHide();
     void takeClicks();
     void scroll(int steps);
@@ -91,6 +92,9 @@ private:
     std::int64_t m_shrinkGeneration = 0;
     std::int64_t m_clicksGeneration = 0;
     bool m_letsClicksThrough = false;
+    /// Where the last resize went, and how far the springs that are under way go beyond.
+    QSizeF m_target;
+    QSizeF m_overshoot;
     std::weak_ptr<const Screen> m_lastScreen;
     /// The item that is to be previewed once its file is there.
     std::optional<QUuid> m_awaitedPreview;

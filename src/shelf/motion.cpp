@@ -1,31 +1,8 @@
 #include "shelf/motion.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace corvane {
-
-namespace {
-
-// A spring comes to rest never quite; it is over when every component stays within this many points
-// of its target, however long the way was.
-constexpr double invisibleDistance = 0.02;
-
-double springDuration(const Spring &spring, const MovingValue::Components &from,
-                      const MovingValue::Components &velocity,
-                      const MovingValue::Components &target)
-{
-    const double frequency = std::sqrt(spring.stiffness / spring.mass);
-    const double decay = spring.damping / (2 * spring.mass);
-    double amplitude = 1;
-    for (std::size_t i = 0; i < from.size(); ++i) {
-        amplitude = std::max(
-            amplitude, 2 * (std::abs(from[i] - target[i]) + std::abs(velocity[i]) / frequency));
-    }
-    return std::log(amplitude / invisibleDistance) / decay;
-}
-
-} // namespace
 
 MovingValue::MovingValue(Motion motion, Components from, Components velocity, Components target,
                          double time)
@@ -38,8 +15,7 @@ MovingValue::MovingValue(Motion motion, Components from, Components velocity, Co
     if (const auto *curve = std::get_if<CurveMotion>(&m_motion))
         m_duration = curve->duration;
     else
-        m_duration
-            = springDuration(std::get<SpringMotion>(m_motion).spring, m_from, m_velocity, m_target);
+        m_duration = std::get<SpringMotion>(m_motion).spring.settlingDuration();
 }
 
 /// Calls `use` with value and velocity of each component in turn. What depends on the time alone is

@@ -8,7 +8,7 @@
 
 namespace corvane {
 
-/// Springs from where the value is.
+/// Springs from where the value is, for as long as the spring takes to settle.
 struct SpringMotion {
     Spring spring;
 

@@ -72,9 +72,14 @@ void ShapeLayer::setStroke(const QPen &pen)
 void ShapeLayer::draw(QPainter &painter, QSizeF size, double scale) const
 {
     Layer::draw(painter, size, scale);
+    drawShape(painter, presentedPath());
+}
+
+void ShapeLayer::drawShape(QPainter &painter, const QPainterPath &path) const
+{
     painter.setPen(m_pen);
     painter.setBrush(m_fillColor.alpha() == 0 ? QBrush(Qt::NoBrush) : QBrush(m_fillColor));
-    painter.drawPath(presentedPath());
+    painter.drawPath(path);
 }
 
 } // namespace corvane

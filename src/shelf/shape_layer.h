@@ -17,11 +17,14 @@ public:
     /// The path as it is painted now.
     QPainterPath presentedPath() const;
 
+    QColor fillColor() const { return m_fillColor; }
     void setFillColor(const QColor &color);
     void setStroke(const QPen &pen);
 
 protected:
     void draw(QPainter &painter, QSizeF size, double scale) const override;
+    /// A path with this layer's pen and colour.
+    void drawShape(QPainter &painter, const QPainterPath &path) const;
 
 private:
     QPainterPath m_path;

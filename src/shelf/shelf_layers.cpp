@@ -180,7 +180,7 @@ void ShelfLayers::applyBody(const ShelfLook &look)
     m_body.setBounds(size);
     m_body.setPosition({0, 0});
     const QPainterPath outline = pillPath(size, bodyCornerRadius);
-    for (ShapeLayer *layer : {&m_shelf, &m_hairline}) {
+    for (PillLayer *layer : {&m_shelf, &m_hairline}) {
         layer->setFrame(QRectF({0, 0}, size));
         layer->setPath(outline);
     }
@@ -193,15 +193,8 @@ void ShelfLayers::applyDropTarget(const ShelfLook &look)
     const bool isOpen = snapshot.state != ShelfState::Idle;
 
     m_ring.setFrame(look.layout.ring);
-    QPainterPath ring;
-    const double radius = look.layout.ringCornerRadius;
-    ring.addRoundedRect(QRectF({0, 0}, look.layout.ring.size()).adjusted(0.5, 0.5, -0.5, -0.5),
-                        radius, radius);
-    m_ring.setPath(ring);
-    QPen pen(look.isDragTargeted ? palette.dropRingActive : palette.thumbRing, 1);
-    pen.setDashPattern({5, 4});
-    pen.setCapStyle(Qt::FlatCap);
-    m_ring.setStroke(pen);
+    m_ring.setRing(look.layout.ringCornerRadius,
+                   look.isDragTargeted ? palette.dropRingActive : palette.thumbRing);
     m_ring.setFillColor(look.isDragTargeted ? palette.buttonFillOff : QColor(Qt::transparent));
     m_ring.setOpacity(isOpen && snapshot.looksLikeDropTarget() ? 1 : 0);
 

@@ -2,6 +2,8 @@
 
 #include "shelf/arrow_layers.h"
 #include "shelf/bitmap_layer.h"
+#include "shelf/pill_layer.h"
+#include "shelf/ring_layer.h"
 #include "shelf/shape_layer.h"
 #include "shelf/shelf_cell.h"
 #include "shelf/shelf_hit_test.h"
@@ -75,8 +77,8 @@ private:
     const Theme &m_theme;
     const LayerAnimator &m_animator;
     Layer m_body;
-    ShapeLayer m_shelf;
-    ShapeLayer m_ring;
+    PillLayer m_shelf;
+    RingLayer m_ring;
     TextLayer m_hint;
     Layer m_hoverPlate;
     Layer m_divider;
@@ -87,7 +89,7 @@ private:
     std::array<BitmapLayer, 3> m_actionButtons;
     BitmapLayer m_viewAllButton;
     TextLayer m_flash;
-    ShapeLayer m_hairline;
+    PillLayer m_hairline;
     /// The whole body while it slides, and what it was made from.
     QImage m_picture;
     double m_pictureScale = 0;

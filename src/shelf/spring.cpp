@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <limits>
+#include <numbers>
 
 namespace corvane {
 
@@ -45,6 +46,23 @@ Spring::Course Spring::after(double seconds) const
 }
 
 double Spring::settlingDuration() const
+{
+    thread_local Spring asked;
+    thread_local double duration = asked.findSettlingDuration();
+    if (*this != asked) {
+        asked = *this;
+        duration = findSettlingDuration();
+    }
+    return duration;
+}
+
+double Spring::overshoot() const
+{
+    const double ratio = damping / (2 * std::sqrt(stiffness * mass));
+    return ratio < 1 ? std::exp(-std::numbers::pi * ratio / std::sqrt(1 - ratio * ratio)) : 0;
+}
+
+double Spring::findSettlingDuration() const
 {
     const double frequency = std::sqrt(stiffness / mass);
     const double ratio = damping / (2 * std::sqrt(stiffness * mass));

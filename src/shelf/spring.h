@@ -37,10 +37,15 @@ struct Spring {
     State after(double seconds, State from) const { return after(seconds).from(from); }
 
     /// The first time after which a spring let go at distance 1 stays settled. Costs nothing when
-    /// the same spring is asked again.
+    /// the same spring is asked again on the same thread.
     double settlingDuration() const;
+    /// How far it goes beyond its target when it is let go at distance 1; 0 where it does not.
+    double overshoot() const;
 
     friend bool operator==(const Spring &, const Spring &) = default;
+
+private:
+    double findSettlingDuration() const;
 };
 
 } // namespace corvane

@@ -148,6 +148,26 @@ TEST(QtMainQueue, workThatRunsAnEventLoopDoesNotKeepTheRestWaiting)
     ASSERT_TRUE(eventually([&] { return wasInside && !inner.isRunning(); }));
 }
 
+TEST(QtMainQueue, aTimerKeepsToFractionsOfAMillisecond)
+{
+    // Rounded to 17 ms, ticks would be 7 to 13 ms late by then.
+    QtMainQueue queue;
+    constexpr double frame = 1.0 / 60;
+    constexpr int first = 20;
+    constexpr int last = 40;
+    const double start = queue.now();
+    double leastLate = frame;
+    int number = 0;
+    const auto timer = queue.repeating(frame, [&] {
+        const double passed = queue.now() - start;
+        number = static_cast<int>(std::round(passed / frame));
+        if (number >= first && number <= last)
+            leastLate = std::min(leastLate, std::abs(passed - number * frame));
+    });
+    ASSERT_TRUE(eventually([&] { return number > last; }));
+    EXPECT_LT(leastLate, 0.003);
+}
+
 TEST(QtMainQueue, timersTickInsideANestedLoop)
 {
     QtMainQueue queue;

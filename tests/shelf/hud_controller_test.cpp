@@ -61,6 +61,7 @@ protected:
     const ShelfSnapshot &snapshot() { return view().look().snapshot; }
     QRectF frame() const { return desk.panel.frame(); }
     void settle() { desk.clock.advance(3); }
+    void paint() { ShelfDesk::paint(view(), desk.panel); }
 
     RecordingPresenter presenter;
     RecordingViewAllBar bar;
@@ -320,13 +321,49 @@ TEST_F(HUDControllerTest, AVisiblePanelCoversOldAndNewUntilTheSpringHasSettled)
     const QRectF small = frame();
     EXPECT_EQ(small.width(), 104);
     accept(4);
-    EXPECT_EQ(frame().width(), 316);
+    EXPECT_EQ(frame().width(), 326) << "316, and 5 points beyond it on each side";
     store.clearAll();
     store.toggleManually();
-    EXPECT_EQ(frame().size(), QSizeF(316, 62)) << "a panel about to hide still counts as visible";
+    EXPECT_EQ(frame().size(), QSizeF(326, 62)) << "a panel about to hide still counts as visible";
     desk.clock.advance(Theme::Motion::spring().settlingDuration() + 0.001);
     EXPECT_EQ(frame().size(), QSizeF(292, 56));
     EXPECT_EQ(desk.panel.body, QRectF(0, 0, 292, 56)) << "clicks follow the new frame";
+}
+
+TEST_F(HUDControllerTest, AVisiblePanelHasRoomForWhatTheSpringGoesBeyondItsTarget)
+{
+    settings.setInViewCount(6);
+    accept(1);
+    settle();
+    paint();
+    // The second one while the first one's spring is fast, so that it takes its speed along.
+    accept(2);
+    bool wentBeyond = false;
+    const auto expectRoomUntil = [&](int frames, double width) {
+        for (int i = 0; i < frames; ++i) {
+            desk.clock.advance(1.0 / 60);
+            paint();
+            const QRectF outline = desk.panel.outline.boundingRect();
+            const QRectF room(QPointF(), frame().size());
+            EXPECT_TRUE(room.adjusted(-0.01, -0.01, 0.01, 0.01).contains(outline)) << i;
+            wentBeyond = wentBeyond || outline.width() > width + 1;
+        }
+    };
+    expectRoomUntil(4, 10'000);
+    accept(3);
+    const double width = desk.panel.body.width();
+    expectRoomUntil(40, width);
+    EXPECT_TRUE(wentBeyond);
+    EXPECT_EQ(frame().width(), width);
+}
+
+TEST_F(HUDControllerTest, WithoutMotionThereIsNothingToLeaveRoomFor)
+{
+    desk.motion.reduces = true;
+    settings.setInViewCount(3);
+    accept(1);
+    accept(4);
+    EXPECT_EQ(frame().width(), 316);
 }
 
 TEST_F(HUDControllerTest, ALaterResizeVoidsAnEarlierShrink)

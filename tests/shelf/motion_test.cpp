@@ -101,6 +101,26 @@ TEST(Motion, ACurveCanBeGivenANewTargetInMidFlightWithoutAJump)
         expectVelocityIsSlope(first, t);
 }
 
+TEST(Spring, SaysHowFarItGoesBeyondItsTarget)
+{
+    for (const Spring &spring : {Theme::Motion::spring(), Spring{1, 400, 6}, Spring{1, 100, 60}}) {
+        double farthest = 0;
+        for (double t = 0; t < 2; t += 1e-4)
+            farthest = std::max(farthest, -spring.after(t, {1, 0}).distance);
+        EXPECT_NEAR(spring.overshoot(), farthest, 1e-6);
+    }
+}
+
+TEST(Motion, ASpringIsOverWhenItHasSettledHoweverLongTheWay)
+{
+    const Spring spring = Theme::Motion::spring();
+    for (const double way : {0.5, 10.0, 1000.0}) {
+        const MovingValue value(SpringMotion{spring}, {0}, {0}, {way}, 0);
+        EXPECT_FALSE(value.isOverAt(spring.settlingDuration() - 1e-6)) << way;
+        EXPECT_TRUE(value.isOverAt(spring.settlingDuration())) << way;
+    }
+}
+
 TEST(Motion, LandsExactlyOnItsTargetWhenItIsOver)
 {
     const MovingValue value(SpringMotion{Theme::Motion::spring()}, {0, 5}, {0, 0}, {300, 5}, 2);

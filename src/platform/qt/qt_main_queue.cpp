@@ -24,21 +24,40 @@ int milliseconds(double seconds)
     return static_cast<int>(std::clamp(std::round(seconds * 1000), 0.0, longest));
 }
 
+/// The toolkit's timers know whole milliseconds only, and a display's frames take 16.67 of them:
+/// the ticks stay near multiples of the interval, so that they neither drift nor are lost.
 class RepeatingTimer : public MainQueue::Timer {
 public:
-    RepeatingTimer(double seconds, MainQueue::Work work)
-        : m_work(std::make_shared<MainQueue::Work>(std::move(work)))
+    RepeatingTimer(const MainQueue &queue, double seconds, MainQueue::Work work)
+        : m_queue(queue)
+        , m_interval(std::max(seconds, shortest))
+        , m_next(queue.now() + m_interval)
+        , m_work(std::make_shared<MainQueue::Work>(std::move(work)))
     {
         m_timer.setTimerType(Qt::PreciseTimer);
-        // The work may destroy this timer, and with it the closure that runs.
-        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [kept = m_work] {
-            const auto running = kept;
-            (*running)();
-        });
-        m_timer.start(milliseconds(seconds));
+        m_timer.setSingleShot(true);
+        QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] { tick(); });
+        startTimer();
     }
 
 private:
+    static constexpr double shortest = 0.001;
+
+    void startTimer() { m_timer.start(milliseconds(m_next - m_queue.now())); }
+    void tick()
+    {
+        // What has been missed is left out.
+        m_next += m_interval * std::max(1.0, std::ceil((m_queue.now() - m_next) / m_interval));
+        startTimer();
+        // It may destroy this timer, and with it what it runs.
+        const auto running = m_work;
+        (*running)();
+    }
+
+    const MainQueue &m_queue;
+    double m_interval;
+    /// When the next tick is due.
+    double m_next;
     std::shared_ptr<MainQueue::Work> m_work;
     QTimer m_timer;
 };
@@ -78,7 +97,7 @@ void QtMainQueue::asyncAfter(double seconds, Work work)
 
 std::unique_ptr<MainQueue::Timer> QtMainQueue::repeating(double seconds, Work work)
 {
-    return std::make_unique<RepeatingTimer>(seconds, std::move(work));
+    return std::make_unique<RepeatingTimer>(*this, seconds, std::move(work));
 }
 
 double QtMainQueue::now() const
