@@ -1,6 +1,7 @@
 #include "app/app_delegate.h"
 
 #include "app/shell_windows.h"
+#include "app/updater.h"
 #include "core/scratch_spool.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
@@ -28,6 +29,8 @@ AppDelegate::~AppDelegate()
 void AppDelegate::applicationDidFinishLaunching()
 {
     m_context.settings.registerDefaults();
+    if (m_context.updater)
+        m_context.updater->start();
     if (!m_context.settings.areKept())
         qWarning("[Corvane] The settings folder cannot be written to; changes are not kept.");
     m_hud = std::make_unique<HUDController>(m_context.hud);

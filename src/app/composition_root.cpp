@@ -180,8 +180,6 @@ bool CompositionRoot::finishWork(std::chrono::milliseconds patience)
 
 std::unique_ptr<Updater> CompositionRoot::makeUpdater()
 {
-    // It takes the setting now, which has to have its default by then.
-    settings.registerDefaults();
     const AppInfo info = AppInfo::builtIn();
     const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
     return std::make_unique<SoftwareUpdater>(
@@ -192,7 +190,7 @@ std::unique_ptr<Updater> CompositionRoot::makeUpdater()
                                  desktopServices,
                                  UpdateRecordFile(UpdateRecordFile::environmentFolder()),
                                  [] { return QDateTime::currentSecsSinceEpoch(); },
-                                 settings.autoCheckUpdates()},
+                                 [this] { return settings.autoCheckUpdates(); }},
         SoftwareUpdater::Program{
             info.text(AppInfo::feedAddressKey), info.text(AppInfo::updateKeyKey), info.version(),
             info.build(), UpdateSystem::thisOne(), installation, QFile::encodeName(downloads)});

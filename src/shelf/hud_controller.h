@@ -55,7 +55,6 @@ public:
     HUDController(const HUDController &) = delete;
     HUDController &operator=(const HUDController &) = delete;
 
-    const ShelfView &shelf() const { return m_shelf; }
     /// The shelf is about to be shown unasked: for so many seconds its clicks go to what lies below
     /// it, where whoever clicks has not seen it yet.
     void letClicksThrough(double seconds);

@@ -37,7 +37,6 @@ public:
     using Paint = std::function<void(QPainter &, const QRectF &square)>;
 
     QImage image(const Key &key, const Paint &paint);
-    std::size_t size() const { return m_images.size(); }
 
 private:
     std::map<Key, QImage> m_images;

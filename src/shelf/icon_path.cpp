@@ -107,12 +107,6 @@ IconPath &IconPath::circle(QPointF centre, double radius)
     return *this;
 }
 
-IconPath &IconPath::cutCircle(QPointF centre, double radius)
-{
-    append(circleOutline(centre, radius), Turn::Cut);
-    return *this;
-}
-
 IconPath &IconPath::line(const std::vector<QPointF> &points, double width)
 {
     for (std::size_t i = 0; i + 1 < points.size(); ++i)

@@ -25,7 +25,6 @@ public:
     IconPath &roundedRect(const QRectF &rect, double radius);
     IconPath &cutRoundedRect(const QRectF &rect, double radius);
     IconPath &circle(QPointF centre, double radius);
-    IconPath &cutCircle(QPointF centre, double radius);
     /// A line of `width` with round ends through all points.
     IconPath &line(const std::vector<QPointF> &points, double width);
     IconPath &polygon(const std::vector<QPointF> &points);

@@ -2,6 +2,7 @@
 #include "app/app_info.h"
 #include "app/preferences/preferences_window_controller.h"
 #include "app/shell_windows.h"
+#include "app/updater.h"
 #include "app/welcome/welcome_window_controller.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_desktop_services.h"
@@ -27,6 +28,24 @@
 namespace corvane::test {
 
 namespace {
+
+/// Notes what the setting said when it was started.
+class StartedUpdater : public Updater {
+public:
+    explicit StartedUpdater(const Settings &settings)
+        : m_settings(settings)
+    {
+    }
+    void start() override { automaticWhenStarted.push_back(m_settings.autoCheckUpdates()); }
+    void checkForUpdates() override { }
+    bool automaticallyChecksForUpdates() const override { return true; }
+    void setAutomaticallyChecksForUpdates(bool) override { }
+
+    std::vector<bool> automaticWhenStarted;
+
+private:
+    const Settings &m_settings;
+};
 
 class AppDelegateTest : public testing::Test, protected ShelfModel {
 protected:
@@ -57,7 +76,8 @@ protected:
             windows,
             [this] { log << QStringLiteral("terminate"); },
             controllerContext(),
-            {edgeTrigger, fullScreenWindows, desktop, desktop, desktop.pointer}});
+            {edgeTrigger, fullScreenWindows, desktop, desktop, desktop.pointer},
+            &updater});
         delegate->applicationDidFinishLaunching();
     }
     bool pressHotKey(const FakeHotKeys::Combination &hotKey)
@@ -109,6 +129,7 @@ protected:
                            desktopServices, desk.motion, AppInfo({})},
                           activation,
                           desk.clock}};
+    StartedUpdater updater{settings};
     std::optional<AppDelegate> delegate;
     QStringList log;
 };
@@ -119,6 +140,11 @@ TEST_F(AppDelegateTest, RegistersTheDefaultsBeforeAnythingReadsASetting)
 {
     EXPECT_TRUE(settings.autoShowOnDrag());
     EXPECT_EQ(settings.inViewCount(), 1);
+}
+
+TEST_F(AppDelegateTest, StartsTheUpdaterOnceTheSettingsHaveTheirDefaults)
+{
+    EXPECT_EQ(updater.automaticWhenStarted, (std::vector{true}));
 }
 
 TEST_F(AppDelegateTest, ADragOpensTheShelfAndItsEndClosesIt)

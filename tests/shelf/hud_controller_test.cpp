@@ -39,7 +39,7 @@ protected:
         settings.registerDefaults();
         pointer.position = QPointF(700, 900);
         controller.emplace(context());
-        bar.shelf = &controller->shelf();
+        bar.shelf = &view();
     }
 
     HUDController::Context context()

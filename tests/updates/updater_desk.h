@@ -33,7 +33,7 @@ struct UpdaterDesk {
                                      desktop,
                                      UpdateRecordFile(state.path("corvane")),
                                      [this] { return began + static_cast<qint64>(clock.now()); },
-                                     isAutomatic},
+                                     [this] { return isAutomatic; }},
             SoftwareUpdater::Program{
                 QStringLiteral("https://corvane.example/appcast.xml"),
                 key.publicText(),

@@ -28,7 +28,6 @@ bool isComplete(const AppcastEnclosure &enclosure)
 SoftwareUpdater::SoftwareUpdater(Context context, Program program)
     : m_context(std::move(context))
     , m_program(std::move(program))
-    , m_checksAutomatically(m_context.checksAutomatically)
 {
     const std::weak_ptr<bool> alive = m_alive;
     const auto guarded = [this, alive](void (SoftwareUpdater::*action)()) {
@@ -49,6 +48,7 @@ SoftwareUpdater::~SoftwareUpdater() = default;
 
 void SoftwareUpdater::start()
 {
+    m_checksAutomatically = m_context.checksAutomatically();
     m_record = m_context.record.load();
     scheduleCheck();
     if (m_program.installation.kind != Installation::Kind::AppImage)

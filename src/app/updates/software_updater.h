@@ -59,7 +59,8 @@ public:
         UpdateRecordFile record;
         /// Seconds since 1970.
         std::function<qint64()> now;
-        bool checksAutomatically = false;
+        /// Asked once, at the start.
+        std::function<bool()> checksAutomatically;
     };
 
     SoftwareUpdater(Context context, Program program);
@@ -96,7 +97,7 @@ private:
 
     Context m_context;
     Program m_program;
-    bool m_checksAutomatically;
+    bool m_checksAutomatically = false;
     UpdateRecord m_record;
     std::unique_ptr<MainQueue::Timer> m_timer;
     State m_state = State::Resting;

@@ -13,7 +13,6 @@ UpdaterController::UpdaterController(const AppInfo &info, const Installation &in
         || !isConfigured(info, AppInfo::updateKeyKey))
         return;
     m_updater = make();
-    m_updater->start();
 }
 
 UpdaterController::~UpdaterController() = default;

@@ -17,7 +17,8 @@ class Updater;
 /// date. Main thread only.
 class UpdaterController {
 public:
-    /// Makes the updater where there is to be one, and starts it.
+    /// Makes the updater where there is to be one. It is started once the settings have their
+    /// defaults.
     UpdaterController(const AppInfo &info, const Installation &installation,
                       const std::function<std::unique_ptr<Updater>()> &make);
     UpdaterController(const UpdaterController &) = delete;

@@ -35,7 +35,7 @@ Result guarded(Result fallback, Function ask)
     try {
         return ask();
     } catch (const std::exception &error) {
-        qWarning("corvane: a drop failed: %s", error.what());
+        qWarning("[Corvane] A drop failed: %s", error.what());
         return fallback;
     }
 }

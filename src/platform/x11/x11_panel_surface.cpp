@@ -91,7 +91,8 @@ void X11PanelSurface::adopt(QWindow &window)
     auto *const qt = x11_qt::connection();
     if (!qt)
         return;
-    m_panels.push_back(x11_qt::nativeWindow(window));
+    std::erase_if(m_panels, [](const QPointer<QWindow> &panel) { return panel.isNull(); });
+    m_panels.emplace_back(&window);
     // Compositors would draw a shadow around the whole window, body or not.
     const std::uint32_t noShadow = 0;
     xcb_change_property(qt, XCB_PROP_MODE_REPLACE, x11_qt::nativeWindow(window),
@@ -223,7 +224,10 @@ xcb_window_t X11PanelSurface::focusedWindow() const
 
 bool X11PanelSurface::isPanel(xcb_window_t window) const
 {
-    return std::find(m_panels.begin(), m_panels.end(), window) != m_panels.end();
+    // A window that is gone has given its number back, and another program may have it by now.
+    return std::ranges::any_of(m_panels, [=](const QPointer<QWindow> &panel) {
+        return panel && x11_qt::nativeWindow(*panel) == window;
+    });
 }
 
 } // namespace corvane

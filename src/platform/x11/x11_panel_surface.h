@@ -6,6 +6,9 @@
 #include "platform/x11/x11_pointing_devices.h"
 #include "platform/x11/x11_window_manager.h"
 
+#include <QPointer>
+#include <QWindow>
+
 #include <vector>
 
 namespace corvane {
@@ -58,7 +61,8 @@ private:
     xcb_atom_t m_compositorSelection;
     bool m_isComposited = false;
     CallbackList<> m_observers;
-    std::vector<xcb_window_t> m_panels;
+    /// Those that are gone leave with the next one that comes.
+    std::vector<QPointer<QWindow>> m_panels;
     /// Who had the keyboard before panels took it, which may take it from each other: as the window
     /// manager names it, and as the server does where there is none.
     xcb_window_t m_previousActive = XCB_NONE;
