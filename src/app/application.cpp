@@ -7,8 +7,11 @@
 #include "platform/freedesktop/dbus_single_instance.h"
 #include "platform/freedesktop/session_bus.h"
 #include "platform/qt/unix_signals.h"
+#include "services/preview_scratch.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFile>
 
 #include <unistd.h>
 
@@ -103,6 +106,9 @@ int runApplication(int argc, char **argv)
 
     delegate->applicationDidFinishLaunching();
     root->workQueue.run(root->spool.leftoversRemoval());
+    root->workQueue.run([folder = QFile::encodeName(QDir::tempPath())] {
+        preview_scratch::removeLeftovers(folder);
+    });
     const int status = QApplication::exec();
     putInOrder(std::exchange(delegate, nullptr));
     root->userDefaults.synchronize();

@@ -7,8 +7,7 @@
 #include "platform/main_queue.h"
 #include "platform/private_file.h"
 #include "platform/work_queue.h"
-
-#include <QUuid>
+#include "services/preview_scratch.h"
 
 #include <unistd.h>
 
@@ -83,6 +82,7 @@ void QuickLookPresenter::discardScratch()
     m_generation->store(checkedAdd<std::uint64_t>(m_generation->load(), 1));
     if (const auto url = std::exchange(m_scratchURL, std::nullopt))
         ::unlink(file_url::nativePath(*url).constData());
+    m_scratchLock.close();
 }
 
 std::optional<QUrl> QuickLookPresenter::resolveURL(const DropItem &item)
@@ -111,13 +111,14 @@ std::optional<QUrl> QuickLookPresenter::resolveURL(const DropItem &item)
 std::optional<QUrl> QuickLookPresenter::writeScratch(const std::function<QByteArray()> &data,
                                                      qsizetype size, const QString &extension)
 {
-    const QString uuid = QUuid::createUuid().toString(QUuid::WithoutBraces).toUpper();
-    const QString name = QLatin1String("Corvane-Preview-") + uuid + QLatin1Char('.') + extension;
-    const QByteArray path = m_temporaryDirectory + '/' + name.toUtf8();
-    if (size > longestAtOnce)
+    const QByteArray path = preview_scratch::newPath(m_temporaryDirectory, extension);
+    if (size > longestAtOnce) {
         writeInBackground(data, path);
-    else if (!private_file::create(path, data()))
-        return std::nullopt;
+    } else {
+        m_scratchLock = private_file::createLocked(path, data());
+        if (!m_scratchLock.isOpen())
+            return std::nullopt;
+    }
     m_scratchURL = file_url::fromNativePath(path);
     return m_scratchURL;
 }
@@ -131,21 +132,23 @@ void QuickLookPresenter::writeInBackground(const std::function<QByteArray()> &da
         const auto isWanted = [generation, asked] { return generation->load() == asked; };
         if (!isWanted())
             return;
-        const bool isThere = private_file::create(path, data());
+        const auto lock
+            = std::make_shared<FileDescriptor>(private_file::createLocked(path, data()));
         if (!isWanted())
             ::unlink(path.constData());
-        mainQueue.async([this, isWanted, isThere] {
+        mainQueue.async([this, isWanted, lock] {
             // It discards its scratch file before it goes.
             if (isWanted())
-                written(isThere);
+                written(std::move(*lock));
         });
     });
 }
 
-void QuickLookPresenter::written(bool isThere)
+void QuickLookPresenter::written(FileDescriptor lock)
 {
     m_isWriting = false;
-    if (isThere) {
+    m_scratchLock = std::move(lock);
+    if (m_scratchLock.isOpen()) {
         m_context.panel.reloadData();
         return;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/item_presenter.h"
+#include "platform/file_descriptor.h"
 #include "platform/preview_panel.h"
 
 #include <QByteArray>
@@ -63,17 +64,16 @@ public:
 
 private:
     std::optional<QUrl> resolveURL(const DropItem &item);
-    /// Writes "Corvane-Preview-", a new UUID in upper case without braces, and the extension; only
-    /// the user may read it.
     std::optional<QUrl> writeScratch(const std::function<QByteArray()> &data, qsizetype size,
                                      const QString &extension);
     void writeInBackground(const std::function<QByteArray()> &data, const QByteArray &path);
-    void written(bool isThere);
+    void written(FileDescriptor lock);
 
     Context m_context;
     QByteArray m_temporaryDirectory;
     std::optional<QUrl> m_previewURL;
     std::optional<QUrl> m_scratchURL;
+    FileDescriptor m_scratchLock;
     QString m_title;
     bool m_isWriting = false;
     /// Grows when a scratch file is discarded: what is being written for an older number goes.

@@ -6,7 +6,9 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace corvane {
 namespace {
@@ -63,6 +65,39 @@ TEST_F(PrivateFileTest, OnlyTheUserMaySeeIt)
     EXPECT_EQ(permissionsOf(base + "/a"), 0600U);
     EXPECT_EQ(permissionsOf(base + "/x/y/a"), 0600U);
     EXPECT_EQ(permissionsOf(base + "/x/y"), 0700U);
+}
+
+TEST_F(PrivateFileTest, ItsLockIsHeldFromTheBeginningAndGoesWithIt)
+{
+    FileDescriptor made = private_file::createLocked(base + "/a", "bytes");
+    ASSERT_TRUE(made.isOpen());
+    const auto isFree = [this] {
+        const FileDescriptor other = regular_file::open(base + "/a");
+        return ::flock(other.number(), LOCK_EX | LOCK_NB) == 0;
+    };
+    EXPECT_FALSE(isFree());
+    made.close();
+    EXPECT_TRUE(isFree());
+    EXPECT_FALSE(private_file::createLocked(base + "/a", "others").isOpen());
+    EXPECT_EQ(regular_file::contents(base + "/a", 10), QByteArray("bytes"));
+    EXPECT_EQ(entries(), 1);
+}
+
+TEST_F(PrivateFileTest, NoNameIsUsedThatSomebodyCouldForesee)
+{
+    // What others put there beforehand: the names that process numbers and counts lead to.
+    const QByteArray victim = base + "/victim";
+    ASSERT_TRUE(private_file::create(victim, "precious"));
+    for (int count = 0; count < 100; ++count) {
+        const QByteArray name = base + "/.unfinished-" + QByteArray::number(::getpid()) + '-'
+            + QByteArray::number(count);
+        ASSERT_EQ(::symlink(victim.constData(), name.constData()), 0);
+    }
+    const int before = entries();
+    EXPECT_TRUE(private_file::create(base + "/a", "bytes"));
+    EXPECT_TRUE(private_file::replace(base, base, "b", "bytes"));
+    EXPECT_EQ(entries(), before + 2) << "they stay as they are";
+    EXPECT_EQ(regular_file::contents(victim, 10), QByteArray("precious"));
 }
 
 TEST_F(PrivateFileTest, AFolderThatIsNoneMakesItFail)

@@ -3,6 +3,7 @@
 #include "fakes/fake_preview_panel.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
+#include "services/preview_scratch.h"
 #include "services/quick_look_presenter.h"
 
 #include <QRegularExpression>
@@ -181,6 +182,20 @@ TEST_F(QuickLookPresenterTest, ShowsNothingWhereNothingCanBeWritten)
     EXPECT_TRUE(panel.log.isEmpty());
     EXPECT_FALSE(homeless.previewURL().has_value());
     EXPECT_FALSE(homeless.scratchURL().has_value());
+}
+
+TEST_F(QuickLookPresenterTest, KeepsItsScratchFileFromThoseWhoTidyUp)
+{
+    const QString longer(QuickLookPresenter::longestAtOnce + 1, QLatin1Char('x'));
+    for (const QString &string : {QStringLiteral("short"), longer}) {
+        presenter->present(text(string));
+        work.runAll();
+        clock.runPending();
+        preview_scratch::removeLeftovers(folder.path());
+        EXPECT_EQ(scratchFiles().size(), 1);
+    }
+    presenter->discardScratch();
+    EXPECT_TRUE(scratchFiles().isEmpty());
 }
 
 TEST_F(QuickLookPresenterTest, LeavesNoScratchFileBehindAtItsEnd)
