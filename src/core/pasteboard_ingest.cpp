@@ -8,6 +8,7 @@
 #include "core/scratch_spool.h"
 #include "platform/file_url.h"
 #include "platform/pasteboard.h"
+#include "platform/shown_address.h"
 
 #include <algorithm>
 #include <optional>
@@ -43,9 +44,9 @@ std::optional<DropItem> linkItem(Pasteboard &pasteboard)
     const auto url = webLink(pasteboard);
     if (!url)
         return std::nullopt;
-    const QString address = url->toString(QUrl::FullyEncoded);
+    const QString address = shownAddress(*url);
     const QString path = url->path();
-    const QString host = url->host();
+    const QString host = shownHost(*url);
     const bool isHomePage = path.isEmpty() || path == QLatin1String("/");
     return DropItem(DropItem::Link{*url}, isHomePage ? address : path,
                     host.isEmpty() ? address : host, false);

@@ -4,6 +4,7 @@
 #include "core/item_loading.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
+#include "platform/shown_address.h"
 
 #include <utility>
 #include <vector>
@@ -99,8 +100,8 @@ void ShelfStore::mergeLinkPreview(const QUuid &id, const QUrl &url, const LinkPr
         change(id, PublicationPace::Detail, [&](DropItem &item) { item.setTitle(preview.title); });
         if (alive.expired())
             return;
-        const QString host = url.host();
-        const QString address = host.isEmpty() ? url.toString(QUrl::FullyEncoded) : host;
+        const QString host = shownHost(url);
+        const QString address = host.isEmpty() ? shownAddress(url) : host;
         const QString subtitle = preview.siteName.value_or(address);
         change(id, PublicationPace::Detail, [&](DropItem &item) { item.setSubtitle(subtitle); });
     }

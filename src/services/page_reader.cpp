@@ -1,5 +1,6 @@
 #include "services/page_reader.h"
 
+#include "platform/shown_address.h"
 #include "services/page_tags.h"
 
 #include <QStringDecoder>
@@ -31,7 +32,7 @@ std::optional<QString> documentTitleOf(std::string_view html)
 
 std::optional<QString> hostOf(const QUrl &url)
 {
-    const QString host = url.host();
+    const QString host = shownHost(url);
     return host.isEmpty() ? std::nullopt : std::optional(host);
 }
 

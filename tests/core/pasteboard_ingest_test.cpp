@@ -583,6 +583,19 @@ TEST_F(Links, ToAHomePageAreTitledWithTheirAddress)
     }
 }
 
+TEST_F(Links, WithAnInternationalNamePassForNoOtherOne)
+{
+    offerLink("https://xn--80ak6aa92e.com/a");
+    EXPECT_EQ(single().subtitle(), QStringLiteral("xn--80ak6aa92e.com"));
+    pasteboard = {};
+    offerLink("https://xn--80ak6aa92e.com/");
+    EXPECT_EQ(single().title(), QStringLiteral("https://xn--80ak6aa92e.com/"));
+    pasteboard = {};
+    offerLink("https://xn--bcher-kva.de/");
+    EXPECT_EQ(single().title(), QStringLiteral("https://b\u00fccher.de/"));
+    EXPECT_EQ(single().subtitle(), QStringLiteral("b\u00fccher.de"));
+}
+
 TEST_F(Links, WithoutAHostAreDescribedByTheirAddress)
 {
     offerLink("http:/a");

@@ -340,6 +340,8 @@ TEST(PageReader, TakesTheHostWhereTheSiteHasNoName)
     EXPECT_EQ(read("<meta property=og:site_name content=' '>").siteName, QString());
     EXPECT_EQ(parse(QString(), QUrl(QStringLiteral("file:///a.html"))).siteName, std::nullopt);
     EXPECT_EQ(parse(QString(), QUrl()).siteName, std::nullopt);
+    EXPECT_EQ(parse(QString(), QUrl(QStringLiteral("https://xn--80ak6aa92e.com/"))).siteName,
+              QStringLiteral("xn--80ak6aa92e.com"));
 }
 
 TEST(PageReader, ResolvesThePictureAgainstThePage)

@@ -3,6 +3,7 @@
 #include "app/preferences/link_button.h"
 #include "app/text_label.h"
 #include "platform/desktop_services.h"
+#include "platform/shown_address.h"
 
 #include <QHBoxLayout>
 #include <QUrl>
@@ -87,7 +88,7 @@ QWidget *AboutPane::makeLink(const QString &text, const QString &description, co
 {
     auto *link = new LinkButton(text, m_look);
     link->setAccessibleDescription(description);
-    link->setToolTip(url.toDisplayString());
+    link->setToolTip(shownAddress(url));
     connect(link, &QPushButton::clicked, this,
             [&services = m_context.desktopServices, url] { services.open(url); });
     return link;
