@@ -60,10 +60,18 @@ LinkPreviewService::Product product()
     return {info.version(), info.homePage()};
 }
 
+WebNetwork networkBy(const std::shared_ptr<WebRoutes> &routes)
+{
+    WebNetwork network;
+    network.routes = routes;
+    return network;
+}
+
 } // namespace
 
 CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
-    : webClient(mainQueue)
+    : webRoutes(std::make_shared<DesktopRoutes>())
+    , webClient(mainQueue, networkBy(webRoutes))
     , screens(mainQueue)
     , fileIcons(mountTable)
     , connection(terminate)
@@ -123,7 +131,7 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , installation(Installation::from(Installation::Evidence::ofThisProcess()))
     , updateWindow(windowActivation, AppInfo::builtIn().version(),
                    installation.kind == Installation::Kind::AppImage)
-    , updateClient(mainQueue)
+    , updateClient(mainQueue, networkBy(webRoutes))
     , updates(AppInfo::builtIn(), installation, [this] { return makeUpdater(); })
     , windows({{settings, loginItems, shortcuts, keyMonitors, hotKeyService, desktopServices,
                 motionPreference, AppInfo::builtIn(), updates.updater(),

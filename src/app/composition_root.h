@@ -25,6 +25,7 @@
 #include "platform/freedesktop/autostart_login_items.h"
 #include "platform/freedesktop/mount_table.h"
 #include "platform/freedesktop/portal_motion_preference.h"
+#include "platform/freedesktop/proxies/desktop_routes.h"
 #include "platform/freedesktop/remote_file_threads.h"
 #include "platform/freedesktop/thumbnails/sandbox.h"
 #include "platform/freedesktop/thumbnails/sandboxed_thumbnailers.h"
@@ -90,6 +91,7 @@ struct CompositionRoot {
     QtImageCodec imageCodec;
     // After what its work uses: its end waits for work that is running.
     QtWorkQueue workQueue;
+    std::shared_ptr<WebRoutes> webRoutes;
     QtWebClient webClient;
     QtScreens screens;
     QtKeyboard keyboard;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/web_route.h"
+
 #include <QByteArray>
 #include <QUrl>
 
@@ -35,6 +37,9 @@ struct WebRequest {
     std::optional<AddressSpace> foundIn;
     /// Only https will do, and http to this machine; no redirection may lead to http at all.
     bool mustBeSecure = false;
+    /// Called before the completion, on the main thread, with the way that the request went last,
+    /// or would have had to go. May be none.
+    std::function<void(const WebRoute &)> onRoute = {};
 };
 
 struct WebResponse {
@@ -49,8 +54,8 @@ struct WebResponse {
     AddressSpace foundIn = AddressSpace::Public;
 };
 
-/// Fetches from the web: http and https alone, no cookies, no cache, no stored credentials, nothing
-/// kept on disk.
+/// Fetches from the web, the way that the user wants it to be reached: http and https alone, no
+/// cookies, no cache, no stored credentials, nothing kept on disk.
 class WebClient {
 public:
     /// A request ends when no byte came for this long.

@@ -163,6 +163,43 @@ TEST_F(SoftwareUpdaterTest, AFeedThatCannotBeHadIsSaidToBe)
     EXPECT_TRUE(hasFailed(UpdateFailure::Unreachable));
 }
 
+TEST_F(SoftwareUpdaterTest, TheWayThatACheckAndADownloadTookIsTold)
+{
+    const WebRoute proxied{WebRoute::Kind::Proxied, {WebProxy::Kind::Http, QStringLiteral("p"), 1}};
+    make();
+    updater->checkForUpdates();
+    EXPECT_FALSE(display.report.route);
+    web.requests.back().onRoute(proxied);
+    answer(feed(item("11", UpdateFolder::newImage())));
+    EXPECT_EQ(display.report.stage, Stage::Available);
+    EXPECT_EQ(display.report.route, proxied);
+    display.onInstall();
+    settle();
+    downloader.downloads.back().request.onRoute(WebRoute{WebRoute::Kind::NeedsScript});
+    downloader.fail();
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::Failed);
+    EXPECT_EQ(display.report.route, (WebRoute{WebRoute::Kind::NeedsScript}));
+
+    display.onDismiss();
+    updater->checkForUpdates();
+    EXPECT_FALSE(display.report.route) << "of the check before";
+    web.requests.back().onRoute(WebRoute{});
+    answer(newer());
+    EXPECT_EQ(display.report.stage, Stage::Available);
+    EXPECT_EQ(display.report.route, WebRoute{});
+}
+
+TEST_F(SoftwareUpdaterTest, TheWayOfACheckThatFoundNothingIsToldToo)
+{
+    make();
+    updater->checkForUpdates();
+    web.requests.back().onRoute(WebRoute{});
+    answer(same());
+    EXPECT_EQ(display.report.stage, Stage::UpToDate);
+    EXPECT_EQ(display.report.route, WebRoute{});
+}
+
 TEST_F(SoftwareUpdaterTest, WhatIsNoFeedIsSaidToBe)
 {
     for (const QByteArray &bytes : {QByteArray("<html/>"), entityBomb(),

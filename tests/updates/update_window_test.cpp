@@ -175,6 +175,32 @@ TEST_F(UpdateWindowTest, EveryFailureSaysSomethingElse)
     }
 }
 
+TEST_F(UpdateWindowTest, WhichWayWasTakenIsSaid)
+{
+    const auto detail = [](Stage stage, const std::optional<WebRoute> &route,
+                           UpdateFailure failure = UpdateFailure::Unreachable) {
+        UpdateReport shown = report(stage);
+        shown.failure = failure;
+        shown.route = route;
+        return UpdateTexts::of(shown, QStringLiteral("1.0"), true).detail;
+    };
+    const WebRoute direct;
+    const WebRoute proxied{WebRoute::Kind::Proxied,
+                           {WebProxy::Kind::Socks5, QStringLiteral("xn--80ak6aa92e.com"), 9050}};
+    for (const Stage stage : {Stage::UpToDate, Stage::Available, Stage::Failed}) {
+        EXPECT_TRUE(detail(stage, direct).contains(QStringLiteral("directly")));
+        EXPECT_TRUE(detail(stage, proxied)
+                        .contains(QStringLiteral("through the proxy xn--80ak6aa92e.com:9050")));
+        EXPECT_FALSE(detail(stage, std::nullopt).contains(QStringLiteral("sked")));
+    }
+    for (const auto kind : {WebRoute::Kind::NeedsScript, WebRoute::Kind::Unusable}) {
+        const QString text = detail(Stage::Failed, WebRoute{kind});
+        EXPECT_TRUE(text.startsWith(QStringLiteral("Nothing was asked"))) << text.toStdString();
+    }
+    EXPECT_EQ(detail(Stage::Failed, direct, UpdateFailure::WrongSignature),
+              detail(Stage::Failed, std::nullopt, UpdateFailure::WrongSignature));
+}
+
 TEST_F(UpdateWindowTest, ScreenReadersAreToldWhatTheButtonIsFor)
 {
     show(Stage::Available);
@@ -193,6 +219,8 @@ TEST_F(UpdateWindowTest, EverythingFitsIntoItsWindow)
             UpdateReport shown = report(stage);
             shown.failure = static_cast<UpdateFailure>(failure);
             shown.fileName = QStringLiteral("Corvane-1.2.3-x86_64.AppImage");
+            shown.route = {WebRoute::Kind::Proxied,
+                           {WebProxy::Kind::Http, QStringLiteral("w").repeated(60), 65535}};
             controller.show(shown, UpdateAttention::Asked);
             const QSize needed = controller.window()->minimumSizeHint();
             const int height = controller.window()->layout()->hasHeightForWidth()

@@ -66,6 +66,8 @@ QUrl HttpServer::url(const QString &target, const QString &host) const
 void HttpServer::accept(QTcpSocket &socket)
 {
     ++connections;
+    ++open;
+    QObject::connect(&socket, &QTcpSocket::disconnected, m_server.get(), [this] { --open; });
     QObject::connect(&socket, &QTcpSocket::bytesWritten, &socket,
                      [this](qint64 count) { bytesTaken += count; });
     QObject::connect(&socket, &QTcpSocket::disconnected, &socket, &QObject::deleteLater);

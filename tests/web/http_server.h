@@ -49,6 +49,8 @@ public:
     QList<QByteArray> requests;
     /// How many times somebody knocked.
     int connections = 0;
+    /// How many of them are there now.
+    int open = 0;
     /// How many bytes the other sides took.
     qint64 bytesTaken = 0;
 

@@ -80,7 +80,6 @@ protected:
                 return AddressSpace::Private;
             return addressSpaceOf(address);
         };
-        network.proxies = {};
         resolver->name(QStringLiteral("public.test"), {QStringLiteral("127.0.0.2")});
         resolver->name(QStringLiteral("private.test"), {QStringLiteral("127.0.0.3")});
         resolver->name(QStringLiteral("local.test"), {QStringLiteral("127.0.0.1")});

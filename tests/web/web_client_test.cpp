@@ -63,7 +63,6 @@ TEST_F(WebClientTest, saysOfTheUserWhatItIsToldAndNothingElse)
     asked.accept = "text/html,application/xhtml+xml";
     fetch(asked);
     ASSERT_EQ(server.requests.size(), 1);
-    // Which codings can be undone is the toolkit's.
     const QByteArray accepted = linesOf(server.requests.first()).last();
     EXPECT_TRUE(accepted.startsWith("Accept-Encoding: ")) << accepted.toStdString();
     EXPECT_EQ(linesOf(server.requests.first()),
@@ -198,18 +197,43 @@ TEST_F(WebClientTest, aBodyWithoutEndIsLeftWhereEnoughHasCome)
     EXPECT_LT(server.bytesTaken, 60'000'000);
 }
 
-TEST_F(WebClientTest, aHeadWithoutEndIsLeft)
+TEST_F(WebClientTest, aHeadWithoutEndIsLeftAndItsConnectionIsClosed)
 {
-    network.requestTimeout = 0.5;
+    // The head is at fault, and not the time.
+    network.requestTimeout = 1000;
+    network.resourceTimeout = 1000;
     HttpServer server;
     server.answerForEver("/fields", "HTTP/1.1 200 OK\r\n", QByteArray("A: b\r\n").repeated(1000));
     server.answerForEver("/line", "HTTP/1.1 200 OK\r\nA: ", QByteArray(50'000, 'x'));
     const QByteArray interim = "HTTP/1.1 100 Continue\r\n\r\n";
     server.answerForEver("/interim", interim, interim.repeated(100));
+    server.answerForEver("/first", "HTTP/1.1 200 ", QByteArray(50'000, 'x'));
+    server.answerForEver("/chunks", "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n4;",
+                         QByteArray(50'000, 'x'));
     const qint64 before = residentBytes();
-    for (const auto &target : {u"/fields"_s, u"/line"_s, u"/interim"_s})
+    for (const auto &target :
+         {u"/fields"_s, u"/line"_s, u"/interim"_s, u"/first"_s, u"/chunks"_s}) {
         EXPECT_FALSE(fetch(server.url(target))) << qPrintable(target);
-    EXPECT_LT(residentBytes() - before, 50'000'000);
+        EXPECT_TRUE(eventually([&] { return server.open == 0; })) << qPrintable(target);
+    }
+    EXPECT_LT(residentBytes() - before, 20'000'000);
+    EXPECT_LT(server.bytesTaken, 40'000'000) << "what the system holds for either side, five times";
+}
+
+TEST_F(WebClientTest, aServerThatGoesOnTalkingIsLeftWhenItsTimeIsUp)
+{
+    network.requestTimeout = 0.3;
+    network.resourceTimeout = 0.3;
+    HttpServer server;
+    // Slow enough to stay below every limit but the time.
+    server.on("/", [](QTcpSocket &socket) {
+        auto *timer = new QTimer(&socket);
+        QObject::connect(timer, &QTimer::timeout, &socket, [&socket] { socket.write("A: b\r\n"); });
+        timer->start(5);
+        socket.write("HTTP/1.1 200 OK\r\n");
+    });
+    EXPECT_FALSE(fetch(server.url()));
+    EXPECT_TRUE(eventually([&] { return server.open == 0; }));
 }
 
 TEST_F(WebClientTest, connectionsCutAtAnyStageBringNothing)
@@ -227,12 +251,12 @@ TEST_F(WebClientTest, connectionsCutAtAnyStageBringNothing)
     EXPECT_FALSE(fetch(server.url()));
 }
 
-TEST_F(WebClientTest, aRequestThatWasNotAnsweredIsSentTwiceMoreAtMost)
+TEST_F(WebClientTest, aRequestThatWasNotAnsweredIsNotSentAgain)
 {
     HttpServer server;
     server.answer("/", "");
     EXPECT_FALSE(fetch(server.url()));
-    EXPECT_LE(server.connections, 3);
+    EXPECT_EQ(server.connections, 1);
 }
 
 TEST_F(WebClientTest, aBodyThatIsNotCodedAsItSaysBringsNothing)
@@ -341,20 +365,20 @@ TEST_F(WebClientTest, theHostIsNamedAsTheAddressNamesIt)
     EXPECT_EQ(linesOf(server.requests[1])[1], QByteArray("Host: local.test:" + port));
 }
 
-TEST_F(WebClientTest, theAddressIsTheCheckedOneAndTheHostIsNamedWithoutUsualPorts)
+TEST_F(WebClientTest, theHostIsNamedWithoutUsualPorts)
 {
     const auto hostIn = [](const QString &address) {
         HttpExchange::Plan plan;
         plan.url = QUrl(address);
-        const auto request = HttpExchange::requestFor(plan, QHostAddress(u"192.0.2.7"_s));
-        EXPECT_TRUE(request && request->url().host() == u"192.0.2.7"_s);
-        return request ? request->rawHeader("Host") : QByteArray();
+        const auto request = HttpExchange::requestFor(plan);
+        EXPECT_TRUE(request);
+        return request ? linesOf(*request).value(1) : QByteArray();
     };
-    EXPECT_EQ(hostIn(u"http://a.test:80/"_s), "a.test");
-    EXPECT_EQ(hostIn(u"https://a.test:443"_s), "a.test");
-    EXPECT_EQ(hostIn(u"https://a.test:80/"_s), "a.test:80");
-    EXPECT_EQ(hostIn(u"http://[fe80::1%25eth0]:8080/"_s), "[fe80::1]:8080");
-    EXPECT_EQ(hostIn(u"http://a.test?q"_s), "a.test");
+    EXPECT_EQ(hostIn(u"http://a.test:80/"_s), "Host: a.test");
+    EXPECT_EQ(hostIn(u"https://a.test:443"_s), "Host: a.test");
+    EXPECT_EQ(hostIn(u"https://a.test:80/"_s), "Host: a.test:80");
+    EXPECT_EQ(hostIn(u"http://[fe80::1%25eth0]:8080/"_s), "Host: [fe80::1]:8080");
+    EXPECT_EQ(hostIn(u"http://a.test?q"_s), "Host: a.test");
 }
 
 TEST_F(WebClientTest, speaksIpv6)
@@ -497,17 +521,6 @@ TEST_F(WebClientTest, hundredsOfRequestsWaitForTheirTurn)
     }
     EXPECT_TRUE(eventually([&] { return completed == 300; })) << completed;
     EXPECT_LE(most, 6);
-}
-
-TEST_F(WebClientTest, whereTheEnvironmentNamesAProxyNothingIsFetchedPastIt)
-{
-    network.proxies.http = "http://proxy.test:3128";
-    network.spaceOf = addressSpaceOf;
-    EXPECT_FALSE(fetch(QUrl(u"http://public.test/"_s)));
-    EXPECT_EQ(resolver->timesAsked(), 0);
-    HttpServer server;
-    server.answer("/", response(200, "x"));
-    EXPECT_TRUE(fetch(server.url())) << "this machine is not behind a proxy";
 }
 
 } // namespace corvane::test

@@ -124,6 +124,10 @@ void SoftwareUpdater::check(UpdateAttention attention)
     request.maximumBytes = appcast::maximumBytes + 1;
     request.mustBeSecure = true;
     const std::weak_ptr<bool> alive = m_alive;
+    request.onRoute = [this, alive, generation = m_generation + 1](const WebRoute &route) {
+        if (!alive.expired() && generation == m_generation)
+            m_report.route = route;
+    };
     m_context.web.get(
         request,
         [this, alive, generation = ++m_generation](const std::optional<WebResponse> &response) {
@@ -146,13 +150,13 @@ void SoftwareUpdater::feedArrived(const std::optional<WebResponse> &response)
         return fail(UpdateFailure::WentBack);
     }
     if (!choice.newest)
-        return rest({Stage::UpToDate});
+        return restUpToDate();
     m_record.highest(choice.scale) = choice.newest->version;
     m_context.record.save(m_record);
     const auto present = running(choice.scale);
     // What runs may have no version that could be compared; then nothing is known to be newer.
     if (!present || choice.newest->version <= *present)
-        return rest({Stage::UpToDate});
+        return restUpToDate();
     if (m_taken && choice.newest->version == *m_taken)
         return rest(m_takenReport);
     if (!isComplete(choice.newest->enclosure))
@@ -186,7 +190,9 @@ void SoftwareUpdater::offer(const UpdateOffer &offer)
 {
     m_state = State::Offering;
     m_offer = offer;
+    const auto route = m_report.route;
     m_report = {Stage::Available, offer.shownVersion, offer.notes};
+    m_report.route = route;
     m_report.total = offer.enclosure.length;
     m_context.display.show(m_report, m_attention);
 }
@@ -208,6 +214,13 @@ void SoftwareUpdater::rest(const UpdateReport &report)
     m_report = report;
     if (m_attention == UpdateAttention::Asked)
         m_context.display.show(m_report, m_attention);
+}
+
+void SoftwareUpdater::restUpToDate()
+{
+    UpdateReport report{Stage::UpToDate};
+    report.route = m_report.route;
+    rest(report);
 }
 
 void SoftwareUpdater::fail(UpdateFailure failure)

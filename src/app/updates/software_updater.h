@@ -93,6 +93,7 @@ private:
     void dismiss();
     void showFile() const;
     void rest(const UpdateReport &report);
+    void restUpToDate();
     void fail(UpdateFailure failure);
 
     Context m_context;

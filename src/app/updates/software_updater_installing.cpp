@@ -52,6 +52,7 @@ void SoftwareUpdater::install()
         m_report.received = received;
         m_context.display.update(m_report);
     };
+    m_download->onRoute = [this](const WebRoute &route) { m_report.route = route; };
     m_download->onEnd
         = [this](const std::shared_ptr<UpdateFile> &file, std::optional<UpdateFailure> failure) {
               downloadEnded(file, failure);

@@ -86,6 +86,10 @@ void UpdateDownload::fileMade(const std::shared_ptr<UpdateFile> &file, int error
     request.maximumBytes = transfer->expected + 1;
     request.foundIn = m_plan.foundIn;
     request.mustBeSecure = true;
+    request.onRoute = [this, alive](const WebRoute &route) {
+        if (!alive.expired() && onRoute)
+            onRoute(route);
+    };
     m_context.web.download({request, take, m_cancellation},
                            [this, alive, transfer](const std::optional<WebResponse> &response) {
                                if (!alive.expired())

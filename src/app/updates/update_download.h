@@ -49,6 +49,8 @@ public:
 
     /// Now and then, with the bytes that have come.
     std::function<void(qint64)> onProgress;
+    /// Which way the file came, or would have had to come, before the end.
+    std::function<void(const WebRoute &)> onRoute;
     /// Once, with a file of the announced length or with what went wrong; may delete this.
     std::function<void(std::shared_ptr<UpdateFile>, std::optional<UpdateFailure>)> onEnd;
 

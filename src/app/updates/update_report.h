@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/web_route.h"
+
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace corvane {
 
@@ -50,6 +53,8 @@ struct UpdateReport {
     UpdateFailure failure = UpdateFailure::Unreachable;
     /// The name of the file that was handed over.
     QString fileName = {};
+    /// Which way the announcement, and later the file, was asked for; none before it is known.
+    std::optional<WebRoute> route = {};
 
     bool operator==(const UpdateReport &) const = default;
 };

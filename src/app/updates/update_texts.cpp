@@ -1,8 +1,12 @@
 #include "app/updates/update_texts.h"
 
 #include "core/byte_count.h"
+#include "core/display_text.h"
+#include "platform/shown_address.h"
 
 #include <QCoreApplication>
+#include <QStringBuilder>
+#include <QUrl>
 
 namespace corvane {
 
@@ -59,6 +63,48 @@ QString failureText(UpdateFailure failure)
         QT_TRANSLATE_NOOP("UpdateTexts", "The new version could not be written to the disk."));
 }
 
+QString nameOf(const WebProxy &proxy)
+{
+    // The end tells whose it is.
+    constexpr qsizetype maximumLength = 28;
+    QUrl url;
+    url.setHost(proxy.host);
+    QString host = displayText(shownHost(url));
+    if (host.size() > maximumLength)
+        host = QChar(0x2026) % host.right(maximumLength);
+    return host % QLatin1Char(':') % QString::number(proxy.port);
+}
+
+/// What somebody who hides behind a proxy wants to know.
+QString routeText(const WebRoute &route)
+{
+    switch (route.kind) {
+    case WebRoute::Kind::Direct:
+        return translated(QT_TRANSLATE_NOOP("UpdateTexts", "Asked directly, without a proxy."));
+    case WebRoute::Kind::Proxied:
+        return translated(QT_TRANSLATE_NOOP("UpdateTexts", "Asked through the proxy %1."))
+            .arg(nameOf(route.proxy));
+    case WebRoute::Kind::NeedsScript:
+        return translated(
+            QT_TRANSLATE_NOOP("UpdateTexts",
+                              "Nothing was asked: a script chooses your proxy, and Corvane runs "
+                              "none."));
+    case WebRoute::Kind::Unusable:
+        break;
+    }
+    return translated(QT_TRANSLATE_NOOP(
+        "UpdateTexts", "Nothing was asked: your proxy is of a kind that Corvane cannot use."));
+}
+
+/// A withheld request failed for that reason alone.
+QString withRoute(const QString &detail, const UpdateReport &report)
+{
+    if (!report.route)
+        return detail;
+    const QString route = routeText(*report.route);
+    return report.route->isWithheld() ? route : detail % QLatin1Char(' ') % route;
+}
+
 } // namespace
 
 UpdateTexts UpdateTexts::of(const UpdateReport &report, const QString &runningVersion,
@@ -72,15 +118,19 @@ UpdateTexts UpdateTexts::of(const UpdateReport &report, const QString &runningVe
             translated(QT_TRANSLATE_NOOP("UpdateTexts", "Looking for updates…")), {}, {}, cancel};
     case Stage::UpToDate:
         return {translated(QT_TRANSLATE_NOOP("UpdateTexts", "Corvane is up to date")),
-                translated(QT_TRANSLATE_NOOP("UpdateTexts", "You have version %1, the newest."))
-                    .arg(runningVersion),
+                withRoute(
+                    translated(QT_TRANSLATE_NOOP("UpdateTexts", "You have version %1, the newest."))
+                        .arg(runningVersion),
+                    report),
                 {},
                 close};
     case Stage::Available:
         return {translated(QT_TRANSLATE_NOOP("UpdateTexts", "Corvane %1 is available"))
                     .arg(report.version),
-                translated(QT_TRANSLATE_NOOP("UpdateTexts", "You have %1. The download has %2."))
-                    .arg(runningVersion, formatByteCount(report.total)),
+                withRoute(translated(
+                              QT_TRANSLATE_NOOP("UpdateTexts", "You have %1. The download has %2."))
+                              .arg(runningVersion, formatByteCount(report.total)),
+                          report),
                 replaces ? translated(QT_TRANSLATE_NOOP("UpdateTexts", "Install"))
                          : translated(QT_TRANSLATE_NOOP("UpdateTexts", "Download")),
                 translated(QT_TRANSLATE_NOOP("UpdateTexts", "Later"))};
@@ -120,7 +170,10 @@ UpdateTexts UpdateTexts::of(const UpdateReport &report, const QString &runningVe
     const QString title = report.version.isEmpty()
         ? translated(QT_TRANSLATE_NOOP("UpdateTexts", "Corvane could not check for updates"))
         : translated(QT_TRANSLATE_NOOP("UpdateTexts", "Corvane was not updated"));
-    return {title, failureText(report.failure), {}, close};
+    const bool isOfTheWay = report.failure == UpdateFailure::Unreachable
+        || report.failure == UpdateFailure::DownloadFailed;
+    const QString reason = failureText(report.failure);
+    return {title, isOfTheWay ? withRoute(reason, report) : reason, {}, close};
 }
 
 } // namespace corvane

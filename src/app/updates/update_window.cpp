@@ -12,6 +12,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
 #include <utility>
 
 namespace corvane {
@@ -108,8 +109,6 @@ void UpdateWindow::setReport(const UpdateReport &report, const UpdateTexts &text
         m_notes->setPlainText(report.notes);
     m_progress->setVisible(report.stage == Stage::Downloading);
     m_progress->setValue(progressOf(report));
-    setContentSize(m_look.length(hasNotes ? sizeWithNotes : smallSize));
-
     const bool hadAction = !m_action->isHidden() && !m_action->text().isEmpty();
     const bool hasAction = !texts.action.isEmpty();
     m_action->setText(texts.action);
@@ -119,6 +118,9 @@ void UpdateWindow::setReport(const UpdateReport &report, const UpdateTexts &text
     m_action->setDefault(hasAction);
     m_dismissal->setDefault(!hasAction);
     usual->setAccessibleDescription(texts.title + QLatin1Char(' ') + texts.detail);
+    QSize size = m_look.length(hasNotes ? sizeWithNotes : smallSize);
+    size.setHeight(std::max(size.height(), layout()->minimumHeightForWidth(size.width())));
+    setContentSize(size);
     // The button that had the keyboard may be gone, or mean something else.
     if (hadAction != hasAction || !focusWidget())
         usual->setFocus();

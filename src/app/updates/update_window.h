@@ -17,7 +17,8 @@ class TextLabel;
 struct UpdateTexts;
 
 /// Tells of an update: a title, what there is to know, the notes where there are any, how far the
-/// download is, and one or two buttons. Small where there are no notes.
+/// download is, and one or two buttons. Small where there are no notes, and higher only where its
+/// text would not fit.
 class UpdateWindow : public ShellWindow {
     Q_OBJECT
 

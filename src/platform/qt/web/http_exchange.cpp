@@ -1,8 +1,8 @@
 #include "platform/qt/web/http_exchange.h"
 
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
+#include <QNetworkProxy>
 #include <QSslConfiguration>
+#include <QSslSocket>
 
 #include <algorithm>
 #include <array>
@@ -72,70 +72,59 @@ QSslConfiguration tlsConfiguration(const QList<QSslCertificate> &authorities)
     return configuration;
 }
 
-/// Nothing is kept, sent along or answered that was not asked for.
-void keepToOurselves(QNetworkRequest &request)
+QByteArray originOf(const QUrl &url)
 {
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute,
-                         QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(QNetworkRequest::CacheSaveControlAttribute, false);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::AuthenticationReuseAttribute, QNetworkRequest::Manual);
+    QByteArray host = url.host(QUrl::FullyEncoded).toLatin1();
+    if (host.contains(':'))
+        host = '[' + host + ']';
+    return host + ':' + QByteArray::number(url.port(usualPortOf(url)));
 }
 
-/// Whether the server has answered, and it is only its answer that is called an error.
-bool hasAnswered(int statusCode, QNetworkReply::NetworkError error)
+/// What lets the user in at a proxy; empty where none is needed.
+QByteArray authorizationField(const WebProxy &proxy)
 {
-    if (error == QNetworkReply::NoError)
-        return statusCode > 0;
-    const bool isAboutContent = error >= QNetworkReply::ContentAccessDenied
-        && error <= QNetworkReply::UnknownContentError;
-    const bool isAboutServer
-        = error >= QNetworkReply::InternalServerError && error <= QNetworkReply::UnknownServerError;
-    return statusCode >= 400
-        && (isAboutContent || isAboutServer
-            || error == QNetworkReply::ProtocolInvalidOperationError);
+    if (proxy.user.isEmpty())
+        return {};
+    const QByteArray pair = proxy.user.toUtf8() + ':' + proxy.password.toUtf8();
+    return "Proxy-Authorization: Basic " + pair.toBase64() + "\r\n";
+}
+
+/// Whether the proxy reads the request itself and does not just hand bytes on.
+bool isReadByProxy(const HttpExchange::Plan &plan)
+{
+    return plan.proxy && plan.proxy->kind == WebProxy::Kind::Http && !isHttps(plan.url);
 }
 
 } // namespace
 
-std::optional<QNetworkRequest> HttpExchange::requestFor(const Plan &plan,
-                                                        const QHostAddress &address)
+std::optional<QByteArray> HttpExchange::requestFor(const Plan &plan)
 {
-    const QByteArray target
+    QByteArray target
         = plan.url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
+    if (!target.startsWith('/'))
+        target.prepend('/');
     const QByteArray host = hostFieldOf(plan.url);
     if (!isPlain(target) || !isPlain(host) || target.size() > maximumTargetBytes)
         return std::nullopt;
     if (!isFieldValue(plan.userAgent) || !isFieldValue(plan.accept))
         return std::nullopt;
 
-    QUrl url = plan.url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
-    url.setHost(address.toString());
-    if (!url.isValid())
-        return std::nullopt;
-    QNetworkRequest request(url);
-    request.setRawHeader("Host", host);
-    request.setPeerVerifyName(certifiedNameOf(plan.url));
-    request.setRawHeader("User-Agent", plan.userAgent);
+    QByteArray request = "GET ";
+    if (isReadByProxy(plan))
+        request += "http://" + host;
+    request += target + " HTTP/1.1\r\nHost: " + host + "\r\n";
+    if (isReadByProxy(plan))
+        request += authorizationField(*plan.proxy);
+    request += "User-Agent: " + plan.userAgent + "\r\n";
     if (!plan.accept.isEmpty())
-        request.setRawHeader("Accept", plan.accept);
-    // The toolkit would tell the desktop's language.
-    request.setRawHeader("Accept-Language", "*");
+        request += "Accept: " + plan.accept + "\r\n";
     // An idle connection wakes both of its sides.
-    request.setRawHeader("Connection", "close");
-    // The body is taken in small pieces and left where enough has come: nothing swells unseen.
-    request.setDecompressedSafetyCheckThreshold(-1);
-    keepToOurselves(request);
-    if (isHttps(plan.url))
-        request.setSslConfiguration(tlsConfiguration(plan.authorities));
+    request += "Accept-Language: *\r\nConnection: close\r\nAccept-Encoding: gzip, deflate\r\n\r\n";
     return request;
 }
 
-HttpExchange::HttpExchange(QNetworkAccessManager &manager, Plan plan)
-    : m_manager(manager)
-    , m_plan(std::move(plan))
+HttpExchange::HttpExchange(Plan plan)
+    : m_plan(std::move(plan))
 {
     m_patience.setSingleShot(true);
     connect(&m_patience, &QTimer::timeout, this, &HttpExchange::tryNextAddress);
@@ -143,11 +132,15 @@ HttpExchange::HttpExchange(QNetworkAccessManager &manager, Plan plan)
 
 HttpExchange::~HttpExchange()
 {
-    dropReply();
+    dropSocket();
 }
 
 void HttpExchange::start()
 {
+    const auto request = requestFor(m_plan);
+    if (!request)
+        return finish(false);
+    m_request = *request;
     tryNextAddress();
 }
 
@@ -161,67 +154,166 @@ std::optional<QByteArray> HttpExchange::redirection() const
 
 void HttpExchange::tryNextAddress()
 {
-    dropReply();
-    if (m_plan.addresses.isEmpty())
+    dropSocket();
+    if (m_plan.proxy ? std::exchange(m_hasTriedProxy, true) : m_plan.addresses.isEmpty())
         return finish(false);
-    m_peer = m_plan.addresses.takeFirst();
-    const auto request = requestFor(m_plan, m_peer);
-    if (!request)
-        return finish(false);
-    // The last one may take the time that is left.
-    if (!m_plan.addresses.isEmpty())
-        m_patience.start(static_cast<int>(std::lround(m_plan.nextAddressAfter * 1000)));
-
-    m_reply = m_manager.get(*request);
-    m_reply->setReadBufferSize(readBufferBytes);
-    connect(m_reply, &QNetworkReply::requestSent, this, [this] {
-        m_isConnected = true;
-        m_patience.stop();
-        onProgress();
-    });
-    connect(m_reply, &QNetworkReply::metaDataChanged, this, &HttpExchange::readHead);
-    connect(m_reply, &QNetworkReply::readyRead, this, &HttpExchange::readBody);
-    connect(m_reply, &QNetworkReply::finished, this, &HttpExchange::replyFinished);
+    if (!m_plan.proxy) {
+        m_peer = m_plan.addresses.takeFirst();
+        // The last one may take the time that is left.
+        if (!m_plan.addresses.isEmpty())
+            m_patience.start(static_cast<int>(std::lround(m_plan.nextAddressAfter * 1000)));
+    }
+    m_stage = Stage::Connecting;
+    m_reader = std::make_unique<HttpReader>();
+    connectSocket();
 }
 
-void HttpExchange::readHead()
+void HttpExchange::connectSocket()
 {
+    m_socket = new QSslSocket(this);
+    m_socket->setReadBufferSize(readBufferBytes);
+    connect(m_socket, &QSslSocket::connected, this, &HttpExchange::connected);
+    connect(m_socket, &QSslSocket::encrypted, this, &HttpExchange::ask);
+    connect(m_socket, &QSslSocket::readyRead, this, &HttpExchange::readSocket);
+    connect(m_socket, &QSslSocket::errorOccurred, this, &HttpExchange::socketFailed);
+    connect(m_socket, &QSslSocket::disconnected, this, &HttpExchange::closed);
+    const auto port = static_cast<quint16>(m_plan.url.port(usualPortOf(m_plan.url)));
+    if (!m_plan.proxy) {
+        m_socket->setProxy(QNetworkProxy::NoProxy);
+        m_socket->connectToHost(m_peer, port);
+    } else if (m_plan.proxy->kind == WebProxy::Kind::Http) {
+        m_socket->setProxy(QNetworkProxy::NoProxy);
+        m_socket->connectToHost(m_plan.proxy->host, m_plan.proxy->port);
+    } else {
+        // It is given the name as it is, and finds the address itself.
+        m_socket->setProxy({QNetworkProxy::Socks5Proxy, m_plan.proxy->host, m_plan.proxy->port,
+                            m_plan.proxy->user, m_plan.proxy->password});
+        m_socket->connectToHost(m_plan.url.host(QUrl::FullyEncoded), port);
+    }
+}
+
+void HttpExchange::connected()
+{
+    if (!isHttps(m_plan.url))
+        ask();
+    else if (m_plan.proxy && m_plan.proxy->kind == WebProxy::Kind::Http)
+        openTunnel();
+    else
+        secure();
+}
+
+void HttpExchange::openTunnel()
+{
+    m_stage = Stage::Tunnelling;
+    const QByteArray origin = originOf(m_plan.url);
+    m_socket->write("CONNECT " + origin + " HTTP/1.1\r\nHost: " + origin + "\r\n"
+                    + authorizationField(*m_plan.proxy) + "\r\n");
+}
+
+void HttpExchange::secure()
+{
+    m_stage = Stage::Securing;
+    m_socket->setSslConfiguration(tlsConfiguration(m_plan.authorities));
+    m_socket->setPeerVerifyName(certifiedNameOf(m_plan.url));
+    m_socket->startClientEncryption();
+}
+
+void HttpExchange::ask()
+{
+    m_stage = Stage::Asking;
+    m_patience.stop();
+    m_socket->write(m_request);
     onProgress();
-    m_statusCode = m_reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-    m_location = m_reply->rawHeader("Location");
-    bool isNumber = false;
-    const qint64 length = m_reply->rawHeader("Content-Length").toLongLong(&isNumber);
-    const bool isCoded = m_reply->hasRawHeader("Content-Encoding");
-    m_expectedContentLength = isNumber && length >= 0 && !isCoded ? length : -1;
-    if (redirection())
-        finish(true);
 }
 
-void HttpExchange::readBody()
+void HttpExchange::socketFailed(int error)
 {
-    // What comes instead of a file ends by itself, or soon.
-    const qint64 limit = comesInsteadOfFile() ? std::min(readBufferBytes, m_plan.maximumBytes)
-                                              : m_plan.maximumBytes;
-    while (m_reply && m_bodyBytes < limit) {
-        const QByteArray piece = m_reply->read(std::min(readBufferBytes, limit - m_bodyBytes));
-        if (piece.isEmpty())
-            return;
-        onProgress();
-        if (!takePiece(piece))
+    if (m_stage != Stage::Asking)
+        return tryNextAddress();
+    // What it sent before it closed the connection is still to be read.
+    if (error != QAbstractSocket::RemoteHostClosedError)
+        finish(false);
+}
+
+void HttpExchange::closed()
+{
+    readSocket();
+    if (!m_socket)
+        return;
+    if (m_stage != Stage::Asking)
+        return tryNextAddress();
+    m_reader->end();
+    judgeState();
+}
+
+void HttpExchange::readSocket()
+{
+    while (m_socket && m_socket->bytesAvailable() > 0) {
+        const QByteArray bytes = m_socket->read(readBufferBytes);
+        if (m_stage == Stage::Tunnelling)
+            readTunnel(bytes);
+        else if (m_stage == Stage::Asking)
+            readAnswer(bytes);
+        else
+            // Nobody has asked for anything yet.
             return finish(false);
     }
-    finish(true);
+}
+
+void HttpExchange::readTunnel(const QByteArray &bytes)
+{
+    const qsizetype taken = m_reader->feedHead(bytes);
+    if (m_reader->state() == HttpReader::State::Head)
+        return;
+    constexpr int success = 200;
+    constexpr int successEnd = 300;
+    const int status = m_reader->head().status;
+    const bool isOpen = m_reader->state() == HttpReader::State::Body && status >= success
+        && status < successEnd && taken == bytes.size();
+    if (!isOpen)
+        return finish(false);
+    m_reader = std::make_unique<HttpReader>();
+    secure();
+}
+
+void HttpExchange::readAnswer(const QByteArray &bytes)
+{
+    onProgress();
+    qsizetype taken = 0;
+    if (m_reader->state() == HttpReader::State::Head) {
+        taken = m_reader->feedHead(bytes);
+        if (m_reader->state() == HttpReader::State::Body && !takeHead())
+            return finish(true);
+    }
+    m_reader->feedBody(QByteArrayView(bytes).sliced(taken),
+                       [this](const QByteArray &piece) { return takePiece(piece); });
+    judgeState();
+}
+
+/// Whether the body is wanted too.
+bool HttpExchange::takeHead()
+{
+    const HttpHead &head = m_reader->head();
+    m_statusCode = head.status;
+    m_location = head.location;
+    m_expectedContentLength = head.contentCoding.isEmpty() ? head.contentLength : -1;
+    return !redirection();
 }
 
 bool HttpExchange::takePiece(const QByteArray &piece)
 {
-    m_bodyBytes += piece.size();
-    if (comesInsteadOfFile())
-        return true;
-    if (m_plan.take)
-        return m_plan.take(piece);
-    m_body += piece;
-    return true;
+    // What comes instead of a file ends by itself, or soon.
+    const qint64 limit = comesInsteadOfFile() ? std::min(readBufferBytes, m_plan.maximumBytes)
+                                              : m_plan.maximumBytes;
+    const QByteArray wanted = piece.left(limit - m_bodyBytes);
+    m_bodyBytes += wanted.size();
+    if (!comesInsteadOfFile()) {
+        if (!m_plan.take)
+            m_body += wanted;
+        else
+            m_isRefused = !m_plan.take(wanted);
+    }
+    return !m_isRefused && m_bodyBytes < limit;
 }
 
 bool HttpExchange::comesInsteadOfFile() const
@@ -230,19 +322,22 @@ bool HttpExchange::comesInsteadOfFile() const
     return m_plan.take && m_statusCode != found;
 }
 
-bool HttpExchange::isWhole() const
+void HttpExchange::judgeState()
 {
-    return m_expectedContentLength < 0 || m_bodyBytes >= m_expectedContentLength;
-}
-
-void HttpExchange::replyFinished()
-{
-    if (!m_isConnected)
-        return tryNextAddress();
-    const bool isAnswer = hasAnswered(m_statusCode, m_reply->error());
-    if (isAnswer)
-        readBody();
-    finish(isAnswer && isWhole());
+    switch (m_reader->state()) {
+    case HttpReader::State::Head:
+    case HttpReader::State::Body:
+        break;
+    case HttpReader::State::Whole:
+        finish(true);
+        break;
+    case HttpReader::State::Left:
+        finish(!m_isRefused);
+        break;
+    case HttpReader::State::Broken:
+        finish(false);
+        break;
+    }
 }
 
 void HttpExchange::finish(bool isComplete)
@@ -251,20 +346,21 @@ void HttpExchange::finish(bool isComplete)
         return;
     m_isComplete = isComplete;
     m_patience.stop();
-    dropReply();
+    dropSocket();
     QMetaObject::invokeMethod(
         this, [this] { onEnd(); }, Qt::QueuedConnection);
 }
 
-void HttpExchange::dropReply()
+void HttpExchange::dropSocket()
 {
-    if (!m_reply)
+    if (!m_socket)
         return;
-    QNetworkReply *const reply = std::exchange(m_reply, nullptr);
-    reply->disconnect(this);
-    reply->abort();
+    QSslSocket *const socket = std::exchange(m_socket, nullptr);
+    socket->disconnect(this);
+    // The connection goes now, and not when the other side has said all that it has to say.
+    socket->abort();
     // This may be its own signal.
-    reply->deleteLater();
+    socket->deleteLater();
 }
 
 } // namespace corvane

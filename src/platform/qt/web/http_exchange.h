@@ -1,25 +1,31 @@
 #pragma once
 
+#include "platform/qt/web/http_reader.h"
+#include "platform/web_route.h"
+
 #include <QByteArray>
 #include <QHostAddress>
 #include <QList>
-#include <QNetworkRequest>
 #include <QObject>
 #include <QSslCertificate>
 #include <QTimer>
 #include <QUrl>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
-class QNetworkAccessManager;
-class QNetworkReply;
+class QSslSocket;
 
 namespace corvane {
 
-/// One request and its response. Connects to the addresses that it is given and to nothing else;
-/// the host's name is for the server and for its certificate alone. A redirection is an answer
-/// like any other, and nothing of its body is taken.
+/// One request and its response, on a connection of its own. Connects to the addresses that it is
+/// given, or to its proxy, and to nothing else; without a proxy the host's name is for the server
+/// and for its certificate alone. A redirection is an answer like any other, and nothing of its
+/// body is taken. What is left is closed at once, whatever still comes.
+///
+///     Connecting --> Tunnelling --> Securing --> Asking --> the end
+///     (the two in the middle where there is a proxy, and where it is https)
 class HttpExchange : public QObject {
 public:
     struct Plan {
@@ -35,14 +41,14 @@ public:
         QList<QSslCertificate> authorities;
         /// Takes the body of an answer of status 200, and the exchange keeps none; false ends it.
         std::function<bool(const QByteArray &)> take;
+        /// Through which the host is reached by its name; `addresses` does not count then.
+        std::optional<WebProxy> proxy = {};
     };
 
-    /// The request as it goes to one of the addresses; none where the plan's texts cannot stand in
-    /// one.
-    static std::optional<QNetworkRequest> requestFor(const Plan &plan, const QHostAddress &address);
+    /// The bytes that are sent; none where the plan's texts cannot stand in a request.
+    static std::optional<QByteArray> requestFor(const Plan &plan);
 
-    /// The manager must outlive it.
-    HttpExchange(QNetworkAccessManager &manager, Plan plan);
+    explicit HttpExchange(Plan plan);
     HttpExchange(const HttpExchange &) = delete;
     HttpExchange &operator=(const HttpExchange &) = delete;
     ~HttpExchange() override;
@@ -63,31 +69,45 @@ public:
     /// -1 when it is not known or the body is compressed.
     qint64 expectedContentLength() const { return m_expectedContentLength; }
     QByteArray body() const { return m_body; }
-    /// Where the response came from.
+    /// Where the response came from; null through a proxy.
     QHostAddress peer() const { return m_peer; }
 
 private:
+    enum class Stage { Connecting, Tunnelling, Securing, Asking };
+
     void tryNextAddress();
-    void readHead();
-    void readBody();
+    void connectSocket();
+    void connected();
+    void openTunnel();
+    void secure();
+    void ask();
+    void socketFailed(int error);
+    void closed();
+    void readSocket();
+    void readTunnel(const QByteArray &bytes);
+    void readAnswer(const QByteArray &bytes);
+    bool takeHead();
     bool takePiece(const QByteArray &piece);
     bool comesInsteadOfFile() const;
-    void replyFinished();
-    bool isWhole() const;
+    void judgeState();
     void finish(bool isComplete);
-    void dropReply();
+    void dropSocket();
 
-    QNetworkAccessManager &m_manager;
     Plan m_plan;
-    QNetworkReply *m_reply = nullptr;
+    QByteArray m_request;
+    QSslSocket *m_socket = nullptr;
+    Stage m_stage = Stage::Connecting;
+    std::unique_ptr<HttpReader> m_reader;
     QTimer m_patience;
     QHostAddress m_peer;
+    bool m_hasTriedProxy = false;
     int m_statusCode = 0;
     QByteArray m_location;
     qint64 m_expectedContentLength = -1;
     QByteArray m_body;
     qint64 m_bodyBytes = 0;
-    bool m_isConnected = false;
+    /// Whoever takes the pieces wants no more of them.
+    bool m_isRefused = false;
     bool m_isComplete = false;
     bool m_hasEnded = false;
 };

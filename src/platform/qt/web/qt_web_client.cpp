@@ -31,21 +31,25 @@ bool QtWebClient::finish(std::chrono::milliseconds patience)
 
 void QtWebClient::get(const WebRequest &request, Completion completion)
 {
-    start(request, std::move(completion));
+    WebRequest task = request;
+    task.onRoute = nullptr;
+    start(task, {request.onRoute, std::move(completion)});
 }
 
 void QtWebClient::download(const WebDownload &download, Completion completion)
 {
-    start(download, std::move(completion));
+    WebDownload task = download;
+    task.request.onRoute = nullptr;
+    start(task, {download.request.onRoute, std::move(completion)});
 }
 
 template<class Task>
-void QtWebClient::start(const Task &task, Completion completion)
+void QtWebClient::start(const Task &task, Awaited awaited)
 {
     if (!m_fetches)
         startThread();
     const std::uint64_t number = ++m_lastNumber;
-    m_completions.emplace(number, std::move(completion));
+    m_awaited.emplace(number, std::move(awaited));
     QMetaObject::invokeMethod(
         m_fetches, [fetches = m_fetches, number, task] { fetches->add(number, task); },
         Qt::QueuedConnection);
@@ -53,25 +57,26 @@ void QtWebClient::start(const Task &task, Completion completion)
 
 void QtWebClient::startThread()
 {
-    m_fetches
-        = new WebFetches(std::move(m_network),
-                         [this, &mainQueue = m_mainQueue, token = std::weak_ptr(m_token)](
-                             std::uint64_t number, std::optional<WebResponse> response) {
-                             mainQueue.async([this, token, number, answer = std::move(response)] {
-                                 if (!token.expired())
-                                     complete(number, answer);
-                             });
-                         });
+    m_fetches = new WebFetches(std::move(m_network),
+                               [this, &mainQueue = m_mainQueue, token = std::weak_ptr(m_token)](
+                                   std::uint64_t number, const WebOutcome &outcome) {
+                                   mainQueue.async([this, token, number, outcome] {
+                                       if (!token.expired())
+                                           complete(number, outcome);
+                                   });
+                               });
     m_fetches->moveToThread(&m_thread);
     QObject::connect(&m_thread, &QThread::finished, m_fetches, &QObject::deleteLater);
     m_thread.start();
 }
 
-void QtWebClient::complete(std::uint64_t number, std::optional<WebResponse> response)
+void QtWebClient::complete(std::uint64_t number, const WebOutcome &outcome)
 {
     // Taken out first: it may ask for more, or end this.
-    const auto completion = m_completions.extract(number);
-    completion.mapped()(std::move(response));
+    const auto awaited = m_awaited.extract(number);
+    if (awaited.mapped().onRoute)
+        awaited.mapped().onRoute(outcome.route);
+    awaited.mapped().completion(outcome.response);
 }
 
 } // namespace corvane

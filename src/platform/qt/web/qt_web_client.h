@@ -15,11 +15,11 @@
 namespace corvane {
 
 class WebFetches;
+struct WebOutcome;
 
-/// The web client on Qt's own: one manager, one connection for each request, no more of a body in
-/// memory than is wanted, and no answer to whoever asks who the user is. A request whose connection
-/// was closed without an answer is sent again, at most twice; a server's head has no limit but the
-/// time, in which the toolkit, which reads heads byte by byte, takes a few tens of megabytes.
+/// The web client on Qt's sockets: one connection for each request, no more of a body in memory
+/// than is wanted, a bounded head, and no answer to whoever asks who the user is. A request is sent
+/// once and never again. What is not wanted any more is closed at once.
 ///
 /// Names, TLS and decompression have a thread of their own. It is started by the first request and
 /// sleeps between requests; there are no connections then and no timers. From https a redirection
@@ -42,15 +42,20 @@ public:
     bool finish(std::chrono::milliseconds patience);
 
 private:
+    struct Awaited {
+        std::function<void(const WebRoute &)> onRoute;
+        Completion completion;
+    };
+
     template<class Task>
-    void start(const Task &task, Completion completion);
+    void start(const Task &task, Awaited awaited);
     void startThread();
-    void complete(std::uint64_t number, std::optional<WebResponse> response);
+    void complete(std::uint64_t number, const WebOutcome &outcome);
 
     MainQueue &m_mainQueue;
     WebNetwork m_network;
     /// They belong to the main thread and do not leave it.
-    std::map<std::uint64_t, Completion> m_completions;
+    std::map<std::uint64_t, Awaited> m_awaited;
     std::uint64_t m_lastNumber = 0;
     QThread m_thread;
     /// Lives on the thread, which ends it.

@@ -1,5 +1,7 @@
 #include "platform/qt/web/system_host_resolver.h"
 
+#include "platform/qt/web/local_names.h"
+
 #include <netdb.h>
 #include <sys/socket.h>
 
@@ -10,17 +12,6 @@
 namespace corvane {
 
 namespace {
-
-/// RFC 6761: these names mean this machine, whatever a name server says.
-bool isLocalhost(QStringView host)
-{
-    if (host.endsWith(u'.'))
-        host.chop(1);
-    constexpr QStringView name = u"localhost";
-    if (!host.endsWith(name, Qt::CaseInsensitive))
-        return false;
-    return host.size() == name.size() || host.chopped(name.size()).endsWith(u'.');
-}
 
 QList<QHostAddress> lookUp(const QByteArray &host)
 {
@@ -47,10 +38,13 @@ void SystemHostResolver::resolve(const QString &host, Completion completion)
 {
     if (const QHostAddress literal(host); !literal.isNull())
         return completion({literal});
-    if (isLocalhost(host)) {
+    if (local_names::isThisMachine(host)) {
         return completion(
             {QHostAddress(QHostAddress::LocalHostIPv6), QHostAddress(QHostAddress::LocalHost)});
     }
+    // No name server is to hear of them.
+    if (local_names::isOnion(host))
+        return completion({});
     if (m_lookups->fetch_add(1) >= maximumLookups) {
         m_lookups->fetch_sub(1);
         return completion({});

@@ -1,5 +1,6 @@
 #include "platform/qt/web/web_fetch.h"
 
+#include "platform/qt/web/local_names.h"
 #include "platform/qt/web/mailbox.h"
 
 #include <algorithm>
@@ -18,6 +19,23 @@ int milliseconds(double seconds)
     return static_cast<int>(std::lround(seconds * 1000));
 }
 
+bool isThisMachine(const QUrl &url)
+{
+    const QString host = url.host(QUrl::FullyEncoded);
+    const QHostAddress literal(host);
+    return literal.isNull() ? local_names::isThisMachine(host)
+                            : addressSpaceOf(literal) == AddressSpace::Loopback;
+}
+
+/// How far away a place is, as far as that can be told without looking it up.
+AddressSpace spaceByName(const WebNetwork &network, const QUrl &url)
+{
+    const QString host = url.host(QUrl::FullyEncoded);
+    if (const QHostAddress literal(host); !literal.isNull())
+        return network.spaceOf(literal);
+    return local_names::isNearby(host) ? AddressSpace::Private : AddressSpace::Public;
+}
+
 bool isOfTheWeb(const QUrl &url)
 {
     return url.isValid() && !url.host().isEmpty() && url.port(1) > 0
@@ -26,14 +44,13 @@ bool isOfTheWeb(const QUrl &url)
 
 } // namespace
 
-WebFetch::WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, WebRequest request)
-    : WebFetch(manager, network, WebDownload{std::move(request), nullptr, nullptr})
+WebFetch::WebFetch(const WebNetwork &network, WebRequest request)
+    : WebFetch(network, WebDownload{std::move(request), nullptr, nullptr})
 {
 }
 
-WebFetch::WebFetch(QNetworkAccessManager &manager, const WebNetwork &network, WebDownload download)
-    : m_manager(manager)
-    , m_network(network)
+WebFetch::WebFetch(const WebNetwork &network, WebDownload download)
+    : m_network(network)
     , m_request(std::move(download.request))
     , m_take(std::move(download.take))
     , m_cancellation(std::move(download.cancellation))
@@ -76,8 +93,26 @@ bool WebFetch::isSecureEnough(const QUrl &url) const
 void WebFetch::visit(const QUrl &url)
 {
     m_url = url.adjusted(QUrl::RemoveUserInfo);
-    if (!isOfTheWeb(m_url) || !isSecureEnough(m_url) || m_network.proxies.apply(m_url))
+    m_route = {};
+    if (!isOfTheWeb(m_url) || !isSecureEnough(m_url))
         return finish(std::nullopt);
+    // Nothing leaves this machine on the way to itself.
+    if (!m_network.routes || isThisMachine(m_url))
+        return follow(m_route);
+    m_network.routes->find(m_url, [this, mailbox = m_mailbox](const WebRoute &route) {
+        mailbox->post([this, route] { follow(route); });
+    });
+}
+
+void WebFetch::follow(const WebRoute &route)
+{
+    if (m_hasEnded)
+        return;
+    m_route = route;
+    if (route.isWithheld())
+        return finish(std::nullopt);
+    if (route.kind == WebRoute::Kind::Proxied)
+        return exchangeThroughProxy();
     m_network.resolver->resolve(m_url.host(QUrl::FullyEncoded),
                                 [this, mailbox = m_mailbox](const QList<QHostAddress> &addresses) {
                                     mailbox->post([this, addresses] { exchangeWith(addresses); });
@@ -109,13 +144,30 @@ QList<QHostAddress> WebFetch::allowed(const QList<QHostAddress> &found) const
 
 void WebFetch::exchangeWith(const QList<QHostAddress> &found)
 {
-    if (m_hasEnded)
-        return;
+    if (!m_hasEnded)
+        exchange(allowed(found));
+}
+
+void WebFetch::exchangeThroughProxy()
+{
+    const AddressSpace space = spaceByName(m_network, m_url);
+    const bool isNamedByOthers = m_farthest.has_value();
+    const bool isSecure = m_url.scheme() == QLatin1String("https");
+    // A name may lead anywhere behind the proxy, and only a certificate ties it to a place.
+    if (isNamedByOthers && (space < *m_farthest || !isSecure))
+        return finish(std::nullopt);
+    if (m_request.mustBeSecure && !isSecure)
+        return finish(std::nullopt);
+    exchange({});
+}
+
+void WebFetch::exchange(const QList<QHostAddress> &addresses)
+{
+    const bool isProxied = m_route.kind == WebRoute::Kind::Proxied;
     m_exchange = std::make_unique<HttpExchange>(
-        m_manager,
         HttpExchange::Plan{m_url, m_request.userAgent, m_request.accept, m_request.maximumBytes,
-                           allowed(found), m_network.nextAddressAfter, m_network.authorities,
-                           m_take});
+                           addresses, m_network.nextAddressAfter, m_network.authorities, m_take,
+                           isProxied ? std::optional(m_route.proxy) : std::nullopt});
     m_exchange->onProgress = [this] { m_silence.start(); };
     m_exchange->onEnd = [this] { exchangeEnded(); };
     m_exchange->start();
@@ -128,15 +180,16 @@ void WebFetch::exchangeEnded()
     exchange->deleteLater();
     if (m_hasEnded || !exchange->isComplete())
         return finish(std::nullopt);
-    const AddressSpace space = m_network.spaceOf(exchange->peer());
+    const AddressSpace space = exchange->peer().isNull() ? spaceByName(m_network, m_url)
+                                                         : m_network.spaceOf(exchange->peer());
     m_farthest = std::max(m_farthest.value_or(space), space);
     if (const auto location = exchange->redirection())
-        return follow(*location);
+        return redirect(*location);
     finish(WebResponse{exchange->statusCode(), exchange->expectedContentLength(), m_url,
                        exchange->body(), *m_farthest});
 }
 
-void WebFetch::follow(const QByteArray &location)
+void WebFetch::redirect(const QByteArray &location)
 {
     if (++m_redirects > WebClient::maximumRedirects)
         return finish(std::nullopt);
@@ -155,7 +208,8 @@ void WebFetch::finish(std::optional<WebResponse> response)
     m_whole.stop();
     m_exchange.reset();
     QMetaObject::invokeMethod(
-        this, [this, answer = std::move(response)] { onEnd(answer); }, Qt::QueuedConnection);
+        this, [this, outcome = WebOutcome{std::move(response), m_route}] { onEnd(outcome); },
+        Qt::QueuedConnection);
 }
 
 } // namespace corvane

@@ -1,7 +1,5 @@
 #include "platform/qt/web/web_fetches.h"
 
-#include <QNetworkProxy>
-
 #include <utility>
 
 namespace corvane {
@@ -16,14 +14,12 @@ WebFetches::~WebFetches() = default;
 
 void WebFetches::add(std::uint64_t number, const WebRequest &request)
 {
-    add(number,
-        [this, request] { return std::make_unique<WebFetch>(manager(), m_network, request); });
+    add(number, [this, request] { return std::make_unique<WebFetch>(m_network, request); });
 }
 
 void WebFetches::add(std::uint64_t number, const WebDownload &download)
 {
-    add(number,
-        [this, download] { return std::make_unique<WebFetch>(manager(), m_network, download); });
+    add(number, [this, download] { return std::make_unique<WebFetch>(m_network, download); });
 }
 
 void WebFetches::add(std::uint64_t number, Make make)
@@ -38,30 +34,19 @@ void WebFetches::startNext()
         auto [number, make] = std::move(m_waiting.front());
         m_waiting.pop_front();
         auto fetch = make();
-        fetch->onEnd = [this, id = number](std::optional<WebResponse> response) {
-            ended(id, std::move(response));
-        };
+        fetch->onEnd = [this, id = number](const WebOutcome &outcome) { ended(id, outcome); };
         WebFetch &started = *fetch;
         m_running.emplace(number, std::move(fetch));
         started.start();
     }
 }
 
-QNetworkAccessManager &WebFetches::manager()
-{
-    if (!m_manager) {
-        m_manager = std::make_unique<QNetworkAccessManager>();
-        m_manager->setProxy(QNetworkProxy::NoProxy);
-    }
-    return *m_manager;
-}
-
-void WebFetches::ended(std::uint64_t number, std::optional<WebResponse> response)
+void WebFetches::ended(std::uint64_t number, const WebOutcome &outcome)
 {
     auto fetch = m_running.extract(number);
     // It is the one that calls.
     fetch.mapped().release()->deleteLater();
-    m_deliver(number, std::move(response));
+    m_deliver(number, outcome);
     startNext();
 }
 

@@ -3,7 +3,6 @@
 #include "platform/qt/web/web_fetch.h"
 #include "platform/qt/web/web_network.h"
 
-#include <QNetworkAccessManager>
 #include <QObject>
 
 #include <cstdint>
@@ -23,7 +22,7 @@ public:
     /// time of a fetch begins with its turn.
     static constexpr size_t maximumAtOnce = 6;
 
-    using Deliver = std::function<void(std::uint64_t, std::optional<WebResponse>)>;
+    using Deliver = std::function<void(std::uint64_t, const WebOutcome &)>;
 
     WebFetches(WebNetwork network, Deliver deliver);
     WebFetches(const WebFetches &) = delete;
@@ -38,13 +37,10 @@ private:
 
     void add(std::uint64_t number, Make make);
     void startNext();
-    QNetworkAccessManager &manager();
-    void ended(std::uint64_t number, std::optional<WebResponse> response);
+    void ended(std::uint64_t number, const WebOutcome &outcome);
 
     WebNetwork m_network;
     Deliver m_deliver;
-    /// Made on the thread, with the first fetch.
-    std::unique_ptr<QNetworkAccessManager> m_manager;
     std::deque<std::pair<std::uint64_t, Make>> m_waiting;
     std::map<std::uint64_t, std::unique_ptr<WebFetch>> m_running;
 };

@@ -2,10 +2,10 @@
 
 #include "platform/qt/web/address_space.h"
 #include "platform/qt/web/host_resolver.h"
-#include "platform/qt/web/proxy_settings.h"
 #include "platform/qt/web/system_host_resolver.h"
 #include "platform/web_client.h"
 #include "platform/web_downloader.h"
+#include "platform/web_routes.h"
 
 #include <QList>
 #include <QSslCertificate>
@@ -21,7 +21,8 @@ struct WebNetwork {
     std::shared_ptr<HostResolver> resolver = std::make_shared<SystemHostResolver>();
     /// Any thread.
     std::function<AddressSpace(const QHostAddress &)> spaceOf = addressSpaceOf;
-    ProxySettings proxies = ProxySettings::fromEnvironment();
+    /// Kept like the resolver; none where everything is reached directly.
+    std::shared_ptr<WebRoutes> routes;
     /// Trusted beside those of the system.
     QList<QSslCertificate> authorities;
 
