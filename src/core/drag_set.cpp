@@ -3,6 +3,8 @@
 #include "core/drag_writer.h"
 #include "core/scratch_spool.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <iterator>
 
@@ -51,6 +53,13 @@ DragSet makeDragSet(const QList<DropItem> &items, ScratchSpool &spool)
         set.items << item;
     }
     return set.items.isEmpty() && !available.isEmpty() ? alone(available.constFirst()) : set;
+}
+
+QString stayedMessage(qsizetype stayed, qsizetype all)
+{
+    if (stayed >= all)
+        return QCoreApplication::translate("ShelfView", "It was not taken");
+    return QCoreApplication::translate("ShelfView", "%1 of %2 were not taken").arg(stayed).arg(all);
 }
 
 } // namespace corvane

@@ -13,7 +13,7 @@ class ScratchSpool;
 /// What leaves the shelf in one drag.
 struct DragSet {
     PasteboardContents contents;
-    /// The items whose contents are in it, in their order. Others cannot travel and stay.
+    /// The items whose contents are in it, one for each writer. Others cannot travel and stay.
     QList<DropItem> items;
     /// Files that were made for this drag alone; of no use once it has failed.
     QList<QUrl> savedFiles;
@@ -24,5 +24,8 @@ struct DragSet {
 /// nothing, it is saved into the spool, and stays if that fails. Where nothing else can travel the
 /// first one goes alone.
 DragSet makeDragSet(const QList<DropItem> &items, ScratchSpool &spool);
+
+/// What the user is told when `stayed` of `all` items that were let go elsewhere did not arrive.
+QString stayedMessage(qsizetype stayed, qsizetype all);
 
 } // namespace corvane

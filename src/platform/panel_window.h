@@ -4,6 +4,7 @@
 #include "platform/panel_events.h"
 #include "platform/pasteboard_writer.h"
 
+#include <QList>
 #include <QPainterPath>
 #include <QRectF>
 #include <QStringList>
@@ -73,6 +74,24 @@ struct DragOut {
     std::function<void(Ready ready)> whenReady = {};
 };
 
+/// How a drag-out ended, by what the target said at the end and by what it was given.
+struct DragOutEnd {
+    DragOperation operation = DragOperation::None;
+    /// The places of the writers whose contents the target has, ascending. Nothing without an
+    /// operation.
+    QList<qsizetype> taken;
+    /// It was let go over a target that would have taken it, whatever came of it.
+    bool wasDropped = false;
+};
+
+/// Each is called exactly once, in this order, perhaps before the call that began the drag returns:
+/// a drag may run an event loop of its own.
+struct DragOutEvents {
+    /// The user let go, or gave up. What becomes of the contents is not known yet.
+    std::function<void()> released;
+    std::function<void(const DragOutEnd &)> ended;
+};
+
 /// A borderless window that floats above everything, on every workspace and over full-screen
 /// windows, in no task list, and takes no focus when it appears. Made hidden.
 ///
@@ -116,14 +135,13 @@ public:
     virtual void setNeedsDisplay(const QRectF &rect) = 0;
 
     /// Starts a drag that offers copy and link; the button must be down. The contents are fixed at
-    /// this moment. `ended` is called exactly once with what the target did, perhaps before this
-    /// returns: a drag may run an event loop of its own.
+    /// this moment. Another one may begin once this one was released: a target may take its time.
     ///
     /// Once the user lets go, whatever the target still does, the keyboard is with the window that
     /// had it before the press. Where that was a panel and another program takes the drop, it is
     /// with the window that had it before the panels: whoever has put something there goes on
     /// there.
-    virtual void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) = 0;
+    virtual void beginDraggingSession(DragOut drag, DragOutEvents events) = 0;
 };
 
 } // namespace corvane

@@ -222,7 +222,7 @@ void ShelfLayers::applyCells(const ShelfLook &look)
         cellLook.isCarousel = snapshot.isCarousel();
         cellLook.isFocused = index == snapshot.focusedIndex;
         cellLook.showsBadge = badgeIndex == index;
-        cellLook.isDragged = look.draggedItem == item.id();
+        cellLook.isDragged = look.draggedItem == item.id() || look.leavingItems.contains(item.id());
         if (!snapshot.isCarousel())
             cellLook.flash = look.flashMessage;
         m_cells[i]->fill(item, cellLook);

@@ -11,6 +11,7 @@
 #include "shelf/text_layer.h"
 
 #include <QImage>
+#include <QList>
 #include <QUuid>
 
 #include <array>
@@ -31,6 +32,9 @@ struct ShelfLook {
     QString flashMessage;
     /// The item that is being dragged out.
     std::optional<QUuid> draggedItem;
+    /// Those that were let go elsewhere, whose target has not said how that ended; one twice that
+    /// was dragged out twice.
+    QList<QUuid> leavingItems;
 };
 
 /// The layers that the shelf is painted with. They follow the look that they are given; where and

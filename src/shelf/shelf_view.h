@@ -53,8 +53,8 @@ public:
     ~ShelfView() override;
 
     std::function<void(const QList<DropItem> &)> onDropAccepted;
-    /// An item was dropped elsewhere; `keep` when Shift was held at that moment. By its id, because
-    /// indices may have moved while the drag went on.
+    /// An item was dropped elsewhere and has arrived there; `keep` when Shift was held as it was
+    /// let go. By its id, because indices may have moved meanwhile.
     std::function<void(const QUuid &id, bool keep)> onEjected;
     std::function<void(int index)> onRemove;
     std::function<void(int index)> onFocus;
@@ -122,7 +122,8 @@ private:
     void pressKey(const KeyEvent &event) const;
     void beginDragOut(const DropItem &item, int index, QPointF from);
     QRectF thumbFrame(int index) const;
-    void dragOutEnded(DragOperation operation);
+    DragOutEvents dragOutEvents(const QUuid &id);
+    void dragOutEnded(const QUuid &id, const DragOutEnd &end, bool keep);
     void updateDragTargeted();
 
     Context m_context;

@@ -1,6 +1,7 @@
 // The shelf as a source and as a destination of drags.
 
 #include "core/awaited_contents.h"
+#include "core/drag_set.h"
 #include "core/drag_writer.h"
 #include "core/pasteboard_ingest.h"
 #include "platform/geometry.h"
@@ -63,27 +64,40 @@ void ShelfView::beginDragOut(const DropItem &item, int index, QPointF from)
     drag.image = m_context.dragWriter.dragImage(item, thumb.width(), m_scale);
     drag.hotSpot = isOnThumb ? inBody(from) - thumb.topLeft()
                              : QPointF(thumb.width() / 2, thumb.height() / 2);
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.panel.beginDraggingSession(std::move(drag), [this, alive](DragOperation operation) {
-        if (!alive.expired())
-            dragOutEnded(operation);
-    });
+    m_context.panel.beginDraggingSession(std::move(drag), dragOutEvents(item.id()));
 }
 
-void ShelfView::dragOutEnded(DragOperation operation)
+DragOutEvents ShelfView::dragOutEvents(const QUuid &id)
 {
-    const auto draggedItem = std::exchange(m_look.draggedItem, std::nullopt);
-    m_mouseDownIndex.reset();
-    if (onDragOutChanged)
-        onDragOutChanged(false);
-    if (operation == DragOperation::None || !draggedItem) {
-        relayout();
-        return;
-    }
-    const bool keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
+    const std::weak_ptr<bool> alive = m_alive;
+    const auto keep = std::make_shared<bool>(false);
+    const auto released = [this, alive, id, keep] {
+        if (alive.expired())
+            return;
+        *keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
+        m_look.draggedItem.reset();
+        m_look.leavingItems.append(id);
+        m_mouseDownIndex.reset();
+        if (onDragOutChanged)
+            onDragOutChanged(false);
+    };
+    const auto ended = [this, alive, id, keep](const DragOutEnd &end) {
+        if (!alive.expired())
+            dragOutEnded(id, end, *keep);
+    };
+    return {released, ended};
+}
+
+void ShelfView::dragOutEnded(const QUuid &id, const DragOutEnd &end, bool keep)
+{
+    m_look.leavingItems.removeOne(id);
     relayout();
-    if (onEjected)
-        onEjected(*draggedItem, keep);
+    if (!end.taken.isEmpty()) {
+        if (onEjected)
+            onEjected(id, keep);
+    } else if (end.wasDropped) {
+        flash(stayedMessage(1, 1));
+    }
 }
 
 /// What was let go here counts as held over the shelf until it is here: that shows that it comes.

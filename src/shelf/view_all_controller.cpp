@@ -1,5 +1,6 @@
 #include "shelf/view_all_controller.h"
 
+#include "core/drag_set.h"
 #include "core/feedback.h"
 #include "core/quick_actions.h"
 #include "core/shelf_store.h"
@@ -52,6 +53,9 @@ void ViewAllController::wireView()
     m_view.onNothingToDrag = [this] {
         m_context.feedback.show(
             QCoreApplication::translate("ShelfView", "The file is no longer there"));
+    };
+    m_view.onStayed = [this](qsizetype stayed, qsizetype all) {
+        m_context.feedback.show(stayedMessage(stayed, all));
     };
 }
 

@@ -30,7 +30,9 @@ struct Theme;
 /// is skipped.
 ///
 ///     idle --press on a tile--> pressed --release--> toggled, idle
-///                               pressed --3 points--> dragging --end--> idle
+///                               pressed --3 points--> dragging --let go--> idle
+///
+/// What was let go leaves, or stays, when its target has said how that ended.
 ///
 /// Nothing in it moves by itself: changes apply at once. It takes no drops. Main thread only;
 /// everything in the context must outlive the view.
@@ -58,8 +60,8 @@ public:
     std::function<void()> onToggleSelectAll;
     std::function<void()> onCopySelected;
     std::function<void()> onRemoveSelected;
-    /// Items were dropped elsewhere, those alone whose contents were handed over; `keep` when Shift
-    /// was held at that moment.
+    /// Items were dropped elsewhere, those alone whose contents have arrived there; `keep` when
+    /// Shift was held as they were let go.
     std::function<void(const QList<QUuid> &ids, bool keep)> onEjected;
     /// -1 is back, 1 forward.
     std::function<void(int step)> onScroll;
@@ -67,6 +69,8 @@ public:
     std::function<void(bool isDraggingOut)> onDragOutChanged;
     /// Nothing of what was to be dragged is there any more.
     std::function<void()> onNothingToDrag;
+    /// So many of the items that were let go elsewhere did not arrive there.
+    std::function<void(qsizetype stayed, qsizetype all)> onStayed;
 
     /// Shows the page of `items` that begins at `offset`, or as near to it as there is one. The
     /// list and the set are looked at again at every event, so they must stay where they are: a
@@ -119,7 +123,16 @@ private:
     void pressKey(std::uint32_t keyCode) const;
     Image dragImage(const DropItem &grabbed, const QList<DropItem> &items) const;
     void beginDrag(const DropItem &grabbed);
-    void dragEnded(DragOperation operation, const QList<QUrl> &savedFiles);
+    struct DraggedOut {
+        /// One for each writer.
+        QList<QUuid> ids;
+        QList<QUrl> savedFiles;
+        /// More than travel: a file may be gone.
+        qsizetype wanted = 0;
+        bool keep = false;
+    };
+    DragOutEvents dragOutEvents(DraggedOut dragged);
+    void dragEnded(const DraggedOut &dragged, const DragOutEnd &end);
 
     Context m_context;
     LayerTree m_tree;

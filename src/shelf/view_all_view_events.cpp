@@ -144,8 +144,9 @@ Image ViewAllView::dragImage(const DropItem &grabbed, const QList<DropItem> &ite
 
 void ViewAllView::beginDrag(const DropItem &grabbed)
 {
-    DragSet set = makeDragSet(isSelected(grabbed) ? selectedInOrder() : QList<DropItem>{grabbed},
-                              m_context.spool);
+    const QList<DropItem> wanted
+        = isSelected(grabbed) ? selectedInOrder() : QList<DropItem>{grabbed};
+    DragSet set = makeDragSet(wanted, m_context.spool);
     if (set.items.isEmpty()) {
         call(onNothingToDrag);
         return;
@@ -159,25 +160,41 @@ void ViewAllView::beginDrag(const DropItem &grabbed)
     drag.whenReady = awaitedContents(drag.contents, set.items, m_context.preparation);
     drag.image = dragImage(grabbed, set.items);
     drag.hotSpot = {drag.image.size.width() / 2, drag.image.size.height() / 2};
-    const std::weak_ptr<bool> alive = m_alive;
     m_context.panel.beginDraggingSession(
-        std::move(drag), [this, alive, saved = set.savedFiles](DragOperation operation) {
-            if (!alive.expired())
-                dragEnded(operation, saved);
-        });
+        std::move(drag), dragOutEvents({m_draggingIds, set.savedFiles, wanted.size()}));
 }
 
-void ViewAllView::dragEnded(DragOperation operation, const QList<QUrl> &savedFiles)
+DragOutEvents ViewAllView::dragOutEvents(DraggedOut dragged)
 {
-    const QList<QUuid> ids = std::exchange(m_draggingIds, {});
-    call(onDragOutChanged, false);
-    if (operation == DragOperation::None) {
-        for (const QUrl &url : savedFiles)
+    const std::weak_ptr<bool> alive = m_alive;
+    const auto out = std::make_shared<DraggedOut>(std::move(dragged));
+    const auto released = [this, alive, out] {
+        if (alive.expired())
+            return;
+        m_draggingIds.clear();
+        out->keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
+        call(onDragOutChanged, false);
+    };
+    const auto ended = [this, alive, out](const DragOutEnd &end) {
+        if (!alive.expired())
+            dragEnded(*out, end);
+    };
+    return {released, ended};
+}
+
+void ViewAllView::dragEnded(const DraggedOut &dragged, const DragOutEnd &end)
+{
+    if (end.operation == DragOperation::None) {
+        for (const QUrl &url : dragged.savedFiles)
             m_context.spool.discard(url);
-        return;
     }
-    const bool keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
-    call(onEjected, ids, keep);
+    QList<QUuid> taken;
+    for (const qsizetype place : end.taken)
+        taken << dragged.ids[place];
+    if (!taken.isEmpty())
+        call(onEjected, taken, dragged.keep);
+    if (end.wasDropped && taken.size() < dragged.wanted)
+        call(onStayed, dragged.wanted - taken.size(), dragged.wanted);
 }
 
 void ViewAllView::scrollWheel(const ScrollEvent &event)

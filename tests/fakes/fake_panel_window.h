@@ -41,10 +41,18 @@ public:
     void resignKey() override { isKey = false; }
     void userWentOn() override { log << QStringLiteral("userWentOn"); }
     void setNeedsDisplay(const QRectF &) override { ++displayRequests; }
-    void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) override
+    void beginDraggingSession(DragOut drag, DragOutEvents events) override
     {
+        const auto writers = static_cast<qsizetype>(drag.contents.writers.size());
         dragOut = std::move(drag);
-        endDragOut = std::move(ended);
+        dragOutEvents = std::move(events);
+        endDragOut = [told = dragOutEvents, writers](DragOperation operation) {
+            DragOutEnd end{operation, {}, operation != DragOperation::None};
+            for (qsizetype i = 0; operation != DragOperation::None && i < writers; ++i)
+                end.taken.append(i);
+            told.released();
+            told.ended(end);
+        };
     }
 
     PanelContent *content = nullptr;
@@ -59,6 +67,8 @@ public:
     std::vector<QRectF> frames;
     QStringList log;
     std::optional<DragOut> dragOut;
+    DragOutEvents dragOutEvents;
+    /// Lets go, and the target takes everything at once; or nothing, and gives it back.
     std::function<void(DragOperation)> endDragOut;
 
 private:

@@ -17,8 +17,13 @@ protected:
     DragOutTest()
     {
         content.onFirstDragged = [this] {
-            panel.beginDraggingSession(
-                drag(), [this](DragOperation operation) { results.push_back(operation); });
+            panel.beginDraggingSession(drag(),
+                                       {[this] { ++releases; },
+                                        [this](const DragOutEnd &end) {
+                                            EXPECT_EQ(releases, 1);
+                                            results.push_back(end.operation);
+                                            taken = end.taken;
+                                        }});
         };
     }
 
@@ -40,6 +45,12 @@ protected:
     void dragTo(
         QPoint goal, const std::function<bool()> &mayLetGo = [] { return true; })
     {
+        letGoOver(goal, mayLetGo);
+        EXPECT_TRUE(eventually([&] { return !results.empty(); }));
+    }
+    /// The same, and does not wait for the end.
+    void letGoOver(QPoint goal, const std::function<bool()> &mayLetGo)
+    {
         std::thread user([this, goal, mayLetGo] {
             Display own;
             own.hands.beginDrag(at(150, 30), goal);
@@ -48,14 +59,16 @@ protected:
                 own.hands.aim(goal);
             own.hands.release();
         });
-        EXPECT_TRUE(eventually([&] { return !results.empty(); }));
+        EXPECT_TRUE(eventually([&] { return releases > 0; }));
         user.join();
     }
 
     QByteArray bytes = "picture";
     QString text = QStringLiteral("täxt");
     bool isTextAlone = false;
+    int releases = 0;
     std::vector<DragOperation> results;
+    QList<qsizetype> taken;
 };
 
 } // namespace
@@ -76,6 +89,81 @@ TEST_F(DragOutTest, givesATargetThatAsksLikeGtkEverything)
     EXPECT_FALSE(target.received("application/vnd.portal.filetransfer"));
     EXPECT_TRUE(target.targets().contains("text/uri-list"));
     EXPECT_TRUE(target.targets().contains("UTF8_STRING"));
+}
+
+TEST_F(DragOutTest, everyTypeThatIsAnnouncedIsGiven)
+{
+    show();
+    DropTarget target({100, 100, 200, 200});
+    target.wantsAllThatIsAnnounced = true;
+    dragTo({200, 200}, [&] { return target.isOver(); });
+    const QList<QByteArray> announced = target.announced();
+    for (const char *type : {"text/uri-list", "text/x-moz-url", "text/plain",
+                             "text/plain;charset=utf-8", "UTF8_STRING", "STRING", "TEXT"})
+        EXPECT_TRUE(announced.contains(type)) << type;
+    for (const QByteArray &type : announced)
+        EXPECT_TRUE(target.received(type)) << type.constData();
+    EXPECT_EQ(taken, (QList<qsizetype>{0, 1}));
+}
+
+TEST_F(DragOutTest, theTargetsLastWordCountsAndNotItsFirst)
+{
+    show();
+    DropTarget target({100, 100, 200, 200});
+    target.wanted = {"text/uri-list"};
+    target.finish = DropTarget::Finish::Failed;
+    dragTo({200, 200}, [&] { return target.isOver(); });
+    EXPECT_EQ(results, std::vector{DragOperation::None});
+}
+
+TEST_F(DragOutTest, aTargetThatDiesWithTheDropHasNothing)
+{
+    show();
+    DropTarget target({100, 100, 200, 200});
+    target.wanted = {"text/uri-list"};
+    target.finish = DropTarget::Finish::Dies;
+    dragTo({200, 200}, [&] { return target.isOver(); });
+    EXPECT_EQ(results, std::vector{DragOperation::None});
+}
+
+TEST_F(DragOutTest, whatATargetTakesNoMoreThanABeginningOfHasNotArrived)
+{
+    show();
+    bytes = numberedBytes(20'000'000);
+    DropTarget target({100, 100, 200, 200});
+    target.wanted = {"image/png"};
+    target.finish = DropTarget::Finish::InTheMiddle;
+    letGoOver({200, 200}, [&] { return target.isOver(); });
+    ASSERT_TRUE(eventually([&] { return target.hasFinished(); }));
+    settle();
+    EXPECT_TRUE(results.empty()) << "the target may still take the rest";
+    target.closeAsker();
+    ASSERT_TRUE(eventually([&] { return !results.empty(); }));
+    EXPECT_TRUE(taken.isEmpty());
+}
+
+TEST_F(DragOutTest, theNextDragMayBeginWhileATargetIsBusy)
+{
+    show();
+    DropTarget target({100, 100, 200, 200});
+    target.wanted = {"text/uri-list"};
+    target.finish = DropTarget::Finish::Never;
+    letGoOver({200, 200}, [&] { return target.isOver(); });
+    EXPECT_TRUE(results.empty());
+    bool hasEnded = false;
+    content.onFirstDragged = [&] {
+        panel.beginDraggingSession(
+            drag(), {[this] { ++releases; }, [&](const DragOutEnd &) { hasEnded = true; }});
+    };
+    std::thread user([this] {
+        Display own;
+        own.hands.beginDrag(at(150, 30), {1000, 800});
+        own.hands.glideTo({1000, 800});
+        own.hands.release();
+    });
+    EXPECT_TRUE(eventually([&] { return hasEnded; }));
+    user.join();
+    EXPECT_TRUE(results.empty());
 }
 
 TEST_F(DragOutTest, offersCopyAndLinkAndNeverAMove)
@@ -132,10 +220,10 @@ TEST_F(DragOutTest, aTextOf200MegabytesReachesAnotherPanelInBoundedMemory)
     const auto window = other.output.mid(6).trimmed().toUInt();
     e2e::XServer server(qgetenv("DISPLAY"));
     // The second time it moves, its first answer has come.
-    dragTo(panelSceneFrame.topLeft() + panelSceneBody.center(),
-           [&] { return server.property(window, "WM_NAME").toInt() > 1; });
-    EXPECT_EQ(results, std::vector{DragOperation::Copy});
+    letGoOver(panelSceneFrame.topLeft() + panelSceneBody.center(),
+              [&] { return server.property(window, "WM_NAME").toInt() > 1; });
     ASSERT_TRUE(other.serveUntil("text"));
+    EXPECT_TRUE(eventually([&] { return results == std::vector{DragOperation::Copy}; }));
     const QList<QByteArray> facts
         = other.output.sliced(other.output.indexOf("text")).trimmed().split(' ');
     ASSERT_EQ(facts.size(), 4) << other.output.constData();
@@ -162,9 +250,11 @@ TEST_F(DragOutTest, aSecondDragInsideTheFirstIsNone)
     show();
     int inner = 0;
     queue.asyncAfter(0.3, [&] {
-        panel.beginDraggingSession(drag(), [&](DragOperation operation) {
-            inner += operation == DragOperation::None ? 1 : 100;
-        });
+        panel.beginDraggingSession(drag(),
+                                   {[] {},
+                                    [&](const DragOutEnd &end) {
+                                        inner += end.operation == DragOperation::None ? 1 : 100;
+                                    }});
     });
     dragTo({1000, 800}, [&] { return inner != 0; });
     EXPECT_EQ(inner, 1);
@@ -181,7 +271,8 @@ TEST_F(DragOutTest, aPanelThatDiesInItsDragReportsNothing)
     bool hasEnded = false;
     dyingContent.onFirstDragged = [&] {
         queue.asyncAfter(0.05, [&] { dying.reset(); });
-        dying->beginDraggingSession(drag(), [&](DragOperation) { hasEnded = true; });
+        dying->beginDraggingSession(
+            drag(), {[&] { hasEnded = true; }, [&](const DragOutEnd &) { hasEnded = true; }});
         hasReturned = true;
     };
     dying->orderFrontRegardless();

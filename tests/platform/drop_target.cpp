@@ -45,6 +45,18 @@ QList<QByteArray> DropTarget::actions()
     return m_actions;
 }
 
+QList<QByteArray> DropTarget::announced()
+{
+    const std::lock_guard lock(m_mutex);
+    return m_announced;
+}
+
+void DropTarget::closeAsker()
+{
+    xcb_destroy_window(connection(), m_asker);
+    xcb_flush(connection());
+}
+
 QList<QByteArray> DropTarget::atomNames(const QByteArray &atoms)
 {
     QList<QByteArray> names;
@@ -69,7 +81,7 @@ void DropTarget::handle(const xcb_generic_event_t &event)
     } else if (type == XCB_PROPERTY_NOTIFY) {
         const auto &news = reinterpret_cast<const xcb_property_notify_event_t &>(event);
         const bool isPiece = news.window == m_asker && news.state == XCB_PROPERTY_NEW_VALUE;
-        if (isPiece && m_reader.isWaiting())
+        if (isPiece && m_reader.isWaiting() && !m_hasFinished)
             takeGiven();
     } else if (type == XCB_CLIENT_MESSAGE) {
         handleMessage(reinterpret_cast<const xcb_client_message_event_t &>(event));
@@ -82,6 +94,7 @@ void DropTarget::handleMessage(const xcb_client_message_event_t &message)
         m_source = message.data.data32[0];
         m_positions = 0;
         m_actions = atomNames(m_server.property(m_source, "XdndActionList"));
+        m_announced = atomNames(m_server.property(m_source, "XdndTypeList"));
     } else if (message.type == atom("XdndPosition")) {
         ++m_positions;
         sendMessage(m_source, "XdndStatus",
@@ -89,6 +102,8 @@ void DropTarget::handleMessage(const xcb_client_message_event_t &message)
                      accepts ? atom("XdndActionCopy") : xcb_atom_t{e2e::noAtom}});
     } else if (message.type == atom("XdndDrop")) {
         m_next = 0;
+        if (wantsAllThatIsAnnounced)
+            wanted = m_announced;
         wanted.prepend("TARGETS");
         ask();
     }
@@ -97,6 +112,8 @@ void DropTarget::handleMessage(const xcb_client_message_event_t &message)
 void DropTarget::takeGiven()
 {
     const auto bytes = m_reader.take();
+    if (m_reader.isWaiting() && finish == Finish::InTheMiddle)
+        sayHowItEnded();
     if (!bytes)
         return;
     if (m_asked == "TARGETS")
@@ -113,7 +130,20 @@ void DropTarget::ask()
                               atom("GIVEN"), XCB_CURRENT_TIME);
         return;
     }
-    sendMessage(m_source, "XdndFinished", {window(), 1, atom("XdndActionCopy"), 0, 0});
+    sayHowItEnded();
+}
+
+void DropTarget::sayHowItEnded()
+{
+    const bool isWell = finish != Finish::Failed;
+    if (finish == Finish::Dies) {
+        xcb_destroy_window(connection(), window());
+        xcb_flush(connection());
+    } else if (finish != Finish::Never) {
+        sendMessage(m_source, "XdndFinished",
+                    {window(), isWell ? 1U : 0U,
+                     isWell ? atom("XdndActionCopy") : xcb_atom_t{e2e::noAtom}, 0, 0});
+    }
     m_hasFinished = true;
 }
 

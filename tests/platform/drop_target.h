@@ -18,10 +18,25 @@ public:
     bool hasFinished();
     QList<QByteArray> targets();
     QList<QByteArray> actions();
+    /// The types that the source named when it came.
+    QList<QByteArray> announced();
+    /// Ends the window that it asks from.
+    void closeAsker();
 
+    enum class Finish {
+        Well,
+        Failed,
+        Never,
+        /// Its windows are gone instead.
+        Dies,
+        /// As soon as something is coming piece by piece, of which it takes no more.
+        InTheMiddle,
+    };
+    Finish finish = Finish::Well;
     /// Asked for after the drop, in order; `TARGETS` comes first by itself.
     QList<QByteArray> wanted;
     bool accepts = true;
+    bool wantsAllThatIsAnnounced = false;
 
 private:
     void handle(const xcb_generic_event_t &event) override;
@@ -29,6 +44,7 @@ private:
     void readTargets();
     void takeGiven();
     void ask();
+    void sayHowItEnded();
     QList<QByteArray> atomNames(const QByteArray &atoms);
 
     xcb_window_t m_asker;
@@ -41,6 +57,7 @@ private:
     QHash<QByteArray, std::optional<QByteArray>> m_received;
     QList<QByteArray> m_targets;
     QList<QByteArray> m_actions;
+    QList<QByteArray> m_announced;
 };
 
 } // namespace corvane::test

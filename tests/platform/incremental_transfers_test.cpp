@@ -5,8 +5,6 @@
 #include "platform/x11/x11_drag_support.h"
 #include "platform/x11_client.h"
 
-#include <QMimeData>
-
 #include <gtest/gtest.h>
 
 namespace corvane::test {
@@ -178,9 +176,7 @@ TEST_F(IncrementalTransfersTest, whatADragHandsOverGoesOnWhenTheNextOneBegins)
 {
     X11DragSupport support(connection, clock);
     const auto drag = [&](const QByteArray &contents) {
-        QMimeData mimeData;
-        mimeData.setData(QStringLiteral("image/png"), contents);
-        support.dragWillBegin(mimeData);
+        support.dragWillBegin({{QStringLiteral("image/png"), contents, {0}}}, true);
     };
     Reader reader;
     xcb_selection_request_event_t request = {};

@@ -701,6 +701,64 @@ TEST_F(ShelfViewTest, ARefusedDropLeavesTheItem)
     EXPECT_FALSE(view.look().draggedItem);
 }
 
+TEST_F(ShelfViewTest, AnItemLeavesOnlyWhenItsTargetHasFinished)
+{
+    const ShelfSnapshot snapshot = holding(1, 1);
+    show(snapshot);
+    press(middleOf(0));
+    view.mouseDragged({middleOf(0) + QPointF(9, 0)});
+    log.clear();
+    desk.panel.dragOutEvents.released();
+    EXPECT_EQ(log, QStringList{QStringLiteral("dragOut 0")});
+    EXPECT_EQ(view.look().leavingItems, QList<QUuid>{snapshot.visible[0].second.id()});
+    desk.panel.dragOutEvents.ended({DragOperation::Copy, {0}, true});
+    EXPECT_EQ(log.last(), QStringLiteral("eject 0"));
+    EXPECT_TRUE(view.look().leavingItems.isEmpty());
+    EXPECT_TRUE(view.look().flashMessage.isEmpty());
+}
+
+TEST_F(ShelfViewTest, WhatTheTargetDidNotTakeStaysAndIsSaid)
+{
+    show(holding(1, 1));
+    press(middleOf(0));
+    view.mouseDragged({middleOf(0) + QPointF(9, 0)});
+    log.clear();
+    desk.panel.dragOutEvents.released();
+    desk.panel.dragOutEvents.ended({DragOperation::Copy, {}, true});
+    EXPECT_EQ(log, QStringList{QStringLiteral("dragOut 0")});
+    EXPECT_EQ(view.look().flashMessage, QStringLiteral("It was not taken"));
+}
+
+TEST_F(ShelfViewTest, ShiftCountsAsItWasWhenTheItemWasLetGo)
+{
+    show(holding(1, 1));
+    press(middleOf(0));
+    view.mouseDragged({middleOf(0) + QPointF(9, 0)});
+    desk.keyboard.modifiers = Modifier::Shift;
+    desk.panel.dragOutEvents.released();
+    desk.keyboard.modifiers = {};
+    desk.panel.dragOutEvents.ended({DragOperation::Copy, {0}, true});
+    EXPECT_EQ(log.last(), QStringLiteral("eject 1"));
+}
+
+TEST_F(ShelfViewTest, AnItemWhoseTargetIsBusyMayBeDraggedElsewhere)
+{
+    show(holding(1, 1));
+    press(middleOf(0));
+    view.mouseDragged({middleOf(0) + QPointF(9, 0)});
+    const DragOutEvents first = desk.panel.dragOutEvents;
+    first.released();
+    desk.panel.dragOut.reset();
+    press(middleOf(0));
+    view.mouseDragged({middleOf(0) + QPointF(9, 0)});
+    ASSERT_TRUE(desk.panel.dragOut);
+    desk.panel.dragOutEvents.released();
+    first.ended({DragOperation::None, {}, true});
+    EXPECT_EQ(view.look().leavingItems.size(), 1) << "the other target may still take it";
+    desk.panel.dragOutEvents.ended({DragOperation::Copy, {0}, true});
+    EXPECT_EQ(log.last(), QStringLiteral("eject 0"));
+}
+
 TEST_F(ShelfViewTest, ThePictureStaysUnderThePointerWhereItWasTaken)
 {
     show(holding(1, 1));

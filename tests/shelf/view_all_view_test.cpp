@@ -30,6 +30,9 @@ protected:
         view->onScroll = [this](int step) { log << QStringLiteral("scroll %1").arg(step); };
         view->onClose = [this] { log << QStringLiteral("close"); };
         view->onDragOutChanged = [this](bool on) { log << QStringLiteral("dragOut %1").arg(on); };
+        view->onStayed = [this](qsizetype stayed, qsizetype all) {
+            log << QStringLiteral("stayed %1 of %2").arg(stayed).arg(all);
+        };
         view->onNothingToDrag = [this] { log << QStringLiteral("nothing to drag"); };
     }
 
@@ -388,6 +391,31 @@ TEST_F(ViewAllViewTest, shiftAtTheEndKeepsTheItems)
     EXPECT_EQ(log.constLast(), QStringLiteral("eject 1 0"));
 }
 
+TEST_F(ViewAllViewTest, ofASetOnlyThatLeavesWhichItsTargetTook)
+{
+    show(5);
+    select({0, 1, 2});
+    drag(middleOf(0));
+    desk.panel.dragOutEvents.released();
+    EXPECT_FALSE(log.contains(QStringLiteral("eject 3 0")));
+    desk.panel.dragOutEvents.ended({DragOperation::Copy, {0, 2}, true});
+    EXPECT_EQ(ejected, (QList<QUuid>{items[0].id(), items[2].id()}));
+    EXPECT_EQ(log.constLast(), QStringLiteral("stayed 1 of 3"));
+}
+
+TEST_F(ViewAllViewTest, theNextDragMayBeginWhileATargetIsBusy)
+{
+    show(3);
+    drag(middleOf(0));
+    const DragOutEvents first = desk.panel.dragOutEvents;
+    first.released();
+    desk.panel.dragOut.reset();
+    drag(middleOf(1));
+    EXPECT_TRUE(desk.panel.dragOut);
+    first.ended({DragOperation::Copy, {0}, true});
+    EXPECT_EQ(ejected, QList<QUuid>{items[0].id()});
+}
+
 TEST_F(ViewAllViewTest, onlyWhatWasHandedOverIsReported)
 {
     hold(2);
@@ -398,6 +426,7 @@ TEST_F(ViewAllViewTest, onlyWhatWasHandedOverIsReported)
     EXPECT_EQ(carried(), (QStringList{QStringLiteral("item 0"), QStringLiteral("item 1")}));
     endDrag(DragOperation::Copy);
     EXPECT_EQ(ejected, (QList<QUuid>{items[0].id(), items[1].id()}));
+    EXPECT_EQ(log.constLast(), QStringLiteral("stayed 1 of 3"));
 }
 
 TEST_F(ViewAllViewTest, nothingThatCouldTravelStartsNoDrag)

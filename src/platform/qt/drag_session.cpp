@@ -7,9 +7,11 @@
 #include <QDrag>
 #include <QMimeData>
 #include <QPixmap>
+#include <QPointer>
 #include <QWindow>
 
 #include <algorithm>
+#include <numeric>
 
 namespace corvane {
 
@@ -26,26 +28,70 @@ void setImage(QDrag &drag, const Image &image, QPointF hotSpot)
     drag.setHotSpot(QPointF(hotSpot.x(), image.size.height() - hotSpot.y()).toPoint());
 }
 
+/// What Qt knows when the user lets go: what the target would do, not what it does.
+DragOperation promisedBy(Qt::DropAction action)
+{
+    if (action == Qt::IgnoreAction)
+        return DragOperation::None;
+    return action == Qt::LinkAction ? DragOperation::Link : DragOperation::Copy;
+}
+
+DragOutEnd asPromised(Qt::DropAction action, std::size_t writers)
+{
+    DragOutEnd end{promisedBy(action), {}, true};
+    end.taken.resize(static_cast<qsizetype>(writers));
+    std::iota(end.taken.begin(), end.taken.end(), 0);
+    return end;
+}
+
+void passOnWhenReady(const DragOut &drag, DragSupport &support, DragSupport::DragId id)
+{
+    if (!drag.whenReady)
+        return;
+    drag.whenReady([&support, id](const std::optional<PasteboardContents> &contents) {
+        support.formsAreReady(
+            id, contents ? std::optional(formsOf(*contents, PasteboardKind::Drag)) : std::nullopt);
+    });
+}
+
+/// What the target would do; ignored where the drag came to nothing, or back to this process, whose
+/// own windows take nothing off the shelf.
+Qt::DropAction execute(QWindow &window, const DragOut &drag, std::unique_ptr<QMimeData> contents)
+{
+    // Qt deletes it once the target has fetched what it wants.
+    const QPointer<QDrag> session = new QDrag(&window);
+    session->setMimeData(contents.release());
+    setImage(*session, drag.image, drag.hotSpot);
+    const Qt::DropAction action = session->exec(Qt::CopyAction | Qt::LinkAction, Qt::CopyAction);
+    return session && session->target() ? Qt::IgnoreAction : action;
+}
+
 } // namespace
 
-DragOperation runDragSession(QWindow &window, const DragOut &drag, DragSupport *support)
+void runDragSession(QWindow &window, const DragOut &drag, DragSupport *support,
+                    const DragSessionEvents &events)
 {
-    auto mimeData = mimeDataFor(drag.contents, PasteboardKind::Drag);
-    if (support)
-        support->dragWillBegin(*mimeData);
-    // Qt deletes it once the target has fetched what it wants.
-    auto *session = new QDrag(&window);
-    session->setMimeData(mimeData.release());
-    setImage(*session, drag.image, drag.hotSpot);
-    switch (session->exec(Qt::CopyAction | Qt::LinkAction, Qt::CopyAction)) {
-    case Qt::IgnoreAction:
-        return DragOperation::None;
-    case Qt::LinkAction:
-        return DragOperation::Link;
-    default:
-        // Some targets answer a move that was not offered; they have the contents all the same.
-        return DragOperation::Copy;
+    const std::size_t writers = drag.contents.writers.size();
+    PasteboardForms forms = formsOf(drag.contents, PasteboardKind::Drag);
+    auto mimeData = mimeDataFor(forms);
+    if (!support) {
+        const Qt::DropAction action = execute(window, drag, std::move(mimeData));
+        events.released(promisedBy(action));
+        events.ended(action == Qt::IgnoreAction ? DragOutEnd() : asPromised(action, writers));
+        return;
     }
+    const DragSupport::DragId id = support->dragWillBegin(std::move(forms), !drag.whenReady);
+    passOnWhenReady(drag, *support, id);
+    const Qt::DropAction action = execute(window, drag, std::move(mimeData));
+    if (action == Qt::IgnoreAction) {
+        support->dragCameToNothing(id);
+        events.released(DragOperation::None);
+        events.ended({});
+        return;
+    }
+    // Before anybody is told: the target's window may be closed any moment.
+    support->dragWasDropped(id, events.ended);
+    events.released(promisedBy(action));
 }
 
 } // namespace corvane

@@ -3,10 +3,11 @@
 #include "platform/file_url.h"
 #include "platform/pasteboard_writer.h"
 
-#include <QList>
 #include <QMimeData>
 
+#include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace corvane {
 
@@ -17,72 +18,113 @@ using Data = PasteboardWriter::Data;
 using Text = PasteboardWriter::Text;
 using Link = PasteboardWriter::Link;
 
-std::optional<QUrl> urlOf(const PasteboardWriter &writer)
-{
-    if (const auto *file = std::get_if<File>(&writer.content))
-        return file->url;
-    if (const auto *link = std::get_if<Link>(&writer.content))
-        return link->url;
-    return std::nullopt;
-}
-
-std::optional<QString> textOf(const PasteboardWriter &writer)
-{
-    if (const auto *file = std::get_if<File>(&writer.content))
-        return QString::fromUtf8(file_url::nativePath(file->url));
-    if (const auto *link = std::get_if<Link>(&writer.content))
-        return link->url.toString(QUrl::FullyEncoded);
-    if (const auto *text = std::get_if<Text>(&writer.content))
-        return text->string;
-    return std::nullopt;
-}
-
-std::optional<QString> textOf(const PasteboardContents &contents)
-{
-    if (contents.string)
-        return contents.string;
-    std::optional<QString> joined;
-    for (const PasteboardWriter &writer : contents.writers) {
-        const auto text = textOf(writer);
-        if (!text)
-            continue;
-        joined = joined ? QString(*joined % QLatin1Char('\n') % *text) : *text;
+/// Files and links as addresses and as text, and texts as they are, each joined in one go: there
+/// may be many thousands.
+class Joined {
+public:
+    explicit Joined(const std::vector<PasteboardWriter> &writers)
+    {
+        for (const PasteboardWriter &writer : writers)
+            add(writer);
     }
-    return joined;
-}
 
-/// The verb, then the files, with no line end after the last.
-QByteArray copiedFiles(const QList<QUrl> &urls)
-{
-    QByteArray lines;
-    for (const QUrl &url : urls) {
+    QByteArray uriList;
+    QList<qsizetype> inUriList;
+    /// The verb, then the files, with no line end after the last.
+    QByteArray copiedFiles;
+    std::optional<QByteArray> text;
+    QList<qsizetype> inText;
+
+private:
+    void add(const PasteboardWriter &writer)
+    {
+        if (const auto *file = std::get_if<File>(&writer.content)) {
+            addUrl(file->url);
+            addPath(file_url::nativePath(file->url));
+        } else if (const auto *link = std::get_if<Link>(&writer.content)) {
+            addText(addUrl(link->url));
+        } else if (const auto *string = std::get_if<Text>(&writer.content)) {
+            addText(string->string.toUtf8());
+        }
+        ++m_place;
+    }
+
+    QByteArray addUrl(const QUrl &url)
+    {
+        const QByteArray address = url.toEncoded(QUrl::FullyEncoded);
+        uriList.append(address).append("\r\n");
+        inUriList.append(m_place);
         if (url.isLocalFile())
-            lines += '\n' + url.toEncoded(QUrl::FullyEncoded);
+            copiedFiles.append(copiedFiles.isEmpty() ? "copy\n" : "\n").append(address);
+        return address;
     }
-    return lines.isEmpty() ? lines : "copy" + lines;
+
+    void addPath(const QByteArray &path)
+    {
+        // A name whose bytes are no text cannot be told as text.
+        const QByteArray told = QString::fromUtf8(path).toUtf8();
+        addText(told);
+        if (told != path)
+            inText.removeLast();
+    }
+
+    void addText(const QByteArray &part)
+    {
+        if (text)
+            text->append('\n').append(part);
+        else
+            text = part;
+        inText.append(m_place);
+    }
+
+    qsizetype m_place = 0;
+};
+
+void addData(PasteboardForms &forms, const std::vector<PasteboardWriter> &writers)
+{
+    qsizetype place = 0;
+    for (const PasteboardWriter &writer : writers) {
+        const auto *data = std::get_if<Data>(&writer.content);
+        const auto isSame
+            = [&](const PasteboardForm &form) { return form.type == data->type.identifier(); };
+        if (data && std::none_of(forms.begin(), forms.end(), isSame))
+            forms.push_back({data->type.identifier(), data->bytes, {place}});
+        ++place;
+    }
 }
 
 } // namespace
 
-std::unique_ptr<QMimeData> mimeDataFor(const PasteboardContents &contents, PasteboardKind kind)
+PasteboardForms formsOf(const PasteboardContents &contents, PasteboardKind kind)
+{
+    PasteboardForms forms;
+    addData(forms, contents.writers);
+    Joined joined(contents.writers);
+    if (!joined.inUriList.isEmpty())
+        forms.push_back({QStringLiteral("text/uri-list"), joined.uriList, joined.inUriList});
+    if (kind == PasteboardKind::Clipboard && !joined.copiedFiles.isEmpty())
+        forms.push_back({QStringLiteral("x-special/gnome-copied-files"), joined.copiedFiles, {}});
+    const auto text = contents.string ? std::optional(contents.string->toUtf8()) : joined.text;
+    if (text) {
+        // One array behind both names: a text may be very large. Without its character set some
+        // programs take it for Latin-1.
+        forms.push_back({QStringLiteral("text/plain;charset=utf-8"), *text, joined.inText});
+        forms.push_back({QStringLiteral("text/plain"), *text, joined.inText});
+    }
+    return forms;
+}
+
+std::unique_ptr<QMimeData> mimeDataFor(const PasteboardForms &forms)
 {
     auto mimeData = std::make_unique<QMimeData>();
-    QList<QUrl> urls;
-    for (const PasteboardWriter &writer : contents.writers) {
-        if (const auto url = urlOf(writer))
-            urls.append(*url);
-        const auto *data = std::get_if<Data>(&writer.content);
-        if (data && !mimeData->hasFormat(data->type.identifier()))
-            mimeData->setData(data->type.identifier(), data->bytes);
-    }
-    if (!urls.isEmpty())
-        mimeData->setUrls(urls);
-    const QByteArray files = copiedFiles(urls);
-    if (kind == PasteboardKind::Clipboard && !files.isEmpty())
-        mimeData->setData(QStringLiteral("x-special/gnome-copied-files"), files);
-    if (const auto text = textOf(contents))
-        mimeData->setText(*text);
+    for (const PasteboardForm &form : forms)
+        mimeData->setData(form.type, form.bytes);
     return mimeData;
+}
+
+std::unique_ptr<QMimeData> mimeDataFor(const PasteboardContents &contents, PasteboardKind kind)
+{
+    return mimeDataFor(formsOf(contents, kind));
 }
 
 } // namespace corvane

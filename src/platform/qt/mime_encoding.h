@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/pasteboard_form.h"
+
 #include <memory>
 
 class QMimeData;
@@ -15,8 +17,13 @@ enum class PasteboardKind {
     Clipboard,
 };
 
-/// Everything in one `QMimeData`: files and links together as text/uri-list, picture bytes under
-/// their own type (of several with one type the first), and the plain text.
+/// Picture bytes under their own type (of several with one type the first), files and links
+/// together as text/uri-list, and the plain text, which holds files by their paths and links by
+/// their addresses. Takes time in proportion to the contents.
+PasteboardForms formsOf(const PasteboardContents &contents, PasteboardKind kind);
+
+/// Everything in one `QMimeData`.
+std::unique_ptr<QMimeData> mimeDataFor(const PasteboardForms &forms);
 std::unique_ptr<QMimeData> mimeDataFor(const PasteboardContents &contents, PasteboardKind kind);
 
 } // namespace corvane

@@ -134,23 +134,31 @@ void QtPanelWindow::setNeedsDisplay(const QRectF &rect)
     m_canvas->repaintSoon(qt_geometry::flipped(rect, m_frame.height()).toAlignedRect());
 }
 
-void QtPanelWindow::beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended)
+void QtPanelWindow::beginDraggingSession(DragOut drag, DragOutEvents events)
 {
     if (std::exchange(m_isDragging, true)) {
-        ended(DragOperation::None);
+        events.released();
+        events.ended({});
         return;
     }
     const auto alive = m_alive;
     PanelCanvas *canvas = m_canvas.get();
-    const DragOperation operation = runDragSession(*canvas, drag, m_dragSupport);
-    if (!*alive) {
-        // Later: one of its events is what we are in.
-        canvas->deleteLater();
-        return;
-    }
-    m_isDragging = false;
-    letGo(operation);
-    ended(operation);
+    const auto released = [this, alive, canvas,
+                           tell = std::move(events.released)](DragOperation promised) {
+        if (!*alive) {
+            // Later: one of its events is what we are in.
+            canvas->deleteLater();
+            return;
+        }
+        m_isDragging = false;
+        letGo(promised);
+        tell();
+    };
+    const auto ended = [alive, tell = std::move(events.ended)](const DragOutEnd &end) {
+        if (*alive)
+            tell(end);
+    };
+    runDragSession(*canvas, drag, m_dragSupport, {released, ended});
 }
 
 void QtPanelWindow::letGo(DragOperation operation)

@@ -44,7 +44,7 @@ public:
     void resignKey() override;
     void userWentOn() override { m_userWentOn = true; }
     void setNeedsDisplay(const QRectF &rect) override;
-    void beginDraggingSession(DragOut drag, std::function<void(DragOperation)> ended) override;
+    void beginDraggingSession(DragOut drag, DragOutEvents events) override;
 
     /// The window itself, for its back end's tests.
     QWindow &window() { return *m_canvas; }

@@ -3,7 +3,9 @@
 #include "platform/x11/x11_reply.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
+#include <utility>
 
 namespace corvane {
 
@@ -34,7 +36,7 @@ IncrementalTransfers::~IncrementalTransfers()
 }
 
 bool IncrementalTransfers::begin(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type,
-                                 const QByteArray &bytes)
+                                 const QByteArray &bytes, Ended ended)
 {
     // It would wait for the old one's pieces for ever.
     endWhere([&](const Transfer &transfer) {
@@ -48,7 +50,8 @@ bool IncrementalTransfers::begin(xcb_window_t reader, xcb_atom_t property, xcb_a
         std::min<qsizetype>(bytes.size(), std::numeric_limits<std::int32_t>::max()));
     xcb_change_property(m_connection.get(), XCB_PROP_MODE_REPLACE, reader, property,
                         m_connection.atom("INCR"), 32, 1, &size);
-    m_transfers.push_back({reader, property, type, bytes, 0, m_queue.now()});
+    m_transfers.push_back(
+        {reader, property, type, bytes, 0, m_queue.now(), false, std::move(ended)});
     if (!m_patienceTimer) {
         m_patienceTimer = m_queue.repeating(patience / 2, [this] {
             endWhere([now = m_queue.now()](const Transfer &transfer) {
@@ -99,29 +102,42 @@ bool IncrementalTransfers::sendPiece(Transfer &transfer)
                         transfer.bytes.constData() + transfer.sent);
     transfer.sent += size;
     transfer.lastProgress = m_queue.now();
+    transfer.isEndTold = size == 0;
     return size > 0;
+}
+
+/// Stops listening to a reader of whom no transfer is left.
+void IncrementalTransfers::endQuietly(xcb_window_t reader)
+{
+    const bool isStillRead = std::ranges::any_of(
+        m_transfers, [reader](const Transfer &other) { return other.reader == reader; });
+    // Its window may be gone; the error that this gives then interests nobody.
+    const std::uint32_t nothing = XCB_EVENT_MASK_NO_EVENT;
+    if (!isStillRead)
+        xcb_change_window_attributes(m_connection.get(), reader, XCB_CW_EVENT_MASK, &nothing);
 }
 
 template<typename Predicate>
 void IncrementalTransfers::endWhere(Predicate isOver)
 {
+    std::list<Transfer> over;
     for (auto transfer = m_transfers.begin(); transfer != m_transfers.end();) {
-        if (!isOver(*transfer)) {
-            ++transfer;
-            continue;
-        }
-        const xcb_window_t reader = transfer->reader;
-        transfer = m_transfers.erase(transfer);
-        const bool isStillRead = std::ranges::any_of(
-            m_transfers, [reader](const Transfer &other) { return other.reader == reader; });
-        // Its window may be gone; the error that this gives then interests nobody.
-        const std::uint32_t nothing = XCB_EVENT_MASK_NO_EVENT;
-        if (!isStillRead)
-            xcb_change_window_attributes(m_connection.get(), reader, XCB_CW_EVENT_MASK, &nothing);
+        const auto next = std::next(transfer);
+        if (isOver(*transfer))
+            over.splice(over.end(), m_transfers, transfer);
+        transfer = next;
     }
+    for (const Transfer &transfer : over)
+        endQuietly(transfer.reader);
     if (m_transfers.empty())
         m_patienceTimer.reset();
     m_connection.flush();
+    // Last: whoever hears of it may begin another.
+    for (const Transfer &transfer : over) {
+        // The empty piece at the end is put in once the reader has removed the last full one.
+        if (transfer.ended)
+            transfer.ended(transfer.isEndTold ? End::AllTaken : End::Abandoned);
+    }
 }
 
 } // namespace corvane

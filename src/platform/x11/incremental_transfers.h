@@ -6,6 +6,7 @@
 #include <QByteArray>
 
 #include <cstddef>
+#include <functional>
 #include <list>
 
 namespace corvane {
@@ -36,9 +37,17 @@ public:
     IncrementalTransfers(const IncrementalTransfers &) = delete;
     IncrementalTransfers &operator=(const IncrementalTransfers &) = delete;
 
+    enum class End {
+        AllTaken,
+        Abandoned,
+    };
+    using Ended = std::function<void(End)>;
+
     /// Announces `bytes` in a property of the reader's window; the caller then tells the reader.
-    /// False, and nothing is written, when the window is gone or too many transfers run.
-    bool begin(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type, const QByteArray &bytes);
+    /// False, and nothing is written, when the window is gone or too many transfers run. Otherwise
+    /// `ended` is called once, later, unless this object is destroyed before.
+    bool begin(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type, const QByteArray &bytes,
+               Ended ended = {});
 
     std::size_t count() const { return m_transfers.size(); }
 
@@ -50,6 +59,8 @@ private:
         QByteArray bytes;
         qsizetype sent;
         double lastProgress;
+        bool isEndTold;
+        Ended ended;
     };
 
     void handle(const xcb_generic_event_t &event);
@@ -57,6 +68,7 @@ private:
     /// False when that was the end.
     bool sendPiece(Transfer &transfer);
     bool listenTo(xcb_window_t reader);
+    void endQuietly(xcb_window_t reader);
     template<typename Predicate>
     void endWhere(Predicate isOver);
 

@@ -1,25 +1,33 @@
 #include "platform/x11/x11_drag_support.h"
 
-#include "platform/x11/x11_qt.h"
-#include "platform/x11/x11_reply.h"
+#include "platform/checked_math.h"
+#include "platform/panel_window.h"
 
 #include <QCoreApplication>
-#include <QMimeData>
 
-#include <array>
+#include <xcb/xinput.h>
+
+#include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace corvane {
 
 namespace {
 
-/// The names under which programs ask for plain text.
-constexpr std::array textNames = {"text/plain", "text/plain;charset=utf-8", "UTF8_STRING"};
+/// Whether a time of the server, which starts over every 49 days, is not before another one.
+bool isNotBefore(xcb_timestamp_t time, xcb_timestamp_t other)
+{
+    constexpr xcb_timestamp_t half = 0x80000000;
+    return time - other < half;
+}
 
 } // namespace
 
-X11DragSupport::X11DragSupport(X11Connection &connection, MainQueue &queue)
+X11DragSupport::X11DragSupport(X11Connection &connection, MainQueue &queue, double patience)
     : m_connection(connection)
+    , m_queue(queue)
+    , m_patience(patience)
     , m_transfers(connection, queue)
 {
     QCoreApplication::instance()->installNativeEventFilter(this);
@@ -31,20 +39,73 @@ X11DragSupport::~X11DragSupport()
         application->removeNativeEventFilter(this);
 }
 
-void X11DragSupport::dragWillBegin(const QMimeData &contents)
+X11Drag *X11DragSupport::find(DragId drag)
 {
-    m_contents.clear();
-    if (contents.hasText()) {
-        // One array behind all its names: a text may be very large.
-        const QByteArray text = contents.text().toUtf8();
-        for (const char *name : textNames)
-            m_contents.insert(m_connection.atom(name), text);
+    const auto found = m_drags.find(drag);
+    return found == m_drags.end() ? nullptr : found->second.get();
+}
+
+DragSupport::DragId X11DragSupport::dragWillBegin(PasteboardForms forms, bool areFinal)
+{
+    if (auto *const previous = latest(); previous && !previous->isWaiting())
+        forget(m_lastId);
+    m_lastId = checkedAdd(m_lastId, 1);
+    m_hasSelection = true;
+    m_drags[m_lastId] = std::make_unique<X11Drag>(m_connection, m_queue, m_transfers,
+                                                  std::move(forms), areFinal, m_time);
+    return m_lastId;
+}
+
+void X11DragSupport::formsAreReady(DragId drag, std::optional<PasteboardForms> forms)
+{
+    auto *const found = find(drag);
+    if (!found)
+        return;
+    std::optional<X11DragForms> ready;
+    if (forms)
+        ready.emplace(m_connection, std::move(*forms));
+    found->answers().formsAreReady(std::move(ready));
+}
+
+void X11DragSupport::dragWasDropped(DragId drag, std::function<void(const DragOutEnd &)> ended)
+{
+    auto *const found = find(drag);
+    const auto target = found ? found->wasDropped() : X11Drag::Target::Nobody;
+    if (target == X11Drag::Target::Nobody) {
+        m_queue.async([ended = std::move(ended)] { ended({}); });
+        return;
     }
-    for (const QString &format : contents.formats()) {
-        const xcb_atom_t type = m_connection.atom(format.toUtf8().constData());
-        if (!m_contents.contains(type))
-            m_contents.insert(type, contents.data(format));
+    found->onEnd = [this, drag, ended = std::move(ended)](const DragOutEnd &end) {
+        if (!isCurrent(drag) || !m_hasSelection)
+            forget(drag);
+        ended(end);
+    };
+    watchTheClock();
+    if (target == X11Drag::Target::Gone) {
+        m_queue.asyncAfter(lastWords, [this, alive = std::weak_ptr(m_alive), drag] {
+            auto *const silent = alive.expired() ? nullptr : find(drag);
+            if (silent)
+                silent->giveUp();
+        });
     }
+}
+
+void X11DragSupport::dragCameToNothing(DragId drag)
+{
+    forget(drag);
+}
+
+void X11DragSupport::forget(DragId drag)
+{
+    const auto found = m_drags.find(drag);
+    if (found == m_drags.end())
+        return;
+    const std::shared_ptr<X11Drag> gone = std::move(found->second);
+    m_drags.erase(found);
+    // Whoever still waits for what was to be made is refused.
+    gone->answers().formsAreReady(std::nullopt);
+    // Later: it may be the one that is telling its end.
+    m_queue.async([gone] {});
 }
 
 bool X11DragSupport::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
@@ -52,71 +113,151 @@ bool X11DragSupport::nativeEventFilter(const QByteArray &eventType, void *messag
     if (eventType != "xcb_generic_event_t")
         return false;
     const auto *event = static_cast<const xcb_generic_event_t *>(message);
-    const int type = event->response_type & 0x7f;
-    if (type == XCB_CLIENT_MESSAGE) {
+    switch (event->response_type & 0x7f) {
+    case XCB_CLIENT_MESSAGE:
         readMessage(*static_cast<xcb_client_message_event_t *>(message));
-    } else if (type == XCB_SELECTION_CLEAR) {
-        // Another program drags now: nobody will ask for ours again.
-        const auto *clear = static_cast<const xcb_selection_clear_event_t *>(message);
-        if (clear->selection == m_connection.atom("XdndSelection"))
-            m_contents.clear();
-    } else if (type == XCB_SELECTION_REQUEST && !m_contents.isEmpty()) {
-        const auto *request = static_cast<const xcb_selection_request_event_t *>(message);
-        if (request->selection == m_connection.atom("XdndSelection")) {
-            answer(*request);
-            return true;
-        }
+        return false;
+    case XCB_DESTROY_NOTIFY:
+        windowIsGone(static_cast<const xcb_destroy_notify_event_t *>(message)->window);
+        return false;
+    case XCB_SELECTION_CLEAR:
+        if (static_cast<const xcb_selection_clear_event_t *>(message)->selection
+            == m_connection.atom("XdndSelection"))
+            lostSelection();
+        return false;
+    case XCB_SELECTION_REQUEST:
+        return answer(*static_cast<const xcb_selection_request_event_t *>(message));
+    default:
+        noteTime(*event);
+        return false;
     }
-    return false;
+}
+
+void X11DragSupport::noteTime(const xcb_generic_event_t &event)
+{
+    const int type = event.response_type & 0x7f;
+    if (type >= XCB_KEY_PRESS && type <= XCB_MOTION_NOTIFY) {
+        m_time = reinterpret_cast<const xcb_button_press_event_t &>(event).time;
+    } else if (type == XCB_GE_GENERIC) {
+        const auto &input = reinterpret_cast<const xcb_input_button_press_event_t &>(event);
+        if (input.extension == m_connection.xinputOpcode()
+            && input.event_type >= XCB_INPUT_KEY_PRESS && input.event_type <= XCB_INPUT_MOTION)
+            m_time = input.time;
+    }
 }
 
 void X11DragSupport::readMessage(xcb_client_message_event_t &message)
 {
     if (message.format != 32)
         return;
-    // Qt takes any flag for consent, the wish to hear every position too. It would drop on a target
-    // that refuses, and report a copy that nobody took.
-    constexpr std::uint32_t accepts = 1;
-    if (message.type == m_connection.atom("XdndStatus") && (message.data.data32[1] & accepts) == 0)
-        message.data.data32[1] = 0;
-}
-
-void X11DragSupport::answer(const xcb_selection_request_event_t &request)
-{
-    // Old programs name no property and mean the target's name.
-    const xcb_atom_t property = request.property != XCB_NONE ? request.property : request.target;
-    xcb_selection_notify_event_t notify = {};
-    notify.response_type = XCB_SELECTION_NOTIFY;
-    notify.time = request.time;
-    notify.requestor = request.requestor;
-    notify.selection = request.selection;
-    notify.target = request.target;
-    notify.property = writeAnswer(request, property) ? property : xcb_atom_t{XCB_NONE};
-    xcb_send_event(m_connection.get(), 0, request.requestor, XCB_EVENT_MASK_NO_EVENT,
-                   reinterpret_cast<const char *>(&notify));
-    m_connection.flush();
-}
-
-bool X11DragSupport::writeAnswer(const xcb_selection_request_event_t &request, xcb_atom_t property)
-{
-    auto *const connection = m_connection.get();
-    if (request.target == m_connection.atom("TARGETS")) {
-        std::vector<xcb_atom_t> targets(m_contents.keyBegin(), m_contents.keyEnd());
-        targets.push_back(request.target);
-        xcb_change_property(connection, XCB_PROP_MODE_REPLACE, request.requestor, property,
-                            XCB_ATOM_ATOM, 32, static_cast<std::uint32_t>(targets.size()),
-                            targets.data());
-        return true;
+    if (message.type == m_connection.atom("XdndStatus")) {
+        // Qt takes any flag for consent, the wish to hear every position too. It would drop on a
+        // target that refuses.
+        constexpr std::uint32_t accepts = 1;
+        if ((message.data.data32[1] & accepts) == 0)
+            message.data.data32[1] = 0;
+        if (auto *const drag = find(m_lastId))
+            drag->targetAnswered(message);
+    } else if (message.type == m_connection.atom("XdndFinished")) {
+        finished(message);
     }
-    const auto found = m_contents.constFind(request.target);
-    if (found == m_contents.cend())
+}
+
+void X11DragSupport::finished(const xcb_client_message_event_t &message)
+{
+    std::vector<X11Drag *> waiting;
+    for (const auto &[id, drag] : m_drags) {
+        if (drag->isWaiting())
+            waiting.push_back(drag.get());
+    }
+    const auto meant = std::find_if(waiting.begin(), waiting.end(), [&](const X11Drag *drag) {
+        return drag->wasDroppedOn(message.data.data32[0]);
+    });
+    if (meant != waiting.end())
+        (*meant)->targetFinished(message);
+    else if (waiting.size() == 1)
+        // By another of its windows. What was taken decides all the same.
+        waiting.front()->targetFinished(message);
+}
+
+void X11DragSupport::windowIsGone(xcb_window_t window)
+{
+    std::vector<DragId> ids;
+    for (const auto &[id, drag] : m_drags)
+        ids.push_back(id);
+    for (const DragId id : ids) {
+        if (auto *const drag = find(id))
+            drag->windowIsGone(window);
+    }
+}
+
+/// Another program drags now: nobody will ask for ours again, but the targets of earlier drops.
+void X11DragSupport::lostSelection()
+{
+    m_hasSelection = false;
+    if (auto *const drag = find(m_lastId); drag && !drag->isWaiting())
+        forget(m_lastId);
+}
+
+X11Drag *X11DragSupport::dragFor(const xcb_selection_request_event_t &request)
+{
+    if (m_drags.empty())
+        return nullptr;
+    if (request.time == XCB_CURRENT_TIME) {
+        for (const auto &[id, drag] : m_drags) {
+            if (drag->wasDroppedOnProgramOf(request.requestor))
+                return drag.get();
+        }
+        return latest();
+    }
+    const auto meant = std::find_if(m_drags.rbegin(), m_drags.rend(), [&](const auto &entry) {
+        return isNotBefore(request.time, entry.second->began());
+    });
+    return meant == m_drags.rend() ? m_drags.begin()->second.get() : meant->second.get();
+}
+
+bool X11DragSupport::answer(const xcb_selection_request_event_t &request)
+{
+    if (request.selection != m_connection.atom("XdndSelection"))
         return false;
-    if (found->size() > IncrementalTransfers::wholeBytes)
-        return m_transfers.begin(request.requestor, property, request.target, *found);
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, request.requestor, property,
-                        request.target, 8, static_cast<std::uint32_t>(found->size()),
-                        found->constData());
+    auto *const drag = dragFor(request);
+    if (!drag)
+        return false;
+    drag->noteSign();
+    drag->answers().answer(request);
+    if (!drag->answers().isReady())
+        watchTheClock();
     return true;
+}
+
+void X11DragSupport::watchTheClock()
+{
+    if (!m_timer)
+        m_timer = m_queue.repeating(m_patience / 4, [this] { lookAtTheClock(); });
+}
+
+void X11DragSupport::lookAtTheClock()
+{
+    const double now = m_queue.now();
+    std::vector<DragId> ids;
+    for (const auto &[id, drag] : m_drags)
+        ids.push_back(id);
+    bool isAnybodyWaiting = false;
+    for (const DragId id : ids) {
+        auto *drag = find(id);
+        if (!drag)
+            continue;
+        const bool isMade = drag->answers().isReady();
+        if (!isMade && now - drag->lastSign() >= makingPatience)
+            drag->answers().formsAreReady(std::nullopt);
+        else if (isMade && !drag->answers().isBusy() && now - drag->lastSign() >= m_patience)
+            drag->giveUp();
+        drag = find(id);
+        isAnybodyWaiting
+            = isAnybodyWaiting || (drag && (drag->isWaiting() || !drag->answers().isReady()));
+    }
+    if (!isAnybodyWaiting)
+        m_timer.reset();
 }
 
 } // namespace corvane

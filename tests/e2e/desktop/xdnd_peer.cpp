@@ -314,6 +314,8 @@ void XdndTarget::clientMessage(const xcb_client_message_event_t &message)
         ++m_positions;
         send(m_source, "XdndStatus",
              {window(), m_accepts ? 3U : 0U, 0, 0, m_accepts ? atom("XdndActionCopy") : 0U});
+    } else if (message.type == atom("XdndDrop") && finish == Finish::WellWithoutFetching) {
+        sayHowItEnded();
     } else if (message.type == atom("XdndDrop")) {
         xcb_convert_selection(connection(), window(), atom("XdndSelection"), atom(m_wantedType),
                               atom("RECEIVED"), data[2]);
@@ -328,8 +330,17 @@ void XdndTarget::otherEvent(const xcb_generic_event_t &event)
     const auto &notify = reinterpret_cast<const xcb_selection_notify_event_t &>(event);
     if (notify.property != noAtom)
         m_data = m_desktop.server().property(window(), "RECEIVED");
-    send(m_source, "XdndFinished",
-         {window(), m_data ? 1U : 0U, m_data ? atom("XdndActionCopy") : 0U, 0, 0});
+    sayHowItEnded();
+}
+
+void XdndTarget::sayHowItEnded()
+{
+    const bool isWell
+        = finish == Finish::WellWithoutFetching || (finish == Finish::Honest && m_data);
+    m_hasFinished = true;
+    if (finish != Finish::Never)
+        send(m_source, "XdndFinished",
+             {window(), isWell ? 1U : 0U, isWell ? atom("XdndActionCopy") : 0U, 0, 0});
 }
 
 } // namespace corvane::e2e

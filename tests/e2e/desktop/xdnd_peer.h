@@ -137,11 +137,24 @@ private:
 /// Takes what is dropped on it, or refuses it.
 class XdndTarget : public XdndPeer {
 public:
+    enum class Finish {
+        /// As what was fetched says.
+        Honest,
+        /// Says that it failed, whatever it fetched.
+        Failed,
+        /// Says that all is well, and fetches nothing.
+        WellWithoutFetching,
+        Never,
+    };
+    Finish finish = Finish::Honest;
+
     XdndTarget(XDesktop &desktop, const QRect &frame, bool accepts, QByteArray wantedType);
 
     /// Whether something is over it and has been answered.
     bool isHovered() const { return m_positions > 0; }
     bool hasDrop() const { return m_data.has_value(); }
+    /// Whether it has said how the drop ended, or would have.
+    bool hasFinished() const { return m_hasFinished; }
     QByteArray data() const { return m_data.value_or(QByteArray()); }
     QList<QByteArray> offeredTypes() const { return m_types; }
     QList<QByteArray> offeredActions() const { return m_actions; }
@@ -156,8 +169,11 @@ private:
     xcb_window_t m_source = noWindow;
     QList<QByteArray> m_types;
     QList<QByteArray> m_actions;
+    void sayHowItEnded();
+
     std::optional<QByteArray> m_data;
     int m_positions = 0;
+    bool m_hasFinished = false;
 };
 
 template<class Condition>
