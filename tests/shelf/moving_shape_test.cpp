@@ -125,8 +125,8 @@ TEST(RingLayer, hasTheDashesOfItsPathWhileItMoves)
             const QImage moving = painted(
                 size, scale, [&](QPainter &painter) { ring.drawDashes(painter, size, scale); });
             // Where dashes end between two pixels, the one has half of one and the other one or
-            // none; dashes in other places would make it 1.
-            EXPECT_LT(difference(path, moving), 0.15) << scale << ' ' << size.width();
+            // none, a fifth of a dash at most; dashes in other places would make it 1.
+            EXPECT_LT(difference(path, moving), 0.25) << scale << ' ' << size.width();
         }
     }
 }
