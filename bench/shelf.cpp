@@ -1,6 +1,7 @@
 // One animation frame of the shelf beside a bare fill of its pixels, and the publication of one
 // thumbnail among many items beside the same among few.
 
+#include "core/data_uris.h"
 #include "core/feedback.h"
 #include "core/quick_actions.h"
 #include "core/settings.h"
@@ -9,6 +10,7 @@
 #include "fakes/fake_login_items.h"
 #include "fakes/fake_pointer.h"
 #include "fakes/fake_screens.h"
+#include "fakes/fake_work_queue.h"
 #include "fakes/memory_user_defaults.h"
 #include "fakes/recording_item_loading.h"
 #include "fakes/shelf_desk.h"
@@ -73,7 +75,9 @@ struct Shelf {
     test::FakePointer pointer;
     ScreenLocator locator{screens, pointer};
     test::FakeGeneralPasteboard clipboard;
-    QuickActions quickActions{clipboard, feedback};
+    test::FakeWorkQueue work;
+    DataUris dataUris{desk.locality, desk.remoteFiles, work, desk.clock};
+    QuickActions quickActions{clipboard, feedback, dataUris};
     std::optional<HUDController> controller;
 };
 

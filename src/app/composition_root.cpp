@@ -29,13 +29,14 @@ double logicalDotsPerInch()
     return screen ? std::round(screen->logicalDotsPerInchY()) : usual;
 }
 
-DragWriter makeDragWriter(const Theme &theme)
+DragWriter makeDragWriter(const Theme &theme, const FileLocality &locality)
 {
     return {
         theme.palette.secondary,
         [tint = theme.palette.emphasis](QPainter &painter, PhosphorIcon icon, const QRectF &rect) {
             painter.fillPath(phosphor_icon::cgPath(icon, rect), tint);
-        }};
+        },
+        locality};
 }
 
 /// Files of the shelf's own making are private, and gone with it.
@@ -104,7 +105,8 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , remoteDescriptions(remoteFiles)
     , remotePictures(remoteFiles, pictureItems)
     , ingest(spool, pictureItems, mountTable, remoteDescriptions, remotePictures)
-    , quickActions(generalPasteboard, feedback)
+    , dataUris(mountTable, remoteFiles, workQueue, mainQueue)
+    , quickActions(generalPasteboard, feedback, dataUris)
     , thumbnailCache(imageCodec, thumbnailPlaces(spool))
     , thumbnailerRegistry(ThumbnailerRegistry::environmentDataFolders(),
                           ThumbnailerRegistry::environmentProgramFolders())
@@ -120,7 +122,7 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , previewPanel({previewLoader, fileIcons, desktopServices, windowActivation, mainQueue, panel})
     , presenter({previewPanel, mainQueue, previewWork}, QFile::encodeName(QDir::tempPath()))
     , theme(QGuiApplication::font(), logicalDotsPerInch())
-    , dragWriter(makeDragWriter(theme))
+    , dragWriter(makeDragWriter(theme, mountTable))
     , viewAll({{viewAllPanel, mainQueue, motionPreference, theme, keyboard, dragWriter, spool,
                 itemPreparation},
                store,

@@ -6,6 +6,7 @@
 #include "app/updates/update_files.h"
 #include "app/updates/update_window_controller.h"
 #include "app/updates/updater_controller.h"
+#include "core/data_uris.h"
 #include "core/drag_writer.h"
 #include "core/feedback.h"
 #include "core/image_converter.h"
@@ -139,6 +140,7 @@ struct CompositionRoot {
     RemoteDescriptions remoteDescriptions;
     RemotePictures remotePictures;
     PasteboardIngest ingest;
+    DataUris dataUris;
     QuickActions quickActions;
     SharedThumbnailCache thumbnailCache;
     ThumbnailerRegistry thumbnailerRegistry;

@@ -5,9 +5,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-#include <iterator>
-
 namespace corvane {
 
 namespace {
@@ -30,17 +27,15 @@ std::optional<QUrl> saved(const DropItem &item, const DropItem::ImageBytes &imag
 
 } // namespace
 
-DragSet makeDragSet(const QList<DropItem> &items, ScratchSpool &spool)
+DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &dragWriter, ScratchSpool &spool)
 {
-    QList<DropItem> available;
-    std::copy_if(items.begin(), items.end(), std::back_inserter(available),
-                 DragWriter::isAvailable);
+    const QList<DropItem> available = dragWriter.available(items);
     if (available.size() == 1)
         return alone(available.constFirst());
 
     DragSet set;
     set.contents.writers.reserve(static_cast<std::size_t>(available.size()));
-    for (const DropItem &item : std::as_const(available)) {
+    for (const DropItem &item : available) {
         PasteboardWriter writer = DragWriter::pasteboardWriter(item);
         if (const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload())) {
             const auto url = saved(item, *image, spool);

@@ -8,6 +8,7 @@
 
 namespace corvane {
 
+class DragWriter;
 class ScratchSpool;
 
 /// What leaves the shelf in one drag.
@@ -23,7 +24,7 @@ struct DragSet {
 /// memory travels as its bytes when it is alone; beside others, where a target takes addresses or
 /// nothing, it is saved into the spool, and stays if that fails. Where nothing else can travel the
 /// first one goes alone.
-DragSet makeDragSet(const QList<DropItem> &items, ScratchSpool &spool);
+DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &writer, ScratchSpool &spool);
 
 /// What the user is told when `stayed` of `all` items that were let go elsewhere did not arrive.
 QString stayedMessage(qsizetype stayed, qsizetype all);

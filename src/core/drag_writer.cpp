@@ -1,5 +1,6 @@
 #include "core/drag_writer.h"
 
+#include "platform/file_locality.h"
 #include "platform/file_url.h"
 #include "platform/geometry.h"
 
@@ -34,6 +35,19 @@ struct Writer {
     }
 };
 
+/// Null for what is no file, or not there yet.
+const DropItem::File *fileThatMayBeGone(const DropItem &item)
+{
+    return item.isBeingMade() ? nullptr : std::get_if<DropItem::File>(&item.payload());
+}
+
+/// A link that leads nowhere is something all the same.
+bool isLink(const QByteArray &localPath)
+{
+    struct stat status { };
+    return lstat(localPath.constData(), &status) == 0;
+}
+
 /// The part of the tile's side that stays free around a glyph.
 constexpr double glyphInset = 0.2;
 
@@ -47,9 +61,10 @@ QRectF fitted(QSizeF picture, double side)
 
 } // namespace
 
-DragWriter::DragWriter(QColor tileColor, GlyphPainter paintGlyph)
+DragWriter::DragWriter(QColor tileColor, GlyphPainter paintGlyph, const FileLocality &locality)
     : m_tileColor(tileColor)
     , m_paintGlyph(std::move(paintGlyph))
+    , m_locality(locality)
 {
 }
 
@@ -58,12 +73,27 @@ PasteboardWriter DragWriter::pasteboardWriter(const DropItem &item)
     return std::visit(Writer(), item.payload());
 }
 
-bool DragWriter::isAvailable(const DropItem &item)
+QList<DropItem> DragWriter::available(const QList<DropItem> &items) const
 {
-    const auto *file = std::get_if<DropItem::File>(&item.payload());
-    struct stat status { };
-    return !file || item.isBeingMade()
-        || lstat(file_url::nativePath(file->url).constData(), &status) == 0;
+    QList<QByteArray> paths;
+    for (const DropItem &item : items) {
+        if (const auto *file = fileThatMayBeGone(item))
+            paths << file_url::nativePath(file->url);
+    }
+    const auto inspections = m_locality.inspect(paths);
+    QList<DropItem> there;
+    qsizetype next = 0;
+    for (const DropItem &item : items) {
+        if (!fileThatMayBeGone(item)) {
+            there << item;
+            continue;
+        }
+        const auto &inspection = inspections[static_cast<std::size_t>(next)];
+        if (inspection.isRemote || inspection.version || isLink(paths[next]))
+            there << item;
+        ++next;
+    }
+    return there;
 }
 
 Image DragWriter::dragImage(const DropItem &item, double side, double scale) const

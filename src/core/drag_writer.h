@@ -4,6 +4,7 @@
 #include "platform/pasteboard_writer.h"
 
 #include <QColor>
+#include <QList>
 #include <QRectF>
 
 #include <functional>
@@ -11,6 +12,8 @@
 class QPainter;
 
 namespace corvane {
+
+class FileLocality;
 
 /// What a drag-out carries and shows.
 class DragWriter {
@@ -20,13 +23,14 @@ public:
 
     static constexpr double tileCornerRadius = 5;
 
-    /// `tileColor` is the background of the drag image.
-    DragWriter(QColor tileColor, GlyphPainter paintGlyph);
+    /// `tileColor` is the background of the drag image. `locality` must outlive it.
+    DragWriter(QColor tileColor, GlyphPainter paintGlyph, const FileLocality &locality);
 
     static PasteboardWriter pasteboardWriter(const DropItem &item);
-    /// False for a file that is gone: a target would be handed a dead address, and the item lost.
-    /// True for one that is still being made.
-    static bool isAvailable(const DropItem &item);
+    /// Without the files that are gone: a target would be handed a dead address, and the item lost.
+    /// Nothing behind a network is touched, which may never answer: it counts as being
+    /// there, as does what is still being made.
+    QList<DropItem> available(const QList<DropItem> &items) const;
     /// A square of `side` points at `scale` pixels per point: a rounded tile with the item's
     /// thumbnail, fitted, or its glyph.
     Image dragImage(const DropItem &item, double side, double scale) const;
@@ -34,6 +38,7 @@ public:
 private:
     QColor m_tileColor;
     GlyphPainter m_paintGlyph;
+    const FileLocality &m_locality;
 };
 
 } // namespace corvane

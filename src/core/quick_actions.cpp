@@ -1,9 +1,12 @@
 #include "core/quick_actions.h"
 
+#include "core/data_uris.h"
 #include "core/drag_writer.h"
 #include "core/feedback.h"
 #include "platform/file_url.h"
-#include "platform/regular_file.h"
+#include "platform/pasteboard_writer.h"
+
+#include <QStringList>
 
 namespace corvane {
 
@@ -34,40 +37,32 @@ struct CopiedPayload {
     }
 };
 
-QString dataUriOf(const QByteArray &bytes, const QString &mediaType)
+/// How many of them are on the clipboard once they were written: of several pictures of one type
+/// only the first.
+qsizetype countThatArrives(const QList<DropItem> &items)
 {
-    const QString type
-        = mediaType.isEmpty() ? QStringLiteral("application/octet-stream") : mediaType;
-    return QStringLiteral("data:") + type + QStringLiteral(";base64,")
-        + QString::fromLatin1(bytes.toBase64());
+    QStringList pictureTypes;
+    qsizetype left = 0;
+    for (const DropItem &item : items) {
+        const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload());
+        if (!image)
+            continue;
+        const QString type = image->type.identifier();
+        if (pictureTypes.contains(type))
+            ++left;
+        else
+            pictureTypes << type;
+    }
+    return items.size() - left;
 }
-
-struct DataUri {
-    std::optional<QString> operator()(const DropItem::File &file) const
-    {
-        const auto bytes = regular_file::contents(file_url::nativePath(file.url),
-                                                  QuickActions::dataUriLimit - 1);
-        if (!bytes)
-            return std::nullopt;
-        const QString extension = file_url::pathExtension(file.url);
-        return dataUriOf(*bytes, UTType::forFilenameExtension(extension).preferredMimeType());
-    }
-    std::optional<QString> operator()(const DropItem::ImageBytes &image) const
-    {
-        return dataUriOf(image.data, image.type.preferredMimeType());
-    }
-    std::optional<QString> operator()(const DropItem::Text &text) const
-    {
-        return dataUriOf(text.string.toUtf8(), QStringLiteral("text/plain"));
-    }
-    std::optional<QString> operator()(const DropItem::Link &) const { return std::nullopt; }
-};
 
 } // namespace
 
-QuickActions::QuickActions(GeneralPasteboard &pasteboard, const Feedback &feedback)
+QuickActions::QuickActions(GeneralPasteboard &pasteboard, const Feedback &feedback,
+                           DataUris &dataUris)
     : m_pasteboard(pasteboard)
     , m_feedback(feedback)
+    , m_dataUris(dataUris)
 {
 }
 
@@ -79,29 +74,41 @@ void QuickActions::copy(const QList<DropItem> &items)
         copy(items.constFirst(), false);
         return;
     }
+    m_latest.reset();
     PasteboardContents contents;
     contents.writers.reserve(static_cast<std::size_t>(items.size()));
     for (const DropItem &item : items)
         contents.writers.push_back(DragWriter::pasteboardWriter(item));
     m_pasteboard.write(contents);
-    m_feedback.show(QString::number(items.size()) + QStringLiteral(" items copied"));
+    m_feedback.show(QString::number(countThatArrives(items)) + QStringLiteral(" items copied"));
 }
 
 void QuickActions::copy(const DropItem &item, bool asDataUri)
 {
-    if (const auto uri = asDataUri ? dataUri(item) : std::nullopt) {
-        m_pasteboard.write({{}, uri});
-        m_feedback.show(QStringLiteral("Data URI copied"));
+    m_latest = std::make_shared<const DropItem>(item);
+    if (!asDataUri) {
+        copyAsItIs(item);
         return;
     }
+    const auto latest = std::weak_ptr(m_latest);
+    m_dataUris.make(item, [this, latest](const std::optional<QString> &uri) {
+        const auto wanted = latest.lock();
+        if (!wanted)
+            return;
+        if (!uri) {
+            copyAsItIs(*wanted);
+            return;
+        }
+        m_pasteboard.write({{}, uri});
+        m_feedback.show(QStringLiteral("Data URI copied"));
+    });
+}
+
+void QuickActions::copyAsItIs(const DropItem &item)
+{
     const Copied copied = std::visit(CopiedPayload(), item.payload());
     m_pasteboard.write({{DragWriter::pasteboardWriter(item)}, copied.string});
     m_feedback.show(copied.message);
-}
-
-std::optional<QString> QuickActions::dataUri(const DropItem &item)
-{
-    return std::visit(DataUri(), item.payload());
 }
 
 } // namespace corvane

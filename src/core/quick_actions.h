@@ -3,31 +3,33 @@
 #include "core/drop_item.h"
 
 #include <QList>
-#include <QString>
 
-#include <optional>
+#include <memory>
 
 namespace corvane {
 
+class DataUris;
 struct Feedback;
 class GeneralPasteboard;
 
-/// Puts items on the clipboard and says what it did. Both references must outlive it.
+/// Puts items on the clipboard and says what it did. All references must outlive it.
 class QuickActions {
 public:
-    /// A file of this many bytes or more makes no data URI.
-    static constexpr qint64 dataUriLimit = 8'388'608;
-
-    QuickActions(GeneralPasteboard &pasteboard, const Feedback &feedback);
+    QuickActions(GeneralPasteboard &pasteboard, const Feedback &feedback, DataUris &dataUris);
 
     void copy(const QList<DropItem> &items);
+    /// A data URI is there a little later, unless something else was copied meanwhile. What makes
+    /// none is copied as it is.
     void copy(const DropItem &item, bool asDataUri);
 
 private:
-    static std::optional<QString> dataUri(const DropItem &item);
+    void copyAsItIs(const DropItem &item);
 
     GeneralPasteboard &m_pasteboard;
     const Feedback &m_feedback;
+    DataUris &m_dataUris;
+    /// Of the latest copy: one that is still being made gives way to it.
+    std::shared_ptr<const DropItem> m_latest;
 };
 
 } // namespace corvane

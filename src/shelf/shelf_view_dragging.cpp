@@ -46,7 +46,7 @@ QRectF ShelfView::thumbFrame(int index) const
 
 void ShelfView::beginDragOut(const DropItem &item, int index, QPointF from)
 {
-    if (!DragWriter::isAvailable(item)) {
+    if (m_context.dragWriter.available({item}).isEmpty()) {
         flash(QCoreApplication::translate("ShelfView", "The file is no longer there"));
         return;
     }

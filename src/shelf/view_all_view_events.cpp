@@ -146,7 +146,7 @@ void ViewAllView::beginDrag(const DropItem &grabbed)
 {
     const QList<DropItem> wanted
         = isSelected(grabbed) ? selectedInOrder() : QList<DropItem>{grabbed};
-    DragSet set = makeDragSet(wanted, m_context.spool);
+    DragSet set = makeDragSet(wanted, m_context.dragWriter, m_context.spool);
     if (set.items.isEmpty()) {
         call(onNothingToDrag);
         return;

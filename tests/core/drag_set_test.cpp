@@ -1,5 +1,7 @@
 #include "core/drag_set.h"
+#include "core/drag_writer.h"
 #include "core/temporary_spool.h"
+#include "fakes/fake_file_locality.h"
 #include "platform/file_url.h"
 
 #include <QFile>
@@ -39,6 +41,8 @@ protected:
         return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
     }
 
+    FakeFileLocality locality;
+    DragWriter writer{Qt::gray, {}, locality};
     QTemporaryDir folder;
     TemporarySpool temporary;
     ScratchSpool &spool = temporary.spool;
@@ -51,7 +55,7 @@ TEST_F(DragSetTest, carriesEveryItemInItsOrder)
     const DropItem first = file(QStringLiteral("a.txt"));
     const DropItem second = text(QStringLiteral("hello"));
     const DropItem third = file(QStringLiteral("b.txt"));
-    const DragSet set = makeDragSet({first, second, third}, spool);
+    const DragSet set = makeDragSet({first, second, third}, writer, spool);
     ASSERT_EQ(set.contents.writers.size(), 3U);
     ASSERT_EQ(set.items.size(), 3);
     EXPECT_EQ(set.items[0].id(), first.id());
@@ -64,7 +68,7 @@ TEST_F(DragSetTest, carriesEveryItemInItsOrder)
 
 TEST_F(DragSetTest, aPictureInMemoryThatIsAloneTravelsAsItsBytes)
 {
-    const DragSet set = makeDragSet({picture("pixels")}, spool);
+    const DragSet set = makeDragSet({picture("pixels")}, writer, spool);
     ASSERT_EQ(set.contents.writers.size(), 1U);
     const auto *data = std::get_if<PasteboardWriter::Data>(&set.contents.writers[0].content);
     ASSERT_TRUE(data);
@@ -75,7 +79,7 @@ TEST_F(DragSetTest, aPictureInMemoryThatIsAloneTravelsAsItsBytes)
 TEST_F(DragSetTest, aPictureInMemoryBesideOthersIsSavedOnceMore)
 {
     const DropItem image = picture("pixels");
-    const DragSet set = makeDragSet({file(QStringLiteral("a.txt")), image}, spool);
+    const DragSet set = makeDragSet({file(QStringLiteral("a.txt")), image}, writer, spool);
     ASSERT_EQ(set.contents.writers.size(), 2U);
     ASSERT_EQ(set.savedFiles.size(), 1);
     EXPECT_EQ(fileUrl(set.contents.writers[1]), set.savedFiles[0]);
@@ -87,7 +91,7 @@ TEST_F(DragSetTest, whatCannotBeSavedStaysBehind)
 {
     ScratchSpool broken("/proc/nowhere", 4711);
     const DropItem kept = file(QStringLiteral("a.txt"));
-    const DragSet set = makeDragSet({picture("pixels"), kept, picture("more")}, broken);
+    const DragSet set = makeDragSet({picture("pixels"), kept, picture("more")}, writer, broken);
     ASSERT_EQ(set.items.size(), 1);
     EXPECT_EQ(set.items[0].id(), kept.id());
     EXPECT_EQ(set.contents.writers.size(), 1U);
@@ -97,7 +101,7 @@ TEST_F(DragSetTest, whereNothingElseCanTravelTheFirstGoesAlone)
 {
     ScratchSpool broken("/proc/nowhere", 4711);
     const DropItem first = picture("pixels");
-    const DragSet set = makeDragSet({first, picture("more")}, broken);
+    const DragSet set = makeDragSet({first, picture("more")}, writer, broken);
     ASSERT_EQ(set.items.size(), 1);
     EXPECT_EQ(set.items[0].id(), first.id());
     EXPECT_TRUE(std::holds_alternative<PasteboardWriter::Data>(set.contents.writers[0].content));
@@ -108,13 +112,13 @@ TEST_F(DragSetTest, aFileThatIsGoneStaysBehind)
     const DropItem gone = file(QStringLiteral("gone.txt"));
     ASSERT_TRUE(QFile::remove(folder.filePath(QStringLiteral("gone.txt"))));
     const DropItem image = picture("pixels");
-    const DragSet set = makeDragSet({gone, image}, spool);
+    const DragSet set = makeDragSet({gone, image}, writer, spool);
     ASSERT_EQ(set.items.size(), 1);
     EXPECT_EQ(set.items[0].id(), image.id());
     EXPECT_TRUE(std::holds_alternative<PasteboardWriter::Data>(set.contents.writers[0].content))
         << "what is left is alone";
-    EXPECT_TRUE(makeDragSet({gone}, spool).items.isEmpty());
-    EXPECT_TRUE(makeDragSet({}, spool).items.isEmpty());
+    EXPECT_TRUE(makeDragSet({gone}, writer, spool).items.isEmpty());
+    EXPECT_TRUE(makeDragSet({}, writer, spool).items.isEmpty());
 }
 
 } // namespace corvane::test

@@ -1,10 +1,12 @@
 #include "core/drag_writer.h"
 #include "core/temporary_spool.h"
+#include "fakes/fake_file_locality.h"
 #include "platform/geometry.h"
 
 #include <QPainter>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace corvane {
 namespace {
@@ -23,7 +25,8 @@ struct DragWriterTest : testing::Test {
     }
     static QRgb at(const Image &image, int x, int y) { return image.bitmap.pixel(x, y); }
 
-    DragWriter writer{QColor::fromRgba(gray), {}};
+    test::FakeFileLocality locality;
+    DragWriter writer{QColor::fromRgba(gray), {}, locality};
 };
 
 TEST_F(DragWriterTest, WritesEachKindAsWhatItIs)
@@ -46,11 +49,31 @@ TEST_F(DragWriterTest, HasNothingToCarryOfAFileThatIsGone)
 {
     const test::TemporaryFolder temporary;
     const auto file = [](const QUrl &url) { return DropItem(DropItem::File{url}, {}, {}, false); };
-    EXPECT_TRUE(DragWriter::isAvailable(file(temporary.write("caf #1", "x"))));
-    EXPECT_FALSE(DragWriter::isAvailable(file(temporary.url("gone"))));
-    EXPECT_TRUE(DragWriter::isAvailable(text()));
-    EXPECT_TRUE(
-        DragWriter::isAvailable(DropItem::beingMade({temporary.url("soon.png")}, {}, {}, {})));
+    const DropItem there = file(temporary.write("caf #1", "x"));
+    const DropItem note = text();
+    const DropItem soon = DropItem::beingMade({temporary.url("soon.png")}, {}, {}, {});
+    const auto left = writer.available({file(temporary.url("gone")), there, note, soon});
+    ASSERT_EQ(left.size(), 3);
+    EXPECT_EQ(left[0].id(), there.id());
+    EXPECT_EQ(left[1].id(), note.id());
+    EXPECT_EQ(left[2].id(), soon.id());
+}
+
+TEST_F(DragWriterTest, ALinkThatLeadsNowhereIsThere)
+{
+    const test::TemporaryFolder temporary;
+    ASSERT_EQ(::symlink("/nowhere/at/all", temporary.path("link").constData()), 0);
+    EXPECT_EQ(
+        writer.available({DropItem(DropItem::File{temporary.url("link")}, {}, {}, false)}).size(),
+        1);
+}
+
+TEST_F(DragWriterTest, AFileBehindANetworkIsNotTouchedAndCountsAsBeingThere)
+{
+    locality.remoteFolder = "/nowhere/remote";
+    const DropItem remote(DropItem::File{QUrl(QStringLiteral("file:///nowhere/remote/a"))}, {}, {},
+                          false);
+    EXPECT_EQ(writer.available({remote}).size(), 1);
 }
 
 TEST_F(DragWriterTest, MakesTheImageAtTheScale)
@@ -87,11 +110,13 @@ TEST_F(DragWriterTest, DrawsTheGlyphWithYUpwardWhereThereIsNoThumbnail)
 {
     std::optional<PhosphorIcon> drawn;
     const DragWriter withGlyphs(
-        QColor::fromRgba(gray), [&](QPainter &painter, PhosphorIcon icon, const QRectF &rect) {
+        QColor::fromRgba(gray),
+        [&](QPainter &painter, PhosphorIcon icon, const QRectF &rect) {
             drawn = icon;
             painter.fillRect(QRectF(rect.x(), midY(rect), rect.width(), rect.height() / 2),
                              Qt::blue);
-        });
+        },
+        locality);
     const Image image = withGlyphs.dragImage(text(), 40, 1);
     EXPECT_EQ(drawn, PhosphorIcon::TextAlignLeft);
     EXPECT_EQ(at(image, 20, 15), qRgb(0, 0, 255)) << "the upper half";

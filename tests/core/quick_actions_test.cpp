@@ -1,7 +1,12 @@
+#include "core/data_uris.h"
 #include "core/feedback.h"
 #include "core/quick_actions.h"
 #include "core/temporary_spool.h"
+#include "fakes/fake_file_locality.h"
 #include "fakes/fake_general_pasteboard.h"
+#include "fakes/fake_remote_files.h"
+#include "fakes/fake_work_queue.h"
+#include "fakes/test_clock.h"
 
 #include <QStringList>
 
@@ -36,10 +41,16 @@ struct QuickActionsTest : testing::Test {
         EXPECT_EQ(written().writers.size(), 1U);
         return std::get<Content>(written().writers.front().content);
     }
+    void copyAsDataUri(const DropItem &item)
+    {
+        actions.copy(item, true);
+        work.runAll();
+        clock.runPending();
+    }
     /// What copying as a data URI puts on the clipboard.
     std::optional<QString> dataUri(const DropItem &item)
     {
-        actions.copy(item, true);
+        copyAsDataUri(item);
         return messages.last() == QStringLiteral("Data URI copied")
             ? pasteboard.writes.back().string
             : std::nullopt;
@@ -48,7 +59,12 @@ struct QuickActionsTest : testing::Test {
     test::TemporaryFolder temporary;
     test::FakeGeneralPasteboard pasteboard;
     Feedback feedback;
-    QuickActions actions{pasteboard, feedback};
+    test::FakeFileLocality locality;
+    test::FakeRemoteFiles remoteFiles;
+    test::FakeWorkQueue work;
+    test::TestClock clock;
+    DataUris dataUris{locality, remoteFiles, work, clock};
+    QuickActions actions{pasteboard, feedback, dataUris};
     QStringList messages;
 };
 
@@ -109,6 +125,13 @@ TEST_F(QuickActionsTest, CopiesSeveralInOneGoAndCountsThem)
     EXPECT_EQ(messages, QStringList{QStringLiteral("2 items copied")});
 }
 
+TEST_F(QuickActionsTest, CountsOfSeveralPicturesInMemoryThoseThatArrive)
+{
+    const DropItem another(DropItem::ImageBytes{"more", UTType::png()}, {}, {}, false);
+    actions.copy({image, another, text});
+    EXPECT_EQ(messages, QStringList{QStringLiteral("2 items copied")});
+}
+
 TEST_F(QuickActionsTest, WorksWhereNobodyShowsMessages)
 {
     feedback.handler = {};
@@ -116,23 +139,23 @@ TEST_F(QuickActionsTest, WorksWhereNobodyShowsMessages)
     EXPECT_EQ(pasteboard.writes.size(), 1U);
 }
 
-using DataUris = QuickActionsTest;
+using DataUriCopies = QuickActionsTest;
 
-TEST_F(DataUris, AreMadeOfText)
+TEST_F(DataUriCopies, AreMadeOfText)
 {
     EXPECT_EQ(dataUri(text), QStringLiteral("data:text/plain;base64,aMOpbGxvCg=="));
     EXPECT_TRUE(written().writers.empty());
     EXPECT_EQ(messages, QStringList{QStringLiteral("Data URI copied")});
 }
 
-TEST_F(DataUris, AreMadeOfImages)
+TEST_F(DataUriCopies, AreMadeOfImages)
 {
     EXPECT_EQ(dataUri(image), QStringLiteral("data:image/png;base64,cG5nIGJ5dGVz"));
     const DropItem untyped(DropItem::ImageBytes{"x", UTType()}, {}, {}, false);
     EXPECT_EQ(dataUri(untyped), QStringLiteral("data:application/octet-stream;base64,eA=="));
 }
 
-TEST_F(DataUris, OfFilesGoByTheirExtensionAndNotTheirContents)
+TEST_F(DataUriCopies, OfFilesGoByTheirExtensionAndNotTheirContents)
 {
     EXPECT_EQ(dataUri(file("a.txt", "\x89PNG\r\n\x1a\n")),
               QStringLiteral("data:text/plain;base64,iVBORw0KGgo="));
@@ -141,28 +164,65 @@ TEST_F(DataUris, OfFilesGoByTheirExtensionAndNotTheirContents)
     EXPECT_EQ(dataUri(file("empty.png", "")), QStringLiteral("data:image/png;base64,"));
 }
 
-TEST_F(DataUris, HaveNoLineBreaks)
+TEST_F(DataUriCopies, HaveNoLineBreaks)
 {
     const auto uri = dataUri(file("a.bin", QByteArray(10'000, '\xff')));
     ASSERT_TRUE(uri.has_value());
     EXPECT_FALSE(uri->contains(QLatin1Char('\n')));
 }
 
-TEST_F(DataUris, EndJustBelowTheLimit)
+TEST_F(DataUriCopies, EndJustBelowTheLimit)
 {
     EXPECT_TRUE(dataUri(file("below", QByteArray(8'388'607, 'x'))).has_value());
     EXPECT_FALSE(dataUri(file("at", QByteArray(8'388'608, 'x'))).has_value());
 }
 
-TEST_F(DataUris, OfFilesThatAreTooLargeGiveWayToThePath)
+TEST_F(DataUriCopies, OfTextsEndAtTheSameSize)
 {
-    actions.copy(file("large.bin", QByteArray(9'000'000, 'x')), true);
+    const auto sized = [](qsizetype size) {
+        return DropItem(DropItem::Text{QString(size, QLatin1Char('x'))}, {}, {}, false);
+    };
+    EXPECT_TRUE(dataUri(sized(8'388'607)).has_value());
+    EXPECT_FALSE(dataUri(sized(8'388'608)).has_value());
+    EXPECT_FALSE(dataUri(DropItem(DropItem::Text{QString(5'000'000, QChar(0xe9))}, {}, {}, false)))
+        << "two bytes each";
+    EXPECT_EQ(messages.last(), QStringLiteral("Text copied"));
+}
+
+TEST_F(DataUriCopies, OfFilesBehindANetworkAreReadWhereNobodyWaits)
+{
+    locality.remoteFolder = "/nowhere/remote";
+    const DropItem remote(DropItem::File{QUrl(QStringLiteral("file:///nowhere/remote/a.txt"))}, {},
+                          {}, false);
+    copyAsDataUri(remote);
+    EXPECT_TRUE(pasteboard.writes.empty());
+    ASSERT_EQ(remoteFiles.readings.size(), 1U);
+    EXPECT_EQ(remoteFiles.readings[0].limit, 8'388'607);
+    remoteFiles.readings[0].answer("text");
+    work.runAll();
+    clock.runPending();
+    EXPECT_EQ(written().string, QStringLiteral("data:text/plain;base64,dGV4dA=="));
+}
+
+TEST_F(DataUriCopies, GiveWayToWhatWasCopiedMeanwhile)
+{
+    actions.copy(file("a.txt", "x"), true);
+    actions.copy(link, false);
+    work.runAll();
+    clock.runPending();
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Link copied")});
+    EXPECT_EQ(pasteboard.writes.size(), 1U);
+}
+
+TEST_F(DataUriCopies, OfFilesThatAreTooLargeGiveWayToThePath)
+{
+    copyAsDataUri(file("large.bin", QByteArray(9'000'000, 'x')));
     EXPECT_EQ(writer<PasteboardWriter::File>().url, temporary.url("large.bin"));
     EXPECT_EQ(written().string, QString::fromUtf8(temporary.path("large.bin")));
     EXPECT_EQ(messages, QStringList{QStringLiteral("Path copied")});
 }
 
-TEST_F(DataUris, OfWhatCannotBeReadGiveWayToThePath)
+TEST_F(DataUriCopies, OfWhatCannotBeReadGiveWayToThePath)
 {
     EXPECT_FALSE(dataUri(DropItem(DropItem::File{temporary.url("gone")}, {}, {}, false)));
     EXPECT_FALSE(dataUri(DropItem(DropItem::File{temporary.url("")}, {}, {}, false)));
@@ -171,7 +231,7 @@ TEST_F(DataUris, OfWhatCannotBeReadGiveWayToThePath)
     EXPECT_EQ(messages.last(), QStringLiteral("Path copied"));
 }
 
-TEST_F(DataUris, OfLinksGiveWayToTheLink)
+TEST_F(DataUriCopies, OfLinksGiveWayToTheLink)
 {
     EXPECT_FALSE(dataUri(link).has_value());
     EXPECT_EQ(messages, QStringList{QStringLiteral("Link copied")});

@@ -99,7 +99,7 @@ struct ShelfDesk {
     RemoteDescriptions remoteDescriptions{remoteFiles};
     RemotePictures remotePictures{remoteFiles, pictures};
     PasteboardIngest ingest{spool, pictures, locality, remoteDescriptions, remotePictures};
-    DragWriter dragWriter{Qt::gray, [](QPainter &, PhosphorIcon, const QRectF &) {}};
+    DragWriter dragWriter{Qt::gray, [](QPainter &, PhosphorIcon, const QRectF &) {}, locality};
     LayerAnimator animator;
     Theme theme;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/data_uris.h"
 #include "core/feedback.h"
 #include "core/quick_actions.h"
 #include "core/settings.h"
@@ -8,6 +9,7 @@
 #include "fakes/fake_login_items.h"
 #include "fakes/fake_pointer.h"
 #include "fakes/fake_screens.h"
+#include "fakes/fake_work_queue.h"
 #include "fakes/memory_user_defaults.h"
 #include "fakes/recording_item_loading.h"
 #include "fakes/shelf_desk.h"
@@ -38,7 +40,9 @@ struct ShelfModel {
     FakePointer pointer;
     ScreenLocator locator{screens, pointer};
     FakeGeneralPasteboard clipboard;
-    QuickActions quickActions{clipboard, feedback};
+    FakeWorkQueue work;
+    DataUris dataUris{desk.locality, desk.remoteFiles, work, desk.clock};
+    QuickActions quickActions{clipboard, feedback, dataUris};
 };
 
 } // namespace corvane::test

@@ -574,6 +574,8 @@ TEST_F(HUDControllerTest, OptionCopiesAsADataUri)
     EXPECT_EQ(view().look().flashMessage, QStringLiteral("Text copied"));
     desk.keyboard.modifiers = Modifier::Option;
     view().onCopy();
+    work.runAll();
+    desk.clock.runPending();
     EXPECT_EQ(view().look().flashMessage, QStringLiteral("Data URI copied"));
 }
 
