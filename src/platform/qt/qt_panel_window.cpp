@@ -143,17 +143,17 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, DragOutEvents events)
     }
     const auto alive = m_alive;
     PanelCanvas *canvas = m_canvas.get();
-    const auto released = [this, alive, canvas,
-                           tell = std::move(events.released)](DragOperation promised) {
-        if (!*alive) {
-            // Later: one of its events is what we are in.
-            canvas->deleteLater();
-            return;
-        }
-        m_isDragging = false;
-        letGo(promised);
-        tell();
-    };
+    const auto released
+        = [this, alive, canvas, tell = std::move(events.released)](DragOperation promised) {
+              if (!*alive) {
+                  // Later: one of its events is what we are in.
+                  canvas->deleteLater();
+                  return;
+              }
+              m_isDragging = false;
+              letGo(promised);
+              tell();
+          };
     const auto ended = [alive, tell = std::move(events.ended)](const DragOutEnd &end) {
         if (*alive)
             tell(end);
