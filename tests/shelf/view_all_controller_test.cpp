@@ -233,7 +233,7 @@ TEST_F(ViewAllControllerTest, aPressOnTheShelfLeavesTheKeysWithTheBar)
 {
     settings.setInViewCount(2);
     open(3);
-    const auto &layout = shelf->shelf().look().layout;
+    const auto &layout = dynamic_cast<const ShelfView &>(*desk.panel.content).look().layout;
     for (const QPointF point : {layout.arrowHits[1].center(), layout.cells[1].root.center(),
                                 layout.cells[0].root.center(), QPointF(3, 30)}) {
         panel.isKey = false;
