@@ -108,7 +108,7 @@ void RingLayer::setRing(double cornerRadius, const QColor &line)
 void RingLayer::draw(QPainter &painter, QSizeF size, double scale) const
 {
     const double least = 2 * m_radius + 2;
-    if (isMoving() && size.width() > least && size.height() > least)
+    if (size.width() > least && size.height() > least)
         drawDashes(painter, size, scale);
     else
         ShapeLayer::draw(painter, size, scale);

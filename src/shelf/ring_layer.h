@@ -4,9 +4,9 @@
 
 namespace corvane {
 
-/// A dashed line with round corners along its bounds. While the bounds change, the dashes of the
-/// straight parts are filled on whole pixels: a rasteriser takes longer for each thin dash than for
-/// a large area. At rest it is the shape layer that it is.
+/// A dashed line with round corners along its bounds. The dashes of the straight parts are filled
+/// on whole pixels: a rasteriser takes longer for each thin dash than for a large area. Where there
+/// is no room for straight parts it is the shape layer that it is.
 class RingLayer : public ShapeLayer {
 public:
     using ShapeLayer::ShapeLayer;
@@ -17,7 +17,7 @@ public:
     /// The path of the line, which lies inside the bounds, and the line itself.
     void setRing(double cornerRadius, const QColor &line);
 
-    /// As `draw` paints it while it moves.
+    /// What `draw` paints where there are straight parts.
     void drawDashes(QPainter &painter, QSizeF size, double scale) const;
 
 protected:

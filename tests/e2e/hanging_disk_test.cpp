@@ -33,7 +33,7 @@ protected:
     {
         ASSERT_TRUE(dropFiles({file}));
         ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-        focusShelf(corvane().at(38, 22));
+        focusShelf(corvane().at(56, 22));
     }
     bool waitForPreview(const QByteArray &title)
     {
@@ -98,7 +98,7 @@ TEST_F(HangingDisk, whatLiesOnAnotherDiskIsShownMeanwhile)
     hands().key(keys::escape);
     ASSERT_TRUE(eventually([&] { return !corvane().window(); }));
     ASSERT_TRUE(dropFiles({near}));
-    focusShelf(corvane().at(38, 22));
+    focusShelf(corvane().at(56, 22));
     hands().key(keys::space);
     ASSERT_TRUE(waitForPreview("near.txt"));
     EXPECT_TRUE(eventually([&] { return waiting().height() > nothingToShow.height(); }))
