@@ -6,7 +6,6 @@
 #include "platform/qt/outline_region.h"
 #include "platform/qt/qt_geometry.h"
 
-#include <QGuiApplication>
 #include <QPainter>
 
 #include <utility>
@@ -166,7 +165,7 @@ void QtPanelWindow::letGo(DragOperation operation)
     if (operation == DragOperation::None && m_wasKeyBeforePress)
         return;
     // With the button still down it was Escape that ended the drag. Its repeats are nobody else's.
-    m_resignsOnRelease = QGuiApplication::mouseButtons().testFlag(Qt::LeftButton);
+    m_resignsOnRelease = m_surface.isLeftButtonDown();
     if (!m_resignsOnRelease)
         m_surface.giveKeyboardBack();
 }

@@ -193,6 +193,13 @@ bool X11PanelSurface::tryToFocus(xcb_window_t window, xcb_timestamp_t time)
     return !error;
 }
 
+bool X11PanelSurface::isLeftButtonDown() const
+{
+    const X11Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+        m_connection.get(), xcb_query_pointer(m_connection.get(), m_connection.root()), nullptr));
+    return reply && (reply->mask & XCB_BUTTON_MASK_1) != 0;
+}
+
 void X11PanelSurface::observeComposited(std::function<void()> callback)
 {
     m_observers.add(std::move(callback));
