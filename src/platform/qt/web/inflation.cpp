@@ -46,7 +46,7 @@ Inflation::Outcome Inflation::feed(QByteArrayView bytes, const Take &take)
     // Some servers call a stream "deflate" that has no head at all.
     const bool isGzip = first.startsWith("\x1f\x8b");
     constexpr unsigned divisor = 31;
-    const unsigned head = static_cast<unsigned char>(first[0]) << 8U
+    const unsigned head = unsigned{static_cast<unsigned char>(first[0])} << 8U
         | static_cast<unsigned>(static_cast<unsigned char>(first[1]));
     const bool isZlib = (first[0] & 0x0f) == Z_DEFLATED && head % divisor == 0;
     if (!isGzip && !isZlib && ::inflateReset2(&m_stream->z, noHead) != Z_OK)
