@@ -10,6 +10,7 @@
 #include "services/preview_scratch.h"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
 
@@ -112,7 +113,10 @@ int runApplication(int argc, char **argv)
     const int status = QApplication::exec();
     putInOrder(std::exchange(delegate, nullptr));
     root->userDefaults.synchronize();
-    if (root->finishWork(patienceForThreads))
+    const bool haveAllEnded = root->finishWork(patienceForThreads);
+    if (QGuiApplication::clipboard()->ownsClipboard())
+        end_deadline::set(end_deadline::forClipboard);
+    if (haveAllEnded)
         return status;
     // What a thread that does not come back may use has to stay, and everything else that is owed
     // to the desktop goes with the application object: the clipboard's contents, above all.

@@ -6,12 +6,14 @@
 #include "core/remote_descriptions.h"
 #include "core/remote_pictures.h"
 #include "core/scratch_spool.h"
+#include "core/spool_place.h"
 #include "platform/file_url.h"
 #include "platform/pasteboard.h"
 #include "platform/shown_address.h"
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 namespace corvane {
 
@@ -103,7 +105,11 @@ bool PasteboardIngest::canRead(Pasteboard &pasteboard)
 std::optional<QUrl> PasteboardIngest::placeForPromisedFile(const QString &name) const
 {
     const item_description::FileName wanted(name);
-    return m_spool.reserve(wanted.stem(), wanted.extension);
+    auto place = m_spool.keepPlace(wanted.stem(), wanted.extension);
+    if (!place)
+        return std::nullopt;
+    m_promised.push_back(std::move(place));
+    return m_promised.back()->url();
 }
 
 QList<DropItem> PasteboardIngest::readAll(Pasteboard &pasteboard) const

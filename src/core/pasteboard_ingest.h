@@ -9,7 +9,9 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace corvane {
 
@@ -18,6 +20,7 @@ class PictureItems;
 class RemoteDescriptions;
 class RemotePictures;
 class ScratchSpool;
+class SpoolPlace;
 
 /// Turns what was dropped into items. The references must outlive it.
 ///
@@ -55,6 +58,9 @@ private:
     std::optional<DropItem> imageItem(Pasteboard &pasteboard) const;
 
     ScratchSpool &m_spool;
+    /// Kept for good: a source writes when it likes, also after it was given up, and until it does
+    /// no file tells that the name is taken.
+    mutable std::vector<std::shared_ptr<SpoolPlace>> m_promised;
     const PictureItems &m_pictures;
     const FileLocality &m_locality;
     RemoteDescriptions &m_remoteDescriptions;

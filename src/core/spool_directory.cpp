@@ -39,6 +39,15 @@ bool isSafe(int descriptor)
         && status.st_uid == ::geteuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
 
+/// Gives it another name of the kind, which no process will have; where it stands afterwards.
+QByteArray withAnotherName(const QByteArray &path)
+{
+    const auto number = QRandomGenerator::system()->generate64();
+    const QByteArray other
+        = path.first(path.lastIndexOf('/') + 1) + prefix + QByteArray::number(number);
+    return ::rename(path.constData(), other.constData()) == 0 ? other : path;
+}
+
 bool holdsMoreThan(int most, const QByteArray &path)
 {
     std::error_code problem;
@@ -118,10 +127,7 @@ void setAside(const QByteArray &path)
     if (descriptor < 0)
         return;
     // Nobody has to find it but who looks for leftovers.
-    const QByteArray folder = path.first(path.lastIndexOf('/') + 1);
-    const auto number = QRandomGenerator::system()->generate64();
-    ::rename(path.constData(),
-             QByteArray(folder + prefix + QByteArray::number(number)).constData());
+    withAnotherName(path);
     ::close(descriptor);
 }
 
@@ -136,8 +142,14 @@ void removeLeftover(const QByteArray &path)
 
 void removeAtEnd(const QByteArray &path)
 {
-    if (!holdsMoreThan(mostRemovedAtEnd, path) || !haveRemoved(path))
+    if (!holdsMoreThan(mostRemovedAtEnd, path)) {
         remove(path);
+        return;
+    }
+    // The next process may be given this one's number while the other program is still at work.
+    const QByteArray aside = withAnotherName(path);
+    if (!haveRemoved(aside))
+        remove(aside);
 }
 
 void remove(const QByteArray &path)

@@ -10,6 +10,8 @@ namespace corvane::end_deadline {
 inline constexpr std::chrono::milliseconds forSteps{2'000};
 /// What may follow: threads come back, and the clipboard is handed over.
 inline constexpr std::chrono::milliseconds forRest{400};
+/// The same where the clipboard holds contents of ours: they can be large, and are nowhere else.
+inline constexpr std::chrono::milliseconds forClipboard{2'000};
 
 /// Makes everything ready. Nothing is limited yet.
 void prepare();

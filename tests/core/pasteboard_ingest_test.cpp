@@ -498,6 +498,17 @@ TEST_F(PromisedFiles, AreTakenBeforePixels)
     EXPECT_FALSE(pasteboard.fetched.contains(png));
 }
 
+TEST_F(PromisedFiles, ThatAreStillToComeShareNoPlace)
+{
+    const auto first = ingest.placeForPromisedFile(QStringLiteral("a.png"));
+    const auto second = ingest.placeForPromisedFile(QStringLiteral("a.png"));
+    ASSERT_TRUE(first && second);
+    EXPECT_NE(*first, *second);
+    // A source that was given up may still write.
+    spool.discard(*first);
+    EXPECT_NE(ingest.placeForPromisedFile(QStringLiteral("a.png")), first);
+}
+
 TEST_F(PromisedFiles, GetASafeName)
 {
     promiseFile(QStringLiteral("../../.ssh/..authorized:keys"), "x");

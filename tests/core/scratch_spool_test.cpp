@@ -421,6 +421,7 @@ TEST_F(ScratchSpoolTest, LeavesVeryMuchToAProcessThatOutlivesThisOne)
     ASSERT_GT(::wait(&status), 0);
     EXPECT_EQ(status, 0);
     EXPECT_FALSE(exists(directory()));
+    EXPECT_TRUE(spool_directory::candidates(temporary.path()).empty()) << "under another name";
 }
 
 struct LeftoversTest : ScratchSpoolTest {

@@ -83,8 +83,9 @@ QtMainQueue::~QtMainQueue()
 
 void QtMainQueue::async(Work work)
 {
-    if (!m_waiting.add(std::move(work)))
-        return;
+    m_waiting.add(std::move(work));
+    // Also where something was there before: the thread that left that may have lost its processor
+    // on its way to here.
     const std::uint64_t one = 1;
     // Cannot fail: the counter is set back long before it is full.
     [[maybe_unused]] const auto written = ::write(m_wakeUp, &one, sizeof one);

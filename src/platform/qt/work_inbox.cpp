@@ -11,7 +11,7 @@ WorkInbox::~WorkInbox()
     takeAll(dropped);
 }
 
-bool WorkInbox::add(Work work)
+void WorkInbox::add(Work work)
 {
     auto entry = std::make_unique<Entry>(Entry{std::move(work)});
     Entry *older = m_newest.load(std::memory_order_relaxed);
@@ -20,8 +20,7 @@ bool WorkInbox::add(Work work)
         entry->older = older;
     while (!m_newest.compare_exchange_weak(older, entry.get(), std::memory_order_release,
                                            std::memory_order_relaxed));
-    entry.release();
-    return older == nullptr;
+    [[maybe_unused]] const Entry *const handedOver = entry.release();
 }
 
 void WorkInbox::takeAll(std::deque<Work> &work)

@@ -17,8 +17,8 @@ public:
     WorkInbox &operator=(const WorkInbox &) = delete;
     ~WorkInbox();
 
-    /// From any thread. True if there was nothing before it: then the taker has to be woken.
-    bool add(Work work);
+    /// From any thread, which has to wake the taker afterwards, whatever others do.
+    void add(Work work);
     /// Appends all there is to `work`, what one thread gave in the order in which it did. For the
     /// taking thread alone.
     void takeAll(std::deque<Work> &work);
