@@ -184,7 +184,8 @@ DragOutEvents ViewAllView::dragOutEvents(DraggedOut dragged)
 
 void ViewAllView::dragEnded(const DraggedOut &dragged, const DragOutEnd &end)
 {
-    if (end.operation == DragOperation::None) {
+    // Who was given the addresses may still come back to them.
+    if (!end.wasDropped) {
         for (const QUrl &url : dragged.savedFiles)
             m_context.spool.discard(url);
     }

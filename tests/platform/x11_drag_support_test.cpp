@@ -423,4 +423,82 @@ TEST_F(X11DragSupportTest, whatIsNeverMadeIsRefusedAfterAWhile)
     EXPECT_EQ(clock.pendingCount(), 0U);
 }
 
+TEST_F(X11DragSupportTest, aLateFinishOfAGivenUpTargetEndsNoOtherDrop)
+{
+    // Dropped on the bystander, which is given up.
+    dropOn(bystander);
+    clock.advance(2 * X11DragSupport::defaultPatience);
+    ASSERT_EQ(ends.size(), 1U);
+    // Next drag passes it (it fetches while hovered, as browsers do) and goes to the target.
+    const auto drag = begin();
+    bystander.accept();
+    bystander.ask("text/uri-list");
+    target.accept();
+    drop(drag);
+    bystander.finish();
+    EXPECT_EQ(ends.size(), 1U) << "ended by a stranger, taken "
+                               << (ends.size() > 1 ? ends[1].taken.size() : 0);
+}
+TEST_F(X11DragSupportTest, aLateAnswerOfAWindowThatWasLeftIsNotTheTargets)
+{
+    const auto drag = begin();
+    target.accept();
+    bystander.tell("XdndStatus", 0, nullptr);
+    bystander.destroyWindow();
+    drop(drag);
+    target.ask("text/uri-list");
+    clock.advance(X11DragSupport::lastWords);
+    EXPECT_TRUE(ends.empty());
+    target.finish();
+    ASSERT_EQ(ends.size(), 1U);
+    EXPECT_EQ(taken(), Places{0});
+}
+TEST_F(X11DragSupportTest, secondDropOnOneProgramGetsTheSecondContents)
+{
+    dropOn(target);
+    EXPECT_EQ(target.take("image/png"), "picture");
+    support.dragWillBegin({{QStringLiteral("image/png"), "other", {0}}}, true);
+    target.accept();
+    EXPECT_EQ(target.take("image/png"), "other");
+}
+TEST_F(X11DragSupportTest, twoDropsOnOneWindowDeathIsHeardAfterFirstEnds)
+{
+    dropOn(target);
+    dropOn(target);
+    target.finish(0);
+    ASSERT_EQ(ends.size(), 1U);
+    target.destroyWindow();
+    EXPECT_TRUE(eventually([&] { return ends.size() == 2; }, std::chrono::seconds{3}));
+}
+TEST_F(X11DragSupportTest, selectionClearOlderThanTheDrag)
+{
+    xcb_button_press_event_t press = {};
+    press.response_type = XCB_BUTTON_PRESS;
+    press.time = 2000;
+    support.nativeEventFilter("xcb_generic_event_t", &press, nullptr);
+    const auto drag = begin();
+    xcb_selection_clear_event_t clear = {};
+    clear.response_type = XCB_SELECTION_CLEAR;
+    clear.selection = connection.atom("XdndSelection");
+    clear.time = 1;
+    support.nativeEventFilter("xcb_generic_event_t", &clear, nullptr);
+    target.accept();
+    EXPECT_EQ(target.take("image/png"), "picture");
+    drop(drag);
+    clear.time = 3000;
+    support.nativeEventFilter("xcb_generic_event_t", &clear, nullptr);
+    EXPECT_EQ(target.take("image/png"), "picture") << "waiting";
+}
+TEST_F(X11DragSupportTest, whatAWindowThatWasLeftFetchedDoesNotCount)
+{
+    const auto drag = begin();
+    bystander.accept();
+    bystander.ask("image/png");
+    // Let go over another program's window before that one has answered.
+    drop(drag);
+    target.ask("text/uri-list");
+    target.finish();
+    ASSERT_EQ(ends.size(), 1U);
+    EXPECT_EQ(taken(), Places{0});
+}
 } // namespace corvane::test

@@ -25,8 +25,10 @@ FileArrival::FileArrival(QByteArray path, MainQueue &queue)
     , m_descriptor(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK))
 {
     const QByteArray directory = m_path.chopped(m_name.size());
-    ::inotify_add_watch(m_descriptor, directory.constData(),
-                        IN_CLOSE_WRITE | IN_MOVED_TO | IN_MODIFY | IN_CREATE);
+    const int watch = ::inotify_add_watch(m_descriptor, directory.constData(),
+                                          IN_CLOSE_WRITE | IN_MOVED_TO | IN_MODIFY | IN_CREATE);
+    // The system has no watches left. Its source said that it has saved the file.
+    m_wasClosed = watch < 0;
 }
 
 FileArrival::~FileArrival()
@@ -40,12 +42,16 @@ void FileArrival::wait(std::function<void(bool)> done)
 {
     m_done = std::move(done);
     m_lastProgress = m_queue.now();
-    m_notifier = std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read);
-    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { readEvents(); });
+    if (m_descriptor >= 0) {
+        m_notifier = std::make_unique<QSocketNotifier>(m_descriptor, QSocketNotifier::Read);
+        QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] { readEvents(); });
+    }
     m_patienceTimer = m_queue.repeating(patience / 10, [this, begun = m_queue.now()] {
         const double now = m_queue.now();
         if (now - m_lastProgress >= patience || now - begun >= longest)
             finish(false);
+        else
+            look();
     });
     // It may be there already.
     readEvents();

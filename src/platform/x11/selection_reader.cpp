@@ -160,6 +160,11 @@ void SelectionReader::takeSlice(Id id)
         finish(read, Outcome::Lost);
         return;
     }
+    if (reply->type == XCB_NONE && read->isIncremental) {
+        // News of something that was taken with what came before it; the end has a type.
+        read->stage = Stage::Waiting;
+        return;
+    }
     if (reply->type == m_connection.atom("INCR") && !read->isIncremental) {
         read->isIncremental = true;
         read->stage = Stage::Waiting;

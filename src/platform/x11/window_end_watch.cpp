@@ -3,9 +3,24 @@
 #include "platform/x11/x11_qt.h"
 #include "platform/x11/x11_reply.h"
 
+#include <cstdint>
+#include <map>
+
 namespace corvane {
 
 namespace {
+
+/// What Qt listens to there for reasons of its own, and how many watch the window besides.
+struct Watched {
+    std::uint32_t previousMask = 0;
+    int watches = 0;
+};
+
+std::map<xcb_window_t, Watched> &watched()
+{
+    static std::map<xcb_window_t, Watched> windows;
+    return windows;
+}
 
 void listen(xcb_window_t window, std::uint32_t mask)
 {
@@ -28,16 +43,21 @@ WindowEndWatch::WindowEndWatch(xcb_window_t window)
     m_exists = attributes != nullptr;
     if (!attributes)
         return;
-    m_previousMask = attributes->your_event_mask;
-    m_isOurs = (m_previousMask & XCB_EVENT_MASK_STRUCTURE_NOTIFY) == 0;
-    if (m_isOurs)
-        listen(window, m_previousMask | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    auto &[previousMask, watches] = watched()[window];
+    if (watches++ > 0)
+        return;
+    previousMask = attributes->your_event_mask;
+    listen(window, previousMask | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
 }
 
 WindowEndWatch::~WindowEndWatch()
 {
-    if (m_isOurs && x11_qt::connection())
-        listen(m_window, m_previousMask);
+    const auto found = watched().find(m_window);
+    if (!m_exists || found == watched().end() || --found->second.watches > 0)
+        return;
+    if (x11_qt::connection())
+        listen(m_window, found->second.previousMask);
+    watched().erase(found);
 }
 
 } // namespace corvane

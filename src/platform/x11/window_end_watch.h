@@ -2,8 +2,6 @@
 
 #include <xcb/xcb.h>
 
-#include <cstdint>
-
 namespace corvane {
 
 /// While it lives, Qt's connection is told when another program's window is destroyed. On that
@@ -22,9 +20,6 @@ public:
 private:
     xcb_window_t m_window;
     bool m_exists = false;
-    /// What Qt listens to there for reasons of its own, and whether that told us enough.
-    std::uint32_t m_previousMask = 0;
-    bool m_isOurs = false;
 };
 
 } // namespace corvane

@@ -51,6 +51,8 @@ void X11Drag::delivered(xcb_window_t requestor, const QList<qsizetype> &holds)
     if (m_isWaiting) {
         // Nobody else is asked to take it any more, so whoever asks does so for the target.
         mark(m_takenAfterDrop, holds);
+        if (m_askedAfterDrop.size() < maximumPrograms)
+            m_askedAfterDrop.insert(programOf(requestor));
         return;
     }
     const std::uint32_t program = programOf(requestor);
@@ -95,9 +97,14 @@ bool X11Drag::wasDroppedOn(xcb_window_t window) const
     return m_isWaiting && window == m_target;
 }
 
-bool X11Drag::wasDroppedOnProgramOf(xcb_window_t window) const
+bool X11Drag::isOverProgramOf(xcb_window_t window) const
 {
-    return m_isWaiting && programOf(window) == programOf(m_target);
+    return m_target != XCB_NONE && programOf(window) == programOf(m_target);
+}
+
+bool X11Drag::mayBeFinishedBy(xcb_window_t window) const
+{
+    return m_isWaiting && (isOverProgramOf(window) || m_askedAfterDrop.contains(programOf(window)));
 }
 
 void X11Drag::targetFinished(const xcb_client_message_event_t &finished)
@@ -144,13 +151,12 @@ void X11Drag::endIfOver()
 QList<qsizetype> X11Drag::taken() const
 {
     Places all = m_takenAfterDrop;
-    for (const std::uint32_t program : {programOf(m_target), m_finishedProgram}) {
-        const auto byProgram = m_takenByProgram.find(program);
-        for (std::size_t i = 0; byProgram != m_takenByProgram.end() && i < byProgram->second.size();
-             ++i) {
-            if (byProgram->second[i])
-                mark(all, {static_cast<qsizetype>(i)});
-        }
+    // The window that answered last may have been left again before the drop.
+    const auto byProgram = m_takenByProgram.find(m_finishedProgram);
+    for (std::size_t i = 0; byProgram != m_takenByProgram.end() && i < byProgram->second.size();
+         ++i) {
+        if (byProgram->second[i])
+            mark(all, {static_cast<qsizetype>(i)});
     }
     QList<qsizetype> places;
     for (std::size_t i = 0; i < all.size(); ++i) {

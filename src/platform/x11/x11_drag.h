@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <vector>
 
 namespace corvane {
@@ -42,12 +43,17 @@ public:
         Gone,
         There,
     };
-    /// Waits from now on for the one that answered last.
+    /// Waits from now on for the one that accepted last.
     Target wasDropped();
     bool isWaiting() const { return m_isWaiting; }
     /// Whether it waits for that window, or for one of the same program.
     bool wasDroppedOn(xcb_window_t window) const;
-    bool wasDroppedOnProgramOf(xcb_window_t window) const;
+    /// Whether that window's program is the one that answered last.
+    bool isOverProgramOf(xcb_window_t window) const;
+    /// Whether word from that window that it is over may be believed: it is of the target's
+    /// program, or of one that has asked for something since the drop.
+    bool mayBeFinishedBy(xcb_window_t window) const;
+    xcb_window_t target() const { return m_target; }
     /// XdndFinished.
     void targetFinished(const xcb_client_message_event_t &finished);
     void windowIsGone(xcb_window_t window);
@@ -78,6 +84,7 @@ private:
     using Places = std::vector<bool>;
     std::map<std::uint32_t, Places> m_takenByProgram;
     Places m_takenAfterDrop;
+    std::set<std::uint32_t> m_askedAfterDrop;
     xcb_window_t m_target = XCB_NONE;
     bool m_isWaiting = false;
     bool m_saysHowItEnded = true;

@@ -120,11 +120,12 @@ bool X11DragSupport::nativeEventFilter(const QByteArray &eventType, void *messag
     case XCB_DESTROY_NOTIFY:
         windowIsGone(static_cast<const xcb_destroy_notify_event_t *>(message)->window);
         return false;
-    case XCB_SELECTION_CLEAR:
-        if (static_cast<const xcb_selection_clear_event_t *>(message)->selection
-            == m_connection.atom("XdndSelection"))
-            lostSelection();
+    case XCB_SELECTION_CLEAR: {
+        const auto &clear = *static_cast<const xcb_selection_clear_event_t *>(message);
+        if (clear.selection == m_connection.atom("XdndSelection"))
+            lostSelection(clear.time);
         return false;
+    }
     case XCB_SELECTION_REQUEST:
         return answer(*static_cast<const xcb_selection_request_event_t *>(message));
     default:
@@ -154,9 +155,10 @@ void X11DragSupport::readMessage(xcb_client_message_event_t &message)
         // Qt takes any flag for consent, the wish to hear every position too. It would drop on a
         // target that refuses.
         constexpr std::uint32_t accepts = 1;
+        // Nothing is dropped on who refuses; a window that was left may do so late.
         if ((message.data.data32[1] & accepts) == 0)
             message.data.data32[1] = 0;
-        if (auto *const drag = find(m_lastId))
+        else if (auto *const drag = find(m_lastId))
             drag->targetAnswered(message);
     } else if (message.type == m_connection.atom("XdndFinished")) {
         finished(message);
@@ -165,17 +167,22 @@ void X11DragSupport::readMessage(xcb_client_message_event_t &message)
 
 void X11DragSupport::finished(const xcb_client_message_event_t &message)
 {
+    const xcb_window_t by = message.data.data32[0];
+    // A late word about an earlier drop, which is no longer waited for. It is no other one's end.
+    if (const auto late = std::ranges::find(m_givenUp, by); late != m_givenUp.end()) {
+        m_givenUp.erase(late);
+        return;
+    }
     std::vector<X11Drag *> waiting;
     for (const auto &[id, drag] : m_drags) {
         if (drag->isWaiting())
             waiting.push_back(drag.get());
     }
-    const auto meant = std::find_if(waiting.begin(), waiting.end(), [&](const X11Drag *drag) {
-        return drag->wasDroppedOn(message.data.data32[0]);
-    });
+    const auto meant = std::find_if(waiting.begin(), waiting.end(),
+                                    [&](const X11Drag *drag) { return drag->wasDroppedOn(by); });
     if (meant != waiting.end())
         (*meant)->targetFinished(message);
-    else if (waiting.size() == 1)
+    else if (waiting.size() == 1 && waiting.front()->mayBeFinishedBy(by))
         // By another of its windows. What was taken decides all the same.
         waiting.front()->targetFinished(message);
 }
@@ -192,10 +199,14 @@ void X11DragSupport::windowIsGone(xcb_window_t window)
 }
 
 /// Another program drags now: nobody will ask for ours again, but the targets of earlier drops.
-void X11DragSupport::lostSelection()
+void X11DragSupport::lostSelection(xcb_timestamp_t time)
 {
+    auto *const drag = find(m_lastId);
+    // That was before the latest drag took it back.
+    if (drag && !isNotBefore(time, drag->began()))
+        return;
     m_hasSelection = false;
-    if (auto *const drag = find(m_lastId); drag && !drag->isWaiting())
+    if (drag && !drag->isWaiting())
         forget(m_lastId);
 }
 
@@ -204,11 +215,11 @@ X11Drag *X11DragSupport::dragFor(const xcb_selection_request_event_t &request)
     if (m_drags.empty())
         return nullptr;
     if (request.time == XCB_CURRENT_TIME) {
-        for (const auto &[id, drag] : m_drags) {
-            if (drag->wasDroppedOnProgramOf(request.requestor))
-                return drag.get();
-        }
-        return latest();
+        // The newest over or on that program: what was dropped there earlier has been asked for.
+        const auto over = std::find_if(m_drags.rbegin(), m_drags.rend(), [&](const auto &entry) {
+            return entry.second->isOverProgramOf(request.requestor);
+        });
+        return over == m_drags.rend() ? latest() : over->second.get();
     }
     const auto meant = std::find_if(m_drags.rbegin(), m_drags.rend(), [&](const auto &entry) {
         return isNotBefore(request.time, entry.second->began());
@@ -228,6 +239,16 @@ bool X11DragSupport::answer(const xcb_selection_request_event_t &request)
     if (!drag->answers().isReady())
         watchTheClock();
     return true;
+}
+
+void X11DragSupport::giveUp(X11Drag &drag)
+{
+    if (drag.isWaiting()) {
+        m_givenUp.push_back(drag.target());
+        if (m_givenUp.size() > maximumGivenUp)
+            m_givenUp.pop_front();
+    }
+    drag.giveUp();
 }
 
 void X11DragSupport::watchTheClock()
@@ -251,7 +272,7 @@ void X11DragSupport::lookAtTheClock()
         if (!isMade && now - drag->lastSign() >= makingPatience)
             drag->answers().formsAreReady(std::nullopt);
         else if (isMade && !drag->answers().isBusy() && now - drag->lastSign() >= m_patience)
-            drag->giveUp();
+            giveUp(*drag);
         drag = find(id);
         isAnybodyWaiting
             = isAnybodyWaiting || (drag && (drag->isWaiting() || !drag->answers().isReady()));

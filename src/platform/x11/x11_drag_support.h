@@ -8,6 +8,7 @@
 
 #include <QAbstractNativeEventFilter>
 
+#include <deque>
 #include <map>
 #include <memory>
 
@@ -51,7 +52,7 @@ private:
     void readMessage(xcb_client_message_event_t &message);
     void finished(const xcb_client_message_event_t &message);
     void windowIsGone(xcb_window_t window);
-    void lostSelection();
+    void lostSelection(xcb_timestamp_t time);
     bool answer(const xcb_selection_request_event_t &request);
     /// Null when nothing of ours is dragged.
     X11Drag *dragFor(const xcb_selection_request_event_t &request);
@@ -59,6 +60,7 @@ private:
     X11Drag *find(DragId drag);
     bool isCurrent(DragId drag) const { return drag == m_lastId; }
     void forget(DragId drag);
+    void giveUp(X11Drag &drag);
     void watchTheClock();
     void lookAtTheClock();
 
@@ -71,6 +73,9 @@ private:
     std::map<DragId, std::unique_ptr<X11Drag>> m_drags;
     DragId m_lastId = 0;
     bool m_hasSelection = false;
+    /// Windows that were given up and may still say how it ended, once for each drop.
+    std::deque<xcb_window_t> m_givenUp;
+    static constexpr std::size_t maximumGivenUp = 32;
     /// Of the latest input that Qt was told of.
     xcb_timestamp_t m_time = XCB_CURRENT_TIME;
     std::unique_ptr<MainQueue::Timer> m_timer;
