@@ -88,7 +88,7 @@ void AppDelegate::wireHotKey()
     const std::weak_ptr<bool> alive = m_alive;
     shortcuts.onToggleShelf = [this, alive] {
         if (!alive.expired())
-            m_context.store.toggleManually();
+            m_hud->toggleByHand();
     };
     shortcuts.onToggleViewAll = [this, alive] {
         if (!alive.expired())
@@ -104,7 +104,7 @@ void AppDelegate::wireHotKey()
 void AppDelegate::wireMenu()
 {
     // The menu's rows are only there as long as the status item, which ends with this.
-    m_statusItem->onShowShelf = [this] { m_context.store.toggleManually(); };
+    m_statusItem->onShowShelf = [this] { m_hud->toggleByHand(); };
     m_statusItem->onPreferences = [this] { showPreferences(PreferencesTab::General); };
     m_statusItem->onWelcome = [this] { showWelcome(); };
 }
@@ -140,7 +140,7 @@ void AppDelegate::applicationWillTerminate()
 
 bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/)
 {
-    m_context.store.toggleManually();
+    m_hud->toggleByHand();
     return false;
 }
 

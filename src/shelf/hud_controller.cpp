@@ -265,6 +265,13 @@ void HUDController::scheduleHide()
     });
 }
 
+void HUDController::toggleByHand()
+{
+    if (m_context.viewAll)
+        m_context.viewAll->shelfIsToggledByHand();
+    m_store.toggleManually();
+}
+
 void HUDController::letClicksThrough(double seconds)
 {
     m_clicksGeneration = checkedAdd<std::int64_t>(m_clicksGeneration, 1);

@@ -55,6 +55,8 @@ public:
     HUDController(const HUDController &) = delete;
     HUDController &operator=(const HUDController &) = delete;
 
+    /// The user opens or closes the shelf, by a hot key or a menu.
+    void toggleByHand();
     /// The shelf is about to be shown unasked: for so many seconds its clicks go to what lies below
     /// it, where whoever clicks has not seen it yet.
     void letClicksThrough(double seconds);

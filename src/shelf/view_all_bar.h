@@ -14,6 +14,8 @@ public:
     /// Follows the shelf: `pillFrame` is the shelf's frame on `screen`; an empty rectangle and no
     /// screen while the shelf is closed.
     virtual void render(const QRectF &pillFrame, const ScreenPointer &screen) = 0;
+    /// The user is opening or closing the shelf by hand: the keys are meant for what opens with it.
+    virtual void shelfIsToggledByHand() = 0;
     /// The user has pressed the shelf: while the bar is shown, the keys are still meant for it.
     virtual void shelfWasPressed() = 0;
 };

@@ -65,13 +65,24 @@ void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &scr
     m_lastScreen = screen;
     const bool isDragged = m_store.isDragInFlight() || m_store.isOwnDrag();
     const bool isDraggedOrWasJustNow = std::exchange(m_sawDrag, isDragged) || isDragged;
-    if (m_store.isViewAllOpen() && screen && m_store.items().size() >= minimumItems)
-        show(*screen, !isDraggedOrWasJustNow);
-    else
+    const bool isWanted = findWhetherWanted();
+    if (m_store.isViewAllOpen() && screen && m_store.items().size() >= minimumItems) {
+        m_isWanted = m_isWanted || isWanted;
+        show(*screen, isDraggedOrWasJustNow);
+    } else {
         hide();
+    }
 }
 
-void ViewAllController::show(const Screen &screen, bool mayTakeKeyboard)
+/// Whether the user has just now opened the bar, or the shelf below which it was left open.
+bool ViewAllController::findWhetherWanted()
+{
+    const bool isOpen = m_store.isViewAllOpen();
+    const bool isNewlyOpen = !std::exchange(m_sawOpen, isOpen) && isOpen;
+    return std::exchange(m_isByHand, false) || isNewlyOpen;
+}
+
+void ViewAllController::show(const Screen &screen, bool isDragged)
 {
     const double width = std::round(screen.frame.width() * widthShare);
     const double height = view_all_layout::barHeight;
@@ -88,7 +99,7 @@ void ViewAllController::show(const Screen &screen, bool mayTakeKeyboard)
     const bool wasShown = m_panel.isVisible();
     m_panel.setIgnoresMouseEvents(false);
     m_panel.orderFrontRegardless();
-    if (mayTakeKeyboard)
+    if (m_isWanted && !isDragged)
         takeKeyboard(wasShown);
     if (!m_outsideClickMonitor)
         startWatchingOutsideClicks();
@@ -97,7 +108,9 @@ void ViewAllController::show(const Screen &screen, bool mayTakeKeyboard)
 /// In every render that shows the bar, so that no click on the shelf takes the keys away from it.
 /// From another program only when it opens: what arrives later, such as a picture, takes it from
 /// nobody who went on typing elsewhere. Never from a drag, whose source may end it on losing the
-/// keyboard, nor at its end: what was dropped on goes on.
+/// keyboard, nor at its end: what was dropped on goes on. And not where the bar was left open and
+/// comes back by itself, with a shelf that the screen's edge summoned, say: what is typed then is
+/// for the program behind, and would remove what is ticked.
 void ViewAllController::takeKeyboard(bool wasShown)
 {
     if (wasShown)
@@ -106,10 +119,17 @@ void ViewAllController::takeKeyboard(bool wasShown)
         m_panel.makeKey();
 }
 
+void ViewAllController::shelfIsToggledByHand()
+{
+    m_isByHand = true;
+}
+
 void ViewAllController::shelfWasPressed()
 {
-    if (m_panel.isVisible())
-        m_panel.makeKey();
+    if (!m_panel.isVisible())
+        return;
+    m_isWanted = true;
+    m_panel.makeKey();
 }
 
 void ViewAllController::hide()
@@ -117,6 +137,7 @@ void ViewAllController::hide()
     stopWatchingOutsideClicks();
     m_panel.setIgnoresMouseEvents(true);
     m_offset = 0;
+    m_isWanted = false;
     m_view.wasHidden();
     m_panel.orderOut();
 }

@@ -47,6 +47,7 @@ public:
     ViewAllController &operator=(const ViewAllController &) = delete;
 
     void render(const QRectF &pillFrame, const ScreenPointer &screen) override;
+    void shelfIsToggledByHand() override;
     void shelfWasPressed() override;
 
     const ViewAllView &view() const { return m_view; }
@@ -55,7 +56,8 @@ public:
 
 private:
     void wireView();
-    void show(const Screen &screen, bool mayTakeKeyboard);
+    bool findWhetherWanted();
+    void show(const Screen &screen, bool isDragged);
     void takeKeyboard(bool wasShown);
     void hide();
     void close();
@@ -74,6 +76,11 @@ private:
     std::optional<EventMonitors::Handle> m_outsideClickMonitor;
     /// Something was being dragged when the bar was last rendered.
     bool m_sawDrag = false;
+    bool m_sawOpen = false;
+    /// The next render is what the user's hand has brought about.
+    bool m_isByHand = false;
+    /// The bar is shown because the user wanted it, not because it was left open.
+    bool m_isWanted = false;
     // Whatever was handed out does nothing once the controller is gone.
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };

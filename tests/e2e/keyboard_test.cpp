@@ -273,6 +273,32 @@ TEST_P(Keyboard, isLeftWithTheProgramByABarThatADragBroughtBack)
     EXPECT_TRUE(typesIntoEditor());
 }
 
+TEST_P(Keyboard, isLeftWithTheProgramByABarThatTheEdgeBroughtBack)
+{
+    hold(3);
+    openBar(3);
+    pressHotKey();
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    pressHotKey();
+    ASSERT_TRUE(barHasKeyboard()) << "the user asked for it";
+    pressHotKey();
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    hands().click(m_editor->middle());
+    ASSERT_TRUE(editorHasKeyboard());
+    hands().glideTo(QPoint(server().size().width() / 2, 60));
+    for (int i = 0; i < 4; ++i)
+        hands().moveBy(QPoint(0, -30));
+    ASSERT_TRUE(eventually([this] { return bar().has_value(); }));
+    ASSERT_TRUE(holds(3));
+    ASSERT_TRUE(editorHasKeyboard());
+    hands().key(keys::backSpace);
+    hands().key('z');
+    hands().click(cell(1, 3));
+    EXPECT_TRUE(barHasKeyboard()) << "now the user has turned to it";
+    EXPECT_TRUE(holds(3)) << "BackSpace was the editor's";
+    EXPECT_TRUE(m_editor->text("texz").contains('z'));
+}
+
 TEST_P(Keyboard, copiesWhatIsSeenAfterPaging)
 {
     startWithInView(1);

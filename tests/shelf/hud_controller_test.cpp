@@ -24,9 +24,11 @@ struct RecordingViewAllBar : ViewAllBar {
         if (shelf)
             sizesSeen.push_back(shelf->look().layout.size);
     }
+    void shelfIsToggledByHand() override { rendersBeforeHand = frames.size(); }
     void shelfWasPressed() override { ++presses; }
     const ShelfView *shelf = nullptr;
     int presses = 0;
+    std::optional<std::size_t> rendersBeforeHand;
     std::vector<QRectF> frames;
     std::vector<ScreenPointer> screens;
     std::vector<QSizeF> sizesSeen;
@@ -211,6 +213,18 @@ TEST_F(HUDControllerTest, APressOnTheShelfIsToldToTheBarOnceEverythingElseIsDone
     EXPECT_EQ(bar.presses, 0) << "beside the body";
     view().mouseDown({view().look().layout.cells[0].root.center()});
     EXPECT_EQ(bar.presses, 1);
+}
+
+TEST_F(HUDControllerTest, TheBarIsToldThatTheUserTogglesBeforeItIsRendered)
+{
+    accept(2);
+    store.toggleManually();
+    EXPECT_FALSE(bar.rendersBeforeHand);
+    const std::size_t renders = bar.frames.size();
+    controller->toggleByHand();
+    EXPECT_EQ(bar.rendersBeforeHand, renders);
+    EXPECT_EQ(bar.frames.size(), renders + 1);
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
 }
 
 TEST_F(HUDControllerTest, LetsClicksThroughForAsLongAsItIsTold)

@@ -229,6 +229,85 @@ TEST_F(ViewAllControllerTest, aPictureThatArrivesTakesTheKeyboardFromNoOtherProg
     EXPECT_TRUE(panel.isKey) << "opened anew it is what the user wants";
 }
 
+TEST_F(ViewAllControllerTest, aShelfThatComesUnaskedBringsItWithoutTheKeyboard)
+{
+    open(3);
+    store.toggleManually();
+    panel.isKey = false;
+    for (const bool othersHaveKeyboard : {true, false}) {
+        panel.othersHaveKeyboard = othersHaveKeyboard;
+        store.toggleManually();
+        EXPECT_TRUE(panel.visible);
+        store.publishItems();
+        view().onScroll(1);
+        EXPECT_FALSE(panel.isKey) << "nor does anything that arrives later bring it";
+        store.toggleManually();
+    }
+    store.toggleManually();
+    desk.panel.content->mouseDown({dynamic_cast<const ShelfView &>(*desk.panel.content)
+                                       .look()
+                                       .layout.cells[0]
+                                       .root.center()});
+    EXPECT_TRUE(panel.isKey) << "the user has turned to it";
+    panel.isKey = false;
+    store.publishItems();
+    EXPECT_TRUE(panel.isKey);
+}
+
+TEST_F(ViewAllControllerTest, whatArrivesBringsItBackWithoutTheKeyboard)
+{
+    open(2);
+    store.discard(0, true);
+    ASSERT_FALSE(panel.visible);
+    panel.isKey = false;
+    panel.othersHaveKeyboard = true;
+    accept(1);
+    EXPECT_TRUE(panel.visible);
+    EXPECT_FALSE(panel.isKey);
+}
+
+TEST_F(ViewAllControllerTest, aScreenThatComesBackBringsItWithoutTheKeyboard)
+{
+    open(3);
+    pointer.position.reset();
+    screens.detach(screen);
+    screens.notifyChanges();
+    ASSERT_FALSE(panel.visible);
+    panel.isKey = false;
+    panel.othersHaveKeyboard = true;
+    screen = screens.attach(QRectF(0, 0, 1512, 982));
+    screens.notifyChanges();
+    EXPECT_TRUE(panel.visible);
+    EXPECT_FALSE(panel.isKey);
+}
+
+TEST_F(ViewAllControllerTest, openedWhileTheShelfIsHiddenItWaitsForTheHandToo)
+{
+    accept(3);
+    store.toggleManually();
+    store.toggleViewAll();
+    panel.othersHaveKeyboard = true;
+    store.toggleManually();
+    EXPECT_TRUE(panel.visible);
+    EXPECT_FALSE(panel.isKey);
+    // By hand: closed, and opened.
+    shelf->toggleByHand();
+    EXPECT_FALSE(panel.visible);
+    EXPECT_FALSE(panel.isKey);
+    shelf->toggleByHand();
+    EXPECT_TRUE(panel.isKey);
+}
+
+TEST_F(ViewAllControllerTest, aHandThatClosedTheShelfDoesNotCountForWhatComesLater)
+{
+    open(3);
+    shelf->toggleByHand();
+    panel.isKey = false;
+    store.toggleManually();
+    EXPECT_TRUE(panel.visible);
+    EXPECT_FALSE(panel.isKey);
+}
+
 TEST_F(ViewAllControllerTest, aPressOnTheShelfLeavesTheKeysWithTheBar)
 {
     settings.setInViewCount(2);
