@@ -4,8 +4,11 @@
 
 #include <QBuffer>
 #include <QFile>
+#include <QFileInfo>
 #include <QImage>
 #include <QUrl>
+
+#include <unistd.h>
 
 namespace corvane::e2e {
 namespace {
@@ -88,6 +91,35 @@ TEST_F(Conversion, aLargeTiffFromMemoryIsAnsweredAtOnce)
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
     ASSERT_TRUE(eventually([&] { return corvane().spooled() == QStringList{u"Image.png"_s}; }));
     EXPECT_TRUE(isThePage(corvane().spool() + u"/Image.png"_s));
+}
+
+TEST_F(Conversion, aDragOutThatBeginsBeforeThePictureIsReadyHandsOverTheFinishedPng)
+{
+    // One page behind many others, which are converted before it.
+    const QString first = makePage(u"page 0.tiff"_s);
+    QStringList pages{first};
+    for (int i = 1; i < 10; ++i) {
+        pages << QFileInfo(first).path() + u"/page %1.tiff"_s.arg(i);
+        ASSERT_EQ(::link(first.toUtf8().constData(), pages.last().toUtf8().constData()), 0);
+    }
+    XdndTarget target(m_desktop, QRect(900, 400, 200, 200), true, "text/uri-list");
+    start();
+    ASSERT_TRUE(dropAndLook({{"text/uri-list", uriList(pages)}}));
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+
+    const QPoint place = target.frame().center();
+    hands().beginDrag(corvane().at(70, 22), place);
+    hands().glideTo(place);
+    hands().aim(place);
+    ASSERT_TRUE(target.pumpUntil([&] { return target.isHovered(); }));
+    const QString made = corvane().spool() + u"/page 9.png"_s;
+    hands().release();
+    const bool isInTime = !QFile::exists(made);
+    ASSERT_TRUE(target.pumpUntil([&] { return target.hasDrop(); }));
+    EXPECT_EQ(target.data().trimmed(), uriList({made}).trimmed());
+    EXPECT_TRUE(isThePage(made));
+    if (!isInTime)
+        GTEST_SKIP() << "this machine was too slow to let go in time";
 }
 
 TEST_F(Conversion, whatIsRemovedMeanwhileLeavesNothing)
