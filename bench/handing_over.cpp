@@ -5,7 +5,9 @@
 #include "core/drag_set.h"
 #include "core/drag_writer.h"
 #include "core/feedback.h"
+#include "core/item_preparation.h"
 #include "core/quick_actions.h"
+#include "core/saved_pictures.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_remote_files.h"
 #include "fakes/fake_work_queue.h"
@@ -69,9 +71,11 @@ void measure()
     DataUris dataUris(mounts, remoteFiles, work, clock);
     QtGeneralPasteboard pasteboard;
     const Feedback feedback;
-    QuickActions quickActions(pasteboard, feedback, dataUris);
-    const DragWriter writer(Qt::gray, {}, mounts);
     test::TemporarySpool temporary;
+    ItemPreparation preparation(temporary.spool, clock, work);
+    SavedPictures pictures(temporary.spool, preparation);
+    QuickActions quickActions(pasteboard, feedback, dataUris, pictures);
+    const DragWriter writer(Qt::gray, {}, mounts);
 
     std::vector<double> floors;
     std::vector<double> copies;
@@ -82,7 +86,7 @@ void measure()
         quickActions.copy(items);
         copies.push_back(threadTime() - start);
         start = threadTime();
-        const DragSet set = makeDragSet(items, writer, temporary.spool);
+        const DragSet set = makeDragSet(items, writer, pictures);
         const auto mimeData = mimeDataFor(formsOf(set.contents, PasteboardKind::Drag));
         drags.push_back(threadTime() - start);
     }

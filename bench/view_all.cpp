@@ -26,7 +26,7 @@ struct Bar : test::ShelfModel {
         pointer.position = QPointF(300, 900);
         bar.emplace(
             ViewAllController::Context{{panel, desk.clock, desk.motion, desk.theme, desk.keyboard,
-                                        desk.dragWriter, desk.spool, desk.preparation},
+                                        desk.dragWriter, desk.savedPictures, desk.preparation},
                                        store,
                                        quickActions,
                                        desktop,

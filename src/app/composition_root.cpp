@@ -105,8 +105,9 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , remoteDescriptions(remoteFiles)
     , remotePictures(remoteFiles, pictureItems)
     , ingest(spool, pictureItems, mountTable, remoteDescriptions, remotePictures)
+    , savedPictures(spool, itemPreparation)
     , dataUris(mountTable, remoteFiles, workQueue, mainQueue)
-    , quickActions(generalPasteboard, feedback, dataUris)
+    , quickActions(generalPasteboard, feedback, dataUris, savedPictures)
     , thumbnailCache(imageCodec, thumbnailPlaces(spool))
     , thumbnailerRegistry(ThumbnailerRegistry::environmentDataFolders(),
                           ThumbnailerRegistry::environmentProgramFolders())
@@ -123,8 +124,8 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , presenter({previewPanel, mainQueue, previewWork}, QFile::encodeName(QDir::tempPath()))
     , theme(QGuiApplication::font(), logicalDotsPerInch())
     , dragWriter(makeDragWriter(theme, mountTable))
-    , viewAll({{viewAllPanel, mainQueue, motionPreference, theme, keyboard, dragWriter, spool,
-                itemPreparation},
+    , viewAll({{viewAllPanel, mainQueue, motionPreference, theme, keyboard, dragWriter,
+                savedPictures, itemPreparation},
                store,
                quickActions,
                dragDesktop,
@@ -168,6 +169,9 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
         store.describe(item, description);
     };
     itemPreparation.onReady = [this](const DropItem &made) { store.becomeReady(made); };
+    store.onLeft = [this](const QUuid &item, bool deletingFiles) {
+        savedPictures.itemLeft(item, deletingFiles);
+    };
     remotePictures.isWanted = [this](const QUuid &item) { return store.indexOf(item).has_value(); };
     thumbnails.setItemsInView([this] { return itemsInView(store); });
 }

@@ -16,6 +16,7 @@
 #include "core/quick_actions.h"
 #include "core/remote_descriptions.h"
 #include "core/remote_pictures.h"
+#include "core/saved_pictures.h"
 #include "core/scratch_spool.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
@@ -140,6 +141,7 @@ struct CompositionRoot {
     RemoteDescriptions remoteDescriptions;
     RemotePictures remotePictures;
     PasteboardIngest ingest;
+    SavedPictures savedPictures;
     DataUris dataUris;
     QuickActions quickActions;
     SharedThumbnailCache thumbnailCache;

@@ -20,11 +20,7 @@ std::optional<PasteboardContents> finalContents(PasteboardContents contents,
         // The others may be carried in another form than their own.
         if (!items[i].isBeingMade())
             continue;
-        PasteboardWriter &writer = contents.writers[static_cast<std::size_t>(i)];
-        PasteboardWriter made = DragWriter::pasteboardWriter(ready[i]);
-        if (made.content.index() != writer.content.index())
-            return std::nullopt;
-        writer = std::move(made);
+        contents.writers[static_cast<std::size_t>(i)] = DragWriter::pasteboardWriter(ready[i]);
     }
     return contents;
 }

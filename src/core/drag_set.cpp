@@ -1,7 +1,7 @@
 #include "core/drag_set.h"
 
 #include "core/drag_writer.h"
-#include "core/scratch_spool.h"
+#include "core/saved_pictures.h"
 
 #include <QCoreApplication>
 
@@ -9,25 +9,24 @@ namespace corvane {
 
 namespace {
 
+void add(DragSet &set, const DropItem &item, const DropItem &form)
+{
+    set.contents.writers.push_back(DragWriter::pasteboardWriter(form));
+    set.items << item;
+    set.forms << form;
+}
+
 DragSet alone(const DropItem &item)
 {
     DragSet set;
-    set.contents.writers.push_back(DragWriter::pasteboardWriter(item));
-    set.items << item;
+    add(set, item, item);
     return set;
-}
-
-std::optional<QUrl> saved(const DropItem &item, const DropItem::ImageBytes &image,
-                          ScratchSpool &spool)
-{
-    const QString extension = image.type.preferredFilenameExtension();
-    return spool.store(image.data, item.title(),
-                       extension.isEmpty() ? QStringLiteral("png") : extension);
 }
 
 } // namespace
 
-DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &dragWriter, ScratchSpool &spool)
+DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &dragWriter,
+                    SavedPictures &pictures)
 {
     const QList<DropItem> available = dragWriter.available(items);
     if (available.size() == 1)
@@ -36,16 +35,9 @@ DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &dragWriter, 
     DragSet set;
     set.contents.writers.reserve(static_cast<std::size_t>(available.size()));
     for (const DropItem &item : available) {
-        PasteboardWriter writer = DragWriter::pasteboardWriter(item);
-        if (const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload())) {
-            const auto url = saved(item, *image, spool);
-            if (!url)
-                continue;
-            set.savedFiles << *url;
-            writer = {PasteboardWriter::File{*url}};
-        }
-        set.contents.writers.push_back(std::move(writer));
-        set.items << item;
+        const DropItem form = pictures.asFile(item);
+        if (!std::holds_alternative<DropItem::ImageBytes>(form.payload()))
+            add(set, item, form);
     }
     return set.items.isEmpty() && !available.isEmpty() ? alone(available.constFirst()) : set;
 }

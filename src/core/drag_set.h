@@ -4,27 +4,28 @@
 #include "platform/pasteboard_writer.h"
 
 #include <QList>
-#include <QUrl>
 
 namespace corvane {
 
 class DragWriter;
-class ScratchSpool;
+class SavedPictures;
 
 /// What leaves the shelf in one drag.
 struct DragSet {
     PasteboardContents contents;
     /// The items whose contents are in it, one for each writer. Others cannot travel and stay.
     QList<DropItem> items;
-    /// Files that were made for this drag alone; of no use once it has failed.
-    QList<QUrl> savedFiles;
+    /// The form in which each of them travels: pictures in memory as files, which may still be
+    /// being written.
+    QList<DropItem> forms;
 };
 
 /// Puts together what of `items` can travel. A file that is gone cannot. A picture that is held in
 /// memory travels as its bytes when it is alone; beside others, where a target takes addresses or
-/// nothing, it is saved into the spool, and stays if that fails. Where nothing else can travel the
-/// first one goes alone.
-DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &writer, ScratchSpool &spool);
+/// nothing, it travels as a file, and stays where none can be made. Where nothing else can travel
+/// the first one goes alone.
+DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &writer,
+                    SavedPictures &pictures);
 
 /// What the user is told when `stayed` of `all` items that were let go elsewhere did not arrive.
 QString stayedMessage(qsizetype stayed, qsizetype all);

@@ -3,10 +3,13 @@
 #include "core/data_uris.h"
 #include "core/drag_writer.h"
 #include "core/feedback.h"
+#include "core/saved_pictures.h"
 #include "platform/file_url.h"
 #include "platform/pasteboard_writer.h"
 
 #include <QStringList>
+
+#include <algorithm>
 
 namespace corvane {
 
@@ -37,32 +40,35 @@ struct CopiedPayload {
     }
 };
 
-/// How many of them are on the clipboard once they were written: of several pictures of one type
-/// only the first.
+bool isInMemory(const DropItem &item)
+{
+    return std::holds_alternative<DropItem::ImageBytes>(item.payload());
+}
+
+/// How many of them a program gets that takes what it can of several things. Where there are only
+/// pictures that could not be saved, that is the first of each type.
 qsizetype countThatArrives(const QList<DropItem> &items)
 {
     QStringList pictureTypes;
-    qsizetype left = 0;
+    qsizetype others = 0;
     for (const DropItem &item : items) {
-        const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload());
-        if (!image)
-            continue;
-        const QString type = image->type.identifier();
-        if (pictureTypes.contains(type))
-            ++left;
+        if (const auto *image = std::get_if<DropItem::ImageBytes>(&item.payload()))
+            pictureTypes << image->type.identifier();
         else
-            pictureTypes << type;
+            ++others;
     }
-    return items.size() - left;
+    pictureTypes.removeDuplicates();
+    return others > 0 ? others : pictureTypes.size();
 }
 
 } // namespace
 
 QuickActions::QuickActions(GeneralPasteboard &pasteboard, const Feedback &feedback,
-                           DataUris &dataUris)
+                           DataUris &dataUris, SavedPictures &pictures)
     : m_pasteboard(pasteboard)
     , m_feedback(feedback)
     , m_dataUris(dataUris)
+    , m_pictures(pictures)
 {
 }
 
@@ -74,34 +80,51 @@ void QuickActions::copy(const QList<DropItem> &items)
         copy(items.constFirst(), false);
         return;
     }
-    m_latest.reset();
+    const auto latest = begin();
+    if (std::count_if(items.begin(), items.end(), isInMemory) < 2) {
+        writeSeveral(items, items.size());
+        return;
+    }
+    m_pictures.asFiles(items, [this, latest](const QList<DropItem> &files) {
+        // All of them may have been removed.
+        if (!latest.expired() && !files.isEmpty())
+            writeSeveral(files, countThatArrives(files));
+    });
+}
+
+void QuickActions::writeSeveral(const QList<DropItem> &items, qsizetype count)
+{
     PasteboardContents contents;
     contents.writers.reserve(static_cast<std::size_t>(items.size()));
     for (const DropItem &item : items)
         contents.writers.push_back(DragWriter::pasteboardWriter(item));
     m_pasteboard.write(contents);
-    m_feedback.show(QString::number(countThatArrives(items)) + QStringLiteral(" items copied"));
+    m_feedback.show(QString::number(count) + QStringLiteral(" items copied"));
 }
 
 void QuickActions::copy(const DropItem &item, bool asDataUri)
 {
-    m_latest = std::make_shared<const DropItem>(item);
+    const auto latest = begin();
     if (!asDataUri) {
         copyAsItIs(item);
         return;
     }
-    const auto latest = std::weak_ptr(m_latest);
-    m_dataUris.make(item, [this, latest](const std::optional<QString> &uri) {
-        const auto wanted = latest.lock();
-        if (!wanted)
+    m_dataUris.make(item, [this, latest, item](const std::optional<QString> &uri) {
+        if (latest.expired())
             return;
         if (!uri) {
-            copyAsItIs(*wanted);
+            copyAsItIs(item);
             return;
         }
         m_pasteboard.write({{}, uri});
         m_feedback.show(QStringLiteral("Data URI copied"));
     });
+}
+
+std::weak_ptr<const QuickActions::Copy> QuickActions::begin()
+{
+    m_latest = std::make_shared<const Copy>();
+    return m_latest;
 }
 
 void QuickActions::copyAsItIs(const DropItem &item)

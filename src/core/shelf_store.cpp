@@ -190,7 +190,7 @@ void ShelfStore::clearAll()
 {
     const Operation operation(*this);
     for (const DropItem &item : std::as_const(m_items))
-        discardSpoolFile(item);
+        tellLeft(item, true);
     setItems({});
     m_selection.clear();
     becomeEmpty();
@@ -206,19 +206,20 @@ void ShelfStore::discard(int index, bool deletingSpoolFile)
     m_thumbnails.cancel(item.id());
     publishItems();
     m_selection.remove(item.id());
-    if (deletingSpoolFile)
-        discardSpoolFile(item);
+    tellLeft(item, deletingSpoolFile);
     if (m_items.isEmpty())
         becomeEmpty();
     else
         focus(std::min(count() - 1, index));
 }
 
-void ShelfStore::discardSpoolFile(const DropItem &item) const
+void ShelfStore::tellLeft(const DropItem &item, bool deletingFiles) const
 {
     const auto *file = std::get_if<DropItem::File>(&item.payload());
-    if (item.isSpooled() && file)
+    if (deletingFiles && item.isSpooled() && file)
         m_spool.discard(file->url);
+    if (onLeft)
+        onLeft(item.id(), deletingFiles);
 }
 
 void ShelfStore::becomeEmpty()

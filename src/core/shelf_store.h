@@ -45,6 +45,9 @@ public:
 
     void observeState(StateObserver observer);
     void observeItems(ItemObserver observer);
+    /// Called for each item that leaves; files that belong to it go too (`deletingFiles`), unless
+    /// another program was given them.
+    std::function<void(const QUuid &id, bool deletingFiles)> onLeft;
     /// Called once at the end of each operation that publishes more than once.
     void observeEndOfOperation(std::function<void()> observer);
     /// Calls every item observer with the present items, for changes of what is not an item.
@@ -120,7 +123,7 @@ private:
 
     int count() const { return static_cast<int>(m_items.size()); }
     void discardEach(const QList<QUuid> &ids, bool deletingSpoolFiles);
-    void discardSpoolFile(const DropItem &item) const;
+    void tellLeft(const DropItem &item, bool deletingFiles) const;
     void becomeEmpty();
     void startLoading(const QList<DropItem> &items);
     void startLink(const DropItem &item, const QUrl &url);

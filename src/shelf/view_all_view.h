@@ -22,7 +22,7 @@ class ItemPreparation;
 class Keyboard;
 class MainQueue;
 class MotionPreference;
-class ScratchSpool;
+class SavedPictures;
 struct Theme;
 
 /// The content of the view-all bar: a page of tiles between two arrows, above a row of actions. It
@@ -50,7 +50,7 @@ public:
         const Theme &theme;
         const Keyboard &keyboard;
         const DragWriter &dragWriter;
-        ScratchSpool &spool;
+        SavedPictures &pictures;
         ItemPreparation &preparation;
     };
     explicit ViewAllView(const Context &context);
@@ -126,7 +126,6 @@ private:
     struct DraggedOut {
         /// One for each writer.
         QList<QUuid> ids;
-        QList<QUrl> savedFiles;
         /// More than travel: a file may be gone.
         qsizetype wanted = 0;
         bool keep = false;

@@ -3,7 +3,7 @@
 #include "core/awaited_contents.h"
 #include "core/drag_set.h"
 #include "core/drag_writer.h"
-#include "core/scratch_spool.h"
+#include "core/saved_pictures.h"
 #include "platform/keyboard.h"
 #include "shelf/drag_stack.h"
 #include "shelf/optional_callback.h"
@@ -146,7 +146,7 @@ void ViewAllView::beginDrag(const DropItem &grabbed)
 {
     const QList<DropItem> wanted
         = isSelected(grabbed) ? selectedInOrder() : QList<DropItem>{grabbed};
-    DragSet set = makeDragSet(wanted, m_context.dragWriter, m_context.spool);
+    DragSet set = makeDragSet(wanted, m_context.dragWriter, m_context.pictures);
     if (set.items.isEmpty()) {
         call(onNothingToDrag);
         return;
@@ -157,11 +157,11 @@ void ViewAllView::beginDrag(const DropItem &grabbed)
 
     DragOut drag;
     drag.contents = std::move(set.contents);
-    drag.whenReady = awaitedContents(drag.contents, set.items, m_context.preparation);
+    drag.whenReady = awaitedContents(drag.contents, set.forms, m_context.preparation);
     drag.image = dragImage(grabbed, set.items);
     drag.hotSpot = {drag.image.size.width() / 2, drag.image.size.height() / 2};
-    m_context.panel.beginDraggingSession(
-        std::move(drag), dragOutEvents({m_draggingIds, set.savedFiles, wanted.size()}));
+    m_context.panel.beginDraggingSession(std::move(drag),
+                                         dragOutEvents({m_draggingIds, wanted.size()}));
 }
 
 DragOutEvents ViewAllView::dragOutEvents(DraggedOut dragged)
@@ -184,11 +184,6 @@ DragOutEvents ViewAllView::dragOutEvents(DraggedOut dragged)
 
 void ViewAllView::dragEnded(const DraggedOut &dragged, const DragOutEnd &end)
 {
-    // Who was given the addresses may still come back to them.
-    if (!end.wasDropped) {
-        for (const QUrl &url : dragged.savedFiles)
-            m_context.spool.discard(url);
-    }
     QList<QUuid> taken;
     for (const qsizetype place : end.taken)
         taken << dragged.ids[place];

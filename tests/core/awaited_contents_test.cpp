@@ -85,13 +85,17 @@ TEST_F(AwaitedContentsTest, AreNoneWhereAnItemIsRemovedMeanwhile)
     EXPECT_FALSE(handedOver);
 }
 
-TEST_F(AwaitedContentsTest, AreNoneWhereTheItemBecameAnotherKindThanWasAnnounced)
+TEST_F(AwaitedContentsTest, LeaveOutOfTheFilesWhatCouldNotBeWritten)
 {
     const DropItem inMemory(DropItem::ImageBytes{"png", UTType::png()}, {}, {}, false);
-    dragOut({pending(inMemory)});
+    const DropItem made = pending();
+    dragOut({pending(inMemory), made});
     finishWork();
     EXPECT_EQ(answers, 1);
-    EXPECT_FALSE(handedOver);
+    ASSERT_TRUE(handedOver);
+    ASSERT_EQ(handedOver->writers.size(), 2U);
+    EXPECT_FALSE(std::holds_alternative<PasteboardWriter::File>(handedOver->writers[0].content));
+    EXPECT_EQ(std::get<PasteboardWriter::File>(handedOver->writers[1].content).url, urlOf(made));
 }
 
 } // namespace

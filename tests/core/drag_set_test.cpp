@@ -1,7 +1,11 @@
 #include "core/drag_set.h"
 #include "core/drag_writer.h"
+#include "core/item_preparation.h"
+#include "core/saved_pictures.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_file_locality.h"
+#include "fakes/fake_work_queue.h"
+#include "fakes/test_clock.h"
 #include "platform/file_url.h"
 
 #include <QFile>
@@ -45,7 +49,10 @@ protected:
     DragWriter writer{Qt::gray, {}, locality};
     QTemporaryDir folder;
     TemporarySpool temporary;
-    ScratchSpool &spool = temporary.spool;
+    TestClock clock;
+    FakeWorkQueue work;
+    ItemPreparation preparation{temporary.spool, clock, work};
+    SavedPictures pictures{temporary.spool, preparation};
 };
 
 } // namespace
@@ -55,7 +62,7 @@ TEST_F(DragSetTest, carriesEveryItemInItsOrder)
     const DropItem first = file(QStringLiteral("a.txt"));
     const DropItem second = text(QStringLiteral("hello"));
     const DropItem third = file(QStringLiteral("b.txt"));
-    const DragSet set = makeDragSet({first, second, third}, writer, spool);
+    const DragSet set = makeDragSet({first, second, third}, writer, pictures);
     ASSERT_EQ(set.contents.writers.size(), 3U);
     ASSERT_EQ(set.items.size(), 3);
     EXPECT_EQ(set.items[0].id(), first.id());
@@ -63,35 +70,50 @@ TEST_F(DragSetTest, carriesEveryItemInItsOrder)
     EXPECT_EQ(fileUrl(set.contents.writers[0]).fileName(), QStringLiteral("a.txt"));
     EXPECT_TRUE(std::holds_alternative<PasteboardWriter::Text>(set.contents.writers[1].content));
     EXPECT_EQ(fileUrl(set.contents.writers[2]).fileName(), QStringLiteral("b.txt"));
-    EXPECT_TRUE(set.savedFiles.isEmpty());
+    EXPECT_EQ(work.pendingCount(), 0U);
 }
 
 TEST_F(DragSetTest, aPictureInMemoryThatIsAloneTravelsAsItsBytes)
 {
-    const DragSet set = makeDragSet({picture("pixels")}, writer, spool);
+    const DragSet set = makeDragSet({picture("pixels")}, writer, pictures);
     ASSERT_EQ(set.contents.writers.size(), 1U);
     const auto *data = std::get_if<PasteboardWriter::Data>(&set.contents.writers[0].content);
     ASSERT_TRUE(data);
     EXPECT_EQ(data->bytes, QByteArray("pixels"));
-    EXPECT_TRUE(set.savedFiles.isEmpty());
+    EXPECT_EQ(work.pendingCount(), 0U);
 }
 
-TEST_F(DragSetTest, aPictureInMemoryBesideOthersIsSavedOnceMore)
+TEST_F(DragSetTest, aPictureInMemoryBesideOthersTravelsAsAFile)
 {
     const DropItem image = picture("pixels");
-    const DragSet set = makeDragSet({file(QStringLiteral("a.txt")), image}, writer, spool);
+    const DragSet set = makeDragSet({file(QStringLiteral("a.txt")), image}, writer, pictures);
     ASSERT_EQ(set.contents.writers.size(), 2U);
-    ASSERT_EQ(set.savedFiles.size(), 1);
-    EXPECT_EQ(fileUrl(set.contents.writers[1]), set.savedFiles[0]);
-    EXPECT_EQ(bytesOf(set.savedFiles[0]), QByteArray("pixels"));
+    ASSERT_EQ(set.forms.size(), 2);
     EXPECT_EQ(set.items.constLast().id(), image.id());
+    EXPECT_TRUE(set.forms[1].isBeingMade());
+    work.runAll();
+    EXPECT_EQ(bytesOf(fileUrl(set.contents.writers[1])), QByteArray("pixels"));
+}
+
+TEST_F(DragSetTest, aPictureInMemoryIsSavedForTheFirstDragOnly)
+{
+    const QList<DropItem> both{picture("pixels"), picture("more")};
+    const DragSet first = makeDragSet(both, writer, pictures);
+    work.runAll();
+    clock.runPending();
+    const DragSet second = makeDragSet(both, writer, pictures);
+    EXPECT_EQ(work.pendingCount(), 0U);
+    ASSERT_EQ(second.contents.writers.size(), 2U);
+    for (std::size_t i = 0; i < 2; ++i)
+        EXPECT_EQ(fileUrl(second.contents.writers[i]), fileUrl(first.contents.writers[i]));
+    EXPECT_FALSE(second.forms[0].isBeingMade());
 }
 
 TEST_F(DragSetTest, whatCannotBeSavedStaysBehind)
 {
-    ScratchSpool broken("/proc/nowhere", 4711);
+    temporary.spoil();
     const DropItem kept = file(QStringLiteral("a.txt"));
-    const DragSet set = makeDragSet({picture("pixels"), kept, picture("more")}, writer, broken);
+    const DragSet set = makeDragSet({picture("pixels"), kept, picture("more")}, writer, pictures);
     ASSERT_EQ(set.items.size(), 1);
     EXPECT_EQ(set.items[0].id(), kept.id());
     EXPECT_EQ(set.contents.writers.size(), 1U);
@@ -99,9 +121,9 @@ TEST_F(DragSetTest, whatCannotBeSavedStaysBehind)
 
 TEST_F(DragSetTest, whereNothingElseCanTravelTheFirstGoesAlone)
 {
-    ScratchSpool broken("/proc/nowhere", 4711);
+    temporary.spoil();
     const DropItem first = picture("pixels");
-    const DragSet set = makeDragSet({first, picture("more")}, writer, broken);
+    const DragSet set = makeDragSet({first, picture("more")}, writer, pictures);
     ASSERT_EQ(set.items.size(), 1);
     EXPECT_EQ(set.items[0].id(), first.id());
     EXPECT_TRUE(std::holds_alternative<PasteboardWriter::Data>(set.contents.writers[0].content));
@@ -112,13 +134,13 @@ TEST_F(DragSetTest, aFileThatIsGoneStaysBehind)
     const DropItem gone = file(QStringLiteral("gone.txt"));
     ASSERT_TRUE(QFile::remove(folder.filePath(QStringLiteral("gone.txt"))));
     const DropItem image = picture("pixels");
-    const DragSet set = makeDragSet({gone, image}, writer, spool);
+    const DragSet set = makeDragSet({gone, image}, writer, pictures);
     ASSERT_EQ(set.items.size(), 1);
     EXPECT_EQ(set.items[0].id(), image.id());
     EXPECT_TRUE(std::holds_alternative<PasteboardWriter::Data>(set.contents.writers[0].content))
         << "what is left is alone";
-    EXPECT_TRUE(makeDragSet({gone}, writer, spool).items.isEmpty());
-    EXPECT_TRUE(makeDragSet({}, writer, spool).items.isEmpty());
+    EXPECT_TRUE(makeDragSet({gone}, writer, pictures).items.isEmpty());
+    EXPECT_TRUE(makeDragSet({}, writer, pictures).items.isEmpty());
 }
 
 } // namespace corvane::test

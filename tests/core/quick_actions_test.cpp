@@ -1,6 +1,8 @@
 #include "core/data_uris.h"
 #include "core/feedback.h"
+#include "core/item_preparation.h"
 #include "core/quick_actions.h"
+#include "core/saved_pictures.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_file_locality.h"
 #include "fakes/fake_general_pasteboard.h"
@@ -18,6 +20,7 @@ namespace {
 const DropItem text(DropItem::Text{QStringLiteral("h\u00e9llo\n")}, {}, {}, false);
 const DropItem link(DropItem::Link{QUrl(QStringLiteral("https://x.org/a%20b?q#f"))}, {}, {}, false);
 const DropItem image(DropItem::ImageBytes{"png bytes", UTType::png()}, {}, {}, false);
+const DropItem another(DropItem::ImageBytes{"more", UTType::png()}, {}, {}, false);
 
 struct QuickActionsTest : testing::Test {
     QuickActionsTest()
@@ -44,8 +47,22 @@ struct QuickActionsTest : testing::Test {
     void copyAsDataUri(const DropItem &item)
     {
         actions.copy(item, true);
+        finishWork();
+    }
+    void finishWork()
+    {
         work.runAll();
         clock.runPending();
+    }
+    /// The contents of the files that the last copy put on the clipboard; of the rest nothing.
+    QList<QByteArray> copiedFiles() const
+    {
+        QList<QByteArray> copied;
+        for (const PasteboardWriter &writer : pasteboard.writes.back().writers) {
+            const auto *file = std::get_if<PasteboardWriter::File>(&writer.content);
+            copied << (file ? test::contents(file->url) : QByteArray());
+        }
+        return copied;
     }
     /// What copying as a data URI puts on the clipboard.
     std::optional<QString> dataUri(const DropItem &item)
@@ -64,7 +81,10 @@ struct QuickActionsTest : testing::Test {
     test::FakeWorkQueue work;
     test::TestClock clock;
     DataUris dataUris{locality, remoteFiles, work, clock};
-    QuickActions actions{pasteboard, feedback, dataUris};
+    test::TemporarySpool scratch;
+    ItemPreparation preparation{scratch.spool, clock, work};
+    SavedPictures pictures{scratch.spool, preparation};
+    QuickActions actions{pasteboard, feedback, dataUris, pictures};
     QStringList messages;
 };
 
@@ -125,11 +145,62 @@ TEST_F(QuickActionsTest, CopiesSeveralInOneGoAndCountsThem)
     EXPECT_EQ(messages, QStringList{QStringLiteral("2 items copied")});
 }
 
-TEST_F(QuickActionsTest, CountsOfSeveralPicturesInMemoryThoseThatArrive)
+TEST_F(QuickActionsTest, CopiesSeveralPicturesInMemoryAsFiles)
 {
-    const DropItem another(DropItem::ImageBytes{"more", UTType::png()}, {}, {}, false);
+    actions.copy({image, text, another});
+    EXPECT_TRUE(pasteboard.writes.empty()) << "they are written beside the main thread";
+    finishWork();
+    EXPECT_EQ(written().writers.size(), 3U);
+    EXPECT_EQ(copiedFiles(), (QList<QByteArray>{"png bytes", {}, "more"}));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("3 items copied")});
+}
+
+TEST_F(QuickActionsTest, MakesNoMoreFilesForPicturesThatAreCopiedAgain)
+{
+    actions.copy({image, another});
+    finishWork();
+    actions.copy({another, image});
+    ASSERT_EQ(pasteboard.writes.size(), 2U) << "nothing is left to do";
+    EXPECT_EQ(copiedFiles(), (QList<QByteArray>{"more", "png bytes"}));
+    EXPECT_EQ(QDir(scratch.spool.directory().toLocalFile()).entryList(QDir::Files).size(), 2);
+}
+
+TEST_F(QuickActionsTest, DoesNotCountPicturesThatCouldNotBeSaved)
+{
+    scratch.spoil();
+    actions.copy({image, another, text, link});
+    EXPECT_EQ(written().writers.size(), 4U);
+    actions.copy({image, another});
+    EXPECT_EQ(messages,
+              (QStringList{QStringLiteral("2 items copied"), QStringLiteral("1 items copied")}));
+}
+
+TEST_F(QuickActionsTest, DoesNotCopyWhatIsRemovedBeforeItIsSaved)
+{
     actions.copy({image, another, text});
+    pictures.itemLeft(image.id(), true);
+    finishWork();
+    EXPECT_EQ(copiedFiles(), (QList<QByteArray>{"more", {}}));
     EXPECT_EQ(messages, QStringList{QStringLiteral("2 items copied")});
+}
+
+TEST_F(QuickActionsTest, CopiesNothingWhereAllIsRemovedBeforeItIsSaved)
+{
+    actions.copy({image, another});
+    pictures.itemLeft(image.id(), true);
+    pictures.itemLeft(another.id(), true);
+    finishWork();
+    EXPECT_TRUE(pasteboard.writes.empty());
+    EXPECT_TRUE(messages.isEmpty());
+}
+
+TEST_F(QuickActionsTest, PicturesThatAreBeingSavedGiveWayToWhatWasCopiedMeanwhile)
+{
+    actions.copy({image, another});
+    actions.copy({text, link});
+    finishWork();
+    EXPECT_EQ(messages, QStringList{QStringLiteral("2 items copied")});
+    EXPECT_TRUE(std::holds_alternative<PasteboardWriter::Text>(written().writers[0].content));
 }
 
 TEST_F(QuickActionsTest, WorksWhereNobodyShowsMessages)

@@ -240,6 +240,24 @@ TEST_F(Discard, NeverDeletesAFileOfTheUser)
     EXPECT_TRUE(exists(urlOf(item)));
 }
 
+TEST_F(Discard, IsToldWithWhetherFilesGoToo)
+{
+    fill(4);
+    const QList<DropItem> items = store.items();
+    QList<QUuid> left;
+    QList<bool> deleting;
+    store.onLeft = [&](const QUuid &id, bool deletingFiles) {
+        left << id;
+        deleting << deletingFiles;
+    };
+    store.ejected(0, true);
+    store.ejected(0, false);
+    store.discard(0, true);
+    store.clearAll();
+    EXPECT_EQ(left, (QList<QUuid>{items[0].id(), items[1].id(), items[2].id(), items[3].id()}));
+    EXPECT_EQ(deleting, (QList<bool>{false, true, true, true}));
+}
+
 using Ejected = ShelfStoreTest;
 
 TEST_F(Ejected, OnlyItemLeavesAndClosesTheShelfButKeepsItsFile)

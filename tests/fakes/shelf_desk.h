@@ -7,6 +7,7 @@
 #include "core/picture_items.h"
 #include "core/remote_descriptions.h"
 #include "core/remote_pictures.h"
+#include "core/saved_pictures.h"
 #include "core/scratch_spool.h"
 #include "fakes/fake_file_locality.h"
 #include "fakes/fake_image_codec.h"
@@ -94,6 +95,7 @@ struct ShelfDesk {
     FakeWorkQueue work;
     ItemPreparation preparation{spool, clock, work};
     PictureItems pictures{spool, converter, codec, preparation};
+    SavedPictures savedPictures{spool, preparation};
     FakeFileLocality locality;
     FakeRemoteFiles remoteFiles;
     RemoteDescriptions remoteDescriptions{remoteFiles};

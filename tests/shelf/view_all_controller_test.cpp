@@ -26,7 +26,7 @@ protected:
     ViewAllController::Context context()
     {
         return {{panel, desk.clock, desk.motion, desk.theme, desk.keyboard, desk.dragWriter,
-                 desk.spool, desk.preparation},
+                 desk.savedPictures, desk.preparation},
                 store,
                 quickActions,
                 desktop,

@@ -38,8 +38,8 @@ protected:
 
     ViewAllView::Context context()
     {
-        return {desk.panel,    desk.clock,      desk.motion, desk.theme,
-                desk.keyboard, desk.dragWriter, desk.spool,  desk.preparation};
+        return {desk.panel,    desk.clock,      desk.motion,        desk.theme,
+                desk.keyboard, desk.dragWriter, desk.savedPictures, desk.preparation};
     }
     void hold(int count)
     {
@@ -438,7 +438,7 @@ TEST_F(ViewAllViewTest, nothingThatCouldTravelStartsNoDrag)
     EXPECT_EQ(log, QStringList{QStringLiteral("nothing to drag")});
 }
 
-TEST_F(ViewAllViewTest, aPictureSavedForADragThatFailedIsRemovedAgain)
+TEST_F(ViewAllViewTest, picturesSavedForADragServeTheNextOne)
 {
     const DropItem::ImageBytes pixels{"pixels", UTType::png()};
     for (int i = 0; i < 2; ++i)
@@ -449,12 +449,21 @@ TEST_F(ViewAllViewTest, aPictureSavedForADragThatFailedIsRemovedAgain)
         return QDir(desk.spool.directory().toLocalFile()).entryList(QDir::Files).size();
     };
     drag(middleOf(0));
+    ASSERT_TRUE(desk.panel.dragOut->whenReady);
+    std::optional<PasteboardContents> handedOver;
+    desk.panel.dragOut->whenReady(
+        [&](const std::optional<PasteboardContents> &contents) { handedOver = contents; });
+    EXPECT_FALSE(handedOver) << "they are written beside the main thread";
+    desk.work.runAll();
+    desk.clock.runPending();
+    EXPECT_TRUE(handedOver);
     EXPECT_EQ(saved(), 2);
     endDrag(DragOperation::None);
-    EXPECT_EQ(saved(), 0);
+    EXPECT_EQ(saved(), 2) << "the clipboard may hold them";
     drag(middleOf(0));
+    EXPECT_FALSE(desk.panel.dragOut->whenReady) << "nothing is left to do";
     endDrag(DragOperation::Copy);
-    EXPECT_EQ(saved(), 2) << "whoever took them may still be reading";
+    EXPECT_EQ(saved(), 2);
 }
 
 TEST_F(ViewAllViewTest, oneItemDragsItsPictureAndSeveralAStack)
