@@ -4,7 +4,9 @@
 #include "e2e/desktop_test.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImage>
+#include <QUrl>
 
 #include <gmock/gmock.h>
 
@@ -35,6 +37,15 @@ protected:
         EXPECT_TRUE(dropFiles(paths));
         EXPECT_TRUE(holds(count));
         return paths;
+    }
+    static QByteArray png()
+    {
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        QImage picture(20, 20, QImage::Format_RGB32);
+        picture.fill(Qt::darkCyan);
+        EXPECT_TRUE(picture.save(&buffer, "png"));
+        return bytes;
     }
     bool holds(int count) { return corvane().waitForSize(CorvaneProgram::carousel(inView, count)); }
 
@@ -294,13 +305,8 @@ TEST_P(ViewAllItems, everythingIsSelectedCopiedAndPastedInTheFileManager)
 
 TEST_P(ViewAllItems, deleteRemovesWhatIsTickedAndItsSpooledFiles)
 {
-    QByteArray png;
-    QBuffer buffer(&png);
-    QImage picture(20, 20, QImage::Format_RGB32);
-    picture.fill(Qt::darkCyan);
-    ASSERT_TRUE(picture.save(&buffer, "png"));
     startWithInView(inView);
-    ASSERT_TRUE(dropOffers({{"image/png", png}}));
+    ASSERT_TRUE(dropOffers({{"image/png", png()}}));
     ASSERT_TRUE(dropFiles(makeFiles(2)));
     ASSERT_TRUE(holds(3));
     ASSERT_TRUE(eventually([&] { return corvane().spooled().size() == 1; }));
@@ -312,6 +318,33 @@ TEST_P(ViewAllItems, deleteRemovesWhatIsTickedAndItsSpooledFiles)
     EXPECT_TRUE(eventually([&] { return corvane().spooled().isEmpty(); }));
     EXPECT_TRUE(QFile::exists(makeFolder(u"from"_s) + u"/a.txt"_s)) << "the user's own stay";
     EXPECT_TRUE(corvane().isShown());
+}
+
+TEST_P(ViewAllItems, severalPicturesWithoutFilesAreCopiedAsFilesThatGoWithThem)
+{
+    startWithInView(inView);
+    QFile inTheWay(corvane().spool());
+    ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));
+    for (int i = 0; i < 2; ++i)
+        ASSERT_TRUE(dropOffers({{"image/png", png()}}));
+    ASSERT_TRUE(holds(2));
+    ASSERT_TRUE(inTheWay.remove());
+
+    ASSERT_TRUE(openFromButton(2));
+    hands().key('c', {keys::control});
+    QList<QByteArray> copied;
+    ASSERT_TRUE(eventually([&] {
+        copied
+            = m_desktop.clipboard(u"text/uri-list"_s).value_or(QByteArray()).trimmed().split('\n');
+        return copied.size() == 2;
+    }));
+    for (const QByteArray &address : copied) {
+        QFile file(QUrl(QString::fromUtf8(address.trimmed())).toLocalFile());
+        ASSERT_TRUE(file.open(QFile::ReadOnly));
+        EXPECT_EQ(file.readAll(), png());
+    }
+    hands().key(keys::forwardDelete);
+    EXPECT_TRUE(eventually([&] { return corvane().spooled().isEmpty(); }));
 }
 
 TEST_P(ViewAllItems, aTargetThatRefusesLeavesEverythingAndOneThatTakesTextGetsEveryPath)
