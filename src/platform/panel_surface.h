@@ -50,6 +50,7 @@ public:
     /// At this moment, whatever events are on their way. The toolkit does not always know a
     /// repeat's release from that of the hand.
     virtual bool isKeyDown(std::uint32_t key) const = 0;
+    virtual bool isAnyKeyDown() const = 0;
     /// At this moment. The toolkit forgets the buttons when a drag leaves a window of ours.
     virtual bool isLeftButtonDown() const = 0;
     /// Gives the keyboard back if nobody has it: what had it was hidden, and nothing took it since.

@@ -60,6 +60,9 @@ void ViewAllView::mouseExited()
 
 void ViewAllView::mouseDown(const MouseEvent &event)
 {
+    // Pressed before it was hidden, and told only now.
+    if (!m_isShown)
+        return;
     m_context.panel.makeKey();
     m_context.panel.orderFrontRegardless();
     if (const auto control = view_all_layout::controlAt(m_layout, event.location)) {

@@ -156,7 +156,7 @@ protected:
     QList<DropItem> items = sampleItems();
     QSet<QUuid> selection;
     ViewAllView view{{desk.panel, desk.clock, desk.motion, desk.theme, desk.keyboard,
-                      desk.dragWriter, desk.spool, desk.preparation}};
+                      desk.dragWriter, desk.savedPictures, desk.preparation}};
 };
 
 } // namespace

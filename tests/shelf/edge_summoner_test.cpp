@@ -314,6 +314,17 @@ TEST_F(EdgeSummonerTest, CanBeSummonedAgainAndAgain)
     }
 }
 
+TEST_F(EdgeSummonerTest, ComesWithoutABarThatWasLeftOpen)
+{
+    store.setViewAllOpen(true);
+    summonShelf();
+    EXPECT_TRUE(isShown());
+    EXPECT_FALSE(store.isViewAllOpen());
+    leaveShelf();
+    desk.clock.advance(leaveDelay);
+    EXPECT_FALSE(isShown());
+}
+
 TEST_F(EdgeSummonerTest, AShelfThatIsUsedStaysAsIfOpenedByHand)
 {
     summonShelf();

@@ -624,6 +624,25 @@ TEST_F(ViewAllViewTest, hiddenItTakesNoKeysUntilItIsShownAgain)
     EXPECT_EQ(log, QStringList{QStringLiteral("close")});
 }
 
+TEST_F(ViewAllViewTest, hiddenItTakesNoPresses)
+{
+    show(3);
+    desk.panel.orderFrontRegardless();
+    view->wasHidden();
+    desk.panel.orderOut();
+    desk.panel.isKey = false;
+    // Pressed before it was hidden, and told only now.
+    for (double x = 5; x < desk.panel.frame().width(); x += 10) {
+        for (double y = 5; y < desk.panel.frame().height(); y += 10) {
+            view->mouseDown({QPointF(x, y)});
+            view->mouseUp({QPointF(x, y)});
+        }
+    }
+    EXPECT_EQ(log, QStringList());
+    EXPECT_FALSE(desk.panel.isVisible());
+    EXPECT_FALSE(desk.panel.isKey);
+}
+
 TEST_F(ViewAllViewTest, hiddenItForgetsThePressAndThePointer)
 {
     show(3);

@@ -164,8 +164,10 @@ void QtPanelWindow::letGo(DragOperation operation)
 {
     if (operation == DragOperation::None && m_wasKeyBeforePress)
         return;
-    // With the button still down it was Escape that ended the drag. Its repeats are nobody else's.
-    m_resignsOnRelease = m_surface.isLeftButtonDown();
+    // With the button and a key still down it was Escape that ended the drag. Its repeats are
+    // nobody else's. Another button ends a drag, too, and then there is no release to wait for.
+    m_resignsOnRelease = operation == DragOperation::None && m_surface.isLeftButtonDown()
+        && m_surface.isAnyKeyDown();
     if (!m_resignsOnRelease)
         m_surface.giveKeyboardBack();
 }

@@ -4,6 +4,8 @@
 
 #include <xcb/xinput.h>
 
+#include <algorithm>
+
 namespace corvane {
 
 namespace {
@@ -73,6 +75,13 @@ bool X11KeyShield::isDown(xcb_keycode_t key) const
     const X11Reply<xcb_query_keymap_reply_t> reply(
         xcb_query_keymap_reply(m_connection.get(), xcb_query_keymap(m_connection.get()), nullptr));
     return reply && (reply->keys[key / bitsPerByte] >> (key % bitsPerByte) & 1) != 0;
+}
+
+bool X11KeyShield::isAnyDown() const
+{
+    const X11Reply<xcb_query_keymap_reply_t> reply(
+        xcb_query_keymap_reply(m_connection.get(), xcb_query_keymap(m_connection.get()), nullptr));
+    return reply && std::ranges::any_of(reply->keys, [](std::uint8_t keys) { return keys != 0; });
 }
 
 void X11KeyShield::handle(const xcb_generic_event_t &event)

@@ -22,6 +22,7 @@ public:
     /// none.
     void hold(xcb_keycode_t key, std::uint16_t modifiers);
     bool isDown(xcb_keycode_t key) const;
+    bool isAnyDown() const;
 
 private:
     void handle(const xcb_generic_event_t &event);

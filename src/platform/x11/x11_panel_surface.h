@@ -42,6 +42,7 @@ public:
     {
         return m_keyShield.isDown(static_cast<xcb_keycode_t>(key));
     }
+    bool isAnyKeyDown() const override { return m_keyShield.isAnyDown(); }
     bool isLeftButtonDown() const override;
     bool isTouchpad(std::int64_t device) override { return m_pointingDevices.isTouchpad(device); }
     bool isComposited() const override { return m_isComposited; }
