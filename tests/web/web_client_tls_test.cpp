@@ -156,6 +156,18 @@ TEST_F(WebClientTls, aHandshakeThatNeverEndsIsLeft)
     EXPECT_FALSE(fetch(url));
 }
 
+TEST_F(WebClientTls, theLastAddressIsNotHurriedByTheOneBefore)
+{
+    network.nextAddressAfter = 0;
+    HttpServer server(localhost, authority().issue(u"DNS:two.test"_s));
+    server.answer("/", response(200, "hello"));
+    // Nobody can connect to everybody, and that is known at once.
+    resolver->name(u"two.test"_s, {u"255.255.255.255"_s, localhost});
+    const auto answer = fetch(server.url(u"/"_s, u"two.test"_s));
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->body, "hello");
+}
+
 TEST_F(WebClientTls, redirectionsMayLeadToHttpAndBack)
 {
     HttpServer plain;

@@ -155,6 +155,7 @@ std::optional<QByteArray> HttpExchange::redirection() const
 void HttpExchange::tryNextAddress()
 {
     dropSocket();
+    m_patience.stop();
     if (m_plan.proxy ? std::exchange(m_hasTriedProxy, true) : m_plan.addresses.isEmpty())
         return finish(false);
     if (!m_plan.proxy) {
