@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <optional>
+#include <utility>
 
 namespace corvane::test {
 
@@ -126,6 +127,25 @@ TEST_F(MountTableTest, whatShowsAnotherFolderIsAsRemoteAsThat)
     EXPECT_FALSE(isRemote("local/a"));
     mount("deep", "fuse.bindfs", path("two\\040words/a"));
     EXPECT_TRUE(isRemote("deep/a")) << "also through a name that is written in another way";
+}
+
+TEST_F(MountTableTest, whatShowsFoldersThatItDoesNotNameIsRemote)
+{
+    for (const auto &[program, source] :
+         {std::pair("encfs", "encfs"), std::pair("mergerfs", "disk1:disk2"),
+          std::pair("mhddfs", "mhddfs"), std::pair("unionfs", "unionfs"),
+          std::pair("unionfs-fuse", "none"), std::pair("bindfs", "name@of-the-users-own")}) {
+        mount("local", QByteArray("fuse.") + program, source);
+        EXPECT_TRUE(isRemote("local/a")) << program;
+    }
+    mount("local", "fuse.mhddfs", path("other") + ';' + path("net"));
+    EXPECT_TRUE(isRemote("local/a"));
+    mount("local", "fuse.mhddfs", path("other") + ';' + path("another"));
+    EXPECT_FALSE(isRemote("local/a"));
+    mount("local", "fuse.encfs", path("cipher"));
+    EXPECT_FALSE(isRemote("local/a"));
+    mount("local", "fuse.portal", "portal");
+    EXPECT_FALSE(isRemote("local/a")) << "it shows no folders";
 }
 
 TEST_F(MountTableTest, inspectsWhatIsLocalAndOnlyThat)

@@ -62,14 +62,25 @@ QList<QByteArray> shownFolders(const QByteArray &type, const QByteArray &source)
 {
     if (!type.startsWith("fuse"))
         return {};
-    // "/home/me/.cipher", "cryfs@/home/me/.cipher", "/disk1:/disk2"
+    // "/home/me/.cipher", "cryfs@/home/me/.cipher", "/disk1:/disk2", "/disk1;/disk2"
+    const char separator = type == "fuse.mhddfs" ? ';' : ':';
     QList<QByteArray> folders;
-    for (const QByteArray &part : source.split(':')) {
+    for (const QByteArray &part : source.split(separator)) {
         const QByteArray folder = part.startsWith("/") ? part : part.mid(part.indexOf('@') + 1);
         if (folder.startsWith('/'))
             folders.append(folder);
     }
     return folders;
+}
+
+bool showsUnnamedFolders(const QByteArray &type, const QByteArray &source)
+{
+    static constexpr std::array names
+        = {"fuse.gocryptfs"sv, "fuse.encfs"sv,   "fuse.cryfs"sv,
+           "fuse.securefs"sv,  "fuse.bindfs"sv,  "fuse.mergerfs"sv,
+           "fuse.mhddfs"sv,    "fuse.unionfs"sv, "fuse.unionfs-fuse"sv};
+    const std::string_view name(type.constData(), std::size_t(type.size()));
+    return isOneOf(names, name) && shownFolders(type, source).isEmpty();
 }
 
 } // namespace corvane::file_system_kind

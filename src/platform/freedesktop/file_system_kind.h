@@ -18,4 +18,7 @@ bool isRemote(const QByteArray &type, const QByteArray &point);
 /// names them. It is as remote as they are.
 QList<QByteArray> shownFolders(const QByteArray &type, const QByteArray &source);
 
+/// Whether it shows folders in another way and its source names none of them: they may be anywhere.
+bool showsUnnamedFolders(const QByteArray &type, const QByteArray &source);
+
 } // namespace corvane::file_system_kind

@@ -202,6 +202,7 @@ MountTable::Mounts MountTable::readTable() const
         const auto shown = file_system_kind::shownFolders(type, source);
         // What it shows was mounted before it.
         const bool isRemote = file_system_kind::isRemote(type, point)
+            || file_system_kind::showsUnnamedFolders(type, source)
             || std::ranges::any_of(shown,
                                    [&](const auto &one) { return liesOnRemote(mounts, one); });
         mounts[point] = isRemote;
