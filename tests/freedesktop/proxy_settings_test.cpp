@@ -91,6 +91,20 @@ TEST(ProxySettings, LeaveOutAddressesAndBlocksOfThem)
         EXPECT_FALSE(isDirect("http://10.0.0.1/", {QString::fromLatin1(odd)})) << odd;
 }
 
+TEST(ProxySettings, LeaveOutAddressesInBrackets)
+{
+    EXPECT_TRUE(isDirect("http://[::1]/", {QStringLiteral("[::1]")}));
+    EXPECT_TRUE(isDirect("http://[::1]:81/", {QStringLiteral("[::1]")}));
+    EXPECT_TRUE(isDirect("http://[::1]:81/", {QStringLiteral("[0::1]:81")}));
+    EXPECT_TRUE(isDirect("http://[fd00::1]/", {QStringLiteral("[fd00::]/8")}));
+    EXPECT_FALSE(isDirect("http://[::1]/", {QStringLiteral("[::1]:81")}));
+    EXPECT_FALSE(isDirect("http://[::2]/", {QStringLiteral("[::1]")}));
+    for (const char *odd : {"[", "[]", "]", "[]:80", "[::1", "[::1]81", "[::1]:", "[a.test]"}) {
+        EXPECT_FALSE(isDirect("http://[::1]/", {QString::fromLatin1(odd)})) << odd;
+        EXPECT_FALSE(isDirect("http://a.test/", {QString::fromLatin1(odd)})) << odd;
+    }
+}
+
 TEST(ProxySettings, OfTheEnvironmentAreOfTheirScheme)
 {
     const auto settings = proxy_sources::fromEnvironment(

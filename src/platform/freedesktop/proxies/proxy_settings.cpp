@@ -57,24 +57,53 @@ bool isOrIsBelow(const QByteArray &host, QByteArray domain)
     return host.size() == domain.size() || host.chopped(domain.size()).endsWith('.');
 }
 
-bool matches(const QByteArray &host, int port, QByteArray entry)
+/// An exception as people write it, with a port behind it or without.
+struct Exception {
+    QByteArray host;
+    std::optional<QByteArray> port;
+};
+
+Exception exceptionOf(const QByteArray &entry)
+{
+    qsizetype end = entry.indexOf(':');
+    // The end of an address with colons is no port.
+    if (end != entry.lastIndexOf(':'))
+        end = -1;
+    return end < 0 ? Exception{entry, {}} : Exception{entry.first(end), entry.sliced(end + 1)};
+}
+
+/// "[::1]:80" and "[fd00::]/8"; none where something else is in brackets.
+std::optional<Exception> bracketed(const QByteArray &entry)
+{
+    const qsizetype end = entry.indexOf(']');
+    if (end < 0)
+        return std::nullopt;
+    const QByteArray address = entry.sliced(1, end - 1);
+    const QByteArray rest = entry.sliced(end + 1);
+    if (!address.contains(':') || !literal(address))
+        return std::nullopt;
+    if (rest.startsWith(':'))
+        return Exception{address, rest.sliced(1)};
+    if (!rest.isEmpty() && !rest.startsWith('/'))
+        return std::nullopt;
+    return Exception{address + rest, {}};
+}
+
+bool matches(const QByteArray &host, int port, const QByteArray &entry)
 {
     if (entry == "*")
         return true;
     if (entry == "<local>")
         return !host.contains('.') && !host.contains(':');
     const auto address = literal(host);
-    if (entry.contains('/'))
-        return address && isInBlock(*address, entry);
-    // A port behind a name, and not the end of an address with colons.
-    if (const qsizetype colon = entry.indexOf(':'); colon >= 0 && colon == entry.lastIndexOf(':')) {
-        if (entry.sliced(colon + 1).toInt() != port)
-            return false;
-        entry.truncate(colon);
-    }
-    if (const auto other = literal(entry); other || address)
+    const auto exception = entry.startsWith('[') ? bracketed(entry) : exceptionOf(entry);
+    if (!exception || (exception->port && exception->port->toInt() != port))
+        return false;
+    if (exception->host.contains('/'))
+        return address && isInBlock(*address, exception->host);
+    if (const auto other = literal(exception->host); other || address)
         return address && other && *address == *other;
-    return isOrIsBelow(host, entry);
+    return isOrIsBelow(host, exception->host);
 }
 
 bool isExcepted(const QUrl &url, const QStringList &entries)
