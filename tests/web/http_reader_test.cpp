@@ -1,5 +1,6 @@
 #include "platform/qt/web/http_reader.h"
 
+#include <QByteArrayList>
 #include <QStringBuilder>
 
 #include <gtest/gtest.h>
@@ -109,6 +110,23 @@ TEST(HttpReader, KnowsTheFieldsInAnySpelling)
     EXPECT_EQ(head.location, "/a");
     EXPECT_EQ(head.contentLength, 3);
     EXPECT_EQ(head.contentCoding, "gzip");
+}
+
+TEST(HttpReader, TakesCodingsFromAllLinesThatNameThem)
+{
+    const QByteArray body = "\r\n5\r\nhello\r\n0\r\n\r\n";
+    const QByteArray line = "Transfer-Encoding: chunked\r\n";
+    EXPECT_EQ(read(ok + "Transfer-Encoding:\r\n" + line + body, 4).body, "hello");
+    EXPECT_EQ(read(ok + line + "Transfer-Encoding: \r\n" + body, 4).body, "hello");
+    const QByteArrayList several = {"Transfer-Encoding: identity\r\n" + line, line + line,
+                                    line + "transfer-encoding: gzip\r\n"};
+    for (const QByteArray &lines : several) {
+        const Answer answer = read(ok + lines + body, 4);
+        EXPECT_EQ(answer.state, State::Broken) << lines.constData();
+        EXPECT_EQ(answer.body, QByteArray()) << lines.constData();
+    }
+    EXPECT_EQ(read(ok + "Content-Encoding: identity\r\nContent-Encoding: br\r\n\r\nx", 4).state,
+              State::Broken);
 }
 
 TEST(HttpReader, UndoesWhatIsCompressedWithAndWithoutItsHead)

@@ -25,16 +25,23 @@ qint64 lengthOf(const QByteArray &value)
     return isNumber && length >= 0 ? length : -1;
 }
 
+void append(QByteArray &codings, const QByteArray &value)
+{
+    if (!codings.isEmpty() && !value.isEmpty())
+        codings += ", ";
+    codings += value.toLower();
+}
+
 void take(HttpHead &head, const QByteArray &name, const QByteArray &value)
 {
     if (name == "location" && head.location.isEmpty())
         head.location = value;
     else if (name == "content-length" && head.contentLength < 0)
         head.contentLength = lengthOf(value);
-    else if (name == "transfer-encoding" && head.transferCoding.isEmpty())
-        head.transferCoding = value.toLower();
-    else if (name == "content-encoding" && head.contentCoding.isEmpty())
-        head.contentCoding = value.toLower();
+    else if (name == "transfer-encoding")
+        append(head.transferCoding, value);
+    else if (name == "content-encoding")
+        append(head.contentCoding, value);
 }
 
 } // namespace

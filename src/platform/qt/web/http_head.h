@@ -12,7 +12,7 @@ struct HttpHead {
     QByteArray location;
     /// -1 where none is told.
     qint64 contentLength = -1;
-    /// In lower case; empty for none.
+    /// In lower case; empty for none. Several, from one line or more, have commas between them.
     QByteArray transferCoding;
     QByteArray contentCoding;
 
