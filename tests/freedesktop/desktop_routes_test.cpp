@@ -1,10 +1,10 @@
-#include "platform/freedesktop/proxies/command_output.h"
 #include "platform/freedesktop/proxies/desktop_routes.h"
 
 #include <QHash>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <future>
 #include <mutex>
 
@@ -13,24 +13,35 @@ namespace corvane::test {
 namespace {
 
 using Kind = WebRoute::Kind;
+using End = CommandOutput::End;
 
 /// A session that consists of what a test says.
 class DesktopRoutesTest : public testing::Test {
 protected:
-    WebRoute find(const char *address)
+    DesktopRoutes::Sources session()
     {
-        DesktopRoutes routes({[this](const char *name) { return variables.value(name); },
-                              [this](const std::vector<QByteArray> &arguments) {
-                                  const std::lock_guard lock(mutex);
-                                  commands.push_back(arguments);
-                                  return arguments.front() == "gdbus" ? portal : gnome;
-                              },
-                              [this](const QByteArray &path) { return files.value(path); }, 1000});
+        return {[this](const char *name) { return variables.value(name); },
+                [this](const std::vector<QByteArray> &arguments) {
+                    const std::lock_guard lock(mutex);
+                    commands.push_back(arguments);
+                    return arguments.front() == "gdbus" ? portal : gnome;
+                },
+                [this](const QByteArray &path) { return files.value(path); }, 1000};
+    }
+    static WebRoute find(DesktopRoutes &routes, const char *address)
+    {
         std::promise<WebRoute> promise;
         routes.find(QUrl(QString::fromLatin1(address)),
                     [&promise](const WebRoute &route) { promise.set_value(route); });
         return promise.get_future().get();
     }
+    /// Of a program that has only begun to look.
+    WebRoute find(const char *address)
+    {
+        DesktopRoutes routes(session());
+        return find(routes, address);
+    }
+    static CommandOutput says(const QByteArray &text) { return {End::Well, text}; }
     static WebRoute by(WebProxy::Kind kind, const char *host, quint16 port)
     {
         return {Kind::Proxied, {kind, QString::fromLatin1(host), port}};
@@ -47,8 +58,8 @@ protected:
     std::mutex mutex;
     QHash<QByteArray, QByteArray> variables;
     QHash<QByteArray, QByteArray> files;
-    std::optional<QByteArray> gnome;
-    std::optional<QByteArray> portal;
+    CommandOutput gnome{End::Failed};
+    CommandOutput portal{End::Failed};
     std::vector<std::vector<QByteArray>> commands;
 };
 
@@ -65,15 +76,15 @@ const QByteArray gnomeScript = "org.gnome.system.proxy mode 'auto'\n";
 TEST_F(DesktopRoutesTest, AreDirectWhereNobodyNamesAProxy)
 {
     EXPECT_EQ(find("http://far.test/"), WebRoute{});
-    portal = "(['direct://'],)";
+    portal = says("(['direct://'],)");
     EXPECT_EQ(find("http://far.test/"), WebRoute{});
 }
 
 TEST_F(DesktopRoutesTest, AreFirstTheEnvironmentsThenTheDesktopsThenThePortals)
 {
-    portal = "(['http://portal:3'],)";
+    portal = says("(['http://portal:3'],)");
     EXPECT_EQ(find("http://far.test/"), by(http, "portal", 3));
-    gnome = gnomeManual;
+    gnome = says(gnomeManual);
     EXPECT_EQ(find("http://far.test/"), by(http, "gnome", 1));
     EXPECT_EQ(find("https://far.test/"), by(socks, "sock", 2));
     EXPECT_EQ(find("https://near.test/"), WebRoute{});
@@ -83,7 +94,7 @@ TEST_F(DesktopRoutesTest, AreFirstTheEnvironmentsThenTheDesktopsThenThePortals)
 
 TEST_F(DesktopRoutesTest, AreKdesOwnInItsSession)
 {
-    gnome = gnomeManual;
+    gnome = says(gnomeManual);
     variables = {{"XDG_CURRENT_DESKTOP", "KDE"}, {"HOME", "/home/me"}};
     files["/home/me/.config/kioslaverc"]
         = "[Proxy Settings]\nProxyType=1\nhttpProxy=http://kde 5\n";
@@ -94,12 +105,12 @@ TEST_F(DesktopRoutesTest, AreKdesOwnInItsSession)
 
 TEST_F(DesktopRoutesTest, OfAScriptAreThePortalsOrNone)
 {
-    gnome = gnomeScript;
+    gnome = says(gnomeScript);
     EXPECT_EQ(find("http://far.test/").kind, Kind::NeedsScript);
     // On a desktop whose settings it does not know it says so of everything.
-    portal = "(['direct://'],)";
+    portal = says("(['direct://'],)");
     EXPECT_EQ(find("http://far.test/").kind, Kind::NeedsScript);
-    portal = "(['http://chosen:6'],)";
+    portal = says("(['http://chosen:6'],)");
     EXPECT_EQ(find("http://far.test/"), by(http, "chosen", 6));
 }
 
@@ -114,9 +125,9 @@ TEST_F(DesktopRoutesTest, NothingGoesPastTorWhileItListens)
 {
     listenWithTor();
     EXPECT_EQ(find("http://far.test/"), torBrowser);
-    portal = "(['direct://'],)";
+    portal = says("(['direct://'],)");
     EXPECT_EQ(find("http://far.test/"), torBrowser);
-    gnome = gnomeManual;
+    gnome = says(gnomeManual);
     EXPECT_EQ(find("http://near.test/"), torBrowser) << "an exception is no reason";
     EXPECT_EQ(find("http://far.test/"), by(http, "gnome", 1)) << "not directly either";
 }
@@ -135,22 +146,76 @@ TEST_F(DesktopRoutesTest, OnionAddressesGoByTorOrNotAtAll)
 {
     EXPECT_EQ(find("http://hidden.onion/").kind, Kind::Unusable);
     EXPECT_EQ(find("http://hidden.ONION./").kind, Kind::Unusable);
-    gnome = gnomeManual;
+    gnome = says(gnomeManual);
     EXPECT_EQ(find("http://hidden.onion/").kind, Kind::Unusable) << "no other proxy knows them";
     listenWithTor();
     EXPECT_EQ(find("http://hidden.onion/"), torBrowser);
 }
 
+TEST_F(DesktopRoutesTest, AreWithheldWhileTheSettingsAreNotToBeHad)
+{
+    gnome = {End::Unknown};
+    EXPECT_EQ(find("http://far.test/").kind, Kind::Unusable);
+    portal = says("(['direct://'],)");
+    EXPECT_EQ(find("http://far.test/").kind, Kind::Unusable) << "they may name a proxy";
+    listenWithTor();
+    EXPECT_EQ(find("http://far.test/").kind, Kind::Unusable) << "they may name another Tor";
+    EXPECT_EQ(find("http://hidden.onion/"), torBrowser);
+    variables["http_proxy"] = "http://variable:4";
+    EXPECT_EQ(find("http://far.test/"), by(http, "variable", 4)) << "nobody asks for them then";
+}
+
+TEST_F(DesktopRoutesTest, AreWithheldWhileThePortalIsSilent)
+{
+    portal = {End::Unknown};
+    EXPECT_EQ(find("http://far.test/").kind, Kind::Unusable);
+    gnome = says(gnomeScript);
+    EXPECT_TRUE(find("http://far.test/").isWithheld());
+    gnome = says(gnomeManual);
+    EXPECT_EQ(find("http://far.test/"), by(http, "gnome", 1)) << "nobody asks it then";
+}
+
+TEST_F(DesktopRoutesTest, SilenceIsNotRemembered)
+{
+    DesktopRoutes routes(session());
+    gnome = {End::Unknown};
+    EXPECT_EQ(find(routes, "http://far.test/").kind, Kind::Unusable);
+    gnome = {End::Failed};
+    portal = {End::Unknown};
+    EXPECT_EQ(find(routes, "http://far.test/").kind, Kind::Unusable);
+    EXPECT_EQ(find(routes, "http://far.test/").kind, Kind::Unusable);
+    portal = says("(['http://portal:3'],)");
+    EXPECT_EQ(find(routes, "http://far.test/"), by(http, "portal", 3));
+}
+
+TEST_F(DesktopRoutesTest, ThePortalIsGivenNoOtherLimit)
+{
+    find("http://far.test/");
+    ASSERT_EQ(commands.back().front(), "gdbus");
+    EXPECT_EQ(std::ranges::count(commands.back(), "--timeout"), 0)
+        << "when it runs out, silence looks like a failure";
+}
+
 TEST(CommandOutput, IsWhatAProgramPrints)
 {
     using namespace std::chrono_literals;
-    EXPECT_EQ(commandOutput({"echo", "a b"}, 10s), "a b\n");
-    EXPECT_EQ(commandOutput({"sh", "-c", "echo complaint >&2"}, 10s), "");
-    EXPECT_FALSE(commandOutput({"sh", "-c", "echo x; exit 1"}, 10s));
-    EXPECT_FALSE(commandOutput({"/no/such/program"}, 10s));
-    EXPECT_FALSE(commandOutput({"yes"}, 10s)) << "more than anybody wants";
-    EXPECT_FALSE(commandOutput({"sleep", "1000"}, 50ms));
-    EXPECT_FALSE(commandOutput({"sh", "-c", "exec >&-; exec sleep 1000"}, 50ms));
+    const auto run
+        = [](const std::vector<QByteArray> &arguments) { return commandOutput(arguments, 10s); };
+    EXPECT_EQ(run({"echo", "a b"}), (CommandOutput{End::Well, "a b\n"}));
+    EXPECT_EQ(run({"sh", "-c", "echo complaint >&2"}), CommandOutput{End::Well});
+    EXPECT_EQ(run({"sh", "-c", "echo x; exit 1"}), CommandOutput{End::Failed});
+    EXPECT_EQ(run({"/no/such/program"}), CommandOutput{End::Failed});
+    EXPECT_EQ(run({"no-such-program-anywhere"}), CommandOutput{End::Failed});
+}
+
+TEST(CommandOutput, IsUnknownOfAProgramThatDoesNotEndByItself)
+{
+    using namespace std::chrono_literals;
+    const CommandOutput unknown{End::Unknown};
+    EXPECT_EQ(commandOutput({"yes"}, 10s), unknown) << "more than anybody wants";
+    EXPECT_EQ(commandOutput({"sh", "-c", "kill -KILL $$"}, 10s), unknown);
+    EXPECT_EQ(commandOutput({"sleep", "1000"}, 50ms), unknown);
+    EXPECT_EQ(commandOutput({"sh", "-c", "exec >&-; exec sleep 1000"}, 50ms), unknown);
 }
 
 } // namespace corvane::test

@@ -19,8 +19,13 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-/// 0 where it could not be started.
-pid_t start(const std::vector<QByteArray> &arguments, int output)
+struct Started {
+    pid_t child = 0;
+    /// Why there is none.
+    int error = 0;
+};
+
+Started start(const std::vector<QByteArray> &arguments, int output)
 {
     std::vector<char *> texts;
     for (const QByteArray &argument : arguments)
@@ -36,7 +41,7 @@ pid_t start(const std::vector<QByteArray> &arguments, int output)
     const int error
         = ::posix_spawnp(&child, texts.front(), &actions, nullptr, texts.data(), ::environ);
     ::posix_spawn_file_actions_destroy(&actions);
-    return error == 0 ? child : 0;
+    return {child, error};
 }
 
 /// Whether there is something to be read, or to be heard of, in time.
@@ -73,20 +78,27 @@ std::optional<QByteArray> readAll(int input, Clock::time_point deadline)
     return std::nullopt;
 }
 
+/// Whether there is no such program, rather than no room for it.
+bool isNoProgram(int error)
+{
+    return error == ENOENT || error == ENOTDIR || error == EACCES || error == ENOEXEC;
+}
+
 } // namespace
 
-std::optional<QByteArray> commandOutput(const std::vector<QByteArray> &arguments,
-                                        std::chrono::milliseconds patience)
+CommandOutput commandOutput(const std::vector<QByteArray> &arguments,
+                            std::chrono::milliseconds patience)
 {
+    using End = CommandOutput::End;
     std::array<int, 2> ends{};
     if (::pipe2(ends.data(), O_CLOEXEC) != 0)
-        return std::nullopt;
+        return {End::Unknown};
     const FileDescriptor input(ends[0]);
     FileDescriptor output(ends[1]);
-    const pid_t child = start(arguments, output.number());
+    const auto [child, error] = start(arguments, output.number());
     output.close();
-    if (child == 0)
-        return std::nullopt;
+    if (error != 0)
+        return {isNoProgram(error) ? End::Failed : End::Unknown};
     const auto deadline = Clock::now() + patience;
     auto text = readAll(input.number(), deadline);
     // It may have closed its output and go on.
@@ -95,8 +107,11 @@ std::optional<QByteArray> commandOutput(const std::vector<QByteArray> &arguments
         ::kill(child, SIGKILL);
     int status = 0;
     while (::waitpid(child, &status, 0) < 0 && errno == EINTR) { }
-    const bool isDone = WIFEXITED(status) && WEXITSTATUS(status) == 0;
-    return isDone ? text : std::nullopt;
+    if (!text || !WIFEXITED(status))
+        return {End::Unknown};
+    if (WEXITSTATUS(status) != 0)
+        return {End::Failed};
+    return {End::Well, *text};
 }
 
 } // namespace corvane

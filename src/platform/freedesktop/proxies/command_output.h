@@ -3,14 +3,30 @@
 #include <QByteArray>
 
 #include <chrono>
-#include <optional>
 #include <vector>
 
 namespace corvane {
 
-/// What a program of the desktop prints, without its complaints; none where it is not there, fails,
-/// takes longer, or prints more than a megabyte. It is ended then. Blocks; any thread.
-std::optional<QByteArray> commandOutput(const std::vector<QByteArray> &arguments,
-                                        std::chrono::milliseconds patience);
+/// What came of a program of the desktop.
+struct CommandOutput {
+    enum class End {
+        Well,
+        /// It is not there, or says itself that it failed.
+        Failed,
+        /// Nobody knows what it would have said: it took longer, printed more than a megabyte, was
+        /// ended by somebody else, or there was no room to start it.
+        Unknown,
+    };
+
+    End end = End::Unknown;
+    /// What it printed, without its complaints; empty where it did not end well.
+    QByteArray text = {};
+
+    bool operator==(const CommandOutput &) const = default;
+};
+
+/// Runs a program; what takes longer or prints too much is ended. Blocks; any thread.
+CommandOutput commandOutput(const std::vector<QByteArray> &arguments,
+                            std::chrono::milliseconds patience);
 
 } // namespace corvane

@@ -1,12 +1,13 @@
 #include "platform/freedesktop/proxies/desktop_routes.h"
 
-#include "platform/freedesktop/proxies/command_output.h"
 #include "platform/freedesktop/proxies/proxy_sources.h"
 #include "platform/regular_file.h"
 
 #include <unistd.h>
 
 #include <cstdlib>
+#include <mutex>
+#include <optional>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -20,9 +21,14 @@ using Mode = ProxySettings::Mode;
 
 /// A page, its picture and the pages in between ask one after the other.
 constexpr std::chrono::seconds settingsAge{5};
-/// A portal that did not answer is left alone for a while.
+/// A portal that is not there is left alone for a while.
 constexpr std::chrono::seconds portalPause{60};
 constexpr std::chrono::milliseconds patience{2000};
+
+WebRoute unusable()
+{
+    return {WebRoute::Kind::Unusable};
+}
 
 bool isOnion(const QUrl &url)
 {
@@ -32,8 +38,9 @@ bool isOnion(const QUrl &url)
     return host.endsWith(QLatin1String(".onion"), Qt::CaseInsensitive);
 }
 
-/// The settings of the desktop; what another desktop left behind does not count.
-ProxySettings desktopSettings(const DesktopRoutes::Sources &sources)
+/// The settings of the desktop, none where they are not to be had; what another desktop left behind
+/// does not count.
+std::optional<ProxySettings> desktopSettings(const DesktopRoutes::Sources &sources)
 {
     if (sources.environment("XDG_CURRENT_DESKTOP").split(':').contains("KDE")) {
         QByteArray folder = sources.environment("XDG_CONFIG_HOME");
@@ -42,7 +49,9 @@ ProxySettings desktopSettings(const DesktopRoutes::Sources &sources)
         return proxy_sources::fromKde(sources.read(folder + "/kioslaverc"), sources.environment);
     }
     const auto listing = sources.run({"gsettings", "list-recursively", "org.gnome.system.proxy"});
-    return proxy_sources::fromGnome(listing.value_or(QByteArray()));
+    if (listing.end == CommandOutput::End::Unknown)
+        return std::nullopt;
+    return proxy_sources::fromGnome(listing.text);
 }
 
 } // namespace
@@ -56,33 +65,42 @@ struct DesktopRoutes::Search {
 
     WebRoute routeFor(const QUrl &url)
     {
-        const ProxySettings settings = current();
-        WebRoute route = settings.routeFor(url);
-        // The desktop's own answer for its script, and for what nobody here knows of.
-        if (settings.mode != Mode::Manual) {
-            const auto answer = askPortal(url);
-            const bool isProxied = answer && answer->kind != WebRoute::Kind::Direct;
-            if (isProxied)
-                route = *answer;
-        }
-        return withTor(url, route, settings);
+        const auto settings = current();
+        // They may name a proxy, so nothing may go past it.
+        const WebRoute route = settings ? routeBy(*settings, url) : unusable();
+        return withTor(url, route, settings.value_or(ProxySettings()));
     }
 
     std::atomic<int> running = 0;
 
 private:
-    ProxySettings current()
+    /// None where they are not to be had.
+    std::optional<ProxySettings> current()
     {
+        const auto asked = Clock::now();
         const std::lock_guard lock(m_mutex);
-        if (!m_settings || Clock::now() - m_readAt > settingsAge) {
+        // That they were not to be had counts only for those who were waiting meanwhile.
+        if (m_settings ? Clock::now() - m_readAt > settingsAge : m_readAt <= asked) {
             m_settings = proxy_sources::fromEnvironment(m_sources.environment);
             if (m_settings->mode == Mode::None)
                 m_settings = desktopSettings(m_sources);
             m_readAt = Clock::now();
         }
-        return *m_settings;
+        return m_settings;
     }
 
+    WebRoute routeBy(const ProxySettings &settings, const QUrl &url)
+    {
+        const WebRoute route = settings.routeFor(url);
+        if (settings.mode == Mode::Manual)
+            return route;
+        // The desktop's own answer for its script, and for what nobody here knows of.
+        const auto answer = askPortal(url);
+        const bool isProxied = answer && answer->kind != WebRoute::Kind::Direct;
+        return isProxied ? *answer : route;
+    }
+
+    /// None where there is no portal or it knows no answer; unusable while it is silent.
     std::optional<WebRoute> askPortal(const QUrl &url)
     {
         {
@@ -94,13 +112,16 @@ private:
         const QUrl origin = url.adjusted(QUrl::RemoveUserInfo | QUrl::RemovePath | QUrl::RemoveQuery
                                          | QUrl::RemoveFragment);
         const auto reply = m_sources.run(
-            {"gdbus", "call", "--session", "--timeout", "2", "--dest",
-             "org.freedesktop.portal.Desktop", "--object-path", "/org/freedesktop/portal/desktop",
-             "--method", "org.freedesktop.portal.ProxyResolver.Lookup", origin.toEncoded() + '/'});
+            {"gdbus", "call", "--session", "--dest", "org.freedesktop.portal.Desktop",
+             "--object-path", "/org/freedesktop/portal/desktop", "--method",
+             "org.freedesktop.portal.ProxyResolver.Lookup", origin.toEncoded() + '/'});
+        if (reply.end == CommandOutput::End::Unknown)
+            return unusable();
+        if (reply.end == CommandOutput::End::Well)
+            return proxy_sources::fromPortal(reply.text);
         const std::lock_guard lock(m_mutex);
-        if (!reply)
-            m_portalFailedAt = Clock::now();
-        return reply ? proxy_sources::fromPortal(*reply) : std::nullopt;
+        m_portalFailedAt = Clock::now();
+        return std::nullopt;
     }
 
     WebRoute withTor(const QUrl &url, const WebRoute &route, const ProxySettings &settings) const
@@ -117,7 +138,7 @@ private:
         }
         if (tor)
             return {WebRoute::Kind::Proxied, *tor};
-        return isOnion(url) ? WebRoute{WebRoute::Kind::Unusable} : route;
+        return isOnion(url) ? unusable() : route;
     }
 
     Sources m_sources;
@@ -146,10 +167,9 @@ DesktopRoutes::DesktopRoutes(Sources sources)
 
 void DesktopRoutes::find(const QUrl &url, Completion completion)
 {
-    const WebRoute none{WebRoute::Kind::Unusable};
     if (m_search->running.fetch_add(1) >= maximumSearches) {
         m_search->running.fetch_sub(1);
-        return completion(none);
+        return completion(unusable());
     }
     try {
         std::thread([search = m_search, url, completion] {
@@ -159,7 +179,7 @@ void DesktopRoutes::find(const QUrl &url, Completion completion)
         }).detach();
     } catch (const std::system_error &) {
         m_search->running.fetch_sub(1);
-        completion(none);
+        completion(unusable());
     }
 }
 

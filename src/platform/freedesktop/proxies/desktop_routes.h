@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/freedesktop/proxies/proxy_settings.h"
+#include "platform/freedesktop/proxies/command_output.h"
 #include "platform/web_routes.h"
 
 #include <QByteArray>
@@ -9,15 +9,14 @@
 #include <chrono>
 #include <functional>
 #include <memory>
-#include <mutex>
-#include <optional>
 #include <vector>
 
 namespace corvane {
 
 /// The way that the session's proxies make requests go: those of the environment, else those of the
 /// desktop's settings (KDE's own, else GNOME's), else what the desktop portal answers, which is
-/// also the one that runs scripts. Where nobody names one, directly.
+/// also the one that runs scripts. Where nobody names one, directly; `Unusable` while whoever might
+/// name one does not answer.
 ///
 /// Where Tor is in use nothing goes directly: neither what is excepted from a Tor proxy, nor
 /// anything while Tor listens on this machine; an onion address goes by Tor or not at all.
@@ -32,8 +31,8 @@ public:
     /// Where it looks; any thread.
     struct Sources {
         std::function<QByteArray(const char *name)> environment;
-        /// The output of a program of the desktop.
-        std::function<std::optional<QByteArray>(const std::vector<QByteArray> &)> run;
+        /// Runs a program of the desktop.
+        std::function<CommandOutput(const std::vector<QByteArray> &)> run;
         /// A whole file; empty where there is none.
         std::function<QByteArray(const QByteArray &path)> read;
         unsigned user = 0;
