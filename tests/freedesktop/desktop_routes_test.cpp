@@ -103,6 +103,27 @@ TEST_F(DesktopRoutesTest, AreKdesOwnInItsSession)
     EXPECT_EQ(find("http://far.test/"), WebRoute{});
 }
 
+TEST_F(DesktopRoutesTest, OfKdeAreTheSystemsWhereTheUserHasNone)
+{
+    variables = {{"XDG_CURRENT_DESKTOP", "KDE"}, {"HOME", "/home/me"}};
+    const QByteArray group = "[Proxy Settings]\n";
+    files["/etc/xdg/kioslaverc"] = group + "ProxyType=1\nhttpProxy=http://system 1\n";
+    EXPECT_EQ(find("http://far.test/"), by(http, "system", 1));
+    files["/home/me/.config/kioslaverc"] = group + "httpProxy=http://own 2";
+    EXPECT_EQ(find("http://far.test/"), by(http, "own", 2)) << "of the kind that the system names";
+    files["/home/me/.config/kioslaverc"] = group + "ProxyType=0";
+    EXPECT_EQ(find("http://far.test/"), WebRoute{});
+
+    files.remove("/home/me/.config/kioslaverc");
+    variables["XDG_CONFIG_DIRS"] = "/first:relative::/last/";
+    EXPECT_EQ(find("http://far.test/"), WebRoute{}) << "these are instead of the usual one";
+    files["/last/kioslaverc"] = group + "ProxyType=1\nhttpProxy=http://last 3";
+    files["relative/kioslaverc"] = files["/kioslaverc"] = group + "httpProxy=http://wrong 9";
+    EXPECT_EQ(find("http://far.test/"), by(http, "last", 3));
+    files["/first/kioslaverc"] = group + "httpProxy=http://first 4";
+    EXPECT_EQ(find("http://far.test/"), by(http, "first", 4));
+}
+
 TEST_F(DesktopRoutesTest, OfAScriptAreThePortalsOrNone)
 {
     gnome = says(gnomeScript);

@@ -161,19 +161,19 @@ TEST(ProxySettings, OfKdeAreReadFromItsFile)
                             "httpProxy=http://web.test 8080\nhttpsProxy[$e]=http://safe.test:81\n"
                             "socksProxy=socks://\nNoProxyFor=a.test, b.test\n"
                             "ReversedException=false\n[Other]\nhttpProxy=http://wrong:1\n";
-    const auto settings = proxy_sources::fromKde(file, environment({}));
+    const auto settings = proxy_sources::fromKde({file}, environment({}));
     EXPECT_EQ(settings.routeFor(url("http://x.test/")), http("web.test", 8080));
     EXPECT_EQ(settings.routeFor(url("https://x.test/")), http("safe.test", 81));
     EXPECT_EQ(settings.routeFor(url("https://b.test/")).kind, Kind::Direct);
     QByteArray reversed = file;
     reversed.replace("Exception=false", "Exception=true");
-    const auto only = proxy_sources::fromKde(reversed, environment({}));
+    const auto only = proxy_sources::fromKde({reversed}, environment({}));
     EXPECT_EQ(only.routeFor(url("http://x.test/")).kind, Kind::Direct);
     EXPECT_EQ(only.routeFor(url("http://a.test/")), http("web.test", 8080));
     for (const char *type : {"ProxyType=2", "ProxyType=3"}) {
         QByteArray script = file;
         script.replace("ProxyType=1", type);
-        EXPECT_EQ(proxy_sources::fromKde(script, environment({})).mode, Mode::Script);
+        EXPECT_EQ(proxy_sources::fromKde({script}, environment({})).mode, Mode::Script);
     }
     EXPECT_EQ(proxy_sources::fromKde({}, environment({})).mode, Mode::None);
 }
@@ -181,10 +181,29 @@ TEST(ProxySettings, OfKdeAreReadFromItsFile)
 TEST(ProxySettings, OfKdeMayNameTheEnvironment)
 {
     const auto settings = proxy_sources::fromKde(
-        "[Proxy Settings]\nProxyType=4\nhttpProxy=MY_PROXY\nNoProxyFor=MY_EXCEPTIONS\n",
+        {"[Proxy Settings]\nProxyType=4\nhttpProxy=MY_PROXY\nNoProxyFor=MY_EXCEPTIONS\n"},
         environment({{"MY_PROXY", "http://p:1"}, {"MY_EXCEPTIONS", "a.test"}}));
     EXPECT_EQ(settings.routeFor(url("http://x.test/")), http("p", 1));
     EXPECT_EQ(settings.routeFor(url("http://a.test/")).kind, Kind::Direct);
+}
+
+TEST(ProxySettings, OfKdesLaterFilesCountUnlessTheyAreForbidden)
+{
+    const auto proxy = [](const QByteArrayList &files) {
+        return proxy_sources::fromKde(files, environment({})).routeFor(url("http://x.test/"));
+    };
+    const QByteArray group = "[Proxy Settings]\n";
+    const QByteArray first = "ProxyType=1\nhttpProxy=http://a:1\n";
+    const QByteArray own = group + "httpProxy=http://b:2\n";
+    EXPECT_EQ(proxy({group + first, own}), http("b", 2));
+    EXPECT_EQ(proxy({group + first, {}, "httpProxy=http://b:2\n"}), http("a", 1)) << "no group";
+    EXPECT_EQ(proxy({group + first, group + "httpProxy[$d]\nsocksProxy=socks://c:3\n"}),
+              socks("c", 3));
+    EXPECT_EQ(proxy({group + "ProxyType=1\nhttpProxy[$ei]=http://a:1\n", own}), http("a", 1));
+    EXPECT_EQ(proxy({"[Proxy Settings][$i]\n" + first, own}), http("a", 1));
+    EXPECT_EQ(proxy({"[$i]\n" + group + first, own}), http("a", 1));
+    EXPECT_EQ(proxy({"[Other][$i]\n" + group + first, own}), http("b", 2));
+    EXPECT_EQ(proxy({"[$Version]\nupdate_info=a\n" + group + first, own}), http("b", 2));
 }
 
 TEST(ProxySettings, OfThePortalAreTheFirstThatCanBeUsed)

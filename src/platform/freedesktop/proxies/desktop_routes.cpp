@@ -43,10 +43,10 @@ bool isOnion(const QUrl &url)
 std::optional<ProxySettings> desktopSettings(const DesktopRoutes::Sources &sources)
 {
     if (sources.environment("XDG_CURRENT_DESKTOP").split(':').contains("KDE")) {
-        QByteArray folder = sources.environment("XDG_CONFIG_HOME");
-        if (folder.isEmpty())
-            folder = sources.environment("HOME") + "/.config";
-        return proxy_sources::fromKde(sources.read(folder + "/kioslaverc"), sources.environment);
+        QByteArrayList files;
+        for (const QByteArray &path : proxy_sources::kdePaths(sources.environment))
+            files.append(sources.read(path));
+        return proxy_sources::fromKde(files, sources.environment);
     }
     const auto listing = sources.run({"gsettings", "list-recursively", "org.gnome.system.proxy"});
     if (listing.end == CommandOutput::End::Unknown)

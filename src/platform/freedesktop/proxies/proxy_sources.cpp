@@ -2,6 +2,7 @@
 
 #include <QHash>
 #include <QList>
+#include <QSet>
 
 #include <algorithm>
 
@@ -93,25 +94,56 @@ QString kdeAddress(const QByteArray &value)
     return address.endsWith(QLatin1String("://")) ? QString() : address;
 }
 
-QHash<QByteArray, QByteArray> kdeValues(const QByteArray &file)
-{
-    QHash<QByteArray, QByteArray> values;
-    bool isInGroup = false;
-    for (const QByteArray &raw : file.split('\n')) {
-        const QByteArray line = raw.trimmed();
-        if (line.startsWith('['))
-            isInGroup = line == "[Proxy Settings]";
-        const qsizetype equals = line.indexOf('=');
-        if (!isInGroup || equals <= 0)
-            continue;
-        // "key[$e]": the desktop's own marks.
-        QByteArray key = line.first(equals).trimmed();
-        if (const qsizetype mark = key.indexOf('['); mark > 0)
-            key.truncate(mark);
-        values.insert(key, line.sliced(equals + 1).trimmed());
+/// The settings about proxies in KDE's files, of which later ones stand above earlier ones. Behind
+/// a name may stand marks: "[$i]" for what nobody above may change, "[$d]" for what is not set
+/// after all.
+class KdeSettings {
+public:
+    void read(const QByteArray &file)
+    {
+        if (m_isFixed)
+            return;
+        bool isIn = false;
+        bool isFixed = false;
+        for (const QByteArray &raw : file.split('\n')) {
+            const QByteArray line = raw.trimmed();
+            if (line.startsWith('[')) {
+                isIn = line == "[Proxy Settings]" || line.startsWith("[Proxy Settings][$");
+                // A mark alone is that of the whole file.
+                isFixed = isFixed || line == "[$i]" || (isIn && hasMark(line, 'i'));
+            } else if (isIn) {
+                take(line);
+            }
+        }
+        m_isFixed = isFixed;
     }
-    return values;
-}
+    QByteArray value(const QByteArray &key) const { return m_values.value(key); }
+
+private:
+    static bool hasMark(const QByteArray &name, char mark)
+    {
+        const qsizetype begin = name.indexOf("[$");
+        return begin >= 0 && name.indexOf(mark, begin) >= 0;
+    }
+    void take(const QByteArray &line)
+    {
+        const qsizetype equals = line.indexOf('=');
+        const QByteArray name = equals < 0 ? line : line.first(equals);
+        const QByteArray key = name.split('[').front().trimmed();
+        if (m_fixed.contains(key))
+            return;
+        if (hasMark(name, 'd'))
+            m_values.remove(key);
+        else if (equals > 0)
+            m_values.insert(key, line.sliced(equals + 1).trimmed());
+        if (hasMark(name, 'i'))
+            m_fixed.insert(key);
+    }
+
+    QHash<QByteArray, QByteArray> m_values;
+    QSet<QByteArray> m_fixed;
+    bool m_isFixed = false;
+};
 
 } // namespace
 
@@ -144,9 +176,30 @@ ProxySettings fromGnome(const QByteArray &listing)
     return settings;
 }
 
-ProxySettings fromKde(const QByteArray &file, const Environment &environment)
+QByteArrayList kdePaths(const Environment &environment)
 {
-    const auto values = kdeValues(file);
+    QByteArray system = environment("XDG_CONFIG_DIRS");
+    if (system.isEmpty())
+        system = "/etc/xdg";
+    QByteArray own = environment("XDG_CONFIG_HOME");
+    if (own.isEmpty())
+        own = environment("HOME") + "/.config";
+    QByteArrayList paths{own + "/kioslaverc"};
+    for (QByteArray folder : system.split(':')) {
+        while (folder.endsWith('/'))
+            folder.chop(1);
+        // Others are to be ignored.
+        if (folder.startsWith('/'))
+            paths.prepend(folder + "/kioslaverc");
+    }
+    return paths;
+}
+
+ProxySettings fromKde(const QByteArrayList &files, const Environment &environment)
+{
+    KdeSettings values;
+    for (const QByteArray &file : files)
+        values.read(file);
     enum Type { Manual = 1, Script, Discovered, Variables };
     const int type = values.value("ProxyType").toInt();
     ProxySettings settings;

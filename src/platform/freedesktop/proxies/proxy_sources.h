@@ -3,6 +3,7 @@
 #include "platform/freedesktop/proxies/proxy_settings.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 
 #include <functional>
 #include <optional>
@@ -19,8 +20,11 @@ ProxySettings fromEnvironment(const Environment &environment);
 /// From what `gsettings list-recursively org.gnome.system.proxy` prints.
 ProxySettings fromGnome(const QByteArray &listing);
 
-/// From the contents of the file kioslaverc, which may refer to the environment.
-ProxySettings fromKde(const QByteArray &file, const Environment &environment);
+/// Where files "kioslaverc" may be: the system's, the most important of them last, and the user's.
+QByteArrayList kdePaths(const Environment &environment);
+/// From their contents, which may refer to the environment. What a later one says counts, unless an
+/// earlier one forbids that.
+ProxySettings fromKde(const QByteArrayList &files, const Environment &environment);
 
 /// From what `gdbus` prints of the portal's answer, a list of addresses of which the first that is
 /// spoken here counts; none where it is no answer.
