@@ -375,19 +375,6 @@ TEST_F(EdgeSummonerTest, TheViewAllBarMakesItStay)
     EXPECT_TRUE(isShown());
 }
 
-TEST_F(EdgeSummonerTest, ABarThatIsOpenFromBeforeMakesItStay)
-{
-    store.accept(
-        {ShelfDesk::textItem(QStringLiteral("a")), ShelfDesk::textItem(QStringLiteral("b"))});
-    store.toggleViewAll();
-    store.toggleManually();
-    push();
-    desk.clock.advance(approachDelay);
-    ASSERT_TRUE(isShown());
-    desk.clock.advance(100);
-    EXPECT_TRUE(isShown());
-}
-
 TEST_F(EdgeSummonerTest, AThumbnailThatArrivesIsNoUse)
 {
     summonShelf();
