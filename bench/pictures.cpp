@@ -3,6 +3,7 @@
 
 #include "app/composition_root.h"
 #include "platform/qt/qt_pasteboard.h"
+#include "support/heartbeat.h"
 #include "support/table.h"
 
 #include <QApplication>
@@ -10,7 +11,6 @@
 #include <QImage>
 #include <QMimeData>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <algorithm>
 #include <atomic>
@@ -41,44 +41,6 @@ QImage scannedPage()
     }
     return page;
 }
-
-/// Milliseconds that the main thread has waited for a processor which others had.
-double waitForProcessor()
-{
-    QFile file(QStringLiteral("/proc/self/schedstat"));
-    file.open(QFile::ReadOnly);
-    return file.readAll().split(' ').value(1).toDouble() * 1e-6;
-}
-
-/// The longest time from one look at what waits to the next: a beat every millisecond, less that
-/// millisecond.
-struct Heartbeat {
-    double longestGap = 0;
-    /// Without the time for which others had the processors.
-    double longestOwnGap = 0;
-
-    template<typename Condition>
-    void runUntil(Condition isDone)
-    {
-        double last = now();
-        double lastWait = waitForProcessor();
-        QEventLoop loop;
-        QTimer beat;
-        beat.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&beat, &QTimer::timeout, &loop, [&] {
-            const double wait = waitForProcessor();
-            const double gap = now() - last - 1;
-            longestGap = std::max(longestGap, gap);
-            longestOwnGap = std::max(longestOwnGap, gap - (wait - lastWait));
-            last = now();
-            lastWait = wait;
-            if (isDone())
-                loop.quit();
-        });
-        beat.start(1);
-        loop.exec();
-    }
-};
 
 /// The same with nothing to do but as many threads at work: what this machine does to anybody.
 Heartbeat undisturbed()
