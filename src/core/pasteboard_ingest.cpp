@@ -109,6 +109,8 @@ std::optional<QUrl> PasteboardIngest::placeForPromisedFile(const QString &name) 
     if (!place)
         return std::nullopt;
     m_promised.push_back(std::move(place));
+    if (m_promised.size() > mostPromised)
+        m_promised.erase(m_promised.begin());
     return m_promised.back()->url();
 }
 
@@ -167,6 +169,8 @@ std::optional<DropItem> PasteboardIngest::promisedFileItem(Pasteboard &pasteboar
     const auto file = pasteboard.promisedFile();
     if (!file)
         return std::nullopt;
+    // From now on the file itself tells that its name is taken.
+    std::erase_if(m_promised, [&](const auto &place) { return place->url() == *file; });
     if (!item_description::isRegularFile(*file)) {
         m_spool.discard(*file);
         return std::nullopt;

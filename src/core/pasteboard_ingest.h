@@ -57,9 +57,11 @@ private:
     std::optional<DropItem> promisedFileItem(Pasteboard &pasteboard) const;
     std::optional<DropItem> imageItem(Pasteboard &pasteboard) const;
 
+    static constexpr std::size_t mostPromised = 1'000;
+
     ScratchSpool &m_spool;
-    /// Kept for good: a source writes when it likes, also after it was given up, and until it does
-    /// no file tells that the name is taken.
+    /// Kept until the file has arrived: a source writes when it likes, also after it was given up,
+    /// and until it does no file tells that the name is taken.
     mutable std::vector<std::shared_ptr<SpoolPlace>> m_promised;
     const PictureItems &m_pictures;
     const FileLocality &m_locality;

@@ -509,6 +509,14 @@ TEST_F(PromisedFiles, ThatAreStillToComeShareNoPlace)
     EXPECT_NE(ingest.placeForPromisedFile(QStringLiteral("a.png")), first);
 }
 
+TEST_F(PromisedFiles, ThatHaveArrivedAndGoneLeaveTheirNameToOthers)
+{
+    promiseFile(QStringLiteral("a.png"), "x");
+    spool.discard(fileOf(single()));
+    promiseFile(QStringLiteral("a.png"), "y");
+    EXPECT_EQ(single().title(), QStringLiteral("a.png"));
+}
+
 TEST_F(PromisedFiles, GetASafeName)
 {
     promiseFile(QStringLiteral("../../.ssh/..authorized:keys"), "x");
