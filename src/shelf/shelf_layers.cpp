@@ -56,6 +56,7 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
     , m_hint(tree)
     , m_hoverPlate(tree)
     , m_divider(tree)
+    , m_rowArea(tree)
     , m_cellRow(tree)
     , m_edgeFade(tree)
     , m_leftArrow(tree)
@@ -66,13 +67,12 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
     , m_hairline(tree)
 {
     m_body.setAnchorPoint({0.5, 1});
-    const std::array<Layer *, 14> inOrder{&m_shelf,
+    const std::array<Layer *, 13> inOrder{&m_shelf,
                                           &m_ring,
                                           &m_hint,
                                           &m_hoverPlate,
                                           &m_divider,
-                                          &m_cellRow,
-                                          &m_edgeFade,
+                                          &m_rowArea,
                                           &m_leftArrow.plate,
                                           &m_rightArrow.plate,
                                           &m_actionButtons[0],
@@ -87,6 +87,10 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
     }
     m_body.addSublayer(m_hairline);
     m_hairline.setDelegate(&animator);
+    for (Layer *layer : {&m_cellRow, static_cast<Layer *>(&m_edgeFade)}) {
+        m_rowArea.addSublayer(*layer);
+        layer->setDelegate(&animator);
+    }
     m_leftArrow.plate.addSublayer(m_leftArrow.caret);
     m_rightArrow.plate.addSublayer(m_rightArrow.caret);
 
@@ -99,7 +103,8 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
     m_hoverPlate.setCornerRadius(7);
     m_hoverPlate.setOpacity(0);
     m_divider.setBackgroundColor(palette.divider);
-    m_cellRow.setClipsSublayers(true);
+    // While the body springs, nothing of the row is seen beyond its edge.
+    m_rowArea.setClipsSublayers(true);
     m_flash.setFont(theme.typography.hint);
     m_flash.setAlignment(Qt::AlignHCenter);
     m_flash.setColor(palette.primary);
@@ -212,7 +217,9 @@ void ShelfLayers::applyCells(const ShelfLook &look)
     const QSizeF size = look.layout.size;
     const bool flashesOverCells = snapshot.isCarousel() && !look.flashMessage.isEmpty();
     syncCellCount(snapshot.visible.size());
-    m_cellRow.setFrame({bodyFlareRadius, 0, size.width() - 2 * bodyFlareRadius, size.height()});
+    const QSizeF row(size.width() - 2 * bodyFlareRadius, size.height());
+    m_rowArea.setFrame({{bodyFlareRadius, 0}, row});
+    m_cellRow.setFrame({{0, 0}, row});
     m_cellRow.setOpacity(flashesOverCells ? 0.14 : 1);
 
     const auto badgeIndex = snapshot.isCarousel() ? hoveredCell(look.hovered) : std::nullopt;
@@ -231,8 +238,7 @@ void ShelfLayers::applyCells(const ShelfLook &look)
         m_cells[i]->layout(layout);
     }
 
-    m_edgeFade.setFrame(
-        {size.width() - bodyFlareRadius - edgeFadeWidth, 0, edgeFadeWidth, look.layout.bodyHeight});
+    m_edgeFade.setFrame({row.width() - edgeFadeWidth, 0, edgeFadeWidth, look.layout.bodyHeight});
     m_edgeFade.setOpacity(look.layout.overflows ? 1 : 0);
     m_flash.setFrame(look.layout.flash);
     if (flashesOverCells)

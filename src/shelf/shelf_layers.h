@@ -86,6 +86,7 @@ private:
     TextLayer m_hint;
     Layer m_hoverPlate;
     Layer m_divider;
+    Layer m_rowArea;
     Layer m_cellRow;
     EdgeFade m_edgeFade;
     ArrowLayers m_leftArrow;

@@ -1,6 +1,7 @@
 // Shapes as they are painted while they change their size, beside the paths that they stand for.
 
 #include "fakes/fake_motion_preference.h"
+#include "fakes/shelf_desk.h"
 #include "fakes/test_clock.h"
 #include "shelf/drawing.h"
 #include "shelf/layer_tree.h"
@@ -134,6 +135,40 @@ TEST(RingLayer, hasTheDashesOfItsPath)
         // Where dashes end between two pixels, the one has half of one and the other one or
         // none, a fifth of a dash at most; dashes in other places would make it 1.
         EXPECT_LT(difference(path, dashes), 0.25) << size.width();
+    }
+}
+
+TEST(MovingShelf, showsNothingOfItsRowBeyondItsEdge)
+{
+    ShelfDesk desk;
+    desk.panel.setFrame({0, 0, 620, 120});
+    ShelfView view(desk.context());
+    ShelfSnapshot snapshot;
+    snapshot.state = ShelfState::Occupied;
+    const auto show = [&](int count) {
+        snapshot.inViewCount = count;
+        snapshot.totalCount = count;
+        for (int i = static_cast<int>(snapshot.visible.size()); i < count; ++i)
+            snapshot.visible.emplace_back(i, ShelfDesk::fileItem(QStringLiteral("f")));
+        view.apply(snapshot);
+        ShelfDesk::paint(view, desk.panel);
+    };
+    show(3);
+    desk.clock.advance(3);
+    ShelfDesk::paint(view, desk.panel);
+    // More than there is room for in a drop target, whose end is faded.
+    snapshot.receptive = true;
+    show(6);
+    for (int frame = 0; frame < 6; ++frame) {
+        desk.clock.advance(0.02);
+        const QImage picture = ShelfDesk::paint(view, desk.panel);
+        int translucent = 0;
+        constexpr int middle = 28;
+        for (int x = 0; x < picture.width(); ++x) {
+            const int alpha = picture.pixelColor(x, middle).alpha();
+            translucent += alpha > 40 && alpha < 230 ? 1 : 0;
+        }
+        EXPECT_LE(translucent, 4) << "the body's own edges alone, in frame " << frame;
     }
 }
 
