@@ -31,6 +31,8 @@ public:
     virtual void generateForFile(const QUuid &item, const QUrl &url, Completion completion) = 0;
     /// The same for many files in their order, one completion for each: a drop of ten thousand
     /// waits for nothing that can be made ready later.
+    // By value: who takes them over moves them.
+    // NOLINTNEXTLINE(performance-unnecessary-value-param)
     virtual void generateForFiles(std::vector<File> files, FilesCompletion completion)
     {
         for (const File &file : files) {

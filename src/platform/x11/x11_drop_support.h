@@ -48,7 +48,7 @@ public:
 private:
     struct Place {
         QPointer<QWindow> window;
-        DropReceiver *receiver;
+        DropReceiver *receiver = nullptr;
     };
 
     DropReceiver *receiverOf(xcb_window_t window) const;
