@@ -208,6 +208,23 @@ TEST_F(SelectionReaderTest, hearsThatItsOwnerEndsInTheMiddle)
     EXPECT_EQ(outcome, Outcome::Lost);
 }
 
+TEST_F(SelectionReaderTest, hearsThatItsOwnerEndsWhileAPieceIsBeingTaken)
+{
+    const auto settleAWhile = [] {
+        for (int i = 0; i < 10; ++i)
+            settleAMoment();
+    };
+    {
+        const Owner owner(QByteArray(10 * Owner::pieceBytes, 'x'));
+        read();
+        // Its first answer is here and has not been looked at.
+        settleAWhile();
+    }
+    settleAWhile();
+    ASSERT_TRUE(isOver());
+    EXPECT_EQ(outcome, Outcome::Lost);
+}
+
 TEST_F(SelectionReaderTest, cancelledTellsNobody)
 {
     const Owner owner("hello", 0);

@@ -131,8 +131,12 @@ void SelectionReader::ownerEnded()
 {
     for (auto read = m_reads.begin(); read != m_reads.end();) {
         const auto next = std::next(read);
-        if (read->stage != Stage::Taking && !exists(m_connection, read->owner))
-            finish(read, Outcome::Lost);
+        if (!exists(m_connection, read->owner)) {
+            if (read->stage == Stage::Taking)
+                read->hasOwnerEnded = true;
+            else
+                finish(read, Outcome::Lost);
+        }
         read = next;
     }
 }
@@ -162,13 +166,12 @@ void SelectionReader::takeSlice(Id id)
     }
     if (reply->type == XCB_NONE && read->isIncremental) {
         // News of something that was taken with what came before it; the end has a type.
-        read->stage = Stage::Waiting;
+        waitForMore(read);
         return;
     }
     if (reply->type == m_connection.atom("INCR") && !read->isIncremental) {
         read->isIncremental = true;
-        read->stage = Stage::Waiting;
-        m_connection.flush();
+        waitForMore(read);
         return;
     }
     if (!append(*read, *reply)) {
@@ -177,9 +180,17 @@ void SelectionReader::takeSlice(Id id)
     } else if (reply->bytes_after > 0) {
         takeSliceLater(*read);
     } else {
-        read->stage = Stage::Waiting;
-        m_connection.flush();
+        waitForMore(read);
     }
+}
+
+void SelectionReader::waitForMore(Position read)
+{
+    read->stage = Stage::Waiting;
+    m_connection.flush();
+    // It puts the next piece there only when this one has been taken.
+    if (read->hasOwnerEnded)
+        finish(read, Outcome::Lost);
 }
 
 bool SelectionReader::append(Read &read, const xcb_get_property_reply_t &reply)

@@ -67,6 +67,8 @@ private:
         std::uint32_t sliceOffset;
         double begun;
         double lastProgress;
+        /// While a piece was being taken: that may be the last one.
+        bool hasOwnerEnded = false;
     };
     using Position = std::list<Read>::iterator;
 
@@ -76,6 +78,7 @@ private:
     void ownerEnded();
     void takeSlice(Id id);
     void takeSliceLater(const Read &read);
+    void waitForMore(Position read);
     /// False when that was the last, or the read is over.
     bool append(Read &read, const xcb_get_property_reply_t &reply);
     void giveUpTheSilent();

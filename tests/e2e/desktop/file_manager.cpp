@@ -2,6 +2,7 @@
 
 #include "e2e/desktop/eventually.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 
@@ -64,7 +65,10 @@ FileManager::FileManager(XDesktop &desktop, const QString &folder, const QRect &
     file.close();
 
     // A bus of its own: otherwise a second one would open its folder in the first one's window.
-    m_program = desktop.start(u"dbus-run-session"_s, {u"--"_s, u"pcmanfm-qt"_s, folder});
+    const QString mend = QCoreApplication::applicationDirPath() + u"/corvane_patient_loops.so"_s;
+    m_program
+        = desktop.start(u"dbus-run-session"_s,
+                        {u"--"_s, u"env"_s, u"LD_PRELOAD="_s + mend, u"pcmanfm-qt"_s, folder});
     const auto window = desktop.waitForWindowOf(*m_program);
     if (!window) {
         m_problem
