@@ -4,7 +4,10 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QImage>
 #include <QProcess>
+
+#include <algorithm>
 
 namespace corvane::e2e {
 
@@ -31,6 +34,18 @@ window = Gtk.Window(title="text", child=view)
 window.present()
 GLib.MainLoop().run()
 )";
+
+/// By more than a cursor that blinks.
+bool differ(const QImage &left, const QImage &right)
+{
+    constexpr int cursor = 200;
+    int different = 0;
+    for (int y = 0; y < std::min(left.height(), right.height()); ++y) {
+        for (int x = 0; x < std::min(left.width(), right.width()); ++x)
+            different += left.pixel(x, y) != right.pixel(x, y) ? 1 : 0;
+    }
+    return different > cursor;
+}
 
 } // namespace
 
@@ -86,8 +101,12 @@ TextEditor::TextEditor(XDesktop &desktop, const QByteArray &text, const QRect &f
 void TextEditor::selectAll()
 {
     m_desktop.hands().click(middle());
-    m_desktop.hands().key('a', {keys::control});
-    m_desktop.pictureAtRest(m_frame);
+    const QImage before = m_desktop.pictureAtRest(m_frame);
+    // The click may not have given it the keyboard yet.
+    eventually([&] {
+        m_desktop.hands().key('a', {keys::control});
+        return differ(before, m_desktop.pictureAtRest(m_frame));
+    });
 }
 
 QByteArray TextEditor::text(const QByteArray &expected)
