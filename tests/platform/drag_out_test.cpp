@@ -249,13 +249,17 @@ TEST_F(DragOutTest, aSecondDragInsideTheFirstIsNone)
 {
     show();
     int inner = 0;
-    queue.asyncAfter(0.3, [&] {
-        panel.beginDraggingSession(drag(),
-                                   {[] {},
-                                    [&](const DragOutEnd &end) {
-                                        inner += end.operation == DragOperation::None ? 1 : 100;
-                                    }});
-    });
+    content.onFirstDragged = [&, begin = content.onFirstDragged] {
+        // In the loop that the first one is about to run.
+        queue.asyncAfter(0.05, [&] {
+            panel.beginDraggingSession(drag(),
+                                       {[] {},
+                                        [&](const DragOutEnd &end) {
+                                            inner += end.operation == DragOperation::None ? 1 : 100;
+                                        }});
+        });
+        begin();
+    };
     dragTo({1000, 800}, [&] { return inner != 0; });
     EXPECT_EQ(inner, 1);
     EXPECT_EQ(results.size(), 1U);
