@@ -43,7 +43,7 @@ struct Scene {
         loop.exec();
         return output.contains(text);
     }
-    bool waitForEnd()
+    bool waitForEnd() const
     {
         return eventually([&] { return process.state() == QProcess::NotRunning; });
     }
