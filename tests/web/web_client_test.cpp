@@ -104,7 +104,7 @@ TEST_F(WebClientTest, anAddressCannotAddLinesToTheRequest)
         url.setPath(path, QUrl::TolerantMode);
         fetch(url);
     }
-    url = QUrl::fromEncoded(server.url().toEncoded() + "?a\r\nX: y");
+    url = QUrl::fromEncoded(QByteArray(server.url().toEncoded() + "?a\r\nX: y"));
     fetch(url);
     for (const QByteArray &head : server.requests)
         EXPECT_EQ(linesOf(head).size(), 6) << head.constData();
