@@ -74,7 +74,7 @@ void measure()
     test::TemporarySpool temporary;
     ItemPreparation preparation(temporary.spool, clock, work);
     SavedPictures pictures(temporary.spool, preparation);
-    QuickActions quickActions(pasteboard, feedback, dataUris, pictures);
+    QuickActions quickActions(pasteboard, feedback, dataUris, preparation, pictures);
     const DragWriter writer(Qt::gray, {}, mounts);
 
     std::vector<double> floors;

@@ -77,7 +77,7 @@ struct Shelf {
     test::FakeGeneralPasteboard clipboard;
     test::FakeWorkQueue work;
     DataUris dataUris{desk.locality, desk.remoteFiles, work, desk.clock};
-    QuickActions quickActions{clipboard, feedback, dataUris, desk.savedPictures};
+    QuickActions quickActions{clipboard, feedback, dataUris, desk.preparation, desk.savedPictures};
     std::optional<HUDController> controller;
 };
 

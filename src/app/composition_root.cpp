@@ -107,7 +107,7 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , ingest(spool, pictureItems, mountTable, remoteDescriptions, remotePictures)
     , savedPictures(spool, itemPreparation)
     , dataUris(mountTable, remoteFiles, workQueue, mainQueue)
-    , quickActions(generalPasteboard, feedback, dataUris, savedPictures)
+    , quickActions(generalPasteboard, feedback, dataUris, itemPreparation, savedPictures)
     , thumbnailCache(imageCodec, thumbnailPlaces(spool))
     , thumbnailerRegistry(ThumbnailerRegistry::environmentDataFolders(),
                           ThumbnailerRegistry::environmentProgramFolders())

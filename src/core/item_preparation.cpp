@@ -5,6 +5,8 @@
 #include "platform/main_queue.h"
 #include "platform/work_queue.h"
 
+#include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace corvane {
@@ -80,6 +82,10 @@ void ItemPreparation::whenReady(const DropItem &item, WhenReady callback)
 void ItemPreparation::whenReady(const QList<DropItem> &items,
                                 const std::function<void(const QList<DropItem> &)> &callback)
 {
+    if (std::none_of(items.begin(), items.end(), std::mem_fn(&DropItem::isBeingMade))) {
+        callback(items);
+        return;
+    }
     struct Gathered {
         std::vector<std::optional<DropItem>> items;
         std::size_t missing = 0;

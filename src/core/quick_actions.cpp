@@ -3,6 +3,7 @@
 #include "core/data_uris.h"
 #include "core/drag_writer.h"
 #include "core/feedback.h"
+#include "core/item_preparation.h"
 #include "core/saved_pictures.h"
 #include "platform/file_url.h"
 #include "platform/pasteboard_writer.h"
@@ -64,10 +65,12 @@ qsizetype countThatArrives(const QList<DropItem> &items)
 } // namespace
 
 QuickActions::QuickActions(GeneralPasteboard &pasteboard, const Feedback &feedback,
-                           DataUris &dataUris, SavedPictures &pictures)
+                           DataUris &dataUris, ItemPreparation &preparation,
+                           SavedPictures &pictures)
     : m_pasteboard(pasteboard)
     , m_feedback(feedback)
     , m_dataUris(dataUris)
+    , m_preparation(preparation)
     , m_pictures(pictures)
 {
 }
@@ -76,17 +79,26 @@ void QuickActions::copy(const QList<DropItem> &items)
 {
     if (items.isEmpty())
         return;
+    m_preparation.whenReady(items, [this, latest = begin()](const QList<DropItem> &ready) {
+        if (!latest.expired())
+            copyReady(ready, latest);
+    });
+}
+
+void QuickActions::copyReady(const QList<DropItem> &items, const Latest &latest)
+{
+    // All or some of them may have been removed.
+    if (items.isEmpty())
+        return;
     if (items.size() == 1) {
-        copy(items.constFirst(), false);
+        copyAsItIs(items.constFirst());
         return;
     }
-    const auto latest = begin();
     if (std::count_if(items.begin(), items.end(), isInMemory) < 2) {
         writeSeveral(items, items.size());
         return;
     }
     m_pictures.asFiles(items, [this, latest](const QList<DropItem> &files) {
-        // All of them may have been removed.
         if (!latest.expired() && !files.isEmpty())
             writeSeveral(files, countThatArrives(files));
     });
@@ -104,11 +116,19 @@ void QuickActions::writeSeveral(const QList<DropItem> &items, qsizetype count)
 
 void QuickActions::copy(const DropItem &item, bool asDataUri)
 {
-    const auto latest = begin();
-    if (!asDataUri) {
-        copyAsItIs(item);
-        return;
-    }
+    m_preparation.whenReady(
+        item, [this, asDataUri, latest = begin()](const std::optional<DropItem> &ready) {
+            if (latest.expired() || !ready)
+                return;
+            if (asDataUri)
+                copyAsDataUri(*ready, latest);
+            else
+                copyAsItIs(*ready);
+        });
+}
+
+void QuickActions::copyAsDataUri(const DropItem &item, const Latest &latest)
+{
     m_dataUris.make(item, [this, latest, item](const std::optional<QString> &uri) {
         if (latest.expired())
             return;
@@ -121,7 +141,7 @@ void QuickActions::copy(const DropItem &item, bool asDataUri)
     });
 }
 
-std::weak_ptr<const QuickActions::Copy> QuickActions::begin()
+QuickActions::Latest QuickActions::begin()
 {
     m_latest = std::make_shared<const Copy>();
     return m_latest;

@@ -11,31 +11,38 @@ namespace corvane {
 class DataUris;
 struct Feedback;
 class GeneralPasteboard;
+class ItemPreparation;
 class SavedPictures;
 
 /// Puts items on the clipboard and says what it did. All references must outlive it.
+///
+/// What takes its time (items that are still being made, pictures that are saved first, data URIs)
+/// is put there once it is ready, unless something else was copied meanwhile.
 class QuickActions {
 public:
     QuickActions(GeneralPasteboard &pasteboard, const Feedback &feedback, DataUris &dataUris,
-                 SavedPictures &pictures);
+                 ItemPreparation &preparation, SavedPictures &pictures);
 
     /// A clipboard holds one picture of a type: of several that are held in memory it is given
-    /// files, once these are written, unless something else was copied meanwhile. The message
-    /// counts what is there.
+    /// files. Without those that are removed before they are ready; the message counts what is
+    /// there.
     void copy(const QList<DropItem> &items);
-    /// A data URI is there a little later, unless something else was copied meanwhile. What makes
-    /// none is copied as it is.
+    /// What makes no data URI is copied as it is.
     void copy(const DropItem &item, bool asDataUri);
 
 private:
     struct Copy { };
-    std::weak_ptr<const Copy> begin();
+    using Latest = std::weak_ptr<const Copy>;
+    Latest begin();
+    void copyReady(const QList<DropItem> &items, const Latest &latest);
+    void copyAsDataUri(const DropItem &item, const Latest &latest);
     void copyAsItIs(const DropItem &item);
     void writeSeveral(const QList<DropItem> &items, qsizetype count);
 
     GeneralPasteboard &m_pasteboard;
     const Feedback &m_feedback;
     DataUris &m_dataUris;
+    ItemPreparation &m_preparation;
     SavedPictures &m_pictures;
     /// One that is still being made gives way to it.
     std::shared_ptr<const Copy> m_latest;

@@ -3,6 +3,7 @@
 #include "core/item_preparation.h"
 #include "core/quick_actions.h"
 #include "core/saved_pictures.h"
+#include "core/spool_place.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_file_locality.h"
 #include "fakes/fake_general_pasteboard.h"
@@ -32,6 +33,24 @@ struct QuickActionsTest : testing::Test {
     {
         return DropItem(DropItem::File{temporary.write(name, contents)}, {}, {}, false);
     }
+    /// An item whose file is still being made and will hold that; where it is null, the item turns
+    /// into a picture in memory.
+    DropItem being(const char *name, const char *contents)
+    {
+        const QString title = QString::fromLatin1(name);
+        const auto place = scratch.spool.keepPlace(title, QStringLiteral("png"));
+        return preparation.begin({DropItem::beingMade({place->url()}, title, {}, {}),
+                                  {place},
+                                  [place, contents] {
+                                      if (!contents)
+                                          return DropItem(
+                                              DropItem::ImageBytes{"in memory", UTType::png()}, {},
+                                              {}, false);
+                                      place->write(contents);
+                                      return DropItem(DropItem::File{place->url()}, {}, {}, true);
+                                  },
+                                  {}});
+    }
     const PasteboardContents &written()
     {
         EXPECT_EQ(pasteboard.writes.size(), 1U);
@@ -49,10 +68,13 @@ struct QuickActionsTest : testing::Test {
         actions.copy(item, true);
         finishWork();
     }
+    /// And what that gives rise to.
     void finishWork()
     {
-        work.runAll();
-        clock.runPending();
+        do {
+            work.runAll();
+            clock.runPending();
+        } while (work.pendingCount() > 0);
     }
     /// The contents of the files that the last copy put on the clipboard; of the rest nothing.
     QList<QByteArray> copiedFiles() const
@@ -84,7 +106,7 @@ struct QuickActionsTest : testing::Test {
     test::TemporarySpool scratch;
     ItemPreparation preparation{scratch.spool, clock, work};
     SavedPictures pictures{scratch.spool, preparation};
-    QuickActions actions{pasteboard, feedback, dataUris, pictures};
+    QuickActions actions{pasteboard, feedback, dataUris, preparation, pictures};
     QStringList messages;
 };
 
@@ -203,6 +225,77 @@ TEST_F(QuickActionsTest, PicturesThatAreBeingSavedGiveWayToWhatWasCopiedMeanwhil
     EXPECT_TRUE(std::holds_alternative<PasteboardWriter::Text>(written().writers[0].content));
 }
 
+TEST_F(QuickActionsTest, CopiesAFileOnceItIsThere)
+{
+    const DropItem item = being("scan", "pixels");
+    actions.copy(item, false);
+    EXPECT_TRUE(pasteboard.writes.empty()) << "a paste would find nothing";
+    EXPECT_TRUE(messages.isEmpty());
+    finishWork();
+    EXPECT_EQ(copiedFiles(), QList<QByteArray>{"pixels"});
+    EXPECT_EQ(written().string, QString::fromUtf8(scratch.temporary.path("Corvane-4711/scan.png")));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Path copied")});
+}
+
+TEST_F(QuickActionsTest, CopiesWhatAnItemHasBecome)
+{
+    const DropItem item = being("scan", nullptr);
+    actions.copy({item});
+    finishWork();
+    EXPECT_EQ(writer<PasteboardWriter::Data>().bytes, "in memory");
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Image copied")});
+}
+
+TEST_F(QuickActionsTest, CopiesSeveralOnceTheLastIsThere)
+{
+    actions.copy({being("scan", "pixels"), text, being("page", "more")});
+    EXPECT_TRUE(pasteboard.writes.empty());
+    work.runOne();
+    clock.runPending();
+    EXPECT_TRUE(pasteboard.writes.empty());
+    finishWork();
+    EXPECT_EQ(copiedFiles(), (QList<QByteArray>{"pixels", {}, "more"}));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("3 items copied")});
+}
+
+TEST_F(QuickActionsTest, SavesWhatTurnsOutToBeHeldInMemory)
+{
+    actions.copy({being("scan", nullptr), image});
+    finishWork();
+    EXPECT_EQ(copiedFiles(), (QList<QByteArray>{"in memory", "png bytes"}));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("2 items copied")});
+}
+
+TEST_F(QuickActionsTest, DoesNotCopyWhatIsRemovedBeforeItIsMade)
+{
+    const DropItem item = being("scan", "pixels");
+    actions.copy(item, false);
+    scratch.spool.discard(std::get<DropItem::File>(item.payload()).url);
+    finishWork();
+    EXPECT_TRUE(pasteboard.writes.empty());
+    EXPECT_TRUE(messages.isEmpty());
+}
+
+TEST_F(QuickActionsTest, CopiesTheOtherOneWhereOneOfTwoIsRemovedBeforeItIsMade)
+{
+    const DropItem item = being("scan", "pixels");
+    actions.copy({item, link});
+    scratch.spool.discard(std::get<DropItem::File>(item.payload()).url);
+    finishWork();
+    EXPECT_EQ(writer<PasteboardWriter::Link>().url, std::get<DropItem::Link>(link.payload()).url);
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Link copied")});
+}
+
+TEST_F(QuickActionsTest, WhatIsStillBeingMadeGivesWayToWhatWasCopiedMeanwhile)
+{
+    actions.copy(being("scan", "pixels"), false);
+    actions.copy({being("page", "more"), text});
+    actions.copy(link, false);
+    finishWork();
+    EXPECT_EQ(written().string, QStringLiteral("https://x.org/a%20b?q#f"));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Link copied")});
+}
+
 TEST_F(QuickActionsTest, WorksWhereNobodyShowsMessages)
 {
     feedback.handler = {};
@@ -273,6 +366,12 @@ TEST_F(DataUriCopies, OfFilesBehindANetworkAreReadWhereNobodyWaits)
     work.runAll();
     clock.runPending();
     EXPECT_EQ(written().string, QStringLiteral("data:text/plain;base64,dGV4dA=="));
+}
+
+TEST_F(DataUriCopies, OfFilesThatAreStillBeingMadeHoldTheFinishedFile)
+{
+    EXPECT_EQ(dataUri(being("scan", "pixels")), QStringLiteral("data:image/png;base64,cGl4ZWxz"));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Data URI copied")});
 }
 
 TEST_F(DataUriCopies, GiveWayToWhatWasCopiedMeanwhile)

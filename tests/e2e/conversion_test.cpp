@@ -81,6 +81,25 @@ TEST_F(Conversion, aLargeTiffIsAnsweredAtOnceAndBecomesAPngLater)
     EXPECT_TRUE(isThePage(QString::fromUtf8(made)));
 }
 
+TEST_F(Conversion, aPictureThatIsCopiedBeforeItIsReadyIsThereWhenItIsPasted)
+{
+    // The last one is focused, and made last.
+    QStringList pages;
+    for (int i = 0; i < 3; ++i)
+        pages << makePage(u"page %1.tiff"_s.arg(i));
+    start();
+    ASSERT_TRUE(dropAndLook({{"text/uri-list", uriList(pages)}}));
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    focusShelf(corvane().at(70, 22));
+    hands().key('c', {keys::control});
+    const QString made = corvane().spool() + u"/page 2.png"_s;
+    std::optional<QByteArray> copied;
+    ASSERT_TRUE(
+        eventually([&] { return (copied = m_desktop.clipboard(u"UTF8_STRING"_s)).has_value(); }));
+    EXPECT_TRUE(QFile::exists(made)) << "a paste would find nothing";
+    EXPECT_EQ(copied, made.toUtf8());
+}
+
 TEST_F(Conversion, aLargeTiffFromMemoryIsAnsweredAtOnce)
 {
     QByteArray tiff;

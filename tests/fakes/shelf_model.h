@@ -42,7 +42,7 @@ struct ShelfModel {
     FakeGeneralPasteboard clipboard;
     FakeWorkQueue work;
     DataUris dataUris{desk.locality, desk.remoteFiles, work, desk.clock};
-    QuickActions quickActions{clipboard, feedback, dataUris, desk.savedPictures};
+    QuickActions quickActions{clipboard, feedback, dataUris, desk.preparation, desk.savedPictures};
 };
 
 } // namespace corvane::test
