@@ -87,8 +87,8 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , fullScreenWindows(connection)
     , dropSupport(connection, mainQueue)
     , dragSupport(connection, mainQueue)
-    , panel(panelSurface, mainQueue, &dropSupport, &dragSupport)
-    , viewAllPanel(panelSurface, mainQueue, &dropSupport, &dragSupport)
+    , panel(panelSurface, mainQueue, &dropSupport, &dragSupport, &workQueue)
+    , viewAllPanel(panelSurface, mainQueue, &dropSupport, &dragSupport, &workQueue)
     , statusItem(mainQueue, connection)
     , dragMonitor(dragDesktop, dragDesktop, dragDesktop, mainQueue)
     , screenLocator(screens, pointer)
@@ -104,7 +104,8 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     , remoteFiles(mainQueue)
     , remoteDescriptions(remoteFiles)
     , remotePictures(remoteFiles, pictureItems)
-    , ingest(spool, pictureItems, mountTable, remoteDescriptions, remotePictures)
+    , textDescriptions(workQueue, mainQueue)
+    , ingest(spool, pictureItems, mountTable, remoteDescriptions, remotePictures, textDescriptions)
     , savedPictures(spool, itemPreparation)
     , dataUris(mountTable, remoteFiles, workQueue, mainQueue)
     , quickActions(generalPasteboard, feedback, dataUris, itemPreparation, savedPictures)
@@ -165,9 +166,11 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                 {pointerBarriers, fullScreenWindows, dragDesktop, dragDesktop, pointer},
                 updates.updater()})
 {
-    remoteDescriptions.onFound = [this](const QUuid &item, const QString &description) {
+    const auto describe = [this](const QUuid &item, const QString &description) {
         store.describe(item, description);
     };
+    remoteDescriptions.onFound = describe;
+    textDescriptions.onFound = describe;
     itemPreparation.onReady = [this](const DropItem &made) { store.becomeReady(made); };
     store.onLeft = [this](const QUuid &item, bool deletingFiles) {
         savedPictures.itemLeft(item, deletingFiles);

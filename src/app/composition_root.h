@@ -20,6 +20,7 @@
 #include "core/scratch_spool.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
+#include "core/text_descriptions.h"
 #include "input/drag_monitor.h"
 #include "input/hot_key_center.h"
 #include "input/screen_locator.h"
@@ -140,6 +141,7 @@ struct CompositionRoot {
     RemoteFileThreads remoteFiles;
     RemoteDescriptions remoteDescriptions;
     RemotePictures remotePictures;
+    TextDescriptions textDescriptions;
     PasteboardIngest ingest;
     SavedPictures savedPictures;
     DataUris dataUris;

@@ -5,6 +5,8 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
+
 namespace corvane::item_description {
 
 FileName::FileName(const QUrl &url)
@@ -44,17 +46,23 @@ QString ofFile(const FileName &name, const std::optional<FileVersion> &version)
 
 QString titleOfText(const QString &text)
 {
-    // Longer than any screen shows, and a text may be one line of two hundred megabytes.
+    // Longer than any screen shows, and a text may be one line of two hundred megabytes: no more of
+    // it is looked at than tells how the title ends.
     constexpr qsizetype maximumLength = 16'384;
-    qsizetype start = 0;
-    while (start < text.size() && text[start] == QLatin1Char('\n'))
-        ++start;
-    const qsizetype end = text.indexOf(QLatin1Char('\n'), start);
-    const QStringView line = QStringView(text).mid(start, end < 0 ? -1 : end - start).trimmed();
-    QStringView title = line.left(maximumLength);
-    if (title.size() < line.size() && title.back().isHighSurrogate())
-        title.chop(1);
-    return title.toString();
+    const auto first
+        = std::find_if(text.begin(), text.end(), [](QChar c) { return c != QLatin1Char('\n'); });
+    const auto start = std::find_if(first, text.end(),
+                                    [](QChar c) { return c == QLatin1Char('\n') || !c.isSpace(); });
+    const qsizetype length = std::min<qsizetype>(text.end() - start, maximumLength);
+    const auto limit = start + length;
+    const auto end = std::find(start, limit, QLatin1Char('\n'));
+    const auto next = std::find_if(end, text.end(),
+                                   [](QChar c) { return c == QLatin1Char('\n') || !c.isSpace(); });
+    const QStringView title(start, end);
+    const bool isWhole = next == text.end() || *next == QLatin1Char('\n');
+    if (isWhole)
+        return title.trimmed().toString();
+    return (title.back().isHighSurrogate() ? title.chopped(1) : title).toString();
 }
 
 bool isRegularFile(const QUrl &url)

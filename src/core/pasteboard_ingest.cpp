@@ -1,12 +1,12 @@
 #include "core/pasteboard_ingest.h"
 
-#include "core/characters.h"
 #include "core/item_description.h"
 #include "core/picture_items.h"
 #include "core/remote_descriptions.h"
 #include "core/remote_pictures.h"
 #include "core/scratch_spool.h"
 #include "core/spool_place.h"
+#include "core/text_descriptions.h"
 #include "platform/file_url.h"
 #include "platform/pasteboard.h"
 #include "platform/shown_address.h"
@@ -54,28 +54,19 @@ std::optional<DropItem> linkItem(Pasteboard &pasteboard)
                     host.isEmpty() ? address : host, false);
 }
 
-std::optional<DropItem> textItem(Pasteboard &pasteboard)
-{
-    const auto text = pasteboard.string();
-    if (!text || QStringView(*text).trimmed().isEmpty())
-        return std::nullopt;
-    const qsizetype count = characters::count(*text);
-    const QString subtitle = count == 1 ? QStringLiteral("1 character")
-                                        : QString::number(count) + QStringLiteral(" characters");
-    return DropItem(DropItem::Text{*text}, item_description::titleOfText(*text), subtitle, false);
-}
-
 } // namespace
 
 PasteboardIngest::PasteboardIngest(ScratchSpool &spool, const PictureItems &pictures,
                                    const FileLocality &locality,
                                    RemoteDescriptions &remoteDescriptions,
-                                   RemotePictures &remotePictures)
+                                   RemotePictures &remotePictures,
+                                   TextDescriptions &textDescriptions)
     : m_spool(spool)
     , m_pictures(pictures)
     , m_locality(locality)
     , m_remoteDescriptions(remoteDescriptions)
     , m_remotePictures(remotePictures)
+    , m_textDescriptions(textDescriptions)
 {
 }
 
@@ -194,6 +185,17 @@ std::optional<DropItem> PasteboardIngest::imageItem(Pasteboard &pasteboard) cons
     if (!data || data->isEmpty())
         return std::nullopt;
     return m_pictures.ofBytes(*data, type);
+}
+
+std::optional<DropItem> PasteboardIngest::textItem(Pasteboard &pasteboard) const
+{
+    const auto text = pasteboard.string();
+    if (!text || QStringView(*text).trimmed().isEmpty())
+        return std::nullopt;
+    DropItem item(DropItem::Text{*text}, item_description::titleOfText(*text),
+                  TextDescriptions::atOnce(*text), false);
+    m_textDescriptions.find(item.id(), *text);
+    return item;
 }
 
 } // namespace corvane

@@ -21,17 +21,18 @@ class RemoteDescriptions;
 class RemotePictures;
 class ScratchSpool;
 class SpoolPlace;
+class TextDescriptions;
 
 /// Turns what was dropped into items. The references must outlive it.
 ///
 /// A drop waits for nothing: a picture that is to be converted or written comes as an item that is
-/// still being made, and of a file behind a network only the name is looked at, and the rest asked
-/// for later.
+/// still being made; of a file behind a network only the name is looked at, and the rest asked for
+/// later; a large text is counted later.
 class PasteboardIngest {
 public:
     PasteboardIngest(ScratchSpool &spool, const PictureItems &pictures,
                      const FileLocality &locality, RemoteDescriptions &remoteDescriptions,
-                     RemotePictures &remotePictures);
+                     RemotePictures &remotePictures, TextDescriptions &textDescriptions);
 
     /// The MIME names that the shelf takes drops of.
     static QStringList acceptedTypes();
@@ -56,6 +57,7 @@ private:
     DropItem fileItem(const QUrl &url, const FileLocality::Inspection &inspection) const;
     std::optional<DropItem> promisedFileItem(Pasteboard &pasteboard) const;
     std::optional<DropItem> imageItem(Pasteboard &pasteboard) const;
+    std::optional<DropItem> textItem(Pasteboard &pasteboard) const;
 
     static constexpr std::size_t mostPromised = 1'000;
 
@@ -67,6 +69,7 @@ private:
     const FileLocality &m_locality;
     RemoteDescriptions &m_remoteDescriptions;
     RemotePictures &m_remotePictures;
+    TextDescriptions &m_textDescriptions;
 };
 
 } // namespace corvane

@@ -5,6 +5,7 @@
 #include "core/remote_descriptions.h"
 #include "core/remote_pictures.h"
 #include "core/temporary_spool.h"
+#include "core/text_descriptions.h"
 #include "fakes/fake_file_locality.h"
 #include "fakes/fake_image_codec.h"
 #include "fakes/fake_pasteboard.h"
@@ -29,6 +30,9 @@ struct PasteboardIngestTest : testing::Test, test::TemporarySpool {
     PasteboardIngestTest()
     {
         preparation.onReady = [this](const DropItem &made) { ready.insert(made.id(), made); };
+        textDescriptions.onFound = [this](const QUuid &item, const QString &description) {
+            counted.insert(item, description);
+        };
     }
 
     /// Everything that is made beside the main thread comes to its end.
@@ -41,7 +45,9 @@ struct PasteboardIngestTest : testing::Test, test::TemporarySpool {
     DropItem finished(const DropItem &item)
     {
         finishWork();
-        return ready.value(item.id(), item);
+        DropItem last = ready.value(item.id(), item);
+        last.setSubtitle(counted.value(item.id(), last.subtitle()));
+        return last;
     }
     /// The source has saved it where it was told to.
     void promiseFile(const QString &name, const QByteArray &bytes)
@@ -84,8 +90,11 @@ struct PasteboardIngestTest : testing::Test, test::TemporarySpool {
     test::FakeRemoteFiles remoteFiles;
     RemoteDescriptions remoteDescriptions{remoteFiles};
     RemotePictures remotePictures{remoteFiles, pictures};
-    PasteboardIngest ingest{spool, pictures, locality, remoteDescriptions, remotePictures};
+    TextDescriptions textDescriptions{work, clock};
+    PasteboardIngest ingest{spool,          pictures,        locality, remoteDescriptions,
+                            remotePictures, textDescriptions};
     QHash<QUuid, DropItem> ready;
+    QHash<QUuid, QString> counted;
     test::FakePasteboard pasteboard;
 };
 
@@ -681,6 +690,50 @@ TEST_F(Texts, HaveAnEmptyTitleWhenTheirFirstLineIsBlank)
     offerText("   \nhello");
     EXPECT_EQ(single().title(), QString());
     EXPECT_EQ(single().subtitle(), QStringLiteral("9 characters"));
+}
+
+TEST_F(Texts, ThatAreLargeAreCountedBesideTheMainThread)
+{
+    pasteboard.offerText(QString(1'000'001, QLatin1Char('x')));
+    const DropItem item = singleAtOnce();
+    EXPECT_EQ(item.subtitle(), QStringLiteral("Counting characters…"));
+    EXPECT_EQ(std::get<DropItem::Text>(item.payload()).string.size(), 1'000'001);
+    EXPECT_EQ(finished(item).subtitle(), QStringLiteral("1000001 characters"));
+    pasteboard.offerText(QString(1'000'000, QLatin1Char('x')));
+    EXPECT_EQ(singleAtOnce().subtitle(), QStringLiteral("1000000 characters"));
+    EXPECT_EQ(work.pendingCount(), 0U);
+}
+
+TEST_F(Texts, AreNotSpokenOfByCountersThatAreGone)
+{
+    std::optional<TextDescriptions> descriptions(std::in_place, work, clock);
+    int found = 0;
+    descriptions->onFound = [&](const QUuid &, const QString &) { ++found; };
+    descriptions->find(QUuid::createUuid(), QString(2'000'000, QLatin1Char('x')));
+    descriptions.reset();
+    finishWork();
+    EXPECT_EQ(found, 0);
+}
+
+TEST_F(Texts, HaveTitlesThatEndWhereNobodyReadsOn)
+{
+    constexpr qsizetype most = 16'384;
+    const auto title = [this](const QString &text) {
+        pasteboard.offerText(text);
+        return singleAtOnce().title();
+    };
+    const QString full(most, QLatin1Char('x'));
+    const QString blanks(50, QLatin1Char(' '));
+    const QString y = QStringLiteral("y");
+    EXPECT_EQ(title(QString(blanks + full + y)), full);
+    EXPECT_EQ(title(QString(full + blanks + QStringLiteral("\n") + y)), full);
+    EXPECT_EQ(title(QString(full + blanks)), full);
+    EXPECT_EQ(title(QString(full.chopped(50) + blanks + QStringLiteral("\n") + y)),
+              full.chopped(50));
+    EXPECT_EQ(title(QString(full.chopped(50) + blanks + y)), QString(full.chopped(50) + blanks));
+    const QString smile = QStringLiteral("\U0001F600");
+    EXPECT_EQ(title(QString(full.chopped(1) + smile)), full.chopped(1));
+    EXPECT_EQ(title(QString(full.chopped(2) + smile)), QString(full.chopped(2) + smile));
 }
 
 TEST_F(Texts, OfTwoHundredMegabytesAreSharedAndNotCopied)

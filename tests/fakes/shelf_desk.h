@@ -9,6 +9,7 @@
 #include "core/remote_pictures.h"
 #include "core/saved_pictures.h"
 #include "core/scratch_spool.h"
+#include "core/text_descriptions.h"
 #include "fakes/fake_file_locality.h"
 #include "fakes/fake_image_codec.h"
 #include "fakes/fake_keyboard.h"
@@ -100,7 +101,9 @@ struct ShelfDesk {
     FakeRemoteFiles remoteFiles;
     RemoteDescriptions remoteDescriptions{remoteFiles};
     RemotePictures remotePictures{remoteFiles, pictures};
-    PasteboardIngest ingest{spool, pictures, locality, remoteDescriptions, remotePictures};
+    TextDescriptions textDescriptions{work, clock};
+    PasteboardIngest ingest{spool,          pictures,        locality, remoteDescriptions,
+                            remotePictures, textDescriptions};
     DragWriter dragWriter{Qt::gray, [](QPainter &, PhosphorIcon, const QRectF &) {}, locality};
     LayerAnimator animator;
     Theme theme;

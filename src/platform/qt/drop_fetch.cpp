@@ -1,15 +1,18 @@
 #include "platform/qt/drop_fetch.h"
 
+#include "platform/main_queue.h"
 #include "platform/qt/pasteboard_text.h"
 #include "platform/ut_type.h"
+#include "platform/work_queue.h"
 
 #include <utility>
 
 namespace corvane {
 
-DropFetch::DropFetch(std::shared_ptr<IncomingDrag> drag, FindPlace findPlace)
+DropFetch::DropFetch(std::shared_ptr<IncomingDrag> drag, FindPlace findPlace, Threads threads)
     : m_drag(std::move(drag))
     , m_findPlace(std::move(findPlace))
+    , m_threads(threads)
     , m_pasteboard(m_drag->types())
 {
 }
@@ -22,9 +25,8 @@ void DropFetch::start(Done done)
 
 void DropFetch::fetchAddresses()
 {
-    fetchUntil(
-        BytesPasteboard::addressTypes(m_drag->types()), maximumBytes,
-        [this] { return !m_pasteboard.urls().isEmpty(); }, &DropFetch::fetchPromisedFile);
+    fetchUntil({BytesPasteboard::addressTypes(m_drag->types()), maximumBytes,
+                [this] { return !m_pasteboard.urls().isEmpty(); }, &DropFetch::fetchPromisedFile});
 }
 
 void DropFetch::fetchPromisedFile()
@@ -60,8 +62,7 @@ void DropFetch::fetchPicture()
         if (!spelled.isEmpty())
             pictures << spelled;
     }
-    fetchUntil(
-        pictures, maximumBytes, [this] { return hasPicture(); }, &DropFetch::fetchText);
+    fetchUntil({pictures, maximumBytes, [this] { return hasPicture(); }, &DropFetch::fetchText});
 }
 
 bool DropFetch::hasPicture()
@@ -79,33 +80,68 @@ void DropFetch::fetchText()
         finish();
         return;
     }
-    fetchUntil(
-        pasteboard_text::typesByExactness(m_drag->types()), BytesPasteboard::maximumTextBytes,
-        [this] { return m_pasteboard.string().has_value(); }, &DropFetch::finish);
+    fetchUntil({pasteboard_text::typesByExactness(m_drag->types()),
+                BytesPasteboard::maximumTextBytes,
+                [this] { return m_pasteboard.string().has_value(); }, &DropFetch::finish});
 }
 
-void DropFetch::fetchUntil(QStringList types, qsizetype limit, const Suffices &suffices, Step next)
+void DropFetch::fetchUntil(Wish wish)
 {
-    if (types.isEmpty()) {
-        (this->*next)();
+    if (wish.types.isEmpty()) {
+        (this->*wish.next)();
         return;
     }
-    const QString type = types.takeFirst();
+    const QString type = wish.types.takeFirst();
+    const qsizetype limit = wish.limit;
     m_drag->fetch(type, limit,
-                  [this, types = std::move(types), limit, suffices, next, type,
-                   alive = std::weak_ptr<bool>(m_alive)](IncomingDrag::Outcome outcome,
-                                                         const QByteArray &bytes) {
+                  [this, type, wish = std::move(wish), alive = std::weak_ptr<bool>(m_alive)](
+                      IncomingDrag::Outcome outcome, const QByteArray &bytes) {
                       if (alive.expired())
                           return;
-                      if (outcome == IncomingDrag::Outcome::Arrived)
-                          m_pasteboard.setBytes(type, bytes);
                       if (outcome == IncomingDrag::Outcome::Lost)
                           finish();
-                      else if (outcome == IncomingDrag::Outcome::Arrived && suffices())
-                          (this->*next)();
+                      else if (outcome == IncomingDrag::Outcome::Arrived)
+                          keep(type, bytes, wish);
                       else
-                          fetchUntil(types, limit, suffices, next);
+                          fetchUntil(wish);
                   });
+}
+
+void DropFetch::keep(const QString &type, const QByteArray &bytes, const Wish &wish)
+{
+    const bool isText = !pasteboard_text::typesByExactness({type}).isEmpty();
+    if (isText && bytes.size() > mostDecodedAtOnce && m_threads.workQueue) {
+        keepLargeText(type, bytes, wish);
+        return;
+    }
+    m_pasteboard.setBytes(type, bytes);
+    goOn(wish);
+}
+
+void DropFetch::keepLargeText(const QString &type, const QByteArray &bytes, const Wish &wish)
+{
+    m_threads.workQueue->run([this, type, bytes, wish, mainQueue = m_threads.mainQueue,
+                              alive = std::weak_ptr<bool>(m_alive)] {
+        QString text = pasteboard_text::decoded(bytes, type);
+        // As good as none: nobody makes anything of it.
+        if (QStringView(text).trimmed().isEmpty())
+            text.clear();
+        mainQueue->async([this, text, wish, alive] {
+            if (alive.expired())
+                return;
+            if (!text.isEmpty())
+                m_pasteboard.setText(text);
+            goOn(wish);
+        });
+    });
+}
+
+void DropFetch::goOn(const Wish &wish)
+{
+    if (wish.suffices())
+        (this->*wish.next)();
+    else
+        fetchUntil(wish);
 }
 
 void DropFetch::finish()

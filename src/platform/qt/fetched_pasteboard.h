@@ -17,6 +17,7 @@ public:
     }
 
     QStringList types() const override { return m_types; }
+    std::optional<QString> string() override { return m_text ? m_text : BytesPasteboard::string(); }
     std::optional<QUrl> promisedFile() override { return m_promisedFile; }
 
     void setBytes(const QString &type, const QByteArray &bytes)
@@ -24,6 +25,8 @@ public:
         m_bytes.insert(type, bytes);
         forget();
     }
+    /// The text, decoded already; its bytes are not needed.
+    void setText(const QString &text) { m_text = text; }
     void setPromisedFile(const QUrl &file) { m_promisedFile = file; }
 
 private:
@@ -31,6 +34,7 @@ private:
 
     QStringList m_types;
     QHash<QString, QByteArray> m_bytes;
+    std::optional<QString> m_text;
     std::optional<QUrl> m_promisedFile;
 };
 

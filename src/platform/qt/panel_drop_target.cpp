@@ -1,7 +1,6 @@
 #include "platform/qt/panel_drop_target.h"
 
 #include "platform/panel_window.h"
-#include "platform/qt/drop_fetch.h"
 #include "platform/qt/qt_geometry.h"
 #include "platform/qt/qt_pasteboard.h"
 
@@ -48,8 +47,9 @@ DraggingInfo infoFrom(const QDropEvent &event, double panelHeight, Pasteboard &p
 
 } // namespace
 
-PanelDropTarget::PanelDropTarget(QWindow &window, DropSupport *support)
+PanelDropTarget::PanelDropTarget(QWindow &window, DropSupport *support, DropFetch::Threads threads)
     : m_support(support)
+    , m_threads(threads)
 {
     if (m_support)
         m_support->addReceiver(window, *this);
@@ -161,7 +161,7 @@ bool PanelDropTarget::takeDrop(std::shared_ptr<IncomingDrag> drop)
         return guarded(std::optional<QUrl>(),
                        [&] { return m_content->placeForPromisedFile(name); });
     };
-    auto fetch = std::make_unique<DropFetch>(std::move(drop), findPlace);
+    auto fetch = std::make_unique<DropFetch>(std::move(drop), findPlace, m_threads);
     DropFetch &started = *m_awaited.emplace_back(std::move(fetch));
     started.start(
         [this, &started](FetchedPasteboard &pasteboard) { contentsArrived(&started, pasteboard); });

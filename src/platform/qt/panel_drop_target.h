@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/drop_support.h"
+#include "platform/qt/drop_fetch.h"
 
 #include <QPointF>
 
@@ -14,8 +15,6 @@ class QWindow;
 
 namespace corvane {
 
-class DropFetch;
-class FetchedPasteboard;
 class PanelContent;
 class Pasteboard;
 
@@ -34,7 +33,7 @@ class Pasteboard;
 class PanelDropTarget : public DropReceiver {
 public:
     /// The support must outlive it, or be null. It is told of the window.
-    PanelDropTarget(QWindow &window, DropSupport *support);
+    PanelDropTarget(QWindow &window, DropSupport *support, DropFetch::Threads threads);
     ~PanelDropTarget() override;
     PanelDropTarget(const PanelDropTarget &) = delete;
     PanelDropTarget &operator=(const PanelDropTarget &) = delete;
@@ -62,6 +61,7 @@ private:
     void contentsArrived(DropFetch *fetch, FetchedPasteboard &pasteboard);
 
     DropSupport *m_support;
+    DropFetch::Threads m_threads;
     PanelContent *m_content = nullptr;
     State m_state = State::Outside;
     /// Where the drag was last, in the content's coordinates.

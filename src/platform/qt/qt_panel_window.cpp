@@ -13,13 +13,13 @@
 namespace corvane {
 
 QtPanelWindow::QtPanelWindow(PanelSurface &surface, MainQueue &queue, DropSupport *dropSupport,
-                             DragSupport *dragSupport)
+                             DragSupport *dragSupport, WorkQueue *workQueue)
     : m_surface(surface)
     , m_queue(queue)
     , m_dragSupport(dragSupport)
     , m_canvas(std::make_unique<PanelCanvas>([this](QPainter &painter) { paint(painter); },
                                              [this](QEvent &event) { return handle(event); }))
-    , m_dropTarget(*m_canvas, dropSupport)
+    , m_dropTarget(*m_canvas, dropSupport, {workQueue, &queue})
 {
     m_surface.adopt(*m_canvas);
     m_surface.observeComposited([this, alive = m_alive] {

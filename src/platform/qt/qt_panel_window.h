@@ -19,16 +19,18 @@ class DragSupport;
 class DropSupport;
 class MainQueue;
 class PanelSurface;
+class WorkQueue;
 
 /// A panel on a Qt window of its own. Everything that it is given must outlive it; without the
-/// supports drops and drags are what Qt makes of them. Main thread only.
+/// supports drops and drags are what Qt makes of them, and large texts are decoded on the work
+/// queue where there is one. Main thread only.
 class QtPanelWindow : public PanelWindow {
 public:
     /// How long a window manager may take to give the keyboard to what was clicked.
     static constexpr double focusDelay = 0.3;
 
     QtPanelWindow(PanelSurface &surface, MainQueue &queue, DropSupport *dropSupport = nullptr,
-                  DragSupport *dragSupport = nullptr);
+                  DragSupport *dragSupport = nullptr, WorkQueue *workQueue = nullptr);
     ~QtPanelWindow() override;
 
     void setContent(PanelContent *content) override;

@@ -1,0 +1,51 @@
+#include "core/text_descriptions.h"
+
+#include "core/characters.h"
+#include "platform/main_queue.h"
+#include "platform/work_queue.h"
+
+namespace corvane {
+
+namespace {
+
+QString counted(const QString &text)
+{
+    const qsizetype count = characters::count(text);
+    return count == 1 ? QStringLiteral("1 character")
+                      : QString::number(count) + QStringLiteral(" characters");
+}
+
+bool isLarge(const QString &text)
+{
+    return text.size() > TextDescriptions::mostCountedAtOnce;
+}
+
+} // namespace
+
+TextDescriptions::TextDescriptions(WorkQueue &workQueue, MainQueue &mainQueue)
+    : m_workQueue(workQueue)
+    , m_mainQueue(mainQueue)
+{
+}
+
+TextDescriptions::~TextDescriptions() = default;
+
+QString TextDescriptions::atOnce(const QString &text)
+{
+    return isLarge(text) ? QStringLiteral("Counting characters…") : counted(text);
+}
+
+void TextDescriptions::find(const QUuid &item, const QString &text)
+{
+    if (!isLarge(text))
+        return;
+    m_workQueue.run([&mainQueue = m_mainQueue, weak = std::weak_ptr(m_self), item, text] {
+        mainQueue.async([weak, item, description = counted(text)] {
+            const auto self = weak.lock();
+            if (self && (*self)->onFound)
+                (*self)->onFound(item, description);
+        });
+    });
+}
+
+} // namespace corvane
