@@ -58,17 +58,18 @@ TEST(SingleInstance, aSecondProcessHandsOverToTheFirst)
     QDBusConnection::sessionBus().unregisterService(sceneApplicationId());
 }
 
-TEST(SingleInstance, aFirstOneThatIsStuckIsNoneToHandOverToAndDoesNothingLater)
+TEST(SingleInstance, aFirstOneWhoseMainThreadIsStuckIsNoneToHandOverToAndDoesNothingLater)
 {
-    Scene first("instance");
+    Scene first("stuckInstance");
     ASSERT_TRUE(first.waitFor("first"));
-    const auto pid = static_cast<pid_t>(first.process.processId());
-    ::kill(pid, SIGSTOP);
+    first.process.write("s");
+    ASSERT_TRUE(first.waitFor("stuck"));
     DBusSingleInstance second(sceneApplicationId());
     EXPECT_EQ(second.acquire([] {}), SingleInstance::Outcome::NotAnswering);
-    EXPECT_EQ(second.otherProcess(), pid);
+    EXPECT_EQ(second.otherProcess(), first.process.processId());
 
-    ::kill(pid, SIGCONT);
+    first.process.write("g");
+    first.process.waitForBytesWritten();
     EXPECT_EQ(second.acquire([] {}), SingleInstance::Outcome::HandedOver);
     ASSERT_TRUE(first.waitFor("reopened"));
     EXPECT_EQ(first.output.count("reopened"), 1) << "the wish that it did not hear is forgotten";

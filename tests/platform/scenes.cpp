@@ -8,10 +8,14 @@
 #include "platform/x11/x11_connection.h"
 
 #include <QCoreApplication>
+#include <QSocketNotifier>
 #include <QTimer>
+
+#include <unistd.h>
 
 #include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <semaphore>
 
 namespace corvane::test {
@@ -38,6 +42,19 @@ int instance()
     DBusSingleInstance single(sceneApplicationId());
     say(nameOf(single.acquire([] { say("reopened"); })));
     return QCoreApplication::exec();
+}
+
+/// The same, with a main thread that stands still between two lines of its input. Its other threads
+/// go on, as those of a program do that waits for a disk.
+int stuckInstance()
+{
+    QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&input, &QSocketNotifier::activated, &input, [] {
+        std::getchar();
+        say("stuck");
+        std::getchar();
+    });
+    return instance();
 }
 
 int signals()
@@ -111,6 +128,8 @@ int playScene(const QByteArray &name)
     QTimer::singleShot(std::chrono::minutes{1}, qApp, &QCoreApplication::quit);
     if (name == "instance")
         return instance();
+    if (name == "stuckInstance")
+        return stuckInstance();
     if (name == "signals")
         return signals();
     if (name == "stuckForGood")

@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace corvane::test {
 
 namespace {
@@ -43,6 +45,20 @@ public:
         return isAnswered;
     }
     QByteArray given(const char *property = "GIVEN") { return m_server.property(window, property); }
+    enum class Answer { None, Given, Refused };
+    /// What it was told last: a refusal leaves the same property as no answer at all.
+    Answer answer()
+    {
+        m_connection.serverTime();
+        m_server.facts(window);
+        while (auto *const event = xcb_poll_for_event(m_server.connection())) {
+            const auto &notify = *reinterpret_cast<const xcb_selection_notify_event_t *>(event);
+            if ((event->response_type & 0x7f) == XCB_SELECTION_NOTIFY)
+                m_answer = notify.property == XCB_NONE ? Answer::Refused : Answer::Given;
+            std::free(event);
+        }
+        return m_answer;
+    }
     /// Asks, and gives what came; empty for a refusal.
     QByteArray take(const char *target)
     {
@@ -102,6 +118,7 @@ private:
     X11Connection &m_connection;
     X11DragSupport &m_support;
     e2e::XServer m_server{qgetenv("DISPLAY")};
+    Answer m_answer = Answer::None;
 
 public:
     const xcb_window_t window;
@@ -405,8 +422,9 @@ TEST_F(X11DragSupportTest, whatCouldNotBeMadeIsRefused)
     target.accept();
     target.ask("image/png");
     drop(drag);
+    EXPECT_EQ(target.answer(), Peer::Answer::None);
     support.formsAreReady(drag, std::nullopt);
-    EXPECT_EQ(target.given(), QByteArray());
+    EXPECT_EQ(target.answer(), Peer::Answer::Refused);
     target.finish();
     EXPECT_EQ(taken(), Places());
 }
@@ -417,7 +435,11 @@ TEST_F(X11DragSupportTest, whatIsNeverMadeIsRefusedAfterAWhile)
     target.accept();
     target.ask("image/png");
     drop(drag);
-    clock.advance(X11DragSupport::makingPatience + 2 * X11DragSupport::defaultPatience);
+    clock.advance(X11DragSupport::makingPatience - X11DragSupport::defaultPatience);
+    EXPECT_EQ(target.answer(), Peer::Answer::None) << "it may still be made";
+    clock.advance(2 * X11DragSupport::defaultPatience);
+    EXPECT_EQ(target.answer(), Peer::Answer::Refused);
+    clock.advance(X11DragSupport::defaultPatience);
     ASSERT_EQ(ends.size(), 1U);
     EXPECT_EQ(taken(), Places());
     EXPECT_EQ(clock.pendingCount(), 0U);
