@@ -2,7 +2,9 @@
 //
 // Whoever touches a path below CORVANE_HANGING_FOLDER waits for good, as with a file server that is
 // gone; below CORVANE_SLEEPING_FOLDER only who opens a file does, as with a disk that has gone to
-// sleep. The table of mounts can be another one: CORVANE_MOUNTS names a file in its place.
+// sleep. That one wakes, where CORVANE_WAKING_PIPE names a pipe, as long as somebody holds that
+// open for writing. The table of mounts can be another one: CORVANE_MOUNTS names a file in its
+// place.
 
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -27,19 +29,29 @@ void touch(const char *path)
         ::pause();
 }
 
-const char *opened(const char *path)
-{
-    touch(path);
-    while (isBelow(path, "CORVANE_SLEEPING_FOLDER"))
-        ::pause();
-    const char *const mounts = std::getenv("CORVANE_MOUNTS");
-    return mounts && std::strcmp(path, "/proc/self/mountinfo") == 0 ? mounts : path;
-}
-
 template<class Function>
 Function real(const char *name)
 {
     return reinterpret_cast<Function>(::dlsym(RTLD_NEXT, name));
+}
+
+void waitForWaking()
+{
+    const char *const pipe = std::getenv("CORVANE_WAKING_PIPE");
+    // Opening one for reading waits for whoever writes.
+    const int waking = pipe ? real<int (*)(const char *, int, ...)>("open")(pipe, O_RDONLY) : -1;
+    while (waking < 0)
+        ::pause();
+    ::close(waking);
+}
+
+const char *opened(const char *path)
+{
+    touch(path);
+    if (isBelow(path, "CORVANE_SLEEPING_FOLDER"))
+        waitForWaking();
+    const char *const mounts = std::getenv("CORVANE_MOUNTS");
+    return mounts && std::strcmp(path, "/proc/self/mountinfo") == 0 ? mounts : path;
 }
 
 mode_t modeOf(int flags, va_list arguments)
