@@ -1,0 +1,126 @@
+"""Which tests come to a mutant, and whether they notice it."""
+import collections
+import dataclasses
+import os
+import pathlib
+import re
+import signal
+import subprocess
+import tempfile
+
+from mutation.mutants import KILLED, SURVIVED, Mutant
+
+PASSED = re.compile(r"\[       OK \] ([^\s,]+).*\((\d+) ms\)")
+FAILED = re.compile(r"\[  FAILED  \] ([^\s,(]+[./][^\s,(]+)")
+BEGUN = re.compile(r"\[ RUN      \] (\S+)")
+# How much longer than without a mutant tests may take, and for starting what they need.
+SLOWER, START = 5, 25
+# More than that, and the whole program is as quick as choosing.
+LONGEST_FILTER = 30_000
+
+
+@dataclasses.dataclass
+class Run:
+    status: int | None
+    output: str
+
+    @property
+    def noticed(self) -> str:
+        """The first test that failed, or that was running at the end; empty where all passed."""
+        if self.status == 0:
+            return ""
+        failed = FAILED.search(self.output)
+        begun = BEGUN.findall(self.output)
+        if failed:
+            return failed[1]
+        reason = "hangs" if self.status is None else "ends"
+        return f"{begun[-1] if begun else 'the start'} ({reason})"
+
+
+class Programs:
+    def __init__(self, folder: pathlib.Path, names: list[str]):
+        self._folder = folder
+        self.names = names
+        self._times: dict[str, dict[str, float]] = {}
+        self._reached: dict[str, dict[int, set]] = {}
+
+    def run_clean(self) -> None:
+        """Runs everything once without a mutant, and writes down which tests come to which."""
+        for name in self.names:
+            with tempfile.NamedTemporaryFile("r", suffix=".reached") as reached:
+                run = self._run(name, "*", -1, 1800, reached.name)
+                reached.seek(0)
+                self._reached[name] = collections.defaultdict(set)
+                for line in reached:
+                    number, _, test = line.rstrip("\n").partition(" ")
+                    self._reached[name][int(number)].add(test)
+            self._times[name] = {test: int(ms) / 1000 for test, ms in PASSED.findall(run.output)}
+            failed = set(FAILED.findall(run.output))
+            print(f"  {name}: {len(self._times[name])} tests, {sum(self._times[name].values()):.0f} s,"
+                  f" come to {len(self._reached[name])} mutants", flush=True)
+            if run.status is None or not self._times[name]:
+                raise SystemExit(f"corvane_{name}_tests did not run:\n{run.output[-3000:]}")
+            if failed:
+                print(f"    not used, for they fail without a mutant: {', '.join(sorted(failed))}")
+
+    def try_out(self, number: int, mutant: Mutant) -> None:
+        ran = 0
+        for name in self._in_order(mutant.path):
+            tests = self._reached[name].get(number)
+            if not tests:
+                continue
+            ran += 1
+            noticed = self._noticed(name, number, tests)
+            if noticed:
+                mutant.result, mutant.by = KILLED, f"{name}: {noticed}"
+                return
+        mutant.result, mutant.by = SURVIVED, "" if ran else "no test comes here"
+
+    def _in_order(self, path: str) -> list[str]:
+        """The folder's own program first."""
+        own = [name for name in reversed(self.names) if f"/{name}/" in path]
+        return own + [name for name in self.names if name not in own]
+
+    def _noticed(self, name: str, number: int, tests: set) -> str:
+        times = self._times[name]
+        chosen = sorted(test for test in tests if test in times)
+        # Not in any test: before the first one, or in a thread after the last.
+        if "" in tests or len(":".join(chosen)) > LONGEST_FILTER:
+            chosen = sorted(times)
+            if len(":".join(chosen)) > LONGEST_FILTER:
+                chosen = []
+        names = ":".join(chosen) or "*"
+        limit = START + SLOWER * sum(times[test] for test in chosen or times)
+        run = self._run(name, names, number, limit)
+        if not run.noticed:
+            return ""
+        # On a busy machine a test may fail for another reason.
+        first = run.noticed.split(" ")[0]
+        again = self._run(name, first if first in times else names, number, limit)
+        if again.noticed:
+            return run.noticed
+        return self._run(name, names, number, limit).noticed
+
+    def _run(self, name: str, tests: str, number: int, limit: float, reached: str = "") -> Run:
+        environment = {**os.environ, "CORVANE_MUTANT": str(number), "GTEST_FILTER": tests}
+        environment.pop("GTEST_BRIEF", None)
+        if number > 0:
+            environment["GTEST_FAIL_FAST"] = "1"
+        environment["CORVANE_MUTANTS_REACHED"] = reached
+        with tempfile.TemporaryFile() as output:
+            process = subprocess.Popen([str(self._folder / f"corvane_{name}_tests")],
+                                       stdin=subprocess.DEVNULL, stdout=output,
+                                       stderr=subprocess.STDOUT, start_new_session=True,
+                                       env=environment)
+            try:
+                status = process.wait(limit)
+            except subprocess.TimeoutExpired:
+                status = None
+            finally:
+                try:
+                    os.killpg(process.pid, signal.SIGKILL)
+                except ProcessLookupError:
+                    pass
+                process.wait()
+            output.seek(0)
+            return Run(status, output.read().decode(errors="replace"))
