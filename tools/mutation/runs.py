@@ -16,7 +16,9 @@ BEGUN = re.compile(r"\[ RUN      \] (\S+)")
 # How much longer than without a mutant tests may take, and for starting what they need.
 SLOWER, START = 5, 25
 # More than that, and the whole program is as quick as choosing.
-LONGEST_FILTER = 30_000
+LONGEST_FILTER = 100_000
+# A program that takes no longer is run as a whole before a mutant has survived it.
+QUICK = 10
 
 
 @dataclasses.dataclass
@@ -85,12 +87,16 @@ class Programs:
         times = self._times[name]
         chosen = sorted(test for test in tests if test in times)
         # Not in any test: before the first one, or in a thread after the last.
-        if "" in tests or len(":".join(chosen)) > LONGEST_FILTER:
-            chosen = sorted(times)
-            if len(":".join(chosen)) > LONGEST_FILTER:
-                chosen = []
-        names = ":".join(chosen) or "*"
-        limit = START + SLOWER * sum(times[test] for test in chosen or times)
+        if "" in tests or not chosen or len(":".join(chosen)) > LONGEST_FILTER:
+            return self._noticed_by(name, number, sorted(times))
+        # What is made once in a process is noted at the first test that needs it, and others may look.
+        return self._noticed_by(name, number, chosen) or (
+            self._noticed_by(name, number, sorted(times)) if sum(times.values()) < QUICK else "")
+
+    def _noticed_by(self, name: str, number: int, tests: list[str]) -> str:
+        times = self._times[name]
+        names = ":".join(tests) if len(":".join(tests)) < LONGEST_FILTER else "*"
+        limit = START + SLOWER * sum(times[test] for test in tests)
         run = self._run(name, names, number, limit)
         if not run.noticed:
             return ""
