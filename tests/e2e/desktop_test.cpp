@@ -195,6 +195,24 @@ QByteArray DesktopTest::clipboardText(const QByteArray &expected)
     return text;
 }
 
+testing::AssertionResult DesktopTest::holdsExactly(int inView, const QStringList &paths)
+{
+    const auto count = static_cast<int>(paths.size());
+    // More than fit look the same.
+    if (!corvane().waitForSize(CorvaneProgram::carousel(inView, count)))
+        return testing::AssertionFailure() << "the shelf has the size of another number of items";
+    QStringList held;
+    const bool isHeld = eventually(
+        [&] {
+            held = Bar(m_desktop, corvane(), inView).held(count);
+            return held == paths;
+        },
+        std::chrono::seconds{10});
+    if (isHeld)
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "it holds " << held.join(u' ').toStdString();
+}
+
 void DesktopTest::openMenu(QPoint at, uint8_t button)
 {
     hands().click(at, button);

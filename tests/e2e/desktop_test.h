@@ -1,5 +1,6 @@
 #pragma once
 
+#include "e2e/desktop/bar.h"
 #include "e2e/desktop/corvane_program.h"
 #include "e2e/desktop/eventually.h"
 #include "e2e/desktop/file_manager.h"
@@ -69,6 +70,8 @@ protected:
 
     /// The clipboard as text, once it says `expected` or time is up.
     QByteArray clipboardText(const QByteArray &expected);
+    /// Whether a shelf that shows so many holds these files, in this order, and nothing else.
+    testing::AssertionResult holdsExactly(int inView, const QStringList &paths);
     /// Clicks there, and waits until the program's menu has opened.
     void openMenu(QPoint at, uint8_t button = 1);
     /// Presses in the shelf, which gives it the keyboard.

@@ -42,6 +42,20 @@ protected:
         EXPECT_TRUE(corvane().waitUntilHidden()) << "and then it leaves";
     }
 
+    /// Drags the text onto a target that says nothing yet, and gives what the shelf looks like
+    /// while it waits for that.
+    QImage dragOntoSilent(XdndTarget &target)
+    {
+        target.finish = XdndTarget::Finish::Never;
+        dragOnto(target, corvane().at(38, 22));
+        return m_desktop.pictureAtRest(corvane().body());
+    }
+    void expectItSaysThatItStayed(const QImage &before)
+    {
+        EXPECT_TRUE(eventually([&] { return server().picture(corvane().body()) != before; }))
+            << "the shelf does not say that it was not taken";
+    }
+
     const QRect frame{900, 400, 200, 200};
 };
 
@@ -49,11 +63,10 @@ TEST_F(DragOutEnds, anItemWhoseTargetFailsAtTheEndStays)
 {
     startWithText();
     XdndTarget target(m_desktop, frame, true, "UTF8_STRING");
+    const QImage waiting = dragOntoSilent(target);
     target.finish = XdndTarget::Finish::Failed;
-    const QImage before = server().picture(corvane().body());
-    dragOnto(target, corvane().at(38, 22));
-    EXPECT_TRUE(eventually([&] { return server().picture(corvane().body()) != before; }))
-        << "the shelf says that it was not taken";
+    target.sayHowItEnded();
+    expectItSaysThatItStayed(waiting);
     expectStillThere();
 }
 
@@ -71,9 +84,9 @@ TEST_F(DragOutEnds, anItemWhoseTargetDiesStays)
     startWithText();
     {
         XdndTarget target(m_desktop, frame, true, "UTF8_STRING");
-        target.finish = XdndTarget::Finish::Never;
-        dragOnto(target, corvane().at(38, 22));
+        const QImage waiting = dragOntoSilent(target);
         target.die();
+        expectItSaysThatItStayed(waiting);
     }
     expectStillThere();
 }
@@ -97,17 +110,16 @@ TEST_F(DragOutEnds, ofAFileAndANoteTheNoteStaysWithThoseWhoTakeFilesOnly)
     ASSERT_TRUE(eventually([&] { return server().selectionOwner("XdndSelection") == noWindow; }));
     focusShelf(corvane().at(CorvaneProgram::cell(3, 2, 1).x(), CorvaneProgram::cell(3, 2, 1).y()));
     hands().key(keys::down);
-    constexpr int barHeight = 132;
-    ASSERT_TRUE(eventually([&] { return corvane().popup(barHeight).has_value(); }));
-    const QRect bar = corvane().popup(barHeight)->frame;
-    m_desktop.pictureAtRest(bar);
+    Bar bar(m_desktop, corvane(), 3);
+    ASSERT_TRUE(bar.waitForKeyboard());
+    m_desktop.pictureAtRest(bar.frame());
 
     XdndTarget target(m_desktop, QRect(900, 600, 200, 200), true, "text/uri-list");
-    // The file's picture: the left one of two.
-    dragOnto(target, QPoint(bar.center().x() - 45, bar.top() + 50));
+    dragOnto(target, bar.tile(0, 2));
     EXPECT_TRUE(target.data().endsWith("file.txt\r\n"));
     ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(3, 1))) << "the file leaves";
     const QPoint cell = CorvaneProgram::cell(3, 1, 0);
+    m_desktop.clearClipboard();
     focusShelf(corvane().at(cell.x(), cell.y()));
     hands().key('c', {keys::control});
     EXPECT_EQ(clipboardText("a note"), "a note");

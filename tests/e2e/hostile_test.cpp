@@ -139,6 +139,7 @@ TEST_F(Hostile, nothingIsFetchedFromAPictureBeforeItIsDropped)
     source.leave(corvane().panel().value_or(WindowFacts{}).id);
     source.letGo();
     EXPECT_TRUE(corvane().waitUntilHidden());
+    source.pump();
     EXPECT_FALSE(source.asked().contains("image/png"));
 }
 

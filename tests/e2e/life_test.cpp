@@ -228,6 +228,7 @@ TEST_F(Life, theEndLeavesNoProcessAndNothingButSettingsAndCaches)
     focusShelf(corvane().at(20, 20));
     hands().key('c', {keys::control});
     hands().key(keys::space);
+    ASSERT_TRUE(eventually([&] { return corvane().window().has_value(); }));
     corvane().program().signal(SIGTERM);
     EXPECT_EQ(corvane().program().waitForEnd(), 0);
     EXPECT_EQ(processesOf(session), QStringList());

@@ -38,6 +38,14 @@ protected:
 
     /// With one item on a shelf that shows one: its thumbnail.
     QPoint onlyItem() { return corvane().at(38, 22); }
+    /// That file is what lies there, seen by copying it.
+    void expectItem(const QString &file)
+    {
+        m_desktop.clearClipboard();
+        focusShelf(onlyItem());
+        hands().key('c', {keys::control});
+        EXPECT_EQ(clipboardText(file.toUtf8()), file.toUtf8());
+    }
 
     void dragOutTo(QPoint place)
     {
@@ -197,8 +205,9 @@ TEST_P(MainJob, shiftAtTheEndOfADragOutKeepsTheItem)
 TEST_P(MainJob, escapeDuringADragOutKeepsTheItem)
 {
     XdndTarget target(m_desktop, QRect(900, 400, 200, 200), true, "text/uri-list");
+    const QString file = makeFile(u"one.txt"_s, "x");
     start();
-    ASSERT_TRUE(dropFiles({makeFile(u"one.txt"_s, "x")}));
+    ASSERT_TRUE(dropFiles({file}));
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
     const QSize before = corvane().size();
 
@@ -209,15 +218,17 @@ TEST_P(MainJob, escapeDuringADragOutKeepsTheItem)
     hands().release();
 
     EXPECT_TRUE(corvane().waitForSize(before));
-    focusShelf(onlyItem());
-    EXPECT_FALSE(target.hasDrop());
+    expectItem(file);
+    target.pump();
+    EXPECT_FALSE(target.wasDroppedOn());
 }
 
 TEST_P(MainJob, aTargetThatRefusesLeavesTheItemOnTheShelf)
 {
     XdndTarget target(m_desktop, QRect(900, 400, 200, 200), false, "text/uri-list");
+    const QString file = makeFile(u"one.txt"_s, "x");
     start();
-    ASSERT_TRUE(dropFiles({makeFile(u"one.txt"_s, "x")}));
+    ASSERT_TRUE(dropFiles({file}));
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
     const QSize before = corvane().size();
 
@@ -225,12 +236,15 @@ TEST_P(MainJob, aTargetThatRefusesLeavesTheItemOnTheShelf)
     ASSERT_TRUE(target.pumpUntil([&] { return target.isHovered(); }));
     dropOn(target);
     EXPECT_TRUE(corvane().waitForSize(before));
+    expectItem(file);
+    target.pump();
+    EXPECT_FALSE(target.wasDroppedOn());
 
     // Nor does the bare desktop take anything.
     dragOutTo(QPoint(700, 800));
     hands().release();
     EXPECT_TRUE(corvane().waitForSize(before));
-    focusShelf(onlyItem());
+    expectItem(file);
 }
 
 TEST_P(MainJob, clicksBesideTheBodyReachTheWindowBelow)

@@ -20,7 +20,6 @@ using namespace Qt::StringLiterals;
 class ViewAll : public EveryDesktop {
 protected:
     static constexpr int inView = 3;
-    static constexpr int barHeight = 132;
 
     QStringList makeFiles(int count)
     {
@@ -49,15 +48,15 @@ protected:
     }
     bool holds(int count) { return corvane().waitForSize(CorvaneProgram::carousel(inView, count)); }
 
-    std::optional<WindowFacts> bar() { return corvane().popup(barHeight); }
-    bool waitUntilClosed()
+    testing::AssertionResult holdsExactly(const QStringList &paths)
     {
-        return eventually([this] { return !bar(); });
+        return EveryDesktop::holdsExactly(inView, paths);
     }
-    bool hasKeyboard()
-    {
-        return eventually([this] { return bar() && server().focusedWindow() == bar()->id; });
-    }
+
+    Bar theBar() { return {m_desktop, corvane(), inView}; }
+    std::optional<WindowFacts> bar() { return theBar().window(); }
+    bool waitUntilClosed() { return theBar().waitUntilClosed(); }
+    bool hasKeyboard() { return theBar().waitForKeyboard(); }
     /// The window manager may be behind the server and name a window that has it no longer, and
     /// some programs give it on to a window inside their own.
     bool hasKeyboardAgain(xcb_window_t active)
@@ -68,11 +67,7 @@ protected:
                 && (server().focusedWindow() & programsBits) == (active & programsBits);
         });
     }
-    QPoint button(int items)
-    {
-        const QSize size = CorvaneProgram::carousel(inView, items);
-        return corvane().at(size.width() - (items > inView ? 60 : 32), 31);
-    }
+    QPoint button(int items) { return theBar().button(items); }
     QPoint firstCell(int items)
     {
         const QPoint cell = CorvaneProgram::cell(inView, items, 0);
@@ -80,23 +75,13 @@ protected:
     }
     testing::AssertionResult openFromButton(int items)
     {
-        hands().click(button(items));
-        if (!hasKeyboard())
-            return testing::AssertionFailure() << "the bar is not opened, or has no keyboard";
-        m_desktop.pictureAtRest(bar()->frame);
-        return testing::AssertionSuccess();
+        if (theBar().open(items))
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure() << "the bar is not opened, or has no keyboard";
     }
 
-    QRect barFrame() { return bar().value_or(WindowFacts{}).frame; }
-    /// The middle of a tile's picture, on a page that shows all the items.
-    QPoint tile(int nth, int items)
-    {
-        const QRect frame = barFrame();
-        const int row = items * 80 + (items - 1) * 10;
-        const int left = (frame.width() - 92 - row) / 2 + 46;
-        return frame.topLeft() + QPoint(left + 90 * nth + 40, 50);
-    }
-    QPoint selectAllBox() { return barFrame().bottomLeft() + QPoint(22, -19); }
+    QRect barFrame() { return theBar().frame(); }
+    QPoint tile(int nth, int items) { return theBar().tile(nth, items); }
     void clickInBar(QPoint point)
     {
         hands().click(point);
@@ -105,7 +90,7 @@ protected:
     }
     void tickOnly(std::initializer_list<int> tiles, int items)
     {
-        clickInBar(selectAllBox());
+        clickInBar(theBar().selectAllBox());
         for (const int nth : tiles)
             clickInBar(tile(nth, items));
     }
@@ -136,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(, ViewAllItems, testing::Values(DesktopKind{}), nameOf)
 
 TEST_P(ViewAll, whatIsTickedGoesIntoAnotherFolderInOneDrag)
 {
-    makeFiles(10);
+    const QStringList all = makeFiles(10);
     const QString to = makeFolder(u"to"_s);
     FileManager source(m_desktop, makeFolder(u"from"_s), leftHalf());
     ASSERT_EQ(source.problem(), QString());
@@ -155,7 +140,8 @@ TEST_P(ViewAll, whatIsTickedGoesIntoAnotherFolderInOneDrag)
     ASSERT_TRUE(target.chooseCopy());
     const QStringList expected{u"b.txt"_s, u"e.txt"_s, u"i.txt"_s};
     EXPECT_TRUE(eventually([&] { return QDir(to).entryList(QDir::Files) == expected; }));
-    EXPECT_TRUE(holds(7)) << "they have left the shelf";
+    EXPECT_TRUE(holdsExactly({all[0], all[2], all[3], all[5], all[6], all[7], all[9]}))
+        << "they have left the shelf";
     EXPECT_EQ(QDir(makeFolder(u"from"_s)).entryList(QDir::Files).size(), 10) << "as copies";
 }
 
@@ -170,13 +156,13 @@ TEST_P(ViewAll, withShiftTheyStayAndCanBeDraggedAgain)
     dropOn(first, tile(3, 4));
     ASSERT_TRUE(first.pumpUntil([&] { return first.hasDrop(); }));
     EXPECT_EQ(first.data(), uriList({paths[0], paths[3]})) << "in the shelf's order";
-    EXPECT_TRUE(holds(4));
     hands().keyUp(keys::shift);
+    EXPECT_EQ(theBar().ticked(4), (QStringList{paths[0], paths[3]})) << "nothing of it has left";
 
     dropOn(second, tile(0, 4));
     ASSERT_TRUE(second.pumpUntil([&] { return second.hasDrop(); }));
     EXPECT_EQ(second.data(), uriList({paths[0], paths[3]}));
-    EXPECT_TRUE(holds(2));
+    EXPECT_TRUE(holdsExactly({paths[1], paths[2]}));
 }
 
 TEST_P(ViewAll, theDownArrowOpensItAndEscapeGivesTheKeyboardBack)
@@ -186,7 +172,7 @@ TEST_P(ViewAll, theDownArrowOpensItAndEscapeGivesTheKeyboardBack)
     hands().click(editor.middle());
     const xcb_window_t active = server().activeWindow();
     ASSERT_NE(active, noWindow);
-    startWithFiles(3);
+    const QStringList paths = startWithFiles(3);
     focusShelf(firstCell(3));
     hands().key(keys::down);
     ASSERT_TRUE(hasKeyboard());
@@ -195,7 +181,7 @@ TEST_P(ViewAll, theDownArrowOpensItAndEscapeGivesTheKeyboardBack)
     ASSERT_TRUE(hasKeyboardAgain(active));
     hands().key('z');
     EXPECT_TRUE(editor.text("textz").contains('z'));
-    EXPECT_TRUE(corvane().isShown()) << "Escape closed the bar and removed nothing";
+    EXPECT_TRUE(holdsExactly(paths)) << "Escape closed the bar and removed nothing";
 }
 
 TEST_P(ViewAll, openedFromElsewhereItHasTheKeyboardAndGivesItBack)
@@ -354,8 +340,9 @@ TEST_P(ViewAllItems, aTargetThatRefusesLeavesEverythingAndOneThatTakesTextGetsEv
     XdndTarget reading(m_desktop, QRect(900, 500, 200, 200), true, "text/plain;charset=utf-8");
     ASSERT_TRUE(openFromButton(4));
     dropOn(refusing, tile(0, 4));
-    EXPECT_TRUE(holds(4));
-    EXPECT_FALSE(refusing.hasDrop());
+    EXPECT_TRUE(holdsExactly(paths));
+    refusing.pump();
+    EXPECT_FALSE(refusing.wasDroppedOn());
     dropOn(reading, tile(0, 4));
     ASSERT_TRUE(reading.pumpUntil([&] { return reading.hasDrop(); }));
     EXPECT_EQ(QString::fromUtf8(reading.data()), paths.join(u'\n'));
@@ -364,15 +351,16 @@ TEST_P(ViewAllItems, aTargetThatRefusesLeavesEverythingAndOneThatTakesTextGetsEv
 
 TEST_P(ViewAllItems, itsOwnDragIsNotDroppedOnItself)
 {
-    startWithFiles(4);
+    const QStringList paths = startWithFiles(4);
     ASSERT_TRUE(openFromButton(4));
     dragTo(tile(0, 4), tile(3, 4));
     hands().release();
-    EXPECT_TRUE(holds(4));
+    EXPECT_TRUE(holdsExactly(paths));
+    ASSERT_TRUE(bar());
     dragTo(tile(0, 4), firstCell(4));
     hands().release();
-    EXPECT_TRUE(holds(4));
-    ASSERT_TRUE(bar());
+    EXPECT_TRUE(holdsExactly(paths));
+    EXPECT_TRUE(bar());
 }
 
 } // namespace

@@ -166,6 +166,14 @@ std::optional<QByteArray> XDesktop::clipboard(const QString &type)
                     m_environment);
 }
 
+void XDesktop::clearClipboard()
+{
+    xcb_set_selection_owner(m_server->connection(), noWindow, m_server->atom("CLIPBOARD"),
+                            XCB_CURRENT_TIME);
+    // Done once an answer to a later question has come.
+    m_server->selectionOwner("CLIPBOARD");
+}
+
 void XDesktop::endServer()
 {
     if (m_xvfb) {

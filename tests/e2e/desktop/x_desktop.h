@@ -50,6 +50,8 @@ public:
 
     /// What another program gets from the clipboard; none if nobody offers that type.
     std::optional<QByteArray> clipboard(const QString &type);
+    /// Has nobody offer anything there, so that what is found next was copied later.
+    void clearClipboard();
     /// A server that is asked to go away takes its programs with it, as a logout does.
     void endServer();
 

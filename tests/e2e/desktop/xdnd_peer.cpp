@@ -314,9 +314,12 @@ void XdndTarget::clientMessage(const xcb_client_message_event_t &message)
         ++m_positions;
         send(m_source, "XdndStatus",
              {window(), m_accepts ? 3U : 0U, 0, 0, m_accepts ? atom("XdndActionCopy") : 0U});
-    } else if (message.type == atom("XdndDrop") && finish == Finish::WellWithoutFetching) {
-        sayHowItEnded();
     } else if (message.type == atom("XdndDrop")) {
+        m_wasDroppedOn = true;
+        if (finish == Finish::WellWithoutFetching) {
+            sayHowItEnded();
+            return;
+        }
         xcb_convert_selection(connection(), window(), atom("XdndSelection"), atom(m_wantedType),
                               atom("RECEIVED"), data[2]);
         xcb_flush(connection());

@@ -153,11 +153,15 @@ public:
     /// Whether something is over it and has been answered.
     bool isHovered() const { return m_positions > 0; }
     bool hasDrop() const { return m_data.has_value(); }
+    /// Whether something was let go over it, taken or not.
+    bool wasDroppedOn() const { return m_wasDroppedOn; }
     /// Whether it has said how the drop ended, or would have.
     bool hasFinished() const { return m_hasFinished; }
     QByteArray data() const { return m_data.value_or(QByteArray()); }
     QList<QByteArray> offeredTypes() const { return m_types; }
     QList<QByteArray> offeredActions() const { return m_actions; }
+    /// Says what `finish` wants said.
+    void sayHowItEnded();
 
 protected:
     void clientMessage(const xcb_client_message_event_t &message) override;
@@ -169,10 +173,9 @@ private:
     xcb_window_t m_source = noWindow;
     QList<QByteArray> m_types;
     QList<QByteArray> m_actions;
-    void sayHowItEnded();
-
     std::optional<QByteArray> m_data;
     int m_positions = 0;
+    bool m_wasDroppedOn = false;
     bool m_hasFinished = false;
 };
 
