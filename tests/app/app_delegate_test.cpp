@@ -52,13 +52,27 @@ protected:
     AppDelegateTest()
     {
         settings.setSeenWelcome(true);
+        watchReading();
         launch();
+        defaults.onRead = nullptr;
         store.observeState([this](ShelfState from, ShelfState to) {
             log << QStringLiteral("state %1 %2")
                        .arg(static_cast<int>(from))
                        .arg(static_cast<int>(to));
         });
         store.observeItems([this](const QList<DropItem> &) { log << QStringLiteral("items"); });
+    }
+
+    /// Sorts what is read by whether the defaults are there already, which one of them tells.
+    void watchReading()
+    {
+        defaults.onRead = [this, isLooking = false](const QString &key) mutable {
+            if (std::exchange(isLooking, true))
+                return;
+            const bool isThere = defaults.boolForKey(QStringLiteral("settings.linkPreviews"));
+            (isThere ? readWithDefaults : readTooEarly) << key;
+            isLooking = false;
+        };
     }
 
     void launch()
@@ -132,14 +146,18 @@ protected:
     StartedUpdater updater{settings};
     std::optional<AppDelegate> delegate;
     QStringList log;
+    QStringList readTooEarly;
+    QStringList readWithDefaults;
 };
 
 } // namespace
 
 TEST_F(AppDelegateTest, RegistersTheDefaultsBeforeAnythingReadsASetting)
 {
-    EXPECT_TRUE(settings.autoShowOnDrag());
-    EXPECT_EQ(settings.inViewCount(), 1);
+    EXPECT_EQ(readTooEarly, QStringList());
+    for (const char *key : {"settings.autoCheckUpdates", "settings.inViewCount",
+                            "settings.shortcut", "settings.viewAllShortcut"})
+        EXPECT_TRUE(readWithDefaults.contains(QLatin1String(key))) << key;
 }
 
 TEST_F(AppDelegateTest, StartsTheUpdaterOnceTheSettingsHaveTheirDefaults)
@@ -369,6 +387,34 @@ TEST_F(AppDelegateTest, TerminationStopsTheMonitorAndRemovesTheSpool)
     EXPECT_FALSE(QDir(desk.spool.directory().toLocalFile()).exists());
     drag();
     EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, TerminationEndsOneThingAfterTheOther)
+{
+    desk.spool.store(QByteArrayLiteral("x"), QStringLiteral("Image"), QStringLiteral("png"));
+    presenter.present(ShelfDesk::textItem(QStringLiteral("a")));
+    const auto isSpooling = [&] { return QDir(desk.spool.directory().toLocalFile()).exists(); };
+    QStringList steps;
+    const auto note = [&](const char *step) {
+        steps << QStringLiteral("%1: %2 monitors, %3 hot keys, %4, %5")
+                     .arg(QLatin1String(step))
+                     .arg(desktop.monitorCount())
+                     .arg(hotKeyService.registrationCount())
+                     .arg(QLatin1String(previewPanel.isVisible() ? "preview" : "none"))
+                     .arg(QLatin1String(isSpooling() ? "spool" : "none"));
+    };
+    hotKeyService.onUnregister = [&] { note("hot key"); };
+    previewPanel.onOrderOut = [&] { note("preview"); };
+    note("before");
+    delegate->applicationWillTerminate();
+    note("after");
+    hotKeyService.onUnregister = nullptr;
+    previewPanel.onOrderOut = nullptr;
+    EXPECT_EQ(steps,
+              (QStringList{QStringLiteral("before: 3 monitors, 1 hot keys, preview, spool"),
+                           QStringLiteral("hot key: 0 monitors, 1 hot keys, preview, spool"),
+                           QStringLiteral("preview: 0 monitors, 0 hot keys, preview, spool"),
+                           QStringLiteral("after: 0 monitors, 0 hot keys, none, none")}));
 }
 
 TEST_F(AppDelegateTest, TakesControlOfThePreviewAndShowsWhatIsPresented)

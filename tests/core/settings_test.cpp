@@ -35,6 +35,12 @@ TEST_F(SettingsTest, RegistersItsDefaultsWithoutStoringThem)
     EXPECT_TRUE(defaults.stored.isEmpty());
 }
 
+TEST_F(SettingsTest, TheNumberInViewHasADefaultBeforeItIsClamped)
+{
+    settings.registerDefaults();
+    EXPECT_EQ(defaults.integerForKey(key("settings.inViewCount")), 1);
+}
+
 TEST_F(SettingsTest, KeepsEachSwitchUnderItsKey)
 {
     settings.registerDefaults();

@@ -2,6 +2,7 @@
 
 #include "platform/hot_key_service.h"
 
+#include <functional>
 #include <map>
 #include <set>
 #include <utility>
@@ -38,6 +39,8 @@ public:
     }
     void unregisterHotKey(Handle handle) override
     {
+        if (onUnregister)
+            onUnregister();
         if (m_registered.erase(handle) > 0)
             ++unregistrations;
     }
@@ -77,6 +80,8 @@ public:
     bool refusesHandler = false;
     int unregistrations = 0;
     int suspensions = 0;
+    /// Told before anything happens.
+    std::function<void()> onUnregister;
 
 private:
     struct Registration {

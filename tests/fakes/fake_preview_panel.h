@@ -4,6 +4,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <utility>
 
 namespace corvane::test {
@@ -20,6 +21,8 @@ public:
     bool isVisible() const override { return m_isVisible; }
     void orderOut() override
     {
+        if (onOrderOut)
+            onOrderOut();
         log << QStringLiteral("orderOut");
         if (std::exchange(m_isVisible, false) && m_controller)
             m_controller->endPreviewPanelControl(*this);
@@ -46,6 +49,8 @@ public:
     QStringList log;
     /// What it would show since the last reload.
     std::optional<QUrl> shown;
+    /// Told before anything happens.
+    std::function<void()> onOrderOut;
 
 private:
     PreviewPanelController *m_controller = nullptr;

@@ -2,6 +2,8 @@
 
 #include "platform/user_defaults.h"
 
+#include <functional>
+
 namespace corvane::test {
 
 /// Settings that live as long as the test.
@@ -14,9 +16,16 @@ public:
 
     QVariantMap stored;
     bool kept = true;
+    /// Told of each reading, of what is stored and of what has its default alike.
+    std::function<void(const QString &key)> onRead;
 
 protected:
-    QVariant storedObject(const QString &key) const override { return stored.value(key); }
+    QVariant storedObject(const QString &key) const override
+    {
+        if (onRead)
+            onRead(key);
+        return stored.value(key);
+    }
     void setObject(const QString &key, const QVariant &value) override
     {
         stored.insert(key, value);

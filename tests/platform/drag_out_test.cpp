@@ -251,7 +251,7 @@ TEST_F(DragOutTest, aSecondDragInsideTheFirstIsNone)
     int inner = 0;
     content.onFirstDragged = [&, begin = content.onFirstDragged] {
         // In the loop that the first one is about to run.
-        queue.asyncAfter(0.05, [&] {
+        queue.async([&] {
             panel.beginDraggingSession(drag(),
                                        {[] {},
                                         [&](const DragOutEnd &end) {
@@ -274,7 +274,8 @@ TEST_F(DragOutTest, aPanelThatDiesInItsDragReportsNothing)
     bool hasReturned = false;
     bool hasEnded = false;
     dyingContent.onFirstDragged = [&] {
-        queue.asyncAfter(0.05, [&] { dying.reset(); });
+        // In the drag's own loop.
+        queue.async([&] { dying.reset(); });
         dying->beginDraggingSession(
             drag(), {[&] { hasEnded = true; }, [&](const DragOutEnd &) { hasEnded = true; }});
         hasReturned = true;

@@ -380,7 +380,7 @@ TEST_F(LinkPreviewServiceTest, ForgetsTheOldestOfTooManyThatWait)
     for (std::size_t i = 0; i < limit + 10; ++i)
         service->load(
             link, [token] { return true; }, completion());
-    EXPECT_LE(static_cast<std::size_t>(token.use_count()), limit + 1);
+    EXPECT_EQ(static_cast<std::size_t>(token.use_count()), limit + 1) << "and no more of them";
 }
 
 TEST_F(LinkPreviewServiceTest, FetchesNothingThatNobodyWantsAnyMore)

@@ -138,7 +138,11 @@ TEST_F(QuickLookPresenterTest, HidesAVisiblePanelAndStillReplacesAddressAndScrat
 {
     presenter->present(text(QStringLiteral("one")));
     const auto first = presenter->previewURL();
+    std::optional<QUrl> whenHidden;
+    panel.onOrderOut = [&] { whenHidden = presenter->previewURL(); };
     presenter->present(text(QStringLiteral("two")));
+    panel.onOrderOut = nullptr;
+    EXPECT_EQ(whenHidden, presenter->previewURL()) << "before it is hidden";
     EXPECT_FALSE(panel.isVisible());
     EXPECT_EQ(panel.log, (QStringList{QStringLiteral("orderFront"), QStringLiteral("orderOut")}));
     EXPECT_NE(presenter->previewURL(), first);

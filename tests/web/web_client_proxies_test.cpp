@@ -208,6 +208,7 @@ TEST_F(WebClientProxies, aSearchForTheWayThatNeverEndsEndsWithTheTime)
     network.requestTimeout = 0.1;
     routes->silent = true;
     EXPECT_FALSE(fetch(QUrl(u"http://far.test/"_s)));
+    ASSERT_FALSE(routes->pending.empty());
     for (const auto &late : routes->pending)
         late({});
     m_client.reset();
