@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QAccessible>
+#include <QAccessibleInterface>
+#include <QMetaEnum>
+#include <QStringList>
+#include <QWidget>
+
+namespace corvane::test {
+
+/// What is read in a window and what a screen reader says of it, a line for each control that says
+/// anything: its kind, its name (for a text the text itself), what is written in it, and in
+/// brackets what it is described by, which is its tool tip where nothing else is given.
+///
+/// Taken from the tree that screen readers walk, so nothing that is hidden counts.
+inline void addSpokenTexts(QAccessibleInterface *control, QStringList &lines)
+{
+    if (!control || !control->isValid() || control->state().invisible)
+        return;
+    const auto role = control->role();
+    // Of these the toolkit speaks, in its own way.
+    if (role == QAccessible::ScrollBar)
+        return;
+    const QString name = control->text(QAccessible::Name);
+    const QString description = control->text(QAccessible::Description);
+    const bool isWritten = role == QAccessible::EditableText;
+    const QString written = isWritten ? control->text(QAccessible::Value) : QString();
+    if (!name.isEmpty() || !description.isEmpty() || !written.isEmpty()) {
+        const auto roles = QMetaEnum::fromType<QAccessible::Role>();
+        QString line = QString::fromLatin1(roles.valueToKey(role)) + QLatin1String(": ") + name;
+        if (!written.isEmpty())
+            line += QLatin1String(" = ") + written;
+        if (!description.isEmpty())
+            line += QLatin1String(" [") + description + QLatin1Char(']');
+        lines << line.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+    }
+    for (int i = 0; i < control->childCount(); ++i)
+        addSpokenTexts(control->child(i), lines);
+}
+
+inline QStringList spokenTexts(QWidget &window)
+{
+    QStringList lines{QStringLiteral("title: ") + window.windowTitle()};
+    QAccessibleInterface *const root = QAccessible::queryAccessibleInterface(&window);
+    for (int i = 0; root && i < root->childCount(); ++i)
+        addSpokenTexts(root->child(i), lines);
+    return lines;
+}
+
+} // namespace corvane::test

@@ -1,0 +1,299 @@
+// Every text of the menu, the windows, the shelf's messages and the bar, read where a user reads it
+// and compared with the tables in texts/, which are meant to be read by people too.
+
+#include "app/preferences/preferences_window_controller.h"
+#include "app/preferences/shortcut_recorder_view.h"
+#include "app/spoken_texts.h"
+#include "app/status_item_controller.h"
+#include "app/updater.h"
+#include "app/updates/update_window_controller.h"
+#include "app/welcome/welcome_view.h"
+#include "app/welcome/welcome_window_controller.h"
+#include "app/widget_hands.h"
+#include "fakes/fake_drag_desktop.h"
+#include "fakes/fake_status_item.h"
+#include "fakes/fake_window_activation.h"
+#include "fakes/preferences_desk.h"
+#include "fakes/shelf_model.h"
+#include "shelf/view_all_controller.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+class IdleUpdater : public Updater {
+public:
+    void start() override { }
+    void checkForUpdates() override { }
+    bool automaticallyChecksForUpdates() const override { return false; }
+    void setAutomaticallyChecksForUpdates(bool) override { }
+};
+
+/// Sections with a heading, in the order in which they are added.
+class Table {
+public:
+    void add(const QString &heading, const QStringList &lines)
+    {
+        m_text += QLatin1String("== ") + heading + u'\n';
+        for (const QString &line : lines)
+            m_text += line + u'\n';
+        m_text += u'\n';
+    }
+    std::string text() const { return m_text.toStdString(); }
+
+private:
+    QString m_text;
+};
+
+/// What the group is to say; rewritten where the present texts are to be taken as the right ones.
+std::string groupOfFile(const QString &group, const std::string &present)
+{
+    const QString path
+        = QStringLiteral(CORVANE_TEST_DATA "/app/texts/") + group + QStringLiteral(".txt");
+    QFile file(path);
+    if (qEnvironmentVariableIsSet("CORVANE_REBASELINE")) {
+        if (file.open(QFile::WriteOnly))
+            file.write(QByteArray::fromStdString(present));
+        return present;
+    }
+    return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
+
+void expectTable(const char *group, const Table &table)
+{
+    EXPECT_EQ(table.text(), groupOfFile(QString::fromLatin1(group), table.text()));
+}
+
+QStringList menuLines(const FakeStatusItem &item)
+{
+    QStringList lines{QStringLiteral("tool tip: ") + item.toolTip};
+    for (const MenuRow &row : item.rows) {
+        const QString keys = row.keyEquivalent.sequence().toString(QKeySequence::PortableText);
+        lines << (row.isSeparator() ? QStringLiteral("—")
+                                    : row.title + (keys.isEmpty() ? keys : u" | " + keys));
+    }
+    return lines;
+}
+
+} // namespace
+
+TEST(Texts, OfTheMenu)
+{
+    ShelfModel model;
+    model.settings.registerDefaults();
+    model.settings.setViewAllShortcut(Shortcut{40, Shortcut::control, QStringLiteral("K")});
+    IdleUpdater updates;
+    Table table;
+    for (const bool hasUpdates : {false, true}) {
+        FakeStatusItem item;
+        StatusItemController controller({item, model.store, model.settings, model.desk.clock, [] {},
+                                         hasUpdates ? &updates : nullptr});
+        for (const int count : {0, 1, 5}) {
+            QList<DropItem> items;
+            for (int i = 0; i < count; ++i)
+                items << ShelfDesk::textItem(QStringLiteral("a"));
+            model.store.setItems(items);
+            model.desk.clock.runPending();
+            item.open();
+            table.add(QStringLiteral("Menu with %1 items%2")
+                          .arg(count)
+                          .arg(QLatin1String(hasUpdates ? ", updates" : "")),
+                      menuLines(item));
+        }
+    }
+    expectTable("menu", table);
+}
+
+TEST(Texts, OfThePreferences)
+{
+    Table table;
+    IdleUpdater updates;
+    PreferencesDesk desk;
+    const auto add = [&](const QString &heading, PreferencesTab tab, const auto &prepare) {
+        PreferencesWindowController controller(desk.context());
+        controller.selection().setTab(tab);
+        controller.window().present();
+        prepare(controller.window());
+        table.add(heading, spokenTexts(controller.window()));
+    };
+    const auto nothing = [](QWidget &) {};
+    const auto general = PreferencesTab::General;
+    add(QStringLiteral("General"), general, nothing);
+    desk.settings.setInViewCount(3);
+    desk.updater = &updates;
+    desk.settings.setViewAllShortcut(
+        Shortcut{40, Shortcut::control | Shortcut::option, QStringLiteral("K")});
+    add(QStringLiteral("General, 3 in view, updates, both shortcuts"), general, nothing);
+    desk.updater = nullptr;
+    desk.isKeptUpToDateByOthers = true;
+    desk.settings.setShortcut(std::nullopt);
+    add(QStringLiteral("General, kept up to date by others, no shortcuts, recording"), general,
+        [](QWidget &window) { clickInto(*window.findChild<ShortcutRecorderView *>()); });
+    desk.defaults.kept = false;
+    desk.settings.setShortcut(Shortcut{0, Shortcut::control, QStringLiteral("A")});
+    desk.hotKeys.takenByOthers
+        = {{0, Shortcut::control}, {40, Shortcut::control | Shortcut::option}};
+    desk.binder.bindShelf();
+    desk.binder.bindViewAll();
+    add(QStringLiteral("General, settings that are not kept, shortcuts that others have"), general,
+        nothing);
+    add(QStringLiteral("About"), PreferencesTab::About, nothing);
+    deletePending();
+    expectTable("preferences", table);
+}
+
+TEST(Texts, OfTheGuide)
+{
+    Table table;
+    FakeMotionPreference motion;
+    motion.reduces = true;
+    {
+        WelcomeWindowController controller(motion);
+        controller.window().present();
+        for (int step = 1; step <= 3; ++step) {
+            table.add(QStringLiteral("Guide, step %1").arg(step), spokenTexts(controller.window()));
+            if (step < 3)
+                controller.view().goForward();
+        }
+    }
+    deletePending();
+    expectTable("guide", table);
+}
+
+TEST(Texts, OfTheUpdates)
+{
+    using Stage = UpdateReport::Stage;
+    Table table;
+    FakeWindowActivation activation;
+    {
+        UpdateWindowController replacing(activation, QStringLiteral("1.0"), true);
+        UpdateWindowController handing(activation, QStringLiteral("1.0"), false);
+        const auto add = [&](UpdateWindowController &controller, const QString &heading,
+                             const UpdateReport &report) {
+            controller.show(report, UpdateAttention::Asked);
+            table.add(heading, spokenTexts(*controller.window()));
+        };
+        UpdateReport report{Stage::Checking, QStringLiteral("1.2"), QStringLiteral("Faster"),
+                            500'000, 2'000'000};
+        report.fileName = QStringLiteral("Corvane-1.2.AppImage");
+        for (const auto &[stage, heading] :
+             {std::pair(Stage::Checking, "checking"), std::pair(Stage::UpToDate, "up to date"),
+              std::pair(Stage::Available, "available"),
+              std::pair(Stage::Downloading, "downloading"),
+              std::pair(Stage::Installing, "installing"), std::pair(Stage::Replaced, "replaced"),
+              std::pair(Stage::HandedOver, "handed over")}) {
+            report.stage = stage;
+            add(replacing, QStringLiteral("Update, ") + QLatin1String(heading), report);
+        }
+        report.stage = Stage::Available;
+        add(handing, QStringLiteral("Update, available as a download"), report);
+        for (const auto &[kind, heading] :
+             {std::pair(WebRoute::Kind::Direct, "asked directly"),
+              std::pair(WebRoute::Kind::Proxied, "asked through a proxy"),
+              std::pair(WebRoute::Kind::NeedsScript, "not asked for a script"),
+              std::pair(WebRoute::Kind::Unusable, "not asked for a strange proxy")}) {
+            UpdateReport asked{Stage::Failed};
+            asked.route
+                = WebRoute{kind, {WebProxy::Kind::Http, QStringLiteral("proxy.test"), 3128}};
+            add(replacing, QStringLiteral("Update, ") + QLatin1String(heading), asked);
+        }
+        report.stage = Stage::Failed;
+        for (int failure = 0; failure <= static_cast<int>(UpdateFailure::NotWritten); ++failure) {
+            report.failure = static_cast<UpdateFailure>(failure);
+            add(replacing, QStringLiteral("Update, failure %1").arg(failure), report);
+        }
+    }
+    deletePending();
+    expectTable("updates", table);
+}
+
+TEST(Texts, OfTheShelfsMessages)
+{
+    ShelfModel model;
+    model.settings.registerDefaults();
+    HUDController shelf(model.controllerContext());
+    auto &view = dynamic_cast<ShelfView &>(*model.desk.panel.content);
+    QStringList lines;
+    const auto flashed = [&](const char *deed, const auto &act) {
+        act();
+        model.desk.clock.runPending();
+        lines << QLatin1String(deed) + QLatin1String(": ") + view.look().flashMessage;
+        // As long as one is shown.
+        model.desk.clock.advance(3);
+    };
+    const QString name = QStringLiteral("a");
+    const DropItem file = ShelfDesk::fileItem(name);
+    const DropItem text = ShelfDesk::textItem(name);
+    const DropItem link(DropItem::Link{QUrl(QStringLiteral("https://a.test/"))}, name, {}, false);
+    const DropItem image(DropItem::ImageBytes{"x", UTType::png()}, name, {}, false);
+    for (const auto &[kind, item] :
+         {std::pair("copied file", file), std::pair("copied text", text),
+          std::pair("copied link", link), std::pair("copied picture", image)}) {
+        model.store.clearAll();
+        model.store.accept({item});
+        flashed(kind, [&] { view.onCopy(); });
+    }
+    model.store.clearAll();
+    model.store.accept({text});
+    flashed("kept", [&] { view.onEjected(text.id(), true); });
+    model.store.accept({link, text});
+    flashed("copied three", [&] { model.quickActions.copy({text, link, file}); });
+
+    FakePanelWindow panel;
+    FakeDragDesktop desktop;
+    const ViewAllController bar(ViewAllController::Context{
+        {panel, model.desk.clock, model.desk.motion, model.desk.theme, model.desk.keyboard,
+         model.desk.dragWriter, model.desk.savedPictures, model.desk.preparation},
+        model.store,
+        model.quickActions,
+        desktop,
+        desktop.pointer,
+        model.feedback});
+    flashed("one of one stayed", [&] { bar.view().onStayed(1, 1); });
+    flashed("one of three stayed", [&] { bar.view().onStayed(1, 3); });
+    flashed("nothing to drag", [&] { bar.view().onNothingToDrag(); });
+    Table table;
+    table.add(QStringLiteral("Messages on the shelf"), lines);
+    expectTable("messages", table);
+}
+
+TEST(Texts, OfTheBar)
+{
+    ShelfModel model;
+    model.settings.registerDefaults();
+    FakePanelWindow panel;
+    FakeDragDesktop desktop;
+    ViewAllController bar(ViewAllController::Context{
+        {panel, model.desk.clock, model.desk.motion, model.desk.theme, model.desk.keyboard,
+         model.desk.dragWriter, model.desk.savedPictures, model.desk.preparation},
+        model.store,
+        model.quickActions,
+        desktop,
+        desktop.pointer,
+        model.feedback});
+    model.store.accept({ShelfDesk::textItem(QStringLiteral("a")),
+                        ShelfDesk::textItem(QStringLiteral("b")),
+                        ShelfDesk::textItem(QStringLiteral("c"))});
+    model.store.setViewAllOpen(true);
+    QStringList lines;
+    const auto add = [&](const char *state) {
+        bar.render({600, 900, 300, 60}, model.screen);
+        lines << QLatin1String(state) + QLatin1String(": ") + bar.view().layout().selectionText;
+    };
+    add("all of three ticked");
+    model.store.toggleSelection(model.store.items()[0]);
+    add("two of three ticked");
+    model.store.toggleSelection(model.store.items()[1]);
+    add("one of three ticked");
+    model.store.toggleSelection(model.store.items()[2]);
+    add("none of three ticked");
+    Table table;
+    table.add(QStringLiteral("The bar"), lines);
+    expectTable("bar", table);
+}
+
+} // namespace corvane::test
