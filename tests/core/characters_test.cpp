@@ -73,5 +73,12 @@ TEST(Characters, AreNeverCutInTwo)
     EXPECT_EQ(characters::prefix(besideThai, 2, 1000), QStringLiteral("\u00a9\U0001F426"));
 }
 
+TEST(Characters, AreLookedAtOnlyAsFarAsAnySensibleOneReaches)
+{
+    const QString piled = QStringLiteral("a") + QString(1000, QChar(0x301));
+    EXPECT_EQ(characters::prefix(piled, 1, 10000).size(), 128);
+    EXPECT_EQ(characters::prefix(piled, 2, 10000).size(), 192);
+}
+
 } // namespace
 } // namespace corvane

@@ -109,16 +109,19 @@ TEST_F(DragWriterTest, FitsTheThumbnailIntoTheTile)
 TEST_F(DragWriterTest, DrawsTheGlyphWithYUpwardWhereThereIsNoThumbnail)
 {
     std::optional<PhosphorIcon> drawn;
+    QRectF place;
     const DragWriter withGlyphs(
         QColor::fromRgba(gray),
         [&](QPainter &painter, PhosphorIcon icon, const QRectF &rect) {
             drawn = icon;
+            place = rect;
             painter.fillRect(QRectF(rect.x(), midY(rect), rect.width(), rect.height() / 2),
                              Qt::blue);
         },
         locality);
     const Image image = withGlyphs.dragImage(text(), 40, 1);
     EXPECT_EQ(drawn, PhosphorIcon::TextAlignLeft);
+    EXPECT_EQ(place, QRectF(8, 8, 24, 24)) << "a fifth of the side is left free all around";
     EXPECT_EQ(at(image, 20, 15), qRgb(0, 0, 255)) << "the upper half";
     EXPECT_EQ(at(image, 20, 25), gray);
     drawn.reset();

@@ -1,5 +1,7 @@
 #include "core/drop_item.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 namespace corvane {
@@ -30,11 +32,16 @@ TEST(DropItem, HasAGlyphForEachKind)
     EXPECT_EQ(image.glyph(), PhosphorIcon::Image);
     EXPECT_EQ(text.glyph(), PhosphorIcon::TextAlignLeft);
     EXPECT_EQ(link.glyph(), PhosphorIcon::Link);
-    EXPECT_EQ(rawValue(image.glyph()), QStringLiteral("image"));
-    EXPECT_EQ(rawValue(text.glyph()), QStringLiteral("textAlignLeft"));
-    EXPECT_EQ(rawValue(link.glyph()), QStringLiteral("link"));
-    EXPECT_EQ(rawValue(PhosphorIcon::Folder), QStringLiteral("folder"));
-    EXPECT_EQ(rawValue(PhosphorIcon::File), QStringLiteral("file"));
+}
+
+TEST(DropItem, NamesEveryGlyphAsItsDrawingIsNamed)
+{
+    QStringList names;
+    for (int icon = 0; icon <= static_cast<int>(PhosphorIcon::Folder); ++icon)
+        names << rawValue(static_cast<PhosphorIcon>(icon));
+    EXPECT_EQ(names.join(u' '),
+              QStringLiteral("eye copy x caretLeft caretRight checkSquare square trash squaresFour "
+                             "check file image textAlignLeft link folder"));
 }
 
 TEST(DropItem, NumbersItsKinds)
@@ -91,6 +98,21 @@ TEST(DropItem, GetsAnIdOfItsOwn)
     EXPECT_NE(file({}).id(), file({}).id());
     EXPECT_EQ(file({}).id().version(), QUuid::Random);
     EXPECT_EQ(file({}).id().variant(), QUuid::DCE);
+}
+
+TEST(DropItem, GetsAnIdWhoseEveryOtherBitIsLeftToChance)
+{
+    QByteArray everSet(16, '\0');
+    QByteArray alwaysSet(16, '\xff');
+    for (int i = 0; i < 100; ++i) {
+        const QByteArray id = file({}).id().toRfc4122();
+        for (int byte = 0; byte < id.size(); ++byte) {
+            everSet[byte] = static_cast<char>(everSet[byte] | id[byte]);
+            alwaysSet[byte] = static_cast<char>(alwaysSet[byte] & id[byte]);
+        }
+    }
+    EXPECT_EQ(everSet.toHex(), QByteArray("ffffffffffff4fffbfffffffffffffff"));
+    EXPECT_EQ(alwaysSet.toHex(), QByteArray("00000000000040008000000000000000"));
 }
 
 } // namespace

@@ -58,7 +58,11 @@ TEST_F(SavedPicturesTest, AreWrittenBesideTheMainThread)
     EXPECT_FALSE(test::exists(urlOf(file)));
     finishWork();
     EXPECT_EQ(test::contents(urlOf(file)), "pixels");
-    EXPECT_FALSE(pictures.asFile(item).isBeingMade());
+    const DropItem written = pictures.asFile(item);
+    EXPECT_FALSE(written.isBeingMade());
+    EXPECT_TRUE(written.isSpooled());
+    EXPECT_EQ(written.title(), QStringLiteral("Image.png"));
+    EXPECT_EQ(written.subtitle(), QStringLiteral("PNG"));
 }
 
 TEST_F(SavedPicturesTest, AreWrittenOnce)

@@ -55,6 +55,11 @@ TEST_F(ScratchSpoolTest, CutsNamesToOneHundredAndTwentyCharacters)
     EXPECT_EQ(ScratchSpool::safeBasename(bird.repeated(300)), bird.repeated(120));
 }
 
+TEST_F(ScratchSpoolTest, StandsRightBelowADirectoryThatIsNamedWithSlashes)
+{
+    EXPECT_EQ(ScratchSpool(temporary.path() + "//", 1).directory(), temporary.url("Corvane-1"));
+}
+
 TEST_F(ScratchSpoolTest, IsNamedAfterTheProcessAndMadeOnFirstUse)
 {
     EXPECT_EQ(file_url::nativePath(spool.directory()), directory());
@@ -203,6 +208,16 @@ TEST_F(ScratchSpoolTest, DiscardsOnlyWhatIsInside)
     spool.discard(inside);
     EXPECT_FALSE(exists(inside));
     spool.discard(inside);
+}
+
+TEST_F(ScratchSpoolTest, DiscardsTheFolderThatIsNamedWithASlash)
+{
+    ASSERT_TRUE(spool.reserve(image, png).has_value());
+    const QUrl shorter = temporary.write("Corvane-4711/a", "x");
+    temporary.write("Corvane-4711/ab/inside", "x");
+    spool.discard(temporary.url("Corvane-4711/ab//"));
+    EXPECT_FALSE(exists(temporary.path("Corvane-4711/ab")));
+    EXPECT_TRUE(exists(shorter));
 }
 
 TEST_F(ScratchSpoolTest, RemovesALinkAndNotWhatItLeadsTo)

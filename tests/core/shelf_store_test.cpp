@@ -170,6 +170,15 @@ TEST_F(VisibleItems, FollowAClampedSetting)
 
 using Discard = ShelfStoreTest;
 
+TEST_F(Discard, FocusesWhatSlidIntoThePlaceInTheMiddle)
+{
+    fill(5);
+    store.discard(1, false);
+    EXPECT_EQ(store.focusedIndex(), 1);
+    store.discard(0, false);
+    EXPECT_EQ(store.focusedIndex(), 0);
+}
+
 TEST_F(Discard, FocusesWhatSlidIntoThePlace)
 {
     fill(3);

@@ -95,6 +95,7 @@ TEST_F(StoreFollowerTest, FollowsWhatArrivesOneByOneOnceAFrame)
     giveThumbnails();
     store.describe(store.items()[0].id(), QStringLiteral("now known"));
     EXPECT_EQ(take(), QStringList()) << "the next frame is soon enough";
+    EXPECT_EQ(clock.pendingCount(), 1U) << "once for all of them";
     clock.advance(StoreFollower::detailDelay);
     EXPECT_EQ(take(), QStringList{QStringLiteral("3")});
     clock.advance(1);

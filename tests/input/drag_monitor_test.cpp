@@ -159,6 +159,23 @@ TEST_F(DragMonitorTest, TakesNothingThatChangesWhileSettlingForADragLater)
     EXPECT_EQ(log, beganAndEnded);
 }
 
+TEST_F(DragMonitorTest, TakesNoMovementWhileSettlingForASecondDragOfTheSameContents)
+{
+    // Nothing tells it of presses here, which would hide what it remembers itself.
+    desk.refusesGlobalMonitor = true;
+    monitor->start();
+    desk.press();
+    desk.pickUp();
+    desk.moveInsideOwnWindow({1, 0});
+    desk.release();
+    clock.advance(pollInterval);
+    desk.press();
+    desk.moveInsideOwnWindow({2, 0});
+    EXPECT_EQ(log, began);
+    clock.advance(settleDelay);
+    EXPECT_EQ(log, beganAndEnded);
+}
+
 TEST_F(DragMonitorTest, StaysDraggingWhenItIsStoppedInTheMiddle)
 {
     monitor->start();

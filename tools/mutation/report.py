@@ -3,8 +3,8 @@ from mutation.mutants import FOLDERS, KILLED, NOT_TRIED, PENDING, SURVIVED, Muta
 
 
 def table(mutants: list[Mutant]) -> str:
-    lines = ["| folder | tried | killed | survived | killed, % | not tried |",
-             "|---|---|---|---|---|---|"]
+    lines = ["| folder | tried | killed | survived | killed, % | not tried | pending |",
+             "|---|---|---|---|---|---|---|"]
     for folder in [*FOLDERS, "all"]:
         here = [m for m in mutants if folder in ("all", m.folder)]
         count = {result: sum(m.result == result for m in here)
@@ -13,7 +13,7 @@ def table(mutants: list[Mutant]) -> str:
         share = f"{100 * count[KILLED] / tried:.0f}" if tried else ""
         if here:
             lines.append(f"| {folder} | {tried} | {count[KILLED]} | {count[SURVIVED]} | {share} |"
-                         f" {count[NOT_TRIED] + count[PENDING]} |")
+                         f" {count[NOT_TRIED]} | {count[PENDING]} |")
     return "\n".join(lines)
 
 
