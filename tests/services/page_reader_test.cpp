@@ -170,6 +170,7 @@ TEST(PageReader, FindsTagsAndNamesInAnyCase)
 {
     EXPECT_EQ(read("<META NAME=\"Description\" CONTENT='Hi &amp;lt;3'>").summary, text("Hi <3"));
     EXPECT_EQ(read("<mEtA PROPERTY='OG:Title' cOntent=a>").title, text("a"));
+    EXPECT_EQ(read("<META NAME=TWITTER:IMAGE CONTENT=a>").imageURL->fileName(), text("a"));
 }
 
 TEST(PageReader, SkipsATagWithoutContent)

@@ -3,8 +3,15 @@
 #include "services/preview_file.h"
 #include "services/preview_text.h"
 
+#include <QDateTime>
+#include <QLocale>
+#include <QMimeDatabase>
+
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <array>
 
 namespace corvane::test {
 namespace {
@@ -34,10 +41,24 @@ TEST_F(PreviewFileTest, ShowsATextWithWhatItIs)
     EXPECT_EQ(textOf(content), QStringLiteral("hello"));
     EXPECT_EQ(content.details.name, QStringLiteral("a.txt"));
     EXPECT_EQ(content.details.size, QStringLiteral("5 bytes"));
-    EXPECT_FALSE(content.details.kind.isEmpty());
-    EXPECT_TRUE(content.details.kind.at(0).isUpper());
+    const QString kind = QMimeDatabase().mimeTypeForName(QStringLiteral("text/plain")).comment();
+    EXPECT_EQ(content.details.kind, kind.left(1).toUpper() + kind.mid(1));
     EXPECT_FALSE(content.details.modified.isEmpty());
     EXPECT_TRUE(content.canBeOpened);
+}
+
+TEST_F(PreviewFileTest, TellsTheMinuteOfTheLastChange)
+{
+    // A locale whose short form has seconds.
+    const QLocale before;
+    QLocale::setDefault(QLocale::c());
+    const QUrl url = folder.write("a.txt", "hello");
+    const QDateTime time(QDate(2021, 3, 4), QTime(17, 8, 59));
+    const std::array<timespec, 2> times
+        = {{{time.toSecsSinceEpoch(), 0}, {time.toSecsSinceEpoch(), 0}}};
+    ASSERT_EQ(::utimensat(AT_FDCWD, file_url::nativePath(url).constData(), times.data(), 0), 0);
+    EXPECT_EQ(read(url).details.modified, QStringLiteral("4 March 2021, 17:08"));
+    QLocale::setDefault(before);
 }
 
 TEST_F(PreviewFileTest, ShowsHtmlAsTheTextThatItIs)

@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <utility>
+#include <vector>
+
 namespace corvane::test {
 namespace {
 
@@ -68,6 +72,27 @@ TEST(PreviewText, MakesCharactersHarmlessThatControlOrForgeAndKeepsTabs)
     EXPECT_EQ(decoded(QStringLiteral("a\u202Etxt.exe\u2066").toUtf8()),
               QLatin1Char('a') + replaced + QStringLiteral("txt.exe") + replaced);
     EXPECT_EQ(decoded(QString(QChar(0xFDD0)).toUtf8()), replaced) << "means a frame to text views";
+}
+
+TEST(PreviewText, ReplacesExactlyTheHarmfulCharacters)
+{
+    const std::vector<std::pair<char16_t, char16_t>> harmful
+        = {{0x00, 0x08},     {0x0E, 0x1F},     {0x7F, 0x84},     {0x86, 0x9F},    {0x202A, 0x202E},
+           {0x2066, 0x2069}, {0xFDD0, 0xFDD1}, {0xFEFF, 0xFEFF}, {0xFFFC, 0xFFFC}};
+    const QString lineEnds = QStringLiteral("\n\v\f\r\u0085\u2028\u2029");
+    for (char16_t unit = 0; unit < 0xFFFE; ++unit) {
+        if (QChar::isSurrogate(unit))
+            continue;
+        const bool isHarmful = std::ranges::any_of(harmful, [unit](const auto &range) {
+            return unit >= range.first && unit <= range.second;
+        });
+        QChar expected = isHarmful ? QChar(QChar::ReplacementCharacter) : QChar(unit);
+        if (lineEnds.contains(QChar(unit)))
+            expected = QLatin1Char('\n');
+        const QString text = QLatin1Char('a') + QChar(unit) + QLatin1Char('b');
+        ASSERT_EQ(decoded(text.toUtf8()), QLatin1Char('a') + expected + QLatin1Char('b'))
+            << static_cast<int>(unit);
+    }
 }
 
 TEST(PreviewText, BreaksALineThatIsAllThereIs)
