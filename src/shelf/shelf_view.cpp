@@ -10,7 +10,9 @@
 
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace corvane {
 
@@ -186,7 +188,10 @@ void ShelfView::press(const ShelfHit &hit, QPointF point)
 
 void ShelfView::pressCell(int itemIndex, QPointF point)
 {
-    m_mouseDownIndex = itemIndex;
+    const auto &visible = m_look.snapshot.visible;
+    const auto pressed = std::ranges::find(visible, itemIndex, &std::pair<int, DropItem>::first);
+    if (pressed != visible.end())
+        m_mouseDownItem = pressed->second.id();
     m_mouseDownPoint = point;
     if (itemIndex != m_look.snapshot.focusedIndex)
         call(onFocus, itemIndex);
@@ -199,7 +204,7 @@ void ShelfView::mouseUp(const MouseEvent & /*event*/)
 
 void ShelfView::forgetPress()
 {
-    m_mouseDownIndex.reset();
+    m_mouseDownItem.reset();
     m_mouseDownPoint.reset();
 }
 

@@ -136,7 +136,8 @@ private:
     /// resizes.
     std::optional<QPointF> m_pointer;
     std::optional<QPointF> m_mouseDownPoint;
-    std::optional<int> m_mouseDownIndex;
+    /// By its id: an item before it may leave before the hand moves.
+    std::optional<QUuid> m_mouseDownItem;
     bool m_refusesDrag = false;
     bool m_isDragOver = false;
     int m_awaitedDrops = 0;

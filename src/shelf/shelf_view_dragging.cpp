@@ -19,12 +19,12 @@ namespace corvane {
 
 void ShelfView::mouseDragged(const MouseEvent &event)
 {
-    if (!m_mouseDownIndex || !m_mouseDownPoint || m_look.draggedItem)
+    if (!m_mouseDownItem || !m_mouseDownPoint || m_look.draggedItem)
         return;
-    const int index = *m_mouseDownIndex;
     const auto &visible = m_look.snapshot.visible;
-    const auto entry = std::find_if(visible.begin(), visible.end(),
-                                    [index](const auto &pair) { return pair.first == index; });
+    const auto entry = std::find_if(visible.begin(), visible.end(), [&](const auto &pair) {
+        return pair.second.id() == *m_mouseDownItem;
+    });
     if (entry == visible.end())
         return;
     if (QLineF(*m_mouseDownPoint, event.location).length() <= dragDistance)
@@ -32,7 +32,7 @@ void ShelfView::mouseDragged(const MouseEvent &event)
     const QPointF from = *m_mouseDownPoint;
     m_mouseDownPoint.reset();
     // A copy: the drag may run an event loop in which the snapshot is replaced.
-    beginDragOut(DropItem(entry->second), index, from);
+    beginDragOut(DropItem(entry->second), entry->first, from);
 }
 
 QRectF ShelfView::thumbFrame(int index) const
@@ -77,7 +77,7 @@ DragOutEvents ShelfView::dragOutEvents(const QUuid &id)
         *keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
         m_look.draggedItem.reset();
         m_look.leavingItems.append(id);
-        m_mouseDownIndex.reset();
+        m_mouseDownItem.reset();
         if (onDragOutChanged)
             onDragOutChanged(false);
     };

@@ -596,6 +596,21 @@ TEST_F(ShelfViewTest, AnItemThatIsGoneStartsNoDrag)
     EXPECT_FALSE(desk.panel.dragOut);
 }
 
+TEST_F(ShelfViewTest, WhatWasPressedIsDraggedAlsoWhenAnItemBeforeItLeavesMeanwhile)
+{
+    const ShelfSnapshot before = holding(3, 3);
+    show(before);
+    const QPointF from = middleOf(1);
+    press(from);
+    // The target of an earlier drag says only now that it has the first one.
+    ShelfSnapshot after = holding(2, 3);
+    after.visible = {{0, before.visible[1].second}, {1, before.visible[2].second}};
+    show(after);
+    view.mouseDragged({from + QPointF(9, 0)});
+    ASSERT_TRUE(desk.panel.dragOut);
+    EXPECT_EQ(view.look().draggedItem, before.visible[1].second.id());
+}
+
 TEST_F(ShelfViewTest, AFileThatIsGoneIsNotDraggedAndTheUserIsTold)
 {
     ShelfSnapshot snapshot = holding(1, 1);
