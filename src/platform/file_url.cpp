@@ -4,17 +4,74 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 
 namespace corvane::file_url {
 
 namespace {
 
-/// Bytes that stand for themselves in the path of an address.
-bool standsForItself(char byte)
+/// How a byte of a path stands in an address.
+enum class Form : std::uint8_t {
+    AsItIs,
+    Encoded,
+    /// Encoded here; the toolkit has its own opinion of some.
+    EncodedByUs,
+};
+
+constexpr Form formOf(int byte)
 {
-    return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z')
+    const bool standsForItself = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z')
         || (byte >= '0' && byte <= '9') || byte == '-' || byte == '.' || byte == '_' || byte == '~'
         || byte == '/';
+    if (standsForItself)
+        return Form::AsItIs;
+    return byte == ' ' || byte >= 0x80 ? Form::Encoded : Form::EncodedByUs;
+}
+
+constexpr auto forms = [] {
+    std::array<Form, 256> all = {};
+    for (std::size_t byte = 0; byte < all.size(); ++byte)
+        all[byte] = formOf(static_cast<int>(byte));
+    return all;
+}();
+
+/// The least unlike the path itself among the forms of its bytes.
+Form formOf(const QByteArray &path)
+{
+    auto most = Form::AsItIs;
+    for (const char byte : path)
+        most = std::max(most, forms[static_cast<unsigned char>(byte)]);
+    return most;
+}
+
+/// The same as `toUtf8`, in less than half the time where it is all ASCII.
+QByteArray utf8(const QString &text)
+{
+    const bool isAscii
+        = std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
+    return isAscii ? text.toLatin1() : text.toUtf8();
+}
+
+constexpr QByteArrayView scheme = "file://";
+
+QByteArray encodedPath(const QByteArray &path)
+{
+    static constexpr std::array<char, 16> digits
+        = {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9', 'A', 'B', 'C', 'D', 'E', 'F'};
+    QByteArray encoded(scheme.size() + path.size() * 3, Qt::Uninitialized);
+    char *end = std::copy(scheme.begin(), scheme.end(), encoded.data());
+    for (const char byte : path) {
+        const auto value = static_cast<unsigned char>(byte);
+        if (forms[value] == Form::AsItIs) {
+            *end++ = byte;
+            continue;
+        }
+        *end++ = '%';
+        *end++ = digits[value >> 4U];
+        *end++ = digits[value & 15U];
+    }
+    encoded.truncate(end - encoded.constData());
+    return encoded;
 }
 
 QByteArrayView lastComponent(QByteArrayView path)
@@ -44,7 +101,7 @@ QByteArray nativePath(const QUrl &url)
     if (!url.isLocalFile())
         return {};
     // As it is kept inside, where only what is no text stays encoded: nothing, of nearly all files.
-    QByteArray path = url.path(QUrl::PrettyDecoded).toUtf8();
+    QByteArray path = utf8(url.path(QUrl::PrettyDecoded));
     if (path.contains('%'))
         path = QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
     // Without a leading slash it would depend on where this program was started, and at a null byte
@@ -56,26 +113,19 @@ QByteArray nativePath(const QUrl &url)
 
 QUrl fromNativePath(const QByteArray &path)
 {
-    static constexpr std::array<char, 16> digits
-        = {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9', 'A', 'B', 'C', 'D', 'E', 'F'};
     if (path.isEmpty())
         return {};
-    constexpr QByteArrayView scheme = "file://";
-    QByteArray encoded(scheme.size() + path.size() * 3, Qt::Uninitialized);
-    char *end = std::copy(scheme.begin(), scheme.end(), encoded.data());
-    for (const char byte : path) {
-        if (standsForItself(byte)) {
-            *end++ = byte;
-            continue;
-        }
-        const auto value = static_cast<unsigned char>(byte);
-        *end++ = '%';
-        *end++ = digits[value >> 4U];
-        *end++ = digits[value & 15U];
-    }
-    encoded.truncate(end - encoded.constData());
     // There is nothing to tolerate, but strictness costs as much again as all the rest.
-    return QUrl::fromEncoded(encoded, QUrl::TolerantMode);
+    return QUrl::fromEncoded(encodedPath(path), QUrl::TolerantMode);
+}
+
+QByteArray encoded(const QUrl &url, const QByteArray &nativePath)
+{
+    const Form form = formOf(nativePath);
+    if (nativePath.isEmpty() || form == Form::EncodedByUs || url.hasQuery() || url.hasFragment()
+        || !url.host().isEmpty())
+        return url.toEncoded(QUrl::FullyEncoded);
+    return encodedPath(nativePath);
 }
 
 QString lastPathComponent(const QByteArray &nativePath)

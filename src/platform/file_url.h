@@ -17,6 +17,11 @@ QByteArray nativePath(const QUrl &url);
 /// The address of a path given as bytes, every byte kept.
 QUrl fromNativePath(const QByteArray &path);
 
+/// The address of a file as it is sent, as `QUrl::toEncoded` gives it, but for an encoded slash,
+/// which becomes one; `nativePath` is its path. Quicker for nearly all files, of which thousands
+/// may be handed over at once.
+QByteArray encoded(const QUrl &url, const QByteArray &nativePath);
+
 /// The name after the last slash, one trailing slash not counting; what cannot be shown as text is
 /// replaced, so this is for people, not for opening files.
 QString lastPathComponent(const QUrl &url);

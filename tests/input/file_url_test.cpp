@@ -39,6 +39,31 @@ TEST(FileUrl, SurvivesBeingSentAsText)
     EXPECT_EQ(sent, QByteArray("file:///caf%E9%20%231%20100%25"));
 }
 
+/// What is written quickly, and what the toolkit writes.
+void expectSameAddress(const QUrl &url)
+{
+    EXPECT_EQ(file_url::encoded(url, file_url::nativePath(url)), url.toEncoded(QUrl::FullyEncoded));
+}
+
+TEST(FileUrl, IsEncodedAsTheToolkitDoesIt)
+{
+    for (int byte = 1; byte < 256; ++byte)
+        expectSameAddress(
+            file_url::fromNativePath(QByteArrayLiteral("/x") + static_cast<char>(byte)));
+    for (const char *path :
+         {"/", "/plain.txt", "/with space", "//double", "/a//b/", "/a/./b/../c", "/ä/日本 (2)",
+          "/\xf0\x9f\x90\xa6", "/caf\xe9", "/\xed\xa0\x80", "/\xef\xbf\xbe", "/a%20b", "/x@y:z!"}) {
+        expectSameAddress(file_url::fromNativePath(path));
+        expectSameAddress(QUrl::fromLocalFile(QString::fromUtf8(path)));
+    }
+    for (const char *address :
+         {"file:/a", "FILE:///a", "file:///%41%7e%2D", "file:///a%28b%29", "file:///a(b)",
+          "file:///%c3%a9", "file:///\u00e9", "file:///a b", "file://host/a", "file://localhost/a",
+          "file:///a?b", "file:///a#b", "file:///a?", "file:///a#", "file:///a%00",
+          "file:", "file:a", "http://x/a", ""})
+        expectSameAddress(QUrl::fromEncoded(address));
+}
+
 TEST(FileUrl, OpensAFileWhoseNameIsNoUtf8)
 {
     const QTemporaryDir directory;

@@ -109,6 +109,11 @@ public:
 private:
     void prepend(const QByteArray &path)
     {
+        // The name of one file of many thousands.
+        if (!path.contains('/') && !path.isEmpty() && path != ".") {
+            m_ahead.push_back(path);
+            return;
+        }
         const QByteArrayList components = path.split('/');
         std::copy_if(components.rbegin(), components.rend(), std::back_inserter(m_ahead),
                      [](const QByteArray &one) { return !one.isEmpty() && one != "."; });

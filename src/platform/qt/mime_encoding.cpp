@@ -39,33 +39,34 @@ private:
     void add(const PasteboardWriter &writer)
     {
         if (const auto *file = std::get_if<File>(&writer.content)) {
-            addUrl(file->url);
-            addPath(file_url::nativePath(file->url));
+            addFile(file->url);
         } else if (const auto *link = std::get_if<Link>(&writer.content)) {
-            addText(addUrl(link->url));
+            const QByteArray address = link->url.toEncoded(QUrl::FullyEncoded);
+            addAddress(link->url, address);
+            addText(address);
         } else if (const auto *string = std::get_if<Text>(&writer.content)) {
             addText(string->string.toUtf8());
         }
         ++m_place;
     }
 
-    QByteArray addUrl(const QUrl &url)
+    void addFile(const QUrl &url)
     {
-        const QByteArray address = url.toEncoded(QUrl::FullyEncoded);
+        const QByteArray path = file_url::nativePath(url);
+        addAddress(url, file_url::encoded(url, path));
+        // A name whose bytes are no text cannot be told as text.
+        const bool isText = path.isValidUtf8();
+        addText(isText ? path : QString::fromUtf8(path).toUtf8());
+        if (!isText)
+            inText.removeLast();
+    }
+
+    void addAddress(const QUrl &url, const QByteArray &address)
+    {
         uriList.append(address).append("\r\n");
         inUriList.append(m_place);
         if (url.isLocalFile())
             copiedFiles.append(copiedFiles.isEmpty() ? "copy\n" : "\n").append(address);
-        return address;
-    }
-
-    void addPath(const QByteArray &path)
-    {
-        // A name whose bytes are no text cannot be told as text.
-        const QByteArray told = QString::fromUtf8(path).toUtf8();
-        addText(told);
-        if (told != path)
-            inText.removeLast();
     }
 
     void addText(const QByteArray &part)
