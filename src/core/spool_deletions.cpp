@@ -5,16 +5,24 @@
 
 #include <QSet>
 
+#include <algorithm>
+#include <atomic>
 #include <chrono>
+#include <cstddef>
 #include <deque>
+#include <iterator>
 #include <mutex>
 #include <utility>
+#include <vector>
 
 namespace corvane {
 
 namespace {
 
 constexpr std::chrono::milliseconds patience{100};
+/// Taken off the list at once: with one at a time the main thread, which adds thousands, would meet
+/// this thread at the lock again and again.
+constexpr std::size_t mostTakenAtOnce = 100;
 
 } // namespace
 
@@ -24,11 +32,44 @@ struct SpoolDeletions::Shared {
         QByteArray path;
     };
 
+    /// Moves some of what waits to `taken`; where nothing does the work ends. Gives `stops`.
+    int take(std::vector<Deletion> &taken)
+    {
+        const std::lock_guard lock(mutex);
+        const auto end = waiting.begin()
+            + static_cast<std::ptrdiff_t>(std::min(waiting.size(), mostTakenAtOnce));
+        taken.assign(std::move_iterator(waiting.begin()), std::move_iterator(end));
+        waiting.erase(waiting.begin(), end);
+        if (taken.empty()) {
+            paths.clear();
+            isAtWork = false;
+        }
+        return stops;
+    }
+    /// These are gone, unless it was stopped meanwhile.
+    void end(const std::vector<Deletion> &taken, int stopsBefore)
+    {
+        const std::lock_guard lock(mutex);
+        for (const Deletion &deletion : taken) {
+            if (stops == stopsBefore)
+                paths.remove(deletion.path);
+        }
+    }
+    void drop()
+    {
+        const std::lock_guard lock(mutex);
+        ++stops;
+        waiting.clear();
+        paths.clear();
+    }
+
     std::mutex mutex;
     // Guarded by it.
     std::deque<Deletion> waiting;
     QSet<QByteArray> paths;
     bool isAtWork = false;
+    /// What was taken off the list before the last of them is not deleted any more.
+    std::atomic<int> stops = 0;
     /// Held while a file is being deleted.
     std::timed_mutex deleting;
 };
@@ -41,8 +82,7 @@ SpoolDeletions::SpoolDeletions(WorkQueue *queue)
 
 SpoolDeletions::~SpoolDeletions()
 {
-    const std::lock_guard lock(m_shared->mutex);
-    m_shared->waiting.clear();
+    m_shared->drop();
 }
 
 void SpoolDeletions::add(std::shared_ptr<const OpenSpool> spool, const QByteArray &path)
@@ -73,11 +113,7 @@ bool SpoolDeletions::isPending(const QByteArray &path) const
 
 void SpoolDeletions::stop()
 {
-    {
-        const std::lock_guard lock(m_shared->mutex);
-        m_shared->waiting.clear();
-        m_shared->paths.clear();
-    }
+    m_shared->drop();
     // Where its disk does not answer, what comes next does not wait for it either.
     if (m_shared->deleting.try_lock_for(patience))
         m_shared->deleting.unlock();
@@ -85,22 +121,18 @@ void SpoolDeletions::stop()
 
 void SpoolDeletions::work(Shared &shared)
 {
+    std::vector<Shared::Deletion> taken;
     while (true) {
-        const std::lock_guard deleting(shared.deleting);
-        Shared::Deletion next;
-        {
-            const std::lock_guard lock(shared.mutex);
-            if (shared.waiting.empty()) {
-                shared.paths.clear();
-                shared.isAtWork = false;
-                return;
-            }
-            next = std::move(shared.waiting.front());
-            shared.waiting.pop_front();
+        const int stops = shared.take(taken);
+        if (taken.empty())
+            return;
+        for (const Shared::Deletion &next : taken) {
+            const std::lock_guard deleting(shared.deleting);
+            if (shared.stops != stops)
+                break;
+            next.spool->remove(next.path);
         }
-        next.spool->remove(next.path);
-        const std::lock_guard lock(shared.mutex);
-        shared.paths.remove(next.path);
+        shared.end(taken, stops);
     }
 }
 
