@@ -1,12 +1,10 @@
 #include "platform/qt/remote_mounts.h"
 
 #include "platform/file_url.h"
-
-#include <dirent.h>
+#include "platform/qt/bounded_listing.h"
 
 #include <algorithm>
 #include <array>
-#include <memory>
 #include <string_view>
 #include <utility>
 
@@ -92,17 +90,9 @@ RemoteMounts RemoteMounts::ofSession()
     const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR");
     if (!runtime.startsWith('/'))
         return {{}, {}};
+    static BoundedListing listing;
     const QByteArray folder = runtime + "/gvfs";
-    QList<QByteArray> names;
-    // Without asking what the entries are: a place whose network is gone would keep us waiting.
-    const std::unique_ptr<DIR, int (*)(DIR *)> directory(::opendir(folder.constData()), ::closedir);
-    while (directory) {
-        const dirent *entry = ::readdir(directory.get());
-        if (!entry)
-            break;
-        names.append(entry->d_name);
-    }
-    return {folder, names};
+    return {folder, listing.names(folder)};
 }
 
 bool RemoteMounts::mayHold(const QUrl &address)

@@ -20,7 +20,8 @@ public:
     /// `folder` is where the places are mounted, `names` what it lists; both as bytes.
     RemoteMounts(QByteArray folder, const QList<QByteArray> &names);
 
-    /// Reads the session's folder, and asks none of the places anything.
+    /// Reads the session's folder, and asks none of the places anything. Where the folder itself
+    /// does not answer, it is what it was when it last did.
     static RemoteMounts ofSession();
 
     /// Whether an address can be one of a mounted place at all; everything that is common cannot.
