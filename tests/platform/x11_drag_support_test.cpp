@@ -496,11 +496,74 @@ TEST_F(X11DragSupportTest, secondDropOnOneProgramGetsTheSecondContents)
 TEST_F(X11DragSupportTest, twoDropsOnOneWindowDeathIsHeardAfterFirstEnds)
 {
     dropOn(target);
+    clock.advance(X11DragSupport::defaultPatience * 3 / 4);
     dropOn(target);
-    target.finish(0);
+    clock.advance(X11DragSupport::defaultPatience / 2);
     ASSERT_EQ(ends.size(), 1U);
     target.destroyWindow();
     EXPECT_TRUE(eventually([&] { return ends.size() == 2; }, std::chrono::seconds{3}));
+}
+TEST_F(X11DragSupportTest, twoDropsOnOneWindowLeaveOnceBothWentWell)
+{
+    dropOn(target);
+    target.take("image/png");
+    dropOn(target);
+    target.take("text/uri-list");
+    target.finish();
+    EXPECT_TRUE(ends.empty()) << "it may be the end of either";
+    target.finish();
+    ASSERT_EQ(ends.size(), 2U);
+    EXPECT_EQ(ends[0].taken, Places{2});
+    EXPECT_EQ(ends[1].taken, Places{0});
+}
+TEST_F(X11DragSupportTest, twoDropsOnOneWindowStayWhereOneOfThemFailed)
+{
+    for (const bool failsFirst : {true, false}) {
+        ends.clear();
+        dropOn(target);
+        target.take("image/png");
+        dropOn(target);
+        target.take("text/uri-list");
+        target.finish(failsFirst ? 0 : 1);
+        target.finish(failsFirst ? 1 : 0);
+        ASSERT_EQ(ends.size(), 2U);
+        for (const DragOutEnd &end : ends)
+            EXPECT_EQ(end.operation, DragOperation::None);
+    }
+}
+TEST_F(X11DragSupportTest, twoDropsOnOneWindowStayWhereTheTargetSpeaksOfOneOnly)
+{
+    dropOn(target);
+    target.take("image/png");
+    dropOn(target);
+    target.take("text/uri-list");
+    target.finish();
+    clock.advance(X11DragSupport::defaultPatience * 5 / 4);
+    ASSERT_EQ(ends.size(), 2U);
+    for (const DragOutEnd &end : ends)
+        EXPECT_EQ(end.operation, DragOperation::None);
+    dropOn(target);
+    target.take("image/png");
+    target.finish(0);
+    EXPECT_EQ(ends.size(), 2U) << "that was the late word";
+    target.finish();
+    ASSERT_EQ(ends.size(), 3U);
+    EXPECT_EQ(taken(), Places{2});
+}
+TEST_F(X11DragSupportTest, whatAWindowSaidOfEarlierDropsIsNotAboutTheNext)
+{
+    dropOn(target);
+    dropOn(target);
+    target.finish();
+    support.dragCameToNothing(support.dragWillBegin(forms(), true));
+    clock.advance(X11DragSupport::defaultPatience * 5 / 4);
+    ASSERT_EQ(ends.size(), 2U);
+    target.finish(0);
+    dropOn(target);
+    target.take("image/png");
+    target.finish();
+    ASSERT_EQ(ends.size(), 3U);
+    EXPECT_EQ(taken(), Places{2});
 }
 TEST_F(X11DragSupportTest, selectionClearOlderThanTheDrag)
 {

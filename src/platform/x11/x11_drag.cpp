@@ -107,13 +107,19 @@ bool X11Drag::mayBeFinishedBy(xcb_window_t window) const
     return m_isWaiting && (isOverProgramOf(window) || m_askedAfterDrop.contains(programOf(window)));
 }
 
+bool X11Drag::isSuccess(const xcb_client_message_event_t &finished) const
+{
+    const std::uint32_t *data = finished.data.data32;
+    return !m_saysHowItEnded || ((data[1] & succeeded) != 0 && data[2] != XCB_NONE);
+}
+
 void X11Drag::targetFinished(const xcb_client_message_event_t &finished)
 {
     if (!m_isWaiting || m_finish)
         return;
     const std::uint32_t *data = finished.data.data32;
     m_finishedProgram = programOf(data[0]);
-    if (m_saysHowItEnded && ((data[1] & succeeded) == 0 || data[2] == XCB_NONE)) {
+    if (!isSuccess(finished)) {
         end(DragOperation::None);
         return;
     }

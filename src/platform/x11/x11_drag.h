@@ -53,7 +53,11 @@ public:
     /// Whether word from that window that it is over may be believed: it is of the target's
     /// program, or of one that has asked for something since the drop.
     bool mayBeFinishedBy(xcb_window_t window) const;
+    /// Whether it waits for that window, which has not said yet that it is over.
+    bool awaitsWordOf(xcb_window_t window) const { return wasDroppedOn(window) && !m_finish; }
     xcb_window_t target() const { return m_target; }
+    /// Whether the target says that it went well.
+    bool isSuccess(const xcb_client_message_event_t &finished) const;
     /// XdndFinished.
     void targetFinished(const xcb_client_message_event_t &finished);
     void windowIsGone(xcb_window_t window);

@@ -80,6 +80,9 @@ void X11DragSupport::dragWasDropped(DragId drag, std::function<void(const DragOu
             forget(drag);
         ended(end);
     };
+    // Nothing that was said before is about this one.
+    if (dropsAwaiting(found->target()).size() == 1)
+        m_words.erase(found->target());
     watchTheClock();
     if (target == X11Drag::Target::Gone) {
         m_queue.asyncAfter(lastWords, [this, alive = std::weak_ptr(m_alive), drag] {
@@ -173,22 +176,56 @@ void X11DragSupport::finished(const xcb_client_message_event_t &message)
         m_givenUp.erase(late);
         return;
     }
+    if (const auto meant = dropsAwaiting(by); !meant.empty()) {
+        finishedOneOf(meant, message);
+        return;
+    }
     std::vector<X11Drag *> waiting;
     for (const auto &[id, drag] : m_drags) {
         if (drag->isWaiting())
             waiting.push_back(drag.get());
     }
-    const auto meant = std::find_if(waiting.begin(), waiting.end(),
-                                    [&](const X11Drag *drag) { return drag->wasDroppedOn(by); });
-    if (meant != waiting.end())
-        (*meant)->targetFinished(message);
-    else if (waiting.size() == 1 && waiting.front()->mayBeFinishedBy(by))
-        // By another of its windows. What was taken decides all the same.
+    // By another of its windows. What was taken decides all the same.
+    if (waiting.size() == 1 && waiting.front()->mayBeFinishedBy(by))
         waiting.front()->targetFinished(message);
+}
+
+std::vector<DragSupport::DragId> X11DragSupport::dropsAwaiting(xcb_window_t window) const
+{
+    std::vector<DragId> drops;
+    for (const auto &[id, drag] : m_drags) {
+        if (drag->awaitsWordOf(window))
+            drops.push_back(id);
+    }
+    return drops;
+}
+
+void X11DragSupport::finishedOneOf(const std::vector<DragId> &drops,
+                                   const xcb_client_message_event_t &message)
+{
+    const xcb_window_t by = message.data.data32[0];
+    auto &words = m_words[by];
+    words.push_back(message);
+    for (const DragId drop : drops)
+        find(drop)->noteSign();
+    if (words.size() < drops.size())
+        return;
+    const auto said = std::move(m_words.extract(by).mapped());
+    const bool wentWell = std::ranges::all_of(
+        said, [&](const auto &word) { return find(drops.front())->isSuccess(word); });
+    const std::weak_ptr<bool> alive(m_alive);
+    for (std::size_t i = 0; i < drops.size() && !alive.expired(); ++i) {
+        auto *const drag = find(drops[i]);
+        if (drag && wentWell)
+            drag->targetFinished(said[i]);
+        else if (drag)
+            drag->giveUp();
+    }
 }
 
 void X11DragSupport::windowIsGone(xcb_window_t window)
 {
+    m_words.erase(window);
     std::vector<DragId> ids;
     for (const auto &[id, drag] : m_drags)
         ids.push_back(id);
@@ -243,12 +280,26 @@ bool X11DragSupport::answer(const xcb_selection_request_event_t &request)
 
 void X11DragSupport::giveUp(X11Drag &drag)
 {
-    if (drag.isWaiting()) {
-        m_givenUp.push_back(drag.target());
-        if (m_givenUp.size() > maximumGivenUp)
-            m_givenUp.pop_front();
+    const xcb_window_t target = drag.target();
+    if (!drag.awaitsWordOf(target)) {
+        drag.giveUp();
+        return;
     }
+    // What the target has said may have been about any of them.
+    const std::vector<DragId> drops = dropsAwaiting(target);
+    const auto said = m_words.extract(target);
+    const std::size_t known = said ? said.mapped().size() : 0;
+    const std::size_t missing = known > 0 ? drops.size() - known : 1;
+    m_givenUp.insert(m_givenUp.end(), missing, target);
+    while (m_givenUp.size() > maximumGivenUp)
+        m_givenUp.pop_front();
     drag.giveUp();
+    if (known == 0)
+        return;
+    for (const DragId drop : drops) {
+        if (auto *const other = find(drop))
+            other->giveUp();
+    }
 }
 
 void X11DragSupport::watchTheClock()

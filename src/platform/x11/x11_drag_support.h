@@ -11,6 +11,7 @@
 #include <deque>
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace corvane {
 
@@ -24,7 +25,8 @@ namespace corvane {
 /// what the target says in XdndFinished, together with what it was given.
 ///
 /// A target may be busy with a drop while the next drag has begun: requests are told apart by their
-/// time, and where they have none by the program that asks.
+/// time, and where they have none by the program that asks. What it says at the end cannot be told
+/// apart where several drops wait for one window, so nothing leaves before all of them went well.
 class X11DragSupport : public DragSupport, public QAbstractNativeEventFilter {
 public:
     /// Seconds without a sign of the target after which it has not taken what was dropped on it. A
@@ -51,6 +53,9 @@ private:
     void noteTime(const xcb_generic_event_t &event);
     void readMessage(xcb_client_message_event_t &message);
     void finished(const xcb_client_message_event_t &message);
+    void finishedOneOf(const std::vector<DragId> &drops, const xcb_client_message_event_t &message);
+    /// Dropped on that window, which has not said yet how that ended; the oldest first.
+    std::vector<DragId> dropsAwaiting(xcb_window_t window) const;
     void windowIsGone(xcb_window_t window);
     void lostSelection(xcb_timestamp_t time);
     bool answer(const xcb_selection_request_event_t &request);
@@ -73,6 +78,8 @@ private:
     std::map<DragId, std::unique_ptr<X11Drag>> m_drags;
     DragId m_lastId = 0;
     bool m_hasSelection = false;
+    /// What windows with several drops on them have said so far: it does not name the drop.
+    std::map<xcb_window_t, std::vector<xcb_client_message_event_t>> m_words;
     /// Windows that were given up and may still say how it ended, once for each drop.
     std::deque<xcb_window_t> m_givenUp;
     static constexpr std::size_t maximumGivenUp = 32;
