@@ -174,6 +174,7 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
     itemPreparation.onReady = [this](const DropItem &made) { store.becomeReady(made); };
     store.onLeft = [this](const QUuid &item, bool deletingFiles) {
         savedPictures.itemLeft(item, deletingFiles);
+        remotePictures.itemLeft(item);
     };
     remotePictures.isWanted = [this](const QUuid &item) { return store.indexOf(item).has_value(); };
     thumbnails.setItemsInView([this] { return itemsInView(store); });

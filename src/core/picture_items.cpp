@@ -115,15 +115,16 @@ std::optional<DropItem> PictureItems::converted(const QUrl &url, bool isSpooled)
     return m_preparation.begin(std::move(job));
 }
 
-bool PictureItems::convertFetched(const DropItem &item, const QByteArray &data,
-                                  const std::function<bool()> &isWanted,
-                                  const std::function<void()> &whenDone) const
+std::shared_ptr<SpoolPlace>
+PictureItems::convertFetched(const DropItem &item, const QByteArray &data,
+                             const std::function<bool()> &isWanted,
+                             const std::function<void()> &whenDone) const
 {
     const auto *file = std::get_if<DropItem::File>(&item.payload());
     const Place place
         = file ? m_spool.keepPlace(file_url::stem(file->url), extensionOf(UTType::png())) : nullptr;
     if (!place)
-        return false;
+        return nullptr;
     const auto make = [&converter = m_converter, data, item, place] {
         if (converter.transcode(data, UTType::png(), *place))
             return fileItem(place->url(), true);
@@ -137,7 +138,7 @@ bool PictureItems::convertFetched(const DropItem &item, const QByteArray &data,
               whenDone();
           };
     m_preparation.begin({item, {place}, make, end});
-    return true;
+    return place;
 }
 
 DropItem PictureItems::ofBytes(const QByteArray &data, const UTType &type) const

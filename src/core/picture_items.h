@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace corvane {
@@ -15,6 +16,7 @@ class ImageCodec;
 class ImageConverter;
 class ItemPreparation;
 class ScratchSpool;
+class SpoolPlace;
 
 /// The items of dropped pictures whose files the shelf makes itself: of a TIFF a PNG, of bytes that
 /// came without a file one that holds them. They are made beside the main thread, and until then
@@ -31,11 +33,12 @@ public:
     /// The same for one that lies in the spool already, which goes once it is of no use any more.
     std::optional<DropItem> ofSpooledTiff(const QUrl &url) const;
     /// The contents of an item's TIFF file have been fetched: the item becomes a PNG of them,
-    /// unless that cannot be done or `isWanted` says no in the end. Calls `whenDone` later; false,
-    /// and it never does, when there is no spool.
-    bool convertFetched(const DropItem &item, const QByteArray &data,
-                        const std::function<bool()> &isWanted,
-                        const std::function<void()> &whenDone) const;
+    /// unless that cannot be done or `isWanted` says no in the end. Calls `whenDone` later. Gives
+    /// the place of the PNG: giving that up ends the work. Null, and nothing is called, when there
+    /// is no spool.
+    std::shared_ptr<SpoolPlace> convertFetched(const DropItem &item, const QByteArray &data,
+                                               const std::function<bool()> &isWanted,
+                                               const std::function<void()> &whenDone) const;
     /// A picture without a file. Without a spool it stays in memory.
     DropItem ofBytes(const QByteArray &data, const UTType &type) const;
 

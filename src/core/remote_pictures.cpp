@@ -1,6 +1,7 @@
 #include "core/remote_pictures.h"
 
 #include "core/picture_items.h"
+#include "core/spool_place.h"
 #include "platform/file_url.h"
 #include "platform/remote_files.h"
 
@@ -48,10 +49,19 @@ void RemotePictures::fetchNext()
                          const auto owner = weak.lock();
                          return owner && (*owner)->wants(id);
                      };
-                     if (!data || !isStillWanted()
-                         || !(*self)->m_pictures.convertFetched(item, *data, isStillWanted, goOn))
+                     const auto place = data && isStillWanted()
+                         ? (*self)->m_pictures.convertFetched(item, *data, isStillWanted, goOn)
+                         : nullptr;
+                     (*self)->m_current = {item.id(), place};
+                     if (!place)
                          goOn();
                  });
+}
+
+void RemotePictures::itemLeft(const QUuid &id)
+{
+    if (const auto place = m_current.place.lock(); place && m_current.id == id)
+        place->giveUp();
 }
 
 } // namespace corvane

@@ -12,6 +12,7 @@ namespace corvane {
 
 class PictureItems;
 class RemoteFiles;
+class SpoolPlace;
 
 /// Converts TIFF files that lie behind a network, as far as their servers hand them over: one after
 /// the other, so that no more than one waits in memory. Their items are what they are until then.
@@ -32,6 +33,8 @@ public:
 
     /// Nothing is read inside this call, nor waited for.
     void convert(const DropItem &item);
+    /// An item has left the shelf: nobody needs to go on converting it.
+    void itemLeft(const QUuid &id);
 
 private:
     bool wants(const QUuid &item) const { return !isWanted || isWanted(item); }
@@ -41,6 +44,12 @@ private:
     const PictureItems &m_pictures;
     std::deque<DropItem> m_waiting;
     bool m_isBusy = false;
+    /// What is being converted.
+    struct Current {
+        QUuid id;
+        std::weak_ptr<SpoolPlace> place;
+    };
+    Current m_current;
     std::shared_ptr<RemotePictures *> m_self = std::make_shared<RemotePictures *>(this);
 };
 

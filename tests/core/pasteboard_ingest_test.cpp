@@ -376,6 +376,24 @@ TEST_F(RemoteFileItems, OfTiffThatAreNotWantedAnyMoreAreNeitherFetchedNorKept)
     EXPECT_EQ(remoteFiles.readings[2].path, "/net/d.tiff");
 }
 
+TEST_F(RemoteFileItems, OfTiffThatLeaveMeanwhileAreNotConvertedToTheEnd)
+{
+    codec.teach("tiff bytes", {3, 2});
+    locality.remoteFolder = "/net";
+    const DropItem item = ingest.fileItem(file_url::fromNativePath("/net/a.tiff"));
+    const DropItem next = ingest.fileItem(file_url::fromNativePath("/net/b.tiff"));
+    remoteFiles.readings[0].answer("tiff bytes");
+    remotePictures.itemLeft(next.id());
+    remotePictures.itemLeft(item.id());
+    finishWork();
+    EXPECT_EQ(codec.decodings, 0);
+    EXPECT_FALSE(exists(temporary.path("Corvane-4711/a.png")));
+    ASSERT_EQ(remoteFiles.readings.size(), 2U) << "the next has its turn";
+    remoteFiles.readings[1].answer("tiff bytes");
+    finishWork();
+    EXPECT_EQ(codec.decodings, 1);
+}
+
 TEST(RemoteDescriptionsTest, FindNothingOnceTheyAreGone)
 {
     test::FakeRemoteFiles files;

@@ -6,6 +6,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <atomic>
 
 namespace corvane::test {
 
@@ -20,6 +21,7 @@ public:
     }
     std::optional<QImage> decode(const QByteArray &data) const override
     {
+        ++decodings;
         const auto size = pixelSize(data);
         return size ? std::optional(picture(*size)) : std::nullopt;
     }
@@ -50,6 +52,8 @@ public:
 
     QHash<QByteArray, QSize> sizes;
     bool refusesToEncode = false;
+    /// How often a whole picture was decoded.
+    mutable std::atomic<int> decodings = 0;
 
 private:
     static QImage picture(QSize size)
