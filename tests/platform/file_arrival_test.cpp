@@ -74,6 +74,22 @@ TEST_F(FileArrivalTest, anEmptyFileIsNotYetThere)
     EXPECT_TRUE(*hasArrived);
 }
 
+TEST_F(FileArrivalTest, anEmptyFileThatStaysEmptyIsToldApart)
+{
+    wait();
+    EXPECT_FALSE(arrival->isEmptyFile());
+    write({});
+    EXPECT_TRUE(eventually([this] {
+        clock.advance(0.05);
+        return arrival->isEmptyFile();
+    }));
+    clock.advance(FileArrival::patience + 3);
+    EXPECT_EQ(hasArrived, false);
+    EXPECT_TRUE(arrival->isEmptyFile());
+    write("bytes");
+    EXPECT_FALSE(arrival->isEmptyFile());
+}
+
 TEST_F(FileArrivalTest, givesUpWhereNothingIsWritten)
 {
     wait();

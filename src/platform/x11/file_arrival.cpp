@@ -116,6 +116,13 @@ bool FileArrival::isComplete() const
         && status.st_size > 0 && status.st_size <= maximumBytes;
 }
 
+bool FileArrival::isEmptyFile() const
+{
+    struct stat status = {};
+    return m_wasClosed && ::lstat(m_path.constData(), &status) == 0 && S_ISREG(status.st_mode)
+        && status.st_size == 0;
+}
+
 void FileArrival::discard()
 {
     ::unlink(m_path.constData());

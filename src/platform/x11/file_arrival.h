@@ -29,6 +29,9 @@ public:
     /// `done` is called once, later: true once the file is there as a regular file, is not empty,
     /// and was closed after writing. It may destroy this. Never called once this is gone.
     void wait(std::function<void(bool hasArrived)> done);
+    /// Whether a file was closed there that has nothing in it. It may be meant to be empty: who
+    /// waits in vain for more can only guess.
+    bool isEmptyFile() const;
     /// Removes what has arrived so far.
     void discard();
 

@@ -160,15 +160,24 @@ void X11IncomingDrag::receivePromisedFile(const QUrl &destination, std::function
           });
 }
 
+bool X11IncomingDrag::offersPicture() const
+{
+    return std::ranges::any_of(m_types, [](const QString &type) {
+        return type.startsWith(QLatin1String("image/"), Qt::CaseInsensitive);
+    });
+}
+
 void X11IncomingDrag::waitForFile(std::function<void(bool)> done)
 {
     m_arrival->wait([this, done = std::move(done)](bool hasArrived) {
         // Kept until `done` is through: it may end this.
         const auto self = shared_from_this();
         const auto arrival = std::move(m_arrival);
-        if (!hasArrived)
+        // Where there is no picture to be had instead, an empty file is what the source has.
+        const bool isKept = hasArrived || (arrival->isEmptyFile() && !offersPicture());
+        if (!isKept)
             arrival->discard();
-        done(hasArrived);
+        done(isKept);
     });
 }
 

@@ -47,6 +47,7 @@ public:
 
 private:
     void waitForFile(std::function<void(bool)> done);
+    bool offersPicture() const;
     void readLater(Outcome outcome, const QByteArray &bytes, Fetched done);
     xcb_window_t proxy() const;
 
