@@ -577,4 +577,48 @@ TEST_F(PanelWindowTest, contentMayGoWhileThePanelIsShown)
     EXPECT_EQ(content.count("down"), 0);
 }
 
+/// A surface that writes down which key it is to keep from the program behind.
+class SwallowingSurface : public X11PanelSurface {
+public:
+    using X11PanelSurface::X11PanelSurface;
+    void swallowRepeats(std::uint32_t key, std::uint32_t) override { swallowed.push_back(key); }
+
+    std::vector<std::uint32_t> swallowed;
+};
+
+class HeldKey : public PanelFixture {
+protected:
+    void press(QtPanelWindow &window)
+    {
+        constexpr quint32 scanCode = 38;
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, scanCode, 0, 0);
+        QCoreApplication::sendEvent(&window.window(), &press);
+    }
+
+    SwallowingSurface swallowing{connection};
+    QtPanelWindow panelWithKeys{swallowing, queue};
+};
+
+TEST_F(HeldKey, ofAPanelThatHasTheKeyboardIsKeptFromTheProgramBehind)
+{
+    panelWithKeys.setContent(&content);
+    panelWithKeys.orderFrontRegardless();
+    press(panelWithKeys);
+    panelWithKeys.orderOut();
+    EXPECT_EQ(swallowing.swallowed, std::vector<std::uint32_t>{38});
+    panelWithKeys.setContent(nullptr);
+}
+
+TEST_F(HeldKey, isForgottenWhereTheKeyboardHasGoneToSomebodyElse)
+{
+    panelWithKeys.setContent(&content);
+    panelWithKeys.orderFrontRegardless();
+    press(panelWithKeys);
+    QFocusEvent out(QEvent::FocusOut);
+    QCoreApplication::sendEvent(&panelWithKeys.window(), &out);
+    panelWithKeys.orderOut();
+    EXPECT_TRUE(swallowing.swallowed.empty());
+    panelWithKeys.setContent(nullptr);
+}
+
 } // namespace corvane::test

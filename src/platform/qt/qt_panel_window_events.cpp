@@ -46,6 +46,10 @@ bool QtPanelWindow::handle(QEvent &event)
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
         return handleKey(dynamic_cast<QKeyEvent &>(event));
+    case QEvent::FocusOut:
+        // Its release goes to somebody else.
+        m_heldKey.reset();
+        return false;
     default:
         return handleDrag(event);
     }

@@ -7,9 +7,12 @@
 namespace corvane {
 
 /// Keeps a key that is held down from acting on the program that is given the keyboard: until it is
-/// released its repeats go nowhere, while all other keys go where they should.
+/// released its repeats go nowhere.
 ///
-/// A grab of that key, with the modifiers that it was pressed with. The connection must outlive it.
+/// A grab of that key, with the modifiers that it was pressed with. Its first repeat makes it a
+/// grab of the whole keyboard, as every such grab is: from then until the key is released other
+/// keys go nowhere either. Before that, and where the key does not repeat, they go where they
+/// should. The connection must outlive it.
 class X11KeyShield {
 public:
     explicit X11KeyShield(X11Connection &connection);
