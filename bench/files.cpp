@@ -159,11 +159,7 @@ void measure(CompositionRoot &root)
     // The least disturbed of each: who else is at work here slows memory more than system calls.
     print({"accepting 10,000 files in one drop, CPU", *std::min_element(stats.begin(), stats.end()),
            *std::min_element(drops.begin(), drops.end()), "ms", 3});
-    constexpr auto value = Row::Bound::Value;
-    print({"longest stall while their thumbnails arrive", floor.longestGap, heartbeat.longestGap,
-           "ms", 16, value});
-    print({"the same less waits for a processor", floor.longestOwnGap, heartbeat.longestOwnGap,
-           "ms", 16, value});
+    printStalls("longest stall while their thumbnails arrive", floor, heartbeat);
 }
 
 } // namespace

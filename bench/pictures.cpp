@@ -104,12 +104,9 @@ void measure(CompositionRoot &root)
     heartbeat.runUntil(untilReady);
     root.store.clearAll();
 
-    constexpr auto value = Row::Bound::Value;
-    print({"drop of a 600 dpi A4 TIFF, until the source is answered", plain, one, "ms", 20, value});
-    print({"longest turn while ten of them are converted", floor.longestGap, heartbeat.longestGap,
-           "ms", 16, value});
-    print({"the same less waits for a processor", floor.longestOwnGap, heartbeat.longestOwnGap,
-           "ms", 16, value});
+    print({"drop of a 600 dpi A4 TIFF, until the source is answered", plain, one, "ms", 20,
+           Row::Bound::Value});
+    printStalls("longest turn while ten of them are converted", floor, heartbeat);
 }
 
 } // namespace

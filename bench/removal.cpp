@@ -104,11 +104,9 @@ void measure(CompositionRoot &root)
         times.push_back(threadTime() - start - idle);
         runUntil([&] { return root.store.items().isEmpty() && isSpoolEmpty(root.spool); });
     }
-    constexpr auto value = Row::Bound::Value;
     print({"removing 10,000 ticked items, with a tray, CPU", 0,
-           *std::min_element(times.begin(), times.end()), "ms", 50, value});
-    print({"longest stall of five times", 0, heartbeat.longestGap, "ms", 16, value});
-    print({"the same less waits for a processor", 0, heartbeat.longestOwnGap, "ms", 16, value});
+           *std::min_element(times.begin(), times.end()), "ms", 50, Row::Bound::Value});
+    printStalls("longest stall of five times", {}, heartbeat);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <string>
 
 namespace corvane::bench {
 
@@ -47,5 +48,15 @@ struct Heartbeat {
         loop.exec();
     }
 };
+
+/// Two rows of the longest stall, of what stands still for 16 ms at most.
+inline void printStalls(const std::string &figure, const Heartbeat &floor,
+                        const Heartbeat &measured)
+{
+    constexpr auto value = Row::Bound::Value;
+    print({figure, floor.longestGap, measured.longestGap, "ms", 16, value});
+    print({"the same less waits for a processor", floor.longestOwnGap, measured.longestOwnGap, "ms",
+           16, value});
+}
 
 } // namespace corvane::bench

@@ -14,13 +14,6 @@ namespace corvane {
 
 namespace {
 
-QByteArray withoutTrailingSlashes(QByteArray path)
-{
-    while (path.size() > 1 && path.endsWith('/'))
-        path.chop(1);
-    return path;
-}
-
 /// Every link on the way resolved; empty when there is no such path.
 QByteArray resolved(const QByteArray &path)
 {
@@ -50,7 +43,7 @@ bool OpenSpool::stillStands() const
 
 bool OpenSpool::contains(const QByteArray &path) const
 {
-    const QByteArray whole = withoutTrailingSlashes(path);
+    const QByteArray whole = spool_directory::withoutTrailingSlashes(path);
     const qsizetype slash = whole.lastIndexOf('/');
     const QByteArray name = whole.mid(slash + 1);
     // The last component is taken as it stands, and these two would lead out again.
@@ -64,7 +57,7 @@ bool OpenSpool::contains(const QByteArray &path) const
 void OpenSpool::remove(const QByteArray &path) const
 {
     if (contains(path))
-        spool_directory::remove(withoutTrailingSlashes(path));
+        spool_directory::remove(spool_directory::withoutTrailingSlashes(path));
 }
 
 } // namespace corvane

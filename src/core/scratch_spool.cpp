@@ -19,13 +19,6 @@ namespace corvane {
 
 namespace {
 
-QByteArray withoutTrailingSlashes(QByteArray path)
-{
-    while (path.size() > 1 && path.endsWith('/'))
-        path.chop(1);
-    return path;
-}
-
 /// An extension comes from a stranger's file name too.
 QString safeExtension(QString extension)
 {
@@ -46,7 +39,7 @@ bool exists(const QByteArray &path)
 
 ScratchSpool::ScratchSpool(QByteArray temporaryDirectory, qint64 processIdentifier,
                            WorkQueue *deletionQueue)
-    : m_temporaryDirectory(withoutTrailingSlashes(std::move(temporaryDirectory)))
+    : m_temporaryDirectory(spool_directory::withoutTrailingSlashes(std::move(temporaryDirectory)))
     , m_directory(m_temporaryDirectory + '/' + spool_directory::name(processIdentifier))
     , m_deletions(deletionQueue)
 {

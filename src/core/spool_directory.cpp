@@ -84,6 +84,13 @@ QByteArray name(qint64 processIdentifier)
     return prefix + QByteArray::number(processIdentifier);
 }
 
+QByteArray withoutTrailingSlashes(QByteArray path)
+{
+    while (path.size() > 1 && path.endsWith('/'))
+        path.chop(1);
+    return path;
+}
+
 int openAndLock(const QByteArray &path)
 {
     constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;

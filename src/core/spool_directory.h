@@ -10,6 +10,9 @@ namespace corvane::spool_directory {
 /// The name for a process: "Corvane-4711".
 QByteArray name(qint64 processIdentifier);
 
+/// The same path without slashes at its end, but for the root itself.
+QByteArray withoutTrailingSlashes(QByteArray path);
+
 /// Opens and locks a directory that is a real one, of this user, closed to others, and in nobody
 /// else's use; -1 otherwise. The lock lasts until the descriptor is closed, or the process ends.
 int openAndLock(const QByteArray &path);
