@@ -80,7 +80,7 @@ void QuickActions::copy(const QList<DropItem> &items)
     if (items.isEmpty())
         return;
     m_preparation.whenReady(items, [this, latest = begin()](const QList<DropItem> &ready) {
-        if (!latest.expired())
+        if (isStillWanted(latest))
             copyReady(ready, latest);
     });
 }
@@ -99,7 +99,7 @@ void QuickActions::copyReady(const QList<DropItem> &items, const Latest &latest)
         return;
     }
     m_pictures.asFiles(items, [this, latest](const QList<DropItem> &files) {
-        if (!latest.expired() && !files.isEmpty())
+        if (isStillWanted(latest) && !files.isEmpty())
             writeSeveral(files, countThatArrives(files));
     });
 }
@@ -118,7 +118,7 @@ void QuickActions::copy(const DropItem &item, bool asDataUri)
 {
     m_preparation.whenReady(
         item, [this, asDataUri, latest = begin()](const std::optional<DropItem> &ready) {
-            if (latest.expired() || !ready)
+            if (!isStillWanted(latest) || !ready)
                 return;
             if (asDataUri)
                 copyAsDataUri(*ready, latest);
@@ -130,7 +130,7 @@ void QuickActions::copy(const DropItem &item, bool asDataUri)
 void QuickActions::copyAsDataUri(const DropItem &item, const Latest &latest)
 {
     m_dataUris.make(item, [this, latest, item](const std::optional<QString> &uri) {
-        if (latest.expired())
+        if (!isStillWanted(latest))
             return;
         if (!uri) {
             copyAsItIs(item);
@@ -143,8 +143,14 @@ void QuickActions::copyAsDataUri(const DropItem &item, const Latest &latest)
 
 QuickActions::Latest QuickActions::begin()
 {
-    m_latest = std::make_shared<const Copy>();
+    m_latest = std::make_shared<const Copy>(Copy{m_pasteboard.changeCount()});
     return m_latest;
+}
+
+bool QuickActions::isStillWanted(const Latest &latest) const
+{
+    const auto copy = latest.lock();
+    return copy && copy->changeCount == m_pasteboard.changeCount();
 }
 
 void QuickActions::copyAsItIs(const DropItem &item)

@@ -17,7 +17,8 @@ class SavedPictures;
 /// Puts items on the clipboard and says what it did. All references must outlive it.
 ///
 /// What takes its time (items that are still being made, pictures that are saved first, data URIs)
-/// is put there once it is ready, unless something else was copied meanwhile.
+/// is put there once it is ready, unless something else was copied meanwhile, here or in another
+/// program.
 class QuickActions {
 public:
     QuickActions(GeneralPasteboard &pasteboard, const Feedback &feedback, DataUris &dataUris,
@@ -31,9 +32,13 @@ public:
     void copy(const DropItem &item, bool asDataUri);
 
 private:
-    struct Copy { };
+    /// Which change of the clipboard was the last when it was asked for.
+    struct Copy {
+        qint64 changeCount = 0;
+    };
     using Latest = std::weak_ptr<const Copy>;
     Latest begin();
+    bool isStillWanted(const Latest &latest) const;
     void copyReady(const QList<DropItem> &items, const Latest &latest);
     void copyAsDataUri(const DropItem &item, const Latest &latest);
     void copyAsItIs(const DropItem &item);

@@ -46,6 +46,8 @@ public:
 
     /// Clears it, then writes `contents` in one go.
     virtual void write(const PasteboardContents &contents) = 0;
+    /// Another number whenever anybody, also another program, has put something there.
+    virtual qint64 changeCount() const = 0;
 };
 
 } // namespace corvane

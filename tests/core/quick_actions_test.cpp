@@ -237,6 +237,15 @@ TEST_F(QuickActionsTest, CopiesAFileOnceItIsThere)
     EXPECT_EQ(messages, QStringList{QStringLiteral("Path copied")});
 }
 
+TEST_F(QuickActionsTest, WhatIsStillBeingMadeGivesWayToWhatWasCopiedInAnotherProgram)
+{
+    actions.copy(being("scan", "pixels"), false);
+    ++pasteboard.changes;
+    finishWork();
+    EXPECT_TRUE(pasteboard.writes.empty());
+    EXPECT_TRUE(messages.isEmpty());
+}
+
 TEST_F(QuickActionsTest, CopiesWhatAnItemHasBecome)
 {
     const DropItem item = being("scan", nullptr);
@@ -382,6 +391,15 @@ TEST_F(DataUriCopies, GiveWayToWhatWasCopiedMeanwhile)
     clock.runPending();
     EXPECT_EQ(messages, QStringList{QStringLiteral("Link copied")});
     EXPECT_EQ(pasteboard.writes.size(), 1U);
+}
+
+TEST_F(DataUriCopies, GiveWayToWhatWasCopiedInAnotherProgramMeanwhile)
+{
+    actions.copy(file("a.txt", "x"), true);
+    ++pasteboard.changes;
+    finishWork();
+    EXPECT_TRUE(pasteboard.writes.empty());
+    EXPECT_TRUE(messages.isEmpty());
 }
 
 TEST_F(DataUriCopies, OfFilesThatAreTooLargeGiveWayToThePath)

@@ -79,6 +79,30 @@ TEST_F(HangingDisk, aServerThatIsGoneKeepsNeitherThePreviewNorTheEndWaiting)
     expectAnEnd();
 }
 
+TEST_F(HangingDisk, whatAServerThatIsGoneHoldsIsCopiedAndDraggedOutAllTheSame)
+{
+    const QString file = makeFile(u"net/letter.txt"_s, "dear reader");
+    startWithHanging(makeFolder(u"net"_s));
+    hold(file);
+    hands().key('c', {keys::control});
+    EXPECT_EQ(clipboardText(file.toUtf8()), file.toUtf8());
+    // Nobody waits for its contents either.
+    hands().key('c', {keys::control, keys::alt});
+
+    XdndTarget target(m_desktop, QRect(900, 400, 200, 200), true, "text/uri-list");
+    const QPoint middle = target.frame().center();
+    hands().beginDrag(corvane().at(38, 22), middle);
+    hands().glideTo(middle);
+    ASSERT_TRUE(target.pumpUntil([&] { return target.isHovered(); }));
+    hands().aim(middle);
+    target.pump();
+    hands().release();
+    ASSERT_TRUE(target.pumpUntil([&] { return target.hasDrop(); }));
+    EXPECT_EQ(target.data(), uriList({file}));
+    EXPECT_TRUE(corvane().waitUntilHidden()) << "it has left";
+    expectAnEnd();
+}
+
 TEST_F(HangingDisk, whatLiesOnAnotherDiskIsShownMeanwhile)
 {
     const QString file = makeFile(u"net/letter.txt"_s, "dear reader");

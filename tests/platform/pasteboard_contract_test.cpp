@@ -224,6 +224,19 @@ TEST(QtPasteboard, aTextThatIsTooLargeIsNoneRatherThanHalf)
     EXPECT_FALSE(QtPasteboard(&mimeData).string());
 }
 
+TEST(QtGeneralPasteboard, countsWhatAnotherProgramPutsThere)
+{
+    QtGeneralPasteboard general;
+    general.write({{{PasteboardWriter::Text{QStringLiteral("ours")}}}, {}});
+    const qint64 count = general.changeCount();
+    QProcess other;
+    other.start(QStringLiteral("xclip"),
+                {QStringLiteral("-selection"), QStringLiteral("clipboard")});
+    other.write("theirs");
+    other.closeWriteChannel();
+    EXPECT_TRUE(eventually([&] { return general.changeCount() > count; }));
+}
+
 TEST(QtGeneralPasteboard, anotherProgramGetsALargeTextWhole)
 {
     const QByteArray text = numberedBytes(20'000'000);

@@ -8,6 +8,12 @@
 
 namespace corvane {
 
+QtGeneralPasteboard::QtGeneralPasteboard()
+{
+    QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &m_receiver,
+                     [this] { ++m_changeCount; });
+}
+
 void QtGeneralPasteboard::write(const PasteboardContents &contents)
 {
     QGuiApplication::clipboard()->setMimeData(
