@@ -77,7 +77,9 @@ void AppDelegate::wireAwaitedDrops()
 {
     m_hud->onAwaitsDrop = [this](bool isAwaiting) {
         m_isAwaitingDrop = isAwaiting;
-        if (!isAwaiting && std::exchange(m_isDragEndOwed, false))
+        // With the first item there is nothing left that would close.
+        const bool isOver = !isAwaiting || !m_context.store.items().isEmpty();
+        if (isOver && std::exchange(m_isDragEndOwed, false))
             m_context.store.dragEnded();
     };
 }

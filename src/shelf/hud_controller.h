@@ -65,7 +65,8 @@ public:
 
     /// The pointer came onto the shelf, or went off it.
     std::function<void(bool isInside)> onPointerInside;
-    /// Something was dropped whose contents are on their way, or the last of them is here.
+    /// Something was dropped whose contents are on their way; or one of them is here, and tells
+    /// whether others are awaited.
     std::function<void(bool isAwaiting)> onAwaitsDrop;
     /// The user pressed, typed or is about to drop on the shelf.
     std::function<void()> onUsed;

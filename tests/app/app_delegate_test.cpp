@@ -193,6 +193,23 @@ TEST_F(AppDelegateTest, AnEmptyShelfStaysOpenForWhatWasDroppedAndIsOnItsWay)
     EXPECT_EQ(store.items().size(), 1);
 }
 
+TEST_F(AppDelegateTest, ADragIsOverWithTheFirstOfSeveralThingsThatWereDropped)
+{
+    drag();
+    desk.panel.content->dropIsAwaited();
+    desk.panel.content->dropIsAwaited();
+    release();
+    FakePasteboard pasteboard;
+    pasteboard.offerText(QStringLiteral("first"));
+    EXPECT_TRUE(desk.panel.content->performDragOperation({pasteboard, {}, false}));
+    EXPECT_FALSE(store.isDragInFlight()) << "the shelf has an item that keeps it open";
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+    log.clear();
+    FakePasteboard nothing;
+    EXPECT_FALSE(desk.panel.content->performDragOperation({nothing, {}, false}));
+    EXPECT_EQ(log, QStringList()) << "the end is told once";
+}
+
 TEST_F(AppDelegateTest, AnEmptyShelfClosesWhenNothingComesOfWhatWasDropped)
 {
     drag();
