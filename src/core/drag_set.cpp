@@ -42,6 +42,11 @@ DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &dragWriter,
     return set.items.isEmpty() && !available.isEmpty() ? alone(available.constFirst()) : set;
 }
 
+bool isOnlyLinkedTo(const DropItem &form, DragOperation operation)
+{
+    return operation == DragOperation::Link && form.isSpooled();
+}
+
 QString stayedMessage(qsizetype stayed, qsizetype all)
 {
     if (stayed >= all)

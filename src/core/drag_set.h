@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "platform/panel_window.h"
 #include "platform/pasteboard_writer.h"
 
 #include <QList>
@@ -26,6 +27,10 @@ struct DragSet {
 /// the first one goes alone.
 DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &writer,
                     SavedPictures &pictures);
+
+/// Whether an item must stay although the target took `form`: a link to a file of the shelf's own
+/// leads nowhere once the shelf has deleted it.
+bool isOnlyLinkedTo(const DropItem &form, DragOperation operation);
 
 /// What the user is told when `stayed` of `all` items that were let go elsewhere did not arrive.
 QString stayedMessage(qsizetype stayed, qsizetype all);

@@ -65,8 +65,8 @@ public:
     std::function<void()> onViewAll;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
     std::function<void(bool isInside)> onPointerInside;
-    /// Something was dropped here whose contents are still on their way; or the last of them is
-    /// here.
+    /// Something was dropped here whose contents are still on their way; or one of them is here,
+    /// and tells whether others are awaited.
     std::function<void(bool isAwaiting)> onAwaitsDrop;
     /// A press, a key or a drag that may be dropped here, before anything else comes of it.
     std::function<void()> onUsed;
@@ -122,7 +122,7 @@ private:
     void pressKey(const KeyEvent &event) const;
     void beginDragOut(const DropItem &item, int index, QPointF from);
     QRectF thumbFrame(int index) const;
-    DragOutEvents dragOutEvents(const QUuid &id);
+    DragOutEvents dragOutEvents(const DropItem &item);
     void dragOutEnded(const QUuid &id, const DragOutEnd &end, bool keep);
     void updateDragTargeted();
 

@@ -64,11 +64,12 @@ void ShelfView::beginDragOut(const DropItem &item, int index, QPointF from)
     drag.image = m_context.dragWriter.dragImage(item, thumb.width(), m_scale);
     drag.hotSpot = isOnThumb ? inBody(from) - thumb.topLeft()
                              : QPointF(thumb.width() / 2, thumb.height() / 2);
-    m_context.panel.beginDraggingSession(std::move(drag), dragOutEvents(item.id()));
+    m_context.panel.beginDraggingSession(std::move(drag), dragOutEvents(item));
 }
 
-DragOutEvents ShelfView::dragOutEvents(const QUuid &id)
+DragOutEvents ShelfView::dragOutEvents(const DropItem &item)
 {
+    const QUuid id = item.id();
     const std::weak_ptr<bool> alive = m_alive;
     const auto keep = std::make_shared<bool>(false);
     const auto released = [this, alive, id, keep] {
@@ -81,9 +82,9 @@ DragOutEvents ShelfView::dragOutEvents(const QUuid &id)
         if (onDragOutChanged)
             onDragOutChanged(false);
     };
-    const auto ended = [this, alive, id, keep](const DragOutEnd &end) {
+    const auto ended = [this, alive, item, keep](const DragOutEnd &end) {
         if (!alive.expired())
-            dragOutEnded(id, end, *keep);
+            dragOutEnded(item.id(), end, *keep || isOnlyLinkedTo(item, end.operation));
     };
     return {released, ended};
 }
@@ -160,8 +161,8 @@ bool ShelfView::performDragOperation(const DraggingInfo &info)
     const std::weak_ptr<bool> alive = m_alive;
     // Whoever waits for it is told in any case.
     const auto isHere = qScopeGuard([&] {
-        if (!alive.expired() && wasAwaited && m_awaitedDrops == 0 && onAwaitsDrop)
-            onAwaitsDrop(false);
+        if (!alive.expired() && wasAwaited && onAwaitsDrop)
+            onAwaitsDrop(m_awaitedDrops > 0);
     });
     m_look.isDragTargeted = m_isDragOver || m_awaitedDrops > 0;
     const QList<DropItem> items

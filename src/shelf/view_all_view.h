@@ -126,6 +126,7 @@ private:
     struct DraggedOut {
         /// One for each writer.
         QList<QUuid> ids;
+        QList<DropItem> forms;
         /// More than travel: a file may be gone.
         qsizetype wanted = 0;
         bool keep = false;

@@ -164,7 +164,7 @@ void ViewAllView::beginDrag(const DropItem &grabbed)
     drag.image = dragImage(grabbed, set.items);
     drag.hotSpot = {drag.image.size.width() / 2, drag.image.size.height() / 2};
     m_context.panel.beginDraggingSession(std::move(drag),
-                                         dragOutEvents({m_draggingIds, wanted.size()}));
+                                         dragOutEvents({m_draggingIds, set.forms, wanted.size()}));
 }
 
 DragOutEvents ViewAllView::dragOutEvents(DraggedOut dragged)
@@ -187,13 +187,18 @@ DragOutEvents ViewAllView::dragOutEvents(DraggedOut dragged)
 
 void ViewAllView::dragEnded(const DraggedOut &dragged, const DragOutEnd &end)
 {
-    QList<QUuid> taken;
-    for (const qsizetype place : end.taken)
-        taken << dragged.ids[place];
-    if (!taken.isEmpty())
-        call(onEjected, taken, dragged.keep);
-    if (end.wasDropped && taken.size() < dragged.wanted)
-        call(onStayed, dragged.wanted - taken.size(), dragged.wanted);
+    QList<QUuid> leaving;
+    QList<QUuid> kept;
+    for (const qsizetype place : end.taken) {
+        const bool keep = dragged.keep || isOnlyLinkedTo(dragged.forms[place], end.operation);
+        (keep ? kept : leaving) << dragged.ids[place];
+    }
+    if (!leaving.isEmpty())
+        call(onEjected, leaving, false);
+    if (!kept.isEmpty())
+        call(onEjected, kept, true);
+    if (end.wasDropped && end.taken.size() < dragged.wanted)
+        call(onStayed, dragged.wanted - end.taken.size(), dragged.wanted);
 }
 
 void ViewAllView::scrollWheel(const ScrollEvent &event)

@@ -403,6 +403,20 @@ TEST_F(ViewAllViewTest, ofASetOnlyThatLeavesWhichItsTargetTook)
     EXPECT_EQ(log.constLast(), QStringLiteral("stayed 1 of 3"));
 }
 
+TEST_F(ViewAllViewTest, ofASetThatWasLinkedToTheShelfsOwnFilesStay)
+{
+    hold(2);
+    items[1] = DropItem(DropItem::File{QUrl::fromLocalFile(QStringLiteral("/usr"))},
+                        QStringLiteral("picture"), {}, true);
+    select({0, 1});
+    drag(middleOf(0));
+    log.clear();
+    endDrag(DragOperation::Link);
+    EXPECT_TRUE(log.contains(QStringLiteral("eject 1 0")));
+    EXPECT_TRUE(log.contains(QStringLiteral("eject 1 1")));
+    EXPECT_EQ(ejected, QList<QUuid>{items[1].id()}) << "what stays is told last";
+}
+
 TEST_F(ViewAllViewTest, theNextDragMayBeginWhileATargetIsBusy)
 {
     show(3);
