@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shelf/bitmap_layer.h"
+#include "shelf/icon_layer.h"
 
 namespace corvane {
 
@@ -13,7 +13,7 @@ struct ArrowLayers {
     }
 
     Layer plate;
-    BitmapLayer caret;
+    IconLayer caret;
 };
 
 } // namespace corvane

@@ -18,6 +18,8 @@ public:
 
     /// `key` names the contents: equal keys mean equal contents, and nothing is made again.
     void setContents(const QString &key, Contents contents);
+    QString key() const { return m_key; }
+    const Contents &contents() const { return m_contents; }
 
 protected:
     void draw(QPainter &painter, QSizeF size, double scale) const override;

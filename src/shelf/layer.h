@@ -42,6 +42,7 @@ public:
     /// Sublayers are painted in this order, above the layer itself. They take themselves out when
     /// they end.
     void addSublayer(Layer &layer);
+    const std::vector<Layer *> &sublayers() const { return m_sublayers; }
     void setDelegate(const LayerAnimator *delegate) { m_delegate = delegate; }
 
     QSizeF bounds() const { return m_bounds; }
@@ -63,6 +64,7 @@ public:
     void setBackgroundColor(const QColor &color);
     /// Sublayers are cut to this layer's rectangle.
     void setClipsSublayers(bool clips) { m_clipsSublayers = clips; }
+    bool clipsSublayers() const { return m_clipsSublayers; }
 
     /// The next change moves although nothing was painted yet, as if the present values had been
     /// seen.

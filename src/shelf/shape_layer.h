@@ -19,6 +19,7 @@ public:
 
     QColor fillColor() const { return m_fillColor; }
     void setFillColor(const QColor &color);
+    QPen stroke() const { return m_pen; }
     void setStroke(const QPen &pen);
 
 protected:

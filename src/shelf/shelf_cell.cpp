@@ -4,7 +4,6 @@
 #include "shelf/drawing.h"
 #include "shelf/layer_animator.h"
 #include "shelf/phosphor_icon_drawing.h"
-#include "shelf/stroke_icon.h"
 #include "shelf/theme.h"
 
 #include <QPainter>
@@ -74,10 +73,7 @@ ShelfCell::ShelfCell(LayerTree &tree, Layer &superlayer, const Theme &theme,
     m_focusRing.setStroke(QPen(palette.emphasis, focusRingWidth));
     m_badge.setBackgroundColor(Theme::Palette::white(1));
     m_badge.setOpacity(0);
-    const QString crossKey = QStringLiteral("cross");
-    m_badgeCross.setContents(crossKey, [](double scale) {
-        return stroke_icon::image(StrokeIcon::Cross, 7, Qt::black, 0.5, 1.4, scale);
-    });
+    m_badgeCross.setIcon(StrokeIcon::Cross, 7, 0.5, Qt::black, 1.4);
 }
 
 void ShelfCell::fill(const DropItem &item, const Look &look)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shelf/bitmap_layer.h"
+#include "shelf/icon_layer.h"
 #include "shelf/shape_layer.h"
 #include "shelf/shelf_layout.h"
 #include "shelf/text_layer.h"
@@ -40,7 +40,7 @@ private:
     TextLayer m_subtitle;
     ShapeLayer m_focusRing;
     Layer m_badge;
-    BitmapLayer m_badgeCross;
+    IconLayer m_badgeCross;
     std::optional<DropItem> m_item;
 
     void showThumbnail();

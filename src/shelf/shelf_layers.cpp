@@ -4,7 +4,6 @@
 #include "shelf/drawing.h"
 #include "shelf/layer_animator.h"
 #include "shelf/pill_path.h"
-#include "shelf/stroke_icon.h"
 #include "shelf/theme.h"
 
 #include <QCoreApplication>
@@ -17,15 +16,7 @@ namespace corvane {
 
 namespace {
 
-constexpr double iconWeight = 1.3;
 constexpr double edgeFadeWidth = 36;
-
-BitmapLayer::Contents strokeIcon(StrokeIcon icon, double side, double inset, const QColor &tint)
-{
-    return [=](double scale) {
-        return stroke_icon::image(icon, side, tint, inset, iconWeight, scale);
-    };
-}
 
 template<typename Hit>
 bool isHit(const ShelfHit &hovered, Hit wanted)
@@ -61,7 +52,7 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
     , m_edgeFade(tree)
     , m_leftArrow(tree)
     , m_rightArrow(tree)
-    , m_actionButtons{BitmapLayer(tree), BitmapLayer(tree), BitmapLayer(tree)}
+    , m_actionButtons{IconLayer(tree), IconLayer(tree), IconLayer(tree)}
     , m_viewAllButton(tree)
     , m_flash(tree)
     , m_hairline(tree)
@@ -110,16 +101,12 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
     m_flash.setColor(palette.primary);
     m_flash.setOpacity(0);
 
-    const QString key = QStringLiteral("icon");
-    m_leftArrow.caret.setContents(key,
-                                  strokeIcon(StrokeIcon::CaretLeft, 10, 0.5, palette.emphasis));
-    m_rightArrow.caret.setContents(key,
-                                   strokeIcon(StrokeIcon::CaretRight, 10, 0.5, palette.emphasis));
-    m_actionButtons[0].setContents(key, strokeIcon(StrokeIcon::Eye, 19, 1.5, palette.emphasis));
-    m_actionButtons[1].setContents(key, strokeIcon(StrokeIcon::Copy, 19, 2, palette.emphasis));
-    m_actionButtons[2].setContents(key, strokeIcon(StrokeIcon::Trash, 19, 2, palette.emphasis));
-    m_viewAllButton.setContents(key,
-                                strokeIcon(StrokeIcon::SquaresFour, 19, 1.5, palette.emphasis));
+    m_leftArrow.caret.setIcon(StrokeIcon::CaretLeft, 10, 0.5, palette.emphasis);
+    m_rightArrow.caret.setIcon(StrokeIcon::CaretRight, 10, 0.5, palette.emphasis);
+    m_actionButtons[0].setIcon(StrokeIcon::Eye, 19, 1.5, palette.emphasis);
+    m_actionButtons[1].setIcon(StrokeIcon::Copy, 19, 2, palette.emphasis);
+    m_actionButtons[2].setIcon(StrokeIcon::Trash, 19, 2, palette.emphasis);
+    m_viewAllButton.setIcon(StrokeIcon::SquaresFour, 19, 1.5, palette.emphasis);
 }
 
 void ShelfLayers::apply(const ShelfLook &look)
@@ -246,8 +233,8 @@ void ShelfLayers::applyCells(const ShelfLook &look)
     m_flash.setOpacity(flashesOverCells ? 1 : 0);
 }
 
-void ShelfLayers::applyButton(BitmapLayer &layer, const std::optional<QRectF> &frame,
-                              bool isHovered, const ShelfLook &look)
+void ShelfLayers::applyButton(IconLayer &layer, const std::optional<QRectF> &frame, bool isHovered,
+                              const ShelfLook &look)
 {
     if (!frame) {
         layer.setOpacity(0);

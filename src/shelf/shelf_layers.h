@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shelf/arrow_layers.h"
-#include "shelf/bitmap_layer.h"
+#include "shelf/icon_layer.h"
 #include "shelf/pill_layer.h"
 #include "shelf/ring_layer.h"
 #include "shelf/shape_layer.h"
@@ -54,6 +54,8 @@ public:
     /// The body's outline as it is painted now.
     QPainterPath presentedOutline() const;
     std::size_t cellCount() const { return m_cells.size(); }
+    /// The layer that contains all others.
+    const Layer &root() const { return m_body; }
 
 private:
     void paintShifted(QPainter &painter, double scale);
@@ -64,7 +66,7 @@ private:
     void applyDropTarget(const ShelfLook &look);
     void applyCells(const ShelfLook &look);
     void applyControls(const ShelfLook &look);
-    void applyButton(BitmapLayer &layer, const std::optional<QRectF> &frame, bool isHovered,
+    void applyButton(IconLayer &layer, const std::optional<QRectF> &frame, bool isHovered,
                      const ShelfLook &look);
     void applyArrow(std::size_t side, const ShelfLook &look);
 
@@ -91,8 +93,8 @@ private:
     EdgeFade m_edgeFade;
     ArrowLayers m_leftArrow;
     ArrowLayers m_rightArrow;
-    std::array<BitmapLayer, 3> m_actionButtons;
-    BitmapLayer m_viewAllButton;
+    std::array<IconLayer, 3> m_actionButtons;
+    IconLayer m_viewAllButton;
     TextLayer m_flash;
     PillLayer m_hairline;
     /// The whole body while it slides, and what it was made from.

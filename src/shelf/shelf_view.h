@@ -86,6 +86,7 @@ public:
 
     /// What is on the screen, for whoever wants to check it.
     const ShelfLook &look() const { return m_look; }
+    const ShelfLayers &layers() const { return m_layers; }
     std::size_t cellCount() const { return m_layers.cellCount(); }
     bool isMoving() const { return m_tree.isMoving(); }
 

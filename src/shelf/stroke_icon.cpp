@@ -4,6 +4,7 @@
 
 #include <QPainter>
 
+#include <array>
 #include <initializer_list>
 
 namespace corvane::stroke_icon {
@@ -95,6 +96,15 @@ void appendPath(StrokeIcon icon, QPainterPath &path)
         polyline(path, {{0.10, 0.46}, {0.38, 0.18}, {0.90, 0.80}});
         break;
     }
+}
+
+QString name(StrokeIcon icon)
+{
+    static const std::array names{QStringLiteral("eye"),        QStringLiteral("copy"),
+                                  QStringLiteral("cross"),      QStringLiteral("squaresFour"),
+                                  QStringLiteral("trash"),      QStringLiteral("caretLeft"),
+                                  QStringLiteral("caretRight"), QStringLiteral("check")};
+    return names.at(static_cast<std::size_t>(icon));
 }
 
 QImage image(StrokeIcon icon, double pointSize, const QColor &tint, double inset, double weight,

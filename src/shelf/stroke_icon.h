@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QImage>
 #include <QPainterPath>
+#include <QString>
 
 namespace corvane {
 
@@ -10,6 +11,9 @@ namespace corvane {
 enum class StrokeIcon { Eye, Copy, Cross, SquaresFour, Trash, CaretLeft, CaretRight, Check };
 
 namespace stroke_icon {
+
+/// "eye", "copy", "caretLeft" and so on.
+QString name(StrokeIcon icon);
 
 /// Appends the icon's strokes in unit coordinates, y upward.
 void appendPath(StrokeIcon icon, QPainterPath &path);

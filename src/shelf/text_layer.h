@@ -17,10 +17,14 @@ public:
 
     QString string() const { return m_string; }
     void setString(const QString &string);
+    QFont font() const { return m_font; }
     void setFont(const QFont &font);
+    QColor color() const { return m_color; }
     void setColor(const QColor &color);
+    Qt::Alignment alignment() const { return m_alignment; }
     void setAlignment(Qt::Alignment alignment);
     /// Where a line that does not fit is cut; at its right end unless set.
+    Qt::TextElideMode elideMode() const { return m_elideMode; }
     void setElideMode(Qt::TextElideMode mode);
 
 protected:

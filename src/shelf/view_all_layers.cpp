@@ -2,7 +2,6 @@
 
 #include "core/drop_item.h"
 #include "shelf/checkbox_renderer.h"
-#include "shelf/stroke_icon.h"
 #include "shelf/theme.h"
 
 #include <QPainter>
@@ -13,15 +12,6 @@
 namespace corvane {
 
 namespace {
-
-constexpr double iconWeight = 1.3;
-
-BitmapLayer::Contents strokeIcon(StrokeIcon icon, double side, double inset, const QColor &tint)
-{
-    return [=](double scale) {
-        return stroke_icon::image(icon, side, tint, inset, iconWeight, scale);
-    };
-}
 
 void apply(Layer &layer, const ViewAllLayout::Button &layout)
 {
@@ -58,12 +48,11 @@ void ViewAllLayers::setUp()
     m_rightArrow.plate.addSublayer(m_rightArrow.caret);
 
     const QColor tint = m_theme.palette.emphasis;
-    const QString key = QStringLiteral("icon");
-    m_leftArrow.caret.setContents(key, strokeIcon(StrokeIcon::CaretLeft, 10, 0.5, tint));
-    m_rightArrow.caret.setContents(key, strokeIcon(StrokeIcon::CaretRight, 10, 0.5, tint));
+    m_leftArrow.caret.setIcon(StrokeIcon::CaretLeft, 10, 0.5, tint);
+    m_rightArrow.caret.setIcon(StrokeIcon::CaretRight, 10, 0.5, tint);
     const double side = view_all_layout::buttonSide;
-    m_copyButton.setContents(key, strokeIcon(StrokeIcon::Copy, side, 1, tint));
-    m_trashButton.setContents(key, strokeIcon(StrokeIcon::Trash, side, 1, tint));
+    m_copyButton.setIcon(StrokeIcon::Copy, side, 1, tint);
+    m_trashButton.setIcon(StrokeIcon::Trash, side, 1, tint);
     m_selectAllLabel.setFont(m_theme.typography.secondary);
     m_selectAllLabel.setColor(m_theme.palette.control);
 }

@@ -3,11 +3,13 @@
 #include "shelf/arrow_layers.h"
 #include "shelf/bitmap_layer.h"
 #include "shelf/glass_background.h"
+#include "shelf/icon_layer.h"
 #include "shelf/text_layer.h"
 #include "shelf/view_all_tile.h"
 
 #include <QPainterPath>
 
+#include <array>
 #include <memory>
 #include <span>
 #include <vector>
@@ -30,6 +32,8 @@ public:
     void apply(const ViewAllLayout &layout, std::span<const DropItem> page);
     std::size_t tileCount() const { return m_tiles.size(); }
     void render(QPainter &painter, double scale);
+    /// The ground and what lies on it, which contain all other layers.
+    std::array<const Layer *, 2> roots() const { return {m_glass.get(), &m_contentHost}; }
 
     static QPainterPath outline(const QRectF &bounds);
 
@@ -48,8 +52,8 @@ private:
     ArrowLayers m_rightArrow;
     BitmapLayer m_selectAllBox;
     TextLayer m_selectAllLabel;
-    BitmapLayer m_copyButton;
-    BitmapLayer m_trashButton;
+    IconLayer m_copyButton;
+    IconLayer m_trashButton;
     // After the layer that contains them.
     std::vector<std::unique_ptr<ViewAllTile>> m_tiles;
 };

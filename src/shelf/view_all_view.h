@@ -90,6 +90,7 @@ public:
     std::optional<ViewAllControl> hoveredControl() const { return m_hoveredControl; }
     std::optional<QUuid> hovered() const { return m_hovered; }
     std::size_t tileCount() const { return m_layers.tileCount(); }
+    const ViewAllLayers &layers() const { return m_layers; }
 
     void paint(QPainter &painter, QSizeF size, double scale) override;
     void mouseDown(const MouseEvent &event) override;

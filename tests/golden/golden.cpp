@@ -1,82 +1,125 @@
 #include "golden/golden.h"
 
+#include "golden/drawing_libraries.h"
+
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QLibraryInfo>
 
-#include <cmath>
+#include <iostream>
 
 namespace corvane::test {
 
 namespace {
 
-/// Mean difference of a channel, 0 to 255, and the share of pixels that may differ visibly.
-constexpr double allowedMean = 0.6;
-constexpr double allowedShare = 0.004;
-constexpr int visibleDifference = 48;
+const QString librariesName = QStringLiteral("libraries.txt");
 
 bool rebaselines()
 {
     return qEnvironmentVariableIsSet("CORVANE_REBASELINE");
 }
 
-QString goldenPath(const QString &name)
+QDir baselines()
 {
-    return QStringLiteral(CORVANE_TEST_DATA "/golden/baselines/") + name;
+    return QDir(QStringLiteral(CORVANE_TEST_DATA "/golden/baselines"));
 }
 
-QString actualPath(const QString &name)
+QDir baselinesOfThisQt()
 {
-    QDir().mkpath(QStringLiteral("golden-differences"));
-    return QStringLiteral("golden-differences/") + name;
+    const QVersionNumber version = QLibraryInfo::version();
+    return QDir(baselines().filePath(
+        QStringLiteral("qt-%1.%2").arg(version.majorVersion()).arg(version.minorVersion())));
+}
+
+QString contentsOf(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+QString leaveForALook(const QString &name, const QImage &image)
+{
+    const QDir folder(QCoreApplication::applicationDirPath() + u"/../golden-differences");
+    folder.mkpath(QStringLiteral("."));
+    const QString path = QDir::cleanPath(folder.absoluteFilePath(name));
+    return image.save(path) ? path : QStringLiteral("nothing, for it cannot be written");
+}
+
+bool madeWithTheseLibraries(const QDir &folder)
+{
+    static const QString here = drawingLibraries();
+    return contentsOf(folder.filePath(librariesName)) == here;
+}
+
+Comparison comparisonWith(const QDir &folder)
+{
+    const QByteArray wanted = qgetenv("CORVANE_COMPARE");
+    if (!wanted.isEmpty())
+        return wanted == "exact" ? Comparison::Exact : Comparison::Tiles;
+    return madeWithTheseLibraries(folder) ? Comparison::Exact : Comparison::Tiles;
+}
+
+/// Said once for each folder: a run by tiles sees less, and whoever reads its result is to know.
+void sayHow(Comparison comparison, const QDir &folder)
+{
+    static QStringList said;
+    if (said.contains(folder.path()))
+        return;
+    said << folder.path();
+    std::cout << "Pictures in " << folder.dirName().toStdString() << " are compared "
+              << (comparison == Comparison::Exact ? "exactly.\n" : "by tiles.\n");
+}
+
+testing::AssertionResult write(const QDir &folder, const QString &name, const QImage &image)
+{
+    QFile libraries(folder.filePath(librariesName));
+    if (folder.mkpath(QStringLiteral(".")) && libraries.open(QIODevice::WriteOnly)
+        && libraries.write(drawingLibraries().toUtf8()) > 0 && image.save(folder.filePath(name)))
+        return testing::AssertionSuccess();
+    return testing::AssertionFailure() << "cannot write " << name.toStdString();
 }
 
 } // namespace
 
 testing::AssertionResult matchesGoldenText(const QString &name, const QString &text)
 {
-    QFile golden(goldenPath(name));
+    const QString path = baselines().filePath(name);
     if (rebaselines()) {
+        QFile golden(path);
         if (!golden.open(QIODevice::WriteOnly) || golden.write(text.toUtf8()) < 0)
             return testing::AssertionFailure() << "cannot write " << name.toStdString();
         return testing::AssertionSuccess();
     }
-    if (golden.open(QIODevice::ReadOnly) && QString::fromUtf8(golden.readAll()) == text)
+    if (contentsOf(path) == text)
         return testing::AssertionSuccess();
     return testing::AssertionFailure() << name.toStdString() << " differs; it is now:\n"
                                        << text.toStdString();
 }
 
-testing::AssertionResult matchesGoldenImage(const QString &name, const QImage &image)
+testing::AssertionResult matchesGoldenImage(const QString &name, const Picture &picture)
 {
-    QImage actual = image.convertToFormat(QImage::Format_RGB32);
-    actual.setDevicePixelRatio(1);
-    if (rebaselines()) {
-        return actual.save(goldenPath(name))
-            ? testing::AssertionSuccess()
-            : testing::AssertionFailure() << "cannot write " << name.toStdString();
-    }
-    const QImage golden = QImage(goldenPath(name)).convertToFormat(QImage::Format_RGB32);
-    double sum = 0;
-    double visible = 0;
-    bool same = golden.size() == actual.size();
-    for (int y = 0; same && y < golden.height(); ++y) {
-        const auto *left = reinterpret_cast<const QRgb *>(golden.constScanLine(y));
-        const auto *right = reinterpret_cast<const QRgb *>(actual.constScanLine(y));
-        for (int x = 0; x < golden.width(); ++x) {
-            const int red = std::abs(qRed(left[x]) - qRed(right[x]));
-            const int green = std::abs(qGreen(left[x]) - qGreen(right[x]));
-            const int blue = std::abs(qBlue(left[x]) - qBlue(right[x]));
-            sum += red + green + blue;
-            visible += std::max({red, green, blue}) > visibleDifference ? 1 : 0;
-        }
-    }
-    const double pixels = std::max(1, golden.width() * golden.height());
-    if (same && sum / (3 * pixels) <= allowedMean && visible / pixels <= allowedShare)
+    Picture drawn = picture;
+    drawn.image = picture.image.convertToFormat(QImage::Format_RGB32);
+    drawn.image.setDevicePixelRatio(1);
+    const QDir ofThisQt = baselinesOfThisQt();
+    const QDir folder = ofThisQt.exists(name) ? ofThisQt : baselines();
+    const QImage kept(folder.filePath(name));
+    // The first pictures stay those of one machine: the others are kept beside them.
+    const bool ownsTheFirst = contentsOf(baselines().filePath(librariesName)).isEmpty()
+        || madeWithTheseLibraries(baselines());
+    if (rebaselines() && ownsTheFirst)
+        return write(baselines(), name, drawn.image);
+    const Comparison comparison = comparisonWith(folder);
+    sayHow(comparison, folder);
+    const auto differs = difference(kept, drawn, comparison);
+    if (!differs)
         return testing::AssertionSuccess();
-    actual.save(actualPath(name));
+    if (rebaselines())
+        return write(ofThisQt, name, drawn.image);
     return testing::AssertionFailure()
-        << name.toStdString() << " differs (mean " << sum / (3 * pixels) << ", visibly "
-        << visible / pixels << "); see " << actualPath(name).toStdString();
+        << name.toStdString() << ": " << differs->toStdString() << "; it is now "
+        << leaveForALook(name, drawn.image).toStdString();
 }
 
 } // namespace corvane::test

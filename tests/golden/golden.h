@@ -1,17 +1,22 @@
 #pragma once
 
-#include <QImage>
+#include "golden/image_comparison.h"
+
 #include <QString>
 
 #include <gtest/gtest.h>
 
 namespace corvane::test {
 
-/// Compares with what is kept in the source tree; with CORVANE_REBASELINE set it is written anew
-/// instead. What differs is left beside the test program for a look.
+// Each compares with what is kept in the source tree; with CORVANE_REBASELINE set it is written
+// anew instead. What differs is left in golden-differences beside the test programs for a look.
+
 testing::AssertionResult matchesGoldenText(const QString &name, const QString &text);
 
-/// Pictures may differ by what another version of the font renderer does to the edges of letters.
-testing::AssertionResult matchesGoldenImage(const QString &name, const QImage &image);
+/// Exactly where the libraries that draw are those that the kept picture was made with, by tiles
+/// elsewhere; CORVANE_COMPARE=exact or =tiles decides it instead. baselines/libraries.txt names
+/// them. Another version of Qt may have pictures of its own, in baselines/qt-MAJOR.MINOR with such
+/// a file: made there by CORVANE_REBASELINE, those alone that differ by more than the bounds.
+testing::AssertionResult matchesGoldenImage(const QString &name, const Picture &picture);
 
 } // namespace corvane::test

@@ -1,0 +1,60 @@
+// Pictures of the shelf and of the view-all bar, on a light or a dark wallpaper, at several scales.
+
+#include "fakes/shelf_desk.h"
+#include "golden/golden.h"
+#include "golden/panel_stage.h"
+#include "golden/sample_items.h"
+#include "shelf/view_all_view.h"
+
+#include <QPainter>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+class PanelImages : public testing::TestWithParam<PanelState> { };
+
+} // namespace
+
+TEST_P(PanelImages, AreAsKept)
+{
+    const auto stage = GetParam().make(TextWidths::Measured);
+    for (const PanelState::Shot &shot : GetParam().shots) {
+        EXPECT_TRUE(matchesGoldenImage(GetParam().fileName(shot),
+                                       stage->picture(shot.wallpaper, shot.scale)));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryState, PanelImages, testing::ValuesIn(picturedPanelStates()),
+                         [](const auto &given) { return testName(given.param.name); });
+
+TEST(DragImages, SeveralItemsAreDraggedAsAStackWithTheirCount)
+{
+    ShelfDesk desk{QFont(QStringLiteral("Inter"))};
+    desk.panel.setFrame({0, 0, 760, view_all_layout::barHeight});
+    const QList<DropItem> samples = largeSampleItems();
+    QList<DropItem> items{samples[1], samples[4], ShelfDesk::textItem(QStringLiteral("a third"))};
+    items[0].setThumbnail(*samples[0].thumbnail());
+    QSet<QUuid> selection;
+    for (const DropItem &item : std::as_const(items))
+        selection.insert(item.id());
+    ViewAllView view{{desk.panel, desk.clock, desk.motion, desk.theme, desk.keyboard,
+                      desk.dragWriter, desk.savedPictures, desk.preparation}};
+    view.apply(items, selection, 0);
+    const QPointF at = view.layout().tiles[0].root.center();
+    view.mouseDown({at});
+    view.mouseDragged({at + QPointF(9, 0)});
+    ASSERT_TRUE(desk.panel.dragOut);
+    const QImage stack = desk.panel.dragOut->image.bitmap;
+    QImage image(stack.size(), QImage::Format_RGB32);
+    image.fill(QColor(0xC8, 0xD0, 0xD2));
+    QPainter(&image).drawImage(0, 0, stack);
+    // The count is in the badge at the upper right corner.
+    const QRect badge(image.width() - 34, 0, 34, 24);
+    EXPECT_TRUE(
+        matchesGoldenImage(QStringLiteral("view-all-stack-light-1x.png"), {image, 1, {badge}}));
+}
+
+} // namespace corvane::test

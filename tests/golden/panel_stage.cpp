@@ -1,0 +1,73 @@
+#include "golden/panel_stage.h"
+
+#include "fakes/layer_walk.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvane::test {
+
+Picture PanelStage::picture(Wallpaper wallpaper, double scale)
+{
+    const Place where = place();
+    Picture result;
+    result.scale = scale;
+    QImage &desktop = m_desktops[{wallpaper, scale}];
+    if (desktop.isNull())
+        desktop = paintDesktop((where.desktop * scale).toSize(), scale, wallpaper);
+    result.image = desktop;
+    QImage panel((where.panelSize * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    panel.setDevicePixelRatio(scale);
+    panel.fill(Qt::transparent);
+    {
+        QPainter painter(&panel);
+        painter.translate(0, where.panelSize.height());
+        painter.scale(1, -1);
+        paintPanel(painter, where.panelSize, scale);
+    }
+    panel.setDevicePixelRatio(1);
+    QPainter(&result.image).drawImage(where.panel * scale, panel);
+
+    QTransform toPixels = QTransform::fromScale(scale, scale);
+    toPixels.translate(where.panel.x() + where.origin.x(),
+                       where.panel.y() + where.panelSize.height() - where.origin.y());
+    toPixels.scale(1, -1);
+    for (const SeenLayer &seen : seenLayers(roots())) {
+        if (!seen.text.isEmpty())
+            result.letters.push_back(toPixels.mapRect(seen.frame).toAlignedRect());
+    }
+    return result;
+}
+
+QString PanelState::fileName(const Shot &shot) const
+{
+    return QStringLiteral("%1-%2-%3x.png")
+        .arg(QLatin1String(name),
+             shot.wallpaper == Wallpaper::Light ? QStringLiteral("light") : QStringLiteral("dark"))
+        .arg(shot.scale);
+}
+
+std::vector<PanelState> panelStates()
+{
+    std::vector<PanelState> states = shelfStates();
+    states.insert(states.end(), barStates().begin(), barStates().end());
+    return states;
+}
+
+std::vector<PanelState> picturedPanelStates()
+{
+    std::vector<PanelState> states = panelStates();
+    std::erase_if(states, [](const PanelState &state) { return state.shots.empty(); });
+    return states;
+}
+
+std::string testName(const char *state)
+{
+    std::string name = state;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+}
+
+} // namespace corvane::test
