@@ -62,13 +62,15 @@ INSTANTIATE_TEST_SUITE_P(, Edge, twoDesktops(), nameOf);
 TEST_P(Edge, showsTheShelfAndHidesItAfterThePointerHasLeft)
 {
     startWithHiddenShelf();
-    for (int i = 0; i < 2; ++i) {
-        pushAgainstEdge();
-        ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-        EXPECT_TRUE(staysShown()) << "the pointer rests on it";
-        hands().glideTo(elsewhere());
-        EXPECT_TRUE(corvane().waitUntilHidden());
-    }
+    pushAgainstEdge();
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    EXPECT_TRUE(staysShown()) << "the pointer rests on it";
+    hands().glideTo(elsewhere());
+    EXPECT_TRUE(corvane().waitUntilHidden());
+    pushAgainstEdge();
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight)) << "and another time";
+    hands().glideTo(elsewhere());
+    EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
 TEST_P(Edge, comingBackInTimeKeepsTheShelf)
