@@ -128,7 +128,8 @@ TEST(StatusIcon, TakesMostPanelsForDarkWhateverThePaletteIs)
 
 TEST(StatusIcon, FollowsThePaletteWhereThePanelDoes)
 {
-    for (const QString &desktop : {QStringLiteral("KDE"), QStringLiteral("LXQt")}) {
+    for (const QString &desktop :
+         {QStringLiteral("KDE"), QStringLiteral("LXQt"), QStringLiteral("MATE")}) {
         EXPECT_LT(status_icon::likelyForeground(desktop, Qt::black).lightnessF(), 0.3F);
         EXPECT_GT(status_icon::likelyForeground(desktop, Qt::white).lightnessF(), 0.9F);
     }

@@ -12,6 +12,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QRegion>
+#include <QTransform>
 
 #include <gtest/gtest.h>
 
@@ -161,6 +162,19 @@ TEST_F(WelcomeWindowTest, TheIllustrationPlaysOnlyWhileItCanBeSeen)
     EXPECT_TRUE(illustration().isPlaying());
 }
 
+TEST_F(WelcomeWindowTest, AnIllustrationThatIsHiddenAloneStopsToo)
+{
+    motion.reduces = false;
+    make();
+    window().present();
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(illustration().isPlaying());
+    illustration().hide();
+    EXPECT_FALSE(illustration().isPlaying());
+    illustration().show();
+    EXPECT_TRUE(illustration().isPlaying());
+}
+
 TEST_F(WelcomeWindowTest, ThePictureFollowsThePalette)
 {
     window().present();
@@ -221,6 +235,15 @@ TEST(WelcomeIllustration, AMomentThatIsLikeTheOneBeforeIsNotPaintedAnew)
 {
     const WelcomeScene scene = welcome_scene::at(WelcomeStep::DragIn, 0.1);
     EXPECT_TRUE(welcome_shapes::changed({{0, 0}, WelcomeScene::stageSize}, scene, scene).isEmpty());
+}
+
+TEST(WelcomeShapes, TheStageStandsWholeInTheMiddleAtTheTop)
+{
+    const auto stage = [](const QRectF &area) {
+        return welcome_shapes::stageIn(area).mapRect(QRectF({0, 0}, WelcomeScene::stageSize));
+    };
+    EXPECT_EQ(stage({0, 0, 1040, 320}), QRectF(260, 0, 520, 320));
+    EXPECT_EQ(stage({10, 20, 260, 320}), QRectF(10, 20, 260, 160));
 }
 
 TEST(WelcomeScene, EndsWhereItBegins)

@@ -249,6 +249,19 @@ TEST(UpdateHandOver, NothingThatIsThereIsOverwritten)
     EXPECT_EQ(UpdateFolder::contents(folder.path("new.bin")), "the user's");
 }
 
+TEST(UpdateHandOver, AHundredNamesAreTriedAndNoMore)
+{
+    UpdateFolder folder;
+    PosixUpdateFiles files;
+    folder.write("new.bin", "1");
+    for (int number = 2; number < 100; ++number)
+        folder.write("new-" + QByteArray::number(number) + ".bin", "n");
+    auto last = downloaded(folder);
+    EXPECT_EQ(handOver(files, *last, "new.bin").path, folder.path("new-100.bin"));
+    auto tooMany = downloaded(folder);
+    EXPECT_EQ(handOver(files, *tooMany, "new.bin").error, EEXIST);
+}
+
 TEST(UpdateHandOver, ALinkThatWaitsUnderTheNameIsNotFollowed)
 {
     UpdateFolder folder;

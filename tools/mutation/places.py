@@ -171,7 +171,7 @@ class Finder:
     def _sign(self, at: int) -> None:
         source, operator = self.source, self.source.tokens[at]
         neighbours = source.tokens[at - 1], source.tokens[at + 1]
-        if any(t.kind == "string" or t.text in LITERAL_MAKERS for t in neighbours):
+        if any(t.kind in ("string", "character") or t.text in LITERAL_MAKERS for t in neighbours):
             return
         other = operator.text.translate(str.maketrans("+-", "-+"))
         plain = [(operator.start, operator.end, other)]
@@ -332,7 +332,8 @@ class Finder:
                 fixed.update(range(opening, closing))
             for first, last in source.statements(opening, closing):
                 beginning = {source.word(i) for i in range(first, min(first + 3, last))}
-                if beginning & {"constexpr", "static_assert", "using", "assert", "Q_ASSERT"}:
+                is_unnoticed = UNNOTICED.search(source.span(first, min(first + 4, last)))
+                if is_unnoticed or beginning & {"constexpr", "using"}:
                     fixed.update(range(first, last))
         for at, token in enumerate(source.tokens):
             if token.text == "constexpr" and source.word(at - 1) == "if" and at + 1 in source.partner:

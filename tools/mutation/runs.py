@@ -13,6 +13,9 @@ from mutation.mutants import KILLED, SURVIVED, Mutant
 PASSED = re.compile(r"\[       OK \] ([^\s,]+).*\((\d+) ms\)")
 FAILED = re.compile(r"\[  FAILED  \] ([^\s,(]+[./][^\s,(]+)")
 BEGUN = re.compile(r"\[ RUN      \] (\S+)")
+# A mutant may remove or write any file that a test can: they are given a temporary folder alone.
+ENCLOSED = ["bwrap", "--die-with-parent", "--cap-add", "ALL", "--ro-bind", "/", "/", "--dev-bind", "/dev",
+            "/dev", "--bind", "/proc", "/proc", "--tmpfs", "/tmp"]
 # How much longer than without a mutant tests may take, and for starting what they need.
 SLOWER, START = 5, 25
 # More than that, and the whole program is as quick as choosing.
@@ -41,7 +44,9 @@ class Run:
 
 class Programs:
     def __init__(self, folder: pathlib.Path, names: list[str]):
-        self._folder = folder
+        self._folder = folder.resolve()
+        self._scratch = folder.parent / "reached"
+        self._scratch.mkdir(exist_ok=True)
         self.names = names
         self._times: dict[str, dict[str, float]] = {}
         self._reached: dict[str, dict[int, set]] = {}
@@ -49,7 +54,7 @@ class Programs:
     def run_clean(self) -> None:
         """Runs everything once without a mutant, and writes down which tests come to which."""
         for name in self.names:
-            with tempfile.NamedTemporaryFile("r", suffix=".reached") as reached:
+            with tempfile.NamedTemporaryFile("r", dir=self._scratch) as reached:
                 run = self._run(name, "*", -1, 1800, reached.name)
                 reached.seek(0)
                 self._reached[name] = collections.defaultdict(set)
@@ -114,8 +119,8 @@ class Programs:
             environment["GTEST_FAIL_FAST"] = "1"
         environment["CORVANE_MUTANTS_REACHED"] = reached
         with tempfile.TemporaryFile() as output:
-            process = subprocess.Popen([str(self._folder / f"corvane_{name}_tests")],
-                                       stdin=subprocess.DEVNULL, stdout=output,
+            process = subprocess.Popen(self._enclosed(self._folder / f"corvane_{name}_tests"),
+                                       cwd=self._scratch, stdin=subprocess.DEVNULL, stdout=output,
                                        stderr=subprocess.STDOUT, start_new_session=True,
                                        env=environment)
             try:
@@ -130,3 +135,8 @@ class Programs:
                 process.wait()
             output.seek(0)
             return Run(status, output.read().decode(errors="replace"))
+
+    def _enclosed(self, program: pathlib.Path) -> list[str]:
+        # The tree may itself stand below the folder that is hidden.
+        tree, scratch = str(self._folder.parents[2]), str(self._scratch)
+        return [*ENCLOSED, "--ro-bind", tree, tree, "--bind", scratch, scratch, "--", str(program)]
