@@ -18,7 +18,8 @@ TEST(FocusRing, RunsJustInsideTheRectangleAndLeavesItsMiddleFree)
     focus_ring::draw(painter, QPalette(), rect, 4);
     painter.end();
 
-    const QRect room = rect.adjusted(2, 2, -2, -2);
+    // A line of two, and what its round corners reach further.
+    const QRect room = rect.adjusted(3, 3, -3, -3);
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x) {
             if (!rect.contains(x, y) || room.contains(x, y)) {

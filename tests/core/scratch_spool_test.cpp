@@ -215,7 +215,7 @@ TEST_F(ScratchSpoolTest, DiscardsTheFolderThatIsNamedWithASlash)
     ASSERT_TRUE(spool.reserve(image, png).has_value());
     const QUrl shorter = temporary.write("Corvane-4711/a", "x");
     temporary.write("Corvane-4711/ab/inside", "x");
-    spool.discard(temporary.url("Corvane-4711/ab//"));
+    spool.discard(temporary.url("Corvane-4711/ab/"));
     EXPECT_FALSE(exists(temporary.path("Corvane-4711/ab")));
     EXPECT_TRUE(exists(shorter));
 }

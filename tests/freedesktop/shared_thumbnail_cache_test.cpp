@@ -272,6 +272,13 @@ TEST_F(SharedThumbnailCacheTest, nothingPrivateIsKeptOrLookedUp)
     EXPECT_TRUE(cache.find(neighbour, 60).picture);
 }
 
+TEST_F(SharedThumbnailCacheTest, aPrivateFolderMayBeNamedWithASlash)
+{
+    SharedThumbnailCache slashed(codec, {path("cache"), "corvane-1.2", {path("spool") + '/'}});
+    slashed.keep(file("spool/a.png"), plain(128, 64));
+    EXPECT_EQ(kept(), QByteArrayList());
+}
+
 TEST_F(SharedThumbnailCacheTest, noThumbnailsOfThumbnails)
 {
     const FileVersion shown = file("files/a.png");
