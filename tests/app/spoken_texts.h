@@ -9,8 +9,8 @@
 namespace corvane::test {
 
 /// What is read in a window and what a screen reader says of it, a line for each control that says
-/// anything: its kind, its name (for a text the text itself), what is written in it, and in
-/// brackets what it is described by, which is its tool tip where nothing else is given.
+/// anything: its kind, its name (for a text the text itself), what is written in it, in brackets
+/// what it is described by, and in braces its tool tip where that is another text.
 ///
 /// Taken from the tree that screen readers walk, so nothing that is hidden counts.
 inline void addSpokenTexts(QAccessibleInterface *control, QStringList &lines)
@@ -25,6 +25,8 @@ inline void addSpokenTexts(QAccessibleInterface *control, QStringList &lines)
     const QString description = control->text(QAccessible::Description);
     const bool isWritten = role == QAccessible::EditableText;
     const QString written = isWritten ? control->text(QAccessible::Value) : QString();
+    const auto *widget = qobject_cast<QWidget *>(control->object());
+    const QString toolTip = widget ? widget->toolTip() : QString();
     if (!name.isEmpty() || !description.isEmpty() || !written.isEmpty()) {
         const auto roles = QMetaEnum::fromType<QAccessible::Role>();
         QString line = QString::fromLatin1(roles.valueToKey(role)) + QLatin1String(": ") + name;
@@ -32,6 +34,8 @@ inline void addSpokenTexts(QAccessibleInterface *control, QStringList &lines)
             line += QLatin1String(" = ") + written;
         if (!description.isEmpty())
             line += QLatin1String(" [") + description + QLatin1Char(']');
+        if (!toolTip.isEmpty() && toolTip != description)
+            line += QLatin1String(" {") + toolTip + QLatin1Char('}');
         lines << line.replace(QLatin1Char('\n'), QLatin1String("\\n"));
     }
     for (int i = 0; i < control->childCount(); ++i)

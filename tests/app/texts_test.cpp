@@ -237,6 +237,12 @@ TEST(Texts, OfTheShelfsMessages)
         model.store.accept({item});
         flashed(kind, [&] { view.onCopy(); });
     }
+    model.desk.keyboard.modifiers = Modifier::Option;
+    flashed("copied picture with Option held", [&] {
+        view.onCopy();
+        model.work.runAll();
+    });
+    model.desk.keyboard.modifiers = {};
     model.store.clearAll();
     model.store.accept({text});
     flashed("kept", [&] { view.onEjected(text.id(), true); });

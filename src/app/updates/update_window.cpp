@@ -117,7 +117,11 @@ void UpdateWindow::setReport(const UpdateReport &report, const UpdateTexts &text
     ActionButton *const usual = hasAction ? m_action : m_dismissal;
     m_action->setDefault(hasAction);
     m_dismissal->setDefault(!hasAction);
-    usual->setAccessibleDescription(texts.title + QLatin1Char(' ') + texts.detail);
+    // The report before may have described the other one.
+    for (ActionButton *button : {m_action, m_dismissal})
+        button->setAccessibleDescription({});
+    usual->setAccessibleDescription(
+        QString(texts.title + QLatin1Char(' ') + texts.detail).trimmed());
     QSize size = m_look.length(hasNotes ? sizeWithNotes : smallSize);
     size.setHeight(std::max(size.height(), layout()->minimumHeightForWidth(size.width())));
     setContentSize(size);
