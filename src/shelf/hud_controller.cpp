@@ -285,8 +285,9 @@ void HUDController::letClicksThrough(double seconds)
 
 void HUDController::takeClicks()
 {
-    m_letsClicksThrough = false;
-    if (m_store.state() != ShelfState::Idle)
+    // A shelf that is hidden, or was meanwhile, goes on letting them through.
+    const bool wasShown = std::exchange(m_letsClicksThrough, false) && m_panel.isVisible();
+    if (wasShown && m_store.state() != ShelfState::Idle)
         m_panel.setIgnoresMouseEvents(false);
 }
 
