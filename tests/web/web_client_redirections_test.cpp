@@ -105,6 +105,7 @@ TEST_F(WebClientRedirections, bytesThatAreNoTextLeadNowhereFarther)
     HttpServer server;
     server.answer("/", redirection("/\xff\xfe\xc3"));
     fetch(server.url());
+    ASSERT_FALSE(server.requests.isEmpty());
     for (const QByteArray &head : server.requests)
         EXPECT_TRUE(std::ranges::all_of(head, [](char c) { return c > 0; }));
 }
