@@ -1,1 +1,0 @@
-// Owns the headers that the tests share.
