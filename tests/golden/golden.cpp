@@ -38,14 +38,6 @@ QString contentsOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
-QString leaveForALook(const QString &name, const QImage &image)
-{
-    const QDir folder(QCoreApplication::applicationDirPath() + u"/../golden-differences");
-    folder.mkpath(QStringLiteral("."));
-    const QString path = QDir::cleanPath(folder.absoluteFilePath(name));
-    return image.save(path) ? path : QStringLiteral("nothing, for it cannot be written");
-}
-
 bool madeWithTheseLibraries(const QDir &folder)
 {
     static const QString here = drawingLibraries();
@@ -81,6 +73,14 @@ testing::AssertionResult write(const QDir &folder, const QString &name, const QI
 }
 
 } // namespace
+
+QString leaveForALook(const QString &name, const QImage &image)
+{
+    const QDir folder(QCoreApplication::applicationDirPath() + u"/../golden-differences");
+    folder.mkpath(QStringLiteral("."));
+    const QString path = QDir::cleanPath(folder.absoluteFilePath(name));
+    return image.save(path) ? path : QStringLiteral("nothing, for it cannot be written");
+}
 
 testing::AssertionResult matchesGoldenText(const QString &name, const QString &text)
 {

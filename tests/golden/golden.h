@@ -19,4 +19,7 @@ testing::AssertionResult matchesGoldenText(const QString &name, const QString &t
 /// a file: made there by CORVANE_REBASELINE, those alone that differ by more than the bounds.
 testing::AssertionResult matchesGoldenImage(const QString &name, const Picture &picture);
 
+/// Where the picture was left, to be said in a failure.
+QString leaveForALook(const QString &name, const QImage &image);
+
 } // namespace corvane::test
