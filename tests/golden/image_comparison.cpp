@@ -22,8 +22,8 @@ constexpr int roundingAtPixel = 2;
 constexpr double roundingOfTile = 0.35;
 /// Letters may stand a fraction of a pixel elsewhere, which is seen at their edges. A share of the
 /// ink of a tile may so be elsewhere in it, and less of it in another tile.
-constexpr double edgeShare = 0.42;
-constexpr double driftShare = 0.12;
+constexpr double edgeShare = 0.36;
+constexpr double driftShare = 0.1;
 /// But a text keeps its ink: that tells a fainter one.
 constexpr double inkShare = 0.05;
 constexpr double roundingOfLetters = 0.25;
