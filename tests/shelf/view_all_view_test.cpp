@@ -4,9 +4,14 @@
 
 #include <QDir>
 #include <QFile>
+#include <QImage>
+#include <QPainter>
 #include <QStringList>
 
 #include <gtest/gtest.h>
+
+#include <functional>
+#include <vector>
 
 namespace corvane::test {
 
@@ -60,6 +65,12 @@ protected:
         view->apply(items, selection, view->offset());
     }
 
+    void paint()
+    {
+        QImage picture(desk.panel.frame().size().toSize(), QImage::Format_ARGB32_Premultiplied);
+        QPainter painter(&picture);
+        view->paint(painter, desk.panel.frame().size(), 1);
+    }
     QPointF middleOf(std::size_t tile) const { return view->layout().tiles.at(tile).root.center(); }
     QPointF middleOf(ViewAllControl control) const
     {
@@ -148,9 +159,20 @@ TEST_F(ViewAllViewTest, followsThePanelsWidth)
 TEST_F(ViewAllViewTest, nothingInItMovesByItself)
 {
     show(20);
-    view->apply(items, selection, 3);
-    view->mouseMoved({middleOf(1)});
-    EXPECT_EQ(desk.clock.pendingCount(), 0U);
+    // What was never painted has nothing to move from.
+    paint();
+    for (const auto &change : std::vector<std::function<void()>>{
+             [&] { view->apply(items, selection, 3); }, [&] { view->mouseMoved({middleOf(1)}); },
+             [&] { view->mouseMoved({middleOf(ViewAllControl::SelectAll)}); },
+             [&] {
+                 select({3, 4});
+             }}) {
+        const int requests = desk.panel.displayRequests;
+        change();
+        EXPECT_GT(desk.panel.displayRequests, requests) << "it is seen at once";
+        EXPECT_EQ(desk.clock.pendingCount(), 0U);
+        paint();
+    }
 }
 
 TEST_F(ViewAllViewTest, givesTheSelectionInTheOrderOfTheItems)
@@ -234,10 +256,15 @@ TEST_F(ViewAllViewTest, theRingFollowsThePageUnderAPointerAtRest)
 TEST_F(ViewAllViewTest, aPointerThatRestsCausesNoRepaint)
 {
     show(5);
-    view->mouseMoved({middleOf(0)});
-    const int requests = desk.panel.displayRequests;
-    view->mouseMoved({middleOf(0) + QPointF(1, 1)});
-    EXPECT_EQ(desk.panel.displayRequests, requests);
+    for (const QPointF place : {middleOf(0), middleOf(ViewAllControl::SelectAll)}) {
+        int requests = desk.panel.displayRequests;
+        view->mouseMoved({place});
+        EXPECT_GT(desk.panel.displayRequests, requests) << "it has come there";
+        paint();
+        requests = desk.panel.displayRequests;
+        view->mouseMoved({place + QPointF(1, 1)});
+        EXPECT_EQ(desk.panel.displayRequests, requests);
+    }
 }
 
 // Pressing
