@@ -31,6 +31,16 @@ bool isSeen(const QWidget &widget)
                        [](const QWidget *child) { return isSeen(*child); });
 }
 
+/// Whether no part of it reaches out of what it stands in.
+bool isWhole(const QWidget &widget)
+{
+    for (const QWidget *around = widget.parentWidget(); around; around = around->parentWidget()) {
+        if (!around->rect().contains(QRect(widget.mapTo(around, QPoint()), widget.size())))
+            return false;
+    }
+    return true;
+}
+
 /// Whole tiles around a widget, in points of its window.
 QRect tilesAround(const QWidget &widget, const QWidget &window)
 {
@@ -72,12 +82,11 @@ void addDamages(QWidget *widget, std::vector<Damage> &damages)
     damages.push_back({nameOf(*widget) % u" erased", [widget] { erase(widget); },
                        [widget] { widget->setGraphicsEffect(nullptr); }});
     damages.back().isErasure = true;
-    // What reaches out of sight may show nothing but its ground.
-    const bool isWhole = widget->visibleRegion().boundingRect() == widget->rect();
     const QPoint there = widget->pos();
     for (const auto &[step, way] :
          {std::pair(QPoint(1, 0), u" to the right"), {QPoint(0, 1), u" down"}}) {
-        if (!isWhole)
+        // What reaches out of sight may show nothing but its ground.
+        if (!isWhole(*widget))
             break;
         damages.push_back({nameOf(*widget) % way, [=] { widget->move(there + step); },
                            [=] { widget->move(there); }});
