@@ -152,6 +152,26 @@ void DesktopTest::dropOnShelf()
     hands().release();
 }
 
+void DesktopTest::dropOutOn(QPoint from, QPoint place)
+{
+    hands().glideTo(from);
+    const QByteArray usual = server().pointerPicture();
+    hands().beginDrag(from, place);
+    // Nothing takes it where it comes from, and the pointer shows that.
+    ASSERT_TRUE(eventually([&] { return server().pointerPicture() != usual; }))
+        << "the drag does not begin";
+    const QByteArray unwelcome = server().pointerPicture();
+    hands().glideTo(place);
+    hands().aim(place);
+    // A target that is asked too early may say no, and is asked again by the next move.
+    int step = 1;
+    ASSERT_TRUE(eventually([&] {
+        hands().moveBy(QPoint(step = -step, 0));
+        return server().pointerPicture() != unwelcome;
+    })) << "the target does not say that it would take it";
+    hands().release();
+}
+
 QByteArray DesktopTest::uriList(const QStringList &paths)
 {
     QByteArray list;

@@ -63,6 +63,9 @@ protected:
     /// With a drag in the hand: moves over the shelf, waits until it shows that it would take the
     /// drop, and releases.
     void dropOnShelf();
+    /// Drags what the shelf or its bar shows at `from`, and lets go of it at `place` once the
+    /// target there would take it.
+    void dropOutOn(QPoint from, QPoint place);
     /// Drops files by a source of our own, which needs no window to be waited for.
     testing::AssertionResult dropFiles(const QStringList &paths);
     testing::AssertionResult dropOffers(const QList<XdndSource::Offer> &offers);

@@ -74,8 +74,7 @@ TEST_P(MainJob, aFileIsKeptAndGoesOnIntoAnotherFolderByteForByte)
     dragFromFileManager(source);
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 
-    dragOutTo(target.emptyPlace());
-    hands().release();
+    dropOutOn(onlyItem(), target.emptyPlace());
     ASSERT_TRUE(target.chooseCopy());
     EXPECT_TRUE(eventually([&] { return bytesOf(to + u"/report.txt"_s) == contents; }));
     EXPECT_TRUE(corvane().waitUntilHidden()) << "what has been dragged out leaves the shelf";
@@ -153,8 +152,7 @@ TEST_P(MainJob, textComesFromOneEditorAndGoesIntoAnother)
     dropOnShelf();
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 
-    dragOutTo(target.middle());
-    hands().release();
+    dropOutOn(onlyItem(), target.middle());
     EXPECT_TRUE(corvane().waitUntilHidden());
     EXPECT_EQ(target.text("keep this"), "keep this");
 }

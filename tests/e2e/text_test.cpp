@@ -27,10 +27,7 @@ protected:
     }
     void dragOutTo(QPoint place)
     {
-        hands().beginDrag(onlyItem(), place);
-        hands().glideTo(place);
-        hands().aim(place);
-        hands().release();
+        dropOutOn(onlyItem(), place);
         EXPECT_TRUE(corvane().waitUntilHidden());
     }
     QPoint onlyItem() { return corvane().at(38, 22); }

@@ -135,8 +135,7 @@ TEST_P(ViewAll, whatIsTickedGoesIntoAnotherFolderInOneDrag)
 
     ASSERT_TRUE(openFromButton(10));
     tickOnly({1, 4, 8}, 10);
-    dragTo(tile(4, 10), target.emptyPlace());
-    hands().release();
+    dropOutOn(tile(4, 10), target.emptyPlace());
     ASSERT_TRUE(target.chooseCopy());
     const QStringList expected{u"b.txt"_s, u"e.txt"_s, u"i.txt"_s};
     EXPECT_TRUE(eventually([&] { return QDir(to).entryList(QDir::Files) == expected; }));

@@ -3,6 +3,7 @@
 #include <QtEndian>
 
 #include <xcb/shape.h>
+#include <xcb/xfixes.h>
 
 #include <cstdlib>
 #include <cstring>
@@ -30,6 +31,9 @@ XServer::XServer(const QByteArray &display)
 {
     if (isConnected())
         m_root = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+    // Whoever does not say which version it speaks is refused everything.
+    const auto fixes = owned(xcb_xfixes_query_version_reply(
+        connection(), xcb_xfixes_query_version(connection(), 4, 0), nullptr));
 }
 
 bool XServer::isConnected() const
@@ -158,6 +162,18 @@ QList<QRect> XServer::inputShape(xcb_window_t window) const
 QList<QRect> XServer::boundingShape(xcb_window_t window) const
 {
     return shape(window, XCB_SHAPE_SK_BOUNDING);
+}
+
+QByteArray XServer::pointerPicture() const
+{
+    const auto reply = owned(xcb_xfixes_get_cursor_image_reply(
+        connection(), xcb_xfixes_get_cursor_image(connection()), nullptr));
+    if (!reply)
+        return {};
+    const qsizetype pixels = xcb_xfixes_get_cursor_image_cursor_image_length(reply.get());
+    return QByteArray(
+        reinterpret_cast<const char *>(xcb_xfixes_get_cursor_image_cursor_image(reply.get())),
+        pixels * qsizetype(sizeof(std::uint32_t)));
 }
 
 QImage XServer::picture(const QRect &area) const

@@ -59,6 +59,9 @@ public:
     QImage picture(const QRect &area) const;
     QImage picture() const { return picture(QRect({0, 0}, size())); }
     QPoint pointerPosition() const;
+    /// The pointer's picture as bytes, to be compared. While something is dragged it says whether
+    /// what is below would take it.
+    QByteArray pointerPicture() const;
 
     /// Asks the window manager to place a managed window's inside at `frame`, frame and all as near
     /// as it does; the window tells afterwards where it really is.
