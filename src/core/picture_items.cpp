@@ -121,7 +121,7 @@ PictureItems::convertFetched(const DropItem &item, const QByteArray &data,
                              const std::function<void()> &whenDone) const
 {
     const auto *file = std::get_if<DropItem::File>(&item.payload());
-    const Place place
+    Place place
         = file ? m_spool.keepPlace(file_url::stem(file->url), extensionOf(UTType::png())) : nullptr;
     if (!place)
         return nullptr;

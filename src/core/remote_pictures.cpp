@@ -58,7 +58,7 @@ void RemotePictures::fetchNext()
                  });
 }
 
-void RemotePictures::itemLeft(const QUuid &id)
+void RemotePictures::itemLeft(const QUuid &id) const
 {
     if (const auto place = m_current.place.lock(); place && m_current.id == id)
         place->giveUp();

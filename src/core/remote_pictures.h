@@ -34,7 +34,7 @@ public:
     /// Nothing is read inside this call, nor waited for.
     void convert(const DropItem &item);
     /// An item has left the shelf: nobody needs to go on converting it.
-    void itemLeft(const QUuid &id);
+    void itemLeft(const QUuid &id) const;
 
 private:
     bool wants(const QUuid &item) const { return !isWanted || isWanted(item); }

@@ -133,7 +133,7 @@ private:
         bool keep = false;
     };
     DragOutEvents dragOutEvents(DraggedOut dragged);
-    void dragEnded(const DraggedOut &dragged, const DragOutEnd &end);
+    void dragEnded(const DraggedOut &dragged, const DragOutEnd &end) const;
 
     Context m_context;
     LayerTree m_tree;

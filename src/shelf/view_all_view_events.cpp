@@ -185,7 +185,7 @@ DragOutEvents ViewAllView::dragOutEvents(DraggedOut dragged)
     return {released, ended};
 }
 
-void ViewAllView::dragEnded(const DraggedOut &dragged, const DragOutEnd &end)
+void ViewAllView::dragEnded(const DraggedOut &dragged, const DragOutEnd &end) const
 {
     QList<QUuid> leaving;
     QList<QUuid> kept;

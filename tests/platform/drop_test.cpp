@@ -1,4 +1,5 @@
 #include "platform/panel_fixture.h"
+#include "platform/x11/x11_incoming_drag.h"
 #include "platform/x11_client.h"
 
 #include <QFile>
@@ -316,6 +317,18 @@ TEST_F(DirectSaveTest, bringsTheOriginalFile)
     EXPECT_EQ(content.promisedName, QStringLiteral("a picture.png"));
     EXPECT_TRUE(received);
     EXPECT_EQ(bytes(), "promised");
+}
+
+TEST(IncomingTypes, haveContentsWhereAFailedDownloadWouldLoseAnAddressATextOrAPicture)
+{
+    const QStringList alone{QStringLiteral("XdndDirectSave0"),
+                            QStringLiteral("application/octet-stream"),
+                            QStringLiteral("TIMESTAMP")};
+    EXPECT_FALSE(X11IncomingDrag::haveContents(alone));
+    for (const char *type : {"text/uri-list", "text/x-moz-url", "TEXT/PLAIN", "_NETSCAPE_URL",
+                             "UTF8_STRING", "STRING", "image/png"})
+        EXPECT_TRUE(X11IncomingDrag::haveContents(alone + QStringList(QLatin1String(type))))
+            << type;
 }
 
 TEST_F(DirectSaveTest, waitsForASourceThatCreatesTheFileFirst)

@@ -45,7 +45,12 @@ public:
         m_connection.serverTime();
         return isAnswered;
     }
-    QByteArray given(const char *property = "GIVEN") { return m_server.property(window, property); }
+    QByteArray given(const char *property = "GIVEN")
+    {
+        // It is written on another connection than the one that it is read on.
+        m_connection.serverTime();
+        return m_server.property(window, property);
+    }
     enum class Answer { None, Given, Refused };
     /// What it was told last: a refusal leaves the same property as no answer at all.
     Answer answer()
@@ -549,6 +554,38 @@ TEST_F(X11DragSupportTest, twoDropsOnOneWindowStayWhereTheTargetSpeaksOfOneOnly)
     target.finish();
     ASSERT_EQ(ends.size(), 3U);
     EXPECT_EQ(taken(), Places{2});
+}
+TEST_F(X11DragSupportTest, twoDropsOnOneWindowWaitForTheOneThatIsStillBeingMade)
+{
+    dropOn(target);
+    target.take("image/png");
+    const auto slow = support.dragWillBegin({{QStringLiteral("image/png"), {}, {0}}}, false);
+    target.accept();
+    drop(slow);
+    target.ask("image/png");
+    target.finish();
+    clock.advance(X11DragSupport::defaultPatience * 2);
+    EXPECT_TRUE(ends.empty()) << "the target is at work";
+    support.formsAreReady(slow, PasteboardForms{{QStringLiteral("image/png"), "made", {0}}});
+    target.finish();
+    ASSERT_EQ(ends.size(), 2U);
+    EXPECT_EQ(ends[0].taken, Places{2});
+    EXPECT_EQ(ends[1].taken, Places{0});
+}
+TEST_F(X11DragSupportTest, twoDropsOnOneWindowOfWhichOneIsALinkMayBothBe)
+{
+    for (const bool linksFirst : {true, false}) {
+        ends.clear();
+        dropOn(target);
+        target.take("image/png");
+        dropOn(target);
+        target.take("text/uri-list");
+        target.finish(1, linksFirst ? "XdndActionLink" : "XdndActionCopy");
+        target.finish(1, linksFirst ? "XdndActionCopy" : "XdndActionLink");
+        ASSERT_EQ(ends.size(), 2U);
+        for (const DragOutEnd &end : ends)
+            EXPECT_EQ(end.operation, DragOperation::Link);
+    }
 }
 TEST_F(X11DragSupportTest, whatAWindowSaidOfEarlierDropsIsNotAboutTheNext)
 {

@@ -4,6 +4,7 @@
 
 #include <condition_variable>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -33,13 +34,18 @@ QList<QByteArray> BoundedListing::names(const QByteArray &folder,
         m_shared->wasAwaitedInVain = false;
         if (std::exchange(m_shared->folder, folder) != folder)
             m_shared->names.clear();
-        std::thread([shared = m_shared, list = m_list, folder] {
-            QList<QByteArray> names = list(folder);
-            const std::lock_guard answered(shared->mutex);
-            shared->names = std::move(names);
-            shared->isAtWork = false;
-            shared->hasAnswered.notify_all();
-        }).detach();
+        try {
+            std::thread([shared = m_shared, list = m_list, folder] {
+                QList<QByteArray> names = list(folder);
+                const std::lock_guard answered(shared->mutex);
+                shared->names = std::move(names);
+                shared->isAtWork = false;
+                shared->hasAnswered.notify_all();
+            }).detach();
+        } catch (const std::system_error &) {
+            // There are as many threads as the user may have.
+            m_shared->isAtWork = false;
+        }
     }
     if (!m_shared->wasAwaitedInVain)
         m_shared->wasAwaitedInVain = !m_shared->hasAnswered.wait_for(

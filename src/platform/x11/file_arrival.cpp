@@ -59,7 +59,7 @@ void FileArrival::wait(std::function<void(bool)> done)
 
 void FileArrival::readEvents()
 {
-    alignas(inotify_event) std::array<char, 4096> buffer;
+    alignas(inotify_event) std::array<char, 4096> buffer{};
     const auto size = ::read(m_descriptor, buffer.data(), buffer.size());
     for (ssize_t offset = 0; offset < size;) {
         const auto *event = reinterpret_cast<const inotify_event *>(buffer.data() + offset);

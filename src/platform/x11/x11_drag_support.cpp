@@ -213,11 +213,15 @@ void X11DragSupport::finishedOneOf(const std::vector<DragId> &drops,
     const auto said = std::move(m_words.extract(by).mapped());
     const bool wentWell = std::ranges::all_of(
         said, [&](const auto &word) { return find(drops.front())->isSuccess(word); });
+    // Nor does a word say which of them is merely linked to: any may be.
+    const xcb_atom_t linked = m_connection.atom("XdndActionLink");
+    const auto link = std::ranges::find_if(
+        said, [linked](const auto &word) { return word.data.data32[2] == linked; });
     const std::weak_ptr<bool> alive(m_alive);
     for (std::size_t i = 0; i < drops.size() && !alive.expired(); ++i) {
         auto *const drag = find(drops[i]);
         if (drag && wentWell)
-            drag->targetFinished(said[i]);
+            drag->targetFinished(link == said.end() ? said[i] : *link);
         else if (drag)
             drag->giveUp();
     }
@@ -285,8 +289,17 @@ void X11DragSupport::giveUp(X11Drag &drag)
         drag.giveUp();
         return;
     }
-    // What the target has said may have been about any of them.
     const std::vector<DragId> drops = dropsAwaiting(target);
+    const bool isAtWork = std::ranges::any_of(drops, [this](DragId drop) {
+        const DragAnswers &answers = find(drop)->answers();
+        return answers.isBusy() || !answers.isReady();
+    });
+    // It has spoken of one, and still takes another.
+    if (isAtWork && m_words.contains(target)) {
+        drag.noteSign();
+        return;
+    }
+    // What the target has said may have been about any of them.
     const auto said = m_words.extract(target);
     const std::size_t known = said ? said.mapped().size() : 0;
     const std::size_t missing = known > 0 ? drops.size() - known : 1;

@@ -50,6 +50,7 @@ X11IncomingDrag::X11IncomingDrag(X11Connection &connection, MainQueue &queue,
         atoms = atomsIn(propertyOf(connection, m_source, "XdndTypeList", maximumTypes * 4));
     // All are asked for before the first answer is waited for.
     std::vector<xcb_get_atom_name_cookie_t> names;
+    names.reserve(atoms.size());
     for (const xcb_atom_t atom : atoms)
         names.push_back(xcb_get_atom_name(connection.get(), atom));
     for (std::size_t i = 0; i < atoms.size(); ++i) {
@@ -160,10 +161,13 @@ void X11IncomingDrag::receivePromisedFile(const QUrl &destination, std::function
           });
 }
 
-bool X11IncomingDrag::offersPicture() const
+bool X11IncomingDrag::haveContents(const QStringList &types)
 {
-    return std::ranges::any_of(m_types, [](const QString &type) {
-        return type.startsWith(QLatin1String("image/"), Qt::CaseInsensitive);
+    return std::ranges::any_of(types, [](const QString &type) {
+        return type.startsWith(QLatin1String("image/"), Qt::CaseInsensitive)
+            || type.startsWith(QLatin1String("text/"), Qt::CaseInsensitive)
+            || type == QLatin1String("_NETSCAPE_URL") || type == QLatin1String("UTF8_STRING")
+            || type == QLatin1String("STRING");
     });
 }
 
@@ -173,8 +177,9 @@ void X11IncomingDrag::waitForFile(std::function<void(bool)> done)
         // Kept until `done` is through: it may end this.
         const auto self = shared_from_this();
         const auto arrival = std::move(m_arrival);
-        // Where there is no picture to be had instead, an empty file is what the source has.
-        const bool isKept = hasArrived || (arrival->isEmptyFile() && !offersPicture());
+        // Where nothing else is to be had, an empty file is what the source has. Beside an address
+        // it is a download that failed.
+        const bool isKept = hasArrived || (arrival->isEmptyFile() && !haveContents(m_types));
         if (!isKept)
             arrival->discard();
         done(isKept);

@@ -36,6 +36,10 @@ public:
     void receivePromisedFile(const QUrl &destination, std::function<void(bool)> done) override;
     void finish(bool isTaken) override;
 
+    /// Whether something of `types` can be kept in place of a promised file: a picture, an address
+    /// or a text.
+    static bool haveContents(const QStringList &types);
+
     xcb_window_t source() const { return m_source; }
     xcb_window_t target() const { return m_target; }
     /// The source answers only who names the time that it told.
@@ -47,7 +51,6 @@ public:
 
 private:
     void waitForFile(std::function<void(bool)> done);
-    bool offersPicture() const;
     void readLater(Outcome outcome, const QByteArray &bytes, Fetched done);
     xcb_window_t proxy() const;
 
