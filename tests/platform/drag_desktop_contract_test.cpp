@@ -406,6 +406,28 @@ TEST(X11DragDesktop, aSecondPressRightAfterAReleaseIsToldToo)
     EXPECT_TRUE(eventually([&] { return presses == 2; }));
 }
 
+TEST(X11DragDesktop, motionOfAPressThatWasOverBeforeItWasLookedAtIsNone)
+{
+    RealHands hands;
+    int heard = 0;
+    int presses = 0;
+    ASSERT_TRUE(hands.desktop.addGlobalMonitor([&] { ++heard; }));
+    ASSERT_TRUE(hands.desktop.addLeftMouseDownMonitor([&] { ++presses; }));
+    settle();
+    hands.press();
+    hands.waitABit();
+    ASSERT_EQ(presses, 1);
+    // All of it is there before any is looked at: the server still tells motion then.
+    hands.release();
+    hands.press();
+    hands.move();
+    hands.release();
+    hands.pressRight();
+    settle();
+    EXPECT_EQ(presses, 1);
+    EXPECT_EQ(heard, 0);
+}
+
 TEST(X11DragDesktop, leftPressesInOurOwnWindowsAreToldToo)
 {
     RealHands hands;

@@ -118,7 +118,8 @@ void X11DragDesktop::handle(const xcb_generic_event_t &event)
         const auto &raw = reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event);
         if (raw.extension != m_connection.xinputOpcode())
             return;
-        if (raw.event_type == XCB_INPUT_RAW_MOTION)
+        // What was under way when the button's release was handled may still tell of motion.
+        if (raw.event_type == XCB_INPUT_RAW_MOTION && m_isLeftDown)
             notify(m_monitors);
         else if (raw.event_type == XCB_INPUT_RAW_BUTTON_PRESS)
             handleRawButton(raw.detail, true);
