@@ -2,8 +2,8 @@
 // its event loop while their thumbnails arrive.
 
 #include "app/composition_root.h"
-#include "platform/file_url.h"
-#include "platform/qt/qt_pasteboard.h"
+#include "platform/qt/pasteboard/qt_pasteboard.h"
+#include "platform/system/file_url.h"
 #include "support/heartbeat.h"
 #include "support/table.h"
 

@@ -12,10 +12,10 @@
 #include "fakes/fake_remote_files.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
-#include "platform/file_url.h"
 #include "platform/freedesktop/mount_table.h"
-#include "platform/qt/mime_encoding.h"
-#include "platform/qt/qt_general_pasteboard.h"
+#include "platform/qt/pasteboard/mime_encoding.h"
+#include "platform/qt/pasteboard/qt_general_pasteboard.h"
+#include "platform/system/file_url.h"
 #include "support/table.h"
 
 #include <QFile>

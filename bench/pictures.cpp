@@ -2,7 +2,7 @@
 // event loop while ten are converted.
 
 #include "app/composition_root.h"
-#include "platform/qt/qt_pasteboard.h"
+#include "platform/qt/pasteboard/qt_pasteboard.h"
 #include "support/heartbeat.h"
 #include "support/table.h"
 

@@ -15,7 +15,7 @@
 #include "fakes/recording_item_loading.h"
 #include "fakes/shelf_desk.h"
 #include "input/screen_locator.h"
-#include "platform/qt/qt_text_measurer.h"
+#include "platform/qt/pictures/qt_text_measurer.h"
 #include "shelf/hud_controller.h"
 #include "support/table.h"
 

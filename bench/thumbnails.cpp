@@ -3,7 +3,7 @@
 
 #include "app/composition_root.h"
 #include "fakes/film.h"
-#include "platform/file_url.h"
+#include "platform/system/file_url.h"
 #include "support/table.h"
 
 #include <QApplication>

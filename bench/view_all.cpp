@@ -3,7 +3,7 @@
 
 #include "fakes/fake_drag_desktop.h"
 #include "fakes/shelf_model.h"
-#include "shelf/view_all_controller.h"
+#include "shelf/bar/view_all_controller.h"
 #include "support/table.h"
 
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 #include "app/app_delegate.h"
 
 #include "app/shell_windows.h"
-#include "app/updater.h"
+#include "app/updates/updater.h"
 #include "core/scratch_spool.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/preferences/preferences_tab.h"
-#include "app/status_item_controller.h"
-#include "platform/preview_panel.h"
+#include "app/status/status_item_controller.h"
+#include "platform/preview/preview_panel.h"
 #include "shelf/edge_summoner.h"
 #include "shelf/hud_controller.h"
 

@@ -1,12 +1,12 @@
 #include "app/application.h"
 
-#include "app/app_info.h"
+#include "app/base/app_info.h"
 #include "app/composition_root.h"
 #include "app/unanswered_start.h"
-#include "platform/end_deadline.h"
+#include "platform/base/end_deadline.h"
 #include "platform/freedesktop/dbus_single_instance.h"
 #include "platform/freedesktop/session_bus.h"
-#include "platform/qt/unix_signals.h"
+#include "platform/qt/base/unix_signals.h"
 #include "services/preview_scratch.h"
 
 #include <QApplication>

@@ -1,9 +1,9 @@
 #include "app/composition_root.h"
 
-#include "app/app_info.h"
+#include "app/base/app_info.h"
 #include "app/updates/software_updater.h"
-#include "platform/file_url.h"
-#include "shelf/phosphor_icon_drawing.h"
+#include "platform/system/file_url.h"
+#include "shelf/drawing/phosphor_icon_drawing.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

@@ -3,8 +3,8 @@
 #include "app/preferences/preferences_window_controller.h"
 #include "app/welcome/welcome_window_controller.h"
 #include "core/settings.h"
-#include "platform/main_queue.h"
-#include "platform/window_activation.h"
+#include "platform/base/main_queue.h"
+#include "platform/desktop/window_activation.h"
 
 #include <QWindow>
 

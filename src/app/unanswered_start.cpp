@@ -1,7 +1,7 @@
 #include "app/unanswered_start.h"
 
 #include "platform/freedesktop/desktop_notification.h"
-#include "platform/qt/program_icon.h"
+#include "platform/qt/pictures/program_icon.h"
 
 #include <QCoreApplication>
 #include <QMessageBox>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
-#include "platform/panel_window.h"
+#include "platform/desktop/panel_window.h"
 
 namespace corvane {
 

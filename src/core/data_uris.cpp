@@ -1,11 +1,11 @@
 #include "core/data_uris.h"
 
-#include "platform/file_locality.h"
-#include "platform/file_url.h"
-#include "platform/main_queue.h"
-#include "platform/regular_file.h"
-#include "platform/remote_files.h"
-#include "platform/work_queue.h"
+#include "platform/base/main_queue.h"
+#include "platform/base/work_queue.h"
+#include "platform/system/file_locality.h"
+#include "platform/system/file_url.h"
+#include "platform/system/regular_file.h"
+#include "platform/system/remote_files.h"
 
 #include <utility>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/drop_item.h"
-#include "platform/panel_window.h"
-#include "platform/pasteboard_writer.h"
+#include "platform/desktop/panel_window.h"
+#include "platform/pasteboard/pasteboard_writer.h"
 
 #include <QList>
 

@@ -1,8 +1,8 @@
 #include "core/drag_writer.h"
 
-#include "platform/file_locality.h"
-#include "platform/file_url.h"
-#include "platform/geometry.h"
+#include "platform/base/geometry.h"
+#include "platform/system/file_locality.h"
+#include "platform/system/file_url.h"
 
 #include <QPainter>
 #include <QPainterPath>

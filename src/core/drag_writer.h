@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
-#include "platform/pasteboard_writer.h"
+#include "platform/pasteboard/pasteboard_writer.h"
 
 #include <QColor>
 #include <QList>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/phosphor_icon.h"
-#include "platform/image.h"
-#include "platform/ut_type.h"
+#include "platform/pictures/image.h"
+#include "platform/system/ut_type.h"
 
 #include <QByteArray>
 #include <QSharedDataPointer>

@@ -1,7 +1,7 @@
 #include "core/image_converter.h"
 
 #include "core/spool_place.h"
-#include "platform/image_codec.h"
+#include "platform/pictures/image_codec.h"
 
 namespace corvane {
 

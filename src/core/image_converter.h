@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ut_type.h"
+#include "platform/system/ut_type.h"
 
 #include <QByteArray>
 #include <QUrl>

@@ -1,7 +1,7 @@
 #include "core/item_description.h"
 
 #include "core/byte_count.h"
-#include "platform/file_url.h"
+#include "platform/system/file_url.h"
 
 #include <sys/stat.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/file_version.h"
+#include "platform/system/file_version.h"
 
 #include <QByteArray>
 #include <QString>

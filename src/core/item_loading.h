@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/image.h"
+#include "platform/pictures/image.h"
 
 #include <QByteArray>
 #include <QString>

@@ -2,8 +2,8 @@
 
 #include "core/scratch_spool.h"
 #include "core/spool_place.h"
-#include "platform/main_queue.h"
-#include "platform/work_queue.h"
+#include "platform/base/main_queue.h"
+#include "platform/base/work_queue.h"
 
 #include <algorithm>
 #include <functional>

@@ -7,9 +7,9 @@
 #include "core/scratch_spool.h"
 #include "core/spool_place.h"
 #include "core/text_descriptions.h"
-#include "platform/file_url.h"
-#include "platform/pasteboard.h"
-#include "platform/shown_address.h"
+#include "platform/pasteboard/pasteboard.h"
+#include "platform/system/file_url.h"
+#include "platform/web/shown_address.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
-#include "platform/file_locality.h"
+#include "platform/system/file_locality.h"
 
 #include <QByteArray>
 #include <QList>

@@ -6,8 +6,8 @@
 #include "core/item_preparation.h"
 #include "core/scratch_spool.h"
 #include "core/spool_place.h"
-#include "platform/file_url.h"
-#include "platform/image_codec.h"
+#include "platform/pictures/image_codec.h"
+#include "platform/system/file_url.h"
 
 #include <functional>
 #include <memory>

@@ -5,8 +5,8 @@
 #include "core/feedback.h"
 #include "core/item_preparation.h"
 #include "core/saved_pictures.h"
-#include "platform/file_url.h"
-#include "platform/pasteboard_writer.h"
+#include "platform/pasteboard/pasteboard_writer.h"
+#include "platform/system/file_url.h"
 
 #include <QStringList>
 

@@ -1,8 +1,8 @@
 #include "core/remote_descriptions.h"
 
 #include "core/item_description.h"
-#include "platform/file_url.h"
-#include "platform/remote_files.h"
+#include "platform/system/file_url.h"
+#include "platform/system/remote_files.h"
 
 namespace corvane {
 

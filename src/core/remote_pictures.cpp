@@ -2,8 +2,8 @@
 
 #include "core/picture_items.h"
 #include "core/spool_place.h"
-#include "platform/file_url.h"
-#include "platform/remote_files.h"
+#include "platform/system/file_url.h"
+#include "platform/system/remote_files.h"
 
 #include <utility>
 

@@ -3,7 +3,7 @@
 #include "core/item_preparation.h"
 #include "core/scratch_spool.h"
 #include "core/spool_place.h"
-#include "platform/file_url.h"
+#include "platform/system/file_url.h"
 
 #include <sys/stat.h>
 

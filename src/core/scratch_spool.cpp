@@ -3,9 +3,9 @@
 #include "core/characters.h"
 #include "core/spool_directory.h"
 #include "core/spool_place.h"
-#include "platform/checked_math.h"
-#include "platform/file_url.h"
-#include "platform/private_file.h"
+#include "platform/base/checked_math.h"
+#include "platform/system/file_url.h"
+#include "platform/system/private_file.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

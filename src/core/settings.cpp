@@ -1,7 +1,7 @@
 #include "core/settings.h"
 
-#include "platform/login_items.h"
-#include "platform/user_defaults.h"
+#include "platform/system/login_items.h"
+#include "platform/system/user_defaults.h"
 
 #include <QtDebug>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "input/shortcut.h"
-#include "platform/callback_list.h"
+#include "platform/base/callback_list.h"
 
 #include <QString>
 

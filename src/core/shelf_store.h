@@ -4,7 +4,7 @@
 #include "core/item_index.h"
 #include "core/publication_pace.h"
 #include "core/shelf_state.h"
-#include "platform/callback_list.h"
+#include "platform/base/callback_list.h"
 
 #include <QList>
 #include <QSet>

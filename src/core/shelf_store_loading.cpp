@@ -4,7 +4,7 @@
 #include "core/item_loading.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
-#include "platform/shown_address.h"
+#include "platform/web/shown_address.h"
 
 #include <utility>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "core/spool_deletions.h"
 
 #include "core/open_spool.h"
-#include "platform/work_queue.h"
+#include "platform/base/work_queue.h"
 
 #include <QSet>
 

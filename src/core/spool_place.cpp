@@ -1,7 +1,7 @@
 #include "core/spool_place.h"
 
-#include "platform/file_url.h"
-#include "platform/private_file.h"
+#include "platform/system/file_url.h"
+#include "platform/system/private_file.h"
 
 #include <unistd.h>
 

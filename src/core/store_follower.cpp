@@ -1,7 +1,7 @@
 #include "core/store_follower.h"
 
 #include "core/shelf_store.h"
-#include "platform/main_queue.h"
+#include "platform/base/main_queue.h"
 
 #include <utility>
 

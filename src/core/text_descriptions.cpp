@@ -1,8 +1,8 @@
 #include "core/text_descriptions.h"
 
 #include "core/characters.h"
-#include "platform/main_queue.h"
-#include "platform/work_queue.h"
+#include "platform/base/main_queue.h"
+#include "platform/base/work_queue.h"
 
 namespace corvane {
 

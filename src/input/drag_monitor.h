@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/event_monitors.h"
-#include "platform/main_queue.h"
+#include "platform/base/main_queue.h"
+#include "platform/desktop/event_monitors.h"
 
 #include <QtGlobal>
 

@@ -1,6 +1,6 @@
 #include "input/hot_key_center.h"
 
-#include "platform/main_queue.h"
+#include "platform/base/main_queue.h"
 
 #include <utility>
 

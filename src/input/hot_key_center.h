@@ -1,7 +1,7 @@
 #pragma once
 
 #include "input/shortcut.h"
-#include "platform/hot_key_service.h"
+#include "platform/desktop/hot_key_service.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,7 +1,7 @@
 #include "input/screen_locator.h"
 
-#include "platform/geometry.h"
-#include "platform/pointer.h"
+#include "platform/base/geometry.h"
+#include "platform/desktop/pointer.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/keyboard.h"
+#include "platform/desktop/keyboard.h"
 
 #include <QByteArray>
 #include <QHash>

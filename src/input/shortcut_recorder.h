@@ -1,8 +1,8 @@
 #pragma once
 
 #include "input/shortcut.h"
-#include "platform/hot_key_service.h"
-#include "platform/key_monitors.h"
+#include "platform/desktop/hot_key_service.h"
+#include "platform/desktop/key_monitors.h"
 
 #include <functional>
 #include <memory>

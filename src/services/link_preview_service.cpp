@@ -1,9 +1,9 @@
 #include "services/link_preview_service.h"
 
 #include "core/characters.h"
-#include "platform/image_codec.h"
-#include "platform/main_queue.h"
-#include "platform/work_queue.h"
+#include "platform/base/main_queue.h"
+#include "platform/base/work_queue.h"
+#include "platform/pictures/image_codec.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/item_loading.h"
-#include "platform/web_client.h"
+#include "platform/web/web_client.h"
 #include "services/page_reader.h"
 
 #include <QByteArray>

@@ -1,6 +1,6 @@
 #include "services/made_picture.h"
 
-#include "platform/thumbnail_cache.h"
+#include "platform/pictures/thumbnail_cache.h"
 
 #include <algorithm>
 

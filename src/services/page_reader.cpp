@@ -1,6 +1,6 @@
 #include "services/page_reader.h"
 
-#include "platform/shown_address.h"
+#include "platform/web/shown_address.h"
 #include "services/page_tags.h"
 
 #include <QStringDecoder>

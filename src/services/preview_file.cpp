@@ -2,9 +2,9 @@
 
 #include "core/byte_count.h"
 #include "core/display_text.h"
-#include "platform/file_url.h"
-#include "platform/preview_documents.h"
-#include "platform/regular_file.h"
+#include "platform/preview/preview_documents.h"
+#include "platform/system/file_url.h"
+#include "platform/system/regular_file.h"
 #include "services/preview_text.h"
 
 #include <QDateTime>

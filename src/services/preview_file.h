@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/preview_content.h"
+#include "platform/preview/preview_content.h"
 
 namespace corvane {
 

@@ -1,11 +1,11 @@
 #include "services/preview_loader.h"
 
-#include "platform/checked_math.h"
-#include "platform/file_locality.h"
-#include "platform/file_url.h"
-#include "platform/main_queue.h"
-#include "platform/preview_documents.h"
-#include "platform/work_queue.h"
+#include "platform/base/checked_math.h"
+#include "platform/base/main_queue.h"
+#include "platform/base/work_queue.h"
+#include "platform/preview/preview_documents.h"
+#include "platform/system/file_locality.h"
+#include "platform/system/file_url.h"
 #include "services/preview_file.h"
 
 #include <utility>

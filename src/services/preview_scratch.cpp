@@ -1,6 +1,6 @@
 #include "services/preview_scratch.h"
 
-#include "platform/file_descriptor.h"
+#include "platform/system/file_descriptor.h"
 
 #include <QStringBuilder>
 #include <QUuid>

@@ -2,11 +2,11 @@
 
 #include "core/display_text.h"
 #include "core/drop_item.h"
-#include "platform/checked_math.h"
-#include "platform/file_url.h"
-#include "platform/main_queue.h"
-#include "platform/private_file.h"
-#include "platform/work_queue.h"
+#include "platform/base/checked_math.h"
+#include "platform/base/main_queue.h"
+#include "platform/base/work_queue.h"
+#include "platform/system/file_url.h"
+#include "platform/system/private_file.h"
 #include "services/preview_scratch.h"
 
 #include <unistd.h>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/item_presenter.h"
-#include "platform/file_descriptor.h"
-#include "platform/preview_panel.h"
+#include "platform/preview/preview_panel.h"
+#include "platform/system/file_descriptor.h"
 
 #include <QByteArray>
 #include <QString>

@@ -1,12 +1,12 @@
 #include "services/remote_thumbnails.h"
 
-#include "platform/file_url.h"
-#include "platform/image_codec.h"
-#include "platform/main_queue.h"
-#include "platform/remote_files.h"
-#include "platform/thumbnail_cache.h"
-#include "platform/ut_type.h"
-#include "platform/work_queue.h"
+#include "platform/base/main_queue.h"
+#include "platform/base/work_queue.h"
+#include "platform/pictures/image_codec.h"
+#include "platform/pictures/thumbnail_cache.h"
+#include "platform/system/file_url.h"
+#include "platform/system/remote_files.h"
+#include "platform/system/ut_type.h"
 #include "services/made_picture.h"
 
 #include <utility>

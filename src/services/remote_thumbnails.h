@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/file_version.h"
-#include "platform/thumbnail_generator.h"
+#include "platform/pictures/thumbnail_generator.h"
+#include "platform/system/file_version.h"
 
 #include <memory>
 

@@ -1,12 +1,12 @@
 #include "services/thumbnail_chain.h"
 
-#include "platform/external_thumbnailers.h"
-#include "platform/file_locality.h"
-#include "platform/file_url.h"
-#include "platform/file_version.h"
-#include "platform/image_codec.h"
-#include "platform/thumbnail_cache.h"
-#include "platform/work_queue.h"
+#include "platform/base/work_queue.h"
+#include "platform/pictures/external_thumbnailers.h"
+#include "platform/pictures/image_codec.h"
+#include "platform/pictures/thumbnail_cache.h"
+#include "platform/system/file_locality.h"
+#include "platform/system/file_url.h"
+#include "platform/system/file_version.h"
 #include "services/made_picture.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/thumbnail_generator.h"
+#include "platform/pictures/thumbnail_generator.h"
 
 namespace corvane {
 

@@ -1,6 +1,6 @@
 #include "services/thumbnail_queue.h"
 
-#include "platform/main_queue.h"
+#include "platform/base/main_queue.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/cancellation.h"
+#include "platform/base/cancellation.h"
 
 #include <QHash>
 #include <QList>

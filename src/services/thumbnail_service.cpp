@@ -1,10 +1,10 @@
 #include "services/thumbnail_service.h"
 
-#include "platform/file_icons.h"
-#include "platform/image_codec.h"
-#include "platform/main_queue.h"
-#include "platform/screens.h"
-#include "platform/work_queue.h"
+#include "platform/base/main_queue.h"
+#include "platform/base/work_queue.h"
+#include "platform/desktop/screens.h"
+#include "platform/pictures/file_icons.h"
+#include "platform/pictures/image_codec.h"
 
 #include <algorithm>
 #include <cmath>

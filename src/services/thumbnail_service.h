@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/item_loading.h"
-#include "platform/thumbnail_generator.h"
+#include "platform/pictures/thumbnail_generator.h"
 #include "services/thumbnail_queue.h"
 
 #include <QList>

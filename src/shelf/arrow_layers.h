@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shelf/icon_layer.h"
+#include "shelf/drawing/icon_layer.h"
 
 namespace corvane {
 

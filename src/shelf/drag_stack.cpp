@@ -1,8 +1,8 @@
 #include "shelf/drag_stack.h"
 
 #include "core/drag_writer.h"
-#include "shelf/drawing.h"
-#include "shelf/theme.h"
+#include "shelf/drawing/drawing.h"
+#include "shelf/drawing/theme.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

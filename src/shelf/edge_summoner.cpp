@@ -1,12 +1,12 @@
 #include "shelf/edge_summoner.h"
 
 #include "core/shelf_store.h"
-#include "platform/checked_math.h"
-#include "platform/full_screen_windows.h"
-#include "platform/geometry.h"
-#include "platform/main_queue.h"
-#include "platform/mouse_buttons.h"
-#include "platform/pointer.h"
+#include "platform/base/checked_math.h"
+#include "platform/base/geometry.h"
+#include "platform/base/main_queue.h"
+#include "platform/desktop/full_screen_windows.h"
+#include "platform/desktop/mouse_buttons.h"
+#include "platform/desktop/pointer.h"
 
 #include <algorithm>
 #include <utility>

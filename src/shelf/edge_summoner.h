@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/store_follower.h"
-#include "platform/edge_trigger.h"
-#include "platform/event_monitors.h"
+#include "platform/desktop/edge_trigger.h"
+#include "platform/desktop/event_monitors.h"
 
 #include <cstdint>
 #include <functional>

@@ -7,11 +7,11 @@
 #include "core/settings.h"
 #include "core/shelf_store.h"
 #include "input/screen_locator.h"
-#include "platform/checked_math.h"
-#include "platform/geometry.h"
-#include "platform/main_queue.h"
-#include "platform/motion_preference.h"
-#include "shelf/theme.h"
+#include "platform/base/checked_math.h"
+#include "platform/base/geometry.h"
+#include "platform/base/main_queue.h"
+#include "platform/desktop/motion_preference.h"
+#include "shelf/drawing/theme.h"
 #include "shelf/view_all_bar.h"
 
 #include <algorithm>

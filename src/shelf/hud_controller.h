@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/store_follower.h"
-#include "platform/screens.h"
+#include "platform/desktop/screens.h"
 #include "shelf/shelf_view.h"
 
 #include <QRectF>

@@ -1,10 +1,10 @@
 #include "shelf/shelf_cell.h"
 
-#include "shelf/being_made_glyph.h"
-#include "shelf/drawing.h"
-#include "shelf/layer_animator.h"
-#include "shelf/phosphor_icon_drawing.h"
-#include "shelf/theme.h"
+#include "shelf/drawing/being_made_glyph.h"
+#include "shelf/drawing/drawing.h"
+#include "shelf/drawing/layer_animator.h"
+#include "shelf/drawing/phosphor_icon_drawing.h"
+#include "shelf/drawing/theme.h"
 
 #include <QPainter>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "shelf/icon_layer.h"
-#include "shelf/shape_layer.h"
+#include "shelf/drawing/icon_layer.h"
+#include "shelf/drawing/shape_layer.h"
+#include "shelf/drawing/text_layer.h"
 #include "shelf/shelf_layout.h"
-#include "shelf/text_layer.h"
 
 namespace corvane {
 

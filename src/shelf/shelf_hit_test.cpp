@@ -1,6 +1,6 @@
 #include "shelf/shelf_hit_test.h"
 
-#include "platform/geometry.h"
+#include "platform/base/geometry.h"
 
 namespace corvane {
 

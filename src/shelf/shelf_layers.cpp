@@ -1,10 +1,10 @@
 #include "shelf/shelf_layers.h"
 
-#include "platform/geometry.h"
-#include "shelf/drawing.h"
-#include "shelf/layer_animator.h"
-#include "shelf/pill_path.h"
-#include "shelf/theme.h"
+#include "platform/base/geometry.h"
+#include "shelf/drawing/drawing.h"
+#include "shelf/drawing/layer_animator.h"
+#include "shelf/drawing/pill_path.h"
+#include "shelf/drawing/theme.h"
 
 #include <QCoreApplication>
 #include <QLinearGradient>

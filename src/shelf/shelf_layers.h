@@ -1,14 +1,14 @@
 #pragma once
 
 #include "shelf/arrow_layers.h"
-#include "shelf/icon_layer.h"
-#include "shelf/pill_layer.h"
-#include "shelf/ring_layer.h"
-#include "shelf/shape_layer.h"
+#include "shelf/drawing/icon_layer.h"
+#include "shelf/drawing/pill_layer.h"
+#include "shelf/drawing/ring_layer.h"
+#include "shelf/drawing/shape_layer.h"
+#include "shelf/drawing/text_layer.h"
 #include "shelf/shelf_cell.h"
 #include "shelf/shelf_hit_test.h"
 #include "shelf/shelf_layout.h"
-#include "shelf/text_layer.h"
 
 #include <QImage>
 #include <QList>

@@ -1,10 +1,10 @@
 #include "shelf/shelf_layout.h"
 
 #include "core/display_text.h"
-#include "platform/geometry.h"
-#include "platform/text_measurer.h"
-#include "shelf/pill_path.h"
-#include "shelf/theme.h"
+#include "platform/base/geometry.h"
+#include "platform/pictures/text_measurer.h"
+#include "shelf/drawing/pill_path.h"
+#include "shelf/drawing/theme.h"
 
 #include <algorithm>
 #include <cmath>

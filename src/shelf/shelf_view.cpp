@@ -1,12 +1,12 @@
 #include "shelf/shelf_view.h"
 
 #include "core/pasteboard_ingest.h"
-#include "platform/checked_math.h"
-#include "platform/geometry.h"
-#include "platform/main_queue.h"
+#include "platform/base/checked_math.h"
+#include "platform/base/geometry.h"
+#include "platform/base/main_queue.h"
+#include "shelf/drawing/pill_path.h"
+#include "shelf/drawing/theme.h"
 #include "shelf/optional_callback.h"
-#include "shelf/pill_path.h"
-#include "shelf/theme.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 // What keys and buttons do, and to which item.
 
-#include "platform/checked_math.h"
+#include "platform/base/checked_math.h"
 #include "shelf/optional_callback.h"
 #include "shelf/shelf_view.h"
 

@@ -4,8 +4,8 @@
 #include "core/drag_set.h"
 #include "core/drag_writer.h"
 #include "core/pasteboard_ingest.h"
-#include "platform/geometry.h"
-#include "platform/keyboard.h"
+#include "platform/base/geometry.h"
+#include "platform/desktop/keyboard.h"
 #include "shelf/shelf_view.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/screens.h"
+#include "platform/desktop/screens.h"
 
 #include <QRectF>
 

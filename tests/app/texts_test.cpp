@@ -4,9 +4,9 @@
 #include "app/preferences/preferences_window_controller.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "app/spoken_texts.h"
-#include "app/status_item_controller.h"
-#include "app/updater.h"
+#include "app/status/status_item_controller.h"
 #include "app/updates/update_window_controller.h"
+#include "app/updates/updater.h"
 #include "app/welcome/welcome_view.h"
 #include "app/welcome/welcome_window_controller.h"
 #include "app/widget_hands.h"
@@ -15,7 +15,7 @@
 #include "fakes/fake_window_activation.h"
 #include "fakes/preferences_desk.h"
 #include "fakes/shelf_model.h"
-#include "shelf/view_all_controller.h"
+#include "shelf/bar/view_all_controller.h"
 
 #include <QFile>
 

@@ -6,7 +6,7 @@
 #include "fakes/fake_file_locality.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
-#include "platform/file_url.h"
+#include "platform/system/file_url.h"
 
 #include <QFile>
 

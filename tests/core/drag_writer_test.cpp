@@ -1,7 +1,7 @@
 #include "core/drag_writer.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_file_locality.h"
-#include "platform/geometry.h"
+#include "platform/base/geometry.h"
 
 #include <QPainter>
 

@@ -2,7 +2,7 @@
 #include "core/spool_place.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_image_codec.h"
-#include "platform/qt/qt_image_codec.h"
+#include "platform/qt/pictures/qt_image_codec.h"
 
 #include <QBuffer>
 

@@ -12,7 +12,7 @@
 #include "fakes/fake_remote_files.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
-#include "platform/file_url.h"
+#include "platform/system/file_url.h"
 
 #include <gtest/gtest.h>
 

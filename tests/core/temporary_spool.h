@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/scratch_spool.h"
-#include "platform/file_url.h"
+#include "platform/system/file_url.h"
 
 #include <QByteArray>
 #include <QDir>

@@ -1,12 +1,12 @@
 // Software updates, from a server that a test has misbehave, for an AppImage whose bytes are looked
 // at.
 
+#include "app/updates/feeds.h"
+#include "app/updates/test_key.h"
+#include "app/updates/update_folder.h"
 #include "e2e/desktop/tray_panel.h"
 #include "e2e/desktop_test.h"
-#include "updates/feeds.h"
-#include "updates/test_key.h"
-#include "updates/update_folder.h"
-#include "web/http_server.h"
+#include "platform/qt/web/http_server.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop_services.h"
+#include "platform/system/desktop_services.h"
 
 #include <QList>
 #include <QUrl>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "fakes/fake_pointer.h"
-#include "platform/drag_pasteboard.h"
-#include "platform/event_monitors.h"
-#include "platform/mouse_buttons.h"
+#include "platform/desktop/drag_pasteboard.h"
+#include "platform/desktop/event_monitors.h"
+#include "platform/desktop/mouse_buttons.h"
 
 #include <map>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/edge_trigger.h"
-#include "platform/full_screen_windows.h"
+#include "platform/desktop/edge_trigger.h"
+#include "platform/desktop/full_screen_windows.h"
 
 #include <utility>
 

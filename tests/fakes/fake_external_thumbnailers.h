@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/cancellation.h"
-#include "platform/external_thumbnailers.h"
+#include "platform/base/cancellation.h"
+#include "platform/pictures/external_thumbnailers.h"
 
 #include <vector>
 

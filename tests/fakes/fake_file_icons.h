@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/file_icons.h"
+#include "platform/pictures/file_icons.h"
 
 #include <QColor>
 #include <QList>

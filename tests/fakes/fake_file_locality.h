@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/file_locality.h"
+#include "platform/system/file_locality.h"
 
 #include <QByteArray>
 

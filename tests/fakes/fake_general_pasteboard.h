@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/pasteboard_writer.h"
+#include "platform/pasteboard/pasteboard_writer.h"
 
 namespace corvane::test {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/hot_key_service.h"
+#include "platform/desktop/hot_key_service.h"
 
 #include <functional>
 #include <map>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/image_codec.h"
+#include "platform/pictures/image_codec.h"
 
 #include <QFile>
 #include <QHash>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/key_monitors.h"
+#include "platform/desktop/key_monitors.h"
 
 #include <map>
 #include <utility>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/motion_preference.h"
+#include "platform/desktop/motion_preference.h"
 
 namespace corvane::test {
 

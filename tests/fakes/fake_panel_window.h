@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/panel_window.h"
+#include "platform/desktop/panel_window.h"
 
 #include <QStringList>
 

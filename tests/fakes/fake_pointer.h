@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/pointer.h"
+#include "platform/desktop/pointer.h"
 
 namespace corvane::test {
 

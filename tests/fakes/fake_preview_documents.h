@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/preview_documents.h"
+#include "platform/preview/preview_documents.h"
 
 namespace corvane::test {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/preview_panel.h"
+#include "platform/preview/preview_panel.h"
 
 #include <QStringList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/remote_files.h"
+#include "platform/system/remote_files.h"
 
 #include <utility>
 #include <vector>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/callback_list.h"
-#include "platform/screens.h"
+#include "platform/base/callback_list.h"
+#include "platform/desktop/screens.h"
 
 #include <algorithm>
 #include <utility>

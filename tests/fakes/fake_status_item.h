@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/status_item.h"
+#include "platform/desktop/status_item.h"
 
 #include <QStringList>
 

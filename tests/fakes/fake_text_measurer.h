@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/text_measurer.h"
+#include "platform/pictures/text_measurer.h"
 
 namespace corvane::test {
 

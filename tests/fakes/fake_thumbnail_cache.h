@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/thumbnail_cache.h"
+#include "platform/pictures/thumbnail_cache.h"
 
 #include <QHash>
 

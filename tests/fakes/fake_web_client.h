@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/web_client.h"
+#include "platform/web/web_client.h"
 
 #include <cstddef>
 #include <utility>

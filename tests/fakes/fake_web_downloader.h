@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/web_downloader.h"
+#include "platform/web/web_downloader.h"
 
 #include <utility>
 #include <vector>

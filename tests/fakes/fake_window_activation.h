@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/window_activation.h"
+#include "platform/desktop/window_activation.h"
 
 #include <QList>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/work_queue.h"
+#include "platform/base/work_queue.h"
 
 #include <cstddef>
 #include <deque>

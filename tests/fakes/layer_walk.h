@@ -1,10 +1,10 @@
 #pragma once
 
-#include "shelf/bitmap_layer.h"
-#include "shelf/glass_background.h"
-#include "shelf/pill_layer.h"
-#include "shelf/ring_layer.h"
-#include "shelf/text_layer.h"
+#include "shelf/drawing/bitmap_layer.h"
+#include "shelf/drawing/glass_background.h"
+#include "shelf/drawing/pill_layer.h"
+#include "shelf/drawing/ring_layer.h"
+#include "shelf/drawing/text_layer.h"
 
 #include <QRectF>
 #include <QString>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/user_defaults.h"
+#include "platform/system/user_defaults.h"
 
 #include <functional>
 

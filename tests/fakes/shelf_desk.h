@@ -20,9 +20,9 @@
 #include "fakes/fake_text_measurer.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
-#include "shelf/layer_animator.h"
+#include "shelf/drawing/layer_animator.h"
+#include "shelf/drawing/theme.h"
 #include "shelf/shelf_view.h"
-#include "shelf/theme.h"
 
 #include <QFile>
 #include <QImage>

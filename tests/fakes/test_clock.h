@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/main_queue.h"
+#include "platform/base/main_queue.h"
 
 #include <cstdint>
 #include <map>

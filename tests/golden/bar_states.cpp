@@ -3,7 +3,7 @@
 #include "fakes/shelf_desk.h"
 #include "golden/panel_stage.h"
 #include "golden/sample_items.h"
-#include "shelf/view_all_view.h"
+#include "shelf/bar/view_all_view.h"
 
 #include <QLinearGradient>
 

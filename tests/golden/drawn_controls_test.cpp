@@ -4,7 +4,7 @@
 #include "fakes/layer_walk.h"
 #include "fakes/random_steps.h"
 #include "fakes/shelf_desk.h"
-#include "shelf/view_all_view.h"
+#include "shelf/bar/view_all_view.h"
 
 #include <gtest/gtest.h>
 

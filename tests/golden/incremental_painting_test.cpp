@@ -6,7 +6,7 @@
 #include "fakes/random_steps.h"
 #include "fakes/shelf_model.h"
 #include "golden/golden.h"
-#include "shelf/view_all_controller.h"
+#include "shelf/bar/view_all_controller.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "fakes/layer_walk.h"
 #include "golden/another_word.h"
 #include "golden/damage.h"
-#include "shelf/bitmap_layer.h"
-#include "shelf/phosphor_icon_drawing.h"
-#include "shelf/stroke_icon.h"
-#include "shelf/text_layer.h"
+#include "shelf/drawing/bitmap_layer.h"
+#include "shelf/drawing/phosphor_icon_drawing.h"
+#include "shelf/drawing/stroke_icon.h"
+#include "shelf/drawing/text_layer.h"
 
 namespace corvane::test {
 

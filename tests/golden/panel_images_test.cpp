@@ -4,7 +4,7 @@
 #include "golden/golden.h"
 #include "golden/panel_stage.h"
 #include "golden/sample_items.h"
-#include "shelf/view_all_view.h"
+#include "shelf/bar/view_all_view.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "golden/image_comparison.h"
-#include "shelf/layer.h"
+#include "shelf/drawing/layer.h"
 
 #include <QSizeF>
 #include <QString>

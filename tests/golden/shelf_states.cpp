@@ -3,7 +3,7 @@
 #include "fakes/shelf_desk.h"
 #include "golden/panel_stage.h"
 #include "golden/sample_items.h"
-#include "platform/qt/qt_text_measurer.h"
+#include "platform/qt/pictures/qt_text_measurer.h"
 
 #include <QLinearGradient>
 

@@ -1,7 +1,7 @@
 // The view-all bar's layouts as text: every number of them, kept in the source tree.
 
 #include "golden/golden.h"
-#include "shelf/view_all_layout.h"
+#include "shelf/bar/view_all_layout.h"
 
 #include <gtest/gtest.h>
 

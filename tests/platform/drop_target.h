@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/property_reader.h"
+#include "platform/x11/drags/property_reader.h"
 #include "platform/x11_client.h"
 
 namespace corvane::test {

@@ -1,16 +1,16 @@
 #include "platform/panel_scene.h"
 
 #include "platform/display.h"
-#include "platform/pasteboard.h"
-#include "platform/qt/qt_geometry.h"
-#include "platform/qt/qt_main_queue.h"
-#include "platform/qt/qt_panel_window.h"
+#include "platform/pasteboard/pasteboard.h"
+#include "platform/qt/base/qt_main_queue.h"
+#include "platform/qt/desktop/qt_geometry.h"
+#include "platform/qt/desktop/qt_panel_window.h"
 #include "platform/recording_content.h"
 #include "platform/scenes.h"
-#include "platform/x11/x11_connection.h"
-#include "platform/x11/x11_drag_support.h"
-#include "platform/x11/x11_drop_support.h"
-#include "platform/x11/x11_panel_surface.h"
+#include "platform/x11/base/x11_connection.h"
+#include "platform/x11/drags/x11_drag_support.h"
+#include "platform/x11/drags/x11_drop_support.h"
+#include "platform/x11/windows/x11_panel_surface.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>

@@ -5,7 +5,7 @@
 #include "platform/display.h"
 #include "platform/freedesktop/dbus_single_instance.h"
 #include "platform/scene.h"
-#include "platform/x11/x11_connection.h"
+#include "platform/x11/base/x11_connection.h"
 
 #include <QDBusConnection>
 #include <QDBusVirtualObject>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/panel_window.h"
-#include "platform/pasteboard.h"
+#include "platform/desktop/panel_window.h"
+#include "platform/pasteboard/pasteboard.h"
 
 #include <QPainter>
 #include <QStringList>

@@ -1,11 +1,11 @@
 #include "platform/scenes.h"
 
-#include "platform/end_deadline.h"
+#include "platform/base/end_deadline.h"
 #include "platform/freedesktop/dbus_single_instance.h"
 #include "platform/panel_scene.h"
-#include "platform/qt/qt_work_queue.h"
-#include "platform/qt/unix_signals.h"
-#include "platform/x11/x11_connection.h"
+#include "platform/qt/base/qt_work_queue.h"
+#include "platform/qt/base/unix_signals.h"
+#include "platform/x11/base/x11_connection.h"
 
 #include <QCoreApplication>
 #include <QSocketNotifier>

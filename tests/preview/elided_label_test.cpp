@@ -1,4 +1,4 @@
-#include "platform/qt/preview/elided_label.h"
+#include "preview/elided_label.h"
 
 #include <QVBoxLayout>
 

@@ -1,4 +1,4 @@
-#include "platform/qt/preview/preview_geometry.h"
+#include "preview/preview_geometry.h"
 
 #include <gtest/gtest.h>
 

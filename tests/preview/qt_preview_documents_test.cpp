@@ -1,6 +1,6 @@
 #include "core/temporary_spool.h"
-#include "platform/qt/preview/qt_preview_documents.h"
-#include "platform/qt/qt_image_codec.h"
+#include "platform/qt/pictures/qt_image_codec.h"
+#include "preview/qt_preview_documents.h"
 
 #include <QBuffer>
 #include <QImageReader>

@@ -4,7 +4,7 @@
 #include "fakes/fake_preview_documents.h"
 #include "fakes/fake_window_activation.h"
 #include "fakes/test_clock.h"
-#include "platform/qt/preview/qt_preview_panel.h"
+#include "preview/qt_preview_panel.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -1,5 +1,5 @@
 #include "core/temporary_spool.h"
-#include "platform/private_file.h"
+#include "platform/system/private_file.h"
 #include "services/preview_scratch.h"
 
 #include <gtest/gtest.h>

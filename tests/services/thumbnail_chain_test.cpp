@@ -3,8 +3,8 @@
 #include "fakes/fake_image_codec.h"
 #include "fakes/fake_thumbnail_cache.h"
 #include "fakes/fake_work_queue.h"
-#include "platform/file_url.h"
-#include "platform/qt/qt_image_codec.h"
+#include "platform/qt/pictures/qt_image_codec.h"
+#include "platform/system/file_url.h"
 #include "services/thumbnail_chain.h"
 
 #include <QBuffer>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/shelf_state.h"
-#include "platform/edge_trigger.h"
+#include "platform/desktop/edge_trigger.h"
 
 #include <QPointF>
 #include <QString>

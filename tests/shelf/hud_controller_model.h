@@ -3,9 +3,9 @@
 #include "core/settings.h"
 #include "core/shelf_store.h"
 #include "fakes/fake_screens.h"
-#include "platform/geometry.h"
+#include "platform/base/geometry.h"
+#include "shelf/drawing/theme.h"
 #include "shelf/shelf_snapshot.h"
-#include "shelf/theme.h"
 
 #include <QRectF>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "core/item_presenter.h"
 #include "fakes/shelf_model.h"
-#include "platform/geometry.h"
+#include "platform/base/geometry.h"
 #include "shelf/view_all_bar.h"
 
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "fakes/shelf_desk.h"
-#include "platform/text_measurer.h"
-#include "shelf/pill_path.h"
+#include "platform/pictures/text_measurer.h"
+#include "shelf/drawing/pill_path.h"
 #include "shelf/shelf_hit_test.h"
 #include "shelf/shelf_layout.h"
 

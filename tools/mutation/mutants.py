@@ -6,7 +6,7 @@ import random
 
 from mutation.places import Place, edited, places_of
 
-FOLDERS = ["input", "core", "services", "shelf", "app", "platform"]
+FOLDERS = ["input", "core", "services", "shelf", "preview", "app", "platform"]
 # How often each kind is taken, of those that a folder has.
 WEIGHTS = {"condition": 5, "deletion": 5, "constant": 4, "return": 2, "sign": 2, "arguments": 3,
            "boundary": 2, "equality": 1, "bound": 1, "text": 1}

@@ -1,9 +1,9 @@
 #include "app/preferences/about_pane.h"
 
+#include "app/look/text_label.h"
 #include "app/preferences/link_button.h"
-#include "app/text_label.h"
-#include "platform/desktop_services.h"
-#include "platform/shown_address.h"
+#include "platform/system/desktop_services.h"
+#include "platform/web/shown_address.h"
 
 #include <QHBoxLayout>
 #include <QUrl>

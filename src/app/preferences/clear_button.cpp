@@ -1,6 +1,6 @@
 #include "app/preferences/clear_button.h"
 
-#include "app/focus_ring.h"
+#include "app/look/focus_ring.h"
 
 #include <QPainter>
 

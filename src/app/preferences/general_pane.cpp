@@ -1,16 +1,16 @@
 #include "app/preferences/general_pane.h"
 
-#include "app/action_button.h"
+#include "app/look/action_button.h"
+#include "app/look/text_label.h"
 #include "app/preferences/number_picker.h"
 #include "app/preferences/preference_section.h"
 #include "app/preferences/setting_row.h"
 #include "app/preferences/shortcut_row.h"
 #include "app/preferences/switch_button.h"
-#include "app/text_label.h"
-#include "app/updater.h"
+#include "app/updates/updater.h"
 #include "core/settings.h"
 #include "input/shortcut_binder.h"
-#include "platform/login_items.h"
+#include "platform/system/login_items.h"
 
 #include <QVBoxLayout>
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/look/window_look.h"
 #include "app/preferences/preferences_context.h"
-#include "app/window_look.h"
 #include "input/hot_key_center.h"
 
 #include <QWidget>

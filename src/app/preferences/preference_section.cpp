@@ -1,6 +1,6 @@
 #include "app/preferences/preference_section.h"
 
-#include "app/text_label.h"
+#include "app/look/text_label.h"
 
 #include <QPainter>
 #include <QVBoxLayout>

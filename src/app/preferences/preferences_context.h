@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/app_info.h"
+#include "app/base/app_info.h"
 
 namespace corvane {
 

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "app/look/shell_window.h"
+#include "app/look/window_look.h"
 #include "app/preferences/preferences_context.h"
 #include "app/preferences/tab_selection.h"
-#include "app/shell_window.h"
-#include "app/window_look.h"
 
 #include <array>
 

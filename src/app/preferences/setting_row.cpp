@@ -1,6 +1,6 @@
 #include "app/preferences/setting_row.h"
 
-#include "app/text_label.h"
+#include "app/look/text_label.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>

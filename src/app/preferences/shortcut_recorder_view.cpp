@@ -1,6 +1,6 @@
 #include "app/preferences/shortcut_recorder_view.h"
 
-#include "app/focus_ring.h"
+#include "app/look/focus_ring.h"
 #include "app/preferences/shortcut_recorder_accessible.h"
 #include "core/display_text.h"
 

@@ -1,7 +1,7 @@
 #include "app/preferences/switch_button.h"
 
-#include "app/focus_ring.h"
-#include "platform/motion_preference.h"
+#include "app/look/focus_ring.h"
+#include "platform/desktop/motion_preference.h"
 
 #include <QPainter>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/preferences/preferences_tab.h"
-#include "platform/callback_list.h"
+#include "platform/base/callback_list.h"
 
 #include <functional>
 #include <utility>

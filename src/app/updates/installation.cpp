@@ -1,7 +1,7 @@
 #include "app/updates/installation.h"
 
-#include "platform/app_image.h"
-#include "platform/regular_file.h"
+#include "platform/system/app_image.h"
+#include "platform/system/regular_file.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -1,7 +1,7 @@
 #include "app/updates/software_updater.h"
 
 #include "app/updates/update_installation.h"
-#include "platform/work_queue.h"
+#include "platform/base/work_queue.h"
 
 #include <QStringBuilder>
 #include <QtDebug>

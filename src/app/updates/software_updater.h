@@ -1,13 +1,13 @@
 #pragma once
 
-#include "app/updater.h"
 #include "app/updates/installation.h"
 #include "app/updates/update_choice.h"
 #include "app/updates/update_download.h"
 #include "app/updates/update_key.h"
 #include "app/updates/update_record.h"
 #include "app/updates/update_report.h"
-#include "platform/main_queue.h"
+#include "app/updates/updater.h"
+#include "platform/base/main_queue.h"
 
 #include <functional>
 #include <memory>

@@ -2,9 +2,9 @@
 #include "app/updates/update_file.h"
 #include "app/updates/update_files.h"
 #include "app/updates/update_installation.h"
-#include "platform/desktop_services.h"
-#include "platform/file_url.h"
-#include "platform/work_queue.h"
+#include "platform/base/work_queue.h"
+#include "platform/system/desktop_services.h"
+#include "platform/system/file_url.h"
 
 #include <QStringBuilder>
 

@@ -1,9 +1,9 @@
 #include "app/updates/update_download.h"
 
 #include "app/updates/update_file.h"
-#include "platform/main_queue.h"
-#include "platform/web_downloader.h"
-#include "platform/work_queue.h"
+#include "platform/base/main_queue.h"
+#include "platform/base/work_queue.h"
+#include "platform/web/web_downloader.h"
 
 #include <atomic>
 #include <cerrno>

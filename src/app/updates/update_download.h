@@ -2,7 +2,7 @@
 
 #include "app/updates/appcast.h"
 #include "app/updates/update_report.h"
-#include "platform/web_client.h"
+#include "platform/web/web_client.h"
 
 #include <QByteArray>
 

@@ -1,6 +1,6 @@
 #include "app/updates/update_file.h"
 
-#include "platform/regular_file.h"
+#include "platform/system/regular_file.h"
 
 #include <QStringBuilder>
 

@@ -1,6 +1,6 @@
 #include "app/updates/update_files.h"
 
-#include "platform/file_descriptor.h"
+#include "platform/system/file_descriptor.h"
 
 #include <QStringBuilder>
 

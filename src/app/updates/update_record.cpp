@@ -1,7 +1,7 @@
 #include "app/updates/update_record.h"
 
-#include "platform/private_file.h"
-#include "platform/regular_file.h"
+#include "platform/system/private_file.h"
+#include "platform/system/regular_file.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/web_route.h"
+#include "platform/web/web_route.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 
 #include "core/byte_count.h"
 #include "core/display_text.h"
-#include "platform/shown_address.h"
+#include "platform/web/shown_address.h"
 
 #include <QCoreApplication>
 #include <QStringBuilder>

@@ -1,7 +1,7 @@
 #include "app/updates/update_window.h"
 
-#include "app/action_button.h"
-#include "app/text_label.h"
+#include "app/look/action_button.h"
+#include "app/look/text_label.h"
 #include "app/updates/update_texts.h"
 
 #include <QHBoxLayout>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/shell_window.h"
+#include "app/look/shell_window.h"
+#include "app/look/window_look.h"
 #include "app/updates/update_report.h"
-#include "app/window_look.h"
 
 #include <functional>
 

@@ -1,7 +1,7 @@
 #include "app/updates/update_window_controller.h"
 
 #include "app/updates/update_texts.h"
-#include "platform/window_activation.h"
+#include "platform/desktop/window_activation.h"
 
 #include <QWindow>
 

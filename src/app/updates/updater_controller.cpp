@@ -1,7 +1,7 @@
 #include "app/updates/updater_controller.h"
 
-#include "app/app_info.h"
-#include "app/updater.h"
+#include "app/base/app_info.h"
+#include "app/updates/updater.h"
 
 namespace corvane {
 

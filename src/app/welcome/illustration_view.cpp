@@ -2,7 +2,7 @@
 
 #include "app/welcome/welcome_illustration.h"
 #include "app/welcome/welcome_shapes.h"
-#include "platform/motion_preference.h"
+#include "platform/desktop/motion_preference.h"
 
 #include <QPainter>
 #include <QRegion>

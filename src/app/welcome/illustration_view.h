@@ -1,8 +1,8 @@
 #pragma once
 
+#include "app/look/window_look.h"
 #include "app/welcome/welcome_scene.h"
 #include "app/welcome/welcome_step.h"
-#include "app/window_look.h"
 
 #include <QImage>
 #include <QVariantAnimation>

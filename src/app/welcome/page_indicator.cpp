@@ -1,6 +1,6 @@
 #include "app/welcome/page_indicator.h"
 
-#include "platform/motion_preference.h"
+#include "platform/desktop/motion_preference.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/window_look.h"
+#include "app/look/window_look.h"
 
 #include <QVariantAnimation>
 #include <QWidget>

@@ -1,8 +1,8 @@
 #include "app/welcome/welcome_illustration.h"
 
+#include "app/look/window_look.h"
 #include "app/welcome/welcome_shapes.h"
-#include "app/window_look.h"
-#include "shelf/pill_path.h"
+#include "shelf/drawing/pill_path.h"
 
 #include <QFont>
 #include <QLinearGradient>

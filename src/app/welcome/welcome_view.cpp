@@ -1,7 +1,7 @@
 #include "app/welcome/welcome_view.h"
 
-#include "app/action_button.h"
-#include "app/text_label.h"
+#include "app/look/action_button.h"
+#include "app/look/text_label.h"
 #include "app/welcome/illustration_view.h"
 #include "app/welcome/page_indicator.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/look/window_look.h"
 #include "app/welcome/welcome_step.h"
-#include "app/window_look.h"
 
 #include <QWidget>
 

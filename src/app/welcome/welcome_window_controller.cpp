@@ -1,7 +1,7 @@
 #include "app/welcome/welcome_window_controller.h"
 
+#include "app/look/window_look.h"
 #include "app/welcome/welcome_view.h"
-#include "app/window_look.h"
 
 #include <QVBoxLayout>
 

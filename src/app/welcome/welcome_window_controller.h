@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/shell_window.h"
+#include "app/look/shell_window.h"
 
 #include <functional>
 

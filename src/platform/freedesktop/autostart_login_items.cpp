@@ -1,8 +1,8 @@
 #include "platform/freedesktop/autostart_login_items.h"
 
-#include "platform/app_image.h"
 #include "platform/freedesktop/desktop_entry.h"
-#include "platform/regular_file.h"
+#include "platform/system/app_image.h"
+#include "platform/system/regular_file.h"
 
 #include <QCoreApplication>
 #include <QDir>

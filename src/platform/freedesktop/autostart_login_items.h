@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/login_items.h"
+#include "platform/system/login_items.h"
 
 namespace corvane {
 

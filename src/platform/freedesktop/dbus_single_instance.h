@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/single_instance.h"
+#include "platform/system/single_instance.h"
 
 #include <QObject>
 #include <QString>

@@ -1,7 +1,7 @@
 #include "platform/freedesktop/remote_file_threads.h"
 
-#include "platform/main_queue.h"
-#include "platform/regular_file.h"
+#include "platform/base/main_queue.h"
+#include "platform/system/regular_file.h"
 
 #include <algorithm>
 #include <system_error>

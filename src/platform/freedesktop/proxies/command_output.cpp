@@ -1,6 +1,6 @@
 #include "platform/freedesktop/proxies/command_output.h"
 
-#include "platform/file_descriptor.h"
+#include "platform/system/file_descriptor.h"
 
 #include <fcntl.h>
 #include <poll.h>

@@ -1,7 +1,7 @@
 #include "platform/freedesktop/proxies/desktop_routes.h"
 
 #include "platform/freedesktop/proxies/proxy_sources.h"
-#include "platform/regular_file.h"
+#include "platform/system/regular_file.h"
 
 #include <unistd.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/freedesktop/proxies/command_output.h"
-#include "platform/web_routes.h"
+#include "platform/web/web_routes.h"
 
 #include <QByteArray>
 

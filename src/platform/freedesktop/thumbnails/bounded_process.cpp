@@ -1,7 +1,7 @@
 #include "platform/freedesktop/thumbnails/bounded_process.h"
 
-#include "platform/cancellation.h"
-#include "platform/file_descriptor.h"
+#include "platform/base/cancellation.h"
+#include "platform/system/file_descriptor.h"
 
 #include <fcntl.h>
 #include <poll.h>

@@ -1,6 +1,6 @@
 #include "platform/freedesktop/thumbnails/sandbox.h"
 
-#include "platform/cancellation.h"
+#include "platform/base/cancellation.h"
 #include "platform/freedesktop/thumbnails/bounded_process.h"
 
 #include <sys/stat.h>

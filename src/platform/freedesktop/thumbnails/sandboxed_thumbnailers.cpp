@@ -1,9 +1,9 @@
 #include "platform/freedesktop/thumbnails/sandboxed_thumbnailers.h"
 
-#include "platform/cancellation.h"
-#include "platform/file_url.h"
+#include "platform/base/cancellation.h"
 #include "platform/freedesktop/thumbnails/bounded_process.h"
-#include "platform/regular_file.h"
+#include "platform/system/file_url.h"
+#include "platform/system/regular_file.h"
 
 #include <QFile>
 #include <QMimeDatabase>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/external_thumbnailers.h"
 #include "platform/freedesktop/thumbnails/sandbox.h"
 #include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
+#include "platform/pictures/external_thumbnailers.h"
 
 namespace corvane {
 

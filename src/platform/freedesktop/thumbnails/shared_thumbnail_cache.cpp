@@ -2,9 +2,9 @@
 
 #include "platform/freedesktop/thumbnails/png_text.h"
 #include "platform/freedesktop/thumbnails/thumbnail_uri.h"
-#include "platform/image_codec.h"
-#include "platform/private_file.h"
-#include "platform/regular_file.h"
+#include "platform/pictures/image_codec.h"
+#include "platform/system/private_file.h"
+#include "platform/system/regular_file.h"
 
 #include <QCryptographicHash>
 

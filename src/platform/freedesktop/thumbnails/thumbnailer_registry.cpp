@@ -1,6 +1,6 @@
 #include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
 
-#include "platform/regular_file.h"
+#include "platform/system/regular_file.h"
 
 #include <dirent.h>
 #include <sys/stat.h>

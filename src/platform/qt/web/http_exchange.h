@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/qt/web/http_reader.h"
-#include "platform/web_route.h"
+#include "platform/web/web_route.h"
 
 #include <QByteArray>
 #include <QHostAddress>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/main_queue.h"
+#include "platform/base/main_queue.h"
 #include "platform/qt/web/web_network.h"
-#include "platform/web_client.h"
-#include "platform/web_downloader.h"
+#include "platform/web/web_client.h"
+#include "platform/web/web_downloader.h"
 
 #include <QThread>
 

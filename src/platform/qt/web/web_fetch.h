@@ -2,8 +2,8 @@
 
 #include "platform/qt/web/http_exchange.h"
 #include "platform/qt/web/web_network.h"
-#include "platform/web_client.h"
-#include "platform/web_downloader.h"
+#include "platform/web/web_client.h"
+#include "platform/web/web_downloader.h"
 
 #include <QObject>
 #include <QTimer>

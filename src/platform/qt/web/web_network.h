@@ -3,9 +3,9 @@
 #include "platform/qt/web/address_space.h"
 #include "platform/qt/web/host_resolver.h"
 #include "platform/qt/web/system_host_resolver.h"
-#include "platform/web_client.h"
-#include "platform/web_downloader.h"
-#include "platform/web_routes.h"
+#include "platform/web/web_client.h"
+#include "platform/web/web_downloader.h"
+#include "platform/web/web_routes.h"
 
 #include <QList>
 #include <QSslCertificate>

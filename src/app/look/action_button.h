@@ -1,0 +1,29 @@
+#pragma once
+
+#include "app/look/window_look.h"
+
+#include <QPushButton>
+
+namespace corvane {
+
+/// A button that looks like the other controls of our windows. The default one, which Return
+/// presses from anywhere in its window, is in the accent's tint.
+class ActionButton : public QPushButton {
+    Q_OBJECT
+
+public:
+    ActionButton(const QString &text, double fontSize, QSize minimumSize, const WindowLook &look,
+                 QWidget *parent = nullptr);
+
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    QSize m_minimumSize;
+    WindowLook m_look;
+};
+
+} // namespace corvane

@@ -1,0 +1,104 @@
+#include "app/look/window_look.h"
+
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPalette>
+
+#include <algorithm>
+#include <cmath>
+
+namespace corvane {
+
+namespace {
+
+/// Desktops come with fonts of up to this many pixels; whoever has a larger one asked for it.
+constexpr double usualFontPixels = 15;
+constexpr double progressBarHeight = 6;
+constexpr double cardRadius = 8;
+constexpr double cardOpacity = 0.045;
+
+QColor mixed(const QColor &upper, const QColor &lower, float opacity)
+{
+    const auto mix = [opacity](float a, float b) { return a * opacity + b * (1 - opacity); };
+    return QColor::fromRgbF(mix(upper.redF(), lower.redF()), mix(upper.greenF(), lower.greenF()),
+                            mix(upper.blueF(), lower.blueF()));
+}
+
+} // namespace
+
+WindowLook::WindowLook()
+    : m_scale(std::max(1.0, QFontInfo(QGuiApplication::font()).pixelSize() / usualFontPixels))
+{
+}
+
+int WindowLook::length(double points) const
+{
+    return static_cast<int>(std::round(points * m_scale));
+}
+
+QFont WindowLook::font(double points, QFont::Weight weight) const
+{
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(length(points));
+    font.setWeight(weight);
+    return font;
+}
+
+// In colours that stand out from light and dark grounds.
+QString WindowLook::scrollBarStyle() const
+{
+    const int width = length(scrollBarWidth);
+    return QStringLiteral("QScrollBar { background: transparent; width: %1px; margin: 0; }"
+                          "QScrollBar::handle { background: rgba(128, 128, 128, 140);"
+                          " border-radius: %2px; margin: 2px; min-height: %3px; }"
+                          "QScrollBar::handle:hover { background: rgba(128, 128, 128, 200); }"
+                          "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }"
+                          "QScrollBar::add-page, QScrollBar::sub-page { background: none; }")
+        .arg(width)
+        .arg(width / 2 - 2)
+        .arg(3 * width);
+}
+
+QString WindowLook::progressBarStyle() const
+{
+    const int height = length(progressBarHeight);
+    return QStringLiteral(
+               "QProgressBar { background: rgba(128, 128, 128, 60); border: none;"
+               " border-radius: %2px; height: %1px; min-height: %1px; max-height: %1px; }"
+               "QProgressBar::chunk { background: palette(highlight);"
+               " border-radius: %2px; }")
+        .arg(height)
+        .arg(height / 2);
+}
+
+void WindowLook::drawCard(QPainter &painter, const QPalette &palette, const QRect &rect) const
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(tint(palette, cardOpacity));
+    painter.drawRoundedRect(rect, length(cardRadius), length(cardRadius));
+    painter.restore();
+}
+
+QColor WindowLook::secondary(const QPalette &palette)
+{
+    // Opaque, so that letters are as sharp as others; dark enough to be read without effort.
+    constexpr float opacity = 0.68F;
+    return mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), opacity);
+}
+
+QColor WindowLook::tint(const QPalette &palette, double opacity)
+{
+    QColor color = palette.color(QPalette::WindowText);
+    color.setAlphaF(static_cast<float>(opacity));
+    return color;
+}
+
+QColor WindowLook::accent(const QPalette &palette)
+{
+    return palette.color(QPalette::Active, QPalette::Highlight);
+}
+
+} // namespace corvane

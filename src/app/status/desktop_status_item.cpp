@@ -1,0 +1,59 @@
+#include "app/status/desktop_status_item.h"
+
+#include "app/status/status_icon.h"
+#include "platform/base/main_queue.h"
+
+#include <QGuiApplication>
+#include <QPalette>
+
+namespace corvane {
+
+DesktopStatusItem::DesktopStatusItem(MainQueue &mainQueue, X11Connection &connection)
+    : m_mainQueue(mainQueue)
+    , m_hosts(std::make_unique<NotifierHosts>())
+    , m_x11Tray(std::make_unique<X11TrayWatch>(connection))
+{
+    // The shelf does not wait for its icon.
+    mainQueue.async([this, alive = std::weak_ptr<bool>(m_alive)] {
+        if (!alive.expired())
+            search();
+    });
+}
+
+void DesktopStatusItem::search()
+{
+    m_hosts->start([this] { found(0); });
+    // A panel that has both announces one after the other, and the first icon decides for good.
+    constexpr double settleDelay = 1;
+    m_x11Tray->start([this] { found(settleDelay); });
+}
+
+void DesktopStatusItem::found(double delay)
+{
+    // Never at once: who found it ends here.
+    m_mainQueue.asyncAfter(delay, [this, alive = std::weak_ptr<bool>(m_alive)] {
+        if (alive.expired() || !m_hosts)
+            return;
+        m_hosts.reset();
+        m_x11Tray.reset();
+        updateForeground();
+        // The event that is to be handled instead is seen only by filtering every event there is.
+        QT_WARNING_PUSH
+        QT_WARNING_DISABLE_DEPRECATED
+        QObject::connect(qGuiApp, &QGuiApplication::paletteChanged, qGuiApp, [this, alive] {
+            if (!alive.expired())
+                updateForeground();
+        });
+        QT_WARNING_POP
+        m_item.appear();
+    });
+}
+
+void DesktopStatusItem::updateForeground()
+{
+    m_item.setForeground(
+        status_icon::likelyForeground(qEnvironmentVariable("XDG_CURRENT_DESKTOP"),
+                                      QGuiApplication::palette().color(QPalette::WindowText)));
+}
+
+} // namespace corvane

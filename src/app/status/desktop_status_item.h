@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/freedesktop/notifier_hosts.h"
+#include "platform/qt/desktop/qt_tray_icon.h"
+#include "platform/x11/windows/x11_tray_watch.h"
+
+#include <memory>
+
+namespace corvane {
+
+class MainQueue;
+
+/// Brings the status item up once the desktop has a place for it, a panel on the session bus or an
+/// X11 tray, whichever is seen first; where both are there it is the bus. Without either nothing is
+/// made, and nothing else is missing.
+class DesktopStatusItem {
+public:
+    /// Begins at the next turn of the queue. Both must outlive it.
+    DesktopStatusItem(MainQueue &mainQueue, X11Connection &connection);
+
+    StatusItem &item() { return m_item; }
+
+private:
+    void search();
+    /// Brings it up so many seconds later.
+    void found(double delay);
+    /// Has it drawn in the colour of the present palette.
+    void updateForeground();
+
+    MainQueue &m_mainQueue;
+    QtTrayIcon m_item;
+    // Both only until something is found.
+    std::unique_ptr<NotifierHosts> m_hosts;
+    std::unique_ptr<X11TrayWatch> m_x11Tray;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

@@ -1,0 +1,111 @@
+#include "app/status/status_item_controller.h"
+
+#include "app/status/status_icon.h"
+#include "app/updates/updater.h"
+#include "core/settings.h"
+#include "core/shelf_store.h"
+#include "platform/base/main_queue.h"
+#include "platform/desktop/status_item.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+void call(const std::function<void()> &action)
+{
+    if (action)
+        action();
+}
+
+} // namespace
+
+StatusItemController::StatusItemController(Context context)
+    : m_context(std::move(context))
+    , m_count(static_cast<int>(m_context.store.items().size()))
+{
+    updateIcon(m_count);
+    const std::weak_ptr<bool> alive = m_alive;
+    m_context.statusItem.setMenu(
+        [this, alive] { return alive.expired() ? MenuRows() : rebuild(); });
+    m_context.store.observeItems([this, alive](const QList<DropItem> &) {
+        if (!alive.expired())
+            itemsChanged();
+    });
+}
+
+void StatusItemController::itemsChanged()
+{
+    // Most publications change something else, and panels redraw what they are told of.
+    const bool isNew = m_context.store.items().size() != m_count;
+    if (!isNew || std::exchange(m_isUpdateScheduled, true))
+        return;
+    m_context.queue.async([this, alive = std::weak_ptr<bool>(m_alive)] {
+        if (!alive.expired())
+            update();
+    });
+}
+
+void StatusItemController::update()
+{
+    m_isUpdateScheduled = false;
+    const int count = static_cast<int>(m_context.store.items().size());
+    if (std::exchange(m_count, count) == count)
+        return;
+    updateIcon(count);
+    m_context.statusItem.menuChanged();
+}
+
+void StatusItemController::updateIcon(int count)
+{
+    const int cards = std::min(count, status_icon::mostCards);
+    m_context.statusItem.setIcon(cards, [cards](int side, const QColor &foreground) {
+        return status_icon::image(cards, side, foreground);
+    });
+    m_context.statusItem.setToolTip(status_menu::toolTip(count));
+}
+
+MenuRows StatusItemController::rebuild() const
+{
+    MenuRows rows = status_menu::rows(
+        {static_cast<int>(m_context.store.items().size()), m_context.settings.shortcut(),
+         m_context.settings.viewAllShortcut(), m_context.updater != nullptr});
+    for (MenuRow &row : rows) {
+        if (row.isSeparator())
+            continue;
+        row.action = [this, alive = std::weak_ptr<bool>(m_alive), id = row.id] {
+            if (!alive.expired())
+                perform(static_cast<StatusMenuRow>(id));
+        };
+    }
+    return rows;
+}
+
+void StatusItemController::perform(StatusMenuRow row) const
+{
+    switch (row) {
+    case StatusMenuRow::ShowShelf:
+        return call(onShowShelf);
+    case StatusMenuRow::ViewAllItems:
+        return m_context.store.toggleViewAll();
+    case StatusMenuRow::ClearShelf:
+        return m_context.store.clearAll();
+    case StatusMenuRow::Preferences:
+        return call(onPreferences);
+    case StatusMenuRow::HowItWorks:
+        return call(onWelcome);
+    case StatusMenuRow::CheckForUpdates:
+        if (m_context.updater)
+            m_context.updater->checkForUpdates();
+        return;
+    case StatusMenuRow::Quit:
+        return call(m_context.terminate);
+    case StatusMenuRow::FirstSeparator:
+    case StatusMenuRow::SecondSeparator:
+        return;
+    }
+}
+
+} // namespace corvane

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/desktop/keyboard.h"
+
+#include <QKeySequence>
+#include <QList>
+#include <QString>
+
+#include <functional>
+
+namespace corvane {
+
+/// What the user may press elsewhere for the same as a menu's row. It is shown beside the row and
+/// nothing more: no menu acts upon it. Here Command is the Super key and Control is Control.
+struct KeyEquivalent {
+    /// What the key types without modifiers, in lower case ("k", ","), or its sign or name ("↩",
+    /// "f5"); empty for none.
+    QString key;
+    Modifiers modifiers;
+
+    /// For Qt, which calls Super Meta; empty for none.
+    QKeySequence sequence() const;
+
+    friend bool operator==(const KeyEquivalent &, const KeyEquivalent &) = default;
+};
+
+/// One row of a menu. One without a title is a separator.
+struct MenuRow {
+    /// The same for the same row whenever the menu is built.
+    int id = 0;
+    QString title;
+    KeyEquivalent keyEquivalent;
+    /// Done when the row is chosen; nothing where there is none.
+    std::function<void()> action;
+
+    bool isSeparator() const { return title.isEmpty(); }
+    /// Whether both look the same.
+    bool showsTheSameAs(const MenuRow &other) const;
+};
+
+using MenuRows = QList<MenuRow>;
+
+} // namespace corvane

@@ -1,0 +1,97 @@
+#include "platform/qt/desktop/drag_session.h"
+
+#include "platform/desktop/drag_support.h"
+#include "platform/desktop/panel_window.h"
+#include "platform/qt/pasteboard/mime_encoding.h"
+
+#include <QDrag>
+#include <QMimeData>
+#include <QPixmap>
+#include <QPointer>
+#include <QWindow>
+
+#include <algorithm>
+#include <numeric>
+
+namespace corvane {
+
+namespace {
+
+void setImage(QDrag &drag, const Image &image, QPointF hotSpot)
+{
+    if (image.isNull() || image.size.isEmpty())
+        return;
+    QPixmap pixmap = QPixmap::fromImage(image.bitmap);
+    pixmap.setDevicePixelRatio(std::max(image.bitmap.width() / image.size.width(),
+                                        image.bitmap.height() / image.size.height()));
+    drag.setPixmap(pixmap);
+    drag.setHotSpot(QPointF(hotSpot.x(), image.size.height() - hotSpot.y()).toPoint());
+}
+
+/// What Qt knows when the user lets go: what the target would do, not what it does.
+DragOperation promisedBy(Qt::DropAction action)
+{
+    if (action == Qt::IgnoreAction)
+        return DragOperation::None;
+    return action == Qt::LinkAction ? DragOperation::Link : DragOperation::Copy;
+}
+
+DragOutEnd asPromised(Qt::DropAction action, std::size_t writers)
+{
+    DragOutEnd end{promisedBy(action), {}, true};
+    end.taken.resize(static_cast<qsizetype>(writers));
+    std::iota(end.taken.begin(), end.taken.end(), 0);
+    return end;
+}
+
+void passOnWhenReady(const DragOut &drag, DragSupport &support, DragSupport::DragId id)
+{
+    if (!drag.whenReady)
+        return;
+    drag.whenReady([&support, id](const std::optional<PasteboardContents> &contents) {
+        support.formsAreReady(
+            id, contents ? std::optional(formsOf(*contents, PasteboardKind::Drag)) : std::nullopt);
+    });
+}
+
+/// What the target would do; ignored where the drag came to nothing, or back to this process, whose
+/// own windows take nothing off the shelf.
+Qt::DropAction execute(QWindow &window, const DragOut &drag, std::unique_ptr<QMimeData> contents)
+{
+    // Qt deletes it once the target has fetched what it wants.
+    const QPointer<QDrag> session = new QDrag(&window);
+    session->setMimeData(contents.release());
+    setImage(*session, drag.image, drag.hotSpot);
+    const Qt::DropAction action = session->exec(Qt::CopyAction | Qt::LinkAction, Qt::CopyAction);
+    return session && session->target() ? Qt::IgnoreAction : action;
+}
+
+} // namespace
+
+void runDragSession(QWindow &window, const DragOut &drag, DragSupport *support,
+                    const DragSessionEvents &events)
+{
+    const std::size_t writers = drag.contents.writers.size();
+    PasteboardForms forms = formsOf(drag.contents, PasteboardKind::Drag);
+    auto mimeData = mimeDataFor(forms);
+    if (!support) {
+        const Qt::DropAction action = execute(window, drag, std::move(mimeData));
+        events.released(promisedBy(action));
+        events.ended(action == Qt::IgnoreAction ? DragOutEnd() : asPromised(action, writers));
+        return;
+    }
+    const DragSupport::DragId id = support->dragWillBegin(std::move(forms), !drag.whenReady);
+    passOnWhenReady(drag, *support, id);
+    const Qt::DropAction action = execute(window, drag, std::move(mimeData));
+    if (action == Qt::IgnoreAction) {
+        support->dragCameToNothing(id);
+        events.released(DragOperation::None);
+        events.ended({});
+        return;
+    }
+    // Before anybody is told: the target's window may be closed any moment.
+    support->dragWasDropped(id, events.ended);
+    events.released(promisedBy(action));
+}
+
+} // namespace corvane

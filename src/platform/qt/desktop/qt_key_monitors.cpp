@@ -1,0 +1,103 @@
+#include "platform/qt/desktop/qt_key_monitors.h"
+
+#include "platform/desktop/keyboard_layout.h"
+#include "platform/desktop/virtual_key_codes.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+#include <utility>
+#include <vector>
+
+namespace corvane {
+
+namespace {
+
+/// By position: a combination is registered by it, too.
+std::uint32_t keyCodeFrom(const QKeyEvent &event)
+{
+    const std::uint32_t scanCode = event.nativeScanCode();
+    return scanCode < virtual_key_codes::x11Offset
+        ? key_code::unknown
+        : virtual_key_codes::fromEvdev(scanCode - virtual_key_codes::x11Offset);
+}
+
+/// Not as elsewhere in our windows, where Control is Command, too.
+Modifiers heldModifiers(Qt::KeyboardModifiers modifiers)
+{
+    Modifiers result;
+    result.setFlag(Modifier::Shift, modifiers.testFlag(Qt::ShiftModifier));
+    result.setFlag(Modifier::Control, modifiers.testFlag(Qt::ControlModifier));
+    result.setFlag(Modifier::Option, modifiers.testFlag(Qt::AltModifier));
+    result.setFlag(Modifier::Command, modifiers.testFlag(Qt::MetaModifier));
+    return result;
+}
+
+} // namespace
+
+QtKeyMonitors::QtKeyMonitors(const KeyboardLayout &layout)
+    : m_layout(layout)
+{
+}
+
+QtKeyMonitors::~QtKeyMonitors() = default;
+
+KeyMonitors::Handle QtKeyMonitors::addLocalMonitor(Handler handler)
+{
+    if (m_monitors.empty())
+        QCoreApplication::instance()->installEventFilter(this);
+    m_monitors.emplace(m_nextHandle, std::move(handler));
+    return m_nextHandle++;
+}
+
+void QtKeyMonitors::removeMonitor(Handle handle)
+{
+    m_monitors.erase(handle);
+    if (m_monitors.empty())
+        QCoreApplication::instance()->removeEventFilter(this);
+}
+
+bool QtKeyMonitors::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    const auto *key = isKey ? dynamic_cast<QKeyEvent *>(event) : nullptr;
+    // An override that is accepted is no shortcut of a window or menu, but comes again as a key
+    // press.
+    if (!isOverride && (!key || notify(*key) == Disposition::Pass))
+        return QObject::eventFilter(watched, event);
+    event->accept();
+    return true;
+}
+
+KeyMonitors::Disposition QtKeyMonitors::notify(const QKeyEvent &key)
+{
+    Event event;
+    event.modifiers = heldModifiers(key.modifiers());
+    const bool isPress = key.type() == QEvent::KeyPress;
+    const std::uint32_t keyCode = keyCodeFrom(key);
+    if (m_layout.changesKeys(key.nativeVirtualKey()) && !(isPress && keyCode == key_code::escape)) {
+        event.kind = Event::Kind::ModifiersChanged;
+    } else if (isPress) {
+        event.keyCode = keyCode;
+        event.charactersIgnoringModifiers = m_layout.charactersOf(keyCode);
+        event.isEscape = key.key() == Qt::Key_Escape;
+    } else {
+        return Disposition::Pass;
+    }
+    // By handle, and through a copy: a handler may remove any monitor, itself too.
+    std::vector<Handle> handles;
+    for (const auto &[handle, handler] : m_monitors)
+        handles.push_back(handle);
+    for (const Handle handle : handles) {
+        const auto found = m_monitors.find(handle);
+        if (found == m_monitors.end())
+            continue;
+        const Handler handler = found->second;
+        if (handler(event) == Disposition::Swallow)
+            return Disposition::Swallow;
+    }
+    return Disposition::Pass;
+}
+
+} // namespace corvane

@@ -1,0 +1,133 @@
+// What comes to the panel's window, told to its content.
+
+#include "platform/base/main_queue.h"
+#include "platform/desktop/panel_surface.h"
+#include "platform/qt/desktop/panel_event_translation.h"
+#include "platform/qt/desktop/qt_geometry.h"
+#include "platform/qt/desktop/qt_panel_window.h"
+
+#include <QEnterEvent>
+#include <QKeyEvent>
+#include <QPointingDevice>
+#include <QWheelEvent>
+
+#include <utility>
+
+namespace corvane {
+
+/// Qt names a pixel by its upper left corner. Ours is the middle of it, so that the pixels along
+/// the panel's edges, one of which is the screen's, lie inside whichever way y goes.
+QPointF QtPanelWindow::middleOfPixel(QPointF position) const
+{
+    const double half = 0.5 / m_canvas->devicePixelRatio();
+    return qt_geometry::flipped(position + QPointF(half, half), m_frame.height());
+}
+
+bool QtPanelWindow::handle(QEvent &event)
+{
+    if (!m_content)
+        return false;
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseMove:
+        return handleMouse(dynamic_cast<QMouseEvent &>(event));
+    case QEvent::Enter: {
+        const QPointF position = dynamic_cast<QEnterEvent &>(event).position();
+        m_content->mouseEntered({middleOfPixel(position)});
+        return true;
+    }
+    case QEvent::Leave:
+        m_content->mouseExited();
+        return true;
+    case QEvent::Wheel:
+        handleWheel(dynamic_cast<QWheelEvent &>(event));
+        return true;
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+        return handleKey(dynamic_cast<QKeyEvent &>(event));
+    case QEvent::FocusOut:
+        // Its release goes to somebody else.
+        m_heldKey.reset();
+        return false;
+    default:
+        return handleDrag(event);
+    }
+}
+
+bool QtPanelWindow::handleMouse(QMouseEvent &event)
+{
+    const MouseEvent mouse{middleOfPixel(event.position())};
+    if (event.type() == QEvent::MouseMove) {
+        if (event.buttons().testFlag(Qt::LeftButton))
+            m_content->mouseDragged(mouse);
+        else
+            m_content->mouseMoved(mouse);
+        return true;
+    }
+    if (event.button() != Qt::LeftButton)
+        return true;
+    // The second press of a double click comes as a press too, before it comes as what it is.
+    if (event.type() == QEvent::MouseButtonRelease) {
+        m_content->mouseUp(mouse);
+    } else {
+        m_wasKeyBeforePress = m_surface.keyboardHolder() == KeyboardHolder::Panel;
+        m_content->mouseDown(mouse);
+    }
+    return true;
+}
+
+bool QtPanelWindow::handleKey(QKeyEvent &event)
+{
+    if (event.type() == QEvent::KeyPress) {
+        KeyEvent key = keyEventFrom(event);
+        key.isRepeat = m_repeats.isRepeat(event);
+        if (!key.isRepeat)
+            m_heldKey = {event.nativeScanCode(), event.nativeModifiers()};
+        event.setAccepted(m_content->keyDown(key));
+        return true;
+    }
+    m_repeats.released(event);
+    const std::uint32_t key = event.nativeScanCode();
+    if (event.isAutoRepeat() || m_surface.isKeyDown(key))
+        return false;
+    if (m_heldKey && m_heldKey->key == key)
+        m_heldKey.reset();
+    if (std::exchange(m_resignsOnRelease, false))
+        m_surface.giveKeyboardBack();
+    return false;
+}
+
+void QtPanelWindow::handleWheel(QWheelEvent &event)
+{
+    const auto *device = event.pointingDevice();
+    const bool isTouchpad = device && m_surface.isTouchpad(device->systemId());
+    auto scroll = scrollEventFrom(event, m_queue.now(),
+                                  isTouchpad ? ScrollDevice::Touchpad : ScrollDevice::Wheel);
+    if (scroll)
+        scroll = m_wheelSteps.add(*scroll);
+    if (scroll)
+        m_content->scrollWheel(*scroll);
+}
+
+bool QtPanelWindow::handleDrag(QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::DragEnter:
+        m_dropTarget.enter(dynamic_cast<QDragEnterEvent &>(event), m_frame.height());
+        return true;
+    case QEvent::DragMove:
+        m_dropTarget.move(dynamic_cast<QDragMoveEvent &>(event), m_frame.height());
+        return true;
+    case QEvent::DragLeave:
+        m_dropTarget.leave();
+        return true;
+    case QEvent::Drop:
+        m_dropTarget.drop(dynamic_cast<QDropEvent &>(event), m_frame.height());
+        return true;
+    default:
+        return false;
+    }
+}
+
+} // namespace corvane

@@ -1,0 +1,119 @@
+#include "platform/system/private_file.h"
+
+#include <QRandomGenerator>
+#include <QStringBuilder>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <utility>
+
+namespace corvane::private_file {
+
+namespace {
+
+QByteArray folderOf(const QByteArray &path)
+{
+    return path.left(path.lastIndexOf('/'));
+}
+
+/// A new file under a name that nobody can foresee, which goes with this.
+struct Unfinished {
+    explicit Unfinished(const QByteArray &folder)
+    {
+        constexpr int hexadecimal = 16;
+        name = folder + "/.unfinished-"
+            + QByteArray::number(QRandomGenerator::system()->generate64(), hexadecimal);
+        constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+        file = FileDescriptor(::open(name.constData(), flags, S_IRUSR | S_IWUSR));
+        isMade = file.isOpen();
+    }
+    Unfinished(const Unfinished &) = delete;
+    Unfinished &operator=(const Unfinished &) = delete;
+    ~Unfinished()
+    {
+        if (isMade)
+            ::unlink(name.constData());
+    }
+
+    QByteArray name;
+    FileDescriptor file;
+    bool isMade = false;
+};
+
+/// The bytes, the lock, and what only closing tells: that the disk was full.
+bool fill(const FileDescriptor &file, const QByteArray &data)
+{
+    if (!file.isOpen() || !file.write(data) || ::flock(file.number(), LOCK_EX | LOCK_NB) != 0)
+        return false;
+    FileDescriptor other(::fcntl(file.number(), F_DUPFD_CLOEXEC, 0));
+    return other.isOpen() && other.close();
+}
+
+/// Gives a file that has no name one, unless something has it already.
+bool name(const FileDescriptor &file, const QByteArray &path)
+{
+    const QByteArray link = "/proc/self/fd/" + QByteArray::number(file.number());
+    return ::linkat(AT_FDCWD, link.constData(), AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW) == 0;
+}
+
+/// Gives a finished file its name, unless something has that name already.
+bool moveInto(const QByteArray &from, const QByteArray &path)
+{
+    if (::link(from.constData(), path.constData()) == 0)
+        return true;
+    struct stat existing = {};
+    // Not every file system knows hard links.
+    return errno != EEXIST && ::lstat(path.constData(), &existing) != 0
+        && ::rename(from.constData(), path.constData()) == 0;
+}
+
+bool makeFolders(const QByteArray &base, const QByteArray &folder)
+{
+    const QByteArray way = folder + '/';
+    for (qsizetype end = base.size(); end >= 0; end = way.indexOf('/', end + 1)) {
+        if (::mkdir(way.first(end).constData(), S_IRWXU) != 0 && errno != EEXIST)
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+bool create(const QByteArray &path, const QByteArray &data)
+{
+    return createLocked(path, data).isOpen();
+}
+
+FileDescriptor createLocked(const QByteArray &path, const QByteArray &data)
+{
+    const QByteArray folder = folderOf(path);
+    FileDescriptor nameless(
+        ::open(folder.constData(), O_WRONLY | O_TMPFILE | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (fill(nameless, data) && name(nameless, path))
+        return nameless;
+    if (nameless.isOpen() && (errno == EEXIST || errno == ENOSPC || errno == EDQUOT))
+        return {};
+    // Not every file system has files without names, and not every container has /proc.
+    Unfinished named(folder);
+    if (!fill(named.file, data) || !moveInto(named.name, path))
+        return {};
+    return std::move(named.file);
+}
+
+bool replace(const QByteArray &base, const QByteArray &folder, const QByteArray &name,
+             const QByteArray &data)
+{
+    if (!makeFolders(base, folder))
+        return false;
+    const Unfinished unfinished(folder);
+    const QByteArray finished = folder + '/' + name;
+    return fill(unfinished.file, data)
+        && ::rename(unfinished.name.constData(), finished.constData()) == 0;
+}
+
+} // namespace corvane::private_file

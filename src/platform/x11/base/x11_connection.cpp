@@ -1,0 +1,231 @@
+#include "platform/x11/base/x11_connection.h"
+
+#include "platform/x11/base/x11_qt.h"
+
+#include <QAbstractEventDispatcher>
+#include <QDeadlineTimer>
+#include <QSocketNotifier>
+
+#include <poll.h>
+#include <xcb/xfixes.h>
+#include <xcb/xinput.h>
+
+#include <cstdlib>
+#include <cstring>
+#include <utility>
+#include <vector>
+
+namespace corvane {
+
+namespace {
+
+/// The connections that live now, for the end of the process.
+std::vector<X11Connection *> &liveConnections()
+{
+    static std::vector<X11Connection *> connections;
+    return connections;
+}
+
+} // namespace
+
+X11Connection::X11Connection(std::function<void()> onLost)
+    : m_onLost(std::move(onLost))
+    , m_connection(xcb_connect(nullptr, &m_screenNumber))
+{
+    if (!isConnected())
+        return;
+    auto screens = xcb_setup_roots_iterator(xcb_get_setup(m_connection));
+    for (int i = 0; i < m_screenNumber && screens.rem > 1; ++i)
+        xcb_screen_next(&screens);
+    m_root = screens.data->root;
+    setUpExtensions();
+
+    m_notifier
+        = new QSocketNotifier(xcb_get_file_descriptor(m_connection), QSocketNotifier::Read, this);
+    connect(m_notifier, &QSocketNotifier::activated, this, &X11Connection::readEvents);
+    // Waiting for a reply may read events along with it, and then the socket has nothing to tell.
+    const auto *dispatcher = QAbstractEventDispatcher::instance();
+    connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this,
+            &X11Connection::handleQueuedEvents);
+    connect(dispatcher, &QAbstractEventDispatcher::awake, this, &X11Connection::handleQueuedEvents);
+
+    // Qt calls `exit` when its own connection breaks, and may notice before we do. The list is
+    // touched first, so that it is there still when the process ends.
+    liveConnections().push_back(this);
+    static const int registered = std::atexit([] {
+        for (X11Connection *connection : liveConnections())
+            connection->noticeLossAtExit();
+    });
+    Q_UNUSED(registered)
+}
+
+X11Connection::~X11Connection()
+{
+    std::erase(liveConnections(), this);
+    delete m_notifier;
+    xcb_disconnect(m_connection);
+}
+
+bool X11Connection::isConnected() const
+{
+    return xcb_connection_has_error(m_connection) == 0;
+}
+
+void X11Connection::setUpExtensions()
+{
+    bool hasBarriers = false;
+    const auto *xfixes = xcb_get_extension_data(m_connection, &xcb_xfixes_id);
+    if (xfixes && xfixes->present) {
+        const X11Reply<xcb_xfixes_query_version_reply_t> version(xcb_xfixes_query_version_reply(
+            m_connection, xcb_xfixes_query_version(m_connection, 5, 0), nullptr));
+        if (version) {
+            m_xfixesEvent = xfixes->first_event;
+            hasBarriers = version->major_version >= 5;
+        }
+    }
+    const auto *xinput = xcb_get_extension_data(m_connection, &xcb_input_id);
+    if (xinput && xinput->present) {
+        // A client that announces less than 2.2 hears nothing while a drag's source holds a grab.
+        const X11Reply<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
+            m_connection, xcb_input_xi_query_version(m_connection, 2, 3), nullptr));
+        if (version && (version->major_version > 2 || version->minor_version >= 2))
+            m_xinputOpcode = xinput->major_opcode;
+        // Barriers are XFixes', their news are of XInput 2.3.
+        const bool tellsHits
+            = version && (version->major_version > 2 || version->minor_version >= 3);
+        m_hasPointerBarriers = hasBarriers && tellsHits;
+    }
+}
+
+xcb_atom_t X11Connection::atom(const char *name)
+{
+    const auto known = m_atoms.find(name);
+    if (known != m_atoms.end())
+        return known->second;
+    const auto length = static_cast<std::uint16_t>(std::strlen(name));
+    const X11Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
+        m_connection, xcb_intern_atom(m_connection, 0, length, name), nullptr));
+    if (!reply)
+        return XCB_NONE;
+    return m_atoms.emplace(name, reply->atom).first->second;
+}
+
+bool X11Connection::isSelectionNotify(const xcb_generic_event_t &event) const
+{
+    const int type = event.response_type & 0x7f;
+    return hasXFixes() && type == m_xfixesEvent + int{XCB_XFIXES_SELECTION_NOTIFY};
+}
+
+xcb_timestamp_t X11Connection::serverTime()
+{
+    makeClock();
+    // Nothing is added to it; the server tells when that happened.
+    const auto asked = xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_clock,
+                                           XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, nullptr);
+    flush();
+    const QDeadlineTimer deadline(timePatience);
+    while (isConnected()) {
+        X11Reply<xcb_generic_event_t> event(xcb_poll_for_event(m_connection));
+        if (!event) {
+            pollfd waiting = {xcb_get_file_descriptor(m_connection), POLLIN, 0};
+            const int patience = static_cast<int>(deadline.remainingTime());
+            if (patience <= 0 || ::poll(&waiting, 1, patience) == 0)
+                break;
+            continue;
+        }
+        const auto &news = reinterpret_cast<const xcb_property_notify_event_t &>(*event);
+        const bool isOurs
+            = (event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && news.window == m_clock;
+        // An answer to an earlier question, which was not waited for, tells an earlier time.
+        if (isOurs && event->full_sequence == asked.sequence)
+            return news.time;
+        if (!isOurs)
+            m_setAside.push_back(std::move(event));
+    }
+    return XCB_CURRENT_TIME;
+}
+
+void X11Connection::makeClock()
+{
+    if (m_clock != XCB_NONE)
+        return;
+    m_clock = xcb_generate_id(m_connection);
+    const std::uint32_t events = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_create_window(m_connection, XCB_COPY_FROM_PARENT, m_clock, m_root, -1, -1, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK,
+                      &events);
+}
+
+X11Connection::ListenerId X11Connection::addListener(Listener listener)
+{
+    m_listeners.emplace(m_nextListener, std::move(listener));
+    return m_nextListener++;
+}
+
+void X11Connection::removeListener(ListenerId id)
+{
+    m_listeners.erase(id);
+}
+
+void X11Connection::readEvents()
+{
+    handleEvents(&xcb_poll_for_event);
+    // Listeners ask for more; nothing else would send it off before the next event.
+    flush();
+    if (!isConnected())
+        noticeLoss();
+}
+
+void X11Connection::handleQueuedEvents()
+{
+    handleEvents(&xcb_poll_for_queued_event);
+    flush();
+}
+
+void X11Connection::handleEvents(Poll poll)
+{
+    const auto next = [this, poll] {
+        if (m_setAside.empty())
+            return X11Reply<xcb_generic_event_t>(poll(m_connection));
+        auto first = std::move(m_setAside.front());
+        m_setAside.pop_front();
+        return first;
+    };
+    while (const auto event = next())
+        dispatch(*event);
+}
+
+void X11Connection::dispatch(const xcb_generic_event_t &event)
+{
+    std::vector<ListenerId> ids;
+    for (const auto &[id, listener] : m_listeners)
+        ids.push_back(id);
+    for (const ListenerId id : ids) {
+        const auto found = m_listeners.find(id);
+        if (found == m_listeners.end())
+            continue;
+        // A copy: it may remove itself.
+        const Listener listener = found->second;
+        listener(event);
+    }
+}
+
+void X11Connection::noticeLossAtExit()
+{
+    // The server closes its connections one after the other: Qt's may be gone while ours is not
+    // yet.
+    auto *const qt = x11_qt::connection();
+    if (!isConnected() || (qt && xcb_connection_has_error(qt) != 0))
+        noticeLoss();
+}
+
+void X11Connection::noticeLoss()
+{
+    // A broken socket stays readable for ever.
+    if (m_notifier)
+        m_notifier->setEnabled(false);
+    if (const auto onLost = std::exchange(m_onLost, {}))
+        onLost();
+}
+
+} // namespace corvane

@@ -1,0 +1,54 @@
+#include "platform/x11/base/x11_qt.h"
+
+#include <QGuiApplication>
+#include <QWindow>
+
+namespace corvane::x11_qt {
+
+namespace {
+
+QNativeInterface::QX11Application *application()
+{
+    return qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
+}
+
+} // namespace
+
+xcb_connection_t *connection()
+{
+    const auto *x11 = application();
+    return x11 ? x11->connection() : nullptr;
+}
+
+bool isOwn(xcb_window_t window)
+{
+    auto *const qt = connection();
+    if (!qt)
+        return false;
+    const xcb_setup_t *setup = xcb_get_setup(qt);
+    return (window & ~setup->resource_id_mask) == setup->resource_id_base;
+}
+
+xcb_window_t nativeWindow(const QWindow &window)
+{
+    return window.handle() ? static_cast<xcb_window_t>(window.winId()) : XCB_NONE;
+}
+
+// Qt would ask with the time of the latest event that it had. That may be long past where the
+// user's key or click went to somebody else, and then the server does nothing.
+void giveKeyboard(const QWindow &window, xcb_timestamp_t time)
+{
+    auto *const qt = connection();
+    const xcb_window_t native = nativeWindow(window);
+    if (!qt || native == XCB_NONE)
+        return;
+    ignoreErrors(xcb_set_input_focus_checked(qt, XCB_INPUT_FOCUS_PARENT, native, time));
+    xcb_flush(qt);
+}
+
+void ignoreErrors(xcb_void_cookie_t cookie)
+{
+    xcb_discard_reply(connection(), cookie.sequence);
+}
+
+} // namespace corvane::x11_qt

@@ -1,0 +1,63 @@
+#include "platform/x11/drags/window_end_watch.h"
+
+#include "platform/x11/base/x11_qt.h"
+#include "platform/x11/base/x11_reply.h"
+
+#include <cstdint>
+#include <map>
+
+namespace corvane {
+
+namespace {
+
+/// What Qt listens to there for reasons of its own, and how many watch the window besides.
+struct Watched {
+    std::uint32_t previousMask = 0;
+    int watches = 0;
+};
+
+std::map<xcb_window_t, Watched> &watched()
+{
+    static std::map<xcb_window_t, Watched> windows;
+    return windows;
+}
+
+void listen(xcb_window_t window, std::uint32_t mask)
+{
+    // The window may be gone by now.
+    x11_qt::ignoreErrors(xcb_change_window_attributes_checked(x11_qt::connection(), window,
+                                                              XCB_CW_EVENT_MASK, &mask));
+    xcb_flush(x11_qt::connection());
+}
+
+} // namespace
+
+WindowEndWatch::WindowEndWatch(xcb_window_t window)
+    : m_window(window)
+{
+    auto *const qt = x11_qt::connection();
+    if (!qt)
+        return;
+    const X11Reply<xcb_get_window_attributes_reply_t> attributes(
+        xcb_get_window_attributes_reply(qt, xcb_get_window_attributes(qt, window), nullptr));
+    m_exists = attributes != nullptr;
+    if (!attributes)
+        return;
+    auto &[previousMask, watches] = watched()[window];
+    if (watches++ > 0)
+        return;
+    previousMask = attributes->your_event_mask;
+    listen(window, previousMask | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+}
+
+WindowEndWatch::~WindowEndWatch()
+{
+    const auto found = watched().find(m_window);
+    if (!m_exists || found == watched().end() || --found->second.watches > 0)
+        return;
+    if (x11_qt::connection())
+        listen(m_window, found->second.previousMask);
+    watched().erase(found);
+}
+
+} // namespace corvane

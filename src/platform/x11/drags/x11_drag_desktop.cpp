@@ -1,0 +1,243 @@
+#include "platform/x11/drags/x11_drag_desktop.h"
+
+#include "platform/base/checked_math.h"
+#include "platform/x11/base/x11_qt.h"
+#include "platform/x11/base/x11_reply.h"
+
+#include <xcb/xfixes.h>
+#include <xcb/xinput.h>
+
+#include <algorithm>
+#include <numeric>
+#include <utility>
+#include <vector>
+
+namespace corvane {
+
+namespace {
+
+constexpr std::uint8_t disabledButton = 0;
+constexpr std::uint8_t firstWheelButton = 4;
+constexpr std::uint8_t lastWheelButton = 7;
+
+std::uint32_t maskFor(bool hearsMotion)
+{
+    std::uint32_t mask
+        = XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_PRESS | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_RELEASE;
+    if (hearsMotion)
+        mask |= XCB_INPUT_XI_EVENT_MASK_RAW_MOTION;
+    return mask;
+}
+
+} // namespace
+
+X11DragDesktop::X11DragDesktop(X11Connection &connection)
+    : m_connection(connection)
+    , m_listener(
+          connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
+{
+    std::iota(m_buttonMapping.begin(), m_buttonMapping.end(), std::uint8_t{1});
+    if (!m_connection.isConnected())
+        return;
+    readButtonMapping();
+    if (m_connection.hasXFixes())
+        xcb_xfixes_select_selection_input(m_connection.get(), m_connection.root(),
+                                          m_connection.atom("XdndSelection"),
+                                          XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER);
+    m_connection.flush();
+}
+
+X11DragDesktop::~X11DragDesktop()
+{
+    listenTo(Listening::Nothing);
+    m_connection.removeListener(m_listener);
+}
+
+std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMonitor(Handler onLeftMouseDragged)
+{
+    return add(m_monitors, std::move(onLeftMouseDragged));
+}
+
+std::optional<EventMonitors::Handle> X11DragDesktop::addLocalMonitor(Handler)
+{
+    return std::nullopt;
+}
+
+std::optional<EventMonitors::Handle>
+X11DragDesktop::addLeftMouseDownMonitor(Handler onLeftMouseDown)
+{
+    return add(m_leftDownMonitors, std::move(onLeftMouseDown));
+}
+
+std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMouseDownMonitor(Handler onMouseDown)
+{
+    return add(m_mouseDownMonitors, std::move(onMouseDown));
+}
+
+std::optional<EventMonitors::Handle> X11DragDesktop::add(Monitors &monitors, Handler handler)
+{
+    if (!canListen())
+        return std::nullopt;
+    // The first one may come in mid-drag.
+    if (m_listening == Listening::Nothing)
+        m_isLeftDown = (pressedMouseButtons() & left) != 0;
+    monitors.emplace(m_nextHandle, std::move(handler));
+    listen();
+    return m_nextHandle++;
+}
+
+void X11DragDesktop::removeMonitor(Handle handle)
+{
+    for (Monitors *monitors : {&m_monitors, &m_leftDownMonitors, &m_mouseDownMonitors})
+        monitors->erase(handle);
+    listen();
+}
+
+unsigned X11DragDesktop::pressedMouseButtons() const
+{
+    const X11Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+        m_connection.get(), xcb_query_pointer(m_connection.get(), m_connection.root()), nullptr));
+    if (!reply)
+        return 0;
+    // X11 counts left, middle, right; here it is left, right, other.
+    const auto isDown = [&](unsigned mask) { return (reply->mask & mask) != 0 ? 1U : 0U; };
+    return isDown(XCB_BUTTON_MASK_1) * left | isDown(XCB_BUTTON_MASK_3) << 1
+        | isDown(XCB_BUTTON_MASK_2) << 2;
+}
+
+void X11DragDesktop::handle(const xcb_generic_event_t &event)
+{
+    const auto type = static_cast<std::uint8_t>(event.response_type & 0x7f);
+    if (m_connection.isSelectionNotify(event)) {
+        handleSelection(event);
+    } else if (type == XCB_MAPPING_NOTIFY) {
+        const auto &mapping = reinterpret_cast<const xcb_mapping_notify_event_t &>(event);
+        if (mapping.request == XCB_MAPPING_POINTER)
+            readButtonMapping();
+    } else if (type == XCB_GE_GENERIC) {
+        const auto &raw = reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event);
+        if (raw.extension != m_connection.xinputOpcode())
+            return;
+        // What was under way when the button's release was handled may still tell of motion.
+        if (raw.event_type == XCB_INPUT_RAW_MOTION && m_isLeftDown)
+            notify(m_monitors);
+        else if (raw.event_type == XCB_INPUT_RAW_BUTTON_PRESS)
+            handleRawButton(raw.detail, true);
+        else if (raw.event_type == XCB_INPUT_RAW_BUTTON_RELEASE)
+            handleRawButton(raw.detail, false);
+    }
+}
+
+void X11DragDesktop::handleSelection(const xcb_generic_event_t &event)
+{
+    const auto &news = reinterpret_cast<const xcb_xfixes_selection_notify_event_t &>(event);
+    if (news.selection != m_connection.atom("XdndSelection"))
+        return;
+    // Some programs give the selection up after a drag, which starts nothing.
+    if (news.owner == XCB_NONE || x11_qt::isOwn(news.owner))
+        return;
+    m_changeCount = checkedAdd(m_changeCount, qint64{1});
+}
+
+void X11DragDesktop::handleRawButton(std::uint32_t button, bool isPress)
+{
+    if (button == 0 || button > m_buttonMapping.size() || m_listening == Listening::Nothing)
+        return;
+    const std::uint8_t logical = m_buttonMapping[button - 1];
+    if (logical >= firstWheelButton && logical <= lastWheelButton)
+        return;
+    noticeLeftButton(button, isPress);
+    if (isPress && logical != disabledButton && !m_mouseDownMonitors.empty() && !isOverOwnWindow())
+        notify(m_mouseDownMonitors);
+}
+
+/// The button's number does not tell whether it is the left one: each device may have an order of
+/// its own. What is down then does.
+void X11DragDesktop::noticeLeftButton(std::uint32_t button, bool isPress)
+{
+    const bool wasDown = m_isLeftDown;
+    // Its release is taken at its word: the button may be down again by the time we ask.
+    const bool isOwnRelease = !isPress && button == m_leftButton;
+    m_isLeftDown = !isOwnRelease && (pressedMouseButtons() & left) != 0;
+    if (!m_isLeftDown)
+        m_leftButton = 0;
+    listen();
+    if (!isPress || !m_isLeftDown || wasDown)
+        return;
+    m_leftButton = button;
+    notify(m_leftDownMonitors);
+}
+
+/// Raw events name no window: the one under the pointer is asked for, from the desktop down through
+/// a window manager's frames.
+bool X11DragDesktop::isOverOwnWindow() const
+{
+    // Deeper than any desktop nests its windows.
+    constexpr int maximumDepth = 32;
+    xcb_window_t window = m_connection.root();
+    for (int depth = 0; depth < maximumDepth; ++depth) {
+        const X11Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+            m_connection.get(), xcb_query_pointer(m_connection.get(), window), nullptr));
+        if (!reply || reply->child == XCB_NONE)
+            return false;
+        if (x11_qt::isOwn(reply->child))
+            return true;
+        window = reply->child;
+    }
+    return false;
+}
+
+bool X11DragDesktop::canListen() const
+{
+    return m_connection.isConnected() && m_connection.hasXInput();
+}
+
+void X11DragDesktop::listen()
+{
+    if (!m_monitors.empty())
+        listenTo(m_isLeftDown ? Listening::ButtonsAndMotion : Listening::Buttons);
+    else
+        listenTo(m_leftDownMonitors.empty() && m_mouseDownMonitors.empty() ? Listening::Nothing
+                                                                           : Listening::Buttons);
+}
+
+void X11DragDesktop::listenTo(Listening what)
+{
+    if (std::exchange(m_listening, what) == what)
+        return;
+    const std::uint32_t mask
+        = what == Listening::Nothing ? 0 : maskFor(what == Listening::ButtonsAndMotion);
+    struct {
+        xcb_input_event_mask_t head;
+        std::uint32_t mask;
+    } const request = {{XCB_INPUT_DEVICE_ALL_MASTER, 1}, mask};
+    xcb_input_xi_select_events(m_connection.get(), m_connection.root(), 1, &request.head);
+    m_connection.flush();
+}
+
+void X11DragDesktop::readButtonMapping()
+{
+    const X11Reply<xcb_get_pointer_mapping_reply_t> reply(xcb_get_pointer_mapping_reply(
+        m_connection.get(), xcb_get_pointer_mapping(m_connection.get()), nullptr));
+    if (!reply)
+        return;
+    const std::uint8_t *map = xcb_get_pointer_mapping_map(reply.get());
+    std::copy_n(map, xcb_get_pointer_mapping_map_length(reply.get()), m_buttonMapping.begin());
+}
+
+void X11DragDesktop::notify(const Monitors &monitors)
+{
+    // By handle, and through a copy: a handler may remove any monitor, itself too.
+    std::vector<Handle> handles;
+    for (const auto &[handle, handler] : monitors)
+        handles.push_back(handle);
+    for (const Handle handle : handles) {
+        const auto found = monitors.find(handle);
+        if (found == monitors.end())
+            continue;
+        const Handler handler = found->second;
+        handler();
+    }
+}
+
+} // namespace corvane

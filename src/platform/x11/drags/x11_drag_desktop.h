@@ -1,0 +1,75 @@
+#pragma once
+
+#include "platform/desktop/drag_pasteboard.h"
+#include "platform/desktop/event_monitors.h"
+#include "platform/desktop/mouse_buttons.h"
+#include "platform/x11/base/x11_connection.h"
+
+#include <array>
+#include <map>
+
+namespace corvane {
+
+/// Notices drags of every program on an X11 desktop.
+///
+/// A program that starts to drag takes the ownership of the drag selection, and the server tells
+/// that. The pointer is heard through raw events, which come also while a drag's source has grabbed
+/// it; its motion only while the left button is held, so that an idle pointer wakes nobody. The
+/// connection must outlive it.
+class X11DragDesktop : public DragPasteboard, public EventMonitors, public MouseButtons {
+public:
+    explicit X11DragDesktop(X11Connection &connection);
+    ~X11DragDesktop() override;
+    X11DragDesktop(const X11DragDesktop &) = delete;
+    X11DragDesktop &operator=(const X11DragDesktop &) = delete;
+
+    qint64 changeCount() const override { return m_changeCount; }
+    std::optional<Handle> addGlobalMonitor(Handler onLeftMouseDragged) override;
+    /// None: the global monitor hears this program too.
+    std::optional<Handle> addLocalMonitor(Handler onLeftMouseDragged) override;
+    std::optional<Handle> addLeftMouseDownMonitor(Handler onLeftMouseDown) override;
+    std::optional<Handle> addGlobalMouseDownMonitor(Handler onMouseDown) override;
+    void removeMonitor(Handle handle) override;
+    unsigned pressedMouseButtons() const override;
+
+private:
+    using Monitors = std::map<Handle, Handler>;
+
+    enum class Listening {
+        Nothing,
+        Buttons,
+        ButtonsAndMotion,
+    };
+
+    void handle(const xcb_generic_event_t &event);
+    void handleSelection(const xcb_generic_event_t &event);
+    void handleRawButton(std::uint32_t button, bool isPress);
+    std::optional<Handle> add(Monitors &monitors, Handler handler);
+    void noticeLeftButton(std::uint32_t button, bool isPress);
+    bool canListen() const;
+    /// What its monitors need, and no more.
+    void listen();
+    void listenTo(Listening what);
+    void readButtonMapping();
+    bool isOverOwnWindow() const;
+    static void notify(const Monitors &monitors);
+
+    X11Connection &m_connection;
+    X11Connection::ListenerId m_listener;
+    qint64 m_changeCount = 0;
+    Listening m_listening = Listening::Nothing;
+    /// Which logical button each physical one is, for wheels and buttons that are switched off:
+    /// raw events tell physical ones. It holds for all devices together. Left-handed people may
+    /// exchange the buttons of one device alone, so which button is the left one is not told by
+    /// it.
+    std::array<std::uint8_t, 256> m_buttonMapping{};
+    bool m_isLeftDown = false;
+    /// The physical button that is down as the left one; 0 where that is not known.
+    std::uint32_t m_leftButton = 0;
+    Monitors m_monitors;
+    Monitors m_leftDownMonitors;
+    Monitors m_mouseDownMonitors;
+    Handle m_nextHandle = 1;
+};
+
+} // namespace corvane

@@ -1,0 +1,83 @@
+#pragma once
+
+#include "platform/desktop/drop_support.h"
+#include "platform/x11/drags/selection_reader.h"
+#include "platform/x11/drags/x11_incoming_drag.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QObject>
+#include <QPointer>
+#include <QWindow>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace corvane {
+
+/// What other programs drag and drop on our panels, seen before Qt sees it.
+///
+///     XdndEnter ----> who drags, and what it offers
+///     XdndPosition -> Qt; held back, where the answer depends on addresses, until these are here
+///     XdndDrop -----> Qt sees the drag leave; the receiver fetches what it wants in its own time,
+///                     and then the source is told how its drop ended
+///
+/// What Qt's own windows drag to each other does not come this way. The connection and the queue
+/// must outlive it; it must be made after the application object. When the program ends, the
+/// sources that still wait are told.
+class X11DropSupport : public DropSupport, public QAbstractNativeEventFilter {
+public:
+    /// Seconds that an answer to a hovering source is put off for addresses that do not come.
+    static constexpr double hoverPatience = 5;
+    /// More than these bytes of addresses are none.
+    static constexpr qsizetype maximumAddressBytes = 64LL * 1024 * 1024;
+    /// More drops at once are refused.
+    static constexpr std::size_t maximumDrops = 32;
+
+    X11DropSupport(X11Connection &connection, MainQueue &queue);
+    ~X11DropSupport() override;
+    X11DropSupport(const X11DropSupport &) = delete;
+    X11DropSupport &operator=(const X11DropSupport &) = delete;
+
+    void addReceiver(QWindow &window, DropReceiver &receiver) override;
+    void removeReceiver(DropReceiver &receiver) override;
+    std::shared_ptr<IncomingDrag> incomingDrag() override { return m_drag; }
+
+    bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
+
+private:
+    struct Place {
+        QPointer<QWindow> window;
+        DropReceiver *receiver = nullptr;
+    };
+
+    DropReceiver *receiverOf(xcb_window_t window) const;
+    void enter(const xcb_client_message_event_t &message, const DropReceiver &receiver);
+    /// True where Qt hears of it later.
+    bool position(const xcb_client_message_event_t &message, const DropReceiver &receiver);
+    /// What was over a panel, which is nothing from now on.
+    std::shared_ptr<X11IncomingDrag> leave();
+    void drop(xcb_client_message_event_t &message, DropReceiver &receiver);
+    void fetchAddresses(QStringList types);
+    void decide();
+    void finishDrops();
+
+    X11Connection &m_connection;
+    MainQueue &m_queue;
+    SelectionReader m_reader;
+    std::vector<Place> m_places;
+    std::shared_ptr<X11IncomingDrag> m_drag;
+    enum class Addresses {
+        NotNeeded,
+        Needed,
+        Asked,
+    } m_addresses
+        = Addresses::NotNeeded;
+    /// The latest position of a drag that nobody has heard of yet.
+    std::optional<xcb_client_message_event_t> m_held;
+    std::vector<std::weak_ptr<X11IncomingDrag>> m_drops;
+    QMetaObject::Connection m_programEnds;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

@@ -1,0 +1,219 @@
+#include "platform/x11/keys/x11_hot_keys.h"
+
+#include "platform/base/main_queue.h"
+#include "platform/desktop/virtual_key_codes.h"
+#include "platform/x11/base/x11_reply.h"
+
+#include <QtDebug>
+
+#include <algorithm>
+#include <utility>
+
+namespace corvane {
+
+class X11HotKeys::Counted : public Suspension {
+public:
+    explicit Counted(X11HotKeys &keys)
+        : m_keys(keys)
+    {
+        if (m_keys.m_suspensions++ == 0)
+            m_keys.ungrabAll();
+    }
+    ~Counted() override { m_keys.resume(); }
+
+private:
+    X11HotKeys &m_keys;
+};
+
+X11HotKeys::X11HotKeys(X11Connection &connection, MainQueue &queue)
+    : m_connection(connection)
+    , m_queue(queue)
+    , m_listener(
+          connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
+    , m_mapping(X11Modifiers::read(connection.get()))
+{
+}
+
+X11HotKeys::~X11HotKeys()
+{
+    ungrabAll();
+    m_connection.removeListener(m_listener);
+}
+
+std::optional<HotKeyService::HandlerRef> X11HotKeys::installHandler(Handler onPressed)
+{
+    if (!m_connection.isConnected())
+        return std::nullopt;
+    m_handlers.push_back(std::move(onPressed));
+    return static_cast<HandlerRef>(m_handlers.size());
+}
+
+std::optional<HotKeyService::Handle> X11HotKeys::registerHotKey(std::uint32_t keyCode,
+                                                                std::uint32_t modifiers,
+                                                                const HotKeyIdentifier &identifier)
+{
+    const auto combination = combinationFor(keyCode, modifiers);
+    const bool isTwin = std::ranges::any_of(m_hotKeys, [&](const auto &other) {
+        return other.second.keyCode == keyCode && other.second.modifiers == modifiers;
+    });
+    if (!combination || isTwin || !grab(*combination))
+        return std::nullopt;
+    HotKey hotKey = {keyCode, modifiers, identifier, combination, false};
+    if (m_suspensions > 0) {
+        ungrab(*combination);
+        hotKey.grabbed.reset();
+    }
+    m_hotKeys.emplace(m_nextHandle, hotKey);
+    return m_nextHandle++;
+}
+
+void X11HotKeys::unregisterHotKey(Handle handle)
+{
+    const auto found = m_hotKeys.find(handle);
+    if (found == m_hotKeys.end())
+        return;
+    if (found->second.grabbed)
+        ungrab(*found->second.grabbed);
+    m_hotKeys.erase(found);
+}
+
+std::unique_ptr<HotKeyService::Suspension> X11HotKeys::suspend()
+{
+    return std::make_unique<Counted>(*this);
+}
+
+void X11HotKeys::resume()
+{
+    if (--m_suspensions == 0)
+        grabAll();
+}
+
+std::optional<X11HotKeys::Combination> X11HotKeys::combinationFor(std::uint32_t keyCode,
+                                                                  std::uint32_t modifiers) const
+{
+    const auto evdevCode = virtual_key_codes::toEvdev(keyCode);
+    const auto mask = m_mapping.maskFor(modifiers);
+    if (!m_connection.isConnected() || !evdevCode || !mask)
+        return std::nullopt;
+    const std::uint32_t key = *evdevCode + virtual_key_codes::x11Offset;
+    const auto *setup = xcb_get_setup(m_connection.get());
+    if (key < setup->min_keycode || key > setup->max_keycode || m_mapping.keys.test(key))
+        return std::nullopt;
+    return Combination{static_cast<xcb_keycode_t>(key), *mask};
+}
+
+bool X11HotKeys::isHeldByOurselves(const Combination &combination) const
+{
+    return std::ranges::any_of(
+        m_hotKeys, [&](const auto &hotKey) { return hotKey.second.grabbed == combination; });
+}
+
+bool X11HotKeys::grab(const Combination &combination)
+{
+    // The server refuses what another program holds, but not what we hold ourselves.
+    if (!m_connection.isConnected() || isHeldByOurselves(combination))
+        return false;
+    std::vector<xcb_void_cookie_t> requests;
+    for (const std::uint16_t locks : m_mapping.lockVariants())
+        requests.push_back(
+            xcb_grab_key_checked(m_connection.get(), 0, m_connection.root(),
+                                 static_cast<std::uint16_t>(combination.modifiers | locks),
+                                 combination.key, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+    bool isRefused = false;
+    for (const xcb_void_cookie_t request : requests) {
+        const X11Reply<xcb_generic_error_t> error(xcb_request_check(m_connection.get(), request));
+        isRefused = isRefused || error;
+    }
+    // A connection that broke meanwhile reports no error.
+    isRefused = isRefused || !m_connection.isConnected();
+    if (isRefused)
+        ungrab(combination);
+    return !isRefused;
+}
+
+void X11HotKeys::ungrab(const Combination &combination)
+{
+    for (const std::uint16_t locks : m_mapping.lockVariants())
+        xcb_ungrab_key(m_connection.get(), combination.key, m_connection.root(),
+                       static_cast<std::uint16_t>(combination.modifiers | locks));
+    // Whoever is told that it is free may take it at once.
+    m_connection.flush();
+}
+
+void X11HotKeys::grabAll()
+{
+    bool isNews = false;
+    for (auto &[handle, hotKey] : m_hotKeys) {
+        if (hotKey.grabbed)
+            continue;
+        const auto combination = combinationFor(hotKey.keyCode, hotKey.modifiers);
+        if (combination && grab(*combination))
+            hotKey.grabbed = combination;
+        const bool wasLost = std::exchange(hotKey.isLost, !hotKey.grabbed);
+        isNews = isNews || (hotKey.isLost && !wasLost);
+    }
+    if (isNews)
+        qWarning("[Corvane] A shortcut cannot be taken again: another program has it now, or the "
+                 "keyboard lacks one of its keys.");
+}
+
+void X11HotKeys::ungrabAll()
+{
+    for (auto &[handle, hotKey] : m_hotKeys) {
+        if (hotKey.grabbed)
+            ungrab(*hotKey.grabbed);
+        hotKey.grabbed.reset();
+    }
+}
+
+void X11HotKeys::handle(const xcb_generic_event_t &event)
+{
+    // The highest bit marks what another program has sent, which is no key.
+    const std::uint8_t type = event.response_type;
+    if (type == XCB_KEY_PRESS) {
+        handlePress(reinterpret_cast<const xcb_key_press_event_t &>(event));
+    } else if (type == XCB_KEY_RELEASE) {
+        const auto &release = reinterpret_cast<const xcb_key_release_event_t &>(event);
+        m_released = {release.detail, release.time};
+    } else if (type == XCB_MAPPING_NOTIFY && !m_willReread
+               && reinterpret_cast<const xcb_mapping_notify_event_t &>(event).request
+                   != XCB_MAPPING_POINTER) {
+        // One change of the layout is told in many events.
+        m_willReread = true;
+        m_queue.async([weak = std::weak_ptr(m_self)] {
+            if (const auto self = weak.lock())
+                (*self)->rereadMapping();
+        });
+    }
+}
+
+void X11HotKeys::handlePress(const xcb_key_press_event_t &press)
+{
+    if (m_released == std::pair{press.detail, press.time} || m_suspensions > 0)
+        return;
+    const auto modifiers = static_cast<std::uint16_t>(press.state & m_mapping.significant());
+    const auto found = std::ranges::find_if(m_hotKeys, [&](const auto &hotKey) {
+        return hotKey.second.grabbed == Combination{press.detail, modifiers};
+    });
+    if (found == m_hotKeys.end())
+        return;
+    const HotKeyIdentifier identifier = found->second.identifier;
+    // A copy: a handler may install another.
+    for (const Handler &handler : std::vector(m_handlers))
+        handler(identifier);
+}
+
+void X11HotKeys::rereadMapping()
+{
+    m_willReread = false;
+    const X11Modifiers mapping = X11Modifiers::read(m_connection.get());
+    if (mapping == m_mapping || !m_connection.isConnected())
+        return;
+    // By the bits that they were taken with.
+    ungrabAll();
+    m_mapping = mapping;
+    if (m_suspensions == 0)
+        grabAll();
+}
+
+} // namespace corvane

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "platform/desktop/hot_key_service.h"
+#include "platform/x11/base/x11_connection.h"
+#include "platform/x11/keys/x11_modifiers.h"
+
+#include <map>
+#include <memory>
+#include <utility>
+#include <vector>
+
+namespace corvane {
+
+class MainQueue;
+
+/// Hot keys as passive grabs on the root window, which work whichever program has the keyboard and
+/// also while one drags with the pointer grabbed.
+///
+/// A grab names a key by its position and modifiers by their bits, so a change of the layout costs
+/// nothing; one of the modifiers takes all grabs anew. One that cannot be had again then, or after
+/// a suspension, is logged, and tried for again at the next such occasion. The connection and the
+/// queue must outlive it.
+class X11HotKeys : public HotKeyService {
+public:
+    X11HotKeys(X11Connection &connection, MainQueue &queue);
+    ~X11HotKeys() override;
+    X11HotKeys(const X11HotKeys &) = delete;
+    X11HotKeys &operator=(const X11HotKeys &) = delete;
+
+    std::optional<HandlerRef> installHandler(Handler onPressed) override;
+    std::optional<Handle> registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers,
+                                         const HotKeyIdentifier &identifier) override;
+    void unregisterHotKey(Handle handle) override;
+    std::unique_ptr<Suspension> suspend() override;
+
+private:
+    /// What the server is asked for.
+    struct Combination {
+        xcb_keycode_t key = 0;
+        std::uint16_t modifiers = 0;
+
+        friend bool operator==(const Combination &, const Combination &) = default;
+    };
+    struct HotKey {
+        std::uint32_t keyCode = 0;
+        std::uint32_t modifiers = 0;
+        HotKeyIdentifier identifier;
+        /// None while it could not be had.
+        std::optional<Combination> grabbed;
+        /// It was to be taken again, and could not: said once.
+        bool isLost = false;
+    };
+    class Counted;
+
+    std::optional<Combination> combinationFor(std::uint32_t keyCode, std::uint32_t modifiers) const;
+    bool isHeldByOurselves(const Combination &combination) const;
+    bool grab(const Combination &combination);
+    void ungrab(const Combination &combination);
+    void grabAll();
+    void ungrabAll();
+
+    void handle(const xcb_generic_event_t &event);
+    void handlePress(const xcb_key_press_event_t &press);
+    void rereadMapping();
+    void resume();
+
+    X11Connection &m_connection;
+    MainQueue &m_queue;
+    X11Connection::ListenerId m_listener;
+    X11Modifiers m_mapping;
+    std::map<Handle, HotKey> m_hotKeys;
+    Handle m_nextHandle = 1;
+    std::vector<Handler> m_handlers;
+    int m_suspensions = 0;
+    bool m_willReread = false;
+    /// Of the latest release; a repeated press carries the time of a release that nobody made.
+    std::pair<xcb_keycode_t, xcb_timestamp_t> m_released{0, 0};
+    std::shared_ptr<X11HotKeys *> m_self = std::make_shared<X11HotKeys *>(this);
+};
+
+} // namespace corvane

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "platform/desktop/pointer.h"
+#include "platform/desktop/screens.h"
+#include "platform/x11/base/x11_connection.h"
+
+#include <QPoint>
+
+#include <vector>
+
+namespace corvane {
+
+/// The pointer as the server has it, to the pixel. Qt rounds it to whole points: where a point is
+/// several pixels, the last ones of a screen would lie beyond it. Both references must outlive it.
+class X11Pointer : public Pointer {
+public:
+    X11Pointer(X11Connection &connection, const Screens &screens);
+
+    std::optional<QPointF> location() const override;
+
+    /// The middle of a pixel in global points, inside the screen that shows it. A pixel that no
+    /// screen shows is placed from the first one on; none without a screen.
+    static std::optional<QPointF> locationOf(QPoint pixel,
+                                             const std::vector<ScreenPointer> &screens);
+
+private:
+    X11Connection &m_connection;
+    const Screens &m_screens;
+};
+
+} // namespace corvane

@@ -1,0 +1,96 @@
+#include "platform/x11/windows/x11_full_screen_windows.h"
+
+#include "platform/desktop/screens.h"
+#include "platform/x11/base/x11_reply.h"
+#include "platform/x11/windows/x11_window_manager.h"
+
+#include <algorithm>
+
+namespace corvane {
+
+bool X11FullScreenWindows::isCovered(const Screen &screen) const
+{
+    const QPoint place(screen.nativeFrame.center().x(), screen.nativeFrame.top());
+    // In front there may be something small, such as a notification, and below it the film that has
+    // the keyboard.
+    const xcb_window_t active = X11WindowManager(m_connection).activeWindow();
+    if (active != XCB_NONE && isFullScreen(active)) {
+        const auto frame = frameOf(active);
+        if (frame && frame->contains(place))
+            return true;
+    }
+    const xcb_window_t front = childAt(m_connection.root(), place);
+    if (front != XCB_NONE && coversUnmanaged(front, screen.nativeFrame))
+        return true;
+    // Down through a window manager's frames, which are never deep.
+    constexpr int maximumDepth = 8;
+    xcb_window_t window = front;
+    for (int depth = 0; window != XCB_NONE && depth < maximumDepth; ++depth) {
+        if (isFullScreen(window))
+            return true;
+        window = childAt(window, place);
+    }
+    return false;
+}
+
+bool X11FullScreenWindows::isFullScreen(xcb_window_t window) const
+{
+    return hasAtom(window, "_NET_WM_STATE", "_NET_WM_STATE_FULLSCREEN");
+}
+
+bool X11FullScreenWindows::coversUnmanaged(xcb_window_t window, const QRect &screen) const
+{
+    const X11Reply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+        m_connection.get(), xcb_get_window_attributes(m_connection.get(), window), nullptr));
+    // Window managers keep windows of their own, with nothing in them, below all others.
+    if (!attributes || attributes->override_redirect == 0
+        || attributes->_class == XCB_WINDOW_CLASS_INPUT_ONLY)
+        return false;
+    const auto frame = frameOf(window);
+    // The screen's size may be rounded up.
+    const bool covers = frame && frame->adjusted(-1, -1, 1, 1).contains(screen);
+    return covers && !hasAtom(window, "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DESKTOP");
+}
+
+bool X11FullScreenWindows::hasAtom(xcb_window_t window, const char *property,
+                                   const char *value) const
+{
+    // More than there are states.
+    constexpr std::uint32_t maximumCount = 64;
+    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+        m_connection.get(),
+        xcb_get_property(m_connection.get(), 0, window, m_connection.atom(property), XCB_ATOM_ATOM,
+                         0, maximumCount),
+        nullptr));
+    if (!reply || reply->format != 32)
+        return false;
+    const auto *const atoms = static_cast<const xcb_atom_t *>(xcb_get_property_value(reply.get()));
+    const auto *const end = atoms + reply->value_len;
+    return std::find(atoms, end, m_connection.atom(value)) != end;
+}
+
+/// The visible child that takes clicks at a point of the root window.
+xcb_window_t X11FullScreenWindows::childAt(xcb_window_t window, QPoint point) const
+{
+    const X11Reply<xcb_translate_coordinates_reply_t> reply(xcb_translate_coordinates_reply(
+        m_connection.get(),
+        xcb_translate_coordinates(m_connection.get(), m_connection.root(), window,
+                                  static_cast<std::int16_t>(point.x()),
+                                  static_cast<std::int16_t>(point.y())),
+        nullptr));
+    return reply ? reply->child : XCB_NONE;
+}
+
+std::optional<QRect> X11FullScreenWindows::frameOf(xcb_window_t window) const
+{
+    const X11Reply<xcb_get_geometry_reply_t> geometry(xcb_get_geometry_reply(
+        m_connection.get(), xcb_get_geometry(m_connection.get(), window), nullptr));
+    const X11Reply<xcb_translate_coordinates_reply_t> place(xcb_translate_coordinates_reply(
+        m_connection.get(),
+        xcb_translate_coordinates(m_connection.get(), window, m_connection.root(), 0, 0), nullptr));
+    if (!geometry || !place)
+        return std::nullopt;
+    return QRect(place->dst_x, place->dst_y, geometry->width, geometry->height);
+}
+
+} // namespace corvane

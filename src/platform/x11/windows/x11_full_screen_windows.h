@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/desktop/full_screen_windows.h"
+#include "platform/x11/base/x11_connection.h"
+
+#include <QRect>
+
+#include <optional>
+
+namespace corvane {
+
+/// Full-screen windows as window managers mark them, and those that no window manager manages and
+/// that cover a whole screen. Asks the server anew each time. The connection must outlive it.
+class X11FullScreenWindows : public FullScreenWindows {
+public:
+    explicit X11FullScreenWindows(X11Connection &connection)
+        : m_connection(connection)
+    {
+    }
+
+    bool isCovered(const Screen &screen) const override;
+
+private:
+    bool isFullScreen(xcb_window_t window) const;
+    bool coversUnmanaged(xcb_window_t window, const QRect &screen) const;
+    bool hasAtom(xcb_window_t window, const char *property, const char *value) const;
+    xcb_window_t childAt(xcb_window_t window, QPoint point) const;
+    std::optional<QRect> frameOf(xcb_window_t window) const;
+
+    X11Connection &m_connection;
+};
+
+} // namespace corvane

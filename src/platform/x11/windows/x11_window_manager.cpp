@@ -1,0 +1,58 @@
+#include "platform/x11/windows/x11_window_manager.h"
+
+#include "platform/x11/base/x11_reply.h"
+
+namespace corvane {
+
+bool X11WindowManager::isRunning() const
+{
+    return rootProperty("_NET_SUPPORTING_WM_CHECK") != XCB_NONE;
+}
+
+xcb_window_t X11WindowManager::activeWindow() const
+{
+    return rootProperty("_NET_ACTIVE_WINDOW");
+}
+
+void X11WindowManager::activate(xcb_window_t window, xcb_connection_t *on,
+                                xcb_timestamp_t time) const
+{
+    tellTime(on);
+    // As a pager would: a program that asks for itself may be refused.
+    constexpr std::uint32_t fromPager = 2;
+    xcb_client_message_event_t message = {};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = window;
+    message.type = m_connection.atom("_NET_ACTIVE_WINDOW");
+    message.data.data32[0] = fromPager;
+    message.data.data32[1] = time;
+    xcb_send_event(on, 0, m_connection.root(),
+                   XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
+                   reinterpret_cast<const char *>(&message));
+    xcb_flush(on);
+}
+
+/// Some window managers do not use the time that they are told but that of the latest event that
+/// they happened to see. So they see one: a property of the root window comes and goes.
+void X11WindowManager::tellTime(xcb_connection_t *on) const
+{
+    const xcb_atom_t property = m_connection.atom("_CORVANE_TIME");
+    xcb_change_property(on, XCB_PROP_MODE_APPEND, m_connection.root(), property, XCB_ATOM_CARDINAL,
+                        32, 0, nullptr);
+    xcb_delete_property(on, m_connection.root(), property);
+}
+
+xcb_window_t X11WindowManager::rootProperty(const char *name) const
+{
+    const X11Reply<xcb_get_property_reply_t> reply(
+        xcb_get_property_reply(m_connection.get(),
+                               xcb_get_property(m_connection.get(), 0, m_connection.root(),
+                                                m_connection.atom(name), XCB_ATOM_WINDOW, 0, 1),
+                               nullptr));
+    if (!reply || xcb_get_property_value_length(reply.get()) < int{sizeof(xcb_window_t)})
+        return XCB_NONE;
+    return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));
+}
+
+} // namespace corvane

@@ -1,0 +1,90 @@
+#include "preview/details_view.h"
+
+#include "preview/elided_label.h"
+
+#include <QHBoxLayout>
+#include <QPainter>
+#include <QVBoxLayout>
+
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+class IconView : public QWidget {
+public:
+    IconView(QImage image, QWidget *parent)
+        : QWidget(parent)
+        , m_image(std::move(image))
+    {
+        setFixedSize(DetailsView::iconSide, DetailsView::iconSide);
+    }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.drawImage(QRectF(rect()), m_image);
+    }
+
+private:
+    QImage m_image;
+};
+
+QStringList linesOf(const PreviewContent &content)
+{
+    if (std::holds_alternative<PreviewContent::Missing>(content.body))
+        return {QStringLiteral("This item is no longer there.")};
+    const PreviewDetails &details = content.details;
+    QStringList what;
+    for (const QString &part : {details.kind, details.size}) {
+        if (!part.isEmpty())
+            what << part;
+    }
+    QStringList lines;
+    if (!what.isEmpty())
+        lines << what.join(QStringLiteral("  ·  "));
+    if (!details.modified.isEmpty())
+        lines << QLatin1String("Modified ") + details.modified;
+    return lines;
+}
+
+} // namespace
+
+DetailsView::DetailsView(const PreviewContent &content, const Image &icon, QWidget *parent)
+    : QWidget(parent)
+{
+    constexpr int margin = 32;
+    constexpr int gap = 28;
+    constexpr int lineGap = 6;
+    constexpr double nameSize = 1.25;
+    auto *const row = new QHBoxLayout(this);
+    row->setContentsMargins(margin, margin, margin, margin);
+    row->setSpacing(gap);
+    row->addWidget(new IconView(icon.bitmap, this), 0, Qt::AlignVCenter);
+
+    auto *const column = new QVBoxLayout;
+    column->setSpacing(lineGap);
+    column->addStretch();
+    auto *const name = new ElidedLabel(this);
+    QFont font = name->font();
+    font.setPointSizeF(font.pointSizeF() * nameSize);
+    font.setWeight(QFont::DemiBold);
+    name->setFont(font);
+    name->setMaximumLines(2);
+    name->setText(content.details.name);
+    column->addWidget(name);
+    const QStringList lines = linesOf(content);
+    for (const QString &line : lines) {
+        auto *const label = new ElidedLabel(this);
+        label->setSubdued(true);
+        label->setText(line);
+        column->addWidget(label);
+    }
+    column->addStretch();
+    row->addLayout(column, 1);
+}
+
+} // namespace corvane

@@ -1,0 +1,95 @@
+#include "preview/elided_label.h"
+
+#include <QPainter>
+#include <QTextLayout>
+
+namespace corvane {
+
+ElidedLabel::ElidedLabel(QWidget *parent)
+    : QWidget(parent)
+{
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void ElidedLabel::setText(const QString &text)
+{
+    m_text = text;
+    setAccessibleName(text);
+    updateGeometry();
+    update();
+}
+
+void ElidedLabel::setSubdued(bool isSubdued)
+{
+    m_isSubdued = isSubdued;
+    update();
+}
+
+void ElidedLabel::setMaximumLines(int count)
+{
+    m_maximumLines = count;
+    QSizePolicy policy = sizePolicy();
+    policy.setHeightForWidth(count > 1);
+    policy.setVerticalPolicy(count > 1 ? QSizePolicy::Preferred : QSizePolicy::Fixed);
+    setSizePolicy(policy);
+    updateGeometry();
+    update();
+}
+
+QStringList ElidedLabel::lines(int width) const
+{
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QTextLayout layout(m_text, font());
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QStringList lines;
+    qsizetype begin = 0;
+    while (lines.size() + 1 < m_maximumLines) {
+        QTextLine line = layout.createLine();
+        if (!line.isValid())
+            break;
+        line.setLineWidth(width);
+        lines << m_text.mid(begin, line.textLength()).trimmed();
+        begin += line.textLength();
+    }
+    layout.endLayout();
+    if (begin < m_text.size() || lines.isEmpty())
+        lines << fontMetrics().elidedText(m_text.mid(begin), Qt::ElideMiddle, width);
+    return lines;
+}
+
+QSize ElidedLabel::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(m_text) + 1, fontMetrics().height()};
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {0, fontMetrics().height()};
+}
+
+int ElidedLabel::heightForWidth(int width) const
+{
+    return static_cast<int>(lines(width).size()) * fontMetrics().height();
+}
+
+void ElidedLabel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    QColor color = palette().color(QPalette::WindowText);
+    constexpr float subdued = 0.65F;
+    if (m_isSubdued)
+        color.setAlphaF(subdued);
+    painter.setPen(color);
+    const QStringList shown = lines(width());
+    const int height = fontMetrics().height();
+    int y = (rect().height() - height * static_cast<int>(shown.size())) / 2;
+    for (const QString &line : shown) {
+        painter.drawText(QRect(0, y, width(), height),
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, line);
+        y += height;
+    }
+}
+
+} // namespace corvane

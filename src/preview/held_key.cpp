@@ -1,0 +1,36 @@
+#include "preview/held_key.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+namespace corvane {
+
+void HeldKey::watch()
+{
+    // It never stands twice, and moves to the front.
+    QCoreApplication::instance()->installEventFilter(this);
+}
+
+void HeldKey::swallow(const QKeyEvent &press)
+{
+    m_swallowed = press.nativeScanCode();
+}
+
+bool HeldKey::eventFilter(QObject * /*object*/, QEvent *event)
+{
+    const bool isRelease = event->type() == QEvent::KeyRelease;
+    if (!isRelease && event->type() != QEvent::KeyPress
+        && event->type() != QEvent::ShortcutOverride)
+        return false;
+    const auto &key = dynamic_cast<const QKeyEvent &>(*event);
+    if (isRelease)
+        m_repeats.released(key);
+    if (m_swallowed == 0 || key.nativeScanCode() != m_swallowed)
+        return false;
+    if (isRelease || isRepeat(key))
+        return true;
+    m_swallowed = 0;
+    return false;
+}
+
+} // namespace corvane

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/preview/preview_content.h"
+
+#include <QAbstractScrollArea>
+
+#include <map>
+
+namespace corvane {
+
+/// The pages of a document below each other. A page is rendered when it comes near the view and
+/// forgotten when it is far. The loading must outlive it.
+class PagesView : public QAbstractScrollArea {
+public:
+    PagesView(PreviewContent::Pages pages, PreviewLoading &loading, QWidget *parent = nullptr);
+    ~PagesView() override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void scrollContentsBy(int dx, int dy) override;
+
+private:
+    struct Rendering {
+        QImage image;
+        QSize pixels;
+    };
+    /// Indices of the pages that the view shows, with one more at either end.
+    std::pair<int, int> nearPages() const;
+    QSize pixelsOf(int page) const;
+    void renderNear();
+
+    PreviewContent::Pages m_pages;
+    PreviewLoading &m_loading;
+    QList<QRectF> m_rects;
+    std::map<int, Rendering> m_renderings;
+    bool m_isRendering = false;
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

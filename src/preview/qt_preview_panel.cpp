@@ -1,0 +1,222 @@
+#include "preview/qt_preview_panel.h"
+
+#include "platform/base/main_queue.h"
+#include "platform/desktop/panel_window.h"
+#include "platform/desktop/window_activation.h"
+#include "platform/pictures/file_icons.h"
+#include "platform/qt/desktop/qt_geometry.h"
+#include "platform/qt/pictures/program_icon.h"
+#include "platform/system/desktop_services.h"
+#include "preview/details_view.h"
+#include "preview/preview_geometry.h"
+#include "preview/preview_window.h"
+#include "preview/text_view.h"
+
+#include <QFontMetrics>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QScreen>
+
+#include <utility>
+
+namespace corvane {
+
+QtPreviewPanel::QtPreviewPanel(const Context &context)
+    : m_context(context)
+{
+}
+
+QtPreviewPanel::~QtPreviewPanel()
+{
+    QtPreviewPanel::setController(nullptr);
+}
+
+void QtPreviewPanel::setController(PreviewPanelController *controller)
+{
+    if (!controller)
+        QtPreviewPanel::orderOut();
+    m_controller = controller;
+}
+
+void QtPreviewPanel::makeKeyAndOrderFront()
+{
+    if (m_isVisible) {
+        if (m_window)
+            m_context.activation.bringToFront(*m_window->windowHandle());
+        return;
+    }
+    if (!m_controller || !m_controller->acceptsPreviewPanelControl(*this))
+        return;
+    m_isVisible = true;
+    m_showing = std::make_shared<bool>(true);
+    m_previous = QGuiApplication::focusWindow();
+    m_heldKey.watch();
+    m_controller->beginPreviewPanelControl(*this);
+}
+
+void QtPreviewPanel::reloadData()
+{
+    if (!m_isVisible || !m_dataSource)
+        return;
+    const auto url = m_dataSource->numberOfPreviewItems() > 0 ? m_dataSource->previewItemAt(0)
+                                                              : std::optional<QUrl>();
+    m_content = {};
+    m_content.url = url.value_or(QUrl());
+    m_content.details = m_context.loading.placeholder(m_content.url);
+    m_title = m_dataSource->previewItemTitle(0);
+    if (m_title)
+        m_content.details.name = *m_title;
+    m_content.details.kind = QStringLiteral("Loading…");
+    if (url)
+        load(*url);
+    else
+        m_context.loading.cancel();
+    if (m_window)
+        setContent();
+    else if (!url || m_context.loading.mayNeverAnswer(*url))
+        open();
+    else
+        openSoon();
+}
+
+void QtPreviewPanel::load(const QUrl &url)
+{
+    const QScreen *const target = screen();
+    const double scale = target ? target->devicePixelRatio() : 1;
+    const QSizeF room = target ? QSizeF(target->availableSize()) : QSizeF(1280, 720);
+    const QSizeF wanted
+        = room * preview_geometry::largestPart - QSizeF(0, preview_geometry::barHeight);
+    m_context.loading.load(url, (wanted * scale).toSize(),
+                           [this](PreviewContent content) { loaded(std::move(content)); });
+}
+
+void QtPreviewPanel::openSoon()
+{
+    m_context.queue.asyncAfter(patience, [this, showing = std::weak_ptr(m_showing)] {
+        if (!showing.expired() && !m_window)
+            open();
+    });
+}
+
+void QtPreviewPanel::loaded(PreviewContent content)
+{
+    m_content = std::move(content);
+    if (m_title) {
+        m_content.details.name = *m_title;
+        m_content.canBeOpened = false;
+    }
+    if (m_window)
+        setContent();
+    else
+        open();
+}
+
+void QtPreviewPanel::open()
+{
+    m_window = std::make_unique<PreviewWindow>(m_context.loading, m_context.queue);
+    m_window->onClose = [this] { orderOut(); };
+    m_window->onCloseKey = [this](const QKeyEvent &press) {
+        // The key that opened it may still be down.
+        if (!m_heldKey.isRepeat(press)) {
+            m_heldKey.swallow(press);
+            orderOut();
+        }
+        return true;
+    };
+    m_window->onOpen = [this] {
+        const QUrl url = m_content.url;
+        orderOut();
+        m_context.desktop.open(url);
+    };
+    setContent();
+    m_window->show();
+    m_context.activation.bringToFront(*m_window->windowHandle());
+    // The icon takes longer than the rest of the window, which need not wait for it.
+    m_context.queue.async([window = QPointer<QWidget>(m_window.get())] {
+        if (window)
+            window->setWindowIcon(programIcon());
+    });
+}
+
+void QtPreviewPanel::setContent()
+{
+    const QScreen *const target = screen();
+    const double scale = target ? target->devicePixelRatio() : 1;
+    constexpr double side = DetailsView::iconSide;
+    const Image icon = m_content.isFolder ? m_context.icons.iconForFolder(side, scale)
+                                          : m_context.icons.iconForFile(m_content.url, side, scale);
+    m_window->setContent(m_content, icon);
+    // Somebody who has moved it or made it larger wants it so.
+    if (!m_window->isVisible() || m_window->geometry() == m_placed)
+        place();
+}
+
+void QtPreviewPanel::place()
+{
+    const QScreen *const target = screen();
+    if (!target)
+        return;
+    const QRect room = target->availableGeometry();
+    const auto *const text = std::get_if<PreviewContent::Text>(&m_content.body);
+    const QFontMetrics font(text ? TextView::fontFor(*text) : m_window->font());
+    const QSize size = preview_geometry::windowSize(
+        m_content, room.size(), target->devicePixelRatio(),
+        {font.lineSpacing(), font.horizontalAdvance(QLatin1Char('0'))});
+    m_placed = preview_geometry::centred(size, room);
+    m_window->setGeometry(m_placed);
+}
+
+const QScreen *QtPreviewPanel::screen() const
+{
+    const QRect shelf = qt_geometry::toQt(m_context.shelf.frame());
+    const QScreen *const under = QGuiApplication::screenAt(shelf.center());
+    return under ? under : QGuiApplication::primaryScreen();
+}
+
+void QtPreviewPanel::orderOut()
+{
+    if (!std::exchange(m_isVisible, false))
+        return;
+    m_showing.reset();
+    m_context.loading.cancel();
+    closeWindow();
+    m_content = {};
+    m_title.reset();
+    if (m_controller)
+        m_controller->endPreviewPanelControl(*this);
+}
+
+void QtPreviewPanel::closeWindow()
+{
+    if (!m_window)
+        return;
+    giveKeyboardBack();
+    m_window->hide();
+    // A click that came together with the one that closed it means nothing any more.
+    m_window->setEnabled(false);
+    // Later: one of its events may be what we are in.
+    m_window.release()->deleteLater();
+}
+
+void QtPreviewPanel::giveKeyboardBack()
+{
+    QWindow *const previous = m_previous;
+    m_previous = nullptr;
+    // Before it is hidden: once it is, the window manager chooses among its own windows, and the
+    // shelf is none of them.
+    if (!m_window->isActiveWindow() || !previous || !previous->isVisible())
+        return;
+    m_context.activation.giveKeyboard(*previous);
+    // Some window managers think that they know better when they hear that it is gone, and have
+    // the keyboard given to nobody: unless the user went on to another window, it is asked for once
+    // more.
+    constexpr double aMoment = 0.2;
+    m_context.queue.asyncAfter(
+        aMoment, [guarded = QPointer(previous), &activation = m_context.activation] {
+            if (guarded && guarded->isVisible() && !QGuiApplication::focusWindow())
+                activation.giveKeyboard(*guarded);
+        });
+}
+
+} // namespace corvane

@@ -1,0 +1,70 @@
+#include "preview/text_view.h"
+
+#include "platform/base/main_queue.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextDocument>
+
+#include <algorithm>
+
+namespace corvane {
+
+namespace {
+
+/// Laid out in a few milliseconds, and more than a window shows.
+constexpr qsizetype piece = 8'192;
+
+} // namespace
+
+TextView::TextView(const PreviewContent::Text &text, MainQueue &queue, QWidget *parent)
+    : QPlainTextEdit(parent)
+    , m_text(text.text)
+    , m_queue(queue)
+{
+    constexpr double margin = 18;
+    constexpr int tabWidth = 4;
+    setReadOnly(true);
+    setUndoRedoEnabled(false);
+    setFrameShape(QFrame::NoFrame);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    setAccessibleName(QStringLiteral("Text"));
+    setFont(fontFor(text));
+    setTabStopDistance(tabWidth * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
+    document()->setDocumentMargin(margin);
+    // A piece below the view must not move it.
+    setCursorWidth(0);
+    appendNext();
+}
+
+TextView::~TextView() = default;
+
+QFont TextView::fontFor(const PreviewContent::Text &text)
+{
+    return text.isMonospaced ? QFontDatabase::systemFont(QFontDatabase::FixedFont)
+                             : QApplication::font("QPlainTextEdit");
+}
+
+void TextView::appendNext()
+{
+    qsizetype end = std::min(m_shown + piece, m_text.size());
+    if (end < m_text.size() && m_text[end].isLowSurrogate())
+        ++end;
+    QTextCursor cursor(document());
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText(m_text.mid(m_shown, end - m_shown));
+    m_shown = end;
+    if (m_shown >= m_text.size()) {
+        m_text.clear();
+        return;
+    }
+    m_queue.async([this, alive = std::weak_ptr(m_alive)] {
+        if (!alive.expired())
+            appendNext();
+    });
+}
+
+} // namespace corvane

@@ -1,0 +1,187 @@
+#include "shelf/bar/view_all_controller.h"
+
+#include "core/drag_set.h"
+#include "core/feedback.h"
+#include "core/quick_actions.h"
+#include "core/shelf_store.h"
+#include "platform/base/checked_math.h"
+#include "platform/base/geometry.h"
+#include "platform/desktop/pointer.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace corvane {
+
+ViewAllController::ViewAllController(const Context &context)
+    : m_context(context)
+    , m_panel(context.view.panel)
+    , m_view(context.view)
+    , m_store(context.store)
+{
+    m_panel.setFrame(initialFrame);
+    m_panel.setContent(&m_view);
+    m_panel.setIgnoresMouseEvents(true);
+    wireView();
+}
+
+ViewAllController::~ViewAllController()
+{
+    stopWatchingOutsideClicks();
+    m_panel.setContent(nullptr);
+}
+
+void ViewAllController::wireView()
+{
+    // The view is part of the controller and goes with it.
+    m_view.onToggleItem = [this](const DropItem &item) { m_store.toggleSelection(item); };
+    m_view.onToggleSelectAll = [this] { m_store.toggleSelectAll(); };
+    m_view.onRemoveSelected = [this] { m_store.removeSelected(); };
+    m_view.onCopySelected = [this] { m_context.quickActions.copy(m_store.selectedItems()); };
+    m_view.onEjected = [this](const QList<QUuid> &ids, bool keep) { m_store.ejected(ids, keep); };
+    m_view.onScroll = [this](int step) { scroll(step); };
+    m_view.onClose = [this] { close(); };
+    m_view.onDragOutChanged = [this](bool isDraggingOut) {
+        if (m_store.isOwnDrag() == isDraggingOut)
+            return;
+        m_store.setOwnDrag(isDraggingOut);
+        m_store.publishItems();
+    };
+    m_view.onNothingToDrag = [this] {
+        m_context.feedback.show(
+            QCoreApplication::translate("ShelfView", "The file is no longer there"));
+    };
+    m_view.onStayed = [this](qsizetype stayed, qsizetype all) {
+        m_context.feedback.show(stayedMessage(stayed, all));
+    };
+}
+
+void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &screen)
+{
+    m_pillFrame = pillFrame;
+    m_lastScreen = screen;
+    const bool isDragged = m_store.isDragInFlight() || m_store.isOwnDrag();
+    const bool isDraggedOrWasJustNow = std::exchange(m_sawDrag, isDragged) || isDragged;
+    const bool isWanted = findWhetherWanted();
+    if (m_store.isViewAllOpen() && screen && m_store.items().size() >= minimumItems) {
+        m_isWanted = m_isWanted || isWanted;
+        show(*screen, isDraggedOrWasJustNow);
+    } else {
+        hide();
+    }
+}
+
+/// Whether the user has just now opened the bar, or the shelf below which it was left open.
+bool ViewAllController::findWhetherWanted()
+{
+    const bool isOpen = m_store.isViewAllOpen();
+    const bool isNewlyOpen = !std::exchange(m_sawOpen, isOpen) && isOpen;
+    return std::exchange(m_isByHand, false) || isNewlyOpen;
+}
+
+void ViewAllController::show(const Screen &screen, bool isDragged)
+{
+    const double width = std::round(screen.frame.width() * widthShare);
+    const double height = view_all_layout::barHeight;
+    const QRectF frame(midX(screen.frame) - width / 2, minY(m_pillFrame) - gap - height, width,
+                       height);
+    if (m_panel.frame() != frame)
+        m_panel.setFrame(frame);
+
+    const auto count = static_cast<int>(m_store.items().size());
+    m_offset
+        = view_all_layout::clampedOffset(m_offset, count, view_all_layout::itemsPerPage(width));
+    m_view.apply(m_store.items(), m_store.selection(), m_offset);
+
+    const bool wasShown = m_panel.isVisible();
+    m_panel.setIgnoresMouseEvents(false);
+    m_panel.orderFrontRegardless();
+    if (m_isWanted && !isDragged)
+        takeKeyboard(wasShown);
+    if (!m_outsideClickMonitor)
+        startWatchingOutsideClicks();
+}
+
+/// In every render that shows the bar, so that no click on the shelf takes the keys away from it.
+/// From another program only when it opens: what arrives later, such as a picture, takes it from
+/// nobody who went on typing elsewhere. Never from a drag, whose source may end it on losing the
+/// keyboard, nor at its end: what was dropped on goes on. And not where the bar was left open and
+/// comes back by itself, with a shelf that the screen's edge summoned, say: what is typed then is
+/// for the program behind, and would remove what is ticked.
+void ViewAllController::takeKeyboard(bool wasShown)
+{
+    if (wasShown)
+        m_panel.makeKeyAmongPanels();
+    else
+        m_panel.makeKey();
+}
+
+void ViewAllController::shelfIsToggledByHand()
+{
+    m_isByHand = true;
+}
+
+void ViewAllController::shelfWasPressed()
+{
+    if (!m_panel.isVisible())
+        return;
+    m_isWanted = true;
+    m_panel.makeKey();
+}
+
+void ViewAllController::hide()
+{
+    stopWatchingOutsideClicks();
+    m_panel.setIgnoresMouseEvents(true);
+    m_offset = 0;
+    m_isWanted = false;
+    m_view.wasHidden();
+    m_panel.orderOut();
+}
+
+void ViewAllController::close()
+{
+    if (!m_store.isViewAllOpen())
+        return;
+    m_store.setViewAllOpen(false);
+    m_store.publishItems();
+}
+
+void ViewAllController::scroll(int step)
+{
+    m_offset = std::max(0, checkedAdd(m_offset, step));
+    // By value: rendering writes it.
+    render(QRectF(m_pillFrame), m_lastScreen.lock());
+}
+
+void ViewAllController::startWatchingOutsideClicks()
+{
+    const std::weak_ptr<bool> alive = m_alive;
+    m_outsideClickMonitor = m_context.eventMonitors.addGlobalMouseDownMonitor([this, alive] {
+        if (!alive.expired())
+            clickedElsewhere();
+    });
+}
+
+void ViewAllController::stopWatchingOutsideClicks()
+{
+    if (const auto monitor = std::exchange(m_outsideClickMonitor, std::nullopt))
+        m_context.eventMonitors.removeMonitor(*monitor);
+}
+
+void ViewAllController::clickedElsewhere()
+{
+    const auto location = m_context.pointer.location();
+    // Where nobody tells where the pointer is, it is enough that another program had the click.
+    const bool isOurs
+        = location && (contains(m_panel.frame(), *location) || contains(m_pillFrame, *location));
+    if (isOurs || !m_store.isViewAllOpen())
+        return;
+    m_panel.userWentOn();
+    close();
+}
+
+} // namespace corvane

@@ -1,0 +1,88 @@
+#pragma once
+
+#include "platform/desktop/event_monitors.h"
+#include "shelf/bar/view_all_view.h"
+#include "shelf/view_all_bar.h"
+
+#include <QRectF>
+
+#include <memory>
+#include <optional>
+
+namespace corvane {
+
+class Pointer;
+class QuickActions;
+class ShelfStore;
+struct Feedback;
+
+/// Shows the view-all bar below the shelf while the store says that it is open, pages it, closes it
+/// on a click elsewhere, and turns what the user does on it into operations of the store.
+///
+///     hidden --render: open, a screen, 2 items--> shown: in front, takes clicks, watches clicks
+///     shown  --render: one of them missing------> hidden: takes no clicks, at its first page
+///
+/// It keeps no items; a bar that hides for want of items stays open as far as the store is
+/// concerned. Main thread only; everything in the context must outlive it.
+class ViewAllController : public ViewAllBar {
+public:
+    static constexpr QRectF initialFrame{0, 0, 600, view_all_layout::barHeight};
+    /// Of the screen's width.
+    static constexpr double widthShare = 0.8;
+    /// Between the shelf and the bar.
+    static constexpr double gap = 10;
+    static constexpr int minimumItems = 2;
+
+    struct Context {
+        ViewAllView::Context view;
+        ShelfStore &store;
+        QuickActions &quickActions;
+        EventMonitors &eventMonitors;
+        const Pointer &pointer;
+        const Feedback &feedback;
+    };
+    explicit ViewAllController(const Context &context);
+    ~ViewAllController() override;
+    ViewAllController(const ViewAllController &) = delete;
+    ViewAllController &operator=(const ViewAllController &) = delete;
+
+    void render(const QRectF &pillFrame, const ScreenPointer &screen) override;
+    void shelfIsToggledByHand() override;
+    void shelfWasPressed() override;
+
+    const ViewAllView &view() const { return m_view; }
+    int offset() const { return m_offset; }
+    bool isWatchingOutsideClicks() const { return m_outsideClickMonitor.has_value(); }
+
+private:
+    void wireView();
+    bool findWhetherWanted();
+    void show(const Screen &screen, bool isDragged);
+    void takeKeyboard(bool wasShown);
+    void hide();
+    void close();
+    void scroll(int step);
+    void startWatchingOutsideClicks();
+    void stopWatchingOutsideClicks();
+    void clickedElsewhere();
+
+    Context m_context;
+    PanelWindow &m_panel;
+    ViewAllView m_view;
+    ShelfStore &m_store;
+    int m_offset = 0;
+    QRectF m_pillFrame;
+    std::weak_ptr<const Screen> m_lastScreen;
+    std::optional<EventMonitors::Handle> m_outsideClickMonitor;
+    /// Something was being dragged when the bar was last rendered.
+    bool m_sawDrag = false;
+    bool m_sawOpen = false;
+    /// The next render is what the user's hand has brought about.
+    bool m_isByHand = false;
+    /// The bar is shown because the user wanted it, not because it was left open.
+    bool m_isWanted = false;
+    // Whatever was handed out does nothing once the controller is gone.
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "shelf/arrow_layers.h"
+#include "shelf/bar/view_all_tile.h"
+#include "shelf/drawing/bitmap_layer.h"
+#include "shelf/drawing/glass_background.h"
+#include "shelf/drawing/icon_layer.h"
+#include "shelf/drawing/text_layer.h"
+
+#include <QPainterPath>
+
+#include <array>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace corvane {
+
+class DropItem;
+struct Theme;
+
+/// The layers of the view-all bar. What a layout says applies at once: nothing in the bar moves by
+/// itself. The tree and the theme must outlive it.
+class ViewAllLayers {
+public:
+    static constexpr double cornerRadius = 20;
+
+    ViewAllLayers(LayerTree &tree, const Theme &theme);
+
+    /// `page` are the items shown, one for each tile of the layout. Tiles are kept from page to
+    /// page: the missing ones are made, those at the end that are too many go.
+    void apply(const ViewAllLayout &layout, std::span<const DropItem> page);
+    std::size_t tileCount() const { return m_tiles.size(); }
+    void render(QPainter &painter, double scale);
+    /// The ground and what lies on it, which contain all other layers.
+    std::array<const Layer *, 2> roots() const { return {m_glass.get(), &m_contentHost}; }
+
+    static QPainterPath outline(const QRectF &bounds);
+
+private:
+    void setUp();
+    void syncTiles(std::size_t count);
+    void apply(ArrowLayers &arrow, const ViewAllLayout::Arrow &layout);
+    void applyActions(const ViewAllLayout &layout);
+
+    LayerTree &m_tree;
+    const Theme &m_theme;
+    std::unique_ptr<GlassBackground> m_glass;
+    Layer m_contentHost;
+    Layer m_content;
+    ArrowLayers m_leftArrow;
+    ArrowLayers m_rightArrow;
+    BitmapLayer m_selectAllBox;
+    TextLayer m_selectAllLabel;
+    IconLayer m_copyButton;
+    IconLayer m_trashButton;
+    // After the layer that contains them.
+    std::vector<std::unique_ptr<ViewAllTile>> m_tiles;
+};
+
+} // namespace corvane

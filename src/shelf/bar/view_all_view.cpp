@@ -1,0 +1,115 @@
+#include "shelf/bar/view_all_view.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <iterator>
+
+namespace corvane {
+
+ViewAllView::ViewAllView(const Context &context)
+    : m_context(context)
+    , m_tree(context.queue, context.motionPreference)
+    , m_layers(m_tree, context.theme)
+{
+    m_tree.onNeedsDisplay = [this] {
+        m_context.panel.setNeedsDisplay({{0, 0}, m_context.panel.frame().size()});
+    };
+    relayout();
+}
+
+ViewAllView::~ViewAllView()
+{
+    m_tree.onNeedsDisplay = nullptr;
+}
+
+int ViewAllView::itemsPerPage() const
+{
+    return view_all_layout::itemsPerPage(m_context.panel.frame().width());
+}
+
+view_all_layout::Range ViewAllView::visible() const
+{
+    return view_all_layout::visibleRange(m_offset, itemCount(), itemsPerPage());
+}
+
+void ViewAllView::apply(const QList<DropItem> &items, const QSet<QUuid> &selection, int offset)
+{
+    m_isShown = true;
+    m_items = &items;
+    m_selection = &selection;
+    m_offset = view_all_layout::clampedOffset(offset, itemCount(), itemsPerPage());
+    relayout();
+    // The pointer may rest while the bar pages beneath it.
+    if (findHovered())
+        relayout();
+}
+
+void ViewAllView::wasHidden()
+{
+    m_isShown = false;
+    m_mouseDownId.reset();
+    m_mouseDownPoint.reset();
+    m_pointer.reset();
+    if (findHovered())
+        relayout();
+}
+
+QList<DropItem> ViewAllView::selectedInOrder() const
+{
+    QList<DropItem> selected;
+    if (!m_items)
+        return selected;
+    std::copy_if(m_items->begin(), m_items->end(), std::back_inserter(selected),
+                 [this](const DropItem &item) { return isSelected(item); });
+    return selected;
+}
+
+std::span<const DropItem> ViewAllView::page() const
+{
+    const auto range = visible();
+    if (range.end <= range.first)
+        return {};
+    return {m_items->constData() + range.first, m_items->constData() + range.end};
+}
+
+void ViewAllView::relayout()
+{
+    ViewAllState state;
+    state.size = m_context.panel.frame().size();
+    state.itemCount = itemCount();
+    state.selectedCount = m_selection ? static_cast<int>(m_selection->size()) : 0;
+    state.offset = m_offset;
+    state.hoveredControl = m_hoveredControl;
+    for (const DropItem &item : page())
+        state.tiles.push_back({isSelected(item), m_hovered == item.id()});
+    m_layout = view_all_layout::layOut(state);
+    m_layers.apply(m_layout, page());
+    const QRectF bounds({0, 0}, m_layout.size);
+    m_context.panel.setBody(bounds, ViewAllLayers::outline(bounds));
+}
+
+void ViewAllView::paint(QPainter &painter, QSizeF /*size*/, double scale)
+{
+    m_scale = scale;
+    painter.setRenderHint(QPainter::Antialiasing);
+    m_layers.render(painter, scale);
+}
+
+const DropItem *ViewAllView::itemAt(QPointF point) const
+{
+    const auto tile = view_all_layout::tileAt(m_layout, point);
+    const int index = tile ? visible().first + static_cast<int>(*tile) : -1;
+    return index >= 0 && index < itemCount() ? &m_items->at(index) : nullptr;
+}
+
+const DropItem *ViewAllView::itemWithId(const QUuid &id) const
+{
+    if (!m_items)
+        return nullptr;
+    const auto found = std::find_if(m_items->begin(), m_items->end(),
+                                    [&id](const DropItem &item) { return item.id() == id; });
+    return found == m_items->end() ? nullptr : &*found;
+}
+
+} // namespace corvane

@@ -1,0 +1,158 @@
+#pragma once
+
+#include "core/drop_item.h"
+#include "platform/desktop/panel_window.h"
+#include "shelf/bar/view_all_layers.h"
+#include "shelf/bar/view_all_layout.h"
+#include "shelf/drawing/layer_tree.h"
+
+#include <QList>
+#include <QSet>
+#include <QUuid>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <span>
+
+namespace corvane {
+
+class DragWriter;
+class ItemPreparation;
+class Keyboard;
+class MainQueue;
+class MotionPreference;
+class SavedPictures;
+struct Theme;
+
+/// The content of the view-all bar: a page of tiles between two arrows, above a row of actions. It
+/// shows what it is given, and turns what the user does into callbacks. A callback that is not set
+/// is skipped.
+///
+///     idle --press on a tile--> pressed --release--> toggled, idle
+///                               pressed --3 points--> dragging --let go--> idle
+///
+/// What was let go leaves, or stays, when its target has said how that ended.
+///
+/// Nothing in it moves by itself: changes apply at once. It takes no drops. Main thread only;
+/// everything in the context must outlive the view.
+class ViewAllView : public PanelContent {
+public:
+    /// A press that moves farther than this, in points, is a drag.
+    static constexpr double dragDistance = 3;
+    static constexpr double preciseScrollStep = 34;
+    static constexpr double wheelScrollStep = 4;
+
+    struct Context {
+        PanelWindow &panel;
+        MainQueue &queue;
+        const MotionPreference &motionPreference;
+        const Theme &theme;
+        const Keyboard &keyboard;
+        const DragWriter &dragWriter;
+        SavedPictures &pictures;
+        ItemPreparation &preparation;
+    };
+    explicit ViewAllView(const Context &context);
+    ~ViewAllView() override;
+
+    std::function<void(const DropItem &)> onToggleItem;
+    std::function<void()> onToggleSelectAll;
+    std::function<void()> onCopySelected;
+    std::function<void()> onRemoveSelected;
+    /// Items were dropped elsewhere, those alone whose contents have arrived there; `keep` when
+    /// Shift was held as they were let go.
+    std::function<void(const QList<QUuid> &ids, bool keep)> onEjected;
+    /// -1 is back, 1 forward.
+    std::function<void(int step)> onScroll;
+    std::function<void()> onClose;
+    std::function<void(bool isDraggingOut)> onDragOutChanged;
+    /// Nothing of what was to be dragged is there any more.
+    std::function<void()> onNothingToDrag;
+    /// So many of the items that were let go elsewhere did not arrive there.
+    std::function<void(qsizetype stayed, qsizetype all)> onStayed;
+
+    /// Shows the page of `items` that begins at `offset`, or as near to it as there is one. The
+    /// list and the set are looked at again at every event, so they must stay where they are: a
+    /// copy would make the next change of any of many thousand items copy them all.
+    void apply(const QList<DropItem> &items, const QSet<QUuid> &selection, int offset);
+    /// Half-finished presses come to nothing, and keys that were typed before mean nothing, until
+    /// it shows something again.
+    void wasHidden();
+    /// By the panel's present width.
+    int itemsPerPage() const;
+    int offset() const { return m_offset; }
+    /// In the order of the items, not of their selection. Walks all items.
+    QList<DropItem> selectedInOrder() const;
+
+    /// What is on the screen, for whoever wants to check it.
+    const ViewAllLayout &layout() const { return m_layout; }
+    std::optional<ViewAllControl> hoveredControl() const { return m_hoveredControl; }
+    std::optional<QUuid> hovered() const { return m_hovered; }
+    std::size_t tileCount() const { return m_layers.tileCount(); }
+    const ViewAllLayers &layers() const { return m_layers; }
+
+    void paint(QPainter &painter, QSizeF size, double scale) override;
+    void mouseDown(const MouseEvent &event) override;
+    void mouseDragged(const MouseEvent &event) override;
+    void mouseUp(const MouseEvent &event) override;
+    void mouseEntered(const MouseEvent &event) override;
+    void mouseMoved(const MouseEvent &event) override;
+    void mouseExited() override;
+    void scrollWheel(const ScrollEvent &event) override;
+    bool keyDown(const KeyEvent &event) override;
+    DragOperation draggingEntered(const DraggingInfo &info) override;
+    DragOperation draggingUpdated(const DraggingInfo &info) override;
+    void draggingExited() override { }
+    bool performDragOperation(const DraggingInfo &info) override;
+    void draggingEnded() override { }
+
+private:
+    int itemCount() const { return m_items ? static_cast<int>(m_items->size()) : 0; }
+    bool isSelected(const DropItem &item) const
+    {
+        return m_selection && m_selection->contains(item.id());
+    }
+    view_all_layout::Range visible() const;
+    std::span<const DropItem> page() const;
+    void relayout();
+    const DropItem *itemAt(QPointF point) const;
+    const DropItem *itemWithId(const QUuid &id) const;
+    bool findHovered();
+    void updateHover(QPointF point);
+    void press(ViewAllControl control) const;
+    void pressKey(std::uint32_t keyCode) const;
+    Image dragImage(const DropItem &grabbed, const QList<DropItem> &items) const;
+    void beginDrag(const DropItem &grabbed);
+    struct DraggedOut {
+        /// One for each writer.
+        QList<QUuid> ids;
+        QList<DropItem> forms;
+        /// More than travel: a file may be gone.
+        qsizetype wanted = 0;
+        bool keep = false;
+    };
+    DragOutEvents dragOutEvents(DraggedOut dragged);
+    void dragEnded(const DraggedOut &dragged, const DragOutEnd &end) const;
+
+    Context m_context;
+    LayerTree m_tree;
+    ViewAllLayers m_layers;
+
+    const QList<DropItem> *m_items = nullptr;
+    const QSet<QUuid> *m_selection = nullptr;
+    int m_offset = 0;
+    bool m_isShown = false;
+    ViewAllLayout m_layout;
+    std::optional<QPointF> m_pointer;
+    std::optional<QUuid> m_hovered;
+    std::optional<ViewAllControl> m_hoveredControl;
+    QList<QUuid> m_draggingIds;
+    std::optional<QUuid> m_mouseDownId;
+    std::optional<QPointF> m_mouseDownPoint;
+    double m_scale = 1;
+    // A drag may end after the view.
+    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+};
+
+} // namespace corvane

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "shelf/drawing/layer.h"
+
+#include <QFont>
+#include <QImage>
+#include <QString>
+
+namespace corvane {
+
+/// A layer that shows one line of text, cut with an ellipsis where it does not fit. The text is
+/// plain: nothing in it is markup, and characters that could reorder or forge what is read are
+/// shown as what they are, a stranger's (see display_text.h).
+class TextLayer : public Layer {
+public:
+    using Layer::Layer;
+
+    QString string() const { return m_string; }
+    void setString(const QString &string);
+    QFont font() const { return m_font; }
+    void setFont(const QFont &font);
+    QColor color() const { return m_color; }
+    void setColor(const QColor &color);
+    Qt::Alignment alignment() const { return m_alignment; }
+    void setAlignment(Qt::Alignment alignment);
+    /// Where a line that does not fit is cut; at its right end unless set.
+    Qt::TextElideMode elideMode() const { return m_elideMode; }
+    void setElideMode(Qt::TextElideMode mode);
+
+protected:
+    void draw(QPainter &painter, QSizeF size, double scale) const override;
+
+private:
+    void invalidate();
+    QImage rasterized(double width, double height, double scale) const;
+
+    QString m_string;
+    QFont m_font;
+    QColor m_color = Qt::white;
+    Qt::Alignment m_alignment = Qt::AlignLeft;
+    Qt::TextElideMode m_elideMode = Qt::ElideRight;
+    // The letters are drawn once and moved as a picture, sharp on whole pixels.
+    mutable QImage m_bitmap;
+    mutable QSizeF m_bitmapBounds;
+    mutable double m_bitmapScale = 0;
+};
+
+} // namespace corvane

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "shelf/drawing/motion.h"
+
+#include <QColor>
+#include <QFont>
+
+namespace corvane {
+
+/// Colours, fonts and motion of the shelf and the view-all bar: black, and white at different
+/// opacities.
+struct Theme {
+    struct Palette {
+        QColor fill = Qt::black;
+        QColor hairline = white(0.11);
+        QColor primary = white(0.92);
+        QColor secondary = white(0.5);
+        QColor control = white(0.72);
+        QColor controlPlate = white(0.12);
+        QColor buttonFill = white(0.1);
+        QColor buttonFillHover = white(0.2);
+        QColor buttonFillOff = white(0.05);
+        QColor divider = white(0.12);
+        QColor thumbRing = white(0.16);
+        QColor emphasis = white(0.92);
+        QColor dropRingActive = white(0.34);
+
+        static QColor white(double opacity)
+        {
+            return QColor::fromRgbF(1, 1, 1, static_cast<float>(opacity));
+        }
+    };
+
+    struct Typography {
+        QFont primary;
+        QFont secondary;
+        QFont hint;
+        QFont tile;
+    };
+
+    struct Motion {
+        /// Response 0.25 s and damping ratio 0.7: stiffness (2 pi / 0.25)^2, damping 2 x 0.7 x its
+        /// root.
+        static constexpr Spring spring() { return {1, 631.6546816697189, 35.18583772020568}; }
+        /// Of that spring, in seconds.
+        static double settlingDuration();
+    };
+
+    /// Fonts are the desktop's general font, sized in device-independent pixels whatever
+    /// `logicalDotsPerInch` Qt counts font points by.
+    Theme(const QFont &generalFont, double logicalDotsPerInch);
+
+    Palette palette;
+    Typography typography;
+};
+
+} // namespace corvane

@@ -1,0 +1,337 @@
+#include "app/look/text_label.h"
+#include "app/preferences/clear_button.h"
+#include "app/preferences/general_pane.h"
+#include "app/preferences/number_picker.h"
+#include "app/preferences/setting_row.h"
+#include "app/preferences/shortcut_recorder_view.h"
+#include "app/preferences/shortcut_row.h"
+#include "app/preferences/switch_button.h"
+#include "app/updates/updater.h"
+#include "app/widget_hands.h"
+#include "fakes/preferences_desk.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace corvane::test {
+
+namespace {
+
+const auto needsText = QStringLiteral("Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.");
+const auto unsetText = QStringLiteral("Unset by default. ↓ on the shelf does the same thing.");
+const auto conflictText = QStringLiteral("Another app already uses that combination.");
+constexpr std::uint32_t keyA = 0;
+constexpr std::uint32_t keyB = 11;
+
+class RecordingUpdater : public Updater {
+public:
+    void start() override { }
+    void checkForUpdates() override { ++checks; }
+    bool automaticallyChecksForUpdates() const override { return false; }
+    void setAutomaticallyChecksForUpdates(bool on) override { automatic = on; }
+
+    int checks = 0;
+    std::optional<bool> automatic;
+};
+
+class GeneralPaneTest : public testing::Test {
+protected:
+    GeneralPane &pane()
+    {
+        if (!m_pane)
+            m_pane.emplace(desk.context());
+        return *m_pane;
+    }
+    SettingRow &row(const char *title)
+    {
+        for (SettingRow *row : pane().findChildren<SettingRow *>()) {
+            if (row->title() == QString::fromUtf8(title))
+                return *row;
+        }
+        throw std::runtime_error(title);
+    }
+    SwitchButton &switchOf(const char *title)
+    {
+        return *named<SwitchButton>(pane(), QString::fromUtf8(title));
+    }
+    NumberPicker &picker() { return *pane().findChild<NumberPicker *>(); }
+    void pick(int number) { pickButton(number)->click(); }
+    QAbstractButton *pickButton(int number)
+    {
+        for (auto *button : picker().findChildren<QAbstractButton *>()) {
+            if (button->text() == QString::number(number))
+                return button;
+        }
+        return nullptr;
+    }
+    SettingRow &shelfRow() { return row("Show or hide the shelf"); }
+    SettingRow &viewAllRow() { return row("Show or hide all items"); }
+    void record(QWidget &shortcutRow, std::uint32_t keyCode, const char *letter)
+    {
+        shortcutRow.findChild<ShortcutRecorderView *>()->toggleRecording();
+        desk.keyMonitors.type(keyCode, Modifier::Control, QString::fromUtf8(letter));
+    }
+
+    PreferencesDesk desk;
+
+private:
+    std::optional<GeneralPane> m_pane;
+};
+
+} // namespace
+
+TEST_F(GeneralPaneTest, AStoredInViewCountOfZeroShowsAsOne)
+{
+    desk.defaults.setRaw(QStringLiteral("settings.inViewCount"), 0);
+    EXPECT_EQ(picker().number(), 1);
+}
+
+TEST_F(GeneralPaneTest, AStoredInViewCountOfNineShowsAsSix)
+{
+    desk.defaults.setRaw(QStringLiteral("settings.inViewCount"), 9);
+    EXPECT_EQ(picker().number(), 6);
+    EXPECT_EQ(row("Items in view").detail(),
+              QStringLiteral("6 thumbnails at once, with arrows for the rest."));
+}
+
+TEST_F(GeneralPaneTest, ChoosingOneSaysOneAtATimeAndChoosingTwoSaysTheCount)
+{
+    pick(2);
+    EXPECT_EQ(desk.settings.inViewCount(), 2);
+    EXPECT_EQ(row("Items in view").detail(),
+              QStringLiteral("2 thumbnails at once, with arrows for the rest."));
+    pick(1);
+    EXPECT_EQ(desk.settings.inViewCount(), 1);
+    EXPECT_EQ(row("Items in view").detail(),
+              QStringLiteral("One at a time. Use the arrows to page through the rest."));
+}
+
+TEST_F(GeneralPaneTest, EachChoiceTellsTheShelfToLayItselfOutOnce)
+{
+    pane();
+    int layouts = 0;
+    desk.settings.observeLayout([&layouts] { ++layouts; });
+    pick(4);
+    EXPECT_EQ(layouts, 1);
+}
+
+TEST_F(GeneralPaneTest, MakingThePaneWritesNothing)
+{
+    desk.defaults.setRaw(QStringLiteral("settings.inViewCount"), 9);
+    const QVariantMap before = desk.defaults.stored;
+    pane();
+    EXPECT_EQ(desk.defaults.stored, before);
+    EXPECT_EQ(desk.hotKeys.registrationCount(), 0U);
+}
+
+TEST_F(GeneralPaneTest, TheSwitchesShowTheSettingsAndWriteThemAtOnce)
+{
+    desk.settings.setLinkPreviews(false);
+    EXPECT_TRUE(switchOf("Open the shelf when a drag begins").isChecked());
+    EXPECT_FALSE(switchOf("Show previews for dropped links").isChecked());
+    EXPECT_TRUE(switchOf("Check for updates automatically").isChecked());
+    switchOf("Open the shelf when a drag begins").click();
+    switchOf("Show previews for dropped links").click();
+    switchOf("Check for updates automatically").click();
+    EXPECT_FALSE(desk.settings.autoShowOnDrag());
+    EXPECT_TRUE(desk.settings.linkPreviews());
+    EXPECT_FALSE(desk.settings.autoCheckUpdates());
+}
+
+TEST_F(GeneralPaneTest, TheLoginSwitchShowsWhatTheServiceSaysAndChangesIt)
+{
+    desk.loginItems.registered = true;
+    EXPECT_TRUE(switchOf("Launch at login").isChecked());
+    switchOf("Launch at login").click();
+    EXPECT_FALSE(desk.loginItems.registered);
+}
+
+TEST_F(GeneralPaneTest, ALoginChangeThatFailsIsLoggedAndTheSwitchShowsWhatWasAsked)
+{
+    static QStringList lines;
+    lines.clear();
+    desk.loginItems.error = QStringLiteral("no room");
+    pane();
+    const auto before = qInstallMessageHandler(
+        [](QtMsgType, const QMessageLogContext &, const QString &line) { lines << line; });
+    switchOf("Launch at login").click();
+    qInstallMessageHandler(before);
+    EXPECT_EQ(lines,
+              QStringList{QStringLiteral("[Corvane] Launch at login change failed: no room")});
+    EXPECT_TRUE(switchOf("Launch at login").isChecked());
+}
+
+TEST_F(GeneralPaneTest, ClearingTheShelfShortcutKeepsItsUsualText)
+{
+    desk.binder.bindShelf();
+    auto *clear = shelfRow().findChild<ClearButton *>();
+    EXPECT_TRUE(clear->isEnabled());
+    clear->click();
+    EXPECT_FALSE(desk.settings.shortcut());
+    EXPECT_EQ(desk.hotKeys.registrationCount(), 0U);
+    EXPECT_EQ(shelfRow().detail(), needsText);
+    EXPECT_FALSE(clear->isEnabled());
+}
+
+TEST_F(GeneralPaneTest, ATakenCombinationIsSaidAndAFreeOneRestoresTheText)
+{
+    desk.hotKeys.takenByOthers.insert({keyA, Shortcut::control});
+    record(shelfRow(), keyA, "a");
+    EXPECT_EQ(shelfRow().detail(), conflictText);
+    EXPECT_TRUE(shelfRow().findChild<ShortcutRecorderView *>()->hasConflict());
+    // What was tried stays to be seen.
+    EXPECT_EQ(desk.settings.shortcut()->keyCode, keyA);
+    record(shelfRow(), keyB, "b");
+    EXPECT_EQ(shelfRow().detail(), needsText);
+    EXPECT_FALSE(shelfRow().findChild<ShortcutRecorderView *>()->hasConflict());
+    EXPECT_TRUE(desk.hotKeys.isRegistered({keyB, Shortcut::control}));
+}
+
+TEST_F(GeneralPaneTest, ClearingATakenCombinationRestoresTheText)
+{
+    desk.hotKeys.takenByOthers.insert({keyA, Shortcut::control});
+    record(viewAllRow(), keyA, "a");
+    EXPECT_EQ(viewAllRow().detail(), conflictText);
+    viewAllRow().findChild<ClearButton *>()->click();
+    EXPECT_EQ(viewAllRow().detail(), unsetText);
+}
+
+TEST_F(GeneralPaneTest, BothShortcutsAreBoundAnew)
+{
+    desk.binder.bindShelf();
+    record(viewAllRow(), keyA, "a");
+    EXPECT_EQ(desk.hotKeys.unregistrations, 1);
+    record(shelfRow(), keyB, "b");
+    EXPECT_EQ(desk.hotKeys.unregistrations, 3);
+    EXPECT_EQ(desk.hotKeys.registrationCount(), 2U);
+    EXPECT_EQ(shelfRow().detail(), needsText);
+}
+
+TEST_F(GeneralPaneTest, OfTwoEqualCombinationsTheOtherOneIsRegisteredWhenOneIsCleared)
+{
+    record(shelfRow(), keyA, "a");
+    record(viewAllRow(), keyA, "a");
+    EXPECT_EQ(shelfRow().detail(), needsText);
+    EXPECT_EQ(viewAllRow().detail(), conflictText);
+    shelfRow().findChild<ClearButton *>()->click();
+    EXPECT_TRUE(desk.hotKeys.isRegistered({keyA, Shortcut::control}));
+    EXPECT_EQ(viewAllRow().detail(), unsetText);
+
+    record(shelfRow(), keyA, "a");
+    EXPECT_EQ(shelfRow().detail(), conflictText) << "the other one keeps it";
+    EXPECT_EQ(viewAllRow().detail(), unsetText);
+    viewAllRow().findChild<ClearButton *>()->click();
+    EXPECT_TRUE(desk.hotKeys.isRegistered({keyA, Shortcut::control}));
+    EXPECT_EQ(shelfRow().detail(), needsText);
+    EXPECT_FALSE(shelfRow().findChild<ShortcutRecorderView *>()->hasConflict());
+}
+
+TEST_F(GeneralPaneTest, OfTwoEqualCombinationsTheOtherOneIsRegisteredWhenOneIsReplaced)
+{
+    record(viewAllRow(), keyA, "a");
+    record(shelfRow(), keyA, "a");
+    record(viewAllRow(), keyB, "b");
+    EXPECT_EQ(desk.hotKeys.registrationCount(), 2U);
+    EXPECT_EQ(shelfRow().detail(), needsText);
+}
+
+TEST_F(GeneralPaneTest, ACombinationThatWasRefusedAtLaunchIsSaidToBeTaken)
+{
+    desk.hotKeys.takenByOthers.insert({2, Shortcut::command | Shortcut::shift});
+    desk.binder.bindShelf();
+    desk.binder.bindViewAll();
+    EXPECT_EQ(shelfRow().detail(), conflictText);
+    EXPECT_TRUE(shelfRow().findChild<ShortcutRecorderView *>()->hasConflict());
+    EXPECT_EQ(viewAllRow().detail(), unsetText);
+}
+
+TEST_F(GeneralPaneTest, ACombinationThatHasBecomeFreeSinceIsTaken)
+{
+    desk.hotKeys.takenByOthers.insert({2, Shortcut::command | Shortcut::shift});
+    desk.binder.bindShelf();
+    desk.hotKeys.takenByOthers.clear();
+    EXPECT_EQ(shelfRow().detail(), needsText);
+    EXPECT_TRUE(desk.hotKeys.isRegistered({2, Shortcut::command | Shortcut::shift}));
+}
+
+TEST_F(GeneralPaneTest, ConflictsOutliveThePane)
+{
+    desk.hotKeys.takenByOthers.insert({keyA, Shortcut::control});
+    record(shelfRow(), keyA, "a");
+    const GeneralPane next(desk.context());
+    int conflicts = 0;
+    for (const auto *row : next.findChildren<SettingRow *>())
+        conflicts += row->detail() == conflictText ? 1 : 0;
+    EXPECT_EQ(conflicts, 1);
+}
+
+TEST_F(GeneralPaneTest, WithoutAShortcutTheClearButtonIsDisabled)
+{
+    const auto *clear = viewAllRow().findChild<ClearButton *>();
+    EXPECT_FALSE(clear->isEnabled());
+    EXPECT_EQ(clear->toolTip(), QStringLiteral("Clear the shortcut"));
+}
+
+TEST_F(GeneralPaneTest, WithoutAnUpdaterCheckNowIsDisabledAndSaysWhy)
+{
+    const auto *button = row("Check for updates automatically").findChild<QPushButton *>();
+    EXPECT_FALSE(button->isEnabled());
+    EXPECT_FALSE(button->toolTip().isEmpty());
+}
+
+TEST_F(GeneralPaneTest, WhereOthersKeepTheProgramUpToDateItSaysSo)
+{
+    desk.isKeptUpToDateByOthers = true;
+    const QString detail = row("Check for updates automatically").detail();
+    EXPECT_EQ(detail, QStringLiteral("Your system's software manager keeps Corvane up to date."));
+    const auto *button = row("Check for updates automatically").findChild<QPushButton *>();
+    EXPECT_FALSE(button->isEnabled());
+    EXPECT_EQ(button->toolTip(), detail);
+}
+
+TEST_F(GeneralPaneTest, TheUpdaterFollowsTheSwitchAndChecksWhenAsked)
+{
+    RecordingUpdater updater;
+    desk.updater = &updater;
+    auto &updates = row("Check for updates automatically");
+    EXPECT_EQ(updates.detail(), QString());
+    EXPECT_FALSE(updater.automatic);
+    switchOf("Check for updates automatically").click();
+    EXPECT_EQ(updater.automatic, false);
+    updates.findChild<QPushButton *>()->click();
+    EXPECT_EQ(updater.checks, 1);
+}
+
+TEST_F(GeneralPaneTest, SettingsThatCannotBeKeptAreSaidAndStillWork)
+{
+    desk.defaults.kept = false;
+    const auto labels = pane().findChildren<TextLabel *>();
+    EXPECT_TRUE(std::any_of(labels.begin(), labels.end(), [](const TextLabel *label) {
+        return label->text().contains(QStringLiteral("not kept"));
+    }));
+    pick(5);
+    EXPECT_EQ(desk.settings.inViewCount(), 5);
+}
+
+TEST_F(GeneralPaneTest, EveryControlHasANameAndADescription)
+{
+    const auto controls = pane().findChildren<QAbstractButton *>();
+    EXPECT_GE(controls.size(), 8);
+    for (const auto *control : controls) {
+        const QString name = control->accessibleName() + control->text();
+        EXPECT_FALSE(name.isEmpty());
+        EXPECT_FALSE(control->accessibleDescription().isEmpty()) << name.toStdString();
+    }
+}
+
+TEST_F(GeneralPaneTest, NumbersAreChosenWithTheArrowKeys)
+{
+    pane().show();
+    ASSERT_TRUE(activate(pane()));
+    pickButton(1)->setFocus();
+    typeKey(pane(), Qt::Key_Right);
+    EXPECT_EQ(desk.settings.inViewCount(), 2);
+}
+
+} // namespace corvane::test

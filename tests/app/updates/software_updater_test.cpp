@@ -1,0 +1,496 @@
+#include "app/updates/software_updater.h"
+#include "app/updates/updater_desk.h"
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+using Stage = UpdateReport::Stage;
+
+class SoftwareUpdaterTest : public testing::Test, protected UpdaterDesk {
+protected:
+    std::size_t checks() const { return web.requests.size(); }
+    bool hasFailed(UpdateFailure failure) const
+    {
+        return display.report.stage == Stage::Failed && display.report.failure == failure;
+    }
+    QByteArray newer() const { return feed(item("11", UpdateFolder::newImage())); }
+    QByteArray same() const { return feed(item("10", UpdateFolder::newImage())); }
+};
+
+} // namespace
+
+TEST_F(SoftwareUpdaterTest, TheFirstCheckComesAMinuteAfterTheStart)
+{
+    make();
+    pass(59.9);
+    EXPECT_EQ(checks(), 0U);
+    pass(0.2);
+    EXPECT_EQ(checks(), 1U);
+}
+
+TEST_F(SoftwareUpdaterTest, ChecksThatNobodyAskedForComeOnceADay)
+{
+    make();
+    pass(60);
+    answer(same());
+    pass(day - 1);
+    EXPECT_EQ(checks(), 1U);
+    pass(2);
+    EXPECT_EQ(checks(), 2U);
+}
+
+TEST_F(SoftwareUpdaterTest, TheDayGoesOnAcrossStarts)
+{
+    make();
+    pass(60);
+    answer(same());
+    pass(3600);
+    make();
+    pass(day - 3700);
+    EXPECT_EQ(checks(), 1U);
+    pass(200);
+    EXPECT_EQ(checks(), 2U);
+}
+
+TEST_F(SoftwareUpdaterTest, ACheckThatWasAskedForCountsAsTheDays)
+{
+    make();
+    updater->checkForUpdates();
+    answer(same());
+    pass(3600);
+    EXPECT_EQ(checks(), 1U);
+}
+
+TEST_F(SoftwareUpdaterTest, ACheckInTheFutureWasAWrongClocks)
+{
+    make();
+    updater->checkForUpdates();
+    began -= 1'000'000;
+    make();
+    pass(60);
+    EXPECT_EQ(checks(), 2U);
+}
+
+TEST_F(SoftwareUpdaterTest, WithAutomaticChecksOffNobodyIsAsked)
+{
+    isAutomatic = false;
+    make();
+    pass(10 * day);
+    EXPECT_EQ(checks(), 0U);
+    EXPECT_FALSE(updater->automaticallyChecksForUpdates());
+}
+
+TEST_F(SoftwareUpdaterTest, TheSettingIsFollowedAtOnce)
+{
+    make();
+    pass(30);
+    updater->setAutomaticallyChecksForUpdates(false);
+    pass(10 * day);
+    EXPECT_EQ(checks(), 0U);
+    updater->setAutomaticallyChecksForUpdates(true);
+    EXPECT_TRUE(updater->automaticallyChecksForUpdates());
+    pass(60);
+    EXPECT_EQ(checks(), 1U);
+}
+
+TEST_F(SoftwareUpdaterTest, NobodyHearsOfACheckThatFoundNothingOrFailed)
+{
+    make();
+    pass(60);
+    answer(same());
+    pass(day);
+    answer("no feed");
+    pass(day);
+    web.fail(checks() - 1);
+    settle();
+    EXPECT_EQ(checks(), 3U);
+    EXPECT_TRUE(display.stages.empty());
+}
+
+TEST_F(SoftwareUpdaterTest, ANewVersionIsToldOfWithoutBeingAskedFor)
+{
+    make();
+    pass(60);
+    answer(newer());
+    EXPECT_EQ(display.stages, std::vector{Stage::Available});
+    EXPECT_EQ(display.attentions, std::vector{UpdateAttention::Unasked});
+    EXPECT_EQ(display.report.version, QStringLiteral("11.0"));
+    EXPECT_EQ(display.report.notes, QStringLiteral("Notes of 11"));
+}
+
+TEST_F(SoftwareUpdaterTest, WhoeverAsksAlwaysGetsAnAnswer)
+{
+    checkNow(same());
+    EXPECT_EQ(display.stages, (std::vector{Stage::Checking, Stage::UpToDate}));
+    checkNow(newer());
+    EXPECT_EQ(display.report.stage, Stage::Available);
+    EXPECT_EQ(display.attentions.back(), UpdateAttention::Asked);
+}
+
+TEST_F(SoftwareUpdaterTest, WhoeverAsksWhileACheckRunsHearsOfIt)
+{
+    make();
+    pass(60);
+    updater->checkForUpdates();
+    EXPECT_EQ(display.report.stage, Stage::Checking);
+    answer(same());
+    EXPECT_EQ(checks(), 1U);
+    EXPECT_EQ(display.report.stage, Stage::UpToDate);
+}
+
+TEST_F(SoftwareUpdaterTest, TheFeedIsAskedForSafelyAndWithinItsBounds)
+{
+    make();
+    updater->checkForUpdates();
+    const WebRequest &request = web.requests.at(0);
+    EXPECT_EQ(request.url, QUrl(QStringLiteral("https://corvane.example/appcast.xml")));
+    EXPECT_TRUE(request.mustBeSecure);
+    EXPECT_EQ(request.maximumBytes, 1024 * 1024 + 1);
+    EXPECT_EQ(request.userAgent, "Corvane/1.0");
+}
+
+TEST_F(SoftwareUpdaterTest, AFeedThatCannotBeHadIsSaidToBe)
+{
+    make();
+    updater->checkForUpdates();
+    web.fail(0);
+    EXPECT_TRUE(hasFailed(UpdateFailure::Unreachable));
+    updater->checkForUpdates();
+    web.answer(1, WebResponse{404, -1, {}, newer()});
+    EXPECT_TRUE(hasFailed(UpdateFailure::Unreachable));
+}
+
+TEST_F(SoftwareUpdaterTest, TheWayThatACheckAndADownloadTookIsTold)
+{
+    const WebRoute proxied{WebRoute::Kind::Proxied, {WebProxy::Kind::Http, QStringLiteral("p"), 1}};
+    make();
+    updater->checkForUpdates();
+    EXPECT_FALSE(display.report.route);
+    web.requests.back().onRoute(proxied);
+    answer(feed(item("11", UpdateFolder::newImage())));
+    EXPECT_EQ(display.report.stage, Stage::Available);
+    EXPECT_EQ(display.report.route, proxied);
+    display.onInstall();
+    settle();
+    downloader.downloads.back().request.onRoute(WebRoute{WebRoute::Kind::NeedsScript});
+    downloader.fail();
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::Failed);
+    EXPECT_EQ(display.report.route, (WebRoute{WebRoute::Kind::NeedsScript}));
+
+    display.onDismiss();
+    updater->checkForUpdates();
+    EXPECT_FALSE(display.report.route) << "of the check before";
+    web.requests.back().onRoute(WebRoute{});
+    answer(newer());
+    EXPECT_EQ(display.report.stage, Stage::Available);
+    EXPECT_EQ(display.report.route, WebRoute{});
+}
+
+TEST_F(SoftwareUpdaterTest, TheWayOfACheckThatFoundNothingIsToldToo)
+{
+    make();
+    updater->checkForUpdates();
+    web.requests.back().onRoute(WebRoute{});
+    answer(same());
+    EXPECT_EQ(display.report.stage, Stage::UpToDate);
+    EXPECT_EQ(display.report.route, WebRoute{});
+}
+
+TEST_F(SoftwareUpdaterTest, WhatIsNoFeedIsSaidToBe)
+{
+    for (const QByteArray &bytes : {QByteArray("<html/>"), entityBomb(),
+                                    QByteArray(newer() + QByteArray(appcast::maximumBytes, ' '))}) {
+        checkNow(bytes);
+        EXPECT_TRUE(hasFailed(UpdateFailure::NotAFeed));
+    }
+}
+
+TEST_F(SoftwareUpdaterTest, NothingThatIsOlderThanTheRunningVersionIsOffered)
+{
+    checkNow(feed(item("9", UpdateFolder::newImage())));
+    EXPECT_EQ(display.report.stage, Stage::UpToDate);
+}
+
+TEST_F(SoftwareUpdaterTest, AFeedWithNothingForThisMachineHasNothingNewer)
+{
+    checkNow(feed(""));
+    EXPECT_EQ(display.report.stage, Stage::UpToDate);
+}
+
+TEST_F(SoftwareUpdaterTest, AFeedThatGoesBackIsReportedAndNotFollowed)
+{
+    checkNow(feed(item("12", UpdateFolder::newImage())));
+    display.onDismiss();
+    checkNow(newer());
+    EXPECT_TRUE(hasFailed(UpdateFailure::WentBack));
+    checkNow(feed(""));
+    EXPECT_TRUE(hasFailed(UpdateFailure::WentBack)) << "nor one that falls silent about it";
+    make();
+    checkNow(same());
+    EXPECT_TRUE(hasFailed(UpdateFailure::WentBack)) << "remembered across starts";
+    checkNow(feed(item("12", UpdateFolder::newImage())));
+    EXPECT_EQ(display.report.stage, Stage::Available);
+}
+
+TEST_F(SoftwareUpdaterTest, VersionsForPeopleAreComparedWhereThereAreNoBuilds)
+{
+    const auto people = [this](const char *version) {
+        QByteArray announced = newer();
+        announced.replace("<sparkle:version>11</sparkle:version>", "");
+        return announced.replace("11.0", version);
+    };
+    checkNow(people("1.0"));
+    EXPECT_EQ(display.report.stage, Stage::UpToDate);
+    checkNow(people("1.0.1"));
+    EXPECT_EQ(display.report.stage, Stage::Available);
+}
+
+TEST_F(SoftwareUpdaterTest, AVersionThatCannotBeCheckedIsNotOffered)
+{
+    for (const QByteArray &announced :
+         {item("11", 10, "short"), item("11", 0, QByteArray(64, 's')),
+          item("11", 2LL * 1024 * 1024 * 1024, QByteArray(64, 's')),
+          item("11", 10, QByteArray(64, 's')).replace("https://corvane.example/", "")}) {
+        checkNow(feed(announced));
+        EXPECT_TRUE(hasFailed(UpdateFailure::Incomplete)) << announced.toStdString();
+    }
+}
+
+TEST_F(SoftwareUpdaterTest, TheNewImageTakesTheOldOnesPlaceAndItIsKept)
+{
+    beginDownload();
+    downloader.sendWhole(UpdateFolder::newImage());
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::Replaced);
+    EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::newImage());
+    EXPECT_TRUE(UpdateFolder::contents(folder.previous()) == UpdateFolder::oldImage());
+    EXPECT_EQ(folder.names().size(), 2);
+
+    // The next start is the new one's.
+    make();
+    EXPECT_EQ(folder.names(), QStringList{QStringLiteral("Corvane.AppImage")});
+}
+
+TEST_F(SoftwareUpdaterTest, TheDownloadIsSafeAndNoLongerThanAnnounced)
+{
+    beginDownload();
+    const WebRequest &request = downloader.downloads.at(0).request;
+    EXPECT_TRUE(request.mustBeSecure);
+    EXPECT_EQ(request.maximumBytes, UpdateFolder::newImage().size() + 1);
+    EXPECT_EQ(request.url, QUrl(QStringLiteral("https://corvane.example/new.AppImage")));
+    EXPECT_EQ(request.foundIn, AddressSpace::Public) << "where the feed was";
+}
+
+TEST_F(SoftwareUpdaterTest, NothingIsDownloadedBeforeTheUserSaysSo)
+{
+    checkNow(newer());
+    pass(10 * day);
+    EXPECT_TRUE(downloader.downloads.empty());
+}
+
+TEST_F(SoftwareUpdaterTest, ProgressIsShown)
+{
+    beginDownload();
+    EXPECT_EQ(display.report.total, UpdateFolder::newImage().size());
+    EXPECT_TRUE(downloader.send(UpdateFolder::newImage().left(100'000)));
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::Downloading);
+    EXPECT_EQ(display.report.received, 100'000);
+}
+
+TEST_F(SoftwareUpdaterTest, AWrongSignatureLeavesEverythingAsItWas)
+{
+    checkNow(feed(
+        item("11", UpdateFolder::newImage().size(), TestKey().sign(UpdateFolder::newImage()))));
+    display.onInstall();
+    settle();
+    downloader.sendWhole(UpdateFolder::newImage());
+    settle();
+    EXPECT_TRUE(hasFailed(UpdateFailure::WrongSignature));
+    EXPECT_TRUE(isUntouched());
+}
+
+TEST_F(SoftwareUpdaterTest, AFileThatIsNotTheSignedOneLeavesEverythingAsItWas)
+{
+    beginDownload();
+    QByteArray other = UpdateFolder::newImage();
+    other[12'345] = 'x';
+    downloader.sendWhole(other);
+    settle();
+    EXPECT_TRUE(hasFailed(UpdateFailure::WrongSignature));
+    EXPECT_TRUE(isUntouched());
+}
+
+TEST_F(SoftwareUpdaterTest, AShorterFileLeavesEverythingAsItWas)
+{
+    beginDownload();
+    downloader.sendWhole(UpdateFolder::newImage().chopped(1));
+    settle();
+    EXPECT_TRUE(hasFailed(UpdateFailure::WrongLength));
+    EXPECT_TRUE(isUntouched());
+}
+
+TEST_F(SoftwareUpdaterTest, OfALongerFileNoByteTooMuchIsTaken)
+{
+    beginDownload();
+    const QByteArray image = UpdateFolder::newImage();
+    EXPECT_TRUE(downloader.send(image));
+    EXPECT_FALSE(downloader.send("x"));
+    downloader.fail();
+    settle();
+    EXPECT_TRUE(hasFailed(UpdateFailure::WrongLength));
+    EXPECT_TRUE(isUntouched());
+}
+
+TEST_F(SoftwareUpdaterTest, ATransferThatBreaksLeavesEverythingAsItWas)
+{
+    beginDownload();
+    EXPECT_TRUE(downloader.send("beginning"));
+    downloader.fail();
+    settle();
+    EXPECT_TRUE(hasFailed(UpdateFailure::DownloadFailed));
+    EXPECT_TRUE(isUntouched());
+}
+
+TEST_F(SoftwareUpdaterTest, AnAnswerThatIsNoFileLeavesEverythingAsItWas)
+{
+    beginDownload();
+    downloader.end(WebResponse{404, -1, {}, {}});
+    settle();
+    EXPECT_TRUE(hasFailed(UpdateFailure::DownloadFailed));
+    EXPECT_TRUE(isUntouched());
+}
+
+TEST_F(SoftwareUpdaterTest, CancellingEndsTheTransferAndLeavesEverythingAsItWas)
+{
+    beginDownload();
+    EXPECT_TRUE(downloader.send("beginning"));
+    display.onDismiss();
+    EXPECT_TRUE(downloader.downloads.back().cancellation->isCancelled());
+    downloader.fail();
+    settle();
+    EXPECT_TRUE(isUntouched());
+    EXPECT_EQ(display.report.stage, Stage::Downloading) << "nobody looks any more";
+    checkNow(newer());
+    EXPECT_EQ(display.report.stage, Stage::Available) << "it may be taken another time";
+}
+
+TEST_F(SoftwareUpdaterTest, WhatTheImageBecameMeanwhileIsLeftAlone)
+{
+    beginDownload();
+    folder.write("Corvane.AppImage", "the user's own");
+    downloader.sendWhole(UpdateFolder::newImage());
+    settle();
+    EXPECT_TRUE(hasFailed(UpdateFailure::NotWritten));
+    EXPECT_EQ(UpdateFolder::contents(folder.appImage()), "the user's own");
+}
+
+TEST_F(SoftwareUpdaterTest, OutsideAnAppImageTheFileIsHandedOverAndShown)
+{
+    installation = {Installation::Kind::Loose};
+    downloads.write("new.AppImage", "the user's");
+    beginDownload();
+    downloader.sendWhole(UpdateFolder::newImage());
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::HandedOver);
+    EXPECT_EQ(display.report.fileName, QStringLiteral("new-2.AppImage"));
+    EXPECT_TRUE(UpdateFolder::contents(downloads.path("new-2.AppImage"))
+                == UpdateFolder::newImage());
+    EXPECT_EQ(UpdateFolder::contents(downloads.path("new.AppImage")), "the user's");
+    EXPECT_EQ(desktop.opened,
+              QList<QUrl>{QUrl::fromLocalFile(QFile::decodeName(downloads.path()))});
+    display.onShowFile();
+    EXPECT_EQ(desktop.opened.size(), 2);
+    EXPECT_TRUE(isUntouched());
+}
+
+TEST_F(SoftwareUpdaterTest, AnUnverifiedFileIsNeverHandedOver)
+{
+    installation = {Installation::Kind::Loose};
+    beginDownload();
+    downloader.sendWhole(QByteArray(UpdateFolder::newImage().size(), 'x'));
+    settle();
+    EXPECT_TRUE(hasFailed(UpdateFailure::WrongSignature));
+    EXPECT_EQ(downloads.names().size(), 1);
+    EXPECT_TRUE(desktop.opened.isEmpty());
+}
+
+TEST_F(SoftwareUpdaterTest, WhatHasBeenTakenIsNotOfferedAgainBeforeTheNextStart)
+{
+    beginDownload();
+    downloader.sendWhole(UpdateFolder::newImage());
+    settle();
+    display.onDismiss();
+    display.stages.clear();
+    pass(day);
+    answer(newer());
+    EXPECT_TRUE(display.stages.empty());
+    checkNow(newer());
+    EXPECT_EQ(display.stages, (std::vector{Stage::Checking, Stage::Replaced}));
+    checkNow(feed(item("12", UpdateFolder::newImage())));
+    EXPECT_EQ(display.report.stage, Stage::Available);
+}
+
+TEST_F(SoftwareUpdaterTest, AskingAgainShowsWhatIsUnderWay)
+{
+    beginDownload();
+    updater->checkForUpdates();
+    EXPECT_EQ(checks(), 1U);
+    EXPECT_EQ(downloader.downloads.size(), 1U);
+    EXPECT_EQ(display.report.stage, Stage::Downloading);
+    EXPECT_EQ(display.attentions.back(), UpdateAttention::Asked);
+}
+
+TEST_F(SoftwareUpdaterTest, AnOfferThatWaitsIsNotReplacedByTheNextDaysCheck)
+{
+    make();
+    pass(60);
+    answer(newer());
+    pass(3 * day);
+    EXPECT_EQ(checks(), 1U);
+    display.onDismiss();
+    pass(day);
+    EXPECT_EQ(checks(), 2U);
+}
+
+TEST_F(SoftwareUpdaterTest, ClosingTheWindowWhileItLooksEndsTheWaiting)
+{
+    make();
+    updater->checkForUpdates();
+    display.onDismiss();
+    answer(newer());
+    EXPECT_EQ(display.report.stage, Stage::Checking);
+}
+
+TEST_F(SoftwareUpdaterTest, PressingInstallTwiceDownloadsOnce)
+{
+    beginDownload();
+    display.onInstall();
+    settle();
+    EXPECT_EQ(downloader.downloads.size(), 1U);
+}
+
+TEST_F(SoftwareUpdaterTest, WhatComesAfterItsEndDoesNothing)
+{
+    beginDownload();
+    EXPECT_TRUE(downloader.send("beginning"));
+    updater.reset();
+    display.onInstall();
+    display.onDismiss();
+    downloader.fail();
+    settle();
+    EXPECT_TRUE(isUntouched());
+
+    checkNow(newer());
+    updater->checkForUpdates();
+    display.onDismiss();
+    updater->checkForUpdates();
+    updater.reset();
+    answer(newer());
+}
+
+} // namespace corvane::test
