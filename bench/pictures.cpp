@@ -116,7 +116,7 @@ void measure(CompositionRoot &root)
 int main(int argc, char **argv)
 {
     const QApplication application(argc, argv);
-    corvane::CompositionRoot root([] {});
+    corvane::CompositionRoot root(corvane::SessionKind::X11, [] {});
     root.delegate.applicationDidFinishLaunching();
     corvane::bench::measure(root);
     root.delegate.applicationWillTerminate();

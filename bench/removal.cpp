@@ -118,7 +118,7 @@ int main(int argc, char **argv)
     const QApplication application(argc, argv);
     corvane::bench::configureTray();
     const corvane::bench::Child tray("/usr/bin/tint2");
-    corvane::CompositionRoot root([] {});
+    corvane::CompositionRoot root(corvane::SessionKind::X11, [] {});
     root.delegate.applicationDidFinishLaunching();
     corvane::bench::measure(root);
     root.delegate.applicationWillTerminate();

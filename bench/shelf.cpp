@@ -44,7 +44,6 @@ struct Shelf {
     explicit Shelf(int count)
     {
         desk.panel.setFrame({{0, 0}, QSizeF(panelSize)});
-        settings.registerDefaults();
         settings.setInViewCount(6);
         const auto screen = screens.attach(QRectF(0, 0, 1512, 982));
         pointer.position = QPointF(700, 900);

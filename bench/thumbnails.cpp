@@ -146,7 +146,7 @@ int main(int argc, char **argv)
     const QTemporaryDir cache;
     qputenv("XDG_CACHE_HOME", QFile::encodeName(cache.path()));
     const QApplication application(argc, argv);
-    corvane::CompositionRoot root([] {});
+    corvane::CompositionRoot root(corvane::SessionKind::X11, [] {});
     root.delegate.applicationDidFinishLaunching();
     corvane::bench::measure(root, cache.path());
     root.delegate.applicationWillTerminate();

@@ -21,7 +21,6 @@ constexpr double scale = 2;
 struct Bar : test::ShelfModel {
     explicit Bar(int count)
     {
-        settings.registerDefaults();
         screen->frame = {0, 0, 750, 982};
         pointer.position = QPointF(300, 900);
         bar.emplace(

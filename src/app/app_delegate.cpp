@@ -1,14 +1,17 @@
 #include "app/app_delegate.h"
 
 #include "app/shell_windows.h"
+#include "app/status/status_item_controller.h"
 #include "app/updates/updater.h"
 #include "core/scratch_spool.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
-#include "input/drag_monitor.h"
 #include "input/hot_key_center.h"
 #include "input/shortcut_binder.h"
+#include "platform/desktop/drag_watch.h"
 #include "services/quick_look_presenter.h"
+#include "shelf/edge_summoner.h"
+#include "shelf/hud_controller.h"
 
 #include <QtDebug>
 
@@ -16,28 +19,33 @@
 
 namespace corvane {
 
-AppDelegate::AppDelegate(Context context)
-    : m_context(std::move(context))
+AppDelegate::AppDelegate(const Context &context)
+    : m_context(context)
 {
 }
 
 AppDelegate::~AppDelegate()
 {
     m_context.previewPanel.setController(nullptr);
+    m_context.dragWatch.onDragBegan = nullptr;
+    m_context.dragWatch.onDragEnded = nullptr;
+    m_context.shortcuts.onToggleShelf = nullptr;
+    m_context.shortcuts.onToggleViewAll = nullptr;
+    m_context.statusItem.onShowShelf = nullptr;
+    m_context.statusItem.onPreferences = nullptr;
+    m_context.statusItem.onWelcome = nullptr;
+    m_context.hud.onAwaitsDrop = nullptr;
+    m_context.hud.onPointerInside = nullptr;
+    m_context.hud.onUsed = nullptr;
 }
 
 void AppDelegate::applicationDidFinishLaunching()
 {
-    m_context.settings.registerDefaults();
     if (m_context.updater)
         m_context.updater->start();
     if (!m_context.settings.areKept())
         qWarning("[Corvane] The settings folder cannot be written to; changes are not kept.");
-    m_hud = std::make_unique<HUDController>(m_context.hud);
     m_context.previewPanel.setController(this);
-    m_statusItem = std::make_unique<StatusItemController>(StatusItemController::Context{
-        m_context.statusItem, m_context.store, m_context.settings, m_context.hud.view.queue,
-        m_context.terminate, m_context.updater});
     wireAwaitedDrops();
     wireDragDetection();
     wireHotKey();
@@ -48,10 +56,9 @@ void AppDelegate::applicationDidFinishLaunching()
 
 void AppDelegate::wireDragDetection()
 {
-    DragMonitor &monitor = m_context.dragMonitor;
-    const std::weak_ptr<bool> alive = m_alive;
-    monitor.onDragBegan = [this, alive] {
-        if (alive.expired() || !m_context.settings.autoShowOnDrag())
+    DragWatch &watch = m_context.dragWatch;
+    watch.onDragBegan = [this] {
+        if (!m_context.settings.autoShowOnDrag())
             return;
         ShelfStore &store = m_context.store;
         store.setDragInFlight(true);
@@ -62,20 +69,18 @@ void AppDelegate::wireDragDetection()
         else
             store.publishItems();
     };
-    monitor.onDragEnded = [this, alive] {
-        if (alive.expired())
-            return;
+    watch.onDragEnded = [this] {
         // An empty shelf would close under what was dropped on it and is still on its way.
         m_isDragEndOwed = m_isAwaitingDrop && m_context.store.items().isEmpty();
         if (!m_isDragEndOwed)
             m_context.store.dragEnded();
     };
-    monitor.start();
+    watch.start();
 }
 
 void AppDelegate::wireAwaitedDrops()
 {
-    m_hud->onAwaitsDrop = [this](bool isAwaiting) {
+    m_context.hud.onAwaitsDrop = [this](bool isAwaiting) {
         m_isAwaitingDrop = isAwaiting;
         // With the first item there is nothing left that would close.
         const bool isOver = !isAwaiting || !m_context.store.items().isEmpty();
@@ -87,15 +92,8 @@ void AppDelegate::wireAwaitedDrops()
 void AppDelegate::wireHotKey()
 {
     ShortcutBinder &shortcuts = m_context.shortcuts;
-    const std::weak_ptr<bool> alive = m_alive;
-    shortcuts.onToggleShelf = [this, alive] {
-        if (!alive.expired())
-            m_hud->toggleByHand();
-    };
-    shortcuts.onToggleViewAll = [this, alive] {
-        if (!alive.expired())
-            m_context.store.toggleViewAll();
-    };
+    shortcuts.onToggleShelf = [this] { m_context.hud.toggleByHand(); };
+    shortcuts.onToggleViewAll = [this] { m_context.store.toggleViewAll(); };
     const bool isShelfBound = shortcuts.bindShelf();
     const bool isViewAllBound = shortcuts.bindViewAll();
     if (!isShelfBound || !isViewAllBound)
@@ -105,35 +103,25 @@ void AppDelegate::wireHotKey()
 
 void AppDelegate::wireMenu()
 {
-    // The menu's rows are only there as long as the status item, which ends with this.
-    m_statusItem->onShowShelf = [this] { m_hud->toggleByHand(); };
-    m_statusItem->onPreferences = [this] { showPreferences(PreferencesTab::General); };
-    m_statusItem->onWelcome = [this] { showWelcome(); };
+    StatusItemController &menu = m_context.statusItem;
+    menu.onShowShelf = [this] { m_context.hud.toggleByHand(); };
+    menu.onPreferences = [this] { showPreferences(PreferencesTab::General); };
+    menu.onWelcome = [this] { showWelcome(); };
 }
 
 void AppDelegate::wireEdge()
 {
-    // It goes before the shelf, which it asks and hears.
-    m_edge = std::make_unique<EdgeSummoner>(EdgeSummoner::Context{
-        m_context.edge, m_context.hud.screens, m_context.store, m_context.hud.view.queue,
-        [this](const ScreenPointer &screen) { return m_hud->openWidth(screen); },
-        [this](double seconds) { m_hud->letClicksThrough(seconds); }});
-    m_hud->onPointerInside = [this](bool isInside) {
-        if (m_edge)
-            m_edge->pointerIsInside(isInside);
-    };
-    m_hud->onUsed = [this] {
-        if (m_edge)
-            m_edge->shelfIsUsed();
-    };
+    HUDController &hud = m_context.hud;
+    hud.onPointerInside = [this](bool isInside) { m_context.edge.pointerIsInside(isInside); };
+    hud.onUsed = [this] { m_context.edge.shelfIsUsed(); };
 }
 
 void AppDelegate::applicationWillTerminate()
 {
     if (std::exchange(m_isTerminated, true))
         return;
-    m_edge.reset();
-    m_context.dragMonitor.stop();
+    m_context.edge.stop();
+    m_context.dragWatch.stop();
     m_context.hotKeys.unregisterAll();
     m_context.previewPanel.orderOut();
     m_context.presenter.discardScratch();
@@ -142,7 +130,7 @@ void AppDelegate::applicationWillTerminate()
 
 bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/)
 {
-    m_hud->toggleByHand();
+    m_context.hud.toggleByHand();
     return false;
 }
 

@@ -1,30 +1,31 @@
 #pragma once
 
 #include "app/preferences/preferences_tab.h"
-#include "app/status/status_item_controller.h"
 #include "platform/preview/preview_panel.h"
-#include "shelf/edge_summoner.h"
-#include "shelf/hud_controller.h"
-
-#include <functional>
-#include <memory>
 
 namespace corvane {
 
-class DragMonitor;
+class DragWatch;
+class EdgeSummoner;
 class HotKeyCenter;
+class HUDController;
 class QuickLookPresenter;
 class ScratchSpool;
+class Settings;
+class ShelfStore;
 class ShellWindows;
 class ShortcutBinder;
+class StatusItemController;
+class Updater;
 
-/// Connects the shelf to the desktop at launch, and takes it down at the end.
+/// Connects the shelf to the desktop at launch, and takes it down at the end. It makes nothing and
+/// owns nothing: what it wires is given to it.
 ///
 /// Everything in the context must outlive it. Main thread only.
 class AppDelegate : public PreviewPanelController {
 public:
     struct Context {
-        DragMonitor &dragMonitor;
+        DragWatch &dragWatch;
         HotKeyCenter &hotKeys;
         ShortcutBinder &shortcuts;
         Settings &settings;
@@ -32,24 +33,22 @@ public:
         ScratchSpool &spool;
         PreviewPanel &previewPanel;
         QuickLookPresenter &presenter;
-        StatusItem &statusItem;
+        HUDController &hud;
+        EdgeSummoner &edge;
+        StatusItemController &statusItem;
         ShellWindows &windows;
-        /// Ends the program.
-        std::function<void()> terminate;
-        HUDController::Context hud;
-        EdgeSummoner::Desktop edge;
         /// None where there is nothing to look for.
         Updater *updater = nullptr;
     };
-    explicit AppDelegate(Context context);
+    explicit AppDelegate(const Context &context);
     ~AppDelegate() override;
     AppDelegate(const AppDelegate &) = delete;
     AppDelegate &operator=(const AppDelegate &) = delete;
 
     void applicationDidFinishLaunching();
-    /// Stops the drag monitor, gives the hot keys back, closes the preview and removes its scratch
-    /// file, then the spool. The process may be ending in more than one way at once: only the first
-    /// call does anything.
+    /// Lets go of the screens' edges, stops the drag watch, gives the hot keys back, closes the
+    /// preview and removes its scratch file, then the spool. The process may be ending in more than
+    /// one way at once: only the first call does anything.
     void applicationWillTerminate();
     /// The user started the program again. False: there is nothing else to do.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
@@ -70,14 +69,10 @@ private:
     void wireEdge();
 
     Context m_context;
-    std::unique_ptr<HUDController> m_hud;
-    std::unique_ptr<EdgeSummoner> m_edge;
-    std::unique_ptr<StatusItemController> m_statusItem;
     bool m_isTerminated = false;
     bool m_isAwaitingDrop = false;
     /// The drag has ended, and the store will hear of it when its contents are here.
     bool m_isDragEndOwed = false;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };
 
 } // namespace corvane

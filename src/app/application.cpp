@@ -2,6 +2,7 @@
 
 #include "app/base/app_info.h"
 #include "app/composition_root.h"
+#include "app/sessions/choose_session.h"
 #include "app/unanswered_start.h"
 #include "platform/base/end_deadline.h"
 #include "platform/freedesktop/dbus_single_instance.h"
@@ -23,11 +24,6 @@
 namespace corvane {
 
 namespace {
-
-bool hasDisplay()
-{
-    return !qEnvironmentVariableIsEmpty("DISPLAY");
-}
 
 /// Whether the desktop had the session bus start the program. What the bus delivers first is then
 /// the launch itself and not yet a wish to see the shelf.
@@ -63,13 +59,12 @@ void setUpApplication(const AppInfo &info)
 
 int runApplication(int argc, char **argv)
 {
-    if (!hasDisplay()) {
-        std::fputs("corvane: there is no X11 display to hang the shelf on (DISPLAY is not set)\n",
-                   stderr);
+    const SessionChoice choice = chooseSession(SessionEnvironment::ofThisProcess());
+    if (!choice.kind) {
+        std::fprintf(stderr, "corvane: %s\n", choice.refusal.constData());
         return 1;
     }
-    // In a Wayland session the shelf runs through XWayland for now.
-    qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("QT_QPA_PLATFORM", choice.platformPlugin);
     session_bus::keepFromStarting();
     const AppInfo info = AppInfo::builtIn();
     auto application = std::make_unique<QApplication>(argc, argv);
@@ -100,7 +95,7 @@ int runApplication(int argc, char **argv)
         putInOrder(std::exchange(delegate, nullptr));
         QCoreApplication::quit();
     };
-    auto root = std::make_unique<CompositionRoot>(terminate);
+    auto root = std::make_unique<CompositionRoot>(*choice.kind, terminate);
     delegate = &root->delegate;
     const UnixSignals signals(terminate);
     QObject::connect(application.get(), &QCoreApplication::aboutToQuit, terminate);

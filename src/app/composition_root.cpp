@@ -70,29 +70,21 @@ WebNetwork networkBy(const std::shared_ptr<WebRoutes> &routes)
 
 } // namespace
 
-CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
+CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<void()> &terminate)
     : webRoutes(std::make_shared<DesktopRoutes>())
     , webClient(mainQueue, networkBy(webRoutes))
     , screens(mainQueue)
     , fileIcons(mountTable)
-    , connection(terminate)
-    , pingAnswers(connection)
-    , pointer(connection, screens)
-    , dragDesktop(connection)
-    , hotKeyService(connection, mainQueue)
-    , keyMonitors(keyboardLayout)
-    , panelSurface(connection)
-    , windowActivation(connection)
-    , pointerBarriers(connection, screens)
-    , fullScreenWindows(connection)
-    , dropSupport(connection, mainQueue)
-    , dragSupport(connection, mainQueue)
-    , panel(panelSurface, mainQueue, &dropSupport, &dragSupport, &workQueue)
-    , viewAllPanel(panelSurface, mainQueue, &dropSupport, &dragSupport, &workQueue)
-    , statusItem(mainQueue, connection)
-    , dragMonitor(dragDesktop, dragDesktop, dragDesktop, mainQueue)
-    , screenLocator(screens, pointer)
-    , hotKeys(hotKeyService, mainQueue)
+    , session(startSession(sessionKind,
+                           {.mainQueue = mainQueue, .screens = screens, .terminate = terminate}))
+    , desktop(session->desktop())
+    , keyMonitors(desktop.keyboardLayout)
+    , panel(desktop.panelSurface, mainQueue, desktop.dropSupport, desktop.dragSupport, &workQueue)
+    , viewAllPanel(desktop.panelSurface, mainQueue, desktop.dropSupport, desktop.dragSupport,
+                   &workQueue)
+    , statusItem(mainQueue, desktop.trayWatch)
+    , screenLocator(screens, desktop.pointer)
+    , hotKeys(desktop.hotKeys, mainQueue)
     , settings(userDefaults, loginItems)
     , shortcuts(
           hotKeys, [this] { return settings.shortcut(); },
@@ -114,57 +106,110 @@ CompositionRoot::CompositionRoot(const std::function<void()> &terminate)
                           ThumbnailerRegistry::environmentProgramFolders())
     , sandbox(ThumbnailerRegistry::environmentProgramFolders())
     , thumbnailers(thumbnailerRegistry, sandbox)
-    , thumbnailChain({mountTable, thumbnailCache, imageCodec, thumbnailers, thumbnailWork})
-    , remoteThumbnails({remoteFiles, thumbnailCache, imageCodec, mainQueue, thumbnailWork})
+    , thumbnailChain({.locality = mountTable,
+                      .cache = thumbnailCache,
+                      .codec = imageCodec,
+                      .thumbnailers = thumbnailers,
+                      .workQueue = thumbnailWork})
+    , remoteThumbnails({.files = remoteFiles,
+                        .cache = thumbnailCache,
+                        .codec = imageCodec,
+                        .mainQueue = mainQueue,
+                        .workQueue = thumbnailWork})
     , thumbnails(thumbnailChain, remoteThumbnails, fileIcons, imageCodec, screens, mainQueue,
                  thumbnailWork)
     , linkPreviews(webClient, imageCodec, mainQueue, workQueue, product())
     , store(settings, spool, thumbnails, linkPreviews, feedback)
-    , previewLoader({previewDocuments, mountTable, mainQueue, previewWork, remotePreviewWork})
-    , previewPanel({previewLoader, fileIcons, desktopServices, windowActivation, mainQueue, panel})
-    , presenter({previewPanel, mainQueue, previewWork}, QFile::encodeName(QDir::tempPath()))
+    , previewLoader({.documents = previewDocuments,
+                     .locality = mountTable,
+                     .mainQueue = mainQueue,
+                     .workQueue = previewWork,
+                     .remoteWorkQueue = remotePreviewWork})
+    , previewPanel({.loading = previewLoader,
+                    .icons = fileIcons,
+                    .desktop = desktopServices,
+                    .activation = desktop.windowActivation,
+                    .queue = mainQueue,
+                    .shelf = panel})
+    , presenter({.panel = previewPanel, .mainQueue = mainQueue, .workQueue = previewWork},
+                QFile::encodeName(QDir::tempPath()))
     , theme(QGuiApplication::font(), logicalDotsPerInch())
     , dragWriter(makeDragWriter(theme, mountTable))
-    , viewAll({{viewAllPanel, mainQueue, motionPreference, theme, keyboard, dragWriter,
-                savedPictures, itemPreparation},
-               store,
-               quickActions,
-               dragDesktop,
-               pointer,
-               feedback})
+    , viewAll({.view = {.panel = viewAllPanel,
+                        .queue = mainQueue,
+                        .motionPreference = motionPreference,
+                        .theme = theme,
+                        .keyboard = keyboard,
+                        .dragWriter = dragWriter,
+                        .pictures = savedPictures,
+                        .preparation = itemPreparation},
+               .store = store,
+               .quickActions = quickActions,
+               .eventMonitors = desktop.outsideClicks,
+               .pointer = desktop.pointer,
+               .feedback = feedback})
+    , hud({.view = {.panel = panel,
+                    .queue = mainQueue,
+                    .motionPreference = motionPreference,
+                    .theme = theme,
+                    .animator = layerAnimator,
+                    .measurer = textMeasurer,
+                    .keyboard = keyboard,
+                    .ingest = ingest,
+                    .dragWriter = dragWriter,
+                    .preparation = itemPreparation},
+           .store = store,
+           .settings = settings,
+           .feedback = feedback,
+           .screens = screens,
+           .screenLocator = screenLocator,
+           .quickActions = quickActions,
+           .presenter = &presenter,
+           .viewAll = &viewAll})
+    , edge({.trigger = desktop.edgeTrigger,
+            .eventMonitors = desktop.outsideClicks,
+            .screens = screens,
+            .store = store,
+            .queue = mainQueue,
+            .shelfWidth = [this](const ScreenPointer &screen) { return hud.openWidth(screen); },
+            .letClicksThrough = [this](double seconds) { hud.letClicksThrough(seconds); }})
     , installation(Installation::from(Installation::Evidence::ofThisProcess()))
-    , updateWindow(windowActivation, AppInfo::builtIn().version(),
+    , updateWindow(desktop.windowActivation, AppInfo::builtIn().version(),
                    installation.kind == Installation::Kind::AppImage)
     , updateClient(mainQueue, networkBy(webRoutes))
     , updates(AppInfo::builtIn(), installation, [this] { return makeUpdater(); })
-    , windows({{settings, loginItems, shortcuts, keyMonitors, hotKeyService, desktopServices,
-                motionPreference, AppInfo::builtIn(), updates.updater(),
-                installation.kind == Installation::Kind::Managed},
-               windowActivation,
-               mainQueue})
-    , delegate({dragMonitor,
-                hotKeys,
-                shortcuts,
-                settings,
-                store,
-                spool,
-                previewPanel,
-                presenter,
-                statusItem.item(),
-                windows,
-                terminate,
-                {{panel, mainQueue, motionPreference, theme, layerAnimator, textMeasurer, keyboard,
-                  ingest, dragWriter, itemPreparation},
-                 store,
-                 settings,
-                 feedback,
-                 screens,
-                 screenLocator,
-                 quickActions,
-                 &presenter,
-                 &viewAll},
-                {pointerBarriers, fullScreenWindows, dragDesktop, dragDesktop, pointer},
-                updates.updater()})
+    , statusItemController({.statusItem = statusItem.item(),
+                            .store = store,
+                            .settings = settings,
+                            .queue = mainQueue,
+                            .terminate = terminate,
+                            .updater = updates.updater()})
+    , windows({.preferences
+               = {.settings = settings,
+                  .loginItems = loginItems,
+                  .shortcutBinder = shortcuts,
+                  .keyMonitors = keyMonitors,
+                  .hotKeys = desktop.hotKeys,
+                  .desktopServices = desktopServices,
+                  .motion = motionPreference,
+                  .appInfo = AppInfo::builtIn(),
+                  .updater = updates.updater(),
+                  .isKeptUpToDateByOthers = installation.kind == Installation::Kind::Managed},
+               .activation = desktop.windowActivation,
+               .queue = mainQueue})
+    , delegate({.dragWatch = desktop.dragWatch,
+                .hotKeys = hotKeys,
+                .shortcuts = shortcuts,
+                .settings = settings,
+                .store = store,
+                .spool = spool,
+                .previewPanel = previewPanel,
+                .presenter = presenter,
+                .hud = hud,
+                .edge = edge,
+                .statusItem = statusItemController,
+                .windows = windows,
+                .updater = updates.updater()})
 {
     const auto describe = [this](const QUuid &item, const QString &description) {
         store.describe(item, description);

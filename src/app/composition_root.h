@@ -1,8 +1,10 @@
 #pragma once
 
 #include "app/app_delegate.h"
+#include "app/sessions/desktop_session.h"
 #include "app/shell_windows.h"
 #include "app/status/desktop_status_item.h"
+#include "app/status/status_item_controller.h"
 #include "app/updates/update_files.h"
 #include "app/updates/update_window_controller.h"
 #include "app/updates/updater_controller.h"
@@ -21,7 +23,6 @@
 #include "core/settings.h"
 #include "core/shelf_store.h"
 #include "core/text_descriptions.h"
-#include "input/drag_monitor.h"
 #include "input/hot_key_center.h"
 #include "input/screen_locator.h"
 #include "input/shortcut_binder.h"
@@ -47,18 +48,6 @@
 #include "platform/qt/system/qt_desktop_services.h"
 #include "platform/qt/system/qt_user_defaults.h"
 #include "platform/qt/web/qt_web_client.h"
-#include "platform/x11/base/x11_connection.h"
-#include "platform/x11/drags/x11_drag_desktop.h"
-#include "platform/x11/drags/x11_drag_support.h"
-#include "platform/x11/drags/x11_drop_support.h"
-#include "platform/x11/keys/x11_hot_keys.h"
-#include "platform/x11/keys/x11_keyboard_layout.h"
-#include "platform/x11/pointer/x11_pointer.h"
-#include "platform/x11/pointer/x11_pointer_barriers.h"
-#include "platform/x11/windows/x11_full_screen_windows.h"
-#include "platform/x11/windows/x11_panel_surface.h"
-#include "platform/x11/windows/x11_ping_answers.h"
-#include "platform/x11/windows/x11_window_activation.h"
 #include "preview/qt_preview_documents.h"
 #include "preview/qt_preview_panel.h"
 #include "services/link_preview_service.h"
@@ -70,6 +59,8 @@
 #include "shelf/bar/view_all_controller.h"
 #include "shelf/drawing/layer_animator.h"
 #include "shelf/drawing/theme.h"
+#include "shelf/edge_summoner.h"
+#include "shelf/hud_controller.h"
 
 #include <chrono>
 #include <functional>
@@ -80,8 +71,8 @@ namespace corvane {
 /// Every long-lived object of the program, each standing after what it uses. Made once the
 /// application object exists.
 struct CompositionRoot {
-    /// `terminate` is called when the user quits and when the X server goes away.
-    explicit CompositionRoot(const std::function<void()> &terminate);
+    /// `terminate` is called when the user quits and when the session goes away.
+    CompositionRoot(SessionKind sessionKind, const std::function<void()> &terminate);
     CompositionRoot(const CompositionRoot &) = delete;
     CompositionRoot &operator=(const CompositionRoot &) = delete;
 
@@ -89,7 +80,7 @@ struct CompositionRoot {
     /// is used any more and it can be destroyed.
     bool finishWork(std::chrono::milliseconds patience);
 
-    // The desktop.
+    // The system, and what Qt does for us in every session.
     QtMainQueue mainQueue;
     QtImageCodec imageCodec;
     // After what its work uses: its end waits for work that is running.
@@ -106,25 +97,16 @@ struct CompositionRoot {
     QtTextMeasurer textMeasurer;
     AutostartLoginItems loginItems;
     PortalMotionPreference motionPreference;
-    X11Connection connection;
-    X11PingAnswers pingAnswers;
-    X11Pointer pointer;
-    X11DragDesktop dragDesktop;
-    X11HotKeys hotKeyService;
-    X11KeyboardLayout keyboardLayout;
+
+    // The session that the program runs in.
+    std::unique_ptr<RunningSession> session;
+    DesktopSession desktop;
     QtKeyMonitors keyMonitors;
-    X11PanelSurface panelSurface;
-    X11WindowActivation windowActivation;
-    X11PointerBarriers pointerBarriers;
-    X11FullScreenWindows fullScreenWindows;
-    X11DropSupport dropSupport;
-    X11DragSupport dragSupport;
     QtPanelWindow panel;
     QtPanelWindow viewAllPanel;
     DesktopStatusItem statusItem;
 
     // Input.
-    DragMonitor dragMonitor;
     ScreenLocator screenLocator;
     HotKeyCenter hotKeys;
 
@@ -173,6 +155,8 @@ struct CompositionRoot {
     LayerAnimator layerAnimator;
     DragWriter dragWriter;
     ViewAllController viewAll;
+    HUDController hud;
+    EdgeSummoner edge;
 
     // Updates, where this build looks for any.
     Installation installation;
@@ -184,6 +168,8 @@ struct CompositionRoot {
     QtWorkQueue updateWork;
     UpdaterController updates;
 
+    // The menu, the windows, and what connects everything.
+    StatusItemController statusItemController;
     ShellWindows windows;
     AppDelegate delegate;
 

@@ -39,6 +39,7 @@ Settings::Settings(UserDefaults &defaults, LoginItems &loginItems)
     : m_defaults(defaults)
     , m_loginItems(loginItems)
 {
+    registerDefaults();
 }
 
 void Settings::registerDefaults()

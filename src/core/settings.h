@@ -29,10 +29,8 @@ public:
     static constexpr int minimumInViewCount = 1;
     static constexpr int maximumInViewCount = 6;
 
+    /// Registers the defaults, so that nothing can read a setting without them.
     Settings(UserDefaults &defaults, LoginItems &loginItems);
-
-    /// Once, before anything reads a setting.
-    void registerDefaults();
 
     /// Whether changes outlive the process. May look at the disk.
     bool areKept() const;
@@ -64,6 +62,8 @@ public:
     void setLaunchAtLogin(bool on);
 
 private:
+    void registerDefaults();
+
     UserDefaults &m_defaults;
     LoginItems &m_loginItems;
     CallbackList<> m_layoutObservers;

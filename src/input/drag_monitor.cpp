@@ -18,7 +18,7 @@ DragMonitor::DragMonitor(DragPasteboard &pasteboard, EventMonitors &events, Mous
 
 DragMonitor::~DragMonitor()
 {
-    stop();
+    DragMonitor::stop();
 }
 
 std::function<void()> DragMonitor::whileAlive(void (DragMonitor::*work)())

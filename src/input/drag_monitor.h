@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/base/main_queue.h"
+#include "platform/desktop/drag_watch.h"
 #include "platform/desktop/event_monitors.h"
 
 #include <QtGlobal>
@@ -14,7 +15,7 @@ namespace corvane {
 class DragPasteboard;
 class MouseButtons;
 
-/// Notices when the user drags something, anywhere on the desktop.
+/// Notices drags on desktops that tell everything: pointer, buttons and who carries contents.
 ///
 /// No window system announces a drag between two other programs. What can be seen is the pointer
 /// moving with its left button held and, when contents are carried, the drag pasteboard changing.
@@ -32,7 +33,7 @@ class MouseButtons;
 ///
 /// A drag that begins while the last one settles is reported before the old one's end, which still
 /// comes. Main thread only; the references must outlive the monitor.
-class DragMonitor {
+class DragMonitor : public DragWatch {
 public:
     /// Seconds between two looks at the button.
     static constexpr double pollInterval = 0.05;
@@ -43,19 +44,13 @@ public:
                 MainQueue &queue);
     DragMonitor(const DragMonitor &) = delete;
     DragMonitor &operator=(const DragMonitor &) = delete;
-    ~DragMonitor();
+    ~DragMonitor() override;
 
-    /// A drag that began before this is not seen. Once, after both callbacks are set.
-    void start();
-    /// May be called again. In the middle of a drag its end is never reported.
-    void stop();
+    void start() override;
+    void stop() override;
 
     /// From a drag's recognition until its release was seen.
     bool isDragging() const { return m_isDragging; }
-
-    /// Each may be left empty, and may destroy the monitor.
-    std::function<void()> onDragBegan;
-    std::function<void()> onDragEnded;
 
 private:
     /// `work` bound to the monitor; does nothing once that is gone.

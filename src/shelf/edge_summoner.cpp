@@ -2,27 +2,12 @@
 
 #include "core/shelf_store.h"
 #include "platform/base/checked_math.h"
-#include "platform/base/geometry.h"
 #include "platform/base/main_queue.h"
-#include "platform/desktop/full_screen_windows.h"
-#include "platform/desktop/mouse_buttons.h"
-#include "platform/desktop/pointer.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace corvane {
-
-namespace {
-
-QRectF edgeOf(const EdgeStretch &stretch)
-{
-    const QRectF &screen = stretch.screen->frame;
-    return {minX(screen) + stretch.left, maxY(screen) - EdgeSummoner::edgeDepth, stretch.width,
-            EdgeSummoner::edgeDepth};
-}
-
-} // namespace
 
 EdgeSummoner::EdgeSummoner(const Context &context)
     : m_context(context)
@@ -35,15 +20,22 @@ EdgeSummoner::EdgeSummoner(const Context &context)
 
 EdgeSummoner::~EdgeSummoner()
 {
+    stop();
+}
+
+void EdgeSummoner::stop()
+{
+    m_isStopped = true;
     wait();
-    m_context.desktop.trigger.watch({});
-    m_context.desktop.trigger.onEntered = nullptr;
-    m_context.desktop.trigger.onLeft = nullptr;
+    m_watched.clear();
+    m_context.trigger.watch({});
+    m_context.trigger.onEntered = nullptr;
+    m_context.trigger.onLeft = nullptr;
 }
 
 void EdgeSummoner::wire()
 {
-    EdgeTrigger &trigger = m_context.desktop.trigger;
+    EdgeTrigger &trigger = m_context.trigger;
     trigger.onEntered = whileAlive(&EdgeSummoner::entered);
     trigger.onLeft = whileAlive(&EdgeSummoner::giveUp);
     m_context.screens.observeChanges(whileAlive(&EdgeSummoner::watchAnew));
@@ -79,7 +71,7 @@ void EdgeSummoner::entered()
 
 void EdgeSummoner::watchPresses(void (EdgeSummoner::*pressed)())
 {
-    m_pressMonitor = m_context.desktop.eventMonitors.addGlobalMouseDownMonitor(whileAlive(pressed));
+    m_pressMonitor = m_context.eventMonitors.addGlobalMouseDownMonitor(whileAlive(pressed));
 }
 
 void EdgeSummoner::giveUp()
@@ -98,12 +90,12 @@ void EdgeSummoner::wait()
 void EdgeSummoner::stopWatchingPresses()
 {
     if (const auto monitor = std::exchange(m_pressMonitor, std::nullopt))
-        m_context.desktop.eventMonitors.removeMonitor(*monitor);
+        m_context.eventMonitors.removeMonitor(*monitor);
 }
 
 void EdgeSummoner::summon()
 {
-    const bool isWanted = isWelcome();
+    const bool isWanted = m_context.trigger.isStillThere();
     wait();
     if (!isWanted)
         return;
@@ -134,18 +126,6 @@ void EdgeSummoner::clickedThrough()
     m_store.toggleManually();
 }
 
-bool EdgeSummoner::isWelcome() const
-{
-    const Desktop &desktop = m_context.desktop;
-    const auto location = desktop.pointer.location();
-    if (!location || desktop.buttons.pressedMouseButtons() != 0)
-        return false;
-    const auto here = std::ranges::find_if(m_watched, [&](const EdgeStretch &stretch) {
-        return contains(edgeOf(stretch), *location);
-    });
-    return here != m_watched.end() && !desktop.fullScreenWindows.isCovered(*here->screen);
-}
-
 void EdgeSummoner::pointerIsInside(bool isInside)
 {
     if (m_phase != Phase::Summoned)
@@ -172,7 +152,7 @@ void EdgeSummoner::dismissLater()
 void EdgeSummoner::dismiss()
 {
     // Something may be about to be dragged here.
-    if (m_context.desktop.buttons.pressedMouseButtons() != 0) {
+    if (m_context.trigger.isButtonHeld()) {
         dismissLater();
         return;
     }
@@ -194,7 +174,7 @@ void EdgeSummoner::watchAnew()
 {
     // The screens are the same objects, and elsewhere now.
     m_watched.clear();
-    m_context.desktop.trigger.watch({});
+    m_context.trigger.watch({});
     giveUp();
     updateWatch();
 }
@@ -206,13 +186,13 @@ void EdgeSummoner::updateWatch()
         return;
     m_watched = std::move(wanted);
     giveUp();
-    m_context.desktop.trigger.watch(m_watched);
+    m_context.trigger.watch(m_watched);
 }
 
 std::vector<EdgeStretch> EdgeSummoner::stretches() const
 {
     std::vector<EdgeStretch> result;
-    if (m_store.state() != ShelfState::Idle || m_store.items().isEmpty())
+    if (m_isStopped || m_store.state() != ShelfState::Idle || m_store.items().isEmpty())
         return result;
     for (const ScreenPointer &screen : m_context.screens.screens()) {
         const double width = std::min(m_context.shelfWidth(screen), screen->frame.width());

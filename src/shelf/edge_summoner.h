@@ -12,10 +12,7 @@
 
 namespace corvane {
 
-class FullScreenWindows;
 class MainQueue;
-class MouseButtons;
-class Pointer;
 class ShelfStore;
 
 /// Shows the hidden shelf while it holds items and the pointer is kept at the top edge of a screen,
@@ -29,9 +26,9 @@ class ShelfStore;
 ///        +--used by a key, a click or a drag: stays, as if opened by hand-------------+  |
 ///        +--hidden by somebody else------------------------------------------------------+
 ///
-/// Welcome is: no button is held, the pointer rests there, and no full-screen window has the
-/// screen. The edge is watched only while the shelf is hidden and holds items. Delayed work is
-/// voided by generations. Main thread only; everything in the context must outlive it.
+/// Welcome is: the edge tells that the pointer is still there, and free. The edge is watched only
+/// while the shelf is hidden and holds items. Delayed work is voided by generations. Main thread
+/// only; everything in the context must outlive it.
 class EdgeSummoner {
 public:
     /// Seconds at the edge until the shelf is shown.
@@ -40,18 +37,9 @@ public:
     static constexpr double leaveDelay = 0.8;
     /// Seconds for which clicks on the shown shelf go to what it covers.
     static constexpr double clicksThroughTime = 0.3;
-    /// Points below the edge that still count as being there: a resting hand trembles.
-    static constexpr double edgeDepth = 3;
-
-    struct Desktop {
-        EdgeTrigger &trigger;
-        const FullScreenWindows &fullScreenWindows;
-        const MouseButtons &buttons;
-        EventMonitors &eventMonitors;
-        const Pointer &pointer;
-    };
     struct Context {
-        Desktop desktop;
+        EdgeTrigger &trigger;
+        EventMonitors &eventMonitors;
         Screens &screens;
         ShelfStore &store;
         MainQueue &queue;
@@ -64,6 +52,9 @@ public:
     ~EdgeSummoner();
     EdgeSummoner(const EdgeSummoner &) = delete;
     EdgeSummoner &operator=(const EdgeSummoner &) = delete;
+
+    /// Lets go of the edge, for good: the program ends. A shelf that is shown stays.
+    void stop();
 
     /// The pointer came onto the shown shelf, or went off it.
     void pointerIsInside(bool isInside);
@@ -85,7 +76,6 @@ private:
     void stopWatchingPresses();
     void summon();
     void clickedThrough();
-    bool isWelcome() const;
     void dismissLater();
     void dismiss();
     void storeChanged();
@@ -101,6 +91,7 @@ private:
     Phase m_phase = Phase::Waiting;
     /// Bumped by whatever makes delayed work out of date.
     std::int64_t m_generation = 0;
+    bool m_isStopped = false;
     qsizetype m_summonedCount = 0;
     double m_summonTime = 0;
     std::vector<EdgeStretch> m_watched;

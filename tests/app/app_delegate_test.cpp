@@ -2,23 +2,26 @@
 #include "app/base/app_info.h"
 #include "app/preferences/preferences_window_controller.h"
 #include "app/shell_windows.h"
+#include "app/status/status_item_controller.h"
 #include "app/updates/updater.h"
 #include "app/welcome/welcome_window_controller.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_desktop_services.h"
 #include "fakes/fake_drag_desktop.h"
-#include "fakes/fake_edge_trigger.h"
 #include "fakes/fake_hot_keys.h"
 #include "fakes/fake_key_monitors.h"
+#include "fakes/fake_pointer_barriers.h"
 #include "fakes/fake_preview_panel.h"
 #include "fakes/fake_status_item.h"
 #include "fakes/fake_window_activation.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/shelf_model.h"
+#include "input/barrier_edge_trigger.h"
 #include "input/drag_monitor.h"
 #include "input/hot_key_center.h"
 #include "input/shortcut_binder.h"
 #include "services/quick_look_presenter.h"
+#include "shelf/edge_summoner.h"
 
 #include <QDir>
 #include <QJsonObject>
@@ -52,9 +55,7 @@ protected:
     AppDelegateTest()
     {
         settings.setSeenWelcome(true);
-        watchReading();
         launch();
-        defaults.onRead = nullptr;
         store.observeState([this](ShelfState from, ShelfState to) {
             log << QStringLiteral("state %1 %2")
                        .arg(static_cast<int>(from))
@@ -63,36 +64,45 @@ protected:
         store.observeItems([this](const QList<DropItem> &) { log << QStringLiteral("items"); });
     }
 
-    /// Sorts what is read by whether the defaults are there already, which one of them tells.
-    void watchReading()
-    {
-        defaults.onRead = [this, isLooking = false](const QString &key) mutable {
-            if (std::exchange(isLooking, true))
-                return;
-            const bool isThere = defaults.boolForKey(QStringLiteral("settings.linkPreviews"));
-            (isThere ? readWithDefaults : readTooEarly) << key;
-            isLooking = false;
-        };
-    }
-
     void launch()
     {
-        delegate.emplace(AppDelegate::Context{
-            monitor,
-            hotKeys,
-            shortcuts,
-            settings,
-            store,
-            desk.spool,
-            previewPanel,
-            presenter,
-            statusItem,
-            windows,
-            [this] { log << QStringLiteral("terminate"); },
-            controllerContext(),
-            {edgeTrigger, fullScreenWindows, desktop, desktop, desktop.pointer},
-            &updater});
+        hud.emplace(controllerContext());
+        edge.emplace(EdgeSummoner::Context{
+            .trigger = edgeTrigger,
+            .eventMonitors = desktop,
+            .screens = screens,
+            .store = store,
+            .queue = desk.clock,
+            .shelfWidth = [this](const ScreenPointer &where) { return hud->openWidth(where); },
+            .letClicksThrough = [this](double seconds) { hud->letClicksThrough(seconds); }});
+        statusItemController.emplace(StatusItemController::Context{
+            .statusItem = statusItem,
+            .store = store,
+            .settings = settings,
+            .queue = desk.clock,
+            .terminate = [this] { log << QStringLiteral("terminate"); }});
+        delegate.emplace(AppDelegate::Context{.dragWatch = monitor,
+                                              .hotKeys = hotKeys,
+                                              .shortcuts = shortcuts,
+                                              .settings = settings,
+                                              .store = store,
+                                              .spool = desk.spool,
+                                              .previewPanel = previewPanel,
+                                              .presenter = presenter,
+                                              .hud = *hud,
+                                              .edge = *edge,
+                                              .statusItem = *statusItemController,
+                                              .windows = windows,
+                                              .updater = &updater});
         delegate->applicationDidFinishLaunching();
+    }
+    /// Takes everything down again, in the order in which the program does it.
+    void end()
+    {
+        delegate.reset();
+        statusItemController.reset();
+        edge.reset();
+        hud.reset();
     }
     bool pressHotKey(const FakeHotKeys::Combination &hotKey)
     {
@@ -134,8 +144,9 @@ protected:
     FakeWorkQueue scratchWork;
     QuickLookPresenter presenter{{previewPanel, desk.clock, scratchWork}, scratch.path()};
     FakeStatusItem statusItem;
-    FakeEdgeTrigger edgeTrigger;
+    FakePointerBarriers barriers;
     FakeFullScreenWindows fullScreenWindows;
+    BarrierEdgeTrigger edgeTrigger{{barriers, fullScreenWindows, desktop, desktop.pointer}};
     FakeKeyMonitors keyMonitors;
     FakeDesktopServices desktopServices;
     FakeWindowActivation activation;
@@ -144,21 +155,14 @@ protected:
                           activation,
                           desk.clock}};
     StartedUpdater updater{settings};
+    std::optional<HUDController> hud;
+    std::optional<EdgeSummoner> edge;
+    std::optional<StatusItemController> statusItemController;
     std::optional<AppDelegate> delegate;
     QStringList log;
-    QStringList readTooEarly;
-    QStringList readWithDefaults;
 };
 
 } // namespace
-
-TEST_F(AppDelegateTest, RegistersTheDefaultsBeforeAnythingReadsASetting)
-{
-    EXPECT_EQ(readTooEarly, QStringList());
-    for (const char *key : {"settings.autoCheckUpdates", "settings.inViewCount",
-                            "settings.shortcut", "settings.viewAllShortcut"})
-        EXPECT_TRUE(readWithDefaults.contains(QLatin1String(key))) << key;
-}
 
 TEST_F(AppDelegateTest, StartsTheUpdaterOnceTheSettingsHaveTheirDefaults)
 {
@@ -297,10 +301,10 @@ TEST_F(AppDelegateTest, TheEdgeShowsTheShelfAndTheShelfTellsWhenThePointerLeaves
 {
     store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
     store.toggleManually();
-    ASSERT_EQ(edgeTrigger.watched.size(), 1U);
-    const EdgeStretch watched = edgeTrigger.watched.front();
+    ASSERT_EQ(barriers.watched.size(), 1U);
+    const EdgeStretch watched = barriers.watched.front();
     desktop.pointer.position = QPointF(756, 981.5);
-    edgeTrigger.push();
+    barriers.push();
     desk.clock.advance(EdgeSummoner::approachDelay);
     ASSERT_EQ(store.state(), ShelfState::Occupied);
     EXPECT_EQ(watched.width, desk.panel.frame().width()) << "where the shelf hangs";
@@ -333,7 +337,7 @@ TEST_F(AppDelegateTest, AShelfThatTheEdgeShowedStaysOnceItIsPressedTypedOnOrDrag
         store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
         store.toggleManually();
         desktop.pointer.position = QPointF(756, 981.5);
-        edgeTrigger.push();
+        barriers.push();
         desk.clock.advance(EdgeSummoner::approachDelay);
         desk.panel.content->mouseEntered({{100, 40}});
         use(*desk.panel.content);
@@ -347,9 +351,9 @@ TEST_F(AppDelegateTest, TheEdgeIsLeftAloneOnceTheProgramEnds)
 {
     store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
     store.toggleManually();
-    ASSERT_FALSE(edgeTrigger.watched.empty());
+    ASSERT_FALSE(barriers.watched.empty());
     delegate->applicationWillTerminate();
-    EXPECT_TRUE(edgeTrigger.watched.empty());
+    EXPECT_TRUE(barriers.watched.empty());
 }
 
 TEST_F(AppDelegateTest, ReopeningTogglesTheShelf)
@@ -387,7 +391,7 @@ TEST_F(AppDelegateTest, TheStatusItemFollowsTheShelf)
 TEST_F(AppDelegateTest, TheMenuDoesNothingOnceItIsGone)
 {
     statusItem.open();
-    delegate.reset();
+    end();
     EXPECT_TRUE(statusItem.choose(u"Show Shelf"));
     EXPECT_TRUE(statusItem.choose(u"Quit Corvane"));
     EXPECT_TRUE(log.isEmpty());
@@ -476,7 +480,7 @@ TEST_F(AppDelegateTest, TerminationDiscardsAScratchFileThatIsNoLongerShown)
 TEST_F(AppDelegateTest, APreviewThatEndsAfterItIsGoneAsksNobody)
 {
     presenter.present(ShelfDesk::textItem(QStringLiteral("a")));
-    delegate.reset();
+    end();
     EXPECT_FALSE(previewPanel.isVisible());
     presenter.present(ShelfDesk::textItem(QStringLiteral("b")));
     previewPanel.orderOut();
@@ -535,14 +539,14 @@ TEST_F(AppDelegateTest, TerminationGivesTheHotKeysBackAndForgetsAPressOnItsWay)
 
 TEST_F(AppDelegateTest, AHotKeyPressedAfterItIsGoneDoesNothing)
 {
-    delegate.reset();
+    end();
     EXPECT_TRUE(pressHotKey(shelfHotKey));
     EXPECT_EQ(store.state(), ShelfState::Idle);
 }
 
 TEST_F(AppDelegateTest, ShortcutsThatAreTakenAreSaidOnceAndStartUpGoesOn)
 {
-    delegate.reset();
+    end();
     hotKeys.unregisterAll();
     hotKeyService.takenByOthers = {shelfHotKey, viewAllHotKey};
     settings.setViewAllShortcut(
@@ -559,7 +563,7 @@ TEST_F(AppDelegateTest, ShortcutsThatAreTakenAreSaidOnceAndStartUpGoesOn)
 
 TEST_F(AppDelegateTest, SettingsThatCannotBeKeptAreSaidOnceAndTheSessionGoesOn)
 {
-    delegate.reset();
+    end();
     defaults.kept = false;
     testing::internal::CaptureStderr();
     launch();
@@ -574,7 +578,7 @@ TEST_F(AppDelegateTest, SettingsThatCannotBeKeptAreSaidOnceAndTheSessionGoesOn)
 
 TEST_F(AppDelegateTest, ADragHeardAfterItIsGoneDoesNothing)
 {
-    delegate.reset();
+    end();
     drag();
     release();
     EXPECT_TRUE(log.isEmpty());

@@ -84,7 +84,6 @@ QStringList menuLines(const FakeStatusItem &item)
 TEST(Texts, OfTheMenu)
 {
     ShelfModel model;
-    model.settings.registerDefaults();
     model.settings.setViewAllShortcut(Shortcut{40, Shortcut::control, QStringLiteral("K")});
     IdleUpdater updates;
     Table table;
@@ -214,7 +213,6 @@ TEST(Texts, OfTheUpdates)
 TEST(Texts, OfTheShelfsMessages)
 {
     ShelfModel model;
-    model.settings.registerDefaults();
     HUDController shelf(model.controllerContext());
     auto &view = dynamic_cast<ShelfView &>(*model.desk.panel.content);
     QStringList lines;
@@ -270,7 +268,6 @@ TEST(Texts, OfTheShelfsMessages)
 TEST(Texts, OfTheBar)
 {
     ShelfModel model;
-    model.settings.registerDefaults();
     FakePanelWindow panel;
     FakeDragDesktop desktop;
     ViewAllController bar(ViewAllController::Context{

@@ -23,9 +23,8 @@ struct SettingsTest : testing::Test {
     Settings settings{defaults, loginItems};
 };
 
-TEST_F(SettingsTest, RegistersItsDefaultsWithoutStoringThem)
+TEST_F(SettingsTest, HasItsDefaultsFromTheStartWithoutStoringThem)
 {
-    settings.registerDefaults();
     EXPECT_TRUE(settings.autoShowOnDrag());
     EXPECT_TRUE(settings.autoCheckUpdates());
     EXPECT_TRUE(settings.linkPreviews());
@@ -37,13 +36,11 @@ TEST_F(SettingsTest, RegistersItsDefaultsWithoutStoringThem)
 
 TEST_F(SettingsTest, TheNumberInViewHasADefaultBeforeItIsClamped)
 {
-    settings.registerDefaults();
     EXPECT_EQ(defaults.integerForKey(key("settings.inViewCount")), 1);
 }
 
 TEST_F(SettingsTest, KeepsEachSwitchUnderItsKey)
 {
-    settings.registerDefaults();
     settings.setAutoShowOnDrag(false);
     settings.setAutoCheckUpdates(false);
     settings.setLinkPreviews(false);
@@ -91,7 +88,6 @@ TEST_F(SettingsTest, TellsOfTheLayoutForNothingElse)
 {
     int told = 0;
     settings.observeLayout([&] { ++told; });
-    settings.registerDefaults();
     settings.setAutoShowOnDrag(false);
     settings.setAutoCheckUpdates(false);
     settings.setLinkPreviews(false);

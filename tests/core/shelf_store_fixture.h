@@ -21,7 +21,6 @@ namespace corvane::test {
 struct ShelfStoreTest : testing::Test, TemporarySpool {
     ShelfStoreTest()
     {
-        settings.registerDefaults();
         feedback.handler = [this](const QString &message) { messages << message; };
         store.observeItems([this](const QList<DropItem> &items) {
             log << QStringLiteral("items ") + joined(items);

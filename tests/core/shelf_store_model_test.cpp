@@ -48,7 +48,6 @@ class StoreAndModel : TemporarySpool {
 public:
     explicit StoreAndModel(RandomSteps & /*steps*/)
     {
-        settings.registerDefaults();
         feedback.handler
             = [this](const QString &message) { log << QStringLiteral("message ") + message; };
         store.observeItems([this](const QList<DropItem> &items) {

@@ -19,11 +19,7 @@ namespace corvane::test {
 /// Everything that the preferences read and write, with real settings on top of fakes. Nothing
 /// moves by itself.
 struct PreferencesDesk {
-    PreferencesDesk()
-    {
-        settings.registerDefaults();
-        motion.reduces = true;
-    }
+    PreferencesDesk() { motion.reduces = true; }
 
     PreferencesContext context()
     {

@@ -42,7 +42,6 @@ class Panels : protected ShelfModel {
 public:
     explicit Panels(RandomSteps & /*steps*/)
     {
-        settings.registerDefaults();
         settings.setInViewCount(3);
         pointer.position = QPointF(700, 900);
         m_bar.emplace(ViewAllController::Context{{m_barPanel, desk.clock, desk.motion, desk.theme,

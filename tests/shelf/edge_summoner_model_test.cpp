@@ -2,9 +2,10 @@
 // screens, store and time come in any order, and the shelf is shown and hidden at the same times.
 
 #include "fakes/fake_drag_desktop.h"
-#include "fakes/fake_edge_trigger.h"
+#include "fakes/fake_pointer_barriers.h"
 #include "fakes/random_steps.h"
 #include "fakes/shelf_model.h"
+#include "input/barrier_edge_trigger.h"
 #include "shelf/edge_summoner.h"
 #include "shelf/edge_summoner_model.h"
 
@@ -20,20 +21,16 @@ class SummonerAndModel : ShelfModel {
 public:
     explicit SummonerAndModel(RandomSteps & /*steps*/)
     {
-        settings.registerDefaults();
         store.observeState([this](ShelfState from, ShelfState to) {
             log << EdgeSummonerModel::stateEntry(from, to, desk.clock.now());
         });
-        summoner.emplace(EdgeSummoner::Context{
-            {trigger, fullScreenWindows, desktop, desktop, desktop.pointer},
-            screens,
-            store,
-            desk.clock,
-            [this](const ScreenPointer &) { return width; },
-            [this](double seconds) {
-                EXPECT_EQ(seconds, 0.3);
-                log << EdgeSummonerModel::entry("clicks go through", desk.clock.now());
-            }});
+        summoner.emplace(EdgeSummoner::Context{edge, desktop, screens, store, desk.clock,
+                                               [this](const ScreenPointer &) { return width; },
+                                               [this](double seconds) {
+                                                   EXPECT_EQ(seconds, 0.3);
+                                                   log << EdgeSummonerModel::entry(
+                                                       "clicks go through", desk.clock.now());
+                                               }});
         tellWorld();
     }
 
@@ -264,8 +261,9 @@ private:
     }
 
     double width = 200;
-    FakeEdgeTrigger trigger;
+    FakePointerBarriers trigger;
     FakeFullScreenWindows fullScreenWindows;
+    BarrierEdgeTrigger edge{{trigger, fullScreenWindows, desktop, desktop.pointer}};
     FakeDragDesktop desktop;
     std::optional<EdgeSummoner> summoner;
     std::shared_ptr<Screen> second;

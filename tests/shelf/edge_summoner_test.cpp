@@ -1,6 +1,7 @@
 #include "fakes/fake_drag_desktop.h"
-#include "fakes/fake_edge_trigger.h"
+#include "fakes/fake_pointer_barriers.h"
 #include "fakes/shelf_model.h"
+#include "input/barrier_edge_trigger.h"
 #include "shelf/edge_summoner.h"
 
 #include <gtest/gtest.h>
@@ -26,19 +27,15 @@ protected:
 
     void make()
     {
-        summoner.emplace(
-            EdgeSummoner::Context{{trigger, fullScreenWindows, desktop, desktop, desktop.pointer},
-                                  screens,
-                                  store,
-                                  desk.clock,
-                                  [this](const ScreenPointer &) {
-                                      ++measurements;
-                                      return width;
-                                  },
-                                  [this](double seconds) {
-                                      EXPECT_FALSE(isShown()) << "before it is shown";
-                                      clicksThrough.push_back(seconds);
-                                  }});
+        summoner.emplace(EdgeSummoner::Context{edgeTrigger, desktop, screens, store, desk.clock,
+                                               [this](const ScreenPointer &) {
+                                                   ++measurements;
+                                                   return width;
+                                               },
+                                               [this](double seconds) {
+                                                   EXPECT_FALSE(isShown()) << "before it is shown";
+                                                   clicksThrough.push_back(seconds);
+                                               }});
     }
 
     /// The shelf holds two items and was closed by hand.
@@ -79,9 +76,10 @@ protected:
 
     double width = 200;
     int measurements = 0;
-    FakeEdgeTrigger trigger;
+    FakePointerBarriers trigger;
     FakeFullScreenWindows fullScreenWindows;
     FakeDragDesktop desktop;
+    BarrierEdgeTrigger edgeTrigger{{trigger, fullScreenWindows, desktop, desktop.pointer}};
     std::optional<EdgeSummoner> summoner;
     int stateChanges = 0;
     std::vector<double> clicksThrough;
@@ -475,6 +473,28 @@ TEST_F(EdgeSummonerTest, DoesNothingOnceItIsGone)
     trigger.push();
     desk.clock.advance(100);
     EXPECT_FALSE(isShown());
+}
+
+TEST_F(EdgeSummonerTest, OnceStoppedItWatchesNoEdgeAnyMore)
+{
+    hideShelf();
+    ASSERT_TRUE(isWatching());
+    summoner->stop();
+    EXPECT_FALSE(isWatching());
+    store.toggleManually();
+    store.toggleManually();
+    screens.notifyChanges();
+    desk.clock.runPending();
+    EXPECT_FALSE(isWatching());
+}
+
+TEST_F(EdgeSummonerTest, AShelfThatItShowedStaysWhenItIsStopped)
+{
+    summonShelf();
+    summoner->stop();
+    leaveShelf();
+    desk.clock.advance(10);
+    EXPECT_TRUE(isShown());
 }
 
 } // namespace corvane::test

@@ -30,7 +30,6 @@ class ControllerAndModel : ShelfModel {
 public:
     explicit ControllerAndModel(RandomSteps &steps)
     {
-        settings.registerDefaults();
         // With motion the panel is larger than the way's two ends, by what springs overshoot.
         desk.motion.reduces = !steps.oneIn(3);
         pointer.position = QPointF(700, 900);

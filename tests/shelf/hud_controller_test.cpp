@@ -38,7 +38,6 @@ class HUDControllerTest : public testing::Test, protected ShelfModel {
 protected:
     HUDControllerTest()
     {
-        settings.registerDefaults();
         pointer.position = QPointF(700, 900);
         controller.emplace(context());
         bar.shelf = &view();

@@ -2,16 +2,17 @@
 
 #include "app/status/status_icon.h"
 #include "platform/base/main_queue.h"
+#include "platform/desktop/tray_watch.h"
 
 #include <QGuiApplication>
 #include <QPalette>
 
 namespace corvane {
 
-DesktopStatusItem::DesktopStatusItem(MainQueue &mainQueue, X11Connection &connection)
+DesktopStatusItem::DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray)
     : m_mainQueue(mainQueue)
+    , m_tray(tray)
     , m_hosts(std::make_unique<NotifierHosts>())
-    , m_x11Tray(std::make_unique<X11TrayWatch>(connection))
 {
     // The shelf does not wait for its icon.
     mainQueue.async([this, alive = std::weak_ptr<bool>(m_alive)] {
@@ -25,7 +26,8 @@ void DesktopStatusItem::search()
     m_hosts->start([this] { found(0); });
     // A panel that has both announces one after the other, and the first icon decides for good.
     constexpr double settleDelay = 1;
-    m_x11Tray->start([this] { found(settleDelay); });
+    if (m_tray)
+        m_tray->start([this] { found(settleDelay); });
 }
 
 void DesktopStatusItem::found(double delay)
@@ -35,7 +37,8 @@ void DesktopStatusItem::found(double delay)
         if (alive.expired() || !m_hosts)
             return;
         m_hosts.reset();
-        m_x11Tray.reset();
+        if (m_tray)
+            m_tray->stop();
         updateForeground();
         // The event that is to be handled instead is seen only by filtering every event there is.
         QT_WARNING_PUSH

@@ -2,21 +2,22 @@
 
 #include "platform/freedesktop/notifier_hosts.h"
 #include "platform/qt/desktop/qt_tray_icon.h"
-#include "platform/x11/windows/x11_tray_watch.h"
 
 #include <memory>
 
 namespace corvane {
 
 class MainQueue;
+class TrayWatch;
 
-/// Brings the status item up once the desktop has a place for it, a panel on the session bus or an
-/// X11 tray, whichever is seen first; where both are there it is the bus. Without either nothing is
-/// made, and nothing else is missing.
+/// Brings the status item up once the desktop has a place for it, a panel on the session bus or a
+/// tray of the session's own kind, whichever is seen first; where both are there it is the bus.
+/// Without either nothing is made, and nothing else is missing.
 class DesktopStatusItem {
 public:
-    /// Begins at the next turn of the queue. Both must outlive it.
-    DesktopStatusItem(MainQueue &mainQueue, X11Connection &connection);
+    /// Begins at the next turn of the queue. Both must outlive it; null where such sessions have no
+    /// tray of their own.
+    DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray);
 
     StatusItem &item() { return m_item; }
 
@@ -29,9 +30,9 @@ private:
 
     MainQueue &m_mainQueue;
     QtTrayIcon m_item;
-    // Both only until something is found.
+    TrayWatch *m_tray;
+    // Only until something is found.
     std::unique_ptr<NotifierHosts> m_hosts;
-    std::unique_ptr<X11TrayWatch> m_x11Tray;
     std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
 };
 

@@ -17,12 +17,9 @@ struct EdgeStretch {
     friend bool operator==(const EdgeStretch &, const EdgeStretch &) = default;
 };
 
-/// Tells when the user pushes the pointer against the top edge of a screen.
-///
-/// It takes nothing from the windows there, holds the pointer up nowhere, and wakes nobody while
-/// the pointer is elsewhere. An edge that another screen continues is none: the pointer goes
-/// through. Devices that name a place instead of a movement (tablets, the pointers of some virtual
-/// machines) push against nothing and are not noticed. Main thread only.
+/// Tells when the user takes the pointer to the top edge of a screen, and whether that is still
+/// meant for what hangs there. Each kind of session has its own way to find that out. Main thread
+/// only.
 class EdgeTrigger {
 public:
     virtual ~EdgeTrigger() = default;
@@ -30,9 +27,14 @@ public:
     /// Watches these stretches and no others; none at all costs nothing. What was entered before is
     /// forgotten, and its end not told.
     virtual void watch(const std::vector<EdgeStretch> &stretches) = 0;
+    /// Whether the pointer rests in a stretch that is watched, no button is held, and no other
+    /// window has that screen for itself, as films, games and locked sessions have.
+    virtual bool isStillThere() const = 0;
+    /// A button is held, wherever the pointer is: something may be about to be dragged here. False
+    /// where the window system does not tell.
+    virtual bool isButtonHeld() const = 0;
 
-    /// The pointer was pushed against a stretch, with nobody holding it for a drag or a menu. Told
-    /// once until it has left.
+    /// The pointer has come to a stretch. Told once until it has left.
     std::function<void()> onEntered;
     /// It is there no longer, after it was entered.
     std::function<void()> onLeft;

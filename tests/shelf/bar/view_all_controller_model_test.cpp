@@ -78,7 +78,6 @@ class BarAndModel : ShelfModel {
 public:
     explicit BarAndModel(RandomSteps & /*steps*/)
     {
-        settings.registerDefaults();
         bar.emplace(
             ViewAllController::Context{{panel, desk.clock, desk.motion, desk.theme, desk.keyboard,
                                         desk.dragWriter, desk.savedPictures, desk.preparation},

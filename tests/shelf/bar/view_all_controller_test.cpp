@@ -15,7 +15,6 @@ class ViewAllControllerTest : public testing::Test, protected ShelfModel {
 protected:
     ViewAllControllerTest()
     {
-        settings.registerDefaults();
         pointer.position = QPointF(700, 900);
         bar.emplace(context());
         HUDController::Context hud = controllerContext();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/edge_trigger.h"
+#include "platform/desktop/pointer_barriers.h"
 #include "platform/x11/base/x11_connection.h"
 
 #include <xcb/xfixes.h>
@@ -12,7 +12,7 @@ namespace corvane {
 /// Watches top edges by pointer barriers: lines that the server lets the pointer through in every
 /// direction but up, which nothing could do there anyway, and whose hits it tells. There is no
 /// window at the edge. What it is given must outlive it.
-class X11PointerBarriers : public EdgeTrigger {
+class X11PointerBarriers : public PointerBarriers {
 public:
     /// A row of pixels, both ends included.
     struct Line {

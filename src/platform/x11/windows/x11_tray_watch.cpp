@@ -18,8 +18,7 @@ X11TrayWatch::X11TrayWatch(X11Connection &connection)
 X11TrayWatch::~X11TrayWatch()
 {
     m_connection.removeListener(m_listener);
-    if (m_selection != XCB_NONE)
-        select(0);
+    X11TrayWatch::stop();
 }
 
 void X11TrayWatch::start(std::function<void()> onTray)
@@ -34,6 +33,13 @@ void X11TrayWatch::start(std::function<void()> onTray)
         m_connection.get(), xcb_get_selection_owner(m_connection.get(), m_selection), nullptr));
     if (reply && reply->owner != XCB_NONE)
         m_onTray();
+}
+
+void X11TrayWatch::stop()
+{
+    if (m_selection != XCB_NONE)
+        select(0);
+    m_selection = XCB_NONE;
 }
 
 void X11TrayWatch::select(std::uint32_t mask)

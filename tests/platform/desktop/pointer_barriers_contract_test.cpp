@@ -1,4 +1,4 @@
-#include "fakes/fake_edge_trigger.h"
+#include "fakes/fake_pointer_barriers.h"
 #include "fakes/fake_screens.h"
 #include "platform/display.h"
 #include "platform/x11/pointer/x11_pointer_barriers.h"
@@ -25,7 +25,7 @@ std::shared_ptr<Screen> screenAt(FakeScreens &screens, const QRect &native, doub
 struct FakeHands {
     FakeScreens screens;
     std::shared_ptr<Screen> screen = screenAt(screens, {0, 0, 1512, 982});
-    FakeEdgeTrigger trigger;
+    FakePointerBarriers trigger;
     void push() { trigger.push(); }
     void goAway() { trigger.leave(); }
     bool until(const std::function<bool()> &condition) { return condition(); }
@@ -50,9 +50,9 @@ struct RealHands {
 };
 
 template<typename Hands>
-class EdgeTriggerContract : public testing::Test {
+class PointerBarriersContract : public testing::Test {
 protected:
-    EdgeTriggerContract()
+    PointerBarriersContract()
     {
         hands.trigger.onEntered = [this] { log << QStringLiteral("entered"); };
         hands.trigger.onLeft = [this] { log << QStringLiteral("left"); };
@@ -82,9 +82,9 @@ protected:
 };
 
 using AllHands = testing::Types<FakeHands, RealHands>;
-TYPED_TEST_SUITE(EdgeTriggerContract, AllHands);
+TYPED_TEST_SUITE(PointerBarriersContract, AllHands);
 
-class X11PointerBarriersTest : public EdgeTriggerContract<RealHands> {
+class X11PointerBarriersTest : public PointerBarriersContract<RealHands> {
 protected:
     Display &display() { return hands.display; }
     e2e::Hands &pointer() { return hands.display.hands; }
@@ -92,7 +92,7 @@ protected:
 
 } // namespace
 
-TYPED_TEST(EdgeTriggerContract, tellsOnceThatThePointerCameAndOnceThatItLeft)
+TYPED_TEST(PointerBarriersContract, tellsOnceThatThePointerCameAndOnceThatItLeft)
 {
     this->watch();
     this->hands.push();
@@ -106,7 +106,7 @@ TYPED_TEST(EdgeTriggerContract, tellsOnceThatThePointerCameAndOnceThatItLeft)
     EXPECT_TRUE(this->hears({this->entered, this->left, this->entered}));
 }
 
-TYPED_TEST(EdgeTriggerContract, tellsNothingOfWhatIsNotWatched)
+TYPED_TEST(PointerBarriersContract, tellsNothingOfWhatIsNotWatched)
 {
     this->hands.push();
     EXPECT_TRUE(this->hears({}));
@@ -117,7 +117,7 @@ TYPED_TEST(EdgeTriggerContract, tellsNothingOfWhatIsNotWatched)
     EXPECT_TRUE(this->hears({}));
 }
 
-TYPED_TEST(EdgeTriggerContract, forgetsAVisitWhenItWatchesAnew)
+TYPED_TEST(PointerBarriersContract, forgetsAVisitWhenItWatchesAnew)
 {
     this->watch();
     this->hands.push();
@@ -129,7 +129,7 @@ TYPED_TEST(EdgeTriggerContract, forgetsAVisitWhenItWatchesAnew)
     EXPECT_TRUE(this->hears({this->entered, this->entered}));
 }
 
-TYPED_TEST(EdgeTriggerContract, mayBeToldToWatchNothingFromItsCallback)
+TYPED_TEST(PointerBarriersContract, mayBeToldToWatchNothingFromItsCallback)
 {
     this->hands.trigger.onEntered = [this] {
         this->log << this->entered;
@@ -143,7 +143,7 @@ TYPED_TEST(EdgeTriggerContract, mayBeToldToWatchNothingFromItsCallback)
     EXPECT_TRUE(this->hears({this->entered}));
 }
 
-TYPED_TEST(EdgeTriggerContract, worksWithoutCallbacks)
+TYPED_TEST(PointerBarriersContract, worksWithoutCallbacks)
 {
     this->hands.trigger.onEntered = {};
     this->hands.trigger.onLeft = {};

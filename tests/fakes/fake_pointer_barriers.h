@@ -1,14 +1,14 @@
 #pragma once
 
-#include "platform/desktop/edge_trigger.h"
 #include "platform/desktop/full_screen_windows.h"
+#include "platform/desktop/pointer_barriers.h"
 
 #include <utility>
 
 namespace corvane::test {
 
 /// Top edges that a test pushes against. Like the real one it tells of nothing that is not watched.
-class FakeEdgeTrigger : public EdgeTrigger {
+class FakePointerBarriers : public PointerBarriers {
 public:
     void watch(const std::vector<EdgeStretch> &stretches) override
     {

@@ -1,0 +1,41 @@
+#include "app/sessions/x11_session.h"
+
+namespace corvane {
+
+X11Session::X11Session(const SessionNeeds &needs)
+    : connection(needs.terminate)
+    , pingAnswers(connection)
+    , pointer(connection, needs.screens)
+    , dragDesktop(connection)
+    , dragMonitor(dragDesktop, dragDesktop, dragDesktop, needs.mainQueue)
+    , hotKeys(connection, needs.mainQueue)
+    , panelSurface(connection)
+    , windowActivation(connection)
+    , pointerBarriers(connection, needs.screens)
+    , fullScreenWindows(connection)
+    , edgeTrigger({.barriers = pointerBarriers,
+                   .fullScreenWindows = fullScreenWindows,
+                   .buttons = dragDesktop,
+                   .pointer = pointer})
+    , dropSupport(connection, needs.mainQueue)
+    , dragSupport(connection, needs.mainQueue)
+    , trayWatch(connection)
+{
+}
+
+DesktopSession X11Session::desktop()
+{
+    return {.pointer = pointer,
+            .dragWatch = dragMonitor,
+            .edgeTrigger = edgeTrigger,
+            .outsideClicks = dragDesktop,
+            .hotKeys = hotKeys,
+            .keyboardLayout = keyboardLayout,
+            .panelSurface = panelSurface,
+            .dropSupport = &dropSupport,
+            .dragSupport = &dragSupport,
+            .windowActivation = windowActivation,
+            .trayWatch = &trayWatch};
+}
+
+} // namespace corvane

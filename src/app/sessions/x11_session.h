@@ -1,0 +1,46 @@
+#pragma once
+
+#include "app/sessions/desktop_session.h"
+#include "input/barrier_edge_trigger.h"
+#include "input/drag_monitor.h"
+#include "platform/x11/base/x11_connection.h"
+#include "platform/x11/drags/x11_drag_desktop.h"
+#include "platform/x11/drags/x11_drag_support.h"
+#include "platform/x11/drags/x11_drop_support.h"
+#include "platform/x11/keys/x11_hot_keys.h"
+#include "platform/x11/keys/x11_keyboard_layout.h"
+#include "platform/x11/pointer/x11_pointer.h"
+#include "platform/x11/pointer/x11_pointer_barriers.h"
+#include "platform/x11/windows/x11_full_screen_windows.h"
+#include "platform/x11/windows/x11_panel_surface.h"
+#include "platform/x11/windows/x11_ping_answers.h"
+#include "platform/x11/windows/x11_tray_watch.h"
+#include "platform/x11/windows/x11_window_activation.h"
+
+namespace corvane {
+
+/// A session whose window system tells every program everything: where the pointer is, which
+/// buttons are held, who carries what, which window is in front.
+struct X11Session : RunningSession {
+    explicit X11Session(const SessionNeeds &needs);
+
+    DesktopSession desktop() override;
+
+    X11Connection connection;
+    X11PingAnswers pingAnswers;
+    X11Pointer pointer;
+    X11DragDesktop dragDesktop;
+    DragMonitor dragMonitor;
+    X11HotKeys hotKeys;
+    X11KeyboardLayout keyboardLayout;
+    X11PanelSurface panelSurface;
+    X11WindowActivation windowActivation;
+    X11PointerBarriers pointerBarriers;
+    X11FullScreenWindows fullScreenWindows;
+    BarrierEdgeTrigger edgeTrigger;
+    X11DropSupport dropSupport;
+    X11DragSupport dragSupport;
+    X11TrayWatch trayWatch;
+};
+
+} // namespace corvane

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/desktop/edge_trigger.h"
+
+namespace corvane {
+
+class FullScreenWindows;
+class MouseButtons;
+class Pointer;
+class PointerBarriers;
+
+/// The top edge on desktops that tell everything: where the pointer is, which buttons are held,
+/// which windows have a screen for themselves, and when the pointer is pushed against the edge.
+/// Main thread only; what it is given must outlive it.
+class BarrierEdgeTrigger : public EdgeTrigger {
+public:
+    /// Points below the edge that still count as being there: a resting hand trembles.
+    static constexpr double edgeDepth = 3;
+
+    struct Desktop {
+        PointerBarriers &barriers;
+        const FullScreenWindows &fullScreenWindows;
+        const MouseButtons &buttons;
+        const Pointer &pointer;
+    };
+    explicit BarrierEdgeTrigger(const Desktop &desktop);
+    ~BarrierEdgeTrigger() override;
+    BarrierEdgeTrigger(const BarrierEdgeTrigger &) = delete;
+    BarrierEdgeTrigger &operator=(const BarrierEdgeTrigger &) = delete;
+
+    void watch(const std::vector<EdgeStretch> &stretches) override;
+    bool isStillThere() const override;
+    bool isButtonHeld() const override;
+
+private:
+    Desktop m_desktop;
+    std::vector<EdgeStretch> m_watched;
+};
+
+} // namespace corvane
