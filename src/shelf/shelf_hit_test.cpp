@@ -1,8 +1,20 @@
 #include "shelf/shelf_hit_test.h"
 
 #include "platform/base/geometry.h"
+#include "shelf/drawing/pill_path.h"
 
 namespace corvane {
+
+namespace {
+
+/// A row that is too wide for the body is cut at its sides and its rounded corners.
+bool canShowCells(const ShelfLayout &layout, QPointF point)
+{
+    const QRectF row = grown(QRectF({0, 0}, layout.size), -bodyFlareRadius, 0);
+    return contains(row, point) && pillPath(layout.size, bodyCornerRadius).contains(point);
+}
+
+} // namespace
 
 ShelfHit hitTest(const ShelfLayout &layout, bool isCarousel, QPointF point)
 {
@@ -12,7 +24,8 @@ ShelfHit hitTest(const ShelfLayout &layout, bool isCarousel, QPointF point)
         return shelf_hit::Arrow{ArrowSide::Right};
     if (contains(layout.viewAllHit, point))
         return shelf_hit::ViewAll{};
-    if (isCarousel) {
+    const bool mayBeOnCell = canShowCells(layout, point);
+    if (isCarousel && mayBeOnCell) {
         for (const ShelfLayout::Cell &cell : layout.cells) {
             if (contains(cell.badge.translated(cell.root.topLeft()), point))
                 return shelf_hit::Badge{cell.itemIndex};
@@ -23,7 +36,7 @@ ShelfHit hitTest(const ShelfLayout &layout, bool isCarousel, QPointF point)
             return shelf_hit::Button{allShelfActions[i]};
     }
     for (const ShelfLayout::Cell &cell : layout.cells) {
-        if (contains(cell.root, point))
+        if (mayBeOnCell && contains(cell.root, point))
             return shelf_hit::Cell{cell.itemIndex};
     }
     return {};

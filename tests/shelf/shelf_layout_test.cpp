@@ -212,6 +212,20 @@ TEST(ShelfHitTest, WhereAreasOverlapTheEarlierCheckWins)
     EXPECT_EQ(hitTest(carousel, true, {carousel.size.width() - 1, 1}), ShelfHit());
 }
 
+TEST(ShelfHitTest, NothingAnswersWhereARowThatOverflowsIsCut)
+{
+    ShelfSnapshot snapshot = holding(6, 6);
+    snapshot.receptive = true;
+    const ShelfLayout layout = layoutShelf(snapshot, 100);
+    ASSERT_TRUE(layout.overflows);
+    const double edge = layout.size.width() - bodyFlareRadius;
+    EXPECT_EQ(hitTest(layout, true, {edge - 1, 30}), ShelfHit(shelf_hit::Cell{4}));
+    EXPECT_EQ(hitTest(layout, true, {edge + 1, 30}), ShelfHit()) << "beside the body";
+    EXPECT_EQ(hitTest(layout, true, {edge + 1, 52}), ShelfHit()) << "on its flare";
+    EXPECT_EQ(hitTest(layout, true, {edge - 8, 2}), ShelfHit()) << "outside its corner";
+    EXPECT_EQ(hitTest(layout, true, {edge - 8, 5}), ShelfHit(shelf_hit::Cell{3}));
+}
+
 TEST(PillPath, FlaresIntoTheTopEdgeAndRoundsItsLowerCorners)
 {
     const QPainterPath path = pillPath({200, 60}, 18);
