@@ -125,6 +125,22 @@ TEST_F(Layers, MotionCanBeSwitchedOffForAMoment)
     EXPECT_TRUE(tree.isMoving());
 }
 
+TEST_F(Layers, AMotionEndsWhereAChangeAppliesAtOnce)
+{
+    layer.setFrame({0, 0, 20, 20});
+    paint();
+    layer.setPosition({60, 10});
+    clock.advance(0.05);
+    {
+        const LayerTree::WithoutMotion still(tree);
+        layer.setPosition({90, 10});
+    }
+    EXPECT_EQ(layer.presentedFrame().x(), 80);
+    clock.advance(0.05);
+    EXPECT_EQ(layer.presentedFrame().x(), 80);
+    EXPECT_FALSE(tree.isMoving());
+}
+
 TEST_F(Layers, WhatCannotBeSeenDoesNotMove)
 {
     layer.setFrame({0, 0, 20, 20});
