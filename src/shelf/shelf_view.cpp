@@ -42,6 +42,9 @@ void ShelfView::apply(const ShelfSnapshot &snapshot)
     m_look.snapshot = snapshot;
     if (snapshot.state == ShelfState::Idle)
         forgetPress();
+    // An empty shelf has its hint there.
+    if (snapshot.visible.empty())
+        m_look.flashMessage.clear();
     relayout();
 }
 

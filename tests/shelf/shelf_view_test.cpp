@@ -848,6 +848,19 @@ TEST_F(ShelfViewTest, ANewerFlashGets1Point4SecondsOfItsOwn)
     EXPECT_TRUE(view.look().flashMessage.isEmpty());
 }
 
+TEST_F(ShelfViewTest, AFlashGoesWithTheLastItem)
+{
+    show(holding(1, 3));
+    view.flash(QStringLiteral("Path copied"));
+    ShelfSnapshot empty;
+    empty.state = ShelfState::Expanded;
+    empty.inViewCount = 3;
+    view.apply(empty);
+    EXPECT_TRUE(view.look().flashMessage.isEmpty());
+    view.apply(holding(1, 3));
+    EXPECT_TRUE(view.look().flashMessage.isEmpty()) << "nor does it come back";
+}
+
 TEST_F(ShelfViewTest, AFlashOnAnEmptyOrReceptiveShelfIsDropped)
 {
     ShelfSnapshot snapshot;
