@@ -21,7 +21,7 @@ SLOWER, START = 5, 25
 # More than that, and the whole program is as quick as choosing.
 LONGEST_FILTER = 100_000
 # A program that takes no longer is run as a whole before a mutant has survived it.
-QUICK = 10
+QUICK = 40
 
 
 @dataclasses.dataclass
