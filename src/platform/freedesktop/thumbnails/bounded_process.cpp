@@ -23,7 +23,7 @@ namespace corvane::bounded_process {
 
 namespace {
 
-/// The process, or -1. `output` becomes its standard output.
+/// The process, or -1. It leads a session and a group. `output` becomes its standard output.
 pid_t start(const QByteArrayList &arguments, int output)
 {
     std::vector<char *> pointers;
@@ -119,8 +119,10 @@ Result run(const QByteArrayList &arguments, const Limits &limits, Cancellation &
 
     Result result;
     const bool hasEnded = readAll(output.number(), stop.number(), limits, result.output);
+    // The whole group: a child that bubblewrap is still furnishing would not notice its parent's
+    // end.
     if (!hasEnded)
-        ::kill(process, SIGKILL);
+        ::kill(-process, SIGKILL);
     result.exitCode = exitCodeOf(process);
     result.outcome = hasEnded ? Result::Outcome::Ended : Result::Outcome::Killed;
     return result;

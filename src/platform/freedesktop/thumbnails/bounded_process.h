@@ -31,7 +31,8 @@ struct Result {
 };
 
 /// Starts `arguments` (the first is the program's path), waits for its end, and leaves no process
-/// behind that it is the parent of. The program gets no descriptor of ours, no input, no place for
+/// behind that it is the parent of. At a limit everything is killed that has stayed in the
+/// program's process group. The program gets no descriptor of ours, no input, no place for
 /// messages, a session of its own, and the environment of this process.
 Result run(const QByteArrayList &arguments, const Limits &limits, Cancellation &cancellation);
 

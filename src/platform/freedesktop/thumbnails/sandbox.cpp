@@ -68,16 +68,12 @@ QByteArray Sandbox::outputPath()
 
 QByteArrayList Sandbox::walls() const
 {
-    QByteArrayList arguments = {m_bubblewrap,
-                                "--unshare-all",
-                                "--die-with-parent",
-                                "--new-session",
-                                "--cap-drop",
-                                "ALL",
-                                "--clearenv",
-                                "--setenv",
-                                "PATH",
-                                "/usr/local/bin:/usr/bin:/bin"};
+    // No --new-session: bounded_process starts it in a session of its own, and the sandbox's first
+    // process has to stay in the group that is killed there. --die-with-parent is not enough, for
+    // it is heard only after everything is furnished.
+    QByteArrayList arguments = {m_bubblewrap, "--unshare-all", "--die-with-parent",
+                                "--cap-drop", "ALL",           "--clearenv",
+                                "--setenv",   "PATH",          "/usr/local/bin:/usr/bin:/bin"};
     arguments << QByteArrayList{"--setenv", "LANG", "C.UTF-8", "--setenv", "HOME", "/tmp"};
     arguments << QByteArrayList{"--ro-bind", "/usr", "/usr"};
     for (const char *path : {"/bin", "/sbin", "/lib", "/lib32", "/lib64", "/libx32"})

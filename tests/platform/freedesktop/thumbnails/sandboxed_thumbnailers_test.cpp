@@ -1,5 +1,7 @@
+#include "e2e/desktop/eventually.h"
 #include "fakes/film.h"
 #include "platform/base/cancellation.h"
+#include "platform/freedesktop/thumbnails/bounded_process.h"
 #include "platform/freedesktop/thumbnails/sandboxed_thumbnailers.h"
 #include "platform/qt/pictures/qt_image_codec.h"
 
@@ -13,7 +15,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <optional>
+#include <random>
 #include <thread>
 
 namespace corvane::test {
@@ -206,6 +210,45 @@ TEST_F(SandboxedThumbnailersTest, startNothingThatNobodyWants)
     cancellation.cancel();
     EXPECT_EQ(patient.run(FileVersion::at(path("films/a.avi")).value(), 128, cancellation).outcome,
               Outcome::Stopped);
+}
+
+TEST_F(SandboxedThumbnailersTest, leaveNothingOfAProgramThatIsStoppedWhileItStarts)
+{
+    install("sleep 1000.125");
+    std::mt19937 chance(7);
+    std::uniform_int_distribution<int> microseconds(0, 15'000);
+    for (int i = 0; i < 200; ++i) {
+        Cancellation soon;
+        std::thread impatient([&soon, moment = std::chrono::microseconds(microseconds(chance))] {
+            const auto start = std::chrono::steady_clock::now();
+            while (std::chrono::steady_clock::now() - start < moment)
+                std::this_thread::yield();
+            soon.cancel();
+        });
+        const auto outcome
+            = patient.run(FileVersion::at(path("films/a.avi")).value(), 128, soon).outcome;
+        impatient.join();
+        EXPECT_EQ(outcome, Outcome::Stopped);
+    }
+    // Bubblewrap is told the file's name, the program is not.
+    EXPECT_TRUE(e2e::eventually(
+        [this] { return !isRunning(path("films/a.avi")) && !isRunning("1000.125"); }));
+}
+
+TEST_F(SandboxedThumbnailersTest, keepTheSandboxInTheGroupThatIsKilled)
+{
+    // The fifth field is the group: 0 for one whose leader is outside.
+    install(R"(cut -d ' ' -f 5 /proc/1/stat > "$2")");
+    EXPECT_EQ(run().png, "0\n");
+}
+
+TEST(BoundedProcess, KillsWhatAProgramStartedTooAtALimit)
+{
+    Cancellation never;
+    const auto result = bounded_process::run(
+        {"/bin/sh", "-c", "sleep 1000.625 & echo started; wait"}, {60, 4}, never);
+    EXPECT_EQ(result.outcome, bounded_process::Result::Outcome::Killed);
+    EXPECT_TRUE(e2e::eventually([] { return !isRunning("1000.625"); }));
 }
 
 TEST_F(SandboxedThumbnailersTest, boundWhatAProgramPrintsAndWrites)
