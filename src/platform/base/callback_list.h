@@ -1,40 +1,34 @@
 #pragma once
 
+#include "platform/base/changing_list.h"
+#include "platform/base/subscription.h"
+
 #include <functional>
-#include <memory>
 #include <utility>
-#include <vector>
 
 namespace corvane {
 
-/// A list of callbacks that only grows.
+/// Callbacks that hear of something.
 ///
-/// `notify` calls them on the caller's thread, at once, in the order in which they were added. A
-/// callback added during a notification is first called by the next one. A callback may notify
-/// again: the inner notification then reaches everybody before the outer one goes on.
+/// `notify` calls them on the caller's thread, at once, in the order in which they were added. What
+/// a callback may do to the list meanwhile is said in `ChangingList`.
 template<typename... Arguments>
 class CallbackList {
 public:
     using Callback = std::function<void(Arguments...)>;
 
-    void add(Callback callback)
-    {
-        m_callbacks.push_back(std::make_shared<const Callback>(std::move(callback)));
-    }
+    /// For good: it does nothing by itself once its owner is gone.
+    void add(Callback callback) { m_callbacks.add(std::move(callback)); }
+    /// Until the subscription ends, which may outlive the list.
+    Subscription subscribe(Callback callback) { return m_callbacks.subscribe(std::move(callback)); }
 
     void notify(Arguments... arguments) const
     {
-        // By index, and held: a callback that adds another may move the whole list. Shared, because
-        // a copy of what a callback has captured costs more than most calls do.
-        const auto count = m_callbacks.size();
-        for (std::size_t i = 0; i < count; ++i) {
-            const std::shared_ptr<const Callback> callback = m_callbacks[i];
-            (*callback)(arguments...);
-        }
+        m_callbacks.forEach([&](const Callback &callback) { callback(arguments...); });
     }
 
 private:
-    std::vector<std::shared_ptr<const Callback>> m_callbacks;
+    ChangingList<Callback> m_callbacks;
 };
 
 } // namespace corvane

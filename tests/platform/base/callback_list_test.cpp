@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <string>
 
 namespace corvane {
@@ -51,6 +52,27 @@ TEST_F(CallbackListTest, FinishesAnInnerNotificationFirst)
     add("b");
     callbacks.notify(1);
     EXPECT_EQ(log, "b2 b1 ");
+}
+
+TEST_F(CallbackListTest, CallsNobodyWhoseSubscriptionHasEnded)
+{
+    Subscription subscription = callbacks.subscribe([&](int value) {
+        log += "a" + std::to_string(value) + " ";
+        subscription.end();
+    });
+    add("b");
+    callbacks.notify(1);
+    callbacks.notify(2);
+    EXPECT_EQ(log, "a1 b1 b2 ");
+}
+
+TEST_F(CallbackListTest, CallsNobodyElseOnceACallbackHasDestroyedIt)
+{
+    auto list = std::make_unique<CallbackList<int>>();
+    list->add([&](int) { list.reset(); });
+    list->add([this](int) { log += "called"; });
+    list->notify(1);
+    EXPECT_EQ(log, "");
 }
 
 } // namespace
