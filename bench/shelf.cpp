@@ -136,8 +136,10 @@ void changeWidth(Shelf &shelf)
 /// The same, and the dashed ring comes and goes.
 void becomeDropTarget(Shelf &shelf)
 {
-    shelf.store.setDragInFlight(!shelf.store.isDragInFlight());
-    shelf.store.publishItems();
+    if (shelf.store.isDragInFlight())
+        shelf.store.dragEnded();
+    else
+        shelf.store.dragBegan();
 }
 
 double bareFill()

@@ -42,8 +42,8 @@ struct Bar : test::ShelfModel {
 
     void setOpen(bool open)
     {
-        store.setViewAllOpen(open);
-        store.publishItems();
+        if (store.isViewAllOpen() != open)
+            store.toggleViewAll();
         desk.clock.advance(3);
     }
     void paint()

@@ -60,14 +60,8 @@ void AppDelegate::wireDragDetection()
     watch.onDragBegan = [this] {
         if (!m_context.settings.autoShowOnDrag())
             return;
-        ShelfStore &store = m_context.store;
-        store.setDragInFlight(true);
         m_isDragEndOwed = false;
-        // An open shelf is told by its items that it may take a drop now.
-        if (store.state() == ShelfState::Idle)
-            store.setState(ShelfState::Expanded);
-        else
-            store.publishItems();
+        m_context.store.dragBegan();
     };
     watch.onDragEnded = [this] {
         // An empty shelf would close under what was dropped on it and is still on its way.

@@ -4,6 +4,7 @@
 #include "core/item_loading.h"
 #include "core/scratch_spool.h"
 #include "core/settings.h"
+#include "platform/base/checked_math.h"
 
 #include <algorithm>
 #include <utility>
@@ -67,11 +68,6 @@ void ShelfStore::observeEndOfOperation(std::function<void()> observer)
     m_endObservers.add(std::move(observer));
 }
 
-void ShelfStore::publishItems()
-{
-    publishItems(PublicationPace::AtOnce);
-}
-
 void ShelfStore::publishItems(PublicationPace pace)
 {
     publish(pace, [this] { m_itemObservers.notify(m_items); });
@@ -103,7 +99,8 @@ std::optional<DropItem> ShelfStore::focusedItem() const
 
 std::vector<std::pair<int, DropItem>> ShelfStore::visibleItems() const
 {
-    const int start = std::min(std::max(count() - 1, 0), std::max(m_scrollOffset, 0));
+    // The list may have been replaced by a shorter one.
+    const int start = std::min(std::max(count() - 1, 0), m_scrollOffset);
     const int end = std::min(start + m_settings.inViewCount(), count());
     std::vector<std::pair<int, DropItem>> visible;
     for (int i = start; i < end; ++i)
@@ -237,10 +234,28 @@ void ShelfStore::focus(int index)
     m_focusedIndex = std::min(count() - 1, std::max(index, 0));
     const int inView = m_settings.inViewCount();
     int offset = std::min(m_focusedIndex, m_scrollOffset);
-    // By the difference: an offset may be anything.
-    if (m_focusedIndex - inView >= offset)
+    if (m_focusedIndex >= offset + inView)
         offset = m_focusedIndex - inView + 1;
-    m_scrollOffset = std::min(std::max(count() - inView, 0), std::max(offset, 0));
+    m_scrollOffset = std::min(lastOffset(inView), offset);
+    publishItems();
+}
+
+int ShelfStore::lastOffset(int inView) const
+{
+    return std::max(count() - inView, 0);
+}
+
+void ShelfStore::scrollBy(int steps)
+{
+    const int last = lastOffset(m_settings.inViewCount());
+    const int offset = std::clamp(checkedAdd(m_scrollOffset, steps), 0, last);
+    if (std::exchange(m_scrollOffset, offset) != offset)
+        publishItems();
+}
+
+void ShelfStore::inViewCountChanged()
+{
+    m_scrollOffset = std::min(m_scrollOffset, lastOffset(m_settings.inViewCount()));
     publishItems();
 }
 
@@ -279,6 +294,27 @@ void ShelfStore::toggleViewAll()
         return;
     m_isViewAllOpen = !m_isViewAllOpen;
     publishItems();
+}
+
+void ShelfStore::closeViewAll()
+{
+    if (std::exchange(m_isViewAllOpen, false))
+        publishItems();
+}
+
+void ShelfStore::dragBegan()
+{
+    m_isDragInFlight = true;
+    if (m_state == ShelfState::Idle)
+        setState(ShelfState::Expanded);
+    else
+        publishItems();
+}
+
+void ShelfStore::ownDragChanged(bool isOwn)
+{
+    if (std::exchange(m_isOwnDrag, isOwn) != isOwn)
+        publishItems();
 }
 
 void ShelfStore::dragEnded()

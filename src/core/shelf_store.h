@@ -27,11 +27,11 @@ class ThumbnailSource;
 
 /// The one model of the shelf: what it holds, whether it is open, what is focused and selected.
 ///
-/// Every change is published at once, on the caller's thread, which is the main thread, to state
-/// observers (old and new state) and item observers (the whole list). The order of publications
-/// within an operation is part of the contract and stands with each operation. Indices out of range
-/// and unknown ids are ignored. The sources, spool, settings and feedback must outlive the store;
-/// their results may come after it is gone.
+/// It is changed by operations alone, and every change is published at once, on the caller's
+/// thread, which is the main thread, to state observers (old and new state) and item observers (the
+/// whole list). The order of publications within an operation is part of the contract and stands
+/// with each operation. Indices out of range and unknown ids are ignored. The sources, spool,
+/// settings and feedback must outlive the store; their results may come after it is gone.
 class ShelfStore {
 public:
     using StateObserver = std::function<void(ShelfState oldState, ShelfState newState)>;
@@ -50,8 +50,6 @@ public:
     std::function<void(const QUuid &id, bool deletingFiles)> onLeft;
     /// Called once at the end of each operation that publishes more than once.
     void observeEndOfOperation(std::function<void()> observer);
-    /// Calls every item observer with the present items, for changes of what is not an item.
-    void publishItems();
     /// To be asked while an observer is being called: what the publication is part of.
     PublicationPace pace() const
     {
@@ -59,10 +57,9 @@ public:
     }
 
     ShelfState state() const { return m_state; }
-    /// Changes the state and, if it differs, tells the state observers.
-    void setState(ShelfState state);
 
     const QList<DropItem> &items() const { return m_items; }
+    /// Replaces them, and publishes.
     void setItems(QList<DropItem> items);
 
     /// Where the item is, none when it is not on the shelf (any more). Costs the same for any
@@ -73,22 +70,16 @@ public:
     std::optional<DropItem> focusedItem() const;
     /// Index of the first item in the carousel.
     int scrollOffset() const { return m_scrollOffset; }
-    /// Sets it without telling anybody.
-    void setScrollOffset(int offset) { m_scrollOffset = offset; }
     std::vector<std::pair<int, DropItem>> visibleItems() const;
 
     const QSet<QUuid> &selection() const { return m_selection; }
     QList<DropItem> selectedItems() const;
 
-    /// Flags that their setters publish nothing for.
     bool isViewAllOpen() const { return m_isViewAllOpen; }
-    void setViewAllOpen(bool open) { m_isViewAllOpen = open; }
     /// A drag of something droppable is going on anywhere.
     bool isDragInFlight() const { return m_isDragInFlight; }
-    void setDragInFlight(bool inFlight) { m_isDragInFlight = inFlight; }
     /// That drag started on the shelf.
     bool isOwnDrag() const { return m_isOwnDrag; }
-    void setOwnDrag(bool own) { m_isOwnDrag = own; }
 
     /// Appends the items (published), selects them, focuses the last (published), becomes occupied,
     /// and starts loading what completes them. False, and nothing happens, for an empty list.
@@ -102,6 +93,12 @@ public:
     void discard(int index, bool deletingSpoolFile);
     /// Focuses the item nearest to `index`, scrolls it into view and publishes; nothing when empty.
     void focus(int index);
+    /// Moves the carousel by so many items, negative is back, as far as there are any, and
+    /// publishes; nothing where it stays as it is.
+    void scrollBy(int steps);
+    /// Another number of items is in view: leaves no empty places at the carousel's end, and
+    /// publishes.
+    void inViewCountChanged();
     /// Replaces what is said below an item's name, and publishes; nothing if it is gone.
     void describe(const QUuid &id, const QString &subtitle);
     /// The item of that id becomes what it has been made into (published), and its thumbnail is
@@ -114,8 +111,16 @@ public:
     /// Opens or closes the view-all bar for the user, and publishes. A closed one stays closed, and
     /// nothing is published, with fewer than two items: it is not offered for a single one.
     void toggleViewAll();
-    /// The drag in flight ended, somewhere.
+    /// Closes the view-all bar and publishes; nothing where it is closed.
+    void closeViewAll();
+    /// A drag of something droppable began, somewhere. A closed shelf opens for it, which the state
+    /// observers are told; of an open one the items are published.
+    void dragBegan();
+    /// The drag in flight ended, somewhere. A shelf that is open for a drop closes, or shows what
+    /// it holds, which the state observers are told; otherwise the items are published.
     void dragEnded();
+    /// The drag in flight is one of the shelf's own, or no longer: publishes, if that is new.
+    void ownDragChanged(bool isOwn);
 
 private:
     /// An operation that publishes more than once, as long as it lives.
@@ -125,9 +130,14 @@ private:
     void discardEach(const QList<QUuid> &ids, bool deletingSpoolFiles);
     void tellLeft(const DropItem &item, bool deletingFiles) const;
     void becomeEmpty();
+    /// Changes the state and, if it differs, tells the state observers.
+    void setState(ShelfState state);
+    /// The last offset at which no place of the carousel is empty that could be taken.
+    int lastOffset(int inView) const;
     void startLoading(const QList<DropItem> &items);
     void startLink(const DropItem &item, const QUrl &url);
-    void publishItems(PublicationPace pace);
+    /// Calls every item observer with the present items.
+    void publishItems(PublicationPace pace = PublicationPace::AtOnce);
     template<typename Notify>
     void publish(PublicationPace pace, Notify notify);
     /// Finds the item again, changes it in its place and publishes; nothing if it is gone.

@@ -101,10 +101,7 @@ void EdgeSummoner::summon()
         return;
     // A bar that was left open would come along, and take the keys and the clicks of whoever works
     // below it.
-    if (m_store.isViewAllOpen()) {
-        m_store.setViewAllOpen(false);
-        m_store.publishItems();
-    }
+    m_store.closeViewAll();
     m_phase = Phase::Summoned;
     m_summonedCount = m_store.items().size();
     m_summonTime = m_context.queue.now();

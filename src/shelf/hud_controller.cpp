@@ -67,19 +67,15 @@ void HUDController::wireShelf()
     };
     m_shelf.onRemove = [this](int index) { m_store.discard(index, true); };
     m_shelf.onFocus = [this](int index) { m_store.focus(index); };
-    m_shelf.onScroll = [this](int steps) { scroll(steps); };
+    m_shelf.onScroll = [this](int steps) { m_store.scrollBy(steps); };
     m_shelf.onCopy = [this] {
         const Modifiers modifiers = m_context.view.keyboard.currentModifiers();
         if (const auto item = m_store.focusedItem())
             m_context.quickActions.copy(*item, modifiers.testFlag(Modifier::Option));
     };
     m_shelf.onViewAll = [this] { m_store.toggleViewAll(); };
-    m_shelf.onDragOutChanged = [this](bool isDraggingOut) {
-        if (m_store.isOwnDrag() == isDraggingOut)
-            return;
-        m_store.setOwnDrag(isDraggingOut);
-        m_store.publishItems();
-    };
+    m_shelf.onDragOutChanged
+        = [this](bool isDraggingOut) { m_store.ownDragChanged(isDraggingOut); };
     m_shelf.onPointerInside = [this](bool isInside) {
         if (onPointerInside)
             onPointerInside(isInside);
@@ -133,8 +129,10 @@ void HUDController::wireSettings()
 {
     const std::weak_ptr<bool> alive = m_alive;
     m_context.settings.observeLayout([this, alive] {
-        if (!alive.expired())
-            layoutSettingChanged();
+        if (alive.expired())
+            return;
+        m_store.inViewCountChanged();
+        render();
     });
 }
 
@@ -145,15 +143,6 @@ void HUDController::wireScreenChanges()
         if (!alive.expired())
             render();
     });
-}
-
-void HUDController::layoutSettingChanged()
-{
-    const int count = static_cast<int>(m_store.items().size());
-    const int last = std::max(count - m_context.settings.inViewCount(), 0);
-    m_store.setScrollOffset(std::min(m_store.scrollOffset(), last));
-    m_store.publishItems();
-    render();
 }
 
 ShelfSnapshot HUDController::makeSnapshot(const ScreenPointer &screen) const
@@ -289,17 +278,6 @@ void HUDController::takeClicks()
     const bool wasShown = std::exchange(m_letsClicksThrough, false) && m_panel.isVisible();
     if (wasShown && m_store.state() != ShelfState::Idle)
         m_panel.setIgnoresMouseEvents(false);
-}
-
-void HUDController::scroll(int steps)
-{
-    const int count = static_cast<int>(m_store.items().size());
-    const int last = std::max(count - m_context.settings.inViewCount(), 0);
-    const int offset = std::min(last, std::max(checkedAdd(m_store.scrollOffset(), steps), 0));
-    if (offset == m_store.scrollOffset())
-        return;
-    m_store.setScrollOffset(offset);
-    m_store.publishItems();
 }
 
 } // namespace corvane

@@ -82,8 +82,6 @@ private:
     QRectF withOvershoot(const QRectF &target, QSizeF before);
     void scheduleHide();
     void takeClicks();
-    void scroll(int steps);
-    void layoutSettingChanged();
     void preview(const DropItem &item);
 
     Context m_context;

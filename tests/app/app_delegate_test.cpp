@@ -509,7 +509,8 @@ TEST_F(AppDelegateTest, TheViewAllHotKeyOpensTheBarForTwoItemsAlsoWhileTheShelfI
     bindViewAll();
     store.accept(
         {ShelfDesk::textItem(QStringLiteral("a")), ShelfDesk::textItem(QStringLiteral("b"))});
-    store.setState(ShelfState::Idle);
+    store.toggleManually();
+    ASSERT_EQ(store.state(), ShelfState::Idle);
     log.clear();
     EXPECT_TRUE(pressHotKey(viewAllHotKey));
     EXPECT_TRUE(store.isViewAllOpen());
@@ -519,8 +520,10 @@ TEST_F(AppDelegateTest, TheViewAllHotKeyOpensTheBarForTwoItemsAlsoWhileTheShelfI
 TEST_F(AppDelegateTest, TheViewAllHotKeyClosesAnOpenBarWhateverTheItemCount)
 {
     bindViewAll();
-    store.accept({ShelfDesk::textItem(QStringLiteral("a"))});
-    store.setViewAllOpen(true);
+    store.accept(
+        {ShelfDesk::textItem(QStringLiteral("a")), ShelfDesk::textItem(QStringLiteral("b"))});
+    store.toggleViewAll();
+    store.discard(0, true);
     log.clear();
     EXPECT_TRUE(pressHotKey(viewAllHotKey));
     EXPECT_FALSE(store.isViewAllOpen());

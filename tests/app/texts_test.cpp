@@ -281,7 +281,7 @@ TEST(Texts, OfTheBar)
     model.store.accept({ShelfDesk::textItem(QStringLiteral("a")),
                         ShelfDesk::textItem(QStringLiteral("b")),
                         ShelfDesk::textItem(QStringLiteral("c"))});
-    model.store.setViewAllOpen(true);
+    model.store.toggleViewAll();
     QStringList lines;
     const auto add = [&](const char *state) {
         bar.render({600, 900, 300, 60}, model.screen);

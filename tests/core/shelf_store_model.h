@@ -10,8 +10,7 @@
 #include <QUuid>
 
 #include <algorithm>
-#include <optional>
-#include <vector>
+#include <utility>
 
 namespace corvane::test {
 
@@ -39,15 +38,19 @@ struct ShelfStoreModel {
             .arg(thumbnail)
             .arg(isSelected ? QStringLiteral("*") : QString());
     }
+    /// `drags` is what is told of them: in flight, and one of our own.
     static QString stateText(int focus, int offset, ShelfState state, qsizetype selected,
-                             bool isViewAllOpen, PublicationPace pace)
+                             bool isViewAllOpen, std::pair<bool, bool> drags, PublicationPace pace)
     {
-        return QStringLiteral(" | focus %1, offset %2, state %3, %4 selected, bar %5, pace %6")
+        return QStringLiteral(
+                   " | focus %1, offset %2, state %3, %4 selected, bar %5, drags %6%7, pace %8")
             .arg(focus)
             .arg(offset)
             .arg(static_cast<int>(state))
             .arg(selected)
             .arg(isViewAllOpen)
+            .arg(drags.first)
+            .arg(drags.second)
             .arg(static_cast<int>(pace));
     }
 
@@ -58,7 +61,8 @@ struct ShelfStoreModel {
             texts << itemText(item.title, item.subtitle, item.thumbnail,
                               selection.contains(item.id));
         return texts.join(u' ')
-            + stateText(focused, offset, state, selection.size(), isViewAllOpen, pace);
+            + stateText(focused, offset, state, selection.size(), isViewAllOpen,
+                        {isDragInFlight, isOwnDrag}, pace);
     }
     PublicationPace pace() const
     {
@@ -233,6 +237,40 @@ struct ShelfStoreModel {
         isViewAllOpen = !isViewAllOpen;
         publish();
     }
+    void closeViewAll()
+    {
+        if (!isViewAllOpen)
+            return;
+        isViewAllOpen = false;
+        publish();
+    }
+    void scrollBy(int steps)
+    {
+        const int before = offset;
+        offset = std::min(std::max(count() - inView, 0), std::max(offset + steps, 0));
+        if (offset != before)
+            publish();
+    }
+    void inViewCountChanged()
+    {
+        offset = std::min(offset, std::max(count() - inView, 0));
+        publish();
+    }
+    void ownDragChanged(bool isOwn)
+    {
+        if (isOwnDrag == isOwn)
+            return;
+        isOwnDrag = isOwn;
+        publish();
+    }
+    void dragBegan()
+    {
+        isDragInFlight = true;
+        if (state == ShelfState::Idle)
+            changeState(ShelfState::Expanded);
+        else
+            publish();
+    }
     void dragEnded()
     {
         isDragInFlight = false;
@@ -279,6 +317,7 @@ struct ShelfStoreModel {
     QSet<QUuid> selection;
     bool isViewAllOpen = false;
     bool isDragInFlight = false;
+    bool isOwnDrag = false;
     bool isWithinOperation = false;
     int inView = 1;
     bool linkPreviews = true;

@@ -66,25 +66,17 @@ public:
 
     void step(RandomSteps &steps)
     {
-        static constexpr std::array<WeightedStep<StoreAndModel>, 18> table{{
-            {12, &StoreAndModel::accept},
-            {6, &StoreAndModel::focus},
-            {6, &StoreAndModel::discard},
-            {4, &StoreAndModel::eject},
-            {3, &StoreAndModel::ejectSeveral},
-            {2, &StoreAndModel::removeSelected},
-            {1, &StoreAndModel::clearAll},
-            {6, &StoreAndModel::toggleSelection},
-            {4, &StoreAndModel::toggleSelectAll},
-            {4, &StoreAndModel::toggleManually},
-            {3, &StoreAndModel::toggleViewAll},
-            {3, &StoreAndModel::dragBegins},
-            {3, &StoreAndModel::dragEnds},
-            {3, &StoreAndModel::scroll},
-            {2, &StoreAndModel::changeInView},
-            {1, &StoreAndModel::changeLinkPreviews},
-            {6, &StoreAndModel::thumbnailArrives},
-            {4, &StoreAndModel::previewArrives},
+        static constexpr std::array<WeightedStep<StoreAndModel>, 20> table{{
+            {12, &StoreAndModel::accept},          {6, &StoreAndModel::focus},
+            {6, &StoreAndModel::discard},          {4, &StoreAndModel::eject},
+            {3, &StoreAndModel::ejectSeveral},     {2, &StoreAndModel::removeSelected},
+            {1, &StoreAndModel::clearAll},         {6, &StoreAndModel::toggleSelection},
+            {4, &StoreAndModel::toggleSelectAll},  {4, &StoreAndModel::toggleManually},
+            {3, &StoreAndModel::toggleViewAll},    {2, &StoreAndModel::closeViewAll},
+            {3, &StoreAndModel::dragBegins},       {3, &StoreAndModel::dragEnds},
+            {3, &StoreAndModel::ownDragChanges},   {4, &StoreAndModel::scroll},
+            {2, &StoreAndModel::changeInView},     {1, &StoreAndModel::changeLinkPreviews},
+            {6, &StoreAndModel::thumbnailArrives}, {4, &StoreAndModel::previewArrives},
         }};
         playOneOf(*this, steps, table);
         compare();
@@ -103,7 +95,7 @@ private:
         return texts.join(u' ')
             + ShelfStoreModel::stateText(store.focusedIndex(), store.scrollOffset(), store.state(),
                                          store.selection().size(), store.isViewAllOpen(),
-                                         store.pace());
+                                         {store.isDragInFlight(), store.isOwnDrag()}, store.pace());
     }
 
     void compare()
@@ -114,7 +106,6 @@ private:
         ASSERT_EQ(thumbnails.cancelled, model.thumbnailsUnwanted);
         ASSERT_EQ(static_cast<qsizetype>(linkPreviews.requests.size()),
                   model.previewsWanted.size());
-        ASSERT_EQ(store.isDragInFlight(), model.isDragInFlight);
         compareWhatIsRead();
         for (const auto &[id, url] : spooled.asKeyValueRange())
             ASSERT_EQ(exists(url), !model.filesDeleted.contains(id)) << qPrintable(titles[id]);
@@ -267,15 +258,17 @@ private:
         store.toggleViewAll();
         model.toggleViewAll();
     }
+    void closeViewAll(RandomSteps &steps)
+    {
+        steps.note(QStringLiteral("closeViewAll"));
+        store.closeViewAll();
+        model.closeViewAll();
+    }
     void dragBegins(RandomSteps &steps)
     {
         steps.note(QStringLiteral("drag begins"));
-        store.setDragInFlight(true);
-        model.isDragInFlight = true;
-        if (model.state == ShelfState::Idle) {
-            store.setState(ShelfState::Expanded);
-            model.changeState(ShelfState::Expanded);
-        }
+        store.dragBegan();
+        model.dragBegan();
     }
     void dragEnds(RandomSteps &steps)
     {
@@ -283,13 +276,19 @@ private:
         store.dragEnded();
         model.dragEnded();
     }
-    /// Whoever scrolls keeps within what there is.
+    void ownDragChanges(RandomSteps &steps)
+    {
+        const bool isOwn = steps.oneIn(2);
+        steps.note(QStringLiteral("own drag %1").arg(isOwn));
+        store.ownDragChanged(isOwn);
+        model.ownDragChanged(isOwn);
+    }
     void scroll(RandomSteps &steps)
     {
-        const int offset = steps.below(std::max(model.count() - model.inView, 0) + 1);
-        steps.note(QStringLiteral("scroll to %1").arg(offset));
-        store.setScrollOffset(offset);
-        model.offset = offset;
+        const int by = steps.below(9) - 4;
+        steps.note(QStringLiteral("scroll by %1").arg(by));
+        store.scrollBy(by);
+        model.scrollBy(by);
     }
     void changeInView(RandomSteps &steps)
     {
@@ -297,6 +296,11 @@ private:
         steps.note(QStringLiteral("in view %1").arg(count));
         defaults.setRaw(QStringLiteral("settings.inViewCount"), count);
         model.inView = std::min(std::max(count, 1), 6);
+        // Whoever is to tell the store may do so after something else has happened.
+        if (steps.oneIn(3))
+            return;
+        store.inViewCountChanged();
+        model.inViewCountChanged();
     }
     void changeLinkPreviews(RandomSteps &steps)
     {

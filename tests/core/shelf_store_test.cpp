@@ -128,13 +128,69 @@ TEST_F(Focus, OnAnEmptyShelfPublishesNothing)
 TEST_F(Focus, BringsAnOffsetBackIntoTheList)
 {
     settings.setInViewCount(2);
-    fill(4);
-    store.setScrollOffset(std::numeric_limits<int>::max());
+    fill(9);
+    EXPECT_EQ(store.scrollOffset(), 7);
+    store.setItems(store.items().first(4));
     store.focus(3);
     EXPECT_EQ(store.scrollOffset(), 2);
-    store.setScrollOffset(std::numeric_limits<int>::min());
+}
+
+using Scrolling = ShelfStoreTest;
+
+TEST_F(Scrolling, StopsAtBothEndsAndPublishesWhatChanges)
+{
+    settings.setInViewCount(3);
+    fill(5);
     store.focus(0);
+    log.clear();
+    store.scrollBy(1);
+    EXPECT_EQ(store.scrollOffset(), 1);
+    store.scrollBy(10);
+    EXPECT_EQ(store.scrollOffset(), 2);
+    store.scrollBy(-10);
     EXPECT_EQ(store.scrollOffset(), 0);
+    EXPECT_EQ(log, QStringList(3, QStringLiteral("items abcde")));
+    store.scrollBy(-1);
+    store.scrollBy(0);
+    EXPECT_EQ(log.size(), 3) << "a step that changes nothing tells nobody";
+    EXPECT_EQ(store.focusedIndex(), 0) << "the focus stays where it is";
+}
+
+TEST_F(Scrolling, OfWhatFitsDoesNothing)
+{
+    settings.setInViewCount(3);
+    fill(3);
+    log.clear();
+    store.scrollBy(1);
+    EXPECT_EQ(store.scrollOffset(), 0);
+    EXPECT_EQ(log, QStringList());
+}
+
+TEST_F(Scrolling, BeyondEveryNumberEndsTheProcess)
+{
+    fill(2);
+    ASSERT_EQ(store.scrollOffset(), 1);
+    EXPECT_DEATH(store.scrollBy(std::numeric_limits<int>::max()), "overflowed");
+}
+
+using InViewCountChanged = ShelfStoreTest;
+
+TEST_F(InViewCountChanged, LowersTheOffsetAtMostAndAlwaysPublishes)
+{
+    settings.setInViewCount(1);
+    fill(5);
+    ASSERT_EQ(store.scrollOffset(), 4);
+    log.clear();
+    settings.setInViewCount(3);
+    store.inViewCountChanged();
+    EXPECT_EQ(store.scrollOffset(), 2);
+    settings.setInViewCount(1);
+    store.inViewCountChanged();
+    EXPECT_EQ(store.scrollOffset(), 2);
+    settings.setInViewCount(6);
+    store.inViewCountChanged();
+    EXPECT_EQ(store.scrollOffset(), 0);
+    EXPECT_EQ(log, QStringList(3, QStringLiteral("items abcde")));
 }
 
 using VisibleItems = ShelfStoreTest;
@@ -144,24 +200,25 @@ TEST_F(VisibleItems, AreTheWindowOfTheCarousel)
     settings.setInViewCount(3);
     fill(5);
     EXPECT_EQ(visible(), QStringLiteral("2c 3d 4e"));
-    store.setScrollOffset(1);
+    store.scrollBy(-1);
     EXPECT_EQ(visible(), QStringLiteral("1b 2c 3d"));
 }
 
 TEST_F(VisibleItems, StartAtTheLastItemWhenTheOffsetIsBeyondTheList)
 {
     settings.setInViewCount(3);
-    fill(2);
-    store.setScrollOffset(7);
+    fill(9);
+    store.setItems(store.items().first(2));
+    EXPECT_EQ(store.scrollOffset(), 6);
     EXPECT_EQ(visible(), QStringLiteral("1b"));
-    store.setScrollOffset(-7);
-    EXPECT_EQ(visible(), QStringLiteral("0a 1b"));
+    store.setItems({});
+    EXPECT_EQ(visible(), QString());
 }
 
 TEST_F(VisibleItems, FollowAClampedSetting)
 {
     fill(8);
-    store.setScrollOffset(0);
+    store.focus(0);
     defaults.setRaw(QStringLiteral("settings.inViewCount"), 0);
     EXPECT_EQ(store.visibleItems().size(), 1U);
     defaults.setRaw(QStringLiteral("settings.inViewCount"), 10);
@@ -201,8 +258,9 @@ TEST_F(Discard, IgnoresAnIndexOutOfRange)
 
 TEST_F(Discard, PublishesWhileStateAndViewAllAreStillOld)
 {
-    fill(1);
-    store.setViewAllOpen(true);
+    fill(2);
+    store.toggleViewAll();
+    store.discard(1, false);
     log.clear();
     store.observeItems([this](const QList<DropItem> &items) {
         detail << QStringLiteral("%1 items, %2 selected, view all %3, state %4")
@@ -406,7 +464,7 @@ TEST_F(ClearAll, PublishesOnceThenTheState)
 {
     settings.setInViewCount(2);
     fill(4);
-    store.setViewAllOpen(true);
+    store.toggleViewAll();
     log.clear();
     store.clearAll();
     EXPECT_EQ(log, (QStringList{QStringLiteral("items "), QStringLiteral("state 2 0")}));
@@ -478,7 +536,9 @@ TEST_F(ToggleManually, ClosesAndOpensAShelfWithItems)
 TEST_F(ToggleManually, FromExpandedWithItemsGivesOccupied)
 {
     fill(1);
-    store.setState(ShelfState::Expanded);
+    store.toggleManually();
+    store.dragBegan();
+    ASSERT_EQ(store.state(), ShelfState::Expanded);
     store.toggleManually();
     EXPECT_EQ(store.state(), ShelfState::Occupied);
 }
@@ -507,12 +567,78 @@ TEST_F(ToggleViewAll, IsNotOfferedForASingleItem)
 
 TEST_F(ToggleViewAll, ClosesAnOpenBarWhateverTheNumberOfItems)
 {
-    fill(1);
-    store.setViewAllOpen(true);
+    fill(2);
+    store.toggleViewAll();
+    store.discard(0, false);
+    ASSERT_TRUE(store.isViewAllOpen());
     log.clear();
     store.toggleViewAll();
     EXPECT_FALSE(store.isViewAllOpen());
     EXPECT_EQ(log.size(), 1);
+}
+
+using CloseViewAll = ShelfStoreTest;
+
+TEST_F(CloseViewAll, ClosesAnOpenBarAndPublishesOnce)
+{
+    fill(2);
+    store.toggleViewAll();
+    log.clear();
+    store.closeViewAll();
+    EXPECT_FALSE(store.isViewAllOpen());
+    EXPECT_EQ(log, QStringList{QStringLiteral("items ab")});
+    store.closeViewAll();
+    EXPECT_EQ(log.size(), 1) << "one that is closed tells nobody";
+}
+
+using DragBegan = ShelfStoreTest;
+
+TEST_F(DragBegan, OpensAClosedShelfAndTellsItsStateAlone)
+{
+    store.dragBegan();
+    EXPECT_TRUE(store.isDragInFlight());
+    EXPECT_EQ(log, QStringList{QStringLiteral("state 0 1")});
+}
+
+TEST_F(DragBegan, OpensAClosedShelfWithItemsForADropToo)
+{
+    fill(1);
+    store.toggleManually();
+    log.clear();
+    store.dragBegan();
+    EXPECT_EQ(log, QStringList{QStringLiteral("state 0 1")});
+}
+
+TEST_F(DragBegan, PublishesTheItemsOfAnOpenShelf)
+{
+    fill(1);
+    log.clear();
+    store.dragBegan();
+    EXPECT_TRUE(store.isDragInFlight());
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+    EXPECT_EQ(log, QStringList{QStringLiteral("items a")});
+    store.clearAll();
+    store.toggleManually();
+    log.clear();
+    store.dragBegan();
+    EXPECT_EQ(log, QStringList{QStringLiteral("items ")}) << "an empty one, open for a drop";
+}
+
+using OwnDragChanged = ShelfStoreTest;
+
+TEST_F(OwnDragChanged, PublishesWhatIsNew)
+{
+    fill(1);
+    log.clear();
+    store.ownDragChanged(false);
+    EXPECT_EQ(log, QStringList());
+    store.ownDragChanged(true);
+    EXPECT_TRUE(store.isOwnDrag());
+    store.ownDragChanged(true);
+    EXPECT_EQ(log.size(), 1);
+    store.ownDragChanged(false);
+    EXPECT_FALSE(store.isOwnDrag());
+    EXPECT_EQ(log, QStringList(2, QStringLiteral("items a")));
 }
 
 using DragEnded = ShelfStoreTest;
@@ -520,7 +646,7 @@ using DragEnded = ShelfStoreTest;
 TEST_F(DragEnded, ClosesAnEmptyShelfThatIsOpenAlsoByHand)
 {
     store.toggleManually();
-    store.setDragInFlight(true);
+    store.dragBegan();
     log.clear();
     store.dragEnded();
     EXPECT_FALSE(store.isDragInFlight());
@@ -530,7 +656,8 @@ TEST_F(DragEnded, ClosesAnEmptyShelfThatIsOpenAlsoByHand)
 TEST_F(DragEnded, OnExpandedWithItemsGivesOccupied)
 {
     fill(1);
-    store.setState(ShelfState::Expanded);
+    store.toggleManually();
+    store.dragBegan();
     log.clear();
     store.dragEnded();
     EXPECT_EQ(log, QStringList{QStringLiteral("state 1 2")});
@@ -539,7 +666,7 @@ TEST_F(DragEnded, OnExpandedWithItemsGivesOccupied)
 TEST_F(DragEnded, OtherwisePublishesTheItems)
 {
     fill(1);
-    store.setDragInFlight(true);
+    store.dragBegan();
     log.clear();
     store.dragEnded();
     EXPECT_FALSE(store.isDragInFlight());
@@ -557,7 +684,7 @@ TEST_F(Observers, AreCalledInTheirOrder)
     QStringList order;
     store.observeItems([&](const QList<DropItem> &) { order << QStringLiteral("first"); });
     store.observeItems([&](const QList<DropItem> &) { order << QStringLiteral("second"); });
-    store.publishItems();
+    store.setItems({});
     EXPECT_EQ(order, (QStringList{QStringLiteral("first"), QStringLiteral("second")}));
 }
 

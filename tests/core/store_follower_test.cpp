@@ -45,9 +45,9 @@ struct StoreFollowerTest : ShelfStoreTest {
 
 TEST_F(StoreFollowerTest, FollowsAChangeOfItsOwnAtOnce)
 {
-    store.publishItems();
+    store.setItems({});
     EXPECT_EQ(take(), QStringList{QStringLiteral("0 closed")});
-    store.setState(ShelfState::Expanded);
+    store.toggleManually();
     EXPECT_EQ(take(), QStringList{QStringLiteral("0")});
 }
 
@@ -118,7 +118,7 @@ TEST_F(StoreFollowerTest, FollowsWhatTheWorkItselfChanges)
     bool isToClose = true;
     StoreFollower closing(store, clock, [&] {
         if (std::exchange(isToClose, false))
-            store.setState(ShelfState::Idle);
+            store.toggleManually();
     });
     fill(1);
     EXPECT_EQ(take(), (QStringList{QStringLiteral("1"), QStringLiteral("1 closed")}));
@@ -131,7 +131,7 @@ TEST_F(StoreFollowerTest, DoesNothingOnceItIsGone)
     take();
     follower.reset();
     clock.advance(1);
-    store.publishItems();
+    store.setItems(store.items());
     store.clearAll();
     EXPECT_EQ(take(), QStringList());
 }

@@ -27,6 +27,9 @@ struct ShelfModel {
         return {desk.context(), store, settings, feedback, screens, locator, quickActions};
     }
 
+    /// As if something about the items had changed.
+    void publishItems() { store.setItems(store.items()); }
+
     ShelfDesk desk;
     MemoryUserDefaults defaults;
     FakeLoginItems loginItems;

@@ -256,8 +256,7 @@ void Panels::toggleShelf(RandomSteps &steps)
 void Panels::dragEnters(RandomSteps &steps)
 {
     steps.note(QStringLiteral("a drag enters"));
-    store.setDragInFlight(true);
-    store.publishItems();
+    store.dragBegan();
     enter(shelf());
 }
 
@@ -265,8 +264,7 @@ void Panels::dragLeaves(RandomSteps &steps)
 {
     steps.note(QStringLiteral("the drag leaves"));
     shelf().draggingExited();
-    store.setDragInFlight(false);
-    store.publishItems();
+    store.dragEnded();
 }
 
 void Panels::flash(RandomSteps &steps)

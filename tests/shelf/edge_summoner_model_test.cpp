@@ -126,23 +126,20 @@ private:
         }
         steps.note(QStringLiteral("drag begins"));
         model.dragBegins();
-        store.setDragInFlight(true);
-        store.setState(store.state() == ShelfState::Idle ? ShelfState::Expanded : store.state());
-        store.publishItems();
+        store.dragBegan();
     }
     void ownDrag(RandomSteps &steps)
     {
         model.isOwnDrag = !model.isOwnDrag;
         steps.note(QStringLiteral("own drag %1").arg(model.isOwnDrag));
         model.storeChanged();
-        store.setOwnDrag(model.isOwnDrag);
-        store.publishItems();
+        store.ownDragChanged(model.isOwnDrag);
     }
     void picture(RandomSteps &steps)
     {
         steps.note(QStringLiteral("items are published"));
         model.storeChanged();
-        store.publishItems();
+        publishItems();
     }
     void push(RandomSteps &steps)
     {
@@ -233,7 +230,7 @@ private:
         steps.note(QStringLiteral("width %1").arg(width));
         tellWorld();
         model.storeChanged();
-        store.publishItems();
+        publishItems();
     }
     void changeScreens(RandomSteps &steps)
     {

@@ -123,10 +123,10 @@ TEST_F(EdgeSummonerTest, WatchesAnewWhenScreensChangeAndWhenTheShelfWouldBeWider
 {
     hideShelf();
     const int before = trigger.watchCount;
-    store.publishItems();
+    publishItems();
     EXPECT_EQ(trigger.watchCount, before);
     width = 300;
-    store.publishItems();
+    publishItems();
     EXPECT_EQ(trigger.watched, (std::vector<EdgeStretch>{{screen, 606, 300}}));
     const int beforeScreens = trigger.watchCount;
     screen->nativeFrame = {100, 0, 1512, 982};
@@ -314,8 +314,12 @@ TEST_F(EdgeSummonerTest, CanBeSummonedAgainAndAgain)
 
 TEST_F(EdgeSummonerTest, ComesWithoutABarThatWasLeftOpen)
 {
-    store.setViewAllOpen(true);
-    summonShelf();
+    hideShelf();
+    store.toggleViewAll();
+    ASSERT_TRUE(store.isViewAllOpen());
+    push();
+    desk.clock.advance(approachDelay);
+    summoner->pointerIsInside(true);
     EXPECT_TRUE(isShown());
     EXPECT_FALSE(store.isViewAllOpen());
     leaveShelf();
@@ -347,8 +351,7 @@ TEST_F(EdgeSummonerTest, ADragAnywhereMakesItStay)
 {
     summonShelf();
     leaveShelf();
-    store.setDragInFlight(true);
-    store.publishItems();
+    store.dragBegan();
     store.dragEnded();
     desk.clock.advance(100);
     EXPECT_TRUE(isShown());
@@ -376,7 +379,7 @@ TEST_F(EdgeSummonerTest, TheViewAllBarMakesItStay)
 TEST_F(EdgeSummonerTest, AThumbnailThatArrivesIsNoUse)
 {
     summonShelf();
-    store.publishItems();
+    publishItems();
     leaveShelf();
     desk.clock.advance(leaveDelay);
     EXPECT_FALSE(isShown());
@@ -468,7 +471,7 @@ TEST_F(EdgeSummonerTest, DoesNothingOnceItIsGone)
     EXPECT_FALSE(isWatching());
     EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
     desk.clock.advance(100);
-    store.publishItems();
+    publishItems();
     screens.notifyChanges();
     trigger.push();
     desk.clock.advance(100);

@@ -194,11 +194,7 @@ private:
     void dragBegins(RandomSteps &steps)
     {
         steps.note(QStringLiteral("drag begins"));
-        store.setDragInFlight(true);
-        if (store.state() == ShelfState::Idle)
-            store.setState(ShelfState::Expanded);
-        else
-            store.publishItems();
+        store.dragBegan();
     }
     void dragEnds(RandomSteps &steps)
     {

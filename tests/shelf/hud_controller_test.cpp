@@ -121,7 +121,7 @@ TEST_F(HUDControllerTest, InViewCountIsClampedWhateverIsStored)
     for (const auto &[stored, used] :
          {std::pair(0, 1), std::pair(-4, 1), std::pair(9, 6), std::pair(4, 4)}) {
         defaults.setInteger(stored, QString::fromLatin1(Settings::inViewCountKey));
-        store.publishItems();
+        publishItems();
         EXPECT_EQ(snapshot().inViewCount, used);
     }
 }
@@ -152,8 +152,8 @@ TEST_F(HUDControllerTest, ScrollingStopsAtBothEnds)
     view().onScroll(-10);
     EXPECT_EQ(store.scrollOffset(), 0);
     EXPECT_EQ(published, 1);
-    store.setScrollOffset(std::numeric_limits<int>::max());
-    EXPECT_DEATH(view().onScroll(1), "overflowed");
+    view().onScroll(1);
+    EXPECT_DEATH(view().onScroll(std::numeric_limits<int>::max()), "overflowed");
 }
 
 TEST_F(HUDControllerTest, ALayoutChangeLowersTheOffsetAtMostThenPublishesAndRenders)
@@ -236,7 +236,7 @@ TEST_F(HUDControllerTest, LetsClicksThroughForAsLongAsItIsTold)
     EXPECT_TRUE(desk.panel.visible);
     EXPECT_TRUE(desk.panel.ignoresMouseEvents);
     desk.clock.advance(0.29);
-    store.publishItems();
+    publishItems();
     EXPECT_TRUE(desk.panel.ignoresMouseEvents) << "a picture that arrives changes nothing";
     desk.clock.advance(0.02);
     EXPECT_FALSE(desk.panel.ignoresMouseEvents);
@@ -263,8 +263,7 @@ TEST_F(HUDControllerTest, ADragNeedsNoPatience)
     settle();
     controller->letClicksThrough(0.3);
     store.toggleManually();
-    store.setDragInFlight(true);
-    store.publishItems();
+    store.dragBegan();
     EXPECT_FALSE(desk.panel.ignoresMouseEvents);
 }
 
@@ -320,7 +319,7 @@ TEST_F(HUDControllerTest, EveryIdleRenderRestartsTheDelay)
     store.toggleManually();
     store.toggleManually();
     desk.clock.advance(0.3);
-    store.publishItems();
+    publishItems();
     desk.clock.advance(0.3);
     EXPECT_TRUE(desk.panel.visible);
     desk.clock.advance(0.1);
@@ -416,7 +415,7 @@ TEST_F(HUDControllerTest, AnotherScreenGetsItsFrameAtOnce)
     accept(5);
     settle();
     pointer.position = QPointF(1700, 100);
-    store.publishItems();
+    publishItems();
     EXPECT_EQ(frame(), QRectF(2012 - 158, 800 - 62, 316, 62));
 }
 
@@ -480,15 +479,14 @@ TEST_F(HUDControllerTest, TheNotchWidensTheShelf)
     EXPECT_EQ(snapshot().notch, QSizeF(210, 32));
     EXPECT_EQ(frame().size(), QSizeF(294, 88));
     screen->auxiliaryTopLeftArea.reset();
-    store.publishItems();
+    publishItems();
     EXPECT_EQ(snapshot().notch, QSizeF(0, 32));
 }
 
 TEST_F(HUDControllerTest, OnlyADragFromElsewhereMakesItReceptive)
 {
     accept(1);
-    store.setDragInFlight(true);
-    store.publishItems();
+    store.dragBegan();
     EXPECT_TRUE(snapshot().receptive);
     view().onDragOutChanged(true);
     EXPECT_FALSE(snapshot().receptive);

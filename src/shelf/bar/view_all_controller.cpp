@@ -43,13 +43,8 @@ void ViewAllController::wireView()
     m_view.onCopySelected = [this] { m_context.quickActions.copy(m_store.selectedItems()); };
     m_view.onEjected = [this](const QList<QUuid> &ids, bool keep) { m_store.ejected(ids, keep); };
     m_view.onScroll = [this](int step) { scroll(step); };
-    m_view.onClose = [this] { close(); };
-    m_view.onDragOutChanged = [this](bool isDraggingOut) {
-        if (m_store.isOwnDrag() == isDraggingOut)
-            return;
-        m_store.setOwnDrag(isDraggingOut);
-        m_store.publishItems();
-    };
+    m_view.onClose = [this] { m_store.closeViewAll(); };
+    m_view.onDragOutChanged = [this](bool isDraggingOut) { m_store.ownDragChanged(isDraggingOut); };
     m_view.onNothingToDrag = [this] {
         m_context.feedback.show(
             QCoreApplication::translate("ShelfView", "The file is no longer there"));
@@ -142,14 +137,6 @@ void ViewAllController::hide()
     m_panel.orderOut();
 }
 
-void ViewAllController::close()
-{
-    if (!m_store.isViewAllOpen())
-        return;
-    m_store.setViewAllOpen(false);
-    m_store.publishItems();
-}
-
 void ViewAllController::scroll(int step)
 {
     m_offset = std::max(0, checkedAdd(m_offset, step));
@@ -181,7 +168,7 @@ void ViewAllController::clickedElsewhere()
     if (isOurs || !m_store.isViewAllOpen())
         return;
     m_panel.userWentOn();
-    close();
+    m_store.closeViewAll();
 }
 
 } // namespace corvane

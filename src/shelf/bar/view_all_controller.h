@@ -60,7 +60,6 @@ private:
     void show(const Screen &screen, bool isDragged);
     void takeKeyboard(bool wasShown);
     void hide();
-    void close();
     void scroll(int step);
     void startWatchingOutsideClicks();
     void stopWatchingOutsideClicks();

@@ -83,7 +83,7 @@ TEST_F(StatusItemControllerTest, ItemsThatOnlyChangeLeaveThePanelAlone)
     hold(2);
     panel.iconChanges = 0;
     panel.menuChanges = 0;
-    store.publishItems();
+    publishItems();
     EXPECT_EQ(panel.iconChanges, 0);
     EXPECT_EQ(panel.menuChanges, 0);
     hold(3);

@@ -253,11 +253,7 @@ private:
             return store.dragEnded();
         }
         steps.note(QStringLiteral("drag begins"));
-        store.setDragInFlight(true);
-        if (store.state() == ShelfState::Idle)
-            store.setState(ShelfState::Expanded);
-        else
-            store.publishItems();
+        store.dragBegan();
     }
     void ownDrag(RandomSteps &steps)
     {

@@ -41,8 +41,8 @@ protected:
     }
     void setOpen(bool open)
     {
-        store.setViewAllOpen(open);
-        store.publishItems();
+        if (store.isViewAllOpen() != open)
+            store.toggleViewAll();
     }
     void open(int count)
     {
@@ -99,7 +99,7 @@ TEST_F(ViewAllControllerTest, followsTheShelfToAnotherScreen)
     open(2);
     screens.attach(QRectF(1512, 200, 1000, 800));
     pointer.position = QPointF(1600, 300);
-    store.publishItems();
+    publishItems();
     EXPECT_EQ(panel.frame().x(), 1512 + 100);
     EXPECT_EQ(panel.frame().width(), 800);
     EXPECT_EQ(panel.frame().y() + 132 + 10, pill().y());
@@ -110,7 +110,7 @@ TEST_F(ViewAllControllerTest, pagingLeavesItOnTheScreenThatTheShelfWentTo)
     open(20);
     screens.attach(QRectF(1512, 200, 1000, 800));
     pointer.position = QPointF(1600, 300);
-    store.publishItems();
+    publishItems();
     const QRectF frame = panel.frame();
     ASSERT_GT(frame.x(), 1512);
     view().onScroll(1);
@@ -163,7 +163,7 @@ TEST_F(ViewAllControllerTest, withNoScreenItHides)
     screens.detach(screen);
     screen.reset();
     pointer.position.reset();
-    store.publishItems();
+    publishItems();
     EXPECT_FALSE(panel.visible);
 }
 
@@ -209,7 +209,7 @@ TEST_F(ViewAllControllerTest, takesTheKeyboardInEveryRenderThatShowsIt)
     open(3);
     EXPECT_TRUE(panel.isKey);
     panel.isKey = false;
-    store.publishItems();
+    publishItems();
     EXPECT_TRUE(panel.isKey);
     panel.isKey = false;
     view().onScroll(1);
@@ -221,7 +221,7 @@ TEST_F(ViewAllControllerTest, aPictureThatArrivesTakesTheKeyboardFromNoOtherProg
     open(3);
     panel.isKey = false;
     panel.othersHaveKeyboard = true;
-    store.publishItems();
+    publishItems();
     EXPECT_FALSE(panel.isKey);
     setOpen(false);
     setOpen(true);
@@ -237,7 +237,7 @@ TEST_F(ViewAllControllerTest, aShelfThatComesUnaskedBringsItWithoutTheKeyboard)
         panel.othersHaveKeyboard = othersHaveKeyboard;
         store.toggleManually();
         EXPECT_TRUE(panel.visible);
-        store.publishItems();
+        publishItems();
         view().onScroll(1);
         EXPECT_FALSE(panel.isKey) << "nor does anything that arrives later bring it";
         store.toggleManually();
@@ -249,7 +249,7 @@ TEST_F(ViewAllControllerTest, aShelfThatComesUnaskedBringsItWithoutTheKeyboard)
                                        .root.center()});
     EXPECT_TRUE(panel.isKey) << "the user has turned to it";
     panel.isKey = false;
-    store.publishItems();
+    publishItems();
     EXPECT_TRUE(panel.isKey);
 }
 
@@ -329,11 +329,11 @@ TEST_F(ViewAllControllerTest, aPressOnTheShelfLeavesTheKeysWithTheBar)
 TEST_F(ViewAllControllerTest, takesNoKeyboardFromADragThatGoesOnNorAtItsEnd)
 {
     accept(3);
-    store.setDragInFlight(true);
+    store.dragBegan();
     setOpen(true);
     EXPECT_TRUE(panel.visible);
     EXPECT_FALSE(panel.isKey);
-    store.publishItems();
+    publishItems();
     EXPECT_FALSE(panel.isKey);
     store.dragEnded();
     EXPECT_FALSE(panel.isKey);
@@ -344,8 +344,8 @@ TEST_F(ViewAllControllerTest, aDragThatOpensTheShelfOpensTheBarWithoutTheKeyboar
     open(3);
     store.toggleManually();
     panel.isKey = false;
-    store.setDragInFlight(true);
-    store.setState(ShelfState::Expanded);
+    store.dragBegan();
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
     EXPECT_TRUE(panel.visible);
     store.dragEnded();
     EXPECT_EQ(store.state(), ShelfState::Occupied);
@@ -412,8 +412,8 @@ TEST_F(ViewAllControllerTest, whereNobodyTellsWhereThePointerIsAnyClickElsewhere
 TEST_F(ViewAllControllerTest, watchesOnceHoweverOftenItIsRendered)
 {
     open(3);
-    store.publishItems();
-    store.publishItems();
+    publishItems();
+    publishItems();
     EXPECT_EQ(desktop.mouseDownMonitorCount(), 1U);
 }
 
@@ -424,7 +424,7 @@ TEST_F(ViewAllControllerTest, aMonitorThatWasRefusedIsTriedAgain)
     EXPECT_TRUE(panel.visible);
     EXPECT_FALSE(bar->isWatchingOutsideClicks());
     desktop.refusesGlobalMonitor = false;
-    store.publishItems();
+    publishItems();
     EXPECT_TRUE(bar->isWatchingOutsideClicks());
 }
 
