@@ -29,7 +29,6 @@ struct Bar : test::ShelfModel {
                                        store,
                                        quickActions,
                                        desktop,
-                                       pointer,
                                        feedback});
         HUDController::Context context = controllerContext();
         context.viewAll = &*bar;

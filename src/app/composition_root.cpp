@@ -145,8 +145,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                         .preparation = itemPreparation},
                .store = store,
                .quickActions = quickActions,
-               .eventMonitors = desktop.outsideClicks,
-               .pointer = desktop.pointer,
+               .outsideClicks = desktop.outsideClicks,
                .feedback = feedback})
     , hud({.view = {.panel = panel,
                     .queue = mainQueue,
@@ -167,7 +166,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
            .presenter = &presenter,
            .viewAll = &viewAll})
     , edge({.trigger = desktop.edgeTrigger,
-            .eventMonitors = desktop.outsideClicks,
+            .outsideClicks = desktop.outsideClicks,
             .screens = screens,
             .store = store,
             .queue = mainQueue,

@@ -3,6 +3,7 @@
 #include "core/shelf_store.h"
 #include "platform/base/checked_math.h"
 #include "platform/base/main_queue.h"
+#include "platform/desktop/outside_clicks.h"
 
 #include <algorithm>
 #include <utility>
@@ -71,7 +72,8 @@ void EdgeSummoner::entered()
 
 void EdgeSummoner::watchPresses(void (EdgeSummoner::*pressed)())
 {
-    m_pressMonitor = m_context.eventMonitors.addGlobalMouseDownMonitor(whileAlive(pressed));
+    m_pressWatch = m_context.outsideClicks.watch(
+        [onPressed = whileAlive(pressed)](std::optional<QPointF> /*place*/) { onPressed(); });
 }
 
 void EdgeSummoner::giveUp()
@@ -84,13 +86,7 @@ void EdgeSummoner::wait()
 {
     m_phase = Phase::Waiting;
     m_generation = checkedAdd<std::int64_t>(m_generation, 1);
-    stopWatchingPresses();
-}
-
-void EdgeSummoner::stopWatchingPresses()
-{
-    if (const auto monitor = std::exchange(m_pressMonitor, std::nullopt))
-        m_context.eventMonitors.removeMonitor(*monitor);
+    m_pressWatch.end();
 }
 
 void EdgeSummoner::summon()
@@ -132,7 +128,7 @@ void EdgeSummoner::pointerIsInside(bool isInside)
         return;
     }
     m_generation = checkedAdd<std::int64_t>(m_generation, 1);
-    stopWatchingPresses();
+    m_pressWatch.end();
 }
 
 void EdgeSummoner::shelfIsUsed()

@@ -1,18 +1,18 @@
 #pragma once
 
 #include "core/store_follower.h"
+#include "platform/base/subscription.h"
 #include "platform/desktop/edge_trigger.h"
-#include "platform/desktop/event_monitors.h"
 
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace corvane {
 
 class MainQueue;
+class OutsideClicks;
 class ShelfStore;
 
 /// Shows the hidden shelf while it holds items and the pointer is kept at the top edge of a screen,
@@ -39,7 +39,7 @@ public:
     static constexpr double clicksThroughTime = 0.3;
     struct Context {
         EdgeTrigger &trigger;
-        EventMonitors &eventMonitors;
+        OutsideClicks &outsideClicks;
         Screens &screens;
         ShelfStore &store;
         MainQueue &queue;
@@ -73,7 +73,6 @@ private:
     void giveUp();
     void wait();
     void watchPresses(void (EdgeSummoner::*pressed)());
-    void stopWatchingPresses();
     void summon();
     void clickedThrough();
     void dismissLater();
@@ -95,7 +94,7 @@ private:
     qsizetype m_summonedCount = 0;
     double m_summonTime = 0;
     std::vector<EdgeStretch> m_watched;
-    std::optional<EventMonitors::Handle> m_pressMonitor;
+    Subscription m_pressWatch;
     std::shared_ptr<EdgeSummoner *> m_self = std::make_shared<EdgeSummoner *>(this);
 };
 

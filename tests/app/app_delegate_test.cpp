@@ -69,7 +69,7 @@ protected:
         hud.emplace(controllerContext());
         edge.emplace(EdgeSummoner::Context{
             .trigger = edgeTrigger,
-            .eventMonitors = desktop,
+            .outsideClicks = desktop,
             .screens = screens,
             .store = store,
             .queue = desk.clock,

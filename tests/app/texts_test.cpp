@@ -255,7 +255,6 @@ TEST(Texts, OfTheShelfsMessages)
         model.store,
         model.quickActions,
         desktop,
-        desktop.pointer,
         model.feedback});
     flashed("one of one stayed", [&] { bar.view().onStayed(1, 1); });
     flashed("one of three stayed", [&] { bar.view().onStayed(1, 3); });
@@ -276,7 +275,6 @@ TEST(Texts, OfTheBar)
         model.store,
         model.quickActions,
         desktop,
-        desktop.pointer,
         model.feedback});
     model.store.accept({ShelfDesk::textItem(QStringLiteral("a")),
                         ShelfDesk::textItem(QStringLiteral("b")),

@@ -4,6 +4,7 @@
 #include "platform/desktop/drag_pasteboard.h"
 #include "platform/desktop/event_monitors.h"
 #include "platform/desktop/mouse_buttons.h"
+#include "platform/desktop/outside_clicks.h"
 
 #include <map>
 #include <optional>
@@ -13,7 +14,10 @@
 namespace corvane::test {
 
 /// A desktop with a mouse on it, seen by what watches for drags. Its verbs are the user's.
-class FakeDragDesktop : public DragPasteboard, public EventMonitors, public MouseButtons {
+class FakeDragDesktop : public DragPasteboard,
+                        public EventMonitors,
+                        public MouseButtons,
+                        public OutsideClicks {
 public:
     static constexpr unsigned rightButton = 2;
 
@@ -22,21 +26,29 @@ public:
         ++changeCountReads;
         return m_changeCount;
     }
-    std::optional<Handle> addGlobalMonitor(Handler handler) override
+    std::optional<Handle> addGlobalMonitor(EventMonitors::Handler handler) override
     {
         return refusesGlobalMonitor ? std::nullopt : add(m_global, std::move(handler));
     }
-    std::optional<Handle> addLocalMonitor(Handler handler) override
+    std::optional<Handle> addLocalMonitor(EventMonitors::Handler handler) override
     {
         return refusesLocalMonitor ? std::nullopt : add(m_local, std::move(handler));
     }
-    std::optional<Handle> addGlobalMouseDownMonitor(Handler handler) override
+    std::optional<Handle> addGlobalMouseDownMonitor(EventMonitors::Handler handler) override
     {
         return refusesGlobalMonitor ? std::nullopt : add(m_mouseDown, std::move(handler));
     }
-    std::optional<Handle> addLeftMouseDownMonitor(Handler handler) override
+    std::optional<Handle> addLeftMouseDownMonitor(EventMonitors::Handler handler) override
     {
         return refusesGlobalMonitor ? std::nullopt : add(m_leftDown, std::move(handler));
+    }
+    Subscription watch(OutsideClicks::Handler handler) override
+    {
+        const auto handle = addGlobalMouseDownMonitor(
+            [this, handler = std::move(handler)] { handler(pointer.position); });
+        if (!handle)
+            return {};
+        return Subscription([this, handle] { removeMonitor(*handle); });
     }
     void removeMonitor(Handle handle) override
     {
@@ -91,9 +103,9 @@ public:
     mutable int changeCountReads = 0;
 
 private:
-    using Monitors = std::map<Handle, Handler>;
+    using Monitors = std::map<Handle, EventMonitors::Handler>;
 
-    std::optional<Handle> add(Monitors &monitors, Handler handler)
+    std::optional<Handle> add(Monitors &monitors, EventMonitors::Handler handler)
     {
         monitors.emplace(m_nextHandle, std::move(handler));
         return m_nextHandle++;

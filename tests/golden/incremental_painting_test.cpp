@@ -50,7 +50,6 @@ public:
                                                  store,
                                                  quickActions,
                                                  m_desktop,
-                                                 m_desktop.pointer,
                                                  feedback});
         m_shelf.emplace(HUDController::Context{shelfContext(m_shelfPanel), store, settings,
                                                feedback, screens, locator, quickActions, nullptr,

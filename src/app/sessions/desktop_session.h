@@ -11,10 +11,10 @@ class DragSupport;
 class DragWatch;
 class DropSupport;
 class EdgeTrigger;
-class EventMonitors;
 class HotKeyService;
 class KeyboardLayout;
 class MainQueue;
+class OutsideClicks;
 class PanelSurface;
 class Pointer;
 class Screens;
@@ -27,8 +27,7 @@ struct DesktopSession {
     const Pointer &pointer;
     DragWatch &dragWatch;
     EdgeTrigger &edgeTrigger;
-    /// Presses in other programs' windows.
-    EventMonitors &outsideClicks;
+    OutsideClicks &outsideClicks;
     HotKeyService &hotKeys;
     const KeyboardLayout &keyboardLayout;
     PanelSurface &panelSurface;

@@ -8,6 +8,7 @@ X11Session::X11Session(const SessionNeeds &needs)
     , pointer(connection, needs.screens)
     , dragDesktop(connection)
     , dragMonitor(dragDesktop, dragDesktop, dragDesktop, needs.mainQueue)
+    , outsideClicks(dragDesktop, pointer)
     , hotKeys(connection, needs.mainQueue)
     , panelSurface(connection)
     , windowActivation(connection)
@@ -28,7 +29,7 @@ DesktopSession X11Session::desktop()
     return {.pointer = pointer,
             .dragWatch = dragMonitor,
             .edgeTrigger = edgeTrigger,
-            .outsideClicks = dragDesktop,
+            .outsideClicks = outsideClicks,
             .hotKeys = hotKeys,
             .keyboardLayout = keyboardLayout,
             .panelSurface = panelSurface,

@@ -3,6 +3,7 @@
 #include "app/sessions/desktop_session.h"
 #include "input/barrier_edge_trigger.h"
 #include "input/drag_monitor.h"
+#include "input/monitored_clicks.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_drag_desktop.h"
 #include "platform/x11/drags/x11_drag_support.h"
@@ -31,6 +32,7 @@ struct X11Session : RunningSession {
     X11Pointer pointer;
     X11DragDesktop dragDesktop;
     DragMonitor dragMonitor;
+    MonitoredClicks outsideClicks;
     X11HotKeys hotKeys;
     X11KeyboardLayout keyboardLayout;
     X11PanelSurface panelSurface;

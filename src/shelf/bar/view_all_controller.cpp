@@ -6,7 +6,7 @@
 #include "core/shelf_store.h"
 #include "platform/base/checked_math.h"
 #include "platform/base/geometry.h"
-#include "platform/desktop/pointer.h"
+#include "platform/desktop/outside_clicks.h"
 
 #include <QCoreApplication>
 
@@ -30,7 +30,6 @@ ViewAllController::ViewAllController(const Context &context)
 
 ViewAllController::~ViewAllController()
 {
-    stopWatchingOutsideClicks();
     m_panel.setContent(nullptr);
 }
 
@@ -96,7 +95,7 @@ void ViewAllController::show(const Screen &screen, bool isDragged)
     m_panel.orderFrontRegardless();
     if (m_isWanted && !isDragged)
         takeKeyboard(wasShown);
-    if (!m_outsideClickMonitor)
+    if (!m_clickWatch.isActive())
         startWatchingOutsideClicks();
 }
 
@@ -129,7 +128,7 @@ void ViewAllController::shelfWasPressed()
 
 void ViewAllController::hide()
 {
-    stopWatchingOutsideClicks();
+    m_clickWatch.end();
     m_panel.setIgnoresMouseEvents(true);
     m_offset = 0;
     m_isWanted = false;
@@ -147,24 +146,17 @@ void ViewAllController::scroll(int step)
 void ViewAllController::startWatchingOutsideClicks()
 {
     const std::weak_ptr<bool> alive = m_alive;
-    m_outsideClickMonitor = m_context.eventMonitors.addGlobalMouseDownMonitor([this, alive] {
+    m_clickWatch = m_context.outsideClicks.watch([this, alive](std::optional<QPointF> place) {
         if (!alive.expired())
-            clickedElsewhere();
+            clickedElsewhere(place);
     });
 }
 
-void ViewAllController::stopWatchingOutsideClicks()
+void ViewAllController::clickedElsewhere(std::optional<QPointF> place)
 {
-    if (const auto monitor = std::exchange(m_outsideClickMonitor, std::nullopt))
-        m_context.eventMonitors.removeMonitor(*monitor);
-}
-
-void ViewAllController::clickedElsewhere()
-{
-    const auto location = m_context.pointer.location();
-    // Where nobody tells where the pointer is, it is enough that another program had the click.
+    // Where nobody tells where it was, it is enough that another program had the click.
     const bool isOurs
-        = location && (contains(m_panel.frame(), *location) || contains(m_pillFrame, *location));
+        = place && (contains(m_panel.frame(), *place) || contains(m_pillFrame, *place));
     if (isOurs || !m_store.isViewAllOpen())
         return;
     m_panel.userWentOn();

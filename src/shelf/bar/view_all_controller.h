@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/event_monitors.h"
+#include "platform/base/subscription.h"
 #include "shelf/bar/view_all_view.h"
 #include "shelf/view_all_bar.h"
 
@@ -11,7 +11,7 @@
 
 namespace corvane {
 
-class Pointer;
+class OutsideClicks;
 class QuickActions;
 class ShelfStore;
 struct Feedback;
@@ -37,8 +37,7 @@ public:
         ViewAllView::Context view;
         ShelfStore &store;
         QuickActions &quickActions;
-        EventMonitors &eventMonitors;
-        const Pointer &pointer;
+        OutsideClicks &outsideClicks;
         const Feedback &feedback;
     };
     explicit ViewAllController(const Context &context);
@@ -52,7 +51,7 @@ public:
 
     const ViewAllView &view() const { return m_view; }
     int offset() const { return m_offset; }
-    bool isWatchingOutsideClicks() const { return m_outsideClickMonitor.has_value(); }
+    bool isWatchingOutsideClicks() const { return m_clickWatch.isActive(); }
 
 private:
     void wireView();
@@ -62,8 +61,7 @@ private:
     void hide();
     void scroll(int step);
     void startWatchingOutsideClicks();
-    void stopWatchingOutsideClicks();
-    void clickedElsewhere();
+    void clickedElsewhere(std::optional<QPointF> place);
 
     Context m_context;
     PanelWindow &m_panel;
@@ -72,7 +70,7 @@ private:
     int m_offset = 0;
     QRectF m_pillFrame;
     std::weak_ptr<const Screen> m_lastScreen;
-    std::optional<EventMonitors::Handle> m_outsideClickMonitor;
+    Subscription m_clickWatch;
     /// Something was being dragged when the bar was last rendered.
     bool m_sawDrag = false;
     bool m_sawOpen = false;

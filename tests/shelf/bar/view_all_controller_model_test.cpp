@@ -84,7 +84,6 @@ public:
                                        store,
                                        quickActions,
                                        desktop,
-                                       desktop.pointer,
                                        feedback});
         store.observeItems([this](const QList<DropItem> &) {
             ++publications;

@@ -29,7 +29,6 @@ protected:
                 store,
                 quickActions,
                 desktop,
-                desktop.pointer,
                 feedback};
     }
     void accept(int count)

@@ -1,0 +1,27 @@
+#include "input/monitored_clicks.h"
+
+#include "platform/desktop/event_monitors.h"
+#include "platform/desktop/pointer.h"
+
+#include <utility>
+
+namespace corvane {
+
+MonitoredClicks::MonitoredClicks(EventMonitors &monitors, const Pointer &pointer)
+    : m_monitors(monitors)
+    , m_pointer(pointer)
+{
+}
+
+Subscription MonitoredClicks::watch(Handler onPressed)
+{
+    const auto handle = m_monitors.addGlobalMouseDownMonitor(
+        [&pointer = m_pointer, onPressed = std::move(onPressed)] {
+            onPressed(pointer.location());
+        });
+    if (!handle)
+        return {};
+    return Subscription([&monitors = m_monitors, handle] { monitors.removeMonitor(*handle); });
+}
+
+} // namespace corvane
