@@ -134,6 +134,25 @@ TEST_F(ShelfViewTest, OpensInItsNewShapeAndOnlySlides)
     EXPECT_DOUBLE_EQ(desk.panel.outline.boundingRect().width(), layout().size.width());
 }
 
+TEST_F(ShelfViewTest, WhatSlidesIsWhatWillStandThere)
+{
+    show(holding(5, 3));
+    view.apply({});
+    desk.clock.advance(2);
+    ShelfDesk::paint(view, desk.panel);
+    view.apply(holding(5, 3));
+    ShelfDesk::paint(view, desk.panel);
+    desk.clock.advance(0.1);
+    const QImage sliding = ShelfDesk::paint(view, desk.panel);
+    const int up = qRound(view.layers().root().presentedTransform().dy);
+    desk.clock.advance(2);
+    const QImage resting = ShelfDesk::paint(view, desk.panel);
+    ASSERT_GT(up, 5);
+    ASSERT_LT(up, sliding.height() - 5);
+    const QSize both(sliding.width(), sliding.height() - up);
+    EXPECT_EQ(sliding.copy({{0, 0}, both}), resting.copy({{0, up}, both}));
+}
+
 TEST_F(ShelfViewTest, WithReducedMotionItIsThereAtOnce)
 {
     desk.motion.reduces = true;
