@@ -311,7 +311,6 @@ void ShelfLayers::EdgeFade::draw(QPainter &painter, QSizeF size, double /*scale*
     gradient.setColorAt(0.8, Qt::black);
     // Where the row ends the body has its rounded corner, and its edge line.
     QPainterPath end;
-    end.setFillRule(Qt::WindingFill);
     end.addRoundedRect(QRectF(-bodyCornerRadius, 0.5, size.width() + bodyCornerRadius - 0.5,
                               size.height() + bodyCornerRadius),
                        bodyCornerRadius, bodyCornerRadius);

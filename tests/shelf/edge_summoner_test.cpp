@@ -453,6 +453,10 @@ TEST_F(EdgeSummonerTest, HasNothingPendingWhileNobodyIsThere)
     goAway();
     desk.clock.advance(approachDelay);
     EXPECT_EQ(desk.clock.pendingCount(), 0U);
+    push();
+    screens.detach(screen);
+    screens.notifyChanges();
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U) << "no screen is there either";
 }
 
 TEST_F(EdgeSummonerTest, HasNothingPendingWhileThePointerRestsOnTheShelf)

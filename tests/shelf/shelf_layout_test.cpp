@@ -147,6 +147,14 @@ TEST(ShelfLayout, CellsStandInTheMiddleBetweenTheArrows)
     EXPECT_FALSE(layout.divider);
 }
 
+TEST(ShelfLayout, TwoItemsAreEnoughForTheViewAllButton)
+{
+    for (const int inView : {1, 2, 3}) {
+        EXPECT_TRUE(layoutShelf(holding(2, inView), 100).viewAllButton) << inView;
+        EXPECT_FALSE(layoutShelf(holding(1, inView), 100).viewAllButton) << inView;
+    }
+}
+
 TEST(ShelfLayout, OneInViewShowsTextAndActionsBesideThePicture)
 {
     const ShelfLayout layout = layoutShelf(holding(1, 1), 100);

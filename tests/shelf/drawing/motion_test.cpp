@@ -34,8 +34,9 @@ TEST(Spring, HasResponseOfAQuarterSecondAndDampingRatioOf0Point7)
 
 TEST(Spring, SettlingDurationIsTheFirstTimeAfterWhichItStaysNearItsTarget)
 {
-    for (const Spring &spring : {Theme::Motion::spring(), Spring{1, 400, 6},
-                                 Spring{2, 100, 2 * std::sqrt(200.0)}, Spring{1, 100, 60}}) {
+    for (const Spring &spring :
+         {Theme::Motion::spring(), Spring{1, 400, 6}, Spring{2, 100, 2 * std::sqrt(200.0)},
+          Spring{1, 100, 30}, Spring{1, 100, 60}}) {
         const double settled = spring.settlingDuration();
         const Spring::State start{1, 0};
         EXPECT_GT(std::abs(spring.after(settled - 1e-4, start).distance), Spring::settledDistance);
