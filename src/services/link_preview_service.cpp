@@ -49,10 +49,8 @@ LinkPreviewService::~LinkPreviewService() = default;
 void LinkPreviewService::load(const QUrl &url, IsWanted isWanted, Completion completion)
 {
     if (!isOfTheWeb(url)) {
-        m_mainQueue.async([weak = std::weak_ptr(m_self), completion = std::move(completion)] {
-            if (weak.lock())
-                completion(std::nullopt);
-        });
+        m_mainQueue.async(
+            m_lifetime.guard([completion = std::move(completion)] { completion(std::nullopt); }));
         return;
     }
     m_waiting.push_back({url, std::move(isWanted), std::move(completion), {}});
@@ -81,12 +79,10 @@ void LinkPreviewService::fetchPreview(Number number)
     request.userAgent = m_userAgent;
     request.accept = "text/html,application/xhtml+xml";
     request.maximumBytes = page_reader::maximumPageBytes;
-    m_webClient.get(
-        request,
-        [weak = std::weak_ptr(m_self), number](const std::optional<WebResponse> &response) {
-            if (const auto self = weak.lock())
-                (*self)->readPage(number, response);
-        });
+    m_webClient.get(request,
+                    m_lifetime.guard([this, number](const std::optional<WebResponse> &response) {
+                        readPage(number, response);
+                    }));
 }
 
 void LinkPreviewService::readPage(Number number, const std::optional<WebResponse> &response)
@@ -96,17 +92,17 @@ void LinkPreviewService::readPage(Number number, const std::optional<WebResponse
         return;
     }
     const QUrl base = response->url.isEmpty() ? m_running.at(number).url : response->url;
-    m_workQueue.run([&mainQueue = m_mainQueue, weak = std::weak_ptr(m_self), number, base,
-                     body = response->body, foundIn = response->foundIn] {
+    const auto take = m_lifetime.guard(
+        [this, number, foundIn = response->foundIn](const page_reader::Preview &preview) {
+            takePreview(number, preview, foundIn);
+        });
+    m_workQueue.run([&mainQueue = m_mainQueue, take, base, body = response->body] {
         page_reader::Preview preview = page_reader::parse(page_reader::decodePage(body), base);
         for (auto *text : {&preview.title, &preview.siteName}) {
             if (*text)
                 *text = shortened(**text);
         }
-        mainQueue.async([weak, number, preview, foundIn] {
-            if (const auto self = weak.lock())
-                (*self)->takePreview(number, preview, foundIn);
-        });
+        mainQueue.async([take, preview] { take(preview); });
     });
 }
 
@@ -130,12 +126,10 @@ void LinkPreviewService::fetchThumbnail(Number number, const QUrl &url, AddressS
     // One more tells a picture that is too large from one that is just not.
     request.maximumBytes = maximumPictureBytes + 1;
     request.foundIn = foundIn;
-    m_webClient.get(
-        request,
-        [weak = std::weak_ptr(m_self), number](const std::optional<WebResponse> &response) {
-            if (const auto self = weak.lock())
-                (*self)->decodePicture(number, response);
-        });
+    m_webClient.get(request,
+                    m_lifetime.guard([this, number](const std::optional<WebResponse> &response) {
+                        decodePicture(number, response);
+                    }));
 }
 
 void LinkPreviewService::decodePicture(Number number, const std::optional<WebResponse> &response)
@@ -144,12 +138,10 @@ void LinkPreviewService::decodePicture(Number number, const std::optional<WebRes
         finish(number, true);
         return;
     }
-    m_workQueue.run([&codec = m_codec, &mainQueue = m_mainQueue, weak = std::weak_ptr(m_self),
-                     number, body = response->body] {
-        mainQueue.async([weak, number, bitmap = codec.thumbnail(body, pictureSide)] {
-            if (const auto self = weak.lock())
-                (*self)->takePicture(number, bitmap);
-        });
+    const auto take = m_lifetime.guard(
+        [this, number](const std::optional<QImage> &bitmap) { takePicture(number, bitmap); });
+    m_workQueue.run([&codec = m_codec, &mainQueue = m_mainQueue, take, body = response->body] {
+        mainQueue.async([take, bitmap = codec.thumbnail(body, pictureSide)] { take(bitmap); });
     });
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/item_loading.h"
+#include "platform/base/lifetime.h"
 #include "platform/web/web_client.h"
 #include "services/page_reader.h"
 
@@ -9,7 +10,6 @@
 #include <cstdint>
 #include <deque>
 #include <map>
-#include <memory>
 
 namespace corvane {
 
@@ -82,7 +82,7 @@ private:
     std::map<Number, Load> m_running;
     Number m_lastNumber = 0;
     /// Held weakly by all work; looked at on the main thread alone.
-    std::shared_ptr<LinkPreviewService *> m_self = std::make_shared<LinkPreviewService *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

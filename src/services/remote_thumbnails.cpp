@@ -46,13 +46,11 @@ RemoteThumbnails::~RemoteThumbnails() = default;
 void RemoteThumbnails::generateBestRepresentation(const ThumbnailRequest &request,
                                                   Completion completion)
 {
-    m_context.files.inspect(
-        file_url::nativePath(request.url),
-        [weak = std::weak_ptr(m_self), request,
-         completion = std::move(completion)](const std::optional<FileVersion> &file) {
-            if (const auto self = weak.lock())
-                (*self)->inspected(request, file, completion);
-        });
+    m_context.files.inspect(file_url::nativePath(request.url),
+                            m_lifetime.guard([this, request, completion = std::move(completion)](
+                                                 const std::optional<FileVersion> &file) {
+                                inspected(request, file, completion);
+                            }));
 }
 
 void RemoteThumbnails::inspected(const ThumbnailRequest &request,
@@ -63,18 +61,16 @@ void RemoteThumbnails::inspected(const ThumbnailRequest &request,
         completion({std::nullopt, file && file->kind == FileVersion::Kind::Folder});
         return;
     }
-    m_context.workQueue.run(
-        [context = m_context, weak = std::weak_ptr(m_self), request, file = *file, completion] {
-            const ThumbnailCache::Found found = context.cache.find(file, request.pixels());
-            if (found.picture || found.hasFailed || !mayBePicture(file)) {
-                completion({found.picture});
-                return;
-            }
-            context.mainQueue.async([weak, request, file, completion] {
-                if (const auto self = weak.lock())
-                    (*self)->read(request, file, completion);
-            });
-        });
+    const auto readNow = m_lifetime.guard(
+        [this, request, file = *file, completion] { read(request, file, completion); });
+    m_context.workQueue.run([context = m_context, readNow, request, file = *file, completion] {
+        const ThumbnailCache::Found found = context.cache.find(file, request.pixels());
+        if (found.picture || found.hasFailed || !mayBePicture(file)) {
+            completion({found.picture});
+            return;
+        }
+        context.mainQueue.async(readNow);
+    });
 }
 
 void RemoteThumbnails::read(const ThumbnailRequest &request, const FileVersion &file,
@@ -85,10 +81,8 @@ void RemoteThumbnails::read(const ThumbnailRequest &request, const FileVersion &
         return;
     }
     m_context.files.read(file.path, maximumBytes,
-                         [context = m_context, weak = std::weak_ptr(m_self), request, file,
-                          completion](const std::optional<QByteArray> &data) {
-                             if (weak.expired())
-                                 return;
+                         m_lifetime.guard([context = m_context, request, file,
+                                           completion](const std::optional<QByteArray> &data) {
                              if (!data || request.cancellation->isCancelled()) {
                                  completion({});
                                  return;
@@ -97,7 +91,7 @@ void RemoteThumbnails::read(const ThumbnailRequest &request, const FileVersion &
                                  [context, request, file, completion, data = *data] {
                                      completion(decoded(context, request, file, data));
                                  });
-                         });
+                         }));
 }
 
 } // namespace corvane

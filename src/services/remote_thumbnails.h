@@ -1,9 +1,8 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/pictures/thumbnail_generator.h"
 #include "platform/system/file_version.h"
-
-#include <memory>
 
 namespace corvane {
 
@@ -48,7 +47,7 @@ private:
               const Completion &completion);
 
     Context m_context;
-    std::shared_ptr<RemoteThumbnails *> m_self = std::make_shared<RemoteThumbnails *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -69,10 +69,7 @@ void ThumbnailQueue::scheduleFill()
     // Later, when the whole drop is known: what is in view may be the last of it.
     if (m_running.size() >= m_maximumRunning || std::exchange(m_isFillScheduled, true))
         return;
-    m_mainQueue.async([weak = std::weak_ptr(m_self)] {
-        if (const auto self = weak.lock())
-            (*self)->fill();
-    });
+    m_mainQueue.async(m_lifetime.guard([this] { fill(); }));
 }
 
 void ThumbnailQueue::fill()
@@ -109,10 +106,7 @@ void ThumbnailQueue::begin(const QUuid &item)
     const Waiting job = m_waiting.take(item);
     const auto cancellation = std::make_shared<Cancellation>();
     m_running.push_back({item, job.number, cancellation});
-    const auto done = [weak = std::weak_ptr(m_self), number = job.number] {
-        if (const auto self = weak.lock())
-            (*self)->finished(number);
-    };
+    const auto done = m_lifetime.guard([this, number = job.number] { finished(number); });
     job.batch->start(job.position, cancellation, done);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/base/cancellation.h"
+#include "platform/base/lifetime.h"
 
 #include <QHash>
 #include <QList>
@@ -83,7 +84,7 @@ private:
     std::vector<Newest> m_order;
     std::vector<Running> m_running;
     bool m_isFillScheduled = false;
-    std::shared_ptr<ThumbnailQueue *> m_self = std::make_shared<ThumbnailQueue *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -93,18 +93,15 @@ void ThumbnailService::begin(ThumbnailGenerator &generator, const FileJob &job,
                              const ThumbnailQueue::Done &done)
 {
     const ThumbnailRequest request = {job.url, QSizeF(side, side), scale(), cancellation};
+    const auto end = m_lifetime.guard([this, request, job, done](const ThumbnailAnswer &answer) {
+        done();
+        answered(request, job, answer);
+    });
     // The generator answers on a thread of its own, where only what outlives it may be touched.
-    generator.generateBestRepresentation(request,
-                                         [&mainQueue = m_mainQueue, weak = std::weak_ptr(m_self),
-                                          request, job, done](const ThumbnailAnswer &answer) {
-                                             mainQueue.async([weak, request, job, done, answer] {
-                                                 const auto self = weak.lock();
-                                                 if (!self)
-                                                     return;
-                                                 done();
-                                                 (*self)->answered(request, job, answer);
-                                             });
-                                         });
+    generator.generateBestRepresentation(
+        request, [&mainQueue = m_mainQueue, end](const ThumbnailAnswer &answer) {
+            mainQueue.async([end, answer] { end(answer); });
+        });
 }
 
 void ThumbnailService::answered(const ThumbnailRequest &request, const FileJob &job,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/item_loading.h"
+#include "platform/base/lifetime.h"
 #include "platform/pictures/thumbnail_generator.h"
 #include "services/thumbnail_queue.h"
 
@@ -78,8 +79,7 @@ private:
     WorkQueue &m_workQueue;
     ThumbnailQueue m_queue;
     ThumbnailQueue m_remoteQueue;
-    /// Held weakly by all work; looked at on the main thread alone.
-    std::shared_ptr<ThumbnailService *> m_self = std::make_shared<ThumbnailService *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
