@@ -58,16 +58,13 @@ void PagesView::renderNear()
         // One at a time: the page that is looked at by then is the next.
         m_isRendering = true;
         m_loading.render(m_pages.document, page, pixels,
-                         [this, page, pixels,
-                          alive = std::weak_ptr(m_alive)](const std::optional<QImage> &image) {
-                             if (alive.expired())
-                                 return;
+                         m_lifetime.guard([this, page, pixels](const std::optional<QImage> &image) {
                              m_isRendering = false;
                              // A page that cannot be drawn stays white.
                              m_renderings[page] = {image.value_or(QImage()), pixels};
                              viewport()->update();
                              renderNear();
-                         });
+                         }));
     }
 }
 

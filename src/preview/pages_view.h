@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/preview/preview_content.h"
 
 #include <QAbstractScrollArea>
@@ -35,7 +36,7 @@ private:
     QList<QRectF> m_rects;
     std::map<int, Rendering> m_renderings;
     bool m_isRendering = false;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

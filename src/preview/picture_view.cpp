@@ -144,16 +144,14 @@ void PictureView::askForPixels()
         return;
     m_isRendering = true;
     m_loading.render(m_picture.document, 0, wanted,
-                     [this, alive = std::weak_ptr(m_alive)](const std::optional<QImage> &image) {
-                         if (alive.expired())
-                             return;
+                     m_lifetime.guard([this](const std::optional<QImage> &image) {
                          m_isRendering = false;
                          if (image)
                              m_best = *image;
                          update();
                          // The view may have grown meanwhile.
                          askForPixels();
-                     });
+                     }));
 }
 
 void PictureView::askForFrame()
@@ -163,20 +161,15 @@ void PictureView::askForFrame()
     if (!m_isAnimating || !isSeen || std::exchange(m_isFrameDue, true))
         return;
     const QSize limit = m_picture.fitted.size().expandedTo({1, 1});
-    m_loading.nextFrame(
-        m_picture.document, limit,
-        [this, alive = std::weak_ptr(m_alive)](const std::optional<PreviewDocument::Frame> &next) {
-            if (alive.expired())
-                return;
-            m_isAnimating = next.has_value();
-            if (!next)
-                return;
-            m_queue.asyncAfter(std::max(m_frameEnd - m_queue.now(), 0.0),
-                               [this, alive, frame = *next] {
-                                   if (!alive.expired())
-                                       showFrame(frame);
-                               });
-        });
+    m_loading.nextFrame(m_picture.document, limit,
+                        m_lifetime.guard([this](const std::optional<PreviewDocument::Frame> &next) {
+                            m_isAnimating = next.has_value();
+                            if (!next)
+                                return;
+                            m_queue.asyncAfter(
+                                std::max(m_frameEnd - m_queue.now(), 0.0),
+                                m_lifetime.guard([this, frame = *next] { showFrame(frame); }));
+                        }));
 }
 
 void PictureView::showFrame(const PreviewDocument::Frame &frame)

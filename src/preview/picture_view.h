@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/preview/preview_content.h"
 #include "preview/preview_geometry.h"
 
@@ -58,7 +59,7 @@ private:
     /// When the present frame has stood long enough, on the queue's clock.
     double m_frameEnd = 0;
     QPointF m_grip;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

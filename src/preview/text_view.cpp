@@ -61,10 +61,7 @@ void TextView::appendNext()
         m_text.clear();
         return;
     }
-    m_queue.async([this, alive = std::weak_ptr(m_alive)] {
-        if (!alive.expired())
-            appendNext();
-    });
+    m_queue.async(m_lifetime.guard([this] { appendNext(); }));
 }
 
 } // namespace corvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/preview/preview_content.h"
 
 #include <QPlainTextEdit>
@@ -24,7 +25,7 @@ private:
     QString m_text;
     qsizetype m_shown = 0;
     MainQueue &m_queue;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
