@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/subscription.h"
 #include "platform/desktop/incoming_drag.h"
 
 #include <QStringList>
@@ -31,10 +32,9 @@ class DropSupport {
 public:
     virtual ~DropSupport() = default;
 
-    /// The receiver is told of other programs' drops on the window, which Qt sees leave instead,
-    /// until it is removed.
-    virtual void addReceiver(QWindow &window, DropReceiver &receiver) = 0;
-    virtual void removeReceiver(DropReceiver &receiver) = 0;
+    /// Until the subscription ends the receiver is told of other programs' drops on the window,
+    /// which Qt sees leave instead.
+    virtual Subscription addReceiver(QWindow &window, DropReceiver &receiver) = 0;
     /// Another program's drag that is over one of the windows; null where there is none.
     virtual std::shared_ptr<IncomingDrag> incomingDrag() = 0;
 };

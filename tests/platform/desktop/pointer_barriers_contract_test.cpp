@@ -246,7 +246,6 @@ TEST_F(X11PointerBarriersTest, aPointerThatMovesElsewhereIsNoEvent)
         pointer().moveBy({2, -1});
     settle();
     EXPECT_EQ(heard, 0);
-    hands.connection.removeListener(listener);
 }
 
 TEST_F(X11PointerBarriersTest, isGoneWithItsOwner)

@@ -52,14 +52,10 @@ PanelDropTarget::PanelDropTarget(QWindow &window, DropSupport *support, DropFetc
     , m_threads(threads)
 {
     if (m_support)
-        m_support->addReceiver(window, *this);
+        m_receiving = m_support->addReceiver(window, *this);
 }
 
-PanelDropTarget::~PanelDropTarget()
-{
-    if (m_support)
-        m_support->removeReceiver(*this);
-}
+PanelDropTarget::~PanelDropTarget() = default;
 
 void PanelDropTarget::setContent(PanelContent *content)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/subscription.h"
 #include "platform/desktop/drop_support.h"
 #include "platform/qt/desktop/drop_fetch.h"
 
@@ -68,6 +69,7 @@ private:
     QPointF m_location;
     /// What was let go and is on its way.
     std::list<std::unique_ptr<DropFetch>> m_awaited;
+    Subscription m_receiving;
 };
 
 } // namespace corvane

@@ -156,15 +156,9 @@ void X11Connection::makeClock()
                       &events);
 }
 
-X11Connection::ListenerId X11Connection::addListener(Listener listener)
+Subscription X11Connection::addListener(Listener listener)
 {
-    m_listeners.emplace(m_nextListener, std::move(listener));
-    return m_nextListener++;
-}
-
-void X11Connection::removeListener(ListenerId id)
-{
-    m_listeners.erase(id);
+    return m_listeners.subscribe(std::move(listener));
 }
 
 void X11Connection::readEvents()
@@ -192,22 +186,7 @@ void X11Connection::handleEvents(Poll poll)
         return first;
     };
     while (const auto event = next())
-        dispatch(*event);
-}
-
-void X11Connection::dispatch(const xcb_generic_event_t &event)
-{
-    std::vector<ListenerId> ids;
-    for (const auto &[id, listener] : m_listeners)
-        ids.push_back(id);
-    for (const ListenerId id : ids) {
-        const auto found = m_listeners.find(id);
-        if (found == m_listeners.end())
-            continue;
-        // A copy: it may remove itself.
-        const Listener listener = found->second;
-        listener(event);
-    }
+        m_listeners.notify(*event);
 }
 
 void X11Connection::noticeLossAtExit()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/callback_list.h"
 #include "platform/x11/base/x11_reply.h"
 
 #include <QObject>
@@ -25,7 +26,6 @@ namespace corvane {
 class X11Connection : public QObject {
 public:
     using Listener = std::function<void(const xcb_generic_event_t &)>;
-    using ListenerId = int;
 
     explicit X11Connection(std::function<void()> onLost = {});
     ~X11Connection() override;
@@ -53,10 +53,9 @@ public:
     /// come before the answer are handled afterwards, in their order.
     xcb_timestamp_t serverTime();
 
-    /// Every event of this connection goes to every listener, in the order they were added. A
-    /// listener may add and remove listeners.
-    ListenerId addListener(Listener listener);
-    void removeListener(ListenerId id);
+    /// Every event of this connection goes to every listener, in the order they were added, until
+    /// its subscription ends. A listener may add and remove listeners.
+    Subscription addListener(Listener listener);
 
     void flush() { xcb_flush(m_connection); }
 
@@ -67,7 +66,6 @@ private:
     void handleQueuedEvents();
     using Poll = xcb_generic_event_t *(*)(xcb_connection_t *);
     void handleEvents(Poll poll);
-    void dispatch(const xcb_generic_event_t &event);
     void noticeLoss();
     void noticeLossAtExit();
 
@@ -83,8 +81,7 @@ private:
     std::deque<X11Reply<xcb_generic_event_t>> m_setAside;
     /// Never shown: it is there to have a property changed. Made when it is first needed.
     xcb_window_t m_clock = XCB_NONE;
-    std::map<ListenerId, Listener> m_listeners;
-    ListenerId m_nextListener = 1;
+    CallbackList<const xcb_generic_event_t &> m_listeners;
     std::map<std::string, xcb_atom_t> m_atoms;
 };
 

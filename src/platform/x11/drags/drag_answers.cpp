@@ -107,17 +107,14 @@ bool DragAnswers::writeContents(xcb_window_t requestor, xcb_atom_t target, xcb_a
             onDelivered(requestor, answer->holds);
         return true;
     }
-    const auto ended = [weak = std::weak_ptr(m_self), requestor,
-                        holds = answer->holds](IncrementalTransfers::End end) {
-        const auto self = weak.lock();
-        if (!self)
-            return;
-        --(*self)->m_running;
-        if (end == IncrementalTransfers::End::AllTaken && (*self)->onDelivered)
-            (*self)->onDelivered(requestor, holds);
-        if ((*self)->onProgress)
-            (*self)->onProgress();
-    };
+    const auto ended
+        = m_lifetime.guard([this, requestor, holds = answer->holds](IncrementalTransfers::End end) {
+              --m_running;
+              if (end == IncrementalTransfers::End::AllTaken && onDelivered)
+                  onDelivered(requestor, holds);
+              if (onProgress)
+                  onProgress();
+          });
     ++m_running;
     if (m_transfers.begin(requestor, property, answer->type, answer->bytes, ended))
         return true;

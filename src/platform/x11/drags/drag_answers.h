@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/x11/drags/x11_drag_forms.h"
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -52,7 +52,7 @@ private:
     xcb_timestamp_t m_began;
     std::vector<xcb_selection_request_event_t> m_waiting;
     int m_running = 0;
-    std::shared_ptr<DragAnswers *> m_self = std::make_shared<DragAnswers *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -78,11 +78,8 @@ void FileArrival::readEvents()
 
 void FileArrival::lookAgainSoon()
 {
-    const int generation = ++m_generation;
-    m_queue.asyncAfter(quietSeconds, [this, generation, alive = std::weak_ptr<bool>(m_alive)] {
-        if (!alive.expired() && generation == m_generation)
-            look();
-    });
+    m_nextLook.restart();
+    m_queue.asyncAfter(quietSeconds, m_nextLook.guard([this] { look(); }));
 }
 
 void FileArrival::look()
@@ -95,12 +92,11 @@ void FileArrival::finish(bool hasArrived)
 {
     m_notifier.reset();
     m_patienceTimer.reset();
-    ++m_generation;
-    m_queue.async([this, hasArrived, alive = std::weak_ptr<bool>(m_alive)] {
-        if (alive.expired() || !m_done)
-            return;
-        std::exchange(m_done, {})(hasArrived);
-    });
+    m_nextLook.restart();
+    m_queue.async(m_lifetime.guard([this, hasArrived] {
+        if (const auto done = std::exchange(m_done, {}))
+            done(hasArrived);
+    }));
 }
 
 bool FileArrival::isTooLarge() const

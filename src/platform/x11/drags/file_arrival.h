@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/base/main_queue.h"
 
 #include <QByteArray>
@@ -52,9 +53,9 @@ private:
     std::function<void(bool)> m_done;
     bool m_wasClosed = false;
     double m_lastProgress = 0;
-    /// What was scheduled before the latest news of the file is void.
-    int m_generation = 0;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    /// Restarted by every news of the file: only the look that follows the latest is of use.
+    Lifetime m_nextLook;
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

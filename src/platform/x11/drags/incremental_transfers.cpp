@@ -30,10 +30,7 @@ IncrementalTransfers::IncrementalTransfers(X11Connection &connection, MainQueue 
 {
 }
 
-IncrementalTransfers::~IncrementalTransfers()
-{
-    m_connection.removeListener(m_listener);
-}
+IncrementalTransfers::~IncrementalTransfers() = default;
 
 bool IncrementalTransfers::begin(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type,
                                  const QByteArray &bytes, Ended ended)

@@ -74,7 +74,7 @@ private:
 
     X11Connection &m_connection;
     MainQueue &m_queue;
-    X11Connection::ListenerId m_listener;
+    Subscription m_listener;
     qsizetype m_pieceBytes;
     std::list<Transfer> m_transfers;
     std::unique_ptr<MainQueue::Timer> m_patienceTimer;

@@ -52,7 +52,6 @@ SelectionReader::~SelectionReader()
         drop(m_reads.begin());
     xcb_destroy_window(m_connection.get(), m_watch);
     m_connection.flush();
-    m_connection.removeListener(m_listener);
 }
 
 SelectionReader::Id SelectionReader::read(xcb_atom_t target, xcb_timestamp_t time,
@@ -143,10 +142,7 @@ void SelectionReader::ownerEnded()
 
 void SelectionReader::takeSliceLater(const Read &read)
 {
-    m_queue.async([this, id = read.id, alive = std::weak_ptr<bool>(m_alive)] {
-        if (!alive.expired())
-            takeSlice(id);
-    });
+    m_queue.async(m_lifetime.guard([this, id = read.id] { takeSlice(id); }));
 }
 
 void SelectionReader::takeSlice(Id id)
@@ -225,12 +221,11 @@ SelectionReader::Position SelectionReader::find(Id id)
 void SelectionReader::finish(Position read, Outcome outcome)
 {
     // Later: whoever is told may ask for more, or end this.
-    m_queue.async([done = std::move(read->done), outcome,
-                   bytes = outcome == Outcome::Arrived ? read->bytes : QByteArray(),
-                   alive = std::weak_ptr<bool>(m_alive)] {
-        if (!alive.expired())
+    m_queue.async(
+        m_lifetime.guard([done = std::move(read->done), outcome,
+                          bytes = outcome == Outcome::Arrived ? read->bytes : QByteArray()] {
             done(outcome, bytes);
-    });
+        }));
     drop(read);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/base/main_queue.h"
 #include "platform/desktop/incoming_drag.h"
 #include "platform/x11/base/x11_connection.h"
@@ -88,7 +89,7 @@ private:
 
     X11Connection &m_connection;
     MainQueue &m_queue;
-    X11Connection::ListenerId m_listener;
+    Subscription m_listener;
     xcb_atom_t m_selection;
     xcb_atom_t m_property;
     /// The news of the owner's end come to this one.
@@ -96,7 +97,7 @@ private:
     std::list<Read> m_reads;
     Id m_nextId = 1;
     std::unique_ptr<MainQueue::Timer> m_patienceTimer;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

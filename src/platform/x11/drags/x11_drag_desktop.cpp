@@ -50,7 +50,6 @@ X11DragDesktop::X11DragDesktop(X11Connection &connection)
 X11DragDesktop::~X11DragDesktop()
 {
     listenTo(Listening::Nothing);
-    m_connection.removeListener(m_listener);
 }
 
 std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMonitor(Handler onLeftMouseDragged)

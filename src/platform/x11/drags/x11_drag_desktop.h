@@ -55,7 +55,7 @@ private:
     static void notify(const Monitors &monitors);
 
     X11Connection &m_connection;
-    X11Connection::ListenerId m_listener;
+    Subscription m_listener;
     qint64 m_changeCount = 0;
     Listening m_listening = Listening::Nothing;
     /// Which logical button each physical one is, for wheels and buttons that are switched off:

@@ -85,11 +85,10 @@ void X11DragSupport::dragWasDropped(DragId drag, std::function<void(const DragOu
         m_words.erase(found->target());
     watchTheClock();
     if (target == X11Drag::Target::Gone) {
-        m_queue.asyncAfter(lastWords, [this, alive = std::weak_ptr(m_alive), drag] {
-            auto *const silent = alive.expired() ? nullptr : find(drag);
-            if (silent)
+        m_queue.asyncAfter(lastWords, m_lifetime.guard([this, drag] {
+            if (auto *const silent = find(drag))
                 silent->giveUp();
-        });
+        }));
     }
 }
 
@@ -217,8 +216,8 @@ void X11DragSupport::finishedOneOf(const std::vector<DragId> &drops,
     const xcb_atom_t linked = m_connection.atom("XdndActionLink");
     const auto link = std::ranges::find_if(
         said, [linked](const auto &word) { return word.data.data32[2] == linked; });
-    const std::weak_ptr<bool> alive(m_alive);
-    for (std::size_t i = 0; i < drops.size() && !alive.expired(); ++i) {
+    const Lifetime::Token life = m_lifetime.token();
+    for (std::size_t i = 0; i < drops.size() && !life.isOver(); ++i) {
         auto *const drag = find(drops[i]);
         if (drag && wentWell)
             drag->targetFinished(link == said.end() ? said[i] : *link);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/base/main_queue.h"
 #include "platform/desktop/drag_support.h"
 #include "platform/x11/base/x11_connection.h"
@@ -86,7 +87,7 @@ private:
     /// Of the latest input that Qt was told of.
     xcb_timestamp_t m_time = XCB_CURRENT_TIME;
     std::unique_ptr<MainQueue::Timer> m_timer;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -47,23 +47,20 @@ X11DropSupport::~X11DropSupport()
         m_drag->forget();
 }
 
-void X11DropSupport::addReceiver(QWindow &window, DropReceiver &receiver)
+Subscription X11DropSupport::addReceiver(QWindow &window, DropReceiver &receiver)
 {
-    m_places.push_back({&window, &receiver});
-}
-
-void X11DropSupport::removeReceiver(DropReceiver &receiver)
-{
-    std::erase_if(m_places, [&](const Place &place) { return place.receiver == &receiver; });
+    return m_places.subscribe({&window, &receiver});
 }
 
 DropReceiver *X11DropSupport::receiverOf(xcb_window_t window) const
 {
-    for (const Place &place : m_places) {
+    DropReceiver *receiver = nullptr;
+    m_places.anyOf([&](const Place &place) {
         if (place.window && x11_qt::nativeWindow(*place.window) == window)
-            return place.receiver;
-    }
-    return nullptr;
+            receiver = place.receiver;
+        return receiver != nullptr;
+    });
+    return receiver;
 }
 
 bool X11DropSupport::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
@@ -114,11 +111,10 @@ bool X11DropSupport::position(const xcb_client_message_event_t &message,
     // Sources answer who names the time that they told with the position.
     m_drag->setTime(message.data.data32[3]);
     fetchAddresses(receiver.addressTypes(m_drag->types()));
-    m_queue.asyncAfter(hoverPatience,
-                       [this, drag = std::weak_ptr(m_drag), alive = std::weak_ptr<bool>(m_alive)] {
-                           if (!alive.expired() && !drag.expired() && drag.lock() == m_drag)
-                               decide();
-                       });
+    m_queue.asyncAfter(hoverPatience, m_lifetime.guard([this, drag = std::weak_ptr(m_drag)] {
+        if (!drag.expired() && drag.lock() == m_drag)
+            decide();
+    }));
     return true;
 }
 
@@ -130,17 +126,16 @@ void X11DropSupport::fetchAddresses(QStringList types)
     }
     const QString type = types.takeFirst();
     m_drag->fetch(type, maximumAddressBytes,
-                  [this, types = std::move(types), drag = m_drag.get(),
-                   alive = std::weak_ptr<bool>(m_alive)](IncomingDrag::Outcome outcome,
-                                                         const QByteArray &bytes) {
-                      if (alive.expired() || drag != m_drag.get())
+                  m_lifetime.guard([this, types = std::move(types), drag = m_drag.get()](
+                                       IncomingDrag::Outcome outcome, const QByteArray &bytes) {
+                      if (drag != m_drag.get())
                           return;
                       const bool isKnown = !bytes.isEmpty();
                       if (isKnown || outcome == IncomingDrag::Outcome::Lost)
                           decide();
                       else
                           fetchAddresses(types);
-                  });
+                  }));
 }
 
 /// Whatever is known by now decides.

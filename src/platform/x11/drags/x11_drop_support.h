@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/base/changing_list.h"
+#include "platform/base/lifetime.h"
 #include "platform/desktop/drop_support.h"
 #include "platform/x11/drags/selection_reader.h"
 #include "platform/x11/drags/x11_incoming_drag.h"
@@ -39,8 +41,7 @@ public:
     X11DropSupport(const X11DropSupport &) = delete;
     X11DropSupport &operator=(const X11DropSupport &) = delete;
 
-    void addReceiver(QWindow &window, DropReceiver &receiver) override;
-    void removeReceiver(DropReceiver &receiver) override;
+    Subscription addReceiver(QWindow &window, DropReceiver &receiver) override;
     std::shared_ptr<IncomingDrag> incomingDrag() override { return m_drag; }
 
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
@@ -65,7 +66,7 @@ private:
     X11Connection &m_connection;
     MainQueue &m_queue;
     SelectionReader m_reader;
-    std::vector<Place> m_places;
+    ChangingList<Place> m_places;
     std::shared_ptr<X11IncomingDrag> m_drag;
     enum class Addresses {
         NotNeeded,
@@ -77,7 +78,7 @@ private:
     std::optional<xcb_client_message_event_t> m_held;
     std::vector<std::weak_ptr<X11IncomingDrag>> m_drops;
     QMetaObject::Connection m_programEnds;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace corvane {
 
@@ -37,15 +38,13 @@ X11HotKeys::X11HotKeys(X11Connection &connection, MainQueue &queue)
 X11HotKeys::~X11HotKeys()
 {
     ungrabAll();
-    m_connection.removeListener(m_listener);
 }
 
 std::optional<HotKeyService::HandlerRef> X11HotKeys::installHandler(Handler onPressed)
 {
     if (!m_connection.isConnected())
         return std::nullopt;
-    m_handlers.push_back(std::move(onPressed));
-    return static_cast<HandlerRef>(m_handlers.size());
+    return m_handlers.add(std::move(onPressed));
 }
 
 std::optional<HotKeyService::Handle> X11HotKeys::registerHotKey(std::uint32_t keyCode,
@@ -180,10 +179,7 @@ void X11HotKeys::handle(const xcb_generic_event_t &event)
                    != XCB_MAPPING_POINTER) {
         // One change of the layout is told in many events.
         m_willReread = true;
-        m_queue.async([weak = std::weak_ptr(m_self)] {
-            if (const auto self = weak.lock())
-                (*self)->rereadMapping();
-        });
+        m_queue.async(m_lifetime.guard([this] { rereadMapping(); }));
     }
 }
 
@@ -198,9 +194,7 @@ void X11HotKeys::handlePress(const xcb_key_press_event_t &press)
     if (found == m_hotKeys.end())
         return;
     const HotKeyIdentifier identifier = found->second.identifier;
-    // A copy: a handler may install another.
-    for (const Handler &handler : std::vector(m_handlers))
-        handler(identifier);
+    m_handlers.forEach([&](const Handler &handler) { handler(identifier); });
 }
 
 void X11HotKeys::rereadMapping()

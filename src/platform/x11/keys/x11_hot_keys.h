@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/base/changing_list.h"
+#include "platform/base/lifetime.h"
 #include "platform/desktop/hot_key_service.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/keys/x11_modifiers.h"
@@ -7,7 +9,6 @@
 #include <map>
 #include <memory>
 #include <utility>
-#include <vector>
 
 namespace corvane {
 
@@ -66,16 +67,16 @@ private:
 
     X11Connection &m_connection;
     MainQueue &m_queue;
-    X11Connection::ListenerId m_listener;
+    Subscription m_listener;
     X11Modifiers m_mapping;
     std::map<Handle, HotKey> m_hotKeys;
     Handle m_nextHandle = 1;
-    std::vector<Handler> m_handlers;
+    ChangingList<Handler> m_handlers;
     int m_suspensions = 0;
     bool m_willReread = false;
     /// Of the latest release; a repeated press carries the time of a release that nobody made.
     std::pair<xcb_keycode_t, xcb_timestamp_t> m_released{0, 0};
-    std::shared_ptr<X11HotKeys *> m_self = std::make_shared<X11HotKeys *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

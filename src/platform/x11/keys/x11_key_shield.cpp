@@ -25,7 +25,6 @@ X11KeyShield::X11KeyShield(X11Connection &connection)
 X11KeyShield::~X11KeyShield()
 {
     letGo();
-    m_connection.removeListener(m_listener);
 }
 
 void X11KeyShield::hold(xcb_keycode_t key, std::uint16_t modifiers)

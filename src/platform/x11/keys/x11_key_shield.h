@@ -33,7 +33,7 @@ private:
     void listen(bool wanted);
 
     X11Connection &m_connection;
-    X11Connection::ListenerId m_listener;
+    Subscription m_listener;
     /// 0 while there is none.
     xcb_keycode_t m_key = 0;
     std::uint16_t m_modifiers = 0;

@@ -52,7 +52,6 @@ X11PointerBarriers::X11PointerBarriers(X11Connection &connection, const Screens 
 X11PointerBarriers::~X11PointerBarriers()
 {
     X11PointerBarriers::watch({});
-    m_connection.removeListener(m_listener);
     if (m_ear != XCB_NONE)
         xcb_destroy_window(m_connection.get(), m_ear);
     m_connection.flush();

@@ -44,7 +44,7 @@ private:
 
     X11Connection &m_connection;
     const Screens &m_screens;
-    X11Connection::ListenerId m_listener;
+    Subscription m_listener;
     /// Never shown: hits are told to it, so that nothing has to be heard on the root window. Made
     /// when it is first needed.
     xcb_window_t m_ear = XCB_NONE;

@@ -81,10 +81,7 @@ X11PanelSurface::X11PanelSurface(X11Connection &connection)
     m_isComposited = owner && owner->owner != XCB_NONE;
 }
 
-X11PanelSurface::~X11PanelSurface()
-{
-    m_connection.removeListener(m_listener);
-}
+X11PanelSurface::~X11PanelSurface() = default;
 
 void X11PanelSurface::adopt(QWindow &window)
 {

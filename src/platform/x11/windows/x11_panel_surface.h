@@ -59,7 +59,7 @@ private:
     X11WindowManager m_windowManager;
     X11PointingDevices m_pointingDevices;
     X11KeyShield m_keyShield;
-    X11Connection::ListenerId m_listener;
+    Subscription m_listener;
     xcb_atom_t m_compositorSelection;
     bool m_isComposited = false;
     CallbackList<> m_observers;

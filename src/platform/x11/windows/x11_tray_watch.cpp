@@ -17,7 +17,6 @@ X11TrayWatch::X11TrayWatch(X11Connection &connection)
 
 X11TrayWatch::~X11TrayWatch()
 {
-    m_connection.removeListener(m_listener);
     X11TrayWatch::stop();
 }
 

@@ -22,7 +22,7 @@ private:
     void select(std::uint32_t mask);
 
     X11Connection &m_connection;
-    X11Connection::ListenerId m_listener;
+    Subscription m_listener;
     xcb_atom_t m_selection = XCB_NONE;
     std::function<void()> m_onTray;
 };

@@ -25,7 +25,7 @@ protected:
         xcb_create_window(connection.get(), XCB_COPY_FROM_PARENT, window, connection.root(), 0, 0,
                           1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,
                           XCB_CW_EVENT_MASK, &events);
-        connection.addListener([this](const xcb_generic_event_t &event) {
+        listener = connection.addListener([this](const xcb_generic_event_t &event) {
             const auto &news = reinterpret_cast<const xcb_property_notify_event_t &>(event);
             if ((event.response_type & 0x7f) == XCB_PROPERTY_NOTIFY && news.window == window)
                 heard.push_back(news.atom);
@@ -40,6 +40,7 @@ protected:
     X11Connection connection;
     xcb_window_t window;
     std::vector<xcb_atom_t> heard;
+    Subscription listener;
 };
 
 } // namespace
@@ -92,7 +93,8 @@ TEST_F(X11ConnectionTest, eventsThatComeWhileTheTimeIsAskedForAreHandledAfterwar
 
 TEST_F(X11ConnectionTest, aListenerMayAskForTheTime)
 {
-    connection.addListener([this](const xcb_generic_event_t &) { connection.serverTime(); });
+    const Subscription asking
+        = connection.addListener([this](const xcb_generic_event_t &) { connection.serverTime(); });
     touch(XCB_ATOM_WM_NAME);
     touch(XCB_ATOM_WM_CLASS);
     touch(XCB_ATOM_WM_HINTS);
