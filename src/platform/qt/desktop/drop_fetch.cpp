@@ -41,17 +41,14 @@ void DropFetch::fetchPromisedFile()
         fetchPicture();
         return;
     }
-    m_drag->receivePromisedFile(
-        *place, [this, place, alive = std::weak_ptr<bool>(m_alive)](bool hasArrived) {
-            if (alive.expired())
-                return;
-            if (!hasArrived) {
-                fetchPicture();
-                return;
-            }
-            m_pasteboard.setPromisedFile(*place);
-            finish();
-        });
+    m_drag->receivePromisedFile(*place, m_lifetime.guard([this, place](bool hasArrived) {
+        if (!hasArrived) {
+            fetchPicture();
+            return;
+        }
+        m_pasteboard.setPromisedFile(*place);
+        finish();
+    }));
 }
 
 void DropFetch::fetchPicture()
@@ -94,17 +91,15 @@ void DropFetch::fetchUntil(Wish wish)
     const QString type = wish.types.takeFirst();
     const qsizetype limit = wish.limit;
     m_drag->fetch(type, limit,
-                  [this, type, wish = std::move(wish), alive = std::weak_ptr<bool>(m_alive)](
-                      IncomingDrag::Outcome outcome, const QByteArray &bytes) {
-                      if (alive.expired())
-                          return;
+                  m_lifetime.guard([this, type, wish = std::move(wish)](
+                                       IncomingDrag::Outcome outcome, const QByteArray &bytes) {
                       if (outcome == IncomingDrag::Outcome::Lost)
                           finish();
                       else if (outcome == IncomingDrag::Outcome::Arrived)
                           keep(type, bytes, wish);
                       else
                           fetchUntil(wish);
-                  });
+                  }));
 }
 
 void DropFetch::keep(const QString &type, const QByteArray &bytes, const Wish &wish)
@@ -120,19 +115,17 @@ void DropFetch::keep(const QString &type, const QByteArray &bytes, const Wish &w
 
 void DropFetch::keepLargeText(const QString &type, const QByteArray &bytes, const Wish &wish)
 {
-    m_threads.workQueue->run([this, type, bytes, wish, mainQueue = m_threads.mainQueue,
-                              alive = std::weak_ptr<bool>(m_alive)] {
+    const auto keepText = m_lifetime.guard([this, wish](const QString &text) {
+        if (!text.isEmpty())
+            m_pasteboard.setText(text);
+        goOn(wish);
+    });
+    m_threads.workQueue->run([type, bytes, keepText, mainQueue = m_threads.mainQueue] {
         QString text = pasteboard_text::decoded(bytes, type);
         // As good as none: nobody makes anything of it.
         if (QStringView(text).trimmed().isEmpty())
             text.clear();
-        mainQueue->async([this, text, wish, alive] {
-            if (alive.expired())
-                return;
-            if (!text.isEmpty())
-                m_pasteboard.setText(text);
-            goOn(wish);
-        });
+        mainQueue->async([keepText, text] { keepText(text); });
     });
 }
 

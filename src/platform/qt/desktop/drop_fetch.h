@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/desktop/incoming_drag.h"
 #include "platform/qt/pasteboard/fetched_pasteboard.h"
 
@@ -72,7 +73,7 @@ private:
     Threads m_threads;
     Done m_done;
     FetchedPasteboard m_pasteboard;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

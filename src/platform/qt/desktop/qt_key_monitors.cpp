@@ -7,7 +7,6 @@
 #include <QKeyEvent>
 
 #include <utility>
-#include <vector>
 
 namespace corvane {
 
@@ -44,16 +43,15 @@ QtKeyMonitors::~QtKeyMonitors() = default;
 
 KeyMonitors::Handle QtKeyMonitors::addLocalMonitor(Handler handler)
 {
-    if (m_monitors.empty())
+    if (m_monitors.isEmpty())
         QCoreApplication::instance()->installEventFilter(this);
-    m_monitors.emplace(m_nextHandle, std::move(handler));
-    return m_nextHandle++;
+    return m_monitors.add(std::move(handler));
 }
 
 void QtKeyMonitors::removeMonitor(Handle handle)
 {
-    m_monitors.erase(handle);
-    if (m_monitors.empty())
+    m_monitors.remove(handle);
+    if (m_monitors.isEmpty())
         QCoreApplication::instance()->removeEventFilter(this);
 }
 
@@ -85,19 +83,9 @@ KeyMonitors::Disposition QtKeyMonitors::notify(const QKeyEvent &key)
     } else {
         return Disposition::Pass;
     }
-    // By handle, and through a copy: a handler may remove any monitor, itself too.
-    std::vector<Handle> handles;
-    for (const auto &[handle, handler] : m_monitors)
-        handles.push_back(handle);
-    for (const Handle handle : handles) {
-        const auto found = m_monitors.find(handle);
-        if (found == m_monitors.end())
-            continue;
-        const Handler handler = found->second;
-        if (handler(event) == Disposition::Swallow)
-            return Disposition::Swallow;
-    }
-    return Disposition::Pass;
+    const bool isSwallowed = m_monitors.anyOf(
+        [&](const Handler &handler) { return handler(event) == Disposition::Swallow; });
+    return isSwallowed ? Disposition::Swallow : Disposition::Pass;
 }
 
 } // namespace corvane

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "platform/base/changing_list.h"
 #include "platform/desktop/key_monitors.h"
 
 #include <QObject>
-
-#include <map>
 
 class QKeyEvent;
 
@@ -32,8 +31,7 @@ private:
     Disposition notify(const QKeyEvent &key);
 
     const KeyboardLayout &m_layout;
-    std::map<Handle, Handler> m_monitors;
-    Handle m_nextHandle = 1;
+    ChangingList<Handler> m_monitors;
 };
 
 } // namespace corvane

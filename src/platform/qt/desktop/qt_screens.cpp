@@ -39,10 +39,7 @@ QtScreens::QtScreens(MainQueue &queue)
     connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &QtScreens::changed);
 }
 
-QtScreens::~QtScreens()
-{
-    *m_alive = false;
-}
+QtScreens::~QtScreens() = default;
 
 void QtScreens::attach(QScreen *screen)
 {
@@ -70,12 +67,10 @@ void QtScreens::changed()
         refresh(*screen, *source);
     if (std::exchange(m_isNotificationDue, true))
         return;
-    m_queue.async([this, alive = m_alive] {
-        if (!*alive)
-            return;
+    m_queue.async(m_lifetime.guard([this] {
         m_isNotificationDue = false;
         m_observers.notify();
-    });
+    }));
 }
 
 std::vector<ScreenPointer> QtScreens::screens() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/base/callback_list.h"
+#include "platform/base/lifetime.h"
 #include "platform/desktop/screens.h"
 
 #include <QObject>
@@ -32,7 +33,7 @@ private:
     std::unordered_map<const QScreen *, std::shared_ptr<Screen>> m_known;
     CallbackList<> m_observers;
     bool m_isNotificationDue = false;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
