@@ -29,14 +29,13 @@ ItemPreparation::~ItemPreparation()
 DropItem ItemPreparation::begin(Job job)
 {
     const QUuid id = job.item.id();
-    m_workQueue.run([&mainQueue = m_mainQueue, weak = std::weak_ptr(m_self), id,
-                     place = job.places.front(), make = std::move(job.make)] {
-        auto made = place->isWanted() ? std::optional(make()) : std::nullopt;
-        mainQueue.async([weak, id, made = std::move(made)] {
-            if (const auto self = weak.lock())
-                (*self)->ended(id, made);
+    const auto end
+        = m_lifetime.guard([this, id](const std::optional<DropItem> &made) { ended(id, made); });
+    m_workQueue.run(
+        [&mainQueue = m_mainQueue, end, place = job.places.front(), make = std::move(job.make)] {
+            auto made = place->isWanted() ? std::optional(make()) : std::nullopt;
+            mainQueue.async([end, made = std::move(made)] { end(made); });
         });
-    });
     DropItem item = job.item;
     m_running.insert_or_assign(
         id, Running{std::move(job.item), std::move(job.places), std::move(job.onEnd), {}});
@@ -55,13 +54,13 @@ void ItemPreparation::ended(const QUuid &id, const std::optional<DropItem> &made
         for (const auto &place : running.places)
             m_spool.discard(place->url());
     }
+    const Lifetime::Token life = m_lifetime.token();
     if (running.onEnd)
         running.onEnd(ready);
-    const std::weak_ptr<ItemPreparation *> alive = m_self;
-    if (ready && onReady)
+    if (ready && !life.isOver() && onReady)
         onReady(*ready);
     for (const WhenReady &callback : running.waiting) {
-        if (!alive.expired())
+        if (!life.isOver())
             callback(ready);
     }
 }

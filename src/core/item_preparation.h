@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "platform/base/lifetime.h"
 
 #include <QList>
 #include <QUuid>
@@ -74,7 +75,7 @@ private:
     MainQueue &m_mainQueue;
     WorkQueue &m_workQueue;
     std::map<QUuid, Running> m_running;
-    std::shared_ptr<ItemPreparation *> m_self = std::make_shared<ItemPreparation *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

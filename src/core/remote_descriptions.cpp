@@ -15,15 +15,13 @@ RemoteDescriptions::~RemoteDescriptions() = default;
 
 void RemoteDescriptions::find(const QUuid &item, const QByteArray &path)
 {
-    m_files.inspect(
-        path,
-        [weak = std::weak_ptr(m_self), item, path](const std::optional<FileVersion> &version) {
-            const auto self = weak.lock();
-            if (!self || !version || !(*self)->onFound)
-                return;
-            const item_description::FileName name(file_url::fromNativePath(path));
-            (*self)->onFound(item, item_description::ofFile(name, version));
-        });
+    m_files.inspect(path,
+                    m_lifetime.guard([this, item, path](const std::optional<FileVersion> &version) {
+                        if (!version || !onFound)
+                            return;
+                        const item_description::FileName name(file_url::fromNativePath(path));
+                        onFound(item, item_description::ofFile(name, version));
+                    }));
 }
 
 } // namespace corvane

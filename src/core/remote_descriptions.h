@@ -1,11 +1,12 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QUuid>
 
 #include <functional>
-#include <memory>
 
 namespace corvane {
 
@@ -28,7 +29,7 @@ public:
 
 private:
     RemoteFiles &m_files;
-    std::shared_ptr<RemoteDescriptions *> m_self = std::make_shared<RemoteDescriptions *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -32,30 +32,24 @@ void RemotePictures::fetchNext()
         return;
     const DropItem item = m_waiting.front();
     m_waiting.pop_front();
-    const auto goOn = [weak = std::weak_ptr(m_self)] {
-        const auto self = weak.lock();
-        if (!self)
-            return;
-        std::erase_if((*self)->m_waiting,
-                      [&](const DropItem &waiting) { return !(*self)->wants(waiting.id()); });
-        (*self)->fetchNext();
-    };
     m_files.read(file_url::nativePath(std::get<DropItem::File>(item.payload()).url), maximumBytes,
-                 [weak = std::weak_ptr(m_self), item, goOn](const std::optional<QByteArray> &data) {
-                     const auto self = weak.lock();
-                     if (!self)
-                         return;
-                     const auto isStillWanted = [weak, id = item.id()] {
-                         const auto owner = weak.lock();
-                         return owner && (*owner)->wants(id);
-                     };
-                     const auto place = data && isStillWanted()
-                         ? (*self)->m_pictures.convertFetched(item, *data, isStillWanted, goOn)
-                         : nullptr;
-                     (*self)->m_current = {item.id(), place};
-                     if (!place)
-                         goOn();
-                 });
+                 m_lifetime.guard(
+                     [this, item](const std::optional<QByteArray> &data) { fetched(item, data); }));
+}
+
+void RemotePictures::fetched(const DropItem &item, const std::optional<QByteArray> &data)
+{
+    const auto goOn = m_lifetime.guard([this] {
+        std::erase_if(m_waiting, [this](const DropItem &waiting) { return !wants(waiting.id()); });
+        fetchNext();
+    });
+    const auto isStillWanted = m_lifetime.guard([this, id = item.id()] { return wants(id); });
+    const auto place = data && isStillWanted()
+        ? m_pictures.convertFetched(item, *data, isStillWanted, goOn)
+        : nullptr;
+    m_current = {item.id(), place};
+    if (!place)
+        goOn();
 }
 
 void RemotePictures::itemLeft(const QUuid &id) const

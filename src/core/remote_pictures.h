@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "platform/base/lifetime.h"
 
 #include <QUuid>
 
@@ -39,6 +40,7 @@ public:
 private:
     bool wants(const QUuid &item) const { return !isWanted || isWanted(item); }
     void fetchNext();
+    void fetched(const DropItem &item, const std::optional<QByteArray> &data);
 
     RemoteFiles &m_files;
     const PictureItems &m_pictures;
@@ -50,7 +52,7 @@ private:
         std::weak_ptr<SpoolPlace> place;
     };
     Current m_current;
-    std::shared_ptr<RemotePictures *> m_self = std::make_shared<RemotePictures *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

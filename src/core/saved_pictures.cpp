@@ -68,11 +68,10 @@ DropItem SavedPictures::asFile(const DropItem &item)
         return DropItem(DropItem::File{place->url()}, file_url::lastPathComponent(place->url()),
                         item.subtitle(), true);
     };
-    const auto end = [weak = std::weak_ptr(m_self), id,
-                      fileId = file.id()](const std::optional<DropItem> &made) {
-        if (const auto self = weak.lock())
-            (*self)->ended(id, fileId, made);
-    };
+    const auto end
+        = m_lifetime.guard([this, id, fileId = file.id()](const std::optional<DropItem> &made) {
+              ended(id, fileId, made);
+          });
     m_saved.insert_or_assign(id, Saved{image->data, file});
     return m_preparation.begin({file, {place}, make, end});
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "platform/base/lifetime.h"
 
 #include <QByteArray>
 #include <QList>
@@ -8,7 +9,6 @@
 
 #include <functional>
 #include <map>
-#include <memory>
 
 namespace corvane {
 
@@ -54,7 +54,7 @@ private:
     ItemPreparation &m_preparation;
     /// By the ids of the items on the shelf.
     std::map<QUuid, Saved> m_saved;
-    std::shared_ptr<SavedPictures *> m_self = std::make_shared<SavedPictures *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

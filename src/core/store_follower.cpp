@@ -12,19 +12,9 @@ StoreFollower::StoreFollower(ShelfStore &store, MainQueue &queue, std::function<
     , m_queue(queue)
     , m_follow(std::move(follow))
 {
-    const std::weak_ptr<StoreFollower *> weak = m_self;
-    store.observeState([weak](ShelfState, ShelfState) {
-        if (const auto self = weak.lock())
-            (*self)->published();
-    });
-    store.observeItems([weak](const QList<DropItem> &) {
-        if (const auto self = weak.lock())
-            (*self)->published();
-    });
-    store.observeEndOfOperation([weak] {
-        if (const auto self = weak.lock())
-            (*self)->operationEnded();
-    });
+    store.observeState(m_lifetime.guard([this](ShelfState, ShelfState) { published(); }));
+    store.observeItems(m_lifetime.guard([this](const QList<DropItem> &) { published(); }));
+    store.observeEndOfOperation(m_lifetime.guard([this] { operationEnded(); }));
 }
 
 StoreFollower::~StoreFollower() = default;
@@ -53,10 +43,7 @@ void StoreFollower::followLater()
     m_isBehind = true;
     if (std::exchange(m_isScheduled, true))
         return;
-    m_queue.asyncAfter(detailDelay, [weak = std::weak_ptr(m_self)] {
-        if (const auto self = weak.lock())
-            (*self)->detailsAreDue();
-    });
+    m_queue.asyncAfter(detailDelay, m_lifetime.guard([this] { detailsAreDue(); }));
 }
 
 void StoreFollower::detailsAreDue()

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
+
 #include <functional>
-#include <memory>
 
 namespace corvane {
 
@@ -36,8 +37,7 @@ private:
     std::function<void()> m_follow;
     bool m_isBehind = false;
     bool m_isScheduled = false;
-    // What the store and the queue still hold of one that is gone does nothing.
-    std::shared_ptr<StoreFollower *> m_self = std::make_shared<StoreFollower *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

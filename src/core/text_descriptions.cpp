@@ -39,12 +39,12 @@ void TextDescriptions::find(const QUuid &item, const QString &text)
 {
     if (!isLarge(text))
         return;
-    m_workQueue.run([&mainQueue = m_mainQueue, weak = std::weak_ptr(m_self), item, text] {
-        mainQueue.async([weak, item, description = counted(text)] {
-            const auto self = weak.lock();
-            if (self && (*self)->onFound)
-                (*self)->onFound(item, description);
-        });
+    const auto found = m_lifetime.guard([this, item](const QString &description) {
+        if (onFound)
+            onFound(item, description);
+    });
+    m_workQueue.run([&mainQueue = m_mainQueue, found, text] {
+        mainQueue.async([found, description = counted(text)] { found(description); });
     });
 }
 

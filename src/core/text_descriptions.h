@@ -1,10 +1,11 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
+
 #include <QString>
 #include <QUuid>
 
 #include <functional>
-#include <memory>
 
 namespace corvane {
 
@@ -35,7 +36,7 @@ public:
 private:
     WorkQueue &m_workQueue;
     MainQueue &m_mainQueue;
-    std::shared_ptr<TextDescriptions *> m_self = std::make_shared<TextDescriptions *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -150,6 +150,18 @@ TEST_F(ItemPreparationTest, GivesEverythingUpAtItsEnd)
     EXPECT_TRUE(log.isEmpty());
 }
 
+TEST_F(ItemPreparationTest, TellsNobodyElseOnceOneWhoWasToldHasEndedIt)
+{
+    const DropItem item = begin("a");
+    preparation->whenReady(item, [this](const std::optional<DropItem> &) {
+        log << QStringLiteral("ended");
+        preparation.reset();
+    });
+    expect(item);
+    finishWork();
+    EXPECT_EQ(log, QStringList({QStringLiteral("ready a"), QStringLiteral("ended")}));
+}
+
 TEST_F(ItemPreparationTest, WritesNothingIntoASpoolThatIsGone)
 {
     const DropItem item = begin("a");
