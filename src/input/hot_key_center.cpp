@@ -52,15 +52,11 @@ void HotKeyCenter::unregisterAll()
 
 void HotKeyCenter::installEventHandler()
 {
-    m_eventHandler = m_service.installHandler([weak = std::weak_ptr(m_self), &queue = m_queue](
-                                                  const std::optional<HotKeyIdentifier> &pressed) {
-        if (!pressed)
-            return;
-        queue.async([weak, id = pressed->id] {
-            if (const auto self = weak.lock())
-                (*self)->run(id);
-        });
-    });
+    m_eventHandler = m_service.installHandler(
+        m_lifetime.guard([this](const std::optional<HotKeyIdentifier> &pressed) {
+            if (pressed)
+                m_queue.async(m_lifetime.guard([this, id = pressed->id] { run(id); }));
+        }));
 }
 
 void HotKeyCenter::run(std::uint32_t id) const

@@ -1,12 +1,12 @@
 #pragma once
 
 #include "input/shortcut.h"
+#include "platform/base/lifetime.h"
 #include "platform/desktop/hot_key_service.h"
 
 #include <cstdint>
 #include <functional>
 #include <map>
-#include <memory>
 #include <optional>
 
 namespace corvane {
@@ -58,7 +58,7 @@ private:
     std::map<std::uint32_t, Handler> m_handlers;
     /// Installed with the first shortcut, and for good.
     std::optional<HotKeyService::HandlerRef> m_eventHandler;
-    std::shared_ptr<HotKeyCenter *> m_self = std::make_shared<HotKeyCenter *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
