@@ -46,10 +46,10 @@ ShelfStore::~ShelfStore() = default;
 template<typename Notify>
 void ShelfStore::publish(PublicationPace pace, Notify notify)
 {
-    const std::weak_ptr<ShelfStore *> alive = m_self;
+    const Lifetime::Token life = m_lifetime.token();
     const PublicationPace outer = std::exchange(m_pace, pace);
     notify();
-    if (!alive.expired())
+    if (!life.isOver())
         m_pace = outer;
 }
 

@@ -5,13 +5,13 @@
 #include "core/publication_pace.h"
 #include "core/shelf_state.h"
 #include "platform/base/callback_list.h"
+#include "platform/base/lifetime.h"
 
 #include <QList>
 #include <QSet>
 #include <QUuid>
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -168,8 +168,7 @@ private:
     bool m_isOwnDrag = false;
 
     mutable ItemIndex m_index;
-    /// What loading holds of the store, weakly.
-    std::shared_ptr<ShelfStore *> m_self = std::make_shared<ShelfStore *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

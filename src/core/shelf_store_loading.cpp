@@ -23,11 +23,8 @@ void ShelfStore::change(const QUuid &id, PublicationPace pace, Change apply)
 
 void ShelfStore::startLoading(const QList<DropItem> &items)
 {
-    const auto merge
-        = [weak = std::weak_ptr(m_self)](const QUuid &id, const std::optional<Image> &image) {
-              if (const auto self = weak.lock())
-                  (*self)->mergeThumbnail(id, image);
-          };
+    const auto merge = m_lifetime.guard(
+        [this](const QUuid &id, const std::optional<Image> &image) { mergeThumbnail(id, image); });
     std::vector<ThumbnailSource::File> files;
     const auto startFiles = [&] {
         if (!files.empty())
@@ -60,16 +57,13 @@ void ShelfStore::startLink(const DropItem &item, const QUrl &url)
         return;
     const QUuid id = item.id();
     m_linkPreviews.load(
-        url,
-        [weak = std::weak_ptr(m_self), id] {
-            const auto self = weak.lock();
-            return self && (*self)->m_settings.linkPreviews() && (*self)->indexOf(id).has_value();
-        },
-        [weak = std::weak_ptr(m_self), id, url](const std::optional<LinkPreview> &preview) {
-            const auto self = weak.lock();
-            if (self && preview)
-                (*self)->mergeLinkPreview(id, url, *preview);
-        });
+        url, m_lifetime.guard([this, id] {
+            return m_settings.linkPreviews() && indexOf(id).has_value();
+        }),
+        m_lifetime.guard([this, id, url](const std::optional<LinkPreview> &preview) {
+            if (preview)
+                mergeLinkPreview(id, url, *preview);
+        }));
 }
 
 void ShelfStore::describe(const QUuid &id, const QString &subtitle)
@@ -80,10 +74,10 @@ void ShelfStore::describe(const QUuid &id, const QString &subtitle)
 void ShelfStore::becomeReady(const DropItem &made)
 {
     const QUuid id = made.id();
-    const std::weak_ptr<ShelfStore *> alive = m_self;
+    const Lifetime::Token life = m_lifetime.token();
     // Followed at once: what is dragged or opened next has to be what is there now.
     change(id, PublicationPace::AtOnce, [&](DropItem &item) { item.become(made); });
-    if (!alive.expired() && indexOf(id))
+    if (!life.isOver() && indexOf(id))
         startLoading({made});
 }
 
@@ -95,17 +89,17 @@ void ShelfStore::mergeThumbnail(const QUuid &id, const std::optional<Image> &thu
 
 void ShelfStore::mergeLinkPreview(const QUuid &id, const QUrl &url, const LinkPreview &preview)
 {
-    const std::weak_ptr<ShelfStore *> alive = m_self;
+    const Lifetime::Token life = m_lifetime.token();
     if (!preview.title.isEmpty()) {
         change(id, PublicationPace::Detail, [&](DropItem &item) { item.setTitle(preview.title); });
-        if (alive.expired())
+        if (life.isOver())
             return;
         const QString host = shownHost(url);
         const QString address = host.isEmpty() ? shownAddress(url) : host;
         const QString subtitle = preview.siteName.value_or(address);
         change(id, PublicationPace::Detail, [&](DropItem &item) { item.setSubtitle(subtitle); });
     }
-    if (preview.image && !alive.expired())
+    if (preview.image && !life.isOver())
         change(id, PublicationPace::Detail,
                [&](DropItem &item) { item.setThumbnail(*preview.image); });
 }
