@@ -41,11 +41,8 @@ HUDController::HUDController(const Context &context)
     m_panel.setFrame(initialFrame);
     m_panel.setContent(&m_shelf);
     m_panel.setIgnoresMouseEvents(true);
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.feedback.handler = [this, alive](const QString &message) {
-        if (!alive.expired())
-            m_shelf.flash(message);
-    };
+    m_context.feedback.handler
+        = m_lifetime.guard([this](const QString &message) { m_shelf.flash(message); });
     wireShelf();
     wireSettings();
     wireScreenChanges();
@@ -112,37 +109,28 @@ void HUDController::preview(const DropItem &item)
         return;
     }
     m_awaitedPreview = item.id();
-    m_context.view.preparation.whenReady(item,
-                                         [this, alive = std::weak_ptr(m_alive),
-                                          id = item.id()](const std::optional<DropItem> &ready) {
-                                             if (alive.expired() || m_awaitedPreview != id)
-                                                 return;
-                                             m_awaitedPreview.reset();
-                                             const auto focused = m_store.focusedItem();
-                                             if (ready && focused && focused->id() == id
-                                                 && m_store.state() != ShelfState::Idle)
-                                                 m_context.presenter->present(*ready);
-                                         });
+    m_context.view.preparation.whenReady(
+        item, m_lifetime.guard([this, id = item.id()](const std::optional<DropItem> &ready) {
+            if (m_awaitedPreview != id)
+                return;
+            m_awaitedPreview.reset();
+            const auto focused = m_store.focusedItem();
+            if (ready && focused && focused->id() == id && m_store.state() != ShelfState::Idle)
+                m_context.presenter->present(*ready);
+        }));
 }
 
 void HUDController::wireSettings()
 {
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.settings.observeLayout([this, alive] {
-        if (alive.expired())
-            return;
+    m_context.settings.observeLayout(m_lifetime.guard([this] {
         m_store.inViewCountChanged();
         render();
-    });
+    }));
 }
 
 void HUDController::wireScreenChanges()
 {
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.screens.observeChanges([this, alive] {
-        if (!alive.expired())
-            render();
-    });
+    m_context.screens.observeChanges(m_lifetime.guard([this] { render(); }));
 }
 
 ShelfSnapshot HUDController::makeSnapshot(const ScreenPointer &screen) const
@@ -179,7 +167,7 @@ void HUDController::render()
     const QSizeF size = m_shelf.preferredSize(snapshot);
     QRectF frame;
     if (snapshot.state != ShelfState::Idle && screen) {
-        m_hideGeneration = checkedAdd<std::int64_t>(m_hideGeneration, 1);
+        m_pendingHide.restart();
         frame = {midX(screen->frame) - 0.5 * size.width(), maxY(screen->frame) - size.height(),
                  size.width(), size.height()};
         m_shelf.setRefreshRate(screen->refreshRate);
@@ -200,7 +188,7 @@ void HUDController::render()
 
 void HUDController::resizeWindow(const QRectF &target, const ScreenPointer &active)
 {
-    m_shrinkGeneration = checkedAdd<std::int64_t>(m_shrinkGeneration, 1);
+    m_pendingShrink.restart();
     const bool isSameScreen = m_lastScreen.lock() == active;
     m_lastScreen = active;
     const QSizeF before = std::exchange(m_target, target.size());
@@ -214,15 +202,14 @@ void HUDController::resizeWindow(const QRectF &target, const ScreenPointer &acti
     m_panel.setFrame(room);
     if (room == target)
         return;
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.view.queue.asyncAfter(
-        Theme::Motion::settlingDuration(), [this, alive, target, g = m_shrinkGeneration] {
-            if (alive.expired() || g != m_shrinkGeneration || m_store.state() == ShelfState::Idle)
-                return;
-            m_overshoot = {};
-            m_panel.setFrame(target);
-            m_shelf.panelWasResized();
-        });
+    m_context.view.queue.asyncAfter(Theme::Motion::settlingDuration(),
+                                    m_pendingShrink.guard([this, target] {
+                                        if (m_store.state() == ShelfState::Idle)
+                                            return;
+                                        m_overshoot = {};
+                                        m_panel.setFrame(target);
+                                        m_shelf.panelWasResized();
+                                    }));
 }
 
 /// Springs add up, so what several ways that are under way go beyond their ends does, too.
@@ -241,17 +228,15 @@ QRectF HUDController::withOvershoot(const QRectF &target, QSizeF before)
 
 void HUDController::scheduleHide()
 {
-    m_hideGeneration = checkedAdd<std::int64_t>(m_hideGeneration, 1);
+    m_pendingHide.restart();
     m_panel.setIgnoresMouseEvents(true);
     m_letsClicksThrough = false;
     // Now, not when it has slid away: what is typed from here on is for the program behind.
     m_panel.resignKey();
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.view.queue.asyncAfter(hideDelay, [this, alive, g = m_hideGeneration] {
-        if (alive.expired() || g != m_hideGeneration || m_store.state() != ShelfState::Idle)
-            return;
-        m_panel.orderOut();
-    });
+    m_context.view.queue.asyncAfter(hideDelay, m_pendingHide.guard([this] {
+        if (m_store.state() == ShelfState::Idle)
+            m_panel.orderOut();
+    }));
 }
 
 void HUDController::toggleByHand()
@@ -263,13 +248,9 @@ void HUDController::toggleByHand()
 
 void HUDController::letClicksThrough(double seconds)
 {
-    m_clicksGeneration = checkedAdd<std::int64_t>(m_clicksGeneration, 1);
+    m_pendingClicks.restart();
     m_letsClicksThrough = true;
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.view.queue.asyncAfter(seconds, [this, alive, g = m_clicksGeneration] {
-        if (!alive.expired() && g == m_clicksGeneration)
-            takeClicks();
-    });
+    m_context.view.queue.asyncAfter(seconds, m_pendingClicks.guard([this] { takeClicks(); }));
 }
 
 void HUDController::takeClicks()

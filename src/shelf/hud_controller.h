@@ -1,13 +1,13 @@
 #pragma once
 
 #include "core/store_follower.h"
+#include "platform/base/lifetime.h"
 #include "platform/desktop/screens.h"
 #include "shelf/shelf_view.h"
 
 #include <QRectF>
 #include <QUuid>
 
-#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -30,7 +30,8 @@ struct Feedback;
 ///     shown --render(idle)--> hiding: takes no clicks, slides away
 ///     hiding --0.37 s--> hidden: ordered out      hiding --render--> shown
 ///
-/// Delayed work is never cancelled: it finds a newer generation and does nothing. Main thread only.
+/// Delayed work is never cancelled: what makes it out of date restarts its lifetime. Main thread
+/// only.
 /// Everything that it is given must outlive it.
 class HUDController {
 public:
@@ -88,9 +89,9 @@ private:
     PanelWindow &m_panel;
     ShelfView m_shelf;
     ShelfStore &m_store;
-    std::int64_t m_hideGeneration = 0;
-    std::int64_t m_shrinkGeneration = 0;
-    std::int64_t m_clicksGeneration = 0;
+    Lifetime m_pendingHide;
+    Lifetime m_pendingShrink;
+    Lifetime m_pendingClicks;
     bool m_letsClicksThrough = false;
     /// Where the last resize went, and how far the springs that are under way go beyond.
     QSizeF m_target;
@@ -99,8 +100,7 @@ private:
     /// The item that is to be previewed once its file is there.
     std::optional<QUuid> m_awaitedPreview;
     StoreFollower m_follower;
-    // Whatever was handed out does nothing once the controller is gone.
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -1,7 +1,6 @@
 #include "shelf/shelf_view.h"
 
 #include "core/pasteboard_ingest.h"
-#include "platform/base/checked_math.h"
 #include "platform/base/geometry.h"
 #include "platform/base/main_queue.h"
 #include "shelf/drawing/pill_path.h"
@@ -112,15 +111,12 @@ void ShelfView::flash(const QString &message)
     if (m_look.snapshot.visible.empty() || m_look.snapshot.receptive)
         return;
     m_look.flashMessage = message;
-    m_flashToken = checkedAdd(m_flashToken, 1);
+    m_flashEnd.restart();
     relayout();
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.queue.asyncAfter(flashDuration, [this, alive, token = m_flashToken] {
-        if (alive.expired() || token != m_flashToken)
-            return;
+    m_context.queue.asyncAfter(flashDuration, m_flashEnd.guard([this] {
         m_look.flashMessage.clear();
         relayout();
-    });
+    }));
 }
 
 void ShelfView::updateHover(QPointF point)

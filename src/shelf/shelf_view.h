@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/desktop/panel_window.h"
 #include "shelf/shelf_hit_test.h"
 #include "shelf/shelf_layers.h"
@@ -9,7 +10,6 @@
 #include <QUuid>
 
 #include <functional>
-#include <memory>
 #include <optional>
 
 namespace corvane {
@@ -142,11 +142,10 @@ private:
     bool m_refusesDrag = false;
     bool m_isDragOver = false;
     int m_awaitedDrops = 0;
-    int m_flashToken = 0;
+    Lifetime m_flashEnd;
     double m_scrollAccumulator = 0;
     double m_lastScrollTime = 0;
-    // What the queue still holds for a view that is gone does nothing.
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -70,22 +70,18 @@ void ShelfView::beginDragOut(const DropItem &item, int index, QPointF from)
 DragOutEvents ShelfView::dragOutEvents(const DropItem &item)
 {
     const QUuid id = item.id();
-    const std::weak_ptr<bool> alive = m_alive;
     const auto keep = std::make_shared<bool>(false);
-    const auto released = [this, alive, id, keep] {
-        if (alive.expired())
-            return;
+    const auto released = m_lifetime.guard([this, id, keep] {
         *keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
         m_look.draggedItem.reset();
         m_look.leavingItems.append(id);
         m_mouseDownItem.reset();
         if (onDragOutChanged)
             onDragOutChanged(false);
-    };
-    const auto ended = [this, alive, item, keep](const DragOutEnd &end) {
-        if (!alive.expired())
-            dragOutEnded(item.id(), end, *keep || isOnlyLinkedTo(item, end.operation));
-    };
+    });
+    const auto ended = m_lifetime.guard([this, item, keep](const DragOutEnd &end) {
+        dragOutEnded(item.id(), end, *keep || isOnlyLinkedTo(item, end.operation));
+    });
     return {released, ended};
 }
 
@@ -158,10 +154,10 @@ bool ShelfView::performDragOperation(const DraggingInfo &info)
         --m_awaitedDrops;
     else
         m_isDragOver = false;
-    const std::weak_ptr<bool> alive = m_alive;
+    const Lifetime::Token life = m_lifetime.token();
     // Whoever waits for it is told in any case.
     const auto isHere = qScopeGuard([&] {
-        if (!alive.expired() && wasAwaited && onAwaitsDrop)
+        if (!life.isOver() && wasAwaited && onAwaitsDrop)
             onAwaitsDrop(m_awaitedDrops > 0);
     });
     m_look.isDragTargeted = m_isDragOver || m_awaitedDrops > 0;

@@ -145,11 +145,8 @@ void ViewAllController::scroll(int step)
 
 void ViewAllController::startWatchingOutsideClicks()
 {
-    const std::weak_ptr<bool> alive = m_alive;
-    m_clickWatch = m_context.outsideClicks.watch([this, alive](std::optional<QPointF> place) {
-        if (!alive.expired())
-            clickedElsewhere(place);
-    });
+    m_clickWatch = m_context.outsideClicks.watch(
+        m_lifetime.guard([this](std::optional<QPointF> place) { clickedElsewhere(place); }));
 }
 
 void ViewAllController::clickedElsewhere(std::optional<QPointF> place)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/base/subscription.h"
+#include "platform/base/lifetime.h"
+#include "platform/desktop/event_monitors.h"
 #include "shelf/bar/view_all_view.h"
 #include "shelf/view_all_bar.h"
 
@@ -79,7 +81,7 @@ private:
     /// The bar is shown because the user wanted it, not because it was left open.
     bool m_isWanted = false;
     // Whatever was handed out does nothing once the controller is gone.
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "platform/base/lifetime.h"
 #include "platform/desktop/panel_window.h"
 #include "shelf/bar/view_all_layers.h"
 #include "shelf/bar/view_all_layout.h"
@@ -11,7 +12,6 @@
 #include <QUuid>
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <span>
 
@@ -152,7 +152,7 @@ private:
     std::optional<QPointF> m_mouseDownPoint;
     double m_scale = 1;
     // A drag may end after the view.
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -169,19 +169,14 @@ void ViewAllView::beginDrag(const DropItem &grabbed)
 
 DragOutEvents ViewAllView::dragOutEvents(DraggedOut dragged)
 {
-    const std::weak_ptr<bool> alive = m_alive;
     const auto out = std::make_shared<DraggedOut>(std::move(dragged));
-    const auto released = [this, alive, out] {
-        if (alive.expired())
-            return;
+    const auto released = m_lifetime.guard([this, out] {
         m_draggingIds.clear();
         out->keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
         call(onDragOutChanged, false);
-    };
-    const auto ended = [this, alive, out](const DragOutEnd &end) {
-        if (!alive.expired())
-            dragEnded(*out, end);
-    };
+    });
+    const auto ended
+        = m_lifetime.guard([this, out](const DragOutEnd &end) { dragEnded(*out, end); });
     return {released, ended};
 }
 
