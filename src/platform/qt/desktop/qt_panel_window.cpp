@@ -22,15 +22,13 @@ QtPanelWindow::QtPanelWindow(PanelSurface &surface, MainQueue &queue, DropSuppor
     , m_dropTarget(*m_canvas, dropSupport, {workQueue, &queue})
 {
     m_surface.adopt(*m_canvas);
-    m_surface.observeComposited([this, alive = m_alive] {
-        if (*alive)
-            updateRegions();
-    });
+    m_surface.observeComposited(m_lifetime.guard([this] { updateRegions(); }));
 }
 
 QtPanelWindow::~QtPanelWindow()
 {
-    *m_alive = false;
+    // What the steps below make others do must not come back to this.
+    m_lifetime.restart();
     m_content = nullptr;
     m_dropTarget.setContent(nullptr);
     QtPanelWindow::orderOut();
@@ -82,10 +80,10 @@ void QtPanelWindow::orderOut()
         return;
     // Now would be too early: the window manager may hear of the click after us, and our wish would
     // come after the user's. What was clicked may also be something that takes no keyboard.
-    m_queue.asyncAfter(focusDelay, [this, alive = m_alive] {
-        if (*alive && !m_isVisible)
+    m_queue.asyncAfter(focusDelay, m_lifetime.guard([this] {
+        if (!m_isVisible)
             m_surface.giveUnclaimedKeyboardBack();
-    });
+    }));
 }
 
 void QtPanelWindow::setIgnoresMouseEvents(bool ignores)
@@ -140,23 +138,19 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, DragOutEvents events)
         events.ended({});
         return;
     }
-    const auto alive = m_alive;
     PanelCanvas *canvas = m_canvas.get();
-    const auto released
-        = [this, alive, canvas, tell = std::move(events.released)](DragOperation promised) {
-              if (!*alive) {
-                  // Later: one of its events is what we are in.
-                  canvas->deleteLater();
-                  return;
-              }
-              m_isDragging = false;
-              letGo(promised);
-              tell();
-          };
-    const auto ended = [alive, tell = std::move(events.ended)](const DragOutEnd &end) {
-        if (*alive)
-            tell(end);
+    const auto released = [this, life = m_lifetime.token(), canvas,
+                           tell = std::move(events.released)](DragOperation promised) {
+        if (life.isOver()) {
+            // Later: one of its events is what we are in.
+            canvas->deleteLater();
+            return;
+        }
+        m_isDragging = false;
+        letGo(promised);
+        tell();
     };
+    const auto ended = m_lifetime.guard(std::move(events.ended));
     runDragSession(*canvas, drag, m_dragSupport, {released, ended});
 }
 

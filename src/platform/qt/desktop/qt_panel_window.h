@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/desktop/panel_window.h"
 #include "platform/qt/desktop/key_repeats.h"
 #include "platform/qt/desktop/panel_canvas.h"
@@ -96,7 +97,7 @@ private:
     std::optional<HeldKey> m_heldKey;
     KeyRepeats m_repeats;
     WheelSteps m_wheelSteps;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
