@@ -29,19 +29,9 @@ SoftwareUpdater::SoftwareUpdater(Context context, Program program)
     : m_context(std::move(context))
     , m_program(std::move(program))
 {
-    const std::weak_ptr<bool> alive = m_alive;
-    const auto guarded = [this, alive](void (SoftwareUpdater::*action)()) {
-        return [this, alive, action] {
-            if (!alive.expired())
-                (this->*action)();
-        };
-    };
-    m_context.display.onInstall = guarded(&SoftwareUpdater::install);
-    m_context.display.onDismiss = guarded(&SoftwareUpdater::dismiss);
-    m_context.display.onShowFile = [this, alive] {
-        if (!alive.expired())
-            showFile();
-    };
+    m_context.display.onInstall = m_lifetime.guard([this] { install(); });
+    m_context.display.onDismiss = m_lifetime.guard([this] { dismiss(); });
+    m_context.display.onShowFile = m_lifetime.guard([this] { showFile(); });
 }
 
 SoftwareUpdater::~SoftwareUpdater() = default;
@@ -54,15 +44,12 @@ void SoftwareUpdater::start()
     if (m_program.installation.kind != Installation::Kind::AppImage)
         return;
     // Once the main queue runs, the AppImage does.
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.download.queue.async([this, alive] {
-        if (alive.expired())
-            return;
+    m_context.download.queue.async(m_lifetime.guard([this] {
         m_context.download.work.run(
             [&files = m_context.files, appImage = m_program.installation.appImage] {
                 update_installation::removePrevious(files, appImage);
             });
-    });
+    }));
 }
 
 void SoftwareUpdater::setAutomaticallyChecksForUpdates(bool on)
@@ -123,17 +110,13 @@ void SoftwareUpdater::check(UpdateAttention attention)
     // One more would be too many, and is to be seen.
     request.maximumBytes = appcast::maximumBytes + 1;
     request.mustBeSecure = true;
-    const std::weak_ptr<bool> alive = m_alive;
-    request.onRoute = [this, alive, generation = m_generation + 1](const WebRoute &route) {
-        if (!alive.expired() && generation == m_generation)
-            m_report.route = route;
-    };
-    m_context.web.get(
-        request,
-        [this, alive, generation = ++m_generation](const std::optional<WebResponse> &response) {
-            if (!alive.expired() && generation == m_generation)
-                feedArrived(response);
-        });
+    m_feedRequest.restart();
+    request.onRoute
+        = m_feedRequest.guard([this](const WebRoute &route) { m_report.route = route; });
+    m_context.web.get(request,
+                      m_feedRequest.guard([this](const std::optional<WebResponse> &response) {
+                          feedArrived(response);
+                      }));
 }
 
 void SoftwareUpdater::feedArrived(const std::optional<WebResponse> &response)
@@ -202,7 +185,7 @@ void SoftwareUpdater::dismiss()
     // What is being put into its place is not left half done.
     if (m_state == State::Installing)
         return;
-    ++m_generation;
+    m_feedRequest.restart();
     m_download.reset();
     m_offer.reset();
     m_state = State::Resting;

@@ -7,6 +7,7 @@
 #include "app/updates/update_record.h"
 #include "app/updates/update_report.h"
 #include "app/updates/updater.h"
+#include "platform/base/lifetime.h"
 #include "platform/base/main_queue.h"
 
 #include <functional>
@@ -112,9 +113,9 @@ private:
     /// What has been taken while this program runs, and was told of it; it is not offered again.
     std::optional<UpdateVersion> m_taken;
     UpdateReport m_takenReport;
-    /// What was begun before it was last raised is not waited for any more.
-    int m_generation = 0;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    /// Of the latest request for the feed, until the user has dismissed it.
+    Lifetime m_feedRequest;
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

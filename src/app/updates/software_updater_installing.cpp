@@ -74,7 +74,6 @@ void SoftwareUpdater::downloadEnded(const std::shared_ptr<UpdateFile> &file,
 
 void SoftwareUpdater::verifyAndInstall(const std::shared_ptr<UpdateFile> &file)
 {
-    const std::weak_ptr<bool> alive = m_alive;
     const auto work = [file, &files = m_context.files, key = m_program.publicKey,
                        enclosure = m_offer->enclosure, version = m_offer->version,
                        installation = m_program.installation]() -> Installed {
@@ -91,12 +90,9 @@ void SoftwareUpdater::verifyAndInstall(const std::shared_ptr<UpdateFile> &file)
             return {std::nullopt, outcome.path, version};
         return {outcome.error == ENOSPC ? UpdateFailure::NoRoom : UpdateFailure::NotWritten};
     };
-    m_context.download.work.run([this, alive, work, &queue = m_context.download.queue] {
-        const Installed outcome = work();
-        queue.async([this, alive, outcome] {
-            if (!alive.expired())
-                installed(outcome);
-        });
+    const auto end = m_lifetime.guard([this](const Installed &outcome) { installed(outcome); });
+    m_context.download.work.run([work, end, &queue = m_context.download.queue] {
+        queue.async([end, outcome = work()] { end(outcome); });
     });
 }
 

@@ -45,16 +45,14 @@ UpdateDownload::~UpdateDownload()
 
 void UpdateDownload::start()
 {
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.work.run([this, alive, &queue = m_context.queue, folder = m_plan.folder,
-                        length = m_plan.enclosure.length] {
-        int error = 0;
-        const std::shared_ptr<UpdateFile> file = UpdateFile::make(folder, length, error);
-        queue.async([this, alive, file, error] {
-            if (!alive.expired())
-                fileMade(file, error);
+    const auto made = m_lifetime.guard(
+        [this](const std::shared_ptr<UpdateFile> &file, int error) { fileMade(file, error); });
+    m_context.work.run(
+        [made, &queue = m_context.queue, folder = m_plan.folder, length = m_plan.enclosure.length] {
+            int error = 0;
+            const std::shared_ptr<UpdateFile> file = UpdateFile::make(folder, length, error);
+            queue.async([made, file, error] { made(file, error); });
         });
-    });
 }
 
 void UpdateDownload::fileMade(const std::shared_ptr<UpdateFile> &file, int error)
@@ -64,17 +62,16 @@ void UpdateDownload::fileMade(const std::shared_ptr<UpdateFile> &file, int error
     const auto transfer = std::make_shared<Transfer>();
     transfer->file = file;
     transfer->expected = m_plan.enclosure.length;
-    const std::weak_ptr<bool> alive = m_alive;
-    const auto take = [this, alive, transfer, &queue = m_context.queue](const QByteArray &piece) {
+    const auto tell = m_lifetime.guard([this](qint64 received) { progressed(received); });
+    const auto take = [tell, transfer, &queue = m_context.queue](const QByteArray &piece) {
         transfer->isTooLong = transfer->file->size() + piece.size() > transfer->expected;
         if (transfer->isTooLong || !transfer->file->append(piece))
             return false;
         transfer->received = transfer->file->size();
         if (!transfer->isTold.exchange(true)) {
-            queue.async([this, alive, transfer] {
+            queue.async([tell, transfer] {
                 transfer->isTold = false;
-                if (!alive.expired())
-                    progressed(transfer->received);
+                tell(transfer->received);
             });
         }
         return true;
@@ -86,15 +83,15 @@ void UpdateDownload::fileMade(const std::shared_ptr<UpdateFile> &file, int error
     request.maximumBytes = transfer->expected + 1;
     request.foundIn = m_plan.foundIn;
     request.mustBeSecure = true;
-    request.onRoute = [this, alive](const WebRoute &route) {
-        if (!alive.expired() && onRoute)
+    request.onRoute = m_lifetime.guard([this](const WebRoute &route) {
+        if (onRoute)
             onRoute(route);
-    };
-    m_context.web.download({request, take, m_cancellation},
-                           [this, alive, transfer](const std::optional<WebResponse> &response) {
-                               if (!alive.expired())
-                                   transferEnded(transfer, response);
-                           });
+    });
+    m_context.web.download(
+        {request, take, m_cancellation},
+        m_lifetime.guard([this, transfer](const std::optional<WebResponse> &response) {
+            transferEnded(transfer, response);
+        }));
 }
 
 void UpdateDownload::progressed(qint64 bytes) const

@@ -2,6 +2,7 @@
 
 #include "app/updates/appcast.h"
 #include "app/updates/update_report.h"
+#include "platform/base/lifetime.h"
 #include "platform/web/web_client.h"
 
 #include <QByteArray>
@@ -69,7 +70,7 @@ private:
     Context m_context;
     Plan m_plan;
     std::shared_ptr<Cancellation> m_cancellation;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
