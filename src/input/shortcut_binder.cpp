@@ -45,15 +45,11 @@ void ShortcutBinder::retryRefused()
 bool ShortcutBinder::bind(const Stored &shortcut, HotKeyCenter::Binding binding,
                           std::function<void()> ShortcutBinder::*action)
 {
-    const bool isBound
-        = m_center.apply(shortcut(), binding, [weak = std::weak_ptr(m_self), action] {
-              const auto self = weak.lock();
-              if (!self)
-                  return;
-              // A copy: it may replace itself.
-              if (const auto run = (*self)->*action)
-                  run();
-          });
+    const bool isBound = m_center.apply(shortcut(), binding, m_lifetime.guard([this, action] {
+        // A copy: it may replace itself.
+        if (const auto run = this->*action)
+            run();
+    }));
     if (isBound)
         m_refused.erase(binding);
     else

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "input/hot_key_center.h"
+#include "platform/base/lifetime.h"
 
 #include <functional>
-#include <memory>
 #include <optional>
 #include <set>
 
@@ -41,7 +41,7 @@ private:
     Stored m_shelfShortcut;
     Stored m_viewAllShortcut;
     std::set<HotKeyCenter::Binding> m_refused;
-    std::shared_ptr<ShortcutBinder *> m_self = std::make_shared<ShortcutBinder *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -55,10 +55,7 @@ void ShortcutRecorder::startRecording()
     if (onTakeFocus)
         onTakeFocus();
     m_localMonitor = m_monitors.addLocalMonitor(
-        [weak = std::weak_ptr(m_self)](const KeyMonitors::Event &event) {
-            const auto self = weak.lock();
-            return self ? (*self)->handle(event) : Disposition::Pass;
-        });
+        m_lifetime.guard([this](const KeyMonitors::Event &event) { return handle(event); }));
     m_suspension = m_hotKeys.suspend();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "input/shortcut.h"
+#include "platform/base/lifetime.h"
 #include "platform/desktop/hot_key_service.h"
 #include "platform/desktop/key_monitors.h"
 
@@ -58,7 +59,7 @@ private:
     bool m_isRecording = false;
     std::optional<KeyMonitors::Handle> m_localMonitor;
     std::unique_ptr<HotKeyService::Suspension> m_suspension;
-    std::shared_ptr<ShortcutRecorder *> m_self = std::make_shared<ShortcutRecorder *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
