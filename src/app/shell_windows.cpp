@@ -44,11 +44,7 @@ void ShellWindows::showWelcomeOnFirstLaunch()
 {
     if (m_context.preferences.settings.seenWelcome())
         return;
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.queue.asyncAfter(welcomeDelay, [this, alive] {
-        if (!alive.expired())
-            showWelcome();
-    });
+    m_context.queue.asyncAfter(welcomeDelay, m_lifetime.guard([this] { showWelcome(); }));
 }
 
 void ShellWindows::bringForward(ShellWindow &window) const

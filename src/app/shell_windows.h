@@ -2,6 +2,7 @@
 
 #include "app/preferences/preferences_context.h"
 #include "app/preferences/preferences_tab.h"
+#include "platform/base/lifetime.h"
 
 #include <memory>
 
@@ -48,7 +49,7 @@ private:
     Context m_context;
     std::unique_ptr<PreferencesWindowController> m_preferences;
     std::unique_ptr<WelcomeWindowController> m_welcome;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -63,11 +63,7 @@ PreferencesWindow::PreferencesWindow(PreferencesContext context, TabSelection &s
     m_area->viewport()->setAutoFillBackground(false);
     layout->addWidget(m_area);
 
-    const std::weak_ptr<bool> alive = m_alive;
-    m_selection.observe([this, alive] {
-        if (!alive.expired())
-            showSelectedTab();
-    });
+    m_selection.observe(m_lifetime.guard([this] { showSelectedTab(); }));
     showSelectedTab();
 }
 

@@ -4,6 +4,7 @@
 #include "app/look/window_look.h"
 #include "app/preferences/preferences_context.h"
 #include "app/preferences/tab_selection.h"
+#include "platform/base/lifetime.h"
 
 #include <array>
 
@@ -40,7 +41,7 @@ private:
     std::array<ChoiceButton *, allPreferencesTabs.size()> m_tabs{};
     QScrollArea *m_area;
     std::optional<PreferencesTab> m_shown;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

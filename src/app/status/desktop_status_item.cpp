@@ -15,10 +15,7 @@ DesktopStatusItem::DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray)
     , m_hosts(std::make_unique<NotifierHosts>())
 {
     // The shelf does not wait for its icon.
-    mainQueue.async([this, alive = std::weak_ptr<bool>(m_alive)] {
-        if (!alive.expired())
-            search();
-    });
+    mainQueue.async(m_lifetime.guard([this] { search(); }));
 }
 
 void DesktopStatusItem::search()
@@ -33,8 +30,8 @@ void DesktopStatusItem::search()
 void DesktopStatusItem::found(double delay)
 {
     // Never at once: who found it ends here.
-    m_mainQueue.asyncAfter(delay, [this, alive = std::weak_ptr<bool>(m_alive)] {
-        if (alive.expired() || !m_hosts)
+    m_mainQueue.asyncAfter(delay, m_lifetime.guard([this] {
+        if (!m_hosts)
             return;
         m_hosts.reset();
         if (m_tray)
@@ -43,13 +40,11 @@ void DesktopStatusItem::found(double delay)
         // The event that is to be handled instead is seen only by filtering every event there is.
         QT_WARNING_PUSH
         QT_WARNING_DISABLE_DEPRECATED
-        QObject::connect(qGuiApp, &QGuiApplication::paletteChanged, qGuiApp, [this, alive] {
-            if (!alive.expired())
-                updateForeground();
-        });
+        QObject::connect(qGuiApp, &QGuiApplication::paletteChanged, qGuiApp,
+                         m_lifetime.guard([this] { updateForeground(); }));
         QT_WARNING_POP
         m_item.appear();
-    });
+    }));
 }
 
 void DesktopStatusItem::updateForeground()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/freedesktop/notifier_hosts.h"
 #include "platform/qt/desktop/qt_tray_icon.h"
 
@@ -33,7 +34,7 @@ private:
     TrayWatch *m_tray;
     // Only until something is found.
     std::unique_ptr<NotifierHosts> m_hosts;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -27,13 +27,9 @@ StatusItemController::StatusItemController(Context context)
     , m_count(static_cast<int>(m_context.store.items().size()))
 {
     updateIcon(m_count);
-    const std::weak_ptr<bool> alive = m_alive;
-    m_context.statusItem.setMenu(
-        [this, alive] { return alive.expired() ? MenuRows() : rebuild(); });
-    m_context.store.observeItems([this, alive](const QList<DropItem> &) {
-        if (!alive.expired())
-            itemsChanged();
-    });
+    m_context.statusItem.setMenu(m_lifetime.guard([this] { return rebuild(); }));
+    m_context.store.observeItems(
+        m_lifetime.guard([this](const QList<DropItem> &) { itemsChanged(); }));
 }
 
 void StatusItemController::itemsChanged()
@@ -42,10 +38,7 @@ void StatusItemController::itemsChanged()
     const bool isNew = m_context.store.items().size() != m_count;
     if (!isNew || std::exchange(m_isUpdateScheduled, true))
         return;
-    m_context.queue.async([this, alive = std::weak_ptr<bool>(m_alive)] {
-        if (!alive.expired())
-            update();
-    });
+    m_context.queue.async(m_lifetime.guard([this] { update(); }));
 }
 
 void StatusItemController::update()
@@ -75,10 +68,8 @@ MenuRows StatusItemController::rebuild() const
     for (MenuRow &row : rows) {
         if (row.isSeparator())
             continue;
-        row.action = [this, alive = std::weak_ptr<bool>(m_alive), id = row.id] {
-            if (!alive.expired())
-                perform(static_cast<StatusMenuRow>(id));
-        };
+        row.action
+            = m_lifetime.guard([this, id = row.id] { perform(static_cast<StatusMenuRow>(id)); });
     }
     return rows;
 }

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/status/status_menu.h"
+#include "platform/base/lifetime.h"
 
 #include <functional>
-#include <memory>
 
 namespace corvane {
 
@@ -55,7 +55,7 @@ private:
     /// What the panel was told last.
     int m_count = 0;
     bool m_isUpdateScheduled = false;
-    std::shared_ptr<bool> m_alive = std::make_shared<bool>(true);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
