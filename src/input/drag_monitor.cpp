@@ -21,20 +21,13 @@ DragMonitor::~DragMonitor()
     DragMonitor::stop();
 }
 
-std::function<void()> DragMonitor::whileAlive(void (DragMonitor::*work)())
-{
-    return [weak = std::weak_ptr(m_self), work] {
-        if (const auto self = weak.lock())
-            ((*self)->*work)();
-    };
-}
-
 void DragMonitor::start()
 {
     m_pasteboardBaseline = m_pasteboard.changeCount();
-    m_globalMonitor = m_events.addGlobalMonitor(whileAlive(&DragMonitor::mouseDragged));
-    m_localMonitor = m_events.addLocalMonitor(whileAlive(&DragMonitor::mouseDragged));
-    m_pressMonitor = m_events.addLeftMouseDownMonitor(whileAlive(&DragMonitor::leftMouseDown));
+    m_globalMonitor = m_events.addGlobalMonitor(m_lifetime.guard([this] { mouseDragged(); }));
+    m_localMonitor = m_events.addLocalMonitor(m_lifetime.guard([this] { mouseDragged(); }));
+    m_pressMonitor
+        = m_events.addLeftMouseDownMonitor(m_lifetime.guard([this] { leftMouseDown(); }));
 }
 
 void DragMonitor::stop()
@@ -68,7 +61,7 @@ void DragMonitor::mouseDragged()
 
 void DragMonitor::beginPolling()
 {
-    m_releasePoll = m_queue.repeating(pollInterval, whileAlive(&DragMonitor::pollButton));
+    m_releasePoll = m_queue.repeating(pollInterval, m_lifetime.guard([this] { pollButton(); }));
 }
 
 void DragMonitor::pollButton()
@@ -83,7 +76,7 @@ void DragMonitor::finishDrag()
         return;
     m_isDragging = false;
     m_releasePoll.reset();
-    m_queue.asyncAfter(settleDelay, whileAlive(&DragMonitor::settle));
+    m_queue.asyncAfter(settleDelay, m_lifetime.guard([this] { settle(); }));
 }
 
 void DragMonitor::settle()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/base/main_queue.h"
 #include "platform/desktop/drag_watch.h"
 #include "platform/desktop/event_monitors.h"
@@ -53,9 +54,6 @@ public:
     bool isDragging() const { return m_isDragging; }
 
 private:
-    /// `work` bound to the monitor; does nothing once that is gone.
-    std::function<void()> whileAlive(void (DragMonitor::*work)());
-
     void leftMouseDown();
     void mouseDragged();
     void beginPolling();
@@ -74,7 +72,7 @@ private:
     std::unique_ptr<MainQueue::Timer> m_releasePoll;
     qint64 m_pasteboardBaseline = 0;
     bool m_isDragging = false;
-    std::shared_ptr<DragMonitor *> m_self = std::make_shared<DragMonitor *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
