@@ -1,7 +1,6 @@
 #include "shelf/edge_summoner.h"
 
 #include "core/shelf_store.h"
-#include "platform/base/checked_math.h"
 #include "platform/base/main_queue.h"
 #include "platform/desktop/outside_clicks.h"
 
@@ -37,27 +36,15 @@ void EdgeSummoner::stop()
 void EdgeSummoner::wire()
 {
     EdgeTrigger &trigger = m_context.trigger;
-    trigger.onEntered = whileAlive(&EdgeSummoner::entered);
-    trigger.onLeft = whileAlive(&EdgeSummoner::giveUp);
-    m_context.screens.observeChanges(whileAlive(&EdgeSummoner::watchAnew));
-}
-
-std::function<void()> EdgeSummoner::whileAlive(void (EdgeSummoner::*work)())
-{
-    return [weak = std::weak_ptr(m_self), work] {
-        if (const auto self = weak.lock())
-            ((*self)->*work)();
-    };
+    trigger.onEntered = m_lifetime.guard([this] { entered(); });
+    trigger.onLeft = m_lifetime.guard([this] { giveUp(); });
+    m_context.screens.observeChanges(m_lifetime.guard([this] { watchAnew(); }));
 }
 
 void EdgeSummoner::after(double seconds, void (EdgeSummoner::*work)())
 {
-    m_generation = checkedAdd<std::int64_t>(m_generation, 1);
-    m_context.queue.asyncAfter(seconds, [weak = std::weak_ptr(m_self), work, g = m_generation] {
-        const auto self = weak.lock();
-        if (self && (*self)->m_generation == g)
-            ((*self)->*work)();
-    });
+    m_delayed.restart();
+    m_context.queue.asyncAfter(seconds, m_delayed.guard([this, work] { (this->*work)(); }));
 }
 
 void EdgeSummoner::entered()
@@ -72,8 +59,8 @@ void EdgeSummoner::entered()
 
 void EdgeSummoner::watchPresses(void (EdgeSummoner::*pressed)())
 {
-    m_pressWatch = m_context.outsideClicks.watch(
-        [onPressed = whileAlive(pressed)](std::optional<QPointF> /*place*/) { onPressed(); });
+    m_pressWatch = m_context.outsideClicks.watch(m_lifetime.guard(
+        [this, pressed](std::optional<QPointF> /*place*/) { (this->*pressed)(); }));
 }
 
 void EdgeSummoner::giveUp()
@@ -85,7 +72,7 @@ void EdgeSummoner::giveUp()
 void EdgeSummoner::wait()
 {
     m_phase = Phase::Waiting;
-    m_generation = checkedAdd<std::int64_t>(m_generation, 1);
+    m_delayed.restart();
     m_pressWatch.end();
 }
 
@@ -127,7 +114,7 @@ void EdgeSummoner::pointerIsInside(bool isInside)
         dismissLater();
         return;
     }
-    m_generation = checkedAdd<std::int64_t>(m_generation, 1);
+    m_delayed.restart();
     m_pressWatch.end();
 }
 

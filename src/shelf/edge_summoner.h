@@ -2,11 +2,13 @@
 
 #include "core/store_follower.h"
 #include "platform/base/subscription.h"
+#include "platform/base/lifetime.h"
 #include "platform/desktop/edge_trigger.h"
 
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace corvane {
@@ -27,8 +29,8 @@ class ShelfStore;
 ///        +--hidden by somebody else------------------------------------------------------+
 ///
 /// Welcome is: the edge tells that the pointer is still there, and free. The edge is watched only
-/// while the shelf is hidden and holds items. Delayed work is voided by generations. Main thread
-/// only; everything in the context must outlive it.
+/// while the shelf is hidden and holds items. Delayed work is voided by restarting its
+/// lifetime. Main thread only; everything in the context must outlive it.
 class EdgeSummoner {
 public:
     /// Seconds at the edge until the shelf is shown.
@@ -81,21 +83,20 @@ private:
     void watchAnew();
     void updateWatch();
     std::vector<EdgeStretch> stretches() const;
-    std::function<void()> whileAlive(void (EdgeSummoner::*work)());
     void after(double seconds, void (EdgeSummoner::*work)());
 
     Context m_context;
     ShelfStore &m_store;
     StoreFollower m_follower;
     Phase m_phase = Phase::Waiting;
-    /// Bumped by whatever makes delayed work out of date.
-    std::int64_t m_generation = 0;
+    /// Restarted by whatever makes delayed work out of date.
+    Lifetime m_delayed;
     bool m_isStopped = false;
     qsizetype m_summonedCount = 0;
     double m_summonTime = 0;
     std::vector<EdgeStretch> m_watched;
     Subscription m_pressWatch;
-    std::shared_ptr<EdgeSummoner *> m_self = std::make_shared<EdgeSummoner *>(this);
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
