@@ -10,7 +10,6 @@
 #include <algorithm>
 #include <numeric>
 #include <utility>
-#include <vector>
 
 namespace corvane {
 
@@ -54,7 +53,7 @@ X11DragDesktop::~X11DragDesktop()
 
 std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMonitor(Handler onLeftMouseDragged)
 {
-    return add(m_monitors, std::move(onLeftMouseDragged));
+    return add(What::LeftMouseDragged, std::move(onLeftMouseDragged));
 }
 
 std::optional<EventMonitors::Handle> X11DragDesktop::addLocalMonitor(Handler)
@@ -65,30 +64,29 @@ std::optional<EventMonitors::Handle> X11DragDesktop::addLocalMonitor(Handler)
 std::optional<EventMonitors::Handle>
 X11DragDesktop::addLeftMouseDownMonitor(Handler onLeftMouseDown)
 {
-    return add(m_leftDownMonitors, std::move(onLeftMouseDown));
+    return add(What::LeftMouseDown, std::move(onLeftMouseDown));
 }
 
 std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMouseDownMonitor(Handler onMouseDown)
 {
-    return add(m_mouseDownMonitors, std::move(onMouseDown));
+    return add(What::MouseDownElsewhere, std::move(onMouseDown));
 }
 
-std::optional<EventMonitors::Handle> X11DragDesktop::add(Monitors &monitors, Handler handler)
+std::optional<EventMonitors::Handle> X11DragDesktop::add(What what, Handler handler)
 {
     if (!canListen())
         return std::nullopt;
     // The first one may come in mid-drag.
     if (m_listening == Listening::Nothing)
         m_isLeftDown = (pressedMouseButtons() & left) != 0;
-    monitors.emplace(m_nextHandle, std::move(handler));
+    const Handle handle = m_monitors.add({what, std::move(handler)});
     listen();
-    return m_nextHandle++;
+    return handle;
 }
 
 void X11DragDesktop::removeMonitor(Handle handle)
 {
-    for (Monitors *monitors : {&m_monitors, &m_leftDownMonitors, &m_mouseDownMonitors})
-        monitors->erase(handle);
+    m_monitors.remove(handle);
     listen();
 }
 
@@ -119,7 +117,7 @@ void X11DragDesktop::handle(const xcb_generic_event_t &event)
             return;
         // What was under way when the button's release was handled may still tell of motion.
         if (raw.event_type == XCB_INPUT_RAW_MOTION && m_isLeftDown)
-            notify(m_monitors);
+            notify(What::LeftMouseDragged);
         else if (raw.event_type == XCB_INPUT_RAW_BUTTON_PRESS)
             handleRawButton(raw.detail, true);
         else if (raw.event_type == XCB_INPUT_RAW_BUTTON_RELEASE)
@@ -146,8 +144,9 @@ void X11DragDesktop::handleRawButton(std::uint32_t button, bool isPress)
     if (logical >= firstWheelButton && logical <= lastWheelButton)
         return;
     noticeLeftButton(button, isPress);
-    if (isPress && logical != disabledButton && !m_mouseDownMonitors.empty() && !isOverOwnWindow())
-        notify(m_mouseDownMonitors);
+    if (isPress && logical != disabledButton && hasMonitors(What::MouseDownElsewhere)
+        && !isOverOwnWindow())
+        notify(What::MouseDownElsewhere);
 }
 
 /// The button's number does not tell whether it is the left one: each device may have an order of
@@ -164,7 +163,7 @@ void X11DragDesktop::noticeLeftButton(std::uint32_t button, bool isPress)
     if (!isPress || !m_isLeftDown || wasDown)
         return;
     m_leftButton = button;
-    notify(m_leftDownMonitors);
+    notify(What::LeftMouseDown);
 }
 
 /// Raw events name no window: the one under the pointer is asked for, from the desktop down through
@@ -193,11 +192,10 @@ bool X11DragDesktop::canListen() const
 
 void X11DragDesktop::listen()
 {
-    if (!m_monitors.empty())
+    if (hasMonitors(What::LeftMouseDragged))
         listenTo(m_isLeftDown ? Listening::ButtonsAndMotion : Listening::Buttons);
     else
-        listenTo(m_leftDownMonitors.empty() && m_mouseDownMonitors.empty() ? Listening::Nothing
-                                                                           : Listening::Buttons);
+        listenTo(m_monitors.isEmpty() ? Listening::Nothing : Listening::Buttons);
 }
 
 void X11DragDesktop::listenTo(Listening what)
@@ -224,19 +222,17 @@ void X11DragDesktop::readButtonMapping()
     std::copy_n(map, xcb_get_pointer_mapping_map_length(reply.get()), m_buttonMapping.begin());
 }
 
-void X11DragDesktop::notify(const Monitors &monitors)
+bool X11DragDesktop::hasMonitors(What what) const
 {
-    // By handle, and through a copy: a handler may remove any monitor, itself too.
-    std::vector<Handle> handles;
-    for (const auto &[handle, handler] : monitors)
-        handles.push_back(handle);
-    for (const Handle handle : handles) {
-        const auto found = monitors.find(handle);
-        if (found == monitors.end())
-            continue;
-        const Handler handler = found->second;
-        handler();
-    }
+    return m_monitors.anyOf([what](const Monitor &monitor) { return monitor.what == what; });
+}
+
+void X11DragDesktop::notify(What what) const
+{
+    m_monitors.forEach([what](const Monitor &monitor) {
+        if (monitor.what == what)
+            monitor.handler();
+    });
 }
 
 } // namespace corvane

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "platform/base/changing_list.h"
 #include "platform/desktop/drag_pasteboard.h"
 #include "platform/desktop/event_monitors.h"
 #include "platform/desktop/mouse_buttons.h"
 #include "platform/x11/base/x11_connection.h"
 
 #include <array>
-#include <map>
 
 namespace corvane {
 
@@ -33,7 +33,15 @@ public:
     unsigned pressedMouseButtons() const override;
 
 private:
-    using Monitors = std::map<Handle, Handler>;
+    enum class What {
+        LeftMouseDragged,
+        LeftMouseDown,
+        MouseDownElsewhere,
+    };
+    struct Monitor {
+        What what;
+        Handler handler;
+    };
 
     enum class Listening {
         Nothing,
@@ -44,7 +52,8 @@ private:
     void handle(const xcb_generic_event_t &event);
     void handleSelection(const xcb_generic_event_t &event);
     void handleRawButton(std::uint32_t button, bool isPress);
-    std::optional<Handle> add(Monitors &monitors, Handler handler);
+    std::optional<Handle> add(What what, Handler handler);
+    bool hasMonitors(What what) const;
     void noticeLeftButton(std::uint32_t button, bool isPress);
     bool canListen() const;
     /// What its monitors need, and no more.
@@ -52,7 +61,7 @@ private:
     void listenTo(Listening what);
     void readButtonMapping();
     bool isOverOwnWindow() const;
-    static void notify(const Monitors &monitors);
+    void notify(What what) const;
 
     X11Connection &m_connection;
     Subscription m_listener;
@@ -66,10 +75,7 @@ private:
     bool m_isLeftDown = false;
     /// The physical button that is down as the left one; 0 where that is not known.
     std::uint32_t m_leftButton = 0;
-    Monitors m_monitors;
-    Monitors m_leftDownMonitors;
-    Monitors m_mouseDownMonitors;
-    Handle m_nextHandle = 1;
+    ChangingList<Monitor> m_monitors;
 };
 
 } // namespace corvane
