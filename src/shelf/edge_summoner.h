@@ -5,10 +5,7 @@
 #include "platform/base/lifetime.h"
 #include "platform/desktop/edge_trigger.h"
 
-#include <cstdint>
 #include <functional>
-#include <memory>
-#include <optional>
 #include <vector>
 
 namespace corvane {
