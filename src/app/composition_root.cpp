@@ -156,6 +156,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                     .keyboard = keyboard,
                     .ingest = ingest,
                     .dragWriter = dragWriter,
+                    .pictures = savedPictures,
                     .preparation = itemPreparation},
            .store = store,
            .settings = settings,

@@ -3,8 +3,6 @@
 #include "core/drag_writer.h"
 #include "core/saved_pictures.h"
 
-#include <QCoreApplication>
-
 namespace corvane {
 
 namespace {
@@ -45,13 +43,6 @@ DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &dragWriter,
 bool isOnlyLinkedTo(const DropItem &form, DragOperation operation)
 {
     return operation == DragOperation::Link && form.isSpooled();
-}
-
-QString stayedMessage(qsizetype stayed, qsizetype all)
-{
-    if (stayed >= all)
-        return QCoreApplication::translate("ShelfView", "It was not taken");
-    return QCoreApplication::translate("ShelfView", "%1 of %2 were not taken").arg(stayed).arg(all);
 }
 
 } // namespace corvane

@@ -32,7 +32,4 @@ DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &writer,
 /// leads nowhere once the shelf has deleted it.
 bool isOnlyLinkedTo(const DropItem &form, DragOperation operation);
 
-/// What the user is told when `stayed` of `all` items that were let go elsewhere did not arrive.
-QString stayedMessage(qsizetype stayed, qsizetype all);
-
 } // namespace corvane

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "core/store_follower.h"
-#include "platform/base/subscription.h"
 #include "platform/base/lifetime.h"
+#include "platform/base/subscription.h"
 #include "platform/desktop/edge_trigger.h"
 
 #include <functional>

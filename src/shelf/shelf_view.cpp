@@ -19,7 +19,13 @@ ShelfView::ShelfView(const Context &context)
     : m_context(context)
     , m_tree(context.queue, context.motionPreference)
     , m_layers(m_tree, context.theme, context.animator)
+    , m_dragSource({.panel = context.panel,
+                    .keyboard = context.keyboard,
+                    .dragWriter = context.dragWriter,
+                    .pictures = context.pictures,
+                    .preparation = context.preparation})
 {
+    wireDragSource();
     m_tree.onNeedsDisplay = [this] {
         m_context.panel.setNeedsDisplay({{0, 0}, m_context.panel.frame().size()});
     };
@@ -40,7 +46,7 @@ void ShelfView::apply(const ShelfSnapshot &snapshot)
 {
     m_look.snapshot = snapshot;
     if (snapshot.state == ShelfState::Idle)
-        forgetPress();
+        m_dragSource.release();
     // An empty shelf has its hint there.
     if (snapshot.visible.empty())
         m_look.flashMessage.clear();
@@ -190,21 +196,14 @@ void ShelfView::pressCell(int itemIndex, QPointF point)
     const auto &visible = m_look.snapshot.visible;
     const auto pressed = std::ranges::find(visible, itemIndex, &std::pair<int, DropItem>::first);
     if (pressed != visible.end())
-        m_mouseDownItem = pressed->second.id();
-    m_mouseDownPoint = point;
+        m_dragSource.press(pressed->second.id(), point);
     if (itemIndex != m_look.snapshot.focusedIndex)
         call(onFocus, itemIndex);
 }
 
 void ShelfView::mouseUp(const MouseEvent & /*event*/)
 {
-    forgetPress();
-}
-
-void ShelfView::forgetPress()
-{
-    m_mouseDownItem.reset();
-    m_mouseDownPoint.reset();
+    m_dragSource.release();
 }
 
 void ShelfView::scrollWheel(const ScrollEvent &event)

@@ -2,6 +2,7 @@
 
 #include "platform/base/lifetime.h"
 #include "platform/desktop/panel_window.h"
+#include "shelf/drag_source.h"
 #include "shelf/shelf_hit_test.h"
 #include "shelf/shelf_layers.h"
 #include "shelf/shelf_snapshot.h"
@@ -21,6 +22,7 @@ class LayerAnimator;
 class MainQueue;
 class MotionPreference;
 class PasteboardIngest;
+class SavedPictures;
 class TextMeasurer;
 struct Theme;
 
@@ -30,8 +32,6 @@ struct Theme;
 class ShelfView : public PanelContent {
 public:
     static constexpr double flashDuration = 1.4;
-    /// A press that moves farther than this, in points, is a drag.
-    static constexpr double dragDistance = 3;
     static constexpr double preciseScrollStep = 28;
     static constexpr double wheelScrollStep = 4;
     /// What a device without phases has left over is forgotten after this many seconds.
@@ -47,6 +47,7 @@ public:
         const Keyboard &keyboard;
         const PasteboardIngest &ingest;
         const DragWriter &dragWriter;
+        SavedPictures &pictures;
         ItemPreparation &preparation;
     };
     explicit ShelfView(const Context &context);
@@ -119,26 +120,22 @@ private:
     void performAction(ShelfAction action) const;
     void press(const ShelfHit &hit, QPointF point);
     void pressCell(int itemIndex, QPointF point);
-    void forgetPress();
     void pressKey(const KeyEvent &event) const;
-    void beginDragOut(const DropItem &item, int index, QPointF from);
+    void wireDragSource();
     QRectF thumbFrame(int index) const;
-    DragOutEvents dragOutEvents(const DropItem &item);
-    void dragOutEnded(const QUuid &id, const DragOutEnd &end, bool keep);
+    DragSource::Picture dragPicture(const DropItem &item, int index, QPointF from) const;
     void updateDragTargeted();
 
     Context m_context;
     LayerTree m_tree;
     ShelfLayers m_layers;
     ShelfLook m_look;
+    DragSource m_dragSource;
     double m_scale = 1;
     bool m_wasMoving = false;
     /// Where the pointer is over the panel, from its top centre, which stays when the panel
     /// resizes.
     std::optional<QPointF> m_pointer;
-    std::optional<QPointF> m_mouseDownPoint;
-    /// By its id: an item before it may leave before the hand moves.
-    std::optional<QUuid> m_mouseDownItem;
     bool m_refusesDrag = false;
     bool m_isDragOver = false;
     int m_awaitedDrops = 0;

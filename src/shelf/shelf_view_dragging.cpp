@@ -1,15 +1,11 @@
 // The shelf as a source and as a destination of drags.
 
-#include "core/awaited_contents.h"
-#include "core/drag_set.h"
 #include "core/drag_writer.h"
 #include "core/pasteboard_ingest.h"
 #include "platform/base/geometry.h"
-#include "platform/desktop/keyboard.h"
+#include "shelf/optional_callback.h"
 #include "shelf/shelf_view.h"
 
-#include <QCoreApplication>
-#include <QLineF>
 #include <QScopeGuard>
 
 #include <algorithm>
@@ -17,22 +13,46 @@
 
 namespace corvane {
 
+void ShelfView::wireDragSource()
+{
+    // It is part of the view and goes with it.
+    m_dragSource.onChanged = [this](bool isDraggingOut) {
+        m_look.draggedItem.reset();
+        if (isDraggingOut)
+            m_look.draggedItem = m_dragSource.dragged().constFirst();
+        m_look.leavingItems = m_dragSource.leaving();
+        call(onDragOutChanged, isDraggingOut);
+        if (isDraggingOut)
+            relayout();
+    };
+    m_dragSource.onEnded = [this] {
+        m_look.leavingItems = m_dragSource.leaving();
+        relayout();
+    };
+    m_dragSource.onEjected = [this](const QList<QUuid> &ids, bool keep) {
+        for (const QUuid &id : ids)
+            call(onEjected, id, keep);
+    };
+    m_dragSource.onMessage = [this](const QString &message) { flash(message); };
+}
+
 void ShelfView::mouseDragged(const MouseEvent &event)
 {
-    if (!m_mouseDownItem || !m_mouseDownPoint || m_look.draggedItem)
+    const auto press = m_dragSource.pulled(event.location);
+    if (!press)
         return;
     const auto &visible = m_look.snapshot.visible;
     const auto entry = std::find_if(visible.begin(), visible.end(), [&](const auto &pair) {
-        return pair.second.id() == *m_mouseDownItem;
+        return pair.second.id() == press->item;
     });
     if (entry == visible.end())
         return;
-    if (QLineF(*m_mouseDownPoint, event.location).length() <= dragDistance)
-        return;
-    const QPointF from = *m_mouseDownPoint;
-    m_mouseDownPoint.reset();
-    // A copy: the drag may run an event loop in which the snapshot is replaced.
-    beginDragOut(DropItem(entry->second), entry->first, from);
+    // Copies: the drag may run an event loop in which the snapshot is replaced.
+    m_dragSource.begin(
+        {entry->second},
+        [this, index = entry->first, from = press->point](const QList<DropItem> &items) {
+            return dragPicture(items.constFirst(), index, from);
+        });
 }
 
 QRectF ShelfView::thumbFrame(int index) const
@@ -44,57 +64,14 @@ QRectF ShelfView::thumbFrame(int index) const
     return {0, 0, 1, 1};
 }
 
-void ShelfView::beginDragOut(const DropItem &item, int index, QPointF from)
+/// Picked up by its picture, the picture stays where it was under the pointer.
+DragSource::Picture ShelfView::dragPicture(const DropItem &item, int index, QPointF from) const
 {
-    if (m_context.dragWriter.available({item}).isEmpty()) {
-        flash(QCoreApplication::translate("ShelfView", "The file is no longer there"));
-        return;
-    }
-    m_look.draggedItem = item.id();
-    if (onDragOutChanged)
-        onDragOutChanged(true);
-    relayout();
-
-    // Picked up by its picture, the picture stays where it was under the pointer.
     const QRectF thumb = thumbFrame(index);
+    const QPointF middle(thumb.width() / 2, thumb.height() / 2);
     const bool isOnThumb = contains(thumb, inBody(from));
-    DragOut drag;
-    drag.contents.writers.push_back(DragWriter::pasteboardWriter(item));
-    drag.whenReady = awaitedContents(drag.contents, {item}, m_context.preparation);
-    drag.image = m_context.dragWriter.dragImage(item, thumb.width(), m_scale);
-    drag.hotSpot = isOnThumb ? inBody(from) - thumb.topLeft()
-                             : QPointF(thumb.width() / 2, thumb.height() / 2);
-    m_context.panel.beginDraggingSession(std::move(drag), dragOutEvents(item));
-}
-
-DragOutEvents ShelfView::dragOutEvents(const DropItem &item)
-{
-    const QUuid id = item.id();
-    const auto keep = std::make_shared<bool>(false);
-    const auto released = m_lifetime.guard([this, id, keep] {
-        *keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
-        m_look.draggedItem.reset();
-        m_look.leavingItems.append(id);
-        m_mouseDownItem.reset();
-        if (onDragOutChanged)
-            onDragOutChanged(false);
-    });
-    const auto ended = m_lifetime.guard([this, item, keep](const DragOutEnd &end) {
-        dragOutEnded(item.id(), end, *keep || isOnlyLinkedTo(item, end.operation));
-    });
-    return {released, ended};
-}
-
-void ShelfView::dragOutEnded(const QUuid &id, const DragOutEnd &end, bool keep)
-{
-    m_look.leavingItems.removeOne(id);
-    relayout();
-    if (!end.taken.isEmpty()) {
-        if (onEjected)
-            onEjected(id, keep);
-    } else if (end.wasDropped) {
-        flash(stayedMessage(1, 1));
-    }
+    return {m_context.dragWriter.dragImage(item, thumb.width(), m_scale),
+            isOnThumb ? inBody(from) - thumb.topLeft() : middle};
 }
 
 /// What was let go here counts as held over the shelf until it is here: that shows that it comes.

@@ -249,16 +249,36 @@ TEST(Texts, OfTheShelfsMessages)
 
     FakePanelWindow panel;
     FakeDragDesktop desktop;
-    const ViewAllController bar(ViewAllController::Context{
+    ViewAllController bar(ViewAllController::Context{
         {panel, model.desk.clock, model.desk.motion, model.desk.theme, model.desk.keyboard,
          model.desk.dragWriter, model.desk.savedPictures, model.desk.preparation},
         model.store,
         model.quickActions,
         desktop,
         model.feedback});
-    flashed("one of one stayed", [&] { bar.view().onStayed(1, 1); });
-    flashed("one of three stayed", [&] { bar.view().onStayed(1, 3); });
-    flashed("nothing to drag", [&] { bar.view().onNothingToDrag(); });
+    // Drags the first of the items, and the others that are ticked, to where `taken` is taken.
+    const auto dragOut
+        = [&](const QList<DropItem> &items, const QList<qsizetype> &taken, bool isAlone) {
+              model.store.clearAll();
+              model.store.accept(items);
+              model.store.toggleViewAll();
+              if (isAlone)
+                  model.store.toggleSelection(items.constFirst());
+              bar.render({600, 900, 300, 60}, model.screen);
+              const QPointF middle = bar.view().layout().tiles.at(0).root.center();
+              panel.content->mouseDown({middle});
+              panel.content->mouseDragged({middle + QPointF(9, 0)});
+              if (!panel.dragOut)
+                  return;
+              panel.dragOutEvents.released();
+              panel.dragOutEvents.ended({DragOperation::Copy, taken, true});
+              panel.dragOut.reset();
+          };
+    const QList<DropItem> three{ShelfDesk::textItem(name), ShelfDesk::textItem(name),
+                                ShelfDesk::textItem(name)};
+    flashed("one of one stayed", [&] { dragOut(three, {}, true); });
+    flashed("one of three stayed", [&] { dragOut(three, {0, 1}, false); });
+    flashed("nothing to drag", [&] { dragOut({file, ShelfDesk::fileItem(name)}, {}, false); });
     Table table;
     table.add(QStringLiteral("Messages on the shelf"), lines);
     expectTable("messages", table);

@@ -42,8 +42,8 @@ struct ShelfDesk {
 
     ShelfView::Context context()
     {
-        return {panel,       clock,    motion, theme,      animator,
-                *m_measurer, keyboard, ingest, dragWriter, preparation};
+        return {panel,    clock,  motion,     theme,         animator,   *m_measurer,
+                keyboard, ingest, dragWriter, savedPictures, preparation};
     }
 
     static DropItem fileItem(const QString &name, const QString &subtitle = QStringLiteral("TXT"))

@@ -88,16 +88,10 @@ private:
     ShelfView::Context shelfContext(PanelWindow &panel)
     {
         const ShelfView::Context usual = desk.context();
-        return {panel,
-                usual.queue,
-                usual.motionPreference,
-                usual.theme,
-                usual.animator,
-                usual.measurer,
-                usual.keyboard,
-                usual.ingest,
-                usual.dragWriter,
-                usual.preparation};
+        return {panel,          usual.queue,      usual.motionPreference,
+                usual.theme,    usual.animator,   usual.measurer,
+                usual.keyboard, usual.ingest,     usual.dragWriter,
+                usual.pictures, usual.preparation};
     }
     ShelfView &shelf() { return dynamic_cast<ShelfView &>(*m_shelfPanel.content); }
     CanvasPanel &anyPanel(RandomSteps &steps)

@@ -1,14 +1,11 @@
 #include "shelf/bar/view_all_controller.h"
 
-#include "core/drag_set.h"
 #include "core/feedback.h"
 #include "core/quick_actions.h"
 #include "core/shelf_store.h"
 #include "platform/base/checked_math.h"
 #include "platform/base/geometry.h"
 #include "platform/desktop/outside_clicks.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 #include <cmath>
@@ -44,13 +41,7 @@ void ViewAllController::wireView()
     m_view.onScroll = [this](int step) { scroll(step); };
     m_view.onClose = [this] { m_store.closeViewAll(); };
     m_view.onDragOutChanged = [this](bool isDraggingOut) { m_store.ownDragChanged(isDraggingOut); };
-    m_view.onNothingToDrag = [this] {
-        m_context.feedback.show(
-            QCoreApplication::translate("ShelfView", "The file is no longer there"));
-    };
-    m_view.onStayed = [this](qsizetype stayed, qsizetype all) {
-        m_context.feedback.show(stayedMessage(stayed, all));
-    };
+    m_view.onMessage = [this](const QString &message) { m_context.feedback.show(message); };
 }
 
 void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &screen)

@@ -11,7 +11,13 @@ ViewAllView::ViewAllView(const Context &context)
     : m_context(context)
     , m_tree(context.queue, context.motionPreference)
     , m_layers(m_tree, context.theme)
+    , m_dragSource({.panel = context.panel,
+                    .keyboard = context.keyboard,
+                    .dragWriter = context.dragWriter,
+                    .pictures = context.pictures,
+                    .preparation = context.preparation})
 {
+    wireDragSource();
     m_tree.onNeedsDisplay = [this] {
         m_context.panel.setNeedsDisplay({{0, 0}, m_context.panel.frame().size()});
     };
@@ -48,8 +54,7 @@ void ViewAllView::apply(const QList<DropItem> &items, const QSet<QUuid> &selecti
 void ViewAllView::wasHidden()
 {
     m_isShown = false;
-    m_mouseDownId.reset();
-    m_mouseDownPoint.reset();
+    m_dragSource.release();
     m_pointer.reset();
     if (findHovered())
         relayout();

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "core/drop_item.h"
-#include "platform/base/lifetime.h"
 #include "platform/desktop/panel_window.h"
 #include "shelf/bar/view_all_layers.h"
 #include "shelf/bar/view_all_layout.h"
+#include "shelf/drag_source.h"
 #include "shelf/drawing/layer_tree.h"
 
 #include <QList>
@@ -32,14 +32,10 @@ struct Theme;
 ///     idle --press on a tile--> pressed --release--> toggled, idle
 ///                               pressed --3 points--> dragging --let go--> idle
 ///
-/// What was let go leaves, or stays, when its target has said how that ended.
-///
 /// Nothing in it moves by itself: changes apply at once. It takes no drops. Main thread only;
 /// everything in the context must outlive the view.
 class ViewAllView : public PanelContent {
 public:
-    /// A press that moves farther than this, in points, is a drag.
-    static constexpr double dragDistance = 3;
     static constexpr double preciseScrollStep = 34;
     static constexpr double wheelScrollStep = 4;
 
@@ -67,10 +63,8 @@ public:
     std::function<void(int step)> onScroll;
     std::function<void()> onClose;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
-    /// Nothing of what was to be dragged is there any more.
-    std::function<void()> onNothingToDrag;
-    /// So many of the items that were let go elsewhere did not arrive there.
-    std::function<void(qsizetype stayed, qsizetype all)> onStayed;
+    /// What the user is told about a drag.
+    std::function<void(const QString &message)> onMessage;
 
     /// Shows the page of `items` that begins at `offset`, or as near to it as there is one. The
     /// list and the set are looked at again at every event, so they must stay where they are: a
@@ -122,22 +116,13 @@ private:
     void updateHover(QPointF point);
     void press(ViewAllControl control) const;
     void pressKey(std::uint32_t keyCode) const;
+    void wireDragSource();
     Image dragImage(const DropItem &grabbed, const QList<DropItem> &items) const;
-    void beginDrag(const DropItem &grabbed);
-    struct DraggedOut {
-        /// One for each writer.
-        QList<QUuid> ids;
-        QList<DropItem> forms;
-        /// More than travel: a file may be gone.
-        qsizetype wanted = 0;
-        bool keep = false;
-    };
-    DragOutEvents dragOutEvents(DraggedOut dragged);
-    void dragEnded(const DraggedOut &dragged, const DragOutEnd &end) const;
 
     Context m_context;
     LayerTree m_tree;
     ViewAllLayers m_layers;
+    DragSource m_dragSource;
 
     const QList<DropItem> *m_items = nullptr;
     const QSet<QUuid> *m_selection = nullptr;
@@ -147,12 +132,7 @@ private:
     std::optional<QPointF> m_pointer;
     std::optional<QUuid> m_hovered;
     std::optional<ViewAllControl> m_hoveredControl;
-    QList<QUuid> m_draggingIds;
-    std::optional<QUuid> m_mouseDownId;
-    std::optional<QPointF> m_mouseDownPoint;
     double m_scale = 1;
-    // A drag may end after the view.
-    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -1,15 +1,9 @@
 // The pointer and the keys on the view-all bar, and the bar as a source of drags.
 
-#include "core/awaited_contents.h"
-#include "core/drag_set.h"
 #include "core/drag_writer.h"
-#include "core/saved_pictures.h"
-#include "platform/desktop/keyboard.h"
 #include "shelf/bar/view_all_view.h"
 #include "shelf/drag_stack.h"
 #include "shelf/optional_callback.h"
-
-#include <QLineF>
 
 #include <algorithm>
 #include <cmath>
@@ -68,8 +62,7 @@ void ViewAllView::mouseDown(const MouseEvent &event)
     if (const auto control = view_all_layout::controlAt(m_layout, event.location)) {
         press(*control);
     } else if (const DropItem *item = itemAt(event.location)) {
-        m_mouseDownId = item->id();
-        m_mouseDownPoint = event.location;
+        m_dragSource.press(item->id(), event.location);
     }
 }
 
@@ -94,28 +87,38 @@ void ViewAllView::press(ViewAllControl control) const
     }
 }
 
+void ViewAllView::wireDragSource()
+{
+    // It is part of the view and goes with it.
+    m_dragSource.onChanged = [this](bool isDraggingOut) { call(onDragOutChanged, isDraggingOut); };
+    m_dragSource.onEjected
+        = [this](const QList<QUuid> &ids, bool keep) { call(onEjected, ids, keep); };
+    m_dragSource.onMessage = [this](const QString &message) { call(onMessage, message); };
+}
+
 void ViewAllView::mouseDragged(const MouseEvent &event)
 {
-    if (!m_draggingIds.isEmpty())
+    if (m_dragSource.isDragging())
         return;
     updateHover(event.location);
-    if (!m_mouseDownPoint || !m_mouseDownId
-        || QLineF(*m_mouseDownPoint, event.location).length() <= dragDistance)
+    const auto press = m_dragSource.pulled(event.location);
+    const DropItem *found = press ? itemWithId(press->item) : nullptr;
+    if (!found)
         return;
-    const DropItem *grabbed = itemWithId(*m_mouseDownId);
-    if (!grabbed)
-        return;
-    m_mouseDownId.reset();
-    m_mouseDownPoint.reset();
     // A copy: the drag may run an event loop in which the items change.
-    beginDrag(DropItem(*grabbed));
+    const DropItem grabbed = *found;
+    m_dragSource.begin(isSelected(grabbed) ? selectedInOrder() : QList<DropItem>{grabbed},
+                       [&](const QList<DropItem> &items) {
+                           Image image = dragImage(grabbed, items);
+                           const QPointF middle(image.size.width() / 2, image.size.height() / 2);
+                           return DragSource::Picture{std::move(image), middle};
+                       });
 }
 
 void ViewAllView::mouseUp(const MouseEvent & /*event*/)
 {
-    const auto pressed = std::exchange(m_mouseDownId, std::nullopt);
-    m_mouseDownPoint.reset();
-    const DropItem *item = pressed ? itemWithId(*pressed) : nullptr;
+    const auto press = m_dragSource.release();
+    const DropItem *item = press ? itemWithId(press->item) : nullptr;
     if (item)
         call(onToggleItem, DropItem(*item));
 }
@@ -143,57 +146,6 @@ Image ViewAllView::dragImage(const DropItem &grabbed, const QList<DropItem> &ite
     return items.size() == 1
         ? cards.front()
         : drag_stack::image(cards, items.size(), side, m_context.theme, m_scale);
-}
-
-void ViewAllView::beginDrag(const DropItem &grabbed)
-{
-    const QList<DropItem> wanted
-        = isSelected(grabbed) ? selectedInOrder() : QList<DropItem>{grabbed};
-    DragSet set = makeDragSet(wanted, m_context.dragWriter, m_context.pictures);
-    if (set.items.isEmpty()) {
-        call(onNothingToDrag);
-        return;
-    }
-    for (const DropItem &item : std::as_const(set.items))
-        m_draggingIds << item.id();
-    call(onDragOutChanged, true);
-
-    DragOut drag;
-    drag.contents = std::move(set.contents);
-    drag.whenReady = awaitedContents(drag.contents, set.forms, m_context.preparation);
-    drag.image = dragImage(grabbed, set.items);
-    drag.hotSpot = {drag.image.size.width() / 2, drag.image.size.height() / 2};
-    m_context.panel.beginDraggingSession(std::move(drag),
-                                         dragOutEvents({m_draggingIds, set.forms, wanted.size()}));
-}
-
-DragOutEvents ViewAllView::dragOutEvents(DraggedOut dragged)
-{
-    const auto out = std::make_shared<DraggedOut>(std::move(dragged));
-    const auto released = m_lifetime.guard([this, out] {
-        m_draggingIds.clear();
-        out->keep = m_context.keyboard.currentModifiers().testFlag(Modifier::Shift);
-        call(onDragOutChanged, false);
-    });
-    const auto ended
-        = m_lifetime.guard([this, out](const DragOutEnd &end) { dragEnded(*out, end); });
-    return {released, ended};
-}
-
-void ViewAllView::dragEnded(const DraggedOut &dragged, const DragOutEnd &end) const
-{
-    QList<QUuid> leaving;
-    QList<QUuid> kept;
-    for (const qsizetype place : end.taken) {
-        const bool keep = dragged.keep || isOnlyLinkedTo(dragged.forms[place], end.operation);
-        (keep ? kept : leaving) << dragged.ids[place];
-    }
-    if (!leaving.isEmpty())
-        call(onEjected, leaving, false);
-    if (!kept.isEmpty())
-        call(onEjected, kept, true);
-    if (end.wasDropped && end.taken.size() < dragged.wanted)
-        call(onStayed, dragged.wanted - end.taken.size(), dragged.wanted);
 }
 
 void ViewAllView::scrollWheel(const ScrollEvent &event)

@@ -35,10 +35,7 @@ protected:
         view->onScroll = [this](int step) { log << QStringLiteral("scroll %1").arg(step); };
         view->onClose = [this] { log << QStringLiteral("close"); };
         view->onDragOutChanged = [this](bool on) { log << QStringLiteral("dragOut %1").arg(on); };
-        view->onStayed = [this](qsizetype stayed, qsizetype all) {
-            log << QStringLiteral("stayed %1 of %2").arg(stayed).arg(all);
-        };
-        view->onNothingToDrag = [this] { log << QStringLiteral("nothing to drag"); };
+        view->onMessage = [this](const QString &message) { log << message; };
     }
 
     ViewAllView::Context context()
@@ -427,7 +424,7 @@ TEST_F(ViewAllViewTest, ofASetOnlyThatLeavesWhichItsTargetTook)
     EXPECT_FALSE(log.contains(QStringLiteral("eject 3 0")));
     desk.panel.dragOutEvents.ended({DragOperation::Copy, {0, 2}, true});
     EXPECT_EQ(ejected, (QList<QUuid>{items[0].id(), items[2].id()}));
-    EXPECT_EQ(log.constLast(), QStringLiteral("stayed 1 of 3"));
+    EXPECT_EQ(log.constLast(), QStringLiteral("1 of 3 were not taken"));
 }
 
 TEST_F(ViewAllViewTest, ofASetThatWasLinkedToTheShelfsOwnFilesStay)
@@ -467,7 +464,7 @@ TEST_F(ViewAllViewTest, onlyWhatWasHandedOverIsReported)
     EXPECT_EQ(carried(), (QStringList{QStringLiteral("item 0"), QStringLiteral("item 1")}));
     endDrag(DragOperation::Copy);
     EXPECT_EQ(ejected, (QList<QUuid>{items[0].id(), items[1].id()}));
-    EXPECT_EQ(log.constLast(), QStringLiteral("stayed 1 of 3"));
+    EXPECT_EQ(log.constLast(), QStringLiteral("1 of 3 were not taken"));
 }
 
 TEST_F(ViewAllViewTest, nothingThatCouldTravelStartsNoDrag)
@@ -476,7 +473,7 @@ TEST_F(ViewAllViewTest, nothingThatCouldTravelStartsNoDrag)
     view->apply(items, selection, 0);
     drag(middleOf(0));
     EXPECT_FALSE(desk.panel.dragOut);
-    EXPECT_EQ(log, QStringList{QStringLiteral("nothing to drag")});
+    EXPECT_EQ(log, QStringList{QStringLiteral("The file is no longer there")});
 }
 
 TEST_F(ViewAllViewTest, picturesSavedForADragServeTheNextOne)
