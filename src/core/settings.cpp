@@ -30,7 +30,7 @@ QByteArray stored(const std::optional<Shortcut> &shortcut)
 
 Shortcut defaultShortcut()
 {
-    return {2, Shortcut::command | Shortcut::shift, QStringLiteral("D")};
+    return {KeyPosition::D, Shortcut::command | Shortcut::shift, QStringLiteral("D")};
 }
 
 } // namespace

@@ -41,18 +41,36 @@ std::optional<std::uint32_t> unsignedNumber(const QJsonValue &value)
 
 } // namespace
 
-const QHash<std::uint32_t, QString> &Shortcut::namedKeys()
+const QHash<KeyPosition, QString> &Shortcut::namedKeys()
 {
-    static const QHash<std::uint32_t, QString> names = {
-        {36, QStringLiteral("↩")},    {48, QStringLiteral("⇥")},    {49, QStringLiteral("␣")},
-        {51, QStringLiteral("⌫")},    {117, QStringLiteral("⌦")},   {53, QStringLiteral("⎋")},
-        {123, QStringLiteral("←")},   {124, QStringLiteral("→")},   {126, QStringLiteral("↑")},
-        {125, QStringLiteral("↓")},   {115, QStringLiteral("↖")},   {119, QStringLiteral("↘")},
-        {116, QStringLiteral("⇞")},   {121, QStringLiteral("⇟")},   {76, QStringLiteral("⌤")},
-        {122, QStringLiteral("F1")},  {120, QStringLiteral("F2")},  {99, QStringLiteral("F3")},
-        {118, QStringLiteral("F4")},  {96, QStringLiteral("F5")},   {97, QStringLiteral("F6")},
-        {98, QStringLiteral("F7")},   {100, QStringLiteral("F8")},  {101, QStringLiteral("F9")},
-        {109, QStringLiteral("F10")}, {103, QStringLiteral("F11")}, {111, QStringLiteral("F12")},
+    static const QHash<KeyPosition, QString> names = {
+        {KeyPosition::Return, QStringLiteral("↩")},
+        {KeyPosition::Tab, QStringLiteral("⇥")},
+        {KeyPosition::Space, QStringLiteral("␣")},
+        {KeyPosition::DeleteBackward, QStringLiteral("⌫")},
+        {KeyPosition::DeleteForward, QStringLiteral("⌦")},
+        {KeyPosition::Escape, QStringLiteral("⎋")},
+        {KeyPosition::LeftArrow, QStringLiteral("←")},
+        {KeyPosition::RightArrow, QStringLiteral("→")},
+        {KeyPosition::UpArrow, QStringLiteral("↑")},
+        {KeyPosition::DownArrow, QStringLiteral("↓")},
+        {KeyPosition::Home, QStringLiteral("↖")},
+        {KeyPosition::End, QStringLiteral("↘")},
+        {KeyPosition::PageUp, QStringLiteral("⇞")},
+        {KeyPosition::PageDown, QStringLiteral("⇟")},
+        {KeyPosition::KeypadEnter, QStringLiteral("⌤")},
+        {KeyPosition::F1, QStringLiteral("F1")},
+        {KeyPosition::F2, QStringLiteral("F2")},
+        {KeyPosition::F3, QStringLiteral("F3")},
+        {KeyPosition::F4, QStringLiteral("F4")},
+        {KeyPosition::F5, QStringLiteral("F5")},
+        {KeyPosition::F6, QStringLiteral("F6")},
+        {KeyPosition::F7, QStringLiteral("F7")},
+        {KeyPosition::F8, QStringLiteral("F8")},
+        {KeyPosition::F9, QStringLiteral("F9")},
+        {KeyPosition::F10, QStringLiteral("F10")},
+        {KeyPosition::F11, QStringLiteral("F11")},
+        {KeyPosition::F12, QStringLiteral("F12")},
     };
     return names;
 }
@@ -101,7 +119,7 @@ std::optional<Shortcut> Shortcut::fromJson(const QByteArray &json)
     const QJsonValue character = object.value(characterName);
     if (!keyCode || !modifiers || !character.isString())
         return std::nullopt;
-    return Shortcut{*keyCode, *modifiers, character.toString()};
+    return Shortcut{KeyPosition{*keyCode}, *modifiers, character.toString()};
 }
 
 } // namespace corvane

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/desktop/keyboard.h"
+#include "platform/desktop/keys.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -13,7 +14,7 @@ namespace corvane {
 
 /// A key that went down, as far as naming it goes.
 struct KeyPress {
-    std::uint32_t keyCode = key_code::unknown;
+    KeyPosition keyCode = KeyPosition::Unknown;
     /// What the key types in the user's layout with no modifier held; empty when it types nothing.
     QString charactersIgnoringModifiers;
 };
@@ -26,8 +27,7 @@ struct Shortcut {
     static constexpr std::uint32_t option = 2048;
     static constexpr std::uint32_t control = 4096;
 
-    /// Virtual key code: the key's position, whatever the layout.
-    std::uint32_t keyCode = 0;
+    KeyPosition keyCode = KeyPosition::A;
     std::uint32_t modifiers = 0;
     /// The key's name, fixed when the shortcut was recorded.
     QString character;
@@ -37,8 +37,8 @@ struct Shortcut {
 
     /// What `character` is for a key: its sign where it has one, else the capital of what it types.
     static QString label(const KeyPress &press);
-    /// Virtual key codes of the keys that have a sign of their own.
-    static const QHash<std::uint32_t, QString> &namedKeys();
+    /// The keys that have a sign of their own.
+    static const QHash<KeyPosition, QString> &namedKeys();
     /// The stored bits of the modifiers that are held.
     static std::uint32_t modifierBits(Modifiers held);
 

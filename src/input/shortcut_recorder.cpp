@@ -75,13 +75,13 @@ Disposition ShortcutRecorder::handle(const KeyMonitors::Event &event)
     if (event.kind != KeyMonitors::Event::Kind::KeyDown)
         return Disposition::Swallow;
     // People who exchange keys press the one that types it, or the one where it used to be.
-    if (event.isEscape || event.keyCode == key_code::escape) {
+    if (event.isEscape || event.keyCode == KeyPosition::Escape) {
         stopRecording();
         return Disposition::Swallow;
     }
     const std::uint32_t modifiers = Shortcut::modifierBits(event.modifiers);
     // A key without a code could be stored, but never be registered.
-    if ((modifiers & sufficientModifiers) == 0 || event.keyCode == key_code::unknown)
+    if ((modifiers & sufficientModifiers) == 0 || event.keyCode == KeyPosition::Unknown)
         return Disposition::Swallow;
     const Shortcut recorded = {event.keyCode, modifiers,
                                Shortcut::label({event.keyCode, event.charactersIgnoringModifiers})};

@@ -13,7 +13,7 @@ void HeldKey::watch()
 
 void HeldKey::swallow(const QKeyEvent &press)
 {
-    m_swallowed = press.nativeScanCode();
+    m_swallowed = NativeKey{press.nativeScanCode()};
 }
 
 bool HeldKey::eventFilter(QObject * /*object*/, QEvent *event)
@@ -25,11 +25,11 @@ bool HeldKey::eventFilter(QObject * /*object*/, QEvent *event)
     const auto &key = dynamic_cast<const QKeyEvent &>(*event);
     if (isRelease)
         m_repeats.released(key);
-    if (m_swallowed == 0 || key.nativeScanCode() != m_swallowed)
+    if (m_swallowed == NativeKey::None || NativeKey{key.nativeScanCode()} != m_swallowed)
         return false;
     if (isRelease || isRepeat(key))
         return true;
-    m_swallowed = 0;
+    m_swallowed = NativeKey::None;
     return false;
 }
 

@@ -23,7 +23,7 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
-    quint32 m_swallowed = 0;
+    NativeKey m_swallowed = NativeKey::None;
     KeyRepeats m_repeats;
 };
 

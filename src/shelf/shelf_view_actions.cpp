@@ -53,22 +53,22 @@ bool ShelfView::keyDown(const KeyEvent &event)
     if (m_look.snapshot.visible.empty())
         return false;
     const int focused = m_look.snapshot.focusedIndex;
-    switch (event.keyCode) {
-    case key_code::c:
+    switch (event.key) {
+    case TypedKey::C:
         if (!event.modifiers.testFlag(Modifier::Command))
             return false;
         break;
-    case key_code::leftArrow:
+    case TypedKey::LeftArrow:
         call(onFocus, checkedAdd(focused, -1));
         return true;
-    case key_code::rightArrow:
+    case TypedKey::RightArrow:
         call(onFocus, checkedAdd(focused, 1));
         return true;
-    case key_code::space:
-    case key_code::deleteBackward:
-    case key_code::deleteForward:
-    case key_code::escape:
-    case key_code::downArrow:
+    case TypedKey::Space:
+    case TypedKey::DeleteBackward:
+    case TypedKey::DeleteForward:
+    case TypedKey::Escape:
+    case TypedKey::DownArrow:
         break;
     default:
         return false;
@@ -81,14 +81,14 @@ bool ShelfView::keyDown(const KeyEvent &event)
 
 void ShelfView::pressKey(const KeyEvent &event) const
 {
-    switch (event.keyCode) {
-    case key_code::c:
+    switch (event.key) {
+    case TypedKey::C:
         performAction(ShelfAction::Copy);
         break;
-    case key_code::space:
+    case TypedKey::Space:
         performAction(ShelfAction::QuickLook);
         break;
-    case key_code::downArrow:
+    case TypedKey::DownArrow:
         call(onViewAll);
         break;
     default:

@@ -117,8 +117,8 @@ protected:
         ASSERT_TRUE(shortcuts.bindViewAll());
     }
 
-    static constexpr FakeHotKeys::Combination shelfHotKey = {2, 768};
-    static constexpr FakeHotKeys::Combination viewAllHotKey = {40, 4096};
+    static constexpr FakeHotKeys::Combination shelfHotKey = {KeyPosition::D, 768};
+    static constexpr FakeHotKeys::Combination viewAllHotKey = {KeyPosition{40}, 4096};
 
     /// A drag of another program that has begun and goes on.
     void drag()
@@ -325,7 +325,7 @@ TEST_F(AppDelegateTest, AShelfThatTheEdgeShowedStaysOnceItIsPressedTypedOnOrDrag
                shelf.mouseDown({{100, 40}});
            },
            [](PanelContent &shelf) {
-               shelf.keyDown({key_code::rightArrow, {}, false});
+               shelf.keyDown({TypedKey::RightArrow, {}, false});
            },
            [](PanelContent &shelf) {
                FakePasteboard pasteboard;

@@ -84,7 +84,8 @@ QStringList menuLines(const FakeStatusItem &item)
 TEST(Texts, OfTheMenu)
 {
     ShelfModel model;
-    model.settings.setViewAllShortcut(Shortcut{40, Shortcut::control, QStringLiteral("K")});
+    model.settings.setViewAllShortcut(
+        Shortcut{KeyPosition{40}, Shortcut::control, QStringLiteral("K")});
     IdleUpdater updates;
     Table table;
     for (const bool hasUpdates : {false, true}) {
@@ -125,7 +126,7 @@ TEST(Texts, OfThePreferences)
     desk.settings.setInViewCount(3);
     desk.updater = &updates;
     desk.settings.setViewAllShortcut(
-        Shortcut{40, Shortcut::control | Shortcut::option, QStringLiteral("K")});
+        Shortcut{KeyPosition{40}, Shortcut::control | Shortcut::option, QStringLiteral("K")});
     add(QStringLiteral("General, 3 in view, updates, both shortcuts"), general, nothing);
     desk.updater = nullptr;
     desk.isKeptUpToDateByOthers = true;
@@ -133,9 +134,9 @@ TEST(Texts, OfThePreferences)
     add(QStringLiteral("General, kept up to date by others, no shortcuts, recording"), general,
         [](QWidget &window) { clickInto(*window.findChild<ShortcutRecorderView *>()); });
     desk.defaults.kept = false;
-    desk.settings.setShortcut(Shortcut{0, Shortcut::control, QStringLiteral("A")});
-    desk.hotKeys.takenByOthers
-        = {{0, Shortcut::control}, {40, Shortcut::control | Shortcut::option}};
+    desk.settings.setShortcut(Shortcut{KeyPosition{0}, Shortcut::control, QStringLiteral("A")});
+    desk.hotKeys.takenByOthers = {{KeyPosition::A, Shortcut::control},
+                                  {KeyPosition{40}, Shortcut::control | Shortcut::option}};
     desk.binder.bindShelf();
     desk.binder.bindViewAll();
     add(QStringLiteral("General, settings that are not kept, shortcuts that others have"), general,

@@ -9,8 +9,8 @@
 namespace corvane {
 namespace {
 
-const Shortcut defaultShortcut = {2, 768, QStringLiteral("D")};
-const Shortcut other = {9, 4352, QStringLiteral("V")};
+const Shortcut defaultShortcut = {KeyPosition{2}, 768, QStringLiteral("D")};
+const Shortcut other = {KeyPosition{9}, 4352, QStringLiteral("V")};
 
 QString key(const char *name)
 {

@@ -13,7 +13,7 @@ namespace corvane::test {
 /// A desktop's hot keys. Its verbs are the user's and the other programs'.
 class FakeHotKeys : public HotKeyService {
 public:
-    using Combination = std::pair<std::uint32_t, std::uint32_t>;
+    using Combination = std::pair<KeyPosition, std::uint32_t>;
 
     std::optional<HandlerRef> installHandler(Handler onPressed) override
     {
@@ -22,16 +22,17 @@ public:
         m_handlers.push_back(std::move(onPressed));
         return static_cast<HandlerRef>(m_handlers.size());
     }
-    std::optional<Handle> registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers,
+    std::optional<Handle> registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
                                          const HotKeyIdentifier &identifier) override
     {
         const Combination wanted = {keyCode, modifiers};
         constexpr std::uint32_t sufficient = 256 | 2048 | 4096;
         constexpr std::uint32_t known = sufficient | 512;
-        constexpr std::uint32_t firstModifierKey = 54;
-        constexpr std::uint32_t lastModifierKey = 63;
+        constexpr KeyPosition lastKey{127};
+        constexpr KeyPosition firstModifierKey{54};
+        constexpr KeyPosition lastModifierKey{63};
         const bool isModifierKey = keyCode >= firstModifierKey && keyCode <= lastModifierKey;
-        if (keyCode > 127 || isModifierKey || (modifiers & sufficient) == 0
+        if (keyCode > lastKey || isModifierKey || (modifiers & sufficient) == 0
             || (modifiers & ~known) != 0 || takenByOthers.contains(wanted) || isRegistered(wanted))
             return std::nullopt;
         m_registered.emplace(m_nextHandle, Registration{wanted, identifier});
@@ -47,7 +48,7 @@ public:
     std::unique_ptr<Suspension> suspend() override { return std::make_unique<Counted>(*this); }
 
     /// Whether the press was for us.
-    bool press(std::uint32_t keyCode, std::uint32_t modifiers)
+    bool press(KeyPosition keyCode, std::uint32_t modifiers)
     {
         if (suspensions > 0)
             return false;

@@ -18,24 +18,24 @@ public:
     void removeMonitor(Handle handle) override { m_monitors.erase(handle); }
 
     /// Each tells whether the rest of the window got the event.
-    bool type(std::uint32_t keyCode, Modifiers modifiers, const QString &characters = {})
+    bool type(KeyPosition keyCode, Modifiers modifiers, const QString &characters = {})
     {
         return send(
-            {Event::Kind::KeyDown, keyCode, modifiers, characters, keyCode == key_code::escape});
+            {Event::Kind::KeyDown, keyCode, modifiers, characters, keyCode == KeyPosition::Escape});
     }
     /// Escape on another key than its own.
-    bool typeEscapeElsewhere(std::uint32_t keyCode)
+    bool typeEscapeElsewhere(KeyPosition keyCode)
     {
         return send({Event::Kind::KeyDown, keyCode, {}, {}, true});
     }
     /// Another key in Escape's place.
     bool typeInEscapesPlace()
     {
-        return send({Event::Kind::KeyDown, key_code::escape, {}, {}, false});
+        return send({Event::Kind::KeyDown, KeyPosition::Escape, {}, {}, false});
     }
     bool holdModifiers(Modifiers modifiers)
     {
-        return send({Event::Kind::ModifiersChanged, key_code::unknown, modifiers, {}, false});
+        return send({Event::Kind::ModifiersChanged, KeyPosition::Unknown, modifiers, {}, false});
     }
     std::size_t monitorCount() const { return m_monitors.size(); }
 

@@ -9,8 +9,9 @@ namespace corvane::test {
 
 namespace {
 
-const Shortcut shiftCommandD = {2, Shortcut::command | Shortcut::shift, QStringLiteral("D")};
-const Shortcut controlF5 = {96, Shortcut::control, QStringLiteral("F5")};
+const Shortcut shiftCommandD
+    = {KeyPosition{2}, Shortcut::command | Shortcut::shift, QStringLiteral("D")};
+const Shortcut controlF5 = {KeyPosition{96}, Shortcut::control, QStringLiteral("F5")};
 
 using Binding = HotKeyCenter::Binding;
 
@@ -238,8 +239,8 @@ TEST_F(ShortcutBinderTest, ReadsTheStoredShortcutEachTimeItBinds)
 
 TEST_F(ShortcutBinderTest, WhatTheUserTypesWithIsRefused)
 {
-    shelfShortcut = Shortcut{0, 0, QStringLiteral("A")};
-    viewAllShortcut = Shortcut{1, Shortcut::shift, QStringLiteral("S")};
+    shelfShortcut = Shortcut{KeyPosition{0}, 0, QStringLiteral("A")};
+    viewAllShortcut = Shortcut{KeyPosition{1}, Shortcut::shift, QStringLiteral("S")};
     EXPECT_FALSE(binder->bindShelf());
     EXPECT_FALSE(binder->bindViewAll());
     EXPECT_EQ(keys.registrationCount(), 0U);

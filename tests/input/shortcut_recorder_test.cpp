@@ -8,8 +8,9 @@ namespace corvane::test {
 
 namespace {
 
-const Shortcut shiftCommandD = {2, Shortcut::command | Shortcut::shift, QStringLiteral("D")};
-constexpr std::uint32_t keyA = 0;
+const Shortcut shiftCommandD
+    = {KeyPosition{2}, Shortcut::command | Shortcut::shift, QStringLiteral("D")};
+constexpr KeyPosition keyA = KeyPosition::A;
 const QString typesA = QStringLiteral("a");
 
 class ShortcutRecorderTest : public testing::Test {
@@ -81,7 +82,7 @@ TEST_F(ShortcutRecorderTest, EscapeEndsRecordingWithTheShortcutKept)
     for (const Modifiers modifiers : {Modifiers{}, Modifiers{Modifier::Command}}) {
         recorder->clicked();
         log.clear();
-        EXPECT_FALSE(keys.type(key_code::escape, modifiers));
+        EXPECT_FALSE(keys.type(KeyPosition::Escape, modifiers));
         EXPECT_FALSE(recorder->isRecording());
         EXPECT_EQ(recorder->shortcut(), shiftCommandD);
         EXPECT_TRUE(log.isEmpty());
@@ -90,7 +91,7 @@ TEST_F(ShortcutRecorderTest, EscapeEndsRecordingWithTheShortcutKept)
 
 TEST_F(ShortcutRecorderTest, EscapeEndsRecordingByItsSymbolAndByItsPlace)
 {
-    constexpr std::uint32_t capsLock = 57;
+    constexpr KeyPosition capsLock{57};
     recorder->clicked();
     EXPECT_FALSE(keys.typeEscapeElsewhere(capsLock));
     EXPECT_FALSE(recorder->isRecording());
@@ -105,7 +106,7 @@ TEST_F(ShortcutRecorderTest, KeysReachOthersBeforeAndAfterButNotMeanwhile)
     EXPECT_TRUE(keys.type(keyA, Modifier::Command, typesA));
     recorder->clicked();
     EXPECT_FALSE(keys.type(keyA, {}, typesA));
-    keys.type(key_code::escape, {});
+    keys.type(KeyPosition::Escape, {});
     EXPECT_TRUE(keys.type(keyA, Modifier::Command, typesA));
     EXPECT_EQ(recorder->shortcut(), shiftCommandD);
 }
@@ -148,7 +149,7 @@ TEST_F(ShortcutRecorderTest, WhileRecordingTheGrabsAreSuspended)
 TEST_F(ShortcutRecorderTest, AKeyThatNoKeyboardHasIsIgnored)
 {
     recorder->clicked();
-    EXPECT_FALSE(keys.type(key_code::unknown, Modifier::Command));
+    EXPECT_FALSE(keys.type(KeyPosition::Unknown, Modifier::Command));
     EXPECT_TRUE(recorder->isRecording());
 }
 

@@ -8,36 +8,38 @@
 namespace corvane {
 namespace {
 
-const Shortcut shelfShortcut = {2, 768, QStringLiteral("D")};
+const Shortcut shelfShortcut = {KeyPosition{2}, 768, QStringLiteral("D")};
 
 TEST(Shortcut, ShowsModifiersInTheirFixedOrder)
 {
-    EXPECT_EQ((Shortcut{0, 0x1b00, QStringLiteral("A")}.display()), QStringLiteral("⌃⌥⇧⌘A"));
-    EXPECT_EQ((Shortcut{40, 0x1900, QStringLiteral("K")}.display()), QStringLiteral("⌃⌥⌘K"));
+    EXPECT_EQ((Shortcut{KeyPosition{0}, 0x1b00, QStringLiteral("A")}.display()),
+              QStringLiteral("⌃⌥⇧⌘A"));
+    EXPECT_EQ((Shortcut{KeyPosition{40}, 0x1900, QStringLiteral("K")}.display()),
+              QStringLiteral("⌃⌥⌘K"));
     EXPECT_EQ(shelfShortcut.display(), QStringLiteral("⇧⌘D"));
-    EXPECT_EQ((Shortcut{96, 0, QStringLiteral("F5")}.display()), QStringLiteral("F5"));
+    EXPECT_EQ((Shortcut{KeyPosition{96}, 0, QStringLiteral("F5")}.display()), QStringLiteral("F5"));
 }
 
 TEST(Shortcut, ComparesAllThreeFields)
 {
-    EXPECT_EQ(shelfShortcut, (Shortcut{2, 768, QStringLiteral("D")}));
-    EXPECT_NE(shelfShortcut, (Shortcut{2, 768, QStringLiteral("E")}));
-    EXPECT_NE(shelfShortcut, (Shortcut{3, 768, QStringLiteral("D")}));
-    EXPECT_NE(shelfShortcut, (Shortcut{2, 256, QStringLiteral("D")}));
+    EXPECT_EQ(shelfShortcut, (Shortcut{KeyPosition{2}, 768, QStringLiteral("D")}));
+    EXPECT_NE(shelfShortcut, (Shortcut{KeyPosition{2}, 768, QStringLiteral("E")}));
+    EXPECT_NE(shelfShortcut, (Shortcut{KeyPosition{3}, 768, QStringLiteral("D")}));
+    EXPECT_NE(shelfShortcut, (Shortcut{KeyPosition{2}, 256, QStringLiteral("D")}));
 }
 
 TEST(Shortcut, NamesSpaceWhateverTheLayoutTypes)
 {
-    EXPECT_EQ(Shortcut::label({49, QStringLiteral(" ")}), QStringLiteral("␣"));
-    EXPECT_EQ(Shortcut::label({76, QStringLiteral("\r")}), QStringLiteral("⌤"));
-    EXPECT_EQ(Shortcut::label({111, {}}), QStringLiteral("F12"));
+    EXPECT_EQ(Shortcut::label({KeyPosition{49}, QStringLiteral(" ")}), QStringLiteral("␣"));
+    EXPECT_EQ(Shortcut::label({KeyPosition{76}, QStringLiteral("\r")}), QStringLiteral("⌤"));
+    EXPECT_EQ(Shortcut::label({KeyPosition{111}, {}}), QStringLiteral("F12"));
 }
 
 TEST(Shortcut, NamesALetterByTheCapitalOfWhatItTypes)
 {
-    EXPECT_EQ(Shortcut::label({33, QStringLiteral("ü")}), QStringLiteral("Ü"));
-    EXPECT_EQ(Shortcut::label({2, QStringLiteral("d")}), QStringLiteral("D"));
-    EXPECT_EQ(Shortcut::label({2, {}}), QString());
+    EXPECT_EQ(Shortcut::label({KeyPosition{33}, QStringLiteral("ü")}), QStringLiteral("Ü"));
+    EXPECT_EQ(Shortcut::label({KeyPosition{2}, QStringLiteral("d")}), QStringLiteral("D"));
+    EXPECT_EQ(Shortcut::label({KeyPosition{2}, {}}), QString());
 }
 
 TEST(Shortcut, HasTwentySevenNamedKeys)
@@ -52,12 +54,12 @@ TEST(Shortcut, HasTwentySevenNamedKeys)
         {121, QStringLiteral("⇟")},
     };
     for (auto sign = signs.begin(); sign != signs.end(); ++sign)
-        EXPECT_EQ(names.value(sign.key()), sign.value()) << sign.key();
+        EXPECT_EQ(names.value(KeyPosition{sign.key()}), sign.value()) << sign.key();
     const std::array<std::uint32_t, 12> functionKeys
         = {122, 120, 99, 118, 96, 97, 98, 100, 101, 109, 103, 111};
     int number = 1;
     for (const std::uint32_t code : functionKeys)
-        EXPECT_EQ(names.value(code), QStringLiteral("F%1").arg(number++));
+        EXPECT_EQ(names.value(KeyPosition{code}), QStringLiteral("F%1").arg(number++));
 }
 
 TEST(Shortcut, TurnsHeldModifiersIntoStoredBits)
@@ -72,7 +74,7 @@ TEST(Shortcut, TurnsHeldModifiersIntoStoredBits)
 TEST(Shortcut, ComesBackFromItsStoredForm)
 {
     EXPECT_EQ(Shortcut::fromJson(shelfShortcut.toJson()), shelfShortcut);
-    const Shortcut odd = {0xffffffff, 0x1b00, QStringLiteral("\"␣\\")};
+    const Shortcut odd = {KeyPosition{0xffffffff}, 0x1b00, QStringLiteral("\"␣\\")};
     EXPECT_EQ(Shortcut::fromJson(odd.toJson()), odd);
     EXPECT_EQ(Shortcut::fromJson(R"({"keyCode":2,"modifiers":768,"character":"D"})"),
               shelfShortcut);

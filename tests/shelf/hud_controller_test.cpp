@@ -201,7 +201,7 @@ TEST_F(HUDControllerTest, KeysGoToTheProgramBehindFromTheMomentThatItCloses)
     store.toggleManually();
     EXPECT_TRUE(desk.panel.visible);
     EXPECT_FALSE(desk.panel.isKey);
-    EXPECT_FALSE(view().keyDown({key_code::deleteBackward, {}, false}));
+    EXPECT_FALSE(view().keyDown({TypedKey::DeleteBackward, {}, false}));
     EXPECT_EQ(store.items().size(), 2);
 }
 
@@ -299,7 +299,7 @@ TEST_F(HUDControllerTest, WithSeveralInViewTheFocusedItemIsShownBeforeItIsActedO
     accept(6);
     view().onScroll(-4);
     ASSERT_EQ(snapshot().visible.front().first, 0);
-    for (const std::uint32_t code : {key_code::deleteBackward, key_code::escape, key_code::space}) {
+    for (const TypedKey code : {TypedKey::DeleteBackward, TypedKey::Escape, TypedKey::Space}) {
         store.focus(5);
         view().onScroll(-4);
         EXPECT_TRUE(view().keyDown({code, {}, false}));
@@ -308,9 +308,9 @@ TEST_F(HUDControllerTest, WithSeveralInViewTheFocusedItemIsShownBeforeItIsActedO
         EXPECT_EQ(snapshot().visible.back().first, 5) << "it is in view now";
     }
     view().onScroll(-4);
-    EXPECT_TRUE(view().keyDown({key_code::c, Modifier::Command, false}));
+    EXPECT_TRUE(view().keyDown({TypedKey::C, Modifier::Command, false}));
     EXPECT_TRUE(clipboard.writes.empty());
-    EXPECT_TRUE(view().keyDown({key_code::deleteForward, {}, false}));
+    EXPECT_TRUE(view().keyDown({TypedKey::DeleteForward, {}, false}));
     EXPECT_EQ(store.items().size(), 5) << "and can be removed";
 }
 

@@ -63,7 +63,7 @@ protected:
     {
         view.scrollWheel({delta, precise, phase, time});
     }
-    bool key(std::uint32_t code, Modifiers modifiers = {})
+    bool key(TypedKey code, Modifiers modifiers = {})
     {
         return view.keyDown({code, modifiers, false});
     }
@@ -270,7 +270,7 @@ TEST_F(ShelfViewTest, ACallbackThatIsNotSetIsSkipped)
     show(holding(5, 3));
     press(layout().arrowHits[0].center());
     press(layout().viewAllHit.center());
-    EXPECT_TRUE(key(key_code::c, Modifier::Command));
+    EXPECT_TRUE(key(TypedKey::C, Modifier::Command));
 }
 
 // Hover
@@ -314,21 +314,20 @@ TEST_F(ShelfViewTest, SpaceHeldDownPresentsOnce)
 {
     show(holding(5, 3, 1));
     log.clear();
-    EXPECT_TRUE(view.keyDown({key_code::space, {}, false}));
-    EXPECT_TRUE(view.keyDown({key_code::space, {}, true}));
+    EXPECT_TRUE(view.keyDown({TypedKey::Space, {}, false}));
+    EXPECT_TRUE(view.keyDown({TypedKey::Space, {}, true}));
     EXPECT_EQ(log.size(), 1);
 }
 
 TEST_F(ShelfViewTest, AHeldKeyRemovesCopiesAndTogglesOnceAndMovesOn)
 {
     show(holding(5, 3, 1));
-    for (const std::uint32_t code :
-         {key_code::escape, key_code::deleteBackward, key_code::deleteForward, key_code::space,
-          key_code::downArrow, key_code::c})
+    for (const TypedKey code : {TypedKey::Escape, TypedKey::DeleteBackward, TypedKey::DeleteForward,
+                                TypedKey::Space, TypedKey::DownArrow, TypedKey::C})
         EXPECT_TRUE(view.keyDown({code, Modifier::Command, true})) << "nor is it passed on";
     EXPECT_TRUE(log.isEmpty());
-    EXPECT_TRUE(view.keyDown({key_code::rightArrow, {}, true}));
-    EXPECT_TRUE(view.keyDown({key_code::leftArrow, {}, true}));
+    EXPECT_TRUE(view.keyDown({TypedKey::RightArrow, {}, true}));
+    EXPECT_TRUE(view.keyDown({TypedKey::LeftArrow, {}, true}));
     EXPECT_EQ(log, (QStringList{QStringLiteral("focus 2"), QStringLiteral("focus 0")}));
 }
 
@@ -338,8 +337,8 @@ TEST_F(ShelfViewTest, AClosedShelfTakesNoKeyAndNoWheel)
     show(closing);
     closing.state = ShelfState::Idle;
     view.apply(closing);
-    for (const std::uint32_t code : {key_code::escape, key_code::deleteBackward, key_code::space,
-                                     key_code::rightArrow, key_code::downArrow})
+    for (const TypedKey code : {TypedKey::Escape, TypedKey::DeleteBackward, TypedKey::Space,
+                                TypedKey::RightArrow, TypedKey::DownArrow})
         EXPECT_FALSE(key(code));
     scroll(40);
     EXPECT_TRUE(log.isEmpty());
@@ -366,9 +365,9 @@ TEST_F(ShelfViewTest, ASingleItemInViewIsFocusedAndThenActedOn)
     press(layout().actionHits[static_cast<std::size_t>(ShelfAction::Clear)].center());
     EXPECT_EQ(log, (QStringList{QStringLiteral("focus 2"), QStringLiteral("remove 2")}));
     log.clear();
-    EXPECT_TRUE(key(key_code::c, Modifier::Command));
-    EXPECT_TRUE(key(key_code::space));
-    EXPECT_TRUE(key(key_code::escape));
+    EXPECT_TRUE(key(TypedKey::C, Modifier::Command));
+    EXPECT_TRUE(key(TypedKey::Space));
+    EXPECT_TRUE(key(TypedKey::Escape));
     EXPECT_EQ(log.join(u','), QStringLiteral("focus 2,copy,focus 2,quickLook,focus 2,remove 2"));
 }
 
@@ -377,25 +376,25 @@ TEST_F(ShelfViewTest, AmongSeveralAFocusOutOfViewIsShownAndNothingMore)
     ShelfSnapshot snapshot = holding(9, 3, 2);
     snapshot.focusedIndex = 7;
     show(snapshot);
-    EXPECT_TRUE(key(key_code::c, Modifier::Command));
-    EXPECT_TRUE(key(key_code::space));
-    EXPECT_TRUE(key(key_code::escape));
-    EXPECT_TRUE(key(key_code::deleteForward));
+    EXPECT_TRUE(key(TypedKey::C, Modifier::Command));
+    EXPECT_TRUE(key(TypedKey::Space));
+    EXPECT_TRUE(key(TypedKey::Escape));
+    EXPECT_TRUE(key(TypedKey::DeleteForward));
     EXPECT_EQ(log.join(u','), QStringLiteral("focus 7,focus 7,focus 7,focus 7"));
 }
 
 TEST_F(ShelfViewTest, KeysDoWhatTheyShould)
 {
     show(holding(5, 3, 1));
-    EXPECT_TRUE(key(key_code::c, Modifier::Command));
-    EXPECT_TRUE(key(key_code::c, Modifier::Command | Modifier::Option));
-    EXPECT_TRUE(key(key_code::space));
-    EXPECT_TRUE(key(key_code::deleteBackward));
-    EXPECT_TRUE(key(key_code::deleteForward));
-    EXPECT_TRUE(key(key_code::escape));
-    EXPECT_TRUE(key(key_code::leftArrow));
-    EXPECT_TRUE(key(key_code::rightArrow));
-    EXPECT_TRUE(key(key_code::downArrow));
+    EXPECT_TRUE(key(TypedKey::C, Modifier::Command));
+    EXPECT_TRUE(key(TypedKey::C, Modifier::Command | Modifier::Option));
+    EXPECT_TRUE(key(TypedKey::Space));
+    EXPECT_TRUE(key(TypedKey::DeleteBackward));
+    EXPECT_TRUE(key(TypedKey::DeleteForward));
+    EXPECT_TRUE(key(TypedKey::Escape));
+    EXPECT_TRUE(key(TypedKey::LeftArrow));
+    EXPECT_TRUE(key(TypedKey::RightArrow));
+    EXPECT_TRUE(key(TypedKey::DownArrow));
     EXPECT_EQ(
         log.join(u','),
         QStringLiteral("copy,copy,quickLook,remove 1,remove 1,remove 1,focus 0,focus 2,viewAll"));
@@ -404,9 +403,9 @@ TEST_F(ShelfViewTest, KeysDoWhatTheyShould)
 TEST_F(ShelfViewTest, OtherKeysArePassedOn)
 {
     show(holding(5, 3));
-    EXPECT_FALSE(key(key_code::c)) << "C without Command";
-    EXPECT_FALSE(key(key_code::unknown));
-    EXPECT_FALSE(key(126));
+    EXPECT_FALSE(key(TypedKey::C)) << "C without Command";
+    EXPECT_FALSE(key(TypedKey::Unknown));
+    EXPECT_FALSE(key(TypedKey{126}));
     EXPECT_TRUE(log.isEmpty());
 }
 
@@ -415,8 +414,8 @@ TEST_F(ShelfViewTest, WithNoItemVisibleEveryKeyIsPassedOn)
     ShelfSnapshot empty;
     empty.state = ShelfState::Expanded;
     show(empty);
-    EXPECT_FALSE(key(key_code::c, Modifier::Command));
-    EXPECT_FALSE(key(key_code::escape));
+    EXPECT_FALSE(key(TypedKey::C, Modifier::Command));
+    EXPECT_FALSE(key(TypedKey::Escape));
     EXPECT_TRUE(log.isEmpty());
 }
 
@@ -425,10 +424,10 @@ TEST_F(ShelfViewTest, AnOverflowingFocusEndsTheProcess)
     ShelfSnapshot snapshot = holding(1, 1);
     snapshot.focusedIndex = std::numeric_limits<int>::max();
     show(snapshot);
-    EXPECT_DEATH(key(key_code::rightArrow), "overflowed");
+    EXPECT_DEATH(key(TypedKey::RightArrow), "overflowed");
     snapshot.focusedIndex = std::numeric_limits<int>::min();
     view.apply(snapshot);
-    EXPECT_DEATH(key(key_code::leftArrow), "overflowed");
+    EXPECT_DEATH(key(TypedKey::LeftArrow), "overflowed");
 }
 
 // Scrolling

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/desktop/keys.h"
+
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -41,11 +43,11 @@ public:
     /// nothing. The handler stays for good. None if there is no service to hear anything from.
     virtual std::optional<HandlerRef> installHandler(Handler onPressed) = 0;
 
-    /// Takes a combination for us alone: a virtual key code and modifier bits as shortcuts store
-    /// them. None if it is taken, by another program or by a registration of our own, if no
-    /// keyboard can type it, or if the user types with it: one without Command, Option and Control,
-    /// or whose key is itself a modifier.
-    virtual std::optional<Handle> registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers,
+    /// Takes a combination for us alone: a key and modifier bits as shortcuts store them. None if
+    /// it is taken, by another program or by a registration of our own, if no keyboard can type it,
+    /// or if the user types with it: one without Command, Option and Control, or whose key is
+    /// itself a modifier.
+    virtual std::optional<Handle> registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
                                                  const HotKeyIdentifier &identifier)
         = 0;
     /// A handle that is not registered is ignored.

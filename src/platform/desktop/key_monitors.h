@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/desktop/keyboard.h"
+#include "platform/desktop/keys.h"
 
 #include <QString>
 
-#include <cstdint>
 #include <functional>
 
 namespace corvane {
@@ -23,8 +23,7 @@ public:
             ModifiersChanged,
         };
         Kind kind = Kind::KeyDown;
-        /// By the key's position.
-        std::uint32_t keyCode = key_code::unknown;
+        KeyPosition keyCode = KeyPosition::Unknown;
         /// Here Command is Super alone, and Control is Control.
         Modifiers modifiers;
         /// What the key types in the user's layout with no modifier held; empty when it types

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "platform/desktop/keys.h"
 
-#include <cstdint>
+#include <QString>
 
 namespace corvane {
 
@@ -13,10 +13,9 @@ public:
 
     /// What a key types with no modifier held, and a dead key the accent that it puts on others;
     /// empty when it types nothing.
-    virtual QString charactersOf(std::uint32_t keyCode) const = 0;
-    /// Whether a key that has this symbol of the window system changes what keys do instead of
-    /// being one itself.
-    virtual bool changesKeys(std::uint32_t symbol) const = 0;
+    virtual QString charactersOf(KeyPosition position) const = 0;
+    /// Whether a key that has this symbol changes what keys do instead of being one itself.
+    virtual bool changesKeys(KeySymbol symbol) const = 0;
 };
 
 } // namespace corvane

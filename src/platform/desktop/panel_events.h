@@ -1,10 +1,9 @@
 #pragma once
 
 #include "platform/desktop/keyboard.h"
+#include "platform/desktop/keys.h"
 
 #include <QPointF>
-
-#include <cstdint>
 
 namespace corvane {
 
@@ -16,9 +15,8 @@ struct MouseEvent {
 };
 
 struct KeyEvent {
-    /// The key that types the letter in the user's layout; by position where the layout has no
-    /// Latin letters. `key_code::unknown` for keys without a code.
-    std::uint32_t keyCode = key_code::unknown;
+    /// By position where the layout has no Latin letters.
+    TypedKey key = TypedKey::Unknown;
     Modifiers modifiers;
     bool isRepeat = false;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/desktop/keys.h"
+
 #include <QRegion>
 
 #include <cstdint>
@@ -46,10 +48,10 @@ public:
     virtual void giveKeyboardBack() = 0;
     /// A key that a panel had is still down, perhaps: until it is released its repeats reach
     /// nobody, whoever has the keyboard. By the window system's numbers.
-    virtual void swallowRepeats(std::uint32_t key, std::uint32_t modifiers) = 0;
+    virtual void swallowRepeats(NativeKey key, std::uint32_t modifiers) = 0;
     /// At this moment, whatever events are on their way. The toolkit does not always know a
     /// repeat's release from that of the hand.
-    virtual bool isKeyDown(std::uint32_t key) const = 0;
+    virtual bool isKeyDown(NativeKey key) const = 0;
     virtual bool isAnyKeyDown() const = 0;
     /// At this moment. The toolkit forgets the buttons when a drag leaves a window of ours.
     virtual bool isLeftButtonDown() const = 0;

@@ -1,7 +1,5 @@
 #include "platform/desktop/virtual_key_codes.h"
 
-#include "platform/desktop/keyboard.h"
-
 #include <algorithm>
 #include <array>
 #include <string_view>
@@ -9,6 +7,9 @@
 namespace corvane::virtual_key_codes {
 
 namespace {
+
+/// The window system counts higher than the kernel by that.
+constexpr std::uint32_t nativeOffset = 8;
 
 struct Pair {
     std::uint32_t virtualCode;
@@ -64,30 +65,38 @@ struct LetterRow {
 constexpr std::array letterRows
     = {LetterRow{U"QWERTYUIOP", 16}, LetterRow{U"ASDFGHJKL", 30}, LetterRow{U"ZXCVBNM", 44}};
 
-} // namespace
-
-std::uint32_t fromEvdev(std::uint32_t evdevCode)
+KeyPosition fromEvdev(std::uint32_t evdevCode)
 {
     const auto *found = std::ranges::find(pairs, evdevCode, &Pair::evdevCode);
-    return found == pairs.end() ? key_code::unknown : found->virtualCode;
+    return found == pairs.end() ? KeyPosition::Unknown : KeyPosition{found->virtualCode};
 }
 
-std::optional<std::uint32_t> toEvdev(std::uint32_t virtualKeyCode)
+} // namespace
+
+KeyPosition fromNative(NativeKey key)
 {
-    const auto *found = std::ranges::find(pairs, virtualKeyCode, &Pair::virtualCode);
+    const auto code = static_cast<std::uint32_t>(key);
+    return code < nativeOffset ? KeyPosition::Unknown : fromEvdev(code - nativeOffset);
+}
+
+std::optional<NativeKey> toNative(KeyPosition position)
+{
+    const auto *found
+        = std::ranges::find(pairs, static_cast<std::uint32_t>(position), &Pair::virtualCode);
     if (found == pairs.end())
         return std::nullopt;
-    return found->evdevCode;
+    return NativeKey{found->evdevCode + nativeOffset};
 }
 
-std::uint32_t forLatinLetter(char32_t letter)
+TypedKey forLatinLetter(char32_t letter)
 {
     for (const LetterRow &row : letterRows) {
-        const auto position = row.letters.find(letter);
-        if (position != std::u32string_view::npos)
-            return fromEvdev(row.firstEvdevCode + static_cast<std::uint32_t>(position));
+        const auto place = row.letters.find(letter);
+        if (place != std::u32string_view::npos)
+            return typedOnAnsiKeyboard(
+                fromEvdev(row.firstEvdevCode + static_cast<std::uint32_t>(place)));
     }
-    return key_code::unknown;
+    return TypedKey::Unknown;
 }
 
 } // namespace corvane::virtual_key_codes

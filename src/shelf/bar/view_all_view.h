@@ -115,7 +115,7 @@ private:
     bool findHovered();
     void updateHover(QPointF point);
     void press(ViewAllControl control) const;
-    void pressKey(std::uint32_t keyCode) const;
+    void pressKey(TypedKey key) const;
     void wireDragSource();
     Image dragImage(const DropItem &grabbed, const QList<DropItem> &items) const;
 

@@ -162,35 +162,35 @@ bool ViewAllView::keyDown(const KeyEvent &event)
     if (!m_isShown)
         return false;
     const bool isCommand = event.modifiers.testFlag(Modifier::Command);
-    switch (event.keyCode) {
-    case key_code::a:
-    case key_code::c:
+    switch (event.key) {
+    case TypedKey::A:
+    case TypedKey::C:
         if (!isCommand)
             return false;
         break;
-    case key_code::deleteBackward:
-    case key_code::deleteForward:
-    case key_code::escape:
+    case TypedKey::DeleteBackward:
+    case TypedKey::DeleteForward:
+    case TypedKey::Escape:
         break;
     default:
         return false;
     }
     // All of them remove or toggle: once for each press.
     if (!event.isRepeat)
-        pressKey(event.keyCode);
+        pressKey(event.key);
     return true;
 }
 
-void ViewAllView::pressKey(std::uint32_t keyCode) const
+void ViewAllView::pressKey(TypedKey key) const
 {
-    switch (keyCode) {
-    case key_code::a:
+    switch (key) {
+    case TypedKey::A:
         call(onToggleSelectAll);
         break;
-    case key_code::c:
+    case TypedKey::C:
         call(onCopySelected);
         break;
-    case key_code::escape:
+    case TypedKey::Escape:
         call(onClose);
         break;
     default:

@@ -21,8 +21,8 @@ namespace {
 const auto needsText = QStringLiteral("Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.");
 const auto unsetText = QStringLiteral("Unset by default. ↓ on the shelf does the same thing.");
 const auto conflictText = QStringLiteral("Another app already uses that combination.");
-constexpr std::uint32_t keyA = 0;
-constexpr std::uint32_t keyB = 11;
+constexpr KeyPosition keyA = KeyPosition::A;
+constexpr KeyPosition keyB{11};
 
 class RecordingUpdater : public Updater {
 public:
@@ -67,10 +67,10 @@ protected:
     }
     SettingRow &shelfRow() { return row("Show or hide the shelf"); }
     SettingRow &viewAllRow() { return row("Show or hide all items"); }
-    void record(QWidget &shortcutRow, std::uint32_t keyCode, const char *letter)
+    void record(QWidget &shortcutRow, KeyPosition key, const char *letter)
     {
         shortcutRow.findChild<ShortcutRecorderView *>()->toggleRecording();
-        desk.keyMonitors.type(keyCode, Modifier::Control, QString::fromUtf8(letter));
+        desk.keyMonitors.type(key, Modifier::Control, QString::fromUtf8(letter));
     }
 
     PreferencesDesk desk;
@@ -238,7 +238,7 @@ TEST_F(GeneralPaneTest, OfTwoEqualCombinationsTheOtherOneIsRegisteredWhenOneIsRe
 
 TEST_F(GeneralPaneTest, ACombinationThatWasRefusedAtLaunchIsSaidToBeTaken)
 {
-    desk.hotKeys.takenByOthers.insert({2, Shortcut::command | Shortcut::shift});
+    desk.hotKeys.takenByOthers.insert({KeyPosition::D, Shortcut::command | Shortcut::shift});
     desk.binder.bindShelf();
     desk.binder.bindViewAll();
     EXPECT_EQ(shelfRow().detail(), conflictText);
@@ -248,11 +248,11 @@ TEST_F(GeneralPaneTest, ACombinationThatWasRefusedAtLaunchIsSaidToBeTaken)
 
 TEST_F(GeneralPaneTest, ACombinationThatHasBecomeFreeSinceIsTaken)
 {
-    desk.hotKeys.takenByOthers.insert({2, Shortcut::command | Shortcut::shift});
+    desk.hotKeys.takenByOthers.insert({KeyPosition::D, Shortcut::command | Shortcut::shift});
     desk.binder.bindShelf();
     desk.hotKeys.takenByOthers.clear();
     EXPECT_EQ(shelfRow().detail(), needsText);
-    EXPECT_TRUE(desk.hotKeys.isRegistered({2, Shortcut::command | Shortcut::shift}));
+    EXPECT_TRUE(desk.hotKeys.isRegistered({KeyPosition::D, Shortcut::command | Shortcut::shift}));
 }
 
 TEST_F(GeneralPaneTest, ConflictsOutliveThePane)

@@ -18,8 +18,9 @@ namespace corvane::test {
 
 namespace {
 
-const Shortcut shiftCommandD = {2, Shortcut::command | Shortcut::shift, QStringLiteral("D")};
-constexpr std::uint32_t keyA = 0;
+const Shortcut shiftCommandD
+    = {KeyPosition{2}, Shortcut::command | Shortcut::shift, QStringLiteral("D")};
+constexpr KeyPosition keyA = KeyPosition::A;
 
 class ShortcutRecorderViewTest : public testing::Test {
 protected:
@@ -109,7 +110,7 @@ TEST_F(ShortcutRecorderViewTest, SpaceAndReturnStartToo)
     for (const int key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter}) {
         type(key);
         EXPECT_TRUE(view->isRecording()) << key;
-        keys.type(key_code::escape, {});
+        keys.type(KeyPosition::Escape, {});
     }
     type(Qt::Key_Space, true);
     EXPECT_FALSE(view->isRecording()) << "a key held from elsewhere";
@@ -207,7 +208,7 @@ TEST_F(ShortcutRecorderViewTest, CentresItsText)
     palette.setColor(QPalette::WindowText, Qt::white);
     view->setPalette(palette);
     view->resize(124, 26);
-    view->setShortcut(Shortcut{96, Shortcut::control, QStringLiteral("F5")});
+    view->setShortcut(Shortcut{KeyPosition{96}, Shortcut::control, QStringLiteral("F5")});
     for (const double scale : {1.0, 2.0}) {
         const QImage image = picture(scale);
         QRect ink;
@@ -225,10 +226,10 @@ TEST_F(ShortcutRecorderViewTest, CentresItsText)
 
 TEST_F(ShortcutRecorderViewTest, AStrangersNameIsShownHarmlesslyAndInBounds)
 {
-    view->setShortcut(Shortcut{2, Shortcut::command, QStringLiteral("a\n\u202eb")});
+    view->setShortcut(Shortcut{KeyPosition{2}, Shortcut::command, QStringLiteral("a\n\u202eb")});
     EXPECT_FALSE(view->text().contains(u'\n'));
     EXPECT_FALSE(view->text().contains(QChar(0x202e)));
-    view->setShortcut(Shortcut{2, Shortcut::command, QString(100000, u'W')});
+    view->setShortcut(Shortcut{KeyPosition{2}, Shortcut::command, QString(100000, u'W')});
     picture();
 }
 

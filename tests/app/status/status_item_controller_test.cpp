@@ -149,7 +149,8 @@ TEST_F(StatusItemControllerTest, AChangedShortcutShowsTheNextTimeTheMenuOpens)
     ASSERT_TRUE(panel.row(u"Show Shelf"));
     EXPECT_EQ(panel.row(u"Show Shelf")->keyEquivalent.sequence(),
               QKeySequence(QStringLiteral("Meta+Shift+D")));
-    settings.setShortcut(Shortcut{40, Shortcut::control | Shortcut::option, QStringLiteral("K")});
+    settings.setShortcut(
+        Shortcut{KeyPosition{40}, Shortcut::control | Shortcut::option, QStringLiteral("K")});
     panel.open();
     EXPECT_EQ(panel.row(u"Show Shelf")->keyEquivalent,
               (KeyEquivalent{QStringLiteral("k"), Modifier::Control | Modifier::Option}));

@@ -23,7 +23,7 @@ QStringList shown(const StatusMenuState &state)
 
 Shortcut shortcut(std::uint32_t modifiers, const QString &character)
 {
-    return {40, modifiers, character};
+    return {KeyPosition{40}, modifiers, character};
 }
 
 } // namespace

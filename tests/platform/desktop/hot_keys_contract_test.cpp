@@ -21,13 +21,13 @@ constexpr std::uint32_t shift = 512;
 constexpr std::uint32_t option = 2048;
 constexpr std::uint32_t control = 4096;
 
-/// Keys by their virtual code and by what they type. The window manager has some with Super alone.
+/// Keys by their place and by what they type. The window manager has some with Super alone.
 struct Key {
-    std::uint32_t code;
+    KeyPosition code;
     std::uint32_t symbol;
 };
-constexpr Key keyD = {2, 'd'};
-constexpr Key keyK = {40, 'k'};
+constexpr Key keyD = {KeyPosition::D, 'd'};
+constexpr Key keyK = {KeyPosition{40}, 'k'};
 constexpr std::uint32_t numLock = 0xff7f;
 constexpr std::uint32_t capsLock = 0xffe5;
 constexpr std::uint32_t scrollLock = 0xff14;
@@ -239,15 +239,15 @@ TYPED_TEST(HotKeysContract, whatIsNotRegisteredAnyMoreIsNotHeard)
 TYPED_TEST(HotKeysContract, impossibleValuesAreRefused)
 {
     for (const std::uint32_t code : {9999U, 0xffffU, 0xffffffffU})
-        EXPECT_FALSE(this->take({code, 0}, command)) << code;
+        EXPECT_FALSE(this->take({KeyPosition{code}, 0}, command)) << code;
     for (const std::uint32_t modifiers : {1U, 1024U, command | 0x10000U, 0xffffffffU})
         EXPECT_FALSE(this->take(keyD, modifiers)) << modifiers;
 }
 
 TYPED_TEST(HotKeysContract, whatTheUserTypesWithIsRefused)
 {
-    constexpr std::uint32_t leftShift = 56;
-    constexpr std::uint32_t capsLockKey = 57;
+    constexpr KeyPosition leftShift{56};
+    constexpr KeyPosition capsLockKey{57};
     for (const std::uint32_t modifiers : {0U, shift})
         EXPECT_FALSE(this->take(keyD, modifiers)) << modifiers;
     EXPECT_FALSE(this->take({leftShift, keys::shift}, option));

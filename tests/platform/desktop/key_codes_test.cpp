@@ -1,4 +1,4 @@
-#include "platform/desktop/keyboard.h"
+#include "platform/desktop/keys.h"
 #include "platform/desktop/virtual_key_codes.h"
 #include "platform/qt/desktop/panel_event_translation.h"
 
@@ -16,15 +16,23 @@ namespace corvane::test {
 
 namespace {
 
+/// The window system's numbers are higher than the kernel's by that.
+constexpr std::uint32_t evdevOffset = 8;
+
+KeyPosition positionOf(std::uint32_t evdevCode)
+{
+    return virtual_key_codes::fromNative(NativeKey{evdevCode + evdevOffset});
+}
+
 QKeyEvent press(int key, std::uint32_t scanCode = 0, Qt::KeyboardModifiers modifiers = {})
 {
     return QKeyEvent(QEvent::KeyPress, key, modifiers, scanCode, 0, 0);
 }
 
-std::uint32_t codeOf(int key, std::uint32_t scanCode = 0)
+TypedKey typedBy(int key, std::uint32_t scanCode = 0)
 {
     const QKeyEvent event = press(key, scanCode);
-    return keyEventFrom(event).keyCode;
+    return keyEventFrom(event).key;
 }
 
 QWheelEvent wheel(QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers = {},
@@ -38,16 +46,16 @@ QWheelEvent wheel(QPoint pixels, QPoint angle, Qt::KeyboardModifiers modifiers =
 
 TEST(VirtualKeyCodes, goBothWays)
 {
-    std::set<std::uint32_t> seen;
-    for (std::uint32_t evdev = 0; evdev < 256; ++evdev) {
-        const auto code = virtual_key_codes::fromEvdev(evdev);
-        if (code == key_code::unknown)
+    std::set<KeyPosition> seen;
+    for (std::uint32_t number = 0; number < 256 + evdevOffset; ++number) {
+        const auto position = virtual_key_codes::fromNative(NativeKey{number});
+        if (position == KeyPosition::Unknown)
             continue;
-        EXPECT_TRUE(seen.insert(code).second) << evdev;
-        EXPECT_EQ(virtual_key_codes::toEvdev(code), evdev);
+        EXPECT_TRUE(seen.insert(position).second) << number;
+        EXPECT_EQ(virtual_key_codes::toNative(position), NativeKey{number});
     }
     EXPECT_GE(seen.size(), 100U);
-    EXPECT_FALSE(virtual_key_codes::toEvdev(key_code::unknown));
+    EXPECT_FALSE(virtual_key_codes::toNative(KeyPosition::Unknown));
 }
 
 TEST(VirtualKeyCodes, eachKeyHasTheCodeThatIsStoredForItsPlace)
@@ -84,47 +92,47 @@ TEST(VirtualKeyCodes, eachKeyHasTheCodeThatIsStoredForItsPlace)
            {KEY_LEFTCTRL, 59},   {KEY_RIGHTCTRL, 62}, {KEY_YEN, 93},        {KEY_RO, 94},
            {KEY_COMPOSE, 110}};
     for (const auto &[place, code] : places)
-        EXPECT_EQ(virtual_key_codes::fromEvdev(place), code) << place;
+        EXPECT_EQ(positionOf(place), KeyPosition{code}) << place;
     int known = 0;
     for (std::uint32_t evdev = 0; evdev < 256; ++evdev)
-        known += virtual_key_codes::fromEvdev(evdev) == key_code::unknown ? 0 : 1;
+        known += positionOf(evdev) == KeyPosition::Unknown ? 0 : 1;
     EXPECT_EQ(known, static_cast<int>(std::size(places))) << "one that is not in the table";
 }
 
 TEST(VirtualKeyCodes, lettersStandWhereAnAnsiKeyboardHasThem)
 {
-    EXPECT_EQ(virtual_key_codes::forLatinLetter(U'C'), key_code::c);
-    EXPECT_EQ(virtual_key_codes::forLatinLetter(U'A'), 0U);
-    EXPECT_EQ(virtual_key_codes::forLatinLetter(U'M'), 46U);
-    EXPECT_EQ(virtual_key_codes::forLatinLetter(U'P'), 35U);
-    EXPECT_EQ(virtual_key_codes::forLatinLetter(U'1'), key_code::unknown);
-    std::set<std::uint32_t> codes;
+    EXPECT_EQ(virtual_key_codes::forLatinLetter(U'C'), TypedKey::C);
+    EXPECT_EQ(virtual_key_codes::forLatinLetter(U'A'), TypedKey::A);
+    EXPECT_EQ(virtual_key_codes::forLatinLetter(U'M'), TypedKey{46});
+    EXPECT_EQ(virtual_key_codes::forLatinLetter(U'P'), TypedKey{35});
+    EXPECT_EQ(virtual_key_codes::forLatinLetter(U'1'), TypedKey::Unknown);
+    std::set<TypedKey> codes;
     for (char32_t letter = U'A'; letter <= U'Z'; ++letter)
         codes.insert(virtual_key_codes::forLatinLetter(letter));
     EXPECT_EQ(codes.size(), 26U);
-    EXPECT_FALSE(codes.contains(key_code::unknown));
+    EXPECT_FALSE(codes.contains(TypedKey::Unknown));
 }
 
 TEST(PanelKeys, aLetterIsTheKeyThatTypesIt)
 {
     // Dvorak's C lies on the key that types I elsewhere.
-    EXPECT_EQ(codeOf(Qt::Key_C, 31), key_code::c);
+    EXPECT_EQ(typedBy(Qt::Key_C, 31), TypedKey::C);
     // A layout without Latin letters: by position.
-    EXPECT_EQ(codeOf(0x6d3, 54), key_code::c);
+    EXPECT_EQ(typedBy(0x6d3, 54), TypedKey::C);
 }
 
 TEST(PanelKeys, namedKeysAreKnownByTheirNames)
 {
-    EXPECT_EQ(codeOf(Qt::Key_Space), key_code::space);
-    EXPECT_EQ(codeOf(Qt::Key_Backspace), key_code::deleteBackward);
-    EXPECT_EQ(codeOf(Qt::Key_Delete), key_code::deleteForward);
+    EXPECT_EQ(typedBy(Qt::Key_Space), TypedKey::Space);
+    EXPECT_EQ(typedBy(Qt::Key_Backspace), TypedKey::DeleteBackward);
+    EXPECT_EQ(typedBy(Qt::Key_Delete), TypedKey::DeleteForward);
     // Caps Lock made an Escape key.
-    EXPECT_EQ(codeOf(Qt::Key_Escape, 66), key_code::escape);
-    EXPECT_EQ(codeOf(Qt::Key_Left), key_code::leftArrow);
-    EXPECT_EQ(codeOf(Qt::Key_Right), key_code::rightArrow);
-    EXPECT_EQ(codeOf(Qt::Key_Down), key_code::downArrow);
-    EXPECT_EQ(codeOf(Qt::Key_unknown, 0), key_code::unknown);
-    EXPECT_EQ(codeOf(Qt::Key_unknown, 255), key_code::unknown);
+    EXPECT_EQ(typedBy(Qt::Key_Escape, 66), TypedKey::Escape);
+    EXPECT_EQ(typedBy(Qt::Key_Left), TypedKey::LeftArrow);
+    EXPECT_EQ(typedBy(Qt::Key_Right), TypedKey::RightArrow);
+    EXPECT_EQ(typedBy(Qt::Key_Down), TypedKey::DownArrow);
+    EXPECT_EQ(typedBy(Qt::Key_unknown, 0), TypedKey::Unknown);
+    EXPECT_EQ(typedBy(Qt::Key_unknown, 255), TypedKey::Unknown);
 }
 
 TEST(PanelKeys, controlAndSuperAreCommand)

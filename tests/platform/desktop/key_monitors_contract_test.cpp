@@ -99,10 +99,10 @@ protected:
 TEST_F(QtKeyMonitorsTest, swallowedKeysReachNothingElseOfTheWindow)
 {
     const auto handle = listen(Disposition::Swallow);
-    EXPECT_EQ(hear('a').keyCode, 0U);
-    EXPECT_EQ(hear(keys::tab).keyCode, 48U);
-    EXPECT_EQ(hear(keys::enter).keyCode, 36U);
-    EXPECT_EQ(hear('k', {keys::control}).keyCode, 40U);
+    EXPECT_EQ(hear('a').keyCode, KeyPosition{0});
+    EXPECT_EQ(hear(keys::tab).keyCode, KeyPosition{48});
+    EXPECT_EQ(hear(keys::enter).keyCode, KeyPosition{36});
+    EXPECT_EQ(hear('k', {keys::control}).keyCode, KeyPosition{40});
     EXPECT_TRUE(first.hasFocus());
     EXPECT_EQ(first.text(), QString());
     EXPECT_EQ(activations, 0);
@@ -139,7 +139,7 @@ TEST_F(QtKeyMonitorsTest, aKeyIsNamedByWhatItTypesWithNoModifierHeld)
 {
     listen(Disposition::Swallow);
     const auto digit = hear('1', {keys::control, keys::shift});
-    EXPECT_EQ(digit.keyCode, 18U);
+    EXPECT_EQ(digit.keyCode, KeyPosition{18});
     EXPECT_EQ(digit.charactersIgnoringModifiers, QStringLiteral("1"));
     EXPECT_EQ(hear('d', {keys::control}).charactersIgnoringModifiers, QStringLiteral("d"));
 }
@@ -150,15 +150,15 @@ TEST_F(QtKeyMonitorsTest, layoutsNameTheKeyAndItsPositionGivesTheCode)
     useLayout({QStringLiteral("-layout"), QStringLiteral("de")});
     constexpr std::uint32_t uDiaeresis = 0xfc;
     const auto umlaut = hear(uDiaeresis, {keys::control});
-    EXPECT_EQ(umlaut.keyCode, 33U);
+    EXPECT_EQ(umlaut.keyCode, KeyPosition{33});
     EXPECT_EQ(umlaut.charactersIgnoringModifiers, QStringLiteral("ü"));
     // Left of the 1 stands a dead key, which types nothing by itself.
-    EXPECT_EQ(layout.charactersOf(50), QStringLiteral("^"));
+    EXPECT_EQ(layout.charactersOf(KeyPosition{50}), QStringLiteral("^"));
 
     useLayout({QStringLiteral("-layout"), QStringLiteral("ru")});
     constexpr std::uint32_t cyrillicVe = 0x6d7;
     const auto letter = hear(cyrillicVe, {keys::control});
-    EXPECT_EQ(letter.keyCode, 2U);
+    EXPECT_EQ(letter.keyCode, KeyPosition{2});
     EXPECT_EQ(letter.charactersIgnoringModifiers, QStringLiteral("в"));
 }
 
@@ -236,10 +236,10 @@ TEST_F(QtKeyMonitorsTest, escapeIsToldByItsSymbolAndItsPlaceIsAlwaysAKey)
     };
     const auto moved = tap(place::capsLock);
     EXPECT_TRUE(moved.isEscape);
-    EXPECT_EQ(moved.keyCode, 57U);
+    EXPECT_EQ(moved.keyCode, KeyPosition{57});
     const auto stranger = tap(place::escape);
     EXPECT_FALSE(stranger.isEscape);
-    EXPECT_EQ(stranger.keyCode, key_code::escape);
+    EXPECT_EQ(stranger.keyCode, KeyPosition::Escape);
     // It has locked the capitals.
     tap(place::escape);
 }
@@ -260,9 +260,9 @@ TEST_F(QtKeyMonitorsTest, aMonitorMayRemoveItselfFromItsHandler)
 
 TEST_F(QtKeyMonitorsTest, aKeypadsDigitIsNamedByItsDigit)
 {
-    EXPECT_EQ(layout.charactersOf(83), QStringLiteral("1"));
-    EXPECT_EQ(layout.charactersOf(53), QString());
-    EXPECT_EQ(layout.charactersOf(9999), QString());
+    EXPECT_EQ(layout.charactersOf(KeyPosition{83}), QStringLiteral("1"));
+    EXPECT_EQ(layout.charactersOf(KeyPosition{53}), QString());
+    EXPECT_EQ(layout.charactersOf(KeyPosition{9999}), QString());
 }
 
 } // namespace corvane::test

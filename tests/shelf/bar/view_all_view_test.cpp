@@ -88,7 +88,7 @@ protected:
     {
         view->scrollWheel({delta, precise, ScrollEvent::Phase::None, 0});
     }
-    bool key(std::uint32_t code, Modifiers modifiers = {})
+    bool key(TypedKey code, Modifiers modifiers = {})
     {
         return view->keyDown({code, modifiers, false});
     }
@@ -345,7 +345,7 @@ TEST_F(ViewAllViewTest, callbacksThatAreNotSetAreSkipped)
     drag(middleOf(0));
     endDrag(DragOperation::Copy);
     scroll(-5);
-    EXPECT_TRUE(key(key_code::escape));
+    EXPECT_TRUE(key(TypedKey::Escape));
 }
 
 // Dragging out
@@ -635,16 +635,16 @@ TEST_F(ViewAllViewTest, aSinglePageDoesNotScroll)
 TEST_F(ViewAllViewTest, commandAndALetterActOnTheSelection)
 {
     show(3);
-    EXPECT_TRUE(key(key_code::a, Modifier::Command));
-    EXPECT_TRUE(key(key_code::c, Modifier::Command));
+    EXPECT_TRUE(key(TypedKey::A, Modifier::Command));
+    EXPECT_TRUE(key(TypedKey::C, Modifier::Command));
     EXPECT_EQ(log, (QStringList{QStringLiteral("select all"), QStringLiteral("copy")}));
 }
 
 TEST_F(ViewAllViewTest, aHeldKeyActsOnce)
 {
     show(3);
-    for (const std::uint32_t code : {key_code::a, key_code::c, key_code::deleteBackward,
-                                     key_code::deleteForward, key_code::escape})
+    for (const TypedKey code : {TypedKey::A, TypedKey::C, TypedKey::DeleteBackward,
+                                TypedKey::DeleteForward, TypedKey::Escape})
         EXPECT_TRUE(view->keyDown({code, Modifier::Command, true})) << "nor is it passed on";
     EXPECT_EQ(log, QStringList());
 }
@@ -653,12 +653,12 @@ TEST_F(ViewAllViewTest, hiddenItTakesNoKeysUntilItIsShownAgain)
 {
     show(3);
     view->wasHidden();
-    EXPECT_FALSE(key(key_code::deleteBackward));
-    EXPECT_FALSE(key(key_code::escape));
-    EXPECT_FALSE(key(key_code::a, Modifier::Command));
+    EXPECT_FALSE(key(TypedKey::DeleteBackward));
+    EXPECT_FALSE(key(TypedKey::Escape));
+    EXPECT_FALSE(key(TypedKey::A, Modifier::Command));
     EXPECT_EQ(log, QStringList());
     view->apply(items, selection, 0);
-    EXPECT_TRUE(key(key_code::escape));
+    EXPECT_TRUE(key(TypedKey::Escape));
     EXPECT_EQ(log, QStringList{QStringLiteral("close")});
 }
 
@@ -698,21 +698,21 @@ TEST_F(ViewAllViewTest, hiddenItForgetsThePressAndThePointer)
 TEST_F(ViewAllViewTest, plainLettersArePassedOn)
 {
     show(3);
-    EXPECT_FALSE(key(key_code::a));
-    EXPECT_FALSE(key(key_code::c));
-    EXPECT_FALSE(key(key_code::c, Modifier::Shift));
-    EXPECT_FALSE(key(key_code::space));
-    EXPECT_FALSE(key(key_code::leftArrow));
-    EXPECT_FALSE(key(key_code::unknown));
+    EXPECT_FALSE(key(TypedKey::A));
+    EXPECT_FALSE(key(TypedKey::C));
+    EXPECT_FALSE(key(TypedKey::C, Modifier::Shift));
+    EXPECT_FALSE(key(TypedKey::Space));
+    EXPECT_FALSE(key(TypedKey::LeftArrow));
+    EXPECT_FALSE(key(TypedKey::Unknown));
     EXPECT_EQ(log, QStringList());
 }
 
 TEST_F(ViewAllViewTest, deleteRemovesAndEscapeCloses)
 {
     show(3);
-    EXPECT_TRUE(key(key_code::deleteBackward));
-    EXPECT_TRUE(key(key_code::deleteForward, Modifier::Shift));
-    EXPECT_TRUE(key(key_code::escape));
+    EXPECT_TRUE(key(TypedKey::DeleteBackward));
+    EXPECT_TRUE(key(TypedKey::DeleteForward, Modifier::Shift));
+    EXPECT_TRUE(key(TypedKey::Escape));
     EXPECT_EQ(
         log,
         (QStringList{QStringLiteral("remove"), QStringLiteral("remove"), QStringLiteral("close")}));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/desktop/keys.h"
+
 #include <QtGlobal>
 
 class QKeyEvent;
@@ -15,7 +17,7 @@ public:
     bool isRepeat(const QKeyEvent &press) const;
 
 private:
-    quint32 m_key = 0;
+    NativeKey m_key = NativeKey::None;
     quint64 m_time = 0;
 };
 

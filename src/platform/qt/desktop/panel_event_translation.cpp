@@ -20,37 +20,34 @@ constexpr double anglePerPoint = 8;
 
 struct NamedKey {
     int qtKey;
-    std::uint32_t keyCode;
+    TypedKey key;
 };
-constexpr std::array namedKeys = {NamedKey{Qt::Key_Space, key_code::space},
-                                  NamedKey{Qt::Key_Backspace, key_code::deleteBackward},
-                                  NamedKey{Qt::Key_Escape, key_code::escape},
-                                  NamedKey{Qt::Key_Delete, key_code::deleteForward},
-                                  NamedKey{Qt::Key_Left, key_code::leftArrow},
-                                  NamedKey{Qt::Key_Right, key_code::rightArrow},
-                                  NamedKey{Qt::Key_Down, key_code::downArrow},
-                                  NamedKey{Qt::Key_Up, 126},
-                                  NamedKey{Qt::Key_Return, 36},
-                                  NamedKey{Qt::Key_Enter, 76},
-                                  NamedKey{Qt::Key_Tab, 48},
-                                  NamedKey{Qt::Key_Backtab, 48},
-                                  NamedKey{Qt::Key_Home, 115},
-                                  NamedKey{Qt::Key_End, 119},
-                                  NamedKey{Qt::Key_PageUp, 116},
-                                  NamedKey{Qt::Key_PageDown, 121},
-                                  NamedKey{Qt::Key_Insert, 114}};
+constexpr std::array namedKeys = {NamedKey{Qt::Key_Space, TypedKey::Space},
+                                  NamedKey{Qt::Key_Backspace, TypedKey::DeleteBackward},
+                                  NamedKey{Qt::Key_Escape, TypedKey::Escape},
+                                  NamedKey{Qt::Key_Delete, TypedKey::DeleteForward},
+                                  NamedKey{Qt::Key_Left, TypedKey::LeftArrow},
+                                  NamedKey{Qt::Key_Right, TypedKey::RightArrow},
+                                  NamedKey{Qt::Key_Down, TypedKey::DownArrow},
+                                  NamedKey{Qt::Key_Up, TypedKey::UpArrow},
+                                  NamedKey{Qt::Key_Return, TypedKey::Return},
+                                  NamedKey{Qt::Key_Enter, TypedKey::KeypadEnter},
+                                  NamedKey{Qt::Key_Tab, TypedKey::Tab},
+                                  NamedKey{Qt::Key_Backtab, TypedKey::Tab},
+                                  NamedKey{Qt::Key_Home, TypedKey::Home},
+                                  NamedKey{Qt::Key_End, TypedKey::End},
+                                  NamedKey{Qt::Key_PageUp, TypedKey::PageUp},
+                                  NamedKey{Qt::Key_PageDown, TypedKey::PageDown},
+                                  NamedKey{Qt::Key_Insert, TypedKey::Insert}};
 
-std::uint32_t keyCodeFrom(const QKeyEvent &event)
+TypedKey typedKeyFrom(const QKeyEvent &event)
 {
     if (event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z)
         return virtual_key_codes::forLatinLetter(static_cast<char32_t>(event.key()));
     const auto *named = std::ranges::find(namedKeys, event.key(), &NamedKey::qtKey);
     if (named != namedKeys.end())
-        return named->keyCode;
-    const std::uint32_t scanCode = event.nativeScanCode();
-    return scanCode < virtual_key_codes::x11Offset
-        ? key_code::unknown
-        : virtual_key_codes::fromEvdev(scanCode - virtual_key_codes::x11Offset);
+        return named->key;
+    return typedOnAnsiKeyboard(virtual_key_codes::fromNative(NativeKey{event.nativeScanCode()}));
 }
 
 /// A vertical wheel counts as horizontal while Shift is held.
@@ -85,7 +82,7 @@ double pointsOf(const QWheelEvent &event, bool isShifted)
 
 KeyEvent keyEventFrom(const QKeyEvent &event)
 {
-    return {keyCodeFrom(event), modifiersFrom(event.modifiers()), event.isAutoRepeat()};
+    return {typedKeyFrom(event), modifiersFrom(event.modifiers()), event.isAutoRepeat()};
 }
 
 std::optional<ScrollEvent> scrollEventFrom(const QWheelEvent &event, double time,

@@ -9,7 +9,7 @@ class QWheelEvent;
 
 namespace corvane {
 
-/// The key's event with its virtual key code: letters by what they type in the user's layout, keys
+/// The key's event: letters by what they type in the user's layout, keys
 /// with a name by that name, everything else by its position.
 KeyEvent keyEventFrom(const QKeyEvent &event);
 

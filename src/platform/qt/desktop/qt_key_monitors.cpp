@@ -12,15 +12,6 @@ namespace corvane {
 
 namespace {
 
-/// By position: a combination is registered by it, too.
-std::uint32_t keyCodeFrom(const QKeyEvent &event)
-{
-    const std::uint32_t scanCode = event.nativeScanCode();
-    return scanCode < virtual_key_codes::x11Offset
-        ? key_code::unknown
-        : virtual_key_codes::fromEvdev(scanCode - virtual_key_codes::x11Offset);
-}
-
 /// Not as elsewhere in our windows, where Control is Command, too.
 Modifiers heldModifiers(Qt::KeyboardModifiers modifiers)
 {
@@ -73,12 +64,13 @@ KeyMonitors::Disposition QtKeyMonitors::notify(const QKeyEvent &key)
     Event event;
     event.modifiers = heldModifiers(key.modifiers());
     const bool isPress = key.type() == QEvent::KeyPress;
-    const std::uint32_t keyCode = keyCodeFrom(key);
-    if (m_layout.changesKeys(key.nativeVirtualKey()) && !(isPress && keyCode == key_code::escape)) {
+    const KeyPosition position = virtual_key_codes::fromNative(NativeKey{key.nativeScanCode()});
+    if (m_layout.changesKeys(KeySymbol{key.nativeVirtualKey()})
+        && !(isPress && position == KeyPosition::Escape)) {
         event.kind = Event::Kind::ModifiersChanged;
     } else if (isPress) {
-        event.keyCode = keyCode;
-        event.charactersIgnoringModifiers = m_layout.charactersOf(keyCode);
+        event.keyCode = position;
+        event.charactersIgnoringModifiers = m_layout.charactersOf(position);
         event.isEscape = key.key() == Qt::Key_Escape;
     } else {
         return Disposition::Pass;

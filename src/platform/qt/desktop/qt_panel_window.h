@@ -91,7 +91,7 @@ private:
     bool m_resignsOnRelease = false;
     /// The latest key that was pressed here and not released.
     struct HeldKey {
-        std::uint32_t key = 0;
+        NativeKey key = NativeKey::None;
         std::uint32_t modifiers = 0;
     };
     std::optional<HeldKey> m_heldKey;

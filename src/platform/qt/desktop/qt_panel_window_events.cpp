@@ -83,12 +83,12 @@ bool QtPanelWindow::handleKey(QKeyEvent &event)
         KeyEvent key = keyEventFrom(event);
         key.isRepeat = m_repeats.isRepeat(event);
         if (!key.isRepeat)
-            m_heldKey = {event.nativeScanCode(), event.nativeModifiers()};
+            m_heldKey = {NativeKey{event.nativeScanCode()}, event.nativeModifiers()};
         event.setAccepted(m_content->keyDown(key));
         return true;
     }
     m_repeats.released(event);
-    const std::uint32_t key = event.nativeScanCode();
+    const NativeKey key{event.nativeScanCode()};
     if (event.isAutoRepeat() || m_surface.isKeyDown(key))
         return false;
     if (m_heldKey && m_heldKey->key == key)

@@ -47,7 +47,7 @@ std::optional<HotKeyService::HandlerRef> X11HotKeys::installHandler(Handler onPr
     return m_handlers.add(std::move(onPressed));
 }
 
-std::optional<HotKeyService::Handle> X11HotKeys::registerHotKey(std::uint32_t keyCode,
+std::optional<HotKeyService::Handle> X11HotKeys::registerHotKey(KeyPosition keyCode,
                                                                 std::uint32_t modifiers,
                                                                 const HotKeyIdentifier &identifier)
 {
@@ -87,14 +87,14 @@ void X11HotKeys::resume()
         grabAll();
 }
 
-std::optional<X11HotKeys::Combination> X11HotKeys::combinationFor(std::uint32_t keyCode,
+std::optional<X11HotKeys::Combination> X11HotKeys::combinationFor(KeyPosition keyCode,
                                                                   std::uint32_t modifiers) const
 {
-    const auto evdevCode = virtual_key_codes::toEvdev(keyCode);
+    const auto native = virtual_key_codes::toNative(keyCode);
     const auto mask = m_mapping.maskFor(modifiers);
-    if (!m_connection.isConnected() || !evdevCode || !mask)
+    if (!m_connection.isConnected() || !native || !mask)
         return std::nullopt;
-    const std::uint32_t key = *evdevCode + virtual_key_codes::x11Offset;
+    const auto key = static_cast<std::uint32_t>(*native);
     const auto *setup = xcb_get_setup(m_connection.get());
     if (key < setup->min_keycode || key > setup->max_keycode || m_mapping.keys.test(key))
         return std::nullopt;

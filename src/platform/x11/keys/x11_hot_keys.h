@@ -29,7 +29,7 @@ public:
     X11HotKeys &operator=(const X11HotKeys &) = delete;
 
     std::optional<HandlerRef> installHandler(Handler onPressed) override;
-    std::optional<Handle> registerHotKey(std::uint32_t keyCode, std::uint32_t modifiers,
+    std::optional<Handle> registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
                                          const HotKeyIdentifier &identifier) override;
     void unregisterHotKey(Handle handle) override;
     std::unique_ptr<Suspension> suspend() override;
@@ -43,7 +43,7 @@ private:
         friend bool operator==(const Combination &, const Combination &) = default;
     };
     struct HotKey {
-        std::uint32_t keyCode = 0;
+        KeyPosition keyCode = KeyPosition::Unknown;
         std::uint32_t modifiers = 0;
         HotKeyIdentifier identifier;
         /// None while it could not be had.
@@ -53,7 +53,7 @@ private:
     };
     class Counted;
 
-    std::optional<Combination> combinationFor(std::uint32_t keyCode, std::uint32_t modifiers) const;
+    std::optional<Combination> combinationFor(KeyPosition keyCode, std::uint32_t modifiers) const;
     bool isHeldByOurselves(const Combination &combination) const;
     bool grab(const Combination &combination);
     void ungrab(const Combination &combination);

@@ -84,11 +84,11 @@ QString textOf(xkb_keymap *keymap, xkb_keycode_t key, xkb_layout_index_t layout)
 
 } // namespace
 
-QString X11KeyboardLayout::charactersOf(std::uint32_t keyCode) const
+QString X11KeyboardLayout::charactersOf(KeyPosition position) const
 {
-    const auto evdevCode = virtual_key_codes::toEvdev(keyCode);
+    const auto native = virtual_key_codes::toNative(position);
     xcb_connection_t *const connection = x11_qt::connection();
-    if (!evdevCode || connection == nullptr || xcb_connection_has_error(connection) != 0
+    if (!native || connection == nullptr || xcb_connection_has_error(connection) != 0
         || xkb_x11_setup_xkb_extension(
                connection, XKB_X11_MIN_MAJOR_XKB_VERSION, XKB_X11_MIN_MINOR_XKB_VERSION,
                XKB_X11_SETUP_XKB_EXTENSION_NO_FLAGS, nullptr, nullptr, nullptr, nullptr)
@@ -105,11 +105,11 @@ QString X11KeyboardLayout::charactersOf(std::uint32_t keyCode) const
     const XkbState state(xkb_x11_state_new_from_device(keymap.get(), connection, device));
     if (!state)
         return {};
-    const xkb_keycode_t key = *evdevCode + virtual_key_codes::x11Offset;
+    const auto key = static_cast<xkb_keycode_t>(*native);
     return textOf(keymap.get(), key, xkb_state_key_get_layout(state.get(), key));
 }
 
-bool X11KeyboardLayout::changesKeys(std::uint32_t symbol) const
+bool X11KeyboardLayout::changesKeys(KeySymbol symbol) const
 {
     struct Range {
         std::uint32_t first;
@@ -125,9 +125,10 @@ bool X11KeyboardLayout::changesKeys(std::uint32_t symbol) const
         Range{XKB_KEY_Mode_switch, XKB_KEY_Num_Lock},
         Range{XKB_KEY_Scroll_Lock, XKB_KEY_Scroll_Lock},
     };
-    return std::ranges::any_of(ranges, [symbol](const Range &range) {
-        return symbol >= range.first && symbol <= range.last;
-    });
+    return std::ranges::any_of(ranges,
+                               [number = static_cast<std::uint32_t>(symbol)](const Range &range) {
+                                   return number >= range.first && number <= range.last;
+                               });
 }
 
 } // namespace corvane

@@ -12,8 +12,8 @@ namespace corvane {
 /// their own.
 class X11KeyboardLayout : public KeyboardLayout {
 public:
-    QString charactersOf(std::uint32_t keyCode) const override;
-    bool changesKeys(std::uint32_t symbol) const override;
+    QString charactersOf(KeyPosition position) const override;
+    bool changesKeys(KeySymbol symbol) const override;
 };
 
 } // namespace corvane

@@ -34,11 +34,11 @@ public:
     void giveKeyboardBack(QWindow &window) override;
     void giveKeyboardBack() override;
     void giveUnclaimedKeyboardBack() override;
-    void swallowRepeats(std::uint32_t key, std::uint32_t modifiers) override
+    void swallowRepeats(NativeKey key, std::uint32_t modifiers) override
     {
         m_keyShield.hold(static_cast<xcb_keycode_t>(key), static_cast<std::uint16_t>(modifiers));
     }
-    bool isKeyDown(std::uint32_t key) const override
+    bool isKeyDown(NativeKey key) const override
     {
         return m_keyShield.isDown(static_cast<xcb_keycode_t>(key));
     }

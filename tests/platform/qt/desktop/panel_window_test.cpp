@@ -320,10 +320,10 @@ TEST_F(PanelWindowTest, takesTheKeyboardOnAClickAndGivesItBack)
     ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
     display.hands.key('c', {e2e::keys::control});
     ASSERT_TRUE(eventually(
-        [&] { return !content.keys.empty() && content.keys.back().keyCode == key_code::c; }));
+        [&] { return !content.keys.empty() && content.keys.back().key == TypedKey::C; }));
     EXPECT_TRUE(content.keys.back().modifiers.testFlag(Modifier::Command));
     display.hands.key(e2e::keys::escape);
-    EXPECT_TRUE(eventually([&] { return content.keys.back().keyCode == key_code::escape; }));
+    EXPECT_TRUE(eventually([&] { return content.keys.back().key == TypedKey::Escape; }));
     panel.orderOut();
     EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
 }
@@ -588,9 +588,9 @@ TEST_F(PanelWindowTest, contentMayGoWhileThePanelIsShown)
 class SwallowingSurface : public X11PanelSurface {
 public:
     using X11PanelSurface::X11PanelSurface;
-    void swallowRepeats(std::uint32_t key, std::uint32_t) override { swallowed.push_back(key); }
+    void swallowRepeats(NativeKey key, std::uint32_t) override { swallowed.push_back(key); }
 
-    std::vector<std::uint32_t> swallowed;
+    std::vector<NativeKey> swallowed;
 };
 
 class HeldKey : public PanelFixture {
@@ -612,7 +612,7 @@ TEST_F(HeldKey, ofAPanelThatHasTheKeyboardIsKeptFromTheProgramBehind)
     panelWithKeys.orderFrontRegardless();
     press(panelWithKeys);
     panelWithKeys.orderOut();
-    EXPECT_EQ(swallowing.swallowed, std::vector<std::uint32_t>{38});
+    EXPECT_EQ(swallowing.swallowed, std::vector{NativeKey{38}});
     panelWithKeys.setContent(nullptr);
 }
 
