@@ -29,7 +29,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     if (choice.newest->notes.size() > release_notes::maximumCharacters
         || choice.newest->shownVersion.size() > UpdateVersion::longestText + 1)
         std::abort();
-    for (const AppcastItem &item : *items) {
+    for (const ClaimedRelease &item : *items) {
         const auto other = UpdateVersion::fromText(
             choice.scale == VersionScale::Build ? item.version : item.shortVersion);
         const UpdateChoice alone = update_choice::choose({item}, system);

@@ -20,7 +20,7 @@ public:
     {
     }
 
-    std::optional<QList<AppcastItem>> read()
+    std::optional<QList<ClaimedRelease>> read()
     {
         if (!enterRoot())
             return std::nullopt;
@@ -98,9 +98,9 @@ private:
         }
     }
 
-    AppcastItem readItem()
+    ClaimedRelease readItem()
     {
-        AppcastItem item;
+        ClaimedRelease item;
         while (m_xml.readNextStartElement()) {
             if (isSparkle("version"))
                 item.version = text().trimmed();
@@ -118,16 +118,16 @@ private:
         return item;
     }
 
-    void readNotes(AppcastItem &item)
+    void readNotes(ClaimedRelease &item)
     {
         const QString format = sparkled("format");
         item.notesAreMarkup = format.isEmpty() || format == QLatin1String("html");
         item.notes = text(release_notes::maximumCharacters);
     }
 
-    void readEnclosure(AppcastItem &item)
+    void readEnclosure(ClaimedRelease &item)
     {
-        AppcastEnclosure enclosure;
+        ClaimedFile enclosure;
         enclosure.url = QUrl(plain("url"), QUrl::StrictMode);
         bool isNumber = false;
         const qint64 length = plain("length").toLongLong(&isNumber);
@@ -143,17 +143,17 @@ private:
             item.version = sparkled("version");
         if (item.shortVersion.isEmpty())
             item.shortVersion = sparkled("shortVersionString");
-        item.enclosures << enclosure;
+        item.files << enclosure;
         m_xml.skipCurrentElement();
     }
 
     QXmlStreamReader m_xml;
-    QList<AppcastItem> m_items;
+    QList<ClaimedRelease> m_items;
 };
 
 } // namespace
 
-std::optional<QList<AppcastItem>> read(const QByteArray &feed)
+std::optional<QList<ClaimedRelease>> read(const QByteArray &feed)
 {
     if (feed.size() > maximumBytes)
         return std::nullopt;

@@ -16,11 +16,11 @@ namespace {
 
 using Stage = UpdateReport::Stage;
 
-bool isComplete(const AppcastEnclosure &enclosure)
+bool isComplete(const ClaimedFile &file)
 {
-    return !enclosure.signature.isEmpty() && enclosure.length > 0
-        && enclosure.length <= UpdateDownload::maximumBytes && enclosure.url.isValid()
-        && !enclosure.url.isRelative();
+    return !file.signature.isEmpty() && file.length > 0
+        && file.length <= UpdateDownload::maximumBytes && file.url.isValid()
+        && !file.url.isRelative();
 }
 
 } // namespace
@@ -142,7 +142,7 @@ void SoftwareUpdater::feedArrived(const std::optional<WebResponse> &response)
         return restUpToDate();
     if (m_taken && choice.newest->version == *m_taken)
         return rest(m_takenReport);
-    if (!isComplete(choice.newest->enclosure))
+    if (!isComplete(choice.newest->file))
         return fail(UpdateFailure::Incomplete);
     m_feedFoundIn = response->foundIn;
     offer(*choice.newest);
@@ -176,7 +176,7 @@ void SoftwareUpdater::offer(const UpdateOffer &offer)
     const auto route = m_report.route;
     m_report = {Stage::Available, offer.shownVersion, offer.notes};
     m_report.route = route;
-    m_report.total = offer.enclosure.length;
+    m_report.total = offer.file.length;
     m_context.display.show(m_report, m_attention);
 }
 

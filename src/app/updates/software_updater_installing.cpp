@@ -41,7 +41,7 @@ void SoftwareUpdater::install()
     m_download = std::make_unique<UpdateDownload>(
         m_context.download,
         UpdateDownload::Plan{
-            m_offer->enclosure, m_feedFoundIn, "Corvane/" + m_program.version.toLatin1(),
+            m_offer->file, m_feedFoundIn, "Corvane/" + m_program.version.toLatin1(),
             replaces ? folderOf(m_program.installation.appImage) : m_program.downloadsFolder});
     // They are not called any more once the download is gone, and it goes with this.
     m_download->onProgress = [this](qint64 received) {
@@ -74,18 +74,18 @@ void SoftwareUpdater::downloadEnded(const std::shared_ptr<UpdateFile> &file,
 
 void SoftwareUpdater::verifyAndInstall(const std::shared_ptr<UpdateFile> &file)
 {
-    const auto work = [file, &files = m_context.files, key = m_program.publicKey,
-                       enclosure = m_offer->enclosure, version = m_offer->version,
-                       installation = m_program.installation]() -> Installed {
+    const auto work
+        = [file, &files = m_context.files, key = m_program.publicKey, claim = m_offer->file,
+           version = m_offer->version, installation = m_program.installation]() -> Installed {
         const auto publicKey = UpdateKey::fromBase64(key);
-        if (!publicKey
-            || !publicKey->hasSigned(file->descriptor(), enclosure.length, enclosure.signature))
+        auto download = publicKey ? publicKey->verify(file, claim) : std::nullopt;
+        if (!download)
             return {UpdateFailure::WrongSignature};
-        const QByteArray name = update_installation::safeName(
-            enclosure.url.fileName(QUrl::FullyDecoded), version.text());
+        const QByteArray name
+            = update_installation::safeName(claim.url.fileName(QUrl::FullyDecoded), version.text());
         const auto outcome = installation.kind == Installation::Kind::AppImage
-            ? update_installation::swap(files, *file, installation.appImage)
-            : update_installation::handOver(files, *file, name);
+            ? update_installation::swap(files, *download, installation.appImage)
+            : update_installation::handOver(files, *download, name);
         if (outcome.error == 0)
             return {std::nullopt, outcome.path, version};
         return {outcome.error == ENOSPC ? UpdateFailure::NoRoom : UpdateFailure::NotWritten};

@@ -36,35 +36,33 @@ bool isAllowed(const QString &minimum, const UpdateSystem &system)
     return !wanted || !present || *present >= *wanted;
 }
 
-bool fits(const AppcastEnclosure &enclosure, const UpdateSystem &system)
+bool fits(const ClaimedFile &file, const UpdateSystem &system)
 {
-    const bool isForSystem = enclosure.system.isEmpty()
-        || enclosure.system.compare(QLatin1String("linux"), Qt::CaseInsensitive) == 0;
-    const bool isForArchitecture = enclosure.architecture.isEmpty()
-        || architectureOf(enclosure.architecture) == architectureOf(system.architecture);
+    const bool isForSystem = file.system.isEmpty()
+        || file.system.compare(QLatin1String("linux"), Qt::CaseInsensitive) == 0;
+    const bool isForArchitecture = file.architecture.isEmpty()
+        || architectureOf(file.architecture) == architectureOf(system.architecture);
     return isForSystem && isForArchitecture;
 }
 
-const AppcastEnclosure *enclosureFor(const AppcastItem &item, const UpdateSystem &system)
+const ClaimedFile *fileFor(const ClaimedRelease &item, const UpdateSystem &system)
 {
     const auto isTooOld = [&system](const QString &minimum) { return !isAllowed(minimum, system); };
     if (std::ranges::any_of(item.minimumSystems, isTooOld))
         return nullptr;
-    const auto found
-        = std::ranges::find_if(item.enclosures, [&system](const AppcastEnclosure &enclosure) {
-              return fits(enclosure, system);
-          });
-    return found == item.enclosures.end() ? nullptr : &*found;
+    const auto found = std::ranges::find_if(
+        item.files, [&system](const ClaimedFile &file) { return fits(file, system); });
+    return found == item.files.end() ? nullptr : &*found;
 }
 
-UpdateOffer offerOf(const AppcastItem &item, const AppcastEnclosure &enclosure,
+UpdateOffer offerOf(const ClaimedRelease &item, const ClaimedFile &file,
                     const UpdateVersion &version)
 {
     const QString notes
         = item.notesAreMarkup ? release_notes::withoutMarkup(item.notes) : item.notes;
     const QString shownVersion = item.shortVersion.isEmpty() ? version.text() : item.shortVersion;
     return {version, displayText(shownVersion.left(UpdateVersion::longestText)),
-            release_notes::shown(notes), enclosure};
+            release_notes::shown(notes), file};
 }
 
 } // namespace
@@ -74,24 +72,24 @@ UpdateSystem UpdateSystem::thisOne()
     return {QSysInfo::buildCpuArchitecture(), QSysInfo::productType(), QSysInfo::productVersion()};
 }
 
-UpdateChoice update_choice::choose(const QList<AppcastItem> &items, const UpdateSystem &system)
+UpdateChoice update_choice::choose(const QList<ClaimedRelease> &items, const UpdateSystem &system)
 {
     UpdateChoice choice;
-    const bool hasBuilds = std::ranges::any_of(items, [&system](const AppcastItem &item) {
-        return enclosureFor(item, system) && UpdateVersion::fromText(item.version);
+    const bool hasBuilds = std::ranges::any_of(items, [&system](const ClaimedRelease &item) {
+        return fileFor(item, system) && UpdateVersion::fromText(item.version);
     });
     choice.scale = hasBuilds ? VersionScale::Build : VersionScale::ShortVersion;
-    const AppcastItem *newest = nullptr;
+    const ClaimedRelease *newest = nullptr;
     std::optional<UpdateVersion> highest;
-    for (const AppcastItem &item : items) {
+    for (const ClaimedRelease &item : items) {
         const auto version = UpdateVersion::fromText(hasBuilds ? item.version : item.shortVersion);
-        if (version && (!highest || *version > *highest) && enclosureFor(item, system)) {
+        if (version && (!highest || *version > *highest) && fileFor(item, system)) {
             newest = &item;
             highest = version;
         }
     }
     if (newest)
-        choice.newest = offerOf(*newest, *enclosureFor(*newest, system), *highest);
+        choice.newest = offerOf(*newest, *fileFor(*newest, system), *highest);
     return choice;
 }
 

@@ -22,14 +22,14 @@ struct UpdateSystem {
 /// that people see. They are never mixed: build 40 is not newer than version 1.2.
 enum class VersionScale { Build, ShortVersion };
 
-/// A version that could run here.
+/// A version that could run here, as the feed claims it.
 struct UpdateOffer {
     UpdateVersion version;
     /// For people; that by which it is compared where there is no other.
     QString shownVersion;
     /// To be shown as it is.
     QString notes;
-    AppcastEnclosure enclosure;
+    ClaimedFile file;
 };
 
 /// What a feed has for this machine.
@@ -42,7 +42,7 @@ struct UpdateChoice {
 namespace update_choice {
 
 /// The newest item that fits the machine. A version that is none is passed over.
-UpdateChoice choose(const QList<AppcastItem> &items, const UpdateSystem &system);
+UpdateChoice choose(const QList<ClaimedRelease> &items, const UpdateSystem &system);
 
 } // namespace update_choice
 

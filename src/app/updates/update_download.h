@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/updates/appcast.h"
+#include "app/updates/claimed_release.h"
 #include "app/updates/update_report.h"
 #include "platform/base/lifetime.h"
 #include "platform/web/web_client.h"
@@ -32,7 +32,7 @@ public:
         WorkQueue &work;
     };
     struct Plan {
-        AppcastEnclosure enclosure;
+        ClaimedFile file;
         /// Where the address was found.
         AddressSpace foundIn = AddressSpace::Public;
         QByteArray userAgent;

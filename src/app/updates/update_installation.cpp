@@ -1,8 +1,8 @@
 #include "app/updates/update_installation.h"
 
 #include "app/updates/installation.h"
-#include "app/updates/update_file.h"
 #include "app/updates/update_files.h"
+#include "app/updates/verified_download.h"
 
 #include <QStringBuilder>
 
@@ -47,39 +47,39 @@ int keepOld(UpdateFiles &files, const QByteArray &appImage)
 
 } // namespace
 
-Outcome swap(UpdateFiles &files, UpdateFile &file, const QByteArray &appImage)
+Outcome swap(UpdateFiles &files, VerifiedDownload &download, const QByteArray &appImage)
 {
     // It may have been moved or replaced since the program was started.
     if (!Installation::isReplaceable(appImage))
         return {ENOENT};
     const QByteArray folder = folderOf(appImage);
-    int error = files.takePermissions(file.descriptor(), appImage);
+    int error = files.takePermissions(download.descriptor(), appImage);
     if (error == 0)
-        error = files.sync(file.descriptor());
+        error = files.sync(download.descriptor());
     if (error == 0)
         error = keepOld(files, appImage);
     if (error == 0)
         error = files.syncFolder(folder);
     if (error == 0)
-        error = files.replace(file.path(), appImage);
+        error = files.replace(download.path(), appImage);
     if (error != 0)
         return {error};
-    file.release();
+    download.release();
     // It has happened; a disk that does not say so now will in a moment.
     files.syncFolder(folder);
     return {0, appImage};
 }
 
-Outcome handOver(UpdateFiles &files, UpdateFile &file, const QByteArray &name)
+Outcome handOver(UpdateFiles &files, VerifiedDownload &download, const QByteArray &name)
 {
-    const QByteArray folder = folderOf(file.path());
-    if (const int error = files.sync(file.descriptor()); error != 0)
+    const QByteArray folder = folderOf(download.path());
+    if (const int error = files.sync(download.descriptor()); error != 0)
         return {error};
     for (int number = 1; number <= maximumNames; ++number) {
         const QByteArray path = folder + '/' + numbered(name, number);
-        const int error = files.moveToFreeName(file.path(), path);
+        const int error = files.moveToFreeName(download.path(), path);
         if (error == 0) {
-            file.release();
+            download.release();
             files.syncFolder(folder);
             return {0, path};
         }

@@ -5,10 +5,10 @@
 
 namespace corvane {
 
-class UpdateFile;
 class UpdateFiles;
+class VerifiedDownload;
 
-/// Puts a verified file where it belongs. Blocks; any thread.
+/// Puts a verified download where it belongs. Blocks; any thread.
 namespace update_installation {
 
 /// Behind an AppImage's name: the one before, as long as the new one has never run.
@@ -27,10 +27,10 @@ struct Outcome {
 ///     permissions, sync            the new file is whole
 ///     keep the old one, sync       two names for the old file, unless an older one is still kept
 ///     replace, sync                the new file under the AppImage's name, in one step
-Outcome swap(UpdateFiles &files, UpdateFile &file, const QByteArray &appImage);
+Outcome swap(UpdateFiles &files, VerifiedDownload &download, const QByteArray &appImage);
 
 /// Gives it a name of its own in the folder that it is in. Nothing is overwritten.
-Outcome handOver(UpdateFiles &files, UpdateFile &file, const QByteArray &name);
+Outcome handOver(UpdateFiles &files, VerifiedDownload &download, const QByteArray &name);
 
 /// The name for a file from this address: its last part where that is harmless, else one with the
 /// version.

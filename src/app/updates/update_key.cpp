@@ -26,6 +26,14 @@ std::optional<UpdateKey> UpdateKey::fromBase64(const QString &text)
     return UpdateKey(result.decoded);
 }
 
+std::optional<VerifiedDownload> UpdateKey::verify(const std::shared_ptr<UpdateFile> &file,
+                                                  const ClaimedFile &claim) const
+{
+    if (!hasSigned(file->descriptor(), claim.length, claim.signature))
+        return std::nullopt;
+    return VerifiedDownload(file);
+}
+
 bool UpdateKey::hasSigned(int descriptor, qint64 length, const QByteArray &signature) const
 {
     struct stat status = {};

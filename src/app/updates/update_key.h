@@ -1,8 +1,12 @@
 #pragma once
 
+#include "app/updates/claimed_release.h"
+#include "app/updates/verified_download.h"
+
 #include <QByteArray>
 #include <QString>
 
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -14,12 +18,16 @@ public:
     /// 32 bytes in base64; none for anything else.
     static std::optional<UpdateKey> fromBase64(const QString &text);
 
-    /// Whether the first `length` bytes of the file, which are all, were signed with this key. The
-    /// signature covers the whole file at once, so it is mapped and not read: only as much memory
-    /// is taken as the system has to spare. Nobody may shorten the file meanwhile. Any thread.
-    bool hasSigned(int descriptor, qint64 length, const QByteArray &signature) const;
+    /// The file, if it is as long as was claimed and this key signed all of it; none otherwise.
+    /// Nobody may write to the file meanwhile or afterwards. Any thread.
+    std::optional<VerifiedDownload> verify(const std::shared_ptr<UpdateFile> &file,
+                                           const ClaimedFile &claim) const;
 
 private:
+    /// The signature covers the whole file at once, so it is mapped and not read: only as much
+    /// memory is taken as the system has to spare.
+    bool hasSigned(int descriptor, qint64 length, const QByteArray &signature) const;
+
     explicit UpdateKey(QByteArray bytes)
         : m_bytes(std::move(bytes))
     {

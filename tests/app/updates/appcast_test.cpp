@@ -7,9 +7,9 @@ namespace corvane::test {
 
 namespace {
 
-QList<AppcastItem> itemsOf(const QByteArray &contents)
+QList<ClaimedRelease> itemsOf(const QByteArray &contents)
 {
-    return appcast::read(feed(contents)).value_or(QList<AppcastItem>());
+    return appcast::read(feed(contents)).value_or(QList<ClaimedRelease>());
 }
 
 } // namespace
@@ -25,14 +25,14 @@ TEST(Appcast, AnItemIsReadWithEverythingThatItSays)
         "sparkle:os='linux' sparkle:arch='x86_64' sparkle:edSignature='"
         + QByteArray(64, 's').toBase64() + "'/></item>");
     ASSERT_EQ(items.size(), 1);
-    const AppcastItem &item = items.first();
+    const ClaimedRelease &item = items.first();
     EXPECT_EQ(item.version, QStringLiteral("12"));
     EXPECT_EQ(item.shortVersion, QStringLiteral("1.2"));
     EXPECT_EQ(item.minimumSystems, QStringList{QStringLiteral("debian 12")});
     EXPECT_EQ(item.notes, QStringLiteral("News"));
     EXPECT_TRUE(item.notesAreMarkup);
-    ASSERT_EQ(item.enclosures.size(), 1);
-    const AppcastEnclosure &enclosure = item.enclosures.first();
+    ASSERT_EQ(item.files.size(), 1);
+    const ClaimedFile &enclosure = item.files.first();
     EXPECT_EQ(enclosure.url, QUrl(QStringLiteral("https://corvane.example/a")));
     EXPECT_EQ(enclosure.length, 10);
     EXPECT_EQ(enclosure.system, QStringLiteral("linux"));
@@ -65,7 +65,7 @@ TEST(Appcast, ASignatureThatIsNoneIsNone)
     for (const QByteArray &text :
          {QByteArray("%%%"), QByteArray("QUJD"), QByteArray(65, 's').toBase64()}) {
         const auto items = itemsOf("<item><enclosure sparkle:edSignature='" + text + "'/></item>");
-        EXPECT_TRUE(items.first().enclosures.first().signature.isEmpty());
+        EXPECT_TRUE(items.first().files.first().signature.isEmpty());
     }
 }
 
@@ -73,7 +73,7 @@ TEST(Appcast, ALengthThatIsNoneIsNone)
 {
     for (const char *text : {"", "-1", "ten", "99999999999999999999"}) {
         const auto items = itemsOf("<item><enclosure length='" + QByteArray(text) + "'/></item>");
-        EXPECT_EQ(items.first().enclosures.first().length, -1) << text;
+        EXPECT_EQ(items.first().files.first().length, -1) << text;
     }
 }
 

@@ -54,14 +54,14 @@ bool isNewEnough(const UpdateSystem &machine, const QString &minimum)
 }
 
 /// Which of the item's files is for the machine; -1 for none.
-int fileFor(const UpdateSystem &machine, const AppcastItem &item)
+int fileFor(const UpdateSystem &machine, const ClaimedRelease &item)
 {
     for (const QString &minimum : item.minimumSystems) {
         if (!isNewEnough(machine, minimum))
             return -1;
     }
-    for (int i = 0; i < item.enclosures.size(); ++i) {
-        const AppcastEnclosure &file = item.enclosures[i];
+    for (int i = 0; i < item.files.size(); ++i) {
+        const ClaimedFile &file = item.files[i];
         if (isForSystem(file.system)
             && (file.architecture.isEmpty()
                 || isSameMachine(file.architecture, machine.architecture)))
@@ -79,17 +79,17 @@ public:
         const UpdateSystem machine{word(steps, {"x86_64", "arm64", "riscv64"}),
                                    word(steps, {"debian", "Debian", "arch"}),
                                    word(steps, {"12", "12.1", "13", "", "sid"})};
-        QList<AppcastItem> feed;
+        QList<ClaimedRelease> feed;
         for (int left = steps.below(7); left > 0; --left)
             feed << item(steps);
         const UpdateChoice choice = update_choice::choose(feed, machine);
 
-        const bool hasBuilds = std::ranges::any_of(feed, [&](const AppcastItem &one) {
+        const bool hasBuilds = std::ranges::any_of(feed, [&](const ClaimedRelease &one) {
             return fileFor(machine, one) >= 0 && !numbersOf(one.version).isEmpty();
         });
         ASSERT_EQ(choice.scale, hasBuilds ? VersionScale::Build : VersionScale::ShortVersion);
-        const AppcastItem *best = nullptr;
-        for (const AppcastItem &one : feed) {
+        const ClaimedRelease *best = nullptr;
+        for (const ClaimedRelease &one : feed) {
             const auto numbers = numbersOf(hasBuilds ? one.version : one.shortVersion);
             if (numbers.isEmpty() || fileFor(machine, one) < 0)
                 continue;
@@ -115,9 +115,9 @@ private:
             numbers << word(steps, {"0", "1", "1", "2", "9", "10", "01", "00"});
         return numbers.join(u'.');
     }
-    AppcastItem item(RandomSteps &steps)
+    ClaimedRelease item(RandomSteps &steps)
     {
-        AppcastItem one;
+        ClaimedRelease one;
         if (!steps.oneIn(3))
             one.version = version(steps);
         if (!steps.oneIn(4))
@@ -128,24 +128,25 @@ private:
                                        {"debian 12", "debian 13", "DEBIAN 12.1", "arch 1",
                                         "ubuntu 99", "13", "debian sid", "debian 12 13"});
         for (int left = steps.below(3) + (steps.oneIn(4) ? 0 : 1); left > 0; --left) {
-            AppcastEnclosure file;
+            ClaimedFile file;
             file.length = ++made;
             file.system = word(steps, {"", "", "linux", "Linux", "macos", "windows"});
             file.architecture = word(steps, {"", "x86_64", "amd64", "AMD64", "aarch64", "arm64"});
-            one.enclosures << file;
+            one.files << file;
         }
         steps.note(QStringLiteral("item '%1' '%2' for %3, files %4")
                        .arg(one.version, one.shortVersion, one.minimumSystems.join(u','))
-                       .arg(one.enclosures.size()));
+                       .arg(one.files.size()));
         return one;
     }
-    static void compare(const UpdateOffer &offer, const AppcastItem &best, int file, bool isBuild)
+    static void compare(const UpdateOffer &offer, const ClaimedRelease &best, int file,
+                        bool isBuild)
     {
         const QString version = isBuild ? best.version : best.shortVersion;
         ASSERT_EQ(offer.notes, best.notes);
         ASSERT_EQ(offer.version.text(), version);
         ASSERT_EQ(offer.shownVersion, best.shortVersion.isEmpty() ? version : best.shortVersion);
-        ASSERT_EQ(offer.enclosure.length, best.enclosures[file].length);
+        ASSERT_EQ(offer.file.length, best.files[file].length);
     }
 
     int made = 0;

@@ -8,37 +8,37 @@ namespace {
 
 const UpdateSystem debian{QStringLiteral("x86_64"), QStringLiteral("debian"), QStringLiteral("12")};
 
-AppcastItem item(const char *version, const char *shortVersion = "")
+ClaimedRelease item(const char *version, const char *shortVersion = "")
 {
-    AppcastItem item;
+    ClaimedRelease item;
     item.version = QString::fromLatin1(version);
     item.shortVersion = QString::fromLatin1(shortVersion);
-    item.enclosures = {AppcastEnclosure()};
+    item.files = {ClaimedFile()};
     return item;
 }
 
-AppcastItem itemWith(const char *system, const char *architecture)
+ClaimedRelease itemWith(const char *system, const char *architecture)
 {
-    AppcastItem one = item("5");
-    one.enclosures.first().system = QString::fromLatin1(system);
-    one.enclosures.first().architecture = QString::fromLatin1(architecture);
+    ClaimedRelease one = item("5");
+    one.files.first().system = QString::fromLatin1(system);
+    one.files.first().architecture = QString::fromLatin1(architecture);
     return one;
 }
 
-AppcastItem itemFrom(const char *minimum)
+ClaimedRelease itemFrom(const char *minimum)
 {
-    AppcastItem one = item("5");
+    ClaimedRelease one = item("5");
     one.minimumSystems = {QString::fromLatin1(minimum)};
     return one;
 }
 
-QString newest(const QList<AppcastItem> &items, const UpdateSystem &system = debian)
+QString newest(const QList<ClaimedRelease> &items, const UpdateSystem &system = debian)
 {
     const auto choice = update_choice::choose(items, system);
     return choice.newest ? choice.newest->version.text() : QString();
 }
 
-bool fits(const AppcastItem &item, const UpdateSystem &system = debian)
+bool fits(const ClaimedRelease &item, const UpdateSystem &system = debian)
 {
     return !newest({item}, system).isEmpty();
 }
@@ -53,11 +53,11 @@ TEST(UpdateChoice, TakesTheNewestWhereverItStands)
 
 TEST(UpdateChoice, BuildsCountAndVersionsForPeopleOnlyWhereThereAreNone)
 {
-    const QList<AppcastItem> both = {item("7", "9.0"), item("8", "1.0"), item("", "99")};
+    const QList<ClaimedRelease> both = {item("7", "9.0"), item("8", "1.0"), item("", "99")};
     EXPECT_EQ(newest(both), QStringLiteral("8"));
     EXPECT_EQ(update_choice::choose(both, debian).scale, VersionScale::Build);
     EXPECT_EQ(update_choice::choose(both, debian).newest->shownVersion, QStringLiteral("1.0"));
-    const QList<AppcastItem> people = {item("", "1.9"), item("", "1.10")};
+    const QList<ClaimedRelease> people = {item("", "1.9"), item("", "1.10")};
     EXPECT_EQ(newest(people), QStringLiteral("1.10"));
     EXPECT_EQ(update_choice::choose(people, debian).scale, VersionScale::ShortVersion);
 }
@@ -79,8 +79,8 @@ TEST(UpdateChoice, AnItemWithoutAFileForThisSystemIsPassedOver)
     EXPECT_TRUE(fits(itemWith("Linux", "")));
     EXPECT_FALSE(fits(itemWith("macos", "")));
     EXPECT_FALSE(fits(itemWith("windows", "x86_64")));
-    AppcastItem none = item("5");
-    none.enclosures.clear();
+    ClaimedRelease none = item("5");
+    none.files.clear();
     EXPECT_FALSE(fits(none));
     EXPECT_EQ(newest({itemWith("macos", ""), item("4")}), QStringLiteral("4"));
 }
@@ -98,12 +98,12 @@ TEST(UpdateChoice, AFileIsForThisArchitectureOrForAll)
 
 TEST(UpdateChoice, OfSeveralFilesTheFirstThatFitsIsTaken)
 {
-    AppcastItem several = itemWith("linux", "arm64");
-    AppcastEnclosure ours;
+    ClaimedRelease several = itemWith("linux", "arm64");
+    ClaimedFile ours;
     ours.architecture = QStringLiteral("x86_64");
     ours.length = 7;
-    several.enclosures << ours;
-    EXPECT_EQ(update_choice::choose({several}, debian).newest->enclosure.length, 7);
+    several.files << ours;
+    EXPECT_EQ(update_choice::choose({several}, debian).newest->file.length, 7);
 }
 
 TEST(UpdateChoice, AMinimumBindsOnlyTheDistributionThatItNames)
@@ -125,7 +125,7 @@ TEST(UpdateChoice, ARollingReleaseIsNewEnough)
 
 TEST(UpdateChoice, NotesAreShownAsText)
 {
-    AppcastItem one = item("5");
+    ClaimedRelease one = item("5");
     one.notes = QStringLiteral("<p>A &amp; B</p>");
     one.notesAreMarkup = true;
     EXPECT_EQ(update_choice::choose({one}, debian).newest->notes, QStringLiteral("A & B"));

@@ -1,7 +1,10 @@
+#include "app/updates/test_key.h"
 #include "app/updates/update_file.h"
 #include "app/updates/update_files.h"
 #include "app/updates/update_folder.h"
 #include "app/updates/update_installation.h"
+#include "app/updates/update_key.h"
+#include "app/updates/verified_download.h"
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -90,13 +93,23 @@ std::unique_ptr<UpdateFile> downloaded(const UpdateFolder &folder)
     return file;
 }
 
+/// The same, verified.
+std::optional<VerifiedDownload> verified(const UpdateFolder &folder)
+{
+    const TestKey owner;
+    ClaimedFile claim;
+    claim.length = UpdateFolder::newImage().size();
+    claim.signature = owner.sign(UpdateFolder::newImage());
+    return UpdateKey::fromBase64(owner.publicText())->verify(downloaded(folder), claim);
+}
+
 /// How a swap in a process of its own ended: the signal that killed it.
 int swapInOtherProcess(const UpdateFolder &folder, int step, FaultyFiles::Fault fault)
 {
     const pid_t child = ::fork();
     if (child == 0) {
         FaultyFiles files(step, fault);
-        const auto file = downloaded(folder);
+        auto file = verified(folder);
         swap(files, *file, folder.appImage());
         ::_exit(0);
     }
@@ -123,7 +136,7 @@ TEST(UpdateSwap, TheNewOneTakesThePlaceAndTheOldOneIsKeptBesideIt)
     UpdateFolder folder;
     ASSERT_EQ(::chmod(folder.appImage().constData(), 0751), 0);
     FaultyFiles files(noStep, FaultyFiles::Fault::Fail);
-    auto file = downloaded(folder);
+    auto file = verified(folder);
     const Outcome outcome = swap(files, *file, folder.appImage());
     file.reset();
     EXPECT_EQ(outcome.error, 0);
@@ -153,7 +166,7 @@ TEST(UpdateSwap, WheneverTheProcessIsKilledAWholeImageIsThereAndTheNextSwapWorks
             }
 
             PosixUpdateFiles files;
-            auto file = downloaded(folder);
+            auto file = verified(folder);
             ASSERT_EQ(swap(files, *file, folder.appImage()).error, 0) << step;
             file.reset();
             EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::newImage());
@@ -168,7 +181,7 @@ TEST(UpdateSwap, WhateverFailsBeforeTheReplacementLeavesTheOldOneUntouched)
     for (int step = 0; step < stepsOfSwap - 1; ++step) {
         UpdateFolder folder;
         FaultyFiles files(step, FaultyFiles::Fault::Fail);
-        auto file = downloaded(folder);
+        auto file = verified(folder);
         EXPECT_EQ(swap(files, *file, folder.appImage()).error, EIO) << step;
         file.reset();
         EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::oldImage()) << step;
@@ -180,7 +193,7 @@ TEST(UpdateSwap, AFailureAfterTheReplacementIsNone)
 {
     UpdateFolder folder;
     FaultyFiles files(stepsOfSwap - 1, FaultyFiles::Fault::Fail);
-    auto file = downloaded(folder);
+    auto file = verified(folder);
     EXPECT_EQ(swap(files, *file, folder.appImage()).error, 0);
     file.reset();
     EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::newImage());
@@ -191,7 +204,7 @@ TEST(UpdateSwap, OfTwoUpdatesInARowTheOneThatRunsIsKept)
     UpdateFolder folder;
     PosixUpdateFiles files;
     for (int i = 0; i < 2; ++i) {
-        auto file = downloaded(folder);
+        auto file = verified(folder);
         ASSERT_EQ(swap(files, *file, folder.appImage()).error, 0);
     }
     EXPECT_TRUE(UpdateFolder::contents(folder.previous()) == UpdateFolder::oldImage());
@@ -202,7 +215,7 @@ TEST(UpdateSwap, SomethingElseUnderTheNameOfTheKeptOneIsLeftAloneAndNothingHappe
     UpdateFolder folder;
     folder.write("Corvane.AppImage.before-update", "the user's");
     PosixUpdateFiles files;
-    auto file = downloaded(folder);
+    auto file = verified(folder);
     EXPECT_EQ(swap(files, *file, folder.appImage()).error, EEXIST);
     removePrevious(files, folder.appImage());
     EXPECT_EQ(UpdateFolder::contents(folder.previous()), "the user's");
@@ -214,7 +227,7 @@ TEST(UpdateSwap, AnImageThatIsGoneOrAnotherFileByNowIsNotReplaced)
     UpdateFolder folder;
     folder.write("Corvane.AppImage", "the user's");
     PosixUpdateFiles files;
-    auto file = downloaded(folder);
+    auto file = verified(folder);
     EXPECT_NE(swap(files, *file, folder.appImage()).error, 0);
     EXPECT_EQ(UpdateFolder::contents(folder.appImage()), "the user's");
     ASSERT_TRUE(QFile::remove(QFile::decodeName(folder.appImage())));
@@ -226,7 +239,7 @@ TEST(UpdateSwap, TheKeptOneGoesOnceTheNewOneRuns)
 {
     UpdateFolder folder;
     PosixUpdateFiles files;
-    auto file = downloaded(folder);
+    auto file = verified(folder);
     ASSERT_EQ(swap(files, *file, folder.appImage()).error, 0);
     file.reset();
     removePrevious(files, folder.appImage());
@@ -240,7 +253,7 @@ TEST(UpdateHandOver, NothingThatIsThereIsOverwritten)
     PosixUpdateFiles files;
     folder.write("new.bin", "the user's");
     for (const char *name : {"new-2.bin", "new-3.bin"}) {
-        auto file = downloaded(folder);
+        auto file = verified(folder);
         const Outcome outcome = handOver(files, *file, "new.bin");
         EXPECT_EQ(outcome.error, 0);
         EXPECT_EQ(outcome.path, folder.path(name));
@@ -256,9 +269,9 @@ TEST(UpdateHandOver, AHundredNamesAreTriedAndNoMore)
     folder.write("new.bin", "1");
     for (int number = 2; number < 100; ++number)
         folder.write("new-" + QByteArray::number(number) + ".bin", "n");
-    auto last = downloaded(folder);
+    auto last = verified(folder);
     EXPECT_EQ(handOver(files, *last, "new.bin").path, folder.path("new-100.bin"));
-    auto tooMany = downloaded(folder);
+    auto tooMany = verified(folder);
     EXPECT_EQ(handOver(files, *tooMany, "new.bin").error, EEXIST);
 }
 
@@ -267,7 +280,7 @@ TEST(UpdateHandOver, ALinkThatWaitsUnderTheNameIsNotFollowed)
     UpdateFolder folder;
     ASSERT_EQ(::symlink("Corvane.AppImage", folder.path("new").constData()), 0);
     PosixUpdateFiles files;
-    auto file = downloaded(folder);
+    auto file = verified(folder);
     EXPECT_EQ(handOver(files, *file, "new").path, folder.path("new-2"));
     EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::oldImage());
 }

@@ -1,7 +1,6 @@
 #include "app/updates/test_key.h"
+#include "app/updates/update_folder.h"
 #include "app/updates/update_key.h"
-
-#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
 
@@ -14,14 +13,23 @@ protected:
     bool isSigned(const QByteArray &bytes, const QByteArray &signature,
                   std::optional<qint64> length = {})
     {
-        QTemporaryFile stored;
-        EXPECT_TRUE(stored.open());
-        stored.write(bytes);
-        stored.flush();
+        int error = 0;
+        const std::shared_ptr<UpdateFile> stored
+            = UpdateFile::make(folder.path(), bytes.size(), error);
         const auto key = UpdateKey::fromBase64(owner.publicText());
-        return key && key->hasSigned(stored.handle(), length.value_or(bytes.size()), signature);
+        if (!stored || !stored->append(bytes) || !key) {
+            ADD_FAILURE() << "no file or no key: " << error;
+            return false;
+        }
+        ClaimedFile claim;
+        claim.length = length.value_or(bytes.size());
+        claim.signature = signature;
+        const auto verified = key->verify(stored, claim);
+        EXPECT_TRUE(!verified || verified->path() == stored->path());
+        return verified.has_value();
     }
 
+    UpdateFolder folder;
     TestKey owner;
     QByteArray file = QByteArray(200'000, 'f');
 };
