@@ -6,6 +6,8 @@
 
 #include <QFile>
 
+#include <csignal>
+
 namespace corvane::e2e {
 namespace {
 
@@ -53,6 +55,47 @@ TEST_P(VirtualDesktop, carriesTextIntoAnEditor)
     hands().release();
 
     EXPECT_EQ(other.text("some text"), "some text");
+}
+
+/// What tools/virtual-desktop starts.
+std::unique_ptr<Program> desktopWith(const QString &script)
+{
+    return std::make_unique<Program>(
+        QCoreApplication::applicationDirPath() + u"/corvane_virtual_desktop"_s,
+        QStringList{u"--no-compositor"_s, u"--size"_s, u"800x600"_s, u"sh"_s, u"-c"_s, script},
+        QProcessEnvironment::systemEnvironment());
+}
+
+/// The display and the home folder, as the script says them; two empty texts while it does not.
+QStringList saidBy(Program &desktop)
+{
+    const QStringList lines = QString::fromUtf8(desktop.output()).split(u'\n');
+    const QStringList said = lines.filter(u"desktop "_s).value(0).split(u' ');
+    return {said.value(1), said.value(2)};
+}
+
+const QString tell = u"echo desktop $DISPLAY $HOME; "_s;
+
+TEST(VirtualDesktopStarter, runsACommandAndEndsTheDesktopWithIt)
+{
+    const auto desktop = desktopWith(tell + u"xdpyinfo | grep -q ' 800x600 ' && exit 7"_s);
+    EXPECT_EQ(desktop->waitForEnd(patience), 7);
+    const QStringList said = saidBy(*desktop);
+    ASSERT_FALSE(said.at(1).isEmpty());
+    EXPECT_FALSE(QFile::exists(said.at(1)));
+    EXPECT_FALSE(XServer(said.at(0).toLatin1()).isConnected());
+}
+
+TEST(VirtualDesktopStarter, aSignalEndsTheCommandAndThenTheDesktop)
+{
+    const auto desktop = desktopWith(tell + u"exec sleep 1000"_s);
+    ASSERT_TRUE(eventually([&] { return !saidBy(*desktop).at(1).isEmpty(); }));
+    const QStringList said = saidBy(*desktop);
+    EXPECT_TRUE(XServer(said.at(0).toLatin1()).isConnected());
+    desktop->signal(SIGTERM);
+    EXPECT_EQ(desktop->waitForEnd(patience), 128 + SIGTERM);
+    EXPECT_FALSE(QFile::exists(said.at(1)));
+    EXPECT_FALSE(XServer(said.at(0).toLatin1()).isConnected());
 }
 
 } // namespace

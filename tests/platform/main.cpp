@@ -6,7 +6,6 @@
 #include "platform/scenes.h"
 
 #include <QApplication>
-#include <QProcess>
 
 #include <gtest/gtest.h>
 
@@ -29,12 +28,8 @@ int runOnDesktop(int argc, char **argv)
     const QString checks = environment.value(QStringLiteral("ASAN_OPTIONS"));
     environment.insert(QStringLiteral("ASAN_OPTIONS"),
                        checks + QLatin1String(":strict_string_checks=0"));
-    QProcess inner;
-    inner.setProcessEnvironment(environment);
-    inner.setProcessChannelMode(QProcess::ForwardedChannels);
-    inner.start(QCoreApplication::applicationFilePath(), application.arguments().mid(1));
-    inner.waitForFinished(-1);
-    return inner.exitStatus() == QProcess::NormalExit ? inner.exitCode() : 1;
+    return corvane::e2e::XDesktop::runToEnd(QCoreApplication::applicationFilePath(),
+                                            application.arguments().mid(1), environment);
 }
 
 } // namespace

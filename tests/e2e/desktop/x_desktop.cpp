@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <sys/prctl.h>
 #include <unistd.h>
 
 #include <csignal>
@@ -39,7 +40,7 @@ XDesktop::XDesktop(DesktopKind kind)
     m_environment.insert(u"NO_AT_BRIDGE"_s, u"1"_s);
     m_environment.insert(u"GTK_A11Y"_s, u"none"_s);
 
-    startServer();
+    startServer(kind.size);
     if (m_problem.isEmpty())
         startBus();
     if (m_problem.isEmpty())
@@ -48,12 +49,12 @@ XDesktop::XDesktop(DesktopKind kind)
         startCompositor();
 }
 
-void XDesktop::startServer()
+void XDesktop::startServer(QSize size)
 {
     // The server picks a free number by itself and writes it where it is told to.
     m_xvfb = start(u"Xvfb"_s,
                    {u"-displayfd"_s, u"1"_s, u"-noreset"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s,
-                    u"0"_s, u"1512x982x24"_s});
+                    u"0"_s, u"%1x%2x24"_s.arg(size.width()).arg(size.height())});
     // Its messages come the same way; a line with nothing but a number is the answer.
     QByteArray number;
     const bool told = eventually([&] {
@@ -112,6 +113,28 @@ std::unique_ptr<Program> XDesktop::start(const QString &name, const QStringList 
 {
     return std::make_unique<Program>(name, arguments, m_environment,
                                      m_environment.value(u"HOME"_s));
+}
+
+int XDesktop::runToEnd(const QString &name, const QStringList &arguments,
+                       const QProcessEnvironment &environment,
+                       const std::function<void(pid_t)> &started)
+{
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.setInputChannelMode(QProcess::ForwardedInputChannel);
+    // It is not left over if this program is ended.
+    process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
+    process.start(name, arguments);
+    if (!process.waitForStarted()) {
+        qWarning("%s does not start: %s", qPrintable(name), qPrintable(process.errorString()));
+        return 1;
+    }
+    if (started)
+        started(static_cast<pid_t>(process.processId()));
+    process.waitForFinished(-1);
+    const int signalBase = process.exitStatus() == QProcess::CrashExit ? 128 : 0;
+    return signalBase + process.exitCode();
 }
 
 std::optional<WindowFacts>

@@ -5,8 +5,11 @@
 #include "e2e/desktop/x_server.h"
 
 #include <QProcessEnvironment>
+#include <QSize>
 #include <QString>
 #include <QTemporaryDir>
+
+#include <sys/types.h>
 
 #include <functional>
 #include <memory>
@@ -20,9 +23,10 @@ enum class Compositor { None, Picom };
 struct DesktopKind {
     WindowManager windowManager = WindowManager::Openbox;
     Compositor compositor = Compositor::Picom;
+    QSize size{1512, 982};
 };
 
-/// A desktop of the test's own: X server, window manager, perhaps a compositor, session bus, and a
+/// A desktop without a display: X server, window manager, perhaps a compositor, session bus, and a
 /// home folder that nobody else uses. Ends everything that it started.
 class XDesktop {
 public:
@@ -40,6 +44,11 @@ public:
     QString path(const QString &name) const { return m_home.filePath(name); }
 
     std::unique_ptr<Program> start(const QString &name, const QStringList &arguments);
+    /// Runs a program to its end with the input and output of this one, and gives its exit status,
+    /// or 128 + the number of the signal that ended it. `started` is told its process.
+    static int runToEnd(const QString &name, const QStringList &arguments,
+                        const QProcessEnvironment &environment,
+                        const std::function<void(pid_t)> &started = {});
     /// The first window, viewable and in the window manager's care, that the condition holds for.
     std::optional<WindowFacts> waitForWindow(const std::function<bool(const WindowFacts &)> &holds);
     std::optional<WindowFacts> waitForWindowOf(const Program &program);
@@ -58,7 +67,7 @@ public:
     void removeTemporaryFiles() const;
 
 private:
-    void startServer();
+    void startServer(QSize size);
     void startBus();
     void startWindowManager(WindowManager windowManager);
     void startCompositor();

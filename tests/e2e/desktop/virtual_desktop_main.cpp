@@ -1,0 +1,80 @@
+// Runs a command on a desktop of its own and ends that desktop along with it; the exit status is
+// the command's. tools/virtual-desktop calls it.
+
+#include "e2e/desktop/x_desktop.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+
+#include <unistd.h>
+
+#include <atomic>
+#include <csignal>
+
+namespace {
+
+using namespace corvane::e2e;
+using namespace Qt::StringLiterals;
+
+/// The command's process; 0 before it runs.
+std::atomic<pid_t> command = 0;
+
+/// A signal to this program ends the command, and then the desktop in good order.
+void passOn(int number)
+{
+    if (command == 0)
+        ::_exit(128 + number);
+    ::kill(command, number);
+}
+
+/// The home folder belongs to somebody who knows the program: its guide for new users stays closed.
+bool closeTheGuide(const XDesktop &desktop)
+{
+    const QString folder = desktop.environment().value(u"XDG_CONFIG_HOME"_s) + u"/Corvane"_s;
+    QFile settings(folder + u"/Corvane.conf"_s);
+    return QDir().mkpath(folder) && settings.open(QFile::WriteOnly)
+        && settings.write("[General]\nsettings.seenWelcome=true\n") > 0;
+}
+
+QSize sizeFrom(const QString &text)
+{
+    return {text.section(u'x', 0, 0).toInt(), text.section(u'x', 1).toInt()};
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    const QCommandLineOption manager(u"window-manager"_s, u"openbox or xfwm4"_s, u"name"_s,
+                                     u"openbox"_s);
+    const QCommandLineOption noCompositor(u"no-compositor"_s, u"nothing is blended"_s);
+    const QCommandLineOption size(u"size"_s, u"of the screen"_s, u"WxH"_s, u"1512x982"_s);
+    QCommandLineParser parser;
+    parser.addOptions({manager, noCompositor, size});
+    parser.addHelpOption();
+    parser.addPositionalArgument(u"command"_s, u"runs on the desktop"_s, u"COMMAND..."_s);
+    // What follows the command is the command's.
+    parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
+    parser.process(application);
+    QStringList arguments = parser.positionalArguments();
+    const QString managerName = parser.value(manager);
+    const bool isKnown = managerName == u"openbox"_s || managerName == u"xfwm4"_s;
+    if (arguments.isEmpty() || !isKnown || sizeFrom(parser.value(size)).isEmpty())
+        parser.showHelp(2);
+
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+        std::signal(number, passOn);
+    XDesktop desktop({managerName == u"xfwm4"_s ? WindowManager::Xfwm4 : WindowManager::Openbox,
+                      parser.isSet(noCompositor) ? Compositor::None : Compositor::Picom,
+                      sizeFrom(parser.value(size))});
+    if (!desktop.problem().isEmpty() || !closeTheGuide(desktop)) {
+        qWarning("virtual-desktop: %s", qPrintable(desktop.problem()));
+        return 1;
+    }
+    const QString name = arguments.takeFirst();
+    return desktop.runToEnd(name, arguments, desktop.environment(),
+                            [](pid_t process) { command = process; });
+}
