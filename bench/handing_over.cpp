@@ -14,7 +14,7 @@
 #include "fakes/test_clock.h"
 #include "platform/freedesktop/mount_table.h"
 #include "platform/qt/pasteboard/mime_encoding.h"
-#include "platform/qt/pasteboard/qt_general_pasteboard.h"
+#include "platform/qt/pasteboard/qt_clipboard.h"
 #include "platform/system/file_url.h"
 #include "support/table.h"
 
@@ -69,7 +69,7 @@ void measure()
     test::FakeWorkQueue work;
     test::TestClock clock;
     DataUris dataUris(mounts, remoteFiles, work, clock);
-    QtGeneralPasteboard pasteboard;
+    QtClipboard pasteboard;
     const Feedback feedback;
     test::TemporarySpool temporary;
     ItemPreparation preparation(temporary.spool, clock, work);

@@ -6,7 +6,7 @@
 #include "core/quick_actions.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
-#include "fakes/fake_general_pasteboard.h"
+#include "fakes/fake_clipboard.h"
 #include "fakes/fake_login_items.h"
 #include "fakes/fake_pointer.h"
 #include "fakes/fake_screens.h"
@@ -73,7 +73,7 @@ struct Shelf {
     test::FakeScreens screens;
     test::FakePointer pointer;
     ScreenLocator locator{screens, pointer};
-    test::FakeGeneralPasteboard clipboard;
+    test::FakeClipboard clipboard;
     test::FakeWorkQueue work;
     DataUris dataUris{desk.locality, desk.remoteFiles, work, desk.clock};
     QuickActions quickActions{clipboard, feedback, dataUris, desk.preparation, desk.savedPictures};

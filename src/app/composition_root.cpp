@@ -100,7 +100,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
     , ingest(spool, pictureItems, mountTable, remoteDescriptions, remotePictures, textDescriptions)
     , savedPictures(spool, itemPreparation)
     , dataUris(mountTable, remoteFiles, workQueue, mainQueue)
-    , quickActions(generalPasteboard, feedback, dataUris, itemPreparation, savedPictures)
+    , quickActions(clipboard, feedback, dataUris, itemPreparation, savedPictures)
     , thumbnailCache(imageCodec, thumbnailPlaces(spool))
     , thumbnailerRegistry(ThumbnailerRegistry::environmentDataFolders(),
                           ThumbnailerRegistry::environmentProgramFolders())
@@ -248,7 +248,7 @@ std::unique_ptr<Updater> CompositionRoot::makeUpdater()
     return std::make_unique<SoftwareUpdater>(
         SoftwareUpdater::Context{updateClient,
                                  {updateClient, mainQueue, updateWork},
-                                 updateFiles,
+                                 installationSteps,
                                  updateWindow,
                                  desktopServices,
                                  UpdateRecordFile(UpdateRecordFile::environmentFolder()),

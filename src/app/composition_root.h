@@ -5,7 +5,7 @@
 #include "app/shell_windows.h"
 #include "app/status/desktop_status_item.h"
 #include "app/status/status_item_controller.h"
-#include "app/updates/update_files.h"
+#include "app/updates/installation_steps.h"
 #include "app/updates/update_window_controller.h"
 #include "app/updates/updater_controller.h"
 #include "core/data_uris.h"
@@ -41,7 +41,7 @@
 #include "platform/qt/desktop/qt_keyboard.h"
 #include "platform/qt/desktop/qt_panel_window.h"
 #include "platform/qt/desktop/qt_screens.h"
-#include "platform/qt/pasteboard/qt_general_pasteboard.h"
+#include "platform/qt/pasteboard/qt_clipboard.h"
 #include "platform/qt/pictures/qt_file_icons.h"
 #include "platform/qt/pictures/qt_image_codec.h"
 #include "platform/qt/pictures/qt_text_measurer.h"
@@ -89,7 +89,7 @@ struct CompositionRoot {
     QtWebClient webClient;
     QtScreens screens;
     QtKeyboard keyboard;
-    QtGeneralPasteboard generalPasteboard;
+    QtClipboard clipboard;
     QtUserDefaults userDefaults;
     QtDesktopServices desktopServices;
     MountTable mountTable;
@@ -160,7 +160,7 @@ struct CompositionRoot {
 
     // Updates, where this build looks for any.
     Installation installation;
-    PosixUpdateFiles updateFiles;
+    PosixInstallationSteps installationSteps;
     UpdateWindowController updateWindow;
     // Of their own: an update takes minutes, and previews do not wait for it. Neither has a thread
     // before it is used.

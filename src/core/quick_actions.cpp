@@ -5,6 +5,7 @@
 #include "core/feedback.h"
 #include "core/item_preparation.h"
 #include "core/saved_pictures.h"
+#include "platform/pasteboard/clipboard.h"
 #include "platform/pasteboard/pasteboard_writer.h"
 #include "platform/system/file_url.h"
 
@@ -64,9 +65,8 @@ qsizetype countThatArrives(const QList<DropItem> &items)
 
 } // namespace
 
-QuickActions::QuickActions(GeneralPasteboard &pasteboard, const Feedback &feedback,
-                           DataUris &dataUris, ItemPreparation &preparation,
-                           SavedPictures &pictures)
+QuickActions::QuickActions(Clipboard &pasteboard, const Feedback &feedback, DataUris &dataUris,
+                           ItemPreparation &preparation, SavedPictures &pictures)
     : m_pasteboard(pasteboard)
     , m_feedback(feedback)
     , m_dataUris(dataUris)

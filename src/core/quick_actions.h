@@ -10,7 +10,7 @@ namespace corvane {
 
 class DataUris;
 struct Feedback;
-class GeneralPasteboard;
+class Clipboard;
 class ItemPreparation;
 class SavedPictures;
 
@@ -21,7 +21,7 @@ class SavedPictures;
 /// program.
 class QuickActions {
 public:
-    QuickActions(GeneralPasteboard &pasteboard, const Feedback &feedback, DataUris &dataUris,
+    QuickActions(Clipboard &pasteboard, const Feedback &feedback, DataUris &dataUris,
                  ItemPreparation &preparation, SavedPictures &pictures);
 
     /// A clipboard holds one picture of a type: of several that are held in memory it is given
@@ -44,7 +44,7 @@ private:
     void copyAsItIs(const DropItem &item);
     void writeSeveral(const QList<DropItem> &items, qsizetype count);
 
-    GeneralPasteboard &m_pasteboard;
+    Clipboard &m_pasteboard;
     const Feedback &m_feedback;
     DataUris &m_dataUris;
     ItemPreparation &m_preparation;

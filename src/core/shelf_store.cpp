@@ -1,9 +1,10 @@
 #include "core/shelf_store.h"
 
 #include "core/feedback.h"
-#include "core/item_loading.h"
+#include "core/link_preview_source.h"
 #include "core/scratch_spool.h"
 #include "core/settings.h"
+#include "core/thumbnail_source.h"
 #include "platform/base/checked_math.h"
 
 #include <algorithm>

@@ -1,9 +1,10 @@
 // What completes an item after it was accepted: thumbnails and link previews. Results come back
 // after any time, so the store is held weakly and the item found again by its id.
 
-#include "core/item_loading.h"
+#include "core/link_preview_source.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
+#include "core/thumbnail_source.h"
 #include "platform/web/shown_address.h"
 
 #include <utility>

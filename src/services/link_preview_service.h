@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/item_loading.h"
+#include "core/link_preview_source.h"
 #include "platform/base/lifetime.h"
 #include "platform/web/web_client.h"
 #include "services/page_reader.h"

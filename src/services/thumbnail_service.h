@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/item_loading.h"
+#include "core/thumbnail_source.h"
 #include "platform/base/lifetime.h"
 #include "platform/pictures/thumbnail_generator.h"
 #include "services/thumbnail_queue.h"

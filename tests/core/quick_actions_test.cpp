@@ -5,8 +5,8 @@
 #include "core/saved_pictures.h"
 #include "core/spool_place.h"
 #include "core/temporary_spool.h"
+#include "fakes/fake_clipboard.h"
 #include "fakes/fake_file_locality.h"
-#include "fakes/fake_general_pasteboard.h"
 #include "fakes/fake_remote_files.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
@@ -96,7 +96,7 @@ struct QuickActionsTest : testing::Test {
     }
 
     test::TemporaryFolder temporary;
-    test::FakeGeneralPasteboard pasteboard;
+    test::FakeClipboard pasteboard;
     Feedback feedback;
     test::FakeFileLocality locality;
     test::FakeRemoteFiles remoteFiles;

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "core/item_loading.h"
+#include "core/link_preview_source.h"
+#include "core/thumbnail_source.h"
 
 #include <utility>
 #include <vector>

@@ -5,7 +5,7 @@
 #include "core/quick_actions.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
-#include "fakes/fake_general_pasteboard.h"
+#include "fakes/fake_clipboard.h"
 #include "fakes/fake_login_items.h"
 #include "fakes/fake_pointer.h"
 #include "fakes/fake_screens.h"
@@ -42,7 +42,7 @@ struct ShelfModel {
     std::shared_ptr<Screen> screen = screens.attach(QRectF(0, 0, 1512, 982));
     FakePointer pointer;
     ScreenLocator locator{screens, pointer};
-    FakeGeneralPasteboard clipboard;
+    FakeClipboard clipboard;
     FakeWorkQueue work;
     DataUris dataUris{desk.locality, desk.remoteFiles, work, desk.clock};
     QuickActions quickActions{clipboard, feedback, dataUris, desk.preparation, desk.savedPictures};

@@ -46,8 +46,8 @@ void SoftwareUpdater::start()
     // Once the main queue runs, the AppImage does.
     m_context.download.queue.async(m_lifetime.guard([this] {
         m_context.download.work.run(
-            [&files = m_context.files, appImage = m_program.installation.appImage] {
-                update_installation::removePrevious(files, appImage);
+            [&steps = m_context.steps, appImage = m_program.installation.appImage] {
+                update_installation::removePrevious(steps, appImage);
             });
     }));
 }

@@ -17,7 +17,7 @@
 namespace corvane {
 
 class DesktopServices;
-class UpdateFiles;
+class InstallationSteps;
 
 /// Looks for new versions in a feed, and takes them when the user says so.
 ///
@@ -54,7 +54,7 @@ public:
     struct Context {
         WebClient &web;
         UpdateDownload::Context download;
-        UpdateFiles &files;
+        InstallationSteps &steps;
         UpdateDisplay &display;
         DesktopServices &desktop;
         UpdateRecordFile record;

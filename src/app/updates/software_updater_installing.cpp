@@ -1,6 +1,6 @@
+#include "app/updates/installation_steps.h"
 #include "app/updates/software_updater.h"
 #include "app/updates/update_file.h"
-#include "app/updates/update_files.h"
 #include "app/updates/update_installation.h"
 #include "platform/base/work_queue.h"
 #include "platform/system/desktop_services.h"
@@ -75,7 +75,7 @@ void SoftwareUpdater::downloadEnded(const std::shared_ptr<UpdateFile> &file,
 void SoftwareUpdater::verifyAndInstall(const std::shared_ptr<UpdateFile> &file)
 {
     const auto work
-        = [file, &files = m_context.files, key = m_program.publicKey, claim = m_offer->file,
+        = [file, &steps = m_context.steps, key = m_program.publicKey, claim = m_offer->file,
            version = m_offer->version, installation = m_program.installation]() -> Installed {
         const auto publicKey = UpdateKey::fromBase64(key);
         auto download = publicKey ? publicKey->verify(file, claim) : std::nullopt;
@@ -84,8 +84,8 @@ void SoftwareUpdater::verifyAndInstall(const std::shared_ptr<UpdateFile> &file)
         const QByteArray name
             = update_installation::safeName(claim.url.fileName(QUrl::FullyDecoded), version.text());
         const auto outcome = installation.kind == Installation::Kind::AppImage
-            ? update_installation::swap(files, *download, installation.appImage)
-            : update_installation::handOver(files, *download, name);
+            ? update_installation::swap(steps, *download, installation.appImage)
+            : update_installation::handOver(steps, *download, name);
         if (outcome.error == 0)
             return {std::nullopt, outcome.path, version};
         return {outcome.error == ENOSPC ? UpdateFailure::NoRoom : UpdateFailure::NotWritten};

@@ -1,7 +1,7 @@
 #include "app/updates/update_installation.h"
 
 #include "app/updates/installation.h"
-#include "app/updates/update_files.h"
+#include "app/updates/installation_steps.h"
 #include "app/updates/verified_download.h"
 
 #include <QStringBuilder>
@@ -37,50 +37,50 @@ QByteArray numbered(const QByteArray &name, int number)
     return name.left(end) + suffix + name.mid(end);
 }
 
-int keepOld(UpdateFiles &files, const QByteArray &appImage)
+int keepOld(InstallationSteps &steps, const QByteArray &appImage)
 {
     const QByteArray previous = appImage + previousSuffix;
-    const int error = files.keep(appImage, previous);
+    const int error = steps.keep(appImage, previous);
     // An update before this one has not been started yet: the one that is kept is that which runs.
     return error == EEXIST && Installation::isReplaceable(previous) ? 0 : error;
 }
 
 } // namespace
 
-Outcome swap(UpdateFiles &files, VerifiedDownload &download, const QByteArray &appImage)
+Outcome swap(InstallationSteps &steps, VerifiedDownload &download, const QByteArray &appImage)
 {
     // It may have been moved or replaced since the program was started.
     if (!Installation::isReplaceable(appImage))
         return {ENOENT};
     const QByteArray folder = folderOf(appImage);
-    int error = files.takePermissions(download.descriptor(), appImage);
+    int error = steps.takePermissions(download.descriptor(), appImage);
     if (error == 0)
-        error = files.sync(download.descriptor());
+        error = steps.sync(download.descriptor());
     if (error == 0)
-        error = keepOld(files, appImage);
+        error = keepOld(steps, appImage);
     if (error == 0)
-        error = files.syncFolder(folder);
+        error = steps.syncFolder(folder);
     if (error == 0)
-        error = files.replace(download.path(), appImage);
+        error = steps.replace(download.path(), appImage);
     if (error != 0)
         return {error};
     download.release();
     // It has happened; a disk that does not say so now will in a moment.
-    files.syncFolder(folder);
+    steps.syncFolder(folder);
     return {0, appImage};
 }
 
-Outcome handOver(UpdateFiles &files, VerifiedDownload &download, const QByteArray &name)
+Outcome handOver(InstallationSteps &steps, VerifiedDownload &download, const QByteArray &name)
 {
     const QByteArray folder = folderOf(download.path());
-    if (const int error = files.sync(download.descriptor()); error != 0)
+    if (const int error = steps.sync(download.descriptor()); error != 0)
         return {error};
     for (int number = 1; number <= maximumNames; ++number) {
         const QByteArray path = folder + '/' + numbered(name, number);
-        const int error = files.moveToFreeName(download.path(), path);
+        const int error = steps.moveToFreeName(download.path(), path);
         if (error == 0) {
             download.release();
-            files.syncFolder(folder);
+            steps.syncFolder(folder);
             return {0, path};
         }
         if (error != EEXIST)
@@ -97,11 +97,11 @@ QByteArray safeName(const QString &lastPartOfAddress, const QString &version)
     return isSafe ? lastPartOfAddress.toLatin1() : "Corvane-" + version.toLatin1();
 }
 
-void removePrevious(UpdateFiles &files, const QByteArray &appImage)
+void removePrevious(InstallationSteps &steps, const QByteArray &appImage)
 {
     const QByteArray previous = appImage + previousSuffix;
     if (Installation::isReplaceable(previous))
-        files.remove(previous);
+        steps.remove(previous);
 }
 
 } // namespace corvane::update_installation

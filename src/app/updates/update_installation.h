@@ -5,7 +5,7 @@
 
 namespace corvane {
 
-class UpdateFiles;
+class InstallationSteps;
 class VerifiedDownload;
 
 /// Puts a verified download where it belongs. Blocks; any thread.
@@ -27,17 +27,17 @@ struct Outcome {
 ///     permissions, sync            the new file is whole
 ///     keep the old one, sync       two names for the old file, unless an older one is still kept
 ///     replace, sync                the new file under the AppImage's name, in one step
-Outcome swap(UpdateFiles &files, VerifiedDownload &download, const QByteArray &appImage);
+Outcome swap(InstallationSteps &steps, VerifiedDownload &download, const QByteArray &appImage);
 
 /// Gives it a name of its own in the folder that it is in. Nothing is overwritten.
-Outcome handOver(UpdateFiles &files, VerifiedDownload &download, const QByteArray &name);
+Outcome handOver(InstallationSteps &steps, VerifiedDownload &download, const QByteArray &name);
 
 /// The name for a file from this address: its last part where that is harmless, else one with the
 /// version.
 QByteArray safeName(const QString &lastPartOfAddress, const QString &version);
 
 /// The AppImage runs: the one before is not needed any more.
-void removePrevious(UpdateFiles &files, const QByteArray &appImage);
+void removePrevious(InstallationSteps &steps, const QByteArray &appImage);
 
 } // namespace update_installation
 

@@ -39,15 +39,4 @@ struct PasteboardContents {
     std::optional<QString> string;
 };
 
-/// The clipboard.
-class GeneralPasteboard {
-public:
-    virtual ~GeneralPasteboard() = default;
-
-    /// Clears it, then writes `contents` in one go.
-    virtual void write(const PasteboardContents &contents) = 0;
-    /// Another number whenever anybody, also another program, has put something there.
-    virtual qint64 changeCount() const = 0;
-};
-
 } // namespace corvane

@@ -1,6 +1,6 @@
+#include "app/updates/installation_steps.h"
 #include "app/updates/test_key.h"
 #include "app/updates/update_file.h"
-#include "app/updates/update_files.h"
 #include "app/updates/update_folder.h"
 #include "app/updates/update_installation.h"
 #include "app/updates/update_key.h"
@@ -24,7 +24,7 @@ namespace {
 using namespace update_installation;
 
 /// The real steps, of which one ends the process or fails.
-class FaultyFiles : public PosixUpdateFiles {
+class FaultyFiles : public PosixInstallationSteps {
 public:
     enum class Fault { KillBefore, KillAfter, Fail };
 
@@ -36,27 +36,27 @@ public:
 
     int takePermissions(int descriptor, const QByteArray &path) override
     {
-        return step([&] { return PosixUpdateFiles::takePermissions(descriptor, path); });
+        return step([&] { return PosixInstallationSteps::takePermissions(descriptor, path); });
     }
     int sync(int descriptor) override
     {
-        return step([&] { return PosixUpdateFiles::sync(descriptor); });
+        return step([&] { return PosixInstallationSteps::sync(descriptor); });
     }
     int syncFolder(const QByteArray &folder) override
     {
-        return step([&] { return PosixUpdateFiles::syncFolder(folder); });
+        return step([&] { return PosixInstallationSteps::syncFolder(folder); });
     }
     int keep(const QByteArray &path, const QByteArray &otherPath) override
     {
-        return step([&] { return PosixUpdateFiles::keep(path, otherPath); });
+        return step([&] { return PosixInstallationSteps::keep(path, otherPath); });
     }
     int replace(const QByteArray &from, const QByteArray &to) override
     {
-        return step([&] { return PosixUpdateFiles::replace(from, to); });
+        return step([&] { return PosixInstallationSteps::replace(from, to); });
     }
     int moveToFreeName(const QByteArray &from, const QByteArray &to) override
     {
-        return step([&] { return PosixUpdateFiles::moveToFreeName(from, to); });
+        return step([&] { return PosixInstallationSteps::moveToFreeName(from, to); });
     }
 
     int steps() const { return m_count; }
@@ -165,7 +165,7 @@ TEST(UpdateSwap, WheneverTheProcessIsKilledAWholeImageIsThereAndTheNextSwapWorks
                 EXPECT_TRUE(UpdateFolder::contents(folder.previous()) == UpdateFolder::oldImage());
             }
 
-            PosixUpdateFiles files;
+            PosixInstallationSteps files;
             auto file = verified(folder);
             ASSERT_EQ(swap(files, *file, folder.appImage()).error, 0) << step;
             file.reset();
@@ -202,7 +202,7 @@ TEST(UpdateSwap, AFailureAfterTheReplacementIsNone)
 TEST(UpdateSwap, OfTwoUpdatesInARowTheOneThatRunsIsKept)
 {
     UpdateFolder folder;
-    PosixUpdateFiles files;
+    PosixInstallationSteps files;
     for (int i = 0; i < 2; ++i) {
         auto file = verified(folder);
         ASSERT_EQ(swap(files, *file, folder.appImage()).error, 0);
@@ -214,7 +214,7 @@ TEST(UpdateSwap, SomethingElseUnderTheNameOfTheKeptOneIsLeftAloneAndNothingHappe
 {
     UpdateFolder folder;
     folder.write("Corvane.AppImage.before-update", "the user's");
-    PosixUpdateFiles files;
+    PosixInstallationSteps files;
     auto file = verified(folder);
     EXPECT_EQ(swap(files, *file, folder.appImage()).error, EEXIST);
     removePrevious(files, folder.appImage());
@@ -226,7 +226,7 @@ TEST(UpdateSwap, AnImageThatIsGoneOrAnotherFileByNowIsNotReplaced)
 {
     UpdateFolder folder;
     folder.write("Corvane.AppImage", "the user's");
-    PosixUpdateFiles files;
+    PosixInstallationSteps files;
     auto file = verified(folder);
     EXPECT_NE(swap(files, *file, folder.appImage()).error, 0);
     EXPECT_EQ(UpdateFolder::contents(folder.appImage()), "the user's");
@@ -238,7 +238,7 @@ TEST(UpdateSwap, AnImageThatIsGoneOrAnotherFileByNowIsNotReplaced)
 TEST(UpdateSwap, TheKeptOneGoesOnceTheNewOneRuns)
 {
     UpdateFolder folder;
-    PosixUpdateFiles files;
+    PosixInstallationSteps files;
     auto file = verified(folder);
     ASSERT_EQ(swap(files, *file, folder.appImage()).error, 0);
     file.reset();
@@ -250,7 +250,7 @@ TEST(UpdateSwap, TheKeptOneGoesOnceTheNewOneRuns)
 TEST(UpdateHandOver, NothingThatIsThereIsOverwritten)
 {
     UpdateFolder folder;
-    PosixUpdateFiles files;
+    PosixInstallationSteps files;
     folder.write("new.bin", "the user's");
     for (const char *name : {"new-2.bin", "new-3.bin"}) {
         auto file = verified(folder);
@@ -265,7 +265,7 @@ TEST(UpdateHandOver, NothingThatIsThereIsOverwritten)
 TEST(UpdateHandOver, AHundredNamesAreTriedAndNoMore)
 {
     UpdateFolder folder;
-    PosixUpdateFiles files;
+    PosixInstallationSteps files;
     folder.write("new.bin", "1");
     for (int number = 2; number < 100; ++number)
         folder.write("new-" + QByteArray::number(number) + ".bin", "n");
@@ -279,7 +279,7 @@ TEST(UpdateHandOver, ALinkThatWaitsUnderTheNameIsNotFollowed)
 {
     UpdateFolder folder;
     ASSERT_EQ(::symlink("Corvane.AppImage", folder.path("new").constData()), 0);
-    PosixUpdateFiles files;
+    PosixInstallationSteps files;
     auto file = verified(folder);
     EXPECT_EQ(handOver(files, *file, "new").path, folder.path("new-2"));
     EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::oldImage());

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/updates/feeds.h"
+#include "app/updates/installation_steps.h"
 #include "app/updates/software_updater.h"
 #include "app/updates/test_key.h"
-#include "app/updates/update_files.h"
 #include "app/updates/update_folder.h"
 #include "fakes/fake_desktop_services.h"
 #include "fakes/fake_update_display.h"
@@ -109,7 +109,7 @@ struct UpdaterDesk {
     FakeWebDownloader downloader;
     TestClock clock;
     FakeWorkQueue work;
-    PosixUpdateFiles files;
+    PosixInstallationSteps files;
     FakeUpdateDisplay display;
     FakeDesktopServices desktop;
     Installation installation;

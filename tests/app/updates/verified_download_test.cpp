@@ -15,12 +15,13 @@ namespace corvane::test {
 namespace {
 
 template<typename File>
-constexpr bool canBeSwapped = requires(UpdateFiles &files, File &file, const QByteArray &path)
+constexpr bool canBeSwapped = requires(InstallationSteps &files, File &file, const QByteArray &path)
 {
     update_installation::swap(files, file, path);
 };
 template<typename File>
-constexpr bool canBeHandedOver = requires(UpdateFiles &files, File &file, const QByteArray &name)
+constexpr bool canBeHandedOver
+    = requires(InstallationSteps &files, File &file, const QByteArray &name)
 {
     update_installation::handOver(files, file, name);
 };

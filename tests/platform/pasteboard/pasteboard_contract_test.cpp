@@ -4,7 +4,7 @@
 #include "platform/qt/pasteboard/fetched_pasteboard.h"
 #include "platform/qt/pasteboard/mime_encoding.h"
 #include "platform/qt/pasteboard/pasteboard_text.h"
-#include "platform/qt/pasteboard/qt_general_pasteboard.h"
+#include "platform/qt/pasteboard/qt_clipboard.h"
 #include "platform/qt/pasteboard/qt_pasteboard.h"
 #include "platform/system/file_url.h"
 
@@ -187,9 +187,9 @@ TEST(MimeEncoding, whatIsWrittenIsReadAgain)
     EXPECT_EQ(file_url::nativePath(pasteboard.fileUrls().constFirst()), "/a b#c/\xFF.txt");
 }
 
-TEST(QtGeneralPasteboard, replacesTheClipboard)
+TEST(QtClipboard, replacesTheClipboard)
 {
-    QtGeneralPasteboard general;
+    QtClipboard general;
     general.write({{{PasteboardWriter::Data{"bytes", UTType(png)}}}, {}});
     general.write({{{PasteboardWriter::Text{QStringLiteral("text")}}}, {}});
     const QMimeData *clipboard = QGuiApplication::clipboard()->mimeData();
@@ -224,9 +224,9 @@ TEST(QtPasteboard, aTextThatIsTooLargeIsNoneRatherThanHalf)
     EXPECT_FALSE(QtPasteboard(&mimeData).string());
 }
 
-TEST(QtGeneralPasteboard, countsWhatAnotherProgramPutsThere)
+TEST(QtClipboard, countsWhatAnotherProgramPutsThere)
 {
-    QtGeneralPasteboard general;
+    QtClipboard general;
     general.write({{{PasteboardWriter::Text{QStringLiteral("ours")}}}, {}});
     const qint64 count = general.changeCount();
     QProcess other;
@@ -237,10 +237,10 @@ TEST(QtGeneralPasteboard, countsWhatAnotherProgramPutsThere)
     EXPECT_TRUE(eventually([&] { return general.changeCount() > count; }));
 }
 
-TEST(QtGeneralPasteboard, anotherProgramGetsALargeTextWhole)
+TEST(QtClipboard, anotherProgramGetsALargeTextWhole)
 {
     const QByteArray text = numberedBytes(20'000'000);
-    QtGeneralPasteboard().write({{{PasteboardWriter::Text{QString::fromUtf8(text)}}}, {}});
+    QtClipboard().write({{{PasteboardWriter::Text{QString::fromUtf8(text)}}}, {}});
     QProcess reader;
     reader.start(QStringLiteral("xclip"),
                  {QStringLiteral("-selection"), QStringLiteral("clipboard"), QStringLiteral("-o"),

@@ -7,9 +7,9 @@ namespace corvane {
 /// The steps on disk that an installation is made of. The process may end between any two of them,
 /// so each either happens or does not. Paths are native; every function gives 0 or the error's
 /// number. Any thread.
-class UpdateFiles {
+class InstallationSteps {
 public:
-    virtual ~UpdateFiles() = default;
+    virtual ~InstallationSteps() = default;
 
     /// The permissions of the file at `path` for the open one; never more than those for reading,
     /// writing and executing.
@@ -29,7 +29,7 @@ public:
 };
 
 /// The real ones.
-class PosixUpdateFiles : public UpdateFiles {
+class PosixInstallationSteps : public InstallationSteps {
 public:
     int takePermissions(int descriptor, const QByteArray &path) override;
     int sync(int descriptor) override;

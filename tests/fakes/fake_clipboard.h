@@ -1,11 +1,12 @@
 #pragma once
 
+#include "platform/pasteboard/clipboard.h"
 #include "platform/pasteboard/pasteboard_writer.h"
 
 namespace corvane::test {
 
 /// A clipboard that remembers everything ever written to it.
-class FakeGeneralPasteboard : public GeneralPasteboard {
+class FakeClipboard : public Clipboard {
 public:
     void write(const PasteboardContents &contents) override
     {

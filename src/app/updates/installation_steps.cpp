@@ -1,4 +1,4 @@
-#include "app/updates/update_files.h"
+#include "app/updates/installation_steps.h"
 
 #include "platform/system/file_descriptor.h"
 
@@ -43,7 +43,7 @@ int copyBytes(int from, int to)
 
 } // namespace
 
-int PosixUpdateFiles::takePermissions(int descriptor, const QByteArray &path)
+int PosixInstallationSteps::takePermissions(int descriptor, const QByteArray &path)
 {
     struct stat status = {};
     if (::stat(path.constData(), &status) != 0)
@@ -51,12 +51,12 @@ int PosixUpdateFiles::takePermissions(int descriptor, const QByteArray &path)
     return errorOf(::fchmod(descriptor, status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)));
 }
 
-int PosixUpdateFiles::sync(int descriptor)
+int PosixInstallationSteps::sync(int descriptor)
 {
     return errorOf(::fsync(descriptor));
 }
 
-int PosixUpdateFiles::syncFolder(const QByteArray &folder)
+int PosixInstallationSteps::syncFolder(const QByteArray &folder)
 {
     const FileDescriptor opened(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!opened.isOpen())
@@ -65,7 +65,7 @@ int PosixUpdateFiles::syncFolder(const QByteArray &folder)
     return ::fsync(opened.number()) == 0 || errno == EINVAL ? 0 : errno;
 }
 
-int PosixUpdateFiles::keep(const QByteArray &path, const QByteArray &otherPath)
+int PosixInstallationSteps::keep(const QByteArray &path, const QByteArray &otherPath)
 {
     const int error = errorOf(::link(path.constData(), otherPath.constData()));
     if (!hasNoSecondNames(error))
@@ -90,12 +90,12 @@ int PosixUpdateFiles::keep(const QByteArray &path, const QByteArray &otherPath)
     return outcome;
 }
 
-int PosixUpdateFiles::replace(const QByteArray &from, const QByteArray &to)
+int PosixInstallationSteps::replace(const QByteArray &from, const QByteArray &to)
 {
     return errorOf(::rename(from.constData(), to.constData()));
 }
 
-int PosixUpdateFiles::moveToFreeName(const QByteArray &from, const QByteArray &to)
+int PosixInstallationSteps::moveToFreeName(const QByteArray &from, const QByteArray &to)
 {
     const int error = errorOf(
         ::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE));
@@ -107,7 +107,7 @@ int PosixUpdateFiles::moveToFreeName(const QByteArray &from, const QByteArray &t
     return errorOf(::unlink(from.constData()));
 }
 
-int PosixUpdateFiles::remove(const QByteArray &path)
+int PosixInstallationSteps::remove(const QByteArray &path)
 {
     return errorOf(::unlink(path.constData()));
 }

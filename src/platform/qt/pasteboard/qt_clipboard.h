@@ -1,15 +1,15 @@
 #pragma once
 
-#include "platform/pasteboard/pasteboard_writer.h"
+#include "platform/pasteboard/clipboard.h"
 
 #include <QObject>
 
 namespace corvane {
 
 /// The clipboard through Qt, which hands its contents to a clipboard manager at exit.
-class QtGeneralPasteboard : public GeneralPasteboard {
+class QtClipboard : public Clipboard {
 public:
-    QtGeneralPasteboard();
+    QtClipboard();
 
     void write(const PasteboardContents &contents) override;
     qint64 changeCount() const override { return m_changeCount; }

@@ -1,4 +1,4 @@
-#include "platform/qt/pasteboard/qt_general_pasteboard.h"
+#include "platform/qt/pasteboard/qt_clipboard.h"
 
 #include "platform/qt/pasteboard/mime_encoding.h"
 
@@ -8,13 +8,13 @@
 
 namespace corvane {
 
-QtGeneralPasteboard::QtGeneralPasteboard()
+QtClipboard::QtClipboard()
 {
     QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, &m_receiver,
                      [this] { ++m_changeCount; });
 }
 
-void QtGeneralPasteboard::write(const PasteboardContents &contents)
+void QtClipboard::write(const PasteboardContents &contents)
 {
     QGuiApplication::clipboard()->setMimeData(
         mimeDataFor(contents, PasteboardKind::Clipboard).release());
