@@ -23,7 +23,7 @@ bool isSuccess(const std::optional<WebResponse> &response)
 
 QString shortened(const QString &text)
 {
-    // Whatever accents a stranger piles upon each character.
+    // A character may have any number of accents.
     constexpr qsizetype maximumBytes = 16 * LinkPreviewService::maximumTextLength;
     return text.size() <= LinkPreviewService::maximumTextLength
         ? text
@@ -123,7 +123,7 @@ void LinkPreviewService::fetchThumbnail(Number number, const QUrl &url, AddressS
     WebRequest request;
     request.url = url;
     request.userAgent = m_userAgent;
-    // One more tells a picture that is too large from one that is just not.
+    // One byte more, so that a picture that is too large is not mistaken for a whole one.
     request.maximumBytes = maximumPictureBytes + 1;
     request.foundIn = foundIn;
     m_webClient.get(request,
@@ -156,7 +156,7 @@ void LinkPreviewService::finish(Number number, bool hasPreview)
 {
     const Load load = std::move(m_running.extract(number).mapped());
     startNext();
-    // Last: whoever hears of it may end the service.
+    // Last, because the completion may destroy the service.
     load.completion(hasPreview ? std::optional(load.preview) : std::nullopt);
 }
 

@@ -25,19 +25,19 @@ class WorkQueue;
 /// all work that is under way; the service itself may go earlier, and then nothing is answered.
 class LinkPreviewService : public LinkPreviewSource {
 public:
-    /// A page that is declared to have so many bytes, or more, is no page.
+    /// A page is refused whose server declares so many bytes or more.
     static constexpr qint64 refusedPageBytes = 12LL * 1024 * 1024;
     /// A picture of more bytes is not decoded.
     static constexpr qint64 maximumPictureBytes = 4LL * 1024 * 1024;
     /// The picture's longer side.
     static constexpr int pictureSide = 192;
     static constexpr std::size_t maximumLoads = 4;
-    /// What waits costs memory alone; beyond this the oldest get no preview.
+    /// Where more wait, the oldest get no preview.
     static constexpr std::size_t maximumWaiting = 10'000;
-    /// In characters. A page may say as much as it likes, an item shows a line.
+    /// Longer titles and names are cut, in characters: an item shows one line.
     static constexpr qsizetype maximumTextLength = 1000;
 
-    /// How servers are told who asks.
+    /// What the User-Agent of requests is made of.
     struct Product {
         QString version;
         QString homePage;

@@ -21,7 +21,7 @@ struct Preview {
     /// Absolute.
     std::optional<QUrl> imageURL;
 
-    /// Names and summaries alone make no card. An empty title counts as present.
+    /// Whether there is a title, even an empty one, or a picture: a site's name is not enough.
     bool isUseful() const { return title || imageURL; }
 
     bool operator==(const Preview &) const = default;
@@ -29,7 +29,7 @@ struct Preview {
 
 /// Nothing of a page is read past its first 3 MiB.
 inline constexpr qsizetype maximumPageBytes = 3LL * 1024 * 1024;
-/// No server takes longer addresses; as one of a picture it does not parse.
+/// A longer address of a picture counts as none: no server takes it.
 inline constexpr qsizetype maximumAddressLength = 64LL * 1024;
 
 /// UTF-8, else Latin-1 as a whole: also when the limit cuts a character in two. What the page or

@@ -9,7 +9,7 @@ class PreviewDocuments;
 /// What the preview of a file shows. Everything here may wait for a disk.
 namespace preview_file {
 
-/// Items of a folder beyond which nobody needs to know how many there are.
+/// A folder's items are counted up to here.
 inline constexpr int maximumCounted = 10'000;
 
 /// The content of the file at `url`, a picture fitted into `wanted` pixels. Of special files

@@ -14,7 +14,7 @@ namespace corvane {
 
 namespace {
 
-/// The same document, which ends on a thread of that queue: closing a file may wait, too.
+/// The same document, but destroyed on a thread of that queue: closing its file may block.
 void endOn(WorkQueue &queue, std::shared_ptr<PreviewDocument> &document)
 {
     if (PreviewDocument *const raw = document.get()) {

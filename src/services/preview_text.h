@@ -7,15 +7,15 @@
 /// Texts as previews show them.
 namespace corvane::preview_text {
 
-/// Nothing behind this is read.
+/// Only the beginning of a longer file is read.
 inline constexpr qint64 maximumBytes = 10'000'000;
-/// Longer lines are broken: a view lays out whole lines, and a stranger's line may be all there is.
+/// Longer lines are broken: a view lays out whole lines, and a file may be a single one.
 inline constexpr qsizetype maximumLineLength = 2'000;
 /// Each line costs a view some hundred bytes.
 inline constexpr qsizetype maximumLines = 200'000;
 
-/// Whether files of the type are read as text: whatever descends from text/plain, and what is text
-/// in all but name.
+/// Whether files of the type are read as text: what descends from text/plain, every text/..., and
+/// formats such as JSON and XML.
 bool isText(const QMimeType &type);
 /// Whether columns and indentation matter in files of the type: code, data and logs.
 bool isMonospaced(const QMimeType &type, const QString &name);

@@ -26,7 +26,7 @@ struct Overloaded : Functions... {
 template<class... Functions>
 Overloaded(Functions...) -> Overloaded<Functions...>;
 
-/// The MIME database belongs to the user and may say anything.
+/// Extensions come from the MIME database, where users may put anything.
 bool isSafe(const QString &extension)
 {
     constexpr qsizetype maximumLength = 32;
@@ -78,7 +78,7 @@ std::optional<QString> QuickLookPresenter::previewItemTitle(int /*index*/) const
 void QuickLookPresenter::discardScratch()
 {
     m_isWriting = false;
-    // Before the file goes: what is written after that is removed by who wrote it.
+    // Before the file is removed: work that writes one later sees this and removes it itself.
     m_generation->store(checkedAdd<std::uint64_t>(m_generation->load(), 1));
     if (const auto url = std::exchange(m_scratchURL, std::nullopt))
         ::unlink(file_url::nativePath(*url).constData());

@@ -24,7 +24,7 @@ constexpr double afterVersion = 24;
 constexpr double betweenParagraphs = 14;
 constexpr double beforeLinks = 22;
 constexpr double betweenLinks = 16;
-/// Short lines are read without losing the next one.
+/// The width of the text: the eye finds the next line more easily after a short one.
 constexpr double paragraphInset = 40;
 
 } // namespace
@@ -43,7 +43,7 @@ AboutPane::AboutPane(PreferencesContext context, QWidget *parent)
     auto *version = new TextLabel(
         tr("Version %1 (%2)").arg(m_context.appInfo.version(), m_context.appInfo.build()),
         m_look.font(smallSize), TextLabel::Tone::Secondary);
-    // People are asked for it.
+    // To be copied: people who report a fault are asked for the version.
     version->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     version->setFocusPolicy(Qt::ClickFocus);
     layout->addWidget(version, 0, Qt::AlignHCenter);

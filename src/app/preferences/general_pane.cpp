@@ -153,7 +153,7 @@ PreferenceSection *GeneralPane::makeUpdatesSection()
     Updater *const updater = m_context.updater;
     auto *section = new PreferenceSection(tr("Updates"), m_look);
     const QString title = tr("Check for updates automatically");
-    // A button that can do nothing says why.
+    // Where there is no updater, the row says why its button is disabled.
     const QString reason = m_context.isKeptUpToDateByOthers
         ? tr("Your system's software manager keeps Corvane up to date.")
         : tr("This build does not know where to look.");

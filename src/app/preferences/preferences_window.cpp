@@ -115,7 +115,7 @@ void PreferencesWindow::showSelectedTab()
     if (m_shown == m_selection.tab())
         return;
     m_shown = m_selection.tab();
-    // The keyboard would otherwise be lost with the control that had it.
+    // The control that has the focus is about to be destroyed with its pane.
     if (focusWidget() != nullptr)
         button->setFocus(Qt::OtherFocusReason);
     m_area->setWidget(makePane());
@@ -143,7 +143,7 @@ void PreferencesWindow::showEvent(QShowEvent *event)
 {
     if (!event->spontaneous()) {
         m_area->setWidget(makePane());
-        // Nothing is marked before the user reaches for the keyboard.
+        // The window itself has the focus, so that no control shows a ring before a key is used.
         setFocus(Qt::OtherFocusReason);
     }
     ShellWindow::showEvent(event);

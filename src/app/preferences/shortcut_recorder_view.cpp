@@ -70,7 +70,8 @@ ShortcutRecorderView::~ShortcutRecorderView()
 void ShortcutRecorderView::takeKeyboard()
 {
     setFocus(Qt::MouseFocusReason);
-    // Alone: what another program holds would go there, and could not be said to be taken.
+    // A combination that another program holds would otherwise go to that program, and the field
+    // could not tell the user that it is taken.
     if (isVisible())
         grabKeyboard();
 }

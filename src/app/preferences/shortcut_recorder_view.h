@@ -59,7 +59,7 @@ private:
 
     WindowLook m_look;
     ShortcutRecorder m_recorder;
-    /// The keyboard came by the keyboard: who clicks sees where.
+    /// Set when the field got the focus by a key; after a click no ring is needed.
     bool m_showsFocus = false;
 };
 

@@ -30,7 +30,7 @@ ShortcutRow::ShortcutRow(const QString &title, Details details, ShortcutRecorder
     m_recorder->setFixedSize(look.length(recorderSize));
     m_recorder->setAccessibleName(title);
     m_recorder->setAccessibleDescription(m_details.usual);
-    // The signs are those of other keyboards.
+    // The signs do not stand on the keys of a PC keyboard.
     m_recorder->setToolTip(tr("⌘ is Super, ⌥ is Alt, ⌃ is Ctrl, ⇧ is Shift"));
     m_clear->setAccessibleDescription(title);
     m_recorder->onChange = [this](const Shortcut &shortcut) { change(shortcut); };
@@ -42,7 +42,7 @@ void ShortcutRow::setShortcut(const std::optional<Shortcut> &shortcut)
 {
     m_shortcut = shortcut;
     m_recorder->setShortcut(shortcut);
-    // The keyboard goes on to the field rather than to wherever it falls.
+    // The button is about to be disabled, and would hand the focus to any other control.
     if (!shortcut && m_clear->hasFocus())
         m_recorder->setFocus(Qt::OtherFocusReason);
     m_clear->setEnabled(shortcut.has_value());

@@ -10,7 +10,7 @@ namespace {
 
 constexpr QLatin1String sparkle("http://www.andymatuschak.org/xml-namespaces/sparkle");
 constexpr qsizetype signatureBytes = 64;
-/// Of every text but the notes.
+/// The longest text that is kept, except for the notes.
 constexpr qsizetype maximumCharacters = 1024;
 
 class Reader {
@@ -70,8 +70,8 @@ private:
             .toString();
     }
 
-    /// All text of the element, its descendants' included. Whoever nests elements a million deep
-    /// costs no more than their length.
+    /// All text of the element, its descendants' included. No recursion: a feed may nest elements
+    /// a million deep.
     QString text(qsizetype limit = maximumCharacters)
     {
         QString text;
@@ -138,7 +138,7 @@ private:
             sparkled("edSignature").trimmed().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
         if (signature && signature.decoded.size() == signatureBytes)
             enclosure.signature = signature.decoded;
-        // They may stand here as well; an element says it first.
+        // Both may stand here instead of in elements of the item, which count first.
         if (item.version.isEmpty())
             item.version = sparkled("version");
         if (item.shortVersion.isEmpty())

@@ -10,7 +10,7 @@
 /// A feed of versions: RSS 2.0 with elements and attributes of the Sparkle namespace.
 namespace corvane::appcast {
 
-/// A feed of many years is a tenth of that.
+/// Ten times as much as a feed of many years.
 inline constexpr qint64 maximumBytes = 1024LL * 1024;
 inline constexpr qsizetype maximumItems = 1000;
 

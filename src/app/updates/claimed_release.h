@@ -17,7 +17,7 @@ struct ClaimedFile {
     /// As they are written; empty where it is for all.
     QString system;
     QString architecture;
-    /// 64 bytes, or none. Whose it is is seen once there are bytes that it could be over.
+    /// 64 bytes, or none. `UpdateKey::verify` checks it once the file is there.
     QByteArray signature;
 };
 

@@ -26,8 +26,8 @@ struct Installation {
         static Evidence ofThisProcess();
     };
 
-    /// An AppImage is one only if the program runs from inside of it: whoever is started by another
-    /// AppImage inherits that one's variables, and must not overwrite its file.
+    /// The variables count only if the program runs from inside the AppImage: a program that
+    /// another AppImage has started inherits that one's variables, and must not overwrite its file.
     static Installation from(const Evidence &evidence);
 
     /// Whether the file at `path` is an AppImage that may be replaced: regular, of this user, in a

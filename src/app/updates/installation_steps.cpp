@@ -61,7 +61,7 @@ int PosixInstallationSteps::syncFolder(const QByteArray &folder)
     const FileDescriptor opened(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!opened.isOpen())
         return errno;
-    // Not every file system knows how, and those that do not have nothing to write.
+    // EINVAL: a file system that has nothing to sync for a folder.
     return ::fsync(opened.number()) == 0 || errno == EINVAL ? 0 : errno;
 }
 
@@ -70,7 +70,7 @@ int PosixInstallationSteps::keep(const QByteArray &path, const QByteArray &other
     const int error = errorOf(::link(path.constData(), otherPath.constData()));
     if (!hasNoSecondNames(error))
         return error;
-    // Under a name of its own until it is whole.
+    // The copy has a temporary name until it is whole.
     QByteArray unfinished = otherPath + ".XXXXXX";
     const FileDescriptor from(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
     if (!from.isOpen())
@@ -101,7 +101,7 @@ int PosixInstallationSteps::moveToFreeName(const QByteArray &from, const QByteAr
         ::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE));
     if (error != EINVAL && error != ENOSYS)
         return error;
-    // A file system that cannot refuse to replace: two names for a moment.
+    // The file system has no RENAME_NOREPLACE; a second name fails where it is taken, too.
     if (const int linked = errorOf(::link(from.constData(), to.constData())); linked != 0)
         return linked;
     return errorOf(::unlink(from.constData()));

@@ -88,7 +88,7 @@ private:
 
     QStringView m_rest;
     QString m_text;
-    /// Looked for once, not for each beginning.
+    /// No '>' is left: it is not searched for again at every '<'.
     bool m_hasNoMoreEnds = false;
 };
 

@@ -5,7 +5,7 @@
 /// What a feed says about a version, as a text to be shown.
 namespace corvane::release_notes {
 
-/// More is no note.
+/// Longer notes are cut.
 inline constexpr qsizetype maximumCharacters = 65'536;
 
 /// The text alone of a piece of HTML: tags, comments, scripts and styles go, what begins a line

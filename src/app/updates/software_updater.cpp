@@ -43,7 +43,7 @@ void SoftwareUpdater::start()
     scheduleCheck();
     if (m_program.installation.kind != Installation::Kind::AppImage)
         return;
-    // Once the main queue runs, the AppImage does.
+    // The main queue runs this, so the AppImage has started: the one before it can go.
     m_context.download.queue.async(m_lifetime.guard([this] {
         m_context.download.work.run(
             [&steps = m_context.steps, appImage = m_program.installation.appImage] {
@@ -77,7 +77,7 @@ void SoftwareUpdater::checkIsDue()
 {
     if (m_state == State::Resting)
         return check(UpdateAttention::Unasked);
-    // The user is about to decide on one.
+    // An update is being offered or taken: this check is left out and counts as made.
     m_record.lastCheck = m_context.now();
     scheduleCheck();
 }
@@ -107,7 +107,7 @@ void SoftwareUpdater::check(UpdateAttention attention)
     request.url = QUrl(m_program.feedAddress, QUrl::StrictMode);
     request.userAgent = "Corvane/" + m_program.version.toLatin1();
     request.accept = "application/rss+xml, application/xml, text/xml";
-    // One more would be too many, and is to be seen.
+    // One byte more, so that a feed that is too long is not mistaken for a whole one.
     request.maximumBytes = appcast::maximumBytes + 1;
     request.mustBeSecure = true;
     m_feedRequest.restart();
@@ -137,7 +137,7 @@ void SoftwareUpdater::feedArrived(const std::optional<WebResponse> &response)
     m_record.highest(choice.scale) = choice.newest->version;
     m_context.record.save(m_record);
     const auto present = running(choice.scale);
-    // What runs may have no version that could be compared; then nothing is known to be newer.
+    // The running program may have no version that can be compared: nothing is newer then.
     if (!present || choice.newest->version <= *present)
         return restUpToDate();
     if (m_taken && choice.newest->version == *m_taken)
@@ -154,7 +154,7 @@ bool SoftwareUpdater::goesBack(const UpdateChoice &choice)
         const auto highest = m_record.highest(choice.scale);
         return highest && choice.newest->version < *highest;
     }
-    // A feed may end; but not before the program has what it told of.
+    // A feed that offers nothing is refused while it has announced more than the program has.
     return std::ranges::any_of(std::array{VersionScale::Build, VersionScale::ShortVersion},
                                [this](VersionScale scale) {
                                    const auto highest = m_record.highest(scale);
@@ -182,7 +182,7 @@ void SoftwareUpdater::offer(const UpdateOffer &offer)
 
 void SoftwareUpdater::dismiss()
 {
-    // What is being put into its place is not left half done.
+    // Closing the window does not stop an installation that has begun.
     if (m_state == State::Installing)
         return;
     m_feedRequest.restart();
@@ -208,7 +208,7 @@ void SoftwareUpdater::restUpToDate()
 
 void SoftwareUpdater::fail(UpdateFailure failure)
 {
-    // Whoever has said "install" waits for the outcome.
+    // The user clicked Install, so the failure is shown even after an automatic check.
     if (m_state == State::Downloading || m_state == State::Installing)
         m_attention = UpdateAttention::Asked;
     UpdateReport report = m_report;

@@ -27,16 +27,16 @@ class InstallationSteps;
 ///        |      none, failed |             closed |    failed or closed |       done, failed |
 ///        +-------------------+--------------------+---------------------+--------------------+
 ///
-/// Checks by itself at most once a day, and is heard of then only if there is something to take. A
-/// feed that goes back in time is not followed. Nothing runs and nothing is open between checks but
-/// the one timer that is due.
+/// Checks by itself at most once a day, and then shows its window only if it found a newer version.
+/// A feed whose newest version is older than one that it announced before is refused. Between
+/// checks nothing runs but one timer, and no connection is open.
 ///
 /// Everything in the context must outlive it. Main thread only.
 class SoftwareUpdater : public Updater {
 public:
-    /// From the start to the first check, in seconds: the start has better things to do.
+    /// From the start to the first check, in seconds, so that the start is not slowed down.
     static constexpr double firstCheckDelay = 60;
-    /// At least so much from one check to the next that nobody asked for.
+    /// The shortest time between two automatic checks, in seconds.
     static constexpr double checkInterval = 24 * 3600;
 
     /// What it is to keep up to date.
@@ -48,7 +48,7 @@ public:
         QString build;
         UpdateSystem system;
         Installation installation;
-        /// A native path, for what is handed over.
+        /// A native path. A file that the user is to install by hand is put there.
         QByteArray downloadsFolder;
     };
     struct Context {
@@ -104,14 +104,15 @@ private:
     std::unique_ptr<MainQueue::Timer> m_timer;
     State m_state = State::Resting;
     UpdateAttention m_attention = UpdateAttention::Unasked;
-    /// What is shown, or would be if somebody had asked.
+    /// What the window shows, or would show if the user had asked for the check.
     UpdateReport m_report;
     std::optional<UpdateOffer> m_offer;
     AddressSpace m_feedFoundIn = AddressSpace::Public;
     std::unique_ptr<UpdateDownload> m_download;
     QByteArray m_handedOver;
-    /// What has been taken while this program runs, and was told of it; it is not offered again.
+    /// The version that was installed while this program runs: it is not offered again.
     std::optional<UpdateVersion> m_taken;
+    /// What the user was told of it.
     UpdateReport m_takenReport;
     /// Of the latest request for the feed, until the user has dismissed it.
     Lifetime m_feedRequest;

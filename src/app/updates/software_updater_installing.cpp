@@ -43,9 +43,9 @@ void SoftwareUpdater::install()
         UpdateDownload::Plan{
             m_offer->file, m_feedFoundIn, "Corvane/" + m_program.version.toLatin1(),
             replaces ? folderOf(m_program.installation.appImage) : m_program.downloadsFolder});
-    // They are not called any more once the download is gone, and it goes with this.
+    // `this` owns the download, which calls none of these once it is destroyed.
     m_download->onProgress = [this](qint64 received) {
-        // More often nobody could see it.
+        // The progress bar is redrawn for every half percent and not more often.
         constexpr qint64 steps = 200;
         if (received < m_report.total && received - m_report.received < m_report.total / steps)
             return;

@@ -25,7 +25,7 @@ enum class VersionScale { Build, ShortVersion };
 /// A version that could run here, as the feed claims it.
 struct UpdateOffer {
     UpdateVersion version;
-    /// For people; that by which it is compared where there is no other.
+    /// For people; the compared version where the feed gives no other.
     QString shownVersion;
     /// To be shown as it is.
     QString notes;
@@ -41,7 +41,7 @@ struct UpdateChoice {
 
 namespace update_choice {
 
-/// The newest item that fits the machine. A version that is none is passed over.
+/// The newest item that fits the machine. Items without an `UpdateVersion` are passed over.
 UpdateChoice choose(const QList<ClaimedRelease> &items, const UpdateSystem &system);
 
 } // namespace update_choice

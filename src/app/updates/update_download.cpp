@@ -21,12 +21,12 @@ UpdateFailure failureOf(int error)
 
 } // namespace
 
-/// What the client's thread works with; the main thread looks at the file once it has ended.
+/// The web client's thread uses it during the transfer, the main thread afterwards.
 struct UpdateDownload::Transfer {
     std::shared_ptr<UpdateFile> file;
     qint64 expected = 0;
     std::atomic<qint64> received = 0;
-    /// Whether the main thread has yet to hear of what has come.
+    /// Whether a call about the progress is on its way to the main thread already.
     std::atomic<bool> isTold = false;
     bool isTooLong = false;
 };
@@ -79,7 +79,7 @@ void UpdateDownload::fileMade(const std::shared_ptr<UpdateFile> &file, int error
     WebRequest request;
     request.url = m_plan.file.url;
     request.userAgent = m_plan.userAgent;
-    // One more would be too many, and is to be seen.
+    // One byte more, so that a file that is too long is not mistaken for a whole one.
     request.maximumBytes = transfer->expected + 1;
     request.foundIn = m_plan.foundIn;
     request.mustBeSecure = true;

@@ -40,7 +40,7 @@ public:
         QByteArray folder;
     };
 
-    /// No update is that large, and its signature is checked in one go.
+    /// No update is larger. The limit is needed because the signature is checked over all of it.
     static constexpr qint64 maximumBytes = 1024LL * 1024 * 1024;
 
     UpdateDownload(const Context &context, Plan plan);
@@ -48,11 +48,11 @@ public:
     UpdateDownload &operator=(const UpdateDownload &) = delete;
     ~UpdateDownload();
 
-    /// Now and then, with the bytes that have come.
+    /// Called now and then with the number of bytes that have come.
     std::function<void(qint64)> onProgress;
-    /// Which way the file came, or would have had to come, before the end.
+    /// Called before the end with the way that the request took, or that forbade it.
     std::function<void(const WebRoute &)> onRoute;
-    /// Once, with a file of the announced length or with what went wrong; may delete this.
+    /// Called once, with a file of the claimed length or with what went wrong; may delete this.
     std::function<void(std::shared_ptr<UpdateFile>, std::optional<UpdateFailure>)> onEnd;
 
     void start();

@@ -21,7 +21,7 @@ namespace {
 
 const QByteArray prefix = QByteArrayLiteral(".corvane-update-");
 
-/// A leftover is one that nobody holds the lock of.
+/// A process holds the lock of its own file: one without a lock was left by a process that died.
 void removeIfLeftOver(const QByteArray &path)
 {
     const FileDescriptor opened = regular_file::open(path);
@@ -42,7 +42,7 @@ void removeLeftovers(const QByteArray &folder)
     }
 }
 
-/// A full disk is told of at once where the file system can set room aside.
+/// So that a full disk is noticed before the download. Not every file system can do it.
 bool setRoomAside(int descriptor, qint64 length)
 {
     return ::fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, length) == 0

@@ -15,13 +15,13 @@ namespace corvane {
 class UpdateFile {
 public:
     /// Makes one with room for `length` bytes; none, and the error's number, where that cannot be.
-    /// What processes that died have left in the folder goes first.
+    /// Removes first what processes that died have left in the folder.
     static std::unique_ptr<UpdateFile> make(const QByteArray &folder, qint64 length, int &error);
     UpdateFile(const UpdateFile &) = delete;
     UpdateFile &operator=(const UpdateFile &) = delete;
     ~UpdateFile();
 
-    /// False, and the error is kept, where the disk does not take it.
+    /// False where it cannot be written; `error()` says why.
     bool append(const QByteArray &bytes);
     int error() const { return m_error; }
     /// How many bytes have been taken.

@@ -41,7 +41,7 @@ int keepOld(InstallationSteps &steps, const QByteArray &appImage)
 {
     const QByteArray previous = appImage + previousSuffix;
     const int error = steps.keep(appImage, previous);
-    // An update before this one has not been started yet: the one that is kept is that which runs.
+    // An earlier update has not been started yet, so the kept file is the version that runs.
     return error == EEXIST && Installation::isReplaceable(previous) ? 0 : error;
 }
 
@@ -65,7 +65,7 @@ Outcome swap(InstallationSteps &steps, VerifiedDownload &download, const QByteAr
     if (error != 0)
         return {error};
     download.release();
-    // It has happened; a disk that does not say so now will in a moment.
+    // The new file is in its place: a folder that cannot be synced now is no failure any more.
     steps.syncFolder(folder);
     return {0, appImage};
 }

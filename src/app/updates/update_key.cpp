@@ -44,7 +44,7 @@ bool UpdateKey::hasSigned(int descriptor, qint64 length, const QByteArray &signa
     void *const file = ::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, descriptor, 0);
     if (file == MAP_FAILED)
         return false;
-    // It is gone through from its beginning to its end.
+    // Read from beginning to end, so the system need not keep what was read.
     ::madvise(file, size, MADV_SEQUENTIAL);
     const bool isSigned
         = ::crypto_sign_verify_detached(bytesOf(signature), static_cast<unsigned char *>(file),

@@ -24,7 +24,7 @@ const QString shortVersionKey = QStringLiteral("highestShortVersion");
 
 std::optional<qint64> seconds(const QJsonValue &value)
 {
-    // What a number in this notation holds without loss.
+    // Numbers of JSON are doubles, which hold integers up to here without loss.
     constexpr double largest = 9e15;
     const double number = value.toDouble(-1);
     return number >= 0 && number < largest ? std::optional(std::llround(number)) : std::nullopt;

@@ -12,7 +12,7 @@ namespace corvane {
 struct UpdateRecord {
     /// Seconds since 1970; none where there was none.
     std::optional<qint64> lastCheck;
-    /// The highest that a feed has ever told of, on each scale.
+    /// The highest version that a feed has ever announced, on each scale.
     std::optional<UpdateVersion> highestBuild;
     std::optional<UpdateVersion> highestShortVersion;
 
@@ -22,7 +22,7 @@ struct UpdateRecord {
     }
 };
 
-/// The file that keeps them. It is no setting: nobody shall carry it to another machine.
+/// The file that keeps it, apart from the settings, which people copy to other machines.
 class UpdateRecordFile {
 public:
     /// By its native path, which need not exist.
@@ -31,9 +31,9 @@ public:
     /// The program's folder for its state: below $XDG_STATE_HOME, or ~/.local/state.
     static QByteArray environmentFolder();
 
-    /// What cannot be read was never remembered.
+    /// Empty where there is no file or it cannot be read.
     UpdateRecord load() const;
-    /// Whole or not at all. One that cannot be written is only known until the program ends.
+    /// Writes the whole file or none of it. A failure is not reported.
     void save(const UpdateRecord &record) const;
 
 private:

@@ -69,7 +69,7 @@ public:
 
     /// Shows the report in place of the one before. One that was asked for comes forward.
     virtual void show(const UpdateReport &report, UpdateAttention attention) = 0;
-    /// The report has changed, and is where it was.
+    /// Changes the report in the window, if one is open; it does not come forward.
     virtual void update(const UpdateReport &report) = 0;
 
     /// The user wants the version that is available.

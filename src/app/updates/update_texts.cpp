@@ -65,7 +65,7 @@ QString failureText(UpdateFailure failure)
 
 QString nameOf(const WebProxy &proxy)
 {
-    // The end tells whose it is.
+    // A long host name is cut at its beginning, because its end says whose it is.
     constexpr qsizetype maximumLength = 28;
     QUrl url;
     url.setHost(proxy.host);
@@ -75,7 +75,7 @@ QString nameOf(const WebProxy &proxy)
     return host % QLatin1Char(':') % QString::number(proxy.port);
 }
 
-/// What somebody who hides behind a proxy wants to know.
+/// Users of a proxy see here whether the request went through it.
 QString routeText(const WebRoute &route)
 {
     switch (route.kind) {
@@ -96,7 +96,7 @@ QString routeText(const WebRoute &route)
         "UpdateTexts", "Nothing was asked: your proxy is of a kind that Corvane cannot use."));
 }
 
-/// A withheld request failed for that reason alone.
+/// A request that was withheld because of the proxy has no other reason to be shown.
 QString withRoute(const QString &detail, const UpdateReport &report)
 {
     if (!report.route)

@@ -12,7 +12,7 @@ namespace corvane {
 /// version, because nobody could say where "1.0-beta" belongs.
 class UpdateVersion {
 public:
-    /// Nobody counts further.
+    /// A longer text is no version.
     static constexpr qsizetype longestText = 64;
 
     /// None for a text that is no version.

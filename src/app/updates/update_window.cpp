@@ -63,7 +63,7 @@ UpdateWindow::UpdateWindow(std::function<void()> onClose)
     layout->addWidget(m_detail);
     m_notes->setReadOnly(true);
     m_notes->setFrameShape(QFrame::NoFrame);
-    // They stand on a card, and not on the style's ground for fields.
+    // `paintEvent` draws a card behind the notes, so the style's background is left out.
     m_notes->viewport()->setAutoFillBackground(false);
     m_notes->document()->setDocumentMargin(m_look.length(notesMargin));
     m_notes->verticalScrollBar()->setStyleSheet(m_look.scrollBarStyle());
@@ -117,7 +117,7 @@ void UpdateWindow::setReport(const UpdateReport &report, const UpdateTexts &text
     ActionButton *const usual = hasAction ? m_action : m_dismissal;
     m_action->setDefault(hasAction);
     m_dismissal->setDefault(!hasAction);
-    // The report before may have described the other one.
+    // The report before this one may have put the description on the other button.
     for (ActionButton *button : {m_action, m_dismissal})
         button->setAccessibleDescription({});
     usual->setAccessibleDescription(
@@ -125,7 +125,7 @@ void UpdateWindow::setReport(const UpdateReport &report, const UpdateTexts &text
     QSize size = m_look.length(hasNotes ? sizeWithNotes : smallSize);
     size.setHeight(std::max(size.height(), layout()->minimumHeightForWidth(size.width())));
     setContentSize(size);
-    // The button that had the keyboard may be gone, or mean something else.
+    // The button that had the keyboard may be hidden now, or do something else.
     if (hadAction != hasAction || !focusWidget())
         usual->setFocus();
 }
@@ -142,7 +142,7 @@ void UpdateWindow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
         return ShellWindow::keyPressEvent(event);
-    // The button that has the keyboard, so that "Later" does not install.
+    // Return presses the button that has the keyboard, which may be "Later".
     auto *const focused = qobject_cast<ActionButton *>(focusWidget());
     ActionButton *const usual = m_action->isDefault() ? m_action : m_dismissal;
     (focused ? focused : usual)->click();

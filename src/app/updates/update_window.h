@@ -28,7 +28,7 @@ public:
 
     explicit UpdateWindow(std::function<void()> onClose);
 
-    /// What the button does that is not for closing.
+    /// Called when the user clicks the button beside the one that closes.
     std::function<void()> onAction;
 
     void setReport(const UpdateReport &report, const UpdateTexts &texts);

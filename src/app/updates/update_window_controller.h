@@ -9,8 +9,8 @@ namespace corvane {
 
 class WindowActivation;
 
-/// Shows reports in a window, which exists only while it is open. Closing it is dismissing what it
-/// shows. Main thread only; `activation` must outlive it.
+/// Shows reports in a window, which exists only while it is open. Closing it calls `onDismiss`.
+/// Main thread only; `activation` must outlive it.
 class UpdateWindowController : public UpdateDisplay {
 public:
     /// `replaces` says whether an update takes the running version's place.

@@ -8,9 +8,9 @@ class Updater {
 public:
     virtual ~Updater() = default;
 
-    /// Begins to look by itself, where that is wanted.
+    /// Begins the automatic checks, if the user wants them.
     virtual void start() = 0;
-    /// Looks at once, and tells the user what it found.
+    /// Checks at once, and tells the user what it found.
     virtual void checkForUpdates() = 0;
     virtual bool automaticallyChecksForUpdates() const = 0;
     virtual void setAutomaticallyChecksForUpdates(bool on) = 0;

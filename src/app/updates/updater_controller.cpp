@@ -19,7 +19,7 @@ UpdaterController::~UpdaterController() = default;
 
 bool UpdaterController::isConfigured(const AppInfo &info, const QString &key)
 {
-    // What is no text is none; the marker is left where nobody filled in a template.
+    // The marker is what a template holds that nobody has filled in.
     const QString value = info.text(key);
     return !value.isEmpty() && !value.contains(QLatin1String("REPLACE_"));
 }

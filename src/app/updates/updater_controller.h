@@ -12,9 +12,9 @@ namespace corvane {
 class AppInfo;
 class Updater;
 
-/// The single owner of what keeps the program up to date. It holds nothing, and says nothing, where
-/// the build does not know where to look and whom to trust, or where others keep the program up to
-/// date. Main thread only.
+/// Owns the updater. There is none, and nothing is said about it, where the build has no address of
+/// a feed or no key, or where the distribution or Flatpak keeps the program up to date. Main thread
+/// only.
 class UpdaterController {
 public:
     /// Makes the updater where there is to be one. It is started once the settings have their

@@ -20,7 +20,7 @@ class IllustrationView : public QWidget {
 
 public:
     static constexpr int timesPlayed = 6;
-    /// Enough for something calm.
+    /// Half the usual rate is enough for movements as slow as these.
     static constexpr int framesPerSecond = 30;
 
     IllustrationView(const WindowLook &look, const MotionPreference &motion,

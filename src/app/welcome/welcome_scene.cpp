@@ -12,7 +12,7 @@ constexpr QPointF rightPlace{396, 220};
 constexpr QPointF slot{260, 29};
 constexpr double slotScale = 0.82;
 constexpr double liftedScale = 1.06;
-/// From here on everything goes back to where it began.
+/// The phase from which on everything goes back to where it began.
 constexpr double curtain = 0.93;
 
 /// How much of the time between two moments has passed, slow at both ends.

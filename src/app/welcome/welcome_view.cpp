@@ -118,7 +118,7 @@ void WelcomeView::goForward()
 
 bool WelcomeView::eventFilter(QObject *watched, QEvent *event)
 {
-    // Arrows turn the pages; buttons would hand the keyboard to each other.
+    // Arrow keys turn the pages, where buttons would move the focus among themselves.
     auto *press = event->type() == QEvent::KeyPress ? dynamic_cast<QKeyEvent *>(event) : nullptr;
     if (press && (press->key() == Qt::Key_Left || press->key() == Qt::Key_Right)) {
         keyPressEvent(press);
@@ -131,7 +131,7 @@ void WelcomeView::keyPressEvent(QKeyEvent *event)
 {
     const bool isBackward = event->key() == Qt::Key_Left || event->key() == Qt::Key_PageUp;
     const bool isForward = event->key() == Qt::Key_Right || event->key() == Qt::Key_PageDown;
-    // Closing takes a deliberate press of its button.
+    // The keys for the next page do not close the guide on the last one.
     if (isBackward)
         goBack();
     else if (isForward && !isLast())

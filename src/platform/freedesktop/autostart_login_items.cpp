@@ -93,7 +93,7 @@ bool leadsToProgram(const QHash<QByteArray, QByteArray> &entry)
     return !entry.contains("TryExec") || canBeStarted(entry.value("TryExec"));
 }
 
-/// Makes way for an entry of our own. What is written through a link lands in a stranger's file.
+/// Removes a link of that name: writing through it would change the file that it leads to.
 void removeOtherThanFile(const QString &path)
 {
     struct stat about = {};

@@ -40,7 +40,7 @@ SingleInstance::Outcome DBusSingleInstance::acquire(std::function<void()> onReop
     m_onReopen = std::move(onReopen);
     if (!session_bus::isAvailable())
         return Outcome::Unknown;
-    // Before the name is ours: whoever finds the name finds somebody to answer.
+    // Before the name is ours: another process may call the object as soon as it sees the name.
     QDBusConnection::sessionBus().registerObject(objectPath(), this,
                                                  QDBusConnection::ExportScriptableInvokables);
     // The other one may end just while it is asked.

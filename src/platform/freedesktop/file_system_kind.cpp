@@ -18,7 +18,7 @@ bool isOneOf(const std::array<std::string_view, count> &names, std::string_view 
     return std::ranges::find(names, name) != names.end();
 }
 
-/// Without which program it is the type says nothing, so that stays remote.
+/// A type that does not name its program ("fuse") is none of these, and so counts as remote.
 bool isLocalProgram(std::string_view program)
 {
     // What encrypts, joins or unpacks files of this machine, sandboxed programs' documents, and

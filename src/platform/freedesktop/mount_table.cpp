@@ -109,7 +109,7 @@ public:
 private:
     void prepend(const QByteArray &path)
     {
-        // The name of one file of many thousands.
+        // A single name, as that of each of a folder's thousands of files, needs no taking apart.
         if (!path.contains('/') && !path.isEmpty() && path != ".") {
             m_ahead.push_back(path);
             return;
@@ -205,7 +205,7 @@ MountTable::Mounts MountTable::readTable() const
         if (point.isEmpty())
             continue;
         const auto shown = file_system_kind::shownFolders(type, source);
-        // What it shows was mounted before it.
+        // The folders that it shows were mounted before it, so `mounts` has them.
         const bool isRemote = file_system_kind::isRemote(type, point)
             || file_system_kind::showsUnnamedFolders(type, source)
             || std::ranges::any_of(shown,

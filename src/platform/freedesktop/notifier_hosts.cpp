@@ -29,7 +29,7 @@ void NotifierHosts::start(std::function<void()> onHost)
     m_watcher.setWatchMode(QDBusServiceWatcher::WatchForRegistration);
     m_watcher.addWatchedService(watcherName);
     connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, this, &NotifierHosts::ask);
-    // The one who gathers items may be there long before the one who shows them.
+    // The service that gathers items may run long before a panel that shows them.
     bus.connect({}, watcherPath, watcherName, QStringLiteral("StatusNotifierHostRegistered"), this,
                 SLOT(ask()));
     ask();

@@ -53,7 +53,7 @@ void RemoteFileThreads::read(const QByteArray &path, qint64 limit,
 void RemoteFileThreads::add(Operation operation)
 {
     m_waiting.push_back(std::move(operation));
-    // Later: nobody is answered inside their own question.
+    // Later, so that no completion is called inside its caller's own call.
     m_mainQueue.async([link = m_link] {
         // Only the main thread ends the owner.
         if (link->owner)

@@ -13,7 +13,7 @@ struct CommandOutput {
         Well,
         /// It is not there, or says itself that it failed.
         Failed,
-        /// Nobody knows what it would have said: it took longer, printed more than a megabyte, was
+        /// Its answer is not known: it took longer, printed more than a megabyte, was
         /// ended by somebody else, or there was no room to start it.
         Unknown,
     };

@@ -19,9 +19,9 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Mode = ProxySettings::Mode;
 
-/// A page, its picture and the pages in between ask one after the other.
+/// How long settings are kept: the requests for a page and its picture follow each other.
 constexpr std::chrono::seconds settingsAge{5};
-/// A portal that is not there is left alone for a while.
+/// How long a portal that did not answer is not asked again.
 constexpr std::chrono::seconds portalPause{60};
 constexpr std::chrono::milliseconds patience{2000};
 
@@ -56,7 +56,7 @@ std::optional<ProxySettings> desktopSettings(const DesktopRoutes::Sources &sourc
 
 } // namespace
 
-/// Kept by the threads that search.
+/// What the searching threads share; they may outlive the object.
 struct DesktopRoutes::Search {
     explicit Search(Sources places)
         : m_sources(std::move(places))
@@ -66,7 +66,7 @@ struct DesktopRoutes::Search {
     WebRoute routeFor(const QUrl &url)
     {
         const auto settings = current();
-        // They may name a proxy, so nothing may go past it.
+        // Settings that cannot be read may name a proxy, so the request is withheld.
         const WebRoute route = settings ? routeBy(*settings, url) : unusable();
         return withTor(url, route, settings.value_or(ProxySettings()));
     }
@@ -79,7 +79,7 @@ private:
     {
         const auto asked = Clock::now();
         const std::lock_guard lock(m_mutex);
-        // That they were not to be had counts only for those who were waiting meanwhile.
+        // A failed reading counts only for threads that were waiting for it.
         if (m_settings ? Clock::now() - m_readAt > settingsAge : m_readAt <= asked) {
             m_settings = proxy_sources::fromEnvironment(m_sources.environment);
             if (m_settings->mode == Mode::None)
@@ -94,7 +94,7 @@ private:
         const WebRoute route = settings.routeFor(url);
         if (settings.mode == Mode::Manual)
             return route;
-        // The desktop's own answer for its script, and for what nobody here knows of.
+        // The portal runs the desktop's script, and knows settings that are not read here.
         const auto answer = askPortal(url);
         const bool isProxied = answer && answer->kind != WebRoute::Kind::Direct;
         return isProxied ? *answer : route;
@@ -108,7 +108,7 @@ private:
             if (m_portalFailedAt && Clock::now() - *m_portalFailedAt < portalPause)
                 return std::nullopt;
         }
-        // Where on the server something is, is nobody's business.
+        // The portal is told the server and nothing of the path.
         const QUrl origin = url.adjusted(QUrl::RemoveUserInfo | QUrl::RemovePath | QUrl::RemoveQuery
                                          | QUrl::RemoveFragment);
         const auto reply = m_sources.run(

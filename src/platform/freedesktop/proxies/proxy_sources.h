@@ -13,8 +13,8 @@ namespace corvane::proxy_sources {
 
 using Environment = std::function<QByteArray(const char *name)>;
 
-/// The variables that command-line programs read. HTTP_PROXY in capitals is none of them: to a
-/// program behind a web server it is a field of somebody's request.
+/// The variables that command-line programs read. HTTP_PROXY in capitals is not read: web servers
+/// set it for their scripts from a header that any client can send.
 ProxySettings fromEnvironment(const Environment &environment);
 
 /// From what `gsettings list-recursively org.gnome.system.proxy` prints.

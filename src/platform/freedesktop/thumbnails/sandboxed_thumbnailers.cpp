@@ -32,12 +32,12 @@ QByteArrayList mimeTypes(const FileVersion &version)
     QByteArrayList names = {type.name().toLatin1()};
     for (const QString &alias : type.aliases() + type.allAncestors())
         names << alias.toLatin1();
-    // Of this kind is everything.
+    // Every file is of this type.
     names.removeAll("application/octet-stream");
     return names;
 }
 
-/// A name that says what is in the file and nothing else.
+/// The file's path inside: its extension, and nothing else of its name.
 QByteArray neutralPath(const FileVersion &file)
 {
     constexpr qsizetype longestExtension = 10;
@@ -51,7 +51,7 @@ QByteArray neutralPath(const FileVersion &file)
     return isPlain ? "/in/file." + extension : QByteArray("/in/file");
 }
 
-/// Whether the file is to blame, not the load of the machine.
+/// Whether it failed because of the file. One that was killed may have lacked time or memory.
 bool hasFailed(int exitCode)
 {
     constexpr int signalBase = 128;

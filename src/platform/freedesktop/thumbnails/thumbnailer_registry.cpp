@@ -121,7 +121,7 @@ void ThumbnailerRegistry::readFolder(const QByteArray &folder, QByteArrayList &s
     for (const QByteArray &name : names(folder)) {
         if (seen.contains(name))
             continue;
-        // A file that says nothing useful covers the others too: so a user turns one off.
+        // A file without a command hides its namesakes as well: that is how users turn one off.
         seen << name;
         const auto entry = ThumbnailerEntry::parse(
             regular_file::contents(folder + '/' + name, longestFile).value_or(QByteArray()));

@@ -14,7 +14,7 @@ namespace corvane {
 namespace {
 
 constexpr qint64 readBufferBytes = 65'536;
-/// Servers refuse far shorter ones.
+/// Longer ones are not sent: servers refuse far shorter ones.
 constexpr qsizetype maximumTargetBytes = 65'536;
 
 bool isHttps(const QUrl &url)
@@ -44,7 +44,7 @@ QByteArray hostFieldOf(const QUrl &url)
 {
     QByteArray host = url.host(QUrl::FullyEncoded).toLatin1();
     if (host.contains(':')) {
-        // A scope is nobody's business but this machine's.
+        // The scope of an IPv6 address means something on this machine only.
         if (const qsizetype scope = host.indexOf('%'); scope >= 0)
             host.truncate(scope);
         host = '[' + host + ']';
@@ -80,7 +80,7 @@ QByteArray originOf(const QUrl &url)
     return host + ':' + QByteArray::number(url.port(usualPortOf(url)));
 }
 
-/// What lets the user in at a proxy; empty where none is needed.
+/// The header with which the user logs in at the proxy; empty where there is no login.
 QByteArray authorizationField(const WebProxy &proxy)
 {
     if (proxy.user.isEmpty())
@@ -118,7 +118,7 @@ std::optional<QByteArray> HttpExchange::requestFor(const Plan &plan)
     request += "User-Agent: " + plan.userAgent + "\r\n";
     if (!plan.accept.isEmpty())
         request += "Accept: " + plan.accept + "\r\n";
-    // An idle connection wakes both of its sides.
+    // Connections are closed at once, because an idle one wakes both of its sides.
     request += "Accept-Language: *\r\nConnection: close\r\nAccept-Encoding: gzip, deflate\r\n\r\n";
     return request;
 }
@@ -160,7 +160,7 @@ void HttpExchange::tryNextAddress()
         return finish(false);
     if (!m_plan.proxy) {
         m_peer = m_plan.addresses.takeFirst();
-        // The last one may take the time that is left.
+        // The last address has all of the request's remaining time.
         if (!m_plan.addresses.isEmpty())
             m_patience.start(static_cast<int>(std::lround(m_plan.nextAddressAfter * 1000)));
     }
@@ -256,7 +256,7 @@ void HttpExchange::readSocket()
         else if (m_stage == Stage::Asking)
             readAnswer(bytes);
         else
-            // Nobody has asked for anything yet.
+            // Bytes before the request was sent are no answer to it.
             return finish(false);
     }
 }
@@ -303,7 +303,7 @@ bool HttpExchange::takeHead()
 
 bool HttpExchange::takePiece(const QByteArray &piece)
 {
-    // What comes instead of a file ends by itself, or soon.
+    // Of a page with an error, in place of a file, one buffer is taken and then no more.
     const qint64 limit = comesInsteadOfFile() ? std::min(readBufferBytes, m_plan.maximumBytes)
                                               : m_plan.maximumBytes;
     const QByteArray wanted = piece.left(limit - m_bodyBytes);
@@ -358,9 +358,9 @@ void HttpExchange::dropSocket()
         return;
     QSslSocket *const socket = std::exchange(m_socket, nullptr);
     socket->disconnect(this);
-    // The connection goes now, and not when the other side has said all that it has to say.
+    // Closed at once, without waiting for the rest of what the server sends.
     socket->abort();
-    // This may be its own signal.
+    // Deleted later, because this may run inside one of its signals.
     socket->deleteLater();
 }
 

@@ -132,7 +132,7 @@ void HttpReader::lineEnded()
     }
     constexpr int hexadecimal = 16;
     bool isNumber = false;
-    // Behind a semicolon stand words that nobody here understands.
+    // A chunk's extensions follow a semicolon; they are ignored.
     if (const qsizetype end = m_lines.indexOf(';'); end >= 0)
         m_lines.truncate(end);
     m_left = m_lines.trimmed().toLongLong(&isNumber, hexadecimal);
@@ -140,7 +140,7 @@ void HttpReader::lineEnded()
     if (!isNumber || m_left < 0)
         m_state = State::Broken;
     else if (m_left == 0)
-        // Fields may follow, which nobody here wants.
+        // Trailer fields may follow, which are ignored.
         framesEnded();
 }
 
@@ -169,7 +169,7 @@ void HttpReader::takeData(QByteArrayView data, const Take &take)
     }
 }
 
-/// What was compressed has an end of its own, which has to have come too.
+/// A compressed stream marks its own end, which has to have come as well.
 void HttpReader::framesEnded()
 {
     const bool isCut = m_inflation && !m_isInflated && m_hasData;

@@ -47,7 +47,7 @@ public:
     void end();
 
     State state() const { return m_state; }
-    /// Once the state is none before `Body`.
+    /// To be called once the head has come, from the state `Body` on.
     const HttpHead &head() const { return m_head; }
 
 private:

@@ -72,7 +72,7 @@ void QtWebClient::startThread()
 
 void QtWebClient::complete(std::uint64_t number, const WebOutcome &outcome)
 {
-    // Taken out first: it may ask for more, or end this.
+    // Taken out first: a completion may start another request or destroy this object.
     const auto awaited = m_awaited.extract(number);
     if (awaited.mapped().onRoute)
         awaited.mapped().onRoute(outcome.route);

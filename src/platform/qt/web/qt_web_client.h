@@ -18,7 +18,7 @@ class WebFetches;
 struct WebOutcome;
 
 /// The web client on Qt's sockets: one connection for each request, no more of a body in memory
-/// than is wanted, a bounded head, and no answer to whoever asks who the user is. A request is sent
+/// than is wanted, a bounded head, and no login for servers that ask for one. A request is sent
 /// once and never again. What is not wanted any more is closed at once.
 ///
 /// Names, TLS and decompression have a thread of their own. It is started by the first request and

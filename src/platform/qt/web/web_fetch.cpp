@@ -96,7 +96,7 @@ void WebFetch::visit(const QUrl &url)
     m_route = {};
     if (!isOfTheWeb(m_url) || !isSecureEnough(m_url))
         return finish(std::nullopt);
-    // Nothing leaves this machine on the way to itself.
+    // What runs on this machine is reached without a proxy.
     if (!m_network.routes || isThisMachine(m_url))
         return follow(m_route);
     m_network.routes->find(m_url, [this, mailbox = m_mailbox](const WebRoute &route) {
@@ -135,7 +135,7 @@ QList<QHostAddress> WebFetch::allowed(const QList<QHostAddress> &found) const
             = first.isEmpty() || first.constFirst().protocol() == address.protocol();
         (isOfFirstFamily ? first : second).append(address);
     }
-    // A host may be out of reach by one of them altogether.
+    // In turns, because one of the two families may not work at all here.
     QList<QHostAddress> all;
     for (qsizetype i = 0; i < std::max(first.size(), second.size()); ++i)
         all += first.mid(i, 1) + second.mid(i, 1);
@@ -153,7 +153,7 @@ void WebFetch::exchangeThroughProxy()
     const AddressSpace space = spaceByName(m_network, m_url);
     const bool isNamedByOthers = m_farthest.has_value();
     const bool isSecure = m_url.scheme() == QLatin1String("https");
-    // A name may lead anywhere behind the proxy, and only a certificate ties it to a place.
+    // The proxy looks the name up and may be led anywhere; only a certificate proves the host.
     if (isNamedByOthers && (space < *m_farthest || !isSecure))
         return finish(std::nullopt);
     if (m_request.mustBeSecure && !isSecure)
@@ -175,7 +175,7 @@ void WebFetch::exchange(const QList<QHostAddress> &addresses)
 
 void WebFetch::exchangeEnded()
 {
-    // It is the one that calls.
+    // Deleted later, because the exchange is what calls this function.
     HttpExchange *const exchange = m_exchange.release();
     exchange->deleteLater();
     if (m_hasEnded || !exchange->isComplete())
@@ -194,7 +194,7 @@ void WebFetch::redirect(const QByteArray &location)
     if (++m_redirects > WebClient::maximumRedirects)
         return finish(std::nullopt);
     QUrl next = m_url.resolved(QUrl::fromEncoded(location));
-    // What a page is looked at for outlives its move.
+    // A redirection without a fragment keeps the one of the address before it.
     if (!next.hasFragment() && m_url.hasFragment())
         next.setFragment(m_url.fragment(QUrl::FullyEncoded), QUrl::StrictMode);
     visit(next);

@@ -44,7 +44,7 @@ void WebFetches::startNext()
 void WebFetches::ended(std::uint64_t number, const WebOutcome &outcome)
 {
     auto fetch = m_running.extract(number);
-    // It is the one that calls.
+    // Deleted later, because the fetch is what calls this function.
     fetch.mapped().release()->deleteLater();
     m_deliver(number, outcome);
     startNext();

@@ -17,11 +17,11 @@ namespace corvane {
 
 /// The network as fetches see it, and how long they bear with it; all times in seconds.
 struct WebNetwork {
-    /// Kept by what still runs when everything else has ended.
+    /// Shared with lookups, which may still run when everything else has ended.
     std::shared_ptr<HostResolver> resolver = std::make_shared<SystemHostResolver>();
     /// Any thread.
     std::function<AddressSpace(const QHostAddress &)> spaceOf = addressSpaceOf;
-    /// Kept like the resolver; none where everything is reached directly.
+    /// Shared in the same way; null where everything is reached directly.
     std::shared_ptr<WebRoutes> routes;
     /// Trusted beside those of the system.
     QList<QSslCertificate> authorities;
@@ -30,7 +30,7 @@ struct WebNetwork {
     double resourceTimeout = WebClient::resourceTimeout;
     double downloadSilenceTimeout = WebDownloader::silenceTimeout;
     double downloadWholeTimeout = WebDownloader::wholeTimeout;
-    /// A host's next address has its turn when one has been silent for this long.
+    /// How long an address of a host may be silent before its next one is tried.
     double nextAddressAfter = 1;
 };
 
