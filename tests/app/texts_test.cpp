@@ -5,6 +5,7 @@
 #include "app/preferences/shortcut_recorder_view.h"
 #include "app/spoken_texts.h"
 #include "app/status/status_item_controller.h"
+#include "app/text_table.h"
 #include "app/updates/update_window_controller.h"
 #include "app/updates/updater.h"
 #include "app/welcome/welcome_view.h"
@@ -16,8 +17,6 @@
 #include "fakes/preferences_desk.h"
 #include "fakes/shelf_model.h"
 #include "shelf/bar/view_all_controller.h"
-
-#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -32,41 +31,6 @@ public:
     bool automaticallyChecksForUpdates() const override { return false; }
     void setAutomaticallyChecksForUpdates(bool) override { }
 };
-
-/// Sections with a heading, in the order in which they are added.
-class Table {
-public:
-    void add(const QString &heading, const QStringList &lines)
-    {
-        m_text += QLatin1String("== ") + heading + u'\n';
-        for (const QString &line : lines)
-            m_text += line + u'\n';
-        m_text += u'\n';
-    }
-    std::string text() const { return m_text.toStdString(); }
-
-private:
-    QString m_text;
-};
-
-/// What the group is to say; rewritten where the present texts are to be taken as the right ones.
-std::string groupOfFile(const QString &group, const std::string &present)
-{
-    const QString path
-        = QStringLiteral(CORVANE_TEST_DATA "/app/texts/") + group + QStringLiteral(".txt");
-    QFile file(path);
-    if (qEnvironmentVariableIsSet("CORVANE_REBASELINE")) {
-        if (file.open(QFile::WriteOnly))
-            file.write(QByteArray::fromStdString(present));
-        return present;
-    }
-    return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : std::string();
-}
-
-void expectTable(const char *group, const Table &table)
-{
-    EXPECT_EQ(table.text(), groupOfFile(QString::fromLatin1(group), table.text()));
-}
 
 QStringList menuLines(const FakeStatusItem &item)
 {
@@ -87,7 +51,7 @@ TEST(Texts, OfTheMenu)
     model.settings.setViewAllShortcut(
         Shortcut{KeyPosition{40}, Shortcut::control, QStringLiteral("K")});
     IdleUpdater updates;
-    Table table;
+    TextTable table;
     for (const bool hasUpdates : {false, true}) {
         FakeStatusItem item;
         StatusItemController controller({item, model.store, model.settings, model.desk.clock, [] {},
@@ -110,7 +74,7 @@ TEST(Texts, OfTheMenu)
 
 TEST(Texts, OfThePreferences)
 {
-    Table table;
+    TextTable table;
     IdleUpdater updates;
     PreferencesDesk desk;
     const auto add = [&](const QString &heading, PreferencesTab tab, const auto &prepare) {
@@ -148,7 +112,7 @@ TEST(Texts, OfThePreferences)
 
 TEST(Texts, OfTheGuide)
 {
-    Table table;
+    TextTable table;
     FakeMotionPreference motion;
     motion.reduces = true;
     {
@@ -167,7 +131,7 @@ TEST(Texts, OfTheGuide)
 TEST(Texts, OfTheUpdates)
 {
     using Stage = UpdateReport::Stage;
-    Table table;
+    TextTable table;
     FakeWindowActivation activation;
     {
         UpdateWindowController replacing(activation, QStringLiteral("1.0"), true);
@@ -280,7 +244,7 @@ TEST(Texts, OfTheShelfsMessages)
     flashed("one of one stayed", [&] { dragOut(three, {}, true); });
     flashed("one of three stayed", [&] { dragOut(three, {0, 1}, false); });
     flashed("nothing to drag", [&] { dragOut({file, ShelfDesk::fileItem(name)}, {}, false); });
-    Table table;
+    TextTable table;
     table.add(QStringLiteral("Messages on the shelf"), lines);
     expectTable("messages", table);
 }
@@ -313,7 +277,7 @@ TEST(Texts, OfTheBar)
     add("one of three ticked");
     model.store.toggleSelection(model.store.items()[2]);
     add("none of three ticked");
-    Table table;
+    TextTable table;
     table.add(QStringLiteral("The bar"), lines);
     expectTable("bar", table);
 }

@@ -1,0 +1,246 @@
+// The texts of the preview's window, and of a start beside one that does not answer, for the tables
+// in texts/.
+
+#include "app/application.h"
+#include "app/spoken_texts.h"
+#include "app/text_table.h"
+#include "app/unanswered_start.h"
+#include "fakes/fake_desktop_services.h"
+#include "fakes/fake_file_icons.h"
+#include "fakes/fake_panel_window.h"
+#include "fakes/fake_preview_documents.h"
+#include "fakes/fake_window_activation.h"
+#include "fakes/test_clock.h"
+#include "preview/preview_window.h"
+#include "preview/qt_preview_panel.h"
+#include "services/preview_file.h"
+
+#include <QApplication>
+#include <QDateTime>
+#include <QDir>
+#include <QLocale>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <QTimer>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <functional>
+
+namespace corvane::test {
+
+namespace {
+
+/// Never answers.
+class SilentLoading : public PreviewLoading {
+public:
+    PreviewDetails placeholder(const QUrl &url) const override
+    {
+        return {preview_file::shownName(url), {}, {}, {}};
+    }
+    bool mayNeverAnswer(const QUrl &) const override { return true; }
+    void load(const QUrl &, QSize, std::function<void(PreviewContent)>) override { }
+    void cancel() override { }
+    void render(std::shared_ptr<PreviewDocument>, int, QSize,
+                std::function<void(std::optional<QImage>)>) override
+    {
+    }
+    void nextFrame(std::shared_ptr<PreviewDocument>, QSize,
+                   std::function<void(std::optional<PreviewDocument::Frame>)>) override
+    {
+    }
+};
+
+struct OneFile : PreviewPanelDataSource, PreviewPanelController {
+    int numberOfPreviewItems() const override { return 1; }
+    std::optional<QUrl> previewItemAt(int) const override { return url; }
+    std::optional<QString> previewItemTitle(int) const override { return std::nullopt; }
+    bool acceptsPreviewPanelControl(PreviewPanel &) override { return true; }
+    void beginPreviewPanelControl(PreviewPanel &panel) override
+    {
+        panel.setDataSource(this);
+        panel.reloadData();
+    }
+    void endPreviewPanelControl(PreviewPanel &panel) override { panel.setDataSource(nullptr); }
+
+    QUrl url{QStringLiteral("file:///home/letter.txt")};
+};
+
+/// A folder of files that were last changed on the same day.
+class PreviewedFiles {
+public:
+    QUrl file(const QString &name, const QByteArray &contents) const
+    {
+        QFile file(m_folder.filePath(name));
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        file.write(contents);
+        file.flush();
+        file.setFileTime(day(), QFile::FileModificationTime);
+        return QUrl::fromLocalFile(file.fileName());
+    }
+    QUrl folder(const QString &name, int items) const
+    {
+        const QString path = m_folder.filePath(name);
+        EXPECT_TRUE(QDir().mkdir(path));
+        for (int i = 0; i < items; ++i)
+            file(name + u'/' + QString::number(i), {});
+        EXPECT_EQ(::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times().data(), 0), 0);
+        return QUrl::fromLocalFile(path);
+    }
+    QUrl none() const { return QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("gone"))); }
+    PreviewContent read(const QUrl &url)
+    {
+        return preview_file::read(url, {800, 600}, m_documents);
+    }
+
+private:
+    static QDateTime day() { return {{2024, 3, 9}, {14, 5}}; }
+    static std::array<timespec, 2> times()
+    {
+        const timespec time{day().toSecsSinceEpoch(), 0};
+        return {time, time};
+    }
+
+    QTemporaryDir m_folder;
+    FakePreviewDocuments m_documents;
+};
+
+/// What the program itself writes to the standard error meanwhile.
+QString standardErrorOf(const std::function<void()> &act)
+{
+    QTemporaryFile file;
+    EXPECT_TRUE(file.open());
+    std::fflush(stderr);
+    const int before = ::dup(STDERR_FILENO);
+    ::dup2(file.handle(), STDERR_FILENO);
+    act();
+    std::fflush(stderr);
+    ::dup2(before, STDERR_FILENO);
+    ::close(before);
+    file.seek(0);
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+    return lines.filter(QStringLiteral("corvane: ")).join(QLatin1Char('\n'));
+}
+
+/// Texts for people depend on the language, and those of a window on the program's name.
+class Surroundings {
+public:
+    Surroundings()
+    {
+        QLocale::setDefault(QLocale::c());
+        QCoreApplication::setApplicationName(QStringLiteral("Corvane"));
+    }
+    Surroundings(const Surroundings &) = delete;
+    Surroundings &operator=(const Surroundings &) = delete;
+    ~Surroundings()
+    {
+        QLocale::setDefault(m_locale);
+        QCoreApplication::setApplicationName(m_name);
+    }
+
+private:
+    QLocale m_locale;
+    QString m_name = QCoreApplication::applicationName();
+};
+
+} // namespace
+
+TEST(Texts, OfThePreview)
+{
+    const Surroundings surroundings;
+    TextTable table;
+    SilentLoading loading;
+    TestClock clock;
+    FakeFileIcons icons;
+    PreviewedFiles files;
+    PreviewWindow window(loading, clock);
+    window.show();
+    const auto add = [&](const char *heading, const PreviewContent &content) {
+        window.setContent(content, icons.iconForFile(content.url, 128, 1));
+        // What is put into a window that is open already is shown with the next turn.
+        QCoreApplication::processEvents();
+        table.add(QLatin1String("Preview, ") + QLatin1String(heading), spokenTexts(window));
+    };
+    PreviewContent content = files.read(files.file(QStringLiteral("letter.txt"), "Dear all,"));
+    add("a text", content);
+    std::get<PreviewContent::Text>(content.body).isCut = true;
+    add("a text that is too long", content);
+    add("an unknown file", files.read(files.file(QStringLiteral("unknown"), QByteArray(1, '\0'))));
+    add("an empty file", files.read(files.file(QStringLiteral("empty.pdf"), {})));
+    add("a program", files.read(files.file(QStringLiteral("setup.exe"), "MZ")));
+    add("an empty folder", files.read(files.folder(QStringLiteral("none"), 0)));
+    add("a folder with one item", files.read(files.folder(QStringLiteral("one"), 1)));
+    add("a folder with two items", files.read(files.folder(QStringLiteral("two"), 2)));
+    add("a folder with very many items", files.read(files.folder(QStringLiteral("many"), 10'001)));
+    add("what is no longer there", files.read(files.none()));
+    content = files.read(files.file(QStringLiteral("photo.png"), "\x89PNG\r\n\x1a\n"));
+    add("a picture", content);
+    std::get<PreviewContent::Picture>(content.body).isVector = true;
+    add("a drawing", content);
+    content = files.read(files.file(QStringLiteral("report.pdf"), "%PDF-1.4\n"));
+    add("a page", content);
+    auto &pages = std::get<PreviewContent::Pages>(content.body);
+    pages.count = 2;
+    pages.sizes << pages.sizes.first();
+    add("two pages", content);
+    pages.count = 900;
+    add("more pages than are shown", content);
+
+    FakeDesktopServices desktop;
+    FakeWindowActivation activation;
+    FakePanelWindow shelf;
+    shelf.setFrame({300, 500, 200, 44});
+    OneFile file;
+    QtPreviewPanel panel({loading, icons, desktop, activation, clock, shelf});
+    panel.setController(&file);
+    window.hide();
+    panel.makeKeyAndOrderFront();
+    for (QWidget *widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible())
+            table.add(QStringLiteral("Preview, what is being read"), spokenTexts(*widget));
+    }
+    panel.setController(nullptr);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    expectTable("preview", table);
+}
+
+TEST(Texts, OfAStartBesideOneThatDoesNotAnswer)
+{
+    const Surroundings surroundings;
+    TextTable table;
+    const auto add = [&table](const char *heading, std::optional<qint64> process) {
+        // The window is waited for.
+        QTimer::singleShot(0, [&table, heading] {
+            QWidget *const window = QApplication::activeModalWidget();
+            ASSERT_NE(window, nullptr);
+            table.add(QLatin1String("Start beside one that does not answer, ")
+                          + QLatin1String(heading),
+                      spokenTexts(*window));
+            window->close();
+        });
+        const QString error = standardErrorOf([process] { tellOfUnansweredStart(process); });
+        table.add(QLatin1String("The same, on the standard error"), {error});
+    };
+    add("its process known", 4711);
+    add("its process unknown", std::nullopt);
+    expectTable("unanswered", table);
+}
+
+TEST(Texts, OfAStartWithoutADisplay)
+{
+    TextTable table;
+    const QByteArray display = qgetenv("DISPLAY");
+    qunsetenv("DISPLAY");
+    int status = 0;
+    const QString error = standardErrorOf([&status] { status = runApplication(0, nullptr); });
+    if (!display.isEmpty())
+        qputenv("DISPLAY", display);
+    EXPECT_EQ(status, 1);
+    table.add(QStringLiteral("Start without a display, on the standard error"), {error});
+    expectTable("no-display", table);
+}
+
+} // namespace corvane::test
