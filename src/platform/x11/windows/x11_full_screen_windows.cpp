@@ -47,8 +47,8 @@ bool X11FullScreenWindows::coversUnmanaged(xcb_window_t window, const QRect &scr
         || attributes->_class == XCB_WINDOW_CLASS_INPUT_ONLY)
         return false;
     const auto frame = frameOf(window);
-    // The screen's size may be rounded up.
-    const bool covers = frame && frame->adjusted(-1, -1, 1, 1).contains(screen);
+    // The screen's size may be rounded up; its place is exact.
+    const bool covers = frame && frame->adjusted(0, 0, 1, 1).contains(screen);
     return covers && !hasAtom(window, "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DESKTOP");
 }
 

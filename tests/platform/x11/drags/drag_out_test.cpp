@@ -29,15 +29,19 @@ protected:
 
     DragOut drag() const
     {
-        QImage image(32, 32, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::yellow);
         if (isTextAlone)
-            return {{{}, text}, {image, {16, 16}}, {8, 8}};
+            return {{{}, text}, picture, {8, 8}};
         return {{{{PasteboardWriter::File{QUrl(QStringLiteral("file:///tmp/a%FF.txt"))}},
                   {PasteboardWriter::Data{bytes, UTType::png()}}},
                  text},
-                {image, {16, 16}},
+                picture,
                 {8, 8}};
+    }
+    static Image yellow(QSize pixels, QSizeF points)
+    {
+        QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+        image.fill(Qt::yellow);
+        return {image, points};
     }
 
     /// Drags out of the panel to `goal` and lets go there. The drag blocks this thread in an event
@@ -66,6 +70,7 @@ protected:
     QByteArray bytes = "picture";
     QString text = QStringLiteral("täxt");
     bool isTextAlone = false;
+    Image picture = yellow({32, 32}, {16, 16});
     int releases = 0;
     std::vector<DragOperation> results;
     QList<qsizetype> taken;
@@ -89,6 +94,27 @@ TEST_F(DragOutTest, givesATargetThatAsksLikeGtkEverything)
     EXPECT_FALSE(target.received("application/vnd.portal.filetransfer"));
     EXPECT_TRUE(target.targets().contains("text/uri-list"));
     EXPECT_TRUE(target.targets().contains("UTF8_STRING"));
+}
+
+TEST_F(DragOutTest, showsAPictureOfAnotherShapeThanItsPlaceFittedIntoIt)
+{
+    picture = yellow({64, 16}, {32, 16});
+    show();
+    const QPoint goal(200, 200);
+    const e2e::XServer eye{qgetenv("DISPLAY")};
+    const auto isYellow = [&](int x, int y) {
+        const QImage seen = eye.picture({goal - QPoint(8, 8) + QPoint(x, y), QSize(1, 1)});
+        return seen.pixelColor(0, 0) == QColor(Qt::yellow);
+    };
+    bool isSeen = false;
+    bool isLarger = false;
+    letGoOver(goal, [&] {
+        isSeen = isYellow(0, 0) && isYellow(31, 7);
+        isLarger = isYellow(0, 8) || isYellow(32, 0);
+        return isSeen || isLarger;
+    });
+    EXPECT_TRUE(isSeen);
+    EXPECT_FALSE(isLarger);
 }
 
 TEST_F(DragOutTest, everyTypeThatIsAnnouncedIsGiven)

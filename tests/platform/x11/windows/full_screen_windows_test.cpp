@@ -92,6 +92,21 @@ TEST_F(X11FullScreenWindowsTest, anUnmanagedWindowCoversAScreenThatItFills)
     EXPECT_FALSE(isCovered(right));
 }
 
+TEST_F(X11FullScreenWindowsTest, aScreensSizeMayBeAPixelLargerThanItIsButItsPlaceIsExact)
+{
+    for (const QRect &almost : {QRect(0, 0, 1511, 982), QRect(0, 0, 1512, 981)}) {
+        UnmanagedWindow game;
+        ASSERT_TRUE(showAt(game, almost));
+        EXPECT_TRUE(isCovered(whole)) << almost.width();
+    }
+    for (const QRect &partial :
+         {QRect(0, 0, 1510, 982), QRect(0, 0, 1512, 980), QRect(1, 0, 1511, 982)}) {
+        UnmanagedWindow game;
+        ASSERT_TRUE(showAt(game, partial));
+        EXPECT_FALSE(isCovered(whole)) << partial.width();
+    }
+}
+
 TEST_F(X11FullScreenWindowsTest, whatTakesNoClicksAndWhatIsTheDesktopCoverNothing)
 {
     UnmanagedWindow overlay(Qt::WindowTransparentForInput);
