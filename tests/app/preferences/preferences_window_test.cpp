@@ -231,10 +231,12 @@ TEST_F(PreferencesWindowTest, AboutNamesTheProgramItsVersionAndItsLinks)
 {
     controller->selection().setTab(PreferencesTab::About);
     QStringList texts;
-    for (const auto *label : window().findChildren<TextLabel *>())
+    const auto labels = window().findChildren<TextLabel *>();
+    for (const auto *label : labels)
         texts << label->text();
     EXPECT_EQ(texts.value(0), QStringLiteral("Corvane"));
     EXPECT_EQ(texts.value(1), QStringLiteral("Version 1.2 (34)"));
+    EXPECT_EQ(labels[1]->focusPolicy(), Qt::ClickFocus) << "it is copied from, and Tab passes it";
     for (auto *link : window().findChildren<QPushButton *>())
         link->click();
     EXPECT_EQ(desk.services.opened,

@@ -1,4 +1,5 @@
 #include "app/preferences/shortcut_recorder_view.h"
+#include "app/look/window_look.h"
 #include "fakes/fake_hot_keys.h"
 #include "fakes/fake_key_monitors.h"
 
@@ -80,6 +81,20 @@ protected:
 };
 
 } // namespace
+
+TEST_F(ShortcutRecorderViewTest, KeepsANameOfAnyLengthWithinItsEdges)
+{
+    view->setShortcut(Shortcut{2, Shortcut::command, QStringLiteral("i")});
+    const QImage brief = picture();
+    view->setShortcut(Shortcut{2, Shortcut::command, QString(300, u'M')});
+    const QImage lengthy = picture();
+    EXPECT_NE(lengthy, brief);
+    const int edge = WindowLook().length(6) - 1;
+    for (const int left : {0, view->width() - edge}) {
+        const QRect side(left, 0, edge, view->height());
+        EXPECT_EQ(lengthy.copy(side), brief.copy(side)) << left;
+    }
+}
 
 TEST_F(ShortcutRecorderViewTest, SaysWhatItShows)
 {

@@ -245,8 +245,32 @@ TEST_F(SoftwareUpdaterTest, VersionsForPeopleAreComparedWhereThereAreNoBuilds)
     };
     checkNow(people("1.0"));
     EXPECT_EQ(display.report.stage, Stage::UpToDate);
-    checkNow(people("1.0.1"));
+    checkNow(people("1.2"));
     EXPECT_EQ(display.report.stage, Stage::Available);
+    display.onDismiss();
+    checkNow(people("1.1"));
+    EXPECT_TRUE(hasFailed(UpdateFailure::WentBack));
+    checkNow(feed(""));
+    EXPECT_TRUE(hasFailed(UpdateFailure::WentBack)) << "nor one that falls silent about it";
+}
+
+TEST_F(SoftwareUpdaterTest, ACheckIsRememberedWhenItBegins)
+{
+    make();
+    pass(100);
+    ASSERT_EQ(checks(), 1U);
+    EXPECT_EQ(UpdateRecordFile(state.path("corvane")).load().lastCheck, began + 60);
+}
+
+TEST_F(SoftwareUpdaterTest, ACheckThatIsDueWhileTheUserDecidesIsNotMadeUpForSoonAfter)
+{
+    make();
+    pass(60);
+    answer(newer());
+    pass(day + 60);
+    display.onDismiss();
+    pass(day / 2);
+    EXPECT_EQ(checks(), 1U);
 }
 
 TEST_F(SoftwareUpdaterTest, AVersionThatCannotBeCheckedIsNotOffered)
@@ -283,6 +307,20 @@ TEST_F(SoftwareUpdaterTest, TheDownloadIsSafeAndNoLongerThanAnnounced)
     EXPECT_EQ(request.maximumBytes, UpdateFolder::newImage().size() + 1);
     EXPECT_EQ(request.url, QUrl(QStringLiteral("https://corvane.example/new.AppImage")));
     EXPECT_EQ(request.foundIn, AddressSpace::Public) << "where the feed was";
+}
+
+TEST_F(SoftwareUpdaterTest, AFeedInsideTheUsersNetworkMayLeadThere)
+{
+    make();
+    updater->checkForUpdates();
+    const QByteArray bytes = newer();
+    web.answer(
+        web.requests.size() - 1,
+        WebResponse{200, bytes.size(), web.requests.back().url, bytes, AddressSpace::Private});
+    settle();
+    display.onInstall();
+    settle();
+    EXPECT_EQ(downloader.downloads.at(0).request.foundIn, AddressSpace::Private);
 }
 
 TEST_F(SoftwareUpdaterTest, NothingIsDownloadedBeforeTheUserSaysSo)

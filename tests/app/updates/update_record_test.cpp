@@ -48,10 +48,11 @@ TEST_F(UpdateRecordTest, WhatIsNotThereWasNeverRemembered)
 
 TEST_F(UpdateRecordTest, WhatIsNoRecordCountsForNothing)
 {
-    for (const QByteArray &bytes : {QByteArray("nonsense"), QByteArray("[]"), QByteArray(5000, ' '),
-                                    QByteArray(R"({"lastCheck": -1, "highestBuild": "../.."})"),
-                                    QByteArray(R"({"lastCheck": 1e300, "highestBuild": 12})"),
-                                    QByteArray(R"({"lastCheck": "now"})")}) {
+    for (const QByteArray &bytes :
+         {QByteArray("nonsense"), QByteArray("[]"), QByteArray(5000, ' '),
+          QByteArray(R"({"lastCheck": -1, "highestBuild": "../.."})"),
+          QByteArray(R"({"lastCheck": 1e300, "highestBuild": 12})"),
+          QByteArray(R"({"lastCheck": 9e15})"), QByteArray(R"({"lastCheck": "now"})")}) {
         store(bytes);
         const UpdateRecord loaded = record.load();
         EXPECT_FALSE(loaded.lastCheck) << bytes.left(60).toStdString();
