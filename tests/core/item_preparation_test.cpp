@@ -121,6 +121,43 @@ TEST_F(ItemPreparationTest, DeletesWhatWasMadeOfAnItemThatIsRemovedAtTheLastMome
     EXPECT_TRUE(log.isEmpty());
 }
 
+TEST_F(ItemPreparationTest, TellsWhoBeganItBeforeAnybodyElse)
+{
+    const auto place = spool.keepPlace(QStringLiteral("a"), QStringLiteral("png"));
+    const DropItem item(DropItem::File{place->url()}, QStringLiteral("a"), {}, true);
+    preparation->begin({DropItem::beingMade({place->url()}, QStringLiteral("a"), {}, {}),
+                        {place},
+                        [item] { return item; },
+                        [this](const auto &) { log << QStringLiteral("ended"); }});
+    finishWork();
+    EXPECT_EQ(log, (QStringList{QStringLiteral("ended"), QStringLiteral("ready a")}));
+}
+
+TEST_F(ItemPreparationTest, GivesUpEveryPlaceOfAnItemThatIsRemovedOrThatItLeavesBehind)
+{
+    for (const bool isRemoved : {true, false}) {
+        const auto first = spool.keepPlace(QStringLiteral("a"), QStringLiteral("png"));
+        const auto second = spool.keepPlace(QStringLiteral("b"), QStringLiteral("png"));
+        const DropItem item = preparation->begin(
+            {DropItem::beingMade({first->url()}, QStringLiteral("a"), {}, {}),
+             {first, second},
+             [first, second] {
+                 second->write("b");
+                 return DropItem(DropItem::File{first->url()}, QStringLiteral("a"), {}, true);
+             },
+             {}});
+        if (isRemoved) {
+            work.runAll();
+            spool.discard(urlOf(item));
+            clock.runPending();
+        } else {
+            preparation.reset();
+        }
+        EXPECT_FALSE(second->isWanted()) << isRemoved;
+        EXPECT_FALSE(exists(second->url())) << isRemoved;
+    }
+}
+
 TEST_F(ItemPreparationTest, HandsOverManyOnceTheLastIsDecided)
 {
     const DropItem text(DropItem::Text{}, QStringLiteral("text"), {}, false);

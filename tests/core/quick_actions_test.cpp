@@ -110,6 +110,15 @@ struct QuickActionsTest : testing::Test {
     QStringList messages;
 };
 
+TEST_F(QuickActionsTest, SaysThatItWasCopiedOnceItIs)
+{
+    std::vector<std::size_t> writesWhenTold;
+    feedback.handler = [&](const QString &) { writesWhenTold.push_back(pasteboard.writes.size()); };
+    actions.copy(text, false);
+    actions.copy({text, link});
+    EXPECT_EQ(writesWhenTold, (std::vector<std::size_t>{1, 2}));
+}
+
 TEST_F(QuickActionsTest, CopiesAFileAndItsPath)
 {
     const DropItem item = file("a #1.txt", "x");

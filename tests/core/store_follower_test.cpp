@@ -124,6 +124,25 @@ TEST_F(StoreFollowerTest, FollowsWhatTheWorkItselfChanges)
     EXPECT_EQ(take(), (QStringList{QStringLiteral("1"), QStringLiteral("1 closed")}));
 }
 
+TEST_F(StoreFollowerTest, FollowsDetailsThatComeWhileItFollows)
+{
+    int followed = 0;
+    bool isToGive = false;
+    StoreFollower giving(store, clock, [&] {
+        ++followed;
+        if (std::exchange(isToGive, false))
+            giveThumbnails();
+    });
+    store.accept(files(1));
+    clock.advance(1);
+    isToGive = true;
+    followed = 0;
+    store.publishItems();
+    EXPECT_EQ(followed, 1);
+    clock.advance(1);
+    EXPECT_EQ(followed, 2);
+}
+
 TEST_F(StoreFollowerTest, DoesNothingOnceItIsGone)
 {
     store.accept(files(1));

@@ -81,6 +81,7 @@ TEST_F(ScreenLocatorTest, HasNoScreenWhereNoneIsAttached)
 TEST_F(ScreenLocatorTest, MeasuresTheNotchBetweenTheAreasBesideIt)
 {
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(32, 656, 656)), (Notch{32, 200}));
+    EXPECT_EQ(ScreenLocator::notch(screenWithNotch(32, 600, 656)), (Notch{32, 256}));
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(32, 756, 756)), (Notch{32, 0}));
 }
 

@@ -373,6 +373,22 @@ TEST_F(LinkPreviewServiceTest, LoadsEveryLinkOfManyOnce)
     EXPECT_EQ(completions, count);
 }
 
+TEST_F(LinkPreviewServiceTest, HasBegunTheNextWhenSomebodyHearsOfOneAndEndsIt)
+{
+    std::size_t askedWhenTold = 0;
+    for (std::size_t i = 0; i < LinkPreviewService::maximumLoads + 1; ++i) {
+        service->load(
+            link, [] { return true; },
+            [&](const auto &) {
+                askedWhenTold = web.requests.size();
+                service.reset();
+            });
+    }
+    ASSERT_EQ(web.requests.size(), LinkPreviewService::maximumLoads);
+    web.fail(0);
+    EXPECT_EQ(askedWhenTold, LinkPreviewService::maximumLoads + 1);
+}
+
 TEST_F(LinkPreviewServiceTest, ForgetsTheOldestOfTooManyThatWait)
 {
     const auto token = std::make_shared<int>();

@@ -3,6 +3,7 @@
 #include "fakes/fake_preview_documents.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
+#include "platform/system/file_url.h"
 #include "services/preview_loader.h"
 
 #include <gtest/gtest.h>
@@ -100,6 +101,19 @@ TEST_F(PreviewLoaderTest, ADocumentThatMayNeverAnswerIsAskedAndClosedOnItsOwnThr
     EXPECT_EQ(remoteWork.pendingCount(), 0U);
     document.reset();
     EXPECT_EQ(remoteWork.pendingCount(), 1U) << "closing it";
+}
+
+TEST_F(PreviewLoaderTest, ClosesPagesBehindANetworkWithoutTheMainThreadToo)
+{
+    const QUrl url = folder.write("far.pdf", "%PDF-1.4");
+    locality.remoteFolder = file_url::nativePath(url);
+    loader->load(url, {800, 600}, keep());
+    remoteWork.runAll();
+    clock.runPending();
+    ASSERT_EQ(loaded.size(), 1U);
+    ASSERT_TRUE(std::holds_alternative<PreviewContent::Pages>(loaded[0].body));
+    loaded.clear();
+    EXPECT_EQ(remoteWork.pendingCount(), 1U);
 }
 
 TEST_F(PreviewLoaderTest, AnswersOnlyTheLastOfTwoLoads)

@@ -59,6 +59,29 @@ TEST_F(QuickLookPresenterTest, ShowsAFileItselfAndWritesNothing)
     EXPECT_TRUE(scratchFiles().isEmpty());
 }
 
+TEST_F(QuickLookPresenterTest, HasAddressAndTitleInPlaceBeforeThePanelAsks)
+{
+    struct Asking : PreviewPanelController {
+        bool acceptsPreviewPanelControl(PreviewPanel &) override { return true; }
+        void beginPreviewPanelControl(PreviewPanel &) override
+        {
+            url = presenter->previewItemAt(0);
+            title = presenter->previewItemTitle(0);
+        }
+        void endPreviewPanelControl(PreviewPanel &) override { }
+
+        QuickLookPresenter *presenter = nullptr;
+        std::optional<QUrl> url;
+        std::optional<QString> title;
+    } asking;
+    asking.presenter = &*presenter;
+    panel.setController(&asking);
+    presenter->present(text(QStringLiteral("hello")));
+    EXPECT_EQ(asking.url, presenter->scratchURL());
+    EXPECT_EQ(asking.title, QStringLiteral("title"));
+    panel.setController(nullptr);
+}
+
 TEST_F(QuickLookPresenterTest, GivesTheOneAddressForAnyIndex)
 {
     const QUrl url(QStringLiteral("file:///home/a.txt"));
