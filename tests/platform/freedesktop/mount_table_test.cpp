@@ -121,6 +121,8 @@ TEST_F(MountTableTest, whatShowsAnotherFolderIsAsRemoteAsThat)
     EXPECT_TRUE(isRemote("local/a"));
     mount("local", "fuse.cryfs", "cryfs@" + path("net/deep"));
     EXPECT_TRUE(isRemote("local/a"));
+    mount("local", "fuse.cryfs", "cryfs@" + path("other"));
+    EXPECT_FALSE(isRemote("local/a"));
     mount("local", "fuse.mergerfs", path("other") + ':' + path("net"));
     EXPECT_TRUE(isRemote("local/a"));
     mount("local", "fuse.mergerfs", path("other") + ':' + path("another"));

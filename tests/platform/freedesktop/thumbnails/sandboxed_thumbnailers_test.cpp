@@ -16,6 +16,7 @@
 #include <unistd.h>
 
 #include <chrono>
+#include <csignal>
 #include <optional>
 #include <random>
 #include <thread>
@@ -249,6 +250,20 @@ TEST(BoundedProcess, KillsWhatAProgramStartedTooAtALimit)
         {"/bin/sh", "-c", "sleep 1000.625 & echo started; wait"}, {60, 4}, never);
     EXPECT_EQ(result.outcome, bounded_process::Result::Outcome::Killed);
     EXPECT_TRUE(e2e::eventually([] { return !isRunning("1000.625"); }));
+}
+
+TEST(BoundedProcess, GivesNoBlockedSignalsOn)
+{
+    sigset_t signals;
+    sigset_t before;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGUSR1);
+    ::pthread_sigmask(SIG_BLOCK, &signals, &before);
+    Cancellation never;
+    const auto result = bounded_process::run({"/bin/sh", "-c", "grep SigBlk /proc/self/status"},
+                                             {60, 100}, never);
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    EXPECT_EQ(result.output, "SigBlk:\t0000000000000000\n");
 }
 
 TEST_F(SandboxedThumbnailersTest, boundWhatAProgramPrintsAndWrites)

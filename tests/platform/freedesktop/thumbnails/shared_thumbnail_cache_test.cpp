@@ -132,6 +132,23 @@ TEST(ThumbnailUri, hasOneSpellingForEachFile)
     EXPECT_EQ(thumbnailUri("/..a/...b"), "file:///..a/...b");
 }
 
+TEST(SharedThumbnailCache, liesInTheUsersCacheFolder)
+{
+    const QByteArray cache = qgetenv("XDG_CACHE_HOME");
+    const QByteArray home = qgetenv("HOME");
+    qputenv("XDG_CACHE_HOME", "/cache");
+    qputenv("HOME", "/home/me");
+    EXPECT_EQ(SharedThumbnailCache::environmentCacheFolder(), "/cache");
+    for (const char *unusable : {"", "cache"}) {
+        qputenv("XDG_CACHE_HOME", unusable);
+        EXPECT_EQ(SharedThumbnailCache::environmentCacheFolder(), "/home/me/.cache");
+    }
+    qputenv("HOME", "me");
+    EXPECT_EQ(SharedThumbnailCache::environmentCacheFolder(), QByteArray());
+    qputenv("XDG_CACHE_HOME", cache);
+    qputenv("HOME", home);
+}
+
 TEST_F(SharedThumbnailCacheTest, findsWhatItKept)
 {
     const FileVersion shown = file("files/a.png");

@@ -50,6 +50,15 @@ TEST(BoundedListing, namesWhatIsInAFolder)
     EXPECT_EQ(listing.names("/nowhere", longEnough), Names());
 }
 
+TEST(BoundedListing, looksAnewEachTime)
+{
+    int looks = 0;
+    BoundedListing listing(
+        [&looks](const QByteArray &) { return Names{QByteArray::number(++looks)}; });
+    EXPECT_EQ(listing.names("/folder", longEnough), Names{"1"});
+    EXPECT_EQ(listing.names("/folder", longEnough), Names{"2"});
+}
+
 TEST(BoundedListing, goesOnWithoutAFolderThatDoesNotAnswer)
 {
     SlowFolder folder;

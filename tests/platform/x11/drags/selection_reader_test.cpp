@@ -30,6 +30,16 @@ public:
     }
     ~Owner() override { stopThread(); }
 
+    /// Stops only after so many bytes from now on, and goes on where it has stopped.
+    void goOnUntil(qsizetype stopsAfter)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_stopsAfter = stopsAfter;
+        if (const auto news = std::exchange(m_unanswered, std::nullopt))
+            send(*news);
+        xcb_flush(connection());
+    }
+
     static constexpr qsizetype pieceBytes = 64 * 1024;
 
 private:
@@ -68,8 +78,16 @@ private:
     }
     void goOn(const xcb_property_notify_event_t &news)
     {
-        if (news.state != XCB_PROPERTY_DELETE || news.window == window() || m_sent >= m_stopsAfter)
+        const std::lock_guard lock(m_mutex);
+        if (news.state != XCB_PROPERTY_DELETE || news.window == window())
             return;
+        if (m_sent < m_stopsAfter)
+            send(news);
+        else
+            m_unanswered = news;
+    }
+    void send(const xcb_property_notify_event_t &news)
+    {
         const QByteArray piece = m_contents.mid(m_sent, pieceBytes);
         xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, news.window, news.atom,
                             atom("text/plain"), 8, static_cast<std::uint32_t>(piece.size()),
@@ -80,6 +98,7 @@ private:
     QByteArray m_contents;
     qsizetype m_stopsAfter;
     qsizetype m_sent = 0;
+    std::optional<xcb_property_notify_event_t> m_unanswered;
 };
 
 class SelectionReaderTest : public testing::Test {
@@ -186,6 +205,20 @@ TEST_F(SelectionReaderTest, givesAnOwnerUpThatStopsInTheMiddle)
     read();
     waitInVain(SelectionReader::patience + 4);
     EXPECT_EQ(outcome, Outcome::Lost);
+}
+
+TEST_F(SelectionReaderTest, waitsForASlowOwnerThatGoesOn)
+{
+    const QByteArray contents = numberedBytes(300'000);
+    Owner owner(contents, 100'000);
+    read();
+    waitInVain(SelectionReader::patience - 10);
+    owner.goOnUntil(200'000);
+    waitInVain(SelectionReader::patience - 10);
+    EXPECT_FALSE(outcome) << "it has given something meanwhile";
+    owner.goOnUntil(std::numeric_limits<qsizetype>::max());
+    ASSERT_TRUE(isOver());
+    EXPECT_EQ(bytes, contents);
 }
 
 TEST_F(SelectionReaderTest, hearsThatItsOwnerEnds)
