@@ -137,7 +137,7 @@ TEST_F(StoreFollowerTest, FollowsDetailsThatComeWhileItFollows)
     clock.advance(1);
     isToGive = true;
     followed = 0;
-    store.publishItems();
+    store.inViewCountChanged();
     EXPECT_EQ(followed, 1);
     clock.advance(1);
     EXPECT_EQ(followed, 2);
