@@ -1,5 +1,5 @@
-#include "app/preferences/setting_row.h"
 #include "app/look/text_label.h"
+#include "app/preferences/setting_row.h"
 
 #include <QLayout>
 

@@ -1,5 +1,5 @@
-#include "app/preferences/shortcut_recorder_view.h"
 #include "app/look/window_look.h"
+#include "app/preferences/shortcut_recorder_view.h"
 #include "fakes/fake_hot_keys.h"
 #include "fakes/fake_key_monitors.h"
 
@@ -84,9 +84,9 @@ protected:
 
 TEST_F(ShortcutRecorderViewTest, KeepsANameOfAnyLengthWithinItsEdges)
 {
-    view->setShortcut(Shortcut{2, Shortcut::command, QStringLiteral("i")});
+    view->setShortcut(Shortcut{KeyPosition::D, Shortcut::command, QStringLiteral("i")});
     const QImage brief = picture();
-    view->setShortcut(Shortcut{2, Shortcut::command, QString(300, u'M')});
+    view->setShortcut(Shortcut{KeyPosition::D, Shortcut::command, QString(300, u'M')});
     const QImage lengthy = picture();
     EXPECT_NE(lengthy, brief);
     const int edge = WindowLook().length(6) - 1;
