@@ -50,7 +50,7 @@ public:
 
     /// Called now and then with the number of bytes that have come.
     std::function<void(qint64)> onProgress;
-    /// Called before the end with the way that the request took, or that forbade it.
+    /// Called before the end with the way of the request, also of one that was withheld.
     std::function<void(const WebRoute &)> onRoute;
     /// Called once, with a file of the claimed length or with what went wrong; may delete this.
     std::function<void(std::shared_ptr<UpdateFile>, std::optional<UpdateFailure>)> onEnd;
