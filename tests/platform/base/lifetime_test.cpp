@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <thread>
+#include <vector>
 
 namespace corvane {
 namespace {
@@ -94,11 +95,12 @@ TEST(LifetimeTest, TellsATokenThatItIsOver)
 {
     auto lifetime = std::make_unique<Lifetime>();
     const Lifetime::Token token = lifetime->token();
-    const Lifetime::Token copy = token;
+    const std::vector copies(2, token);
     EXPECT_FALSE(token.isOver());
+    EXPECT_FALSE(copies.back().isOver());
     lifetime.reset();
     EXPECT_TRUE(token.isOver());
-    EXPECT_TRUE(copy.isOver());
+    EXPECT_TRUE(copies.back().isOver());
 }
 
 TEST(LifetimeTest, GuardsWhatCanOnlyBeMoved)

@@ -41,12 +41,14 @@ TEST_F(SubscriptionTest, IsTakenBackOnceWhenItEndsEarlier)
 TEST_F(SubscriptionTest, IsTakenBackWhereItWasMovedTo)
 {
     Subscription first = subscribe("a");
+    Subscription &left = first;
     {
         const Subscription second = std::move(first);
+        EXPECT_FALSE(left.isActive());
         EXPECT_EQ(log, "");
     }
     EXPECT_EQ(log, "a ");
-    first.end();
+    left.end();
     EXPECT_EQ(log, "a ");
 }
 
