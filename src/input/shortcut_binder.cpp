@@ -38,22 +38,42 @@ void ShortcutBinder::rebind(HotKeyCenter::Binding changed)
 
 void ShortcutBinder::retryRefused()
 {
-    for (const HotKeyCenter::Binding binding : std::set(m_refused))
-        bind(binding);
+    for (const auto &[binding, outcome] : std::map(m_outcomes)) {
+        if (outcome == ShortcutOutcome::Refused)
+            bind(binding);
+    }
+}
+
+ShortcutOutcome ShortcutBinder::outcome(HotKeyCenter::Binding binding) const
+{
+    const auto found = m_outcomes.find(binding);
+    return found == m_outcomes.end() ? ShortcutOutcome::Unset : found->second;
+}
+
+Subscription ShortcutBinder::observeOutcomes(std::function<void()> observer)
+{
+    return m_observers.subscribe(std::move(observer));
+}
+
+void ShortcutBinder::note(HotKeyCenter::Binding binding, ShortcutOutcome outcome)
+{
+    if (outcome == this->outcome(binding))
+        return;
+    m_outcomes[binding] = outcome;
+    m_observers.forEach([](const std::function<void()> &observer) { observer(); });
 }
 
 bool ShortcutBinder::bind(const Stored &shortcut, HotKeyCenter::Binding binding,
                           std::function<void()> ShortcutBinder::*action)
 {
-    const bool isBound = m_center.apply(shortcut(), binding, m_lifetime.guard([this, action] {
+    const std::optional<Shortcut> wanted = shortcut();
+    const bool isBound = m_center.apply(wanted, binding, m_lifetime.guard([this, action] {
         // A copy: it may replace itself.
         if (const auto run = this->*action)
             run();
     }));
-    if (isBound)
-        m_refused.erase(binding);
-    else
-        m_refused.insert(binding);
+    using enum ShortcutOutcome;
+    note(binding, !wanted ? Unset : isBound ? Bound : Refused);
     return isBound;
 }
 

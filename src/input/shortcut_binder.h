@@ -1,15 +1,27 @@
 #pragma once
 
 #include "input/hot_key_center.h"
+#include "platform/base/changing_list.h"
 #include "platform/base/lifetime.h"
+#include "platform/base/subscription.h"
 
 #include <functional>
+#include <map>
 #include <optional>
-#include <set>
 
 namespace corvane {
 
-/// Binds the two stored shortcuts to what they do. Main thread only; the center must outlive it.
+/// What has become of a shortcut that was to be bound.
+enum class ShortcutOutcome {
+    /// There is none, or it was never bound.
+    Unset,
+    Bound,
+    /// Another program has it, or nobody can have it.
+    Refused,
+};
+
+/// Binds the two stored shortcuts to what they do, and tells what has become of that: also later,
+/// where another attempt has another outcome. Main thread only; the center must outlive it.
 class ShortcutBinder {
 public:
     /// Reads a stored shortcut at the time of binding; none if there is none.
@@ -25,8 +37,9 @@ public:
     void rebind(HotKeyCenter::Binding changed);
     /// Tries once more what was refused: whoever held it may have let go.
     void retryRefused();
-    /// Whether the shortcut was refused when it was last bound.
-    bool isRefused(HotKeyCenter::Binding binding) const { return m_refused.contains(binding); }
+    ShortcutOutcome outcome(HotKeyCenter::Binding binding) const;
+    /// Called after an outcome has become another one, until the subscription ends.
+    Subscription observeOutcomes(std::function<void()> observer);
 
     /// What a press does, looked up when it comes. Each may be left empty.
     std::function<void()> onToggleShelf;
@@ -37,10 +50,13 @@ private:
     bool bind(const Stored &shortcut, HotKeyCenter::Binding binding,
               std::function<void()> ShortcutBinder::*action);
 
+    void note(HotKeyCenter::Binding binding, ShortcutOutcome outcome);
+
     HotKeyCenter &m_center;
     Stored m_shelfShortcut;
     Stored m_viewAllShortcut;
-    std::set<HotKeyCenter::Binding> m_refused;
+    std::map<HotKeyCenter::Binding, ShortcutOutcome> m_outcomes;
+    ChangingList<std::function<void()>> m_observers;
     Lifetime m_lifetime;
 };
 

@@ -203,6 +203,11 @@ protected:
     std::optional<Shortcut> viewAllShortcut;
     std::optional<ShortcutBinder> binder{std::in_place, *center, [this] { return shelfShortcut; },
                                          [this] { return viewAllShortcut; }};
+
+    bool isRefused(Binding binding) const
+    {
+        return binder->outcome(binding) == ShortcutOutcome::Refused;
+    }
 };
 
 } // namespace
@@ -249,16 +254,16 @@ TEST_F(ShortcutBinderTest, WhatTheUserTypesWithIsRefused)
 TEST_F(ShortcutBinderTest, RemembersWhatWasRefused)
 {
     keys.takenByOthers.insert({shiftCommandD.keyCode, shiftCommandD.modifiers});
-    EXPECT_FALSE(binder->isRefused(Binding::Shelf));
+    EXPECT_FALSE(isRefused(Binding::Shelf));
     binder->bindShelf();
     binder->bindViewAll();
-    EXPECT_TRUE(binder->isRefused(Binding::Shelf));
-    EXPECT_FALSE(binder->isRefused(Binding::ViewAll));
+    EXPECT_TRUE(isRefused(Binding::Shelf));
+    EXPECT_FALSE(isRefused(Binding::ViewAll));
     binder->retryRefused();
-    EXPECT_TRUE(binder->isRefused(Binding::Shelf));
+    EXPECT_TRUE(isRefused(Binding::Shelf));
     keys.takenByOthers.clear();
     binder->retryRefused();
-    EXPECT_FALSE(binder->isRefused(Binding::Shelf));
+    EXPECT_FALSE(isRefused(Binding::Shelf));
     EXPECT_TRUE(press(shiftCommandD));
 }
 
@@ -267,19 +272,51 @@ TEST_F(ShortcutBinderTest, WhatOneGivesUpGoesToTheOtherThatWaitsForIt)
     viewAllShortcut = shiftCommandD;
     binder->bindShelf();
     binder->bindViewAll();
-    EXPECT_TRUE(binder->isRefused(Binding::ViewAll));
+    EXPECT_TRUE(isRefused(Binding::ViewAll));
     shelfShortcut.reset();
     binder->rebind(Binding::Shelf);
-    EXPECT_FALSE(binder->isRefused(Binding::ViewAll));
+    EXPECT_FALSE(isRefused(Binding::ViewAll));
     EXPECT_TRUE(press(shiftCommandD));
     shelfShortcut = shiftCommandD;
     binder->rebind(Binding::Shelf);
-    EXPECT_TRUE(binder->isRefused(Binding::Shelf));
-    EXPECT_FALSE(binder->isRefused(Binding::ViewAll)) << "the other one keeps it";
+    EXPECT_TRUE(isRefused(Binding::Shelf));
+    EXPECT_FALSE(isRefused(Binding::ViewAll)) << "the other one keeps it";
     viewAllShortcut = controlF5;
     binder->rebind(Binding::ViewAll);
-    EXPECT_FALSE(binder->isRefused(Binding::Shelf));
+    EXPECT_FALSE(isRefused(Binding::Shelf));
     EXPECT_EQ(keys.registrationCount(), 2U);
+}
+
+TEST_F(ShortcutBinderTest, TheOutcomeIsThatOfTheLastAttempt)
+{
+    EXPECT_EQ(binder->outcome(Binding::Shelf), ShortcutOutcome::Unset);
+    binder->bindShelf();
+    binder->bindViewAll();
+    EXPECT_EQ(binder->outcome(Binding::Shelf), ShortcutOutcome::Bound);
+    EXPECT_EQ(binder->outcome(Binding::ViewAll), ShortcutOutcome::Unset);
+    shelfShortcut.reset();
+    binder->bindShelf();
+    EXPECT_EQ(binder->outcome(Binding::Shelf), ShortcutOutcome::Unset);
+}
+
+TEST_F(ShortcutBinderTest, ObserversHearOfEachOtherOutcomeUntilTheirSubscriptionEnds)
+{
+    QList<ShortcutOutcome> heard;
+    Subscription observing
+        = binder->observeOutcomes([&] { heard << binder->outcome(Binding::Shelf); });
+    binder->bindShelf();
+    binder->bindShelf();
+    EXPECT_EQ(heard, QList{ShortcutOutcome::Bound}) << "the same outcome is no news";
+    keys.takenByOthers.insert({shiftCommandD.keyCode, shiftCommandD.modifiers});
+    binder->bindShelf();
+    keys.takenByOthers.clear();
+    binder->retryRefused();
+    EXPECT_EQ(heard,
+              (QList{ShortcutOutcome::Bound, ShortcutOutcome::Refused, ShortcutOutcome::Bound}));
+    observing.end();
+    shelfShortcut.reset();
+    binder->bindShelf();
+    EXPECT_EQ(heard.size(), 3);
 }
 
 TEST_F(ShortcutBinderTest, TellsThatAShortcutIsTaken)

@@ -132,20 +132,24 @@ PreferenceSection *GeneralPane::makeShortcutsSection()
 
     m_context.shortcutBinder.retryRefused();
     showConflicts();
+    m_outcomes = m_context.shortcutBinder.observeOutcomes([this] { showConflicts(); });
     return section;
 }
 
 void GeneralPane::shortcutChanged(HotKeyCenter::Binding changed)
 {
     m_context.shortcutBinder.rebind(changed);
+    // Also where the outcome is the same: the row shows another shortcut now.
     showConflicts();
 }
 
 void GeneralPane::showConflicts()
 {
-    const ShortcutBinder &binder = m_context.shortcutBinder;
-    m_shelfShortcut->setConflict(binder.isRefused(HotKeyCenter::Binding::Shelf));
-    m_viewAllShortcut->setConflict(binder.isRefused(HotKeyCenter::Binding::ViewAll));
+    const auto isRefused = [&binder = m_context.shortcutBinder](HotKeyCenter::Binding binding) {
+        return binder.outcome(binding) == ShortcutOutcome::Refused;
+    };
+    m_shelfShortcut->setConflict(isRefused(HotKeyCenter::Binding::Shelf));
+    m_viewAllShortcut->setConflict(isRefused(HotKeyCenter::Binding::ViewAll));
 }
 
 PreferenceSection *GeneralPane::makeUpdatesSection()

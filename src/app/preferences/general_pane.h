@@ -3,6 +3,7 @@
 #include "app/look/window_look.h"
 #include "app/preferences/preferences_context.h"
 #include "input/hot_key_center.h"
+#include "platform/base/subscription.h"
 
 #include <QWidget>
 
@@ -17,8 +18,8 @@ class ShortcutRow;
 class SwitchButton;
 
 /// Every setting of the user. Each control writes what it shows at once. The settings are read when
-/// the pane is made; a shortcut that was refused is tried once more then, and shown to be taken if
-/// it still is.
+/// the pane is made; a shortcut that was refused is tried once more then, and shown to be taken as
+/// long as it is.
 class GeneralPane : public QWidget {
     Q_OBJECT
 
@@ -41,6 +42,7 @@ private:
     WindowLook m_look;
     ShortcutRow *m_shelfShortcut = nullptr;
     ShortcutRow *m_viewAllShortcut = nullptr;
+    Subscription m_outcomes;
 };
 
 } // namespace corvane

@@ -188,6 +188,17 @@ TEST_F(GeneralPaneTest, ATakenCombinationIsSaidAndAFreeOneRestoresTheText)
     EXPECT_TRUE(desk.hotKeys.isRegistered({keyB, Shortcut::control}));
 }
 
+TEST_F(GeneralPaneTest, ACombinationThatIsFreedWhileThePaneIsOpenIsShownToBeBound)
+{
+    desk.hotKeys.takenByOthers.insert({keyA, Shortcut::control});
+    record(shelfRow(), keyA, "a");
+    ASSERT_EQ(shelfRow().detail(), conflictText);
+    desk.hotKeys.takenByOthers.clear();
+    desk.binder.retryRefused();
+    EXPECT_EQ(shelfRow().detail(), needsText);
+    EXPECT_FALSE(shelfRow().findChild<ShortcutRecorderView *>()->hasConflict());
+}
+
 TEST_F(GeneralPaneTest, ClearingATakenCombinationRestoresTheText)
 {
     desk.hotKeys.takenByOthers.insert({keyA, Shortcut::control});
