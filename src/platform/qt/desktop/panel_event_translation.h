@@ -19,7 +19,7 @@ enum class ScrollDevice { Wheel, Touchpad };
 /// held a vertical wheel scrolls sideways. `time` is on the main queue's clock.
 ///
 /// What has phases is measured in points, whatever the device. Without them the toolkit's pixels
-/// are not looked at: on X11 they are the device's own units, which mean nothing.
+/// are not looked at: they may be the device's own units, which mean nothing.
 std::optional<ScrollEvent> scrollEventFrom(const QWheelEvent &event, double time,
                                            ScrollDevice device = ScrollDevice::Wheel);
 

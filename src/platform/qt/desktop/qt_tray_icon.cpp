@@ -51,7 +51,7 @@ void QtTrayIcon::appear()
     menuChanged();
     m_tray = std::make_unique<QSystemTrayIcon>();
     QObject::connect(m_tray.get(), &QSystemTrayIcon::activated, m_menu.get(), [this] {
-        // The X11 tray has opened it by itself for the right button.
+        // The window system's tray has opened it by itself for the right button.
         if (!m_menu->isVisible())
             m_menu->popup(QCursor::pos());
     });

@@ -12,12 +12,13 @@ class QSystemTrayIcon;
 
 namespace corvane {
 
-/// A status item by Qt's own means: on the session bus where a panel shows such items, in the X11
-/// tray otherwise. A left click opens the menu too.
+/// A status item by Qt's own means: on the session bus where a panel shows such items, in the
+/// window system's own tray otherwise. A left click opens the menu too.
 ///
 /// Qt decides between the two once in a process, when the icon is first made. So nothing is made
 /// before `appear`, and what it was made for it stays: panels of the same kind may come and go, but
-/// an icon in the X11 tray does not move to a panel on the bus that comes later, nor the other way.
+/// an icon in the window system's tray does not move to a panel on the bus that comes later, nor
+/// the other way.
 class QtTrayIcon : public StatusItem {
 public:
     QtTrayIcon();
