@@ -79,9 +79,8 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                            {.mainQueue = mainQueue, .screens = screens, .terminate = terminate}))
     , desktop(session->desktop())
     , keyMonitors(desktop.keyboardLayout)
-    , panel(desktop.panelSurface, mainQueue, desktop.dropSupport, desktop.dragSupport, &workQueue)
-    , viewAllPanel(desktop.panelSurface, mainQueue, desktop.dropSupport, desktop.dragSupport,
-                   &workQueue)
+    , panel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &workQueue)
+    , viewAllPanel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &workQueue)
     , statusItem(mainQueue, desktop.trayWatch)
     , screenLocator(screens, desktop.pointer)
     , hotKeys(desktop.hotKeys, mainQueue)

@@ -4,7 +4,6 @@
 #include "platform/desktop/panel_window.h"
 #include "platform/desktop/window_activation.h"
 #include "platform/pictures/file_icons.h"
-#include "platform/qt/desktop/qt_geometry.h"
 #include "platform/qt/pictures/program_icon.h"
 #include "platform/system/desktop_services.h"
 #include "preview/details_view.h"
@@ -169,9 +168,8 @@ void QtPreviewPanel::place()
 
 const QScreen *QtPreviewPanel::screen() const
 {
-    const QRect shelf = qt_geometry::toQt(m_context.shelf.frame());
-    const QScreen *const under = QGuiApplication::screenAt(shelf.center());
-    return under ? under : QGuiApplication::primaryScreen();
+    const QScreen *const shelfs = m_context.shelf.screen();
+    return shelfs ? shelfs : QGuiApplication::primaryScreen();
 }
 
 void QtPreviewPanel::orderOut()

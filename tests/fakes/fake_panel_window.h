@@ -19,6 +19,7 @@ public:
         m_frame = frame;
         frames.push_back(frame);
     }
+    const QScreen *screen() const override { return nullptr; }
     bool isVisible() const override { return visible; }
     void orderFrontRegardless() override
     {

@@ -7,7 +7,7 @@
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_drag_support.h"
 #include "platform/x11/drags/x11_drop_support.h"
-#include "platform/x11/windows/x11_panel_surface.h"
+#include "platform/x11/windows/x11_panels.h"
 
 #include <gtest/gtest.h>
 
@@ -48,11 +48,11 @@ protected:
     Display display;
     QtMainQueue queue;
     X11Connection connection;
-    X11PanelSurface surface{connection};
+    X11Panels panels{connection, queue};
     X11DropSupport dropSupport{connection, queue};
     X11DragSupport dragSupport{connection, queue};
     RecordingContent content;
-    QtPanelWindow panel{surface, queue, &dropSupport, &dragSupport};
+    QtPanelWindow panel{panels.desktop(), queue, &dropSupport, &dragSupport};
 };
 
 } // namespace corvane::test

@@ -10,7 +10,7 @@
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_drag_support.h"
 #include "platform/x11/drags/x11_drop_support.h"
-#include "platform/x11/windows/x11_panel_surface.h"
+#include "platform/x11/windows/x11_panels.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -53,13 +53,13 @@ int playPanel()
 {
     QtMainQueue queue;
     X11Connection connection;
-    X11PanelSurface surface(connection);
+    X11Panels panels(connection, queue);
     X11DropSupport dropSupport(connection, queue);
     X11DragSupport dragSupport(connection, queue);
     RecordingContent content;
     content.onPerform
         = [before = peakMemory()](Pasteboard &pasteboard) { return readText(pasteboard, before); };
-    QtPanelWindow panel(surface, queue, &dropSupport, &dragSupport);
+    QtPanelWindow panel(panels.desktop(), queue, &dropSupport, &dragSupport);
     panel.setContent(&content);
     panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame)));
     const QRectF body

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/sessions/choose_session.h"
+#include "platform/desktop/panel_desktop.h"
 
 #include <functional>
 #include <memory>
@@ -15,7 +16,6 @@ class HotKeyService;
 class KeyboardLayout;
 class MainQueue;
 class OutsideClicks;
-class PanelSurface;
 class Pointer;
 class Screens;
 class TrayWatch;
@@ -30,7 +30,7 @@ struct DesktopSession {
     OutsideClicks &outsideClicks;
     HotKeyService &hotKeys;
     const KeyboardLayout &keyboardLayout;
-    PanelSurface &panelSurface;
+    PanelDesktop panels;
     /// What drops and drags of the panels need beyond what Qt does; null where that is nothing.
     DropSupport *dropSupport = nullptr;
     DragSupport *dragSupport = nullptr;

@@ -10,7 +10,7 @@ X11Session::X11Session(const SessionNeeds &needs)
     , dragMonitor(dragDesktop, dragDesktop, dragDesktop, needs.mainQueue)
     , outsideClicks(dragDesktop, pointer)
     , hotKeys(connection, needs.mainQueue)
-    , panelSurface(connection)
+    , panels(connection, needs.mainQueue)
     , windowActivation(connection)
     , pointerBarriers(connection, needs.screens)
     , fullScreenWindows(connection)
@@ -32,7 +32,7 @@ DesktopSession X11Session::desktop()
             .outsideClicks = outsideClicks,
             .hotKeys = hotKeys,
             .keyboardLayout = keyboardLayout,
-            .panelSurface = panelSurface,
+            .panels = panels.desktop(),
             .dropSupport = &dropSupport,
             .dragSupport = &dragSupport,
             .windowActivation = windowActivation,

@@ -13,7 +13,7 @@
 #include "platform/x11/pointer/x11_pointer.h"
 #include "platform/x11/pointer/x11_pointer_barriers.h"
 #include "platform/x11/windows/x11_full_screen_windows.h"
-#include "platform/x11/windows/x11_panel_surface.h"
+#include "platform/x11/windows/x11_panels.h"
 #include "platform/x11/windows/x11_ping_answers.h"
 #include "platform/x11/windows/x11_tray_watch.h"
 #include "platform/x11/windows/x11_window_activation.h"
@@ -35,7 +35,7 @@ struct X11Session : RunningSession {
     MonitoredClicks outsideClicks;
     X11HotKeys hotKeys;
     X11KeyboardLayout keyboardLayout;
-    X11PanelSurface panelSurface;
+    X11Panels panels;
     X11WindowActivation windowActivation;
     X11PointerBarriers pointerBarriers;
     X11FullScreenWindows fullScreenWindows;

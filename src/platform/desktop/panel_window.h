@@ -14,6 +14,7 @@
 #include <optional>
 
 class QPainter;
+class QScreen;
 
 namespace corvane {
 
@@ -106,6 +107,8 @@ public:
     /// In global points, origin at the bottom left of the primary display.
     virtual QRectF frame() const = 0;
     virtual void setFrame(const QRectF &frame) = 0;
+    /// The screen that it is on, or would come up on; null where that is none.
+    virtual const QScreen *screen() const = 0;
 
     virtual bool isVisible() const = 0;
     /// Shows the panel above everything, whichever program is active, without taking the focus.

@@ -14,14 +14,9 @@ PanelCanvas::PanelCanvas(Paint paint, Handle handle)
     , m_store(this)
 {
     setSurfaceType(QSurface::RasterSurface);
-    setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint
-             | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
     QSurfaceFormat format;
     format.setAlphaBufferSize(8);
     setFormat(format);
-    // Shown without being given the keyboard; there is no public name for it on a bare window.
-    setProperty("_q_showWithoutActivating", true);
-    create();
 }
 
 void PanelCanvas::setCanvasSize(QSize size)

@@ -13,6 +13,8 @@ namespace corvane {
 /// The bare window of a panel with its pixels; no widget, which would cost memory and a second
 /// layer of events.
 ///
+/// Made without flags and without a platform window: both are up to the session.
+///
 /// Repaints are gathered until control is back in the event loop, then done at once, ahead of
 /// everything else that waits there.
 class PanelCanvas : public QWindow {

@@ -1,5 +1,7 @@
 #include "platform/qt/desktop/qt_geometry.h"
 
+#include "platform/desktop/panel_surface.h"
+
 #include <QGuiApplication>
 #include <QScreen>
 
@@ -40,6 +42,15 @@ QRect toQt(const QRectF &rect)
     const QRectF qtRect = flipped(rect, primaryHeight());
     return {rounded(qtRect.x()), rounded(qtRect.y()), std::max(1, rounded(qtRect.width())),
             std::max(1, rounded(qtRect.height()))};
+}
+
+PanelPlacement placementOf(const QRectF &frame)
+{
+    const QRect rect = toQt(frame);
+    QScreen *const under = QGuiApplication::screenAt({rect.center().x(), rect.top()});
+    QScreen *const screen = under ? under : QGuiApplication::primaryScreen();
+    const QPoint way = rect.topLeft() - (screen ? screen->geometry().topLeft() : QPoint());
+    return {screen, way.x(), way.y(), rect.size()};
 }
 
 } // namespace corvane::qt_geometry

@@ -3,6 +3,10 @@
 #include <QPointF>
 #include <QRectF>
 
+namespace corvane {
+struct PanelPlacement;
+}
+
 namespace corvane::qt_geometry {
 
 /// The one place where y is turned over: Qt's global points start at the top left of the primary
@@ -16,6 +20,9 @@ QPointF toGlobal(QPointF qtPoint);
 QRectF toGlobal(const QRectF &qtRect);
 /// Rounded to whole points, as windows are placed; the size is kept.
 QRect toQt(const QRectF &rect);
+/// The same for a panel: on the screen on which the middle of its upper edge is, else on the
+/// primary one.
+PanelPlacement placementOf(const QRectF &frame);
 
 /// Inside a window of that height, in either direction.
 inline QPointF flipped(QPointF point, double height)

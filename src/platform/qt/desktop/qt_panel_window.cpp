@@ -1,6 +1,8 @@
 #include "platform/qt/desktop/qt_panel_window.h"
 
 #include "platform/base/main_queue.h"
+#include "platform/desktop/compositing.h"
+#include "platform/desktop/keyboard_loan.h"
 #include "platform/desktop/panel_surface.h"
 #include "platform/qt/desktop/drag_session.h"
 #include "platform/qt/desktop/outline_region.h"
@@ -12,17 +14,20 @@
 
 namespace corvane {
 
-QtPanelWindow::QtPanelWindow(PanelSurface &surface, MainQueue &queue, DropSupport *dropSupport,
-                             DragSupport *dragSupport, WorkQueue *workQueue)
-    : m_surface(surface)
+QtPanelWindow::QtPanelWindow(const PanelDesktop &desktop, MainQueue &queue,
+                             DropSupport *dropSupport, DragSupport *dragSupport,
+                             WorkQueue *workQueue)
+    : m_desktop(desktop)
     , m_queue(queue)
     , m_dragSupport(dragSupport)
     , m_canvas(std::make_unique<PanelCanvas>([this](QPainter &painter) { paint(painter); },
                                              [this](QEvent &event) { return handle(event); }))
     , m_dropTarget(*m_canvas, dropSupport, {workQueue, &queue})
 {
-    m_surface.adopt(*m_canvas);
-    m_surface.observeComposited(m_lifetime.guard([this] { updateRegions(); }));
+    m_desktop.surface.adopt(*m_canvas);
+    m_number = WindowNumber{m_canvas->winId()};
+    m_desktop.keyboard.join(m_number);
+    m_desktop.compositing.observeChanges(m_lifetime.guard([this] { updateRegions(); }));
 }
 
 QtPanelWindow::~QtPanelWindow()
@@ -32,6 +37,7 @@ QtPanelWindow::~QtPanelWindow()
     m_content = nullptr;
     m_dropTarget.setContent(nullptr);
     QtPanelWindow::orderOut();
+    m_desktop.keyboard.leave(m_number);
     // Its drag goes on in Qt, and needs the window that it began in.
     if (m_isDragging)
         m_canvas.release()->forgetOwner();
@@ -47,21 +53,26 @@ void QtPanelWindow::setContent(PanelContent *content)
 void QtPanelWindow::setFrame(const QRectF &frame)
 {
     m_frame = frame;
-    const QRect geometry = qt_geometry::toQt(frame);
-    m_canvas->setCanvasSize(geometry.size());
-    m_surface.place(*m_canvas, geometry);
+    const PanelPlacement placement = qt_geometry::placementOf(frame);
+    m_canvas->setCanvasSize(placement.size);
+    m_desktop.surface.place(*m_canvas, placement);
     updateRegions();
+}
+
+const QScreen *QtPanelWindow::screen() const
+{
+    return m_desktop.surface.screenOf(*m_canvas);
 }
 
 void QtPanelWindow::orderFrontRegardless()
 {
-    m_userWentOn = false;
+    m_desktop.keyboard.shown(m_number);
     if (std::exchange(m_isVisible, true)) {
         m_canvas->raise();
         return;
     }
     updateRegions();
-    m_surface.willShow(*m_canvas);
+    m_desktop.surface.willShow(*m_canvas);
     // Before it is mapped: it comes up where it was in the stack.
     m_canvas->raise();
     m_canvas->show();
@@ -71,19 +82,9 @@ void QtPanelWindow::orderOut()
 {
     if (!std::exchange(m_isVisible, false))
         return;
-    const bool userWentOn = std::exchange(m_userWentOn, false);
-    if (!userWentOn)
-        giveKeyboardBack();
+    m_desktop.keyboard.willHide(m_number);
     m_canvas->hide();
-    m_surface.didHide(*m_canvas);
-    if (!userWentOn)
-        return;
-    // Now would be too early: the window manager may hear of the click after us, and our wish would
-    // come after the user's. What was clicked may also be something that takes no keyboard.
-    m_queue.asyncAfter(focusDelay, m_lifetime.guard([this] {
-        if (!m_isVisible)
-            m_surface.giveUnclaimedKeyboardBack();
-    }));
+    m_desktop.surface.didHide(*m_canvas);
 }
 
 void QtPanelWindow::setIgnoresMouseEvents(bool ignores)
@@ -101,29 +102,22 @@ void QtPanelWindow::setBody(const QRectF &rect, const QPainterPath &outline)
 
 void QtPanelWindow::makeKey()
 {
-    m_resignsOnRelease = false;
-    if (m_isVisible)
-        m_surface.takeKeyboard(*m_canvas);
+    m_desktop.keyboard.wantedByHand(m_number);
 }
 
 void QtPanelWindow::makeKeyAmongPanels()
 {
-    if (m_isVisible && m_surface.keyboardHolder() != KeyboardHolder::Other)
-        makeKey();
+    m_desktop.keyboard.wantedAmongPanels(m_number);
 }
 
 void QtPanelWindow::resignKey()
 {
-    if (m_isVisible)
-        giveKeyboardBack();
+    m_desktop.keyboard.resigned(m_number);
 }
 
-void QtPanelWindow::giveKeyboardBack()
+void QtPanelWindow::userWentOn()
 {
-    // What a key has closed is not to be repeated in the program behind.
-    if (const auto held = std::exchange(m_heldKey, std::nullopt))
-        m_surface.swallowRepeats(held->key, held->modifiers);
-    m_surface.giveKeyboardBack(*m_canvas);
+    m_desktop.keyboard.userWentOn(m_number);
 }
 
 void QtPanelWindow::setNeedsDisplay(const QRectF &rect)
@@ -147,23 +141,11 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, DragOutEvents events)
             return;
         }
         m_isDragging = false;
-        letGo(promised);
+        m_desktop.keyboard.dragLetGo(promised);
         tell();
     };
     const auto ended = m_lifetime.guard(std::move(events.ended));
     runDragSession(*canvas, drag, m_dragSupport, {released, ended});
-}
-
-void QtPanelWindow::letGo(DragOperation operation)
-{
-    if (operation == DragOperation::None && m_wasKeyBeforePress)
-        return;
-    // With the button and a key still down it was Escape that ended the drag. Its repeats are
-    // nobody else's. Another button ends a drag, too, and then there is no release to wait for.
-    m_resignsOnRelease = operation == DragOperation::None && m_surface.isLeftButtonDown()
-        && m_surface.isAnyKeyDown();
-    if (!m_resignsOnRelease)
-        m_surface.giveKeyboardBack();
 }
 
 QTransform QtPanelWindow::toDevicePixels() const
@@ -178,10 +160,10 @@ void QtPanelWindow::updateRegions()
     const QRectF body = m_body.value_or(QRectF({}, m_frame.size()));
     const QRegion input = m_ignoresMouseEvents ? QRegion() : toPixels.mapRect(body).toRect();
     if (std::exchange(m_inputRegion, input) != input)
-        m_surface.setInputRegion(*m_canvas, input);
+        m_desktop.surface.setInputRegion(*m_canvas, input);
 
     QRegion bounding;
-    if (m_body && !m_surface.isComposited()) {
+    if (m_body && !m_desktop.compositing.isComposited()) {
         const QSize pixels = (m_frame.size() * m_canvas->devicePixelRatio()).toSize();
         const QPainterPath outline = toPixels.map(m_outline);
         // Making it looks at every pixel, and most changes of the shelf leave its outline alone.
@@ -196,7 +178,7 @@ void QtPanelWindow::updateRegions()
             bounding = QRect(0, 0, 1, 1);
     }
     if (std::exchange(m_boundingRegion, bounding) != bounding)
-        m_surface.setBoundingRegion(*m_canvas, bounding);
+        m_desktop.surface.setBoundingRegion(*m_canvas, bounding);
 }
 
 void QtPanelWindow::paint(QPainter &painter)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "platform/base/lifetime.h"
+#include "platform/desktop/keyboard_focus.h"
+#include "platform/desktop/panel_desktop.h"
 #include "platform/desktop/panel_window.h"
 #include "platform/qt/desktop/key_repeats.h"
 #include "platform/qt/desktop/panel_canvas.h"
@@ -19,7 +21,6 @@ namespace corvane {
 class DragSupport;
 class DropSupport;
 class MainQueue;
-class PanelSurface;
 class WorkQueue;
 
 /// A panel on a Qt window of its own. Everything that it is given must outlive it; without the
@@ -27,16 +28,14 @@ class WorkQueue;
 /// queue where there is one. Main thread only.
 class QtPanelWindow : public PanelWindow {
 public:
-    /// How long a window manager may take to give the keyboard to what was clicked.
-    static constexpr double focusDelay = 0.3;
-
-    QtPanelWindow(PanelSurface &surface, MainQueue &queue, DropSupport *dropSupport = nullptr,
+    QtPanelWindow(const PanelDesktop &desktop, MainQueue &queue, DropSupport *dropSupport = nullptr,
                   DragSupport *dragSupport = nullptr, WorkQueue *workQueue = nullptr);
     ~QtPanelWindow() override;
 
     void setContent(PanelContent *content) override;
     QRectF frame() const override { return m_frame; }
     void setFrame(const QRectF &frame) override;
+    const QScreen *screen() const override;
     bool isVisible() const override { return m_isVisible; }
     void orderFrontRegardless() override;
     void orderOut() override;
@@ -45,7 +44,7 @@ public:
     void makeKey() override;
     void makeKeyAmongPanels() override;
     void resignKey() override;
-    void userWentOn() override { m_userWentOn = true; }
+    void userWentOn() override;
     void setNeedsDisplay(const QRectF &rect) override;
     void beginDraggingSession(DragOut drag, DragOutEvents events) override;
 
@@ -58,22 +57,20 @@ private:
     bool handleMouse(QMouseEvent &event);
     bool handleKey(QKeyEvent &event);
     void handleWheel(QWheelEvent &event);
-    void letGo(DragOperation operation);
-    void giveKeyboardBack();
     bool handleDrag(QEvent &event);
     void updateRegions();
     QTransform toDevicePixels() const;
     QPointF middleOfPixel(QPointF position) const;
 
-    PanelSurface &m_surface;
+    PanelDesktop m_desktop;
     MainQueue &m_queue;
     DragSupport *m_dragSupport;
     PanelContent *m_content = nullptr;
     std::unique_ptr<PanelCanvas> m_canvas;
     PanelDropTarget m_dropTarget;
+    WindowNumber m_number = WindowNumber::None;
     QRectF m_frame;
     bool m_isVisible = false;
-    bool m_userWentOn = false;
     bool m_ignoresMouseEvents = false;
     /// The whole panel until it is told.
     std::optional<QRectF> m_body;
@@ -85,16 +82,6 @@ private:
     QPainterPath m_shapedOutline;
     QSize m_shapedSize;
     bool m_isDragging = false;
-    /// One of the panels had the keyboard when this one was pressed.
-    bool m_wasKeyBeforePress = false;
-    /// Escape has ended a drag and may be held.
-    bool m_resignsOnRelease = false;
-    /// The latest key that was pressed here and not released.
-    struct HeldKey {
-        NativeKey key = NativeKey::None;
-        std::uint32_t modifiers = 0;
-    };
-    std::optional<HeldKey> m_heldKey;
     KeyRepeats m_repeats;
     WheelSteps m_wheelSteps;
     Lifetime m_lifetime;

@@ -1,7 +1,8 @@
 // What comes to the panel's window, told to its content.
 
 #include "platform/base/main_queue.h"
-#include "platform/desktop/panel_surface.h"
+#include "platform/desktop/keyboard_loan.h"
+#include "platform/desktop/pointing_devices.h"
 #include "platform/qt/desktop/panel_event_translation.h"
 #include "platform/qt/desktop/qt_geometry.h"
 #include "platform/qt/desktop/qt_panel_window.h"
@@ -10,8 +11,6 @@
 #include <QKeyEvent>
 #include <QPointingDevice>
 #include <QWheelEvent>
-
-#include <utility>
 
 namespace corvane {
 
@@ -47,8 +46,7 @@ bool QtPanelWindow::handle(QEvent &event)
     case QEvent::KeyRelease:
         return handleKey(dynamic_cast<QKeyEvent &>(event));
     case QEvent::FocusOut:
-        // Its release goes to somebody else.
-        m_heldKey.reset();
+        m_desktop.keyboard.lost(m_number);
         return false;
     default:
         return handleDrag(event);
@@ -71,7 +69,7 @@ bool QtPanelWindow::handleMouse(QMouseEvent &event)
     if (event.type() == QEvent::MouseButtonRelease) {
         m_content->mouseUp(mouse);
     } else {
-        m_wasKeyBeforePress = m_surface.keyboardHolder() == KeyboardHolder::Panel;
+        m_desktop.keyboard.pressed();
         m_content->mouseDown(mouse);
     }
     return true;
@@ -83,25 +81,21 @@ bool QtPanelWindow::handleKey(QKeyEvent &event)
         KeyEvent key = keyEventFrom(event);
         key.isRepeat = m_repeats.isRepeat(event);
         if (!key.isRepeat)
-            m_heldKey = {NativeKey{event.nativeScanCode()}, event.nativeModifiers()};
+            m_desktop.keyboard.keyPressed(m_number, NativeKey{event.nativeScanCode()},
+                                          event.nativeModifiers());
         event.setAccepted(m_content->keyDown(key));
         return true;
     }
     m_repeats.released(event);
-    const NativeKey key{event.nativeScanCode()};
-    if (event.isAutoRepeat() || m_surface.isKeyDown(key))
-        return false;
-    if (m_heldKey && m_heldKey->key == key)
-        m_heldKey.reset();
-    if (std::exchange(m_resignsOnRelease, false))
-        m_surface.giveKeyboardBack();
+    if (!event.isAutoRepeat())
+        m_desktop.keyboard.keyReleased(NativeKey{event.nativeScanCode()});
     return false;
 }
 
 void QtPanelWindow::handleWheel(QWheelEvent &event)
 {
     const auto *device = event.pointingDevice();
-    const bool isTouchpad = device && m_surface.isTouchpad(device->systemId());
+    const bool isTouchpad = device && m_desktop.pointingDevices.isTouchpad(device->systemId());
     auto scroll = scrollEventFrom(event, m_queue.now(),
                                   isTouchpad ? ScrollDevice::Touchpad : ScrollDevice::Wheel);
     if (scroll)

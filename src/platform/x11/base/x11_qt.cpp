@@ -36,13 +36,12 @@ xcb_window_t nativeWindow(const QWindow &window)
 
 // Qt would ask with the time of the latest event that it had. That may be long past where the
 // user's key or click went to somebody else, and then the server does nothing.
-void giveKeyboard(const QWindow &window, xcb_timestamp_t time)
+void giveKeyboard(xcb_window_t window, xcb_timestamp_t time)
 {
     auto *const qt = connection();
-    const xcb_window_t native = nativeWindow(window);
-    if (!qt || native == XCB_NONE)
+    if (!qt || window == XCB_NONE)
         return;
-    ignoreErrors(xcb_set_input_focus_checked(qt, XCB_INPUT_FOCUS_PARENT, native, time));
+    ignoreErrors(xcb_set_input_focus_checked(qt, XCB_INPUT_FOCUS_PARENT, window, time));
     xcb_flush(qt);
 }
 

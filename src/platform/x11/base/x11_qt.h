@@ -18,7 +18,7 @@ bool isOwn(xcb_window_t window);
 xcb_window_t nativeWindow(const QWindow &window);
 /// Gives the keyboard to a window of Qt's that the window manager does not know, as of a time of
 /// the server. What Qt was told to do with the window before is done by then.
-void giveKeyboard(const QWindow &window, xcb_timestamp_t time);
+void giveKeyboard(xcb_window_t window, xcb_timestamp_t time);
 /// The answers to such requests interest nobody: the window may be gone by now.
 void ignoreErrors(xcb_void_cookie_t cookie);
 

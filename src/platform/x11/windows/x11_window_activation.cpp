@@ -22,12 +22,12 @@ void X11WindowActivation::bringToFront(QWindow &window)
     if (m_windowManager.isRunning())
         m_windowManager.activate(native, qt, time);
     else
-        x11_qt::giveKeyboard(window, time);
+        x11_qt::giveKeyboard(native, time);
 }
 
 void X11WindowActivation::giveKeyboard(QWindow &window)
 {
-    x11_qt::giveKeyboard(window, m_connection.serverTime());
+    x11_qt::giveKeyboard(x11_qt::nativeWindow(window), m_connection.serverTime());
 }
 
 } // namespace corvane

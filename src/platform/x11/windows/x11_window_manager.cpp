@@ -21,12 +21,34 @@ void X11WindowManager::activate(xcb_window_t window, xcb_connection_t *on,
     // As a pager would: a program that asks for itself may be refused.
     constexpr std::uint32_t fromPager = 2;
     xcb_client_message_event_t message = {};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
     message.window = window;
     message.type = m_connection.atom("_NET_ACTIVE_WINDOW");
     message.data.data32[0] = fromPager;
     message.data.data32[1] = time;
+    sendToRoot(message, on);
+}
+
+/// Its estimate of the frame that the window would get, were it shown.
+void X11WindowManager::askForSign(xcb_window_t window) const
+{
+    xcb_client_message_event_t message = {};
+    message.window = window;
+    message.type = m_connection.atom("_NET_REQUEST_FRAME_EXTENTS");
+    sendToRoot(message, m_connection.get());
+}
+
+bool X11WindowManager::isSign(const xcb_generic_event_t &event, xcb_window_t window) const
+{
+    if ((event.response_type & 0x7f) != XCB_PROPERTY_NOTIFY)
+        return false;
+    const auto &news = reinterpret_cast<const xcb_property_notify_event_t &>(event);
+    return news.window == window && news.atom == m_connection.atom("_NET_FRAME_EXTENTS");
+}
+
+void X11WindowManager::sendToRoot(xcb_client_message_event_t message, xcb_connection_t *on) const
+{
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
     xcb_send_event(on, 0, m_connection.root(),
                    XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EVENT_MASK_SUBSTRUCTURE_REDIRECT,
                    reinterpret_cast<const char *>(&message));

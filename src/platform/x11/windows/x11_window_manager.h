@@ -23,7 +23,14 @@ public:
     /// one who did so last. `time` is therefore the server's present one.
     void activate(xcb_window_t window, xcb_connection_t *on, xcb_timestamp_t time) const;
 
+    /// Asks it on our own connection to change a property of a window of ours that was never shown.
+    /// It does so after all that it was asked before on that connection. A window manager that does
+    /// not know of this gives no sign.
+    void askForSign(xcb_window_t window) const;
+    bool isSign(const xcb_generic_event_t &event, xcb_window_t window) const;
+
 private:
+    void sendToRoot(xcb_client_message_event_t message, xcb_connection_t *on) const;
     void tellTime(xcb_connection_t *on) const;
     xcb_window_t rootProperty(const char *name) const;
 

@@ -1,13 +1,20 @@
 #include "platform/base/geometry.h"
+#include "platform/managed_window.h"
 #include "platform/panel_fixture.h"
 #include "platform/x11/base/x11_reply.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QWheelEvent>
 
-#include <array>
+#include <unistd.h>
+
+#include <csignal>
 
 namespace corvane::test {
 
@@ -40,46 +47,35 @@ private:
     xcb_window_t m_window;
 };
 
-/// An ordinary window of another program, managed and with the focus.
-class ManagedWindow {
+/// As long as this lives the window manager does nothing of what it is asked.
+class BusyWindowManager {
 public:
-    explicit ManagedWindow(const QRect &frame)
-        : m_window(xcb_generate_id(m_server.connection()))
-    {
-        const std::array<std::uint32_t, 2> values = {0x336633, XCB_EVENT_MASK_BUTTON_PRESS};
-        xcb_create_window(m_server.connection(), XCB_COPY_FROM_PARENT, m_window, m_server.root(), 0,
-                          0, 100, 100, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT,
-                          XCB_CW_BACK_PIXEL | XCB_CW_EVENT_MASK, values.data());
-        xcb_map_window(m_server.connection(), m_window);
-        xcb_flush(m_server.connection());
-        eventually([&] { return m_server.activeWindow() == m_window; });
-        resize(frame);
-    }
-    ~ManagedWindow()
-    {
-        xcb_destroy_window(m_server.connection(), m_window);
-        xcb_flush(m_server.connection());
-    }
-    xcb_window_t id() const { return m_window; }
-    /// Done by the window manager, after all that it was asked before.
-    void resize(const QRect &frame)
-    {
-        m_server.moveResize(m_window, frame);
-        eventually([&] { return m_server.facts(m_window)->frame.size() == frame.size(); });
-    }
-    int clicks()
-    {
-        while (xcb_generic_event_t *event = xcb_poll_for_event(m_server.connection())) {
-            m_clicks += (event->response_type & 0x7f) == XCB_BUTTON_PRESS ? 1 : 0;
-            std::free(event);
-        }
-        return m_clicks;
-    }
+    BusyWindowManager() { signal(SIGSTOP); }
+    ~BusyWindowManager() { signal(SIGCONT); }
+    bool isFound() const { return m_pid > 0; }
 
 private:
-    e2e::XServer m_server{qgetenv("DISPLAY")};
-    xcb_window_t m_window;
-    int m_clicks = 0;
+    /// It was started by the program that has started this one.
+    static pid_t find()
+    {
+        const QStringList processes = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+        for (const QString &process : processes) {
+            QFile stat(QStringLiteral("/proc/%1/stat").arg(process));
+            if (process.toInt() > 0 && stat.open(QIODevice::ReadOnly)) {
+                const QList<QByteArray> words = stat.readAll().split(' ');
+                if (words.value(1) == "(openbox)" && words.value(3).toInt() == getppid())
+                    return process.toInt();
+            }
+        }
+        return 0;
+    }
+    void signal(int number) const
+    {
+        if (isFound())
+            kill(m_pid, number);
+    }
+
+    pid_t m_pid = find();
 };
 
 /// What a window manager hears at the root window of somebody's wish to activate a window.
@@ -136,6 +132,14 @@ TEST_F(PanelWindowTest, standsExactlyWhereItWasPut)
     panel.setFrame({100.4, 881.6, 320, 100});
     EXPECT_TRUE(eventually([&] { return facts().frame == QRect(100, 0, 320, 100); }));
     EXPECT_EQ(panel.frame(), QRectF(100.4, 881.6, 320, 100));
+}
+
+TEST_F(PanelWindowTest, tellsWhichScreenItIsOn)
+{
+    EXPECT_EQ(panel.screen(), QGuiApplication::primaryScreen());
+    panel.setFrame({5000, 482, 300, 100});
+    EXPECT_EQ(panel.screen(), nullptr);
+    EXPECT_TRUE(eventually([&] { return facts().frame == QRect(5000, 400, 300, 100); }));
 }
 
 TEST_F(PanelWindowTest, hidesAndShowsAgain)
@@ -248,11 +252,11 @@ TEST_F(PanelWindowTest, isCutToItsOutlineOnlyWithoutACompositor)
     {
         const CompositorName compositor(display);
         EXPECT_TRUE(eventually([&] { return display.server.boundingShape(id()) == whole; }));
-        EXPECT_TRUE(surface.isComposited());
-        EXPECT_TRUE(X11PanelSurface(connection).isComposited());
+        EXPECT_TRUE(panels.compositing.isComposited());
+        EXPECT_TRUE(X11Compositing(connection).isComposited());
     }
     EXPECT_TRUE(eventually([&] { return display.server.boundingShape(id()) == cut; }));
-    EXPECT_FALSE(surface.isComposited());
+    EXPECT_FALSE(panels.compositing.isComposited());
 }
 
 TEST_F(PanelWindowTest, reportsThePointer)
@@ -345,7 +349,7 @@ TEST_F(PanelWindowTest, leavesTheKeyboardWithSomebodyWhoTookItMeanwhile)
 TEST_F(PanelWindowTest, aPanelThatTookItFromAnotherGivesItBackToTheProgram)
 {
     const ManagedWindow other({100, 100, 300, 200});
-    QtPanelWindow second(surface, queue);
+    QtPanelWindow second(panels.desktop(), queue);
     second.setFrame({600, 200, 300, 100});
     content.onMouseDown = [&] {
         panel.makeKey();
@@ -441,6 +445,32 @@ TEST_F(PanelWindowTest, resigningGivesTheKeyboardBackAndLeavesThePanelOnScreen)
     EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
 }
 
+TEST_F(PanelWindowTest, hasTheKeyboardAgainHoweverLateTheWindowManagerGivesItBack)
+{
+    ManagedWindow other({100, 100, 300, 200});
+    show();
+    panel.makeKey();
+    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    for (int i = 0; i < 2; ++i) {
+        const BusyWindowManager busy;
+        ASSERT_TRUE(busy.isFound());
+        panel.orderOut();
+        ASSERT_EQ(display.server.focusedWindow(), other.id());
+        panel.orderFrontRegardless();
+        panel.makeKey();
+        ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    }
+    // It has done all that it was asked by then.
+    other.resize({100, 100, 320, 220});
+    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    settle();
+    EXPECT_EQ(display.server.focusedWindow(), id());
+    panel.orderOut();
+    EXPECT_TRUE(eventually([&] { return display.server.activeWindow() == other.id(); }));
+    settle();
+    EXPECT_EQ(display.server.focusedWindow(), other.id());
+}
+
 TEST_F(PanelWindowTest, resigningTakesTheKeyboardFromNoOther)
 {
     show();
@@ -468,7 +498,7 @@ TEST_F(PanelWindowTest, resigningKeepsNoKeyboardForAWindowThatIsGone)
 TEST_F(PanelWindowTest, amongPanelsItTakesTheKeyboardFromPanelsAlone)
 {
     const ManagedWindow other({100, 100, 300, 200});
-    QtPanelWindow second(surface, queue);
+    QtPanelWindow second(panels.desktop(), queue);
     second.setFrame({600, 200, 300, 100});
     const auto secondId = static_cast<xcb_window_t>(second.window().winId());
     show();
@@ -584,10 +614,10 @@ TEST_F(PanelWindowTest, contentMayGoWhileThePanelIsShown)
     EXPECT_EQ(content.count("down"), 0);
 }
 
-/// A surface that writes down which key it is to keep from the program behind.
-class SwallowingSurface : public X11PanelSurface {
+/// Writes down which key it is to keep from the program behind.
+class SwallowingFocus : public X11KeyboardFocus {
 public:
-    using X11PanelSurface::X11PanelSurface;
+    using X11KeyboardFocus::X11KeyboardFocus;
     void swallowRepeats(NativeKey key, std::uint32_t) override { swallowed.push_back(key); }
 
     std::vector<NativeKey> swallowed;
@@ -602,8 +632,10 @@ protected:
         QCoreApplication::sendEvent(&window.window(), &press);
     }
 
-    SwallowingSurface swallowing{connection};
-    QtPanelWindow panelWithKeys{swallowing, queue};
+    SwallowingFocus swallowing{connection};
+    KeyboardLoan loan{swallowing, queue};
+    QtPanelWindow panelWithKeys{{panels.surface, loan, panels.compositing, panels.pointingDevices},
+                                queue};
 };
 
 TEST_F(HeldKey, ofAPanelThatHasTheKeyboardIsKeptFromTheProgramBehind)

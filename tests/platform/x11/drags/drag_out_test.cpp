@@ -293,7 +293,8 @@ TEST_F(DragOutTest, aSecondDragInsideTheFirstIsNone)
 
 TEST_F(DragOutTest, aPanelThatDiesInItsDragReportsNothing)
 {
-    auto dying = std::make_unique<QtPanelWindow>(surface, queue, &dropSupport, &dragSupport);
+    auto dying
+        = std::make_unique<QtPanelWindow>(panels.desktop(), queue, &dropSupport, &dragSupport);
     RecordingContent dyingContent;
     dying->setContent(&dyingContent);
     dying->setFrame({600, 482, 300, 100});

@@ -1,0 +1,187 @@
+#include "platform/desktop/keyboard_loan.h"
+
+#include "platform/base/main_queue.h"
+
+#include <utility>
+
+namespace corvane {
+
+KeyboardLoan::KeyboardLoan(KeyboardFocus &focus, MainQueue &queue)
+    : m_focus(focus)
+    , m_queue(queue)
+{
+    m_focus.observeAnswers(m_lifetime.guard([this] { answered(); }));
+}
+
+void KeyboardLoan::join(WindowNumber panel)
+{
+    m_panels[panel] = {};
+}
+
+void KeyboardLoan::leave(WindowNumber panel)
+{
+    lost(panel);
+    m_panels.erase(panel);
+}
+
+void KeyboardLoan::shown(WindowNumber panel)
+{
+    m_panels[panel] = {.isShown = true, .hasUserGoneOn = false};
+}
+
+void KeyboardLoan::willHide(WindowNumber panel)
+{
+    const Panel before = std::exchange(m_panels[panel], {});
+    if (!before.isShown)
+        return;
+    if (!before.hasUserGoneOn) {
+        giveBackFrom(panel);
+        return;
+    }
+    // Now would be too early: the window manager may hear of the click after us, and our wish would
+    // come after the user's.
+    m_queue.asyncAfter(clickPatience,
+                       m_lifetime.guard([this, panel] { giveBackUnlessClaimed(panel); }));
+}
+
+/// What was clicked may be something that takes no keyboard.
+void KeyboardLoan::giveBackUnlessClaimed(WindowNumber hidden)
+{
+    if (isPanel(hidden) && !isShown(hidden) && m_focus.focusedWindow() == WindowNumber::None)
+        giveBack();
+}
+
+void KeyboardLoan::wantedByHand(WindowNumber panel)
+{
+    m_givesBackOnRelease = false;
+    if (isShown(panel))
+        take(panel);
+}
+
+void KeyboardLoan::wantedAmongPanels(WindowNumber panel)
+{
+    if (!isShown(panel))
+        return;
+    const WindowNumber focused = m_focus.focusedWindow();
+    if (focused == WindowNumber::None || isPanel(focused))
+        wantedByHand(panel);
+}
+
+void KeyboardLoan::resigned(WindowNumber panel)
+{
+    if (isShown(panel))
+        giveBackFrom(panel);
+}
+
+void KeyboardLoan::userWentOn(WindowNumber panel)
+{
+    m_panels[panel].hasUserGoneOn = true;
+    m_wantedMeanwhile.reset();
+}
+
+void KeyboardLoan::pressed()
+{
+    m_wasWithPanelBeforePress = isPanel(m_focus.focusedWindow());
+}
+
+void KeyboardLoan::dragLetGo(DragOperation promised)
+{
+    if (promised == DragOperation::None && m_wasWithPanelBeforePress)
+        return;
+    // With the button and a key still down it was Escape that ended the drag. Another button ends a
+    // drag, too, and then there is no release to wait for.
+    m_givesBackOnRelease
+        = promised == DragOperation::None && m_focus.isLeftButtonDown() && m_focus.isAnyKeyDown();
+    if (!m_givesBackOnRelease)
+        giveBackFromAnyPanel();
+}
+
+void KeyboardLoan::keyPressed(WindowNumber panel, NativeKey key, std::uint32_t modifiers)
+{
+    m_heldKey = {panel, key, modifiers};
+}
+
+void KeyboardLoan::keyReleased(NativeKey key)
+{
+    if (m_focus.isKeyDown(key))
+        return;
+    if (m_heldKey && m_heldKey->key == key)
+        m_heldKey.reset();
+    if (std::exchange(m_givesBackOnRelease, false))
+        giveBackFromAnyPanel();
+}
+
+void KeyboardLoan::lost(WindowNumber panel)
+{
+    if (m_heldKey && m_heldKey->panel == panel)
+        m_heldKey.reset();
+}
+
+bool KeyboardLoan::isShown(WindowNumber panel) const
+{
+    const auto found = m_panels.find(panel);
+    return found != m_panels.end() && found->second.isShown;
+}
+
+bool KeyboardLoan::isJustGivenBackTo(WindowNumber window) const
+{
+    return m_awaitedAnswers > 0 && window != WindowNumber::None
+        && (window == m_givenBackTo.focused || window == m_givenBackTo.active);
+}
+
+void KeyboardLoan::take(WindowNumber panel)
+{
+    if (m_awaitedAnswers > 0)
+        m_wantedMeanwhile = panel;
+    const WindowNumber focused = m_focus.focusedWindow();
+    if (focused == panel)
+        return;
+    // The window manager does not name its active window rightly before it has done its part.
+    if (isJustGivenBackTo(focused))
+        m_owner = m_givenBackTo;
+    else if (!isPanel(focused))
+        m_owner = m_focus.owner();
+    m_focus.giveTo(panel);
+}
+
+void KeyboardLoan::giveBackFrom(WindowNumber panel)
+{
+    if (m_wantedMeanwhile == panel)
+        m_wantedMeanwhile.reset();
+    // What a key has closed is not to be repeated in the program behind.
+    if (m_heldKey && m_heldKey->panel == panel) {
+        m_focus.swallowRepeats(m_heldKey->key, m_heldKey->modifiers);
+        m_heldKey.reset();
+    }
+    // Otherwise somebody else has it by now: the user went on, or to another panel.
+    if (m_focus.focusedWindow() == panel)
+        giveBack();
+}
+
+void KeyboardLoan::giveBackFromAnyPanel()
+{
+    if (isPanel(m_focus.focusedWindow()))
+        giveBack();
+}
+
+void KeyboardLoan::giveBack()
+{
+    m_wantedMeanwhile.reset();
+    m_givenBackTo = std::exchange(m_owner, {});
+    if (m_focus.giveBackTo(m_givenBackTo))
+        ++m_awaitedAnswers;
+}
+
+/// The window manager has activated the owner, who has the keyboard now even where a panel asked
+/// for it later. Somebody else who has it took it by themselves, and keeps it.
+void KeyboardLoan::answered()
+{
+    if (m_wantedMeanwhile && isJustGivenBackTo(m_focus.focusedWindow()))
+        m_focus.giveTo(*m_wantedMeanwhile);
+    if (m_awaitedAnswers > 0)
+        --m_awaitedAnswers;
+    if (m_awaitedAnswers == 0)
+        m_wantedMeanwhile.reset();
+}
+
+} // namespace corvane

@@ -1,0 +1,103 @@
+#include "platform/x11/windows/x11_keyboard_focus.h"
+
+#include "platform/x11/base/x11_qt.h"
+#include "platform/x11/base/x11_reply.h"
+
+#include <utility>
+
+namespace corvane {
+
+X11KeyboardFocus::X11KeyboardFocus(X11Connection &connection)
+    : m_connection(connection)
+    , m_windowManager(connection)
+    , m_keyShield(connection)
+    , m_listener(
+          connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
+    , m_answers(xcb_generate_id(connection.get()))
+{
+    const std::uint32_t propertyChanges = XCB_EVENT_MASK_PROPERTY_CHANGE;
+    xcb_create_window(m_connection.get(), XCB_COPY_FROM_PARENT, m_answers, m_connection.root(), -1,
+                      -1, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT,
+                      XCB_CW_EVENT_MASK, &propertyChanges);
+}
+
+X11KeyboardFocus::~X11KeyboardFocus()
+{
+    xcb_destroy_window(m_connection.get(), m_answers);
+}
+
+/// Asked for on Qt's connection, on which panels are given the keyboard: behind what was asked for
+/// there.
+xcb_window_t X11KeyboardFocus::focus() const
+{
+    auto *const qt = x11_qt::connection();
+    auto *const connection = qt ? qt : m_connection.get();
+    const X11Reply<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    return reply ? reply->focus : XCB_NONE;
+}
+
+WindowNumber X11KeyboardFocus::focusedWindow() const
+{
+    const xcb_window_t window = focus();
+    const bool isNobody = window == XCB_INPUT_FOCUS_NONE || window == XCB_INPUT_FOCUS_POINTER_ROOT
+        || window == m_connection.root();
+    return isNobody ? WindowNumber::None : WindowNumber{window};
+}
+
+KeyboardFocus::Owner X11KeyboardFocus::owner() const
+{
+    return {WindowNumber{focus()}, WindowNumber{m_windowManager.activeWindow()}};
+}
+
+void X11KeyboardFocus::giveTo(WindowNumber panel)
+{
+    x11_qt::giveKeyboard(static_cast<xcb_window_t>(panel), m_connection.serverTime());
+}
+
+bool X11KeyboardFocus::giveBackTo(const Owner &owner)
+{
+    const auto active = static_cast<xcb_window_t>(owner.active);
+    const auto focused = static_cast<xcb_window_t>(owner.focused);
+    const xcb_timestamp_t now = m_connection.serverTime();
+    if (active != XCB_NONE) {
+        m_windowManager.activate(active, m_connection.get(), now);
+        m_windowManager.askForSign(m_answers);
+    }
+    // Also where there is a window manager, and after it was asked, so that it expects this. Some
+    // do not see that a window loses the keyboard while a key is grabbed, as a hot key is: they
+    // think that it has it still, and do nothing.
+    if (focused == XCB_NONE || !tryToFocus(focused, now))
+        tryToFocus(XCB_INPUT_FOCUS_POINTER_ROOT, now);
+    return active != XCB_NONE;
+}
+
+/// False where the window is gone or hidden: a panel must not keep the keyboard for that.
+bool X11KeyboardFocus::tryToFocus(xcb_window_t window, xcb_timestamp_t time)
+{
+    const X11Reply<xcb_generic_error_t> error(
+        xcb_request_check(m_connection.get(),
+                          xcb_set_input_focus_checked(m_connection.get(),
+                                                      XCB_INPUT_FOCUS_POINTER_ROOT, window, time)));
+    return !error;
+}
+
+void X11KeyboardFocus::observeAnswers(std::function<void()> callback)
+{
+    m_observers.add(std::move(callback));
+}
+
+bool X11KeyboardFocus::isLeftButtonDown() const
+{
+    const X11Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+        m_connection.get(), xcb_query_pointer(m_connection.get(), m_connection.root()), nullptr));
+    return reply && (reply->mask & XCB_BUTTON_MASK_1) != 0;
+}
+
+void X11KeyboardFocus::handle(const xcb_generic_event_t &event)
+{
+    if (m_windowManager.isSign(event, m_answers))
+        m_observers.notify();
+}
+
+} // namespace corvane

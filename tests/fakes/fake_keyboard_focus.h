@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/base/callback_list.h"
+#include "platform/desktop/keyboard_focus.h"
+
+#include <deque>
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace corvane::test {
+
+/// A window system in which everybody gets the keyboard who asks for it, and whose window manager
+/// does what it was asked when the test says so.
+class FakeKeyboardFocus : public KeyboardFocus {
+public:
+    WindowNumber focusedWindow() const override { return focused; }
+    Owner owner() const override { return {focused, active}; }
+    void giveTo(WindowNumber panel) override { focused = panel; }
+    bool giveBackTo(const Owner &owner) override
+    {
+        focused = owner.focused;
+        givenBack.push_back(owner);
+        if (owner.active == WindowNumber::None)
+            return false;
+        m_asked.push_back(owner.active);
+        return true;
+    }
+    void observeAnswers(std::function<void()> callback) override
+    {
+        m_observers.add(std::move(callback));
+    }
+    bool isKeyDown(NativeKey key) const override { return keysDown.contains(key); }
+    bool isAnyKeyDown() const override { return !keysDown.empty(); }
+    bool isLeftButtonDown() const override { return leftButtonIsDown; }
+    void swallowRepeats(NativeKey key, std::uint32_t modifiers) override
+    {
+        swallowed.emplace_back(key, modifiers);
+    }
+
+    /// The window manager activates the window that it was asked for first. It may find that
+    /// somebody else has the keyboard by rights.
+    void answer(bool givesKeyboard = true)
+    {
+        if (m_asked.empty())
+            return;
+        active = m_asked.front();
+        m_asked.pop_front();
+        if (givesKeyboard)
+            focused = active;
+        m_observers.notify();
+    }
+
+    WindowNumber focused = WindowNumber::None;
+    WindowNumber active = WindowNumber::None;
+    std::vector<Owner> givenBack;
+    std::set<NativeKey> keysDown;
+    bool leftButtonIsDown = false;
+    std::vector<std::pair<NativeKey, std::uint32_t>> swallowed;
+
+private:
+    std::deque<WindowNumber> m_asked;
+    CallbackList<> m_observers;
+};
+
+} // namespace corvane::test
