@@ -1,6 +1,8 @@
 #include "platform/qt/web/http_exchange.h"
 
+#include <QHostAddress>
 #include <QNetworkProxy>
+#include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QSslSocket>
 
@@ -60,6 +62,20 @@ QString certifiedNameOf(const QUrl &url)
     if (name.endsWith(QLatin1Char('.')))
         name.chop(1);
     return name;
+}
+
+/// Whether a certificate is made out to the address that a URL names literally; for host names Qt
+/// sees to that. It compares an IPv6 address with names of servers too, as host names, which
+/// neither is when the name has blanks: both become empty, and equal.
+bool isForLiteralAddressOf(const QUrl &url, const QSslCertificate &certificate)
+{
+    QHostAddress address(certifiedNameOf(url));
+    if (address.isNull())
+        return true;
+    address.setScopeId({});
+    const auto named = certificate.subjectAlternativeNames().values(QSsl::IpAddressEntry);
+    return std::ranges::any_of(
+        named, [&address](const QString &name) { return QHostAddress(name) == address; });
 }
 
 QSslConfiguration tlsConfiguration(const QList<QSslCertificate> &authorities)
@@ -174,7 +190,7 @@ void HttpExchange::connectSocket()
     m_socket = new QSslSocket(this);
     m_socket->setReadBufferSize(readBufferBytes);
     connect(m_socket, &QSslSocket::connected, this, &HttpExchange::connected);
-    connect(m_socket, &QSslSocket::encrypted, this, &HttpExchange::ask);
+    connect(m_socket, &QSslSocket::encrypted, this, &HttpExchange::secured);
     connect(m_socket, &QSslSocket::readyRead, this, &HttpExchange::readSocket);
     connect(m_socket, &QSslSocket::errorOccurred, this, &HttpExchange::socketFailed);
     connect(m_socket, &QSslSocket::disconnected, this, &HttpExchange::closed);
@@ -217,6 +233,14 @@ void HttpExchange::secure()
     m_socket->setSslConfiguration(tlsConfiguration(m_plan.authorities));
     m_socket->setPeerVerifyName(certifiedNameOf(m_plan.url));
     m_socket->startClientEncryption();
+}
+
+void HttpExchange::secured()
+{
+    if (isForLiteralAddressOf(m_plan.url, m_socket->peerCertificate()))
+        ask();
+    else
+        tryNextAddress();
 }
 
 void HttpExchange::ask()

@@ -80,6 +80,7 @@ private:
     void connected();
     void openTunnel();
     void secure();
+    void secured();
     void ask();
     void socketFailed(int error);
     void closed();

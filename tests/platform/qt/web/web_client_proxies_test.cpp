@@ -103,6 +103,23 @@ TEST_F(WebClientProxies, aSecurePageGoesThroughATunnelToTheNamedServer)
     EXPECT_EQ(resolver->timesAsked(), 0);
 }
 
+TEST_F(WebClientProxies, aTunnelToALiteralAddressIsAskedForInBracketsAndEndsAtItsCertificate)
+{
+    routes->all = by(httpProxy, http);
+    for (const auto &[subject, isTrusted] :
+         {std::pair(u"IP:2606:4700::1111"_s, true), std::pair(u"IP:2606:4700::2222"_s, false),
+          std::pair(u"DNS:site.test"_s, false)}) {
+        HttpServer server(u"127.0.0.1"_s, authority().issue(subject));
+        server.answer("/", response(200, "page"));
+        QUrl place = server.url(u"/"_s, u"site.test"_s);
+        place.setHost(u"2606:4700::1111"_s);
+        EXPECT_EQ(fetch(place).has_value(), isTrusted)
+            << "its certificate: " << qPrintable(subject);
+        EXPECT_EQ(httpProxy.tunnels.last(),
+                  "[2606:4700::1111]:" + QByteArray::number(server.port()));
+    }
+}
+
 TEST_F(WebClientProxies, aPlainPageGoesThroughSocksByItsName)
 {
     routes->all = by(socksProxy, socks);
