@@ -42,6 +42,17 @@ TEST(ElidedLabelTest, LeavesTheMiddleOfItsLastLineAway)
     EXPECT_EQ(label.heightForWidth(widthFor(label, 20)), 2 * label.fontMetrics().height());
 }
 
+TEST(ElidedLabelTest, IsFainterWhereItStandsBehindAnother)
+{
+    ElidedLabel label;
+    label.setText(name);
+    const QImage plain = label.grab().toImage();
+    label.setSubdued(true);
+    EXPECT_NE(label.grab().toImage(), plain);
+    label.setSubdued(false);
+    EXPECT_EQ(label.grab().toImage(), plain);
+}
+
 TEST(ElidedLabelTest, IsGivenTheRoomOfItsLines)
 {
     QWidget window;

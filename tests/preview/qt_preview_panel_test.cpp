@@ -292,7 +292,7 @@ TEST_F(QtPreviewPanelTest, ControlWClosesItUnlessItIsHeldSinceBefore)
     EXPECT_FALSE(panel->isVisible());
 }
 
-TEST_F(QtPreviewPanelTest, AWheelMovesAPictureByNotchesAndATouchpadByItsPixels)
+TEST_F(QtPreviewPanelTest, AWheelMovesAPictureByNotchesATouchpadByItsPixelsAndKeysByTheirSteps)
 {
     PreviewContent content;
     PreviewContent::Picture picture;
@@ -322,6 +322,17 @@ TEST_F(QtPreviewPanelTest, AWheelMovesAPictureByNotchesAndATouchpadByItsPixels)
     EXPECT_EQ(notch, after({0, 120}, {0, 120}, Qt::NoScrollPhase))
         << "pixels that a driver made up of notches";
     EXPECT_EQ(notch, after({0, 60}, {0, 480}, Qt::ScrollUpdate)) << "pixels of a touchpad";
+    press(Qt::Key_0);
+    press(Qt::Key_1);
+    const QImage middle = view->grab().toImage();
+    for (const auto &[there, back] :
+         {std::pair(Qt::Key_PageDown, Qt::Key_PageUp), std::pair(Qt::Key_Down, Qt::Key_Up),
+          std::pair(Qt::Key_Right, Qt::Key_Left)}) {
+        press(there);
+        EXPECT_NE(view->grab().toImage(), middle) << there;
+        press(back);
+        EXPECT_EQ(view->grab().toImage(), middle) << back;
+    }
 }
 
 TEST_F(QtPreviewPanelTest, TheRepeatsOfTheKeyThatClosedItReachNoOtherWindow)
