@@ -1,4 +1,4 @@
-#include "platform/qt/preview/details_view.h"
+#include "preview/details_view.h"
 
 #include <gtest/gtest.h>
 

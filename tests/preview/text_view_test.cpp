@@ -1,5 +1,5 @@
 #include "fakes/test_clock.h"
-#include "platform/qt/preview/text_view.h"
+#include "preview/text_view.h"
 
 #include <gtest/gtest.h>
 
