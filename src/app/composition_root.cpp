@@ -82,7 +82,6 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
     , panel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &workQueue)
     , viewAllPanel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &workQueue)
     , statusItem(mainQueue, desktop.trayWatch)
-    , screenLocator(screens, desktop.pointer)
     , hotKeys(desktop.hotKeys, mainQueue)
     , settings(userDefaults, loginItems)
     , shortcuts(
@@ -161,7 +160,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
            .settings = settings,
            .feedback = feedback,
            .screens = screens,
-           .screenLocator = screenLocator,
+           .screenLocator = desktop.screenLocator,
            .quickActions = quickActions,
            .presenter = &presenter,
            .viewAll = &viewAll})

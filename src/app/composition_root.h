@@ -24,7 +24,6 @@
 #include "core/shelf_store.h"
 #include "core/text_descriptions.h"
 #include "input/hot_key_center.h"
-#include "input/screen_locator.h"
 #include "input/shortcut_binder.h"
 #include "platform/freedesktop/autostart_login_items.h"
 #include "platform/freedesktop/mount_table.h"
@@ -107,7 +106,6 @@ struct CompositionRoot {
     DesktopStatusItem statusItem;
 
     // Input.
-    ScreenLocator screenLocator;
     HotKeyCenter hotKeys;
 
     // The model, and what completes it.

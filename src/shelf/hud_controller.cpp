@@ -161,8 +161,7 @@ double HUDController::openWidth(const ScreenPointer &screen) const
 void HUDController::render()
 {
     // Looked for once: where the pointer is has to be asked of the desktop.
-    const ScreenPointer active = m_context.screenLocator.activeScreen();
-    const ScreenPointer screen = active ? active : m_context.screens.mainScreen();
+    const ScreenPointer screen = m_context.screenLocator.activeScreen();
     const ShelfSnapshot snapshot = makeSnapshot(screen);
     const QSizeF size = m_shelf.preferredSize(snapshot);
     QRectF frame;
@@ -171,7 +170,7 @@ void HUDController::render()
         frame = {midX(screen->frame) - 0.5 * size.width(), maxY(screen->frame) - size.height(),
                  size.width(), size.height()};
         m_shelf.setRefreshRate(screen->refreshRate);
-        resizeWindow(frame, active);
+        resizeWindow(frame, screen);
         // What is dragged is meant for the shelf from the first moment on.
         if (m_store.isDragInFlight())
             m_letsClicksThrough = false;

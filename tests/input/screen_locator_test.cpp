@@ -15,6 +15,16 @@ struct ScreenLocatorTest : testing::Test {
     ScreenLocator locator{screens, pointer};
 };
 
+/// A pointer at the origin that counts how often it is asked.
+struct AskedPointer : Pointer {
+    std::optional<QPointF> location() const override
+    {
+        ++times;
+        return QPointF(0, 0);
+    }
+    mutable int times = 0;
+};
+
 ScreenPointer screenWithNotch(double inset, std::optional<double> left, std::optional<double> right)
 {
     Screen screen;
@@ -69,6 +79,18 @@ TEST_F(ScreenLocatorTest, FallsBackToTheMainScreen)
     EXPECT_EQ(locator.activeScreen(), main);
     pointer.position = std::nullopt;
     EXPECT_EQ(locator.activeScreen(), main) << "a window system that does not tell the position";
+}
+
+TEST_F(ScreenLocatorTest, AsksForThePointerOnlyWhereThereAreSeveralScreens)
+{
+    AskedPointer asked;
+    const ScreenLocator asking(screens, asked);
+    const auto first = screens.attach(QRectF(0, 0, 100, 100));
+    EXPECT_EQ(asking.activeScreen(), first);
+    EXPECT_EQ(asked.times, 0);
+    screens.attach(QRectF(100, 0, 100, 100));
+    EXPECT_EQ(asking.activeScreen(), first);
+    EXPECT_EQ(asked.times, 1);
 }
 
 TEST_F(ScreenLocatorTest, HasNoScreenWhereNoneIsAttached)

@@ -16,7 +16,7 @@ class HotKeyService;
 class KeyboardLayout;
 class MainQueue;
 class OutsideClicks;
-class Pointer;
+class ScreenLocator;
 class Screens;
 class TrayWatch;
 class WindowActivation;
@@ -24,7 +24,7 @@ class WindowActivation;
 /// What the program asks of the session that it runs in; how each is answered is the session's
 /// affair. The references are valid as long as the session is.
 struct DesktopSession {
-    const Pointer &pointer;
+    const ScreenLocator &screenLocator;
     DragWatch &dragWatch;
     EdgeTrigger &edgeTrigger;
     OutsideClicks &outsideClicks;

@@ -6,6 +6,7 @@ X11Session::X11Session(const SessionNeeds &needs)
     : connection(needs.terminate)
     , pingAnswers(connection)
     , pointer(connection, needs.screens)
+    , screenLocator(needs.screens, pointer)
     , dragDesktop(connection)
     , dragMonitor(dragDesktop, dragDesktop, dragDesktop, needs.mainQueue)
     , outsideClicks(dragDesktop, pointer)
@@ -26,7 +27,7 @@ X11Session::X11Session(const SessionNeeds &needs)
 
 DesktopSession X11Session::desktop()
 {
-    return {.pointer = pointer,
+    return {.screenLocator = screenLocator,
             .dragWatch = dragMonitor,
             .edgeTrigger = edgeTrigger,
             .outsideClicks = outsideClicks,

@@ -4,6 +4,7 @@
 #include "input/barrier_edge_trigger.h"
 #include "input/drag_monitor.h"
 #include "input/monitored_clicks.h"
+#include "input/screen_locator.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_drag_desktop.h"
 #include "platform/x11/drags/x11_drag_support.h"
@@ -30,6 +31,7 @@ struct X11Session : RunningSession {
     X11Connection connection;
     X11PingAnswers pingAnswers;
     X11Pointer pointer;
+    ScreenLocator screenLocator;
     X11DragDesktop dragDesktop;
     DragMonitor dragMonitor;
     MonitoredClicks outsideClicks;

@@ -80,7 +80,7 @@ enum class NativeKey : std::uint32_t {
 };
 
 /// What a key types or does, as the window system names it and Qt passes it on as the native
-/// virtual key: a key symbol of X11.
+/// virtual key: one of xkbcommon's key symbols.
 enum class KeySymbol : std::uint32_t {};
 
 } // namespace corvane
