@@ -1,7 +1,10 @@
 #include "platform/qt/web/test_authority.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QProcess>
+
+#include <algorithm>
 
 namespace corvane::test {
 
@@ -38,9 +41,21 @@ HttpServer::Identity TestAuthority::issue(const QString &subject, int days)
             + QStringList{u"-keyout"_s, path("leaf.key"), u"-out"_s, path("leaf.csr"), u"-subj"_s,
                           u"/CN=Server of a test"_s, u"-addext"_s,
                           QString(u"subjectAltName="_s + subject)});
-    openssl({u"x509"_s, u"-req"_s, u"-in"_s, path("leaf.csr"), u"-CA"_s, path("ca.pem"),
-             u"-CAkey"_s, path("ca.key"), u"-CAcreateserial"_s, u"-copy_extensions"_s, u"copy"_s,
-             u"-days"_s, QString::number(days), u"-out"_s, path("leaf.pem")});
+    // As an authority does it: the simpler command signs nothing that has expired already.
+    write("ca.conf",
+          "[ca]\ndefault_ca = own\n"
+          "[own]\ndefault_md = sha256\npolicy = any\ncopy_extensions = copy\n"
+          "database = index.txt\nserial = serial\n"
+          "[any]\ncommonName = supplied\n");
+    write("index.txt", {});
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    const auto date
+        = [&](int fromToday) { return now.addDays(fromToday).toString(u"yyyyMMddHHmmss'Z'"_s); };
+    openssl({u"ca"_s,       u"-batch"_s,     u"-notext"_s,    u"-create_serial"_s,
+             u"-config"_s,  path("ca.conf"), u"-cert"_s,      path("ca.pem"),
+             u"-keyfile"_s, path("ca.key"),  u"-in"_s,        path("leaf.csr"),
+             u"-outdir"_s,  m_folder.path(), u"-startdate"_s, date(std::min(days, 0) - 1),
+             u"-enddate"_s, date(days),      u"-out"_s,       path("leaf.pem")});
     return identity("leaf.pem", "leaf.key");
 }
 
@@ -56,9 +71,17 @@ HttpServer::Identity TestAuthority::selfSigned(const QString &subject)
 void TestAuthority::openssl(const QStringList &arguments)
 {
     QProcess process;
+    process.setWorkingDirectory(m_folder.path());
     process.start(u"openssl"_s, arguments);
     process.waitForFinished();
     ASSERT_EQ(process.exitCode(), 0) << process.readAllStandardError().constData();
+}
+
+void TestAuthority::write(const char *name, const QByteArray &text) const
+{
+    QFile file(path(name));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write(text);
 }
 
 QString TestAuthority::path(const char *name) const

@@ -24,6 +24,7 @@ public:
 
 private:
     void openssl(const QStringList &arguments);
+    void write(const char *name, const QByteArray &text) const;
     QString path(const char *name) const;
     HttpServer::Identity identity(const char *certificate, const char *key) const;
 
