@@ -60,7 +60,7 @@ void ShortcutBinder::note(HotKeyCenter::Binding binding, ShortcutOutcome outcome
     if (outcome == this->outcome(binding))
         return;
     m_outcomes[binding] = outcome;
-    m_observers.forEach([](const std::function<void()> &observer) { observer(); });
+    m_observers.notify();
 }
 
 bool ShortcutBinder::bind(const Stored &shortcut, HotKeyCenter::Binding binding,

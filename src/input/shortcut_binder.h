@@ -1,7 +1,7 @@
 #pragma once
 
 #include "input/hot_key_center.h"
-#include "platform/base/changing_list.h"
+#include "platform/base/callback_list.h"
 #include "platform/base/lifetime.h"
 #include "platform/base/subscription.h"
 
@@ -56,7 +56,7 @@ private:
     Stored m_shelfShortcut;
     Stored m_viewAllShortcut;
     std::map<HotKeyCenter::Binding, ShortcutOutcome> m_outcomes;
-    ChangingList<std::function<void()>> m_observers;
+    CallbackList<> m_observers;
     Lifetime m_lifetime;
 };
 

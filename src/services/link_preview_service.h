@@ -81,7 +81,6 @@ private:
     std::deque<Load> m_waiting;
     std::map<Number, Load> m_running;
     Number m_lastNumber = 0;
-    /// Held weakly by all work; looked at on the main thread alone.
     Lifetime m_lifetime;
 };
 

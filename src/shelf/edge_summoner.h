@@ -26,8 +26,8 @@ class ShelfStore;
 ///        +--hidden by somebody else------------------------------------------------------+
 ///
 /// Welcome is: the edge tells that the pointer is still there, and free. The edge is watched only
-/// while the shelf is hidden and holds items. Delayed work is voided by restarting its
-/// lifetime. Main thread only; everything in the context must outlive it.
+/// while the shelf is hidden and holds items. Delayed work is voided by restarting its lifetime.
+/// Main thread only; everything in the context must outlive it.
 class EdgeSummoner {
 public:
     /// Seconds at the edge until the shelf is shown.
@@ -36,6 +36,7 @@ public:
     static constexpr double leaveDelay = 0.8;
     /// Seconds for which clicks on the shown shelf go to what it covers.
     static constexpr double clicksThroughTime = 0.3;
+
     struct Context {
         EdgeTrigger &trigger;
         OutsideClicks &outsideClicks;

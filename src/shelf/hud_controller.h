@@ -31,8 +31,7 @@ struct Feedback;
 ///     hiding --0.37 s--> hidden: ordered out      hiding --render--> shown
 ///
 /// Delayed work is never cancelled: what makes it out of date restarts its lifetime. Main thread
-/// only.
-/// Everything that it is given must outlive it.
+/// only. Everything that it is given must outlive it.
 class HUDController {
 public:
     static constexpr QRectF initialFrame{0, 0, 560, 136};

@@ -224,7 +224,7 @@ TEST_F(QtPreviewPanelTest, StaysWhereTheUserHasPutItWhenTheContentComesLate)
     EXPECT_EQ(window()->geometry(), QRect(10, 20, 500, 400));
 }
 
-TEST_F(QtPreviewPanelTest, OpensInTheMiddleOfTheShelfsScreen)
+TEST_F(QtPreviewPanelTest, OpensInTheMiddleOfTheFirstScreenWhereTheShelfHasNone)
 {
     show(textOf(QStringLiteral("hello")));
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();

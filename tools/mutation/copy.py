@@ -86,7 +86,7 @@ class Copy:
         for path, mutants in places.items():
             if mutants:
                 wanted[path] = switched(wanted[path].decode(), mutants).encode()
-        wanted["src/platform/corvane_mutant.h"] = (HERE / "corvane_mutant.h").read_bytes()
+        wanted["src/platform/base/corvane_mutant.h"] = (HERE / "corvane_mutant.h").read_bytes()
         wanted["tests/fakes/mutant_listener.cpp"] = (HERE / "mutant_listener.cpp").read_bytes()
         files = " ".join(sorted(path.removeprefix("src/") for path in places))
         wanted["src/CMakeLists.txt"] += FLAGS.format(files=files).encode() if files else b""
@@ -159,4 +159,4 @@ def switched(text: str, mutants: list[Placed]) -> str:
     """The source with every mutant behind its switch, all lines where they were."""
     edits = [(start, end, new.replace("@", str(placed.number)))
              for placed in mutants for start, end, new in placed.place.switched]
-    return '#include "platform/corvane_mutant.h"\n#line 1\n' + edited(text, edits)
+    return '#include "platform/base/corvane_mutant.h"\n#line 1\n' + edited(text, edits)

@@ -1,5 +1,5 @@
 // Compiled into the tests of the copy that tools/mutate makes: says which test runs.
-#include "platform/corvane_mutant.h"
+#include "platform/base/corvane_mutant.h"
 
 #include <gtest/gtest.h>
 

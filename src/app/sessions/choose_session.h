@@ -6,8 +6,14 @@
 
 namespace corvane {
 
-/// The kinds of desktop session that the program can run in. To add one: an enumerator here, a
-/// struct beside `X11Session` that fills a `DesktopSession`, and a case in `startSession`.
+/// The kinds of desktop session that the program can run in. To add one:
+///
+/// - here an enumerator and what of the environment tells it; in the .cpp the rule, which has to
+///   come before that of X11 where both are there;
+/// - beside `X11Session` a struct that fills a `DesktopSession`, and in `startSession` its case;
+/// - its window system's room in src/platform, a library in src/CMakeLists.txt, and the order of
+///   its rooms in tools/check-includes;
+/// - the test of the choice, and the README's table of what works where.
 enum class SessionKind {
     /// Also in a Wayland session, through its X server.
     X11,

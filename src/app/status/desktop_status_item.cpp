@@ -18,6 +18,12 @@ DesktopStatusItem::DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray)
     mainQueue.async(m_lifetime.guard([this] { search(); }));
 }
 
+DesktopStatusItem::~DesktopStatusItem()
+{
+    if (m_tray)
+        m_tray->stop();
+}
+
 void DesktopStatusItem::search()
 {
     m_hosts->start([this] { found(0); });

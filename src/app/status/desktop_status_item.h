@@ -19,6 +19,9 @@ public:
     /// Begins at the next turn of the queue. Both must outlive it; null where such sessions have no
     /// tray of their own.
     DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray);
+    ~DesktopStatusItem();
+    DesktopStatusItem(const DesktopStatusItem &) = delete;
+    DesktopStatusItem &operator=(const DesktopStatusItem &) = delete;
 
     StatusItem &item() { return m_item; }
 

@@ -17,8 +17,7 @@ class Updater;
 /// only.
 class UpdaterController {
 public:
-    /// Makes the updater where there is to be one. It is started once the settings have their
-    /// defaults.
+    /// Makes the updater where there is to be one. Whoever launches the program starts it.
     UpdaterController(const AppInfo &info, const Installation &installation,
                       const std::function<std::unique_ptr<Updater>()> &make);
     UpdaterController(const UpdaterController &) = delete;

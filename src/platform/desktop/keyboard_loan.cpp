@@ -21,6 +21,7 @@ void KeyboardLoan::join(WindowNumber panel)
 void KeyboardLoan::leave(WindowNumber panel)
 {
     lost(panel);
+    wishEnds(panel);
     m_panels.erase(panel);
 }
 
@@ -34,6 +35,7 @@ void KeyboardLoan::willHide(WindowNumber panel)
     const Panel before = std::exchange(m_panels[panel], {});
     if (!before.isShown)
         return;
+    wishEnds(panel);
     if (!before.hasUserGoneOn) {
         giveBackFrom(panel);
         return;
@@ -146,8 +148,7 @@ void KeyboardLoan::take(WindowNumber panel)
 
 void KeyboardLoan::giveBackFrom(WindowNumber panel)
 {
-    if (m_wantedMeanwhile == panel)
-        m_wantedMeanwhile.reset();
+    wishEnds(panel);
     // What a key has closed is not to be repeated in the program behind.
     if (m_heldKey && m_heldKey->panel == panel) {
         m_focus.swallowRepeats(m_heldKey->key, m_heldKey->modifiers);
@@ -156,6 +157,12 @@ void KeyboardLoan::giveBackFrom(WindowNumber panel)
     // Otherwise somebody else has it by now: the user went on, or to another panel.
     if (m_focus.focusedWindow() == panel)
         giveBack();
+}
+
+void KeyboardLoan::wishEnds(WindowNumber panel)
+{
+    if (m_wantedMeanwhile == panel)
+        m_wantedMeanwhile.reset();
 }
 
 void KeyboardLoan::giveBackFromAnyPanel()
@@ -169,7 +176,14 @@ void KeyboardLoan::giveBack()
     m_wantedMeanwhile.reset();
     m_givenBackTo = std::exchange(m_owner, {});
     if (m_focus.giveBackTo(m_givenBackTo))
-        ++m_awaitedAnswers;
+        awaitAnswer();
+}
+
+void KeyboardLoan::awaitAnswer()
+{
+    ++m_awaitedAnswers;
+    m_waiting.restart();
+    m_queue.asyncAfter(answerPatience, m_waiting.guard([this] { forgetAnswers(); }));
 }
 
 /// The window manager has activated the owner, who has the keyboard now even where a panel asked
@@ -181,7 +195,14 @@ void KeyboardLoan::answered()
     if (m_awaitedAnswers > 0)
         --m_awaitedAnswers;
     if (m_awaitedAnswers == 0)
-        m_wantedMeanwhile.reset();
+        forgetAnswers();
+}
+
+void KeyboardLoan::forgetAnswers()
+{
+    m_awaitedAnswers = 0;
+    m_wantedMeanwhile.reset();
+    m_waiting.restart();
 }
 
 } // namespace corvane

@@ -27,6 +27,8 @@ class KeyboardLoan {
 public:
     /// Seconds that a window manager may take to give the keyboard to what was clicked.
     static constexpr double clickPatience = 0.3;
+    /// Seconds after which no answer of the window manager is awaited any more: some give none.
+    static constexpr double answerPatience = 1;
 
     KeyboardLoan(KeyboardFocus &focus, MainQueue &queue);
     KeyboardLoan(const KeyboardLoan &) = delete;
@@ -79,11 +81,14 @@ private:
     bool isShown(WindowNumber panel) const;
     bool isJustGivenBackTo(WindowNumber window) const;
     void take(WindowNumber panel);
+    void wishEnds(WindowNumber panel);
     void giveBackFrom(WindowNumber panel);
     void giveBackFromAnyPanel();
     void giveBack();
     void giveBackUnlessClaimed(WindowNumber hidden);
+    void awaitAnswer();
     void answered();
+    void forgetAnswers();
 
     KeyboardFocus &m_focus;
     MainQueue &m_queue;
@@ -99,6 +104,8 @@ private:
     /// Escape has ended a drag and may be held: its repeats are nobody else's.
     bool m_givesBackOnRelease = false;
     std::optional<HeldKey> m_heldKey;
+    /// Restarted where the wait for answers begins anew or ends.
+    Lifetime m_waiting;
     Lifetime m_lifetime;
 };
 

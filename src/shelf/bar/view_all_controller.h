@@ -2,7 +2,6 @@
 
 #include "platform/base/lifetime.h"
 #include "platform/base/subscription.h"
-#include "platform/desktop/event_monitors.h"
 #include "shelf/bar/view_all_view.h"
 #include "shelf/view_all_bar.h"
 

@@ -75,6 +75,10 @@ int main(int argc, char **argv)
         return 1;
     }
     const QString name = arguments.takeFirst();
-    return desktop.runToEnd(name, arguments, desktop.environment(),
-                            [](pid_t process) { command = process; });
+    const int status = desktop.runToEnd(name, arguments, desktop.environment(),
+                                        [](pid_t process) { command = process; });
+    // The command's number may be somebody else's from now on, and the desktop is ending anyway.
+    for (const int number : {SIGTERM, SIGINT, SIGHUP})
+        std::signal(number, SIG_IGN);
+    return status;
 }

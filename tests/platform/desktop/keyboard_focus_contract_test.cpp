@@ -75,9 +75,10 @@ TYPED_TEST(KeyboardFocusContract, isWithItsOwnerAgainWhoIsAskedFor)
 {
     ASSERT_TRUE(this->hasIt(this->desk.program));
     auto &focus = this->desk.focus;
+    // A window manager that has just lost another window says so a moment later than the server.
+    ASSERT_TRUE(this->desk.until([&] { return focus.owner().active == this->desk.program; }));
     const KeyboardFocus::Owner owner = focus.owner();
     EXPECT_EQ(owner.focused, this->desk.program);
-    EXPECT_EQ(owner.active, this->desk.program);
     int answers = 0;
     focus.observeAnswers([&] { ++answers; });
     focus.giveTo(this->desk.panel);

@@ -367,6 +367,35 @@ TEST_F(KeyboardLoanTest, isLeftWithItsOwnerByAnAnswerOnceTheUserWentThere)
     EXPECT_EQ(focus.focused, program);
 }
 
+TEST_F(KeyboardLoanTest, isNotGivenToAPanelThatHidMeanwhileByALateAnswer)
+{
+    lendToShelf();
+    loan->resigned(shelf);
+    loan->wantedByHand(shelf);
+    loan->userWentOn(shelf);
+    loan->wantedByHand(shelf);
+    focus.focused = field;
+    loan->willHide(shelf);
+    focus.answer();
+    EXPECT_EQ(focus.focused, program);
+}
+
+TEST_F(KeyboardLoanTest, waitsNoLongerThanASecondForAnAnswerThatNeverComes)
+{
+    lendToShelf();
+    loan->resigned(shelf);
+    clock.advance(KeyboardLoan::answerPatience);
+    // The program has passed the keyboard on to another part of its window since.
+    focus.focused = program;
+    focus.active = program;
+    loan->wantedByHand(shelf);
+    loan->resigned(shelf);
+    ASSERT_EQ(focus.givenBack.size(), 2U);
+    EXPECT_EQ(focus.givenBack[1].focused, program);
+    focus.answer();
+    EXPECT_EQ(focus.focused, program) << "no panel wants it";
+}
+
 TEST_F(KeyboardLoanTest, touchesNothingOnceItIsGone)
 {
     lendToShelf();

@@ -9,8 +9,8 @@ class QWheelEvent;
 
 namespace corvane {
 
-/// The key's event: letters by what they type in the user's layout, keys
-/// with a name by that name, everything else by its position.
+/// The key's event: letters by what they type in the user's layout, keys with a name by that name,
+/// everything else by its position.
 KeyEvent keyEventFrom(const QKeyEvent &event);
 
 enum class ScrollDevice { Wheel, Touchpad };
