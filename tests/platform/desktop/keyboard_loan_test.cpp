@@ -18,7 +18,7 @@ constexpr WindowNumber field{21};
 constexpr WindowNumber stranger{30};
 
 constexpr NativeKey escape{9};
-constexpr std::uint32_t control = 4;
+constexpr std::uint32_t controlBit = 4;
 
 class KeyboardLoanTest : public testing::Test {
 protected:
@@ -253,9 +253,9 @@ TEST_F(KeyboardLoanTest, staysWithAPanelThatWasPressedBeforeThatRelease)
 TEST_F(KeyboardLoanTest, goesBackWithoutTheKeyThatHidThePanel)
 {
     lendToShelf();
-    loan->keyPressed(shelf, escape, control);
+    loan->keyPressed(shelf, escape, controlBit);
     loan->willHide(shelf);
-    EXPECT_EQ(focus.swallowed, (std::vector{std::pair{escape, control}}));
+    EXPECT_EQ(focus.swallowed, (std::vector{std::pair{escape, controlBit}}));
     loan->shown(shelf);
     lendToShelf();
     loan->willHide(shelf);
