@@ -98,7 +98,10 @@ int runApplication(int argc, char **argv)
     auto root = std::make_unique<CompositionRoot>(*choice.kind, terminate);
     delegate = &root->delegate;
     const UnixSignals signals(terminate);
-    QObject::connect(application.get(), &QCoreApplication::aboutToQuit, terminate);
+    // Only that: some versions of Qt take a wish to quit in here for another end, and so on for
+    // ever.
+    QObject::connect(application.get(), &QCoreApplication::aboutToQuit,
+                     [&delegate] { putInOrder(std::exchange(delegate, nullptr)); });
 
     delegate->applicationDidFinishLaunching();
     root->workQueue.run(root->spool.leftoversRemoval());
