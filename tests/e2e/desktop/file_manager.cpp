@@ -34,12 +34,14 @@ bool isFileManager(const WindowFacts &window)
 QRect findView(const QImage &window)
 {
     const QRgb white = qRgb(255, 255, 255);
-    // Near the right edge, where no icon stands however narrow the fonts make their columns.
-    const int column = window.width() - 40;
+    // Left of the first column's icons: near the right edge one may stand or not, as the fonts make
+    // the columns narrow or wide.
+    constexpr int column = 4;
+    constexpr int nextColumn = 10;
     int top = -1;
     for (int y = 0; y < window.height(); ++y) {
         const bool isWhite
-            = window.pixel(column, y) == white && window.pixel(column - 30, y) == white;
+            = window.pixel(column, y) == white && window.pixel(nextColumn, y) == white;
         if (isWhite && top < 0)
             top = y;
         if (!isWhite && top >= 0) {
