@@ -17,20 +17,22 @@ namespace {
 
 constexpr auto python = "/usr/bin/python3";
 
-// No editor of this toolkit comes without half a desktop.
-constexpr auto gtk4Editor = R"(
+// Ready-made editors bring half a desktop, or change their toolkit from one release to the next.
+constexpr auto gtkEditor = R"(
 import os, sys
+version, file = sys.argv[1:]
 os.environ["GSK_RENDERER"] = "cairo"
 import gi
-gi.require_version("Gtk", "4.0")
+gi.require_version("Gtk", version)
 from gi.repository import Gtk, GLib
-Gtk.init()
-view = Gtk.TextView(top_margin=8, left_margin=8)
+view = Gtk.TextView(top_margin=16, left_margin=16, wrap_mode=Gtk.WrapMode.WORD, visible=True)
 style = Gtk.CssProvider()
 style.load_from_data(b"textview { font: 20pt Inter; }")
 view.get_style_context().add_provider(style, Gtk.STYLE_PROVIDER_PRIORITY_APPLICATION)
-view.get_buffer().set_text(open(sys.argv[1], encoding="utf-8", newline="").read())
-window = Gtk.Window(title="text", child=view)
+view.get_buffer().set_text(open(file, encoding="utf-8", newline="").read())
+# The window can be made smaller than a line of the text.
+area = Gtk.ScrolledWindow(child=view, visible=True)
+window = Gtk.Window(title="text", child=area, default_width=560, default_height=400)
 window.present()
 GLib.MainLoop().run()
 )";
@@ -61,16 +63,10 @@ bool TextEditor::isInstalled(Toolkit toolkit)
 
 std::unique_ptr<Program> TextEditor::startEditor(Toolkit toolkit, const QString &file)
 {
-    switch (toolkit) {
-    case Toolkit::Gtk3:
-        return m_desktop.start(u"zenity"_s,
-                               {u"--text-info"_s, u"--editable"_s, u"--title=text"_s,
-                                u"--font=Inter 20"_s, u"--filename="_s + file});
-    case Toolkit::Gtk4:
+    if (toolkit != Toolkit::Qt) {
         return m_desktop.start(QString::fromLatin1(python),
-                               {u"-c"_s, QString::fromLatin1(gtk4Editor), file});
-    case Toolkit::Qt:
-        break;
+                               {u"-c"_s, QString::fromLatin1(gtkEditor),
+                                toolkit == Toolkit::Gtk3 ? u"3.0"_s : u"4.0"_s, file});
     }
     return m_desktop.start(QCoreApplication::applicationDirPath() + u"/corvane_qt_editor"_s,
                            {file});
