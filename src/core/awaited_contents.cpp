@@ -17,7 +17,7 @@ std::optional<PasteboardContents> finalContents(PasteboardContents contents,
     if (ready.size() != items.size())
         return std::nullopt;
     for (qsizetype i = 0; i < items.size(); ++i) {
-        // The others may be carried in another form than their own.
+        // An item that was ready from the start keeps the writer chosen for this drag.
         if (!items[i].isBeingMade())
             continue;
         contents.writers[static_cast<std::size_t>(i)] = DragWriter::pasteboardWriter(ready[i]);

@@ -7,10 +7,15 @@ namespace corvane {
 
 class ItemPreparation;
 
-/// What a drag-out hands over once the items that are still being made when it begins are ready;
-/// empty when none is. `contents` has one writer for each of `items`. Where one of these is removed
-/// meanwhile nothing is handed over at all, so that no target takes a part for the whole. A picture
-/// whose file could not be written is then no part of the files that were announced: it stays.
+/// For `DragOut::whenReady`: waits for those of `items` that are still being made when the drag
+/// begins, then passes the final contents on. Empty when all are ready already. `contents` has one
+/// writer for each of `items`, in the same order. If an awaited item is removed meanwhile, nothing
+/// at all is passed on, so that no target takes a part for the whole.
+///
+/// A picture whose file could not be written is passed on as bytes. A target that was offered files
+/// does not take those, so the picture stays on the shelf.
+///
+/// `preparation` must outlive the returned function.
 std::function<void(DragOut::Ready)> awaitedContents(const PasteboardContents &contents,
                                                     const QList<DropItem> &items,
                                                     ItemPreparation &preparation);

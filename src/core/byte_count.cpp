@@ -8,7 +8,7 @@ namespace {
 
 struct Unit {
     qint64 bytes;
-    /// Digits behind the point: more where a unit is larger.
+    /// Digits after the decimal point.
     int digits;
     const char *name;
 };
@@ -29,8 +29,8 @@ qint64 powerOfTen(int exponent)
     return power;
 }
 
-/// `bytes` in steps of the unit's last digit, rounded half up. In whole numbers, because there
-/// is one for every file of a large drop.
+/// `bytes` as a multiple of the unit's last shown digit, rounded half up. Integer arithmetic,
+/// because it runs for every file of a large drop.
 qint64 rounded(qint64 bytes, const Unit &unit)
 {
     const qint64 step = unit.bytes / powerOfTen(unit.digits);

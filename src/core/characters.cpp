@@ -6,7 +6,8 @@ namespace corvane::characters {
 
 namespace {
 
-/// Whether the character never joins another one like it. Line ends are counted apart.
+/// Whether the character is always counted as one beside others for which this is true too, so that
+/// the boundary rules need not be asked. "\r\n" is the exception, which `count` handles.
 bool standsAlone(QChar character)
 {
     const char16_t code = character.unicode();
@@ -16,8 +17,8 @@ bool standsAlone(QChar character)
     return isLatin || isGreekOrCyrillic || isIdeograph;
 }
 
-/// The end of the stretch that begins at `start` and needs the full rules: up to and with the
-/// first lone character that another one follows.
+/// The end of the part that begins at `start` and needs the boundary rules: after the first
+/// character that stands alone and is followed by another one that does.
 qsizetype endOfStretch(QStringView text, qsizetype start)
 {
     qsizetype end = start + 1;
@@ -26,8 +27,8 @@ qsizetype endOfStretch(QStringView text, qsizetype start)
     return end;
 }
 
-/// The next boundary, -1 at the end. Beside Thai letters Qt finds some between the two halves of
-/// one code point.
+/// The next boundary, -1 at the end. Next to Thai letters Qt also reports boundaries between the
+/// two surrogates of one code point; these are left out.
 qsizetype nextBoundary(QTextBoundaryFinder &finder, QStringView text)
 {
     qsizetype boundary = finder.toNextBoundary();
@@ -75,7 +76,8 @@ qsizetype count(QStringView text)
 
 QString prefix(const QString &text, qsizetype maximum, qsizetype maximumBytes)
 {
-    // No character of a text that is worth keeping is so long, and a stranger's text may be huge.
+    // In UTF-16 code units; no character of a readable text is longer. The text comes from another
+    // program and may be huge, so only as much as this is looked at.
     constexpr qsizetype longestCharacter = 64;
     const QString head = text.left((maximum + 1) * longestCharacter);
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, head);

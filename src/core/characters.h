@@ -3,10 +3,12 @@
 #include <QString>
 #include <QStringView>
 
-/// Characters as people count them: a letter with its accents, a flag, a family are one each.
+/// Characters as people count them (grapheme clusters): a letter with its accents, a flag, an emoji
+/// of a family are one each.
 namespace corvane::characters {
 
-/// Linear in the text, and quick where it is of the common scripts.
+/// How many characters the text has; "\r\n" is one. Takes time in proportion to the text, and least
+/// where it is Latin, Greek, Cyrillic or Chinese.
 qsizetype count(QStringView text);
 
 /// The first `maximum` characters, or fewer where only so many fit into `maximumBytes` of UTF-8.

@@ -14,9 +14,9 @@ class MainQueue;
 class RemoteFiles;
 class WorkQueue;
 
-/// Makes data URIs beside the main thread: contents are read and encoded there, and a file whose
-/// disk never answers keeps nobody waiting. Main thread only; everything that it is given must
-/// outlive it.
+/// Makes data URIs of items' contents. Reading and encoding happen on other threads, so a disk or
+/// server that never answers does not stop the main thread. Main thread only; everything that it is
+/// given must outlive it.
 class DataUris {
 public:
     /// Contents of this many bytes or more make no data URI.
@@ -27,7 +27,8 @@ public:
     DataUris(const FileLocality &locality, RemoteFiles &remoteFiles, WorkQueue &workQueue,
              MainQueue &mainQueue);
 
-    /// Calls `made` once, later, on the main thread; with none for what has no data URI.
+    /// Calls `made` once, later, on the main thread. Links, contents that are too large, and files
+    /// that cannot be read give no URI.
     void make(const DropItem &item, Made made);
 
 private:

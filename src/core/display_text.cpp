@@ -4,7 +4,7 @@ namespace corvane {
 
 namespace {
 
-// More than any panel is wide, and little enough to shape in no time.
+// More than fits into any panel, and few enough to be shaped without delay.
 constexpr qsizetype maximumShownCharacters = 512;
 
 bool forgesDirection(char16_t character)

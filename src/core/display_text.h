@@ -4,11 +4,12 @@
 
 namespace corvane {
 
-/// A stranger's text made fit to be shown on one line.
+/// Text that comes from other programs or web pages, made fit to be shown on one line.
 ///
-/// Control characters, line ends among them, become spaces; characters that change the direction of
-/// what follows, or that cannot be seen, become U+FFFD, so that "exe.gpj" cannot pose as "jpg.exe".
-/// Letters of right-to-left scripts stay as they are. Bounded: what is far beyond any line is cut.
+/// Control characters, line ends among them, become spaces. Characters that are invisible or that
+/// change the writing direction of what follows become U+FFFD, so that "exe.gpj" cannot be shown as
+/// "jpg.exe". Letters of right-to-left scripts stay as they are. Text beyond 512 characters, far
+/// more than any line has, is cut off.
 QString displayText(const QString &text);
 
 } // namespace corvane

@@ -14,17 +14,18 @@ class SavedPictures;
 /// What leaves the shelf in one drag.
 struct DragSet {
     PasteboardContents contents;
-    /// The items whose contents are in it, one for each writer. Others cannot travel and stay.
+    /// The items that leave if the target takes them, one for each writer. Items that cannot be
+    /// dragged are left out and stay on the shelf.
     QList<DropItem> items;
     /// The form in which each of them travels: pictures in memory as files, which may still be
     /// being written.
     QList<DropItem> forms;
 };
 
-/// Puts together what of `items` can travel. A file that is gone cannot. A picture that is held in
-/// memory travels as its bytes when it is alone; beside others, where a target takes addresses or
-/// nothing, it travels as a file, and stays where none can be made. Where nothing else can travel
-/// the first one goes alone.
+/// Chooses what of `items` can be dragged, and as what. Files that no longer exist are left out. A
+/// picture that is held in memory is offered as its bytes when it is dragged alone. Among other
+/// items it is offered as a file, because of several things programs take only files; it is left
+/// out where no file can be made. If that leaves nothing, the first item is dragged alone.
 DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &writer,
                     SavedPictures &pictures);
 

@@ -35,13 +35,15 @@ struct Writer {
     }
 };
 
-/// Null for what is no file, or not there yet.
+/// The item's file, whose existence is to be checked; null for other payloads, and for files that
+/// are still being made.
 const DropItem::File *fileThatMayBeGone(const DropItem &item)
 {
     return item.isBeingMade() ? nullptr : std::get_if<DropItem::File>(&item.payload());
 }
 
-/// A link that leads nowhere is something all the same.
+/// Whether there is something at the path, without following a symbolic link: one whose target is
+/// gone can still be dragged.
 bool isLink(const QByteArray &localPath)
 {
     struct stat status { };
@@ -114,7 +116,7 @@ Image DragWriter::dragImage(const DropItem &item, double side, double scale) con
         painter.setClipPath(tile);
         painter.drawImage(fitted(thumbnail->bitmap.size(), side), thumbnail->bitmap);
     } else if (m_paintGlyph) {
-        // The glyph thinks with y upward.
+        // `GlyphPainter` expects y upward; this picture's y points downward.
         painter.translate(0, side);
         painter.scale(1, -1);
         const QRectF whole(0, 0, side, side);

@@ -26,13 +26,14 @@ public:
     /// `tileColor` is the background of the drag image. `locality` must outlive it.
     DragWriter(QColor tileColor, GlyphPainter paintGlyph, const FileLocality &locality);
 
+    /// What a pasteboard or a drag offers of the item, by its payload.
     static PasteboardWriter pasteboardWriter(const DropItem &item);
-    /// Without the files that are gone: a target would be handed a dead address, and the item lost.
-    /// Nothing behind a network is touched, which may never answer: it counts as being
-    /// there, as does what is still being made.
+    /// Without the files that no longer exist: a target would get an address that leads nowhere,
+    /// and the item would leave the shelf. Files behind a network are not looked at, since a server
+    /// may never answer; they are kept, as are items that are still being made.
     QList<DropItem> available(const QList<DropItem> &items) const;
-    /// A square of `side` points at `scale` pixels per point: a rounded tile with the item's
-    /// thumbnail, fitted, or its glyph.
+    /// A square picture of `side` points at `scale` pixels per point: a rounded tile with the
+    /// item's thumbnail, fitted, or its glyph.
     Image dragImage(const DropItem &item, double side, double scale) const;
 
 private:

@@ -20,7 +20,7 @@ QUuid randomId()
     QUuid id;
     id.data1 = words[0];
     id.data2 = static_cast<ushort>(words[1] >> 16U);
-    // Version 4 and its variant: made by chance.
+    // The bits that mark a random UUID: version 4 and the RFC 4122 variant.
     id.data3 = static_cast<ushort>((words[1] & 0x0fffU) | 0x4000U);
     std::memcpy(&id.data4[0], &words[2], sizeof id.data4);
     id.data4[0] = static_cast<uchar>((id.data4[0] & 0x3fU) | 0x80U);

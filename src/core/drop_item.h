@@ -64,8 +64,8 @@ public:
     /// The file lives in the scratch spool and belongs to the shelf.
     bool isSpooled() const;
 
-    /// The payload's file is not there yet. Such an item is like any other, but who needs the file
-    /// has to wait (`ItemPreparation::whenReady`).
+    /// The payload's file is not there yet. Such an item can be selected, removed and dragged like
+    /// any other; code that needs the file waits for it with (`ItemPreparation::whenReady`).
     bool isBeingMade() const;
     std::optional<QUrl> original() const;
     /// What can be looked at now: the item itself, or the file that it is made from; none where
@@ -76,8 +76,8 @@ public:
     void become(const DropItem &made);
 
     /// The icon drawn where there is no thumbnail. A file counts as a folder by its subtitle, which
-    /// is exactly "Folder" for a directory: the disk is not asked again. What is being made is a
-    /// picture.
+    /// is exactly "Folder" for a directory: the disk is not asked again. What is still being made
+    /// is shown as a picture.
     PhosphorIcon glyph() const;
 
 private:

@@ -6,7 +6,8 @@
 
 namespace corvane {
 
-/// Short messages to the user. Without a handler they are dropped.
+/// Shows short messages to the user, such as "Link copied". The composition root sets the handler;
+/// without one messages are dropped.
 struct Feedback {
     std::function<void(const QString &message)> handler;
 

@@ -13,7 +13,7 @@ bool write(std::optional<QImage> picture, const UTType &type, const ImageCodec &
     if (!picture || !to.isWanted())
         return false;
     const auto encoded = codec.encode(*picture, type);
-    // It may be a quarter of a gigabyte, and writing takes its time too.
+    // A decoded picture can take 256 MB; it is freed before the file is written, which takes time.
     picture.reset();
     return encoded && to.write(*encoded);
 }

@@ -37,7 +37,7 @@ QString ofFile(const FileName &name, const std::optional<FileVersion> &version)
     if (version && version->kind == FileVersion::Kind::Folder)
         return QStringLiteral("Folder");
     QString kind = name.extension.toUpper();
-    // A pipe or a device has no size to speak of.
+    // The size of a pipe or a device says nothing.
     if (!version || version->kind != FileVersion::Kind::Regular)
         return kind;
     const QString size = formatByteCount(version->size);
@@ -46,8 +46,8 @@ QString ofFile(const FileName &name, const std::optional<FileVersion> &version)
 
 QString titleOfText(const QString &text)
 {
-    // Longer than any screen shows, and a text may be one line of two hundred megabytes: no more of
-    // it is looked at than tells how the title ends.
+    // In UTF-16 code units, more than any screen shows. A text may be one line of two hundred
+    // megabytes; beyond this it is read only to see whether the line goes on.
     constexpr qsizetype maximumLength = 16'384;
     const auto first
         = std::find_if(text.begin(), text.end(), [](QChar c) { return c != QLatin1Char('\n'); });

@@ -4,7 +4,7 @@ namespace corvane {
 
 namespace {
 
-/// The range that entry `i` of a binary indexed tree covers.
+/// The length of the range, ending with entry `i`, that the entry counts.
 int range(int i)
 {
     return i & -i;

@@ -11,18 +11,21 @@
 
 namespace corvane {
 
-/// Finds items by id, made only when it is first asked and kept while items are removed.
+/// Finds an item's place in the store's list by its id. Built when it is first asked, and updated
+/// as items are removed.
 ///
-/// Thousands of thumbnails come back by id, and thousands of items can leave one by one, so neither
-/// may walk the list. A removal moves all that follow: each item keeps the place that it had when
-/// the index was made, and a tree of counts tells how many before it have gone since.
+/// Thousands of thumbnails arrive by id, and thousands of items can leave one by one, so neither
+/// may walk the list. A removal moves all items behind it: the index keeps each item's place from
+/// when it was built, and a tree of counts tells how many before it have been removed since.
 class ItemIndex {
 public:
-    /// The list changed in a way that was not told.
+    /// To be called after any change of the list other than a removal; the next question builds the
+    /// index anew.
     void invalidate() { m_isValid = false; }
-    /// The item at `index` of the list was removed.
+    /// To be called when the item of that id was removed from the list.
     void removed(const QUuid &id);
-    /// The first item with that id. `items` is the list that all this is about.
+    /// The place of the first item with that id; none where there is none. `items` is the list as
+    /// it is now.
     std::optional<int> indexOf(const QUuid &id, const QList<DropItem> &items);
 
 private:
@@ -32,7 +35,8 @@ private:
     bool m_isValid = false;
     bool m_hasRepeatedIds = false;
     QHash<QUuid, int> m_places;
-    /// Binary indexed tree, counted from 1: how many of a range of places were removed.
+    /// Binary indexed tree, counted from 1: each entry says how many of its range of places were
+    /// removed.
     std::vector<int> m_removed;
 };
 

@@ -92,7 +92,8 @@ void ItemPreparation::whenReady(const QList<DropItem> &items,
     const auto count = static_cast<std::size_t>(items.size());
     const auto gathered = std::make_shared<Gathered>();
     gathered->items.resize(count);
-    // One more than there are, so that the end is not reached before all have been asked.
+    // One more than there are: a callback may come inside `whenReady`, and must not finish the list
+    // before all items have been asked for.
     gathered->missing = count + 1;
     const auto oneLess = [gathered, callback] {
         if (--gathered->missing > 0)

@@ -19,12 +19,13 @@ class ScratchSpool;
 class SpoolPlace;
 class WorkQueue;
 
-/// Makes items ready beside the main thread.
+/// Makes items' files on other threads.
 ///
-/// An item that takes its time (a picture that is converted, or written to a disk) stands on the
-/// shelf at once, under its final name; its file follows. Removing the item discards that file,
-/// which ends the work; an item that was dragged out is finished all the same, for whoever took it.
-/// How many are made at once is the work queue's business, which bounds memory too.
+/// An item whose file takes time to make (a picture that is converted, or written to disk) is put
+/// on the shelf at once, under its final name; its file follows. Discarding the file, as removing
+/// the item does, ends the work. An item that was dragged out is finished all the same, for the
+/// program that took it. How many are made at once, and so how much memory that takes, is up to the
+/// work queue.
 ///
 /// All references must outlive it. Main thread only.
 class ItemPreparation {
@@ -32,33 +33,37 @@ public:
     /// An item's final form; none when it was removed before it was ready.
     using WhenReady = std::function<void(const std::optional<DropItem> &)>;
     struct Job {
-        /// As it stands on the shelf meanwhile.
+        /// The item as it is shown on the shelf until its file is there.
         DropItem item;
-        /// Where files may be written; the first is the item's own, and ends the work when it is
-        /// discarded.
+        /// Where `make` may write files. The first is the item's own: when it is discarded, the
+        /// work ends.
         std::vector<std::shared_ptr<SpoolPlace>> places;
         /// What the item becomes, made on another thread: everything that it uses must outlive the
         /// work queue.
         std::function<DropItem()> make;
-        /// Called on the main thread at the end, before anybody else hears of it. May be empty.
+        /// Called on the main thread at the end, before `onReady` and the callbacks of `whenReady`.
+        /// May be empty.
         WhenReady onEnd;
     };
 
     ItemPreparation(ScratchSpool &spool, MainQueue &mainQueue, WorkQueue &workQueue);
     ItemPreparation(const ItemPreparation &) = delete;
     ItemPreparation &operator=(const ItemPreparation &) = delete;
-    /// Gives everything up that is under way.
+    /// Gives up all that is being made; no callback is called any more.
     ~ItemPreparation();
 
-    /// Called with each item that is ready, under its id.
+    /// Called with each item that has become ready; its id is the one that it had before. May be
+    /// empty.
     std::function<void(const DropItem &)> onReady;
 
-    /// Nothing is made inside this call. Gives the item back.
+    /// Queues the job and returns its item. Nothing is made inside this call.
     DropItem begin(Job job);
-    /// Calls back exactly once, unless this is gone before: at once for an item that is not being
-    /// made, else later, after `onReady`. That it was removed is told when its work has stopped.
+    /// Calls back exactly once, unless this is destroyed before: at once for an item that is not
+    /// being made, else later, after `onReady`. For an item that was removed it calls back, with
+    /// none, when the work on it has ended.
     void whenReady(const DropItem &item, WhenReady callback);
-    /// The same for many: all that were not removed, in their order, once the last is decided.
+    /// The same for many, called once all are ready or removed: those that were not removed, in
+    /// their order.
     void whenReady(const QList<DropItem> &items,
                    const std::function<void(const QList<DropItem> &)> &callback);
 

@@ -25,9 +25,10 @@ public:
 
     virtual ~LinkPreviewSource() = default;
 
-    /// Calls `completion` at most once, later, on the main thread; none when nothing was found.
-    /// What has not been fetched yet once `isWanted` says no is not fetched any more: an item may
-    /// leave, or the user forbid it, while others are being loaded. Main thread only, both.
+    /// Calls `completion` at most once, later, on the main thread, with none when nothing was
+    /// found. `isWanted` is asked before each request: once it says no, because the item has left
+    /// or the user has switched previews off, nothing more is fetched. Both are called on the main
+    /// thread only.
     virtual void load(const QUrl &url, IsWanted isWanted, Completion completion) = 0;
 };
 

@@ -14,7 +14,7 @@ namespace corvane {
 
 namespace {
 
-/// Every link on the way resolved; empty when there is no such path.
+/// The path with all symbolic links resolved; empty when it does not exist.
 QByteArray resolved(const QByteArray &path)
 {
     const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.constData(), nullptr),
@@ -46,7 +46,8 @@ bool OpenSpool::contains(const QByteArray &path) const
     const QByteArray whole = spool_directory::withoutTrailingSlashes(path);
     const qsizetype slash = whole.lastIndexOf('/');
     const QByteArray name = whole.mid(slash + 1);
-    // The last component is taken as it stands, and these two would lead out again.
+    // The last component is not resolved, so "." and ".." must be refused: they would lead out of
+    // the spool.
     if (slash < 0 || name.isEmpty() || name == "." || name == ".." || !stillStands())
         return false;
     const QByteArray parent = resolved(whole.left(slash + 1));

@@ -4,8 +4,8 @@
 
 namespace corvane {
 
-/// A spool's directory while it is held open and locked. Never changes, so that any thread may use
-/// it; the lock goes with the last who holds one.
+/// A spool's directory, held open and locked. Immutable, so any thread may use it. Work on other
+/// threads shares it; the lock is released when its last owner lets go.
 class OpenSpool {
 public:
     /// `descriptor` is the locked directory, which is closed along with this.
@@ -14,16 +14,18 @@ public:
     OpenSpool &operator=(const OpenSpool &) = delete;
     ~OpenSpool();
 
-    /// Who tidies the temporary directory may have taken it away.
+    /// Whether the directory is still at its path. A program that cleans the temporary directory
+    /// may have removed it.
     bool stillStands() const;
-    /// Whether the path lies in it, by whole path components, the parent resolved.
+    /// Whether the path lies in it: compared by whole components, with symbolic links in the parent
+    /// resolved.
     bool contains(const QByteArray &path) const;
-    /// Deletes what is at the path; nothing outside.
+    /// Deletes the file or directory at the path; paths outside are left alone.
     void remove(const QByteArray &path) const;
 
 private:
     QByteArray m_directory;
-    /// With links on the way to it resolved.
+    /// With all symbolic links resolved.
     QByteArray m_resolvedDirectory;
     int m_descriptor;
 };

@@ -19,7 +19,7 @@ namespace corvane {
 
 namespace {
 
-/// Every name that plain text goes by.
+/// All types under which programs offer plain text.
 const QStringList plainTextTypes = {
     QStringLiteral("text/plain"),  QStringLiteral("text/plain;charset=utf-8"),
     QStringLiteral("UTF8_STRING"), QStringLiteral("STRING"),
@@ -32,7 +32,7 @@ bool isPlainText(const QString &type)
         || plainTextTypes.contains(type, Qt::CaseInsensitive);
 }
 
-/// The first address alone decides: a web link that comes second is no link.
+/// Only the first address is looked at: a web link that comes second does not count.
 std::optional<QUrl> webLink(Pasteboard &pasteboard)
 {
     const QList<QUrl> urls = pasteboard.urls();
@@ -72,7 +72,8 @@ PasteboardIngest::PasteboardIngest(ScratchSpool &spool, const PictureItems &pict
 
 QStringList PasteboardIngest::acceptedTypes()
 {
-    // Rich text is taken although nothing reads it: what offers it offers plain text as well.
+    // Rich text is never read. It is accepted because programs that offer it offer plain text as
+    // well.
     return QStringList{QStringLiteral("text/uri-list"), UTType::png().identifier(),
                        UTType::tiff().identifier(), QStringLiteral("text/x-moz-url")}
     + plainTextTypes + QStringList{QStringLiteral("application/rtf"), QStringLiteral("text/rtf")};
@@ -154,13 +155,14 @@ DropItem PasteboardIngest::fileItem(const QUrl &url,
     return item;
 }
 
-/// A browser that can save the original file gives more than its pixels.
+/// The file that a source has written as promised. It comes before a picture's bytes because a
+/// browser writes the original file there.
 std::optional<DropItem> PasteboardIngest::promisedFileItem(Pasteboard &pasteboard) const
 {
     const auto file = pasteboard.promisedFile();
     if (!file)
         return std::nullopt;
-    // From now on the file itself tells that its name is taken.
+    // The file exists now, so its name no longer needs to be kept.
     std::erase_if(m_promised, [&](const auto &place) { return place->url() == *file; });
     if (!item_description::isRegularFile(*file)) {
         m_spool.discard(*file);

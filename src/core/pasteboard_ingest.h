@@ -25,9 +25,9 @@ class TextDescriptions;
 
 /// Turns what was dropped into items. The references must outlive it.
 ///
-/// A drop waits for nothing: a picture that is to be converted or written comes as an item that is
-/// still being made; of a file behind a network only the name is looked at, and the rest asked for
-/// later; a large text is counted later.
+/// Reading a drop never waits. A picture that has to be converted or written becomes an item that
+/// is still being made. Of a file behind a network only the name is read; the rest is asked for
+/// later. The characters of a large text are counted later.
 class PasteboardIngest {
 public:
     PasteboardIngest(ScratchSpool &spool, const PictureItems &pictures,
@@ -37,20 +37,22 @@ public:
     /// The MIME names that the shelf takes drops of.
     static QStringList acceptedTypes();
 
-    /// Whether a drag that enters has something for us. Reads address lists; of pictures and text
-    /// it is enough that they are offered, so that nothing large is fetched before the drop.
+    /// Whether a drag that enters can be taken. Reads addresses only; of pictures and text it is
+    /// enough that their types are offered, so that nothing large is fetched before the drop.
     static bool canRead(Pasteboard &pasteboard);
 
-    /// Whether `canRead` depends on the addresses of a drag that offers these types.
+    /// Whether a drag that offers these types can be judged only by its addresses, since it offers
+    /// neither a picture nor text.
     static bool needsAddresses(const QStringList &types);
 
-    /// Where a source may write the file that it promises under that name, a stranger's text; none
-    /// when there is no safe place.
+    /// A place in the spool where the source of a drag may write the file that it promises under
+    /// `name`, which is not trusted; none when there is no safe place.
     std::optional<QUrl> placeForPromisedFile(const QString &name) const;
 
     /// The items of one drop: files, else a picture, else a link, else text; perhaps none.
     QList<DropItem> readAll(Pasteboard &pasteboard) const;
 
+    /// The item of one file on disk. A TIFF becomes an item that is still being made.
     DropItem fileItem(const QUrl &url) const;
 
 private:
@@ -59,11 +61,13 @@ private:
     std::optional<DropItem> imageItem(Pasteboard &pasteboard) const;
     std::optional<DropItem> textItem(Pasteboard &pasteboard) const;
 
+    /// Of more the oldest is forgotten: sources may promise files and never write them.
     static constexpr std::size_t mostPromised = 1'000;
 
     ScratchSpool &m_spool;
-    /// Kept until the file has arrived: a source writes when it likes, also after it was given up,
-    /// and until it does no file tells that the name is taken.
+    /// Names that were given to sources and whose files have not arrived. They are kept because a
+    /// source may write at any time, even after its drop was given up, and until then no file on
+    /// disk shows that the name is taken.
     mutable std::vector<std::shared_ptr<SpoolPlace>> m_promised;
     const PictureItems &m_pictures;
     const FileLocality &m_locality;

@@ -49,7 +49,8 @@ DropItem inMemory(const QByteArray &data, const UTType &type, const QString &des
 
 using Place = std::shared_ptr<SpoolPlace>;
 
-/// What such bytes become on another thread.
+/// Makes the item of picture bytes on another thread: as a PNG, as the file that they are, or in
+/// memory where neither can be written.
 struct MakeOfBytes {
     DropItem operator()() const
     {
@@ -64,7 +65,7 @@ struct MakeOfBytes {
 
     QByteArray data;
     UTType type;
-    /// For a PNG of them, where they are a TIFF.
+    /// The place for a PNG; null unless the bytes are a TIFF.
     Place converted;
     Place asItIs;
     const ImageConverter &converter;

@@ -18,33 +18,36 @@ class ItemPreparation;
 class ScratchSpool;
 class SpoolPlace;
 
-/// The items of dropped pictures whose files the shelf makes itself: of a TIFF a PNG, of bytes that
-/// came without a file one that holds them. They are made beside the main thread, and until then
-/// stand on the shelf under their final names. All references must outlive it, codec and converter
-/// also the work.
+/// Makes the items of dropped pictures for which the shelf writes a file: a PNG from a TIFF, and a
+/// file for picture bytes that came without one. The files are made on other threads; until then
+/// the items stand on the shelf under their final names.
+///
+/// All references must outlive it; codec and converter must also outlive the work on other threads.
 class PictureItems {
 public:
     PictureItems(ScratchSpool &spool, const ImageConverter &converter, const ImageCodec &codec,
                  ItemPreparation &preparation);
 
-    /// A TIFF file becomes a PNG, or stays what it is where that cannot be done; none when there is
-    /// no spool.
+    /// An item that becomes a PNG of the TIFF file, or that TIFF file where it cannot be converted.
+    /// None when there is no spool.
     std::optional<DropItem> ofTiffFile(const QUrl &url) const;
-    /// The same for one that lies in the spool already, which goes once it is of no use any more.
+    /// The same for a TIFF in the spool. It is deleted once the item has become a PNG or was
+    /// removed.
     std::optional<DropItem> ofSpooledTiff(const QUrl &url) const;
-    /// The contents of an item's TIFF file have been fetched: the item becomes a PNG of them,
-    /// unless that cannot be done or `isWanted` says no in the end. Calls `whenDone` later. Gives
-    /// the place of the PNG: giving that up ends the work. Null, and nothing is called, when there
-    /// is no spool.
+    /// Converts `data`, the contents of the item's TIFF file, which was fetched over a network. The
+    /// item becomes the PNG, unless it cannot be converted, or `isWanted` says no when it is done.
+    /// Calls `whenDone` then, on the main thread. Returns the place of the PNG; giving it up ends
+    /// the work. Null, and nothing is called, when there is no spool.
     std::shared_ptr<SpoolPlace> convertFetched(const DropItem &item, const QByteArray &data,
                                                const std::function<bool()> &isWanted,
                                                const std::function<void()> &whenDone) const;
-    /// A picture without a file. Without a spool it stays in memory.
+    /// The item of picture bytes that came without a file. Without a spool it keeps them in memory.
     DropItem ofBytes(const QByteArray &data, const UTType &type) const;
 
-    /// A file of this machine's disks. Asks the disk.
+    /// The line below the name of a local file, for example "PNG · 2 KB". Asks the disk.
     static QString describe(const QUrl &url);
-    /// Reads the picture's beginning.
+    /// The same for bytes, "640 × 480 · PNG". Reads the picture's header; kind and size in bytes
+    /// where that has no pixel size.
     static QString describe(const QByteArray &imageData, const UTType &type,
                             const ImageCodec &codec);
 

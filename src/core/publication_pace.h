@@ -2,16 +2,17 @@
 
 namespace corvane {
 
-/// How soon whoever redraws after a publication has to do so. What is published is published at
-/// once whatever this says; it only spares observers the same work for each of ten thousand items.
+/// How soon an observer has to redraw after a publication. Observers are always called at once; the
+/// pace lets them put their work off, so that ten thousand items do not make them redraw ten
+/// thousand times.
 enum class PublicationPace {
-    /// A change of its own, to be followed before the publication returns.
+    /// A single change: redraw before the observer returns.
     AtOnce,
-    /// More of the same operation may follow; its end is told, and what is shown has to be up to
-    /// date then.
+    /// Part of an operation that may publish more. `ShelfStore::observeEndOfOperation` tells its
+    /// end, by which what is shown has to be up to date.
     WithinOperation,
-    /// Something was learned about an item that stays what and where it is. Thousands may follow
-    /// one by one, and a frame later is soon enough.
+    /// A detail of an item, such as its thumbnail or subtitle, arrived. Thousands may follow one by
+    /// one; redrawing one frame later is soon enough.
     Detail,
 };
 

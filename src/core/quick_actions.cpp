@@ -47,8 +47,9 @@ bool isInMemory(const DropItem &item)
     return std::holds_alternative<DropItem::ImageBytes>(item.payload());
 }
 
-/// How many of them a program gets that takes what it can of several things. Where there are only
-/// pictures that could not be saved, that is the first of each type.
+/// How many of the items a program gets when it pastes, for the message. Pictures that could not be
+/// saved are lost beside other items, which programs take instead; where there are only pictures,
+/// the first of each type is pasted.
 qsizetype countThatArrives(const QList<DropItem> &items)
 {
     QStringList pictureTypes;

@@ -14,25 +14,26 @@ class Clipboard;
 class ItemPreparation;
 class SavedPictures;
 
-/// Puts items on the clipboard and says what it did. All references must outlive it.
+/// Puts items on the clipboard and shows a message about it. All references must outlive it. Main
+/// thread only.
 ///
-/// What takes its time (items that are still being made, pictures that are saved first, data URIs)
-/// is put there once it is ready, unless something else was copied meanwhile, here or in another
-/// program.
+/// What is not ready at once (items that are still being made, pictures that are saved to files
+/// first, data URIs) is put there later, unless something else was copied meanwhile, here or by
+/// another program.
 class QuickActions {
 public:
     QuickActions(Clipboard &pasteboard, const Feedback &feedback, DataUris &dataUris,
                  ItemPreparation &preparation, SavedPictures &pictures);
 
-    /// A clipboard holds one picture of a type: of several that are held in memory it is given
-    /// files. Without those that are removed before they are ready; the message counts what is
-    /// there.
+    /// Copies all of them. A clipboard can hold only one picture of each type, so two or more
+    /// pictures that are held in memory are saved and copied as files. Items that are removed
+    /// before they are ready are left out, and the message counts the others.
     void copy(const QList<DropItem> &items);
-    /// What makes no data URI is copied as it is.
+    /// Copies one item, as a data URI if asked to; an item that has none is copied as it is.
     void copy(const DropItem &item, bool asDataUri);
 
 private:
-    /// Which change of the clipboard was the last when it was asked for.
+    /// A copy that is not done yet, with the clipboard's change count from when it was asked for.
     struct Copy {
         qint64 changeCount = 0;
     };
@@ -49,7 +50,7 @@ private:
     DataUris &m_dataUris;
     ItemPreparation &m_preparation;
     SavedPictures &m_pictures;
-    /// One that is still being made gives way to it.
+    /// The last copy asked for. Replacing it makes an earlier one, which holds it weakly, stop.
     std::shared_ptr<const Copy> m_latest;
 };
 

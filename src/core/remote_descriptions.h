@@ -12,8 +12,8 @@ namespace corvane {
 
 class RemoteFiles;
 
-/// Finds out later what there is to say about files that a server may keep to itself: until then
-/// their names have to do. Main thread only.
+/// Asks later for kind and size of files behind a network, whose servers may never answer; until
+/// then their items show what the name tells. Main thread only.
 class RemoteDescriptions {
 public:
     /// `files` must outlive it.
@@ -22,9 +22,11 @@ public:
     RemoteDescriptions &operator=(const RemoteDescriptions &) = delete;
     ~RemoteDescriptions();
 
-    /// Called later for each file that was reached, never for others, nor once this is gone.
+    /// Called later, on the main thread, for each file that was reached. Not called for others, nor
+    /// after this is destroyed.
     std::function<void(const QUuid &item, const QString &description)> onFound;
 
+    /// Begins to ask for the file at `path`, a native path.
     void find(const QUuid &item, const QByteArray &path);
 
 private:

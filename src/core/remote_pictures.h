@@ -15,12 +15,12 @@ class PictureItems;
 class RemoteFiles;
 class SpoolPlace;
 
-/// Converts TIFF files that lie behind a network, as far as their servers hand them over: one after
-/// the other, so that no more than one waits in memory. Their items are what they are until then.
-/// The references must outlive it. Main thread only.
+/// Converts TIFF files that lie behind a network to PNG. One file is fetched after the other, so
+/// that no more than one waits in memory. Until an item is converted, or where that fails, it stays
+/// a TIFF. The references must outlive it. Main thread only.
 class RemotePictures {
 public:
-    /// Larger files stay what they are.
+    /// In bytes of the file. Larger ones stay TIFFs.
     static constexpr qint64 maximumBytes = 160LL * 1024 * 1024;
 
     RemotePictures(RemoteFiles &files, const PictureItems &pictures);
@@ -28,13 +28,13 @@ public:
     RemotePictures &operator=(const RemotePictures &) = delete;
     ~RemotePictures();
 
-    /// Whether the item is on the shelf: what nobody wants any more is neither fetched, after those
-    /// before it, nor converted. Without it all are wanted.
+    /// Asked whether the item is still on the shelf, before its file is fetched and before it is
+    /// converted. Where this is empty all items are wanted.
     std::function<bool(const QUuid &item)> isWanted;
 
-    /// Nothing is read inside this call, nor waited for.
+    /// Queues the item, whose payload must be a file; reading begins later, on another thread.
     void convert(const DropItem &item);
-    /// An item has left the shelf: nobody needs to go on converting it.
+    /// To be called when an item has left the shelf: ends its conversion if that is going on.
     void itemLeft(const QUuid &id) const;
 
 private:

@@ -44,7 +44,7 @@ const DropItem *SavedPictures::known(const QUuid &id, const QByteArray &bytes) c
     if (saved == m_saved.end() || !saved->second.bytes.isSharedWith(bytes))
         return nullptr;
     const DropItem &file = saved->second.file;
-    // Whoever took it may have moved it away.
+    // The program that took the file may have moved it away.
     return file.isBeingMade() || exists(urlOf(file)) ? &file : nullptr;
 }
 

@@ -15,12 +15,12 @@ namespace corvane {
 class ItemPreparation;
 class ScratchSpool;
 
-/// Files in the spool for pictures that are held in memory: of several things that are copied or
-/// dragged at once programs take the files.
+/// Saves pictures that are held in memory to files in the spool, for copies and drags of several
+/// items, of which programs take only files.
 ///
-/// A picture is saved once, beside the main thread. Its file stays for the next time as long as the
-/// item is on the shelf, whatever became of the drag or copy that it was made for: the clipboard,
-/// or whoever took it, may read it later.
+/// A picture is saved once, on another thread. As long as its item is on the shelf the file is kept
+/// and used again, also after the drag or copy that it was made for: another program may read it
+/// later.
 ///
 /// All references must outlive it. Main thread only.
 class SavedPictures {
@@ -30,20 +30,23 @@ public:
     SavedPictures &operator=(const SavedPictures &) = delete;
     ~SavedPictures();
 
-    /// A picture as a file, with an id of its own. Where it has to be written first it is still
-    /// being made, and becomes the picture in memory again should that fail. What is no picture in
-    /// memory comes as it is, and so does everything where there is no spool.
+    /// The picture as an item with a file and an id of its own. Until the file is written the item
+    /// is still being made; if that fails it becomes the picture in memory again. Items that are no
+    /// pictures in memory are returned unchanged, and so are all where there is no spool.
     DropItem asFile(const DropItem &item);
-    /// The same for many, once all of them are written: without those that were removed meanwhile.
+    /// The same for many; calls back once all files are written. Items removed meanwhile are left
+    /// out.
     void asFiles(const QList<DropItem> &items,
                  const std::function<void(const QList<DropItem> &files)> &callback);
 
-    /// An item has left the shelf. Its file stays for whoever was given it, unless it is to go.
+    /// To be called when an item has left the shelf: its file is forgotten, and deleted with
+    /// `deletingFile`. Otherwise the file stays, for the program that was given it.
     void itemLeft(const QUuid &id, bool deletingFile);
 
 private:
     struct Saved {
-        /// What was saved; held, so that other bytes are never taken for these.
+        /// The bytes that were saved. `known` compares buffers, not bytes; this reference keeps the
+        /// buffer from being freed, so that its memory is not reused for another picture.
         QByteArray bytes;
         DropItem file;
     };

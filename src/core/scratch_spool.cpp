@@ -19,10 +19,11 @@ namespace corvane {
 
 namespace {
 
-/// An extension comes from a stranger's file name too.
+/// The extension without "/" and unprintable characters; empty if it is too long. It comes from
+/// another program's file name and is not trusted.
 QString safeExtension(QString extension)
 {
-    // Long enough for any that means something.
+    // More than any known extension has.
     constexpr qsizetype maximumBytes = 64;
     extension.replace(QLatin1Char('/'), QLatin1Char('-'));
     extension.removeIf([](QChar character) { return !character.isPrint(); });
@@ -57,8 +58,9 @@ bool ScratchSpool::stillStands() const
     return m_open && m_open->stillStands();
 }
 
-/// Asked before every use: who tidies the temporary directory may have taken it away, and what was
-/// full or in somebody's hands may be free now.
+/// Opens the directory if it is not open or is gone; called before every use. A program that cleans
+/// the temporary directory may have removed it, and a disk that was full or a directory that
+/// another process held may be free now.
 bool ScratchSpool::open()
 {
     if (stillStands())
@@ -84,7 +86,7 @@ QByteArray ScratchSpool::freePath(const QString &basename, const QString &extens
             ending = ' ' + QByteArray::number(number) + dotExtension;
         const QString fitting
             = characters::prefix(stem, maximumBasenameCharacters, maximumNameBytes - ending.size());
-        // A single character can be longer than a file name may be.
+        // Nothing is left where the first character alone is longer than a file name may be.
         const QByteArray name = fitting.isEmpty() ? QByteArrayLiteral("Item") : fitting.toUtf8();
         QByteArray path = m_directory + '/' + name + ending;
         if (!isKept(path) && !exists(path) && !m_deletions.isPending(path))

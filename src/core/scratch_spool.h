@@ -17,20 +17,26 @@ namespace corvane {
 class SpoolPlace;
 class WorkQueue;
 
-/// The private directory for files of the shelf's own making. It lives for one run.
+/// The private directory for files that the shelf makes itself. It exists for one run of the
+/// program.
 ///
-/// The temporary directory may belong to everybody. So a directory that stands there already is
-/// used only if it is a real one, ours and closed to others, and one that lives is told by the lock
-/// that its process holds on it: a process number says nothing once it was given out again, or in
-/// another container. Without a safe directory there is no spool, and callers keep their bytes.
+/// The temporary directory may be shared by all users. So a directory that exists already is used
+/// only if it is a real directory, owned by this user and closed to others. Whether one is in use
+/// is told by the lock that its process holds on it, not by the process number in its name, which
+/// may have been given out again or belong to another container. Without a safe directory there is
+/// no spool: functions return none, and callers keep their bytes in memory.
+///
+/// Main thread only, but for `leftoversRemoval`.
 class ScratchSpool {
 public:
     static constexpr int maximumBasenameCharacters = 120;
-    /// What file systems allow for a name, with number and extension.
+    /// The longest file name, in bytes, that Linux file systems allow; number and extension
+    /// included.
     static constexpr int maximumNameBytes = 255;
 
-    /// `temporaryDirectory` is a native path. Nothing is made before the first use. Single files
-    /// are deleted on the queue, which must outlive this; at once where there is none.
+    /// `temporaryDirectory` is a native path. The spool's directory is made at its first use.
+    /// Single files are deleted on `deletionQueue`, which must outlive this; without one they are
+    /// deleted inside `discard`.
     ScratchSpool(QByteArray temporaryDirectory, qint64 processIdentifier,
                  WorkQueue *deletionQueue = nullptr);
     ~ScratchSpool();
@@ -39,29 +45,32 @@ public:
 
     /// The directory's address, whether or not it could be made.
     QUrl directory() const;
-    /// A free address for a new file, which the caller writes; none when there is no directory that
-    /// is safe to use.
+    /// An address that is free now, for a file that the caller writes at once; none when there is
+    /// no safe directory.
     std::optional<QUrl> reserve(const QString &basename, const QString &extension);
-    /// The same for a file that will be written later, perhaps on another thread: its name is kept
-    /// for it. Discarding that name before gives the file up.
+    /// The same for a file that is written later, perhaps on another thread: the name is not given
+    /// out again while the place exists. Discarding its address gives the place up. Null when there
+    /// is no safe directory.
     std::shared_ptr<SpoolPlace> keepPlace(const QString &basename, const QString &extension);
-    /// Reserves, writes the bytes atomically and gives the address; none, and nothing left behind,
-    /// when the bytes could not be written.
+    /// Writes the bytes to a new file, which appears complete or not at all, and gives its address;
+    /// none when they could not be written.
     std::optional<QUrl> store(const QByteArray &data, const QString &basename,
                               const QString &extension);
     /// Whether the address lies in the directory, by whole path components, the parent resolved.
     bool contains(const QUrl &url) const;
-    /// Has one spooled file deleted; an address outside is left alone, a failure ignored. Its name
-    /// is not given out again before it is gone.
+    /// Deletes a file of the spool, on the queue; addresses outside are left alone, failures
+    /// ignored. Its name is not given out again before it is deleted.
     void discard(const QUrl &url) const;
-    /// Deletes the directory and everything in it. Where that is more than a moment's work, a
-    /// process that outlives this one does the rest.
+    /// Deletes the directory and everything in it. Many files are left to a child process that
+    /// outlives this one (`spool_directory::removeAtEnd`).
     void discardAll();
-    /// Work that removes what dead processes of this user left in the temporary directory, for any
-    /// thread; it does not need this object. What a dead process of this number left gets another
-    /// name at once, so that the work never meets the directory that is used here.
+    /// The work, for any thread, that deletes what dead processes of this user left in the
+    /// temporary directory; it does not need this object. A directory that a dead process of this
+    /// number left is renamed at once, so that the work never meets the one that is used here.
     [[nodiscard]] std::function<void()> leftoversRemoval() const;
 
+    /// The name without "/" and ":", leading dots and spaces at its ends, cut to
+    /// `maximumBasenameCharacters`; "Item" where nothing is left.
     static QString safeBasename(const QString &name);
 
 private:
@@ -75,7 +84,7 @@ private:
     /// None while it is not open.
     std::shared_ptr<const OpenSpool> m_open;
     mutable SpoolDeletions m_deletions;
-    /// By their paths; those that are gone are dropped from time to time.
+    /// By native path. Entries whose place is gone are removed once there are `m_tidyPlacesAt`.
     QHash<QByteArray, std::weak_ptr<SpoolPlace>> m_places;
     qsizetype m_tidyPlacesAt = 64;
 };

@@ -32,7 +32,7 @@ public:
     /// Registers the defaults, so that nothing can read a setting without them.
     Settings(UserDefaults &defaults, LoginItems &loginItems);
 
-    /// Whether changes outlive the process. May look at the disk.
+    /// Whether changes are written to disk, so that the next run reads them. May ask the disk.
     bool areKept() const;
 
     /// How many thumbnails the carousel shows at once, 1 to 6 whatever is stored.

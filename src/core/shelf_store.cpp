@@ -100,7 +100,7 @@ std::optional<DropItem> ShelfStore::focusedItem() const
 
 std::vector<std::pair<int, DropItem>> ShelfStore::visibleItems() const
 {
-    // The list may have been replaced by a shorter one.
+    // `setItems` may have put a shorter list in place without changing the offset.
     const int start = std::min(std::max(count() - 1, 0), m_scrollOffset);
     const int end = std::min(start + m_settings.inViewCount(), count());
     std::vector<std::pair<int, DropItem>> visible;
@@ -123,7 +123,7 @@ bool ShelfStore::accept(const QList<DropItem> &newItems)
 {
     if (newItems.isEmpty())
         return false;
-    // An observer may change the caller's list, which may be ours, under our feet.
+    // A copy: an observer may change the caller's list, which may be `m_items` itself.
     // NOLINTNEXTLINE(performance-unnecessary-copy-initialization)
     const QList<DropItem> arrivals = newItems;
     {

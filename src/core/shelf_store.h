@@ -45,8 +45,8 @@ public:
 
     void observeState(StateObserver observer);
     void observeItems(ItemObserver observer);
-    /// Called for each item that leaves; files that belong to it go too (`deletingFiles`), unless
-    /// another program was given them.
+    /// Called for each item that leaves the shelf. With `deletingFiles` the files that were made
+    /// for it are to be deleted, too; otherwise another program was given them.
     std::function<void(const QUuid &id, bool deletingFiles)> onLeft;
     /// Called once at the end of each operation that publishes more than once.
     void observeEndOfOperation(std::function<void()> observer);
@@ -62,8 +62,8 @@ public:
     /// Replaces them, and publishes.
     void setItems(QList<DropItem> items);
 
-    /// Where the item is, none when it is not on the shelf (any more). Costs the same for any
-    /// number.
+    /// The item's index; none when it is not on the shelf. Takes the same time for any number of
+    /// items.
     std::optional<int> indexOf(const QUuid &id) const { return m_index.indexOf(id, m_items); }
 
     int focusedIndex() const { return m_focusedIndex; }
@@ -84,7 +84,8 @@ public:
     /// Appends the items (published), selects them, focuses the last (published), becomes occupied,
     /// and starts loading what completes them. False, and nothing happens, for an empty list.
     bool accept(const QList<DropItem> &newItems);
-    /// An item was dropped elsewhere: it leaves, or stays if it is to be kept.
+    /// An item was dragged out and taken: it leaves the shelf, without its file being deleted, or
+    /// stays with a message if `keep` is set.
     void ejected(int index, bool keep);
     void ejected(const QList<QUuid> &ids, bool keep);
     /// Removes every selected item, spooled files too.
@@ -99,9 +100,9 @@ public:
     /// Another number of items is in view: leaves no empty places at the carousel's end, and
     /// publishes.
     void inViewCountChanged();
-    /// Replaces what is said below an item's name, and publishes; nothing if it is gone.
+    /// Replaces an item's subtitle and publishes; nothing if it is gone.
     void describe(const QUuid &id, const QString &subtitle);
-    /// The item of that id becomes what it has been made into (published), and its thumbnail is
+    /// The item of `made`'s id takes over what it was made into (published), and its thumbnail is
     /// asked for; nothing if it is gone.
     void becomeReady(const DropItem &made);
     void toggleSelection(const DropItem &item);
@@ -113,13 +114,14 @@ public:
     void toggleViewAll();
     /// Closes the view-all bar and publishes; nothing where it is closed.
     void closeViewAll();
-    /// A drag of something droppable began, somewhere. A closed shelf opens for it, which the state
-    /// observers are told; of an open one the items are published.
+    /// A drag of something droppable began in any program. A closed shelf opens for it, and the
+    /// state observers are called; otherwise the item observers are.
     void dragBegan();
-    /// The drag in flight ended, somewhere. A shelf that is open for a drop closes, or shows what
-    /// it holds, which the state observers are told; otherwise the items are published.
+    /// The drag in flight ended, anywhere. A shelf that is open for a drop closes, or becomes
+    /// occupied if it holds items, and the state observers are called; otherwise the item observers
+    /// are.
     void dragEnded();
-    /// The drag in flight is one of the shelf's own, or no longer: publishes, if that is new.
+    /// Sets whether the drag in flight is one of the shelf's own; publishes if that changes.
     void ownDragChanged(bool isOwn);
 
 private:
@@ -132,7 +134,7 @@ private:
     void becomeEmpty();
     /// Changes the state and, if it differs, tells the state observers.
     void setState(ShelfState state);
-    /// The last offset at which no place of the carousel is empty that could be taken.
+    /// The largest scroll offset that leaves no empty place at the carousel's end.
     int lastOffset(int inView) const;
     void startLoading(const QList<DropItem> &items);
     void startLink(const DropItem &item, const QUrl &url);
@@ -161,7 +163,7 @@ private:
     CallbackList<ShelfState, ShelfState> m_stateObservers;
     CallbackList<const QList<DropItem> &> m_itemObservers;
     CallbackList<> m_endObservers;
-    /// How many that publish more than once are going on, one within the other.
+    /// How many operations that publish more than once are going on, one inside the other.
     int m_operations = 0;
     PublicationPace m_pace = PublicationPace::AtOnce;
     bool m_isDragInFlight = false;

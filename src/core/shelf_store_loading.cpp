@@ -1,5 +1,5 @@
-// What completes an item after it was accepted: thumbnails and link previews. Results come back
-// after any time, so the store is held weakly and the item found again by its id.
+// Loads thumbnails and link previews of accepted items. Results may come after the store is gone,
+// so callbacks are guarded by its lifetime, and the item is found again by its id.
 
 #include "core/link_preview_source.h"
 #include "core/settings.h"
@@ -33,14 +33,15 @@ void ShelfStore::startLoading(const QList<DropItem> &items)
     };
     for (const DropItem &item : items) {
         const QUuid id = item.id();
-        // What is being made has no file yet.
+        // An item that is still being made has no file yet; `becomeReady` loads its thumbnail.
         if (item.isBeingMade())
             continue;
         if (const auto *file = std::get_if<DropItem::File>(&item.payload())) {
             files.push_back({id, file->url});
             continue;
         }
-        // In the order of the items.
+        // Thumbnails are asked for in the order of the items, so the files before this one go
+        // first.
         startFiles();
         if (const auto *link = std::get_if<DropItem::Link>(&item.payload()))
             startLink(item, link->url);
@@ -76,7 +77,7 @@ void ShelfStore::becomeReady(const DropItem &made)
 {
     const QUuid id = made.id();
     const Lifetime::Token life = m_lifetime.token();
-    // Followed at once: what is dragged or opened next has to be what is there now.
+    // At once: the user may drag or open the item next, and must get the new file.
     change(id, PublicationPace::AtOnce, [&](DropItem &item) { item.become(made); });
     if (!life.isOver() && indexOf(id))
         startLoading({made});

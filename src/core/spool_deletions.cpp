@@ -19,9 +19,10 @@ namespace corvane {
 
 namespace {
 
+/// How long `stop` waits for the file that is being deleted.
 constexpr std::chrono::milliseconds patience{100};
-/// Taken off the list at once: with one at a time the main thread, which adds thousands, would meet
-/// this thread at the lock again and again.
+/// How many files are taken off the list under one lock. Taken one by one, this thread and the main
+/// thread, which adds thousands, would keep waiting for each other's lock.
 constexpr std::size_t mostTakenAtOnce = 100;
 
 } // namespace
@@ -32,7 +33,8 @@ struct SpoolDeletions::Shared {
         QByteArray path;
     };
 
-    /// Moves some of what waits to `taken`; where nothing does the work ends. Gives `stops`.
+    /// Moves up to `mostTakenAtOnce` deletions to `taken`; where none wait the work is marked as
+    /// ended. Returns `stops`.
     int take(std::vector<Deletion> &taken)
     {
         const std::lock_guard lock(mutex);
@@ -46,7 +48,8 @@ struct SpoolDeletions::Shared {
         }
         return stops;
     }
-    /// These are gone, unless it was stopped meanwhile.
+    /// The files of `taken` are deleted: their names are free again. After a stop the paths were
+    /// forgotten already, and may have been added anew.
     void end(const std::vector<Deletion> &taken, int stopsBefore)
     {
         const std::lock_guard lock(mutex);
@@ -64,11 +67,12 @@ struct SpoolDeletions::Shared {
     }
 
     std::mutex mutex;
-    // Guarded by it.
+    // Guarded by `mutex`.
     std::deque<Deletion> waiting;
     QSet<QByteArray> paths;
     bool isAtWork = false;
-    /// What was taken off the list before the last of them is not deleted any more.
+    /// How often the work was stopped. Files that were taken off the list before the last stop are
+    /// not deleted.
     std::atomic<int> stops = 0;
     /// Held while a file is being deleted.
     std::timed_mutex deleting;
@@ -93,12 +97,13 @@ void SpoolDeletions::add(std::shared_ptr<const OpenSpool> spool, const QByteArra
     }
     {
         const std::lock_guard lock(m_shared->mutex);
-        // Told again it would go a second time, and by then the name may be another file's.
+        // A second deletion of the same path could hit a new file that was given the name after the
+        // first.
         if (m_shared->paths.contains(path))
             return;
         m_shared->paths.insert(path);
         m_shared->waiting.push_back({std::move(spool), path});
-        // One thread for all of them: a queue of work is not to be filled with files.
+        // One job deletes all files, so that they do not fill the work queue.
         if (std::exchange(m_shared->isAtWork, true))
             return;
     }
@@ -114,7 +119,8 @@ bool SpoolDeletions::isPending(const QByteArray &path) const
 void SpoolDeletions::stop()
 {
     m_shared->drop();
-    // Where its disk does not answer, what comes next does not wait for it either.
+    // A disk that does not answer must not hold up the end of the program: wait no longer than
+    // `patience`.
     if (m_shared->deleting.try_lock_for(patience))
         m_shared->deleting.unlock();
 }

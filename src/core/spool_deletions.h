@@ -9,22 +9,25 @@ namespace corvane {
 class OpenSpool;
 class WorkQueue;
 
-/// Deletes spooled files beside the main thread, one after the other: a disk may take its time for
-/// a large one, and thousands may go at once. Without a queue each goes at once.
+/// Deletes files of a spool on another thread, one after the other: a large file takes time, and
+/// thousands may go at once. Without a queue each is deleted inside `add`.
 ///
-/// Main thread only. The queue must outlive it; what it has begun there may end later.
+/// Main thread only. The queue must outlive it; work that has begun there may end after this is
+/// destroyed.
 class SpoolDeletions {
 public:
     explicit SpoolDeletions(WorkQueue *queue);
     SpoolDeletions(const SpoolDeletions &) = delete;
     SpoolDeletions &operator=(const SpoolDeletions &) = delete;
-    /// Drops what has not begun.
+    /// Deletes no more files; does not wait for the one that is being deleted.
     ~SpoolDeletions();
 
+    /// Has the file deleted; nothing if that is pending already.
     void add(std::shared_ptr<const OpenSpool> spool, const QByteArray &path);
-    /// Whether what is at that path is still to go: its name must not be given out again before.
+    /// Whether the file at that path is still to be deleted; until then its name must not be given
+    /// out again.
     bool isPending(const QByteArray &path) const;
-    /// Drops what has not begun, and waits a moment for the one file that is being deleted.
+    /// Deletes no more files, and waits up to 0.1 s for the one that is being deleted.
     void stop();
 
 private:

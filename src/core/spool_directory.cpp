@@ -39,7 +39,8 @@ bool isSafe(int descriptor)
         && status.st_uid == ::geteuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
 
-/// Gives it another name of the kind, which no process will have; where it stands afterwards.
+/// Renames the directory to a spool name with a random 64-bit number, which no process has. Returns
+/// where it is afterwards: the old path if renaming failed.
 QByteArray withAnotherName(const QByteArray &path)
 {
     const auto number = QRandomGenerator::system()->generate64();
@@ -58,7 +59,7 @@ bool holdsMoreThan(int most, const QByteArray &path)
     return count > most;
 }
 
-/// Has another program remove it; whether that has begun.
+/// Starts "rm -rf" for the path, without waiting for it. False if it could not be started.
 bool haveRemoved(QByteArray path)
 {
     std::array<char, 3> program = {"rm"};
@@ -68,7 +69,7 @@ bool haveRemoved(QByteArray path)
         = {program.data(), option.data(), endOfOptions.data(), path.data(), nullptr};
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
-    // What ends this process by its group or its terminal need not end that one.
+    // A session of its own: the end of this process's group or terminal does not end "rm".
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
     pid_t process = -1;
     const int problem
@@ -97,7 +98,7 @@ int openAndLock(const QByteArray &path)
     const int descriptor = ::open(path.constData(), flags);
     if (descriptor < 0)
         return -1;
-    // Between opening and locking, somebody who tidies up may have removed it.
+    // Between opening and locking, another process may have removed or renamed the directory.
     const bool isOurs = isSafe(descriptor) && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0
         && isAt(path, descriptor);
     if (isOurs)
@@ -133,7 +134,7 @@ void setAside(const QByteArray &path)
     const int descriptor = openAndLock(path);
     if (descriptor < 0)
         return;
-    // Nobody has to find it but who looks for leftovers.
+    // The new name need not be remembered: `candidates` finds it.
     withAnotherName(path);
     ::close(descriptor);
 }
@@ -153,7 +154,8 @@ void removeAtEnd(const QByteArray &path)
         remove(path);
         return;
     }
-    // The next process may be given this one's number while the other program is still at work.
+    // Renamed first, because a new process may get this one's number, and so the directory's name,
+    // while "rm" is still deleting.
     const QByteArray aside = withAnotherName(path);
     if (!haveRemoved(aside))
         remove(aside);

@@ -21,7 +21,7 @@ bool SpoolPlace::write(const QByteArray &data) const
         return false;
     if (isWanted())
         return true;
-    // Discarded while it was being written.
+    // It was discarded while it was being written.
     ::unlink(path.constData());
     return false;
 }

@@ -7,17 +7,17 @@
 
 namespace corvane {
 
-/// A name in the spool, kept for a file that is still being made: nobody else is given it while
-/// this lives. Any thread.
+/// A file name in the spool that is kept for a file still being made: while this exists, the name
+/// is given to no other file. Any thread.
 class SpoolPlace {
 public:
     explicit SpoolPlace(QUrl url);
 
     const QUrl &url() const { return m_url; }
-    /// False once the file was discarded: whoever makes it can stop.
+    /// False once the file was discarded or given up: making it can stop.
     bool isWanted() const { return m_isWanted; }
     void giveUp() { m_isWanted = false; }
-    /// Writes the whole file, at once for all who read it. False, and nothing left behind, when it
+    /// Writes the file, which appears complete or not at all. False, and no file is left, when it
     /// is not wanted any more or cannot be written.
     bool write(const QByteArray &data) const;
 

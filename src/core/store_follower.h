@@ -9,15 +9,15 @@ namespace corvane {
 class MainQueue;
 class ShelfStore;
 
-/// Does what has to follow the store's changes, at the pace that each of them asks for: at once
-/// after a change of its own, once at the end of an operation however often that publishes, and
-/// once a frame for pictures and texts that arrive one by one.
+/// Calls `follow` after the store's changes, as soon as the pace of each publication asks: at once
+/// after a single change, once at the end of an operation however often that publishes, and at most
+/// once a frame for thumbnails and texts that arrive one by one.
 ///
-/// For work that looks at the store's present state alone. Main thread only; the store and the
-/// queue must outlive it.
+/// `follow` gets no arguments: it has to read the store's present state. Main thread only; the
+/// store and the queue must outlive this.
 class StoreFollower {
 public:
-    /// Seconds that details may be behind, a frame at 60 Hz.
+    /// In seconds: one frame at 60 Hz.
     static constexpr double detailDelay = 1.0 / 60;
 
     StoreFollower(ShelfStore &store, MainQueue &queue, std::function<void()> follow);

@@ -12,25 +12,26 @@ namespace corvane {
 class MainQueue;
 class WorkQueue;
 
-/// Says how many characters a text has. Large ones are counted beside the main thread: until then
-/// it is said that they are. Main thread only.
+/// Counts the characters of texts. Large texts are counted on another thread; until then a
+/// placeholder is shown. Main thread only.
 class TextDescriptions {
 public:
-    /// Larger ones, in UTF-16 code units, take longer than a frame may.
+    /// In UTF-16 code units. Counting more would take longer than a frame.
     static constexpr qsizetype mostCountedAtOnce = 1'000'000;
 
-    /// Both must outlive it.
+    /// Both queues must outlive it.
     TextDescriptions(WorkQueue &workQueue, MainQueue &mainQueue);
     TextDescriptions(const TextDescriptions &) = delete;
     TextDescriptions &operator=(const TextDescriptions &) = delete;
     ~TextDescriptions();
 
-    /// Called later for each large text, never once this is gone.
+    /// Called later, on the main thread, for each large text. Not called after this is destroyed.
     std::function<void(const QUuid &item, const QString &description)> onFound;
 
-    /// "12 characters", or what is said meanwhile of a large text.
+    /// "12 characters", or "Counting characters…" for a large text.
     static QString atOnce(const QString &text);
-    /// Counts a large text for the item; a small one needs no more than `atOnce`.
+    /// Counts a large text and reports it through `onFound`. Does nothing for a small one, which
+    /// `atOnce` has counted.
     void find(const QUuid &item, const QString &text);
 
 private:

@@ -25,12 +25,13 @@ public:
 
     virtual ~ThumbnailSource() = default;
 
-    /// Both call `completion` exactly once, later, on the main thread, unless the item's picture is
-    /// cancelled or asked for anew; a file always gets an image.
+    /// Calls `completion` exactly once, later, on the main thread, unless `cancel` is called for
+    /// the item or a new picture is asked for. For a file there is always an image, if only its
+    /// icon.
     virtual void generateForFile(const QUuid &item, const QUrl &url, Completion completion) = 0;
-    /// The same for many files in their order, one completion for each: a drop of ten thousand
-    /// waits for nothing that can be made ready later.
-    // By value: who takes them over moves them.
+    /// The same for many files, in their order, with one call of `completion` for each. A source
+    /// may override it to return quickly from a drop of ten thousand files.
+    // By value, so that an implementation can move them.
     // NOLINTNEXTLINE(performance-unnecessary-value-param)
     virtual void generateForFiles(std::vector<File> files, FilesCompletion completion)
     {
@@ -41,10 +42,11 @@ public:
                             });
         }
     }
+    /// The same for picture bytes; none where they cannot be decoded.
     virtual void generateForImageData(const QUuid &item, const QByteArray &data,
                                       Completion completion)
         = 0;
-    /// Nobody wants the item's picture any more; nothing when none is under way.
+    /// The item's picture is not wanted any more. Does nothing when none is being made.
     virtual void cancel(const QUuid &item) = 0;
 };
 
