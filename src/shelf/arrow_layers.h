@@ -4,7 +4,7 @@
 
 namespace corvane {
 
-/// A round button with a caret on it, which pages.
+/// The layers of a round button with a caret on it, which pages the carousel or the bar.
 struct ArrowLayers {
     explicit ArrowLayers(LayerTree &tree)
         : plate(tree)

@@ -20,7 +20,7 @@ QString nothingToDragMessage()
     return QCoreApplication::translate("ShelfView", "The file is no longer there");
 }
 
-/// For `stayed` of `all` items that were let go elsewhere and did not arrive.
+/// The message when `stayed` of `all` dragged items were not taken.
 QString stayedMessage(qsizetype stayed, qsizetype all)
 {
     if (stayed >= all)

@@ -23,9 +23,9 @@ class SavedPictures;
 ///     idle --press--> pressed --pulled far enough: begin--> dragging --let go--> idle
 ///                        +--release--> idle
 ///
-/// What was let go is leaving until its target has said how that ended; another drag may begin
-/// before. An item goes once its target has it. It stays where Shift was held as it was let go, and
-/// where it was only linked to a file of the shelf's own.
+/// After the user let go, an item is "leaving" until its target has said how that ended; another
+/// drag may begin meanwhile. An item is removed once the target has its contents. It stays if Shift
+/// was held as it was let go, or if the target only made a link to a file in the spool.
 ///
 /// A callback that is not set is skipped. A drag may end after this is gone, which does nothing.
 /// Main thread only; everything in the context must outlive it.
@@ -42,55 +42,58 @@ public:
         ItemPreparation &preparation;
     };
     struct Press {
-        /// By its id: an item before it may leave before the hand moves.
+        /// By id, because indices change when items leave between press and drag.
         QUuid item;
         /// In the panel's coordinates.
         QPointF point;
     };
-    /// What hangs under the pointer, and the point of it that the pointer holds, in points from its
-    /// bottom left.
+    /// The picture under the pointer, and the point of it that the pointer holds, in points from
+    /// its bottom left.
     struct Picture {
         Image image;
         QPointF hotSpot;
     };
-    /// Draws the items that travel, of those that were to.
+    /// Draws the items that are dragged; they may be fewer than `begin` was given.
     using Painter = std::function<Picture(const QList<DropItem> &items)>;
 
     explicit DragSource(const Context &context);
 
     /// A drag has begun, or what was dragged has been let go.
     std::function<void(bool isDraggingOut)> onChanged;
-    /// A target has said how a drag ended. Called before anything comes of that.
+    /// A target has said how a drag ended. Called before `onEjected` and `onMessage`.
     std::function<void()> onEnded;
-    /// The target has these. They are to leave, or with `keep` to stay: called first for those that
-    /// leave and then for those that stay, and not where there are none.
+    /// The target has the contents of these items: they are to be removed, or, with `keep`, to
+    /// stay. Called for those to be removed first and then for those that stay; not called with an
+    /// empty list.
     std::function<void(const QList<QUuid> &ids, bool keep)> onEjected;
-    /// What the user is told: that there is nothing to drag, or that something was not taken.
+    /// A message for the user: that there is nothing to drag, or that items were not taken.
     std::function<void(const QString &message)> onMessage;
 
+    /// The button went down on that item, at `point` of the panel.
     void press(const QUuid &item, QPointF point);
-    /// The press that comes to nothing more; none where a drag came of it.
+    /// Ends the press and returns it; none if a drag has begun from it.
     std::optional<Press> release();
-    /// The press, where the pointer has now gone so far from it that a drag is meant and can begin.
+    /// The press, if the pointer is now farther than `dragDistance` from it and no drag is going
+    /// on: a drag is to begin.
     std::optional<Press> pulled(QPointF to) const;
 
-    /// Starts a drag of what can travel of these items; the button must be down. `paint` is called
-    /// once the drag has been told of.
+    /// Starts a drag of those of `items` that can be dragged; the button must be down. `paint` is
+    /// called inside, after `onChanged`.
     void begin(const QList<DropItem> &items, const Painter &paint);
 
     bool isDragging() const { return !m_dragged.isEmpty(); }
     /// The items that are being dragged, until they are let go.
     const QList<QUuid> &dragged() const { return m_dragged; }
-    /// Those that were let go, whose target has not said how that ended; one twice that was dragged
-    /// out twice.
+    /// The items that were let go and whose targets have not said how that ended. An item that was
+    /// dragged out twice is in it twice.
     const QList<QUuid> &leaving() const { return m_leaving; }
 
 private:
     struct Drag {
-        /// One for each writer.
+        /// The items, one for each writer.
         QList<QUuid> ids;
         QList<DropItem> forms;
-        /// More than travel: a file may be gone.
+        /// How many items were to be dragged; more than `ids` where some cannot be.
         qsizetype wanted = 0;
         bool keep = false;
     };

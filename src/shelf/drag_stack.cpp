@@ -14,7 +14,7 @@ namespace corvane::drag_stack {
 
 namespace {
 
-/// Around the front card, for the corners of the turned ones and for the badge.
+/// In points around the front card: room for the corners of the turned cards and for the badge.
 constexpr double margin = 14;
 constexpr double badgeHeight = 20;
 /// How far the cards behind the front one are turned, in degrees.
@@ -51,7 +51,7 @@ Image image(const std::vector<Image> &cards, qsizetype count, double side, const
         painter.save();
         painter.translate(whole / 2, whole / 2);
         painter.rotate(turns.at(i));
-        // Cards let through what lies below them; in a stack that would be the next card.
+        // Cards are translucent; without this ground the next card would be seen through them.
         const QRectF card(-side / 2, -side / 2, side, side);
         painter.setPen(Qt::NoPen);
         painter.setBrush(ground);

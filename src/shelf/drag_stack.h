@@ -10,13 +10,12 @@ struct Theme;
 
 namespace drag_stack {
 
-/// More would not be seen.
+/// Further cards would be covered by these.
 constexpr std::size_t maximumCards = 3;
 
-/// The picture of several items under the pointer: the cards, of `side` points each and the front
-/// one first, lie fanned on each other, with `count` in a badge. It is square and larger than a
-/// card, the front card in its middle. `cards` is not empty; what is beyond the maximum is left
-/// out.
+/// The drag picture of several items: up to `maximumCards` cards, of `side` points each and the
+/// front one first, fanned on each other, with `count` in a badge. The picture is square and larger
+/// than a card; the front card is in its middle. `cards` is not empty; further ones are left out.
 Image image(const std::vector<Image> &cards, qsizetype count, double side, const Theme &theme,
             double scale);
 

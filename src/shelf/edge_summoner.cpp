@@ -52,7 +52,7 @@ void EdgeSummoner::entered()
     if (m_phase != Phase::Waiting)
         return;
     m_phase = Phase::Approached;
-    // Whoever clicks up there wants what lies there.
+    // A click means that the user wants the window that is there, not the shelf.
     watchPresses(&EdgeSummoner::giveUp);
     after(approachDelay, &EdgeSummoner::summon);
 }
@@ -82,14 +82,14 @@ void EdgeSummoner::summon()
     wait();
     if (!isWanted)
         return;
-    // A bar that was left open would come along, and take the keys and the clicks of whoever works
-    // below it.
+    // A bar that was left open would appear with the shelf, and take keys and clicks from the
+    // window that the user works in.
     m_store.closeViewAll();
     m_phase = Phase::Summoned;
     m_summonedCount = m_store.items().size();
     m_summonTime = m_context.queue.now();
     watchPresses(&EdgeSummoner::clickedThrough);
-    // Until the shelf has been reached the pointer is off it.
+    // Until the pointer is reported on the shelf, which ends this delay, it counts as off it.
     dismissLater();
     if (m_context.letClicksThrough)
         m_context.letClicksThrough(clicksThroughTime);
@@ -97,7 +97,7 @@ void EdgeSummoner::summon()
     storeChanged();
 }
 
-/// Somebody was about to click what the shelf came to cover.
+/// The user clicked where the shelf has just appeared, and meant the window below it.
 void EdgeSummoner::clickedThrough()
 {
     if (m_context.queue.now() - m_summonTime >= clicksThroughTime)
@@ -131,7 +131,7 @@ void EdgeSummoner::dismissLater()
 
 void EdgeSummoner::dismiss()
 {
-    // Something may be about to be dragged here.
+    // The user may be about to drag something here.
     if (m_context.trigger.isButtonHeld()) {
         dismissLater();
         return;
@@ -152,7 +152,8 @@ void EdgeSummoner::storeChanged()
 
 void EdgeSummoner::watchAnew()
 {
-    // The screens are the same objects, and elsewhere now.
+    // Screen objects may be the same with another geometry, so that equal stretches are elsewhere
+    // now.
     m_watched.clear();
     m_context.trigger.watch({});
     giveUp();

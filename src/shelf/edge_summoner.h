@@ -14,8 +14,8 @@ class MainQueue;
 class OutsideClicks;
 class ShelfStore;
 
-/// Shows the hidden shelf while it holds items and the pointer is kept at the top edge of a screen,
-/// where the shelf would hang, and hides it again once the pointer has gone, as a hand would do it.
+/// Shows the hidden shelf, if it holds items, when the pointer is kept at the top edge of a screen,
+/// where the shelf would hang, and hides it again after the pointer has left.
 ///
 ///     Waiting ----entered----> Approached --approachDelay later, welcome: shown--> Summoned
 ///        ^                         |                                            |  |  |  |
@@ -30,11 +30,11 @@ class ShelfStore;
 /// Main thread only; everything in the context must outlive it.
 class EdgeSummoner {
 public:
-    /// Seconds at the edge until the shelf is shown.
+    /// In seconds: how long the pointer must stay at the edge before the shelf is shown.
     static constexpr double approachDelay = 0.25;
-    /// Seconds off the shelf until it is hidden again.
+    /// In seconds: how long the pointer must be off the shelf before it is hidden again.
     static constexpr double leaveDelay = 0.8;
-    /// Seconds for which clicks on the shown shelf go to what it covers.
+    /// In seconds from showing it: clicks go through the shelf to the window below it.
     static constexpr double clicksThroughTime = 0.3;
 
     struct Context {
@@ -45,7 +45,7 @@ public:
         MainQueue &queue;
         /// How wide the shelf would be on that screen, in points.
         std::function<double(const ScreenPointer &screen)> shelfWidth;
-        /// Called before the shelf is shown: for so many seconds its clicks go to what it covers.
+        /// Called before the shelf is shown, to let its clicks through for so many seconds.
         std::function<void(double seconds)> letClicksThrough = {};
     };
     explicit EdgeSummoner(const Context &context);
@@ -53,12 +53,12 @@ public:
     EdgeSummoner(const EdgeSummoner &) = delete;
     EdgeSummoner &operator=(const EdgeSummoner &) = delete;
 
-    /// Lets go of the edge, for good: the program ends. A shelf that is shown stays.
+    /// Stops watching for good, as the program ends. A shelf that is shown stays.
     void stop();
 
-    /// The pointer came onto the shown shelf, or went off it.
+    /// To be called when the pointer came onto the shown shelf, or left it.
     void pointerIsInside(bool isInside);
-    /// The user did something on the shelf: it stays open.
+    /// To be called when the user did something on the shelf: it stays open then.
     void shelfIsUsed();
 
 private:
@@ -87,7 +87,7 @@ private:
     ShelfStore &m_store;
     StoreFollower m_follower;
     Phase m_phase = Phase::Waiting;
-    /// Restarted by whatever makes delayed work out of date.
+    /// Guards delayed work; restarting it makes that work do nothing.
     Lifetime m_delayed;
     bool m_isStopped = false;
     qsizetype m_summonedCount = 0;

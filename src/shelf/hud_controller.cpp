@@ -56,7 +56,7 @@ HUDController::~HUDController()
 
 void HUDController::wireShelf()
 {
-    // The shelf is part of the controller and goes with it.
+    // No guard is needed: the view is a member and is destroyed with the controller.
     m_shelf.onDropAccepted = [this](const QList<DropItem> &items) { m_store.accept(items); };
     m_shelf.onEjected = [this](const QUuid &id, bool keep) {
         if (const auto index = m_store.indexOf(id))
@@ -96,8 +96,8 @@ void HUDController::wireShelf()
     };
 }
 
-/// A picture whose file is still being written is shown once it is there, if the user still looks
-/// at it by then; asking for it twice takes it back.
+/// Shows the item at full size. One whose file is still being written is shown when it is ready, if
+/// it is focused then and the shelf is open; asking a second time before that cancels it.
 void HUDController::preview(const DropItem &item)
 {
     if (const auto shown = item.presentForm()) {
@@ -160,7 +160,7 @@ double HUDController::openWidth(const ScreenPointer &screen) const
 
 void HUDController::render()
 {
-    // Looked for once: where the pointer is has to be asked of the desktop.
+    // Asked once for all uses below, because finding the pointer is a request to the desktop.
     const ScreenPointer screen = m_context.screenLocator.activeScreen();
     const ShelfSnapshot snapshot = makeSnapshot(screen);
     const QSizeF size = m_shelf.preferredSize(snapshot);
@@ -171,7 +171,7 @@ void HUDController::render()
                  size.width(), size.height()};
         m_shelf.setRefreshRate(screen->refreshRate);
         resizeWindow(frame, screen);
-        // What is dragged is meant for the shelf from the first moment on.
+        // During a drag the shelf must take the pointer at once.
         if (m_store.isDragInFlight())
             m_letsClicksThrough = false;
         m_panel.setIgnoresMouseEvents(m_letsClicksThrough);
@@ -196,7 +196,8 @@ void HUDController::resizeWindow(const QRectF &target, const ScreenPointer &acti
         m_panel.setFrame(target);
         return;
     }
-    // Large enough for where the body is and for where it goes, until it has gone there.
+    // Large enough for the body where it is and where it goes; shrunk to the target when it has
+    // arrived.
     const QRectF room = unionOf(m_panel.frame(), withOvershoot(target, before));
     m_panel.setFrame(room);
     if (room == target)
@@ -211,7 +212,7 @@ void HUDController::resizeWindow(const QRectF &target, const ScreenPointer &acti
                                     }));
 }
 
-/// Springs add up, so what several ways that are under way go beyond their ends does, too.
+/// Springs that are still moving add up, and so do the distances by which they overshoot.
 QRectF HUDController::withOvershoot(const QRectF &target, QSizeF before)
 {
     if (m_context.view.motionPreference.reducesMotion())
@@ -219,7 +220,8 @@ QRectF HUDController::withOvershoot(const QRectF &target, QSizeF before)
     const double share = Theme::Motion::spring().overshoot();
     m_overshoot += {std::abs(target.width() - before.width()) * share,
                     std::abs(target.height() - before.height()) * share};
-    // Whole points, so that what hangs from the middle of the top edge stays where it is.
+    // Whole points, because the body hangs from the middle of the panel's top edge and must not
+    // shift by half a pixel.
     const double side = std::ceil(m_overshoot.width() / 2);
     const double below = std::ceil(m_overshoot.height());
     return target.adjusted(-side, -below, side, 0);
@@ -230,7 +232,7 @@ void HUDController::scheduleHide()
     m_pendingHide.restart();
     m_panel.setIgnoresMouseEvents(true);
     m_letsClicksThrough = false;
-    // Now, not when it has slid away: what is typed from here on is for the program behind.
+    // Now, not when it has slid away: keys typed from here on are for the program behind.
     m_panel.resignKey();
     m_context.view.queue.asyncAfter(hideDelay, m_pendingHide.guard([this] {
         if (m_store.state() == ShelfState::Idle)
@@ -254,7 +256,7 @@ void HUDController::letClicksThrough(double seconds)
 
 void HUDController::takeClicks()
 {
-    // A shelf that is hidden, or was meanwhile, goes on letting them through.
+    // If the shelf is hidden, or was hidden meanwhile, clicks still go through it.
     const bool wasShown = std::exchange(m_letsClicksThrough, false) && m_panel.isVisible();
     if (wasShown && m_store.state() != ShelfState::Idle)
         m_panel.setIgnoresMouseEvents(false);

@@ -30,12 +30,12 @@ struct Feedback;
 ///     shown --render(idle)--> hiding: takes no clicks, slides away
 ///     hiding --0.37 s--> hidden: ordered out      hiding --render--> shown
 ///
-/// Delayed work is never cancelled: what makes it out of date restarts its lifetime. Main thread
-/// only. Everything that it is given must outlive it.
+/// Delayed work is not cancelled; restarting the lifetime that guards it makes it do nothing. Main
+/// thread only. Everything that it is given must outlive it.
 class HUDController {
 public:
     static constexpr QRectF initialFrame{0, 0, 560, 136};
-    /// The closing slide's 0.32 s and a margin.
+    /// In seconds: the 0.32 s of the closing slide and a margin.
     static constexpr double hideDelay = 0.32 + 0.05;
 
     struct Context {
@@ -55,20 +55,22 @@ public:
     HUDController(const HUDController &) = delete;
     HUDController &operator=(const HUDController &) = delete;
 
-    /// The user opens or closes the shelf, by a hot key or a menu.
+    /// To be called when the user opens or closes the shelf by a hot key or a menu.
     void toggleByHand();
-    /// The shelf is about to be shown unasked: for so many seconds its clicks go to what lies below
-    /// it, where whoever clicks has not seen it yet.
+    /// To be called before the shelf is shown without the user having asked: for so many seconds
+    /// its clicks go to the window below, because the user may click there without having seen the
+    /// shelf.
     void letClicksThrough(double seconds);
     /// How wide the shelf would be on that screen if it were opened now, in points.
     double openWidth(const ScreenPointer &screen) const;
 
-    /// The pointer came onto the shelf, or went off it.
+    /// The pointer came onto the shelf, or left it.
     std::function<void(bool isInside)> onPointerInside;
-    /// Something was dropped whose contents are on their way; or one of them is here, and tells
-    /// whether others are awaited.
+    /// A drop's contents are on their way (true), or are here; then it tells whether others are
+    /// awaited.
     std::function<void(bool isAwaiting)> onAwaitsDrop;
-    /// The user pressed, typed or is about to drop on the shelf.
+    /// The user pressed a button or a key on the shelf, or drags something over it that it would
+    /// take.
     std::function<void()> onUsed;
 
 private:
@@ -92,7 +94,7 @@ private:
     Lifetime m_pendingShrink;
     Lifetime m_pendingClicks;
     bool m_letsClicksThrough = false;
-    /// Where the last resize went, and how far the springs that are under way go beyond.
+    /// The size of the last resize's target, and how far the springs that are moving go beyond it.
     QSizeF m_target;
     QSizeF m_overshoot;
     std::weak_ptr<const Screen> m_lastScreen;

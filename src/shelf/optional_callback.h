@@ -5,7 +5,7 @@
 
 namespace corvane {
 
-/// A view's callback that nobody set is skipped.
+/// Calls a view's callback; does nothing if it is not set.
 template<typename... Arguments>
 void call(const std::function<void(Arguments...)> &callback,
           std::type_identity_t<Arguments>... arguments)

@@ -15,12 +15,12 @@ public:
     ShelfCell(LayerTree &tree, Layer &superlayer, const Theme &theme,
               const LayerAnimator &animator);
 
-    /// How the cell looks apart from where it is.
+    /// How the cell looks, apart from its place.
     struct Look {
         bool isCarousel = false;
         bool isFocused = false;
         bool showsBadge = false;
-        /// The item is under the pointer on its way out.
+        /// The item is being dragged out, or was let go and its target has not said how that ended.
         bool isDragged = false;
         /// Shown in place of the subtitle.
         QString flash;
@@ -46,7 +46,8 @@ private:
     void showThumbnail();
 };
 
-/// The picture shown for an item in a tile of `side` points: its thumbnail, fitted, or its glyph.
+/// The picture for an item in a tile of `side` points: its thumbnail, fitted, or its glyph; at
+/// `scale` pixels per point.
 QImage thumbnailContents(double side, const DropItem &item, const Theme &theme, double scale);
 
 } // namespace corvane

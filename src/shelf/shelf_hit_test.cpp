@@ -7,7 +7,7 @@ namespace corvane {
 
 namespace {
 
-/// A row that is too wide for the body is cut at its sides and its rounded corners.
+/// Whether the point is inside the body's outline: a row that is too wide is cut off there.
 bool canShowCells(const ShelfLayout &layout, QPointF point)
 {
     const QRectF row = grown(QRectF({0, 0}, layout.size), -bodyFlareRadius, 0);

@@ -10,7 +10,8 @@ namespace corvane {
 
 enum class ArrowSide { Left, Right };
 
-/// What lies under a point of the body. Where areas overlap, the earlier alternative has it.
+/// What is under a point of the body. Where areas overlap, the alternative that comes first in
+/// `ShelfHit` wins.
 namespace shelf_hit {
 struct Arrow {
     ArrowSide side;
@@ -19,7 +20,7 @@ struct Arrow {
 struct ViewAll {
     friend bool operator==(ViewAll, ViewAll) = default;
 };
-/// Indices are those among all items.
+/// `itemIndex` counts all items of the shelf.
 struct Badge {
     int itemIndex;
     friend bool operator==(Badge, Badge) = default;
@@ -34,11 +35,11 @@ struct Cell {
 };
 } // namespace shelf_hit
 
-/// The first alternative means nothing.
+/// `monostate` where there is nothing.
 using ShelfHit = std::variant<std::monostate, shelf_hit::Arrow, shelf_hit::ViewAll,
                               shelf_hit::Badge, shelf_hit::Button, shelf_hit::Cell>;
 
-/// `point` is in the body's coordinates. Badges count in carousel mode, in which alone they show.
+/// `point` is in the body's coordinates. Badges are shown, and hit, in carousel mode only.
 ShelfHit hitTest(const ShelfLayout &layout, bool isCarousel, QPointF point);
 
 } // namespace corvane

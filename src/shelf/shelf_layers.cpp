@@ -25,7 +25,7 @@ bool isHit(const ShelfHit &hovered, Hit wanted)
     return hit && *hit == wanted;
 }
 
-/// The item whose cell the pointer is on, its badge included.
+/// The index of the item whose cell or badge the pointer is on.
 std::optional<int> hoveredCell(const ShelfHit &hovered)
 {
     if (const auto *cell = std::get_if<shelf_hit::Cell>(&hovered))
@@ -94,7 +94,8 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
     m_hoverPlate.setCornerRadius(7);
     m_hoverPlate.setOpacity(0);
     m_divider.setBackgroundColor(palette.divider);
-    // While the body springs, nothing of the row is seen beyond its edge.
+    // While the body is still growing, cells at their final places must not be seen beyond its
+    // edge.
     m_rowArea.setClipsSublayers(true);
     m_flash.setFont(theme.typography.hint);
     m_flash.setAlignment(Qt::AlignHCenter);
@@ -137,10 +138,11 @@ void ShelfLayers::paint(QPainter &painter, double scale)
     m_body.render(painter, scale);
 }
 
-/// Nothing on the body changes while it slides: it is painted once, and then put where it belongs.
+/// While the body only slides, it is painted to a picture once, which is then drawn at each frame's
+/// place.
 void ShelfLayers::paintShifted(QPainter &painter, double scale)
 {
-    // The edge line lies half outside.
+    // In points: half of the edge line lies outside the bounds.
     constexpr double margin = 1;
     const QPointF corner = m_body.presentedFrame().topLeft() - QPointF(margin, margin);
     if (m_picture.isNull() || m_pictureVersion != m_tree.version() || m_pictureScale != scale) {
@@ -309,7 +311,7 @@ void ShelfLayers::EdgeFade::draw(QPainter &painter, QSizeF size, double /*scale*
     QLinearGradient gradient(0, 0, size.width(), 0);
     gradient.setColorAt(0, QColor::fromRgbF(0, 0, 0, 0));
     gradient.setColorAt(0.8, Qt::black);
-    // Where the row ends the body has its rounded corner, and its edge line.
+    // The fade must not cover the body's rounded corner and its edge line.
     QPainterPath end;
     end.addRoundedRect(QRectF(-bodyCornerRadius, 0.5, size.width() + bodyCornerRadius - 0.5,
                               size.height() + bodyCornerRadius),

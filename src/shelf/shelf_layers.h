@@ -28,26 +28,26 @@ struct ShelfLook {
     ShelfHit hovered;
     bool isHovering = false;
     bool isDragTargeted = false;
-    /// Shown for a moment in place of the details; "" for none.
+    /// A short message shown in place of the details; empty for none.
     QString flashMessage;
     /// The item that is being dragged out.
     std::optional<QUuid> draggedItem;
-    /// Those that were let go elsewhere, whose target has not said how that ended; one twice that
-    /// was dragged out twice.
+    /// The items that were let go and whose targets have not said how that ended
+    /// (`DragSource::leaving`).
     QList<QUuid> leavingItems;
 };
 
-/// The layers that the shelf is painted with. They follow the look that they are given; where and
-/// when things move is the animator's business.
+/// The layers that the shelf is painted with. `apply` gives them a look; the animator decides how
+/// they move to it.
 ///
-/// Coordinates: the origin is the top centre of the panel, from which the body hangs, so that a
-/// panel that changes its size around the body moves nothing.
+/// Coordinates: the origin is the top centre of the panel, from which the body hangs, so that the
+/// body does not move when the panel changes its size.
 class ShelfLayers {
 public:
     ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimator &animator);
 
-    /// Puts everything where the look has it, and slides the body down from the screen's edge or up
-    /// behind it. What is out of sight is laid out at once: only the slide is seen.
+    /// Applies the look, and slides the body down from the screen's edge or up behind it. While the
+    /// body is out of sight everything else is applied without motion: only the slide is seen.
     void apply(const ShelfLook &look);
     void paint(QPainter &painter, double scale);
 
@@ -59,7 +59,7 @@ public:
 
 private:
     void paintShifted(QPainter &painter, double scale);
-    /// Out of sight, and staying there.
+    /// Whether the body is above the screen's edge and not moving.
     bool isAway() const;
     void syncCellCount(std::size_t count);
     void applyBody(const ShelfLook &look);
@@ -97,11 +97,12 @@ private:
     IconLayer m_viewAllButton;
     TextLayer m_flash;
     PillLayer m_hairline;
-    /// The whole body while it slides, and what it was made from.
+    /// The picture of the body while it slides, with the scale and tree version that it was made
+    /// for.
     QImage m_picture;
     double m_pictureScale = 0;
     std::uint64_t m_pictureVersion = 0;
-    // After the layers that contain them.
+    // Last, so that cells are destroyed before the layers that contain them.
     std::vector<std::unique_ptr<ShelfCell>> m_cells;
 };
 

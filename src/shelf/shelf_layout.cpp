@@ -27,7 +27,7 @@ constexpr double arrowSide = 22;
 constexpr double arrowZone = 28;
 constexpr double viewAllSpace = 28;
 constexpr double viewAllGap = 9;
-/// From the panel's edge to the content: the flare and an inner margin of 11.
+/// In points, from the panel's edge to the content: the flare and an inner margin.
 constexpr double innerMargin = 11;
 constexpr double sideMargin = bodyFlareRadius + innerMargin;
 constexpr double dropTargetWidth = 292;
@@ -50,7 +50,7 @@ double bodyHeight(const ShelfSnapshot &snapshot)
     return snapshot.isCarousel() ? carouselHeight : singleHeight;
 }
 
-/// The value for the look in which the body stands now; controls are centred in it.
+/// The argument for the look that the body has now.
 double byLook(const ShelfSnapshot &snapshot, double dropTarget, double carousel, double single)
 {
     if (snapshot.looksLikeDropTarget())
@@ -87,7 +87,7 @@ ShelfLayout::Cell layoutCell(const ShelfSnapshot &snapshot, int itemIndex, const
 void layoutRingAndHint(const ShelfSnapshot &snapshot, ShelfLayout &layout)
 {
     const double width = layout.size.width();
-    // Around the hint it stands free; around cells it keeps to the body's edge.
+    // Around the hint the ring has a margin; around cells it follows the body's edge.
     if (snapshot.visible.empty()) {
         layout.ring = {sideMargin, 8, width - 2 * sideMargin, layout.bodyHeight - 16};
         layout.ringCornerRadius = 12;
@@ -110,7 +110,8 @@ void layoutActions(const ShelfSnapshot &snapshot, ShelfLayout &layout)
         const double fromRight
             = buttonSide + actionStep * static_cast<double>(buttons.size() - 1 - i);
         buttons[i] = {right - fromRight, y, buttonSide, buttonSide};
-        // The whole slot is clickable: as wide as the step, as high as the hover plate.
+        // The clickable area is as wide as the step from button to button, and as high as the hover
+        // plate.
         layout.actionHits[i] = grown(buttons[i], (actionStep - buttonSide) / 2, 4);
     }
     layout.actionButtons = buttons;
@@ -126,7 +127,8 @@ double detailTextWidth(const ShelfSnapshot &snapshot, const Theme &theme,
     double width = 0;
     if (!snapshot.visible.empty()) {
         const DropItem &item = snapshot.visible.front().second;
-        // As it is drawn, which also bounds what a stranger's text may cost.
+        // Measured as it is drawn, which also limits the length of text that comes from other
+        // programs.
         width = std::max(measurer.width(displayText(item.title()), theme.typography.primary),
                          measurer.width(displayText(item.subtitle()), theme.typography.secondary));
     }

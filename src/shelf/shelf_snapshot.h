@@ -24,10 +24,10 @@ struct ShelfSnapshot {
     bool canScrollForward = false;
     /// Width and height of the notch, both 0 on a screen without one.
     QSizeF notch{0, 0};
-    /// A drag that did not start on the shelf is going on: the shelf may take a drop.
+    /// A drag is going on that did not start on the shelf, so there may be a drop here.
     bool receptive = false;
 
-    /// The mode follows the setting, not the number of items.
+    /// Carousel mode depends on the setting, not on the number of items.
     bool isCarousel() const { return inViewCount >= 2; }
     bool looksLikeDropTarget() const { return visible.empty() || receptive; }
     bool hasArrows() const { return inViewCount < totalCount; }

@@ -47,7 +47,7 @@ void ShelfView::apply(const ShelfSnapshot &snapshot)
     m_look.snapshot = snapshot;
     if (snapshot.state == ShelfState::Idle)
         m_dragSource.release();
-    // An empty shelf has its hint there.
+    // An empty shelf shows its hint in that place.
     if (snapshot.visible.empty())
         m_look.flashMessage.clear();
     relayout();
@@ -57,7 +57,7 @@ void ShelfView::relayout()
 {
     const double textWidth = detailTextWidth(m_look.snapshot, m_context.theme, m_context.measurer);
     m_look.layout = layoutShelf(m_look.snapshot, textWidth);
-    // The pointer may rest while the shelf changes beneath it.
+    // The shelf may have changed under a pointer that does not move.
     const bool isInside = m_pointer && hitTest(fromTopCentre(*m_pointer));
     m_look.isHovering = isInside;
     m_look.hovered = isInside ? corvane::hitTest(m_look.layout, m_look.snapshot.isCarousel(),
@@ -104,8 +104,8 @@ void ShelfView::paint(QPainter &painter, QSizeF size, double scale)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(size.width() / 2, size.height());
     m_layers.paint(painter, scale);
-    // Where windows are not blended the panel is cut to what was just painted; once more when that
-    // has come to rest.
+    // Without a compositing manager the panel is cut to the outline just painted: in every frame of
+    // a motion, and once more after its end.
     const bool isMoving = m_tree.isMoving();
     if (isMoving || m_wasMoving)
         updateBody();
@@ -147,7 +147,7 @@ QPointF ShelfView::fromTopCentre(QPointF point) const
 
 void ShelfView::mouseEntered(const MouseEvent &event)
 {
-    // The panel takes the pointer on its body alone.
+    // The panel gets pointer events on the body only.
     call(onPointerInside, true);
     updateHover(event.location);
 }

@@ -31,10 +31,12 @@ struct Theme;
 /// only; everything in the context must outlive the view.
 class ShelfView : public PanelContent {
 public:
+    /// In seconds.
     static constexpr double flashDuration = 1.4;
     static constexpr double preciseScrollStep = 28;
     static constexpr double wheelScrollStep = 4;
-    /// What a device without phases has left over is forgotten after this many seconds.
+    /// In seconds: after this pause, scrolling of less than a step by a device without phases is
+    /// forgotten.
     static constexpr double scrollMemory = 0.25;
 
     struct Context {
@@ -54,8 +56,8 @@ public:
     ~ShelfView() override;
 
     std::function<void(const QList<DropItem> &)> onDropAccepted;
-    /// An item was dropped elsewhere and has arrived there; `keep` when Shift was held as it was
-    /// let go. By its id, because indices may have moved meanwhile.
+    /// An item was dropped elsewhere and the target has its contents; `keep` when Shift was held as
+    /// it was let go. By id, because indices may have changed meanwhile.
     std::function<void(const QUuid &id, bool keep)> onEjected;
     std::function<void(int index)> onRemove;
     std::function<void(int index)> onFocus;
@@ -66,26 +68,28 @@ public:
     std::function<void()> onViewAll;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
     std::function<void(bool isInside)> onPointerInside;
-    /// Something was dropped here whose contents are still on their way; or one of them is here,
-    /// and tells whether others are awaited.
+    /// A drop's contents are on their way (true), or are here, and tells whether others are
+    /// awaited.
     std::function<void(bool isAwaiting)> onAwaitsDrop;
-    /// A press, a key or a drag that may be dropped here, before anything else comes of it.
+    /// A button or key was pressed, or a drag that can be dropped here entered. Called before
+    /// anything else is done about it.
     std::function<void()> onUsed;
-    /// A press on the body, after what came of it.
+    /// The body was pressed. Called after everything else was done about it.
     std::function<void()> onPressed;
 
     void apply(const ShelfSnapshot &snapshot);
     QSizeF preferredSize(const ShelfSnapshot &snapshot) const;
-    /// Shows a short message in place of the details; dropped where there is no room for it.
+    /// Shows a message in place of the details, for `flashDuration`. Ignored without items, and
+    /// while the shelf looks like a drop target.
     void flash(const QString &message);
     /// To be called after the panel's frame changed without a new snapshot.
     void panelWasResized() { updateBody(); }
     /// Frames a second while something moves.
     void setRefreshRate(double rate);
-    /// Whether a point of the panel belongs to the shelf; nowhere while it is closed.
+    /// Whether a point of the panel is on the body of an open shelf.
     bool hitTest(QPointF point) const;
 
-    /// What is on the screen, for whoever wants to check it.
+    /// What is on the screen, for tests.
     const ShelfLook &look() const { return m_look; }
     const ShelfLayers &layers() const { return m_layers; }
     std::size_t cellCount() const { return m_layers.cellCount(); }
@@ -133,8 +137,8 @@ private:
     DragSource m_dragSource;
     double m_scale = 1;
     bool m_wasMoving = false;
-    /// Where the pointer is over the panel, from its top centre, which stays when the panel
-    /// resizes.
+    /// The pointer's place relative to the panel's top centre, which stays where it is when the
+    /// panel resizes.
     std::optional<QPointF> m_pointer;
     bool m_refusesDrag = false;
     bool m_isDragOver = false;

@@ -1,4 +1,4 @@
-// What keys and buttons do, and to which item.
+// The shelf's keys and buttons: what each does, and to which item.
 
 #include "platform/base/checked_math.h"
 #include "shelf/optional_callback.h"
@@ -8,9 +8,9 @@
 
 namespace corvane {
 
-/// Buttons and keys act on what is seen. A single item in view is the one that is meant, and is
-/// focused for that. Among several none is meant while the focused one is elsewhere: it is shown,
-/// and that is all.
+/// The item that buttons and keys act on: only one that is in view. That is the focused item, or
+/// the single item in view, which is then focused. With several in view and the focused one
+/// elsewhere there is none: the carousel scrolls to the focused item instead.
 std::optional<int> ShelfView::itemToActOn() const
 {
     const auto &visible = m_look.snapshot.visible;
@@ -19,7 +19,7 @@ std::optional<int> ShelfView::itemToActOn() const
                                       [&](const auto &entry) { return entry.first == focused; });
     if (isInView || visible.empty())
         return isInView ? std::optional(focused) : std::nullopt;
-    // Copies: the callback brings another snapshot.
+    // A copy: the callback replaces the snapshot.
     const auto shown = visible.size() == 1 ? std::optional(visible.front().first) : std::nullopt;
     call(onFocus, shown.value_or(focused));
     return shown;
@@ -45,8 +45,8 @@ void ShelfView::performAction(ShelfAction action) const
 
 bool ShelfView::keyDown(const KeyEvent &event)
 {
-    // A shelf that closes is still on screen for a moment, and what was typed before it gave the
-    // keyboard back may come only now.
+    // While the shelf closes it is still on screen, and keys typed before it gave the keyboard back
+    // may arrive. They are passed on.
     if (m_look.snapshot.state == ShelfState::Idle)
         return false;
     call(onUsed);
@@ -73,7 +73,7 @@ bool ShelfView::keyDown(const KeyEvent &event)
     default:
         return false;
     }
-    // What removes or toggles does so once for each press.
+    // Removing and toggling happen once for each press, not for a held key's repeats.
     if (!event.isRepeat)
         pressKey(event);
     return true;

@@ -15,7 +15,7 @@ namespace corvane {
 
 void ShelfView::wireDragSource()
 {
-    // It is part of the view and goes with it.
+    // No guard is needed: the drag source is a member and is destroyed with the view.
     m_dragSource.onChanged = [this](bool isDraggingOut) {
         m_look.draggedItem.reset();
         if (isDraggingOut)
@@ -47,7 +47,7 @@ void ShelfView::mouseDragged(const MouseEvent &event)
     });
     if (entry == visible.end())
         return;
-    // Copies: the drag may run an event loop in which the snapshot is replaced.
+    // The drag gets copies: it may run an event loop in which the snapshot is replaced.
     m_dragSource.begin(
         {entry->second},
         [this, index = entry->first, from = press->point](const QList<DropItem> &items) {
@@ -64,7 +64,8 @@ QRectF ShelfView::thumbFrame(int index) const
     return {0, 0, 1, 1};
 }
 
-/// Picked up by its picture, the picture stays where it was under the pointer.
+/// The drag's picture. If the user pressed on the thumbnail, the pointer holds it at the same
+/// point.
 DragSource::Picture ShelfView::dragPicture(const DropItem &item, int index, QPointF from) const
 {
     const QRectF thumb = thumbFrame(index);
@@ -74,7 +75,8 @@ DragSource::Picture ShelfView::dragPicture(const DropItem &item, int index, QPoi
             isOnThumb ? inBody(from) - thumb.topLeft() : middle};
 }
 
-/// What was let go here counts as held over the shelf until it is here: that shows that it comes.
+/// The shelf looks as if a drag were over it also while the contents of a drop are on their way, so
+/// that the user sees that they will come.
 void ShelfView::updateDragTargeted()
 {
     const bool isTargeted = m_isDragOver || m_awaitedDrops > 0;
@@ -132,7 +134,7 @@ bool ShelfView::performDragOperation(const DraggingInfo &info)
     else
         m_isDragOver = false;
     const Lifetime::Token life = m_lifetime.token();
-    // Whoever waits for it is told in any case.
+    // Called at the end also when the drop brings no items.
     const auto isHere = qScopeGuard([&] {
         if (!life.isOver() && wasAwaited && onAwaitsDrop)
             onAwaitsDrop(m_awaitedDrops > 0);

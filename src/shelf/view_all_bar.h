@@ -6,17 +6,18 @@
 
 namespace corvane {
 
-/// The bar below the shelf that shows every item, as the shelf's controller knows it.
+/// What the shelf's controller tells the view-all bar, which shows every item below the shelf.
 class ViewAllBar {
 public:
     virtual ~ViewAllBar() = default;
 
-    /// Follows the shelf: `pillFrame` is the shelf's frame on `screen`; an empty rectangle and no
-    /// screen while the shelf is closed.
+    /// To be called on every change: `pillFrame` is the shelf's frame on `screen`, in global
+    /// points; an empty rectangle and null while the shelf is closed.
     virtual void render(const QRectF &pillFrame, const ScreenPointer &screen) = 0;
-    /// The user is opening or closing the shelf by hand: the keys are meant for what opens with it.
+    /// The user opens or closes the shelf by a hot key or a menu, so keys are meant for the bar if
+    /// it opens, too.
     virtual void shelfIsToggledByHand() = 0;
-    /// The user has pressed the shelf: while the bar is shown, the keys are still meant for it.
+    /// The user has pressed the shelf; if the bar is shown, it takes the keyboard back.
     virtual void shelfWasPressed() = 0;
 };
 

@@ -32,7 +32,7 @@ ViewAllController::~ViewAllController()
 
 void ViewAllController::wireView()
 {
-    // The view is part of the controller and goes with it.
+    // No guard is needed: the view is a member and is destroyed with the controller.
     m_view.onToggleItem = [this](const DropItem &item) { m_store.toggleSelection(item); };
     m_view.onToggleSelectAll = [this] { m_store.toggleSelectAll(); };
     m_view.onRemoveSelected = [this] { m_store.removeSelected(); };
@@ -59,7 +59,8 @@ void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &scr
     }
 }
 
-/// Whether the user has just now opened the bar, or the shelf below which it was left open.
+/// Whether the user has just opened the bar, or opened by hand the shelf below which it was left
+/// open.
 bool ViewAllController::findWhetherWanted()
 {
     const bool isOpen = m_store.isViewAllOpen();
@@ -90,12 +91,16 @@ void ViewAllController::show(const Screen &screen, bool isDragged)
         startWatchingOutsideClicks();
 }
 
-/// In every render that shows the bar, so that no click on the shelf takes the keys away from it.
-/// From another program only when it opens: what arrives later, such as a picture, takes it from
-/// nobody who went on typing elsewhere. Never from a drag, whose source may end it on losing the
-/// keyboard, nor at its end: what was dropped on goes on. And not where the bar was left open and
-/// comes back by itself, with a shelf that the screen's edge summoned, say: what is typed then is
-/// for the program behind, and would remove what is ticked.
+/// Called in every render that shows the bar for a user who wanted it, so that a click on the shelf
+/// does not take the keys away from the bar.
+///
+/// When the bar opens it takes the keyboard from any program. In later renders, which for example
+/// an arriving thumbnail causes, it takes it only from our own panels: the user may have gone on
+/// typing elsewhere. It is not called during a drag or at its end, because a drag's source may
+/// cancel the drag when it loses the keyboard, and because the user goes on in the program that was
+/// dropped on. It is not called either when the shelf came back by itself, at the screen's edge,
+/// with a bar that was left open: keys are meant for the program behind, and here Delete would
+/// remove the selected items.
 void ViewAllController::takeKeyboard(bool wasShown)
 {
     if (wasShown)
@@ -130,7 +135,7 @@ void ViewAllController::hide()
 void ViewAllController::scroll(int step)
 {
     m_offset = std::max(0, checkedAdd(m_offset, step));
-    // By value: rendering writes it.
+    // A copy: `render` takes a reference and assigns to `m_pillFrame`.
     render(QRectF(m_pillFrame), m_lastScreen.lock());
 }
 
@@ -142,7 +147,8 @@ void ViewAllController::startWatchingOutsideClicks()
 
 void ViewAllController::clickedElsewhere(std::optional<QPointF> place)
 {
-    // Where nobody tells where it was, it is enough that another program had the click.
+    // A desktop may not tell where the click was; then it counts as elsewhere, because it was in
+    // another program.
     const bool isOurs
         = place && (contains(m_panel.frame(), *place) || contains(m_pillFrame, *place));
     if (isOurs || !m_store.isViewAllOpen())

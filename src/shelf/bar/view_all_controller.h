@@ -23,14 +23,14 @@ struct Feedback;
 ///     hidden --render: open, a screen, 2 items--> shown: in front, takes clicks, watches clicks
 ///     shown  --render: one of them missing------> hidden: takes no clicks, at its first page
 ///
-/// It keeps no items; a bar that hides for want of items stays open as far as the store is
-/// concerned. Main thread only; everything in the context must outlive it.
+/// It keeps no items. When it hides because there are fewer than `minimumItems`, or no screen, the
+/// store still says that it is open. Main thread only; everything in the context must outlive it.
 class ViewAllController : public ViewAllBar {
 public:
     static constexpr QRectF initialFrame{0, 0, 600, view_all_layout::barHeight};
-    /// Of the screen's width.
+    /// The bar's width as a share of the screen's.
     static constexpr double widthShare = 0.8;
-    /// Between the shelf and the bar.
+    /// In points, between the shelf and the bar.
     static constexpr double gap = 10;
     static constexpr int minimumItems = 2;
 
@@ -72,14 +72,16 @@ private:
     QRectF m_pillFrame;
     std::weak_ptr<const Screen> m_lastScreen;
     Subscription m_clickWatch;
-    /// Something was being dragged when the bar was last rendered.
+    /// Whether something was being dragged when the bar was last rendered.
     bool m_sawDrag = false;
     bool m_sawOpen = false;
-    /// The next render is what the user's hand has brought about.
+    /// The user has just opened or closed the shelf by a hot key or a menu; the next render follows
+    /// from that.
     bool m_isByHand = false;
-    /// The bar is shown because the user wanted it, not because it was left open.
+    /// The user opened the bar, or the shelf above it, or pressed the shelf: keys are meant for the
+    /// bar. Not so when it was left open and the shelf came back by itself.
     bool m_isWanted = false;
-    // Whatever was handed out does nothing once the controller is gone.
+    // Callbacks that were handed out do nothing once the controller is gone.
     Lifetime m_lifetime;
 };
 

@@ -19,20 +19,20 @@ namespace corvane {
 class DropItem;
 struct Theme;
 
-/// The layers of the view-all bar. What a layout says applies at once: nothing in the bar moves by
-/// itself. The tree and the theme must outlive it.
+/// The layers of the view-all bar. A layout is applied at once, without motion. The tree and the
+/// theme must outlive it.
 class ViewAllLayers {
 public:
     static constexpr double cornerRadius = 20;
 
     ViewAllLayers(LayerTree &tree, const Theme &theme);
 
-    /// `page` are the items shown, one for each tile of the layout. Tiles are kept from page to
-    /// page: the missing ones are made, those at the end that are too many go.
+    /// `page` are the items shown, one for each tile of the layout. Layers of tiles are reused from
+    /// page to page; missing ones are made, and superfluous ones removed at the end.
     void apply(const ViewAllLayout &layout, std::span<const DropItem> page);
     std::size_t tileCount() const { return m_tiles.size(); }
     void render(QPainter &painter, double scale);
-    /// The ground and what lies on it, which contain all other layers.
+    /// The background and the layer with the content; together they contain all other layers.
     std::array<const Layer *, 2> roots() const { return {m_glass.get(), &m_contentHost}; }
 
     static QPainterPath outline(const QRectF &bounds);
@@ -54,7 +54,7 @@ private:
     TextLayer m_selectAllLabel;
     IconLayer m_copyButton;
     IconLayer m_trashButton;
-    // After the layer that contains them.
+    // Last, so that tiles are destroyed before the layer that contains them.
     std::vector<std::unique_ptr<ViewAllTile>> m_tiles;
 };
 

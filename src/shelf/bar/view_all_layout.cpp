@@ -14,7 +14,7 @@ namespace {
 constexpr double tileWidth = 80;
 constexpr double tileGap = 10;
 constexpr double tileStep = tileWidth + tileGap;
-/// At either end, for an arrow.
+/// The space at either end of the row of tiles, for an arrow.
 constexpr double sideMargin = 46;
 constexpr double edgeMargin = 14;
 constexpr double topMargin = 12;
@@ -34,7 +34,7 @@ ViewAllLayout::Tile layOutTile(const ViewAllState::Tile &tile, double x, const V
     layout.ring = grown(layout.thumb, 2, 2);
     layout.check = {52, y + 44, checkSide, checkSide};
     layout.caption = {2, y - 17, 76, 13};
-    // What is not selected is dimmed: the selection reads at a glance.
+    // Items that are not selected are dimmed, so that the selection is seen at a glance.
     layout.thumbOpacity = tile.isSelected ? 1 : 0.38;
     layout.ringOpacity = tile.isHovered ? 1 : 0;
     layout.isChecked = tile.isSelected;
@@ -78,7 +78,7 @@ void layOutArrows(ViewAllLayout &layout, const ViewAllState &state)
     layout.rightArrow
         = layOutArrow(state.size.width() - edgeMargin - arrowSide, y, shownEnd < state.itemCount,
                       state.hoveredControl == ViewAllControl::Forward);
-    // Also while they are off: the step that a press sends comes to nothing.
+    // Also while an arrow is disabled: the step that a press then sends changes nothing.
     hit(layout, ViewAllControl::Back) = grown(layout.leftArrow.frame, 6, 8);
     hit(layout, ViewAllControl::Forward) = grown(layout.rightArrow.frame, 6, 8);
 }
@@ -107,7 +107,7 @@ void layOutActions(ViewAllLayout &layout, const ViewAllState &state)
     layout.copyButton
         = {QRectF(copyX, 11, buttonSide, buttonSide), buttonOpacity(state, ViewAllControl::Copy)};
 
-    // Box and label are one target.
+    // The checkbox and its label are one target.
     hit(layout, ViewAllControl::SelectAll) = {10, 7, labelSize.width() + checkSide + 12, 26};
     hit(layout, ViewAllControl::Copy) = grown(layout.copyButton.frame, 6, 6);
     hit(layout, ViewAllControl::Trash) = grown(layout.trashButton.frame, 6, 6);

@@ -18,7 +18,7 @@ constexpr std::array<ViewAllControl, 5> allViewAllControls{
     ViewAllControl::Back, ViewAllControl::Forward, ViewAllControl::SelectAll, ViewAllControl::Copy,
     ViewAllControl::Trash};
 
-/// Everything that the bar's layout follows from.
+/// Everything that determines the bar's layout.
 struct ViewAllState {
     struct Tile {
         bool isSelected = false;
@@ -26,17 +26,17 @@ struct ViewAllState {
     };
 
     QSizeF size;
-    /// Of all items and of those selected; and the index of the first one shown.
+    /// Numbers of all items and of the selected ones, and the index of the first item shown.
     int itemCount = 0;
     int selectedCount = 0;
     int offset = 0;
-    /// Of the items shown, in their order.
+    /// One for each item shown, in their order.
     std::vector<Tile> tiles;
     std::optional<ViewAllControl> hoveredControl;
 };
 
-/// Where everything in the view-all bar is and how bright. In points, in the bar's coordinates:
-/// origin at the lower left. A comparable value.
+/// Positions and opacities of everything in the view-all bar. In points, in the bar's coordinates:
+/// origin at the bottom left, y upward. A comparable value.
 struct ViewAllLayout {
     enum class Fill { Off, Normal, Hover };
     struct Arrow {
@@ -48,7 +48,7 @@ struct ViewAllLayout {
     };
     struct Tile {
         QRectF root;
-        // The rest in the root's coordinates.
+        // The others in coordinates of `root`.
         QRectF thumb;
         QRectF ring;
         QRectF check;
@@ -76,7 +76,8 @@ struct ViewAllLayout {
     QString selectionText;
     Button copyButton;
     Button trashButton;
-    /// One for each control in their order. They do not overlap.
+    /// The areas that react to clicks, one for each control in the order of `allViewAllControls`.
+    /// They do not overlap.
     std::array<QRectF, 5> controlHits;
 
     friend bool operator==(const ViewAllLayout &, const ViewAllLayout &) = default;
@@ -90,9 +91,9 @@ constexpr double checkSide = 16;
 constexpr double arrowSide = 22;
 constexpr double buttonSide = 17;
 
-/// How many tiles fit into a bar of that width; at least 1.
+/// How many tiles fit into a bar of `width` points; at least 1.
 int itemsPerPage(double width);
-/// The nearest offset at which the bar still begins with an item and ends with one.
+/// The nearest offset that shows as many items as fit: 0 to `itemCount - itemsPerPage`, or 0.
 int clampedOffset(int offset, int itemCount, int itemsPerPage);
 /// The items shown: from `first` up to, but without, `end`.
 struct Range {
@@ -104,7 +105,8 @@ Range visibleRange(int offset, int itemCount, int itemsPerPage);
 ViewAllLayout layOut(const ViewAllState &state);
 
 std::optional<ViewAllControl> controlAt(const ViewAllLayout &layout, QPointF point);
-/// The tile in whose column the point is, the whole height of the bar.
+/// The index, among the tiles shown, of the tile in whose column the point is; a column is as high
+/// as the bar.
 std::optional<std::size_t> tileAt(const ViewAllLayout &layout, QPointF point);
 
 } // namespace view_all_layout

@@ -23,7 +23,7 @@ constexpr double ringWidth = 1;
 constexpr double glyphSize = 30;
 constexpr double glyphInset = 0.15;
 
-/// The picture, fitted, cut to the tile's rounded corners.
+/// The picture, fitted into a square of `side` points and cut to the tile's rounded corners.
 QImage tileContents(const QImage &picture, double side, double scale)
 {
     QImage square = fitted(picture, {side, side}, 0, scale);
@@ -55,7 +55,8 @@ QImage checkWithShadow(bool isChecked, double scale)
     QPainter painter(&bitmap);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    // Rings that lie on each other: each adds its share, the inner ones are covered by all.
+    // The shadow is built from overlapping rounded rectangles, each smaller than the one before, so
+    // that it is darkest in the middle.
     painter.setBrush(QColor::fromRgbF(0, 0, 0, 0.11F));
     for (int i = 0; i < rings; ++i) {
         const double spread = radius * (1 - 2.0 * i / (rings - 1));
@@ -90,7 +91,7 @@ ViewAllTile::ViewAllTile(LayerTree &tree, Layer &superlayer, const Theme &theme)
                          static_cast<Layer *>(&m_check), static_cast<Layer *>(&m_caption)})
         m_root.addSublayer(*layer);
     m_thumb.setCornerRadius(thumbCornerRadius);
-    // Seen behind glyphs, and beside pictures that are no squares.
+    // Visible behind glyphs, and beside pictures that are not square.
     m_thumb.setBackgroundColor(Theme::Palette::white(0.05));
     m_ring.setStroke(QPen(theme.palette.thumbRing, ringWidth));
     m_ring.setOpacity(0);

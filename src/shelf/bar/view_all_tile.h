@@ -10,8 +10,8 @@ namespace corvane {
 class DropItem;
 struct Theme;
 
-/// The layers of one item in the view-all bar. It keeps nothing of the item but its picture: what
-/// has left the shelf is free to go.
+/// The layers of one item in the view-all bar. It keeps only the item's picture, so that the memory
+/// of an item that has left the shelf is freed.
 class ViewAllTile {
 public:
     ViewAllTile(LayerTree &tree, Layer &superlayer, const Theme &theme);

@@ -46,7 +46,7 @@ void ViewAllView::apply(const QList<DropItem> &items, const QSet<QUuid> &selecti
     m_selection = &selection;
     m_offset = view_all_layout::clampedOffset(offset, itemCount(), itemsPerPage());
     relayout();
-    // The pointer may rest while the bar pages beneath it.
+    // The bar may have paged under a pointer that does not move.
     if (findHovered())
         relayout();
 }

@@ -26,14 +26,14 @@ class SavedPictures;
 struct Theme;
 
 /// The content of the view-all bar: a page of tiles between two arrows, above a row of actions. It
-/// shows what it is given, and turns what the user does into callbacks. A callback that is not set
-/// is skipped.
+/// shows what `apply` is given, and turns what the user does into callbacks. A callback that is not
+/// set is skipped.
 ///
 ///     idle --press on a tile--> pressed --release--> toggled, idle
 ///                               pressed --3 points--> dragging --let go--> idle
 ///
-/// Nothing in it moves by itself: changes apply at once. It takes no drops. Main thread only;
-/// everything in the context must outlive the view.
+/// Changes are shown at once, without motion. It refuses drops. Main thread only; everything in the
+/// context must outlive the view.
 class ViewAllView : public PanelContent {
 public:
     static constexpr double preciseScrollStep = 34;
@@ -56,30 +56,30 @@ public:
     std::function<void()> onToggleSelectAll;
     std::function<void()> onCopySelected;
     std::function<void()> onRemoveSelected;
-    /// Items were dropped elsewhere, those alone whose contents have arrived there; `keep` when
-    /// Shift was held as they were let go.
+    /// Items were dropped elsewhere: those whose contents the target has. `keep` when Shift was
+    /// held as they were let go.
     std::function<void(const QList<QUuid> &ids, bool keep)> onEjected;
     /// -1 is back, 1 forward.
     std::function<void(int step)> onScroll;
     std::function<void()> onClose;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
-    /// What the user is told about a drag.
+    /// A message for the user about a drag.
     std::function<void(const QString &message)> onMessage;
 
-    /// Shows the page of `items` that begins at `offset`, or as near to it as there is one. The
-    /// list and the set are looked at again at every event, so they must stay where they are: a
-    /// copy would make the next change of any of many thousand items copy them all.
+    /// Shows the page of `items` that begins at `offset`, or the nearest one that exists. List and
+    /// set are not copied and are read again at every event, so they must stay where they are. With
+    /// a copy, the next change of one of many thousand items would copy them all.
     void apply(const QList<DropItem> &items, const QSet<QUuid> &selection, int offset);
-    /// Half-finished presses come to nothing, and keys that were typed before mean nothing, until
-    /// it shows something again.
+    /// To be called when the bar was hidden: ends a press that is going on, and ignores keys and
+    /// presses that still arrive, until `apply`.
     void wasHidden();
-    /// By the panel's present width.
+    /// How many tiles fit into the panel's present width.
     int itemsPerPage() const;
     int offset() const { return m_offset; }
     /// In the order of the items, not of their selection. Walks all items.
     QList<DropItem> selectedInOrder() const;
 
-    /// What is on the screen, for whoever wants to check it.
+    /// What is on the screen, for tests.
     const ViewAllLayout &layout() const { return m_layout; }
     std::optional<ViewAllControl> hoveredControl() const { return m_hoveredControl; }
     std::optional<QUuid> hovered() const { return m_hovered; }

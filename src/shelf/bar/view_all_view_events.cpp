@@ -11,8 +11,8 @@
 
 namespace corvane {
 
-/// False when what is under the pointer is what was. While it is on a control the tile that it came
-/// from stays the hovered one.
+/// Updates what is under the pointer; false when that did not change. On a control the tile that
+/// the pointer was on before counts as hovered still.
 bool ViewAllView::findHovered()
 {
     std::optional<ViewAllControl> control;
@@ -54,7 +54,7 @@ void ViewAllView::mouseExited()
 
 void ViewAllView::mouseDown(const MouseEvent &event)
 {
-    // Pressed before it was hidden, and told only now.
+    // The press was made before the bar was hidden, and arrives only now.
     if (!m_isShown)
         return;
     m_context.panel.makeKey();
@@ -89,7 +89,7 @@ void ViewAllView::press(ViewAllControl control) const
 
 void ViewAllView::wireDragSource()
 {
-    // It is part of the view and goes with it.
+    // No guard is needed: the drag source is a member and is destroyed with the view.
     m_dragSource.onChanged = [this](bool isDraggingOut) { call(onDragOutChanged, isDraggingOut); };
     m_dragSource.onEjected
         = [this](const QList<QUuid> &ids, bool keep) { call(onEjected, ids, keep); };
@@ -131,7 +131,7 @@ Image ViewAllView::dragImage(const DropItem &grabbed, const QList<DropItem> &ite
         if (cards.size() < drag_stack::maximumCards)
             cards.push_back(m_context.dragWriter.dragImage(item, side, m_scale));
     };
-    // What was grabbed lies on top, if it travels.
+    // The item that was grabbed lies on top, unless it cannot be dragged.
     const bool hasGrabbed = std::any_of(items.begin(), items.end(), [&](const DropItem &item) {
         return item.id() == grabbed.id();
     });
@@ -175,7 +175,7 @@ bool ViewAllView::keyDown(const KeyEvent &event)
     default:
         return false;
     }
-    // All of them remove or toggle: once for each press.
+    // All of these keys remove or toggle something: not again for a held key's repeats.
     if (!event.isRepeat)
         pressKey(event.key);
     return true;

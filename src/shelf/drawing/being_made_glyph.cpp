@@ -13,7 +13,8 @@ namespace corvane {
 namespace {
 
 constexpr double glyphOpacity = 0.34;
-/// Of the glyph's side.
+/// As shares of the glyph's side: a dot's radius, the distance from dot to dot, and how far the
+/// dots are below the glyph.
 constexpr double dotShare = 0.105;
 constexpr double dotStepShare = 0.28;
 constexpr double dotDropShare = 0.2;
@@ -28,7 +29,7 @@ QImage beingMadeGlyph(double side, double glyphSide, const Theme &theme, double 
     painter.setPen(Qt::NoPen);
     const double dot = std::fmax(glyphSide * dotShare, 1);
     const double drop = glyphSide * dotDropShare;
-    // Glyph and dots together stand in the middle.
+    // Glyph and dots are centred together.
     const double top = std::round((side - glyphSide - drop) / 2);
     const double left = (side - glyphSide) / 2;
     painter.drawImage(QPointF(left, top),

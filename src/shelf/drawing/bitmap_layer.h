@@ -8,15 +8,17 @@
 
 namespace corvane {
 
-/// A layer that shows a bitmap in its middle, pixel by pixel on the display's own grid.
+/// A layer that shows a bitmap in its middle, unscaled, aligned to whole device pixels.
 class BitmapLayer : public Layer {
 public:
-    /// Makes the bitmap for a number of pixels per point, which is also the bitmap's own ratio.
+    /// Makes the bitmap for `scale` pixels per point; it must have `scale` as its device pixel
+    /// ratio.
     using Contents = std::function<QImage(double scale)>;
 
     using Layer::Layer;
 
-    /// `key` names the contents: equal keys mean equal contents, and nothing is made again.
+    /// `key` identifies the contents: with the key that is set already nothing changes, and the
+    /// bitmap is kept.
     void setContents(const QString &key, Contents contents);
     QString key() const { return m_key; }
     const Contents &contents() const { return m_contents; }

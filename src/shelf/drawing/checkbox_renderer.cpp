@@ -11,7 +11,7 @@ namespace {
 
 void paint(QPainter &painter, const QRectF &square, bool checked)
 {
-    // The line stays inside the square; a dark ground keeps it legible on any picture.
+    // The line lies inside the square. A dark fill keeps it visible on any picture.
     const QRectF box = square.adjusted(0.75, 0.75, -0.75, -0.75);
     const double radius = square.width() * 0.26;
     painter.setPen(checked ? QPen(Qt::NoPen) : QPen(QColor::fromRgbF(1, 1, 1, 0.72F), 1.25));

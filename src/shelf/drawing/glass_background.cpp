@@ -13,7 +13,7 @@ std::unique_ptr<GlassBackground> GlassBackground::make(LayerTree &tree, double c
 
 void GlassBackground::draw(QPainter &painter, QSizeF size, double /*scale*/) const
 {
-    // The edge is a line of one point that lies inside the ground.
+    // The edge line is one point wide and lies inside the background.
     const QRectF edge = QRectF({0, 0}, size).adjusted(0.5, 0.5, -0.5, -0.5);
     const double radius = std::max(0.0, presentedCornerRadius() - 0.5);
     painter.setPen(QPen(QColor::fromRgbF(1, 1, 1, 0.13F), 1));

@@ -6,8 +6,8 @@
 
 namespace corvane {
 
-/// The ground of a floating bar: nearly opaque black with a thin bright edge, legible on any
-/// wallpaper whether or not the desktop blends windows.
+/// The background of a floating bar: nearly opaque black with a thin bright edge, which can be read
+/// on any wallpaper, with and without a compositing manager.
 class GlassBackground : public Layer {
 public:
     static std::unique_ptr<GlassBackground> make(LayerTree &tree, double cornerRadius);

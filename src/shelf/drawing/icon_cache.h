@@ -12,8 +12,8 @@ class QPainter;
 
 namespace corvane {
 
-/// Bitmaps of icons, each made once. Its arguments come from code, never from outside, so there are
-/// few and none is dropped.
+/// Bitmaps of icons, each made once and never dropped: keys come from code, never from outside, so
+/// there are few. Main thread only.
 class IconCache {
 public:
     struct Key {
@@ -33,7 +33,8 @@ public:
             return left.tied() < right.tied();
         }
     };
-    /// Paints into a square (y upward) of the key's point size less its inset on each side.
+    /// Paints into the square that is the key's point size less its inset on each side; in points,
+    /// y upward.
     using Paint = std::function<void(QPainter &, const QRectF &square)>;
 
     QImage image(const Key &key, const Paint &paint);

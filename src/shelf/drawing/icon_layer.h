@@ -12,7 +12,8 @@ public:
 
     using BitmapLayer::BitmapLayer;
 
-    /// `side` and `inset` are those of the icon's bitmap.
+    /// `side` is the bitmap's, `inset` the free space inside it on each side, `weight` the line's
+    /// width; all in points.
     void setIcon(StrokeIcon icon, double side, double inset, const QColor &tint,
                  double weight = controlWeight);
 };

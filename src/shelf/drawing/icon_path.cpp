@@ -33,7 +33,7 @@ QPainterPath lensOutline(QPointF centre, double halfWidth, double halfHeight)
 {
     const QPointF left(centre.x() - halfWidth, centre.y());
     const QPointF right(centre.x() + halfWidth, centre.y());
-    // A cubic reaches three quarters of its control points' height.
+    // A symmetric cubic rises to three quarters of the height of its control points.
     const double reach = halfHeight / 0.75;
     const double along = halfWidth * 0.42;
     QPainterPath path(left);
@@ -71,7 +71,8 @@ double turning(const QPainterPath &path)
 
 void IconPath::append(const QPainterPath &outline, Turn turn)
 {
-    // Filled by winding: what turns one way adds, what turns the other way takes out.
+    // The path is filled by the winding rule: outlines that turn one way add, those that turn the
+    // other way cut out.
     const bool turnsLeft = turning(outline) > 0;
     const QPainterPath path = turnsLeft == (turn == Turn::Added) ? outline : outline.toReversed();
     for (int i = 0; i < path.elementCount(); ++i) {

@@ -14,12 +14,13 @@ struct PathCommand {
     enum class Kind { Move, Line, Quad, Curve, Close };
 
     Kind kind = Kind::Close;
-    /// The end point is the last one used; control points stand before it.
+    /// `Move` and `Line` use one point, `Quad` two, `Curve` three, `Close` none. The last used one
+    /// is the end point; control points stand before it.
     std::array<QPointF, 3> points{};
 };
 
-/// Builds the outline of a filled icon. What is added overlaps into one shape, what is cut is taken
-/// out of it once.
+/// Builds the outline of a filled icon, in unit coordinates. Shapes that are added unite; a shape
+/// that is cut is removed from them.
 class IconPath {
 public:
     IconPath &roundedRect(const QRectF &rect, double radius);
@@ -29,7 +30,8 @@ public:
     IconPath &line(const std::vector<QPointF> &points, double width);
     IconPath &polygon(const std::vector<QPointF> &points);
     IconPath &cutPolygon(const std::vector<QPointF> &points);
-    /// A lens with its points left and right of the centre, as wide as twice `halfWidth`.
+    /// A lens shape with its points left and right of the centre, 2 `halfWidth` wide and 2
+    /// `halfHeight` high.
     IconPath &lens(QPointF centre, double halfWidth, double halfHeight);
     IconPath &cutLens(QPointF centre, double halfWidth, double halfHeight);
 
@@ -42,7 +44,7 @@ private:
     std::vector<PathCommand> m_commands;
 };
 
-/// The commands with every unit point (u, v) at (minX + u width, minY + v height) of `rect`.
+/// The commands as a path in `rect`: unit point (u, v) becomes (minX + u width, minY + v height).
 QPainterPath pathFromCommands(const std::vector<PathCommand> &commands, const QRectF &rect);
 
 } // namespace corvane

@@ -21,12 +21,12 @@ class LayerAnimator;
 /// A rectangle that is painted into the panel, with layers of its own inside.
 ///
 /// Setters set the model value, which is what getters give; what is painted follows it with the
-/// motion that the delegate gives for the property, or at once without one. What has never been
-/// painted, or cannot be seen, does not move: it is simply where it belongs. Coordinates are those
-/// of the layer that contains this one, origin at its bottom left.
+/// motion that the delegate gives for the property, or at once without one. A layer that was never
+/// painted takes new values at once, and so does a transparent one, but for its opacity.
+/// Coordinates are those of the layer that contains this one, origin at its bottom left.
 class Layer {
 public:
-    /// A shift, after which the layer is painted; it changes no layout.
+    /// A shift that is added when the layer is painted; frame and layout do not change.
     struct Transform {
         double dx = 0;
         double dy = 0;
@@ -39,18 +39,18 @@ public:
     Layer &operator=(const Layer &) = delete;
     virtual ~Layer();
 
-    /// Sublayers are painted in this order, above the layer itself. They take themselves out when
-    /// they end.
+    /// Sublayers are painted in the order of adding, above the layer itself. A sublayer removes
+    /// itself when it is destroyed.
     void addSublayer(Layer &layer);
     const std::vector<Layer *> &sublayers() const { return m_sublayers; }
     void setDelegate(const LayerAnimator *delegate) { m_delegate = delegate; }
 
     QSizeF bounds() const { return m_bounds; }
     void setBounds(QSizeF size);
-    /// Where the anchor point stands.
+    /// Where the anchor point is, in the superlayer's coordinates.
     QPointF position() const { return m_position; }
     void setPosition(QPointF position);
-    /// In fractions of the bounds; the centre unless set.
+    /// In fractions of the bounds; (0.5, 0.5), the centre, unless set.
     void setAnchorPoint(QPointF anchor) { m_anchor = anchor; }
     QRectF frame() const;
     void setFrame(const QRectF &frame);
@@ -66,11 +66,10 @@ public:
     void setClipsSublayers(bool clips) { m_clipsSublayers = clips; }
     bool clipsSublayers() const { return m_clipsSublayers; }
 
-    /// The next change moves although nothing was painted yet, as if the present values had been
-    /// seen.
+    /// Makes the next change move even though the layer has not been painted yet.
     void setMovesBeforePainted() { m_wasPainted = true; }
 
-    /// Where the layer is painted now: its frame on its way, shifted by the transform.
+    /// The frame in which the layer is painted now, with motions and transform applied.
     QRectF presentedFrame() const;
     Transform presentedTransform() const;
     double presentedOpacity() const;
@@ -84,8 +83,8 @@ protected:
 
     virtual void draw(QPainter &painter, QSizeF size, double scale) const;
 
-    /// Starts a motion from what is painted now, or ends one, for a model value that has just
-    /// changed from `before`.
+    /// To be called after a model value has changed from `before` to `now`: starts a motion from
+    /// the value that is painted now, or ends one.
     void changed(Key key, const MovingValue::Components &before,
                  const MovingValue::Components &now);
     MovingValue::Components presented(Key key, const MovingValue::Components &model) const;

@@ -78,7 +78,7 @@ void LayerTree::frame()
 {
     m_frameTime = m_queue.now();
     std::erase_if(m_moving, [](Layer *layer) { return !layer->dropFinishedMotions(); });
-    // What just ended still has to be painted where it came to rest.
+    // One more repaint, because motions that have just ended must be painted at their ends.
     if (m_moving.empty())
         m_timer.reset();
     if (onNeedsDisplay)

@@ -15,9 +15,10 @@ class MotionPreference;
 /// Keeps the layers of one panel moving, at the display's rate and only while something moves.
 ///
 /// Layers change at once or with a motion; the tree asks for a repaint after a change and, while
-/// motions run, once a frame. The frame time stands still between frames, so that everything that
-/// changes together moves together. A motion starts one frame in the past: the first picture of it
-/// already shows it moved. References must outlive the tree, and the tree its layers.
+/// motions run, once a frame. The frame time does not advance between frames, so that all changes
+/// of one turn move in step. A motion that starts while nothing moves is dated one frame back, so
+/// that its first frame already shows it moved. References must outlive the tree, and the tree its
+/// layers. Main thread only.
 class LayerTree {
 public:
     LayerTree(MainQueue &queue, const MotionPreference &preference);
@@ -28,16 +29,16 @@ public:
     /// Called when a repaint is due: after changes, and for every frame of a motion.
     std::function<void()> onNeedsDisplay;
 
-    /// Seconds from frame to frame.
+    /// The time from frame to frame, in seconds; 1/60 unless set.
     void setFrameInterval(double seconds);
     double frameTime() const { return m_frameTime; }
     bool isMoving() const { return m_timer != nullptr; }
-    /// Counts every change of what is painted, but not the frames of motions.
+    /// Increases with every change of what is painted, but not with the frames of motions.
     std::uint64_t version() const { return m_version; }
-    /// Whether a shift of this layer as a whole is all that moves.
+    /// Whether the only motion going on is this layer's transform.
     bool onlyShifts(const Layer &layer) const;
 
-    /// While one lives, changes apply at once.
+    /// While one of these exists, changes are applied without motion.
     class WithoutMotion {
     public:
         explicit WithoutMotion(LayerTree &tree);
@@ -52,10 +53,10 @@ public:
 private:
     friend class Layer;
 
-    /// False while motions are off, for a moment or by the user's wish.
+    /// False while a `WithoutMotion` exists, or the user has asked for less motion.
     bool allowsMotion() const;
     void needsDisplay();
-    /// The time at which a motion that is made now starts.
+    /// The start time for a motion that begins now.
     double motionStart();
     void startedMoving(Layer &layer);
     void layerGone(Layer &layer);

@@ -18,8 +18,8 @@ MovingValue::MovingValue(Motion motion, Components from, Components velocity, Co
         m_duration = std::get<SpringMotion>(m_motion).spring.settlingDuration();
 }
 
-/// Calls `use` with value and velocity of each component in turn. What depends on the time alone is
-/// found once: a path has many components.
+/// Calls `use` with value and velocity of each component in turn. The parts that depend on the time
+/// only are calculated once, because a path has many components.
 template<typename Use>
 void MovingValue::sample(double time, Use use) const
 {
@@ -39,8 +39,9 @@ void MovingValue::sample(double time, Use use) const
         return;
     }
 
-    // The curve has a start velocity of its own. What the value had beyond it is added as a bump
-    // that is 0 at both ends, has that slope at the start and none at the end: d s (1 - s)^2.
+    // The curve has a start velocity of its own. The rest of the value's velocity is added as a
+    // cubic that is 0 at both ends, with that slope at the start and slope 0 at the end: d s (1 -
+    // s)^2.
     const TimingCurve &curve = std::get<CurveMotion>(m_motion).curve;
     const double s = elapsed / m_duration;
     const double progress = curve.progress(s);

@@ -8,14 +8,14 @@
 
 namespace corvane {
 
-/// Springs from where the value is, for as long as the spring takes to settle.
+/// Follows a spring from the present value, until the spring has settled.
 struct SpringMotion {
     Spring spring;
 
     friend bool operator==(const SpringMotion &, const SpringMotion &) = default;
 };
 
-/// Follows a timing curve for a fixed time.
+/// Follows a timing curve for `duration` seconds.
 struct CurveMotion {
     double duration = 0;
     TimingCurve curve;
@@ -26,9 +26,10 @@ struct CurveMotion {
 /// How a changed value gets to its new place.
 using Motion = std::variant<SpringMotion, CurveMotion>;
 
-/// One value on its way: any number of components, moved together.
+/// A value that is moving: any number of components, moved together.
 ///
-/// A motion may be given a new target at any moment: position and velocity go on without a jump.
+/// To give it a new target, make another one from its present value and velocity; the motion then
+/// goes on without a jump.
 class MovingValue {
 public:
     using Components = std::vector<double>;

@@ -96,7 +96,7 @@ IconPath textLines()
 
 IconPath chain()
 {
-    // Two hooks that open towards each other, and the bar that holds them, on the diagonal.
+    // On the diagonal: two hooks that open towards each other, and the bar between them.
     const auto onDiagonal = [](double along, double across) {
         const double c = std::numbers::sqrt2 / 2;
         return QPointF(0.5 + c * (along - across), 0.5 + c * (along + across));

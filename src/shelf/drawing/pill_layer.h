@@ -5,8 +5,8 @@
 
 namespace corvane {
 
-/// The body's outline, filled or stroked: a shape layer whose path is the pill of its bounds, and
-/// whose colours stay. While it changes its size it is put together from its corners and edges.
+/// The body's outline, filled or stroked: a shape layer whose path is `pillPath` of its bounds and
+/// whose colours do not change. While it changes its size it is painted as a `SlicedPicture`.
 class PillLayer : public ShapeLayer {
 public:
     explicit PillLayer(LayerTree &tree);

@@ -4,7 +4,8 @@ namespace corvane {
 
 QPainterPath pillPath(QSizeF size, double cornerRadius)
 {
-    // How far the control points of a cubic lie along the tangents of a quarter circle of radius 1.
+    // The length of the tangents of a cubic that draws a quarter circle of radius 1: 4/3 (sqrt 2 -
+    // 1).
     constexpr double quarter = 0.5522847498307936;
     const double w = size.width();
     const double h = size.height();

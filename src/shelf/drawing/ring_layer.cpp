@@ -18,7 +18,8 @@ QPen dashedPen(const QColor &color)
     return pen;
 }
 
-/// Goes along the ring, and knows how far it has come: that says where dashes begin.
+/// Paints the ring part by part, and keeps the distance covered so far, which decides where dashes
+/// begin.
 class DashWalk {
 public:
     DashWalk(QPainter &painter, const QColor &color, double scale)
@@ -29,7 +30,8 @@ public:
         , m_pen(dashedPen(color))
         , m_color(color)
     {
-        // As much of the colour as the line has on pixels that it covers in part.
+        // The line is rounded to whole pixels; its opacity is changed so that it looks as bright as
+        // one that covers pixels in part.
         m_color.setAlphaF(static_cast<float>(std::min(1.0, color.alphaF() * scale / m_pixels)));
     }
 
@@ -124,7 +126,8 @@ void RingLayer::drawDashes(QPainter &painter, QSizeF size, double scale) const
     const double right = line.right();
     const double low = line.top();
     const double high = line.bottom();
-    // In the order of a path's rounded rectangle, whose dashes these are.
+    // In the order of `QPainterPath::addRoundedRect`, so that dashes lie as if that path were
+    // stroked.
     DashWalk walk(painter, m_line, scale);
     walk.corner({left, low}, r, 180);
     walk.straight({left + r, low}, {right - r, low});

@@ -4,17 +4,20 @@
 
 namespace corvane {
 
-/// A dashed line with round corners along its bounds. The dashes of the straight parts are filled
-/// on whole pixels: a rasteriser takes longer for each thin dash than for a large area. Where there
-/// is no room for straight parts it is the shape layer that it is.
+/// A dashed line with round corners inside its bounds. Dashes of the straight parts are filled as
+/// rectangles of whole pixels, because a rasteriser takes longer for many thin dashes than for one
+/// large area. Where the bounds leave no room for straight parts, the path is stroked as in any
+/// shape layer.
 class RingLayer : public ShapeLayer {
 public:
     using ShapeLayer::ShapeLayer;
 
+    /// Lengths in points.
     static constexpr double dash = 5;
     static constexpr double gap = 4;
 
-    /// The path of the line, which lies inside the bounds, and the line itself.
+    /// Sets the path, for the present bounds, and the dashed line's colour. `cornerRadius` in
+    /// points.
     void setRing(double cornerRadius, const QColor &line);
 
     /// What `draw` paints where there are straight parts.

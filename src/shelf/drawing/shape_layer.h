@@ -6,8 +6,8 @@
 
 namespace corvane {
 
-/// A layer that is a path, filled, stroked or both. A path moves point by point into one of the
-/// same build; into any other it changes at once.
+/// A layer that shows a path, filled, stroked or both. A new path with the same sequence of
+/// elements is moved to point by point; any other is shown at once.
 class ShapeLayer : public Layer {
 public:
     using Layer::Layer;

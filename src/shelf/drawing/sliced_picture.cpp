@@ -11,7 +11,8 @@ namespace corvane {
 
 namespace {
 
-/// Points between the corners of what is painted; one pixel of them is looked at.
+/// In points: the straight part between the corners of the picture that is made. One pixel of it is
+/// used.
 constexpr double between = 6;
 
 void fill(QPainter &painter, const QRect &pixels, QRgb color)
@@ -37,7 +38,7 @@ void SlicedPicture::make(double scale)
     m_scale = scale;
     m_outside = static_cast<int>(std::ceil(scale));
     const auto pixels = [&](double points) {
-        // What is antialiased at the end of a corner belongs to it.
+        // One more pixel for the antialiased end of the corner.
         return m_outside + static_cast<int>(std::ceil(points * scale)) + 1;
     };
     m_cut = {pixels(m_corners.left()), pixels(m_corners.top()), pixels(m_corners.right()),
@@ -46,7 +47,7 @@ void SlicedPicture::make(double scale)
     m_picture = transparentBitmap(size + QSizeF(2 * margin, 2 * margin), scale);
     QPainter painter(&m_picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Its upper edge lies on a pixel's, as the screen's does.
+    // The upper edge of the shape is on a pixel boundary, as it is at the screen's edge.
     painter.translate(margin, margin + size.height());
     painter.scale(1, -1);
     m_paint(painter, size);
@@ -97,7 +98,8 @@ void SlicedPicture::drawEdges(QPainter &painter, const QRect &outer) const
 {
     const QSize all = m_picture.size();
     const QRect middle = outer.adjusted(m_cut.left, m_cut.top, -m_cut.right, -m_cut.bottom);
-    // In each strip neighbours of one colour are filled at once, which is nearly all of it.
+    // In each strip, neighbouring columns or rows of one colour are filled at once; nearly all are
+    // of one.
     const QRect left(outer.left(), middle.top(), m_cut.left, middle.height());
     const QRect right(middle.right() + 1, middle.top(), m_cut.right, middle.height());
     const QRect top(middle.left(), outer.top(), middle.width(), m_cut.top);

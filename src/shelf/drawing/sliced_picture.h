@@ -10,20 +10,20 @@ class QPainter;
 
 namespace corvane {
 
-/// A shape with four corners that never change and straight edges between them. It is painted once,
-/// small, and put together from that for any size: a rasteriser takes longer for a thin line than
-/// for all that it encloses. It stands on whole pixels, as pictures do while they move.
+/// A shape with four fixed corners and straight edges between them. It is painted once, at a small
+/// size, and put together from that picture for any other, because a rasteriser takes longer for a
+/// thin outline than for filling what it encloses. Its place is rounded to whole device pixels.
 class SlicedPicture {
 public:
-    /// Paints the shape at a size, y upward, origin at its bottom left; a line may lie a point
-    /// outside.
+    /// Paints the shape at `size` points, y upward, origin at its bottom left. Its line may lie up
+    /// to one point outside.
     using Paint = std::function<void(QPainter &painter, QSizeF size)>;
 
-    /// `corners` says how far the corners reach from each side, in points, top and bottom as they
-    /// are seen.
+    /// `corners`: how far, in points, the corners reach inward from each side; top and bottom as
+    /// seen on the screen.
     SlicedPicture(QMarginsF corners, Paint paint);
 
-    /// False, and nothing painted, where the size has no room for the corners.
+    /// False, and nothing is painted, where `size` has no room for the corners.
     bool draw(QPainter &painter, QSizeF size, double scale);
 
 private:

@@ -8,8 +8,8 @@ namespace corvane {
 
 namespace {
 
-// Above this damping ratio the oscillating and the creeping solution lose their digits; the
-// critical one stands in for both.
+// When the damping ratio is nearer to 1 than this, the solutions for under- and overdamping lose
+// their digits, and the one for critical damping is used.
 constexpr double criticalMargin = 1e-6;
 
 } // namespace
@@ -71,11 +71,12 @@ double Spring::findSettlingDuration() const
     const auto isSettled = [this](double time) {
         return std::abs(after(time, {1, 0}).distance) <= settledDistance;
     };
-    // By then even the slowest part of the motion has died away, many times over.
+    // By this time even the slowest part of the motion is below e^-20.
     const double slowest
         = ratio > 1 ? frequency * (ratio - std::sqrt(ratio * ratio - 1)) : ratio * frequency;
     const double horizon = 20 / slowest;
-    // Fine enough to see every swing; the last unsettled sample brackets the moment.
+    // A step that no oscillation is missed by. The last unsettled sample and the next one enclose
+    // the moment.
     const double step = 0.02 / frequency;
     auto last = static_cast<long>(horizon / step);
     while (last > 0 && isSettled(static_cast<double>(last) * step))

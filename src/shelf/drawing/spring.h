@@ -2,13 +2,14 @@
 
 namespace corvane {
 
-/// A damped spring that pulls a value to its target.
+/// A damped spring that pulls a value to its target. Mass, stiffness and damping as in mass x'' +
+/// damping x' + stiffness x = 0, with seconds as the unit of time.
 struct Spring {
     double mass = 1;
     double stiffness = 1;
     double damping = 0;
 
-    /// How near to its target a spring counts as settled, for a way of length 1.
+    /// A spring counts as settled within this distance of its target, for a way of length 1.
     static constexpr double settledDistance = 0.001;
 
     struct State {
@@ -17,9 +18,10 @@ struct Spring {
         double velocity = 0;
     };
 
-    /// What `seconds` make of any start, as a sum of what they make of its two parts.
+    /// The motion after some seconds. It is linear in the start, so it is kept for the two basic
+    /// starts.
     struct Course {
-        /// Where a start at distance 1 and rest gets to, and one at distance 0 with velocity 1.
+        /// From distance 1 at rest, and from distance 0 with velocity 1.
         State ofDistance;
         State ofVelocity;
 
@@ -30,16 +32,16 @@ struct Spring {
         }
     };
 
-    /// The solution of mass x'' + damping x' + stiffness x = 0, for every damping. Many values that
-    /// move together share it.
+    /// Solves the equation for any damping. Values that move together share the result.
     Course after(double seconds) const;
-    /// Where a spring that starts in `from` is `seconds` later.
+    /// The state `seconds` after `from`.
     State after(double seconds, State from) const { return after(seconds).from(from); }
 
-    /// The first time after which a spring let go at distance 1 stays settled. Costs nothing when
-    /// the same spring is asked again on the same thread.
+    /// In seconds: from then on a spring that starts at distance 1 at rest stays settled. The last
+    /// answer of each thread is kept.
     double settlingDuration() const;
-    /// How far it goes beyond its target when it is let go at distance 1; 0 where it does not.
+    /// How far a spring that starts at distance 1 at rest goes beyond its target; 0 where it does
+    /// not.
     double overshoot() const;
 
     friend bool operator==(const Spring &, const Spring &) = default;

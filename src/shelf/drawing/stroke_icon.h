@@ -18,8 +18,8 @@ QString name(StrokeIcon icon);
 /// Appends the icon's strokes in unit coordinates, y upward.
 void appendPath(StrokeIcon icon, QPainterPath &path);
 
-/// The strokes, `weight` points wide, in a square of `pointSize` less `inset` on each side. Made
-/// once for each combination of arguments. Main thread only.
+/// The strokes, `weight` points wide, in a square of `pointSize` points less `inset` on each side,
+/// at `scale` pixels per point. Made once for each combination of arguments. Main thread only.
 QImage image(StrokeIcon icon, double pointSize, const QColor &tint, double inset, double weight,
              double scale);
 

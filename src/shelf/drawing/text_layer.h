@@ -9,8 +9,8 @@
 namespace corvane {
 
 /// A layer that shows one line of text, cut with an ellipsis where it does not fit. The text is
-/// plain: nothing in it is markup, and characters that could reorder or forge what is read are
-/// shown as what they are, a stranger's (see display_text.h).
+/// plain, without markup, and passes through `displayText`, which replaces characters that could
+/// change the order of what is read.
 class TextLayer : public Layer {
 public:
     using Layer::Layer;
@@ -23,7 +23,7 @@ public:
     void setColor(const QColor &color);
     Qt::Alignment alignment() const { return m_alignment; }
     void setAlignment(Qt::Alignment alignment);
-    /// Where a line that does not fit is cut; at its right end unless set.
+    /// Where a line that does not fit is cut; its right end unless set.
     Qt::TextElideMode elideMode() const { return m_elideMode; }
     void setElideMode(Qt::TextElideMode mode);
 
@@ -39,7 +39,7 @@ private:
     QColor m_color = Qt::white;
     Qt::Alignment m_alignment = Qt::AlignLeft;
     Qt::TextElideMode m_elideMode = Qt::ElideRight;
-    // The letters are drawn once and moved as a picture, sharp on whole pixels.
+    // The text is drawn once to a bitmap, which is then moved by whole pixels and so stays sharp.
     mutable QImage m_bitmap;
     mutable QSizeF m_bitmapBounds;
     mutable double m_bitmapScale = 0;

@@ -4,7 +4,7 @@ namespace corvane {
 
 namespace {
 
-// QFont takes whole pixels only, but points with a fraction.
+// `QFont` takes pixel sizes as integers only, point sizes with a fraction.
 QFont sized(QFont font, double pixels, QFont::Weight weight, double dotsPerInch)
 {
     constexpr double pointsPerInch = 72;

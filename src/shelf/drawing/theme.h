@@ -39,15 +39,15 @@ struct Theme {
     };
 
     struct Motion {
-        /// Response 0.25 s and damping ratio 0.7: stiffness (2 pi / 0.25)^2, damping 2 x 0.7 x its
-        /// root.
+        /// A spring with response 0.25 s and damping ratio 0.7: stiffness (2 pi / 0.25)^2, damping
+        /// 2 x 0.7 x sqrt(stiffness).
         static constexpr Spring spring() { return {1, 631.6546816697189, 35.18583772020568}; }
-        /// Of that spring, in seconds.
+        /// How long that spring takes to settle, in seconds.
         static double settlingDuration();
     };
 
-    /// Fonts are the desktop's general font, sized in device-independent pixels whatever
-    /// `logicalDotsPerInch` Qt counts font points by.
+    /// The fonts are `generalFont`, the desktop's general font, in sizes of device-independent
+    /// pixels. `logicalDotsPerInch` is the density by which Qt converts font points to pixels.
     Theme(const QFont &generalFont, double logicalDotsPerInch);
 
     Palette palette;

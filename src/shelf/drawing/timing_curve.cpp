@@ -19,7 +19,8 @@ double bezierSlope(double p1, double p2, double t)
     return 3 * s * s * p1 + 6 * s * t * (p2 - p1) + 3 * t * t * (1 - p2);
 }
 
-// The curve's parameter where its x is `time`; x grows with the parameter.
+// The curve's parameter where its x is `time`. Found by bisection, since x grows with the
+// parameter.
 double parameter(const TimingCurve &curve, double time)
 {
     double low = 0;
@@ -47,7 +48,8 @@ double TimingCurve::slope(double time) const
     const double t = parameter(*this, std::clamp(time, 0.0, 1.0));
     const double dx = bezierSlope(x1, x2, t);
     const double dy = bezierSlope(y1, y2, t);
-    // A control point on the start makes both vanish there; just beside it the ratio is right.
+    // If a control point equals the start, both derivatives vanish there; just beside it their
+    // ratio is right.
     if (std::abs(dx) < 1e-9)
         return bezierSlope(y1, y2, 1e-4) / bezierSlope(x1, x2, 1e-4);
     return dy / dx;

@@ -14,7 +14,7 @@ struct TimingCurve {
 
     /// Progress at `time`, both 0 to 1.
     double progress(double time) const;
-    /// Progress per time there.
+    /// The derivative of the progress at `time`.
     double slope(double time) const;
 
     friend bool operator==(const TimingCurve &, const TimingCurve &) = default;
