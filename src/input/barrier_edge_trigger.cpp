@@ -25,7 +25,7 @@ BarrierEdgeTrigger::BarrierEdgeTrigger(const Desktop &desktop)
     : m_desktop(desktop)
 {
     m_desktop.barriers.onEntered = [this] {
-        // A copy: it may replace itself.
+        // A copy: the callback may replace itself.
         if (const auto entered = onEntered)
             entered();
     };

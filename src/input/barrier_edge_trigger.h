@@ -9,12 +9,13 @@ class MouseButtons;
 class Pointer;
 class PointerBarriers;
 
-/// The top edge on desktops that tell everything: where the pointer is, which buttons are held,
-/// which windows have a screen for themselves, and when the pointer is pushed against the edge.
-/// Main thread only; what it is given must outlive it.
+/// Notices the pointer at a screen's top edge on desktops that report the pointer's place, the
+/// buttons held, full-screen windows, and the pointer being pushed against the edge. Main thread
+/// only; what it is given must outlive it.
 class BarrierEdgeTrigger : public EdgeTrigger {
 public:
-    /// Points below the edge that still count as being there: a resting hand trembles.
+    /// In points: so far below the edge the pointer still counts as being there, because a resting
+    /// hand trembles.
     static constexpr double edgeDepth = 3;
 
     struct Desktop {

@@ -54,7 +54,7 @@ void DragMonitor::mouseDragged()
     m_pasteboardBaseline = count;
     m_isDragging = true;
     beginPolling();
-    // A copy: the callback may destroy the monitor, and itself with it.
+    // A copy: the callback may destroy the monitor, and with it the function that is running.
     if (const auto began = onDragBegan)
         began();
 }
@@ -81,7 +81,8 @@ void DragMonitor::finishDrag()
 
 void DragMonitor::settle()
 {
-    // Only now: what changes the pasteboard while a drop is delivered is no new drag.
+    // Not before now: sources may change the pasteboard while a drop is delivered, which is no new
+    // drag.
     m_pasteboardBaseline = m_pasteboard.changeCount();
     if (const auto ended = onDragEnded)
         ended();

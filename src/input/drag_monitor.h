@@ -16,16 +16,17 @@ namespace corvane {
 class DragPasteboard;
 class MouseButtons;
 
-/// Notices drags on desktops that tell everything: pointer, buttons and who carries contents.
+/// Notices drags on desktops that report the pointer, its buttons and changes of the drag
+/// pasteboard for all programs.
 ///
 /// No window system announces a drag between two other programs. What can be seen is the pointer
 /// moving with its left button held and, when contents are carried, the drag pasteboard changing.
-/// Both together are a drag; the first alone is a text selection or a window being moved. Nor does
-/// anybody tell of the release over another program's window, so the button is asked for.
+/// Both together are a drag; the first alone is a text selection or a window being moved. The
+/// release over another program's window is not reported either, so the button is polled.
 ///
-/// Contents may also change with no drag to follow: one with the right button, or one that was let
-/// go of before its source was ready. So what changed before the left button went down counts for
-/// nothing.
+/// The pasteboard may also change without a drag that we should notice: for a drag with the right
+/// button, or for one that was let go before its source was ready. So only changes after the left
+/// button went down count.
 ///
 ///     Watching --dragged event, pasteboard changed--> Dragging --button seen up--> Settling
 ///        ^                                               ^                            |  |
@@ -36,9 +37,10 @@ class MouseButtons;
 /// comes. Main thread only; the references must outlive the monitor.
 class DragMonitor : public DragWatch {
 public:
-    /// Seconds between two looks at the button.
+    /// In seconds, between two polls of the button.
     static constexpr double pollInterval = 0.05;
-    /// Seconds that a drop is given to reach its target, which may be us, after the release.
+    /// In seconds, from the release to the report of the end: a drop needs that time to reach its
+    /// target, which may be us.
     static constexpr double settleDelay = 0.12;
 
     DragMonitor(DragPasteboard &pasteboard, EventMonitors &events, MouseButtons &buttons,
@@ -50,7 +52,7 @@ public:
     void start() override;
     void stop() override;
 
-    /// From a drag's recognition until its release was seen.
+    /// From the moment a drag was noticed until its release was seen.
     bool isDragging() const { return m_isDragging; }
 
 private:

@@ -64,7 +64,7 @@ void HotKeyCenter::run(std::uint32_t id) const
     const auto found = m_handlers.find(id);
     if (found == m_handlers.end())
         return;
-    // A copy: it may apply another shortcut, which replaces it.
+    // A copy: the handler may apply another shortcut, which replaces it.
     const Handler handler = found->second;
     if (handler)
         handler();

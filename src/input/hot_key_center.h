@@ -15,9 +15,8 @@ class MainQueue;
 
 /// Owns the two global hot keys and turns their presses into calls on the main thread.
 ///
-/// A binding is registered or not; applying a shortcut always passes through not being registered,
-/// so that one that is refused leaves the old one dead, too. Main thread only; the references must
-/// outlive it.
+/// Applying a shortcut removes the old registration first, so after a refused one the binding has
+/// none. Main thread only; the references must outlive it.
 class HotKeyCenter {
 public:
     enum class Binding : std::uint32_t {
@@ -26,7 +25,7 @@ public:
     };
     using Handler = std::function<void()>;
 
-    /// "CRVN"
+    /// Identifies our hot keys to the service: "CRVN" as four bytes.
     static constexpr std::uint32_t signature = 0x4352564E;
     static constexpr std::uint32_t idOf(Binding binding)
     {
@@ -38,14 +37,14 @@ public:
     HotKeyCenter &operator=(const HotKeyCenter &) = delete;
     ~HotKeyCenter();
 
-    /// Replaces the binding's registration and its handler; a shortcut of none removes the one and
-    /// still replaces the other. False if the combination was refused.
+    /// Replaces the binding's registration and handler. With no shortcut only the registration is
+    /// removed; the handler is still replaced. False if the combination was refused.
     ///
-    /// A press calls the handler later from the main queue, if the binding has one by then.
+    /// A press calls the handler that the binding has when the main queue gets to it.
     bool apply(const std::optional<Shortcut> &shortcut, Binding binding, Handler handler);
-    /// Keeps the handler: a press that is on its way arrives.
+    /// Keeps the handler, so that a press that is already on its way is still handled.
     void unregister(Binding binding);
-    /// Forgets the handlers as well.
+    /// Removes both registrations and both handlers.
     void unregisterAll();
 
 private:
@@ -56,7 +55,7 @@ private:
     MainQueue &m_queue;
     std::map<std::uint32_t, HotKeyService::Handle> m_hotKeyRefs;
     std::map<std::uint32_t, Handler> m_handlers;
-    /// Installed with the first shortcut, and for good.
+    /// Installed with the first shortcut, and never removed.
     std::optional<HotKeyService::HandlerRef> m_eventHandler;
     Lifetime m_lifetime;
 };

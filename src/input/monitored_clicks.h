@@ -7,8 +7,8 @@ namespace corvane {
 class EventMonitors;
 class Pointer;
 
-/// Clicks elsewhere on desktops that tell every program of every press, though not where it was:
-/// the pointer is asked then. Both must outlive it and its subscriptions.
+/// Clicks in other programs, on desktops that report every press to every program, but not its
+/// place: the pointer is asked for that. Both references must outlive it and its subscriptions.
 class MonitoredClicks : public OutsideClicks {
 public:
     MonitoredClicks(EventMonitors &monitors, const Pointer &pointer);

@@ -16,8 +16,8 @@ ScreenLocator::ScreenLocator(const Screens &screens, const Pointer &pointer)
 ScreenPointer ScreenLocator::activeScreen() const
 {
     const auto screens = m_screens.screens();
-    // Asking for the pointer means waiting for the window system, and ten thousand thumbnails each
-    // have the shelf looked for.
+    // Asking for the pointer waits for the window system, and the shelf is laid out anew for each
+    // of ten thousand thumbnails.
     if (screens.size() == 1)
         return screens.front();
     if (const auto location = m_pointer.location()) {
@@ -31,7 +31,7 @@ ScreenPointer ScreenLocator::activeScreen() const
 
 ScreenLocator::Notch ScreenLocator::notch(const ScreenPointer &screen)
 {
-    // Written so that an inset that is no number counts as none.
+    // Not "inset <= 0": an inset that is not a number counts as none, too.
     if (!screen || !(screen->safeAreaInsets.top > 0))
         return {};
     const double inset = screen->safeAreaInsets.top;

@@ -21,8 +21,10 @@ public:
 
     ScreenLocator(const Screens &screens, const Pointer &pointer);
 
-    /// The screen under the pointer, else the main screen, which may be none.
+    /// The screen under the pointer, else the main screen; null when no screen is attached. With
+    /// several screens the window system is asked for the pointer.
     ScreenPointer activeScreen() const;
+    /// The notch of a screen; all 0 for null and for a screen without one.
     static Notch notch(const ScreenPointer &screen);
 
 private:

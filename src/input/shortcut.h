@@ -12,7 +12,7 @@
 
 namespace corvane {
 
-/// A key that went down, as far as naming it goes.
+/// The part of a key press that names the key.
 struct KeyPress {
     KeyPosition keyCode = KeyPosition::Unknown;
     /// What the key types in the user's layout with no modifier held; empty when it types nothing.
@@ -21,7 +21,8 @@ struct KeyPress {
 
 /// One global keyboard shortcut as a value.
 struct Shortcut {
-    /// Modifier bits as they are stored; no other bits are ever set.
+    /// Modifier bits as they are stored. `modifierBits` sets no others; what was stored by other
+    /// means may have them, and is then refused when it is registered.
     static constexpr std::uint32_t command = 256;
     static constexpr std::uint32_t shift = 512;
     static constexpr std::uint32_t option = 2048;
@@ -35,15 +36,17 @@ struct Shortcut {
     /// Modifier glyphs (Control, Option, Shift, Command) and the key's name, "⇧⌘D".
     QString display() const;
 
-    /// What `character` is for a key: its sign where it has one, else the capital of what it types.
+    /// The `character` for a key: its sign ("↩") where it has one, else what it types, as a
+    /// capital.
     static QString label(const KeyPress &press);
-    /// The keys that have a sign of their own.
+    /// Keys that are shown by a sign or name, with that text.
     static const QHash<KeyPosition, QString> &namedKeys();
-    /// The stored bits of the modifiers that are held.
+    /// The bits, as they are stored, of the modifiers held.
     static std::uint32_t modifierBits(Modifiers held);
 
+    /// As a JSON object with the keys that `fromJson` reads.
     QByteArray toJson() const;
-    /// None unless all three keys are there with the right types.
+    /// None unless `json` is an object in which all three keys are there with the right types.
     static std::optional<Shortcut> fromJson(const QByteArray &json);
 
     friend bool operator==(const Shortcut &, const Shortcut &) = default;

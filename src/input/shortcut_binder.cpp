@@ -68,7 +68,7 @@ bool ShortcutBinder::bind(const Stored &shortcut, HotKeyCenter::Binding binding,
 {
     const std::optional<Shortcut> wanted = shortcut();
     const bool isBound = m_center.apply(wanted, binding, m_lifetime.guard([this, action] {
-        // A copy: it may replace itself.
+        // A copy: the action may replace itself.
         if (const auto run = this->*action)
             run();
     }));

@@ -11,17 +11,17 @@
 
 namespace corvane {
 
-/// What has become of a shortcut that was to be bound.
+/// Whether a shortcut is bound.
 enum class ShortcutOutcome {
-    /// There is none, or it was never bound.
+    /// No shortcut is stored, or it was not tried yet.
     Unset,
     Bound,
-    /// Another program has it, or nobody can have it.
+    /// Another program has it, or it cannot be registered at all.
     Refused,
 };
 
-/// Binds the two stored shortcuts to what they do, and tells what has become of that: also later,
-/// where another attempt has another outcome. Main thread only; the center must outlive it.
+/// Binds the two stored shortcuts to their actions, and reports whether that worked, also after
+/// later attempts. Main thread only; the center must outlive it.
 class ShortcutBinder {
 public:
     /// Reads a stored shortcut at the time of binding; none if there is none.
@@ -32,16 +32,16 @@ public:
     /// Each gives false if the shortcut was refused.
     bool bindShelf();
     bool bindViewAll();
-    /// Binds both anew after one was changed: what it gave up may be what the other one waits for.
-    /// Where both are the same now, the other one keeps it.
+    /// Binds both again after the user changed one: the other one may be waiting for the
+    /// combination that was given up. If both are the same now, the other one keeps it.
     void rebind(HotKeyCenter::Binding changed);
-    /// Tries once more what was refused: whoever held it may have let go.
+    /// Tries refused shortcuts again; the program that had them may have released them.
     void retryRefused();
     ShortcutOutcome outcome(HotKeyCenter::Binding binding) const;
-    /// Called after an outcome has become another one, until the subscription ends.
+    /// Called after an outcome has changed, until the subscription ends.
     Subscription observeOutcomes(std::function<void()> observer);
 
-    /// What a press does, looked up when it comes. Each may be left empty.
+    /// Called for a press. They may be replaced at any time, or left empty.
     std::function<void()> onToggleShelf;
     std::function<void()> onToggleViewAll;
 

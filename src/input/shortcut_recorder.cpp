@@ -8,7 +8,7 @@ using Disposition = KeyMonitors::Disposition;
 
 namespace {
 
-/// Shift alone types capitals.
+/// One of these must be held. Shift alone is not enough: it types capitals.
 constexpr std::uint32_t sufficientModifiers
     = Shortcut::command | Shortcut::option | Shortcut::control;
 
@@ -74,13 +74,14 @@ Disposition ShortcutRecorder::handle(const KeyMonitors::Event &event)
         return Disposition::Pass;
     if (event.kind != KeyMonitors::Event::Kind::KeyDown)
         return Disposition::Swallow;
-    // People who exchange keys press the one that types it, or the one where it used to be.
+    // Users who have swapped Escape with another key may press either: the key that types it, or
+    // the one in its usual place.
     if (event.isEscape || event.keyCode == KeyPosition::Escape) {
         stopRecording();
         return Disposition::Swallow;
     }
     const std::uint32_t modifiers = Shortcut::modifierBits(event.modifiers);
-    // A key without a code could be stored, but never be registered.
+    // A key without a position code could be stored, but not registered.
     if ((modifiers & sufficientModifiers) == 0 || event.keyCode == KeyPosition::Unknown)
         return Disposition::Swallow;
     const Shortcut recorded = {event.keyCode, modifiers,
@@ -88,7 +89,7 @@ Disposition ShortcutRecorder::handle(const KeyMonitors::Event &event)
     m_shortcut = recorded;
     needsDisplay();
     stopRecording();
-    // A copy: it may destroy the recorder.
+    // A copy: the callback may destroy the recorder.
     if (const auto change = onChange)
         change(recorded);
     return Disposition::Swallow;

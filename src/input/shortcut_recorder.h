@@ -11,16 +11,16 @@
 
 namespace corvane {
 
-/// Takes the next key press with a modifier for a shortcut: what stands behind the field in which
-/// the user changes one.
+/// Records a shortcut: takes the next key press with a modifier. It is the logic of the field in
+/// which the user changes a shortcut.
 ///
 ///     Idle --clicked()--> Recording --a valid combination: the shortcut is replaced--> Idle
 ///       ^                     |
 ///       +---Escape, clicked(), stopRecording(): the shortcut stays as it was
 ///
-/// While it records, every key of this program goes to it and to nothing else, and hot keys are
-/// suspended, so that those that are bound can be recorded too. A monitor exists exactly then. Main
-/// thread only; the references must outlive it.
+/// While it records, all keys of this program go to it alone, through a key monitor, and hot keys
+/// are suspended, so that combinations that are bound can be recorded, too. Main thread only; the
+/// references must outlive it.
 class ShortcutRecorder {
 public:
     ShortcutRecorder(KeyMonitors &monitors, HotKeyService &hotKeys);
@@ -30,22 +30,23 @@ public:
 
     const std::optional<Shortcut> &shortcut() const { return m_shortcut; }
     void setShortcut(const std::optional<Shortcut> &shortcut);
-    /// The shown shortcut could not be registered.
+    /// Whether the shown shortcut could not be registered.
     bool hasConflict() const { return m_hasConflict; }
     void setConflict(bool conflict);
     bool isRecording() const { return m_isRecording; }
 
-    /// Starts, or stops if it is recording.
+    /// Starts recording, or stops it.
     void clicked();
     void startRecording();
-    /// Also for a field that lost the keyboard or left its window. May be called at any time.
+    /// Also to be called when the field loses the keyboard or its window. Does nothing if it is not
+    /// recording.
     void stopRecording();
 
-    /// The field is to be drawn anew.
+    /// Called when the field has to be drawn again.
     std::function<void()> onNeedsDisplay;
-    /// The field is to take the keyboard.
+    /// Called when the field should take the keyboard.
     std::function<void()> onTakeFocus;
-    /// After a combination has been recorded; may destroy the recorder.
+    /// Called after a combination was recorded; may destroy the recorder.
     std::function<void(const Shortcut &)> onChange;
 
 private:
