@@ -19,7 +19,7 @@ namespace corvane {
 
 namespace {
 
-/// The connections that live now, for the end of the process.
+/// All connections of the process, for the exit handler.
 std::vector<X11Connection *> &liveConnections()
 {
     static std::vector<X11Connection *> connections;
@@ -43,14 +43,16 @@ X11Connection::X11Connection(std::function<void()> onLost)
     m_notifier
         = new QSocketNotifier(xcb_get_file_descriptor(m_connection), QSocketNotifier::Read, this);
     connect(m_notifier, &QSocketNotifier::activated, this, &X11Connection::readEvents);
-    // Waiting for a reply may read events along with it, and then the socket has nothing to tell.
+    // Waiting for a reply may read events from the socket, which then does not report them. So
+    // queued events are handled whenever the event loop wakes up or is about to sleep.
     const auto *dispatcher = QAbstractEventDispatcher::instance();
     connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, this,
             &X11Connection::handleQueuedEvents);
     connect(dispatcher, &QAbstractEventDispatcher::awake, this, &X11Connection::handleQueuedEvents);
 
-    // Qt calls `exit` when its own connection breaks, and may notice before we do. The list is
-    // touched first, so that it is there still when the process ends.
+    // Qt calls `exit` when its own connection breaks, and may notice before we do.
+    // `liveConnections` is used before `atexit`, so that its list is destroyed after the handler
+    // has run.
     liveConnections().push_back(this);
     static const int registered = std::atexit([] {
         for (X11Connection *connection : liveConnections())
@@ -85,12 +87,13 @@ void X11Connection::setUpExtensions()
     }
     const auto *xinput = xcb_get_extension_data(m_connection, &xcb_input_id);
     if (xinput && xinput->present) {
-        // A client that announces less than 2.2 hears nothing while a drag's source holds a grab.
+        // A client that announces a version below 2.2 gets no raw events while a drag's source has
+        // grabbed the pointer.
         const X11Reply<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
             m_connection, xcb_input_xi_query_version(m_connection, 2, 3), nullptr));
         if (version && (version->major_version > 2 || version->minor_version >= 2))
             m_xinputOpcode = xinput->major_opcode;
-        // Barriers are XFixes', their news are of XInput 2.3.
+        // XFixes has the barriers, XInput 2.3 the events about them.
         const bool tellsHits
             = version && (version->major_version > 2 || version->minor_version >= 3);
         m_hasPointerBarriers = hasBarriers && tellsHits;
@@ -119,7 +122,7 @@ bool X11Connection::isSelectionNotify(const xcb_generic_event_t &event) const
 xcb_timestamp_t X11Connection::serverTime()
 {
     makeClock();
-    // Nothing is added to it; the server tells when that happened.
+    // Appends nothing to the property; the server reports the change with its time.
     const auto asked = xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_clock,
                                            XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, nullptr);
     flush();
@@ -136,7 +139,7 @@ xcb_timestamp_t X11Connection::serverTime()
         const auto &news = reinterpret_cast<const xcb_property_notify_event_t &>(*event);
         const bool isOurs
             = (event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && news.window == m_clock;
-        // An answer to an earlier question, which was not waited for, tells an earlier time.
+        // The report of an earlier call, which did not wait long enough, has an earlier time.
         if (isOurs && event->full_sequence == asked.sequence)
             return news.time;
         if (!isOurs)
@@ -164,7 +167,7 @@ Subscription X11Connection::addListener(Listener listener)
 void X11Connection::readEvents()
 {
     handleEvents(&xcb_poll_for_event);
-    // Listeners ask for more; nothing else would send it off before the next event.
+    // Listeners may have queued requests; nothing else would send them before the next event.
     flush();
     if (!isConnected())
         noticeLoss();
@@ -191,8 +194,7 @@ void X11Connection::handleEvents(Poll poll)
 
 void X11Connection::noticeLossAtExit()
 {
-    // The server closes its connections one after the other: Qt's may be gone while ours is not
-    // yet.
+    // The server closes its connections one after the other, so Qt's may be gone before ours.
     auto *const qt = x11_qt::connection();
     if (!isConnected() || (qt && xcb_connection_has_error(qt) != 0))
         noticeLoss();
@@ -200,7 +202,7 @@ void X11Connection::noticeLossAtExit()
 
 void X11Connection::noticeLoss()
 {
-    // A broken socket stays readable for ever.
+    // A broken socket would be reported as readable without end.
     if (m_notifier)
         m_notifier->setEnabled(false);
     if (const auto onLost = std::exchange(m_onLost, {}))

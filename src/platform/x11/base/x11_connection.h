@@ -17,12 +17,11 @@ class QSocketNotifier;
 
 namespace corvane {
 
-/// A connection to the X server beside Qt's own. What is selected here cannot disturb the event
-/// masks that Qt sets, and its events come also while a drag runs an event loop of its own.
+/// A connection to the X server of our own, beside Qt's. Events selected here do not change the
+/// event masks that Qt sets, and they arrive also while a drag runs an event loop of its own.
 ///
-/// When the server goes away, `onLost` is called once, on the main thread, and the connection keeps
-/// silent from then on. It is called even if Qt notices first and ends the process for it. Main
-/// thread only.
+/// When the server goes away, `onLost` is called once, on the main thread; no events come after
+/// that. It is called even if Qt notices first and calls `exit`. Main thread only.
 class X11Connection : public QObject {
 public:
     using Listener = std::function<void(const xcb_generic_event_t &)>;
@@ -30,31 +29,33 @@ public:
     explicit X11Connection(std::function<void()> onLost = {});
     ~X11Connection() override;
 
-    /// Never null; after an error every request on it does nothing.
+    /// Never null. After the connection was lost, requests on it do nothing.
     xcb_connection_t *get() const { return m_connection; }
     bool isConnected() const;
     xcb_window_t root() const { return m_root; }
     int screenNumber() const { return m_screenNumber; }
+    /// The atom of that name, asked of the server once; `XCB_NONE` without an answer.
     xcb_atom_t atom(const char *name);
 
     bool hasXFixes() const { return m_xfixesEvent != 0; }
-    /// Whether an event is XFixes' news about a selection's owner.
+    /// Whether an event is XFixes' report about a selection's owner.
     bool isSelectionNotify(const xcb_generic_event_t &event) const;
     bool hasXInput() const { return m_xinputOpcode != 0; }
     std::uint8_t xinputOpcode() const { return m_xinputOpcode; }
-    /// Whether the server keeps pointer barriers and tells who runs against them.
+    /// Whether the server has pointer barriers and reports when the pointer hits them (XFixes 5 and
+    /// XInput 2.3).
     bool hasPointerBarriers() const { return m_hasPointerBarriers; }
 
-    /// Milliseconds that a busy server may take to tell its time.
+    /// In milliseconds: how long `serverTime` waits for the server.
     static constexpr int timePatience = 100;
 
-    /// The server's time at this moment, by asking it; `XCB_CURRENT_TIME`, which means the same to
-    /// the server where nobody else is in between, once it is gone or does not answer. Events that
-    /// come before the answer are handled afterwards, in their order.
+    /// The server's present time, asked of the server. `XCB_CURRENT_TIME` if the server is gone or
+    /// does not answer in time; the server takes that as its time when the request arrives. Events
+    /// that arrive before the answer are delivered later, in their order.
     xcb_timestamp_t serverTime();
 
-    /// Every event of this connection goes to every listener, in the order they were added, until
-    /// its subscription ends. A listener may add and remove listeners.
+    /// Each event of this connection is passed to all listeners, in the order in which they were
+    /// added, until the subscription ends. A listener may add and remove listeners.
     Subscription addListener(Listener listener);
 
     void flush() { xcb_flush(m_connection); }
@@ -77,9 +78,9 @@ private:
     std::uint8_t m_xinputOpcode = 0;
     bool m_hasPointerBarriers = false;
     QSocketNotifier *m_notifier = nullptr;
-    /// Came while something else was waited for.
+    /// Events that came while `serverTime` waited for its answer.
     std::deque<X11Reply<xcb_generic_event_t>> m_setAside;
-    /// Never shown: it is there to have a property changed. Made when it is first needed.
+    /// A window that is never shown; `serverTime` changes a property of it. Made at the first use.
     xcb_window_t m_clock = XCB_NONE;
     CallbackList<const xcb_generic_event_t &> m_listeners;
     std::map<std::string, xcb_atom_t> m_atoms;

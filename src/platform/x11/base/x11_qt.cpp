@@ -34,8 +34,9 @@ xcb_window_t nativeWindow(const QWindow &window)
     return window.handle() ? static_cast<xcb_window_t>(window.winId()) : XCB_NONE;
 }
 
-// Qt would ask with the time of the latest event that it had. That may be long past where the
-// user's key or click went to somebody else, and then the server does nothing.
+// Not by Qt: it would name the time of the latest event that it got. If the user's key or click
+// went to another program, that time may be older than the last change of the focus, and the server
+// ignores the request.
 void giveKeyboard(xcb_window_t window, xcb_timestamp_t time)
 {
     auto *const qt = connection();

@@ -8,18 +8,19 @@
 
 class QWindow;
 
-/// Qt's own connection to the X server.
+/// Helpers for Qt's own connection to the X server and the windows on it.
 namespace corvane::x11_qt {
 
 /// Null where Qt does not run on X11.
 xcb_connection_t *connection();
-/// Whether a window of any client is one of Qt's in this process.
+/// Whether the window was made on Qt's connection, that is, by this process.
 bool isOwn(xcb_window_t window);
+/// The X window; `XCB_NONE` where it has not been created.
 xcb_window_t nativeWindow(const QWindow &window);
-/// Gives the keyboard to a window of Qt's that the window manager does not know, as of a time of
-/// the server. What Qt was told to do with the window before is done by then.
+/// Gives the keyboard to a window of Qt's that the window manager does not manage. `time` is a time
+/// of the server. Uses Qt's connection, so that Qt's earlier requests for the window come first.
 void giveKeyboard(xcb_window_t window, xcb_timestamp_t time);
-/// The answers to such requests interest nobody: the window may be gone by now.
+/// Ignores an error of a request on Qt's connection: the window that it names may be gone.
 void ignoreErrors(xcb_void_cookie_t cookie);
 
 } // namespace corvane::x11_qt

@@ -5,7 +5,7 @@
 
 namespace corvane {
 
-/// What xcb hands out is freed with `free`.
+/// A reply, event or error of xcb, which has to be freed with `free`.
 struct X11Free {
     void operator()(void *memory) const { std::free(memory); }
 };

@@ -9,7 +9,7 @@ namespace corvane {
 
 namespace {
 
-/// Old programs name no property and mean the target's name.
+/// The property for the answer. Old programs name none and mean one that is called like the target.
 xcb_atom_t propertyOf(const xcb_selection_request_event_t &request)
 {
     return request.property != XCB_NONE ? request.property : request.target;
@@ -122,7 +122,8 @@ bool DragAnswers::writeContents(xcb_window_t requestor, xcb_atom_t target, xcb_a
     return false;
 }
 
-/// The property names pairs of a target and the property that its answer belongs into.
+/// Answers a MULTIPLE request: the property lists pairs of a target and the property for its
+/// answer. Targets of pairs that are not answered are replaced by None in the list.
 bool DragAnswers::writeMultiple(xcb_window_t requestor, xcb_atom_t property)
 {
     const X11Reply<xcb_get_property_reply_t> reply(

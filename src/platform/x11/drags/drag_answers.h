@@ -11,29 +11,32 @@ namespace corvane {
 
 class IncrementalTransfers;
 
-/// Answers what targets ask about one drag of ours: at once what is small, piece by piece what is
-/// large, later what is still being made. What is large goes on when this is gone. The connection
-/// and the transfers must outlive it.
+/// Answers the selection requests of targets about one drag of ours: small contents at once, large
+/// ones piece by piece, and contents that are still being made when they are ready. Transfers that
+/// have begun go on after this is destroyed. The connection and the transfers must outlive it.
 class DragAnswers {
 public:
+    /// Requests that wait for contents to be made; more are refused.
     static constexpr std::size_t maximumWaiting = 64;
-    /// Pairs of a MULTIPLE request; more are not answered.
+    /// The most pairs of one MULTIPLE request; a longer one is refused.
     static constexpr std::uint32_t maximumPairs = 64;
 
-    /// `began` is when the selection became ours, as targets are told who ask for it.
+    /// `areFinal` tells whether `forms` have their contents already. `began` is the time at which
+    /// the selection became ours, the answer to TIMESTAMP.
     DragAnswers(X11Connection &connection, IncrementalTransfers &transfers, X11DragForms forms,
                 bool areFinal, xcb_timestamp_t began);
 
-    /// The requestor has the whole of an answer, which holds the contents of these writers.
+    /// A requestor has got the whole of an answer; `holds` are the writers whose contents are in
+    /// it.
     std::function<void(xcb_window_t requestor, const QList<qsizetype> &holds)> onDelivered;
-    /// Something of what was asked is over, delivered or not.
+    /// An incremental transfer has ended, completed or not, or the forms have become ready.
     std::function<void()> onProgress;
 
     void answer(const xcb_selection_request_event_t &request);
-    /// Final forms, or none: then everything that was asked is refused, as is what will be.
+    /// The final forms; with none everything that waits, and all later requests, are refused.
     void formsAreReady(std::optional<X11DragForms> forms);
     bool isReady() const { return m_isReady; }
-    /// Somebody waits for what is being made, or is still taking pieces.
+    /// Whether a requestor waits for contents that are being made, or is still taking pieces.
     bool isBusy() const { return !m_waiting.empty() || m_running > 0; }
 
 private:

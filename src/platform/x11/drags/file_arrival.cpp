@@ -13,7 +13,8 @@ namespace corvane {
 
 namespace {
 
-/// Some programs create the file, close it, and open it again to write.
+/// In seconds without events before the file is looked at: some programs create it, close it, and
+/// open it again to write.
 constexpr double quietSeconds = 0.02;
 
 } // namespace
@@ -27,7 +28,8 @@ FileArrival::FileArrival(QByteArray path, MainQueue &queue)
     const QByteArray directory = m_path.chopped(m_name.size());
     const int watch = ::inotify_add_watch(m_descriptor, directory.constData(),
                                           IN_CLOSE_WRITE | IN_MOVED_TO | IN_MODIFY | IN_CREATE);
-    // The system has no watches left. Its source said that it has saved the file.
+    // The watch was refused, for example because the user has no inotify watches left. Trust the
+    // source, which will have said that it has saved the file.
     m_wasClosed = watch < 0;
 }
 
@@ -53,7 +55,7 @@ void FileArrival::wait(std::function<void(bool)> done)
         else
             look();
     });
-    // It may be there already.
+    // The file may be there already.
     readEvents();
 }
 
@@ -69,7 +71,7 @@ void FileArrival::readEvents()
         m_wasClosed = (event->mask & (IN_CLOSE_WRITE | IN_MOVED_TO)) != 0;
         m_lastProgress = m_queue.now();
     }
-    // One that writes without a pause is never looked at in the quiet.
+    // A source that writes without a pause would never be looked at, so its size is checked here.
     if (isTooLarge())
         finish(false);
     else

@@ -12,14 +12,15 @@ class QSocketNotifier;
 
 namespace corvane {
 
-/// Hears when another program has written a file, without standing still. Made before that program
-/// is told to write it, so that nothing it does is missed. The queue must outlive it.
+/// Waits, without blocking, for another program to write a file. To be made before that program is
+/// told where to write, so that it misses nothing. The queue must outlive it.
 class FileArrival {
 public:
-    /// Seconds without a byte after which a source counts as gone.
+    /// In seconds: a source that writes nothing for so long is given up.
     static constexpr double patience = 20;
-    /// Seconds that it may take in all.
+    /// In seconds: the most that writing may take in all.
     static constexpr double longest = 600;
+    /// A larger file is not accepted.
     static constexpr qint64 maximumBytes = 256LL * 1024 * 1024;
 
     FileArrival(QByteArray path, MainQueue &queue);
@@ -27,13 +28,14 @@ public:
     FileArrival(const FileArrival &) = delete;
     FileArrival &operator=(const FileArrival &) = delete;
 
-    /// `done` is called once, later: true once the file is there as a regular file, is not empty,
-    /// and was closed after writing. It may destroy this. Never called once this is gone.
+    /// `done` is called once, later: true once there is a regular file that is not empty and was
+    /// closed after writing; false when the source was given up or the file is too large. It may
+    /// destroy this. Not called after this is destroyed.
     void wait(std::function<void(bool hasArrived)> done);
-    /// Whether a file was closed there that has nothing in it. It may be meant to be empty: who
-    /// waits in vain for more can only guess.
+    /// Whether an empty file was written and closed there. It may be meant to be empty; only the
+    /// caller can judge that.
     bool isEmptyFile() const;
-    /// Removes what has arrived so far.
+    /// Deletes what has been written so far.
     void discard();
 
 private:
@@ -53,7 +55,7 @@ private:
     std::function<void(bool)> m_done;
     bool m_wasClosed = false;
     double m_lastProgress = 0;
-    /// Restarted by every news of the file: only the look that follows the latest is of use.
+    /// Restarted by every event about the file, so that only the last delayed look counts.
     Lifetime m_nextLook;
     Lifetime m_lifetime;
 };

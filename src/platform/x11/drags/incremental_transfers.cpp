@@ -13,7 +13,8 @@ namespace {
 
 qsizetype pieceThatFits(xcb_connection_t *connection)
 {
-    // Told in units of four bytes, the request's head included.
+    // `xcb_get_maximum_request_length` counts units of four bytes and includes the request's
+    // header.
     constexpr qsizetype head = 64;
     const qsizetype longest = qsizetype{xcb_get_maximum_request_length(connection)} * 4 - head;
     return std::clamp(longest, IncrementalTransfers::wholeBytes, IncrementalTransfers::pieceBytes);
@@ -35,14 +36,16 @@ IncrementalTransfers::~IncrementalTransfers() = default;
 bool IncrementalTransfers::begin(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type,
                                  const QByteArray &bytes, Ended ended)
 {
-    // It would wait for the old one's pieces for ever.
+    // A reader that asks again for the same property does not take the old transfer's pieces any
+    // more.
     endWhere([&](const Transfer &transfer) {
         return transfer.reader == reader && transfer.property == property;
     });
-    // The news of its window's end come only to those who have asked for them.
+    // Without selecting events on the reader's window we would not hear when it takes a piece or is
+    // destroyed.
     if (m_transfers.size() >= maximumTransfers || !listenTo(reader))
         return false;
-    // A hint to the reader, which may reserve that much.
+    // The size is a hint to the reader, which may reserve memory for it.
     const auto size = static_cast<std::uint32_t>(
         std::min<qsizetype>(bytes.size(), std::numeric_limits<std::int32_t>::max()));
     xcb_change_property(m_connection.get(), XCB_PROP_MODE_REPLACE, reader, property,
@@ -103,12 +106,12 @@ bool IncrementalTransfers::sendPiece(Transfer &transfer)
     return size > 0;
 }
 
-/// Stops listening to a reader of whom no transfer is left.
+/// Stops listening to the reader's window if no other transfer uses it.
 void IncrementalTransfers::endQuietly(xcb_window_t reader)
 {
     const bool isStillRead = std::ranges::any_of(
         m_transfers, [reader](const Transfer &other) { return other.reader == reader; });
-    // Its window may be gone; the error that this gives then interests nobody.
+    // Unchecked: the window may be gone, and that error does not matter.
     const std::uint32_t nothing = XCB_EVENT_MASK_NO_EVENT;
     if (!isStillRead)
         xcb_change_window_attributes(m_connection.get(), reader, XCB_CW_EVENT_MASK, &nothing);
@@ -129,9 +132,10 @@ void IncrementalTransfers::endWhere(Predicate isOver)
     if (m_transfers.empty())
         m_patienceTimer.reset();
     m_connection.flush();
-    // Last: whoever hears of it may begin another.
+    // At the end, because the callback may begin another transfer.
     for (const Transfer &transfer : over) {
-        // The empty piece at the end is put in once the reader has removed the last full one.
+        // The empty piece is written after the reader has removed the last full one, so all were
+        // taken.
         if (transfer.ended)
             transfer.ended(transfer.isEndTold ? End::AllTaken : End::Abandoned);
     }

@@ -11,25 +11,28 @@
 
 namespace corvane {
 
-/// Hands other programs what is too large for one request, piece by piece.
+/// Hands contents that are too large for one request to other programs, piece by piece (the INCR
+/// protocol of ICCCM).
 ///
 ///     begin: the property says how much is coming
 ///     the reader removes the property --> the next piece is put into it
 ///     all pieces taken                --> an empty one says so, and the transfer is over
 ///
 /// A transfer also ends, and lets go of its contents, when the reader's window is gone, when the
-/// reader takes nothing for a while, or when it asks anew for the same property. Each holds the
-/// bytes that it was begun with, shared and not copied, so it depends on no drag. A clock runs only
-/// while a transfer does. The connection and the queue must outlive it.
+/// reader takes nothing for a while, or when it asks anew for the same property. A transfer shares
+/// the bytes that it was begun with, without copying them, so it does not need the drag. A timer
+/// runs only while there are transfers. The connection and the queue must outlive it.
 class IncrementalTransfers {
 public:
-    /// What one request carries on every server. Whatever is larger should come here.
+    /// In bytes: what fits into one request on every server. Larger contents should be transferred
+    /// here.
     static constexpr qsizetype wholeBytes = 192LL * 1024;
-    /// Larger than that where the server lets us: some readers copy all that they have at each
-    /// piece, and give up after a few seconds in all.
+    /// In bytes: the size of a piece, less where the server allows less. Not smaller, because some
+    /// readers copy all that they have got at each piece, and give up after a few seconds in all.
     static constexpr qsizetype pieceBytes = 1024LL * 1024;
+    /// More at once are refused.
     static constexpr std::size_t maximumTransfers = 32;
-    /// Seconds without a piece being taken after which a reader counts as gone.
+    /// In seconds: a reader that takes no piece for so long is given up.
     static constexpr double patience = 30;
 
     IncrementalTransfers(X11Connection &connection, MainQueue &queue);
@@ -43,9 +46,9 @@ public:
     };
     using Ended = std::function<void(End)>;
 
-    /// Announces `bytes` in a property of the reader's window; the caller then tells the reader.
-    /// False, and nothing is written, when the window is gone or too many transfers run. Otherwise
-    /// `ended` is called once, later, unless this object is destroyed before.
+    /// Announces `bytes` in a property of the reader's window; the caller then has to notify the
+    /// reader. False, and nothing is written, when the window is gone or too many transfers are
+    /// going on. Otherwise `ended` is called once, later, unless this is destroyed before.
     bool begin(xcb_window_t reader, xcb_atom_t property, xcb_atom_t type, const QByteArray &bytes,
                Ended ended = {});
 
@@ -65,7 +68,7 @@ private:
 
     void handle(const xcb_generic_event_t &event);
     void handlePropertyRemoved(xcb_window_t reader, xcb_atom_t property);
-    /// False when that was the end.
+    /// False when that was the empty piece that ends the transfer.
     bool sendPiece(Transfer &transfer);
     bool listenTo(xcb_window_t reader);
     void endQuietly(xcb_window_t reader);

@@ -124,8 +124,8 @@ void SelectionReader::propertySet(xcb_window_t window)
     takeSliceLater(*read);
 }
 
-/// Of whichever program it was that owned the selection last. What is being taken already may be
-/// all there is; what is still asked for will not come.
+/// The selection's owner has ended, and with it perhaps the owners of some reads. A read that is
+/// taking a piece goes on, because that piece may be all; other reads get nothing more.
 void SelectionReader::ownerEnded()
 {
     for (auto read = m_reads.begin(); read != m_reads.end();) {
@@ -150,7 +150,7 @@ void SelectionReader::takeSlice(Id id)
     const auto read = find(id);
     if (read == m_reads.end())
         return;
-    // Removed with its last byte, which tells the owner to go on.
+    // The property is deleted with its last byte, which tells the owner to send the next piece.
     const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
         m_connection.get(),
         xcb_get_property(m_connection.get(), 1, read->window, m_property, XCB_GET_PROPERTY_TYPE_ANY,
@@ -161,7 +161,8 @@ void SelectionReader::takeSlice(Id id)
         return;
     }
     if (reply->type == XCB_NONE && read->isIncremental) {
-        // News of something that was taken with what came before it; the end has a type.
+        // This event was about a piece that was taken together with the one before. The empty piece
+        // at the end does have a type.
         waitForMore(read);
         return;
     }
@@ -184,7 +185,7 @@ void SelectionReader::waitForMore(Position read)
 {
     read->stage = Stage::Waiting;
     m_connection.flush();
-    // It puts the next piece there only when this one has been taken.
+    // The owner would have sent the next piece only now.
     if (read->hasOwnerEnded)
         finish(read, Outcome::Lost);
 }
@@ -220,7 +221,7 @@ SelectionReader::Position SelectionReader::find(Id id)
 
 void SelectionReader::finish(Position read, Outcome outcome)
 {
-    // Later: whoever is told may ask for more, or end this.
+    // Later, because `done` may start another read or destroy this.
     m_queue.async(
         m_lifetime.guard([done = std::move(read->done), outcome,
                           bytes = outcome == Outcome::Arrived ? read->bytes : QByteArray()] {

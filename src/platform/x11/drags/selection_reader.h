@@ -12,28 +12,29 @@
 
 namespace corvane {
 
-/// Asks the owner of a selection for its contents, and waits for them without standing still.
+/// Asks the owner of a selection for its contents, and waits for them without blocking.
 ///
 ///     Asked --answer: refused, or the owner's program ends--------------> over
 ///     Asked --answer: a property--> Taking: a slice in each turn -------> arrived
 ///     Asked --answer: piece by piece--> Waiting <--taken-- Taking
 ///     Waiting --the owner sets the property--> Taking;  an empty one ---> arrived
 ///
-/// Every read has a window of its own, which goes with it: what an owner writes late reaches
-/// nobody. An owner that does nothing for a while, or never comes to an end, is given up. A clock
-/// runs only while something is read. The connection and the queue must outlive it.
+/// Every read has a window of its own, which is destroyed at its end, so that late answers of an
+/// owner are not taken for another read's. An owner that does nothing for a while, or takes too
+/// long in all, is given up. A timer runs only while something is read. The connection and the
+/// queue must outlive it.
 class SelectionReader {
 public:
     using Outcome = IncomingDrag::Outcome;
     using Done = IncomingDrag::Fetched;
     using Id = std::uint64_t;
 
-    /// Seconds without a byte after which an owner counts as gone. Some programs make what they
-    /// offer only now, from a large document.
+    /// In seconds: an owner that sends nothing for so long is given up. Some programs only now make
+    /// what they offer, from a large document.
     static constexpr double patience = 30;
-    /// Seconds that a read may take in all.
+    /// In seconds: the most that a read may take in all.
     static constexpr double longest = 600;
-    /// So much is taken from the server in one turn of the event loop.
+    /// In bytes: how much is taken from the server in one turn of the event loop.
     static constexpr std::uint32_t sliceBytes = 1024 * 1024;
 
     SelectionReader(X11Connection &connection, MainQueue &queue, const char *selection);
@@ -41,12 +42,13 @@ public:
     SelectionReader(const SelectionReader &) = delete;
     SelectionReader &operator=(const SelectionReader &) = delete;
 
-    /// `time` is that of the event that gave the right to ask. `done` is called later, once, unless
-    /// the read is cancelled before.
+    /// Asks for `target`, with the time of the event that entitles us to ask. More than
+    /// `maximumBytes` are not read. `done` is called once, later, on the main thread, unless the
+    /// read is cancelled before.
     Id read(xcb_atom_t target, xcb_timestamp_t time, qsizetype maximumBytes, Done done);
     void cancel(Id id);
 
-    /// Who owns the selection now, by asking the server.
+    /// The selection's present owner, asked of the server.
     xcb_window_t owner() const;
     std::size_t count() const { return m_reads.size(); }
 
@@ -68,7 +70,7 @@ private:
         std::uint32_t sliceOffset;
         double begun;
         double lastProgress;
-        /// While a piece was being taken: that may be the last one.
+        /// The owner ended while a piece was being taken, which may be the last one.
         bool hasOwnerEnded = false;
     };
     using Position = std::list<Read>::iterator;
@@ -80,7 +82,7 @@ private:
     void takeSlice(Id id);
     void takeSliceLater(const Read &read);
     void waitForMore(Position read);
-    /// False when that was the last, or the read is over.
+    /// False when that was the last piece, or the read is over `maximumBytes`.
     bool append(Read &read, const xcb_get_property_reply_t &reply);
     void giveUpTheSilent();
     Position find(Id id);
@@ -92,7 +94,7 @@ private:
     Subscription m_listener;
     xcb_atom_t m_selection;
     xcb_atom_t m_property;
-    /// The news of the owner's end come to this one.
+    /// XFixes reports the end of a selection's owner to this window.
     xcb_window_t m_watch;
     std::list<Read> m_reads;
     Id m_nextId = 1;

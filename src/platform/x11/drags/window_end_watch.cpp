@@ -10,7 +10,7 @@ namespace corvane {
 
 namespace {
 
-/// What Qt listens to there for reasons of its own, and how many watch the window besides.
+/// The event mask that Qt has on the window, to be restored, and how many watches there are.
 struct Watched {
     std::uint32_t previousMask = 0;
     int watches = 0;
@@ -24,7 +24,7 @@ std::map<xcb_window_t, Watched> &watched()
 
 void listen(xcb_window_t window, std::uint32_t mask)
 {
-    // The window may be gone by now.
+    // Errors are ignored: the window may be gone.
     x11_qt::ignoreErrors(xcb_change_window_attributes_checked(x11_qt::connection(), window,
                                                               XCB_CW_EVENT_MASK, &mask));
     xcb_flush(x11_qt::connection());

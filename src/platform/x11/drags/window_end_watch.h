@@ -4,8 +4,8 @@
 
 namespace corvane {
 
-/// While it lives, Qt's connection is told when another program's window is destroyed. On that
-/// connection the news comes after everything that the program sent to our windows before.
+/// While this exists, Qt's connection gets an event when another program's window is destroyed.
+/// There the event comes after all messages that the program sent to our windows before.
 class WindowEndWatch {
 public:
     explicit WindowEndWatch(xcb_window_t window);
@@ -14,7 +14,7 @@ public:
     WindowEndWatch &operator=(const WindowEndWatch &) = delete;
 
     xcb_window_t window() const { return m_window; }
-    /// False for a window that was gone when this was made.
+    /// False for a window that was already gone when this was made.
     bool exists() const { return m_exists; }
 
 private:

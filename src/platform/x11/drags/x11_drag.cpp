@@ -8,7 +8,8 @@ namespace corvane {
 
 namespace {
 
-/// Below this version of the protocol a target says that it has finished, and not how.
+/// From this version of the XDND protocol on, XdndFinished says whether the drop succeeded, and
+/// with which action.
 constexpr std::uint32_t versionWithResult = 5;
 constexpr std::uint32_t succeeded = 1;
 
@@ -49,7 +50,7 @@ std::uint32_t X11Drag::programOf(xcb_window_t window) const
 void X11Drag::delivered(xcb_window_t requestor, const QList<qsizetype> &holds)
 {
     if (m_isWaiting) {
-        // Nobody else is asked to take it any more, so whoever asks does so for the target.
+        // After the drop only the target's side asks, so any requestor counts as the target.
         mark(m_takenAfterDrop, holds);
         if (m_askedAfterDrop.size() < maximumPrograms)
             m_askedAfterDrop.insert(programOf(requestor));
@@ -123,7 +124,8 @@ void X11Drag::targetFinished(const xcb_client_message_event_t &finished)
         end(DragOperation::None);
         return;
     }
-    // Some targets answer a move that was not offered; they have the contents all the same.
+    // Some targets report a move, which was not offered; they have the contents, so it counts as a
+    // copy.
     const bool isLink = m_saysHowItEnded && data[2] == m_connection.atom("XdndActionLink");
     m_finish = isLink ? DragOperation::Link : DragOperation::Copy;
     endIfOver();
@@ -149,7 +151,7 @@ void X11Drag::giveUp()
 
 void X11Drag::endIfOver()
 {
-    // Some finish before they have taken the last pieces.
+    // Some targets send XdndFinished before they have taken the last pieces.
     if (m_isWaiting && m_finish && !m_answers.isBusy())
         end(*m_finish);
 }
@@ -157,7 +159,8 @@ void X11Drag::endIfOver()
 QList<qsizetype> X11Drag::taken() const
 {
     Places all = m_takenAfterDrop;
-    // The window that answered last may have been left again before the drop.
+    // By the window that finished, not by the one that accepted last: the pointer may have left
+    // that one before the drop.
     const auto byProgram = m_takenByProgram.find(m_finishedProgram);
     for (std::size_t i = 0; byProgram != m_takenByProgram.end() && i < byProgram->second.size();
          ++i) {

@@ -14,13 +14,14 @@
 
 namespace corvane {
 
-/// One drag of ours: what targets are given of it, and how its target says that it ended.
+/// One drag of ours: which contents targets have got, and what its target said about the end.
 ///
 ///     carried --dropped--> waiting --the target finished, nothing of ours under way--> ended
 ///                                  --it is gone, or silent for too long--------------> ended
 ///
-/// What a target takes counts as taken by the program that it belongs to. Many take everything
-/// while the pointer is still over them, and some ask from another window than that of the drop.
+/// Contents count as taken by the program that a requestor's window belongs to: many targets fetch
+/// everything while the pointer is still over them, and some ask from another window than the one
+/// that was dropped on.
 class X11Drag {
 public:
     using Ended = std::function<void(const DragOutEnd &)>;
@@ -28,48 +29,49 @@ public:
     X11Drag(X11Connection &connection, MainQueue &queue, IncrementalTransfers &transfers,
             PasteboardForms forms, bool areFinal, xcb_timestamp_t began);
 
-    /// Called once after `wasDropped`. Must not destroy the drag.
+    /// Called once after `wasDropped`, with the end. Must not destroy the drag.
     Ended onEnd;
 
     xcb_timestamp_t began() const { return m_began; }
     DragAnswers &answers() { return m_answers; }
 
-    /// XdndStatus: what the window under the pointer would do.
+    /// XdndStatus of a window that would take the drop.
     void targetAnswered(const xcb_client_message_event_t &status);
     enum class Target {
-        /// No window has answered.
+        /// No window has accepted.
         Nobody,
-        /// Nothing will be heard of it that is not on its way already.
+        /// The window is gone; only messages that are already on their way can come.
         Gone,
         There,
     };
-    /// Waits from now on for the one that accepted last.
+    /// The user let go: waits from now on for the window that accepted last.
     Target wasDropped();
     bool isWaiting() const { return m_isWaiting; }
     /// Whether it waits for that window, or for one of the same program.
     bool wasDroppedOn(xcb_window_t window) const;
-    /// Whether that window's program is the one that answered last.
+    /// Whether the window belongs to the program of the target.
     bool isOverProgramOf(xcb_window_t window) const;
-    /// Whether word from that window that it is over may be believed: it is of the target's
-    /// program, or of one that has asked for something since the drop.
+    /// Whether an XdndFinished from that window may be about this drop: the window belongs to the
+    /// target's program, or to one that has fetched contents since the drop.
     bool mayBeFinishedBy(xcb_window_t window) const;
-    /// Whether it waits for that window, which has not said yet that it is over.
+    /// Whether it waits for an XdndFinished from that window.
     bool awaitsWordOf(xcb_window_t window) const { return wasDroppedOn(window) && !m_finish; }
     xcb_window_t target() const { return m_target; }
-    /// Whether the target says that it went well.
+    /// Whether an XdndFinished reports success. Targets of old protocol versions cannot report a
+    /// failure.
     bool isSuccess(const xcb_client_message_event_t &finished) const;
-    /// XdndFinished.
+    /// XdndFinished that is about this drop.
     void targetFinished(const xcb_client_message_event_t &finished);
     void windowIsGone(xcb_window_t window);
-    /// Nobody has said anything for too long.
+    /// The target has given no sign for too long: ends without anything taken.
     void giveUp();
 
-    /// When the target last gave a sign of life, on the main queue's clock.
+    /// When the target last sent or fetched something, on the main queue's clock.
     double lastSign() const { return m_lastSign; }
     void noteSign() { m_lastSign = m_queue.now(); }
 
 private:
-    /// The part of a window's number that its program has for itself.
+    /// The part of a window's number that all windows of a client share.
     std::uint32_t programOf(xcb_window_t window) const;
     std::optional<std::uint32_t> cardinal(xcb_window_t window, const char *property);
     void delivered(xcb_window_t requestor, const QList<qsizetype> &holds);
@@ -77,7 +79,7 @@ private:
     void endIfOver();
     void end(DragOperation operation);
 
-    /// Programs that are remembered as having taken something on the way.
+    /// Limit of programs that are remembered as having fetched something.
     static constexpr std::size_t maximumPrograms = 64;
 
     X11Connection &m_connection;

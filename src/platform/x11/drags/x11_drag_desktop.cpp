@@ -76,7 +76,7 @@ std::optional<EventMonitors::Handle> X11DragDesktop::add(What what, Handler hand
 {
     if (!canListen())
         return std::nullopt;
-    // The first one may come in mid-drag.
+    // Listening may begin in the middle of a drag.
     if (m_listening == Listening::Nothing)
         m_isLeftDown = (pressedMouseButtons() & left) != 0;
     const Handle handle = m_monitors.add({what, std::move(handler)});
@@ -96,7 +96,7 @@ unsigned X11DragDesktop::pressedMouseButtons() const
         m_connection.get(), xcb_query_pointer(m_connection.get(), m_connection.root()), nullptr));
     if (!reply)
         return 0;
-    // X11 counts left, middle, right; here it is left, right, other.
+    // X11 counts left, middle, right; the result has left, right, middle.
     const auto isDown = [&](unsigned mask) { return (reply->mask & mask) != 0 ? 1U : 0U; };
     return isDown(XCB_BUTTON_MASK_1) * left | isDown(XCB_BUTTON_MASK_3) << 1
         | isDown(XCB_BUTTON_MASK_2) << 2;
@@ -115,7 +115,7 @@ void X11DragDesktop::handle(const xcb_generic_event_t &event)
         const auto &raw = reinterpret_cast<const xcb_input_raw_button_press_event_t &>(event);
         if (raw.extension != m_connection.xinputOpcode())
             return;
-        // What was under way when the button's release was handled may still tell of motion.
+        // Motion events that were already on their way may come after the release.
         if (raw.event_type == XCB_INPUT_RAW_MOTION && m_isLeftDown)
             notify(What::LeftMouseDragged);
         else if (raw.event_type == XCB_INPUT_RAW_BUTTON_PRESS)
@@ -130,7 +130,7 @@ void X11DragDesktop::handleSelection(const xcb_generic_event_t &event)
     const auto &news = reinterpret_cast<const xcb_xfixes_selection_notify_event_t &>(event);
     if (news.selection != m_connection.atom("XdndSelection"))
         return;
-    // Some programs give the selection up after a drag, which starts nothing.
+    // Some programs give up the selection after a drag; that starts no drag.
     if (news.owner == XCB_NONE || x11_qt::isOwn(news.owner))
         return;
     m_changeCount = checkedAdd(m_changeCount, qint64{1});
@@ -149,12 +149,13 @@ void X11DragDesktop::handleRawButton(std::uint32_t button, bool isPress)
         notify(What::MouseDownElsewhere);
 }
 
-/// The button's number does not tell whether it is the left one: each device may have an order of
-/// its own. What is down then does.
+/// A button's number does not tell whether it is the left one, because each device may have its own
+/// order. So the server is asked whether the left button is down now.
 void X11DragDesktop::noticeLeftButton(std::uint32_t button, bool isPress)
 {
     const bool wasDown = m_isLeftDown;
-    // Its release is taken at its word: the button may be down again by the time we ask.
+    // The release of the button that went down as the left one is believed without asking: it may
+    // be down again by now.
     const bool isOwnRelease = !isPress && button == m_leftButton;
     m_isLeftDown = !isOwnRelease && (pressedMouseButtons() & left) != 0;
     if (!m_isLeftDown)
@@ -166,11 +167,11 @@ void X11DragDesktop::noticeLeftButton(std::uint32_t button, bool isPress)
     notify(What::LeftMouseDown);
 }
 
-/// Raw events name no window: the one under the pointer is asked for, from the desktop down through
-/// a window manager's frames.
+/// Raw events do not name a window, so the window under the pointer is asked for, from the root
+/// down through the window manager's frames.
 bool X11DragDesktop::isOverOwnWindow() const
 {
-    // Deeper than any desktop nests its windows.
+    // More than any desktop has.
     constexpr int maximumDepth = 32;
     xcb_window_t window = m_connection.root();
     for (int depth = 0; depth < maximumDepth; ++depth) {

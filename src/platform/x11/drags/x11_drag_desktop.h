@@ -12,10 +12,10 @@ namespace corvane {
 
 /// Notices drags of every program on an X11 desktop.
 ///
-/// A program that starts to drag takes the ownership of the drag selection, and the server tells
-/// that. The pointer is heard through raw events, which come also while a drag's source has grabbed
-/// it; its motion only while the left button is held, so that an idle pointer wakes nobody. The
-/// connection must outlive it.
+/// A program that starts a drag takes the ownership of the drag selection, which the server
+/// reports. The pointer is followed by raw events, which come also while a drag's source has
+/// grabbed it. Motion is selected only while the left button is held, so that a pointer that merely
+/// moves does not wake this process. The connection must outlive it.
 class X11DragDesktop : public DragPasteboard, public EventMonitors, public MouseButtons {
 public:
     explicit X11DragDesktop(X11Connection &connection);
@@ -25,7 +25,7 @@ public:
 
     qint64 changeCount() const override { return m_changeCount; }
     std::optional<Handle> addGlobalMonitor(Handler onLeftMouseDragged) override;
-    /// None: the global monitor hears this program too.
+    /// Always none: the global monitor gets this program's events, too.
     std::optional<Handle> addLocalMonitor(Handler onLeftMouseDragged) override;
     std::optional<Handle> addLeftMouseDownMonitor(Handler onLeftMouseDown) override;
     std::optional<Handle> addGlobalMouseDownMonitor(Handler onMouseDown) override;
@@ -56,7 +56,7 @@ private:
     bool hasMonitors(What what) const;
     void noticeLeftButton(std::uint32_t button, bool isPress);
     bool canListen() const;
-    /// What its monitors need, and no more.
+    /// Selects the events that the monitors need, and no others.
     void listen();
     void listenTo(Listening what);
     void readButtonMapping();
@@ -67,13 +67,12 @@ private:
     Subscription m_listener;
     qint64 m_changeCount = 0;
     Listening m_listening = Listening::Nothing;
-    /// Which logical button each physical one is, for wheels and buttons that are switched off:
-    /// raw events tell physical ones. It holds for all devices together. Left-handed people may
-    /// exchange the buttons of one device alone, so which button is the left one is not told by
-    /// it.
+    /// Maps physical buttons, which raw events tell, to logical ones; used to recognise wheels and
+    /// disabled buttons. It is one mapping for all devices. Users may swap the buttons of a single
+    /// device, so it does not tell which button is the left one.
     std::array<std::uint8_t, 256> m_buttonMapping{};
     bool m_isLeftDown = false;
-    /// The physical button that is down as the left one; 0 where that is not known.
+    /// The physical button that went down as the left one; 0 if that is not known.
     std::uint32_t m_leftButton = 0;
     ChangingList<Monitor> m_monitors;
 };

@@ -10,15 +10,15 @@
 
 namespace corvane {
 
-/// What a drag of ours offers, under every name by which targets on X11 ask for it. Qt announces
-/// the old names for text and links by itself, so each of them has to be answered. The connection
-/// must outlive it.
+/// What a drag of ours offers, under all names by which X11 targets ask for it. Qt also announces
+/// old names for text and links by itself, so these must be answered, too. The connection must
+/// outlive it.
 class X11DragForms {
 public:
     struct Answer {
         xcb_atom_t type = XCB_NONE;
         QByteArray bytes;
-        /// The places of the writers whose whole contents are in these bytes.
+        /// The places of the writers whose contents are in these bytes completely.
         QList<qsizetype> holds;
     };
 
@@ -31,10 +31,10 @@ public:
 private:
     enum class Spelling {
         AsItIs,
-        /// What Latin-1 has no character for becomes a question mark, and the text is then held no
-        /// longer.
+        /// Characters that Latin-1 does not have become question marks, and the text then does not
+        /// count as held (`Answer::holds`).
         Latin1,
-        /// In Latin-1 where it can say everything.
+        /// In Latin-1 if that has all characters, else in UTF-8.
         OwnersChoice,
         /// The first address and a title, in UTF-16.
         MozUrl,

@@ -15,7 +15,8 @@ namespace corvane {
 
 namespace {
 
-/// Whether a time of the server, which starts over every 49 days, is not before another one.
+/// Whether a time of the server is not before another one. Times wrap around every 49 days, so the
+/// distance decides.
 bool isNotBefore(xcb_timestamp_t time, xcb_timestamp_t other)
 {
     constexpr xcb_timestamp_t half = 0x80000000;
@@ -80,7 +81,7 @@ void X11DragSupport::dragWasDropped(DragId drag, std::function<void(const DragOu
             forget(drag);
         ended(end);
     };
-    // Nothing that was said before is about this one.
+    // Messages that came before the window's only drop are not about it.
     if (dropsAwaiting(found->target()).size() == 1)
         m_words.erase(found->target());
     watchTheClock();
@@ -104,9 +105,9 @@ void X11DragSupport::forget(DragId drag)
         return;
     const std::shared_ptr<X11Drag> gone = std::move(found->second);
     m_drags.erase(found);
-    // Whoever still waits for what was to be made is refused.
+    // Requests that still wait for contents are refused.
     gone->answers().formsAreReady(std::nullopt);
-    // Later: it may be the one that is telling its end.
+    // Destroyed later: the call may come from the drag's own `onEnd`.
     m_queue.async([gone] {});
 }
 
@@ -154,10 +155,11 @@ void X11DragSupport::readMessage(xcb_client_message_event_t &message)
     if (message.format != 32)
         return;
     if (message.type == m_connection.atom("XdndStatus")) {
-        // Qt takes any flag for consent, the wish to hear every position too. It would drop on a
-        // target that refuses.
+        // Qt takes every non-zero flag as consent, also the wish for further positions, and would
+        // drop on a target that refuses.
         constexpr std::uint32_t accepts = 1;
-        // Nothing is dropped on who refuses; a window that was left may do so late.
+        // A refusal does not change the drag's target: a window that the pointer has left may still
+        // send one.
         if ((message.data.data32[1] & accepts) == 0)
             message.data.data32[1] = 0;
         else if (auto *const drag = find(m_lastId))
@@ -170,7 +172,7 @@ void X11DragSupport::readMessage(xcb_client_message_event_t &message)
 void X11DragSupport::finished(const xcb_client_message_event_t &message)
 {
     const xcb_window_t by = message.data.data32[0];
-    // A late word about an earlier drop, which is no longer waited for. It is no other one's end.
+    // A late message about a drop that was given up. It must not end another drop.
     if (const auto late = std::ranges::find(m_givenUp, by); late != m_givenUp.end()) {
         m_givenUp.erase(late);
         return;
@@ -184,7 +186,7 @@ void X11DragSupport::finished(const xcb_client_message_event_t &message)
         if (drag->isWaiting())
             waiting.push_back(drag.get());
     }
-    // By another of its windows. What was taken decides all the same.
+    // From another window of the target. Whether contents were taken still decides.
     if (waiting.size() == 1 && waiting.front()->mayBeFinishedBy(by))
         waiting.front()->targetFinished(message);
 }
@@ -212,7 +214,7 @@ void X11DragSupport::finishedOneOf(const std::vector<DragId> &drops,
     const auto said = std::move(m_words.extract(by).mapped());
     const bool wentWell = std::ranges::all_of(
         said, [&](const auto &word) { return find(drops.front())->isSuccess(word); });
-    // Nor does a word say which of them is merely linked to: any may be.
+    // They do not say which drop was only linked to: all count as linked if one was.
     const xcb_atom_t linked = m_connection.atom("XdndActionLink");
     const auto link = std::ranges::find_if(
         said, [linked](const auto &word) { return word.data.data32[2] == linked; });
@@ -238,11 +240,11 @@ void X11DragSupport::windowIsGone(xcb_window_t window)
     }
 }
 
-/// Another program drags now: nobody will ask for ours again, but the targets of earlier drops.
+/// Another program has started a drag: only targets of earlier drops will ask for ours.
 void X11DragSupport::lostSelection(xcb_timestamp_t time)
 {
     auto *const drag = find(m_lastId);
-    // That was before the latest drag took it back.
+    // The loss was before the latest drag took the selection again.
     if (drag && !isNotBefore(time, drag->began()))
         return;
     m_hasSelection = false;
@@ -255,7 +257,7 @@ X11Drag *X11DragSupport::dragFor(const xcb_selection_request_event_t &request)
     if (m_drags.empty())
         return nullptr;
     if (request.time == XCB_CURRENT_TIME) {
-        // The newest over or on that program: what was dropped there earlier has been asked for.
+        // The newest drag over or dropped on that program; earlier ones were fetched before.
         const auto over = std::find_if(m_drags.rbegin(), m_drags.rend(), [&](const auto &entry) {
             return entry.second->isOverProgramOf(request.requestor);
         });
@@ -293,12 +295,12 @@ void X11DragSupport::giveUp(X11Drag &drag)
         const DragAnswers &answers = find(drop)->answers();
         return answers.isBusy() || !answers.isReady();
     });
-    // It has spoken of one, and still takes another.
+    // The target has finished one drop and is still fetching another's contents.
     if (isAtWork && m_words.contains(target)) {
         drag.noteSign();
         return;
     }
-    // What the target has said may have been about any of them.
+    // Messages that have come may be about any of the drops, so all of them are given up.
     const auto said = m_words.extract(target);
     const std::size_t known = said ? said.mapped().size() : 0;
     const std::size_t missing = known > 0 ? drops.size() - known : 1;

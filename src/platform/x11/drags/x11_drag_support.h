@@ -16,26 +16,27 @@
 
 namespace corvane {
 
-/// What Qt leaves out for a source of drags on X11. Listens to the events that Qt receives, and
-/// must be made after the application object. The connection and the queue must outlive it.
+/// Does what Qt does not do for a source of drags on X11. It filters the events that Qt receives,
+/// so it must be made after the application object. The connection and the queue must outlive it.
 ///
 /// Qt answers only requests that carry the time of the drag or come from the window that the drop
 /// was sent to. GTK 4 asks from another window, without a time, and for the list of types first;
-/// unanswered, it takes nothing while Qt reports a copy. And Qt's report is what the target said
-/// while the drag was over it. So all requests for what we drag are answered here, and the end is
-/// what the target says in XdndFinished, together with what it was given.
+/// without an answer it takes nothing, and yet Qt reports a copy, because it reports what the
+/// target said while the drag was over it. So all requests about our drags are answered here. How a
+/// drag ended is decided by the target's XdndFinished and by what it has fetched.
 ///
-/// A target may be busy with a drop while the next drag has begun: requests are told apart by their
-/// time, and where they have none by the program that asks. What it says at the end cannot be told
-/// apart where several drops wait for one window, so nothing leaves before all of them went well.
+/// A target may still be busy with a drop when the next drag has begun. Requests are assigned to
+/// drags by their time, and those without a time by the program that asks. XdndFinished does not
+/// name its drop: if several drops wait for one window, their items leave the shelf only after as
+/// many messages have come, and all of them report success.
 class X11DragSupport : public DragSupport, public QAbstractNativeEventFilter {
 public:
-    /// Seconds without a sign of the target after which it has not taken what was dropped on it. A
-    /// file manager may be asking the user meanwhile what to do.
+    /// In seconds: a target that gives no sign for so long counts as not having taken the drop. It
+    /// is long because a file manager may be asking its user something.
     static constexpr double defaultPatience = 60;
-    /// Seconds that targets wait at most for what is still being made.
+    /// In seconds: how long targets wait at most for contents that are still being made.
     static constexpr double makingPatience = 300;
-    /// Seconds in which a target that is gone by now may still be heard of.
+    /// In seconds: how long messages are awaited of a target that was already gone at the drop.
     static constexpr double lastWords = 1;
 
     X11DragSupport(X11Connection &connection, MainQueue &queue, double patience = defaultPatience);
@@ -55,12 +56,12 @@ private:
     void readMessage(xcb_client_message_event_t &message);
     void finished(const xcb_client_message_event_t &message);
     void finishedOneOf(const std::vector<DragId> &drops, const xcb_client_message_event_t &message);
-    /// Dropped on that window, which has not said yet how that ended; the oldest first.
+    /// The drags that were dropped on that window and wait for its XdndFinished; the oldest first.
     std::vector<DragId> dropsAwaiting(xcb_window_t window) const;
     void windowIsGone(xcb_window_t window);
     void lostSelection(xcb_timestamp_t time);
     bool answer(const xcb_selection_request_event_t &request);
-    /// Null when nothing of ours is dragged.
+    /// The drag that a request is about; null when there is none.
     X11Drag *dragFor(const xcb_selection_request_event_t &request);
     X11Drag *latest() { return m_drags.empty() ? nullptr : m_drags.rbegin()->second.get(); }
     X11Drag *find(DragId drag);
@@ -74,17 +75,18 @@ private:
     MainQueue &m_queue;
     double m_patience;
     IncrementalTransfers m_transfers;
-    /// The drags that somebody may still ask about, in the order in which they began. The last one
-    /// stays until another begins, here or in another program.
+    /// The drags that targets may still ask about, in the order in which they began. The last one
+    /// stays until another drag begins, here or in another program.
     std::map<DragId, std::unique_ptr<X11Drag>> m_drags;
     DragId m_lastId = 0;
     bool m_hasSelection = false;
-    /// What windows with several drops on them have said so far: it does not name the drop.
+    /// The XdndFinished messages so far from windows with several waiting drops.
     std::map<xcb_window_t, std::vector<xcb_client_message_event_t>> m_words;
-    /// Windows that were given up and may still say how it ended, once for each drop.
+    /// Windows that were given up, once for each late XdndFinished that they may still send. Such a
+    /// message is ignored.
     std::deque<xcb_window_t> m_givenUp;
     static constexpr std::size_t maximumGivenUp = 32;
-    /// Of the latest input that Qt was told of.
+    /// The time of the latest input event that Qt got.
     xcb_timestamp_t m_time = XCB_CURRENT_TIME;
     std::unique_ptr<MainQueue::Timer> m_timer;
     Lifetime m_lifetime;

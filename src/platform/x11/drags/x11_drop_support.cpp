@@ -11,7 +11,8 @@ namespace corvane {
 
 namespace {
 
-/// The types that a message of entering names itself; none where the source's window does.
+/// The types that an XdndEnter message names itself; none if there are more than three, which the
+/// source's window then lists.
 std::vector<xcb_atom_t> typesIn(const xcb_client_message_event_t &enter)
 {
     std::vector<xcb_atom_t> types;
@@ -108,7 +109,7 @@ bool X11DropSupport::position(const xcb_client_message_event_t &message,
     if (m_addresses == Addresses::Asked)
         return true;
     m_addresses = Addresses::Asked;
-    // Sources answer who names the time that they told with the position.
+    // Sources answer only requests with the time that they told with the position.
     m_drag->setTime(message.data.data32[3]);
     fetchAddresses(receiver.addressTypes(m_drag->types()));
     m_queue.asyncAfter(hoverPatience, m_lifetime.guard([this, drag = std::weak_ptr(m_drag)] {
@@ -138,7 +139,7 @@ void X11DropSupport::fetchAddresses(QStringList types)
                   }));
 }
 
-/// Whatever is known by now decides.
+/// Lets Qt have the held position; the receiver decides by the addresses known so far.
 void X11DropSupport::decide()
 {
     if (m_addresses != Addresses::Asked)
@@ -169,7 +170,8 @@ void X11DropSupport::drop(xcb_client_message_event_t &message, DropReceiver &rec
         m_drops.push_back(dropped);
     else
         dropped->finish(false);
-    // Qt forgets the drag, and says nothing to its source.
+    // Made a leave for Qt: it then forgets the drag without telling the source that the drop is
+    // over.
     message.type = m_connection.atom("XdndLeave");
 }
 

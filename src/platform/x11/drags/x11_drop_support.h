@@ -17,21 +17,21 @@
 
 namespace corvane {
 
-/// What other programs drag and drop on our panels, seen before Qt sees it.
+/// Handles what other programs drag over our panels and drop on them, before Qt sees it.
 ///
 ///     XdndEnter ----> who drags, and what it offers
 ///     XdndPosition -> Qt; held back, where the answer depends on addresses, until these are here
 ///     XdndDrop -----> Qt sees the drag leave; the receiver fetches what it wants in its own time,
 ///                     and then the source is told how its drop ended
 ///
-/// What Qt's own windows drag to each other does not come this way. The connection and the queue
-/// must outlive it; it must be made after the application object. When the program ends, the
-/// sources that still wait are told.
+/// Drags between Qt's own windows do not come this way. The connection and the queue must outlive
+/// it; it must be made after the application object. When the program ends, sources that still wait
+/// are told that their drops were not taken.
 class X11DropSupport : public DropSupport, public QAbstractNativeEventFilter {
 public:
-    /// Seconds that an answer to a hovering source is put off for addresses that do not come.
+    /// In seconds: how long the answer to a hovering drag is delayed until its addresses are here.
     static constexpr double hoverPatience = 5;
-    /// More than these bytes of addresses are none.
+    /// Larger address lists are not read.
     static constexpr qsizetype maximumAddressBytes = 64LL * 1024 * 1024;
     /// More drops at once are refused.
     static constexpr std::size_t maximumDrops = 32;
@@ -54,9 +54,9 @@ private:
 
     DropReceiver *receiverOf(xcb_window_t window) const;
     void enter(const xcb_client_message_event_t &message, const DropReceiver &receiver);
-    /// True where Qt hears of it later.
+    /// True if the message is held back from Qt.
     bool position(const xcb_client_message_event_t &message, const DropReceiver &receiver);
-    /// What was over a panel, which is nothing from now on.
+    /// Forgets the drag that is over a panel, and returns it.
     std::shared_ptr<X11IncomingDrag> leave();
     void drop(xcb_client_message_event_t &message, DropReceiver &receiver);
     void fetchAddresses(QStringList types);
@@ -74,7 +74,7 @@ private:
         Asked,
     } m_addresses
         = Addresses::NotNeeded;
-    /// The latest position of a drag that nobody has heard of yet.
+    /// The latest XdndPosition that was held back from Qt.
     std::optional<xcb_client_message_event_t> m_held;
     std::vector<std::weak_ptr<X11IncomingDrag>> m_drops;
     QMetaObject::Connection m_programEnds;

@@ -48,7 +48,7 @@ X11IncomingDrag::X11IncomingDrag(X11Connection &connection, MainQueue &queue,
     std::vector<xcb_atom_t> atoms = source.types;
     if (atoms.empty())
         atoms = atomsIn(propertyOf(connection, m_source, "XdndTypeList", maximumTypes * 4));
-    // All are asked for before the first answer is waited for.
+    // All requests are sent before the first answer is awaited.
     std::vector<xcb_get_atom_name_cookie_t> names;
     names.reserve(atoms.size());
     for (const xcb_atom_t atom : atoms)
@@ -106,7 +106,7 @@ void X11IncomingDrag::fetch(const QString &type, qsizetype maximumBytes, Fetched
     const xcb_window_t owner = m_reader->owner();
     if (m_owner == XCB_NONE)
         m_owner = owner;
-    // Another one's contents would be taken for this one's.
+    // If the owner has changed, its contents would be taken for this drag's.
     if (owner == XCB_NONE || owner != m_owner) {
         readLater(Outcome::Lost, {}, std::move(done));
         return;
@@ -141,7 +141,7 @@ void X11IncomingDrag::receivePromisedFile(const QUrl &destination, std::function
 {
     if (!m_connection)
         return;
-    // It watches before the source is told, so that nothing is missed.
+    // The watch begins before the source is told where to write.
     m_arrival = std::make_unique<FileArrival>(file_url::nativePath(destination), *m_queue);
     const QByteArray address = destination.toEncoded(QUrl::FullyEncoded);
     xcb_change_property(m_connection->get(), XCB_PROP_MODE_REPLACE, m_source,
@@ -150,7 +150,8 @@ void X11IncomingDrag::receivePromisedFile(const QUrl &destination, std::function
     constexpr qsizetype maximumAnswer = 64;
     fetch(QLatin1String(directSave), maximumAnswer,
           [this, done = std::move(done)](Outcome outcome, const QByteArray &answer) mutable {
-              // 'S' is success; 'F' asks us to save by ourselves, 'E' is an error.
+              // The source's answer: 'S' is success, 'F' asks us to save the contents ourselves,
+              // 'E' is an error.
               if (outcome == Outcome::Arrived && answer.startsWith('S')) {
                   waitForFile(std::move(done));
                   return;
@@ -174,11 +175,11 @@ bool X11IncomingDrag::haveContents(const QStringList &types)
 void X11IncomingDrag::waitForFile(std::function<void(bool)> done)
 {
     m_arrival->wait([this, done = std::move(done)](bool hasArrived) {
-        // Kept until `done` is through: it may end this.
+        // Kept until `done` returns, which may destroy this.
         const auto self = shared_from_this();
         const auto arrival = std::move(m_arrival);
-        // Where nothing else is to be had, an empty file is what the source has. Beside an address
-        // it is a download that failed.
+        // An empty file is kept only if the source offers nothing else. Beside an address it is a
+        // download that failed.
         const bool isKept = hasArrived || (arrival->isEmptyFile() && !haveContents(m_types));
         if (!isKept)
             arrival->discard();
@@ -186,13 +187,13 @@ void X11IncomingDrag::waitForFile(std::function<void(bool)> done)
     });
 }
 
-/// Some sources have another window speak for theirs.
+/// The window that messages to the source are sent to: some sources name a proxy for theirs.
 xcb_window_t X11IncomingDrag::proxy() const
 {
     const auto proxy = atomsIn(propertyOf(*m_connection, m_source, "XdndProxy", 4));
     if (proxy.size() != 1)
         return m_source;
-    // A proxy that is no more does not name itself.
+    // A valid proxy names itself in the same property; a stale number does not.
     const auto confirmed = atomsIn(propertyOf(*m_connection, proxy.front(), "XdndProxy", 4));
     return confirmed == proxy ? proxy.front() : m_source;
 }

@@ -12,14 +12,15 @@
 namespace corvane {
 
 /// Another program's drag by the XDND protocol. The connection, the queue and the reader must
-/// outlive it, or it must be told to forget them.
+/// outlive it, or `forget` must be called before they are destroyed.
 class X11IncomingDrag : public IncomingDrag, public std::enable_shared_from_this<X11IncomingDrag> {
 public:
+    /// The type by which a source offers to write a file itself (the XDS protocol).
     static constexpr auto directSave = "XdndDirectSave0";
-    /// More types are left out.
+    /// Further types are ignored.
     static constexpr std::uint32_t maximumTypes = 256;
 
-    /// Who drags over which window, and what the message of its entering says of the types.
+    /// The source's window, our window below the pointer, and the types that XdndEnter named.
     struct Source {
         xcb_window_t source;
         xcb_window_t target;
@@ -36,17 +37,17 @@ public:
     void receivePromisedFile(const QUrl &destination, std::function<void(bool)> done) override;
     void finish(bool isTaken) override;
 
-    /// Whether something of `types` can be kept in place of a promised file: a picture, an address
-    /// or a text.
+    /// Whether `types` have contents that can be kept if a promised file does not arrive: a
+    /// picture, an address or a text.
     static bool haveContents(const QStringList &types);
 
     xcb_window_t source() const { return m_source; }
     xcb_window_t target() const { return m_target; }
-    /// The source answers only who names the time that it told.
+    /// Sets the time for requests; the source answers only those with the time that it told.
     void setTime(xcb_timestamp_t time) { m_time = time; }
-    /// From now on the source waits to hear how it ended.
+    /// The drag was dropped: the source waits for `finish` from now on.
     void setDropped() { m_isDropped = true; }
-    /// Finishes it and asks nothing more of what it was made with, which goes.
+    /// Finishes a drop as not taken, and stops using the references, which may be destroyed then.
     void forget();
 
 private:

@@ -109,7 +109,7 @@ bool X11HotKeys::isHeldByOurselves(const Combination &combination) const
 
 bool X11HotKeys::grab(const Combination &combination)
 {
-    // The server refuses what another program holds, but not what we hold ourselves.
+    // The server refuses a grab that another program holds, but not one that we hold.
     if (!m_connection.isConnected() || isHeldByOurselves(combination))
         return false;
     std::vector<xcb_void_cookie_t> requests;
@@ -123,7 +123,7 @@ bool X11HotKeys::grab(const Combination &combination)
         const X11Reply<xcb_generic_error_t> error(xcb_request_check(m_connection.get(), request));
         isRefused = isRefused || error;
     }
-    // A connection that broke meanwhile reports no error.
+    // Requests on a broken connection report no error.
     isRefused = isRefused || !m_connection.isConnected();
     if (isRefused)
         ungrab(combination);
@@ -135,7 +135,7 @@ void X11HotKeys::ungrab(const Combination &combination)
     for (const std::uint16_t locks : m_mapping.lockVariants())
         xcb_ungrab_key(m_connection.get(), combination.key, m_connection.root(),
                        static_cast<std::uint16_t>(combination.modifiers | locks));
-    // Whoever is told that it is free may take it at once.
+    // Sent at once: another program may take the combination as soon as it is told that it is free.
     m_connection.flush();
 }
 
@@ -167,7 +167,8 @@ void X11HotKeys::ungrabAll()
 
 void X11HotKeys::handle(const xcb_generic_event_t &event)
 {
-    // The highest bit marks what another program has sent, which is no key.
+    // Not masked: the highest bit marks events that another program has sent, which are no key
+    // presses.
     const std::uint8_t type = event.response_type;
     if (type == XCB_KEY_PRESS) {
         handlePress(reinterpret_cast<const xcb_key_press_event_t &>(event));
@@ -177,7 +178,7 @@ void X11HotKeys::handle(const xcb_generic_event_t &event)
     } else if (type == XCB_MAPPING_NOTIFY && !m_willReread
                && reinterpret_cast<const xcb_mapping_notify_event_t &>(event).request
                    != XCB_MAPPING_POINTER) {
-        // One change of the layout is told in many events.
+        // One change of the layout causes many such events.
         m_willReread = true;
         m_queue.async(m_lifetime.guard([this] { rereadMapping(); }));
     }
@@ -203,7 +204,7 @@ void X11HotKeys::rereadMapping()
     const X11Modifiers mapping = X11Modifiers::read(m_connection.get());
     if (mapping == m_mapping || !m_connection.isConnected())
         return;
-    // By the bits that they were taken with.
+    // With the modifiers' old bits, by which the keys were grabbed.
     ungrabAll();
     m_mapping = mapping;
     if (m_suspensions == 0)

@@ -17,10 +17,10 @@ class MainQueue;
 /// Hot keys as passive grabs on the root window, which work whichever program has the keyboard and
 /// also while one drags with the pointer grabbed.
 ///
-/// A grab names a key by its position and modifiers by their bits, so a change of the layout costs
-/// nothing; one of the modifiers takes all grabs anew. One that cannot be had again then, or after
-/// a suspension, is logged, and tried for again at the next such occasion. The connection and the
-/// queue must outlive it.
+/// A grab names a key by its position and modifiers by their bits. So it stays when the layout
+/// changes; when the modifiers' bits change all keys are grabbed anew. If a grab is refused then,
+/// or after a suspension, that is logged once, and tried again at the next such occasion. The
+/// connection and the queue must outlive it.
 class X11HotKeys : public HotKeyService {
 public:
     X11HotKeys(X11Connection &connection, MainQueue &queue);
@@ -35,7 +35,7 @@ public:
     std::unique_ptr<Suspension> suspend() override;
 
 private:
-    /// What the server is asked for.
+    /// A key and modifiers as the server names them.
     struct Combination {
         xcb_keycode_t key = 0;
         std::uint16_t modifiers = 0;
@@ -46,9 +46,9 @@ private:
         KeyPosition keyCode = KeyPosition::Unknown;
         std::uint32_t modifiers = 0;
         HotKeyIdentifier identifier;
-        /// None while it could not be had.
+        /// None while it is not grabbed.
         std::optional<Combination> grabbed;
-        /// It was to be taken again, and could not: said once.
+        /// The last attempt to grab it again failed, which was logged.
         bool isLost = false;
     };
     class Counted;
@@ -74,7 +74,8 @@ private:
     ChangingList<Handler> m_handlers;
     int m_suspensions = 0;
     bool m_willReread = false;
-    /// Of the latest release; a repeated press carries the time of a release that nobody made.
+    /// Key and time of the latest release. An automatic repeat is a press with the same key and
+    /// time as a release that the user did not make.
     std::pair<xcb_keycode_t, xcb_timestamp_t> m_released{0, 0};
     Lifetime m_lifetime;
 };

@@ -34,13 +34,14 @@ void X11KeyShield::hold(xcb_keycode_t key, std::uint16_t modifiers)
         return;
     m_key = key;
     m_modifiers = modifiers & modifierBits;
-    // Another program may hold the combination, and then it is that one's.
+    // If another program has grabbed the combination, the repeats go there.
     const auto request
         = xcb_grab_key_checked(m_connection.get(), 0, m_connection.root(), m_modifiers, m_key,
                                XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
     xcb_discard_reply(m_connection.get(), request.sequence);
     listen(true);
-    // Asked behind that: its release is seen from here on, or was before.
+    // Asked after the events were selected: either its release will be reported, or it is up
+    // already.
     if (!isDown(m_key))
         letGo();
 }
@@ -54,8 +55,8 @@ void X11KeyShield::letGo()
     m_key = 0;
 }
 
-// Raw events: repeats are none, and they come whoever has the keyboard. Of every device instead of
-// the master devices, of which others on this connection hear what they need.
+// Raw events, because they do not include repeats and come whichever window has the keyboard. For
+// all devices rather than the master devices, whose selection on this connection others set.
 void X11KeyShield::listen(bool wanted)
 {
     struct {

@@ -6,13 +6,13 @@
 
 namespace corvane {
 
-/// Keeps a key that is held down from acting on the program that is given the keyboard: until it is
-/// released its repeats go nowhere.
+/// When the keyboard is given to another program while a key is held down, this keeps the key's
+/// repeats from that program until the key is released.
 ///
-/// A grab of that key, with the modifiers that it was pressed with. Its first repeat makes it a
-/// grab of the whole keyboard, as every such grab is: from then until the key is released other
-/// keys go nowhere either. Before that, and where the key does not repeat, they go where they
-/// should. The connection must outlive it.
+/// It grabs the key with the modifiers that it was pressed with. The first repeat activates the
+/// grab, which then covers the whole keyboard: until the key is released other keys are swallowed,
+/// too. Before that, and if the key does not repeat, other keys are not affected. The connection
+/// must outlive it.
 class X11KeyShield {
 public:
     explicit X11KeyShield(X11Connection &connection);
@@ -20,9 +20,9 @@ public:
     X11KeyShield(const X11KeyShield &) = delete;
     X11KeyShield &operator=(const X11KeyShield &) = delete;
 
-    /// In place of the key before it. Does nothing if the key is not down any more. The combination
-    /// must be none that is grabbed otherwise on this connection; one that came to a window is
-    /// none.
+    /// Begins to swallow this key's repeats, instead of an earlier key's. Does nothing if the key
+    /// is not down any more. The combination must not be grabbed by others on this connection; a
+    /// key that was delivered to a window is not.
     void hold(xcb_keycode_t key, std::uint16_t modifiers);
     bool isDown(xcb_keycode_t key) const;
     bool isAnyDown() const;

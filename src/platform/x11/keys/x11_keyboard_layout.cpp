@@ -68,7 +68,8 @@ QString textOf(xkb_keysym_t symbol)
     return QChar::isPrint(character) ? QString::fromUcs4(&character, 1) : QString();
 }
 
-/// The first level at which the key types something: a keypad's digits are not on its lowest one.
+/// What the key types at the lowest level at which it types something: keypad digits are not at the
+/// first.
 QString textOf(xkb_keymap *keymap, xkb_keycode_t key, xkb_layout_index_t layout)
 {
     const xkb_level_index_t levels = xkb_keymap_num_levels_for_key(keymap, key, layout);
@@ -116,7 +117,7 @@ bool X11KeyboardLayout::changesKeys(KeySymbol symbol) const
         std::uint32_t last;
     };
     constexpr std::array ranges = {
-        // Levels and layouts, shifted to, latched or locked.
+        // Keys that shift, latch or lock levels and layouts.
         Range{XKB_KEY_ISO_Lock, XKB_KEY_ISO_Last_Group_Lock},
         Range{XKB_KEY_ISO_Level5_Shift, XKB_KEY_ISO_Level5_Lock},
         // Compose, and the keys of Japanese and Korean keyboards that switch the input method.

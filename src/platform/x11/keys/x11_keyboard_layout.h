@@ -4,12 +4,12 @@
 
 namespace corvane {
 
-/// The layout as the X server has it now. Asked anew each time, which takes a few milliseconds: it
-/// is wanted when a shortcut is recorded and at no other time.
+/// The X server's present keyboard layout. It is asked for at each call, which takes a few
+/// milliseconds; only recording a shortcut needs it.
 ///
-/// It asks on Qt's connection, which uses the server's keyboard extension anyway: under that
-/// changes of the modifiers are told otherwise, and the hot keys hear of them on a connection of
-/// their own.
+/// It uses Qt's connection, which uses the XKB extension anyway. A connection that uses XKB gets
+/// other events when modifiers change; ours does not use it, because the hot keys wait for the core
+/// events.
 class X11KeyboardLayout : public KeyboardLayout {
 public:
     QString charactersOf(KeyPosition position) const override;

@@ -21,7 +21,7 @@ constexpr xcb_keysym_t superLeft = 0xffeb;
 constexpr xcb_keysym_t superRight = 0xffec;
 } // namespace symbols
 
-// Bits of stored shortcuts.
+// Modifier bits of stored shortcuts, as in `Shortcut`, which back ends may not include.
 constexpr std::uint32_t storedCommand = 256;
 constexpr std::uint32_t storedShift = 512;
 constexpr std::uint32_t storedOption = 2048;
@@ -35,7 +35,7 @@ public:
         const auto *setup = xcb_get_setup(connection);
         m_firstKey = setup->min_keycode;
         const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
-        // Both are asked for before either is waited for.
+        // Both requests are sent before the first answer is awaited.
         const auto modifiers = xcb_get_modifier_mapping(connection);
         const auto keyboard = xcb_get_keyboard_mapping(connection, m_firstKey, count);
         m_modifiers.reset(xcb_get_modifier_mapping_reply(connection, modifiers, nullptr));
@@ -76,7 +76,7 @@ private:
     }
     std::span<const xcb_keysym_t> symbolsOf(xcb_keycode_t key) const
     {
-        // Places that no key fills hold zero.
+        // Unused entries are zero.
         if (key < m_firstKey)
             return {};
         const std::size_t width = m_keyboard->keysyms_per_keycode;
@@ -137,7 +137,7 @@ std::vector<std::uint16_t> X11Modifiers::lockVariants() const
 {
     std::vector<std::uint16_t> variants = {0};
     for (const std::uint16_t lock : {std::uint16_t{XCB_MOD_MASK_LOCK}, numLock, scrollLock}) {
-        // A lock that shares its bit with a modifier cannot be told from it.
+        // A lock modifier with the same bit as another modifier cannot be ignored.
         const bool isUsable = lock != 0 && (lock & significant()) == 0
             && std::ranges::find(variants, lock) == variants.end();
         if (!isUsable)

@@ -21,13 +21,14 @@ struct X11Modifiers {
     /// Asks the server. All zero if it does not answer.
     static X11Modifiers read(xcb_connection_t *connection);
 
-    /// The mask that stands for modifier bits as shortcuts store them. None for bits that have no
-    /// meaning, for a modifier that no key sets, and without Command, Option and Control: the user
-    /// types with what is left.
+    /// The mask for modifier bits as shortcuts store them. None for unknown bits, for a modifier
+    /// that no key sets, and without Command, Option and Control, because the user types with Shift
+    /// or nothing.
     std::optional<std::uint16_t> maskFor(std::uint32_t modifiers) const;
-    /// Every set of locked keys under which a combination has to work: the empty one first.
+    /// All combinations of lock modifiers (Caps, Num, Scroll) under which a hot key has to work;
+    /// the empty one comes first.
     std::vector<std::uint16_t> lockVariants() const;
-    /// What of an event's state tells combinations apart.
+    /// The bits of an event's state that distinguish combinations.
     std::uint16_t significant() const;
 
     friend bool operator==(const X11Modifiers &, const X11Modifiers &) = default;

@@ -9,8 +9,9 @@ namespace corvane {
 
 namespace {
 
-/// At fractional scales a screen's size in pixels is known to one pixel only, its place exactly. So
-/// of the screens that may show a pixel the one counts that has fewer doubtful lines through it.
+/// At fractional scales a screen's size in pixels may be one too small; its place is exact. So if
+/// several screens may show the pixel, it is the one with fewer uncertain rows or columns at that
+/// place.
 ScreenPointer screenAt(QPoint pixel, const std::vector<ScreenPointer> &screens)
 {
     constexpr int beyond = 1;

@@ -10,8 +10,9 @@
 
 namespace corvane {
 
-/// The pointer as the server has it, to the pixel. Qt rounds it to whole points: where a point is
-/// several pixels, the last ones of a screen would lie beyond it. Both references must outlive it.
+/// The pointer's place, exact to the pixel, asked of the server. Qt rounds it to whole points;
+/// where a point is several pixels the last pixels of a screen would be outside it. Both references
+/// must outlive it.
 class X11Pointer : public Pointer {
 public:
     X11Pointer(X11Connection &connection, const Screens &screens);
@@ -19,7 +20,7 @@ public:
     std::optional<QPointF> location() const override;
 
     /// The middle of a pixel in global points, inside the screen that shows it. A pixel that no
-    /// screen shows is placed from the first one on; none without a screen.
+    /// screen shows is converted relative to the first screen; none without a screen.
     static std::optional<QPointF> locationOf(QPoint pixel,
                                              const std::vector<ScreenPointer> &screens);
 

@@ -22,10 +22,12 @@ Line lineOf(const EdgeStretch &stretch)
             native.top()};
 }
 
-/// What is left of the line beside the columns of `screen`, if that lies right above.
+/// The parts of the line that are not below `screen`; the whole line if the screen is not directly
+/// above.
 std::vector<Line> without(const Line &line, const QRect &screen)
 {
-    // A fractional scale may have rounded its height down, and a barrier there would be in the way.
+    // At a fractional scale the screen's height may be rounded down; a barrier between two screens
+    // would hold the pointer up.
     constexpr int rounding = 2;
     const int above = line.y - 1;
     const bool liesAbove = screen.top() <= above && screen.bottom() + rounding >= above;
@@ -84,7 +86,7 @@ std::vector<Line> X11PointerBarriers::outerLines(const std::vector<EdgeStretch> 
             }
             parts = std::move(rest);
         }
-        // The server takes no line of a single pixel.
+        // The server does not accept a line of a single pixel.
         std::erase_if(parts, [](const Line &part) { return part.left >= part.right; });
         lines.insert(lines.end(), parts.begin(), parts.end());
     }
@@ -128,17 +130,18 @@ void X11PointerBarriers::handle(const xcb_generic_event_t &event)
         return;
     if (!isHit)
         left(news.barrier);
-    // Held by a button, a menu or a drag: the pointer is not there for us.
+    // While the pointer is grabbed (a button is held, a menu is open, a drag is going on) it does
+    // not count as at the edge.
     else if ((news.flags & XCB_INPUT_BARRIER_FLAGS_DEVICE_IS_GRABBED) == 0)
         hit(news.barrier);
 }
 
 void X11PointerBarriers::hit(xcb_xfixes_barrier_t barrier)
 {
-    // News of a barrier that is gone may still be on their way.
+    // Events of a destroyed barrier may still arrive.
     if (!isOurs(barrier) || m_visited == barrier)
         return;
-    // It may have jumped here from another one.
+    // The pointer may have come from another barrier without leaving it.
     left(m_visited);
     if (!isOurs(barrier))
         return;

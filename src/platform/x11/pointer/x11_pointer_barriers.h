@@ -9,12 +9,12 @@
 
 namespace corvane {
 
-/// Watches top edges by pointer barriers: lines that the server lets the pointer through in every
-/// direction but up, which nothing could do there anyway, and whose hits it tells. There is no
-/// window at the edge. What it is given must outlive it.
+/// Watches top edges by pointer barriers: lines that the server lets the pointer pass in every
+/// direction but up, where it could not go anyway, and whose hits it reports. No window at the edge
+/// is needed. What it is given must outlive it.
 class X11PointerBarriers : public PointerBarriers {
 public:
-    /// A row of pixels, both ends included.
+    /// A row of pixels, from `left` to `right` inclusive.
     struct Line {
         int left = 0;
         int right = 0;
@@ -30,7 +30,7 @@ public:
 
     void watch(const std::vector<EdgeStretch> &stretches) override;
 
-    /// The stretches without what another screen continues upward.
+    /// The lines for these stretches, without the parts above which another screen continues.
     static std::vector<Line> outerLines(const std::vector<EdgeStretch> &stretches,
                                         const std::vector<ScreenPointer> &screens);
 
@@ -45,11 +45,11 @@ private:
     X11Connection &m_connection;
     const Screens &m_screens;
     Subscription m_listener;
-    /// Never shown: hits are told to it, so that nothing has to be heard on the root window. Made
-    /// when it is first needed.
+    /// A window that is never shown; hits are reported to it, so that nothing is selected on the
+    /// root window. Made at the first use.
     xcb_window_t m_ear = XCB_NONE;
     std::vector<xcb_xfixes_barrier_t> m_barriers;
-    /// The one that the pointer was pushed against and has not left.
+    /// The barrier that the pointer was pushed against and has not left.
     xcb_xfixes_barrier_t m_visited = XCB_NONE;
 };
 

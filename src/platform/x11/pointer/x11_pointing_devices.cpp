@@ -10,7 +10,8 @@ bool X11PointingDevices::isOfType(std::int64_t device, const char *type)
 {
     if (!m_types.contains(device)) {
         read();
-        // What the server does not know it is not asked for at every turn of a wheel.
+        // Remembered also for a device that the server does not know, so that it is not asked for
+        // every turn of a wheel.
         m_types.try_emplace(device, XCB_NONE);
     }
     return m_types[device] != XCB_NONE && m_types[device] == m_connection.atom(type);

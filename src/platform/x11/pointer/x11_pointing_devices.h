@@ -8,8 +8,9 @@
 
 namespace corvane {
 
-/// What the server's drivers say that pointing devices are. Events tell nothing of it: how far
-/// wheels and touchpads scroll for a notch is up to their drivers. The connection must outlive it.
+/// The types of pointing devices, as their drivers announce them to the server. Scroll events do
+/// not tell whether they come from a touchpad, and drivers decide how far a notch scrolls. The
+/// connection must outlive it.
 class X11PointingDevices : public PointingDevices {
 public:
     explicit X11PointingDevices(X11Connection &connection)
@@ -18,8 +19,8 @@ public:
     }
 
     bool isTouchpad(std::int64_t device) override { return isOfType(device, "TOUCHPAD"); }
-    /// By the input extension's name for what a driver announces. The server is asked when a device
-    /// is named for the first time, and believed from then on.
+    /// Whether the device has that type, by the input extension's name for it. The server is asked
+    /// at the first question about a device; its answer is kept.
     bool isOfType(std::int64_t device, const char *type);
 
 private:

@@ -6,7 +6,8 @@
 
 namespace corvane {
 
-/// A compositor owns a selection that is there for this. The connection must outlive it.
+/// Windows are blended while a compositor owns the selection `_NET_WM_CM_Sn`. The connection must
+/// outlive it.
 class X11Compositing : public Compositing {
 public:
     explicit X11Compositing(X11Connection &connection);

@@ -11,8 +11,8 @@ namespace corvane {
 bool X11FullScreenWindows::isCovered(const Screen &screen) const
 {
     const QPoint place(screen.nativeFrame.center().x(), screen.nativeFrame.top());
-    // In front there may be something small, such as a notification, and below it the film that has
-    // the keyboard.
+    // Something small such as a notification may be in front, and the full-screen film below it
+    // have the keyboard.
     const xcb_window_t active = X11WindowManager(m_connection).activeWindow();
     if (active != XCB_NONE && isFullScreen(active)) {
         const auto frame = frameOf(active);
@@ -22,7 +22,7 @@ bool X11FullScreenWindows::isCovered(const Screen &screen) const
     const xcb_window_t front = childAt(m_connection.root(), place);
     if (front != XCB_NONE && coversUnmanaged(front, screen.nativeFrame))
         return true;
-    // Down through a window manager's frames, which are never deep.
+    // Through the window manager's frames, which are nested only a few levels deep.
     constexpr int maximumDepth = 8;
     xcb_window_t window = front;
     for (int depth = 0; window != XCB_NONE && depth < maximumDepth; ++depth) {
@@ -42,12 +42,12 @@ bool X11FullScreenWindows::coversUnmanaged(xcb_window_t window, const QRect &scr
 {
     const X11Reply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
         m_connection.get(), xcb_get_window_attributes(m_connection.get(), window), nullptr));
-    // Window managers keep windows of their own, with nothing in them, below all others.
+    // Window managers have empty (input-only) windows of their own below all others.
     if (!attributes || attributes->override_redirect == 0
         || attributes->_class == XCB_WINDOW_CLASS_INPUT_ONLY)
         return false;
     const auto frame = frameOf(window);
-    // The screen's size may be rounded up; its place is exact.
+    // The screen's size in pixels may be rounded up by one.
     const bool covers = frame && frame->adjusted(0, 0, 1, 1).contains(screen);
     return covers && !hasAtom(window, "_NET_WM_WINDOW_TYPE", "_NET_WM_WINDOW_TYPE_DESKTOP");
 }
@@ -55,7 +55,7 @@ bool X11FullScreenWindows::coversUnmanaged(xcb_window_t window, const QRect &scr
 bool X11FullScreenWindows::hasAtom(xcb_window_t window, const char *property,
                                    const char *value) const
 {
-    // More than there are states.
+    // More than there are window states or types.
     constexpr std::uint32_t maximumCount = 64;
     const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
         m_connection.get(),

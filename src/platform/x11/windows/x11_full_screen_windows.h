@@ -9,8 +9,8 @@
 
 namespace corvane {
 
-/// Full-screen windows as window managers mark them, and those that no window manager manages and
-/// that cover a whole screen. Asks the server anew each time. The connection must outlive it.
+/// Finds full-screen windows: those that window managers mark as such, and unmanaged windows that
+/// cover a whole screen. The server is asked at each call. The connection must outlive it.
 class X11FullScreenWindows : public FullScreenWindows {
 public:
     explicit X11FullScreenWindows(X11Connection &connection)

@@ -26,8 +26,8 @@ X11KeyboardFocus::~X11KeyboardFocus()
     xcb_destroy_window(m_connection.get(), m_answers);
 }
 
-/// Asked for on Qt's connection, on which panels are given the keyboard: behind what was asked for
-/// there.
+/// Asked on Qt's connection, because panels are given the keyboard there: the answer then includes
+/// requests that were sent before.
 xcb_window_t X11KeyboardFocus::focus() const
 {
     auto *const qt = x11_qt::connection();
@@ -64,15 +64,16 @@ bool X11KeyboardFocus::giveBackTo(const Owner &owner)
         m_windowManager.activate(active, m_connection.get(), now);
         m_windowManager.askForSign(m_answers);
     }
-    // Also where there is a window manager, and after it was asked, so that it expects this. Some
-    // do not see that a window loses the keyboard while a key is grabbed, as a hot key is: they
-    // think that it has it still, and do nothing.
+    // The focus is set also if there is a window manager, after it was asked. Some do not notice
+    // that a window loses the keyboard while a key is grabbed, as a hot key is; they think that the
+    // window still has it, and do nothing.
     if (focused == XCB_NONE || !tryToFocus(focused, now))
         tryToFocus(XCB_INPUT_FOCUS_POINTER_ROOT, now);
     return active != XCB_NONE;
 }
 
-/// False where the window is gone or hidden: a panel must not keep the keyboard for that.
+/// Sets the focus. False if the window is gone or hidden; the caller then takes the keyboard away
+/// from the panel another way.
 bool X11KeyboardFocus::tryToFocus(xcb_window_t window, xcb_timestamp_t time)
 {
     const X11Reply<xcb_generic_error_t> error(

@@ -7,8 +7,8 @@
 
 namespace corvane {
 
-/// The keyboard on X11, where a window that no window manager manages takes it by itself. The
-/// connection must outlive it.
+/// The keyboard on X11, where panels, which no window manager manages, have to set the focus
+/// themselves. The connection must outlive it.
 class X11KeyboardFocus : public KeyboardFocus {
 public:
     explicit X11KeyboardFocus(X11Connection &connection);
@@ -41,7 +41,7 @@ private:
     X11WindowManager m_windowManager;
     X11KeyShield m_keyShield;
     Subscription m_listener;
-    /// Never shown: the window manager answers on it.
+    /// A window that is never shown; the window manager answers `askForSign` on it.
     xcb_window_t m_answers;
     CallbackList<> m_observers;
 };

@@ -60,13 +60,15 @@ void X11PanelSurface::adopt(QWindow &window)
 {
     window.setFlags(Qt::Tool | Qt::FramelessWindowHint | Qt::X11BypassWindowManagerHint
                     | Qt::WindowStaysOnTopHint | Qt::NoDropShadowWindowHint);
-    // Shown without being given the keyboard; there is no public name for it on a bare window.
+    // Qt then shows the window without activating it. `QWidget` has an attribute for that; a bare
+    // window has only this property.
     window.setProperty("_q_showWithoutActivating", true);
     window.create();
     auto *const qt = x11_qt::connection();
     if (!qt)
         return;
-    // Compositors would draw a shadow around the whole window, body or not.
+    // Otherwise compositors draw a shadow around the whole window, also where the panel is
+    // transparent.
     const std::uint32_t noShadow = 0;
     xcb_change_property(qt, XCB_PROP_MODE_REPLACE, x11_qt::nativeWindow(window),
                         m_connection.atom("_COMPTON_SHADOW"), XCB_ATOM_CARDINAL, 32, 1, &noShadow);
@@ -88,7 +90,7 @@ QScreen *X11PanelSurface::screenOf(const QWindow &window) const
 
 void X11PanelSurface::willShow(QWindow &)
 {
-    // It is already all that it should be.
+    // Nothing to prepare on X11.
 }
 
 void X11PanelSurface::didHide(QWindow &)

@@ -5,8 +5,8 @@
 
 namespace corvane {
 
-/// Panels on X11: windows that no window manager manages, so that they stand exactly where they
-/// should on every desktop. Requests are sent off at once, since they come from timers too. The
+/// Panels on X11: windows that no window manager manages, so that they are exactly where they are
+/// placed, on every workspace. Requests are flushed at once, since they may come from timers. The
 /// connection must outlive it.
 class X11PanelSurface : public PanelSurface {
 public:

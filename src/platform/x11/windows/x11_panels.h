@@ -9,7 +9,7 @@
 
 namespace corvane {
 
-/// What an X11 session has for panels. The connection and the queue must outlive it.
+/// The X11 implementations of what panels need. The connection and the queue must outlive it.
 struct X11Panels {
     X11Panels(X11Connection &connection, MainQueue &queue)
         : surface(connection)

@@ -6,14 +6,14 @@
 
 namespace corvane {
 
-/// Answers those who ask our windows whether the program is alive, as the toolkit announces for all
-/// of them.
+/// Answers `_NET_WM_PING`, by which other programs ask whether ours is alive. Qt announces for all
+/// our windows that they answer it.
 ///
-/// The toolkit answers as well, but only so that the window manager hears it: whoever else watches
-/// over windows, a panel for instance, would take us for hung. Needs the application object.
+/// Qt's own answer reaches only the window manager; other programs that ping, such as panels, would
+/// think that we hang. Needs the application object.
 class X11PingAnswers : public QAbstractNativeEventFilter {
 public:
-    /// The connection is asked for names only, and must outlive it.
+    /// The connection is used for atoms and the root window, and must outlive it.
     explicit X11PingAnswers(X11Connection &connection);
     ~X11PingAnswers() override;
     X11PingAnswers(const X11PingAnswers &) = delete;

@@ -5,8 +5,8 @@
 
 namespace corvane {
 
-/// Tells when the X11 screen has a tray for small windows: when somebody owns the selection that
-/// panels announce theirs by. The connection must outlive it. Main thread only.
+/// Tells when the X11 screen has a system tray, that is, when a program owns the selection
+/// `_NET_SYSTEM_TRAY_Sn`. The connection must outlive it. Main thread only.
 class X11TrayWatch : public TrayWatch {
 public:
     explicit X11TrayWatch(X11Connection &connection);

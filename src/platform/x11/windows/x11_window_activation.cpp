@@ -17,8 +17,8 @@ void X11WindowActivation::bringToFront(QWindow &window)
     x11_qt::ignoreErrors(xcb_change_property_checked(qt, XCB_PROP_MODE_REPLACE, native,
                                                      m_connection.atom("_NET_WM_USER_TIME"),
                                                      XCB_ATOM_CARDINAL, 32, 1, &time));
-    // On Qt's connection, behind what it asked for when it showed the window: a window manager
-    // refuses what it does not know yet.
+    // On Qt's connection, so that the window manager gets it after Qt's request to show the window;
+    // it refuses to activate windows that it does not know yet.
     if (m_windowManager.isRunning())
         m_windowManager.activate(native, qt, time);
     else

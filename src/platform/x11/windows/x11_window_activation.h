@@ -5,9 +5,10 @@
 
 namespace corvane {
 
-/// Window managers refuse the keyboard to a window whose user time is old, and Qt knows only the
-/// time of the last event that it got itself. A click on the panel or a global shortcut went to
-/// somebody else, so the server is asked for its time. The connection must outlive it.
+/// Brings our windows to the front. Window managers refuse a window whose user time is old, and Qt
+/// knows only the time of the last event that it got itself. A click on a panel's icon or a global
+/// shortcut went to another program, so the server is asked for its present time. The connection
+/// must outlive it.
 class X11WindowActivation : public WindowActivation {
 public:
     explicit X11WindowActivation(X11Connection &connection)

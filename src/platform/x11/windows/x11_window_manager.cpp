@@ -18,7 +18,7 @@ void X11WindowManager::activate(xcb_window_t window, xcb_connection_t *on,
                                 xcb_timestamp_t time) const
 {
     tellTime(on);
-    // As a pager would: a program that asks for itself may be refused.
+    // Sent as a pager: requests in a program's own name may be refused.
     constexpr std::uint32_t fromPager = 2;
     xcb_client_message_event_t message = {};
     message.window = window;
@@ -28,7 +28,8 @@ void X11WindowManager::activate(xcb_window_t window, xcb_connection_t *on,
     sendToRoot(message, on);
 }
 
-/// Its estimate of the frame that the window would get, were it shown.
+/// `_NET_REQUEST_FRAME_EXTENTS` asks for an estimate of the window's frame, which is written to a
+/// property.
 void X11WindowManager::askForSign(xcb_window_t window) const
 {
     xcb_client_message_event_t message = {};
@@ -55,8 +56,8 @@ void X11WindowManager::sendToRoot(xcb_client_message_event_t message, xcb_connec
     xcb_flush(on);
 }
 
-/// Some window managers do not use the time that they are told but that of the latest event that
-/// they happened to see. So they see one: a property of the root window comes and goes.
+/// Some window managers ignore the time in the message and use that of the latest event that they
+/// saw. So they are shown one: a property of the root window is set and deleted.
 void X11WindowManager::tellTime(xcb_connection_t *on) const
 {
     const xcb_atom_t property = m_connection.atom("_CORVANE_TIME");

@@ -4,8 +4,8 @@
 
 namespace corvane {
 
-/// The window manager as other programs know it: by properties of the root window, asked for anew
-/// each time, and by messages to it. The connection must outlive it.
+/// The window manager, as other programs talk to it: by properties of the root window, read at each
+/// call, and by messages to the root window (EWMH). The connection must outlive it.
 class X11WindowManager {
 public:
     explicit X11WindowManager(X11Connection &connection)
@@ -14,19 +14,21 @@ public:
     }
 
     bool isRunning() const;
-    /// None where no window has the keyboard, or none that it manages.
+    /// The active window; none when no window, or none that it manages, has the keyboard.
     xcb_window_t activeWindow() const;
-    /// Asks it on a connection, which is flushed, to bring a window forward and to give it the
-    /// keyboard.
+    /// Asks it to bring a window forward and to give it the keyboard. The request is sent on
+    /// connection `on`, which is flushed.
     ///
-    /// The server ignores a program that gives the keyboard away as of a time before that of the
-    /// one who did so last. `time` is therefore the server's present one.
+    /// `time` must be the server's present time: the server ignores a focus change with a time
+    /// before that of the last one.
     void activate(xcb_window_t window, xcb_connection_t *on, xcb_timestamp_t time) const;
 
-    /// Asks it on our own connection to change a property of a window of ours that was never shown.
-    /// It does so after all that it was asked before on that connection. A window manager that does
-    /// not know of this gives no sign.
+    /// Asks it, on our own connection, to set a property of `window`, which is ours and never
+    /// shown. It does that after everything that it was asked before on that connection, so
+    /// `isSign` tells when those requests were handled. A window manager that does not support this
+    /// gives no sign.
     void askForSign(xcb_window_t window) const;
+    /// Whether the event is the answer to `askForSign`.
     bool isSign(const xcb_generic_event_t &event, xcb_window_t window) const;
 
 private:
