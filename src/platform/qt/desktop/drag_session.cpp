@@ -28,7 +28,7 @@ void setImage(QDrag &drag, const Image &image, QPointF hotSpot)
     drag.setHotSpot(QPointF(hotSpot.x(), image.size.height() - hotSpot.y()).toPoint());
 }
 
-/// What Qt knows when the user lets go: what the target would do, not what it does.
+/// The operation that Qt reports when the user lets go: what the target would do, not what it did.
 DragOperation promisedBy(Qt::DropAction action)
 {
     if (action == Qt::IgnoreAction)
@@ -54,8 +54,8 @@ void passOnWhenReady(const DragOut &drag, DragSupport &support, DragSupport::Dra
     });
 }
 
-/// What the target would do; ignored where the drag came to nothing, or back to this process, whose
-/// own windows take nothing off the shelf.
+/// Runs the drag and returns what the target would do. `IgnoreAction` if the drag was cancelled or
+/// dropped on this process, whose windows take nothing off the shelf.
 Qt::DropAction execute(QWindow &window, const DragOut &drag, std::unique_ptr<QMimeData> contents)
 {
     // Qt deletes it once the target has fetched what it wants.
@@ -89,7 +89,8 @@ void runDragSession(QWindow &window, const DragOut &drag, DragSupport *support,
         events.ended({});
         return;
     }
-    // Before anybody is told: the target's window may be closed any moment.
+    // Before the callbacks: the target's window may be closed at any moment, and the support has to
+    // watch it.
     support->dragWasDropped(id, events.ended);
     events.released(promisedBy(action));
 }

@@ -10,17 +10,19 @@ namespace corvane {
 
 class DragSupport;
 
-/// As `DragOutEvents`, but knows what the target promised when the user let go: none where the drag
-/// came to nothing.
+/// Like `DragOutEvents`, but `released` is told what the target promised when the user let go;
+/// `None` if the drag was cancelled or let go where nothing takes it.
 struct DragSessionEvents {
     std::function<void(DragOperation promised)> released;
     std::function<void(const DragOutEnd &)> ended;
 };
 
 /// Drags `drag` out of `window`. Returns when the user has let go; until then an event loop of its
-/// own runs. How it ended may be told later, by whoever supports it; without support by what the
-/// target said while the drag was over it. Copy and link are offered, never a move: a file manager
-/// would take the file away from under an item that may stay. `window` may be destroyed meanwhile.
+/// own runs. `ended` may be called later. With a support it reports the target's own message about
+/// the end; without one what the target said while the drag was over it.
+///
+/// Copy and link are offered, but not move: a file manager would take the file away although its
+/// item may stay on the shelf. `window` may be destroyed meanwhile.
 void runDragSession(QWindow &window, const DragOut &drag, DragSupport *support,
                     const DragSessionEvents &events);
 

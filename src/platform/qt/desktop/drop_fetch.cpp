@@ -70,7 +70,7 @@ bool DropFetch::hasPicture()
 void DropFetch::fetchText()
 {
     const QList<QUrl> urls = m_pasteboard.urls();
-    // Other addresses than a page's are no link.
+    // Only web addresses become links; of others the text is wanted.
     const bool isLink
         = !urls.isEmpty() && urls.constFirst().scheme().startsWith(QLatin1String("http"));
     if (isLink || hasPicture()) {
@@ -122,7 +122,7 @@ void DropFetch::keepLargeText(const QString &type, const QByteArray &bytes, cons
     });
     m_threads.workQueue->run([type, bytes, keepText, mainQueue = m_threads.mainQueue] {
         QString text = pasteboard_text::decoded(bytes, type);
-        // As good as none: nobody makes anything of it.
+        // White space alone counts as no text.
         if (QStringView(text).trimmed().isEmpty())
             text.clear();
         mainQueue->async([keepText, text] { keepText(text); });
@@ -139,7 +139,7 @@ void DropFetch::goOn(const Wish &wish)
 
 void DropFetch::finish()
 {
-    // It may end this.
+    // `done` may destroy this.
     if (const auto done = std::exchange(m_done, {}))
         done(m_pasteboard);
 }

@@ -13,23 +13,23 @@ namespace corvane {
 class MainQueue;
 class WorkQueue;
 
-/// Fetches of a drop what will be read of it, and nothing else: its addresses; unless there are
-/// files among them, the file that it promises, else its picture, else, unless the first address is
-/// a page's, its text. It asks for one thing after the other, and only as long as there is nothing
-/// yet. That is the order in which a drop is read.
+/// Fetches from the source of a drop only what will be read of it, one type after the other, and
+/// stops when something was found: first the addresses; if there are no files among them, the file
+/// that the source promises; else the picture; else the text, unless the first address is a web
+/// page. Drops are read in the same order.
 class DropFetch {
 public:
-    /// A larger picture, or list of addresses, counts as none.
+    /// In bytes: a larger picture or address list counts as missing.
     static constexpr qsizetype maximumBytes = 256LL * 1024 * 1024;
-    /// Decoding a larger text takes longer than a frame may.
+    /// In bytes: larger texts are decoded on another thread, because it takes longer than a frame.
     static constexpr qsizetype mostDecodedAtOnce = 1'000'000;
 
-    /// Where a promised file of that name may be written; none where nowhere.
+    /// Gives the place where a promised file of that name may be written; none if there is none.
     using FindPlace = std::function<std::optional<QUrl>(const QString &name)>;
-    /// Everything that could be had is here.
+    /// Called with everything that could be fetched.
     using Done = std::function<void(FetchedPasteboard &pasteboard)>;
 
-    /// Where large texts are decoded; at once where there are no queues.
+    /// Where large texts are decoded; without queues on the calling thread.
     struct Threads {
         WorkQueue *workQueue = nullptr;
         MainQueue *mainQueue = nullptr;
@@ -40,8 +40,8 @@ public:
     DropFetch(const DropFetch &) = delete;
     DropFetch &operator=(const DropFetch &) = delete;
 
-    /// `done` is called once, perhaps before this returns, and may destroy this; not once this is
-    /// gone.
+    /// Begins. `done` is called once, perhaps before this returns, and may destroy this. Not called
+    /// after this is destroyed.
     void start(Done done);
 
     IncomingDrag &drag() { return *m_drag; }
@@ -55,7 +55,7 @@ private:
     void fetchPicture();
     bool hasPicture();
     void fetchText();
-    /// Fetches one type after the other until there is enough, and goes on with `next`.
+    /// Fetches `types` one after the other until `suffices` holds, then calls `next`.
     struct Wish {
         QStringList types;
         qsizetype limit;

@@ -8,11 +8,11 @@ class QKeyEvent;
 
 namespace corvane {
 
-/// Tells the repeats of a key that is held down from presses. The toolkit cannot always tell, and
-/// input methods forget it: a repeat is a release and a press of the same moment.
+/// Distinguishes a held key's repeats from presses. Qt does not always know, and input methods drop
+/// the flag. A repeat is a press with the same key and time as the release before it.
 class KeyRepeats {
 public:
-    /// To be told of every release that comes before the presses that are asked about.
+    /// To be called for every release.
     void released(const QKeyEvent &release);
     bool isRepeat(const QKeyEvent &press) const;
 

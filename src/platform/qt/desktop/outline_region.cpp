@@ -19,7 +19,8 @@ QRegion outlineRegion(const QPainterPath &pathInPixels, QSize size)
         painter.setRenderHint(QPainter::Antialiasing);
         painter.fillPath(pathInPixels, Qt::black);
     }
-    // Bands from top to bottom, spans from left to right: the order that a region is kept in.
+    // In the order in which `QRegion` keeps rectangles: bands from top to bottom, spans from left
+    // to right.
     std::vector<QRect> spans;
     for (int y = 0; y < size.height(); ++y) {
         const uchar *row = coverage.constScanLine(y);

@@ -6,8 +6,8 @@
 
 namespace corvane {
 
-/// The pixels of a bitmap of `size` that lie in the path by half of themselves or more. Follows
-/// curves exactly, where a polygon's region cuts small ones off.
+/// The pixels of a bitmap of `size` of which at least half is inside the path. Follows curves
+/// exactly; the region of a polygon would cut small ones off.
 QRegion outlineRegion(const QPainterPath &pathInPixels, QSize size);
 
 } // namespace corvane

@@ -52,7 +52,7 @@ bool PanelCanvas::event(QEvent *event)
         repaintSoon(QRect({}, m_size));
         break;
     case QEvent::Close:
-        // Only its owner hides a panel.
+        // Only its owner hides a panel, so requests to close it are ignored.
         event->ignore();
         return true;
     default:
@@ -65,7 +65,7 @@ void PanelCanvas::exposed(const QRegion &region)
 {
     if (!isExposed())
         return;
-    // A moved window may have come to a screen with another scale.
+    // The window may be on a screen with another scale now.
     if (m_storeScale != devicePixelRatio())
         m_dirty = QRect({}, m_size);
     if (m_dirty.isEmpty())
@@ -88,7 +88,8 @@ bool PanelCanvas::prepareStore()
 
 void PanelCanvas::repaint()
 {
-    // A window that has just been mapped takes pixels before it hears that it is exposed.
+    // Not `isExposed`: a window that has just been mapped accepts pixels before Qt reports that it
+    // is exposed.
     if (!m_hasOwner || !isVisible() || !prepareStore())
         return;
     const QRegion region = std::exchange(m_dirty, {}) & QRect({}, m_size);

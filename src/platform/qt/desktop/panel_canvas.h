@@ -10,27 +10,28 @@ class QPainter;
 
 namespace corvane {
 
-/// The bare window of a panel with its pixels; no widget, which would cost memory and a second
-/// layer of events.
+/// A panel's window and its pixels. Not a widget, which would take more memory and handle events a
+/// second time.
 ///
-/// Made without flags and without a platform window: both are up to the session.
+/// Made without window flags and without a platform window; `PanelSurface::adopt` gives it both.
 ///
-/// Repaints are gathered until control is back in the event loop, then done at once, ahead of
-/// everything else that waits there.
+/// Requested repaints are done together when control returns to the event loop, before other posted
+/// events.
 class PanelCanvas : public QWindow {
 public:
-    /// Paints into a painter in Qt's coordinates that is clipped to what needs it.
+    /// Paints the window. The painter is in Qt's coordinates, y downward, and clipped to what has
+    /// to be painted.
     using Paint = std::function<void(QPainter &)>;
-    /// Handles an event of the window; false leaves it to Qt.
+    /// Handles an event of the window; if false, Qt handles it.
     using Handle = std::function<bool(QEvent &)>;
 
     PanelCanvas(Paint paint, Handle handle);
 
-    /// Asks for a repaint of part of the window; kept until it is shown.
+    /// Requests a repaint of part of the window. While it is hidden the request is kept.
     void repaintSoon(const QRegion &region);
-    /// The size to paint at from now on, which the window system may report later.
+    /// Sets the size to paint at, in points; the window system may report it later.
     void setCanvasSize(QSize size);
-    /// Calls nobody any more.
+    /// From now on neither `Paint` nor `Handle` is called: their owner is being destroyed.
     void forgetOwner();
 
 protected:

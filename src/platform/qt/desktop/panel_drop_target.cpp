@@ -64,7 +64,8 @@ void PanelDropTarget::setContent(PanelContent *content)
         m_awaited.clear();
 }
 
-/// Of another program's drag that we know more of than Qt does, what has been fetched of it so far.
+/// The contents of a drag. Of another program's drag that the support handles, those that have been
+/// fetched so far; otherwise Qt's, which fetches at each question.
 std::unique_ptr<Pasteboard> PanelDropTarget::pasteboardOf(const QDropEvent &event) const
 {
     const auto drag = m_support && !event.source() ? m_support->incomingDrag() : nullptr;
@@ -121,7 +122,7 @@ void PanelDropTarget::drop(QDropEvent &event, double panelHeight)
         if (isTaken)
             acceptAsCopy(event);
     }
-    // It may have been taken away in the drop.
+    // The content may have been removed during the drop.
     if (m_content)
         m_content->draggingEnded();
 }
@@ -167,7 +168,7 @@ bool PanelDropTarget::takeDrop(std::shared_ptr<IncomingDrag> drop)
 void PanelDropTarget::contentsArrived(DropFetch *fetch, FetchedPasteboard &pasteboard)
 {
     const auto found = std::ranges::find(m_awaited, fetch, &std::unique_ptr<DropFetch>::get);
-    // Kept until the source has been told, whatever becomes of this target meanwhile.
+    // Kept alive until the source has been told, even if this target is destroyed meanwhile.
     const auto kept = std::move(*found);
     m_awaited.erase(found);
     const bool isTaken = guarded(false, [&] {

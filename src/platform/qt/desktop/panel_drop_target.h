@@ -19,29 +19,30 @@ namespace corvane {
 class PanelContent;
 class Pasteboard;
 
-/// A drag over a panel, told to its content and answered to its source.
+/// Passes drags over a panel to its content, and the content's answers to the source.
 ///
 ///     Outside --enter, content accepts--> Accepted --drop or leave--> Outside
 ///     Outside --enter, content refuses--> Refused  --leave---------> Outside
 ///
-/// What was refused on entering stays refused until it leaves. The only answer is Copy: after any
-/// other one the source could take its things away from under us. Nothing may be thrown past these
-/// calls: whatever happens here, the source is told that its drop is finished.
+/// A drag that was refused on entering stays refused until it leaves. The only answer is Copy:
+/// after another one the source might delete what it gave us. Exceptions of the content are caught
+/// here, so that the source is always told that its drop is finished.
 ///
-/// With a support, what other programs drop is fetched first, in its source's time, and the content
-/// is told when it is here; several drops may be on their way. Without one, and for drags of this
-/// process, a drop is read while it is dropped.
+/// With a support, the contents of other programs' drops are fetched first, without blocking, and
+/// the content is called when they are here; several drops may be on their way. Without one, and
+/// for drags of this process, the content reads a drop at once.
 class PanelDropTarget : public DropReceiver {
 public:
-    /// The support must outlive it, or be null. It is told of the window.
+    /// The support must outlive it, or be null. `window` is registered with it.
     PanelDropTarget(QWindow &window, DropSupport *support, DropFetch::Threads threads);
     ~PanelDropTarget() override;
     PanelDropTarget(const PanelDropTarget &) = delete;
     PanelDropTarget &operator=(const PanelDropTarget &) = delete;
 
-    /// Null while there is nobody to ask: everything is refused, what is on its way too.
+    /// With null everything is refused, also drops that are on their way.
     void setContent(PanelContent *content);
 
+    /// `panelHeight` in points, to turn the events' places over.
     void enter(QDragEnterEvent &event, double panelHeight);
     void move(QDragMoveEvent &event, double panelHeight);
     void drop(QDropEvent &event, double panelHeight);
@@ -65,9 +66,9 @@ private:
     DropFetch::Threads m_threads;
     PanelContent *m_content = nullptr;
     State m_state = State::Outside;
-    /// Where the drag was last, in the content's coordinates.
+    /// The drag's last place, in the content's coordinates.
     QPointF m_location;
-    /// What was let go and is on its way.
+    /// Drops whose contents are on their way.
     std::list<std::unique_ptr<DropFetch>> m_awaited;
     Subscription m_receiving;
 };

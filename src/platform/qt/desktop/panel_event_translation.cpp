@@ -13,9 +13,9 @@ namespace corvane {
 
 namespace {
 
-/// A notch is 120 in Qt and 4 here.
+/// A wheel notch is 120 in Qt's angle units, and 4 in `ScrollEvent`.
 constexpr double anglePerStep = 30;
-/// The distance for which touchpads announce a notch is 15 points.
+/// Touchpads report a notch (120) for every 15 points of movement.
 constexpr double anglePerPoint = 8;
 
 struct NamedKey {

@@ -14,7 +14,7 @@ namespace {
 
 int rounded(double value)
 {
-    // Far outside every desktop, and safe to add to.
+    // Outside of every desktop, and small enough to be added to.
     constexpr double limit = 1e6;
     return static_cast<int>(std::clamp(std::round(value), -limit, limit));
 }

@@ -9,22 +9,22 @@ struct PanelPlacement;
 
 namespace corvane::qt_geometry {
 
-/// The one place where y is turned over: Qt's global points start at the top left of the primary
-/// screen and grow downward, ours start at its bottom left and grow upward. Both are the same
-/// length.
+/// The only place that converts between Qt's global points, which start at the top left of the
+/// primary screen with y downward, and ours, which start at its bottom left with y upward. Points
+/// have the same length in both.
 
-/// Height of the primary screen, the line that both systems are measured from; 0 without a screen.
+/// Height of the primary screen, by which y is converted; 0 without a screen.
 double primaryHeight();
 
 QPointF toGlobal(QPointF qtPoint);
 QRectF toGlobal(const QRectF &qtRect);
 /// Rounded to whole points, as windows are placed; the size is kept.
 QRect toQt(const QRectF &rect);
-/// The same for a panel: on the screen on which the middle of its upper edge is, else on the
-/// primary one.
+/// Where a panel with this frame goes: on the screen that has the middle of its upper edge, else on
+/// the primary one.
 PanelPlacement placementOf(const QRectF &frame);
 
-/// Inside a window of that height, in either direction.
+/// Converts between Qt's coordinates and ours inside a window of that height, in both directions.
 inline QPointF flipped(QPointF point, double height)
 {
     return {point.x(), height - point.y()};

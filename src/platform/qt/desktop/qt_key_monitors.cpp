@@ -12,7 +12,8 @@ namespace corvane {
 
 namespace {
 
-/// Not as elsewhere in our windows, where Control is Command, too.
+/// The modifiers as they are: here Control does not count as Command, as it does for keys of
+/// panels.
 Modifiers heldModifiers(Qt::KeyboardModifiers modifiers)
 {
     Modifiers result;
@@ -51,8 +52,8 @@ bool QtKeyMonitors::eventFilter(QObject *watched, QEvent *event)
     const bool isOverride = event->type() == QEvent::ShortcutOverride;
     const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
     const auto *key = isKey ? dynamic_cast<QKeyEvent *>(event) : nullptr;
-    // An override that is accepted is no shortcut of a window or menu, but comes again as a key
-    // press.
+    // Accepting a `ShortcutOverride` keeps windows and menus from treating the key as a shortcut;
+    // it then comes again as a key press.
     if (!isOverride && (!key || notify(*key) == Disposition::Pass))
         return QObject::eventFilter(watched, event);
     event->accept();

@@ -11,12 +11,12 @@ namespace corvane {
 
 class KeyboardLayout;
 
-/// Key monitors over the toolkit's events, before shortcuts and focus handling see them: Tab and
-/// Return come, too. It looks at events only while there is a monitor. Needs the application
-/// object; the layout must outlive it.
+/// Key monitors by an event filter on the application, which sees keys before shortcuts and focus
+/// handling do, so Tab and Return come, too. The filter is installed only while there is a monitor.
+/// Needs the application object; the layout must outlive it.
 ///
-/// While there is a monitor, a key that it lets pass arrives as a key, but is no window's shortcut.
-/// Dead keys do not come: the toolkit composes letters of them first.
+/// While there is a monitor, keys that it passes reach their window as keys but trigger no
+/// shortcuts. Dead keys do not come, because Qt composes letters from them first.
 class QtKeyMonitors : public QObject, public KeyMonitors {
 public:
     explicit QtKeyMonitors(const KeyboardLayout &layout);

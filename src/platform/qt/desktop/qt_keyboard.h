@@ -6,10 +6,11 @@
 
 namespace corvane {
 
-/// Control is both Control and Command, Super is Command, Alt is Option.
+/// For keys of our windows: Control is both Control and Command, Super is Command, Alt is Option.
 Modifiers modifiersFrom(Qt::KeyboardModifiers modifiers);
 
-/// The modifier keys as the window system has them now, whoever has the keyboard.
+/// The modifier keys that are held now, asked of the window system, whichever program has the
+/// keyboard.
 class QtKeyboard : public Keyboard {
 public:
     Modifiers currentModifiers() const override;

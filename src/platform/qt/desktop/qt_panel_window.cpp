@@ -32,13 +32,13 @@ QtPanelWindow::QtPanelWindow(const PanelDesktop &desktop, MainQueue &queue,
 
 QtPanelWindow::~QtPanelWindow()
 {
-    // What the steps below make others do must not come back to this.
+    // Callbacks that the steps below cause must not reach this any more.
     m_lifetime.restart();
     m_content = nullptr;
     m_dropTarget.setContent(nullptr);
     QtPanelWindow::orderOut();
     m_desktop.keyboard.leave(m_number);
-    // Its drag goes on in Qt, and needs the window that it began in.
+    // Qt's drag goes on, and needs the window that it began in.
     if (m_isDragging)
         m_canvas.release()->forgetOwner();
 }
@@ -73,7 +73,7 @@ void QtPanelWindow::orderFrontRegardless()
     }
     updateRegions();
     m_desktop.surface.willShow(*m_canvas);
-    // Before it is mapped: it comes up where it was in the stack.
+    // Raised before it is mapped, or it would appear at its old place in the stack.
     m_canvas->raise();
     m_canvas->show();
 }
@@ -136,7 +136,7 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, DragOutEvents events)
     const auto released = [this, life = m_lifetime.token(), canvas,
                            tell = std::move(events.released)](DragOperation promised) {
         if (life.isOver()) {
-            // Later: one of its events is what we are in.
+            // Later, because this runs inside the handling of one of its events.
             canvas->deleteLater();
             return;
         }
@@ -166,14 +166,15 @@ void QtPanelWindow::updateRegions()
     if (m_body && !m_desktop.compositing.isComposited()) {
         const QSize pixels = (m_frame.size() * m_canvas->devicePixelRatio()).toSize();
         const QPainterPath outline = toPixels.map(m_outline);
-        // Making it looks at every pixel, and most changes of the shelf leave its outline alone.
+        // Making the region looks at every pixel, and most changes of the shelf leave the outline
+        // as it is.
         if (pixels != m_shapedSize || outline != m_shapedOutline) {
             m_shapedSize = pixels;
             m_shapedOutline = outline;
             m_shape = outlineRegion(outline, pixels);
         }
         bounding = m_shape;
-        // An empty region would mean the whole window: a pixel at the edge stands for nothing.
+        // An empty region would mean the whole window, so one pixel at its edge stands for none.
         if (bounding.isEmpty())
             bounding = QRect(0, 0, 1, 1);
     }

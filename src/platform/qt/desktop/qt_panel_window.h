@@ -23,9 +23,9 @@ class DropSupport;
 class MainQueue;
 class WorkQueue;
 
-/// A panel on a Qt window of its own. Everything that it is given must outlive it; without the
-/// supports drops and drags are what Qt makes of them, and large texts are decoded on the work
-/// queue where there is one. Main thread only.
+/// A panel with a Qt window of its own. Everything that it is given must outlive it. Without the
+/// supports Qt alone handles drops and drags. Large texts of drops are decoded on the work queue if
+/// there is one. Main thread only.
 class QtPanelWindow : public PanelWindow {
 public:
     QtPanelWindow(const PanelDesktop &desktop, MainQueue &queue, DropSupport *dropSupport = nullptr,
@@ -48,7 +48,7 @@ public:
     void setNeedsDisplay(const QRectF &rect) override;
     void beginDraggingSession(DragOut drag, DragOutEvents events) override;
 
-    /// The window itself, for its back end's tests.
+    /// The window, for tests of the back end.
     QWindow &window() { return *m_canvas; }
 
 private:
@@ -72,12 +72,12 @@ private:
     QRectF m_frame;
     bool m_isVisible = false;
     bool m_ignoresMouseEvents = false;
-    /// The whole panel until it is told.
+    /// None, until it is set, for the whole panel.
     std::optional<QRectF> m_body;
     QPainterPath m_outline;
     std::optional<QRegion> m_inputRegion;
     std::optional<QRegion> m_boundingRegion;
-    /// The region of an outline, and what it was made from. In device pixels.
+    /// The region that `m_shapedOutline` and `m_shapedSize` gave. In device pixels.
     QRegion m_shape;
     QPainterPath m_shapedOutline;
     QSize m_shapedSize;

@@ -1,4 +1,4 @@
-// What comes to the panel's window, told to its content.
+// Events of the panel's window, passed on to its content.
 
 #include "platform/base/main_queue.h"
 #include "platform/desktop/keyboard_loan.h"
@@ -14,8 +14,8 @@
 
 namespace corvane {
 
-/// Qt names a pixel by its upper left corner. Ours is the middle of it, so that the pixels along
-/// the panel's edges, one of which is the screen's, lie inside whichever way y goes.
+/// Qt gives a pixel's upper left corner. Converted to its middle, so that pixels along the panel's
+/// edges, one of which is the screen's, are inside the panel in both directions of y.
 QPointF QtPanelWindow::middleOfPixel(QPointF position) const
 {
     const double half = 0.5 / m_canvas->devicePixelRatio();
@@ -65,7 +65,7 @@ bool QtPanelWindow::handleMouse(QMouseEvent &event)
     }
     if (event.button() != Qt::LeftButton)
         return true;
-    // The second press of a double click comes as a press too, before it comes as what it is.
+    // Qt sends the second press of a double click as a press and then as a double click.
     if (event.type() == QEvent::MouseButtonRelease) {
         m_content->mouseUp(mouse);
     } else {

@@ -17,10 +17,10 @@ void refresh(Screen &screen, const QScreen &source)
 {
     screen.frame = qt_geometry::toGlobal(QRectF(source.geometry()));
     screen.backingScaleFactor = source.devicePixelRatio();
-    // Qt scales a screen's size and leaves its place as it is.
+    // Qt divides a screen's size by its scale, but not its place.
     screen.nativeFrame = {source.geometry().topLeft(),
                           (QSizeF(source.geometry().size()) * source.devicePixelRatio()).toSize()};
-    // Virtual outputs report nothing useful, or zero.
+    // Virtual outputs report 0 or a useless rate.
     screen.refreshRate = source.refreshRate() >= 1 ? source.refreshRate() : 60;
 }
 
@@ -62,7 +62,8 @@ void QtScreens::detach(QScreen *screen)
 
 void QtScreens::changed()
 {
-    // At once, so that nobody who asks now sees old values; told later, once for the whole burst.
+    // Values are updated at once, for those who ask now; observers are called later, once for a
+    // burst of changes.
     for (const auto &[source, screen] : m_known)
         refresh(*screen, *source);
     if (std::exchange(m_isNotificationDue, true))

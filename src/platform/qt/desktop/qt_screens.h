@@ -14,7 +14,7 @@ namespace corvane {
 
 class MainQueue;
 
-/// The screens that Qt knows. The queue must outlive it.
+/// The attached screens, as Qt reports them. The queue must outlive it.
 class QtScreens : public QObject, public Screens {
 public:
     explicit QtScreens(MainQueue &queue);

@@ -14,7 +14,7 @@ namespace corvane {
 
 namespace {
 
-/// The panels' sizes at the usual scales; a panel takes the nearest.
+/// In pixels: the sizes that panels use at the usual scales; a panel takes the nearest one.
 constexpr std::array<int, 6> iconSides = {16, 22, 24, 32, 44, 48};
 
 void add(QMenu &menu, const MenuRow &row)
@@ -24,15 +24,16 @@ void add(QMenu &menu, const MenuRow &row)
         return;
     }
     QString text = row.title;
-    // A single one would underline the letter after it.
+    // A single & would underline the letter after it.
     text.replace(QLatin1Char('&'), QLatin1String("&&"));
     QAction *action = menu.addAction(text);
-    // Shown by every kind of panel. It cannot fire: the menu belongs to no window.
+    // Panels show the shortcut. It cannot trigger the action, because the menu belongs to no
+    // window.
     action->setShortcut(row.keyEquivalent.sequence());
     if (!row.action)
         return;
-    // Later: the row may change the menu that is at work on it, or end the program before the panel
-    // has its answer.
+    // Queued, because the action may change the menu that is being handled, or end the program
+    // before the panel has its answer.
     QObject::connect(
         action, &QAction::triggered, &menu, [work = row.action] { work(); }, Qt::QueuedConnection);
 }
@@ -51,7 +52,7 @@ void QtTrayIcon::appear()
     menuChanged();
     m_tray = std::make_unique<QSystemTrayIcon>();
     QObject::connect(m_tray.get(), &QSystemTrayIcon::activated, m_menu.get(), [this] {
-        // The window system's tray has opened it by itself for the right button.
+        // In the window system's tray a right click has opened it already.
         if (!m_menu->isVisible())
             m_menu->popup(QCursor::pos());
     });
@@ -106,7 +107,7 @@ void QtTrayIcon::setToolTip(const QString &toolTip)
 void QtTrayIcon::setMenu(Menu menu)
 {
     m_build = std::move(menu);
-    // Rows that look the same do another's work.
+    // Cleared, because rows of another menu may look the same but do something else.
     m_rows.clear();
     menuChanged();
 }
@@ -116,7 +117,7 @@ void QtTrayIcon::menuChanged()
     if (!m_menu)
         return;
     MenuRows rows = m_build ? m_build() : MenuRows();
-    // Every row taken out or put in is told to the panels.
+    // Replacing rows notifies panels of each, so it is done only if a row looks different.
     const bool isTheSame = std::equal(
         rows.cbegin(), rows.cend(), m_rows.cbegin(), m_rows.cend(),
         [](const MenuRow &one, const MenuRow &other) { return one.showsTheSameAs(other); });

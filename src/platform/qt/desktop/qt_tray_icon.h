@@ -12,13 +12,12 @@ class QSystemTrayIcon;
 
 namespace corvane {
 
-/// A status item by Qt's own means: on the session bus where a panel shows such items, in the
-/// window system's own tray otherwise. A left click opens the menu too.
+/// A status item by `QSystemTrayIcon`: on the session bus if a panel shows such items, else in the
+/// window system's own tray. A left click opens the menu, too.
 ///
-/// Qt decides between the two once in a process, when the icon is first made. So nothing is made
-/// before `appear`, and what it was made for it stays: panels of the same kind may come and go, but
-/// an icon in the window system's tray does not move to a panel on the bus that comes later, nor
-/// the other way.
+/// Qt decides between the two once in a process, when the first icon is made. So nothing is made
+/// before `appear`. After that the icon keeps its kind: panels of that kind may come and go, but it
+/// does not move to a panel of the other kind.
 class QtTrayIcon : public StatusItem {
 public:
     QtTrayIcon();
@@ -26,7 +25,7 @@ public:
     QtTrayIcon(const QtTrayIcon &) = delete;
     QtTrayIcon &operator=(const QtTrayIcon &) = delete;
 
-    /// Makes the icon. To be called once somebody is there to show it; again does nothing.
+    /// Makes the icon. To be called once a panel is there to show it; further calls do nothing.
     void appear();
     void setForeground(const QColor &foreground);
 
@@ -41,8 +40,8 @@ private:
 
     int m_shape = 0;
     Icon m_icon;
-    /// By their shapes, in the present foreground. One is six pictures, and the panel is told of
-    /// each that it is handed.
+    /// Icons by shape, in the present foreground. Each consists of six pictures, and panels are
+    /// notified of each icon that is set.
     std::map<int, QIcon> m_drawn;
     QColor m_foreground = Qt::white;
     QString m_toolTip;

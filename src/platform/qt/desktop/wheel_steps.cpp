@@ -13,7 +13,7 @@ std::optional<ScrollEvent> WheelSteps::add(ScrollEvent scroll)
         m_sum = 0;
     m_lastTime = scroll.time;
     m_sum += scroll.deltaX;
-    // Three thirds of a notch are one, however they add up.
+    // Sums of thirds must reach a whole notch despite rounding.
     constexpr double tolerance = 1e-6;
     const double notches = std::trunc(m_sum / notch + std::copysign(tolerance, m_sum));
     if (notches == 0)

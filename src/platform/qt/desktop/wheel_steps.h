@@ -6,16 +6,18 @@
 
 namespace corvane {
 
-/// Gathers what fine wheels send, which turn less than a notch at a time, into whole notches:
-/// whoever looks at one event alone sees every notch. What has phases or comes from a touchpad
-/// passes as it is.
+/// Adds up the scroll events of high-resolution wheels, which report parts of a notch, to whole
+/// notches, so that code that handles single events sees each notch once. Events with phases or
+/// from a touchpad are passed on unchanged.
 class WheelSteps {
 public:
+    /// In units of `ScrollEvent::deltaX`.
     static constexpr double notch = 4;
-    /// Seconds after which a part of a notch is forgotten: a wheel that came to rest trembles.
+    /// In seconds: a part of a notch is forgotten after this pause, because a wheel at rest
+    /// trembles.
     static constexpr double memory = 0.25;
 
-    /// Whole notches, or nothing while there are none.
+    /// The event with whole notches, or none while less has been added up.
     std::optional<ScrollEvent> add(ScrollEvent scroll);
 
 private:
