@@ -8,18 +8,18 @@
 
 namespace corvane {
 
-/// Callbacks that hear of something.
+/// A list of callbacks.
 ///
-/// `notify` calls them on the caller's thread, at once, in the order in which they were added. What
-/// a callback may do to the list meanwhile is said in `ChangingList`.
+/// `notify` calls them at once, on the caller's thread, in the order in which they were added.
+/// `ChangingList` says what a callback may do to the list meanwhile.
 template<typename... Arguments>
 class CallbackList {
 public:
     using Callback = std::function<void(Arguments...)>;
 
-    /// For good: it does nothing by itself once its owner is gone.
+    /// Added for good. The callback must be guarded if it may outlive what it uses.
     void add(Callback callback) { m_callbacks.add(std::move(callback)); }
-    /// Until the subscription ends, which may outlive the list.
+    /// Added until the subscription ends; it may outlive the list.
     Subscription subscribe(Callback callback) { return m_callbacks.subscribe(std::move(callback)); }
 
     void notify(Arguments... arguments) const

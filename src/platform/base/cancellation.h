@@ -6,12 +6,12 @@
 
 namespace corvane {
 
-/// Tells work on another thread that nobody wants its result any more. Any thread.
+/// Tells work on another thread that its result is not wanted any more. Any thread.
 class Cancellation {
 public:
-    /// While it lives, `cancel` calls `handler`, on the thread that cancels; at once when that has
-    /// happened already. Once it is destroyed the handler neither runs nor begins to. One at a
-    /// time.
+    /// While this exists, `cancel` calls `handler` on the thread that cancels. If it was cancelled
+    /// before, the constructor calls it. After destruction the handler does not run any more, and
+    /// none is still running. At most one handler at a time.
     class Handler {
     public:
         Handler(Cancellation &cancellation, std::function<void()> handler)

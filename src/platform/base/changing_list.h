@@ -10,16 +10,16 @@
 
 namespace corvane {
 
-/// What is called one after the other, in the order of adding, by calls that may change the list.
+/// Entries that are visited in the order of adding, by calls that may change the list.
 ///
-/// A call may add entries, which are first visited the next time, and remove any, its own too: what
-/// was removed is not visited any more, and an entry stays as long as its own call lasts. A call
-/// may visit the list again; that visit comes to its end before the outer one goes on. A call may
-/// destroy the list; then nobody else is visited.
+/// A call may add entries; they are first visited the next time. It may remove any entry, its own
+/// too: a removed entry is not visited any more, but is not destroyed before its own call returns.
+/// It may visit the list again; that visit ends before the outer one goes on. It may destroy the
+/// list; then no more entries are visited.
 template<typename Entry>
 class ChangingList {
 public:
-    /// Never given twice.
+    /// Each is given once only.
     using Id = int;
 
     Id add(Entry entry)
@@ -28,12 +28,12 @@ public:
         m_entries.emplace(id, std::make_shared<const Entry>(std::move(entry)));
         return id;
     }
-    /// Until the subscription ends, which may outlive the list.
+    /// Added until the subscription ends; it may outlive the list.
     Subscription subscribe(Entry entry)
     {
         return Subscription(m_lifetime.guard([this, id = add(std::move(entry))] { remove(id); }));
     }
-    /// One that is not there is ignored.
+    /// Does nothing for an id that is not in the list.
     void remove(Id id) { m_entries.erase(id); }
     bool isEmpty() const { return m_entries.empty(); }
 
@@ -45,7 +45,7 @@ public:
             return false;
         });
     }
-    /// Whether `test` holds for one; those after it are not asked.
+    /// Whether `test` holds for an entry; those behind it are not tested.
     template<typename Test>
     bool anyOf(const Test &test) const
     {
@@ -54,7 +54,8 @@ public:
         auto next = m_entries.begin();
         while (next != m_entries.end() && next->first < end) {
             const Id id = next->first;
-            // Held, and shared: a copy of what it has captured costs more than most calls do.
+            // Shared, so that the entry stays during its call; a copy of its captures would cost
+            // more than most calls.
             const std::shared_ptr<const Entry> entry = next->second;
             if (test(*entry))
                 return true;

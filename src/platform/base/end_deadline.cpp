@@ -16,7 +16,7 @@ std::atomic<bool> isSet = false;
 
 extern "C" void endProcess(int)
 {
-    // Anybody may send an alarm.
+    // Another process may send an alarm, too.
     if (isSet)
         ::_exit(0);
 }

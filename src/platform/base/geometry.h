@@ -6,7 +6,7 @@
 namespace corvane {
 
 /// Rectangles are in points with the origin at the bottom left: `QRectF::y()` is the lower edge.
-/// `QRectF::top()`, `bottom()` and `contains()` think the other way and are not used in layout.
+/// `QRectF::top()`, `bottom()` and `contains()` assume y downward and are not used in layout.
 
 inline double minX(const QRectF &rect)
 {

@@ -6,20 +6,21 @@
 
 namespace corvane {
 
-/// The life of its owner, for callbacks that others keep: what it guards does nothing once the
-/// owner is gone.
+/// Guards callbacks that are kept by others: they do nothing once the owner of the `Lifetime` is
+/// destroyed.
 ///
 ///     m_queue.asyncAfter(delay, m_lifetime.guard([this] { hide(); }));
 ///
-/// An owner holds it as its last data member, so that it ends before all that the callbacks use.
-/// What is guarded may be copied, kept and destroyed on any thread, but must be called on the
-/// owner's, where the owner cannot end between the question and the call. It may destroy the owner.
+/// An owner holds it as its last data member, so that it is destroyed before everything that the
+/// callbacks use. Guarded callbacks may be copied and destroyed on any thread, but must be called
+/// on the owner's thread, where the owner cannot end between the check and the call. They may
+/// destroy the owner.
 ///
-/// A further one, restarted by whatever makes delayed work out of date, voids such work: a timer
-/// that is started anew, an answer that nobody waits for any more.
+/// A second `Lifetime` can cancel delayed work, such as a timer or an answer that is no longer
+/// awaited: restarting it makes the work guarded before do nothing.
 class Lifetime {
 public:
-    /// Whether a life is over, for work that has to ask more than once: after each call that may
+    /// Tells whether the lifetime is over, for code that has to check after each call that may
     /// destroy the owner.
     class Token {
     public:
@@ -32,8 +33,8 @@ public:
         {
         }
 
-        // Weak also during a guarded call, or whoever asks inside of it would be told that the
-        // owner lives.
+        // Weak also during a guarded call, or a check inside of it would find the owner alive after
+        // it was destroyed.
         std::weak_ptr<const bool> m_life;
     };
 
@@ -43,8 +44,8 @@ public:
 
     Token token() const { return Token(m_life); }
 
-    /// `work`, to be called with the same arguments. Once the life is over nothing is called, and a
-    /// value-initialised result comes back: false, null, none, empty.
+    /// `work` as a function with the same arguments. Once the lifetime is over it does nothing and
+    /// returns a value-initialised result: false, null, none, empty.
     template<typename Work>
     auto guard(Work work) const
     {
@@ -56,7 +57,7 @@ public:
         };
     }
 
-    /// Ends, and begins anew: what was guarded before does nothing from now on.
+    /// Everything that was guarded before does nothing from now on.
     void restart() { m_life = std::make_shared<const bool>(true); }
 
 private:

@@ -5,7 +5,8 @@
 
 namespace corvane {
 
-/// The main thread's work list and clock. Nothing else in the program owns a timer.
+/// The main thread's queue of work, its timers and its clock. Other code of the main thread has no
+/// timers of its own, except for windows' animations of Qt.
 class MainQueue {
 public:
     using Work = std::function<void()>;
@@ -32,7 +33,7 @@ public:
     /// an event loop of its own. Main thread only.
     [[nodiscard]] virtual std::unique_ptr<Timer> repeating(double seconds, Work work) = 0;
 
-    /// Seconds on a clock that only goes forward; its zero means nothing.
+    /// In seconds, on a clock that never goes back; its zero has no meaning.
     virtual double now() const = 0;
 };
 

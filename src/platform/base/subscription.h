@@ -5,8 +5,8 @@
 
 namespace corvane {
 
-/// Something that was registered and has to be taken back: that happens when this ends, is replaced
-/// or is destroyed, once. An empty one takes nothing back. Held as a member it ends with its owner.
+/// Undoes a registration once: when `end` is called, or when this is replaced or destroyed. An
+/// empty one does nothing. As a member it ends with its owner.
 class [[nodiscard]] Subscription {
 public:
     Subscription() = default;
@@ -31,7 +31,7 @@ public:
     ~Subscription() { end(); }
 
     bool isActive() const { return m_takeBack != nullptr; }
-    /// May be called again, also from inside of what was registered.
+    /// May be called several times, also inside of a registered callback.
     void end()
     {
         if (const auto takeBack = std::exchange(m_takeBack, nullptr))

@@ -4,12 +4,12 @@
 
 namespace corvane {
 
-/// Threads beside the main one, for work that takes longer than a frame.
+/// Runs work on other threads, for what takes longer than a frame.
 class WorkQueue {
 public:
     virtual ~WorkQueue() = default;
 
-    /// Runs `work` on some other thread. Results come back through `MainQueue::async`.
+    /// Runs `work` once, later, on another thread. Results come back through `MainQueue::async`.
     virtual void run(std::function<void()> work) = 0;
 };
 

@@ -4,14 +4,14 @@
 
 namespace corvane {
 
-/// Whether windows are blended with what lies below them. Main thread only.
+/// Whether windows are blended with those below them, as compositing managers do. Main thread only.
 class Compositing {
 public:
     virtual ~Compositing() = default;
 
-    /// Without it transparency shows as black.
+    /// If false, transparent pixels of windows are black.
     virtual bool isComposited() const = 0;
-    /// Calls back after it began or ended.
+    /// Calls back after compositing began or ended.
     virtual void observeChanges(std::function<void()> callback) = 0;
 };
 

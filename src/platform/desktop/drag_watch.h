@@ -5,17 +5,18 @@
 namespace corvane {
 
 /// Notices when the user drags something with another program's contents, anywhere on the desktop,
-/// and when that is over. Each kind of session has its own way to find that out. Main thread only.
+/// and when that is over. Each kind of session implements it in its own way. Main thread only.
 class DragWatch {
 public:
     virtual ~DragWatch() = default;
 
-    /// A drag that began before this is not seen. Once, after both callbacks are set.
+    /// Starts watching; a drag that is already going on is not noticed. To be called once, after
+    /// both callbacks are set.
     virtual void start() = 0;
-    /// May be called again. In the middle of a drag its end is never reported.
+    /// Stops watching; may be called several times. If a drag is going on, its end is not reported.
     virtual void stop() = 0;
 
-    /// Each may be left empty, and may destroy the watch.
+    /// Both may be empty, and may destroy the watch.
     std::function<void()> onDragBegan;
     std::function<void()> onDragEnded;
 };

@@ -11,31 +11,31 @@ class QWindow;
 
 namespace corvane {
 
-/// Who takes what other programs drop on a panel.
+/// The part of a panel that takes the drops of other programs.
 class DropReceiver {
 public:
     virtual ~DropReceiver() = default;
 
-    /// Whether the answer to a drag that offers these types depends on the addresses it carries.
-    /// They are fetched then before anybody hears that the drag is there.
+    /// Whether the answer to a drag that offers these types depends on the addresses it carries. If
+    /// so they are fetched before Qt hears of the drag.
     virtual bool needsAddresses(const QStringList &types) const = 0;
-    /// The types among those that addresses come in, the best first.
+    /// The types among `types` that hold addresses, the best first.
     virtual QStringList addressTypes(const QStringList &types) const = 0;
-    /// The drag was let go over the panel. False where it is not wanted; it is finished then.
+    /// The drag was dropped on the panel. False to refuse it; it is then finished as not taken.
     virtual bool takeDrop(std::shared_ptr<IncomingDrag> drop) = 0;
 };
 
-/// What drops on our panels need of the window system beyond what Qt does for them: Qt fetches the
-/// contents while everything stands still, and then tells the source at once that the drop is over.
-/// There is one for each window system, where it is needed; it serves all panels. Main thread only.
+/// What drops on our panels need from the window system beyond what Qt does for them. Qt blocks
+/// while it fetches the contents, and then tells the source at once that the drop is over. There is
+/// one for each window system that needs it; it serves all panels. Main thread only.
 class DropSupport {
 public:
     virtual ~DropSupport() = default;
 
-    /// Until the subscription ends the receiver is told of other programs' drops on the window,
-    /// which Qt sees leave instead.
+    /// Until the subscription ends, the receiver gets other programs' drops on the window; for Qt
+    /// they are drags that leave it.
     virtual Subscription addReceiver(QWindow &window, DropReceiver &receiver) = 0;
-    /// Another program's drag that is over one of the windows; null where there is none.
+    /// The drag of another program that is over one of the windows; null when there is none.
     virtual std::shared_ptr<IncomingDrag> incomingDrag() = 0;
 };
 

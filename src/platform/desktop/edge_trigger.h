@@ -17,26 +17,25 @@ struct EdgeStretch {
     friend bool operator==(const EdgeStretch &, const EdgeStretch &) = default;
 };
 
-/// Tells when the user takes the pointer to the top edge of a screen, and whether that is still
-/// meant for what hangs there. Each kind of session has its own way to find that out. Main thread
-/// only.
+/// Tells when the user moves the pointer to the top edge of a screen, and whether it is still there
+/// to summon the shelf. Each kind of session implements it in its own way. Main thread only.
 class EdgeTrigger {
 public:
     virtual ~EdgeTrigger() = default;
 
-    /// Watches these stretches and no others; none at all costs nothing. What was entered before is
-    /// forgotten, and its end not told.
+    /// Watches these stretches and no others; with none nothing is watched. If the pointer was at
+    /// an earlier stretch, `onLeft` is not called for that.
     virtual void watch(const std::vector<EdgeStretch> &stretches) = 0;
-    /// Whether the pointer rests in a stretch that is watched, no button is held, and no other
-    /// window has that screen for itself, as films, games and locked sessions have.
+    /// Whether the pointer is in a watched stretch, no button is held, and no full-screen window (a
+    /// film, a game, a locked session) covers that screen.
     virtual bool isStillThere() const = 0;
-    /// A button is held, wherever the pointer is: something may be about to be dragged here. False
-    /// where the window system does not tell.
+    /// Whether a button is held, wherever the pointer is: the user may be about to drag something
+    /// here. False where the window system does not tell.
     virtual bool isButtonHeld() const = 0;
 
-    /// The pointer has come to a stretch. Told once until it has left.
+    /// The pointer has come to a stretch. Called once until it has left.
     std::function<void()> onEntered;
-    /// It is there no longer, after it was entered.
+    /// The pointer has left, after `onEntered`.
     std::function<void()> onLeft;
 };
 

@@ -5,11 +5,11 @@
 
 namespace corvane {
 
-/// Hears the pointer being moved with its left button held, and buttons being pressed, wherever on
-/// the desktop.
+/// Reports motion of the pointer with its left button held, and presses of buttons, anywhere on the
+/// desktop.
 ///
-/// Handlers run on the main thread, also while a drag of our own runs an event loop. A pointer that
-/// moves with no button held costs nothing.
+/// Handlers run on the main thread, also while a drag of ours runs an event loop of its own. Motion
+/// without a button costs nothing.
 class EventMonitors {
 public:
     using Handle = int;
@@ -17,17 +17,16 @@ public:
 
     virtual ~EventMonitors() = default;
 
-    /// For other programs' events; none when the window system refuses. Where one monitor hears
-    /// every program, this one's included, the global monitor is that one and there is no local
-    /// one.
+    /// For events of other programs; none if the window system refuses. If one monitor gets the
+    /// events of all programs, ours included, it is this one, and there is no local monitor.
     virtual std::optional<Handle> addGlobalMonitor(Handler onLeftMouseDragged) = 0;
-    /// For this program's own events. The events themselves always go their way.
+    /// For this program's events. Monitors do not change where events go.
     virtual std::optional<Handle> addLocalMonitor(Handler onLeftMouseDragged) = 0;
-    /// For presses of the left button wherever, in this program's windows too, before anything
-    /// that they lead to is told. None when the window system refuses.
+    /// For presses of the left button anywhere, our windows included. Called before anything that
+    /// follows from the press is reported. None if the window system refuses.
     virtual std::optional<Handle> addLeftMouseDownMonitor(Handler onLeftMouseDown) = 0;
-    /// For presses of any button in other programs' windows, those in our own excepted. What a
-    /// window system reports of a wheel as buttons is none. None when the window system refuses.
+    /// For presses of any button in other programs' windows. Wheels that the window system reports
+    /// as buttons do not count. None if the window system refuses.
     virtual std::optional<Handle> addGlobalMouseDownMonitor(Handler onMouseDown) = 0;
     /// A handle that is not installed is ignored. May be called from inside a handler.
     virtual void removeMonitor(Handle handle) = 0;

@@ -4,7 +4,7 @@ namespace corvane {
 
 struct Screen;
 
-/// Windows that have a screen for themselves: films, games, presentations, a locked session.
+/// Full-screen windows: films, games, presentations, a locked session.
 class FullScreenWindows {
 public:
     virtual ~FullScreenWindows() = default;

@@ -9,26 +9,25 @@
 
 namespace corvane {
 
-/// What a hot key was registered as.
+/// The name under which a hot key was registered.
 struct HotKeyIdentifier {
-    /// Whose hot key it is, a code of four characters.
+    /// The program that registered it, as a code of four characters.
     std::uint32_t signature = 0;
     std::uint32_t id = 0;
 
     friend bool operator==(const HotKeyIdentifier &, const HotKeyIdentifier &) = default;
 };
 
-/// The desktop's service for keys that reach us whichever program has the keyboard. Main thread
-/// only.
+/// Registers keys that reach us whichever program has the keyboard. Main thread only.
 class HotKeyService {
 public:
     using Handle = int;
     using HandlerRef = int;
-    /// Which hot key was pressed; none if that cannot be told.
+    /// Gets the hot key that was pressed; none if that cannot be told.
     using Handler = std::function<void(const std::optional<HotKeyIdentifier> &)>;
 
-    /// While one of these lives no hot key reaches us: its keys go to whoever has the keyboard.
-    /// Must not outlive the service.
+    /// While one of these exists no hot key reaches us; the keys go to the program that has the
+    /// keyboard. Must not outlive the service.
     class Suspension {
     public:
         Suspension() = default;
@@ -39,21 +38,21 @@ public:
 
     virtual ~HotKeyService() = default;
 
-    /// Calls the handler once for each press, from the event loop; a key that is held repeats
-    /// nothing. The handler stays for good. None if there is no service to hear anything from.
+    /// From now on calls the handler once for each press, from the event loop; repeats of a held
+    /// key are not reported. Handlers cannot be removed. None if the service is not available.
     virtual std::optional<HandlerRef> installHandler(Handler onPressed) = 0;
 
-    /// Takes a combination for us alone: a key and modifier bits as shortcuts store them. None if
-    /// it is taken, by another program or by a registration of our own, if no keyboard can type it,
-    /// or if the user types with it: one without Command, Option and Control, or whose key is
-    /// itself a modifier.
+    /// Registers a combination of a key and modifier bits as shortcuts store them. None if another
+    /// program or another registration of ours has it, if no keyboard can type it, or if the user
+    /// types with it: without Command, Option and Control, or with a key that is itself a modifier.
     virtual std::optional<Handle> registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
                                                  const HotKeyIdentifier &identifier)
         = 0;
-    /// A handle that is not registered is ignored.
+    /// Does nothing for a handle that is not registered.
     virtual void unregisterHotKey(Handle handle) = 0;
 
-    /// Registering works meanwhile, and tells what is taken as ever.
+    /// Registering still works during a suspension, and still fails for combinations that are in
+    /// use.
     [[nodiscard]] virtual std::unique_ptr<Suspension> suspend() = 0;
 };
 

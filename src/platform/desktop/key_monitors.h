@@ -9,17 +9,15 @@
 
 namespace corvane {
 
-/// Sees this program's key events before anything in its windows does.
-///
-/// The handlers run on the main thread.
+/// Sees this program's key events before its windows do. Handlers run on the main thread.
 class KeyMonitors {
 public:
     struct Event {
         enum class Kind {
             KeyDown,
-            /// A modifier key went down or up, or another one that changes what keys do instead of
-            /// being one: locks, what switches layouts or input methods or begins a composition.
-            /// The key in Escape's place is told as a key, whatever it is.
+            /// A modifier key went down or up, or another key that changes what keys do: locks, and
+            /// keys that switch layouts or input methods or begin a composition. The key in
+            /// Escape's position is always reported as a key.
             ModifiersChanged,
         };
         Kind kind = Kind::KeyDown;
@@ -29,13 +27,13 @@ public:
         /// What the key types in the user's layout with no modifier held; empty when it types
         /// nothing.
         QString charactersIgnoringModifiers;
-        /// By what it types, wherever the key stands.
+        /// Whether the key is Escape by what it types, wherever it is on the keyboard.
         bool isEscape = false;
     };
     enum class Disposition {
-        /// It goes its way.
+        /// The event goes on to its window.
         Pass,
-        /// Nobody else sees it.
+        /// The event goes no further.
         Swallow,
     };
     using Handle = int;
@@ -44,7 +42,7 @@ public:
     virtual ~KeyMonitors() = default;
 
     virtual Handle addLocalMonitor(Handler handler) = 0;
-    /// A handle that is not installed is ignored. May be called from inside a handler.
+    /// Does nothing for a handle that is not installed. May be called from inside a handler.
     virtual void removeMonitor(Handle handle) = 0;
 };
 

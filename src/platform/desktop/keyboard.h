@@ -4,8 +4,8 @@
 
 namespace corvane {
 
-/// Modifier keys by the part they play. Inside our own windows Command is Control or Super, since
-/// Linux users copy with Control; Option is Alt.
+/// Modifier keys by their role. In our own windows Command is Control or Super, since Linux users
+/// copy with Control; Option is Alt.
 enum class Modifier : unsigned {
     Shift = 1,
     Control = 2,

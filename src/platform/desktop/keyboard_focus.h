@@ -10,40 +10,40 @@ namespace corvane {
 /// A window, by the window system's number for it.
 enum class WindowNumber : std::uint64_t { None = 0 };
 
-/// Who has the keyboard as far as the window system is concerned, and which keys the user holds
-/// down: what `KeyboardLoan` decides by and acts with. Everything is asked of the window system at
-/// this moment, whatever events are on their way. Main thread only.
+/// Which window has the keyboard, and which keys are held down; `KeyboardLoan` uses it. Each call
+/// asks the window system for its present state, without regard to events that are on their way.
+/// Main thread only.
 class KeyboardFocus {
 public:
-    /// Somebody who had the keyboard and may be given it back. The numbers mean something to the
-    /// window system alone.
+    /// A window that had the keyboard and may get it back. The numbers have a meaning for the
+    /// window system only.
     struct Owner {
         WindowNumber focused = WindowNumber::None;
-        /// The same as the window manager names it. Programs pass the keyboard on to windows inside
+        /// The same, as the window manager names it: programs pass the focus on to windows inside
         /// their own.
         WindowNumber active = WindowNumber::None;
     };
 
     virtual ~KeyboardFocus() = default;
 
-    /// The window that has the keyboard; none where nobody has it.
+    /// The window that has the keyboard; `None` when no window has it.
     virtual WindowNumber focusedWindow() const = 0;
     virtual Owner owner() const = 0;
 
     virtual void giveTo(WindowNumber panel) = 0;
-    /// Takes the keyboard from the panel that has it even if the owner is gone. Whether somebody
-    /// was asked to see to it who may do so later than others ask for the keyboard.
+    /// Gives the keyboard to the owner; the panel loses it even if the owner is gone. True if a
+    /// window manager was asked to do that; it may do it after other requests for the keyboard.
     virtual bool giveBackTo(const Owner &owner) = 0;
-    /// Calls back each time that something asked for with `giveBackTo` has been done.
+    /// Calls back each time the window manager has done what `giveBackTo` asked for.
     virtual void observeAnswers(std::function<void()> callback) = 0;
 
-    /// The toolkit does not always know a repeat's release from that of the hand.
+    /// Qt cannot always tell a repeat's release from the user's.
     virtual bool isKeyDown(NativeKey key) const = 0;
     virtual bool isAnyKeyDown() const = 0;
-    /// The toolkit forgets the buttons when a drag leaves a window of ours.
+    /// Qt loses track of the buttons when a drag leaves our windows.
     virtual bool isLeftButtonDown() const = 0;
-    /// Until the key is released its repeats reach nobody, whoever has the keyboard. The
-    /// modifiers by the window system's bits.
+    /// Until the key is released its repeats reach no program. The modifiers are the window
+    /// system's bits.
     virtual void swallowRepeats(NativeKey key, std::uint32_t modifiers) = 0;
 };
 

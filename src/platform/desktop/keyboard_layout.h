@@ -6,15 +6,16 @@
 
 namespace corvane {
 
-/// The layout that the user types in.
+/// The user's present keyboard layout.
 class KeyboardLayout {
 public:
     virtual ~KeyboardLayout() = default;
 
-    /// What a key types with no modifier held, and a dead key the accent that it puts on others;
-    /// empty when it types nothing.
+    /// What a key types with no modifier held; for a dead key the accent that it puts on other
+    /// letters; empty when it types nothing.
     virtual QString charactersOf(KeyPosition position) const = 0;
-    /// Whether a key that has this symbol changes what keys do instead of being one itself.
+    /// Whether a key with this symbol changes what other keys do (a modifier, a lock, a layout
+    /// switch) instead of typing something.
     virtual bool changesKeys(KeySymbol symbol) const = 0;
 };
 

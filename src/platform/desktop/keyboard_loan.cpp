@@ -40,13 +40,13 @@ void KeyboardLoan::willHide(WindowNumber panel)
         giveBackFrom(panel);
         return;
     }
-    // Now would be too early: the window manager may hear of the click after us, and our wish would
-    // come after the user's.
+    // Not now: the window manager may get the click after us, and our request would then override
+    // the user's.
     m_queue.asyncAfter(clickPatience,
                        m_lifetime.guard([this, panel] { giveBackUnlessClaimed(panel); }));
 }
 
-/// What was clicked may be something that takes no keyboard.
+/// The clicked window may be one that does not take the keyboard.
 void KeyboardLoan::giveBackUnlessClaimed(WindowNumber hidden)
 {
     if (isPanel(hidden) && !isShown(hidden) && m_focus.focusedWindow() == WindowNumber::None)
@@ -90,8 +90,8 @@ void KeyboardLoan::dragLetGo(DragOperation promised)
 {
     if (promised == DragOperation::None && m_wasWithPanelBeforePress)
         return;
-    // With the button and a key still down it was Escape that ended the drag. Another button ends a
-    // drag, too, and then there is no release to wait for.
+    // If the button and a key are still down, it was Escape that ended the drag. Another button
+    // ends a drag, too, but then no key release follows.
     m_givesBackOnRelease
         = promised == DragOperation::None && m_focus.isLeftButtonDown() && m_focus.isAnyKeyDown();
     if (!m_givesBackOnRelease)
@@ -138,7 +138,7 @@ void KeyboardLoan::take(WindowNumber panel)
     const WindowNumber focused = m_focus.focusedWindow();
     if (focused == panel)
         return;
-    // The window manager does not name its active window rightly before it has done its part.
+    // Until the window manager has answered, it may still name another active window.
     if (isJustGivenBackTo(focused))
         m_owner = m_givenBackTo;
     else if (!isPanel(focused))
@@ -149,12 +149,12 @@ void KeyboardLoan::take(WindowNumber panel)
 void KeyboardLoan::giveBackFrom(WindowNumber panel)
 {
     wishEnds(panel);
-    // What a key has closed is not to be repeated in the program behind.
+    // The key that closed the panel may be held; its repeats must not reach the program behind.
     if (m_heldKey && m_heldKey->panel == panel) {
         m_focus.swallowRepeats(m_heldKey->key, m_heldKey->modifiers);
         m_heldKey.reset();
     }
-    // Otherwise somebody else has it by now: the user went on, or to another panel.
+    // Otherwise another window has it by now: the user went on there, or to another panel.
     if (m_focus.focusedWindow() == panel)
         giveBack();
 }
@@ -186,8 +186,8 @@ void KeyboardLoan::awaitAnswer()
     m_queue.asyncAfter(answerPatience, m_waiting.guard([this] { forgetAnswers(); }));
 }
 
-/// The window manager has activated the owner, who has the keyboard now even where a panel asked
-/// for it later. Somebody else who has it took it by themselves, and keeps it.
+/// The window manager has activated the owner, which now has the keyboard even if a panel asked for
+/// it later. If another window has it, the user or that program gave it to it, and it keeps it.
 void KeyboardLoan::answered()
 {
     if (m_wantedMeanwhile && isJustGivenBackTo(m_focus.focusedWindow()))

@@ -11,58 +11,63 @@ namespace corvane {
 
 class MainQueue;
 
-/// The panels have the keyboard on loan. This decides which of them has it and when it goes back;
-/// one for all panels, which tell it what happens to them.
+/// Decides which panel has the keyboard, and when it goes back to the window that had it before,
+/// its owner. There is one for all panels, which report to it what happens to them.
 ///
 ///     with its owner --a panel wants it--> with that panel; the owner is remembered
 ///     with a panel --another panel wants it--> with that one; the owner stays remembered
 ///     with a panel --it hides, resigns, or its drag is let go elsewhere--> with its owner
 ///     with a panel --the user clicks elsewhere--> wherever the click takes it
 ///
-/// A window manager that is asked to activate the owner may do so late, after a panel has asked for
-/// the keyboard again. Then that panel is given it once more.
+/// A window manager that is asked to activate the owner may do that after a panel has asked for the
+/// keyboard again. Then that panel is given it once more.
 ///
 /// Both that it is given must outlive it. Main thread only.
 class KeyboardLoan {
 public:
-    /// Seconds that a window manager may take to give the keyboard to what was clicked.
+    /// In seconds: how long a window manager may take to give the keyboard to the window that the
+    /// user clicked.
     static constexpr double clickPatience = 0.3;
-    /// Seconds after which no answer of the window manager is awaited any more: some give none.
+    /// In seconds: after this no answer of the window manager is awaited any more, because some
+    /// give none.
     static constexpr double answerPatience = 1;
 
     KeyboardLoan(KeyboardFocus &focus, MainQueue &queue);
     KeyboardLoan(const KeyboardLoan &) = delete;
     KeyboardLoan &operator=(const KeyboardLoan &) = delete;
 
-    /// A panel, by its window's number, which is hidden. Others call nothing here before that.
+    /// Adds a panel, which is hidden, by its window's number. To be called before the other
+    /// functions.
     void join(WindowNumber panel);
-    /// The panel is hidden, and about to be no more.
+    /// Removes a panel, which is hidden.
     void leave(WindowNumber panel);
 
     void shown(WindowNumber panel);
-    /// Called while it is still on screen.
+    /// To be called while the panel is still on screen.
     void willHide(WindowNumber panel);
 
-    /// The user turned to the panel just now. A hidden one is given nothing.
+    /// The user has just done something that asks for the panel: gives it the keyboard. Nothing for
+    /// a hidden panel.
     void wantedByHand(WindowNumber panel);
-    /// The same, unless a window that is no panel has the keyboard.
+    /// The same, but only if a panel or no window at all has the keyboard.
     void wantedAmongPanels(WindowNumber panel);
-    /// The panel stays on screen, and needs the keyboard no longer.
+    /// The panel stays on screen but needs the keyboard no longer: gives it back.
     void resigned(WindowNumber panel);
-    /// The user clicked in another program: until it is shown again, hiding the panel takes the
-    /// keyboard from nobody.
+    /// The user clicked in another program. Until the panel is shown again, hiding it leaves the
+    /// keyboard where the click puts it.
     void userWentOn(WindowNumber panel);
 
-    /// The left button went down on a panel, which has not done anything for it yet.
+    /// The left button went down on a panel; to be called before the panel reacts.
     void pressed();
     /// The drag that began with that press is over. `promised` is what the target would do.
     void dragLetGo(DragOperation promised);
 
-    /// Not for repeats. The modifiers by the window system's bits.
+    /// A key was pressed on the panel; not to be called for repeats. The modifiers are the window
+    /// system's bits.
     void keyPressed(WindowNumber panel, NativeKey key, std::uint32_t modifiers);
-    /// Also where it was a repeat of the key.
+    /// A key was released; repeats' releases may be reported, too.
     void keyReleased(NativeKey key);
-    /// The panel was told that it has the keyboard no more: other releases go to somebody else.
+    /// The panel was told that it lost the keyboard, so releases of its keys go elsewhere.
     void lost(WindowNumber panel);
 
 private:
@@ -93,18 +98,20 @@ private:
     KeyboardFocus &m_focus;
     MainQueue &m_queue;
     std::map<WindowNumber, Panel> m_panels;
-    /// Who had it before the panels.
+    /// The window that had the keyboard before the panels.
     KeyboardFocus::Owner m_owner;
-    /// Who was given it back last, and how many such wishes are not answered yet.
+    /// The window that was last given the keyboard back, and how many answers of the window manager
+    /// about that are awaited.
     KeyboardFocus::Owner m_givenBackTo;
     int m_awaitedAnswers = 0;
-    /// The panel that asked for it meanwhile.
+    /// The panel that asked for the keyboard while answers were awaited.
     std::optional<WindowNumber> m_wantedMeanwhile;
     bool m_wasWithPanelBeforePress = false;
-    /// Escape has ended a drag and may be held: its repeats are nobody else's.
+    /// Escape ended a drag and is still held. The keyboard is given back when it is released, so
+    /// that its repeats do not reach the owner.
     bool m_givesBackOnRelease = false;
     std::optional<HeldKey> m_heldKey;
-    /// Restarted where the wait for answers begins anew or ends.
+    /// Restarted when waiting for answers begins again or ends.
     Lifetime m_waiting;
     Lifetime m_lifetime;
 };

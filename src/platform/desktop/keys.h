@@ -2,12 +2,12 @@
 
 #include <cstdint>
 
-/// The ways to name a key. They are different types, so that none passes for another; what a key
-/// types as text is a `QString`.
+/// The ways to name a key, as different types, so that one cannot be used for another. The text
+/// that a key types is a `QString`.
 namespace corvane {
 
-/// A key by its place on the keyboard, whatever the layout makes of it: the virtual key code of the
-/// key that an ANSI keyboard has there. Shortcuts are stored and registered by it.
+/// A key by its position on the keyboard, whatever the layout makes of it: the virtual key code of
+/// the key in that position of an ANSI keyboard. Shortcuts are stored and registered by it.
 enum class KeyPosition : std::uint32_t {
     A = 0,
     D = 2,
@@ -42,8 +42,8 @@ enum class KeyPosition : std::uint32_t {
     Unknown = 0xffff,
 };
 
-/// A key by what it types or is called in the user's layout, wherever it stands: the virtual key
-/// code of the key that types the same on an ANSI keyboard. Panels are told keys by it.
+/// A key by what it types or is called in the user's layout, in whatever position: the virtual key
+/// code of the key that types the same on an ANSI keyboard. Panels get keys by it.
 enum class TypedKey : std::uint32_t {
     A = 0,
     C = 8,
@@ -67,14 +67,14 @@ enum class TypedKey : std::uint32_t {
     Unknown = 0xffff,
 };
 
-/// What the key in a place types on an ANSI keyboard.
+/// What the key in a position types on an ANSI keyboard.
 constexpr TypedKey typedOnAnsiKeyboard(KeyPosition position)
 {
     return static_cast<TypedKey>(position);
 }
 
-/// A key by its place, as the window system numbers it and Qt passes it on as the native scan code:
-/// the kernel's code (evdev) and 8 more.
+/// A key by its position, as the window system numbers it and Qt passes it on as native scan code:
+/// the kernel's code (evdev) plus 8.
 enum class NativeKey : std::uint32_t {
     None = 0,
 };

@@ -19,7 +19,7 @@ constexpr std::array<ModifierName, 4> modifierNames = {{
     {Modifier::Shift, "Shift"},
 }};
 
-/// The keys that shortcuts keep by a sign, as key sequences call them.
+/// Names in key sequences of the keys that shortcuts store as signs.
 const QHash<QString, QString> &namesOfSigns()
 {
     static const QHash<QString, QString> names = {
@@ -47,7 +47,7 @@ QString nameOf(const QString &key)
     const auto name = namesOfSigns().constFind(key);
     if (name != namesOfSigns().constEnd())
         return *name;
-    // What types more than one character is a function key.
+    // A text of more than one character is the name of a function key.
     return key.size() > 1 ? key.toUpper() : key;
 }
 

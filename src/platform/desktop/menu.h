@@ -10,15 +10,15 @@
 
 namespace corvane {
 
-/// What the user may press elsewhere for the same as a menu's row. It is shown beside the row and
-/// nothing more: no menu acts upon it. Here Command is the Super key and Control is Control.
+/// The keys that do the same as a menu's row. They are only shown beside the row; the menu does not
+/// react to them. Here Command is the Super key and Control is Control.
 struct KeyEquivalent {
-    /// What the key types without modifiers, in lower case ("k", ","), or its sign or name ("↩",
-    /// "f5"); empty for none.
+    /// The character that the key types without modifiers, in lower case ("k", ","), or the key's
+    /// sign or name ("↩", "f5"); empty for none.
     QString key;
     Modifiers modifiers;
 
-    /// For Qt, which calls Super Meta; empty for none.
+    /// The same for Qt, which calls Super "Meta"; empty for none.
     QKeySequence sequence() const;
 
     friend bool operator==(const KeyEquivalent &, const KeyEquivalent &) = default;
@@ -26,7 +26,7 @@ struct KeyEquivalent {
 
 /// One row of a menu. One without a title is a separator.
 struct MenuRow {
-    /// The same for the same row whenever the menu is built.
+    /// Identifies the row whenever the menu is built.
     int id = 0;
     QString title;
     KeyEquivalent keyEquivalent;

@@ -9,17 +9,17 @@
 
 namespace corvane {
 
-/// Hears presses of any mouse button in other programs' windows, as far as the desktop tells of
-/// them. What a window system reports of a wheel as buttons is none. Main thread only.
+/// Reports presses of any mouse button in other programs' windows, as far as the desktop tells of
+/// them. Wheels that a window system reports as buttons do not count. Main thread only.
 class OutsideClicks {
 public:
-    /// Where, in global points; none where nobody tells.
+    /// The place, in global points; none if it is not known.
     using Handler = std::function<void(std::optional<QPointF> place)>;
 
     virtual ~OutsideClicks() = default;
 
-    /// Until the subscription ends, which may happen inside of the handler. An inactive one where
-    /// the desktop tells of none.
+    /// Calls `onPressed` until the subscription ends, which may happen inside it. The subscription
+    /// is inactive if the desktop does not tell of such clicks.
     virtual Subscription watch(Handler onPressed) = 0;
 };
 

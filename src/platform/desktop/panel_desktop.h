@@ -7,7 +7,7 @@ class KeyboardLoan;
 class PanelSurface;
 class PointingDevices;
 
-/// What a session has for panels. The same for all of them, which it must outlive.
+/// What a session offers for panels; the same for all of them. It must outlive them.
 struct PanelDesktop {
     PanelSurface &surface;
     KeyboardLoan &keyboard;

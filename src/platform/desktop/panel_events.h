@@ -15,7 +15,7 @@ struct MouseEvent {
 };
 
 struct KeyEvent {
-    /// By position where the layout has no Latin letters.
+    /// By its position if the layout has no Latin letters.
     TypedKey key = TypedKey::Unknown;
     Modifiers modifiers;
     bool isRepeat = false;

@@ -18,7 +18,7 @@ class QScreen;
 
 namespace corvane {
 
-/// What a panel shows, and who answers its events. All calls come on the main thread.
+/// The content of a panel: paints it and handles its events. All calls come on the main thread.
 class PanelContent {
 public:
     virtual ~PanelContent() = default;
@@ -34,27 +34,27 @@ public:
     virtual void mouseMoved(const MouseEvent &event) = 0;
     virtual void mouseExited() = 0;
     virtual void scrollWheel(const ScrollEvent &event) = 0;
-    /// False passes the key on.
+    /// False if the key is not handled.
     virtual bool keyDown(const KeyEvent &event) = 0;
 
     virtual DragOperation draggingEntered(const DraggingInfo &info) = 0;
     virtual DragOperation draggingUpdated(const DraggingInfo &info) = 0;
     virtual void draggingExited() = 0;
-    /// Whether the answer to a drag that offers these types depends on the addresses it carries.
-    /// They are fetched before `draggingEntered` then; other contents are not there yet in it.
+    /// Whether the answer to a drag that offers these types depends on the addresses it carries. If
+    /// so they are fetched before `draggingEntered`, which cannot read other contents yet.
     virtual bool needsAddresses(const QStringList & /*types*/) const { return false; }
-    /// The drag was let go here, and its contents are on their way, which may take long. Followed
-    /// by exactly one `performDragOperation` once they are here, perhaps with none; other drags may
-    /// come and go between the two.
+    /// The drag was dropped here, and its contents are being fetched, which may take long.
+    /// `performDragOperation` follows exactly once when they are here, perhaps with none; other
+    /// drags may come and go between.
     virtual void dropIsAwaited() { }
-    /// Where a file of that name, a stranger's text, may be written for the drop that is awaited;
-    /// none where nowhere.
+    /// The place where the source of an awaited drop may write a file. `name` comes from the source
+    /// and is not trusted. None if there is no such place.
     virtual std::optional<QUrl> placeForPromisedFile(const QString & /*name*/)
     {
         return std::nullopt;
     }
     virtual bool performDragOperation(const DraggingInfo &info) = 0;
-    /// After a drop or an exit: the drag is over as far as this panel is concerned.
+    /// Called after a drop or an exit: the drag is over for this panel.
     virtual void draggingEnded() = 0;
 };
 
@@ -67,26 +67,27 @@ struct DragOut {
     /// bottom left.
     Image image;
     QPointF hotSpot;
-    /// Set while some of `contents` are still being made. They then stand for the final ones: as
-    /// many writers of the same kinds, in the same order, so that it can be told what is offered.
-    /// Called once, as the drag begins, with what is to be called on the main thread, now or later,
-    /// once: with the final contents, or with none where there will be none. Targets that ask
-    /// before that are answered then, or refused after a while.
+    /// Set if some of `contents` are still being made. They then only tell what is offered: as many
+    /// writers, of the same kinds and in the same order, as the final ones.
+    ///
+    /// Called once, as the drag begins. `ready` must then be called once, on the main thread, now
+    /// or later: with the final contents, or with none if there will be none. Targets that ask
+    /// earlier wait for that, and are refused after a while.
     std::function<void(Ready ready)> whenReady = {};
 };
 
-/// How a drag-out ended, by what the target said at the end and by what it was given.
+/// How a drag-out ended, by what the target said at the end and by which contents it got.
 struct DragOutEnd {
     DragOperation operation = DragOperation::None;
-    /// The places of the writers whose contents the target has, ascending. Nothing without an
-    /// operation.
+    /// The places of the writers whose contents the target has, ascending. Empty if `operation` is
+    /// `None`.
     QList<qsizetype> taken;
-    /// It was let go over a target that would have taken it, whatever came of it.
+    /// Whether it was dropped on a target that had accepted it, whether or not that took anything.
     bool wasDropped = false;
 };
 
-/// Each is called exactly once, in this order, perhaps before the call that began the drag returns:
-/// a drag may run an event loop of its own.
+/// Both are called exactly once, in this order, perhaps before `beginDraggingSession` returns: a
+/// drag may run an event loop of its own.
 struct DragOutEvents {
     /// The user let go, or gave up. What becomes of the contents is not known yet.
     std::function<void()> released;
@@ -96,18 +97,18 @@ struct DragOutEvents {
 /// A borderless window that floats above everything, on every workspace and over full-screen
 /// windows, in no task list, and takes no focus when it appears. Made hidden.
 ///
-/// The frame is what was asked for: the window system may not tell where a window is.
+/// `frame` is the frame that was set: the window system may not tell where a window really is.
 class PanelWindow {
 public:
     virtual ~PanelWindow() = default;
 
-    /// The content must outlive the panel, or be taken away with null.
+    /// The content must outlive the panel, or be removed with null before.
     virtual void setContent(PanelContent *content) = 0;
 
     /// In global points, origin at the bottom left of the primary display.
     virtual QRectF frame() const = 0;
     virtual void setFrame(const QRectF &frame) = 0;
-    /// The screen that it is on, or would come up on; null where that is none.
+    /// The screen that it is on, or will appear on; null when it is on none.
     virtual const QScreen *screen() const = 0;
 
     virtual bool isVisible() const = 0;
@@ -116,34 +117,33 @@ public:
     /// Hides it, and gives the keyboard back to the window that had it.
     virtual void orderOut() = 0;
 
-    /// While set, clicks go to whatever lies below.
+    /// While set, clicks go to the windows below.
     virtual void setIgnoresMouseEvents(bool ignores) = 0;
     /// The part that takes clicks, and the outline that the panel is cut to where the desktop
     /// cannot blend windows; both in the panel's coordinates.
     virtual void setBody(const QRectF &rect, const QPainterPath &outline) = 0;
 
-    /// Takes the keyboard. Only where the user asked for it, by a click or a key: a window that
-    /// takes it by itself is a nuisance.
+    /// Takes the keyboard. Only for a user's click or key that asks for it: a window must not take
+    /// the keyboard on its own.
     virtual void makeKey() = 0;
-    /// The same, unless a window that is no panel has the keyboard: for what is no answer to what
-    /// the user did just now.
+    /// The same, but not from a window that is no panel: for changes that the user did not cause
+    /// just now.
     virtual void makeKeyAmongPanels() = 0;
     /// Gives the keyboard back to the window that had it, and stays on screen.
     virtual void resignKey() = 0;
-    /// The user clicked in another program, which is about to get the keyboard: until the panel is
-    /// shown again, hiding it takes the keyboard from nobody.
+    /// The user clicked in another program, which is about to get the keyboard. Until the panel is
+    /// shown again, hiding it does not move the keyboard.
     virtual void userWentOn() = 0;
 
     /// Asks for a repaint of part of the panel, in its coordinates.
     virtual void setNeedsDisplay(const QRectF &rect) = 0;
 
     /// Starts a drag that offers copy and link; the button must be down. The contents are fixed at
-    /// this moment. Another one may begin once this one was released: a target may take its time.
+    /// this moment. Another drag may begin after `released`, while this one's target is still busy.
     ///
-    /// Once the user lets go, whatever the target still does, the keyboard is with the window that
-    /// had it before the press. Where that was a panel and another program takes the drop, it is
-    /// with the window that had it before the panels: whoever has put something there goes on
-    /// there.
+    /// When the user lets go, the keyboard goes back to the window that had it before the press,
+    /// without waiting for the target. If that was a panel and another program takes the drop, it
+    /// goes to the window that had it before the panels, because the user goes on there.
     virtual void beginDraggingSession(DragOut drag, DragOutEvents events) = 0;
 };
 

@@ -7,25 +7,25 @@
 
 namespace corvane {
 
-/// Tells when the pointer is pushed against a stretch of a screen's top edge, where a window system
-/// can tell that without a window at the edge.
+/// Reports when the pointer is pushed against a stretch of a screen's top edge, for window systems
+/// that can tell that without a window at the edge.
 ///
-/// It takes nothing from the windows there, holds the pointer up nowhere, and wakes nobody while
-/// the pointer is elsewhere. An edge that another screen continues is none: the pointer goes
-/// through. Devices that name a place instead of a movement (tablets, the pointers of some virtual
-/// machines) push against nothing and are not noticed. Main thread only.
+/// Windows at the edge keep getting their events, the pointer is not stopped anywhere, and nothing
+/// runs while the pointer is elsewhere. Edges above which another screen continues are not watched.
+/// Devices that report absolute places (tablets, pointers of some virtual machines) do not push and
+/// are not noticed. Main thread only.
 class PointerBarriers {
 public:
     virtual ~PointerBarriers() = default;
 
-    /// Watches these stretches and no others; none at all costs nothing. What was entered before is
-    /// forgotten, and its end not told.
+    /// Watches these stretches and no others; with none nothing is watched. If the pointer was at
+    /// an earlier stretch, `onLeft` is not called for that.
     virtual void watch(const std::vector<EdgeStretch> &stretches) = 0;
 
-    /// The pointer was pushed against a stretch, with nobody holding it for a drag or a menu. Told
-    /// once until it has left.
+    /// The pointer was pushed against a stretch while it was not grabbed for a drag or a menu.
+    /// Called once until it has left.
     std::function<void()> onEntered;
-    /// It is there no longer, after it was entered.
+    /// The pointer has left, after `onEntered`.
     std::function<void()> onLeft;
 };
 

@@ -4,12 +4,12 @@
 
 namespace corvane {
 
-/// What is known of the devices that the pointer is moved with. Main thread only.
+/// Facts about mice, touchpads and the like. Main thread only.
 class PointingDevices {
 public:
     virtual ~PointingDevices() = default;
 
-    /// By the window system's id for the device.
+    /// Whether the device, by the window system's id, is a touchpad.
     virtual bool isTouchpad(std::int64_t device) = 0;
 };
 

@@ -10,7 +10,8 @@
 
 namespace corvane {
 
-/// Points that a screen's edges keep free of windows.
+/// In points: how far windows should stay away from a screen's edges, for example for a camera
+/// housing.
 struct EdgeInsets {
     double top = 0;
     double left = 0;
@@ -18,8 +19,8 @@ struct EdgeInsets {
     double right = 0;
 };
 
-/// One attached display. The object stands for the display as long as it is attached: its values
-/// may change, and two objects are never the same display.
+/// One attached display. There is one object for each display as long as it is attached; its values
+/// may change meanwhile.
 struct Screen {
     /// In global points, origin at the bottom left of the primary display.
     QRectF frame;

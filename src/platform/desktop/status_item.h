@@ -10,23 +10,23 @@
 
 namespace corvane {
 
-/// The program's place among the small icons of a panel: an icon, a tool tip, and a menu that opens
-/// on a click. Main thread only.
+/// The program's icon in a panel, with a tool tip and a menu that opens on a click. Main thread
+/// only.
 class StatusItem {
 public:
-    /// Draws the icon into a square of that many pixels, in the panel's foreground colour. Asked
-    /// whenever a panel wants a size.
+    /// Draws the icon into a square of `side` pixels, in the panel's foreground colour. Called for
+    /// each size that a panel needs.
     using Icon = std::function<QImage(int side, const QColor &foreground)>;
-    /// Gives the menu as it should be now.
+    /// Returns the rows that the menu should have now.
     using Menu = std::function<MenuRows()>;
 
     virtual ~StatusItem() = default;
 
-    /// What was drawn for a shape is kept: the same shape always looks the same. There are to be
-    /// few.
+    /// Sets the icon. Drawings are kept by `shape`, so the same shape must always look the same,
+    /// and there should be few.
     virtual void setIcon(int shape, Icon icon) = 0;
     virtual void setToolTip(const QString &toolTip) = 0;
-    /// Asked each time the menu opens.
+    /// Sets the function that gives the menu's rows; called each time the menu opens.
     virtual void setMenu(Menu menu) = 0;
     /// Tells panels that keep a copy of the menu that theirs is out of date.
     virtual void menuChanged() = 0;

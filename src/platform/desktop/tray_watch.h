@@ -4,15 +4,15 @@
 
 namespace corvane {
 
-/// Tells when the desktop has a tray of the session's own kind, beside those on the session bus.
-/// Main thread only.
+/// Tells when the desktop has a tray of the session's own kind, apart from panels that show icons
+/// of the session bus. Main thread only.
 class TrayWatch {
 public:
     virtual ~TrayWatch() = default;
 
-    /// `onTray` is called at once if there is a tray, and whenever one comes. Once.
+    /// Calls `onTray` at once if there is a tray, and whenever one appears. To be called once.
     virtual void start(std::function<void()> onTray) = 0;
-    /// It is not called any more. May be called again, and from inside of it.
+    /// Calls it no more. May be called several times, also from inside `onTray`.
     virtual void stop() = 0;
 };
 

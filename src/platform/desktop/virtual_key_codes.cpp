@@ -8,7 +8,7 @@ namespace corvane::virtual_key_codes {
 
 namespace {
 
-/// The window system counts higher than the kernel by that.
+/// The window system's number of a key is the kernel's plus this.
 constexpr std::uint32_t nativeOffset = 8;
 
 struct Pair {
@@ -16,7 +16,7 @@ struct Pair {
     std::uint32_t evdevCode;
 };
 
-// By evdev code, so by the rows of a keyboard.
+// In the order of evdev codes, that is, of the rows of a keyboard.
 constexpr std::array pairs = {
     // Escape, digit row, minus, equals, backspace
     Pair{53, 1}, Pair{18, 2}, Pair{19, 3}, Pair{20, 4}, Pair{21, 5}, Pair{23, 6}, Pair{22, 7},
@@ -57,7 +57,7 @@ constexpr std::array pairs = {
     Pair{105, 183}, Pair{107, 184}, Pair{113, 185}, Pair{106, 186}, Pair{64, 187}, Pair{79, 188},
     Pair{80, 189}, Pair{90, 190}};
 
-// The letter rows' evdev codes run on without a gap.
+// Within a row of letters evdev codes are consecutive.
 struct LetterRow {
     std::u32string_view letters;
     std::uint32_t firstEvdevCode;

@@ -4,7 +4,8 @@
 
 #include <optional>
 
-/// Between virtual key codes, which shortcuts are stored as, and what the window system calls keys.
+/// Converts between virtual key codes, by which shortcuts are stored, and the window system's key
+/// numbers.
 namespace corvane::virtual_key_codes {
 
 /// `KeyPosition::Unknown` for a key that has no virtual code.

@@ -4,17 +4,17 @@ class QWindow;
 
 namespace corvane {
 
-/// Brings a window of ours forward, or has it written to.
+/// Brings our windows to the front and gives them the keyboard.
 class WindowActivation {
 public:
     virtual ~WindowActivation() = default;
 
-    /// Puts a window that is shown in front of all others and gives it the keyboard, as the answer
-    /// to what the user did just now: the desktop takes it for that and not for a window that
-    /// pushes itself forward, also where the user's click or key went to another program. May
-    /// happen a moment after the call. Main thread only.
+    /// Brings a shown window in front of all others and gives it the keyboard, on behalf of what
+    /// the user has just done, even if the user's click or key went to another program. Otherwise
+    /// desktops refuse windows that push themselves forward. May happen a moment after the call.
+    /// Main thread only.
     virtual void bringToFront(QWindow &window) = 0;
-    /// Gives the keyboard to a shown window that the window manager does not know, at once. Main
+    /// Gives the keyboard at once to a shown window that the window manager does not manage. Main
     /// thread only.
     virtual void giveKeyboard(QWindow &window) = 0;
 };

@@ -6,14 +6,14 @@ namespace corvane {
 
 struct PasteboardContents;
 
-/// The clipboard.
+/// The desktop's clipboard. Main thread only.
 class Clipboard {
 public:
     virtual ~Clipboard() = default;
 
-    /// Clears it, then writes `contents` in one go.
+    /// Replaces what is on the clipboard by `contents`.
     virtual void write(const PasteboardContents &contents) = 0;
-    /// Another number whenever anybody, also another program, has put something there.
+    /// A number that changes whenever a program, ours included, has put something on the clipboard.
     virtual qint64 changeCount() const = 0;
 };
 

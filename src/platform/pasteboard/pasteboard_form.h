@@ -12,7 +12,7 @@ namespace corvane {
 struct PasteboardForm {
     QString type;
     QByteArray bytes;
-    /// The places of the writers whose whole contents are in it, ascending.
+    /// The places of the writers whose contents are in `bytes` completely, ascending.
     QList<qsizetype> holds;
 };
 using PasteboardForms = std::vector<PasteboardForm>;

@@ -12,8 +12,8 @@
 
 namespace corvane {
 
-/// One thing that a pasteboard can carry to another program. A plain value: what is handed over is
-/// fixed when it is made.
+/// One item as a pasteboard offers it to other programs. A value: the contents are fixed when it is
+/// made.
 struct PasteboardWriter {
     struct File {
         QUrl url;
@@ -32,10 +32,10 @@ struct PasteboardWriter {
     std::variant<File, Data, Text, Link> content;
 };
 
-/// Everything that is written in one go.
+/// All contents that are written to a pasteboard together.
 struct PasteboardContents {
     std::vector<PasteboardWriter> writers;
-    /// The plain text beside the writers. Without it, each writer's own text, joined by line ends.
+    /// The plain text. Without it, the texts of all writers, joined by line ends.
     std::optional<QString> string;
 };
 

@@ -8,22 +8,23 @@ namespace corvane {
 
 class Cancellation;
 
-/// The thumbnail programs that are installed on the desktop.
+/// Runs the thumbnail programs that are installed on the desktop.
 class ExternalThumbnailers {
 public:
     struct Result {
         enum class Outcome {
-            /// There is none for this kind of file, or none that may be run here.
+            /// There is no program for this kind of file, or none that may be run here.
             NotThere,
-            /// It ended and left bytes that claim to be a PNG.
+            /// It ended and wrote bytes that begin like a PNG.
             Made,
-            /// It ended, and made nothing of this file.
+            /// It ended without making anything of this file.
             Failed,
-            /// It was stopped: too slow, too much, or no longer wanted. The file is not to blame.
+            /// It was stopped because it was too slow, used too much, or was no longer wanted. That
+            /// says nothing about the file.
             Stopped,
         };
         Outcome outcome = Outcome::NotThere;
-        /// A stranger's: not looked at.
+        /// Not checked: it comes from another program.
         QByteArray png;
     };
 

@@ -14,7 +14,7 @@ public:
     /// Always an image, `side` points square at `scale` pixels per point; an icon of our own where
     /// the theme has none. Main thread only; does not wait for the file's disk.
     virtual Image iconForFile(const QUrl &url, double side, double scale) = 0;
-    /// The same of any folder.
+    /// The same for a folder.
     virtual Image iconForFolder(double side, double scale) = 0;
 };
 

@@ -5,8 +5,8 @@
 
 namespace corvane {
 
-/// A bitmap and the size in points at which it is meant to be shown. Where the two differ in shape
-/// the bitmap is drawn fitted into its place, keeping its own proportions.
+/// A bitmap and the size in points at which it is to be shown. If their proportions differ the
+/// bitmap is fitted into that size.
 struct Image {
     QImage bitmap;
     QSizeF size;

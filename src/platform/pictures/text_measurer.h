@@ -5,7 +5,7 @@
 
 namespace corvane {
 
-/// The width of text, apart from drawing it.
+/// Measures text without drawing it.
 class TextMeasurer {
 public:
     virtual ~TextMeasurer() = default;

@@ -8,23 +8,25 @@
 
 namespace corvane {
 
-/// Thumbnails that were made before, by any program. Any thread; waits for the local disk.
+/// The desktop's cache of thumbnails, shared with other programs. Any thread; waits for the local
+/// disk.
 class ThumbnailCache {
 public:
     struct Found {
-        /// Fits into the wanted pixels.
+        /// Not larger than the wanted pixels.
         std::optional<QImage> picture;
-        /// This program could not make a picture of this version of the file.
+        /// This program failed before to make a picture of this version of the file.
         bool hasFailed = false;
     };
 
     virtual ~ThumbnailCache() = default;
 
     virtual Found find(const FileVersion &file, int pixels) const = 0;
-    /// How large a picture of the file should be made, at least `pixels`, so that it can be kept.
+    /// The size in pixels, at least `pixels`, in which a picture should be made so that the cache
+    /// can keep it.
     virtual int pixelsToMake(const FileVersion &file, int pixels) const = 0;
-    /// Keeps a picture for every program, unless the file is a private one. Failures are silent:
-    /// the next time it is made again.
+    /// Stores a picture for all programs, unless the file is private. Failures are ignored: the
+    /// picture is made again next time.
     virtual void keep(const FileVersion &file, const QImage &picture) const = 0;
     virtual void keepFailure(const FileVersion &file) const = 0;
 };

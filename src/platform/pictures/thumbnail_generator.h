@@ -12,14 +12,14 @@
 
 namespace corvane {
 
-/// A small picture of a file.
+/// A request for a small picture of a file.
 struct ThumbnailRequest {
     QUrl url;
     /// In points.
     QSizeF size;
     /// Pixels per point.
     double scale = 1;
-    /// Once cancelled the answer may be none, and comes soon. Never null.
+    /// Never null. After cancelling, the answer comes soon and may be none.
     std::shared_ptr<Cancellation> cancellation = std::make_shared<Cancellation>();
 
     /// The longer side in pixels, rounded.
@@ -29,10 +29,10 @@ struct ThumbnailRequest {
 struct ThumbnailAnswer {
     /// Fits into the requested pixels.
     std::optional<QImage> picture;
-    /// What is there is a folder, itself or behind a link.
+    /// It is a folder, or a link to one.
     bool isFolder = false;
-    /// The file lies behind a network, which may hang, and was not touched. Only such an answer
-    /// asks for another generator.
+    /// The file is behind a network, which may not answer, and was not touched. Another generator
+    /// has to be asked.
     bool isRemote = false;
 };
 

@@ -15,32 +15,32 @@
 
 namespace corvane {
 
-/// A picture or document of a stranger's, rendered piece by piece. Each function may take long and
-/// hold `ImageCodec::maximumDecodedBytes` at most. Any thread, one at a time.
+/// A picture or document, not trusted, that is rendered piece by piece. Each function may take
+/// long, and needs at most `ImageCodec::maximumDecodedBytes`. Any thread, but one call at a time.
 class PreviewDocument {
 public:
     struct Frame {
         QImage image;
-        /// Seconds that the frame stays.
+        /// How long the frame is shown, in seconds.
         double duration = 0;
     };
 
     virtual ~PreviewDocument() = default;
 
-    /// A page, upright, of exactly `pixels`, whatever shape that is. None when it is broken or too
-    /// large.
+    /// A page, upright, scaled to exactly `pixels` even if that distorts it. None if it is broken
+    /// or too large.
     virtual std::optional<QImage> render(int page, QSize pixels) = 0;
-    /// The next picture of an animation, the first one after the last, scaled down to fit into
-    /// `limit`; none at the end of one that does not repeat.
+    /// The next frame of an animation, scaled down to fit into `limit`. After the last frame comes
+    /// the first one, or none if the animation does not repeat.
     virtual std::optional<Frame> nextFrame(QSize limit) = 0;
 };
 
-/// What is told about a file whatever it is; an empty text is not known. Ready to be shown: a
-/// stranger's name is harmless.
+/// Texts about a file of any kind; unknown ones are empty. They can be shown as they are: unsafe
+/// characters were replaced.
 struct PreviewDetails {
     QString name;
     QString kind;
-    /// Of a file its bytes, of a folder how many items it holds.
+    /// For a file its size, for a folder its number of items.
     QString size;
     QString modified;
 
@@ -48,14 +48,14 @@ struct PreviewDetails {
 };
 
 struct PreviewContent {
-    /// Name, icon, and what else there is to tell.
+    /// Shown with name, icon and details.
     struct Plain { };
     /// There is nothing at the address.
     struct Missing { };
     struct Picture {
-        /// Upright, as stored; of a drawing without pixels of its own, its preferred size.
+        /// The stored size, upright; for vector graphics their preferred size.
         QSize pixelSize;
-        /// Fitted into the wanted pixels, or smaller when it is smaller.
+        /// The picture, scaled down to fit into the wanted pixels.
         QImage fitted;
         bool isVector = false;
         bool isAnimated = false;
@@ -64,42 +64,42 @@ struct PreviewContent {
     struct Pages {
         /// In points of 1/72 inch, one for each page that is shown.
         QList<QSize> sizes;
-        /// Of the document, which may have more pages than are shown.
+        /// Pages of the document, which may be more than are shown.
         int count = 0;
         std::shared_ptr<PreviewDocument> document;
     };
     struct Text {
         /// Lines end with U+000A, and none is longer than a view can lay out quickly.
         QString text;
-        /// Code and logs; the rest reads better in the desktop's own font.
+        /// To be shown in a monospaced font: code and logs.
         bool isMonospaced = false;
-        /// There is more in the file.
+        /// The file has more text.
         bool isCut = false;
     };
 
     QUrl url;
     PreviewDetails details;
     bool isFolder = false;
-    /// It may be handed to the program that the desktop has for it.
+    /// The user may open it with the desktop's program for it.
     bool canBeOpened = false;
     std::variant<Plain, Missing, Picture, Pages, Text> body;
 };
 
-/// Where a preview window gets what it shows. Main thread only; completions come later on the main
-/// thread, once at most.
+/// Loads what a preview window shows. Main thread only; completions are called later on the main
+/// thread, at most once.
 class PreviewLoading {
 public:
     virtual ~PreviewLoading() = default;
 
-    /// What can be told without touching the disk: a name.
+    /// Details that are known without the disk: the name.
     virtual PreviewDetails placeholder(const QUrl &url) const = 0;
-    /// Whether the disk that it lies on may never answer; it is not touched to find out.
+    /// Whether the file is on a disk that may never answer; that is found out without touching it.
     virtual bool mayNeverAnswer(const QUrl &url) const = 0;
-    /// Makes the content of a file. A picture is fitted into `wanted` pixels. Forgets what was
-    /// asked for before: its completion never comes.
+    /// Loads the content of a file; a picture is fitted into `wanted` pixels. Cancels everything
+    /// that was asked for before: its completions are not called.
     virtual void load(const QUrl &url, QSize wanted, std::function<void(PreviewContent)> completion)
         = 0;
-    /// Forgets everything that was asked for.
+    /// Cancels everything that was asked for.
     virtual void cancel() = 0;
 
     virtual void render(std::shared_ptr<PreviewDocument> document, int page, QSize pixels,

@@ -14,9 +14,9 @@ public:
 
     virtual ~PreviewDocuments() = default;
 
-    /// A picture fitted into `wanted` pixels, or the pages of a document; none for anything else,
-    /// also for what is broken, locked by a password, or larger than may be decoded. Only regular
-    /// files are read, and what they refer to is not.
+    /// A picture fitted into `wanted` pixels, or the pages of a document. None for anything else,
+    /// and for files that are broken, need a password, or are too large to decode. Only regular
+    /// files are read, and no files that they refer to.
     virtual std::optional<Opened> open(const QUrl &url, QSize wanted) = 0;
 };
 

@@ -9,21 +9,20 @@ namespace corvane {
 
 class PreviewPanel;
 
-/// What a preview panel shows.
+/// The items that a preview panel shows.
 class PreviewPanelDataSource {
 public:
     virtual ~PreviewPanelDataSource() = default;
 
     virtual int numberOfPreviewItems() const = 0;
-    /// A file address, or none.
+    /// The address of the file to show; none if there is none.
     virtual std::optional<QUrl> previewItemAt(int index) const = 0;
-    /// What to call an item whose file is only lent to the panel, so that neither its name nor
-    /// opening it elsewhere means anything; none for a file of the user's.
+    /// The title for an item whose file is only lent to the panel: its name is not shown, and it
+    /// cannot be opened elsewhere. None for a file of the user's.
     virtual std::optional<QString> previewItemTitle(int index) const = 0;
 };
 
-/// Who may fill the panel while it is on screen. The panel asks nothing else of its user, so the
-/// data source is all that a controller sets.
+/// Fills the panel while it is on screen, by setting its data source.
 class PreviewPanelController {
 public:
     virtual ~PreviewPanelController() = default;
@@ -31,7 +30,8 @@ public:
     virtual bool acceptsPreviewPanelControl(PreviewPanel &panel) = 0;
     /// The panel is about to be shown: give it a data source.
     virtual void beginPreviewPanelControl(PreviewPanel &panel) = 0;
-    /// It has been hidden, by whomever: take the data source away. Called once for each beginning.
+    /// The panel was hidden, for whatever reason: remove the data source. Called once for each
+    /// `beginPreviewPanelControl`.
     virtual void endPreviewPanelControl(PreviewPanel &panel) = 0;
 };
 
@@ -40,21 +40,20 @@ class PreviewPanel {
 public:
     virtual ~PreviewPanel() = default;
 
-    /// The controller must outlive the panel, or be taken away with null, which hides the panel.
+    /// The controller must outlive the panel, or be removed with null, which hides the panel.
     virtual void setController(PreviewPanelController *controller) = 0;
 
     virtual bool isVisible() const = 0;
-    /// Hides it and ends its control. The keyboard goes back to where it was.
+    /// Hides the panel and ends the control. The keyboard goes back to the window that had it.
     virtual void orderOut() = 0;
-    /// Shows it in front of other programs' windows and gives it the keyboard, in the name of the
-    /// user's last event: on this desktop a program becomes active by one of its windows. Does
-    /// nothing where nobody takes control.
+    /// Shows the panel in front of other programs' windows and gives it the keyboard, on behalf of
+    /// the user's last event. Does nothing without a controller that accepts control.
     virtual void makeKeyAndOrderFront() = 0;
 
-    /// The data source must stay until it is replaced.
+    /// The data source must exist until it is replaced.
     virtual PreviewPanelDataSource *dataSource() const = 0;
     virtual void setDataSource(PreviewPanelDataSource *dataSource) = 0;
-    /// Asks the data source again and shows what it says now.
+    /// Asks the data source again and shows the result.
     virtual void reloadData() = 0;
 };
 

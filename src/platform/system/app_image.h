@@ -2,25 +2,25 @@
 
 #include <QByteArray>
 
-/// AppImages: one file that holds a program, which runs from a temporary folder.
+/// AppImages: files that hold a program, which runs from a folder where the file is mounted.
 namespace corvane::app_image {
 
-/// What a process is told about where it came from; native paths.
+/// What a process knows about where it was started from; native paths.
 struct Evidence {
     QByteArray executable;
-    /// Variables of the environment, which any program may have set.
+    /// Variables of the environment (APPIMAGE and APPDIR); any program may have set them.
     QByteArray file;
     QByteArray folder;
 
     static Evidence ofThisProcess();
 };
 
-/// The AppImage that the program runs from, as the environment names it; empty when there is none.
-/// A program that another AppImage has started inherits that one's variables, so it has to lie
-/// inside the folder that they name.
+/// The AppImage that the program runs from; empty when there is none. A program started by another
+/// AppImage inherits its variables, so they count only if the executable lies inside the folder
+/// that they name.
 QByteArray containing(const Evidence &evidence);
 
-/// A path with its links resolved; empty where there is nothing.
+/// The path with all symbolic links resolved; empty when it does not exist.
 QByteArray canonical(const QByteArray &path);
 bool isBelow(const QByteArray &path, const QByteArray &folder);
 

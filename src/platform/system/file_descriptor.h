@@ -16,12 +16,12 @@ public:
 
     bool isOpen() const { return m_number >= 0; }
     int number() const { return m_number; }
-    /// The caller closes it from now on.
+    /// Gives the descriptor up; the caller has to close it.
     int release();
-    /// False where what was written could not be kept: a full disk may speak up only now.
+    /// False if data could not be written: file systems may report a full disk only now.
     bool close();
 
-    /// All the bytes, or false; `errno` says why.
+    /// Writes all the bytes. False if that failed; `errno` says why.
     bool write(const QByteArray &data) const;
 
 private:

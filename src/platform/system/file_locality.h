@@ -10,22 +10,22 @@
 
 namespace corvane {
 
-/// Tells files on this machine's disks from those that another machine or program serves.
+/// Distinguishes files on this machine's disks from those that another machine or program serves.
 class FileLocality {
 public:
     virtual ~FileLocality() = default;
 
-    /// Whether reaching `path` (absolute, as bytes) leads through a file system that may never
-    /// answer. Nothing on such a file system is touched to find out. Any thread.
+    /// Whether the way to `path` (absolute, native) leads through a file system that may never
+    /// answer. To find out, nothing on such a file system is touched. Any thread.
     virtual bool isRemote(const QByteArray &path) const = 0;
 
     struct Inspection {
         bool isRemote = false;
-        /// What is there, links followed; none of what is remote.
+        /// What is there, with links followed; none for a remote file.
         std::optional<FileVersion> version;
     };
-    /// For each path what `isRemote` says, and what a local one leads to. Costs little more than to
-    /// look at the files where many lie in one folder. Any thread.
+    /// For each path the answer of `isRemote`, and for a local file its version. For many files in
+    /// one folder this costs little more than reading their versions. Any thread.
     virtual std::vector<Inspection> inspect(const QList<QByteArray> &paths) const = 0;
 };
 

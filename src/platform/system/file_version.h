@@ -8,7 +8,8 @@ struct stat;
 
 namespace corvane {
 
-/// A file as it was at one moment: a picture of it holds as long as none of this differs.
+/// A file's state at one moment. A thumbnail or description of the file is valid as long as none of
+/// these values changes.
 struct FileVersion {
     enum class Kind { Regular, Folder, Other };
 
@@ -19,9 +20,10 @@ struct FileVersion {
     qint64 modificationTime = 0;
     qint64 size = 0;
 
-    /// What is at `path`, links followed; none when nothing is. May wait for the disk.
+    /// The state of what is at `path`, with links followed; none when nothing is there. May wait
+    /// for the disk.
     static std::optional<FileVersion> at(const QByteArray &path);
-    /// What the system said of it.
+    /// From the result of a `stat` call.
     static FileVersion of(const QByteArray &path, const struct stat &status);
 };
 

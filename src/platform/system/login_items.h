@@ -6,14 +6,14 @@
 
 namespace corvane {
 
-/// Programs that start with the user's session; this one's entry among them.
+/// This program's entry among the programs that start with the user's session.
 class LoginItems {
 public:
     virtual ~LoginItems() = default;
 
     /// Whether this program starts with the session.
     virtual bool isRegistered() const = 0;
-    /// Each gives none on success, else what went wrong, for people to read.
+    /// Both return none on success, else a message for the user.
     virtual std::optional<QString> registerItem() = 0;
     virtual std::optional<QString> unregisterItem() = 0;
 };

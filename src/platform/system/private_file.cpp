@@ -21,7 +21,7 @@ QByteArray folderOf(const QByteArray &path)
     return path.left(path.lastIndexOf('/'));
 }
 
-/// A new file under a name that nobody can foresee, which goes with this.
+/// A new file with an unpredictable name, which is removed on destruction.
 struct Unfinished {
     explicit Unfinished(const QByteArray &folder)
     {
@@ -45,7 +45,7 @@ struct Unfinished {
     bool isMade = false;
 };
 
-/// The bytes, the lock, and what only closing tells: that the disk was full.
+/// Writes the bytes and takes the lock. Closing a duplicate of the descriptor reports a full disk.
 bool fill(const FileDescriptor &file, const QByteArray &data)
 {
     if (!file.isOpen() || !file.write(data) || ::flock(file.number(), LOCK_EX | LOCK_NB) != 0)
@@ -54,20 +54,20 @@ bool fill(const FileDescriptor &file, const QByteArray &data)
     return other.isOpen() && other.close();
 }
 
-/// Gives a file that has no name one, unless something has it already.
+/// Gives a file without a name one, unless the name is in use.
 bool name(const FileDescriptor &file, const QByteArray &path)
 {
     const QByteArray link = "/proc/self/fd/" + QByteArray::number(file.number());
     return ::linkat(AT_FDCWD, link.constData(), AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW) == 0;
 }
 
-/// Gives a finished file its name, unless something has that name already.
+/// Renames a finished file, unless the name is in use.
 bool moveInto(const QByteArray &from, const QByteArray &path)
 {
     if (::link(from.constData(), path.constData()) == 0)
         return true;
     struct stat existing = {};
-    // Not every file system knows hard links.
+    // Not all file systems support hard links.
     return errno != EEXIST && ::lstat(path.constData(), &existing) != 0
         && ::rename(from.constData(), path.constData()) == 0;
 }
@@ -98,7 +98,7 @@ FileDescriptor createLocked(const QByteArray &path, const QByteArray &data)
         return nameless;
     if (nameless.isOpen() && (errno == EEXIST || errno == ENOSPC || errno == EDQUOT))
         return {};
-    // Not every file system has files without names, and not every container has /proc.
+    // Not all file systems support files without names, and not all containers have /proc.
     Unfinished named(folder);
     if (!fill(named.file, data) || !moveInto(named.name, path))
         return {};

@@ -4,21 +4,21 @@
 
 #include <QByteArray>
 
-/// Whole files that only the user may see, by their native paths. A failure leaves nothing behind.
-/// The folder may be everybody's: until a file is whole it has no name there, or, where the file
-/// system needs one, one that nobody can foresee. Any thread.
+/// Writes files that only the user may read, by their native paths, completely or not at all. The
+/// folder may be shared by all users: until a file is complete it has no name there or, where the
+/// file system does not support that, an unpredictable one. Any thread.
 namespace corvane::private_file {
 
-/// Creates `path` with all the bytes, or not at all. What is there already stays, and makes it
-/// fail.
+/// Creates `path` with all the bytes. False, and nothing is created, if that fails or there is
+/// something at `path`.
 bool create(const QByteArray &path, const QByteArray &data);
 
-/// The same, and gives the file locked (`flock`) from before it had its name: whoever can lock it
-/// knows that its maker is gone. Not open where it failed.
+/// The same, and returns the open file. It has been locked (`flock`) since before it had its name,
+/// so a program that can lock it knows that its maker has ended. Not open on failure.
 FileDescriptor createLocked(const QByteArray &path, const QByteArray &data);
 
-/// Writes `folder`/`name`; readers see the old file or the new one. Makes `folder` and what is
-/// missing of the way to it from `base` on, all closed to others.
+/// Writes `folder`/`name`, replacing a file atomically. Creates `folder` and missing folders
+/// between it and `base`, closed to other users.
 bool replace(const QByteArray &base, const QByteArray &folder, const QByteArray &name,
              const QByteArray &data);
 

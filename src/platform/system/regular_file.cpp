@@ -13,8 +13,8 @@ namespace corvane::regular_file {
 
 namespace {
 
-/// Appends up to `limit` bytes to `data`. By what comes, not by the size that was told: the file
-/// may grow meanwhile. False where reading failed.
+/// Appends up to `limit` bytes to `data`. Reads until the end instead of trusting the file's size,
+/// which may grow meanwhile. False if reading failed.
 bool read(const FileDescriptor &file, qint64 limit, QByteArray &data)
 {
     constexpr qint64 largestPiece = 262'144;
@@ -35,10 +35,10 @@ bool read(const FileDescriptor &file, qint64 limit, QByteArray &data)
 
 FileDescriptor open(const QByteArray &path)
 {
-    // The calls of the system would take what stands before it for the whole path.
+    // System calls would cut the path at a null byte.
     if (path.isEmpty() || path.contains('\0'))
         return {};
-    // Non-blocking, or opening a pipe would wait for its writer before anything can be asked of it.
+    // Non-blocking, or opening a pipe would wait for its writer before its type can be checked.
     FileDescriptor file(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
     struct stat status = {};
     if (!file.isOpen() || ::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode))
@@ -64,7 +64,7 @@ std::optional<QByteArray> contents(const QByteArray &path, qint64 limit)
         return std::nullopt;
     QByteArray data;
     data.reserve(status.st_size);
-    // One more than is taken: that tells a file that is too long.
+    // One byte more than the limit shows that the file is too long.
     if (!read(file, limit + 1, data) || data.size() > limit)
         return std::nullopt;
     return data;

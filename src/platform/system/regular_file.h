@@ -8,18 +8,18 @@
 
 class QFile;
 
-/// Reads files that are strangers', by their exact native paths. What is no regular file is not
-/// waited for: a named pipe or a device could keep its reader for ever. Any thread.
+/// Reads files that come from elsewhere, by their exact native paths. Only regular files: reading a
+/// named pipe or a device could block for ever. Any thread.
 namespace corvane::regular_file {
 
-/// For reading; not open where there is none.
+/// Opens for reading; not open if there is no regular file.
 FileDescriptor open(const QByteArray &path);
-/// The same by Qt's means, which gives false where there is none.
+/// The same for a `QFile`; false if there is no regular file.
 bool open(QFile &file, const QByteArray &path);
 
-/// All its bytes; none where there are more than `limit`, or they cannot be read.
+/// All bytes of the file; none if there are more than `limit`, or they cannot be read.
 std::optional<QByteArray> contents(const QByteArray &path, qint64 limit);
-/// Its first bytes, `limit` at the most, as far as they can be read; none where it cannot be
+/// The first bytes of the file, at most `limit`, as far as they can be read; none if it cannot be
 /// opened.
 std::optional<QByteArray> beginning(const QByteArray &path, qint64 limit);
 

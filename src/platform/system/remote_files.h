@@ -9,14 +9,16 @@
 
 namespace corvane {
 
-/// Reads files whose file system may never answer. Whoever asks always gets an answer: none once it
-/// has taken too long.
+/// Reads files whose file system may never answer. Every question is answered; if it takes too
+/// long, with none.
 class RemoteFiles {
 public:
     virtual ~RemoteFiles() = default;
 
-    /// Both call `completion` exactly once, later, on the main thread, unless this object is
-    /// destroyed before. Main thread only; they do not block it.
+    /// What is at the native path, links followed; none if it was not reached.
+    ///
+    /// Both functions call `completion` exactly once, later, on the main thread, unless this object
+    /// is destroyed before. Main thread only; they do not block.
     virtual void inspect(const QByteArray &path,
                          std::function<void(std::optional<FileVersion>)> completion)
         = 0;

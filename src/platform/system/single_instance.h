@@ -7,27 +7,28 @@
 
 namespace corvane {
 
-/// One process of this program in a session.
+/// Ensures that only one process of this program runs in a session.
 class SingleInstance {
 public:
     enum class Outcome {
-        /// This process is the one.
+        /// No other process runs.
         First,
         /// Another one runs and has been asked to show itself.
         HandedOver,
-        /// Another one runs, but did not answer within the time limit; it has been asked nothing
-        /// that it would do later.
+        /// Another one runs, but did not answer within the time limit, and will not act on the
+        /// request later.
         NotAnswering,
-        /// The session has nothing to tell by; this process goes on alone.
+        /// The session has no means to find out; this process runs without the check.
         Unknown,
     };
 
     virtual ~SingleInstance() = default;
 
-    /// Calls `onReopen` on the main thread whenever a later process hands over to this one.
+    /// Becomes the one process, or asks the one that runs to show itself. Afterwards `onReopen` is
+    /// called on the main thread for each later process that hands over to this one.
     virtual Outcome acquire(std::function<void()> onReopen) = 0;
-    /// The process that runs already, for people who want to end it; none where that cannot be
-    /// told.
+    /// The process id of the other one, to be shown to a user who wants to end it; none where it is
+    /// not known.
     virtual std::optional<qint64> otherProcess() const = 0;
 };
 

@@ -51,7 +51,7 @@ qint64 saturated(double number)
     return static_cast<qint64>(number);
 }
 
-/// The digits that the text begins with, white space and a sign before them.
+/// The number that the text begins with; white space and a sign may come first.
 qint64 leadingInteger(const QString &text)
 {
     const QStringView trimmed = QStringView(text).trimmed();
@@ -119,7 +119,8 @@ std::optional<QByteArray> UserDefaults::dataForKey(const QString &key) const
     const QVariant value = object(key);
     if (!value.isValid())
         return std::nullopt;
-    // Something is stored, if nothing sensible: that is not the same as never having been set.
+    // A value of another type counts as empty data, which is different from a value that was never
+    // set.
     return isText(value) ? value.toByteArray() : QByteArray();
 }
 

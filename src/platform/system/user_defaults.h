@@ -9,19 +9,20 @@
 
 namespace corvane {
 
-/// The user's settings by key, with registered defaults as a layer below. Main thread only.
+/// The user's settings by key, with registered defaults for keys that are not set. Main thread
+/// only.
 ///
-/// The store may be a text file that people edit: a boolean is true for "true", "yes" and "1" in
-/// any case and for a number other than 0, and false for anything else; an integer is the number
-/// that the text begins with, else 0. An empty data value differs from none.
+/// The store may be a text file that users edit. A boolean is true for "true", "yes" and "1" in any
+/// case and for a number other than 0, else false. An integer is the number that the text begins
+/// with, else 0. An empty data value is different from none.
 class UserDefaults {
 public:
     virtual ~UserDefaults() = default;
 
     void registerDefaults(const QVariantMap &defaults);
 
-    /// Whether what is written now will be there at the next start. If not it lasts as long as this
-    /// process. May look at the disk.
+    /// Whether values written now will be there at the next start; if not they last as long as this
+    /// process. May ask the disk.
     virtual bool areKept() const { return true; }
 
     bool boolForKey(const QString &key) const;
@@ -33,7 +34,7 @@ public:
     void setData(const QByteArray &value, const QString &key) { setObject(key, value); }
 
 protected:
-    /// What is stored, an invalid variant when there is nothing.
+    /// The stored value; an invalid variant when there is none.
     virtual QVariant storedObject(const QString &key) const = 0;
     virtual void setObject(const QString &key, const QVariant &value) = 0;
 

@@ -31,12 +31,12 @@ UTType UTType::forFilenameExtension(const QString &extension)
 {
     if (extension.isEmpty() || extension.contains(QLatin1Char('/')))
         return {};
-    // A drop of many files has few extensions, and a look-up costs more than a file's `stat`. Of so
-    // few a map finds one faster than a hash, and without a lock.
+    // Cached, because a look-up takes longer than a `stat`, and a drop of many files has few
+    // extensions. For so few a map is faster than a hash table; one for each thread needs no lock.
     thread_local std::map<QString, UTType> known;
     auto found = known.find(extension);
     if (found == known.end()) {
-        // Extensions are a stranger's text: ten thousand different ones are not kept.
+        // Extensions come from other programs' file names, so the cache is bounded.
         constexpr std::size_t maximumSize = 512;
         if (known.size() >= maximumSize)
             known.clear();
