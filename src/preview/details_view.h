@@ -7,7 +7,7 @@
 
 namespace corvane {
 
-/// A file that has nothing else to show: its icon, its name, and what it is.
+/// Shows a file that has no other preview: its icon, its name and its details.
 class DetailsView : public QWidget {
 public:
     static constexpr int iconSide = 96;

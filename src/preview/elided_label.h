@@ -5,19 +5,19 @@
 
 namespace corvane {
 
-/// Plain text of one line, or a few, that gives way in the middle of its last where there is no
-/// room for it.
+/// A label for plain text of one or a few lines. If there is no room for all of it the last line is
+/// cut in the middle.
 class ElidedLabel : public QWidget {
 public:
     explicit ElidedLabel(QWidget *parent = nullptr);
 
     void setText(const QString &text);
-    /// What is beside the point recedes.
+    /// Draws the text paler than other texts.
     void setSubdued(bool isSubdued);
-    /// One at first.
+    /// 1 unless set.
     void setMaximumLines(int count);
 
-    /// As they stand in that width.
+    /// The lines as they are shown in that width, in points.
     QStringList lines(int width) const;
 
     QSize sizeHint() const override;

@@ -7,7 +7,7 @@ namespace corvane {
 
 void HeldKey::watch()
 {
-    // It never stands twice, and moves to the front.
+    // Installing it again only moves it in front of the other filters.
     QCoreApplication::instance()->installEventFilter(this);
 }
 

@@ -8,15 +8,15 @@ class QKeyEvent;
 
 namespace corvane {
 
-/// Keeps a key that is held down from acting on the next window. The keyboard moves on when a
-/// window opens or closes, and the key's repeats move with it.
+/// Keeps the repeats of a held key from acting on another window: when a window opens or closes,
+/// they go to the window that then has the keyboard.
 class HeldKey : public QObject {
 public:
-    /// Begins to watch the keys of every window of the process.
+    /// Begins to watch the keys of all windows of the process. May be called again.
     void watch();
-    /// Whether the press is one of a key that has been down already.
+    /// Whether the press is a repeat.
     bool isRepeat(const QKeyEvent &press) const { return m_repeats.isRepeat(press); }
-    /// From now on the repeats of that key go nowhere; ends when it is pressed anew.
+    /// Swallows the key's repeats and its release from now on, until it is pressed again.
     void swallow(const QKeyEvent &press);
 
 protected:

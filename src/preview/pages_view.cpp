@@ -55,12 +55,12 @@ void PagesView::renderNear()
         const auto known = m_renderings.find(page);
         if (known != m_renderings.end() && known->second.pixels == pixels)
             continue;
-        // One at a time: the page that is looked at by then is the next.
+        // One at a time: when it is done, the pages that are visible then are next.
         m_isRendering = true;
         m_loading.render(m_pages.document, page, pixels,
                          m_lifetime.guard([this, page, pixels](const std::optional<QImage> &image) {
                              m_isRendering = false;
-                             // A page that cannot be drawn stays white.
+                             // A page that cannot be rendered stays white.
                              m_renderings[page] = {image.value_or(QImage()), pixels};
                              viewport()->update();
                              renderNear();

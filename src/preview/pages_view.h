@@ -9,8 +9,8 @@
 
 namespace corvane {
 
-/// The pages of a document below each other. A page is rendered when it comes near the view and
-/// forgotten when it is far. The loading must outlive it.
+/// Shows the pages of a document below each other. A page is rendered when it comes near the
+/// visible part and dropped when it is far from it. The loading must outlive it.
 class PagesView : public QAbstractScrollArea {
 public:
     PagesView(PreviewContent::Pages pages, PreviewLoading &loading, QWidget *parent = nullptr);
@@ -26,7 +26,8 @@ private:
         QImage image;
         QSize pixels;
     };
-    /// Indices of the pages that the view shows, with one more at either end.
+    /// The indices of the first and the last page to be rendered: the visible ones, and one more at
+    /// either end.
     std::pair<int, int> nearPages() const;
     QSize pixelsOf(int page) const;
     void renderNear();

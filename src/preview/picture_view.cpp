@@ -17,14 +17,14 @@ namespace corvane {
 
 namespace {
 
-/// One press of a key, or one notch of the wheel.
+/// The factor of one press of a key or one notch of the wheel.
 constexpr double zoomStep = 1.25;
 constexpr double notch = 120;
 constexpr double keyMove = 60;
-/// Of a drawing.
+/// The most pixels that vector graphics are rendered at.
 constexpr double mostPixels = 24'000'000;
 
-/// So that what is transparent looks so, in light and dark.
+/// Paints a chequered ground under transparent parts, light or dark as the palette.
 void paintTransparency(QPainter &painter, const QRectF &rect, const QPalette &palette)
 {
     constexpr int side = 8;
@@ -121,7 +121,7 @@ QSize PictureView::shownPixels() const
 
 QRectF PictureView::alignedRect() const
 {
-    // On whole pixels: otherwise each would be mixed with its neighbours.
+    // Aligned to whole device pixels: otherwise each pixel would be mixed with its neighbours.
     const double scale = devicePixelRatioF();
     const QPointF corner = m_zoom.rect().topLeft() * scale;
     return {QPointF(std::round(corner.x()), std::round(corner.y())) / scale,
@@ -134,10 +134,11 @@ void PictureView::askForPixels()
         return;
     QSize wanted = shownPixels();
     if (!m_picture.isVector) {
-        // Smaller than it is, the reader scales it better than painting does.
+        // Below its own size the reader scales a picture better than painting does; above it there
+        // are no more pixels.
         wanted = wanted.boundedTo(m_picture.pixelSize);
     } else if (const double area = double(wanted.width()) * wanted.height(); area > mostPixels) {
-        // Zoomed in far, it is drawn as sharp as may be and no sharper.
+        // At this size vector graphics are rendered with fewer pixels, and scaled up.
         wanted = (QSizeF(wanted) * std::sqrt(mostPixels / area)).toSize();
     }
     if (wanted == m_best.size() || std::exchange(m_asked, wanted) == wanted)
@@ -149,7 +150,7 @@ void PictureView::askForPixels()
                          if (image)
                              m_best = *image;
                          update();
-                         // The view may have grown meanwhile.
+                         // The view may have changed its size meanwhile.
                          askForPixels();
                      }));
 }
@@ -188,11 +189,11 @@ void PictureView::paintEvent(QPaintEvent *)
     const QRectF target = alignedRect();
     if (m_best.hasAlphaChannel())
         paintTransparency(painter, target, palette());
-    // Pixels that are shown larger than they are stay pixels.
+    // Enlarged pixels are shown as squares, not blurred.
     const bool isEnlarged = m_zoom.scale() >= 2 && !m_picture.isVector;
     painter.setRenderHint(QPainter::SmoothPixmapTransform, !isEnlarged);
     painter.drawImage(target, m_best);
-    // Only here: while nobody sees it, it is not painted and stands still.
+    // Only when painted, so that an animation stops while it is not visible.
     askForFrame();
 }
 
@@ -217,7 +218,7 @@ void PictureView::wheelEvent(QWheelEvent *event)
     if (event->modifiers().testFlag(Qt::ControlModifier)) {
         zoom(std::pow(zoomStep, event->angleDelta().y() / notch), event->position());
     } else {
-        // Where nobody tells when a scroll begins and ends, pixels are the device's own units.
+        // Without phases, pixel deltas may be in the device's own units, so the angle is used.
         const bool hasPixels = event->phase() != Qt::NoScrollPhase && !event->pixelDelta().isNull();
         m_zoom.moveBy(hasPixels ? QPointF(event->pixelDelta())
                                 : QPointF(event->angleDelta()) / notch * keyMove);

@@ -10,18 +10,19 @@ namespace corvane {
 
 class MainQueue;
 
-/// A picture that can be zoomed into and moved about, and that moves by itself where it is an
-/// animation. What is given must outlive it.
+/// Shows a picture, which the user can zoom and move, or plays an animation. What is given must
+/// outlive it.
 ///
-/// It shows the fitted picture at once and asks for more pixels when there is room for them. The
-/// next frame of an animation is made while the present one stands; none is while nobody sees it.
+/// It shows the fitted picture at once, and has it rendered again when it is shown with more
+/// pixels. The next frame of an animation is made while the present one is shown; while the view is
+/// not painted none is made.
 class PictureView : public QWidget {
 public:
     PictureView(const PreviewContent::Picture &picture, PreviewLoading &loading, MainQueue &queue,
                 QWidget *parent = nullptr);
     ~PictureView() override;
 
-    /// The keys that zoom and move; false for others.
+    /// Handles the keys that zoom and move; false for other keys.
     bool handleKey(int key);
 
 protected:
@@ -54,9 +55,9 @@ private:
     QSize m_asked;
     bool m_isRendering = false;
     bool m_isAnimating;
-    /// The next frame is being made, or waits until the present one has stood.
+    /// The next frame is being made, or waits until the present one has been shown long enough.
     bool m_isFrameDue = false;
-    /// When the present frame has stood long enough, on the queue's clock.
+    /// When the present frame ends, on the queue's clock.
     double m_frameEnd = 0;
     QPointF m_grip;
     Lifetime m_lifetime;

@@ -20,7 +20,8 @@ QSize bounded(QSize size, QSize available)
     return size.expandedTo(smallestWindow).boundedTo(limitOf(available));
 }
 
-/// Of the longest of the first lines, between what prose and what code is written in.
+/// The columns for a text: for code as many as the longest of its first lines needs, from 80 to
+/// 100; for other texts 80.
 int columnsOf(const PreviewContent::Text &text, int mostLines)
 {
     constexpr qsizetype least = 80;
@@ -38,7 +39,8 @@ int columnsOf(const PreviewContent::Text &text, int mostLines)
     return static_cast<int>(std::clamp(longest, least, most));
 }
 
-/// As many as it takes, where longer lines are wrapped.
+/// The number of lines that the text takes, up to `mostLines`, with longer lines wrapped at
+/// `columns`.
 int linesOf(const PreviewContent::Text &text, int columns, int mostLines)
 {
     int lines = 1;
@@ -61,7 +63,7 @@ struct SizeOf {
     QSize operator()(const PreviewContent::Picture &picture) const
     {
         const QSizeF room = limitOf(available) - QSize(0, barHeight);
-        // An icon that is drawn is meant to be seen.
+        // Small vector graphics, such as icons, are shown enlarged.
         constexpr QSizeF smallestDrawing{384, 384};
         QSizeF natural = picture.isVector ? QSizeF(picture.pixelSize)
                                           : QSizeF(picture.pixelSize) / std::max(scale, 0.01);
@@ -78,7 +80,7 @@ struct SizeOf {
         const QSize limit = limitOf(available);
         QSizeF first = pages.sizes.isEmpty() ? QSizeF(595, 842) : QSizeF(pages.sizes.first());
         first.scale(limit - QSize(2 * pageMargin, 2 * pageMargin + barHeight), Qt::KeepAspectRatio);
-        // A scroll bar stands beside it.
+        // Room for a scroll bar.
         constexpr int scrollBar = 16;
         return {static_cast<int>(first.width()) + 2 * pageMargin + scrollBar, limit.height()};
     }
@@ -122,7 +124,7 @@ QList<QRectF> pageRects(const QList<QSize> &sizes, double roomWidth)
     double y = pageMargin;
     for (const QSize &size : sizes) {
         const QSizeF shown = QSizeF(size) * scale;
-        // On whole points, or the renderings would be resampled.
+        // On whole points, so that renderings of pages are not scaled when they are painted.
         const double width = std::max(std::round(shown.width()), 1.0);
         const double height = std::max(std::round(shown.height()), 1.0);
         rects.append({std::round((roomWidth - width) / 2), y, width, height});

@@ -6,57 +6,61 @@
 #include <QRectF>
 #include <QSizeF>
 
-/// How large a preview is and where its picture lies. All in points, y downward.
+/// Sizes of the preview's window and places inside it. In points, y downward.
 namespace corvane::preview_geometry {
 
-/// Of the screen's room, in either direction.
+/// The largest part of the screen's available width and height that a window takes.
 inline constexpr double largestPart = 0.8;
 inline constexpr QSize smallestWindow{360, 200};
 inline constexpr QSize detailsWindow{480, 208};
-/// The line below the content.
+/// The height of the line below the content.
 inline constexpr int barHeight = 40;
 /// Around and between pages.
 inline constexpr int pageMargin = 16;
 
-/// Of the font that a text is shown in, as far as its window depends on it.
+/// The measures of a text's font that its window's size depends on.
 struct TextMetrics {
     int lineHeight = 1;
-    /// Of an average character, or of every one.
+    /// The width of an average character; of every character in a monospaced font.
     int columnWidth = 1;
 };
 
-/// The window for what is shown, inside a screen that has `available` room and `scale` pixels per
-/// point. A picture gets its own pixels where they fit, and code the columns that it begins with,
-/// up to a hundred.
+/// The window's size for a content, on a screen with `available` points of room and `scale` pixels
+/// per point. A picture is shown with its own pixels if they fit. For code it is as wide as its
+/// first lines, up to 100 columns.
 QSize windowSize(const PreviewContent &content, QSize available, double scale,
                  const TextMetrics &metrics);
 
-/// A window of that size in the middle of the room.
+/// A rectangle of that size in the middle of `available`.
 QRect centred(QSize size, const QRect &available);
 
-/// Page rectangles one below the other, as wide as the room lets the widest be, centred.
+/// Rectangles of pages one below the other, centred, so that the widest page fills the room's
+/// width.
 QList<QRectF> pageRects(const QList<QSize> &sizes, double roomWidth);
 
-/// A picture in a view: fitted or at a scale of its own, and moved about.
+/// The place of a picture in a view: fitted, or zoomed and moved.
 class PictureZoom {
 public:
-    /// `natural` is the picture's size in points when each of its pixels is one of the screen's.
-    /// A drawing has no pixels and grows with the view.
+    /// `natural` is the size, in points, in which each pixel of the picture is one of the screen's.
+    /// With `growsToFit`, for vector graphics, fitting may enlarge it.
     void setPicture(QSizeF natural, bool growsToFit);
-    /// A fitted picture stays fitted; another keeps its scale and its middle.
+    /// Sets the view's size, in points. A fitted picture stays fitted; another keeps its scale and
+    /// its middle.
     void setView(QSizeF view);
 
     bool isFitted() const { return m_isFitted; }
-    /// Points of the view for one of the natural size.
+    /// The scale relative to the natural size.
     double scale() const { return m_isFitted ? fittedScale() : m_scale; }
     /// Where the picture is drawn.
     QRectF rect() const;
 
     void fit();
-    /// By a factor, with the point of the picture under `anchor` staying there. Between the fitted
-    /// scale, or a tenth where that is more, and 16.
+    /// Changes the scale by a factor; the point of the picture under `anchor` stays there. The
+    /// scale stays between the fitted one and 16; a picture that comes down to the fitted scale is
+    /// fitted again.
     void zoom(double factor, QPointF anchor);
-    /// One pixel of the picture is one of the screen.
+    /// Sets scale 1, at which one pixel of the picture is one of the screen; the point under
+    /// `anchor` stays there.
     void actualSize(QPointF anchor);
     void moveBy(QPointF delta);
 
@@ -69,7 +73,7 @@ private:
     bool m_growsToFit = false;
     bool m_isFitted = true;
     double m_scale = 1;
-    /// The picture's middle, from the view's.
+    /// The picture's middle relative to the view's.
     QPointF m_offset;
 };
 

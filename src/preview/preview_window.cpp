@@ -26,7 +26,7 @@ struct Overloaded : Functions... {
 template<class... Functions>
 Overloaded(Functions...) -> Overloaded<Functions...>;
 
-/// What stands below a content that speaks for itself.
+/// The text of the line below the content.
 QString lineFor(const PreviewContent &content)
 {
     QStringList parts;
@@ -77,7 +77,7 @@ PreviewWindow::PreviewWindow(PreviewLoading &loading, MainQueue &queue)
     , m_line(new ElidedLabel(m_bar))
     , m_open(new QPushButton(QStringLiteral("Open"), m_bar))
 {
-    // Where a text begins above it.
+    // The line begins where the text above it does.
     constexpr int sideMargin = 18;
     constexpr int gap = 12;
     setMinimumSize(preview_geometry::smallestWindow);
@@ -90,7 +90,7 @@ PreviewWindow::PreviewWindow(PreviewLoading &loading, MainQueue &queue)
     row->addWidget(m_line, 1);
     row->addWidget(m_open);
     m_line->setSubdued(true);
-    // The keys belong to the content; Tab still leads here.
+    // Clicking the button must not take the focus from the content; Tab still reaches it.
     m_open->setFocusPolicy(Qt::TabFocus);
     connect(m_open, &QPushButton::clicked, this, [this] {
         if (onOpen)
@@ -103,7 +103,7 @@ PreviewWindow::~PreviewWindow() = default;
 
 void PreviewWindow::setContent(const PreviewContent &content, const Image &icon)
 {
-    // "[*]" would stand for the mark of an unsaved document.
+    // Qt replaces "[*]" in titles by the mark of an unsaved document; doubled it is shown.
     QString title = content.details.name;
     setWindowTitle(title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
     const QString line = lineFor(content);
@@ -155,7 +155,7 @@ bool PreviewWindow::handleKey(const QKeyEvent &key)
     return (isPlain || isControl) && m_picture && m_picture->handleKey(key.key());
 }
 
-// Before the widgets: a text would scroll by Space, a button be pressed by it.
+// Keys are handled before the widgets get them: Space would scroll a text or press a button.
 bool PreviewWindow::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress && object == windowHandle()
@@ -181,7 +181,7 @@ void PreviewWindow::paintEvent(QPaintEvent *)
 {
     if (!m_bar->isVisible())
         return;
-    // A line as thin as a pixel between the content and what is said about it.
+    // A line of one device pixel between the content and the line below it.
     QPainter painter(this);
     QColor color = palette().color(QPalette::WindowText);
     constexpr float faint = 0.15F;

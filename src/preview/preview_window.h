@@ -17,21 +17,21 @@ class ElidedLabel;
 class MainQueue;
 class PictureView;
 
-/// The window of a preview: the content, and a line below it that says what it is. It neither
-/// closes nor places itself; what is given must outlive it.
+/// The window of a preview: the content, and a line with details below it. It neither closes nor
+/// places itself; its owner does. What is given must outlive it.
 class PreviewWindow : public QWidget {
 public:
     PreviewWindow(PreviewLoading &loading, MainQueue &queue);
     ~PreviewWindow() override;
 
-    /// Replaces what is shown. The icon stands for what has nothing else to show.
+    /// Replaces the content. `icon` is shown for files without any other preview; it may be null.
     void setContent(const PreviewContent &content, const Image &icon);
 
-    /// Space, Escape and Ctrl+W, with the press; what it answers tells whether the key was taken.
+    /// Called for Space, Escape and Ctrl+W; returns whether the key was handled.
     std::function<bool(const QKeyEvent &)> onCloseKey;
-    /// The window manager's close button.
+    /// The user used the window manager's close button.
     std::function<void()> onClose;
-    /// The button that opens the file.
+    /// The user clicked the button that opens the file.
     std::function<void()> onOpen;
 
 protected:

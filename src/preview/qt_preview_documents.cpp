@@ -46,13 +46,13 @@ struct OpenPicture {
     {
         return picture.reader().transformation().testFlag(QImageIOHandler::TransformationRotate90);
     }
-    /// Upright; invalid where the format does not tell.
+    /// The picture's size, upright; invalid if the format does not tell it.
     QSize size()
     {
         const QSize stored = picture.reader().size();
         return isTurned() ? stored.transposed() : stored;
     }
-    /// The picture is turned upright after it was scaled.
+    /// The reader scales before it turns the picture upright.
     std::optional<QImage> read(QSize pixels)
     {
         picture.reader().setScaledSize(isTurned() ? pixels.transposed() : pixels);
@@ -83,7 +83,8 @@ public:
         const std::lock_guard lock(m_mutex);
         if (auto frame = readFrame(limit))
             return frame;
-        // A single picture is no animation, and a broken one has no second round.
+        // A file with a single frame is no animation; one that is broken after its first frame is
+        // not started again.
         if (m_framesOfRound < 2 || m_roundsLeft == 0)
             return std::nullopt;
         if (m_roundsLeft > 0)
@@ -125,7 +126,7 @@ private:
     std::unique_ptr<OpenPicture> m_opened;
     int m_framesOfRound = 0;
     bool m_isBegun = false;
-    /// Negative for ever.
+    /// How often the animation still repeats; negative for ever.
     int m_roundsLeft = 0;
 };
 

@@ -4,12 +4,13 @@
 
 namespace corvane {
 
-/// Pictures through Qt's image plug-ins, documents through its PDF plug-in where that is installed.
+/// Opens pictures with Qt's image plug-ins, and PDF documents with Qt's PDF plug-in if that is
+/// installed.
 class QtPreviewDocuments : public PreviewDocuments {
 public:
-    /// Pages beyond these are counted but not shown.
+    /// Further pages are counted but not shown.
     static constexpr int maximumPages = 2'000;
-    /// As browsers do: who gives a frame less than 20 ms did not mean it.
+    /// In seconds: a frame with a shorter duration is shown for `frameInstead`, as browsers do.
     static constexpr double shortestFrame = 0.02;
     static constexpr double frameInstead = 0.1;
 

@@ -116,7 +116,7 @@ void QtPreviewPanel::open()
     m_window = std::make_unique<PreviewWindow>(m_context.loading, m_context.queue);
     m_window->onClose = [this] { orderOut(); };
     m_window->onCloseKey = [this](const QKeyEvent &press) {
-        // The key that opened it may still be down.
+        // The key that opened the window may still be held; its repeats must not close it.
         if (!m_heldKey.isRepeat(press)) {
             m_heldKey.swallow(press);
             orderOut();
@@ -131,7 +131,7 @@ void QtPreviewPanel::open()
     setContent();
     m_window->show();
     m_context.activation.bringToFront(*m_window->windowHandle());
-    // The icon takes longer than the rest of the window, which need not wait for it.
+    // Set later, because making the icon takes longer than the rest of the window.
     m_context.queue.async([window = QPointer<QWidget>(m_window.get())] {
         if (window)
             window->setWindowIcon(programIcon());
@@ -146,7 +146,7 @@ void QtPreviewPanel::setContent()
     const Image icon = m_content.isFolder ? m_context.icons.iconForFolder(side, scale)
                                           : m_context.icons.iconForFile(m_content.url, side, scale);
     m_window->setContent(m_content, icon);
-    // Somebody who has moved it or made it larger wants it so.
+    // If the user has moved or resized the window it stays as it is.
     if (!m_window->isVisible() || m_window->geometry() == m_placed)
         place();
 }
@@ -191,9 +191,9 @@ void QtPreviewPanel::closeWindow()
         return;
     giveKeyboardBack();
     m_window->hide();
-    // A click that came together with the one that closed it means nothing any more.
+    // Ignores clicks that were made together with the one that closed it.
     m_window->setEnabled(false);
-    // Later: one of its events may be what we are in.
+    // Later, because this may run inside the handling of one of its events.
     m_window.release()->deleteLater();
 }
 
@@ -201,14 +201,13 @@ void QtPreviewPanel::giveKeyboardBack()
 {
     QWindow *const previous = m_previous;
     m_previous = nullptr;
-    // Before it is hidden: once it is, the window manager chooses among its own windows, and the
-    // shelf is none of them.
+    // Before the window is hidden: after that, the window manager gives the keyboard to a window
+    // that it manages, and the shelf is none.
     if (!m_window->isActiveWindow() || !previous || !previous->isVisible())
         return;
     m_context.activation.giveKeyboard(*previous);
-    // Some window managers think that they know better when they hear that it is gone, and have
-    // the keyboard given to nobody: unless the user went on to another window, it is asked for once
-    // more.
+    // Some window managers, when they hear that the window is gone, give the keyboard to no window.
+    // So it is asked for once more, unless the user went on to another window.
     constexpr double aMoment = 0.2;
     m_context.queue.asyncAfter(
         aMoment, [guarded = QPointer(previous), &activation = m_context.activation] {

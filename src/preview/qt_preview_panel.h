@@ -18,16 +18,16 @@ class PanelWindow;
 class PreviewWindow;
 class WindowActivation;
 
-/// The preview panel as a window of the window manager's. It opens in the middle of the screen that
-/// the shelf is on, as large as its content wants it, and remembers nothing.
+/// The preview panel, as a window that the window manager manages. It opens in the middle of the
+/// shelf's screen in a size that fits its content; place and size are not remembered.
 ///
-/// The window lives from showing to hiding only: making it takes a few milliseconds, and what a
-/// large text or picture took goes with it.
+/// The window exists only while the panel is shown. Making it takes a few milliseconds, and the
+/// memory of a large text or picture is freed with it.
 class QtPreviewPanel : public PreviewPanel {
 public:
-    /// Seconds that the content may take before the window opens without it: what comes sooner
-    /// would only be seen as a flicker. What has to be waited for anyway, because its disk may
-    /// never answer or because it is still being written, opens the window at once.
+    /// In seconds: how long the window waits for its content before it opens without it, so that
+    /// what comes sooner does not flicker. For files that may never answer, and for those that are
+    /// still being written, the window opens at once.
     static constexpr double patience = 0.1;
 
     /// Everything must outlive the panel.
@@ -67,15 +67,15 @@ private:
     PreviewPanelController *m_controller = nullptr;
     PreviewPanelDataSource *m_dataSource = nullptr;
     bool m_isVisible = false;
-    /// What is shown, or will be.
+    /// The content that is shown, or will be when the window opens.
     PreviewContent m_content;
     std::optional<QString> m_title;
     std::unique_ptr<PreviewWindow> m_window;
     QRect m_placed;
-    /// Who had the keyboard, where that was a window of ours.
+    /// The window that had the keyboard before, if it is one of ours.
     QPointer<QWindow> m_previous;
     HeldKey m_heldKey;
-    /// Of this showing: held weakly by what waits for its turn.
+    /// Reset when the panel is hidden, which ends what waits for opening.
     std::shared_ptr<bool> m_showing;
 };
 

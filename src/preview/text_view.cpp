@@ -14,7 +14,7 @@ namespace corvane {
 
 namespace {
 
-/// Laid out in a few milliseconds, and more than a window shows.
+/// In UTF-16 code units: more than a window shows, and laid out in a few milliseconds.
 constexpr qsizetype piece = 8'192;
 
 } // namespace
@@ -35,7 +35,7 @@ TextView::TextView(const PreviewContent::Text &text, MainQueue &queue, QWidget *
     setFont(fontFor(text));
     setTabStopDistance(tabWidth * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
     document()->setDocumentMargin(margin);
-    // A piece below the view must not move it.
+    // No cursor is shown: pieces are appended below the visible part, which must not scroll.
     setCursorWidth(0);
     appendNext();
 }

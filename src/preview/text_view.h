@@ -9,14 +9,14 @@ namespace corvane {
 
 class MainQueue;
 
-/// A text to read, scroll and copy from. It is laid out a piece at a time, so that a long one can
-/// be read at once and keeps nothing waiting. The queue must outlive it.
+/// Shows a text to be scrolled and copied from. It is laid out piece by piece, so that a long one
+/// can be read at once without blocking the main thread. The queue must outlive it.
 class TextView : public QPlainTextEdit {
 public:
     TextView(const PreviewContent::Text &text, MainQueue &queue, QWidget *parent = nullptr);
     ~TextView() override;
 
-    /// Which font such a text is shown in.
+    /// The font that such a text is shown in.
     static QFont fontFor(const PreviewContent::Text &text);
 
 private:
