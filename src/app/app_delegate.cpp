@@ -64,7 +64,7 @@ void AppDelegate::wireDragDetection()
         m_context.store.dragBegan();
     };
     watch.onDragEnded = [this] {
-        // An empty shelf would close under what was dropped on it and is still on its way.
+        // An empty shelf would close although a drop is on its way to it.
         m_isDragEndOwed = m_isAwaitingDrop && m_context.store.items().isEmpty();
         if (!m_isDragEndOwed)
             m_context.store.dragEnded();
@@ -76,7 +76,7 @@ void AppDelegate::wireAwaitedDrops()
 {
     m_context.hud.onAwaitsDrop = [this](bool isAwaiting) {
         m_isAwaitingDrop = isAwaiting;
-        // With the first item there is nothing left that would close.
+        // With an item on it the shelf does not close any more.
         const bool isOver = !isAwaiting || !m_context.store.items().isEmpty();
         if (isOver && std::exchange(m_isDragEndOwed, false))
             m_context.store.dragEnded();

@@ -18,8 +18,8 @@ class ShortcutBinder;
 class StatusItemController;
 class Updater;
 
-/// Connects the shelf to the desktop at launch, and takes it down at the end. It makes nothing and
-/// owns nothing: what it wires is given to it.
+/// Connects the program's objects at launch, and stops them in order at the end. It creates and
+/// owns none of them.
 ///
 /// Everything in the context must outlive it. Main thread only.
 class AppDelegate : public PreviewPanelController {
@@ -37,7 +37,7 @@ public:
         EdgeSummoner &edge;
         StatusItemController &statusItem;
         ShellWindows &windows;
-        /// None where there is nothing to look for.
+        /// Null if this build does not look for updates.
         Updater *updater = nullptr;
     };
     explicit AppDelegate(const Context &context);
@@ -46,17 +46,18 @@ public:
     AppDelegate &operator=(const AppDelegate &) = delete;
 
     void applicationDidFinishLaunching();
-    /// Lets go of the screens' edges, stops the drag watch, gives the hot keys back, closes the
-    /// preview and removes its scratch file, then the spool. The process may be ending in more than
-    /// one way at once: only the first call does anything.
+    /// Stops watching the screens' edges and drags, unregisters the hot keys, closes the preview
+    /// and removes its scratch file, then the spool. It may be called several times, because the
+    /// process may end in several ways at once; only the first call does something.
     void applicationWillTerminate();
-    /// The user started the program again. False: there is nothing else to do.
+    /// The user started the program again: toggles the shelf. Returns false: nothing else is to be
+    /// done.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
 
     void showPreferences(PreferencesTab tab);
     void showWelcome();
 
-    /// Until the process is ending.
+    /// True until the process is ending.
     bool acceptsPreviewPanelControl(PreviewPanel &panel) override;
     void beginPreviewPanelControl(PreviewPanel &panel) override;
     void endPreviewPanelControl(PreviewPanel &panel) override;
@@ -71,7 +72,7 @@ private:
     Context m_context;
     bool m_isTerminated = false;
     bool m_isAwaitingDrop = false;
-    /// The drag has ended, and the store will hear of it when its contents are here.
+    /// The drag has ended, but the store is told of that only when the drop's contents are here.
     bool m_isDragEndOwed = false;
 };
 

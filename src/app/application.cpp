@@ -25,17 +25,17 @@ namespace corvane {
 
 namespace {
 
-/// Whether the desktop had the session bus start the program. What the bus delivers first is then
-/// the launch itself and not yet a wish to see the shelf.
+/// Whether the desktop started the program through the session bus. The first call that the bus
+/// delivers is then the start itself, not a request to show the shelf.
 bool isStartedByBus()
 {
     return QCoreApplication::arguments().contains(QLatin1String("--started-by-bus"));
 }
 
-/// Of the time that the end may take, what is left to threads. The clipboard needs the rest.
+/// How long the end waits for threads; the rest of `end_deadline::forRest` is for the clipboard.
 constexpr std::chrono::milliseconds patienceForThreads{150};
 
-/// The steps of the end, the first time that it is asked for.
+/// Takes the program down in order; does nothing the second time, when `delegate` is null.
 void putInOrder(AppDelegate *delegate)
 {
     if (!delegate)
@@ -51,7 +51,7 @@ void setUpApplication(const AppInfo &info)
     QCoreApplication::setOrganizationName(QStringLiteral("Corvane"));
     QCoreApplication::setApplicationVersion(info.version());
     QGuiApplication::setDesktopFileName(info.applicationId());
-    // The shelf comes and goes; none of its windows is the last one.
+    // Qt would quit when the last window is closed, but the program runs without windows.
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
@@ -98,8 +98,8 @@ int runApplication(int argc, char **argv)
     auto root = std::make_unique<CompositionRoot>(*choice.kind, terminate);
     delegate = &root->delegate;
     const UnixSignals signals(terminate);
-    // Only that: some versions of Qt take a wish to quit in here for another end, and so on for
-    // ever.
+    // Only `putInOrder`: some versions of Qt take a call of `quit` in here for another end, and
+    // emit the signal again.
     QObject::connect(application.get(), &QCoreApplication::aboutToQuit,
                      [&delegate] { putInOrder(std::exchange(delegate, nullptr)); });
 
@@ -116,8 +116,8 @@ int runApplication(int argc, char **argv)
         end_deadline::set(end_deadline::forClipboard);
     if (haveAllEnded)
         return status;
-    // What a thread that does not come back may use has to stay, and everything else that is owed
-    // to the desktop goes with the application object: the clipboard's contents, above all.
+    // Threads that are still running may use the root's objects, so it is not destroyed. The
+    // application object is: its end hands the clipboard over, among other things.
     [[maybe_unused]] const CompositionRoot *const kept = root.release();
     application.reset();
     ::_exit(status);

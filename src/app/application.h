@@ -2,8 +2,8 @@
 
 namespace corvane {
 
-/// Runs the program in the present desktop session until it is told to end; the process's exit
-/// status.
+/// Runs the program in the present desktop session until it ends. Returns the exit status of the
+/// process.
 int runApplication(int argc, char **argv);
 
 } // namespace corvane

@@ -39,7 +39,7 @@ DragWriter makeDragWriter(const Theme &theme, const FileLocality &locality)
         locality};
 }
 
-/// Files of the shelf's own making are private, and gone with it.
+/// The spool is a private folder: thumbnails of its files are not shared with other programs.
 SharedThumbnailCache::Places thumbnailPlaces(const ScratchSpool &spool)
 {
     return {SharedThumbnailCache::environmentCacheFolder(),

@@ -67,22 +67,22 @@
 
 namespace corvane {
 
-/// Every long-lived object of the program, each standing after what it uses. Made once the
-/// application object exists.
+/// All objects that live as long as the program, each after those that it uses. To be made after
+/// the application object.
 struct CompositionRoot {
-    /// `terminate` is called when the user quits and when the session goes away.
+    /// `terminate` is called when the user quits, and when the session ends.
     CompositionRoot(SessionKind sessionKind, const std::function<void()> &terminate);
     CompositionRoot(const CompositionRoot &) = delete;
     CompositionRoot &operator=(const CompositionRoot &) = delete;
 
-    /// Has every thread end, and waits no longer than that; whether all have, so that nothing here
-    /// is used any more and it can be destroyed.
+    /// Has all threads end, and waits for at most `patience`. True if they have ended; the root may
+    /// be destroyed only then.
     bool finishWork(std::chrono::milliseconds patience);
 
-    // The system, and what Qt does for us in every session.
+    // The system, and what Qt does in every kind of session.
     QtMainQueue mainQueue;
     QtImageCodec imageCodec;
-    // After what its work uses: its end waits for work that is running.
+    // After the objects that its work uses, because its destructor waits for work that is running.
     QtWorkQueue workQueue;
     std::shared_ptr<WebRoutes> webRoutes;
     QtWebClient webClient;
@@ -108,13 +108,13 @@ struct CompositionRoot {
     // Input.
     HotKeyCenter hotKeys;
 
-    // The model, and what completes it.
+    // The model, and the services that complete its items.
     Settings settings;
     ShortcutBinder shortcuts;
     Feedback feedback;
     ScratchSpool spool;
     ImageConverter imageConverter;
-    // Of its own: a stack of scans keeps neither thumbnails nor previews waiting.
+    // A queue of its own, so that thumbnails and previews do not wait for many conversions.
     QtWorkQueue conversionWork;
     ItemPreparation itemPreparation;
     PictureItems pictureItems;
@@ -130,7 +130,8 @@ struct CompositionRoot {
     ThumbnailerRegistry thumbnailerRegistry;
     Sandbox sandbox;
     SandboxedThumbnailers thumbnailers;
-    // Of their own: a thumbnail program may take its time. Like the other one after what it uses.
+    // A queue of its own, because thumbnail programs may take long. It comes after the objects that
+    // its work uses.
     QtWorkQueue thumbnailWork;
     ThumbnailChain thumbnailChain;
     RemoteThumbnails remoteThumbnails;
@@ -140,8 +141,8 @@ struct CompositionRoot {
 
     // The preview.
     QtPreviewDocuments previewDocuments;
-    // Of its own: a preview waits for no thumbnails. Files whose server may not answer have another
-    // one, so that they keep nothing else waiting.
+    // A queue of its own, so that previews do not wait for thumbnails. Files whose server may not
+    // answer have another one, so that they do not block other previews.
     QtWorkQueue previewWork;
     QtWorkQueue remotePreviewWork{QtWorkQueue::maximumHangingThreads};
     PreviewLoader previewLoader;
@@ -156,12 +157,12 @@ struct CompositionRoot {
     HUDController hud;
     EdgeSummoner edge;
 
-    // Updates, where this build looks for any.
+    // Updates, if this build looks for them.
     Installation installation;
     PosixInstallationSteps installationSteps;
     UpdateWindowController updateWindow;
-    // Of their own: an update takes minutes, and previews do not wait for it. Neither has a thread
-    // before it is used.
+    // A client and a queue of their own, because an update takes minutes, and previews must not
+    // wait for it. Neither starts a thread before it is used.
     QtWebClient updateClient;
     QtWorkQueue updateWork;
     UpdaterController updates;

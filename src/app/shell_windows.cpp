@@ -35,7 +35,7 @@ void ShellWindows::showWelcome()
         m_welcome = std::make_unique<WelcomeWindowController>(m_context.preferences.motion);
         m_welcome->onClose = [this] { m_welcome.reset(); };
     }
-    // Now and not when it is closed: it comes by itself at most once.
+    // Set now rather than when it is closed, so that it never comes by itself a second time.
     m_context.preferences.settings.setSeenWelcome(true);
     bringForward(m_welcome->window());
 }

@@ -14,8 +14,8 @@ class ShellWindow;
 class WelcomeWindowController;
 class WindowActivation;
 
-/// The preferences and the guide, which exist only while they are open. What it is given must
-/// outlive it. Main thread only.
+/// Owns the preferences and the guide, which exist only while they are open. Everything that it is
+/// given must outlive it. Main thread only.
 class ShellWindows {
 public:
     struct Context {
@@ -24,7 +24,7 @@ public:
         MainQueue &queue;
     };
 
-    /// From the launch to the guide, in seconds: the status item shall be there first.
+    /// In seconds, from the launch until the guide is shown: the status item should be there first.
     static constexpr double welcomeDelay = 0.6;
 
     explicit ShellWindows(Context context);
@@ -32,11 +32,11 @@ public:
     ShellWindows &operator=(const ShellWindows &) = delete;
     ~ShellWindows();
 
-    /// Brings the window forward, making it if there is none, and selects the tab.
+    /// Shows the preferences in front, makes them if needed, and selects the tab.
     void showPreferences(PreferencesTab tab);
-    /// Brings the guide forward, and remembers that it has been seen.
+    /// Shows the guide in front, and remembers that it was seen.
     void showWelcome();
-    /// Shows the guide in a moment if it was never seen.
+    /// Shows the guide after `welcomeDelay` if it was never seen.
     void showWelcomeOnFirstLaunch();
 
     /// Null while the window is closed.

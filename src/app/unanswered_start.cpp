@@ -38,7 +38,8 @@ void tellOfUnansweredStart(std::optional<qint64> process)
         ? text("Try again in a moment, or end the process %1 and start Corvane anew.").arg(*process)
         : text("Try again in a moment, or end it and start Corvane anew.");
     std::fprintf(stderr, "corvane: %s %s\n", qPrintable(title), qPrintable(advice));
-    // Desktops start programs without a terminal.
+    // Without a terminal the program was started by the desktop, and the user does not see standard
+    // error.
     if (::isatty(STDERR_FILENO) == 0 && !desktop_notification::show(title, advice))
         showWindow(title, advice);
 }

@@ -6,9 +6,9 @@
 
 namespace corvane {
 
-/// Tells the user that the program runs already, as `process`, and did not answer: on the standard
-/// error, and where that is no terminal also in the desktop's notifications, or else in a window
-/// that is waited for. Needs the application object.
+/// Tells the user that the program runs already, as `process`, but did not answer. The message goes
+/// to standard error. If that is no terminal it also goes to the desktop's notifications, or, where
+/// there are none, to a window, until whose closing this blocks. Needs the application object.
 void tellOfUnansweredStart(std::optional<qint64> process);
 
 } // namespace corvane

@@ -5,7 +5,7 @@
 
 namespace corvane {
 
-/// What the program knows about itself, from the information dictionary that is built into it.
+/// Facts about the program, from the information dictionary that is built into it.
 class AppInfo {
 public:
     explicit AppInfo(QJsonObject dictionary);
@@ -16,17 +16,17 @@ public:
     QString version() const;
     /// "CFBundleVersion", "0" when it is no text.
     QString build() const;
-    /// The name on the session's bus, and of the desktop entry.
+    /// The program's id: its name on the session bus and its desktop entry's name.
     QString applicationId() const;
     QString homePage() const;
-    /// A mailbox.
+    /// An e-mail address.
     QString supportAddress() const;
 
-    /// Where new versions are announced, and the key that they are signed with.
+    /// Keys of the address of the update feed, and of the public key that updates are signed with.
     static inline const QString feedAddressKey = QStringLiteral("SUFeedURL");
     static inline const QString updateKeyKey = QStringLiteral("SUPublicEDKey");
 
-    /// What the dictionary holds under a key, `otherwise` when that is no text.
+    /// The text under a key; `otherwise` if there is none or it is no text.
     QString text(const QString &key, const QString &otherwise = {}) const;
 
 private:

@@ -6,8 +6,8 @@
 
 namespace corvane {
 
-/// A button that looks like the other controls of our windows. The default one, which Return
-/// presses from anywhere in its window, is in the accent's tint.
+/// A button in the look of our windows. The default button, which Return presses from anywhere in
+/// its window, has the accent colour.
 class ActionButton : public QPushButton {
     Q_OBJECT
 

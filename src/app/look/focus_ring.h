@@ -7,10 +7,10 @@ class QWidget;
 
 namespace corvane::focus_ring {
 
-/// Whether a widget has the keyboard and its user goes by keyboard: who clicks sees where.
+/// Whether to mark the widget: it has the focus, and the user moves the focus with the keyboard.
 bool isWanted(const QWidget &widget);
 
-/// Marks what has the keyboard: a line in the accent's colour inside the edge of `rect`.
+/// Draws a line in the accent colour inside the edge of `rect`; `radius` is that of its corners.
 void draw(QPainter &painter, const QPalette &palette, const QRectF &rect, double radius);
 
 } // namespace corvane::focus_ring

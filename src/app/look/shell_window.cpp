@@ -18,13 +18,14 @@ namespace corvane {
 
 namespace {
 
-/// What a window manager's title bar and a panel take of a small screen.
+/// In points: the height that a title bar and a panel take of a small screen.
 constexpr int heightOfOthers = 64;
 
-/// Where the user looks: the screen of the pointer.
+/// The screen of the pointer, else the primary one.
 QScreen *presentScreen()
 {
-    // Rounded to points, the last pixels of a screen may lie one point beyond it.
+    // Qt rounds the pointer's place to points, so at a screen's last pixels it may be one point
+    // outside.
     for (const QPoint beyond : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
         if (QScreen *const screen = QGuiApplication::screenAt(QCursor::pos() - beyond))
             return screen;
@@ -54,8 +55,8 @@ void ShellWindow::Deleter::operator()(ShellWindow *window) const
 void ShellWindow::letGo()
 {
     m_onClose = nullptr;
-    // Keys and clicks that came together with the one that closed it are delivered before it is
-    // deleted, and would reach for what its owner took along.
+    // Keys and clicks that came together with the one that closed the window are delivered before
+    // it is deleted, and must not reach objects that its owner has destroyed.
     setEnabled(false);
     deleteLater();
 }
@@ -95,11 +96,11 @@ QPoint ShellWindow::centre() const
 void ShellWindow::closeEvent(QCloseEvent *event)
 {
     event->accept();
-    // It may be told to close although it is hidden: at the end of the program all windows are.
+    // A hidden window may get a close event, too: at the end of the program all windows do.
     if (!isVisible())
         return;
     m_position = pos();
-    // The window's owner may let go of it now.
+    // The owner may let go of the window in `onClose`.
     m_isClosing = true;
     const QPointer<ShellWindow> alive(this);
     const std::function<void()> onClose = m_onClose;
@@ -112,7 +113,8 @@ void ShellWindow::closeEvent(QCloseEvent *event)
 void ShellWindow::keyPressEvent(QKeyEvent *event)
 {
     const bool isClosing = event->key() == Qt::Key_Escape || event->matches(QKeySequence::Close);
-    // A key that is still held may have been for something else, a shortcut's field for instance.
+    // A held Escape may have been meant for something else, for example the field that records a
+    // shortcut.
     if (isClosing && !event->isAutoRepeat())
         close();
     else

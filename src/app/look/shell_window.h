@@ -9,28 +9,29 @@
 
 namespace corvane {
 
-/// A window of the program beside the shelf: of one size, with a title and a close button, in the
-/// middle of the screen until the user moves it. It can be dragged by its ground; Escape and the
-/// desktop's keys for closing close it. Closing hides it.
+/// An ordinary window of the program, such as the preferences: of a fixed size, with a title and a
+/// close button, in the middle of the screen until the user moves it. It can be moved by dragging
+/// its background. Escape and the desktop's keys for closing close it, which hides it.
 class ShellWindow : public QWidget {
     Q_OBJECT
 
 public:
-    /// Deletes a window, also from inside its own closing: it takes no more input then, and what it
-    /// was given may go along with its owner.
+    /// Deletes a window later, so that its owner may let go of it also inside `onClose`. Until then
+    /// it takes no input.
     struct Deleter {
         void operator()(ShellWindow *window) const;
     };
     template<class Window>
     using Pointer = std::unique_ptr<Window, Deleter>;
 
-    /// The size is in device-independent pixels; a screen that is smaller makes it smaller.
+    /// `size` is in device-independent pixels; on a smaller screen the window is smaller. `onClose`
+    /// is called when it has been closed.
     ShellWindow(QSize size, std::function<void()> onClose);
 
-    /// Another size, fitted likewise.
+    /// Changes the size, which a smaller screen limits as well.
     void setContentSize(QSize size);
 
-    /// Shows it where it was when it was closed, the first time in the middle of the screen.
+    /// Shows the window in its last place, the first time in the middle of the screen.
     void present();
 
 protected:

@@ -30,7 +30,7 @@ TextLabel::TextLabel(const QString &text, const QFont &font, Tone tone, QWidget 
 void TextLabel::changeEvent(QEvent *event)
 {
     QLabel::changeEvent(event);
-    // Ends by itself: what is the same already changes nothing.
+    // This does not recurse without end, because setting the same palette again sends no event.
     if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ParentChange)
         applyTone();
 }

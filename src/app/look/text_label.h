@@ -4,7 +4,7 @@
 
 namespace corvane {
 
-/// Text of a window, never markup, in a tone that follows the palette.
+/// A label for plain text, in a tone that follows the palette.
 class TextLabel : public QLabel {
     Q_OBJECT
 
@@ -12,7 +12,7 @@ public:
     enum class Tone {
         Primary,
         Secondary,
-        /// Secondary and spread out: the title above a group.
+        /// Like `Secondary`, with wider letter spacing: the title of a group.
         Heading,
     };
 

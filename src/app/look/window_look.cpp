@@ -12,7 +12,8 @@ namespace corvane {
 
 namespace {
 
-/// Desktops come with fonts of up to this many pixels; whoever has a larger one asked for it.
+/// In pixels: default fonts of desktops are up to this size. A larger one was chosen by the user,
+/// and scales the windows.
 constexpr double usualFontPixels = 15;
 constexpr double progressBarHeight = 6;
 constexpr double cardRadius = 8;
@@ -45,7 +46,7 @@ QFont WindowLook::font(double points, QFont::Weight weight) const
     return font;
 }
 
-// In colours that stand out from light and dark grounds.
+// The colours are visible on light and dark backgrounds.
 QString WindowLook::scrollBarStyle() const
 {
     const int width = length(scrollBarWidth);
@@ -84,7 +85,7 @@ void WindowLook::drawCard(QPainter &painter, const QPalette &palette, const QRec
 
 QColor WindowLook::secondary(const QPalette &palette)
 {
-    // Opaque, so that letters are as sharp as others; dark enough to be read without effort.
+    // A mixed, opaque colour, because translucent letters look less sharp.
     constexpr float opacity = 0.68F;
     return mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), opacity);
 }

@@ -11,32 +11,32 @@ class QPalette;
 
 namespace corvane {
 
-/// Sizes and colours of our windows. Lengths are written as they are on a desktop whose general
-/// font is of the usual size; where the user chose a larger one, everything grows with it.
+/// Sizes and colours of our windows. Lengths are given for a general font of the usual size; with a
+/// larger font everything is scaled up.
 class WindowLook {
 public:
     /// In points.
     static constexpr double scrollBarWidth = 10;
 
-    /// Of the desktop's general font as it is now.
+    /// For the desktop's present general font.
     WindowLook();
 
-    /// Points to device-independent pixels.
+    /// Converts points to device-independent pixels.
     int length(double points) const;
     QSize length(QSize points) const { return {length(points.width()), length(points.height())}; }
-    /// The desktop's general font at that many points.
+    /// The desktop's general font in a size of that many points.
     QFont font(double points, QFont::Weight weight = QFont::Normal) const;
 
-    /// Style sheets for a scroll bar, a thumb and nothing else, and for a progress bar.
+    /// Style sheets: for a scroll bar that shows only its handle, and for a progress bar.
     QString scrollBarStyle() const;
     QString progressBarStyle() const;
 
-    /// The ground of things that belong together.
+    /// Draws the background of a group.
     void drawCard(QPainter &painter, const QPalette &palette, const QRect &rect) const;
 
-    /// What is there to be read after the rest.
+    /// The colour of secondary texts.
     static QColor secondary(const QPalette &palette);
-    /// The colour of texts at an opacity: grounds, lines and controls on any palette.
+    /// The text colour at an opacity, for backgrounds, lines and controls on any palette.
     static QColor tint(const QPalette &palette, double opacity);
     static QColor accent(const QPalette &palette);
 

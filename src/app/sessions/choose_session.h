@@ -15,11 +15,11 @@ namespace corvane {
 ///   its rooms in tools/check-includes;
 /// - the test of the choice, and the README's table of what works where.
 enum class SessionKind {
-    /// Also in a Wayland session, through its X server.
+    /// Also used in a Wayland session, through its X server.
     X11,
 };
 
-/// What the environment says of the session, as bytes; empty where it says nothing.
+/// The variables of the environment that tell the kind of session, as bytes; empty if not set.
 struct SessionEnvironment {
     /// DISPLAY
     QByteArray display;
@@ -29,15 +29,15 @@ struct SessionEnvironment {
 
 /// Which session the program is to run in, or why it cannot run.
 struct SessionChoice {
-    /// None where there is no session that it could run in.
+    /// None if there is no session that the program can run in.
     std::optional<SessionKind> kind;
-    /// The name of Qt's plug-in for that kind.
+    /// The name of Qt's platform plug-in for that kind.
     QByteArray platformPlugin;
-    /// One line for whoever has started the program in vain, without a line end.
+    /// If `kind` is none: one line that tells the user why, without a line end.
     QByteArray refusal;
 };
 
-/// Looks at nothing but what it is given. Called before there is an application object.
+/// Depends only on its argument. To be called before there is an application object.
 SessionChoice chooseSession(const SessionEnvironment &environment);
 
 } // namespace corvane

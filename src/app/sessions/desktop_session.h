@@ -21,8 +21,8 @@ class Screens;
 class TrayWatch;
 class WindowActivation;
 
-/// What the program asks of the session that it runs in; how each is answered is the session's
-/// affair. The references are valid as long as the session is.
+/// What the program needs from the session that it runs in; each kind of session implements it in
+/// its own way. The references are valid as long as the `RunningSession` exists.
 struct DesktopSession {
     const ScreenLocator &screenLocator;
     DragWatch &dragWatch;
@@ -31,24 +31,24 @@ struct DesktopSession {
     HotKeyService &hotKeys;
     const KeyboardLayout &keyboardLayout;
     PanelDesktop panels;
-    /// What drops and drags of the panels need beyond what Qt does; null where that is nothing.
+    /// What drops and drags of the panels need beyond what Qt does; null if they need nothing more.
     DropSupport *dropSupport = nullptr;
     DragSupport *dragSupport = nullptr;
     WindowActivation &windowActivation;
-    /// Null where such sessions have no tray of their own.
+    /// Null for sessions without a tray of their own.
     TrayWatch *trayWatch = nullptr;
 };
 
-/// What a session needs of the program. Everything must outlive it.
+/// What a session needs from the program. Everything must outlive it.
 struct SessionNeeds {
     MainQueue &mainQueue;
     const Screens &screens;
-    /// Called when the session has gone away.
+    /// Called when the session has ended.
     std::function<void()> terminate;
 };
 
-/// A session that the program runs in. It owns, by value and in the order of dependence, all that
-/// it hands out.
+/// The session that the program runs in. It owns, by value and in the order of dependence,
+/// everything that `desktop` refers to.
 class RunningSession {
 public:
     RunningSession() = default;
@@ -59,7 +59,8 @@ public:
     virtual DesktopSession desktop() = 0;
 };
 
-/// Once the application object exists, which has to use the chosen session's plug-in.
+/// Makes the session. The application object must exist, with the platform plug-in of the chosen
+/// kind.
 std::unique_ptr<RunningSession> startSession(SessionKind kind, const SessionNeeds &needs);
 
 } // namespace corvane

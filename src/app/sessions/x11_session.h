@@ -21,8 +21,8 @@
 
 namespace corvane {
 
-/// A session whose window system tells every program everything: where the pointer is, which
-/// buttons are held, who carries what, which window is in front.
+/// The session on X11, which reports to every program where the pointer is, which buttons are held,
+/// who owns the drag selection, and which windows are in front.
 struct X11Session : RunningSession {
     explicit X11Session(const SessionNeeds &needs);
 

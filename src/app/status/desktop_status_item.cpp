@@ -14,7 +14,7 @@ DesktopStatusItem::DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray)
     , m_tray(tray)
     , m_hosts(std::make_unique<NotifierHosts>())
 {
-    // The shelf does not wait for its icon.
+    // Later, so that the start of the shelf does not wait for the icon.
     mainQueue.async(m_lifetime.guard([this] { search(); }));
 }
 
@@ -27,7 +27,8 @@ DesktopStatusItem::~DesktopStatusItem()
 void DesktopStatusItem::search()
 {
     m_hosts->start([this] { found(0); });
-    // A panel that has both announces one after the other, and the first icon decides for good.
+    // In seconds: a panel that has both announces one after the other. Qt decides by what is there
+    // when the icon is made, so the bus gets some time.
     constexpr double settleDelay = 1;
     if (m_tray)
         m_tray->start([this] { found(settleDelay); });
@@ -35,7 +36,7 @@ void DesktopStatusItem::search()
 
 void DesktopStatusItem::found(double delay)
 {
-    // Never at once: who found it ends here.
+    // Never at once: this destroys `m_hosts`, which may be the caller.
     m_mainQueue.asyncAfter(delay, m_lifetime.guard([this] {
         if (!m_hosts)
             return;
@@ -43,7 +44,7 @@ void DesktopStatusItem::found(double delay)
         if (m_tray)
             m_tray->stop();
         updateForeground();
-        // The event that is to be handled instead is seen only by filtering every event there is.
+        // The event that replaces this signal could be seen only by an event filter for all events.
         QT_WARNING_PUSH
         QT_WARNING_DISABLE_DEPRECATED
         QObject::connect(qGuiApp, &QGuiApplication::paletteChanged, qGuiApp,

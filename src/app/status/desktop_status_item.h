@@ -11,13 +11,13 @@ namespace corvane {
 class MainQueue;
 class TrayWatch;
 
-/// Brings the status item up once the desktop has a place for it, a panel on the session bus or a
-/// tray of the session's own kind, whichever is seen first; where both are there it is the bus.
-/// Without either nothing is made, and nothing else is missing.
+/// Makes the status item appear once the desktop has a place for it: a panel on the session bus, or
+/// a tray of the session's own kind. If there are both, the bus is used. If there is none, no icon
+/// appears; the rest of the program works without it.
 class DesktopStatusItem {
 public:
-    /// Begins at the next turn of the queue. Both must outlive it; null where such sessions have no
-    /// tray of their own.
+    /// Begins to search in the next turn of the queue. Both must outlive it; `tray` is null for
+    /// sessions without a tray of their own.
     DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray);
     ~DesktopStatusItem();
     DesktopStatusItem(const DesktopStatusItem &) = delete;
@@ -27,15 +27,15 @@ public:
 
 private:
     void search();
-    /// Brings it up so many seconds later.
+    /// Makes the item appear after `delay` seconds.
     void found(double delay);
-    /// Has it drawn in the colour of the present palette.
+    /// Sets the icon's colour for the present palette.
     void updateForeground();
 
     MainQueue &m_mainQueue;
     QtTrayIcon m_item;
     TrayWatch *m_tray;
-    // Only until something is found.
+    // Null once a place was found.
     std::unique_ptr<NotifierHosts> m_hosts;
     Lifetime m_lifetime;
 };

@@ -20,13 +20,13 @@ constexpr double barRadius = 2.5;
 constexpr QSizeF cardSize{6.4, 8.6};
 constexpr double cardRadius = 1.4;
 
-/// Where a card's middle is, and how far it leans to the left.
+/// The middle of a card, in points, and how far it is turned to the left.
 struct Card {
     double x;
     double y;
     double degrees;
 };
-/// From the back to the front.
+/// For 1, 2 and 3 cards: each from the back to the front.
 constexpr std::array<std::array<Card, mostCards>, mostCards> cardsOf = {{
     {{{10.5, 10.2, -8}, {}, {}}},
     {{{7.2, 9.9, 12}, {13.4, 10.1, -10}, {}}},
@@ -53,7 +53,8 @@ QPen pen(double width, const QColor &color)
     return {color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
 }
 
-/// Everything that the icon covers, the gaps between its shapes too, and a little more.
+/// Draws what the icon covers, including the gaps between its shapes, enlarged by the outline's
+/// width.
 void drawOutline(QPainter &painter, int cards, const QColor &color)
 {
     constexpr double width = 1.1;
@@ -73,7 +74,8 @@ QImage layer(int side)
     return image;
 }
 
-/// Puts the canvas into the middle of a square, with room for the outline, and y upward.
+/// Transforms the painter so that the canvas is in the middle of a square of `side` pixels, with
+/// room for the outline, and y upward.
 void standOn(QPainter &painter, int side)
 {
     constexpr double square = 22;
@@ -81,7 +83,7 @@ void standOn(QPainter &painter, int side)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(side / 2.0, side / 2.0);
     painter.scale(scale, -scale);
-    // So that the bar's lower edge lies between two pixels of the usual 22.
+    // Moves the bar's lower edge to a pixel boundary at 22 pixels, the usual size.
     constexpr double rise = 0.2;
     painter.translate(-canvas.width() / 2, rise - canvas.height() / 2);
 }

@@ -34,7 +34,7 @@ StatusItemController::StatusItemController(Context context)
 
 void StatusItemController::itemsChanged()
 {
-    // Most publications change something else, and panels redraw what they are told of.
+    // Most publications do not change the number, and panels redraw at every message.
     const bool isNew = m_context.store.items().size() != m_count;
     if (!isNew || std::exchange(m_isUpdateScheduled, true))
         return;

@@ -13,11 +13,11 @@ class ShelfStore;
 class StatusItem;
 class Updater;
 
-/// The program's icon in the panel, which tells how much the shelf holds, and its menu, which is
-/// built from the present state each time it opens.
+/// Controls the program's icon in the panel, which shows how many items the shelf holds, and its
+/// menu, which is built from the present state each time it opens.
 ///
-/// The panel is another program, and is told of a change by several messages: of all that happens
-/// in one turn of the main queue it hears the outcome.
+/// The panel is another program, which gets several messages for each change. So only the state at
+/// the end of a turn of the main queue is sent.
 ///
 /// Everything in the context must outlive it; the status item and the store may call after it is
 /// gone, and nothing happens then. Main thread only.
@@ -30,19 +30,19 @@ public:
         MainQueue &queue;
         /// Ends the program.
         std::function<void()> terminate;
-        /// None where the build has nowhere to look for updates; then the menu does not offer it.
+        /// Null if this build does not look for updates; then the menu does not offer it.
         Updater *updater = nullptr;
     };
     explicit StatusItemController(Context context);
     StatusItemController(const StatusItemController &) = delete;
     StatusItemController &operator=(const StatusItemController &) = delete;
 
-    /// What the menu's rows do. One that is not set does nothing.
+    /// The actions of the menu's rows; an empty one does nothing.
     std::function<void()> onShowShelf;
     std::function<void()> onPreferences;
     std::function<void()> onWelcome;
 
-    /// Gives the status item the icon and the tool tip for that many items, at once.
+    /// Sets the icon and the tool tip for that many items, at once.
     void updateIcon(int count);
 
 private:
@@ -52,7 +52,7 @@ private:
     void perform(StatusMenuRow row) const;
 
     Context m_context;
-    /// What the panel was told last.
+    /// The number that was last shown.
     int m_count = 0;
     bool m_isUpdateScheduled = false;
     Lifetime m_lifetime;

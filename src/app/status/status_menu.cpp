@@ -18,7 +18,7 @@ QString clearTitle(int count)
         : translated(QT_TRANSLATE_N_NOOP("StatusMenu", "Clear Shelf (%n items)"), count);
 }
 
-/// On Linux programs have these two on Control.
+/// The keys of Preferences and Quit, which Linux programs have on Control.
 KeyEquivalent withControl(QChar key)
 {
     return {QString(key), Modifier::Control};

@@ -22,7 +22,7 @@ enum class StatusMenuRow {
     Quit,
 };
 
-/// What the status menu shows follows from this alone.
+/// Everything that the menu's rows depend on.
 struct StatusMenuState {
     int itemCount = 0;
     std::optional<Shortcut> shelfShortcut = std::nullopt;
@@ -36,7 +36,8 @@ namespace status_menu {
 /// nothing cleared of none.
 MenuRows rows(const StatusMenuState &state);
 
-/// A shortcut's character in lower case with its modifiers; nothing for one without a character.
+/// The keys to show for a shortcut: its character in lower case and its modifiers; nothing without
+/// a character.
 KeyEquivalent keyEquivalent(const std::optional<Shortcut> &shortcut);
 
 /// "Corvane", or with items "Corvane — 1 item", "Corvane — 4 items".
