@@ -24,8 +24,8 @@ int milliseconds(double seconds)
     return static_cast<int>(std::clamp(std::round(seconds * 1000), 0.0, longest));
 }
 
-/// The toolkit's timers know whole milliseconds only, and a display's frames take 16.67 of them:
-/// the ticks stay near multiples of the interval, so that they neither drift nor are lost.
+/// Qt's timers have whole milliseconds only, but a frame takes 16.67. So each tick is started for
+/// the next multiple of the interval, and ticks neither drift nor get lost.
 class RepeatingTimer : public MainQueue::Timer {
 public:
     RepeatingTimer(const MainQueue &queue, double seconds, MainQueue::Work work)
@@ -46,10 +46,10 @@ private:
     void startTimer() { m_timer.start(milliseconds(m_next - m_queue.now())); }
     void tick()
     {
-        // What has been missed is left out.
+        // Ticks that were missed are skipped.
         m_next += m_interval * std::max(1.0, std::ceil((m_queue.now() - m_next) / m_interval));
         startTimer();
-        // It may destroy this timer, and with it what it runs.
+        // The work may destroy this timer, and so must be kept while it runs.
         const auto running = m_work;
         (*running)();
     }
@@ -67,7 +67,7 @@ private:
 QtMainQueue::QtMainQueue()
     : m_wakeUp(::eventfd(0, EFD_NONBLOCK | EFD_CLOEXEC))
 {
-    // The process has no descriptor left: nothing else would work either.
+    // The process has no descriptors left; nothing else would work either.
     if (m_wakeUp < 0)
         throw std::runtime_error("no descriptor for the main queue");
     m_notifier = std::make_unique<QSocketNotifier>(m_wakeUp, QSocketNotifier::Read);
@@ -84,10 +84,10 @@ QtMainQueue::~QtMainQueue()
 void QtMainQueue::async(Work work)
 {
     m_waiting.add(std::move(work));
-    // Also where something was there before: the thread that left that may have lost its processor
-    // on its way to here.
+    // Written also if the inbox was not empty before: the thread that added to it then may have
+    // been interrupted before its write.
     const std::uint64_t one = 1;
-    // Cannot fail: the counter is set back long before it is full.
+    // Cannot fail: the counter is reset long before it could overflow.
     [[maybe_unused]] const auto written = ::write(m_wakeUp, &one, sizeof one);
 }
 
@@ -110,7 +110,7 @@ void QtMainQueue::wokenUp()
 {
     std::uint64_t count = 0;
     [[maybe_unused]] const auto read = ::read(m_wakeUp, &count, sizeof count);
-    // One slice a turn: where the next one is under way it takes what has come.
+    // One slice a turn; if the next one is scheduled already it takes the new work.
     if (!m_nextSlice.isActive())
         runSlice();
 }
@@ -136,9 +136,9 @@ bool QtMainQueue::takeNext(Work &work)
 
 void QtMainQueue::runSlice()
 {
-    // Asked for first: work that runs an event loop of its own must not keep the rest waiting. A
-    // timer and not another event, because posted events all run before the loop looks at the
-    // screen and the input again.
+    // Scheduled before the work runs, because work may run an event loop of its own, in which the
+    // rest must go on. By a timer, because posted events would all be handled before painting and
+    // input.
     m_nextSlice.start(0, this);
     QElapsedTimer slice;
     slice.start();

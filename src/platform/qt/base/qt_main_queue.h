@@ -17,12 +17,12 @@ namespace corvane {
 /// The main queue on Qt's event loop, nested loops included. Must be made on the main thread, after
 /// the application object.
 ///
-/// Waiting work runs in slices with a time budget, between which the event loop gets to paint and
-/// to hear input: thousands of results that arrive at once cost no frame. While nothing waits,
-/// nothing wakes up.
+/// Waiting work runs in slices of limited time, between which the event loop handles painting and
+/// input, so that thousands of results that arrive at once do not delay a frame. Without work or
+/// timers nothing wakes the process up.
 class QtMainQueue : public QObject, public MainQueue {
 public:
-    /// A quarter of a frame at 60 Hz.
+    /// In nanoseconds: about a quarter of a frame at 60 Hz.
     static constexpr qint64 sliceNanoseconds = 4'000'000;
 
     QtMainQueue();
@@ -41,11 +41,11 @@ private:
     void runSlice();
     bool takeNext(Work &work);
 
-    /// Taken over from what waits, all at once.
+    /// Work taken over from `m_waiting`, in its order.
     std::deque<Work> m_ready;
     WorkInbox m_waiting;
-    /// A counter of the kernel's that other threads raise and the event loop watches. Not a posted
-    /// event: posting takes a lock that the main thread takes in every turn.
+    /// An eventfd that other threads write to and the event loop watches. Not a posted event,
+    /// because posting takes a lock that the main thread takes in every turn.
     int m_wakeUp = -1;
     std::unique_ptr<QSocketNotifier> m_notifier;
     QBasicTimer m_nextSlice;

@@ -9,22 +9,23 @@
 
 namespace corvane {
 
-/// A few threads of its own, which end when they have been idle for a while. Destroying it drops
-/// the work that has not begun and waits for the work that has.
+/// A work queue with a few threads of its own, which end when they have been idle for a while. The
+/// destructor drops work that has not begun and waits for the work that has.
 class QtWorkQueue : public WorkQueue {
 public:
-    /// Decoding is the heaviest work there is, and each thread may hold one decoded picture.
+    /// Two, because decoding is the heaviest work, and each thread may hold a decoded picture of up
+    /// to 256 MB.
     static constexpr int maximumThreads = 2;
-    /// Where a file's server may never answer, that many pieces of work may hang before the next
-    /// one waits.
+    /// For queues whose work reads files of servers that may never answer: so much work may hang
+    /// before other work has to wait.
     static constexpr int maximumHangingThreads = 8;
 
     explicit QtWorkQueue(int threads = maximumThreads);
     ~QtWorkQueue() override;
 
     void run(std::function<void()> work) override;
-    /// Drops the work that has not begun, now and from now on, and waits no longer than that for
-    /// the work that has; whether none is left, so that destroying this waits for nothing.
+    /// Drops work that has not begun, now and later, and waits for at most `patience` for the work
+    /// that has. True if none is left, so that the destructor does not wait.
     bool finish(std::chrono::milliseconds patience);
 
 private:

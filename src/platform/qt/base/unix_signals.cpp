@@ -25,10 +25,10 @@ std::atomic<int> wakeDescriptor = -1;
 extern "C" void wakeMainThread(int)
 {
     const int savedError = errno;
-    // The main thread may wait for something that never comes.
+    // The main thread may be blocked for ever.
     end_deadline::set(end_deadline::forSteps);
     const std::uint64_t one = 1;
-    // It can only fail while the counter is full, and then the wake-up is on its way.
+    // It fails only when the counter is full; then the wake-up is already on its way.
     [[maybe_unused]] const auto written = ::write(wakeDescriptor, &one, sizeof one);
     errno = savedError;
 }
@@ -49,7 +49,7 @@ UnixSignals::UnixSignals(std::function<void()> onTerminate)
 
     struct sigaction action = {};
     action.sa_handler = wakeMainThread;
-    // The handler stands for one delivery: the next signal finds the default action.
+    // SA_RESETHAND: the handler is for one signal only; the next one has its default action.
     action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
     sigemptyset(&action.sa_mask);
     for (std::size_t i = 0; i < handledSignals.size(); ++i)

@@ -6,10 +6,10 @@
 
 namespace corvane {
 
-/// Turns SIGTERM, SIGINT and SIGHUP into a call on the main thread, where there is more to do than
-/// a signal handler may. One at a time; destroying it restores what the signals did before. A
-/// second signal ends the process at once, in case the first one's work never comes to its end; the
-/// first one begins the deadline of the end where there is one.
+/// Turns SIGTERM, SIGINT and SIGHUP into a call of `onTerminate` on the main thread, where more is
+/// allowed than in a signal handler. The first signal also starts the deadline of the end
+/// (`end_deadline`). A second one ends the process at once, in case the end hangs. At most one
+/// object at a time; the destructor restores the signals' former actions.
 class UnixSignals : public QObject {
 public:
     explicit UnixSignals(std::function<void()> onTerminate);

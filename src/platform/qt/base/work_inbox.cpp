@@ -15,7 +15,7 @@ void WorkInbox::add(Work work)
 {
     auto entry = std::make_unique<Entry>(Entry{std::move(work)});
     Entry *older = m_newest.load(std::memory_order_relaxed);
-    // Whoever takes it sees what was written before.
+    // Release order: the thread that takes the entry sees its contents.
     do
         entry->older = older;
     while (!m_newest.compare_exchange_weak(older, entry.get(), std::memory_order_release,
@@ -26,7 +26,7 @@ void WorkInbox::add(Work work)
 void WorkInbox::takeAll(std::deque<Work> &work)
 {
     Entry *newest = m_newest.exchange(nullptr, std::memory_order_acquire);
-    // They hang together from the newest to the oldest.
+    // The list is linked from the newest to the oldest; reverse it.
     Entry *oldest = nullptr;
     while (newest) {
         Entry *older = std::exchange(newest->older, oldest);

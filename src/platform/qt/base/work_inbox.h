@@ -6,8 +6,9 @@
 
 namespace corvane {
 
-/// Where every thread leaves work for one. Without a lock: a thread that loses its processor while
-/// it leaves something, which on a busy machine may be for many frames, keeps nobody else waiting.
+/// A queue to which any thread adds work and from which one thread takes it. Without a lock, so
+/// that a thread that is interrupted while it adds, for many frames on a busy machine, does not
+/// block the others.
 class WorkInbox {
 public:
     using Work = std::function<void()>;
@@ -17,10 +18,11 @@ public:
     WorkInbox &operator=(const WorkInbox &) = delete;
     ~WorkInbox();
 
-    /// From any thread, which has to wake the taker afterwards, whatever others do.
+    /// Any thread. The caller has to wake the taking thread afterwards, even if others have done
+    /// so.
     void add(Work work);
-    /// Appends all there is to `work`, what one thread gave in the order in which it did. For the
-    /// taking thread alone.
+    /// Appends all work to `work`; work of one thread comes in the order in which it was added.
+    /// Only for the taking thread.
     void takeAll(std::deque<Work> &work);
 
 private:

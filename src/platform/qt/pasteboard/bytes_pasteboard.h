@@ -4,16 +4,17 @@
 
 namespace corvane {
 
-/// Reads addresses and text out of the bytes that a source gives for each type. Addresses and
-/// text are read once.
+/// A pasteboard that decodes addresses and text from the bytes of each type. Both are decoded once
+/// and kept.
 class BytesPasteboard : public Pasteboard {
 public:
-    /// A larger text counts as none, so that its source keeps it: half of it would be a loss.
+    /// In bytes: a larger text is not read at all. If half of it were taken its source might delete
+    /// the whole.
     static constexpr qsizetype maximumTextBytes = 256LL * 1024 * 1024;
 
-    /// The types that addresses come in, the best first, in the spelling of their source.
+    /// The types among `offered` that hold addresses, the best first, as the source spells them.
     static QStringList addressTypes(const QStringList &offered);
-    /// The name as the source spells it, empty when it is not offered.
+    /// The type as the source spells it; empty when it is not offered.
     static QString spelling(const QStringList &offered, const QString &type);
 
     QList<QUrl> urls() override;
@@ -23,9 +24,9 @@ public:
     std::optional<QUrl> promisedFile() override { return std::nullopt; }
 
 protected:
-    /// What the source gives for a type in its own spelling; empty where it gives nothing.
+    /// The bytes for a type, in the source's spelling; empty if there are none.
     virtual QByteArray bytesOf(const QString &type) const = 0;
-    /// To be called when `bytesOf` gives something else than before.
+    /// To be called when `bytesOf` has changed: drops what was decoded.
     void forget()
     {
         m_urls.reset();

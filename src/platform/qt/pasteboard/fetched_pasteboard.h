@@ -8,7 +8,8 @@
 
 namespace corvane {
 
-/// What has been fetched of a drag so far: every type that it offers, and the contents of some.
+/// A drag's pasteboard with the contents that have been fetched so far: all types that are offered,
+/// and the bytes of some.
 class FetchedPasteboard : public BytesPasteboard {
 public:
     explicit FetchedPasteboard(QStringList types)
@@ -25,7 +26,7 @@ public:
         m_bytes.insert(type, bytes);
         forget();
     }
-    /// The text, decoded already; its bytes are not needed.
+    /// Sets the decoded text, for which no bytes are needed.
     void setText(const QString &text) { m_text = text; }
     void setPromisedFile(const QUrl &file) { m_promisedFile = file; }
 

@@ -18,8 +18,8 @@ using Data = PasteboardWriter::Data;
 using Text = PasteboardWriter::Text;
 using Link = PasteboardWriter::Link;
 
-/// Files and links as addresses and as text, and texts as they are, each joined in one go: there
-/// may be many thousands.
+/// Collects files and links as addresses and as text, and texts, in one pass: there may be many
+/// thousands.
 class Joined {
 public:
     explicit Joined(const std::vector<PasteboardWriter> &writers)
@@ -30,7 +30,7 @@ public:
 
     QByteArray uriList;
     QList<qsizetype> inUriList;
-    /// The verb, then the files, with no line end after the last.
+    /// The word "copy", then the files, without a line end after the last.
     QByteArray copiedFiles;
     std::optional<QByteArray> text;
     QList<qsizetype> inText;
@@ -54,7 +54,8 @@ private:
     {
         const QByteArray path = file_url::nativePath(url);
         addAddress(url, file_url::encoded(url, path));
-        // A name whose bytes are no text cannot be told as text.
+        // A name that is not UTF-8 cannot be given as text without loss, so the text does not count
+        // as holding the file.
         const bool isText = path.isValidUtf8();
         addText(isText ? path : QString::fromUtf8(path).toUtf8());
         if (!isText)
@@ -107,8 +108,8 @@ PasteboardForms formsOf(const PasteboardContents &contents, PasteboardKind kind)
         forms.push_back({QStringLiteral("x-special/gnome-copied-files"), joined.copiedFiles, {}});
     const auto text = contents.string ? std::optional(contents.string->toUtf8()) : joined.text;
     if (text) {
-        // One array behind both names: a text may be very large. Without its character set some
-        // programs take it for Latin-1.
+        // Both names share one array, since a text may be very large. Some programs take text/plain
+        // without a character set for Latin-1, so the other comes first.
         forms.push_back({QStringLiteral("text/plain;charset=utf-8"), *text, joined.inText});
         forms.push_back({QStringLiteral("text/plain"), *text, joined.inText});
     }

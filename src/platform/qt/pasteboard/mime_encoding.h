@@ -10,19 +10,19 @@ namespace corvane {
 
 struct PasteboardContents;
 
-/// What the encoded contents are for. File managers paste copied files only by a type of their own,
-/// which in a drag would be taken for more than is meant.
+/// Where the contents go. For the clipboard, files are also given in a type of file managers, which
+/// need it to paste; in a drag it might be taken for a command to copy.
 enum class PasteboardKind {
     Drag,
     Clipboard,
 };
 
-/// Picture bytes under their own type (of several with one type the first), files and links
-/// together as text/uri-list, and the plain text, which holds files by their paths and links by
-/// their addresses. Takes time in proportion to the contents.
+/// The contents as forms: picture bytes under their own type (of several with the same type the
+/// first), files and links together as text/uri-list, and plain text, with files as paths and links
+/// as addresses. Takes time in proportion to the contents.
 PasteboardForms formsOf(const PasteboardContents &contents, PasteboardKind kind);
 
-/// Everything in one `QMimeData`.
+/// All forms in one `QMimeData`.
 std::unique_ptr<QMimeData> mimeDataFor(const PasteboardForms &forms);
 std::unique_ptr<QMimeData> mimeDataFor(const PasteboardContents &contents, PasteboardKind kind);
 

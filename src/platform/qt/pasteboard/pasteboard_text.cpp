@@ -35,8 +35,8 @@ std::optional<Encoding> markedEncoding(const QByteArray &bytes)
     return std::nullopt;
 }
 
-/// The byte order of UTF-16 without a mark. Its blanks, digits and line ends have a NUL byte each,
-/// on the same side; UTF-8 has none before the end.
+/// The byte order of UTF-16 without a mark; none if it is not UTF-16. Blanks, digits and line ends
+/// have one NUL byte each, all on the same side; UTF-8 has none before the end.
 std::optional<Encoding> unmarkedUtf16(const QByteArray &bytes)
 {
     qsizetype end = bytes.size();
@@ -65,8 +65,8 @@ bool isNamed(const QString &charset, std::initializer_list<const char *> names)
                                [&](const char *name) { return charset == QLatin1String(name); });
 }
 
-/// In the C library's way of naming them. A stranger wrote it: nothing that the library could take
-/// for a file or an option.
+/// Whether `charset` may be passed to the C library. It comes from another program, so anything
+/// that could be taken for a file or an option is refused.
 bool isPlainName(const QString &charset)
 {
     constexpr qsizetype longest = 40;
@@ -76,7 +76,8 @@ bool isPlainName(const QString &charset)
            });
 }
 
-/// Of whatever the C library knows; none where it does not, or where the bytes are not of it.
+/// Decodes with the C library's converters; none if it does not know the character set, or the
+/// bytes are not valid in it.
 std::optional<QString> decodedByLibrary(const QByteArray &bytes, const QString &charset)
 {
     if (!isPlainName(charset))
@@ -109,11 +110,11 @@ bool isUnicode(const QString &charset)
         || charset.startsWith(QLatin1String("iso-10646"));
 }
 
-/// Smaller is more exact; none where it is no plain text.
+/// How exact a type is, smaller is more exact; none if it is no plain text.
 std::optional<int> rank(const QString &offered)
 {
     const QString type = offered.toLower();
-    // GTK gives all but this one with the line ends of another system.
+    // GTK converts line ends for all types but this one.
     if (type == QLatin1String("utf8_string"))
         return 0;
     if (type == QLatin1String("text/plain"))
@@ -151,11 +152,12 @@ QString decoded(const QByteArray &bytes, const QString &mimeType)
     QString charset = charsetOf(mimeType);
     if (mimeType.compare(QLatin1String("text/unicode"), Qt::CaseInsensitive) == 0)
         charset = QStringLiteral("utf-16");
-    // Declared UTF-8 that is none would lose bytes.
+    // Bytes that are not valid UTF-8 although the type says so would be lost.
     if (charset.isEmpty() || isNamed(charset, {"utf-8", "utf8"}))
         return decoded(bytes);
     if (isNamed(charset, {"utf-16", "utf16", "ucs-2", "iso-10646-ucs-2"})) {
-        // Without a mark the byte order is its source's, which runs on such a machine as we do.
+        // Without a mark the source's byte order is assumed, which is ours: it runs on the same
+        // kind of machine.
         const auto marked = markedEncoding(bytes);
         const auto encoding = marked ? marked : unmarkedUtf16(bytes);
         return decodedAs(encoding.value_or(QStringConverter::Utf16), bytes);

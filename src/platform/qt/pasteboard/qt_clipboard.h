@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-/// The clipboard through Qt, which hands its contents to a clipboard manager at exit.
+/// The clipboard by `QClipboard`, which hands its contents to a clipboard manager at exit.
 class QtClipboard : public Clipboard {
 public:
     QtClipboard();
@@ -16,7 +16,7 @@ public:
 
 private:
     qint64 m_changeCount = 0;
-    // The connection ends with it.
+    // Ends the signal connection when this is destroyed.
     QObject m_receiver;
 };
 

@@ -18,7 +18,7 @@ QStringList QtPasteboard::types() const
     return types;
 }
 
-// Through `data` and not `text`, which turns line ends and character sets over.
+// By `data`, because `text` converts line ends and character sets.
 QByteArray QtPasteboard::bytesOf(const QString &type) const
 {
     return m_mimeData ? m_mimeData->data(type) : QByteArray();

@@ -6,8 +6,9 @@ class QMimeData;
 
 namespace corvane {
 
-/// What the clipboard or a drag within this process carries, behind `QMimeData`, which must outlive
-/// it. Everything but addresses is fetched each time it is asked for.
+/// A pasteboard over `QMimeData`, for drags within this process and sessions without a drop
+/// support. The data must outlive it. Everything but addresses and text is fetched again at each
+/// question.
 class QtPasteboard : public BytesPasteboard {
 public:
     explicit QtPasteboard(const QMimeData *mimeData);

@@ -22,7 +22,7 @@ int hexDigit(char byte)
     return lower >= 'a' && lower <= 'f' ? lower - 'a' + 10 : -1;
 }
 
-/// A percent sign that begins no code stands for itself.
+/// Percent-decodes; a percent sign without two hexadecimal digits stands for itself.
 QByteArray percentDecoded(QByteArrayView text)
 {
     if (!text.contains('%'))
@@ -43,8 +43,8 @@ QByteArray percentDecoded(QByteArrayView text)
     return bytes;
 }
 
-/// Whether every byte is a character that means only itself, or a code in capitals: nearly all that
-/// programs send, and as we would write it.
+/// Whether the path is encoded exactly as we would do it; nearly all programs do. Such a path need
+/// not be decoded.
 bool isWellEncoded(QByteArrayView path)
 {
     for (qsizetype i = 0; i < path.size(); ++i) {
@@ -67,7 +67,8 @@ bool isWellEncoded(QByteArrayView path)
     return true;
 }
 
-/// What follows "file:". A raw '#' or '?' can only belong to the name: no file has a fragment.
+/// The file address from what follows "file:". A raw '#' or '?' belongs to the name, because file
+/// addresses have no fragment or query.
 QUrl fileUrl(QByteArrayView rest)
 {
     if (rest.startsWith("//")) {
@@ -77,7 +78,7 @@ QUrl fileUrl(QByteArrayView rest)
     if (!rest.startsWith('/'))
         return {};
     if (isWellEncoded(rest)) {
-        // Cheaper than to have a whole address read.
+        // Faster than parsing the whole address.
         static const QUrl root(QStringLiteral("file:///"));
         QUrl url = root;
         url.setPath(QString::fromLatin1(rest), QUrl::TolerantMode);
@@ -92,7 +93,7 @@ bool isFileScheme(QByteArrayView line)
     return line.size() >= 5 && qstrnicmp(line.data(), "file:", 5) == 0;
 }
 
-/// Bytes that are no text would be replaced: encoded, they survive.
+/// Encodes bytes that are not UTF-8, which `QUrl` would replace.
 QByteArray withEncodedBytes(QByteArrayView line)
 {
     const QByteArray bytes = line.toByteArray();

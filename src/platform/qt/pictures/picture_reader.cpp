@@ -23,7 +23,7 @@ bool isReadable(const QByteArray &format)
 
 bool PictureReader::open(QIODevice &device)
 {
-    // Compressed drawings are the only pictures that begin like this.
+    // The signature of gzip; of pictures only compressed drawings have it.
     if (device.peek(2) == "\x1f\x8b")
         return false;
     m_reader.setDevice(&device);

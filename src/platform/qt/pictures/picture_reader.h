@@ -9,26 +9,27 @@ class QIODevice;
 
 namespace corvane {
 
-/// A stranger's picture, ready to be decoded. The format is decided by the contents and only
-/// formats with a signature are read: the others see a picture in any bytes. Compressed drawings
-/// are refused, since nothing bounds what they expand to, and drawings are read without the files
-/// that they refer to. One thread at a time.
+/// A picture, not trusted, that is about to be decoded. The format is recognised by the contents,
+/// and only formats with a signature are read, because the others accept any bytes. Compressed
+/// drawings (SVGZ) are refused, since their size when expanded is not limited. Drawings are read
+/// without the files that they refer to. One thread at a time.
 class PictureReader {
 public:
-    /// False when the bytes are no picture that is read. The device must outlive the reader.
+    /// Opens the picture. False if it is of no format that is read. The device must outlive the
+    /// reader.
     bool open(QIODevice &device);
 
     QImageReader &reader() { return m_reader; }
-    /// A drawing that has no pixels of its own.
+    /// Whether it is a drawing without pixels of its own (SVG).
     bool isVector() const;
-    /// Whether the decoded pixels stay below the limit. A size that the format does not tell before
-    /// decoding is held by the allocation limit instead.
+    /// Whether the decoded pixels stay below `ImageCodec::maximumDecodedBytes`. True if the format
+    /// does not tell the size before decoding; then Qt's allocation limit applies.
     bool fits() const;
-    /// The picture with what was set on the reader, upright, as `Format_ARGB32_Premultiplied` or
-    /// `Format_RGB32`.
+    /// Decodes the picture, with the options set on the reader, upright, as
+    /// `Format_ARGB32_Premultiplied` or `Format_RGB32`.
     std::optional<QImage> read();
-    /// The same in the format that its decoder gives it: no bit of a channel is dropped, and
-    /// colours are not multiplied with their alpha.
+    /// The same in the format of its decoder, so that no bits of channels are lost, and colours are
+    /// not multiplied with alpha.
     std::optional<QImage> readAsStored();
 
 private:

@@ -1,6 +1,7 @@
 #include "platform/qt/pictures/program_icon.h"
 
-// A resource of a static library is there once this ran. Outside every namespace, as it has to be.
+// Resources of a static library have to be registered by this macro, which must be used outside of
+// namespaces.
 static void registerResource()
 {
     Q_INIT_RESOURCE(program_icon);

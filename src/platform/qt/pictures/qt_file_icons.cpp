@@ -16,10 +16,10 @@ namespace corvane {
 
 namespace {
 
-/// Names of kinds and sizes there are; a cache that outgrew it would be a mistake somewhere.
+/// More than there are icon names and sizes in use; the limit only guards against a mistake.
 constexpr qsizetype maximumCached = 500;
 
-/// A sheet with a turned corner, on a canvas of 32.
+/// A sheet of paper with a turned-down corner, on a canvas of 32 by 32.
 QPainterPath sheet()
 {
     QPainterPath path;
@@ -48,7 +48,7 @@ QImage drawnIcon(bool asFolder, int pixels)
     return image;
 }
 
-/// The theme's bitmap in the middle of a square, never larger than the square.
+/// The theme's icon in the middle of a square, scaled down if it is larger.
 QImage squared(const QPixmap &pixmap, int pixels)
 {
     QImage bitmap = pixmap.toImage();
@@ -85,7 +85,7 @@ bool QtFileIcons::isFolder(const QUrl &url) const
     if (path.isEmpty() || path.endsWith('/') || m_locality.isRemote(path))
         return path.endsWith('/');
     struct stat status = {};
-    // Of a link itself: what it leads to may be on a disk that sleeps.
+    // A link is not followed: its target may be on a sleeping disk.
     return ::lstat(path.constData(), &status) == 0 && S_ISDIR(status.st_mode);
 }
 

@@ -9,9 +9,8 @@ namespace corvane {
 
 class FileLocality;
 
-/// Icons of the desktop's theme, chosen by a file's name alone: its contents are never read.
-/// Whether it is a folder is asked of local disks alone; elsewhere a folder is known by a trailing
-/// slash.
+/// Icons of the desktop's theme, chosen by a file's name; contents are never read. Local disks are
+/// asked whether something is a folder; elsewhere a folder is recognised by a trailing slash.
 class QtFileIcons : public FileIcons {
 public:
     /// `locality` must outlive this.

@@ -19,8 +19,8 @@ namespace corvane {
 
 namespace {
 
-/// Qt makes of it the first of zlib's nine efforts, where a scanned page takes 0.4 s instead of
-/// 2.5 s and becomes a fifth larger.
+/// The quality that Qt converts to compression level 1 of zlib. A scanned page takes 0.4 s with it
+/// instead of 2.5 s, and becomes a fifth larger.
 constexpr int quickCompression = 85;
 
 constexpr std::array lossyFormats = {"jpeg", "jpg", "webp", "avif", "heif", "heic", "jp2", "jxl"};
@@ -43,7 +43,7 @@ std::optional<QImage> decodeDevice(QIODevice &device)
     return image;
 }
 
-/// Qt writes no floating-point numbers into a PNG: sixteen bits keep most of them.
+/// Qt cannot write floating-point pixels to PNG; sixteen bits keep most of their precision.
 QImage withWholeNumbers(QImage image)
 {
     switch (image.format()) {
@@ -75,7 +75,7 @@ std::optional<QImage> thumbnailDevice(QIODevice &device, int maximumPixels)
     if (!vector && !picture.fits())
         return std::nullopt;
     const bool isLarger = std::max(size.width(), size.height()) > maximumPixels;
-    // The picture is turned upright after it was scaled; a square limit holds either way.
+    // The reader scales before it turns the picture upright; a square limit is right for both.
     if (vector || isLarger)
         picture.reader().setScaledSize(
             scaledToFit(size.isEmpty() ? QSize{1, 1} : size, maximumPixels));
@@ -160,7 +160,8 @@ std::optional<QByteArray> QtImageCodec::encode(const QImage &image, const UTType
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, formats.first());
-    // For formats without loss Qt takes the quality as effort, and a high one as none.
+    // For lossless formats Qt takes the quality as compression effort, where a high quality means
+    // none.
     if (isAmong(lossyFormats, formats.first()))
         writer.setQuality(static_cast<int>(std::round(compressionQuality * 100)));
     else if (formats.first() == "png")

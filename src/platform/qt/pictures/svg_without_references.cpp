@@ -10,7 +10,8 @@ namespace corvane {
 
 namespace {
 
-/// Whether it is a bitmap by its first bytes: an inner drawing would have references of its own.
+/// Whether an embedded picture is a bitmap, by its first bytes. An embedded drawing could have
+/// references itself.
 bool isBitmapInside(QStringView address)
 {
     static constexpr std::array<QByteArrayView, 4> signatures
@@ -41,7 +42,7 @@ void writeStart(QXmlStreamWriter &writer, const QXmlStreamReader &reader)
         writer.writeAttribute(attribute.qualifiedName().toString(), attribute.value().toString());
 }
 
-/// Whether the element is an image whose contents are elsewhere.
+/// Whether the element is an image whose contents are not embedded.
 bool isReference(const QXmlStreamReader &reader)
 {
     if (reader.name() != QLatin1String("image"))
@@ -78,7 +79,7 @@ std::optional<QByteArray> svgWithoutReferences(const QByteArray &svg)
         default:
             break;
         }
-        // Entities multiply what is there.
+        // Expanded entities can make the drawing much longer.
         if (reader.hasError() || result.size() > 2 * maximumDrawingBytes)
             return std::nullopt;
     }

@@ -6,12 +6,12 @@
 
 namespace corvane {
 
-/// Drawings longer than this are not read.
+/// In bytes; longer drawings are not read.
 inline constexpr qsizetype maximumDrawingBytes = 16'000'000;
 
-/// The drawing without references to files: the toolkit would follow them, into pipes and devices
-/// too. Bitmaps that are part of the drawing stay. None for what is no XML, is too long, or grows
-/// by entities. Any thread.
+/// The drawing without references to files, which Qt would open, pipes and devices included.
+/// Embedded bitmaps stay. None if it is no XML, is too long, or becomes too long by entities. Any
+/// thread.
 std::optional<QByteArray> svgWithoutReferences(const QByteArray &svg);
 
 } // namespace corvane

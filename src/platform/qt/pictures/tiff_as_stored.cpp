@@ -68,7 +68,7 @@ void TiffAsStored::examine()
             samples = numbers.at16(entry + 8);
         if (numbers.at16(entry) != extraSamplesTag)
             continue;
-        // Up to two of them stand in the entry itself.
+        // Up to two values are in the entry itself.
         const bool isInside = numbers.at32(entry + 4) <= 2;
         statement = isInside ? directory + 2 + at + 8 : qint64{numbers.at32(entry + 8)};
     }

@@ -13,7 +13,7 @@ namespace corvane {
 struct BoundedListing::Shared {
     std::mutex mutex;
     std::condition_variable hasAnswered;
-    // Guarded by it.
+    // Guarded by `mutex`.
     bool isAtWork = false;
     bool wasAwaitedInVain = false;
     QByteArray folder;
@@ -43,7 +43,7 @@ QList<QByteArray> BoundedListing::names(const QByteArray &folder,
                 shared->hasAnswered.notify_all();
             }).detach();
         } catch (const std::system_error &) {
-            // There are as many threads as the user may have.
+            // The user may have no more threads.
             m_shared->isAtWork = false;
         }
     }
@@ -56,7 +56,7 @@ QList<QByteArray> BoundedListing::names(const QByteArray &folder,
 QList<QByteArray> BoundedListing::namesIn(const QByteArray &folder)
 {
     QList<QByteArray> names;
-    // Without asking what the entries are: a place whose network is gone would keep us waiting.
+    // Entries are not asked for their types: one on a dead network would block.
     const std::unique_ptr<DIR, int (*)(DIR *)> directory(::opendir(folder.constData()), ::closedir);
     while (directory) {
         const dirent *entry = ::readdir(directory.get());

@@ -9,18 +9,19 @@
 
 namespace corvane {
 
-/// Lists a folder whose file system may never answer, on a thread of its own. A thread that is kept
-/// for good holds nothing that the program needs, and the program's end does not wait for it.
+/// Lists a folder whose file system may never answer, on a thread of its own. A thread that hangs
+/// uses nothing of the program, and is not waited for at its end.
 class BoundedListing {
 public:
-    /// What a folder lists. May never return, and must use nothing that ends before the process.
+    /// Lists a folder. It may never return, so it must use nothing that is destroyed before the
+    /// process ends.
     using List = std::function<QList<QByteArray>(const QByteArray &folder)>;
     static constexpr std::chrono::milliseconds defaultPatience{50};
 
     explicit BoundedListing(List list = namesIn);
 
-    /// The names in the folder. Where it does not answer in time, what it listed last, and then
-    /// nobody waits for it again before it has answered.
+    /// The names in the folder. If it does not answer within `patience`, the names that it had
+    /// last, and it is not waited for again until it has answered.
     QList<QByteArray> names(const QByteArray &folder,
                             std::chrono::milliseconds patience = defaultPatience);
 

@@ -4,7 +4,7 @@
 
 namespace corvane {
 
-/// Asks the desktop's own opener.
+/// Opens addresses by `QDesktopServices`.
 class QtDesktopServices : public DesktopServices {
 public:
     bool open(const QUrl &url) override;

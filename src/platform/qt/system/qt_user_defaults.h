@@ -8,17 +8,17 @@ class QSettings;
 
 namespace corvane {
 
-/// The user's settings in an INI file below the configuration folder. A file that cannot be
-/// understood counts as empty.
+/// The user's settings in an INI file in the configuration folder. A file that cannot be parsed
+/// counts as empty.
 class QtUserDefaults : public UserDefaults {
 public:
     QtUserDefaults();
-    /// In a file of one's own choosing.
+    /// In the file at `path`.
     explicit QtUserDefaults(const QString &path);
     ~QtUserDefaults() override;
 
     bool areKept() const override;
-    /// Writes what has been set; otherwise that happens soon, or when this is destroyed.
+    /// Writes changes now; otherwise they are written soon, or by the destructor.
     void synchronize();
 
 protected:

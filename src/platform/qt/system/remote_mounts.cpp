@@ -14,13 +14,13 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// Schemes whose folders go by another name.
+/// Schemes whose folders' names begin differently.
 constexpr std::array<std::pair<const char *, QLatin1String>, 3> renamedKinds
     = {{{"smb", QLatin1String("smb-share")},
         {"davs", QLatin1String("dav")},
         {"afp", QLatin1String("afp-volume")}}};
 
-/// An address may spell out the port that it would have anyway.
+/// The usual ports, which an address may name or not.
 constexpr std::array<std::pair<const char *, int>, 7> usualPorts = {{{"sftp", 22},
                                                                      {"ftp", 21},
                                                                      {"ftps", 21},
@@ -47,7 +47,7 @@ bool hasShares(const QString &kind)
     return kind == QLatin1String("smb-share") || kind == QLatin1String("afp-volume");
 }
 
-/// Numeric addresses stand in brackets in a folder's name.
+/// Numeric hosts are in brackets in a folder's name.
 QString withoutBrackets(const QString &host)
 {
     const bool isBracketed
@@ -55,8 +55,8 @@ QString withoutBrackets(const QString &host)
     return isBracketed ? host.sliced(1, host.size() - 2) : host;
 }
 
-/// The names along an encoded path, decoded. None where a name cannot be one: an encoded slash or a
-/// way upwards would lead out of its place.
+/// The decoded components of an encoded path. None if one of them cannot be a name: an encoded
+/// slash or ".." would lead out of the place.
 std::optional<QList<QByteArray>> namesAlong(const QByteArray &encodedPath)
 {
     QList<QByteArray> names;
@@ -80,7 +80,8 @@ RemoteMounts::RemoteMounts(QByteArray folder, const QList<QByteArray> &names)
         if (auto mount = mountNamed(name))
             m_mounts.push_back(std::move(*mount));
     }
-    // Of two mounts that hold a file, one inside the other, the inner one's path is the shorter.
+    // If one mount is inside another, the inner one comes first, because its paths are the shorter
+    // ones.
     std::ranges::stable_sort(m_mounts, std::greater(),
                              [](const Mount &mount) { return mount.prefix.size(); });
 }
@@ -113,7 +114,7 @@ std::optional<RemoteMounts::Mount> RemoteMounts::mountNamed(const QByteArray &na
     mount.place.kind = QString::fromLatin1(name.first(colon));
     for (const QByteArray &pair : name.sliced(colon + 1).split(',')) {
         const qsizetype equals = pair.indexOf('=');
-        // A place of which we do not understand everything may be another one.
+        // A folder with an unknown key may be another place.
         if (equals <= 0 || !setValue(mount, pair.first(equals), pair.sliced(equals + 1)))
             return std::nullopt;
     }
@@ -176,7 +177,7 @@ void RemoteMounts::forgetUsualPort(Place &place)
 
 std::optional<QUrl> RemoteMounts::localFile(const QUrl &address) const
 {
-    // File names are encoded; what is left of them behind a '?' or '#' would be another file's.
+    // A '?' or '#' in a file's name is encoded; a raw one would change which file is meant.
     if (!mayHold(address) || address.hasQuery() || address.hasFragment())
         return std::nullopt;
     auto names = namesAlong(address.path(QUrl::FullyEncoded).toLatin1());

@@ -10,30 +10,32 @@
 
 namespace corvane {
 
-/// The remote places that the desktop has mounted, and their files' paths on this machine.
+/// The remote places that the desktop (GVfs) has mounted, and the paths of their files on this
+/// machine.
 ///
-/// A file manager names such a file by its remote address, although every program could read it:
-/// below one folder of the session stands a folder for each place, and its name says which one
+/// File managers give such a file's remote address, although programs can read it as a file: one
+/// folder of the session has a folder for each place, whose name identifies it
 /// ("sftp:host=example.org,user=me", "smb-share:server=nas,share=photos").
 class RemoteMounts {
 public:
-    /// `folder` is where the places are mounted, `names` what it lists; both as bytes.
+    /// `folder` is where places are mounted, `names` are its entries; both native.
     RemoteMounts(QByteArray folder, const QList<QByteArray> &names);
 
-    /// Reads the session's folder, and asks none of the places anything. Where the folder itself
-    /// does not answer, it is what it was when it last did.
+    /// Reads the session's folder, without touching the places. If the folder does not answer, its
+    /// last known entries are used.
     static RemoteMounts ofSession();
 
-    /// Whether an address can be one of a mounted place at all; everything that is common cannot.
+    /// Whether an address can belong to a mounted place at all; false for common addresses such as
+    /// those of files and web pages.
     static bool mayHold(const QUrl &address);
 
-    /// The file behind an address, which need not exist; none when its place is not mounted.
+    /// The file of an address; it need not exist. None if its place is not mounted.
     std::optional<QUrl> localFile(const QUrl &address) const;
 
 private:
-    /// One place, whether it is read from a folder's name or from an address.
+    /// A place, as a folder's name or an address describes it.
     struct Place {
-        /// What the folder's name begins with.
+        /// The part of the folder's name before the colon.
         QString kind;
         QString host;
         QString user;
@@ -47,7 +49,7 @@ private:
     struct Mount {
         QByteArray name;
         Place place;
-        /// The remote folder that the mount's top stands for.
+        /// The remote folder that is mounted, by its path's components.
         QList<QByteArray> prefix;
     };
 
