@@ -6,7 +6,7 @@
 
 namespace corvane::bench {
 
-/// A program that runs beside this one, looked at from outside; ended along with this object.
+/// A program that runs beside this one and is measured from outside; the destructor ends it.
 class Child {
 public:
     /// `program` is a path, or the name of a file beside this program.
@@ -15,15 +15,15 @@ public:
     Child &operator=(const Child &) = delete;
     ~Child();
 
-    /// When it was started, by `now()`.
+    /// The time of its start, by `now()`, in milliseconds.
     double startTime() const { return m_startTime; }
-    /// The next line that it writes to its standard output; "" when it ends instead.
+    /// The next line of its standard output; empty when it has ended.
     std::string readLine();
 
-    /// How often any of its threads has been taken off a CPU, of its own will or not.
+    /// How often its threads have been taken off a CPU, voluntarily or not.
     long contextSwitches() const;
     double residentKilobytes() const;
-    /// Waits until it has slept for a second.
+    /// Waits until it has slept for one second.
     void waitUntilQuiet() const;
     /// Asks it to end, and waits for that.
     void end();

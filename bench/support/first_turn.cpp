@@ -1,4 +1,4 @@
-// Linked into a program, it writes the time of the event loop's first turn to the standard output.
+// Linked into a program, this writes the time of its event loop's first turn to standard output.
 
 #include <QCoreApplication>
 #include <QThread>
@@ -9,7 +9,8 @@
 
 static void tellFirstTurn()
 {
-    // Whoever waits for an answer before the event loop may run events of his own.
+    // Code that waits for an answer before the event loop starts may run a local event loop, which
+    // does not count.
     if (QThread::currentThread()->loopLevel() == 0) {
         QTimer::singleShot(0, qApp, tellFirstTurn);
         return;

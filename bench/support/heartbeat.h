@@ -11,7 +11,7 @@
 
 namespace corvane::bench {
 
-/// Milliseconds that the main thread has waited for a processor which others had.
+/// How long, in milliseconds, the main thread has waited for a CPU while others ran.
 inline double waitForProcessor()
 {
     QFile file(QStringLiteral("/proc/self/schedstat"));
@@ -19,11 +19,11 @@ inline double waitForProcessor()
     return file.readAll().split(' ').value(1).toDouble() * 1e-6;
 }
 
-/// Runs the event loop until `isDone`, and measures the longest time from one look at what waits to
-/// the next: a beat every millisecond, less that millisecond.
+/// Runs the event loop until `isDone`, with a timer of one millisecond, and measures the longest
+/// gap between two ticks, less that millisecond. In milliseconds.
 struct Heartbeat {
     double longestGap = 0;
-    /// Without the time for which others had the processors.
+    /// The longest gap without the time in which others had the CPU.
     double longestOwnGap = 0;
 
     template<typename Condition>
@@ -49,7 +49,7 @@ struct Heartbeat {
     }
 };
 
-/// Two rows of the longest stall, of what stands still for 16 ms at most.
+/// Prints two rows of the longest gap; it should be at most 16 ms.
 inline void printStalls(const std::string &figure, const Heartbeat &floor,
                         const Heartbeat &measured)
 {

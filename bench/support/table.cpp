@@ -71,7 +71,7 @@ double cpuTimeOf(const std::function<void()> &work)
 {
     constexpr int batches = 101;
     constexpr double batchTime = 4;
-    // Caches warm, and a batch long enough for the clock.
+    // Warms the caches, and finds how many calls a batch needs to be measurable.
     int calls = 0;
     for (const double start = threadTime(); threadTime() - start < batchTime * 5; ++calls)
         work();

@@ -7,7 +7,7 @@
 
 namespace corvane::bench {
 
-/// One line of the table. What is to be reached is a multiple of the floor, or a value of its own.
+/// One row of the table. The bound is a multiple of the floor, or a value.
 struct Row {
     enum class Bound { TimesFloor, Value };
 
@@ -19,20 +19,19 @@ struct Row {
     Bound bound = Bound::TimesFloor;
 };
 
-/// Writes the row to the standard output, its columns separated by tabs.
+/// Prints the row to standard output, with tabs between its columns.
 void print(const Row &row);
 
-/// Of at least one value.
+/// The median; `values` must not be empty.
 double median(std::vector<double> values);
 
-/// Milliseconds of a clock that only goes forward, the same in every process.
+/// In milliseconds, on a monotonic clock that is the same in all processes.
 double now();
-/// Milliseconds of CPU that this process, or this thread, has used.
+/// The CPU time, in milliseconds, that this process or this thread has used.
 double processTime();
 double threadTime();
 
-/// Milliseconds of CPU time that one call of `work` takes, on all threads: the median of many
-/// batches.
+/// The CPU time in milliseconds, on all threads, of one call of `work`: the median of many batches.
 double cpuTimeOf(const std::function<void()> &work);
 
 } // namespace corvane::bench

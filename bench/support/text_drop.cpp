@@ -24,7 +24,7 @@ template<typename Type>
 using Reply = std::unique_ptr<Type, Free>;
 
 constexpr std::uint32_t protocolVersion = 5;
-/// From the upper edge; the panel is higher.
+/// In pixels from the top edge; the panel is higher than this.
 constexpr int depth = 20;
 
 class TextDrop {
@@ -65,7 +65,7 @@ TextDrop::TextDrop(XDesk &desk)
 
 void TextDrop::run()
 {
-    // The answer says that the window is there.
+    // The reply also shows that the window exists.
     const xcb_atom_t text = atom("text/plain");
     m_desk.moveTo(150, 350);
     m_desk.press();
@@ -93,7 +93,7 @@ xcb_window_t TextDrop::panel()
 {
     const xcb_atom_t dropTarget = atom("XdndAware");
     for (const double deadline = now() + 2000; now() < deadline;) {
-        // It opens on the first move after the selection was taken.
+        // The shelf opens at the first motion after the selection was taken.
         m_desk.moveTo(m_desk.width() / 2 + static_cast<int>(now()) % 2, depth);
         m_desk.sync();
         const Reply<xcb_translate_coordinates_reply_t> found(xcb_translate_coordinates_reply(

@@ -22,7 +22,7 @@ using Reply = std::unique_ptr<Type, Free>;
 
 constexpr std::uint32_t white = 0xffffff;
 
-/// By position, in the order in which they go down.
+/// Key codes, in the order in which they are pressed.
 constexpr std::array<std::uint8_t, 3> hotKey = {133, 50, 40};
 
 } // namespace

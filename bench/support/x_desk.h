@@ -9,7 +9,7 @@
 
 namespace corvane::bench {
 
-/// The X server as a user has it: a pointer that moves, and eyes.
+/// The X server as a user has it: moves the pointer, presses keys, and looks at the screen.
 class XDesk {
 public:
     XDesk();
@@ -22,25 +22,25 @@ public:
     bool isComposited();
 
     void moveTo(int x, int y);
-    /// As a mouse moves it: by a step.
+    /// Moves the pointer by a step, as a mouse does.
     void moveBy(int x, int y);
     void press();
     void release();
-    /// Super, Shift and the key that carries the D: what toggles the shelf when nothing is set.
+    /// Presses Super, Shift and D, the default shortcut of the shelf.
     void pressHotKey();
     void releaseHotKey();
     /// Covers everything with a white window of ours.
     void coverWithWhite();
-    /// Takes the selection that drags carry their contents by.
+    /// Takes the drag selection, as the source of a drag does.
     void takeDragSelection();
 
-    /// Listens for windows that are mapped and unmapped.
+    /// Selects events of windows that are mapped and unmapped.
     void watchWindows();
     /// Waits for the next unmanaged window to be mapped (or unmapped); false after two seconds.
     bool waitForPanel(bool isMapped);
-    /// Whether anything but white is seen at the middle of the upper edge.
+    /// Whether there is anything but white at the middle of the top edge.
     bool showsSomething();
-    /// Waits until the server has seen to everything.
+    /// Waits until the server has handled all requests.
     void sync();
 
 private:

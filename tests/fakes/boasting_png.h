@@ -7,7 +7,7 @@
 
 namespace corvane::test {
 
-/// A PNG whose head claims a size that its few bytes do not have.
+/// A PNG whose header claims a size for which it has far too few bytes.
 inline QByteArray boastingPng(quint32 width, quint32 height)
 {
     QByteArray bytes;

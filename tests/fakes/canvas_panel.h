@@ -10,8 +10,8 @@
 
 namespace corvane::test {
 
-/// A panel that keeps what it shows: like a window it paints only what a repaint was asked for, and
-/// all of it when it is shown, gets another size or comes to a screen with another scale.
+/// A panel that keeps its picture. Like a window it paints only areas for which a repaint was
+/// requested, and everything when it is shown, resized, or comes to a screen with another scale.
 class CanvasPanel : public FakePanelWindow {
 public:
     void setFrame(const QRectF &frame) override
@@ -40,7 +40,7 @@ public:
     }
     double scale() const { return m_scale; }
 
-    /// What a window's next frame does.
+    /// Paints the requested areas, as a window does in its next frame.
     void repaint()
     {
         const QSize pixels = (frame().size() * m_scale).toSize();
@@ -54,7 +54,7 @@ public:
             paint(m_canvas, region);
     }
     const QImage &canvas() const { return m_canvas; }
-    /// All of it, painted now.
+    /// The whole panel, painted now.
     QImage whole() const
     {
         QImage image(m_canvas.size(), m_canvas.format());

@@ -13,7 +13,8 @@
 
 namespace corvane::test {
 
-/// A desktop with a mouse on it, seen by what watches for drags. Its verbs are the user's.
+/// A desktop with a mouse, for code that watches for drags and clicks. Its functions are what the
+/// user does.
 class FakeDragDesktop : public DragPasteboard,
                         public EventMonitors,
                         public MouseButtons,
@@ -67,7 +68,7 @@ public:
         if (isLeftNew)
             notify(m_leftDown);
     }
-    /// A press in another program's window; nobody may know where.
+    /// A press in another program's window; with no point the desktop does not tell where.
     void pressElsewhere(std::optional<QPointF> point, unsigned buttons = MouseButtons::left)
     {
         pointer.position = point;
@@ -75,14 +76,14 @@ public:
         notify(m_mouseDown);
     }
     void release(unsigned buttons = MouseButtons::left) { m_pressed &= ~buttons; }
-    /// Some program starts to drag contents: the drag pasteboard changes.
+    /// A program starts to drag contents: the drag pasteboard changes.
     void pickUp() { ++m_changeCount; }
     /// The pointer moves over other programs' windows.
     void moveTo(QPointF point) { move(point, m_global); }
     /// The pointer moves in a drag that began in one of our own windows.
     void moveInsideOwnWindow(QPointF point) { move(point, m_local); }
 
-    /// A whole drag up to, but without, the release.
+    /// Everything of a drag but the release.
     void startDrag()
     {
         press();

@@ -6,7 +6,7 @@
 
 namespace corvane::test {
 
-/// One folder is remote, with what is below it; at first none is.
+/// Makes one folder remote, with everything below it; none unless it is set.
 class FakeFileLocality : public FileLocality {
 public:
     bool isRemote(const QByteArray &path) const override

@@ -10,7 +10,7 @@
 
 namespace corvane::test {
 
-/// A desktop's hot keys. Its verbs are the user's and the other programs'.
+/// The hot keys of a desktop. Its functions are what the user and other programs do.
 class FakeHotKeys : public HotKeyService {
 public:
     using Combination = std::pair<KeyPosition, std::uint32_t>;
@@ -47,7 +47,7 @@ public:
     }
     std::unique_ptr<Suspension> suspend() override { return std::make_unique<Counted>(*this); }
 
-    /// Whether the press was for us.
+    /// Presses the keys; true if one of our hot keys was pressed.
     bool press(KeyPosition keyCode, std::uint32_t modifiers)
     {
         if (suspensions > 0)
@@ -62,7 +62,7 @@ public:
     }
     void pressed(const std::optional<HotKeyIdentifier> &identifier)
     {
-        // A copy: a handler may unregister what it came from.
+        // A copy: a handler may unregister the hot key.
         for (const Handler &handler : std::vector(m_handlers))
             handler(identifier);
     }
@@ -81,7 +81,7 @@ public:
     bool refusesHandler = false;
     int unregistrations = 0;
     int suspensions = 0;
-    /// Told before anything happens.
+    /// Called at the start of each unregistration.
     std::function<void()> onUnregister;
 
 private:

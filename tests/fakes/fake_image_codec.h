@@ -10,7 +10,7 @@
 
 namespace corvane::test {
 
-/// Knows the pictures that a test teaches it, by their bytes. An encoded picture reads
+/// A codec for pictures that a test registers by their bytes (`teach`). An encoded picture reads
 /// "image/png 3x2".
 class FakeImageCodec : public ImageCodec {
 public:

@@ -7,7 +7,7 @@
 
 namespace corvane::test {
 
-/// A keyboard that types into this program, seen by what watches its keys.
+/// A keyboard that types into this program, for code that watches its keys.
 class FakeKeyMonitors : public KeyMonitors {
 public:
     Handle addLocalMonitor(Handler handler) override
@@ -17,18 +17,18 @@ public:
     }
     void removeMonitor(Handle handle) override { m_monitors.erase(handle); }
 
-    /// Each tells whether the rest of the window got the event.
+    /// Types a key. Like the others returns whether the event went on to the window.
     bool type(KeyPosition keyCode, Modifiers modifiers, const QString &characters = {})
     {
         return send(
             {Event::Kind::KeyDown, keyCode, modifiers, characters, keyCode == KeyPosition::Escape});
     }
-    /// Escape on another key than its own.
+    /// A key that types Escape but is not in Escape's position.
     bool typeEscapeElsewhere(KeyPosition keyCode)
     {
         return send({Event::Kind::KeyDown, keyCode, {}, {}, true});
     }
-    /// Another key in Escape's place.
+    /// A key in Escape's position that types something else.
     bool typeInEscapesPlace()
     {
         return send({Event::Kind::KeyDown, KeyPosition::Escape, {}, {}, false});

@@ -10,8 +10,8 @@
 
 namespace corvane::test {
 
-/// A window system in which everybody gets the keyboard who asks for it, and whose window manager
-/// does what it was asked when the test says so.
+/// A window system that gives the keyboard to every window that asks for it, with a window manager
+/// that does what it was asked when the test calls `answer`.
 class FakeKeyboardFocus : public KeyboardFocus {
 public:
     WindowNumber focusedWindow() const override { return focused; }
@@ -38,8 +38,8 @@ public:
         swallowed.emplace_back(key, modifiers);
     }
 
-    /// The window manager activates the window that it was asked for first. It may find that
-    /// somebody else has the keyboard by rights.
+    /// The window manager activates the window that it was asked for first. With `givesKeyboard`
+    /// false it leaves the keyboard with another window.
     void answer(bool givesKeyboard = true)
     {
         if (m_asked.empty())

@@ -12,7 +12,7 @@ public:
     std::optional<QString> unregisterItem() override { return change(false); }
 
     bool registered = false;
-    /// What goes wrong from now on.
+    /// If set, changes fail with this message.
     std::optional<QString> error;
 
 private:

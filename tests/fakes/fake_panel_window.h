@@ -9,7 +9,7 @@
 
 namespace corvane::test {
 
-/// A panel that shows nothing and keeps a log of what it was told.
+/// A panel without a window, which keeps a log of the calls.
 class FakePanelWindow : public PanelWindow {
 public:
     void setContent(PanelContent *newContent) override { content = newContent; }
@@ -60,7 +60,7 @@ public:
     bool visible = false;
     bool ignoresMouseEvents = false;
     bool isKey = false;
-    /// The user went to a window that is no panel.
+    /// Another program's window has the keyboard.
     bool othersHaveKeyboard = false;
     QRectF body;
     QPainterPath outline;
@@ -69,7 +69,8 @@ public:
     QStringList log;
     std::optional<DragOut> dragOut;
     DragOutEvents dragOutEvents;
-    /// Lets go, and the target takes everything at once; or nothing, and gives it back.
+    /// Ends the drag: the user lets go, and the target takes everything at once, or nothing for
+    /// `None`.
     std::function<void(DragOperation)> endDragOut;
 
 private:

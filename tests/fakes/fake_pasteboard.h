@@ -7,7 +7,7 @@
 
 namespace corvane::test {
 
-/// A pasteboard that a test fills. `fetched` tells what was asked of the source, in order.
+/// A pasteboard that a test fills. `fetched` lists what was asked of the source, in order.
 class FakePasteboard : public Pasteboard {
 public:
     QStringList types() const override { return offered; }
@@ -54,7 +54,7 @@ public:
         offered << type;
         bytes.insert(type, data);
     }
-    /// A file was saved directly, at its place.
+    /// The source has saved a file directly, at `place`.
     void saveFile(const QUrl &place, const QByteArray &contents)
     {
         offered << QStringLiteral("XdndDirectSave0");

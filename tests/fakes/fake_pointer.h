@@ -4,7 +4,7 @@
 
 namespace corvane::test {
 
-/// A pointer that stands where a test puts it; nowhere at first.
+/// A pointer at a place that a test sets; none at first.
 class FakePointer : public Pointer {
 public:
     std::optional<QPointF> location() const override { return position; }

@@ -7,7 +7,8 @@
 
 namespace corvane::test {
 
-/// Top edges that a test pushes against. Like the real one it tells of nothing that is not watched.
+/// Top edges that a test pushes the pointer against. Like the real one it reports only stretches
+/// that are watched.
 class FakePointerBarriers : public PointerBarriers {
 public:
     void watch(const std::vector<EdgeStretch> &stretches) override

@@ -4,7 +4,8 @@
 
 namespace corvane::test {
 
-/// Pictures and documents by the names of their files: "*.png" and "*.pdf", unless they are broken.
+/// Opens "*.png" as pictures and "*.pdf" as documents, by name only, unless they are marked as
+/// broken.
 class FakePreviewDocuments : public PreviewDocuments {
 public:
     class Document : public PreviewDocument {

@@ -9,7 +9,7 @@
 
 namespace corvane::test {
 
-/// A preview panel that shows nothing and keeps a log of what it was told.
+/// A preview panel without a window, which keeps a log of the calls.
 class FakePreviewPanel : public PreviewPanel {
 public:
     void setController(PreviewPanelController *controller) override
@@ -47,9 +47,9 @@ public:
     }
 
     QStringList log;
-    /// What it would show since the last reload.
+    /// The address that it got at the last reload.
     std::optional<QUrl> shown;
-    /// Told before anything happens.
+    /// Called at the start of `orderOut`.
     std::function<void()> onOrderOut;
 
 private:

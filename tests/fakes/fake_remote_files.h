@@ -7,7 +7,7 @@
 
 namespace corvane::test {
 
-/// Collects what is asked; a test answers, or never does.
+/// Collects questions; a test answers them, or never does.
 class FakeRemoteFiles : public RemoteFiles {
 public:
     void inspect(const QByteArray &path,

@@ -8,7 +8,7 @@
 
 namespace corvane::test {
 
-/// A panel with one item in it, and the user's clicks.
+/// A panel with one status item. Its functions are the user's clicks.
 class FakeStatusItem : public StatusItem {
 public:
     void setIcon(int newShape, Icon newIcon) override

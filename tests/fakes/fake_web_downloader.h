@@ -7,7 +7,7 @@
 
 namespace corvane::test {
 
-/// Remembers what was asked for; a test sends the pieces of the last one, and ends it.
+/// Collects downloads; a test sends the pieces of the last one and ends it.
 class FakeWebDownloader : public WebDownloader {
 public:
     void download(const WebDownload &download, WebClient::Completion completion) override
@@ -20,13 +20,13 @@ public:
     bool send(const QByteArray &piece) { return downloads.back().take(piece); }
     void end(std::optional<WebResponse> response)
     {
-        // Nobody keeps what it took once it has ended.
+        // As the real one does, drops the function for pieces before the end is reported.
         downloads.back().take = nullptr;
         std::exchange(m_completion, nullptr)(std::move(response));
     }
     void succeed() { end(WebResponse{200, -1, downloads.back().request.url, {}}); }
     void fail() { end(std::nullopt); }
-    /// All of a file, as far as it is taken.
+    /// Sends a file in pieces until one is refused.
     void sendWhole(const QByteArray &file)
     {
         constexpr qsizetype piece = 65'536;

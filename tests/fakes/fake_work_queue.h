@@ -9,7 +9,7 @@
 
 namespace corvane::test {
 
-/// Background work that waits until a test runs it, then really runs on another thread.
+/// Work that waits until a test runs it, on another thread.
 class FakeWorkQueue : public WorkQueue {
 public:
     void run(std::function<void()> work) override { m_waiting.push_back(std::move(work)); }
@@ -23,7 +23,7 @@ public:
         m_waiting.pop_front();
         std::thread(work).join();
     }
-    /// Runs what waits, and what that gives rise to.
+    /// Runs all waiting work, and the work that this adds.
     void runAll()
     {
         while (!m_waiting.empty())

@@ -13,14 +13,14 @@
 
 namespace corvane::test {
 
-/// A layer that can be seen, and where.
+/// A visible layer and its place.
 struct SeenLayer {
     Layer *layer = nullptr;
-    /// What it is and which one, for messages.
+    /// Its kind and number, for messages.
     QString name;
     /// In the coordinates of the roots.
     QRectF frame;
-    /// What it says; "" for what is no text.
+    /// Its text; empty if it is no text layer.
     QString text;
 };
 
@@ -54,7 +54,7 @@ namespace layer_walk {
 
 constexpr double invisibleOpacity = 0.002;
 
-/// The layer itself, without what it contains.
+/// Whether the layer itself paints something, apart from its sublayers.
 inline bool paintsSomething(const Layer &layer)
 {
     if (layer.bounds().isEmpty())
@@ -63,13 +63,13 @@ inline bool paintsSomething(const Layer &layer)
         return !text->string().isEmpty();
     if (const auto *bitmap = asKind<BitmapLayer>(layer))
         return bitmap->contents() != nullptr;
-    // Whatever is no plain layer draws something of its own.
+    // All kinds derived from `Layer` draw something.
     return typeid(layer) != typeid(Layer) || layer.backgroundColor().alpha() > 0;
 }
 
 struct Place {
     QPointF origin;
-    /// Nothing is seen beyond it; null where there is no such bound.
+    /// What is outside is not visible; null without a limit.
     QRectF clip;
 };
 
@@ -94,8 +94,8 @@ inline void walk(Layer &layer, const Place &place, const QString &path,
 
 } // namespace layer_walk
 
-/// From below upward, containers before what they contain. Containers are there too, if anything in
-/// them is.
+/// All visible layers from the bottom to the top, containers before their sublayers. A container is
+/// listed if it contains a visible layer.
 inline std::vector<SeenLayer> seenLayers(const std::vector<Layer *> &roots)
 {
     std::vector<SeenLayer> seen;

@@ -6,17 +6,17 @@
 
 namespace corvane::test {
 
-/// Settings that live as long as the test.
+/// Settings that are kept in memory only.
 class MemoryUserDefaults : public UserDefaults {
 public:
-    /// Any value at all, as a hand that edits the file could write it.
+    /// Stores any value, as a user who edits the file could.
     void setRaw(const QString &key, const QVariant &value) { stored.insert(key, value); }
 
     bool areKept() const override { return kept; }
 
     QVariantMap stored;
     bool kept = true;
-    /// Told of each reading, of what is stored and of what has its default alike.
+    /// Called for each reading, whether a value is stored or not.
     std::function<void(const QString &key)> onRead;
 
 protected:

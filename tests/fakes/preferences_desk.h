@@ -16,8 +16,8 @@
 
 namespace corvane::test {
 
-/// Everything that the preferences read and write, with real settings on top of fakes. Nothing
-/// moves by itself.
+/// Everything that the preferences read and write, with real settings on top of fakes. Animations
+/// are off.
 struct PreferencesDesk {
     PreferencesDesk() { motion.reduces = true; }
 

@@ -13,8 +13,8 @@
 
 namespace corvane::test {
 
-/// The source of a random sequence of steps. A seed gives the same steps on every machine, so a
-/// failure can be had again.
+/// The source of a random sequence of steps. A seed gives the same steps on every machine, so that
+/// failures can be reproduced.
 class RandomSteps {
 public:
     explicit RandomSteps(std::uint32_t seed)
@@ -37,17 +37,17 @@ public:
             static_cast<typename List::size_type>(below(static_cast<int>(values.size()))));
     }
 
-    /// What is being done: a failure shows it.
+    /// Notes a step, for the message of a failure.
     void note(const QString &step) { m_done << step; }
     const QStringList &done() const { return m_done; }
 
 private:
-    // Its numbers are laid down by the standard; those of the standard's distributions are not.
+    // The standard defines this generator's numbers, but not those of its distributions.
     std::mt19937 m_engine;
     QStringList m_done;
 };
 
-/// A log as a failure shows it legibly.
+/// A log with one entry a line, for the message of a failure.
 inline std::string lines(const QStringList &log)
 {
     return log.join(QLatin1Char('\n')).toStdString();
@@ -55,9 +55,9 @@ inline std::string lines(const QStringList &log)
 
 /// Plays `sequences` sequences, each of `length` steps in a `Scene` of its own, until one fails.
 ///
-/// A scene is made from a `RandomSteps &`; its `step` notes what it does, does it, and compares
-/// what came of it. The seeds are 1, 2, 3 and so on, so that everybody plays the same. With
-/// CORVANE_SEED=17 only that sequence is played, with CORVANE_SEQUENCES=100000 so many.
+/// A scene is constructed with a `RandomSteps &`; its `step` notes an action, does it, and checks
+/// the result. The seeds are 1, 2, 3 and so on, so every run is the same. CORVANE_SEED=17 plays
+/// only that sequence, CORVANE_SEQUENCES=100000 as many as that.
 template<typename Scene>
 void playAtRandom(int sequences, int length)
 {
@@ -82,7 +82,7 @@ void playAtRandom(int sequences, int length)
     }
 }
 
-/// A step that is done the more often the larger its weight is.
+/// A kind of step; it is chosen in proportion to its weight.
 template<typename Scene>
 struct WeightedStep {
     int weight;

@@ -31,7 +31,7 @@
 
 namespace corvane::test {
 
-/// Everything that a shelf view stands on, faked, and the user's hands.
+/// Everything that a shelf view needs, with fakes, and functions for what the user does.
 struct ShelfDesk {
     explicit ShelfDesk(const QFont &font = QFont(), const TextMeasurer *measurer = nullptr)
         : theme(font, 96)
@@ -56,7 +56,7 @@ struct ShelfDesk {
         return {DropItem::Text{text}, text, QStringLiteral("5 characters"), false};
     }
 
-    /// A file that is there.
+    /// Writes a file and gives its address.
     QUrl writtenFile(const QByteArray &name, const QByteArray &contents) const
     {
         QFile file(temporary.filePath(QString::fromUtf8(name)));

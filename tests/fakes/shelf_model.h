@@ -20,14 +20,14 @@
 
 namespace corvane::test {
 
-/// A desk with a real model on it and one screen: what a shelf's controller is given.
+/// A desk with a real model and one screen: everything that a shelf's controller needs.
 struct ShelfModel {
     HUDController::Context controllerContext()
     {
         return {desk.context(), store, settings, feedback, screens, locator, quickActions};
     }
 
-    /// As if something about the items had changed.
+    /// Publishes the items without a change.
     void publishItems() { store.setItems(store.items()); }
 
     ShelfDesk desk;

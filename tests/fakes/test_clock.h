@@ -10,8 +10,8 @@
 
 namespace corvane::test {
 
-/// A main queue whose time a test moves. `advance` visits every due piece of work in the order of
-/// its time (then of its scheduling) with `now` standing at that time.
+/// A main queue whose time a test advances. `advance` runs due work in the order of its times (then
+/// of its scheduling), with `now` at each of these times.
 class TestClock : public MainQueue {
 public:
     void async(Work work) override
@@ -32,7 +32,7 @@ public:
     }
     double now() const override { return m_now; }
 
-    /// Runs what is due now, and what that makes due now.
+    /// Runs the work that is due now, and work due now that this adds.
     void runPending() { advance(0); }
 
     void advance(double seconds)
@@ -42,7 +42,7 @@ public:
             Work work;
             {
                 const std::lock_guard lock(m_mutex);
-                // Sums of periods miss their target by a rounding error.
+                // The sum of many periods may miss the target by a rounding error.
                 if (m_due.empty() || m_due.begin()->first.first > target + 1e-9)
                     break;
                 m_now = std::max(m_now, m_due.begin()->first.first);
@@ -54,11 +54,11 @@ public:
         m_now = target;
     }
 
-    /// Work that waits, repeating timers included.
+    /// The number of pieces of waiting work, repeating timers included.
     std::size_t pendingCount() const { return m_due.size(); }
 
 private:
-    /// When it is due, and how much was asked for before it.
+    /// The time when it is due, and how many were scheduled before it.
     using Key = std::pair<double, std::uint64_t>;
     struct RepeatingTimer : Timer {
         std::shared_ptr<bool> alive = std::make_shared<bool>(true);

@@ -95,7 +95,7 @@ void Bar::takeKeyboard(int items)
         open(items);
         return;
     }
-    // Left of everything that can be pressed.
+    // Left of all buttons and tiles.
     m_desktop.hands().click(frame().topLeft() + QPoint(3, height / 2));
     waitForKeyboard();
 }
@@ -106,14 +106,14 @@ QStringList Bar::copied(int items, bool everything)
     takeKeyboard(items);
     m_desktop.clearClipboard();
     Hands &hands = m_desktop.hands();
-    // What is ticked; then all of it, or nothing if that was all.
+    // Copies the selection; then selects all, or none if all were selected, and copies again.
     hands.key('c', {keys::control});
     if (everything) {
         hands.key('a', {keys::control});
         hands.key('c', {keys::control});
         hands.key('a', {keys::control});
     }
-    // Whatever came before has been dealt with once this has.
+    // When the bar has closed, the keys before have been handled.
     hands.key(keys::escape);
     if (!waitUntilClosed())
         return {};

@@ -8,8 +8,8 @@
 
 namespace corvane::e2e {
 
-/// The bar that shows every item of a shelf which shows two or more, used from outside. Whoever
-/// gives a number of items says how many the shelf holds.
+/// Uses the view-all bar of a shelf with two or more items, from outside the program. `items` is
+/// always the number of items that the shelf holds.
 class Bar {
 public:
     static constexpr int height = 132;
@@ -27,7 +27,7 @@ public:
     bool waitUntilClosed();
     /// The button of the shelf that opens and closes it.
     QPoint button(int items);
-    /// Presses it and waits until the bar is there and has the keyboard.
+    /// Presses that button, and waits until the bar is shown and has the keyboard.
     bool open(int items);
 
     /// The middle of a tile's picture; `nth` counts from the first one on the page.
@@ -40,10 +40,10 @@ public:
     QPoint copyButton();
     QPoint trash();
 
-    /// The paths of the files that are ticked, in their order, read by copying them. The clipboard
-    /// is the bar's afterwards, and the bar is open or closed as before.
+    /// The paths of the selected files, in their order, read by copying them. Afterwards the
+    /// clipboard holds them, and the bar is open or closed as before.
     QStringList ticked(int items);
-    /// The same of all that is held. Where some were ticked and some were not, none is afterwards.
+    /// The same for all files. If only some were selected, none is afterwards.
     QStringList held(int items);
 
 private:

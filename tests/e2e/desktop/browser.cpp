@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Found again in the window's picture: no other part of it has this colour.
+// The page is found in the window's picture by this colour, which nothing else has.
 constexpr QRgb pageColour = qRgb(0x33, 0xcc, 0x99);
 
 constexpr auto page = R"(<!doctype html><meta charset="utf-8"><title>page</title>
@@ -23,7 +23,7 @@ border: 0; padding: 8px; background: white; color: black }</style>
 <a href="%1">a link to drag</a><img src="picture.png"><textarea autocomplete="off">%2</textarea>
 )";
 
-// A browser that has never run before greets, asks, and looks for updates; none of that here.
+// Switches off what a browser shows and asks on its first run.
 constexpr auto firefoxPreferences = R"(
 user_pref("browser.aboutwelcome.enabled", false);
 user_pref("browser.shell.checkDefaultBrowser", false);
@@ -48,11 +48,11 @@ void write(const QString &path, const QByteArray &contents)
         file.write(contents);
 }
 
-/// Where the page begins in a picture of its window; null where it is not to be seen.
+/// The page's place in a picture of its window; null if it is not visible.
 QRect findPage(const QImage &window)
 {
     for (int y = 0; y < window.height(); ++y) {
-        // The page's own width: near its right edge, where neither link nor picture is.
+        // Near the right edge of the page there is neither link nor picture.
         if ((window.pixel(window.width() - 40, y) | 0xff000000) == pageColour)
             return {0, y, window.width(), window.height() - y};
     }
@@ -72,7 +72,7 @@ QStringList Browser::command(Kind kind, const QString &url) const
     QDir(profile).removeRecursively();
     QDir().mkpath(profile);
     if (kind == Kind::Chromium) {
-        // Its sandbox does not work for the super-user, whom test machines run as.
+        // Chromium's sandbox does not work for root, as whom tests may run.
         return {u"chromium"_s,
                 u"--no-sandbox"_s,
                 u"--test-type"_s,
@@ -97,7 +97,7 @@ QString Browser::serve(const QString &folder)
     m_server = m_desktop.start(u"python3"_s,
                                {u"-u"_s, u"-m"_s, u"http.server"_s, u"0"_s, u"--bind"_s,
                                 u"127.0.0.1"_s, u"--directory"_s, folder});
-    // It picks a free port and says which.
+    // The server picks a free port and prints it.
     QString port;
     eventually([&] {
         static const QRegularExpression told(u"port (\\d+)"_s);
@@ -117,7 +117,7 @@ Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteA
     write(folder + u"/page.html"_s,
           QString::fromLatin1(page).arg(link, QString::fromUtf8(initialText())).toUtf8());
 
-    // Over HTTP, as pages are: what a page from a local file offers is a local file.
+    // By HTTP, because a page from a local file offers local files.
     const QString address = serve(folder);
     if (address.isEmpty()) {
         m_problem = u"the page cannot be served: "_s + QString::fromUtf8(m_server->output());

@@ -24,23 +24,23 @@ public:
     QString problem() const { return m_problem; }
     QPoint link() const { return m_page.topLeft() + QPoint(60, 50); }
     QPoint picture() const { return m_page.topLeft() + QPoint(100, 200); }
-    /// In the first line's first word of the text, and below its last line.
+    /// Places in the text: inside the first word, and below the last line.
     QPoint firstWord() const { return m_page.topLeft() + QPoint(250, 125); }
     QPoint belowText() const { return m_page.topLeft() + QPoint(400, 380); }
     void selectAllText();
-    /// What stands in it, by way of the clipboard.
+    /// The text, read through the clipboard; waits until it is `expected`.
     QByteArray text(const QByteArray &expected);
 
-    /// What the text is when a page is shown.
+    /// The text of a page that has just been loaded.
     static QByteArray initialText() { return "first\nsecond line\n\n  last \xc3\xa9 \xe2\x82\xac"; }
 
-    /// What the site has been asked for, by whomever.
+    /// The requests that the site's server has got, from any program.
     QByteArray requests() { return m_server->output(); }
 
 private:
     QStringList command(Kind kind, const QString &url) const;
 
-    /// The address under which the folder's files can be fetched; empty where that fails.
+    /// Starts a server for the folder and gives its address; empty if that fails.
     QString serve(const QString &folder);
 
     XDesktop &m_desktop;

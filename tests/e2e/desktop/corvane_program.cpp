@@ -104,8 +104,8 @@ QString CorvaneProgram::path()
 
 bool CorvaneProgram::waitUntilReady()
 {
-    // It has its name on the bus, and then has nothing more to do: it has gone to sleep and stays
-    // so.
+    // It is ready when it has its name on the bus, and then sleeps and stays asleep, having nothing
+    // more to do.
     const bool named = eventually([this] {
         const auto answer = outputOf(
             u"dbus-send"_s,
@@ -161,7 +161,7 @@ std::optional<WindowFacts> CorvaneProgram::popup(int height)
 
 std::optional<WindowFacts> CorvaneProgram::panel()
 {
-    // A drag's picture under the pointer is an override-redirect window, too, but hangs nowhere.
+    // The picture of a drag is an unmanaged window, too, but not at the top edge.
     return find([](const WindowFacts &window) {
         return window.isOverrideRedirect && window.frame.top() == 0;
     });
@@ -250,7 +250,7 @@ QPoint CorvaneProgram::cell(int inView, int total, int nth)
 
 QPoint CorvaneProgram::badge(int inView, int total, int nth)
 {
-    // The badge's lower left quarter, on the thumbnail's corner.
+    // A point in the badge's lower left quarter, which overlaps the thumbnail.
     return cell(inView, total, nth) + QPoint(13, -14);
 }
 

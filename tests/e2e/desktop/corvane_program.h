@@ -11,10 +11,10 @@
 
 namespace corvane::e2e {
 
-/// The program under test, looked at from outside only: windows, files, clipboard, exit status.
+/// The program under test, observed from outside: windows, files, clipboard, exit status.
 class CorvaneProgram {
 public:
-    /// Everything that a test wants different from the start of a user who has changed nothing.
+    /// How this start differs from that of a user who has changed no settings.
     struct Start {
         /// settings.inViewCount; the program's own default where none is given.
         std::optional<int> inViewCount;
@@ -23,47 +23,46 @@ public:
         QProcessEnvironment environment;
         /// Whether the guide that welcomes a new user has been shown before.
         bool hasSeenWelcome = true;
-        /// Goes on with the settings that an earlier start has left.
+        /// Keeps the settings of an earlier start.
         bool keepsSettings = false;
         QStringList arguments = {};
-        /// Another build of the program, or one that starts it in its own place.
+        /// The path of another build, or of a program that starts it.
         QString program = {};
     };
 
     explicit CorvaneProgram(XDesktop &desktop);
     CorvaneProgram(XDesktop &desktop, const Start &start);
 
-    /// Up, and watching the desktop.
+    /// Waits until the program has started and watches the desktop.
     bool waitUntilReady();
     Program &program() { return *m_program; }
 
-    /// Starts it once more, as a user does who wants to see the shelf; the second one's exit
+    /// Starts the program again, as a user does to see the shelf; returns the second process's exit
     /// status.
     std::optional<int> startAgain();
 
     /// Chooses an action of the desktop's menu for the program, such as "preferences".
     bool activateAction(const QString &action) const;
 
-    /// The window that a window manager looks after, of that size where one is given, while it is
-    /// on screen.
+    /// The program's managed window that is on screen, of that size if one is given.
     std::optional<WindowFacts> window(QSize size = {});
-    /// A window that no window manager looks after and that does not hang from the top edge: a menu
-    /// or the view-all bar, of that height where one is given.
+    /// An unmanaged window that is not at the top edge: a menu or the view-all bar; of that height
+    /// if one is given.
     std::optional<WindowFacts> popup(int height = 0);
-    /// The panel while it is on screen.
+    /// The shelf's panel if it is on screen.
     std::optional<WindowFacts> panel();
     bool isShown() { return panel().has_value(); }
     bool waitUntilShown();
     bool waitUntilHidden();
-    /// Waits until the panel is that large, at the middle of the top edge of the screen, and at
-    /// rest.
+    /// Waits until the panel has that size, is in the middle of the screen's top edge, and does not
+    /// move.
     bool waitForSize(QSize size, const QRect &screen = {});
-    /// The same where the width depends on a text.
+    /// The same for a panel whose width depends on a text.
     bool waitForHeight(int height);
     QSize size();
     /// The part of the panel that takes clicks, in root coordinates.
     QRect body();
-    /// A point of the body, from its top left.
+    /// A point of the body, in root coordinates; `x` and `y` from its top left.
     QPoint at(double x, double y);
 
     /// The settings file's contents.

@@ -8,15 +8,15 @@
 
 namespace corvane::e2e {
 
-/// What one condition is waited for before a test takes it for broken. Generous: a loaded machine
-/// is slow, and a condition that comes true ends the wait at once.
+/// How long a test waits for one condition before it fails. Long, because a loaded machine is slow,
+/// and a wait ends as soon as the condition holds.
 inline constexpr std::chrono::milliseconds patience{30000};
 
-/// How long the wait for a condition lasts before it is looked at again: what is looked at must be
-/// able to run meanwhile.
+/// The pause between two checks of a condition, so that what is checked can run.
 inline constexpr std::chrono::milliseconds lookAgain{5};
 
-/// Waits until `condition` gives true (or something that converts to it), and tells whether it did.
+/// Waits until `condition` gives true (or something that converts to it), and returns whether it
+/// did.
 template<class Condition>
 bool eventually(Condition &&condition, std::chrono::milliseconds limit = patience)
 {
@@ -30,8 +30,8 @@ bool eventually(Condition &&condition, std::chrono::milliseconds limit = patienc
     return true;
 }
 
-/// Waits until what `look` gives has stayed the same for a while, and gives it; a default-made
-/// value where it never does. Emptiness does not count as rest.
+/// Waits until the value of `look` has stayed the same for a while, and returns it; a
+/// default-constructed value if that does not happen. An empty value does not count.
 template<class Look>
 auto atRest(Look &&look)
 {

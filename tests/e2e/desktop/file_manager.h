@@ -13,7 +13,7 @@ class FileManager {
 public:
     FileManager(XDesktop &desktop, const QString &folder, const QRect &frame);
 
-    /// Empty when its window is there and its files are shown.
+    /// Empty when its window is shown with its files; else what went wrong.
     QString problem() const { return m_problem; }
     QRect frame() const { return m_frame; }
     /// Where the folder's first file is, in the order of their names.
@@ -21,7 +21,7 @@ public:
     /// A place in the folder's view where no file is.
     QPoint emptyPlace() const { return m_view.bottomRight() - QPoint(60, 40); }
     void selectAll();
-    /// After a drop: takes "Copy here" from the menu that asks what to do.
+    /// After a drop: chooses "Copy here" from the file manager's menu.
     bool chooseCopy();
 
 private:

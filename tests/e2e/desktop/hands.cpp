@@ -14,8 +14,8 @@ namespace {
 
 constexpr double longestStep = 120;
 
-// No wait for anything: a hand needs time from one move to the next, and programs tell by that time
-// what it means. They merge, or overlook, what follows faster.
+// A pause that waits for no condition: programs merge or ignore events that follow faster than a
+// hand can move.
 void pause()
 {
     constexpr unsigned long milliseconds = 25;
@@ -28,7 +28,7 @@ void Hands::fake(uint8_t type, uint8_t detail, QPoint point)
 {
     xcb_test_fake_input(m_server.connection(), type, detail, XCB_CURRENT_TIME, m_server.root(),
                         static_cast<int16_t>(point.x()), static_cast<int16_t>(point.y()), 0);
-    // A question makes sure that the server has seen to it.
+    // The reply comes after the server has handled the event.
     std::free(xcb_get_input_focus_reply(m_server.connection(),
                                         xcb_get_input_focus(m_server.connection()), nullptr));
 }
@@ -87,7 +87,7 @@ void Hands::beginDrag(QPoint from, QPoint towards)
     pause();
     const QPoint way = towards - from;
     const double length = std::max(1.0, std::hypot(way.x(), way.y()));
-    // Past every toolkit's threshold (4 to 10 pixels), and some steps beyond it.
+    // Beyond the drag thresholds of all toolkits (4 to 10 pixels).
     for (const double distance : {3.0, 9.0, 16.0, 24.0, 32.0}) {
         moveTo(from + way * (distance / length));
         pause();

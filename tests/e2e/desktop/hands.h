@@ -8,8 +8,8 @@ namespace corvane::e2e {
 
 /// The user's hands: pointer and keyboard, through the X test extension.
 ///
-/// Everything goes through the server's own devices, so that grabs, raw events and input shapes
-/// behave as they do for a person.
+/// Events come from the server's own devices, so that grabs, raw events and input shapes work as
+/// for a real user.
 class Hands {
 public:
     explicit Hands(XServer &server)
@@ -19,8 +19,8 @@ public:
 
     void moveTo(QPoint point);
     void moveBy(QPoint step);
-    /// Moves as a hand does: in steps, each a moment after the other, so that nobody who watches
-    /// sees a jump. Programs begin a drag only after more than one such step.
+    /// Moves in steps with pauses, as a hand does. Programs begin a drag only after more than one
+    /// step.
     void glideTo(QPoint point);
     void press(uint8_t button = 1);
     void release(uint8_t button = 1);
@@ -28,18 +28,18 @@ public:
     void doubleClick(QPoint point);
     /// Presses at `from` and moves far enough for a drag to begin.
     void beginDrag(QPoint from, QPoint towards);
-    /// Moves a little about the place, as a hand that aims does: a target has time to answer.
+    /// Moves a little around the place, so that a target has time to answer.
     void aim(QPoint point);
 
-    /// By key symbol, for instance XK_space; with the modifiers held.
+    /// Types a key by its symbol, for instance XK_space, with the modifiers held.
     void key(uint32_t symbol, std::initializer_list<uint32_t> modifiers = {});
     void keyDown(uint32_t symbol);
     void keyUp(uint32_t symbol);
-    /// By the key's place on the keyboard, whatever the layout makes of it.
+    /// By the key's position on the keyboard, whatever the layout.
     void keyDownAt(xcb_keycode_t place);
     void keyUpAt(xcb_keycode_t place);
 
-    /// A turn of the wheel; XTEST knows wheels as buttons 4 to 7.
+    /// Turns the wheel; XTEST has wheels as buttons 4 to 7.
     enum class Wheel : uint8_t { Up = 4, Down = 5, Left = 6, Right = 7 };
     void turn(Wheel direction, int notches = 1);
 

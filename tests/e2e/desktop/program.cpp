@@ -19,8 +19,8 @@ Program::Program(const QString &name, const QStringList &arguments,
     if (!workingDirectory.isEmpty())
         m_process.setWorkingDirectory(workingDirectory);
     m_process.setChildProcessModifier([] {
-        // A session of its own, so that its children can be ended with it; and nothing is left over
-        // if the test itself is ended.
+        // In a session of its own, so that its children can be ended with it; and ended when the
+        // test is.
         setsid();
         prctl(PR_SET_PDEATHSIG, SIGTERM);
     });
@@ -36,7 +36,7 @@ Program::~Program()
 {
     if (m_pid == 0)
         return;
-    // The group is there as long as one of its members is, even after its leader.
+    // The process group exists as long as one of its members, even without its leader.
     const auto group = static_cast<pid_t>(m_pid);
     killpg(group, SIGTERM);
     if (!waitForEnd(std::chrono::seconds{3}))

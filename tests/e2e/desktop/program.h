@@ -10,7 +10,8 @@
 
 namespace corvane::e2e {
 
-/// A running program, in a session of its own; it and what it started end with this object.
+/// A running program, in a session of its own. The destructor ends it and the processes that it
+/// started.
 class Program {
 public:
     Program(const QString &name, const QStringList &arguments,
@@ -26,7 +27,7 @@ public:
     void signal(int number) const;
     /// The exit status, 128 + the signal's number, or none if it does not end in time.
     std::optional<int> waitForEnd(std::chrono::milliseconds limit = std::chrono::seconds{10});
-    /// What it has printed up to now, errors included.
+    /// What it has printed so far on standard output and standard error.
     QByteArray output();
 
 private:

@@ -8,7 +8,7 @@
 
 namespace corvane::e2e {
 
-/// Another program that wants a key with Super and Shift for itself, as long as it is there.
+/// Another program that grabs a key with Super and Shift; the grab ends with this object.
 class Rival {
 public:
     explicit Rival(const XDesktop &desktop)
@@ -16,7 +16,8 @@ public:
     {
     }
 
-    /// Whether it gets the key, by position, with none of the lock keys on.
+    /// Grabs a key, by its position, for the case that no lock key is on; false if the grab is
+    /// refused.
     bool grab(xcb_keycode_t key)
     {
         auto *const error

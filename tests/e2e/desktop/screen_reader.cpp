@@ -19,7 +19,7 @@ namespace {
 const auto accessible = u"org.a11y.atspi.Accessible"_s;
 const auto connectionName = u"screen reader"_s;
 
-/// The bus that all of this has to itself; it is started when it is first asked for.
+/// The address of the accessibility bus, which is started when it is first asked for.
 QString addressOn(const XDesktop &desktop)
 {
     static const QRegularExpression quoted(u"'([^']*)'"_s);

@@ -11,7 +11,7 @@
 
 namespace corvane::e2e {
 
-/// What somebody hears who cannot see the windows of a program, asked as screen readers ask.
+/// Reads a program's windows through the accessibility bus, as screen readers do.
 class ScreenReader {
 public:
     struct Element {
@@ -29,15 +29,15 @@ public:
     ScreenReader &operator=(const ScreenReader &) = delete;
 
     bool isReady() const { return m_bus.isConnected(); }
-    /// What a program is started with that is to be heard.
+    /// Adds the variables that a program needs to be read.
     static void addTo(QProcessEnvironment &environment);
 
-    /// Everything in the program's windows, from the outermost to the innermost.
+    /// All elements of the program's windows, from the outermost to the innermost.
     QList<Element> elements(qint64 pid) const;
-    /// The first control, no mere text, whose name begins so.
+    /// The first control (not a text) whose name begins with `name`.
     std::optional<Element> control(qint64 pid, const QString &name,
                                    const QString &description = {}) const;
-    /// Whether a text stands somewhere.
+    /// Whether an element has this text.
     bool says(qint64 pid, const QString &text) const;
 
 private:

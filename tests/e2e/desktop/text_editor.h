@@ -4,7 +4,7 @@
 
 namespace corvane::e2e {
 
-/// A window of another program with a text that can be edited, dragged from and dropped into.
+/// Another program's window with an editable text, to drag from and to drop into.
 class TextEditor {
 public:
     enum class Toolkit { Gtk3, Gtk4, Qt };
@@ -14,13 +14,13 @@ public:
                Toolkit toolkit = Toolkit::Gtk3);
 
     QString problem() const { return m_problem; }
-    /// In the first line's first word.
+    /// A point in the first word of the text.
     QPoint firstWord() const { return m_frame.topLeft() + QPoint(40, 40); }
     QPoint middle() const { return m_frame.center(); }
-    /// A bare part of the window, beside text and buttons.
+    /// A point of the title bar without text and buttons.
     QPoint titleBar() const { return m_frame.topLeft() + QPoint(m_frame.width() / 2, -8); }
     void selectAll();
-    /// What stands in it, by way of the clipboard.
+    /// The text, read through the clipboard; waits until it is `expected`.
     QByteArray text(const QByteArray &expected);
 
 private:

@@ -39,7 +39,7 @@ QByteArray handedIn(XDesktop &desktop)
                      u"string:RegisteredStatusNotifierItems"_s});
 }
 
-/// The name that the item of that process goes by on the bus; empty while none has been handed in.
+/// The bus name of that process's item; empty while none is registered.
 QString serviceOf(XDesktop &desktop, qint64 pid)
 {
     static const QRegularExpression item(u"string \"([^\"]+)/StatusNotifierItem\""_s);
@@ -142,7 +142,7 @@ NotifierPanel::NotifierPanel(XDesktop &desktop)
 NotifierPanel::~NotifierPanel()
 {
     m_program.reset();
-    // The part that shows the items is a program of its own and takes a moment longer.
+    // The plug-in that shows the items is a process of its own, which ends a moment later.
     eventually([this] { return !hasWatcher(m_desktop); });
 }
 
@@ -158,7 +158,7 @@ bool NotifierPanel::waitForItemOf(qint64 pid)
 
 QRect NotifierPanel::iconFrame()
 {
-    // Behind the handle that the panel can be moved by.
+    // To the right of the handle by which the panel can be moved.
     return {16, 4, 24, panelHeight - 8};
 }
 
@@ -190,7 +190,7 @@ QByteArray NotifierFacts::menuLayout() const
 
 QStringList NotifierFacts::menu() const
 {
-    // The strings of an answer come in the order in which they are shown: keys and values by turns.
+    // The answer has keys and values in turn, in the order of the rows.
     static const QRegularExpression value(
         u"string \"(label|type)\"\\s+variant\\s+string \"([^\"]*)\""_s);
     QStringList labels;
@@ -204,7 +204,7 @@ QStringList NotifierFacts::menu() const
 
 QString NotifierFacts::keys(const QString &label) const
 {
-    // Up to the next row; its keys come in an array within an array.
+    // The part up to the next row; the keys are in an array within an array.
     static const QRegularExpression string(u"string \"([^\"]*)\""_s);
     const QString layout = QString::fromUtf8(menuLayout());
     for (const QString &row : layout.split(u"int32 "_s)) {

@@ -10,7 +10,7 @@
 
 namespace corvane::e2e {
 
-/// A panel at the lower left of the screen with nothing in it but an X11 tray.
+/// A panel at the lower left of the screen that has only an X11 tray.
 class X11Tray {
 public:
     explicit X11Tray(XDesktop &desktop);
@@ -18,9 +18,9 @@ public:
     bool waitUntilReady();
     /// Where the first icon is.
     QRect icon() const;
-    /// Waits until something is drawn there that stands out from the panel.
+    /// Waits until an icon is drawn, that is, something other than the panel's colour.
     bool waitForIcon();
-    /// Waits until nothing is.
+    /// Waits until no icon is drawn.
     bool waitUntilEmpty();
 
 private:
@@ -30,7 +30,7 @@ private:
     std::unique_ptr<Program> m_program;
 };
 
-/// A panel that shows the status items of the session bus, at the upper left.
+/// A panel at the upper left that shows the status items of the session bus.
 class NotifierPanel {
 public:
     explicit NotifierPanel(XDesktop &desktop);
@@ -39,7 +39,7 @@ public:
     NotifierPanel &operator=(const NotifierPanel &) = delete;
 
     bool waitUntilReady();
-    /// Waits until an item of that process has been handed in.
+    /// Waits until that process has registered an item.
     bool waitForItemOf(qint64 pid);
     /// Where the first icon is.
     static QRect iconFrame();
@@ -49,15 +49,15 @@ private:
     std::unique_ptr<Program> m_program;
 };
 
-/// The status item that a process has handed in, asked as a panel asks.
+/// The status item that a process has registered, read as a panel does.
 class NotifierFacts {
 public:
     NotifierFacts(XDesktop &desktop, qint64 pid);
 
-    /// As the tool prints it.
+    /// A property, as the command-line tool prints it.
     QByteArray property(const QString &name) const;
-    /// The labels of the menu from top to bottom; a separator is a dash. Announces first that the
-    /// menu opens.
+    /// The labels of the menu from top to bottom; a separator is a dash. Tells the program first
+    /// that the menu opens, as panels do.
     QStringList menu() const;
     /// The keys that are shown beside the row of that label, "Super+Shift+D"; empty for none.
     QString keys(const QString &label) const;

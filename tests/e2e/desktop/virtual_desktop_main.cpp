@@ -1,5 +1,5 @@
-// Runs a command on a desktop of its own and ends that desktop along with it; the exit status is
-// the command's. tools/virtual-desktop calls it.
+// Runs a command on a virtual desktop, and ends the desktop after it; the exit status is the
+// command's. Called by tools/virtual-desktop.
 
 #include "e2e/desktop/x_desktop.h"
 
@@ -18,10 +18,10 @@ namespace {
 using namespace corvane::e2e;
 using namespace Qt::StringLiterals;
 
-/// The command's process; 0 before it runs.
+/// The command's process id; 0 before it is started.
 std::atomic<pid_t> command = 0;
 
-/// A signal to this program ends the command, and then the desktop in good order.
+/// On a signal ends the command; the desktop then ends in order.
 void passOn(int number)
 {
     if (command == 0)
@@ -29,7 +29,7 @@ void passOn(int number)
     ::kill(command, number);
 }
 
-/// The home folder belongs to somebody who knows the program: its guide for new users stays closed.
+/// Marks the guide for new users as seen, so that it does not open.
 bool closeTheGuide(const XDesktop &desktop)
 {
     const QString folder = desktop.environment().value(u"XDG_CONFIG_HOME"_s) + u"/Corvane"_s;
@@ -56,7 +56,7 @@ int main(int argc, char **argv)
     parser.addOptions({manager, noCompositor, size});
     parser.addHelpOption();
     parser.addPositionalArgument(u"command"_s, u"runs on the desktop"_s, u"COMMAND..."_s);
-    // What follows the command is the command's.
+    // Options after the command belong to the command.
     parser.setOptionsAfterPositionalArgumentsMode(QCommandLineParser::ParseAsPositionalArguments);
     parser.process(application);
     QStringList arguments = parser.positionalArguments();
@@ -77,7 +77,7 @@ int main(int argc, char **argv)
     const QString name = arguments.takeFirst();
     const int status = desktop.runToEnd(name, arguments, desktop.environment(),
                                         [](pid_t process) { command = process; });
-    // The command's number may be somebody else's from now on, and the desktop is ending anyway.
+    // The process id may be reused from now on, and the desktop is ending anyway.
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         std::signal(number, SIG_IGN);
     return status;

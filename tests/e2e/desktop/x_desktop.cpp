@@ -51,11 +51,11 @@ XDesktop::XDesktop(DesktopKind kind)
 
 void XDesktop::startServer(QSize size)
 {
-    // The server picks a free number by itself and writes it where it is told to.
+    // The server picks a free display number and writes it to its output.
     m_xvfb = start(u"Xvfb"_s,
                    {u"-displayfd"_s, u"1"_s, u"-noreset"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s,
                     u"0"_s, u"%1x%2x24"_s.arg(size.width()).arg(size.height())});
-    // Its messages come the same way; a line with nothing but a number is the answer.
+    // Its messages are there, too; the number is on a line of its own.
     QByteArray number;
     const bool told = eventually([&] {
         for (const QByteArray &line : m_xvfb->output().split('\n')) {
@@ -90,7 +90,7 @@ void XDesktop::startBus()
 
 void XDesktop::startWindowManager(WindowManager windowManager)
 {
-    // A manager's own compositor would make every run the same.
+    // Without the window manager's own compositor: whether there is one is the test's choice.
     m_windowManager = windowManager == WindowManager::Openbox
         ? start(u"openbox"_s, {u"--sm-disable"_s})
         : start(u"xfwm4"_s, {u"--compositor=off"_s, u"--sm-client-disable"_s});
@@ -123,7 +123,7 @@ int XDesktop::runToEnd(const QString &name, const QStringList &arguments,
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedChannels);
     process.setInputChannelMode(QProcess::ForwardedInputChannel);
-    // It is not left over if this program is ended.
+    // Ends it when this program ends.
     process.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     process.start(name, arguments);
     if (!process.waitForStarted()) {
@@ -140,7 +140,7 @@ int XDesktop::runToEnd(const QString &name, const QStringList &arguments,
 std::optional<WindowFacts>
 XDesktop::waitForWindow(const std::function<bool(const WindowFacts &)> &holds)
 {
-    // Programs ask services of the desktop first, and wait 25 s for one that does not answer.
+    // Starting programs may wait 25 s for a service of the desktop that does not answer.
     constexpr auto startOfAProgram = 4 * patience;
     std::optional<WindowFacts> found;
     eventually(
@@ -157,7 +157,7 @@ XDesktop::waitForWindow(const std::function<bool(const WindowFacts &)> &holds)
 
 std::optional<WindowFacts> XDesktop::waitForWindowOf(const Program &program)
 {
-    // Each program leads a session of its own, so its helpers' windows count as its own.
+    // A program's helpers are in its session, so their windows count as its own.
     return waitForWindow([&program](const WindowFacts &window) {
         return window.pid > 0 && getsid(static_cast<pid_t>(window.pid)) == program.pid();
     });
@@ -168,7 +168,7 @@ std::optional<WindowFacts> XDesktop::place(xcb_window_t window, const QRect &fra
     m_server->moveResize(window, frame);
     const bool placed = eventually([&] {
         const auto now = m_server->facts(window);
-        // Managers count their borders differently.
+        // Window managers take borders into account differently.
         return now && now->frame.size() == frame.size()
             && (now->frame.topLeft() - frame.topLeft()).manhattanLength() < 60;
     });
@@ -193,7 +193,7 @@ void XDesktop::clearClipboard()
 {
     xcb_set_selection_owner(m_server->connection(), noWindow, m_server->atom("CLIPBOARD"),
                             XCB_CURRENT_TIME);
-    // Done once an answer to a later question has come.
+    // The server has done it when the reply to a later request has come.
     m_server->selectionOwner("CLIPBOARD");
 }
 

@@ -26,42 +26,42 @@ struct DesktopKind {
     QSize size{1512, 982};
 };
 
-/// A desktop without a display: X server, window manager, perhaps a compositor, session bus, and a
-/// home folder that nobody else uses. Ends everything that it started.
+/// A desktop without a display: X server, window manager, perhaps a compositor, a session bus, and
+/// a home folder of its own. The destructor ends everything that it started.
 class XDesktop {
 public:
     explicit XDesktop(DesktopKind kind = {});
 
-    /// Empty when it is up, otherwise what went wrong.
+    /// Empty when it has started, else what went wrong.
     QString problem() const { return m_problem; }
 
     XServer &server() { return *m_server; }
     Hands &hands() { return *m_hands; }
 
-    /// What programs on this desktop are started with. Tests may change their copy of it.
+    /// The environment for programs on this desktop. Tests may change a copy of it.
     const QProcessEnvironment &environment() const { return m_environment; }
     QString home() const { return m_home.path(); }
     QString path(const QString &name) const { return m_home.filePath(name); }
 
     std::unique_ptr<Program> start(const QString &name, const QStringList &arguments);
-    /// Runs a program to its end with the input and output of this one, and gives its exit status,
-    /// or 128 + the number of the signal that ended it. `started` is told its process.
+    /// Runs a program with the standard input and output of this one until it ends. Returns its
+    /// exit status, or 128 + the number of the signal that ended it. `started` gets its process id.
     static int runToEnd(const QString &name, const QStringList &arguments,
                         const QProcessEnvironment &environment,
                         const std::function<void(pid_t)> &started = {});
-    /// The first window, viewable and in the window manager's care, that the condition holds for.
+    /// Waits for a managed, visible window for which `holds` is true, and returns the first one.
     std::optional<WindowFacts> waitForWindow(const std::function<bool(const WindowFacts &)> &holds);
     std::optional<WindowFacts> waitForWindowOf(const Program &program);
-    /// Moves a managed window and waits until its picture is at rest.
+    /// Moves and resizes a managed window, and waits until its picture does not change any more.
     std::optional<WindowFacts> place(xcb_window_t window, const QRect &frame);
-    /// Waits until two pictures of the area, a moment apart, are the same, and gives it.
+    /// The picture of the area, when two pictures a moment apart are the same.
     QImage pictureAtRest(const QRect &area);
 
-    /// What another program gets from the clipboard; none if nobody offers that type.
+    /// What another program gets from the clipboard; none if it does not offer that type.
     std::optional<QByteArray> clipboard(const QString &type);
-    /// Has nobody offer anything there, so that what is found next was copied later.
+    /// Empties the clipboard, so that what is found next was copied later.
     void clearClipboard();
-    /// A server that is asked to go away takes its programs with it, as a logout does.
+    /// Ends the server, and with it its programs, as a logout does.
     void endServer();
 
     void removeTemporaryFiles() const;
@@ -75,7 +75,7 @@ private:
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;
     QString m_problem;
-    // In the order in which they are started; they end in the opposite one.
+    // In the order in which they are started; they are destroyed in the opposite one.
     std::unique_ptr<Program> m_xvfb;
     std::unique_ptr<XServer> m_server;
     std::unique_ptr<Hands> m_hands;

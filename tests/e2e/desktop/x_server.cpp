@@ -31,7 +31,7 @@ XServer::XServer(const QByteArray &display)
 {
     if (isConnected())
         m_root = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
-    // Whoever does not say which version it speaks is refused everything.
+    // XFixes refuses requests of clients that have not told their version.
     const auto fixes = owned(xcb_xfixes_query_version_reply(
         connection(), xcb_xfixes_query_version(connection(), 4, 0), nullptr));
 }
@@ -126,7 +126,7 @@ void XServer::collect(xcb_window_t window, int depth, QList<WindowFacts> &found)
         if (!child)
             continue;
         found.append(*child);
-        // A frame carries no class; the program's window stands one or two windows below it.
+        // Frames have no class; the program's window is one or two levels below.
         if (child->windowClass.isEmpty() && depth > 0)
             collect(child->id, depth - 1, found);
     }
@@ -237,7 +237,7 @@ MapLog::MapLog(const QByteArray &display)
 {
     const uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(m_server.connection(), m_server.root(), XCB_CW_EVENT_MASK, &mask);
-    // Whatever happens after the answer is seen.
+    // After the reply, all further events are noted.
     m_server.focusedWindow();
 }
 
@@ -260,7 +260,7 @@ int MapLog::panelsShown(qint64 pid)
 KeyLog::KeyLog(const QByteArray &display, xcb_window_t window)
     : m_server(display)
 {
-    // Beside the window's own program: this mask is that of our connection.
+    // Each connection has its own event mask, so the program is not affected.
     const uint32_t mask = XCB_EVENT_MASK_KEY_PRESS;
     xcb_change_window_attributes(m_server.connection(), window, XCB_CW_EVENT_MASK, &mask);
     m_server.focusedWindow();

@@ -12,11 +12,11 @@
 
 namespace corvane::e2e {
 
-// The library's own names for these are enumerators, which mix badly with ids.
+// The library has enumerators for these, which mix badly with ids.
 inline constexpr xcb_window_t noWindow = 0;
 inline constexpr xcb_atom_t noAtom = 0;
 
-/// A window as another program sees it. The frame is the window's inside, in root coordinates.
+/// A window as other programs see it. `frame` is its inside, in root coordinates.
 struct WindowFacts {
     xcb_window_t id = noWindow;
     QRect frame;
@@ -47,24 +47,25 @@ public:
         return windowProperty(m_root, "_NET_ACTIVE_WINDOW").value_or(0);
     }
 
-    /// Every child of the root and, below a window manager's frames, the programs' own windows;
-    /// from the bottom to the top of the stack.
+    /// All children of the root and, below frames of the window manager, the programs' windows,
+    /// from the bottom to the top.
     QList<WindowFacts> windows() const;
     std::optional<WindowFacts> facts(xcb_window_t window) const;
 
-    /// In the window's coordinates. Empty where the window is nothing but click-through.
+    /// The shapes, in the window's coordinates. An empty input shape means that clicks go through
+    /// everywhere.
     QList<QRect> inputShape(xcb_window_t window) const;
     QList<QRect> boundingShape(xcb_window_t window) const;
 
     QImage picture(const QRect &area) const;
     QImage picture() const { return picture(QRect({0, 0}, size())); }
     QPoint pointerPosition() const;
-    /// The pointer's picture as bytes, to be compared. While something is dragged it says whether
-    /// what is below would take it.
+    /// The image of the mouse pointer as bytes, to be compared. During a drag it tells whether the
+    /// target accepts.
     QByteArray pointerPicture() const;
 
-    /// Asks the window manager to place a managed window's inside at `frame`, frame and all as near
-    /// as it does; the window tells afterwards where it really is.
+    /// Asks the window manager to place a managed window's inside at `frame`. It does so only
+    /// approximately; ask the window afterwards where it is.
     void moveResize(xcb_window_t window, const QRect &frame) const;
     void activate(xcb_window_t window) const;
 
@@ -81,12 +82,12 @@ private:
     xcb_window_t m_root = noWindow;
 };
 
-/// Which windows have been shown since it was made, however shortly.
+/// Notes which windows have been shown since it was made, however briefly.
 class MapLog {
 public:
     explicit MapLog(const QByteArray &display);
 
-    /// How often windows of a program that hang from the top edge have been shown.
+    /// How often windows of that program at the top edge have been shown.
     int panelsShown(qint64 pid);
 
 private:
@@ -94,8 +95,7 @@ private:
     QList<xcb_window_t> m_shown;
 };
 
-/// How often keys have gone down in a window since it was made; the server's repetitions of a key
-/// that is held count, too.
+/// Counts key presses that a window has got since this was made, repeats included.
 class KeyLog {
 public:
     KeyLog(const QByteArray &display, xcb_window_t window);

@@ -11,9 +11,8 @@ namespace corvane::e2e {
 namespace {
 
 constexpr uint32_t protocolVersion = 5;
-// What goes into one property; more is handed over piece by piece. The toolkit looks for the next
-// piece 20 times a second and gives a transfer five seconds in all, so pieces are as large as the
-// server takes them.
+// In bytes: the most that is given in one property. Qt looks for the next piece 20 times a second
+// and ends a transfer after five seconds, so pieces are as large as the server allows.
 constexpr qsizetype largestPiece = 12'000'000;
 
 struct Free {
@@ -29,7 +28,7 @@ XdndPeer::XdndPeer(XDesktop &desktop, const QRect &frame)
     , m_window(xcb_generate_id(connection()))
     , m_frame(frame)
 {
-    // No window manager has a say: the window is where the test wants it, and takes no focus.
+    // Unmanaged, so that the window is exactly where the test wants it, and takes no focus.
     const std::array<uint32_t, 3> values{0x446688, 1,
                                          XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE
                                              | XCB_EVENT_MASK_PROPERTY_CHANGE};
@@ -43,7 +42,7 @@ XdndPeer::XdndPeer(XDesktop &desktop, const QRect &frame)
                         XCB_ATOM_ATOM, 32, 1, &protocolVersion);
     xcb_map_window(connection(), m_window);
     xcb_flush(connection());
-    // Mapped once an answer to a later question has come.
+    // The window is mapped when the reply to a later request has come.
     m_connection->facts(m_window);
 }
 
@@ -129,7 +128,7 @@ void XdndSource::pickUp()
     hands.beginDrag(frame().center(), frame().center() + QPoint(100, -100));
     xcb_set_selection_owner(connection(), window(), atom("XdndSelection"), XCB_CURRENT_TIME);
     xcb_flush(connection());
-    // A real source's pointer goes on moving, too.
+    // The pointer goes on moving, as that of a real source.
     hands.glideTo(m_desktop.server().pointerPosition() + QPoint(20, -20));
     hands.glideTo(m_desktop.server().pointerPosition() + QPoint(20, -20));
 }
@@ -270,7 +269,7 @@ void XdndSource::answerTheRest()
 
 void XdndSource::goOn(Transfer &transfer)
 {
-    // Empty at last, which is how the end is told.
+    // The last piece is empty, which ends the transfer.
     const qsizetype size = std::min(m_largestPiece, transfer.data.size() - transfer.sent);
     xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, transfer.requestor, transfer.property,
                         transfer.type, 8, static_cast<uint32_t>(size),

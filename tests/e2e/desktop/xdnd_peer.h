@@ -13,8 +13,8 @@
 
 namespace corvane::e2e {
 
-/// A small window of a program of its own, which speaks drag and drop by hand: so that a test can
-/// say exactly what is offered, and can misbehave where real programs do so only now and then.
+/// A small window on a connection of its own, with drag and drop written by hand, so that a test
+/// decides exactly what is offered, and can do wrong what real programs do wrong only rarely.
 class XdndPeer {
 public:
     XdndPeer(XDesktop &desktop, const QRect &frame);
@@ -33,9 +33,9 @@ public:
                    std::chrono::milliseconds limit = std::chrono::seconds{20});
 
     int clicks() const { return m_clicks; }
-    /// Any message, also one that no sane program would send.
+    /// Sends any client message, also a wrong one.
     void send(xcb_window_t to, const QByteArray &type, std::array<uint32_t, 5> data);
-    /// The connection ends at once, as when the program is killed.
+    /// Closes the connection, as when the program is killed.
     void die();
 
 protected:
@@ -62,7 +62,7 @@ public:
     struct Offer {
         QByteArray type;
         QByteArray data;
-        /// A type that is offered, asked for, and not answered before `answerTheRest`.
+        /// The type is offered, but requests for it are not answered before `answerTheRest`.
         bool isSilent = false;
     };
     struct Status {
@@ -73,32 +73,31 @@ public:
     XdndSource(XDesktop &desktop, QList<Offer> offers,
                QByteArray proposedAction = "XdndActionCopy");
 
-    /// Presses in its own window, moves, and takes the drag selection: from here on the desktop
-    /// knows that something is being dragged.
+    /// Presses in its own window, moves, and takes the drag selection, which starts a drag.
     void pickUp();
-    /// Moves over the target and asks it.
+    /// Moves over the target and sends it a position.
     void enter(xcb_window_t target, QPoint point);
-    /// What it answered to that; none where no answer comes.
+    /// The target's answer; none if none comes.
     std::optional<Status> waitForStatus();
     /// Moves over the target, asks it, and waits for the answer.
     std::optional<Status> hover(xcb_window_t target, QPoint point);
     void leave(xcb_window_t target);
-    /// Releases the button over the target that was hovered last, and tells it so.
+    /// Releases the button over the target that was hovered last, and sends it the drop.
     void drop();
-    /// Releases without telling anybody: what follows after `leave`.
+    /// Releases the button without a message; to be used after `leave`.
     void letGo();
-    /// What the target said at the end; none where it never did.
+    /// The target's message at the end; none if none comes.
     std::optional<Status> waitForFinish();
     bool hasFinished() const { return m_finish.has_value(); }
 
-    /// Answers what was asked for of silent types so far, and speaks from now on.
+    /// Answers the requests for silent types so far, and later ones at once.
     void answerTheRest();
-    /// How much goes into one property; more is handed over piece by piece.
+    /// The most bytes that are given in one property; more is given piece by piece.
     void setLargestPiece(qsizetype bytes) { m_largestPiece = bytes; }
 
     /// The types that were asked for, in order.
     QList<QByteArray> asked() const { return m_asked; }
-    /// Bytes of the transfers under way that have not been fetched yet.
+    /// Bytes of incremental transfers that have not been fetched yet.
     qsizetype unsent() const
     {
         qsizetype sum = 0;
@@ -123,7 +122,7 @@ private:
     void goOn(Transfer &transfer);
 
     QList<Offer> m_offers;
-    /// Of silent types.
+    /// Requests for silent types.
     QList<xcb_selection_request_event_t> m_unanswered;
     qsizetype m_largestPiece;
     QByteArray m_proposedAction;
@@ -134,15 +133,15 @@ private:
     QList<Transfer> m_transfers;
 };
 
-/// Takes what is dropped on it, or refuses it.
+/// A target that accepts or refuses drags.
 class XdndTarget : public XdndPeer {
 public:
     enum class Finish {
-        /// As what was fetched says.
+        /// Reports what is true.
         Honest,
-        /// Says that it failed, whatever it fetched.
+        /// Reports a failure, whatever it fetched.
         Failed,
-        /// Says that all is well, and fetches nothing.
+        /// Reports success without fetching anything.
         WellWithoutFetching,
         Never,
     };
@@ -150,17 +149,17 @@ public:
 
     XdndTarget(XDesktop &desktop, const QRect &frame, bool accepts, QByteArray wantedType);
 
-    /// Whether something is over it and has been answered.
+    /// Whether a drag is over it and was answered.
     bool isHovered() const { return m_positions > 0; }
     bool hasDrop() const { return m_data.has_value(); }
-    /// Whether something was let go over it, taken or not.
+    /// Whether something was dropped on it, accepted or not.
     bool wasDroppedOn() const { return m_wasDroppedOn; }
-    /// Whether it has said how the drop ended, or would have.
+    /// Whether it has reported the end of the drop, or would have (`Finish::Never`).
     bool hasFinished() const { return m_hasFinished; }
     QByteArray data() const { return m_data.value_or(QByteArray()); }
     QList<QByteArray> offeredTypes() const { return m_types; }
     QList<QByteArray> offeredActions() const { return m_actions; }
-    /// Says what `finish` wants said.
+    /// Sends the message that `finish` asks for.
     void sayHowItEnded();
 
 protected:
