@@ -21,6 +21,7 @@ public:
     /// Draws an item's glyph into a rectangle (origin at the bottom left, y upward).
     using GlyphPainter = std::function<void(QPainter &, PhosphorIcon, const QRectF &)>;
 
+    /// In points.
     static constexpr double tileCornerRadius = 5;
 
     /// `tileColor` is the background of the drag image. `locality` must outlive it.

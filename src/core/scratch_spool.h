@@ -29,6 +29,8 @@ class WorkQueue;
 /// Main thread only, but for `leftoversRemoval`.
 class ScratchSpool {
 public:
+    /// The longest name that is kept, in characters as people count them, without number and
+    /// extension.
     static constexpr int maximumBasenameCharacters = 120;
     /// The longest file name, in bytes, that Linux file systems allow; number and extension
     /// included.

@@ -26,6 +26,7 @@ public:
     static constexpr auto viewAllShortcutKey = "settings.viewAllShortcut";
     static constexpr auto seenWelcomeKey = "settings.seenWelcome";
 
+    /// The range of `inViewCount`.
     static constexpr int minimumInViewCount = 1;
     static constexpr int maximumInViewCount = 6;
 

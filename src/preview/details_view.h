@@ -10,6 +10,7 @@ namespace corvane {
 /// Shows a file that has no other preview: its icon, its name and its details.
 class DetailsView : public QWidget {
 public:
+    /// In points.
     static constexpr int iconSide = 96;
 
     /// The icon may be null.

@@ -11,6 +11,7 @@ namespace corvane::preview_geometry {
 
 /// The largest part of the screen's available width and height that a window takes.
 inline constexpr double largestPart = 0.8;
+/// The smallest window, and the window for a file without a preview.
 inline constexpr QSize smallestWindow{360, 200};
 inline constexpr QSize detailsWindow{480, 208};
 /// The height of the line below the content.

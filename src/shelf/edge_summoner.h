@@ -23,7 +23,7 @@ class ShelfStore;
 ///        +--pointer off the shelf for leaveDelay, no button held: hidden--------+  |  |  |
 ///        +--clicked through within clicksThroughTime: hidden-----------------------+  |  |
 ///        +--used by a key, a click or a drag: stays, as if opened by hand-------------+  |
-///        +--hidden by somebody else------------------------------------------------------+
+///        +--hidden by another cause------------------------------------------------------+
 ///
 /// Welcome is: the edge tells that the pointer is still there, and free. The edge is watched only
 /// while the shelf is hidden and holds items. Delayed work is voided by restarting its lifetime.

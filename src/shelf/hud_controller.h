@@ -34,6 +34,7 @@ struct Feedback;
 /// thread only. Everything that it is given must outlive it.
 class HUDController {
 public:
+    /// The panel's frame before the shelf is first shown, in points.
     static constexpr QRectF initialFrame{0, 0, 560, 136};
     /// In seconds: the 0.32 s of the closing slide and a margin.
     static constexpr double hideDelay = 0.32 + 0.05;

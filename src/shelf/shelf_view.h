@@ -33,10 +33,11 @@ class ShelfView : public PanelContent {
 public:
     /// In seconds.
     static constexpr double flashDuration = 1.4;
+    /// How far one pages by one: in points for precise deltas, otherwise in units of which a notch
+    /// has 4.
     static constexpr double preciseScrollStep = 28;
     static constexpr double wheelScrollStep = 4;
-    /// In seconds: after this pause, scrolling of less than a step by a device without phases is
-    /// forgotten.
+    /// In seconds; without phases, less than a step is forgotten after such a pause.
     static constexpr double scrollMemory = 0.25;
 
     struct Context {
@@ -68,8 +69,7 @@ public:
     std::function<void()> onViewAll;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
     std::function<void(bool isInside)> onPointerInside;
-    /// A drop's contents are on their way (true), or are here, and tells whether others are
-    /// awaited.
+    /// True: a drop's contents are on their way. Later: they are here; true if others are awaited.
     std::function<void(bool isAwaiting)> onAwaitsDrop;
     /// A button or key was pressed, or a drag that can be dropped here entered. Called before
     /// anything else is done about it.
@@ -137,8 +137,7 @@ private:
     DragSource m_dragSource;
     double m_scale = 1;
     bool m_wasMoving = false;
-    /// The pointer's place relative to the panel's top centre, which stays where it is when the
-    /// panel resizes.
+    /// Relative to the panel's top centre, which stays where it is when the panel resizes.
     std::optional<QPointF> m_pointer;
     bool m_refusesDrag = false;
     bool m_isDragOver = false;

@@ -2,9 +2,10 @@
 
 namespace corvane {
 
-/// The buttons that are down right now, whoever has the pointer.
+/// The mouse buttons that are held now, even if another program has grabbed the pointer.
 class MouseButtons {
 public:
+    /// The left button's bit.
     static constexpr unsigned left = 1;
 
     virtual ~MouseButtons() = default;

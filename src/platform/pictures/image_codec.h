@@ -15,6 +15,7 @@ namespace corvane {
 /// more than `maximumDecodedBytes` is not decoded, and broken bytes give none.
 class ImageCodec {
 public:
+    /// The most memory that the pixels of one decoded picture may take.
     static constexpr qint64 maximumDecodedBytes = 256LL * 1024 * 1024;
     /// The quality for lossy formats, 0 to 1.
     static constexpr double compressionQuality = 0.92;

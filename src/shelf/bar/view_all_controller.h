@@ -27,11 +27,13 @@ struct Feedback;
 /// store still says that it is open. Main thread only; everything in the context must outlive it.
 class ViewAllController : public ViewAllBar {
 public:
+    /// The panel's frame before the bar is first shown, in points.
     static constexpr QRectF initialFrame{0, 0, 600, view_all_layout::barHeight};
     /// The bar's width as a share of the screen's.
     static constexpr double widthShare = 0.8;
     /// In points, between the shelf and the bar.
     static constexpr double gap = 10;
+    /// With fewer items the bar is not shown.
     static constexpr int minimumItems = 2;
 
     struct Context {

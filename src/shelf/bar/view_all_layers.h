@@ -23,6 +23,7 @@ struct Theme;
 /// theme must outlive it.
 class ViewAllLayers {
 public:
+    /// The bar's, in points.
     static constexpr double cornerRadius = 20;
 
     ViewAllLayers(LayerTree &tree, const Theme &theme);

@@ -85,6 +85,7 @@ struct ViewAllLayout {
 
 namespace view_all_layout {
 
+/// Lengths in points.
 constexpr double barHeight = 132;
 constexpr double thumbSide = 64;
 constexpr double checkSide = 16;

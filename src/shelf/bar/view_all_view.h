@@ -36,6 +36,7 @@ struct Theme;
 /// context must outlive the view.
 class ViewAllView : public PanelContent {
 public:
+    /// A scroll event of this size pages by one: in points if precise, else a notch is 4.
     static constexpr double preciseScrollStep = 34;
     static constexpr double wheelScrollStep = 4;
 

@@ -8,6 +8,7 @@ namespace corvane {
 /// A layer that shows an icon in its middle.
 class IconLayer : public BitmapLayer {
 public:
+    /// The line width of icons on controls, in points.
     static constexpr double controlWeight = 1.3;
 
     using BitmapLayer::BitmapLayer;

@@ -13,7 +13,7 @@ namespace corvane {
 /// one instance serves all layers.
 class LayerAnimator {
 public:
-    /// In seconds.
+    /// Durations in seconds.
     static constexpr double transformDuration = 0.32;
     static constexpr double opacityDuration = 0.14;
     /// Control points (0.32, 0.72) and (0, 1), rounded to single precision.

@@ -9,6 +9,7 @@
 /// out.
 namespace corvane::uri_list {
 
+/// Further addresses are ignored.
 constexpr qsizetype maximumUrls = 100'000;
 /// In bytes: three, as "%2F" has, for each byte of the longest path, and some more.
 constexpr qsizetype maximumLineLength = 16 * 1024;

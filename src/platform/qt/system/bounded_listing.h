@@ -16,6 +16,7 @@ public:
     /// Lists a folder. It may never return, so it must use nothing that is destroyed before the
     /// process ends.
     using List = std::function<QList<QByteArray>(const QByteArray &folder)>;
+    /// How long `names` waits unless told otherwise: short, since the main thread may call it.
     static constexpr std::chrono::milliseconds defaultPatience{50};
 
     explicit BoundedListing(List list = namesIn);
