@@ -67,8 +67,8 @@ public:
 
     /// The pointer came onto the shelf, or left it.
     std::function<void(bool isInside)> onPointerInside;
-    /// A drop's contents are on their way (true), or are here; then it tells whether others are
-    /// awaited.
+    /// Called with true when a drop's contents are on their way; when they are here, with whether
+    /// others are awaited.
     std::function<void(bool isAwaiting)> onAwaitsDrop;
     /// The user pressed a button or a key on the shelf, or drags something over it that it would
     /// take.

@@ -69,7 +69,8 @@ public:
     std::function<void()> onViewAll;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
     std::function<void(bool isInside)> onPointerInside;
-    /// True: a drop's contents are on their way. Later: they are here; true if others are awaited.
+    /// Called with true when a drop's contents are on their way; when they are here, with whether
+    /// others are awaited.
     std::function<void(bool isAwaiting)> onAwaitsDrop;
     /// A button or key was pressed, or a drag that can be dropped here entered. Called before
     /// anything else is done about it.
