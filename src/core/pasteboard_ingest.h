@@ -52,7 +52,8 @@ public:
     /// The items of one drop: files, else a picture, else a link, else text; perhaps none.
     QList<DropItem> readAll(Pasteboard &pasteboard) const;
 
-    /// The item of one file on disk. A TIFF becomes an item that is still being made.
+    /// The item of one file on disk. A TIFF on a local disk becomes an item that is still being
+    /// made, if there is a spool.
     DropItem fileItem(const QUrl &url) const;
 
 private:

@@ -28,8 +28,8 @@ public:
     RemotePictures &operator=(const RemotePictures &) = delete;
     ~RemotePictures();
 
-    /// Asked whether the item is still on the shelf, before its file is fetched and before it is
-    /// converted. Where this is empty all items are wanted.
+    /// Asked whether the item is still on the shelf: before a file that had to wait is fetched, and
+    /// before it is converted. Where this is empty all items are wanted.
     std::function<bool(const QUuid &item)> isWanted;
 
     /// Queues the item, whose payload must be a file; reading begins later, on another thread.

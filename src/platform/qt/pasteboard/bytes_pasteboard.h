@@ -8,8 +8,8 @@ namespace corvane {
 /// and kept.
 class BytesPasteboard : public Pasteboard {
 public:
-    /// In bytes: a larger text is not read at all. If half of it were taken its source might delete
-    /// the whole.
+    /// In bytes: a larger text counts as missing, so that the drop is not taken and its source
+    /// keeps all of it.
     static constexpr qsizetype maximumTextBytes = 256LL * 1024 * 1024;
 
     /// The types among `offered` that hold addresses, the best first, as the source spells them.
