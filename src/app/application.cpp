@@ -89,7 +89,8 @@ int runApplication(int argc, char **argv)
         return 1;
     }
 
-    // However the process ends, nothing of the spool may outlive it.
+    // The process may end by a signal, by the user or with the session. In all cases `putInOrder`
+    // runs, which removes the spool, within a time limit.
     end_deadline::prepare();
     const auto terminate = [&delegate] {
         putInOrder(std::exchange(delegate, nullptr));

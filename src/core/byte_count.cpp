@@ -61,7 +61,7 @@ QString formatByteCount(qint64 bytes)
     for (std::size_t i = 0; i < units.size(); ++i) {
         const Unit &unit = units[i];
         const qint64 steps = rounded(bytes, unit);
-        // 999,999 bytes are no 1000 KB but 1 MB.
+        // 999,999 bytes are shown as 1 MB, not as 1000 KB.
         const bool reachesNext = steps >= 1000 * powerOfTen(unit.digits);
         if (!reachesNext || i + 1 == units.size())
             return withoutTrailingZeros(steps, unit.digits) + QLatin1String(unit.name);

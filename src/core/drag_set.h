@@ -17,8 +17,7 @@ struct DragSet {
     /// The items that leave if the target takes them, one for each writer. Items that cannot be
     /// dragged are left out and stay on the shelf.
     QList<DropItem> items;
-    /// The form in which each of them travels: pictures in memory as files, which may still be
-    /// being written.
+    /// What each item is offered as: pictures in memory as files, which may still be being written.
     QList<DropItem> forms;
 };
 
@@ -29,8 +28,8 @@ struct DragSet {
 DragSet makeDragSet(const QList<DropItem> &items, const DragWriter &writer,
                     SavedPictures &pictures);
 
-/// Whether an item must stay although the target took `form`: a link to a file of the shelf's own
-/// leads nowhere once the shelf has deleted it.
+/// Whether an item must stay although the target took `form`: the target made a link to a file in
+/// the spool, which would lead nowhere once the shelf deletes that file.
 bool isOnlyLinkedTo(const DropItem &form, DragOperation operation);
 
 } // namespace corvane

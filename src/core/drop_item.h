@@ -41,8 +41,8 @@ public:
 
     /// Makes a new item with a fresh random id and no thumbnail.
     DropItem(Payload payload, QString title, QString subtitle, bool isSpooled);
-    /// A new item whose file will be `file`, in the spool, but is still being made; from `original`
-    /// where that is a file that can be shown meanwhile.
+    /// A new item whose file `file`, in the spool, is still being made. `original` is the file that
+    /// it is made from, to be previewed meanwhile; none if there is none.
     static DropItem beingMade(File file, QString title, QString subtitle,
                               std::optional<QUrl> original);
     DropItem(const DropItem &);
@@ -68,11 +68,10 @@ public:
     /// any other; code that needs the file waits for it with (`ItemPreparation::whenReady`).
     bool isBeingMade() const;
     std::optional<QUrl> original() const;
-    /// What can be looked at now: the item itself, or the file that it is made from; none where
-    /// there is no such file.
+    /// The item to preview now: this one or, while it is being made, one with the original file;
+    /// none if there is no original.
     std::optional<DropItem> presentForm() const;
-    /// Takes over payload, texts and `isSpooled` of what it has been made into; id and thumbnail
-    /// stay.
+    /// Takes over payload, texts and `isSpooled` of `made`; id and thumbnail stay.
     void become(const DropItem &made);
 
     /// The icon drawn where there is no thumbnail. A file counts as a folder by its subtitle, which

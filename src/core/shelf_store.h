@@ -125,7 +125,7 @@ public:
     void ownDragChanged(bool isOwn);
 
 private:
-    /// An operation that publishes more than once, as long as it lives.
+    /// Exists while an operation goes on that publishes more than once.
     class Operation;
 
     int count() const { return static_cast<int>(m_items.size()); }

@@ -32,8 +32,8 @@ struct StatusMenuState {
 
 namespace status_menu {
 
-/// The rows, without actions. Nothing can be viewed all at once of fewer than two items, and
-/// nothing cleared of none.
+/// The rows, without actions. "View All Items" is there from two items on, the row that clears the
+/// shelf from one on.
 MenuRows rows(const StatusMenuState &state);
 
 /// The keys to show for a shortcut: its character in lower case and its modifiers; nothing without

@@ -30,7 +30,7 @@ struct MenuRow {
     int id = 0;
     QString title;
     KeyEquivalent keyEquivalent;
-    /// Done when the row is chosen; nothing where there is none.
+    /// Called when the row is chosen. May be empty.
     std::function<void()> action;
 
     bool isSeparator() const { return title.isEmpty(); }

@@ -7,19 +7,21 @@
 
 namespace corvane {
 
-/// A TIFF file whose translucent pixels are read as they are stored.
+/// Presents a TIFF file so that translucent pixels are read as they are stored.
 ///
 /// A TIFF says whether its colours were multiplied with their alpha. If they were not, libtiff does
 /// so while it reads eight bits a channel, and colours behind thin alpha are rounded away; Qt
 /// cannot ask it not to. Where the file leaves the meaning of its alpha open, libtiff hands the
-/// values over as they are, and Qt takes them for colours that were not multiplied. So that is what
-/// the reader is told here. BigTIFF files, and all that is not such a TIFF, pass unchanged.
+/// values over as they are, and Qt takes them for colours that were not multiplied. So the two
+/// bytes that say "not multiplied" are replaced by "open" here. All other files, BigTIFF included,
+/// are presented unchanged.
 class TiffAsStored : public QIODevice {
 public:
     /// `file` is open for reading, not sequential, and outlives this.
     explicit TiffAsStored(QIODevice &file);
 
-    /// What was read from this. Qt drops the alpha beside grey levels, but leaves it where it was.
+    /// The picture that Qt has read from this, corrected: Qt ignores the alpha of grey pictures,
+    /// but keeps its values in the image.
     QImage corrected(QImage image) const;
 
     bool isSequential() const override { return false; }
@@ -33,9 +35,10 @@ private:
     void examine();
 
     QIODevice &m_file;
-    /// Where the file says that its colours were not multiplied: two bytes, read as none.
+    /// The place of the two bytes that say "not multiplied"; they are read as zero, which leaves it
+    /// open.
     std::optional<qint64> m_statement;
-    /// How grey levels stand beside their alpha, where they have one.
+    /// For a grey picture with alpha, the format that its pixels really have.
     std::optional<QImage::Format> m_greyFormat;
 };
 

@@ -47,7 +47,7 @@ public:
     /// The user let go: waits from now on for the window that accepted last.
     Target wasDropped();
     bool isWaiting() const { return m_isWaiting; }
-    /// Whether it waits for that window, or for one of the same program.
+    /// Whether it was dropped on that window and has not ended.
     bool wasDroppedOn(xcb_window_t window) const;
     /// Whether the window belongs to the program of the target.
     bool isOverProgramOf(xcb_window_t window) const;
