@@ -4,8 +4,10 @@
 #include "fakes/fake_desktop_services.h"
 #include "fakes/fake_file_icons.h"
 #include "fakes/fake_file_locality.h"
+#include "fakes/fake_keyboard_focus.h"
 #include "fakes/fake_panel_window.h"
 #include "fakes/fake_window_activation.h"
+#include "platform/desktop/keyboard_loan.h"
 #include "platform/qt/base/qt_main_queue.h"
 #include "platform/qt/base/qt_work_queue.h"
 #include "platform/system/file_url.h"
@@ -167,9 +169,17 @@ int run()
     test::FakeFileIcons icons;
     test::FakeDesktopServices desktop;
     test::FakeWindowActivation activation;
+    test::FakeKeyboardFocus focus;
+    KeyboardLoan keyboard(focus, queue);
     test::FakePanelWindow shelf;
     shelf.setFrame({600, 938, 300, 44});
-    QtPreviewPanel panel({loader, icons, desktop, activation, queue, shelf});
+    QtPreviewPanel panel({.loading = loader,
+                          .icons = icons,
+                          .desktop = desktop,
+                          .activation = activation,
+                          .keyboard = keyboard,
+                          .queue = queue,
+                          .shelf = shelf});
     OneFile file;
     panel.setController(&file);
 

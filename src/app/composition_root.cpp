@@ -127,6 +127,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                     .icons = fileIcons,
                     .desktop = desktopServices,
                     .activation = desktop.windowActivation,
+                    .keyboard = desktop.panels.keyboard,
                     .queue = mainQueue,
                     .shelf = panel})
     , presenter({.panel = previewPanel, .mainQueue = mainQueue, .workQueue = previewWork},

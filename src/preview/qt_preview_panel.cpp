@@ -1,6 +1,7 @@
 #include "preview/qt_preview_panel.h"
 
 #include "platform/base/main_queue.h"
+#include "platform/desktop/keyboard_loan.h"
 #include "platform/desktop/panel_window.h"
 #include "platform/desktop/window_activation.h"
 #include "platform/pictures/file_icons.h"
@@ -49,7 +50,7 @@ void QtPreviewPanel::makeKeyAndOrderFront()
         return;
     m_isVisible = true;
     m_showing = std::make_shared<bool>(true);
-    m_previous = QGuiApplication::focusWindow();
+    m_context.keyboard.windowOpens();
     m_heldKey.watch();
     m_controller->beginPreviewPanelControl(*this);
 }
@@ -189,31 +190,13 @@ void QtPreviewPanel::closeWindow()
 {
     if (!m_window)
         return;
-    giveKeyboardBack();
+    m_context.keyboard.windowWillHide(WindowNumber{m_window->winId()});
     m_window->hide();
+    m_context.keyboard.windowHidden();
     // Ignores clicks that were made together with the one that closed it.
     m_window->setEnabled(false);
     // Later, because this may run inside the handling of one of its events.
     m_window.release()->deleteLater();
-}
-
-void QtPreviewPanel::giveKeyboardBack()
-{
-    QWindow *const previous = m_previous;
-    m_previous = nullptr;
-    // Before the window is hidden: after that, the window manager gives the keyboard to a window
-    // that it manages, and the shelf is none.
-    if (!m_window->isActiveWindow() || !previous || !previous->isVisible())
-        return;
-    m_context.activation.giveKeyboard(*previous);
-    // Some window managers, when they hear that the window is gone, give the keyboard to no window.
-    // So it is asked for once more, unless the user went on to another window.
-    constexpr double aMoment = 0.2;
-    m_context.queue.asyncAfter(
-        aMoment, [guarded = QPointer(previous), &activation = m_context.activation] {
-            if (guarded && guarded->isVisible() && !QGuiApplication::focusWindow())
-                activation.giveKeyboard(*guarded);
-        });
 }
 
 } // namespace corvane

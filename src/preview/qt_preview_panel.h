@@ -4,15 +4,16 @@
 #include "platform/preview/preview_panel.h"
 #include "preview/held_key.h"
 
-#include <QPointer>
-#include <QWindow>
-
 #include <memory>
+#include <optional>
+
+class QScreen;
 
 namespace corvane {
 
 class DesktopServices;
 class FileIcons;
+class KeyboardLoan;
 class MainQueue;
 class PanelWindow;
 class PreviewWindow;
@@ -36,6 +37,7 @@ public:
         FileIcons &icons;
         DesktopServices &desktop;
         WindowActivation &activation;
+        KeyboardLoan &keyboard;
         MainQueue &queue;
         const PanelWindow &shelf;
     };
@@ -60,7 +62,6 @@ private:
     void setContent();
     void place();
     void closeWindow();
-    void giveKeyboardBack();
     const QScreen *screen() const;
 
     Context m_context;
@@ -72,8 +73,6 @@ private:
     std::optional<QString> m_title;
     std::unique_ptr<PreviewWindow> m_window;
     QRect m_placed;
-    /// The window that had the keyboard before, if it is one of ours.
-    QPointer<QWindow> m_previous;
     HeldKey m_heldKey;
     /// Reset when the panel is hidden, which ends what waits for opening.
     std::shared_ptr<bool> m_showing;

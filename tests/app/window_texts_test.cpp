@@ -7,10 +7,12 @@
 #include "app/unanswered_start.h"
 #include "fakes/fake_desktop_services.h"
 #include "fakes/fake_file_icons.h"
+#include "fakes/fake_keyboard_focus.h"
 #include "fakes/fake_panel_window.h"
 #include "fakes/fake_preview_documents.h"
 #include "fakes/fake_window_activation.h"
 #include "fakes/test_clock.h"
+#include "platform/desktop/keyboard_loan.h"
 #include "preview/preview_window.h"
 #include "preview/qt_preview_panel.h"
 #include "services/preview_file.h"
@@ -201,10 +203,18 @@ TEST(Texts, OfThePreview)
 
     FakeDesktopServices desktop;
     FakeWindowActivation activation;
+    FakeKeyboardFocus focus;
+    KeyboardLoan keyboard(focus, clock);
     FakePanelWindow shelf;
     shelf.setFrame({300, 500, 200, 44});
     OneFile file;
-    QtPreviewPanel panel({loading, icons, desktop, activation, clock, shelf});
+    QtPreviewPanel panel({.loading = loading,
+                          .icons = icons,
+                          .desktop = desktop,
+                          .activation = activation,
+                          .keyboard = keyboard,
+                          .queue = clock,
+                          .shelf = shelf});
     panel.setController(&file);
     window.hide();
     panel.makeKeyAndOrderFront();

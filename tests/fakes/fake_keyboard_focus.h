@@ -26,6 +26,13 @@ public:
         m_asked.push_back(owner.active);
         return true;
     }
+    bool askForAnswer() override
+    {
+        if (!hasWindowManager)
+            return false;
+        m_asked.push_back(WindowNumber::None);
+        return true;
+    }
     void observeAnswers(std::function<void()> callback) override
     {
         m_observers.add(std::move(callback));
@@ -38,16 +45,20 @@ public:
         swallowed.emplace_back(key, modifiers);
     }
 
-    /// The window manager activates the window that it was asked for first. With `givesKeyboard`
-    /// false it leaves the keyboard with another window.
+    /// The window manager activates the window that it was asked for first, or says that it has
+    /// come so far where it was asked for an answer alone. It may find that somebody else has the
+    /// keyboard by rights.
     void answer(bool givesKeyboard = true)
     {
         if (m_asked.empty())
             return;
-        active = m_asked.front();
+        const WindowNumber asked = m_asked.front();
         m_asked.pop_front();
-        if (givesKeyboard)
-            focused = active;
+        if (asked != WindowNumber::None) {
+            active = asked;
+            if (givesKeyboard)
+                focused = asked;
+        }
         m_observers.notify();
     }
 
@@ -56,6 +67,7 @@ public:
     std::vector<Owner> givenBack;
     std::set<NativeKey> keysDown;
     bool leftButtonIsDown = false;
+    bool hasWindowManager = true;
     std::vector<std::pair<NativeKey, std::uint32_t>> swallowed;
 
 private:

@@ -6,15 +6,12 @@
 
 namespace corvane::test {
 
-/// Remembers which windows were brought forward and which were given the keyboard.
+/// Remembers which windows were brought forward.
 class FakeWindowActivation : public WindowActivation {
 public:
     void bringToFront(QWindow &window) override { broughtForward << &window; }
 
-    void giveKeyboard(QWindow &window) override { keyboardGiven << &window; }
-
     QList<const QWindow *> broughtForward;
-    QList<const QWindow *> keyboardGiven;
 };
 
 } // namespace corvane::test

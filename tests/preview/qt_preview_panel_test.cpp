@@ -1,9 +1,11 @@
 #include "fakes/fake_desktop_services.h"
 #include "fakes/fake_file_icons.h"
+#include "fakes/fake_keyboard_focus.h"
 #include "fakes/fake_panel_window.h"
 #include "fakes/fake_preview_documents.h"
 #include "fakes/fake_window_activation.h"
 #include "fakes/test_clock.h"
+#include "platform/desktop/keyboard_loan.h"
 #include "preview/qt_preview_panel.h"
 
 #include <QApplication>
@@ -11,8 +13,10 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QWheelEvent>
 #include <QWidget>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -106,7 +110,13 @@ struct QtPreviewPanelTest : testing::Test {
     QtPreviewPanelTest()
     {
         shelf.setFrame({300, 500, 200, 44});
-        panel.emplace(QtPreviewPanel::Context{loading, icons, desktop, activation, clock, shelf});
+        panel.emplace(QtPreviewPanel::Context{.loading = loading,
+                                              .icons = icons,
+                                              .desktop = desktop,
+                                              .activation = activation,
+                                              .keyboard = keyboard,
+                                              .queue = clock,
+                                              .shelf = shelf});
         panel->setController(&item);
     }
     ~QtPreviewPanelTest() override
@@ -152,7 +162,9 @@ struct QtPreviewPanelTest : testing::Test {
     FakeFileIcons icons;
     FakeDesktopServices desktop;
     FakeWindowActivation activation;
+    FakeKeyboardFocus focus;
     TestClock clock;
+    KeyboardLoan keyboard{focus, clock};
     FakePanelWindow shelf;
     OneItem item;
     std::optional<QtPreviewPanel> panel;
@@ -266,6 +278,58 @@ TEST_F(QtPreviewPanelTest, SpaceAndEscapeCloseItOnce)
     EXPECT_EQ(item.ended, 2);
     panel->orderOut();
     EXPECT_EQ(item.ended, 2);
+}
+
+TEST_F(QtPreviewPanelTest, TheShelfThatItWasOpenedFromHasTheKeyboardAgain)
+{
+    constexpr WindowNumber shelfsNumber{10};
+    keyboard.join(shelfsNumber);
+    keyboard.shown(shelfsNumber);
+    keyboard.wantedByHand(shelfsNumber);
+    show(textOf(QStringLiteral("hello")));
+    focus.focused = WindowNumber{window()->winId()};
+    panel->orderOut();
+    EXPECT_EQ(focus.focused, shelfsNumber);
+    // The window manager has noticed that the window is gone, and chosen nobody.
+    focus.focused = WindowNumber::None;
+    focus.answer();
+    EXPECT_EQ(focus.focused, shelfsNumber);
+}
+
+TEST_F(QtPreviewPanelTest, GivesTheKeyboardAwayWhileItIsOnScreenAndAsksTheWindowManagerAfterwards)
+{
+    struct Watched : FakeKeyboardFocus {
+        void giveTo(WindowNumber to) override
+        {
+            log << (window() ? QStringLiteral("given before") : QStringLiteral("given after"));
+            FakeKeyboardFocus::giveTo(to);
+        }
+        bool askForAnswer() override
+        {
+            log << (window() ? QStringLiteral("asked before") : QStringLiteral("asked after"));
+            return FakeKeyboardFocus::askForAnswer();
+        }
+        QStringList log;
+    } watched;
+    KeyboardLoan loan(watched, clock);
+    constexpr WindowNumber shelfsNumber{10};
+    loan.join(shelfsNumber);
+    loan.shown(shelfsNumber);
+    panel.emplace(QtPreviewPanel::Context{.loading = loading,
+                                          .icons = icons,
+                                          .desktop = desktop,
+                                          .activation = activation,
+                                          .keyboard = loan,
+                                          .queue = clock,
+                                          .shelf = shelf});
+    panel->setController(&item);
+    watched.focused = shelfsNumber;
+    show(textOf(QStringLiteral("hello")));
+    watched.focused = WindowNumber{window()->winId()};
+    panel->orderOut();
+    EXPECT_EQ(watched.log,
+              (QStringList{QStringLiteral("given before"), QStringLiteral("asked after")}));
+    panel.reset();
 }
 
 TEST_F(QtPreviewPanelTest, TheRepeatsOfTheKeyThatOpenedItDoNotCloseIt)

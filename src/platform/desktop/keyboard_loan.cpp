@@ -81,6 +81,32 @@ void KeyboardLoan::userWentOn(WindowNumber panel)
     m_wantedMeanwhile.reset();
 }
 
+void KeyboardLoan::windowOpens()
+{
+    m_behindWindow = m_focus.focusedWindow();
+}
+
+void KeyboardLoan::windowWillHide(WindowNumber window)
+{
+    const WindowNumber behind = std::exchange(m_behindWindow, WindowNumber::None);
+    if (!isShown(behind) || m_focus.focusedWindow() != window)
+        return;
+    // Before it is hidden: once it is, the window manager chooses among its own windows, and panels
+    // are none of them.
+    m_focus.giveTo(behind);
+    m_wantedMeanwhile = behind;
+    m_isOwnChoiceAwaited = true;
+}
+
+void KeyboardLoan::windowHidden()
+{
+    // Some window managers choose all the same, and have the keyboard given to nobody.
+    if (m_isOwnChoiceAwaited && m_focus.askForAnswer())
+        awaitAnswer();
+    else if (m_awaitedAnswers == 0)
+        forgetAnswers();
+}
+
 void KeyboardLoan::pressed()
 {
     m_wasWithPanelBeforePress = isPanel(m_focus.focusedWindow());
@@ -183,14 +209,17 @@ void KeyboardLoan::awaitAnswer()
 {
     ++m_awaitedAnswers;
     m_waiting.restart();
-    m_queue.asyncAfter(answerPatience, m_waiting.guard([this] { forgetAnswers(); }));
+    m_queue.asyncAfter(answerPatience, m_waiting.guard([this] { answerIsOverdue(); }));
 }
 
 /// The window manager has activated the owner, which now has the keyboard even if a panel asked for
 /// it later. If another window has it, the user or that program gave it to it, and it keeps it.
 void KeyboardLoan::answered()
 {
-    if (m_wantedMeanwhile && isJustGivenBackTo(m_focus.focusedWindow()))
+    const WindowNumber focused = m_focus.focusedWindow();
+    const bool isByWindowManager
+        = isJustGivenBackTo(focused) || (m_isOwnChoiceAwaited && !isPanel(focused));
+    if (m_wantedMeanwhile && isByWindowManager)
         m_focus.giveTo(*m_wantedMeanwhile);
     if (m_awaitedAnswers > 0)
         --m_awaitedAnswers;
@@ -198,9 +227,18 @@ void KeyboardLoan::answered()
         forgetAnswers();
 }
 
+void KeyboardLoan::answerIsOverdue()
+{
+    // The user may have chosen somebody since, but not nobody.
+    if (m_isOwnChoiceAwaited && m_wantedMeanwhile && m_focus.focusedWindow() == WindowNumber::None)
+        m_focus.giveTo(*m_wantedMeanwhile);
+    forgetAnswers();
+}
+
 void KeyboardLoan::forgetAnswers()
 {
     m_awaitedAnswers = 0;
+    m_isOwnChoiceAwaited = false;
     m_wantedMeanwhile.reset();
     m_waiting.restart();
 }

@@ -18,9 +18,12 @@ class MainQueue;
 ///     with a panel --another panel wants it--> with that one; the owner stays remembered
 ///     with a panel --it hides, resigns, or its drag is let go elsewhere--> with its owner
 ///     with a panel --the user clicks elsewhere--> wherever the click takes it
+///     with a panel --a window of ours opens--> with that window
+///     with that window --it hides--> with the panel, if that is still shown
 ///
-/// A window manager that is asked to activate the owner may do that after a panel has asked for the
-/// keyboard again. Then that panel is given it once more.
+/// A window manager that is asked to activate the owner may do so late, after a panel has asked for
+/// the keyboard again; one that hears of a hidden window may choose the next one by itself. Then
+/// the panel is given it once more.
 ///
 /// Both that it is given must outlive it. Main thread only.
 class KeyboardLoan {
@@ -57,7 +60,15 @@ public:
     /// keyboard where the click puts it.
     void userWentOn(WindowNumber panel);
 
-    /// The left button went down on a panel; to be called before the panel reacts.
+    /// A window of ours that the window manager knows opens, as a preview does, and is given the
+    /// keyboard there. One at a time.
+    void windowOpens();
+    /// Called while that window is still on screen: it has the keyboard until then, unless the user
+    /// went on. `windowHidden` follows at once.
+    void windowWillHide(WindowNumber window);
+    void windowHidden();
+
+    /// The left button went down on a panel, which has not done anything for it yet.
     void pressed();
     /// The drag that began with that press is over. `promised` is what the target would do.
     void dragLetGo(DragOperation promised);
@@ -93,6 +104,7 @@ private:
     void giveBackUnlessClaimed(WindowNumber hidden);
     void awaitAnswer();
     void answered();
+    void answerIsOverdue();
     void forgetAnswers();
 
     KeyboardFocus &m_focus;
@@ -106,6 +118,10 @@ private:
     int m_awaitedAnswers = 0;
     /// The panel that asked for the keyboard while answers were awaited.
     std::optional<WindowNumber> m_wantedMeanwhile;
+    /// Who had it when a window of ours opened, and whether the window manager may now choose
+    /// somebody because that is hidden.
+    WindowNumber m_behindWindow = WindowNumber::None;
+    bool m_isOwnChoiceAwaited = false;
     bool m_wasWithPanelBeforePress = false;
     /// Escape ended a drag and is still held. The keyboard is given back when it is released, so
     /// that its repeats do not reach the owner.

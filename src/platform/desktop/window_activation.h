@@ -14,9 +14,6 @@ public:
     /// desktops refuse windows that push themselves forward. May happen a moment after the call.
     /// Main thread only.
     virtual void bringToFront(QWindow &window) = 0;
-    /// Gives the keyboard at once to a shown window that the window manager does not manage. Main
-    /// thread only.
-    virtual void giveKeyboard(QWindow &window) = 0;
 };
 
 } // namespace corvane

@@ -100,6 +100,20 @@ TYPED_TEST(KeyboardFocusContract, isTakenFromAPanelAlsoWhereNobodyHadItBefore)
     EXPECT_NE(focus.focusedWindow(), this->desk.panel);
 }
 
+TYPED_TEST(KeyboardFocusContract, tellsWhenTheWindowManagerHasComeSoFar)
+{
+    ASSERT_TRUE(this->hasIt(this->desk.program));
+    auto &focus = this->desk.focus;
+    int answers = 0;
+    focus.observeAnswers([&] { ++answers; });
+    focus.giveTo(this->desk.panel);
+    EXPECT_TRUE(focus.askForAnswer());
+    EXPECT_EQ(answers, 0) << "it is not waited for";
+    EXPECT_TRUE(this->desk.until([&] { return answers > 0; }));
+    EXPECT_TRUE(this->hasIt(this->desk.panel)) << "asking gives it to nobody";
+    EXPECT_EQ(answers, 1);
+}
+
 TYPED_TEST(KeyboardFocusContract, knowsThatNothingIsHeldDown)
 {
     EXPECT_FALSE(this->desk.focus.isAnyKeyDown());

@@ -16,6 +16,8 @@ constexpr WindowNumber bar{11};
 constexpr WindowNumber program{20};
 constexpr WindowNumber field{21};
 constexpr WindowNumber stranger{30};
+/// A window of ours that the window manager knows.
+constexpr WindowNumber preview{40};
 
 constexpr NativeKey escape{9};
 constexpr std::uint32_t controlBit = 4;
@@ -43,6 +45,18 @@ protected:
         loan->pressed();
         loan->wantedByHand(shelf);
         loan->dragLetGo(promised);
+    }
+    /// Opened from the shelf, as the user sees it.
+    void openPreview()
+    {
+        lendToShelf();
+        loan->windowOpens();
+        focus.focused = focus.active = preview;
+    }
+    void closePreview()
+    {
+        loan->windowWillHide(preview);
+        loan->windowHidden();
     }
     void waitForClick() { clock.advance(KeyboardLoan::clickPatience); }
 
@@ -394,6 +408,121 @@ TEST_F(KeyboardLoanTest, waitsNoLongerThanASecondForAnAnswerThatNeverComes)
     EXPECT_EQ(focus.givenBack[1].focused, program);
     focus.answer();
     EXPECT_EQ(focus.focused, program) << "no panel wants it";
+}
+
+TEST_F(KeyboardLoanTest, isWithThePanelAgainBeforeAWindowOfOursHides)
+{
+    openPreview();
+    loan->windowWillHide(preview);
+    EXPECT_EQ(focus.focused, shelf);
+    loan->windowHidden();
+    focus.answer();
+    EXPECT_EQ(focus.focused, shelf);
+    EXPECT_TRUE(focus.givenBack.empty());
+    loan->willHide(shelf);
+    EXPECT_EQ(focus.focused, field) << "the owner is the one before the panels";
+}
+
+TEST_F(KeyboardLoanTest, staysWithThatPanelWhomeverTheWindowManagerChooses)
+{
+    for (const WindowNumber chosen : {WindowNumber::None, program}) {
+        openPreview();
+        closePreview();
+        focus.focused = chosen;
+        focus.answer();
+        EXPECT_EQ(focus.focused, shelf) << "chosen: " << static_cast<int>(chosen);
+        focus.focused = chosen;
+        focus.answer();
+        clock.advance(KeyboardLoan::answerPatience);
+        EXPECT_EQ(focus.focused, chosen) << "that was for once";
+    }
+}
+
+TEST_F(KeyboardLoanTest, staysWithThatPanelAlsoWhereAnEarlierAnswerComesFirst)
+{
+    lendToShelf();
+    loan->resigned(shelf);
+    openPreview();
+    closePreview();
+    focus.answer();
+    EXPECT_EQ(focus.focused, shelf);
+    focus.focused = WindowNumber::None;
+    focus.answer();
+    EXPECT_EQ(focus.focused, shelf);
+}
+
+TEST_F(KeyboardLoanTest, isLeftWhereItIsWhenAWindowOfOursHidesThatHasItNoMore)
+{
+    openPreview();
+    focus.focused = stranger;
+    closePreview();
+    EXPECT_EQ(focus.focused, stranger);
+    focus.answer();
+    clock.advance(KeyboardLoan::answerPatience);
+    EXPECT_EQ(focus.focused, stranger);
+}
+
+TEST_F(KeyboardLoanTest, isLeftToTheWindowManagerWhereNoPanelIsBehindAWindowOfOurs)
+{
+    loan->windowOpens();
+    focus.focused = preview;
+    closePreview();
+    EXPECT_EQ(focus.focused, preview) << "a program had it";
+    openPreview();
+    loan->willHide(shelf);
+    closePreview();
+    EXPECT_EQ(focus.focused, preview) << "the panel is hidden";
+    loan->shown(shelf);
+    closePreview();
+    EXPECT_EQ(focus.focused, preview) << "what opened once hides once";
+}
+
+TEST_F(KeyboardLoanTest, isWithAnotherPanelThatWantsItBeforeTheWindowManagerHasChosen)
+{
+    openPreview();
+    closePreview();
+    loan->shown(bar);
+    loan->wantedByHand(bar);
+    focus.focused = WindowNumber::None;
+    focus.answer();
+    EXPECT_EQ(focus.focused, bar);
+}
+
+TEST_F(KeyboardLoanTest, isNotGivenToAPanelThatHidBeforeTheWindowManagerHasChosen)
+{
+    openPreview();
+    closePreview();
+    loan->willHide(shelf);
+    EXPECT_EQ(focus.focused, field);
+    focus.focused = WindowNumber::None;
+    focus.answer();
+    focus.answer();
+    EXPECT_EQ(focus.focused, program);
+}
+
+TEST_F(KeyboardLoanTest, isWithThatPanelAlsoWhereTheWindowManagerNeverAnswers)
+{
+    openPreview();
+    closePreview();
+    focus.focused = WindowNumber::None;
+    clock.advance(KeyboardLoan::answerPatience);
+    EXPECT_EQ(focus.focused, shelf);
+    openPreview();
+    closePreview();
+    focus.focused = stranger;
+    clock.advance(KeyboardLoan::answerPatience);
+    EXPECT_EQ(focus.focused, stranger) << "the user may have gone there in such a time";
+}
+
+TEST_F(KeyboardLoanTest, awaitsNothingWhereNoWindowManagerRuns)
+{
+    focus.hasWindowManager = false;
+    openPreview();
+    closePreview();
+    EXPECT_EQ(focus.focused, shelf);
+    focus.focused = WindowNumber::None;
+    clock.advance(KeyboardLoan::answerPatience);
+    EXPECT_EQ(focus.focused, WindowNumber::None);
 }
 
 TEST_F(KeyboardLoanTest, touchesNothingOnceItIsGone)

@@ -83,6 +83,17 @@ bool X11KeyboardFocus::tryToFocus(xcb_window_t window, xcb_timestamp_t time)
     return !error;
 }
 
+bool X11KeyboardFocus::askForAnswer()
+{
+    if (!m_windowManager.isRunning())
+        return false;
+    // What Qt was told to do with its windows is asked for on its own connection: once the server
+    // answers there it has told the window manager of that.
+    focus();
+    m_windowManager.askForSign(m_answers);
+    return true;
+}
+
 void X11KeyboardFocus::observeAnswers(std::function<void()> callback)
 {
     m_observers.add(std::move(callback));

@@ -20,6 +20,7 @@ public:
     Owner owner() const override;
     void giveTo(WindowNumber panel) override;
     bool giveBackTo(const Owner &owner) override;
+    bool askForAnswer() override;
     void observeAnswers(std::function<void()> callback) override;
     bool isKeyDown(NativeKey key) const override
     {

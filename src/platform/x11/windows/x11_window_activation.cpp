@@ -25,9 +25,4 @@ void X11WindowActivation::bringToFront(QWindow &window)
         x11_qt::giveKeyboard(native, time);
 }
 
-void X11WindowActivation::giveKeyboard(QWindow &window)
-{
-    x11_qt::giveKeyboard(x11_qt::nativeWindow(window), m_connection.serverTime());
-}
-
 } // namespace corvane

@@ -18,7 +18,6 @@ public:
     }
 
     void bringToFront(QWindow &window) override;
-    void giveKeyboard(QWindow &window) override;
 
 private:
     X11Connection &m_connection;
