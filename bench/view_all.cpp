@@ -3,6 +3,7 @@
 
 #include "fakes/fake_drag_desktop.h"
 #include "fakes/shelf_model.h"
+#include "input/monitored_clicks.h"
 #include "shelf/bar/view_all_controller.h"
 #include "support/table.h"
 
@@ -28,7 +29,7 @@ struct Bar : test::ShelfModel {
                                         desk.dragWriter, desk.savedPictures, desk.preparation},
                                        store,
                                        quickActions,
-                                       desktop,
+                                       clicks,
                                        feedback});
         HUDController::Context context = controllerContext();
         context.viewAll = &*bar;
@@ -59,6 +60,7 @@ struct Bar : test::ShelfModel {
 
     test::FakePanelWindow panel;
     test::FakeDragDesktop desktop;
+    MonitoredClicks clicks{desktop, desktop.pointer};
     std::optional<ViewAllController> bar;
     std::optional<HUDController> shelf;
 

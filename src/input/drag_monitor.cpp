@@ -3,8 +3,6 @@
 #include "platform/desktop/drag_pasteboard.h"
 #include "platform/desktop/mouse_buttons.h"
 
-#include <utility>
-
 namespace corvane {
 
 DragMonitor::DragMonitor(DragPasteboard &pasteboard, EventMonitors &events, MouseButtons &buttons,
@@ -14,11 +12,6 @@ DragMonitor::DragMonitor(DragPasteboard &pasteboard, EventMonitors &events, Mous
     , m_buttons(buttons)
     , m_queue(queue)
 {
-}
-
-DragMonitor::~DragMonitor()
-{
-    DragMonitor::stop();
 }
 
 void DragMonitor::start()
@@ -32,10 +25,8 @@ void DragMonitor::start()
 
 void DragMonitor::stop()
 {
-    for (auto *monitor : {&m_globalMonitor, &m_localMonitor, &m_pressMonitor}) {
-        if (const auto handle = std::exchange(*monitor, std::nullopt))
-            m_events.removeMonitor(*handle);
-    }
+    for (Subscription *monitor : {&m_globalMonitor, &m_localMonitor, &m_pressMonitor})
+        monitor->end();
     m_releasePoll.reset();
 }
 

@@ -7,9 +7,7 @@
 
 #include <QtGlobal>
 
-#include <functional>
 #include <memory>
-#include <optional>
 
 namespace corvane {
 
@@ -47,7 +45,6 @@ public:
                 MainQueue &queue);
     DragMonitor(const DragMonitor &) = delete;
     DragMonitor &operator=(const DragMonitor &) = delete;
-    ~DragMonitor() override;
 
     void start() override;
     void stop() override;
@@ -68,9 +65,9 @@ private:
     MouseButtons &m_buttons;
     MainQueue &m_queue;
 
-    std::optional<EventMonitors::Handle> m_globalMonitor;
-    std::optional<EventMonitors::Handle> m_localMonitor;
-    std::optional<EventMonitors::Handle> m_pressMonitor;
+    Subscription m_globalMonitor;
+    Subscription m_localMonitor;
+    Subscription m_pressMonitor;
     std::unique_ptr<MainQueue::Timer> m_releasePoll;
     qint64 m_pasteboardBaseline = 0;
     bool m_isDragging = false;

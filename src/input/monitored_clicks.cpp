@@ -15,13 +15,10 @@ MonitoredClicks::MonitoredClicks(EventMonitors &monitors, const Pointer &pointer
 
 Subscription MonitoredClicks::watch(Handler onPressed)
 {
-    const auto handle = m_monitors.addGlobalMouseDownMonitor(
+    return m_monitors.addGlobalMouseDownMonitor(
         [&pointer = m_pointer, onPressed = std::move(onPressed)] {
             onPressed(pointer.location());
         });
-    if (!handle)
-        return {};
-    return Subscription([&monitors = m_monitors, handle] { monitors.removeMonitor(*handle); });
 }
 
 } // namespace corvane

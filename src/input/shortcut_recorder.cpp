@@ -1,7 +1,5 @@
 #include "input/shortcut_recorder.h"
 
-#include <utility>
-
 namespace corvane {
 
 using Disposition = KeyMonitors::Disposition;
@@ -61,8 +59,7 @@ void ShortcutRecorder::startRecording()
 
 void ShortcutRecorder::stopRecording()
 {
-    if (const auto monitor = std::exchange(m_localMonitor, std::nullopt))
-        m_monitors.removeMonitor(*monitor);
+    m_localMonitor.end();
     m_suspension.reset();
     m_isRecording = false;
     needsDisplay();

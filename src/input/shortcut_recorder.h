@@ -58,7 +58,7 @@ private:
     std::optional<Shortcut> m_shortcut;
     bool m_hasConflict = false;
     bool m_isRecording = false;
-    std::optional<KeyMonitors::Handle> m_localMonitor;
+    Subscription m_localMonitor;
     std::unique_ptr<HotKeyService::Suspension> m_suspension;
     Lifetime m_lifetime;
 };

@@ -49,7 +49,6 @@ void QtPreviewPanel::makeKeyAndOrderFront()
     if (!m_controller || !m_controller->acceptsPreviewPanelControl(*this))
         return;
     m_isVisible = true;
-    m_showing = std::make_shared<bool>(true);
     m_context.keyboard.windowOpens();
     m_heldKey.watch();
     m_controller->beginPreviewPanelControl(*this);
@@ -93,10 +92,10 @@ void QtPreviewPanel::load(const QUrl &url)
 
 void QtPreviewPanel::openSoon()
 {
-    m_context.queue.asyncAfter(patience, [this, showing = std::weak_ptr(m_showing)] {
-        if (!showing.expired() && !m_window)
+    m_context.queue.asyncAfter(patience, m_showing.guard([this] {
+        if (!m_window)
             open();
-    });
+    }));
 }
 
 void QtPreviewPanel::loaded(PreviewContent content)
@@ -177,7 +176,7 @@ void QtPreviewPanel::orderOut()
 {
     if (!std::exchange(m_isVisible, false))
         return;
-    m_showing.reset();
+    m_showing.restart();
     m_context.loading.cancel();
     closeWindow();
     m_content = {};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/preview/preview_content.h"
 #include "platform/preview/preview_panel.h"
 #include "preview/held_key.h"
@@ -74,8 +75,8 @@ private:
     std::unique_ptr<PreviewWindow> m_window;
     QRect m_placed;
     HeldKey m_heldKey;
-    /// Reset when the panel is hidden, which ends what waits for opening.
-    std::shared_ptr<bool> m_showing;
+    /// Restarted where a showing ends: what waits for its turn opens nothing in the next one.
+    Lifetime m_showing;
 };
 
 } // namespace corvane

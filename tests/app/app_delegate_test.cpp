@@ -19,6 +19,7 @@
 #include "input/barrier_edge_trigger.h"
 #include "input/drag_monitor.h"
 #include "input/hot_key_center.h"
+#include "input/monitored_clicks.h"
 #include "input/shortcut_binder.h"
 #include "services/quick_look_presenter.h"
 #include "shelf/edge_summoner.h"
@@ -69,7 +70,7 @@ protected:
         hud.emplace(controllerContext());
         edge.emplace(EdgeSummoner::Context{
             .trigger = edgeTrigger,
-            .outsideClicks = desktop,
+            .outsideClicks = clicks,
             .screens = screens,
             .store = store,
             .queue = desk.clock,
@@ -134,6 +135,7 @@ protected:
     }
 
     FakeDragDesktop desktop;
+    MonitoredClicks clicks{desktop, desktop.pointer};
     DragMonitor monitor{desktop, desktop, desktop, desk.clock};
     FakeHotKeys hotKeyService;
     HotKeyCenter hotKeys{hotKeyService, desk.clock};

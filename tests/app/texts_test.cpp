@@ -16,6 +16,7 @@
 #include "fakes/fake_window_activation.h"
 #include "fakes/preferences_desk.h"
 #include "fakes/shelf_model.h"
+#include "input/monitored_clicks.h"
 #include "shelf/bar/view_all_controller.h"
 
 #include <gtest/gtest.h>
@@ -214,12 +215,13 @@ TEST(Texts, OfTheShelfsMessages)
 
     FakePanelWindow panel;
     FakeDragDesktop desktop;
+    MonitoredClicks clicks(desktop, desktop.pointer);
     ViewAllController bar(ViewAllController::Context{
         {panel, model.desk.clock, model.desk.motion, model.desk.theme, model.desk.keyboard,
          model.desk.dragWriter, model.desk.savedPictures, model.desk.preparation},
         model.store,
         model.quickActions,
-        desktop,
+        clicks,
         model.feedback});
     // Drags the first of the items, and the others that are ticked, to where `taken` is taken.
     const auto dragOut
@@ -254,12 +256,13 @@ TEST(Texts, OfTheBar)
     ShelfModel model;
     FakePanelWindow panel;
     FakeDragDesktop desktop;
+    MonitoredClicks clicks(desktop, desktop.pointer);
     ViewAllController bar(ViewAllController::Context{
         {panel, model.desk.clock, model.desk.motion, model.desk.theme, model.desk.keyboard,
          model.desk.dragWriter, model.desk.savedPictures, model.desk.preparation},
         model.store,
         model.quickActions,
-        desktop,
+        clicks,
         model.feedback});
     model.store.accept({ShelfDesk::textItem(QStringLiteral("a")),
                         ShelfDesk::textItem(QStringLiteral("b")),

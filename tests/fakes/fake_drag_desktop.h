@@ -1,24 +1,19 @@
 #pragma once
 
 #include "fakes/fake_pointer.h"
+#include "platform/base/changing_list.h"
 #include "platform/desktop/drag_pasteboard.h"
 #include "platform/desktop/event_monitors.h"
 #include "platform/desktop/mouse_buttons.h"
-#include "platform/desktop/outside_clicks.h"
 
-#include <map>
+#include <cstddef>
 #include <optional>
 #include <utility>
-#include <vector>
 
 namespace corvane::test {
 
-/// A desktop with a mouse, for code that watches for drags and clicks. Its functions are what the
-/// user does.
-class FakeDragDesktop : public DragPasteboard,
-                        public EventMonitors,
-                        public MouseButtons,
-                        public OutsideClicks {
+/// A desktop with a mouse on it, seen by what watches for drags. Its verbs are the user's.
+class FakeDragDesktop : public DragPasteboard, public EventMonitors, public MouseButtons {
 public:
     static constexpr unsigned rightButton = 2;
 
@@ -27,37 +22,21 @@ public:
         ++changeCountReads;
         return m_changeCount;
     }
-    std::optional<Handle> addGlobalMonitor(EventMonitors::Handler handler) override
+    Subscription addGlobalMonitor(Handler handler) override
     {
-        return refusesGlobalMonitor ? std::nullopt : add(m_global, std::move(handler));
+        return refusesGlobalMonitor ? Subscription() : add(m_global, std::move(handler));
     }
-    std::optional<Handle> addLocalMonitor(EventMonitors::Handler handler) override
+    Subscription addLocalMonitor(Handler handler) override
     {
-        return refusesLocalMonitor ? std::nullopt : add(m_local, std::move(handler));
+        return refusesLocalMonitor ? Subscription() : add(m_local, std::move(handler));
     }
-    std::optional<Handle> addGlobalMouseDownMonitor(EventMonitors::Handler handler) override
+    Subscription addGlobalMouseDownMonitor(Handler handler) override
     {
-        return refusesGlobalMonitor ? std::nullopt : add(m_mouseDown, std::move(handler));
+        return refusesGlobalMonitor ? Subscription() : add(m_mouseDown, std::move(handler));
     }
-    std::optional<Handle> addLeftMouseDownMonitor(EventMonitors::Handler handler) override
+    Subscription addLeftMouseDownMonitor(Handler handler) override
     {
-        return refusesGlobalMonitor ? std::nullopt : add(m_leftDown, std::move(handler));
-    }
-    Subscription watch(OutsideClicks::Handler handler) override
-    {
-        const auto handle = addGlobalMouseDownMonitor(
-            [this, handler = std::move(handler)] { handler(pointer.position); });
-        if (!handle)
-            return {};
-        return Subscription([this, handle] { removeMonitor(*handle); });
-    }
-    void removeMonitor(Handle handle) override
-    {
-        removed.push_back(handle);
-        m_leftDown.erase(handle);
-        m_mouseDown.erase(handle);
-        m_global.erase(handle);
-        m_local.erase(handle);
+        return refusesGlobalMonitor ? Subscription() : add(m_leftDown, std::move(handler));
     }
     unsigned pressedMouseButtons() const override { return m_pressed; }
 
@@ -66,14 +45,14 @@ public:
         const bool isLeftNew = (buttons & ~m_pressed & MouseButtons::left) != 0;
         m_pressed |= buttons;
         if (isLeftNew)
-            notify(m_leftDown);
+            m_leftDown.notify();
     }
     /// A press in another program's window; with no point the desktop does not tell where.
     void pressElsewhere(std::optional<QPointF> point, unsigned buttons = MouseButtons::left)
     {
         pointer.position = point;
         press(buttons);
-        notify(m_mouseDown);
+        m_mouseDown.notify();
     }
     void release(unsigned buttons = MouseButtons::left) { m_pressed &= ~buttons; }
     /// A program starts to drag contents: the drag pasteboard changes.
@@ -91,46 +70,50 @@ public:
         moveTo({1, 0});
     }
 
-    std::size_t monitorCount() const
-    {
-        return m_global.size() + m_local.size() + m_leftDown.size();
-    }
-    std::size_t mouseDownMonitorCount() const { return m_mouseDown.size(); }
+    std::size_t monitorCount() const { return m_global.count + m_local.count + m_leftDown.count; }
+    std::size_t mouseDownMonitorCount() const { return m_mouseDown.count; }
 
     FakePointer pointer;
     bool refusesGlobalMonitor = false;
     bool refusesLocalMonitor = false;
-    std::vector<Handle> removed;
+    int removals = 0;
     mutable int changeCountReads = 0;
 
 private:
-    using Monitors = std::map<Handle, EventMonitors::Handler>;
+    struct Monitors {
+        void notify() const
+        {
+            handlers.forEach([](const Handler &handler) { handler(); });
+        }
 
-    std::optional<Handle> add(Monitors &monitors, EventMonitors::Handler handler)
+        ChangingList<Handler> handlers;
+        std::size_t count = 0;
+    };
+
+    Subscription add(Monitors &monitors, Handler handler)
     {
-        monitors.emplace(m_nextHandle, std::move(handler));
-        return m_nextHandle++;
+        ++monitors.count;
+        const auto id = monitors.handlers.add(std::move(handler));
+        return Subscription(m_lifetime.guard([this, &monitors, id] {
+            monitors.handlers.remove(id);
+            --monitors.count;
+            ++removals;
+        }));
     }
     void move(QPointF point, const Monitors &monitors)
     {
         pointer.position = point;
         if ((m_pressed & MouseButtons::left) != 0)
-            notify(monitors);
-    }
-    static void notify(const Monitors &monitors)
-    {
-        // A copy: a handler may remove monitors.
-        for (const auto &[handle, handler] : Monitors(monitors))
-            handler();
+            monitors.notify();
     }
 
     Monitors m_mouseDown;
     Monitors m_leftDown;
     Monitors m_global;
     Monitors m_local;
-    Handle m_nextHandle = 1;
     qint64 m_changeCount = 0;
     unsigned m_pressed = 0;
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane::test

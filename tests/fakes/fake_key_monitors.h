@@ -1,8 +1,9 @@
 #pragma once
 
+#include "platform/base/changing_list.h"
 #include "platform/desktop/key_monitors.h"
 
-#include <map>
+#include <cstddef>
 #include <utility>
 
 namespace corvane::test {
@@ -10,12 +11,14 @@ namespace corvane::test {
 /// A keyboard that types into this program, for code that watches its keys.
 class FakeKeyMonitors : public KeyMonitors {
 public:
-    Handle addLocalMonitor(Handler handler) override
+    Subscription addLocalMonitor(Handler handler) override
     {
-        m_monitors.emplace(m_nextHandle, std::move(handler));
-        return m_nextHandle++;
+        ++m_count;
+        return Subscription(m_lifetime.guard([this, id = m_monitors.add(std::move(handler))] {
+            m_monitors.remove(id);
+            --m_count;
+        }));
     }
-    void removeMonitor(Handle handle) override { m_monitors.erase(handle); }
 
     /// Types a key. Like the others returns whether the event went on to the window.
     bool type(KeyPosition keyCode, Modifiers modifiers, const QString &characters = {})
@@ -37,21 +40,18 @@ public:
     {
         return send({Event::Kind::ModifiersChanged, KeyPosition::Unknown, modifiers, {}, false});
     }
-    std::size_t monitorCount() const { return m_monitors.size(); }
+    std::size_t monitorCount() const { return m_count; }
 
 private:
     bool send(const Event &event)
     {
-        // A copy: a handler may remove monitors.
-        for (const auto &[handle, handler] : std::map(m_monitors)) {
-            if (handler(event) == Disposition::Swallow)
-                return false;
-        }
-        return true;
+        return !m_monitors.anyOf(
+            [&](const Handler &handler) { return handler(event) == Disposition::Swallow; });
     }
 
-    std::map<Handle, Handler> m_monitors;
-    Handle m_nextHandle = 1;
+    ChangingList<Handler> m_monitors;
+    std::size_t m_count = 0;
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane::test

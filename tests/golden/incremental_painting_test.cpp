@@ -6,6 +6,7 @@
 #include "fakes/random_steps.h"
 #include "fakes/shelf_model.h"
 #include "golden/golden.h"
+#include "input/monitored_clicks.h"
 #include "shelf/bar/view_all_controller.h"
 
 #include <gtest/gtest.h>
@@ -49,7 +50,7 @@ public:
                                                   desk.savedPictures, desk.preparation},
                                                  store,
                                                  quickActions,
-                                                 m_desktop,
+                                                 m_clicks,
                                                  feedback});
         m_shelf.emplace(HUDController::Context{shelfContext(m_shelfPanel), store, settings,
                                                feedback, screens, locator, quickActions, nullptr,
@@ -124,6 +125,7 @@ private:
     CanvasPanel m_shelfPanel;
     CanvasPanel m_barPanel;
     FakeDragDesktop m_desktop;
+    MonitoredClicks m_clicks{m_desktop, m_desktop.pointer};
     std::optional<ViewAllController> m_bar;
     std::optional<HUDController> m_shelf;
     std::size_t m_answered = 0;

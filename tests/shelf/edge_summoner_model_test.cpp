@@ -6,6 +6,7 @@
 #include "fakes/random_steps.h"
 #include "fakes/shelf_model.h"
 #include "input/barrier_edge_trigger.h"
+#include "input/monitored_clicks.h"
 #include "shelf/edge_summoner.h"
 #include "shelf/edge_summoner_model.h"
 
@@ -24,7 +25,7 @@ public:
         store.observeState([this](ShelfState from, ShelfState to) {
             log << EdgeSummonerModel::stateEntry(from, to, desk.clock.now());
         });
-        summoner.emplace(EdgeSummoner::Context{edge, desktop, screens, store, desk.clock,
+        summoner.emplace(EdgeSummoner::Context{edge, clicks, screens, store, desk.clock,
                                                [this](const ScreenPointer &) { return width; },
                                                [this](double seconds) {
                                                    EXPECT_EQ(seconds, 0.3);
@@ -262,6 +263,7 @@ private:
     FakeFullScreenWindows fullScreenWindows;
     BarrierEdgeTrigger edge{{trigger, fullScreenWindows, desktop, desktop.pointer}};
     FakeDragDesktop desktop;
+    MonitoredClicks clicks{desktop, desktop.pointer};
     std::optional<EdgeSummoner> summoner;
     std::shared_ptr<Screen> second;
     EdgeSummonerModel model;

@@ -2,6 +2,7 @@
 #include "fakes/fake_pointer_barriers.h"
 #include "fakes/shelf_model.h"
 #include "input/barrier_edge_trigger.h"
+#include "input/monitored_clicks.h"
 #include "shelf/edge_summoner.h"
 
 #include <gtest/gtest.h>
@@ -27,7 +28,7 @@ protected:
 
     void make()
     {
-        summoner.emplace(EdgeSummoner::Context{edgeTrigger, desktop, screens, store, desk.clock,
+        summoner.emplace(EdgeSummoner::Context{edgeTrigger, clicks, screens, store, desk.clock,
                                                [this](const ScreenPointer &) {
                                                    ++measurements;
                                                    return width;
@@ -79,6 +80,7 @@ protected:
     FakePointerBarriers trigger;
     FakeFullScreenWindows fullScreenWindows;
     FakeDragDesktop desktop;
+    MonitoredClicks clicks{desktop, desktop.pointer};
     BarrierEdgeTrigger edgeTrigger{{trigger, fullScreenWindows, desktop, desktop.pointer}};
     std::optional<EdgeSummoner> summoner;
     int stateChanges = 0;

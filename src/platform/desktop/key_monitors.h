@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/subscription.h"
 #include "platform/desktop/keyboard.h"
 #include "platform/desktop/keys.h"
 
@@ -36,14 +37,12 @@ public:
         /// The event goes no further.
         Swallow,
     };
-    using Handle = int;
     using Handler = std::function<Disposition(const Event &)>;
 
     virtual ~KeyMonitors() = default;
 
-    virtual Handle addLocalMonitor(Handler handler) = 0;
-    /// Does nothing for a handle that is not installed. May be called from inside a handler.
-    virtual void removeMonitor(Handle handle) = 0;
+    /// A monitor until the subscription ends, which the handler may do.
+    virtual Subscription addLocalMonitor(Handler handler) = 0;
 };
 
 } // namespace corvane

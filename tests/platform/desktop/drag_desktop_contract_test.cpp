@@ -67,12 +67,12 @@ protected:
     MouseButtons &buttons = hands.desktop;
     int heard = 0;
 
-    std::optional<EventMonitors::Handle> listen()
+    Subscription listen()
     {
-        const auto handle = monitors.addGlobalMonitor([this] { ++heard; });
+        auto monitor = monitors.addGlobalMonitor([this] { ++heard; });
         // The hands have a connection of their own, which may be faster.
         hands.waitABit();
-        return handle;
+        return monitor;
     }
 };
 
@@ -98,7 +98,8 @@ TYPED_TEST(DragDesktopContract, theChangeCountGrowsWithEachDrag)
 
 TYPED_TEST(DragDesktopContract, hearsThePointerMoveWithTheLeftButtonHeld)
 {
-    ASSERT_TRUE(this->listen());
+    const Subscription monitor = this->listen();
+    ASSERT_TRUE(monitor.isActive());
     this->hands.press();
     this->hands.waitABit();
     this->hands.move();
@@ -113,7 +114,8 @@ TYPED_TEST(DragDesktopContract, hearsThePointerMoveWithTheLeftButtonHeld)
 
 TYPED_TEST(DragDesktopContract, hearsNothingWithAnotherButton)
 {
-    ASSERT_TRUE(this->listen());
+    const Subscription monitor = this->listen();
+    ASSERT_TRUE(monitor.isActive());
     this->hands.pressRight();
     this->hands.waitABit();
     this->hands.move();
@@ -137,14 +139,12 @@ TYPED_TEST(DragDesktopContract, tellsTheButtonsThatAreDown)
 
 TYPED_TEST(DragDesktopContract, aRemovedMonitorHearsNothing)
 {
-    const auto first = this->listen();
+    Subscription first = this->listen();
     int second = 0;
-    const auto other = this->monitors.addGlobalMonitor([&] { ++second; });
-    ASSERT_TRUE(first && other);
-    EXPECT_NE(*first, *other);
-    this->monitors.removeMonitor(*first);
-    this->monitors.removeMonitor(*first);
-    this->monitors.removeMonitor(12345);
+    const Subscription other = this->monitors.addGlobalMonitor([&] { ++second; });
+    ASSERT_TRUE(first.isActive() && other.isActive());
+    first.end();
+    first.end();
     this->hands.press();
     this->hands.waitABit();
     this->hands.move();
@@ -154,10 +154,10 @@ TYPED_TEST(DragDesktopContract, aRemovedMonitorHearsNothing)
 
 TYPED_TEST(DragDesktopContract, aMonitorMayRemoveItselfFromItsHandler)
 {
-    std::optional<EventMonitors::Handle> handle;
-    handle = this->monitors.addGlobalMonitor([&] {
+    Subscription monitor;
+    monitor = this->monitors.addGlobalMonitor([&] {
         ++this->heard;
-        this->monitors.removeMonitor(*handle);
+        monitor.end();
     });
     this->hands.waitABit();
     this->hands.press();
@@ -172,13 +172,13 @@ TYPED_TEST(DragDesktopContract, aMonitorMayRemoveItselfFromItsHandler)
 TYPED_TEST(DragDesktopContract, hearsPressesInOtherProgramsWindows)
 {
     int presses = 0;
-    const auto handle = this->monitors.addGlobalMouseDownMonitor([&] { ++presses; });
-    ASSERT_TRUE(handle);
+    Subscription monitor = this->monitors.addGlobalMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(monitor.isActive());
     this->hands.waitABit();
     this->hands.pressElsewhere();
     EXPECT_TRUE(this->hands.until([&] { return presses == 1; }));
     this->hands.release();
-    this->monitors.removeMonitor(*handle);
+    monitor.end();
     this->hands.waitABit();
     this->hands.pressElsewhere();
     this->hands.waitABit();
@@ -188,8 +188,8 @@ TYPED_TEST(DragDesktopContract, hearsPressesInOtherProgramsWindows)
 TYPED_TEST(DragDesktopContract, hearsPressesOfTheLeftButtonAndOfNoOther)
 {
     int presses = 0;
-    const auto handle = this->monitors.addLeftMouseDownMonitor([&] { ++presses; });
-    ASSERT_TRUE(handle);
+    Subscription monitor = this->monitors.addLeftMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(monitor.isActive());
     this->hands.waitABit();
     this->hands.pressRight();
     this->hands.waitABit();
@@ -202,7 +202,7 @@ TYPED_TEST(DragDesktopContract, hearsPressesOfTheLeftButtonAndOfNoOther)
     this->hands.press();
     EXPECT_TRUE(this->hands.until([&] { return presses == 2; }));
     this->hands.release();
-    this->monitors.removeMonitor(*handle);
+    monitor.end();
     this->hands.waitABit();
     this->hands.press();
     this->hands.waitABit();
@@ -212,8 +212,9 @@ TYPED_TEST(DragDesktopContract, hearsPressesOfTheLeftButtonAndOfNoOther)
 TYPED_TEST(DragDesktopContract, thePressIsToldBeforeTheChangeThatItLeadsTo)
 {
     std::optional<qint64> atPress;
-    ASSERT_TRUE(
-        this->monitors.addLeftMouseDownMonitor([&] { atPress = this->pasteboard.changeCount(); }));
+    const Subscription monitor
+        = this->monitors.addLeftMouseDownMonitor([&] { atPress = this->pasteboard.changeCount(); });
+    ASSERT_TRUE(monitor.isActive());
     const auto before = this->pasteboard.changeCount();
     this->hands.waitABit();
     this->hands.press();
@@ -227,7 +228,8 @@ TEST(X11DragDesktop, wheelsPressNothingAndSideButtonsDo)
 {
     RealHands hands;
     int presses = 0;
-    ASSERT_TRUE(hands.desktop.addGlobalMouseDownMonitor([&] { ++presses; }));
+    const Subscription monitor = hands.desktop.addGlobalMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(monitor.isActive());
     settle();
     for (const std::uint8_t button : std::initializer_list<std::uint8_t>{4, 5, 6, 7, 2, 3, 8, 9}) {
         hands.display.hands.press(button);
@@ -247,7 +249,8 @@ TEST(X11DragDesktop, pressesInOurOwnWindowsAreNotTold)
     window.show();
     ASSERT_TRUE(eventually([&] { return window.isExposed(); }));
     int presses = 0;
-    ASSERT_TRUE(hands.desktop.addGlobalMouseDownMonitor([&] { ++presses; }));
+    const Subscription monitor = hands.desktop.addGlobalMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(monitor.isActive());
     settle();
     hands.display.hands.click({250, 250});
     settle();
@@ -261,9 +264,10 @@ TEST(X11DragDesktop, aMonitorOfPressesAloneIsNotWokenByMotion)
     RealHands hands;
     int presses = 0;
     int motions = 0;
-    const auto dragging = hands.desktop.addGlobalMonitor([&] { ++motions; });
-    ASSERT_TRUE(hands.desktop.addGlobalMouseDownMonitor([&] { ++presses; }));
-    hands.desktop.removeMonitor(*dragging);
+    Subscription dragging = hands.desktop.addGlobalMonitor([&] { ++motions; });
+    const Subscription pressing = hands.desktop.addGlobalMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(dragging.isActive() && pressing.isActive());
+    dragging.end();
     settle();
     hands.press();
     EXPECT_TRUE(eventually([&] { return presses == 1; }));
@@ -272,11 +276,21 @@ TEST(X11DragDesktop, aMonitorOfPressesAloneIsNotWokenByMotion)
     EXPECT_EQ(motions, 0);
 }
 
+TEST(X11DragDesktop, aMonitorsSubscriptionMayOutliveIt)
+{
+    X11Connection connection;
+    std::optional<X11DragDesktop> desktop(connection);
+    Subscription monitor = desktop->addGlobalMonitor([] {});
+    desktop.reset();
+    monitor.end();
+    EXPECT_TRUE(connection.isConnected());
+}
+
 TEST(X11DragDesktop, hasNoLocalMonitorBecauseTheGlobalOneHearsAll)
 {
     X11Connection connection;
     X11DragDesktop desktop(connection);
-    EXPECT_FALSE(desktop.addLocalMonitor([] {}));
+    EXPECT_FALSE(desktop.addLocalMonitor([] {}).isActive());
 }
 
 TEST(X11DragDesktop, anOwnDragAndTheClipboardAreNoChange)
@@ -302,7 +316,8 @@ TEST(X11DragDesktop, leftHandedPeopleDragWithTheOtherButton)
 {
     RealHands hands;
     int heard = 0;
-    ASSERT_TRUE(hands.desktop.addGlobalMonitor([&] { ++heard; }));
+    const Subscription monitor = hands.desktop.addGlobalMonitor([&] { ++heard; });
+    ASSERT_TRUE(monitor.isActive());
     auto *const server = hands.display.server.connection();
     const std::array<std::uint8_t, 10> swapped = {3, 2, 1, 4, 5, 6, 7, 8, 9, 10};
     const auto reply = xcb_set_pointer_mapping_reply(
@@ -367,8 +382,9 @@ TEST(X11DragDesktop, buttonsThatAreExchangedForOneDeviceAloneDragToo)
     ASSERT_TRUE(buttons.set({3, 2, 1, 4, 5, 6, 7, 8, 9, 10}));
     int heard = 0;
     int presses = 0;
-    ASSERT_TRUE(hands.desktop.addGlobalMonitor([&] { ++heard; }));
-    ASSERT_TRUE(hands.desktop.addLeftMouseDownMonitor([&] { ++presses; }));
+    const Subscription dragging = hands.desktop.addGlobalMonitor([&] { ++heard; });
+    const Subscription pressing = hands.desktop.addLeftMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(dragging.isActive() && pressing.isActive());
     settle();
     // The first button is the right one now.
     hands.press();
@@ -396,7 +412,8 @@ TEST(X11DragDesktop, aSecondPressRightAfterAReleaseIsToldToo)
 {
     RealHands hands;
     int presses = 0;
-    ASSERT_TRUE(hands.desktop.addLeftMouseDownMonitor([&] { ++presses; }));
+    const Subscription monitor = hands.desktop.addLeftMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(monitor.isActive());
     settle();
     hands.press();
     EXPECT_TRUE(eventually([&] { return presses == 1; }));
@@ -411,8 +428,9 @@ TEST(X11DragDesktop, motionOfAPressThatWasOverBeforeItWasLookedAtIsNone)
     RealHands hands;
     int heard = 0;
     int presses = 0;
-    ASSERT_TRUE(hands.desktop.addGlobalMonitor([&] { ++heard; }));
-    ASSERT_TRUE(hands.desktop.addLeftMouseDownMonitor([&] { ++presses; }));
+    const Subscription dragging = hands.desktop.addGlobalMonitor([&] { ++heard; });
+    const Subscription pressing = hands.desktop.addLeftMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(dragging.isActive() && pressing.isActive());
     settle();
     hands.press();
     hands.waitABit();
@@ -437,7 +455,8 @@ TEST(X11DragDesktop, leftPressesInOurOwnWindowsAreToldToo)
     window.show();
     ASSERT_TRUE(eventually([&] { return window.isExposed(); }));
     int presses = 0;
-    ASSERT_TRUE(hands.desktop.addLeftMouseDownMonitor([&] { ++presses; }));
+    const Subscription monitor = hands.desktop.addLeftMouseDownMonitor([&] { ++presses; });
+    ASSERT_TRUE(monitor.isActive());
     settle();
     hands.display.hands.moveTo({250, 250});
     hands.press();
@@ -449,7 +468,8 @@ TEST(X11DragDesktop, startedInMidDragItHearsTheRest)
     RealHands hands;
     int heard = 0;
     hands.press();
-    ASSERT_TRUE(hands.desktop.addGlobalMonitor([&] { ++heard; }));
+    const Subscription monitor = hands.desktop.addGlobalMonitor([&] { ++heard; });
+    ASSERT_TRUE(monitor.isActive());
     settle();
     hands.move();
     EXPECT_TRUE(eventually([&] { return heard > 0; }));

@@ -55,7 +55,7 @@ protected:
             setLayout({QStringLiteral("-layout"), QStringLiteral("us"), QStringLiteral("-option"),
                        QString()});
     }
-    KeyMonitors::Handle listen(Disposition disposition)
+    [[nodiscard]] Subscription listen(Disposition disposition)
     {
         return monitors.addLocalMonitor([this, disposition](const KeyMonitors::Event &event) {
             if (event.kind == Kind::KeyDown)
@@ -98,7 +98,7 @@ protected:
 
 TEST_F(QtKeyMonitorsTest, swallowedKeysReachNothingElseOfTheWindow)
 {
-    const auto handle = listen(Disposition::Swallow);
+    Subscription monitor = listen(Disposition::Swallow);
     EXPECT_EQ(hear('a').keyCode, KeyPosition{0});
     EXPECT_EQ(hear(keys::tab).keyCode, KeyPosition{48});
     EXPECT_EQ(hear(keys::enter).keyCode, KeyPosition{36});
@@ -107,7 +107,7 @@ TEST_F(QtKeyMonitorsTest, swallowedKeysReachNothingElseOfTheWindow)
     EXPECT_EQ(first.text(), QString());
     EXPECT_EQ(activations, 0);
 
-    monitors.removeMonitor(handle);
+    monitor.end();
     heard.clear();
     display.hands.key('a');
     display.hands.key('k', {keys::control});
@@ -118,14 +118,14 @@ TEST_F(QtKeyMonitorsTest, swallowedKeysReachNothingElseOfTheWindow)
 
 TEST_F(QtKeyMonitorsTest, aKeyThatIsLetPassGoesItsWay)
 {
-    listen(Disposition::Pass);
+    const Subscription monitor = listen(Disposition::Pass);
     EXPECT_EQ(hear('a').charactersIgnoringModifiers, QStringLiteral("a"));
     EXPECT_TRUE(eventually([this] { return first.text() == QStringLiteral("a"); }));
 }
 
 TEST_F(QtKeyMonitorsTest, modifiersAreTheKeysThemselvesAndSuperIsCommand)
 {
-    listen(Disposition::Swallow);
+    const Subscription monitor = listen(Disposition::Swallow);
     EXPECT_EQ(hear('a', {keys::control}).modifiers, Modifiers(Modifier::Control));
     EXPECT_EQ(hear('a', {keys::super}).modifiers, Modifiers(Modifier::Command));
     EXPECT_EQ(hear('a', {keys::alt}).modifiers, Modifiers(Modifier::Option));
@@ -137,7 +137,7 @@ TEST_F(QtKeyMonitorsTest, modifiersAreTheKeysThemselvesAndSuperIsCommand)
 
 TEST_F(QtKeyMonitorsTest, aKeyIsNamedByWhatItTypesWithNoModifierHeld)
 {
-    listen(Disposition::Swallow);
+    const Subscription monitor = listen(Disposition::Swallow);
     const auto digit = hear('1', {keys::control, keys::shift});
     EXPECT_EQ(digit.keyCode, KeyPosition{18});
     EXPECT_EQ(digit.charactersIgnoringModifiers, QStringLiteral("1"));
@@ -146,7 +146,7 @@ TEST_F(QtKeyMonitorsTest, aKeyIsNamedByWhatItTypesWithNoModifierHeld)
 
 TEST_F(QtKeyMonitorsTest, layoutsNameTheKeyAndItsPositionGivesTheCode)
 {
-    listen(Disposition::Swallow);
+    const Subscription monitor = listen(Disposition::Swallow);
     useLayout({QStringLiteral("-layout"), QStringLiteral("de")});
     constexpr std::uint32_t uDiaeresis = 0xfc;
     const auto umlaut = hear(uDiaeresis, {keys::control});
@@ -164,7 +164,7 @@ TEST_F(QtKeyMonitorsTest, layoutsNameTheKeyAndItsPositionGivesTheCode)
 
 TEST_F(QtKeyMonitorsTest, whatSwitchesLayoutsIsAModifierChange)
 {
-    listen(Disposition::Swallow);
+    const Subscription monitor = listen(Disposition::Swallow);
     struct Way {
         const char *option;
         std::vector<xcb_keycode_t> held;
@@ -206,7 +206,7 @@ TEST_F(QtKeyMonitorsTest, theLevelsOfTheNeoLayoutAreModifierChanges)
 {
     constexpr std::uint32_t level3 = 0xfe03;
     constexpr std::uint32_t level5 = 0xfe11;
-    listen(Disposition::Swallow);
+    const Subscription monitor = listen(Disposition::Swallow);
     useLayout({QStringLiteral("-layout"), QStringLiteral("de"), QStringLiteral("-variant"),
                QStringLiteral("neo")});
     for (const std::uint32_t symbol : {level3, level5}) {
@@ -221,7 +221,7 @@ TEST_F(QtKeyMonitorsTest, theLevelsOfTheNeoLayoutAreModifierChanges)
 
 TEST_F(QtKeyMonitorsTest, escapeIsToldByItsSymbolAndItsPlaceIsAlwaysAKey)
 {
-    listen(Disposition::Swallow);
+    const Subscription monitor = listen(Disposition::Swallow);
     EXPECT_TRUE(hear(keys::escape).isEscape);
     EXPECT_FALSE(hear('a').isEscape);
     useLayout({QStringLiteral("-layout"), QStringLiteral("us"), QStringLiteral("-option"),
@@ -246,10 +246,10 @@ TEST_F(QtKeyMonitorsTest, escapeIsToldByItsSymbolAndItsPlaceIsAlwaysAKey)
 
 TEST_F(QtKeyMonitorsTest, aMonitorMayRemoveItselfFromItsHandler)
 {
-    KeyMonitors::Handle handle = 0;
-    handle = monitors.addLocalMonitor([&](const KeyMonitors::Event &event) {
+    Subscription monitor;
+    monitor = monitors.addLocalMonitor([&](const KeyMonitors::Event &event) {
         heard.push_back(event);
-        monitors.removeMonitor(handle);
+        monitor.end();
         return Disposition::Swallow;
     });
     hear('a');

@@ -4,6 +4,7 @@
 #include "fakes/fake_drag_desktop.h"
 #include "fakes/random_steps.h"
 #include "fakes/shelf_model.h"
+#include "input/monitored_clicks.h"
 #include "platform/base/geometry.h"
 #include "shelf/bar/view_all_controller.h"
 
@@ -83,7 +84,7 @@ public:
                                         desk.dragWriter, desk.savedPictures, desk.preparation},
                                        store,
                                        quickActions,
-                                       desktop,
+                                       clicks,
                                        feedback});
         store.observeItems([this](const QList<DropItem> &) {
             ++publications;
@@ -325,6 +326,7 @@ private:
 
     FakePanelWindow panel;
     FakeDragDesktop desktop;
+    MonitoredClicks clicks{desktop, desktop.pointer};
     std::optional<ViewAllController> bar;
     ViewAllModel model;
     QRectF pill{700, 926, 292, 56};

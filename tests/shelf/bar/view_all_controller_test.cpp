@@ -1,5 +1,6 @@
 #include "fakes/fake_drag_desktop.h"
 #include "fakes/shelf_model.h"
+#include "input/monitored_clicks.h"
 #include "shelf/bar/view_all_controller.h"
 
 #include <QStringList>
@@ -28,7 +29,7 @@ protected:
                  desk.savedPictures, desk.preparation},
                 store,
                 quickActions,
-                desktop,
+                clicks,
                 feedback};
     }
     void accept(int count)
@@ -64,6 +65,7 @@ protected:
 
     FakePanelWindow panel;
     FakeDragDesktop desktop;
+    MonitoredClicks clicks{desktop, desktop.pointer};
     std::optional<ViewAllController> bar;
     std::optional<HUDController> shelf;
 

@@ -33,16 +33,17 @@ QtKeyMonitors::QtKeyMonitors(const KeyboardLayout &layout)
 
 QtKeyMonitors::~QtKeyMonitors() = default;
 
-KeyMonitors::Handle QtKeyMonitors::addLocalMonitor(Handler handler)
+Subscription QtKeyMonitors::addLocalMonitor(Handler handler)
 {
     if (m_monitors.isEmpty())
         QCoreApplication::instance()->installEventFilter(this);
-    return m_monitors.add(std::move(handler));
+    const auto monitor = m_monitors.add(std::move(handler));
+    return Subscription(m_lifetime.guard([this, monitor] { remove(monitor); }));
 }
 
-void QtKeyMonitors::removeMonitor(Handle handle)
+void QtKeyMonitors::remove(ChangingList<Handler>::Id monitor)
 {
-    m_monitors.remove(handle);
+    m_monitors.remove(monitor);
     if (m_monitors.isEmpty())
         QCoreApplication::instance()->removeEventFilter(this);
 }

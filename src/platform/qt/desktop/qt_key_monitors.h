@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/base/changing_list.h"
+#include "platform/base/lifetime.h"
 #include "platform/desktop/key_monitors.h"
 
 #include <QObject>
@@ -22,16 +23,17 @@ public:
     explicit QtKeyMonitors(const KeyboardLayout &layout);
     ~QtKeyMonitors() override;
 
-    Handle addLocalMonitor(Handler handler) override;
-    void removeMonitor(Handle handle) override;
+    Subscription addLocalMonitor(Handler handler) override;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    void remove(ChangingList<Handler>::Id monitor);
     Disposition notify(const QKeyEvent &key);
 
     const KeyboardLayout &m_layout;
     ChangingList<Handler> m_monitors;
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

@@ -17,14 +17,13 @@ QtWebClient::QtWebClient(MainQueue &mainQueue, WebNetwork network)
 
 QtWebClient::~QtWebClient()
 {
-    m_token.reset();
     m_thread.quit();
     m_thread.wait();
 }
 
 bool QtWebClient::finish(std::chrono::milliseconds patience)
 {
-    m_token.reset();
+    m_lifetime.restart();
     m_thread.quit();
     return m_thread.wait(QDeadlineTimer(patience));
 }
@@ -57,14 +56,13 @@ void QtWebClient::start(const Task &task, Awaited awaited)
 
 void QtWebClient::startThread()
 {
-    m_fetches = new WebFetches(std::move(m_network),
-                               [this, &mainQueue = m_mainQueue, token = std::weak_ptr(m_token)](
-                                   std::uint64_t number, const WebOutcome &outcome) {
-                                   mainQueue.async([this, token, number, outcome] {
-                                       if (!token.expired())
-                                           complete(number, outcome);
-                                   });
-                               });
+    const auto answered = m_lifetime.guard(
+        [this](std::uint64_t number, const WebOutcome &outcome) { complete(number, outcome); });
+    m_fetches = new WebFetches(
+        std::move(m_network),
+        [&mainQueue = m_mainQueue, answered](std::uint64_t number, const WebOutcome &outcome) {
+            mainQueue.async([answered, number, outcome] { answered(number, outcome); });
+        });
     m_fetches->moveToThread(&m_thread);
     QObject::connect(&m_thread, &QThread::finished, m_fetches, &QObject::deleteLater);
     m_thread.start();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/base/lifetime.h"
 #include "platform/base/main_queue.h"
 #include "platform/qt/web/web_network.h"
 #include "platform/web/web_client.h"
@@ -10,7 +11,6 @@
 #include <chrono>
 #include <cstdint>
 #include <map>
-#include <memory>
 
 namespace corvane {
 
@@ -60,8 +60,8 @@ private:
     QThread m_thread;
     /// Lives on the thread, which ends it.
     WebFetches *m_fetches = nullptr;
-    /// Answers that are still on their way to the main thread do nothing once it is gone.
-    std::shared_ptr<bool> m_token = std::make_shared<bool>();
+    /// Restarted once no more answers are wanted: some may be on their way to the main thread.
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane

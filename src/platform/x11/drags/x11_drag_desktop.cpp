@@ -51,42 +51,41 @@ X11DragDesktop::~X11DragDesktop()
     listenTo(Listening::Nothing);
 }
 
-std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMonitor(Handler onLeftMouseDragged)
+Subscription X11DragDesktop::addGlobalMonitor(Handler onLeftMouseDragged)
 {
     return add(What::LeftMouseDragged, std::move(onLeftMouseDragged));
 }
 
-std::optional<EventMonitors::Handle> X11DragDesktop::addLocalMonitor(Handler)
+Subscription X11DragDesktop::addLocalMonitor(Handler)
 {
-    return std::nullopt;
+    return {};
 }
 
-std::optional<EventMonitors::Handle>
-X11DragDesktop::addLeftMouseDownMonitor(Handler onLeftMouseDown)
+Subscription X11DragDesktop::addLeftMouseDownMonitor(Handler onLeftMouseDown)
 {
     return add(What::LeftMouseDown, std::move(onLeftMouseDown));
 }
 
-std::optional<EventMonitors::Handle> X11DragDesktop::addGlobalMouseDownMonitor(Handler onMouseDown)
+Subscription X11DragDesktop::addGlobalMouseDownMonitor(Handler onMouseDown)
 {
     return add(What::MouseDownElsewhere, std::move(onMouseDown));
 }
 
-std::optional<EventMonitors::Handle> X11DragDesktop::add(What what, Handler handler)
+Subscription X11DragDesktop::add(What what, Handler handler)
 {
     if (!canListen())
-        return std::nullopt;
-    // Listening may begin in the middle of a drag.
+        return {};
+    // The first one may come in mid-drag.
     if (m_listening == Listening::Nothing)
         m_isLeftDown = (pressedMouseButtons() & left) != 0;
-    const Handle handle = m_monitors.add({what, std::move(handler)});
+    const auto monitor = m_monitors.add({what, std::move(handler)});
     listen();
-    return handle;
+    return Subscription(m_lifetime.guard([this, monitor] { remove(monitor); }));
 }
 
-void X11DragDesktop::removeMonitor(Handle handle)
+void X11DragDesktop::remove(ChangingList<Monitor>::Id monitor)
 {
-    m_monitors.remove(handle);
+    m_monitors.remove(monitor);
     listen();
 }
 

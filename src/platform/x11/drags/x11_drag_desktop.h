@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/base/changing_list.h"
+#include "platform/base/lifetime.h"
 #include "platform/desktop/drag_pasteboard.h"
 #include "platform/desktop/event_monitors.h"
 #include "platform/desktop/mouse_buttons.h"
@@ -24,12 +25,11 @@ public:
     X11DragDesktop &operator=(const X11DragDesktop &) = delete;
 
     qint64 changeCount() const override { return m_changeCount; }
-    std::optional<Handle> addGlobalMonitor(Handler onLeftMouseDragged) override;
-    /// Always none: the global monitor gets this program's events, too.
-    std::optional<Handle> addLocalMonitor(Handler onLeftMouseDragged) override;
-    std::optional<Handle> addLeftMouseDownMonitor(Handler onLeftMouseDown) override;
-    std::optional<Handle> addGlobalMouseDownMonitor(Handler onMouseDown) override;
-    void removeMonitor(Handle handle) override;
+    Subscription addGlobalMonitor(Handler onLeftMouseDragged) override;
+    /// None: the global monitor hears this program too.
+    Subscription addLocalMonitor(Handler onLeftMouseDragged) override;
+    Subscription addLeftMouseDownMonitor(Handler onLeftMouseDown) override;
+    Subscription addGlobalMouseDownMonitor(Handler onMouseDown) override;
     unsigned pressedMouseButtons() const override;
 
 private:
@@ -52,7 +52,8 @@ private:
     void handle(const xcb_generic_event_t &event);
     void handleSelection(const xcb_generic_event_t &event);
     void handleRawButton(std::uint32_t button, bool isPress);
-    std::optional<Handle> add(What what, Handler handler);
+    Subscription add(What what, Handler handler);
+    void remove(ChangingList<Monitor>::Id monitor);
     bool hasMonitors(What what) const;
     void noticeLeftButton(std::uint32_t button, bool isPress);
     bool canListen() const;
@@ -75,6 +76,7 @@ private:
     /// The physical button that went down as the left one; 0 if that is not known.
     std::uint32_t m_leftButton = 0;
     ChangingList<Monitor> m_monitors;
+    Lifetime m_lifetime;
 };
 
 } // namespace corvane
