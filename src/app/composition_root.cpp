@@ -173,7 +173,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
             .shelfWidth = [this](const ScreenPointer &screen) { return hud.openWidth(screen); },
             .letClicksThrough = [this](double seconds) { hud.letClicksThrough(seconds); }})
     , installation(Installation::from(Installation::Evidence::ofThisProcess()))
-    , updateWindow(desktop.windowActivation, AppInfo::builtIn().version(),
+    , updateWindow(desktop.windowActivation, desktop.screenLocator, AppInfo::builtIn().version(),
                    installation.kind == Installation::Kind::AppImage)
     , updateClient(mainQueue, networkBy(webRoutes))
     , updates(AppInfo::builtIn(), installation, [this] { return makeUpdater(); })
@@ -191,6 +191,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                   .hotKeys = desktop.hotKeys,
                   .desktopServices = desktopServices,
                   .motion = motionPreference,
+                  .screenLocator = desktop.screenLocator,
                   .appInfo = AppInfo::builtIn(),
                   .updater = updates.updater(),
                   .isKeptUpToDateByOthers = installation.kind == Installation::Kind::Managed},

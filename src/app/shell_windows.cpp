@@ -32,7 +32,8 @@ void ShellWindows::showPreferences(PreferencesTab tab)
 void ShellWindows::showWelcome()
 {
     if (!m_welcome) {
-        m_welcome = std::make_unique<WelcomeWindowController>(m_context.preferences.motion);
+        m_welcome = std::make_unique<WelcomeWindowController>(m_context.preferences.motion,
+                                                              m_context.preferences.screenLocator);
         m_welcome->onClose = [this] { m_welcome.reset(); };
     }
     // Set now rather than when it is closed, so that it never comes by itself a second time.

@@ -153,7 +153,7 @@ protected:
     FakeDesktopServices desktopServices;
     FakeWindowActivation activation;
     ShellWindows windows{{{settings, loginItems, shortcuts, keyMonitors, hotKeyService,
-                           desktopServices, desk.motion, AppInfo({})},
+                           desktopServices, desk.motion, locator, AppInfo({})},
                           activation,
                           desk.clock}};
     StartedUpdater updater{settings};

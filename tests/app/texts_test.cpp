@@ -16,6 +16,7 @@
 #include "fakes/fake_window_activation.h"
 #include "fakes/preferences_desk.h"
 #include "fakes/shelf_model.h"
+#include "fakes/user_screens.h"
 #include "input/monitored_clicks.h"
 #include "shelf/bar/view_all_controller.h"
 
@@ -116,8 +117,9 @@ TEST(Texts, OfTheGuide)
     TextTable table;
     FakeMotionPreference motion;
     motion.reduces = true;
+    UserScreens screens;
     {
-        WelcomeWindowController controller(motion);
+        WelcomeWindowController controller(motion, screens.locator);
         controller.window().present();
         for (int step = 1; step <= 3; ++step) {
             table.add(QStringLiteral("Guide, step %1").arg(step), spokenTexts(controller.window()));
@@ -134,9 +136,10 @@ TEST(Texts, OfTheUpdates)
     using Stage = UpdateReport::Stage;
     TextTable table;
     FakeWindowActivation activation;
+    UserScreens screens;
     {
-        UpdateWindowController replacing(activation, QStringLiteral("1.0"), true);
-        UpdateWindowController handing(activation, QStringLiteral("1.0"), false);
+        UpdateWindowController replacing(activation, screens.locator, QStringLiteral("1.0"), true);
+        UpdateWindowController handing(activation, screens.locator, QStringLiteral("1.0"), false);
         const auto add = [&](UpdateWindowController &controller, const QString &heading,
                              const UpdateReport &report) {
             controller.show(report, UpdateAttention::Asked);

@@ -72,6 +72,19 @@ TEST_F(Screens, theOutermostPixelsOfALargerScaleBelongToTheirScreen)
     EXPECT_TRUE(corvane().waitForSize(size, left));
 }
 
+TEST_F(Screens, thePreferencesOpenInTheMiddleOfTheScreenWhereTheUserIs)
+{
+    ASSERT_TRUE(addSecond());
+    start();
+    hands().moveTo(right.bottomRight());
+    ASSERT_TRUE(corvane().activateAction(u"preferences"_s));
+    EXPECT_TRUE(eventually([&] {
+        const auto window = corvane().window();
+        return window && right.contains(window->frame)
+            && (window->frame.center() - right.center()).manhattanLength() < 60;
+    }));
+}
+
 TEST_F(Screens, theShelfFollowsWhenAScreenComesAndGoes)
 {
     start();

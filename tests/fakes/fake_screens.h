@@ -33,7 +33,7 @@ public:
     std::shared_ptr<Screen> attach(const QRectF &frame, double scale = 1)
     {
         Screen screen;
-        screen.frame = frame;
+        screen.frame = screen.availableFrame = frame;
         screen.backingScaleFactor = scale;
         return attach(screen);
     }

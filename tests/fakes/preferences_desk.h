@@ -9,6 +9,7 @@
 #include "fakes/fake_motion_preference.h"
 #include "fakes/memory_user_defaults.h"
 #include "fakes/test_clock.h"
+#include "fakes/user_screens.h"
 #include "input/hot_key_center.h"
 #include "input/shortcut_binder.h"
 
@@ -23,8 +24,9 @@ struct PreferencesDesk {
 
     PreferencesContext context()
     {
-        return {settings, loginItems, binder, keyMonitors, hotKeys,
-                services, motion,     info,   updater,     isKeptUpToDateByOthers};
+        return {
+            settings,        loginItems, binder,  keyMonitors,           hotKeys, services, motion,
+            screens.locator, info,       updater, isKeptUpToDateByOthers};
     }
 
     MemoryUserDefaults defaults;
@@ -38,6 +40,7 @@ struct PreferencesDesk {
     FakeKeyMonitors keyMonitors;
     FakeDesktopServices services;
     FakeMotionPreference motion;
+    UserScreens screens;
     AppInfo info{QJsonObject{
         {QStringLiteral("CFBundleShortVersionString"), QStringLiteral("1.2")},
         {QStringLiteral("CFBundleVersion"), QStringLiteral("34")},

@@ -6,6 +6,7 @@
 #include "app/welcome/welcome_window_controller.h"
 #include "fakes/fake_window_activation.h"
 #include "fakes/preferences_desk.h"
+#include "fakes/user_screens.h"
 #include "golden/window_stage.h"
 
 #include <QCoreApplication>
@@ -43,7 +44,7 @@ private:
     PreferencesDesk m_desk;
 
 public:
-    WelcomeWindowController controller{m_desk.motion};
+    WelcomeWindowController controller{m_desk.motion, m_desk.screens.locator};
 };
 
 class UpdateStage : public WindowStage {
@@ -65,7 +66,9 @@ public:
 
 private:
     FakeWindowActivation m_activation;
-    UpdateWindowController m_controller{m_activation, QStringLiteral("1.0"), true};
+    UserScreens m_screens;
+    UpdateWindowController m_controller{m_activation, m_screens.locator, QStringLiteral("1.0"),
+                                        true};
 };
 
 std::unique_ptr<WindowStage> generalPane()

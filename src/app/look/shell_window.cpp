@@ -1,15 +1,14 @@
 #include "app/look/shell_window.h"
 
+#include "input/screen_locator.h"
+#include "platform/qt/desktop/qt_geometry.h"
 #include "platform/qt/pictures/program_icon.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QCursor>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPointer>
-#include <QScreen>
 #include <QWindow>
 
 #include <utility>
@@ -20,27 +19,6 @@ namespace {
 
 /// In points: the height that a title bar and a panel take of a small screen.
 constexpr int heightOfOthers = 64;
-
-/// The screen of the pointer, else the primary one.
-QScreen *presentScreen()
-{
-    // Qt rounds the pointer's place to points, so at a screen's last pixels it may be one point
-    // outside.
-    for (const QPoint beyond : {QPoint(0, 0), QPoint(1, 0), QPoint(0, 1), QPoint(1, 1)}) {
-        if (QScreen *const screen = QGuiApplication::screenAt(QCursor::pos() - beyond))
-            return screen;
-    }
-    return QGuiApplication::primaryScreen();
-}
-
-QSize fitted(QSize size)
-{
-    const QScreen *screen = presentScreen();
-    if (!screen)
-        return size;
-    const QSize available = screen->availableGeometry().size();
-    return size.boundedTo({available.width(), available.height() - heightOfOthers});
-}
 
 } // namespace
 
@@ -61,10 +39,12 @@ void ShellWindow::letGo()
     deleteLater();
 }
 
-ShellWindow::ShellWindow(QSize size, std::function<void()> onClose)
+ShellWindow::ShellWindow(const ScreenLocator &screenLocator, QSize size,
+                         std::function<void()> onClose)
     : QWidget(nullptr,
               Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
                   | Qt::WindowCloseButtonHint)
+    , m_screenLocator(screenLocator)
     , m_onClose(std::move(onClose))
 {
     setWindowTitle(QStringLiteral("Corvane"));
@@ -85,12 +65,21 @@ void ShellWindow::present()
     show();
 }
 
+QSize ShellWindow::fitted(QSize size) const
+{
+    const ScreenPointer screen = m_screenLocator.activeScreen();
+    if (!screen)
+        return size;
+    const QSize available = qt_geometry::toQt(screen->availableFrame).size();
+    return size.boundedTo({available.width(), available.height() - heightOfOthers});
+}
+
 QPoint ShellWindow::centre() const
 {
-    const QScreen *screen = presentScreen();
+    const ScreenPointer screen = m_screenLocator.activeScreen();
     if (!screen)
         return pos();
-    return screen->availableGeometry().center() - QPoint(width(), height()) / 2;
+    return qt_geometry::toQt(screen->availableFrame).center() - QPoint(width(), height()) / 2;
 }
 
 void ShellWindow::closeEvent(QCloseEvent *event)

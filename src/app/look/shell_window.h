@@ -9,9 +9,11 @@
 
 namespace corvane {
 
-/// An ordinary window of the program, such as the preferences: of a fixed size, with a title and a
-/// close button, in the middle of the screen until the user moves it. It can be moved by dragging
-/// its background. Escape and the desktop's keys for closing close it, which hides it.
+class ScreenLocator;
+
+/// A window of the program beside the shelf: of one size, with a title and a close button, in the
+/// middle of the user's screen until they move it. It can be dragged by its ground; Escape and the
+/// desktop's keys for closing close it. Closing hides it.
 class ShellWindow : public QWidget {
     Q_OBJECT
 
@@ -24,9 +26,9 @@ public:
     template<class Window>
     using Pointer = std::unique_ptr<Window, Deleter>;
 
-    /// `size` is in device-independent pixels; on a smaller screen the window is smaller. `onClose`
-    /// is called when it has been closed.
-    ShellWindow(QSize size, std::function<void()> onClose);
+    /// The size is in device-independent pixels; a screen that is smaller makes it smaller.
+    /// `screenLocator` must outlive the window.
+    ShellWindow(const ScreenLocator &screenLocator, QSize size, std::function<void()> onClose);
 
     /// Changes the size, which a smaller screen limits as well.
     void setContentSize(QSize size);
@@ -42,8 +44,10 @@ protected:
 
 private:
     void letGo();
+    QSize fitted(QSize size) const;
     QPoint centre() const;
 
+    const ScreenLocator &m_screenLocator;
     std::function<void()> m_onClose;
     std::optional<QPoint> m_position;
     std::optional<QPoint> m_pressed;

@@ -9,6 +9,7 @@ class HotKeyService;
 class KeyMonitors;
 class LoginItems;
 class MotionPreference;
+class ScreenLocator;
 class Settings;
 class ShortcutBinder;
 class Updater;
@@ -22,6 +23,7 @@ struct PreferencesContext {
     HotKeyService &hotKeys;
     DesktopServices &desktopServices;
     const MotionPreference &motion;
+    const ScreenLocator &screenLocator;
     AppInfo appInfo;
     /// Null where this build does not know where to look for updates, or where others keep it up
     /// to date.

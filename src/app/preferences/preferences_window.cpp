@@ -44,7 +44,7 @@ protected:
 
 PreferencesWindow::PreferencesWindow(PreferencesContext context, TabSelection &selection,
                                      std::function<void()> onClose)
-    : ShellWindow(WindowLook().length(contentSize), std::move(onClose))
+    : ShellWindow(context.screenLocator, WindowLook().length(contentSize), std::move(onClose))
     , m_context(std::move(context))
     , m_selection(selection)
     , m_area(new QScrollArea)

@@ -44,8 +44,8 @@ int progressOf(const UpdateReport &report)
 
 } // namespace
 
-UpdateWindow::UpdateWindow(std::function<void()> onClose)
-    : ShellWindow(WindowLook().length(smallSize), std::move(onClose))
+UpdateWindow::UpdateWindow(const ScreenLocator &screenLocator, std::function<void()> onClose)
+    : ShellWindow(screenLocator, WindowLook().length(smallSize), std::move(onClose))
     , m_title(new TextLabel({}, m_look.font(titleSize, QFont::DemiBold), TextLabel::Tone::Primary))
     , m_detail(new TextLabel({}, m_look.font(textSize), TextLabel::Tone::Secondary))
     , m_notes(new QPlainTextEdit)

@@ -26,7 +26,7 @@ public:
     static constexpr QSize smallSize{420, 168};
     static constexpr QSize sizeWithNotes{460, 400};
 
-    explicit UpdateWindow(std::function<void()> onClose);
+    UpdateWindow(const ScreenLocator &screenLocator, std::function<void()> onClose);
 
     /// Called when the user clicks the button beside the one that closes.
     std::function<void()> onAction;

@@ -9,9 +9,11 @@
 
 namespace corvane {
 
-UpdateWindowController::UpdateWindowController(WindowActivation &activation, QString runningVersion,
-                                               bool replaces)
+UpdateWindowController::UpdateWindowController(WindowActivation &activation,
+                                               const ScreenLocator &screenLocator,
+                                               QString runningVersion, bool replaces)
     : m_activation(activation)
+    , m_screenLocator(screenLocator)
     , m_runningVersion(std::move(runningVersion))
     , m_replaces(replaces)
 {
@@ -22,7 +24,7 @@ UpdateWindowController::~UpdateWindowController() = default;
 void UpdateWindowController::show(const UpdateReport &report, UpdateAttention attention)
 {
     if (!m_window) {
-        m_window.reset(new UpdateWindow([this] { windowWillClose(); }));
+        m_window.reset(new UpdateWindow(m_screenLocator, [this] { windowWillClose(); }));
         m_window->onAction = [this] { act(); };
         if (attention == UpdateAttention::Unasked)
             m_window->setAttribute(Qt::WA_ShowWithoutActivating);

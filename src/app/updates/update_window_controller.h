@@ -10,11 +10,12 @@ namespace corvane {
 class WindowActivation;
 
 /// Shows reports in a window, which exists only while it is open. Closing it calls `onDismiss`.
-/// Main thread only; `activation` must outlive it.
+/// Main thread only; the references must outlive it.
 class UpdateWindowController : public UpdateDisplay {
 public:
     /// `replaces` says whether an update takes the running version's place.
-    UpdateWindowController(WindowActivation &activation, QString runningVersion, bool replaces);
+    UpdateWindowController(WindowActivation &activation, const ScreenLocator &screenLocator,
+                           QString runningVersion, bool replaces);
     UpdateWindowController(const UpdateWindowController &) = delete;
     UpdateWindowController &operator=(const UpdateWindowController &) = delete;
     ~UpdateWindowController() override;
@@ -30,6 +31,7 @@ private:
     void windowWillClose();
 
     WindowActivation &m_activation;
+    const ScreenLocator &m_screenLocator;
     QString m_runningVersion;
     bool m_replaces;
     UpdateReport m_report;

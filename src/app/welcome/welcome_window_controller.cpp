@@ -7,8 +7,10 @@
 
 namespace corvane {
 
-WelcomeWindowController::WelcomeWindowController(const MotionPreference &motion)
-    : m_window(new ShellWindow(WindowLook().length(contentSize), [this] { windowWillClose(); }))
+WelcomeWindowController::WelcomeWindowController(const MotionPreference &motion,
+                                                 const ScreenLocator &screenLocator)
+    : m_window(new ShellWindow(screenLocator, WindowLook().length(contentSize),
+                               [this] { windowWillClose(); }))
     , m_view(new WelcomeView(motion, [window = m_window.get()] { window->close(); }))
 {
     auto *layout = new QVBoxLayout(m_window.get());

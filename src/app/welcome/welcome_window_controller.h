@@ -10,12 +10,12 @@ class MotionPreference;
 class WelcomeView;
 
 /// Owns the window of the guide. Finishing the guide and closing the window are the same. Main
-/// thread only; `motion` must outlive it.
+/// thread only; the references must outlive it.
 class WelcomeWindowController {
 public:
     static constexpr QSize contentSize{520, 560};
 
-    explicit WelcomeWindowController(const MotionPreference &motion);
+    WelcomeWindowController(const MotionPreference &motion, const ScreenLocator &screenLocator);
     WelcomeWindowController(const WelcomeWindowController &) = delete;
     WelcomeWindowController &operator=(const WelcomeWindowController &) = delete;
     ~WelcomeWindowController();

@@ -24,6 +24,8 @@ struct EdgeInsets {
 struct Screen {
     /// In global points, origin at the bottom left of the primary display.
     QRectF frame;
+    /// The part of it that docks and panels leave free.
+    QRectF availableFrame;
     /// In pixels as the window system counts them, y downward; a fractional scale may leave its
     /// size one pixel off. For back ends.
     QRect nativeFrame;

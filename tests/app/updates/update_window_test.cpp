@@ -3,6 +3,7 @@
 #include "app/updates/update_window_controller.h"
 #include "app/widget_hands.h"
 #include "fakes/fake_window_activation.h"
+#include "fakes/user_screens.h"
 
 #include <QLayout>
 #include <QPlainTextEdit>
@@ -56,7 +57,8 @@ protected:
     QProgressBar &progress() { return *controller.window()->findChild<QProgressBar *>(); }
 
     FakeWindowActivation activation;
-    UpdateWindowController controller{activation, QStringLiteral("1.0"), true};
+    UserScreens screens;
+    UpdateWindowController controller{activation, screens.locator, QStringLiteral("1.0"), true};
     QStringList log;
 };
 

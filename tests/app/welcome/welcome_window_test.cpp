@@ -7,6 +7,7 @@
 #include "app/welcome/welcome_window_controller.h"
 #include "app/widget_hands.h"
 #include "fakes/fake_motion_preference.h"
+#include "fakes/user_screens.h"
 
 #include <QImage>
 #include <QPainter>
@@ -37,7 +38,7 @@ protected:
 
     void make()
     {
-        controller = std::make_unique<WelcomeWindowController>(motion);
+        controller = std::make_unique<WelcomeWindowController>(motion, screens.locator);
         controller->onClose = [this] { ++closed; };
     }
     ShellWindow &window() { return controller->window(); }
@@ -53,6 +54,7 @@ protected:
     IllustrationView &illustration() { return *window().findChild<IllustrationView *>(); }
 
     FakeMotionPreference motion;
+    UserScreens screens;
     std::unique_ptr<WelcomeWindowController> controller;
     int closed = 0;
 };

@@ -1,6 +1,7 @@
 #include "fakes/fake_screens.h"
 #include "platform/base/geometry.h"
 #include "platform/display.h"
+#include "platform/managed_window.h"
 #include "platform/qt/base/qt_main_queue.h"
 #include "platform/qt/desktop/qt_geometry.h"
 #include "platform/qt/desktop/qt_keyboard.h"
@@ -11,6 +12,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <utility>
 
 namespace corvane::test {
@@ -103,6 +105,7 @@ TYPED_TEST(ScreensContract, thePrimaryScreenStandsAtTheOrigin)
     ASSERT_EQ(this->screens.screens().size(), 1U);
     const ScreenPointer screen = this->screens.screens().front();
     EXPECT_EQ(screen->frame, QRectF(0, 0, 1512, 982));
+    EXPECT_EQ(screen->availableFrame, screen->frame) << "without docks and panels";
     EXPECT_EQ(screen->backingScaleFactor, 1);
     EXPECT_GE(screen->refreshRate, 1);
     EXPECT_EQ(screen->safeAreaInsets.top, 0);
@@ -141,6 +144,24 @@ TYPED_TEST(ScreensContract, aChangeIsToldOnceAndIsThereByThen)
     EXPECT_TRUE(this->displays.until([&] { return !sizes.empty(); }));
     settle();
     EXPECT_EQ(sizes, std::vector{QSizeF(1200, 800)});
+}
+
+TEST(QtScreens, knowWhatADockLeavesFree)
+{
+    const Display display;
+    RealDisplays displays;
+    const auto free = [&] { return displays.screens.mainScreen()->availableFrame; };
+    const QRectF whole(0, 0, 1512, 982);
+    {
+        const ManagedWindow dock({0, 0, 1512, 40});
+        const std::array<std::uint32_t, 4> atTheTop{0, 0, 40, 0};
+        xcb_change_property(display.server.connection(), XCB_PROP_MODE_REPLACE, dock.id(),
+                            display.server.atom("_NET_WM_STRUT"), XCB_ATOM_CARDINAL, 32,
+                            atTheTop.size(), atTheTop.data());
+        xcb_flush(display.server.connection());
+        EXPECT_TRUE(eventually([&] { return free() == whole.adjusted(0, 0, 0, -40); }));
+    }
+    EXPECT_TRUE(eventually([&] { return free() == whole; }));
 }
 
 TEST(QtScreens, tellWhichPixelsOfTheServerTheyShow)

@@ -16,6 +16,7 @@ namespace {
 void refresh(Screen &screen, const QScreen &source)
 {
     screen.frame = qt_geometry::toGlobal(QRectF(source.geometry()));
+    screen.availableFrame = qt_geometry::toGlobal(QRectF(source.availableGeometry()));
     screen.backingScaleFactor = source.devicePixelRatio();
     // Qt divides a screen's size by its scale, but not its place.
     screen.nativeFrame = {source.geometry().topLeft(),
