@@ -8,7 +8,7 @@
 #include <QDir>
 #include <QFile>
 
-#include <unistd.h>
+#include <sys/types.h>
 
 #include <atomic>
 #include <csignal>
@@ -20,13 +20,23 @@ using namespace Qt::StringLiterals;
 
 /// The command's process id; 0 before it is started.
 std::atomic<pid_t> command = 0;
+/// The signal that came last; 0 before there was one.
+std::atomic<int> received = 0;
 
-/// On a signal ends the command; the desktop then ends in order.
+/// A signal to this program ends the command, and then the desktop in good order; before the
+/// command runs it is kept.
 void passOn(int number)
 {
-    if (command == 0)
-        ::_exit(128 + number);
-    ::kill(command, number);
+    received = number;
+    if (const pid_t process = command; process != 0)
+        ::kill(process, number);
+}
+
+void commandRuns(pid_t process)
+{
+    command = process;
+    if (const int number = received; number != 0)
+        ::kill(process, number);
 }
 
 /// Marks the guide for new users as seen, so that it does not open.
@@ -74,10 +84,11 @@ int main(int argc, char **argv)
         qWarning("virtual-desktop: %s", qPrintable(desktop.problem()));
         return 1;
     }
+    if (received != 0)
+        return 128 + received;
     const QString name = arguments.takeFirst();
-    const int status = desktop.runToEnd(name, arguments, desktop.environment(),
-                                        [](pid_t process) { command = process; });
-    // The process id may be reused from now on, and the desktop is ending anyway.
+    const int status = desktop.runToEnd(name, arguments, desktop.environment(), commandRuns);
+    // The command's number may be somebody else's from now on, and the desktop is ending anyway.
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         std::signal(number, SIG_IGN);
     return status;
