@@ -246,17 +246,22 @@ std::unique_ptr<Updater> CompositionRoot::makeUpdater()
     const AppInfo info = AppInfo::builtIn();
     const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
     return std::make_unique<SoftwareUpdater>(
-        SoftwareUpdater::Context{updateClient,
-                                 {updateClient, mainQueue, updateWork},
-                                 installationSteps,
-                                 updateWindow,
-                                 desktopServices,
-                                 UpdateRecordFile(UpdateRecordFile::environmentFolder()),
-                                 [] { return QDateTime::currentSecsSinceEpoch(); },
-                                 [this] { return settings.autoCheckUpdates(); }},
-        SoftwareUpdater::Program{
-            info.text(AppInfo::feedAddressKey), info.text(AppInfo::updateKeyKey), info.version(),
-            info.build(), UpdateSystem::thisOne(), installation, QFile::encodeName(downloads)});
+        SoftwareUpdater::Context{
+            .web = updateClient,
+            .download = {.web = updateClient, .queue = mainQueue, .work = updateWork},
+            .steps = installationSteps,
+            .display = updateWindow,
+            .desktop = desktopServices,
+            .record = UpdateRecordFile(UpdateRecordFile::environmentFolder()),
+            .now = [] { return QDateTime::currentSecsSinceEpoch(); },
+            .checksAutomatically = [this] { return settings.autoCheckUpdates(); }},
+        SoftwareUpdater::Program{.feedAddress = info.text(AppInfo::feedAddressKey),
+                                 .publicKey = info.text(AppInfo::updateKeyKey),
+                                 .version = info.version(),
+                                 .build = info.build(),
+                                 .system = UpdateSystem::thisOne(),
+                                 .installation = installation,
+                                 .downloadsFolder = QFile::encodeName(downloads)});
 }
 
 } // namespace corvane

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
-#include "platform/desktop/panel_window.h"
+#include "platform/desktop/panel_events.h"
 #include "platform/pasteboard/pasteboard_writer.h"
 
 #include <QList>

@@ -5,8 +5,6 @@
 #include "platform/system/file_url.h"
 #include "platform/system/remote_files.h"
 
-#include <utility>
-
 namespace corvane {
 
 RemotePictures::RemotePictures(RemoteFiles &files, const PictureItems &pictures)

@@ -1,10 +1,7 @@
 #include "shelf/shelf_view.h"
 
-#include "core/pasteboard_ingest.h"
 #include "platform/base/geometry.h"
 #include "platform/base/main_queue.h"
-#include "shelf/drawing/pill_path.h"
-#include "shelf/drawing/theme.h"
 #include "shelf/optional_callback.h"
 
 #include <QPainter>

@@ -6,7 +6,7 @@
 #include "core/temporary_spool.h"
 #include "fakes/fake_login_items.h"
 #include "fakes/memory_user_defaults.h"
-#include "fakes/recording_item_loading.h"
+#include "fakes/recording_sources.h"
 
 #include <QStringList>
 

@@ -8,7 +8,7 @@
 #include "fakes/fake_login_items.h"
 #include "fakes/memory_user_defaults.h"
 #include "fakes/random_steps.h"
-#include "fakes/recording_item_loading.h"
+#include "fakes/recording_sources.h"
 
 #include <QImage>
 

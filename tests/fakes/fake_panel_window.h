@@ -19,7 +19,7 @@ public:
         m_frame = frame;
         frames.push_back(frame);
     }
-    const QScreen *screen() const override { return nullptr; }
+    const QScreen *screen() const override { return isOn; }
     bool isVisible() const override { return visible; }
     void orderFrontRegardless() override
     {
@@ -57,6 +57,7 @@ public:
     }
 
     PanelContent *content = nullptr;
+    const QScreen *isOn = nullptr;
     bool visible = false;
     bool ignoresMouseEvents = false;
     bool isKey = false;

@@ -11,7 +11,7 @@
 #include "fakes/fake_screens.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/memory_user_defaults.h"
-#include "fakes/recording_item_loading.h"
+#include "fakes/recording_sources.h"
 #include "fakes/shelf_desk.h"
 #include "input/screen_locator.h"
 #include "shelf/hud_controller.h"

@@ -6,6 +6,7 @@
 #include "fakes/fake_window_activation.h"
 #include "fakes/test_clock.h"
 #include "platform/desktop/keyboard_loan.h"
+#include "preview/preview_geometry.h"
 #include "preview/qt_preview_panel.h"
 
 #include <QApplication>
@@ -241,6 +242,20 @@ TEST_F(QtPreviewPanelTest, OpensInTheMiddleOfTheFirstScreenWhereTheShelfHasNone)
     show(textOf(QStringLiteral("hello")));
     const QRect room = QGuiApplication::primaryScreen()->availableGeometry();
     EXPECT_LE((window()->geometry().center() - room.center()).manhattanLength(), 2);
+}
+
+TEST_F(QtPreviewPanelTest, OpensInTheMiddleOfTheShelfsScreen)
+{
+    ASSERT_EQ(QGuiApplication::screens().size(), 2);
+    const QScreen *const right = QGuiApplication::screens()[1];
+    ASSERT_NE(right, QGuiApplication::primaryScreen());
+    shelf.isOn = right;
+    show(textOf(QStringLiteral("hello")));
+    const QRect room = right->availableGeometry();
+    EXPECT_LE((window()->geometry().center() - room.center()).manhattanLength(), 2);
+    EXPECT_TRUE(room.contains(window()->geometry()));
+    EXPECT_EQ(loading.wantedPixels.width(),
+              static_cast<int>(room.width() * preview_geometry::largestPart));
 }
 
 TEST_F(QtPreviewPanelTest, OneThatIsHiddenBeforeItOpenedNeverOpens)

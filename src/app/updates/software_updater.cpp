@@ -1,5 +1,6 @@
 #include "app/updates/software_updater.h"
 
+#include "app/updates/appcast.h"
 #include "app/updates/update_installation.h"
 #include "platform/base/work_queue.h"
 

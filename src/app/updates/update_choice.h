@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/updates/appcast.h"
+#include "app/updates/claimed_release.h"
 #include "app/updates/update_version.h"
 
 #include <optional>

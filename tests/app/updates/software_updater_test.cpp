@@ -1,3 +1,4 @@
+#include "app/updates/appcast.h"
 #include "app/updates/software_updater.h"
 #include "app/updates/updater_desk.h"
 

@@ -26,22 +26,24 @@ struct UpdaterDesk {
     {
         updater.reset();
         updater = std::make_unique<SoftwareUpdater>(
-            SoftwareUpdater::Context{web,
-                                     {downloader, clock, work},
-                                     files,
-                                     display,
-                                     desktop,
-                                     UpdateRecordFile(state.path("corvane")),
-                                     [this] { return began + static_cast<qint64>(clock.now()); },
-                                     [this] { return isAutomatic; }},
+            SoftwareUpdater::Context{.web = web,
+                                     .download = {.web = downloader, .queue = clock, .work = work},
+                                     .steps = files,
+                                     .display = display,
+                                     .desktop = desktop,
+                                     .record = UpdateRecordFile(state.path("corvane")),
+                                     .now
+                                     = [this] { return began + static_cast<qint64>(clock.now()); },
+                                     .checksAutomatically = [this] { return isAutomatic; }},
             SoftwareUpdater::Program{
-                QStringLiteral("https://corvane.example/appcast.xml"),
-                key.publicText(),
-                QStringLiteral("1.0"),
-                QStringLiteral("10"),
-                {QStringLiteral("x86_64"), QStringLiteral("debian"), QStringLiteral("12")},
-                installation,
-                downloads.path()});
+                .feedAddress = QStringLiteral("https://corvane.example/appcast.xml"),
+                .publicKey = key.publicText(),
+                .version = QStringLiteral("1.0"),
+                .build = QStringLiteral("10"),
+                .system
+                = {QStringLiteral("x86_64"), QStringLiteral("debian"), QStringLiteral("12")},
+                .installation = installation,
+                .downloadsFolder = downloads.path()});
         updater->start();
         settle();
     }

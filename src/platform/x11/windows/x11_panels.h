@@ -20,7 +20,13 @@ struct X11Panels {
     {
     }
 
-    PanelDesktop desktop() { return {surface, keyboard, compositing, pointingDevices}; }
+    PanelDesktop desktop()
+    {
+        return {.surface = surface,
+                .keyboard = keyboard,
+                .compositing = compositing,
+                .pointingDevices = pointingDevices};
+    }
 
     X11PanelSurface surface;
     X11KeyboardFocus focus;
