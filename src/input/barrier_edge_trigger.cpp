@@ -1,10 +1,10 @@
 #include "input/barrier_edge_trigger.h"
 
 #include "platform/base/geometry.h"
-#include "platform/desktop/full_screen_windows.h"
-#include "platform/desktop/mouse_buttons.h"
-#include "platform/desktop/pointer.h"
-#include "platform/desktop/pointer_barriers.h"
+#include "platform/reports/full_screen_windows.h"
+#include "platform/reports/mouse_buttons.h"
+#include "platform/reports/pointer.h"
+#include "platform/reports/pointer_barriers.h"
 
 #include <algorithm>
 

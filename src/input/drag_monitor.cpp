@@ -1,7 +1,7 @@
 #include "input/drag_monitor.h"
 
-#include "platform/desktop/drag_pasteboard.h"
-#include "platform/desktop/mouse_buttons.h"
+#include "platform/reports/drag_pasteboard.h"
+#include "platform/reports/mouse_buttons.h"
 
 namespace corvane {
 

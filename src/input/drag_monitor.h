@@ -3,7 +3,7 @@
 #include "platform/base/lifetime.h"
 #include "platform/base/main_queue.h"
 #include "platform/desktop/drag_watch.h"
-#include "platform/desktop/event_monitors.h"
+#include "platform/reports/event_monitors.h"
 
 #include <QtGlobal>
 

@@ -1,7 +1,7 @@
 #include "input/monitored_clicks.h"
 
-#include "platform/desktop/event_monitors.h"
-#include "platform/desktop/pointer.h"
+#include "platform/reports/event_monitors.h"
+#include "platform/reports/pointer.h"
 
 #include <utility>
 

@@ -1,7 +1,7 @@
 #include "input/screen_locator.h"
 
 #include "platform/base/geometry.h"
-#include "platform/desktop/pointer.h"
+#include "platform/reports/pointer.h"
 
 #include <algorithm>
 

@@ -2,9 +2,9 @@
 
 #include "fakes/fake_pointer.h"
 #include "platform/base/changing_list.h"
-#include "platform/desktop/drag_pasteboard.h"
-#include "platform/desktop/event_monitors.h"
-#include "platform/desktop/mouse_buttons.h"
+#include "platform/reports/drag_pasteboard.h"
+#include "platform/reports/event_monitors.h"
+#include "platform/reports/mouse_buttons.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/pointer.h"
+#include "platform/reports/pointer.h"
 
 namespace corvane::test {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/desktop/full_screen_windows.h"
-#include "platform/desktop/pointer_barriers.h"
+#include "platform/reports/full_screen_windows.h"
+#include "platform/reports/pointer_barriers.h"
 
 #include <utility>
 

@@ -2,9 +2,9 @@
 
 #include "platform/base/changing_list.h"
 #include "platform/base/lifetime.h"
-#include "platform/desktop/drag_pasteboard.h"
-#include "platform/desktop/event_monitors.h"
-#include "platform/desktop/mouse_buttons.h"
+#include "platform/reports/drag_pasteboard.h"
+#include "platform/reports/event_monitors.h"
+#include "platform/reports/mouse_buttons.h"
 #include "platform/x11/base/x11_connection.h"
 
 #include <array>

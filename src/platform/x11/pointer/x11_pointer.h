@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/desktop/pointer.h"
 #include "platform/desktop/screens.h"
+#include "platform/reports/pointer.h"
 #include "platform/x11/base/x11_connection.h"
 
 #include <QPoint>

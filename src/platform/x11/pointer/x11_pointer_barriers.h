@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/pointer_barriers.h"
+#include "platform/reports/pointer_barriers.h"
 #include "platform/x11/base/x11_connection.h"
 
 #include <xcb/xfixes.h>

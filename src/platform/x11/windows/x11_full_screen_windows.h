@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/full_screen_windows.h"
+#include "platform/reports/full_screen_windows.h"
 #include "platform/x11/base/x11_connection.h"
 
 #include <QRect>
