@@ -9,9 +9,9 @@ namespace corvane {
 /// Reports motion of the pointer with its left button held, and presses of buttons, anywhere on the
 /// desktop.
 ///
-/// Handlers run on the main thread, also while a drag of our own runs an event loop. A pointer that
-/// moves with no button held costs nothing. A monitor is there until its subscription ends, which
-/// its handler may do, and which may outlive these; an empty one means that the window system
+/// Handlers run on the main thread, also while a drag of ours runs an event loop of its own. Motion
+/// without a button costs nothing. A monitor lasts until its subscription ends, which may happen in
+/// its own handler, and after this object's end. An empty subscription means that the window system
 /// refuses.
 class EventMonitors {
 public:
@@ -19,16 +19,16 @@ public:
 
     virtual ~EventMonitors() = default;
 
-    /// For other programs' events. Where one monitor hears every program, this one's included, the
-    /// global monitor is that one and there is no local one.
+    /// For events of other programs. If one monitor gets the events of all programs, ours included,
+    /// it is this one, and there is no local monitor.
     virtual Subscription addGlobalMonitor(Handler onLeftMouseDragged) = 0;
-    /// For this program's own events. The events themselves always go their way.
+    /// For this program's events. Monitors do not change where events go.
     virtual Subscription addLocalMonitor(Handler onLeftMouseDragged) = 0;
-    /// For presses of the left button wherever, in this program's windows too, before anything
-    /// that they lead to is told.
+    /// For presses of the left button anywhere, our windows included. Called before anything that
+    /// follows from the press is reported.
     virtual Subscription addLeftMouseDownMonitor(Handler onLeftMouseDown) = 0;
-    /// For presses of any button in other programs' windows, those in our own excepted. What a
-    /// window system reports of a wheel as buttons is none.
+    /// For presses of any button in other programs' windows. Wheels that the window system reports
+    /// as buttons do not count.
     virtual Subscription addGlobalMouseDownMonitor(Handler onMouseDown) = 0;
 };
 
