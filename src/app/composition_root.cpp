@@ -192,6 +192,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                   .desktopServices = desktopServices,
                   .motion = motionPreference,
                   .screenLocator = desktop.screenLocator,
+                  .abilities = desktop.abilities,
                   .appInfo = AppInfo::builtIn(),
                   .updater = updates.updater(),
                   .isKeptUpToDateByOthers = installation.kind == Installation::Kind::Managed},

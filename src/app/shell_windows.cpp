@@ -33,7 +33,8 @@ void ShellWindows::showWelcome()
 {
     if (!m_welcome) {
         m_welcome = std::make_unique<WelcomeWindowController>(m_context.preferences.motion,
-                                                              m_context.preferences.screenLocator);
+                                                              m_context.preferences.screenLocator,
+                                                              m_context.preferences.abilities);
         m_welcome->onClose = [this] { m_welcome.reset(); };
     }
     // Set now rather than when it is closed, so that it never comes by itself a second time.

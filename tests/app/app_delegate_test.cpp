@@ -21,6 +21,7 @@
 #include "input/hot_key_center.h"
 #include "input/monitored_clicks.h"
 #include "input/shortcut_binder.h"
+#include "platform/desktop/abilities.h"
 #include "services/quick_look_presenter.h"
 #include "shelf/edge_summoner.h"
 
@@ -152,8 +153,9 @@ protected:
     FakeKeyMonitors keyMonitors;
     FakeDesktopServices desktopServices;
     FakeWindowActivation activation;
+    SessionAbilities abilities;
     ShellWindows windows{{{settings, loginItems, shortcuts, keyMonitors, hotKeyService,
-                           desktopServices, desk.motion, locator, AppInfo({})},
+                           desktopServices, desk.motion, locator, abilities, AppInfo({})},
                           activation,
                           desk.clock}};
     StartedUpdater updater{settings};

@@ -1,6 +1,7 @@
 // Every text of the menu, the windows, the shelf's messages and the bar, read where a user reads it
 // and compared with the tables in texts/, which are meant to be read by people too.
 
+#include "app/base/session_texts.h"
 #include "app/preferences/preferences_window_controller.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "app/spoken_texts.h"
@@ -14,6 +15,7 @@
 #include "fakes/fake_drag_desktop.h"
 #include "fakes/fake_status_item.h"
 #include "fakes/fake_window_activation.h"
+#include "fakes/lacking_abilities.h"
 #include "fakes/preferences_desk.h"
 #include "fakes/shelf_model.h"
 #include "fakes/user_screens.h"
@@ -46,6 +48,21 @@ QStringList menuLines(const FakeStatusItem &item)
 }
 
 } // namespace
+
+TEST(Texts, OfWhatASessionLacks)
+{
+    TextTable table;
+    for (const auto &[why, heading] :
+         {std::pair(Reason::ServerLacksExtensions, "What the display server lacks extensions for"),
+          std::pair(Reason::KeptByDesktop, "What the desktop keeps to itself")}) {
+        Abilities lacking = lackingAbilities(why);
+        QStringList lines = session_texts::limits(lacking);
+        lacking.drags.extent = Drags::AtTheEdge;
+        lines << session_texts::limit(lacking.drags);
+        table.add(QLatin1String(heading), lines);
+    }
+    expectTable("limits", table);
+}
 
 TEST(Texts, OfTheMenu)
 {
@@ -107,6 +124,8 @@ TEST(Texts, OfThePreferences)
     desk.binder.bindViewAll();
     add(QStringLiteral("General, settings that are not kept, shortcuts that others have"), general,
         nothing);
+    desk.abilities.become(lackingAbilities(Reason::ServerLacksExtensions));
+    add(QStringLiteral("General, a session that lacks abilities"), general, nothing);
     add(QStringLiteral("About"), PreferencesTab::About, nothing);
     deletePending();
     expectTable("preferences", table);
@@ -119,13 +138,19 @@ TEST(Texts, OfTheGuide)
     motion.reduces = true;
     UserScreens screens;
     {
-        WelcomeWindowController controller(motion, screens.locator);
-        controller.window().present();
-        for (int step = 1; step <= 3; ++step) {
-            table.add(QStringLiteral("Guide, step %1").arg(step), spokenTexts(controller.window()));
-            if (step < 3)
-                controller.view().goForward();
-        }
+        SessionAbilities abilities;
+        const auto addSteps = [&](const char *heading) {
+            WelcomeWindowController controller(motion, screens.locator, abilities);
+            controller.window().present();
+            for (int step = 1; step <= 3; ++step) {
+                table.add(QString::fromLatin1(heading).arg(step), spokenTexts(controller.window()));
+                if (step < 3)
+                    controller.view().goForward();
+            }
+        };
+        addSteps("Guide, step %1");
+        abilities.become(lackingAbilities(Reason::ServerLacksExtensions));
+        addSteps("Guide where abilities are lacking, step %1");
     }
     deletePending();
     expectTable("guide", table);

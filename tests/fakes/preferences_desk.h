@@ -12,6 +12,7 @@
 #include "fakes/user_screens.h"
 #include "input/hot_key_center.h"
 #include "input/shortcut_binder.h"
+#include "platform/desktop/abilities.h"
 
 #include <QJsonObject>
 
@@ -24,9 +25,18 @@ struct PreferencesDesk {
 
     PreferencesContext context()
     {
-        return {
-            settings,        loginItems, binder,  keyMonitors,           hotKeys, services, motion,
-            screens.locator, info,       updater, isKeptUpToDateByOthers};
+        return {.settings = settings,
+                .loginItems = loginItems,
+                .shortcutBinder = binder,
+                .keyMonitors = keyMonitors,
+                .hotKeys = hotKeys,
+                .desktopServices = services,
+                .motion = motion,
+                .screenLocator = screens.locator,
+                .abilities = abilities,
+                .appInfo = info,
+                .updater = updater,
+                .isKeptUpToDateByOthers = isKeptUpToDateByOthers};
     }
 
     MemoryUserDefaults defaults;
@@ -41,6 +51,7 @@ struct PreferencesDesk {
     FakeDesktopServices services;
     FakeMotionPreference motion;
     UserScreens screens;
+    SessionAbilities abilities;
     AppInfo info{QJsonObject{
         {QStringLiteral("CFBundleShortVersionString"), QStringLiteral("1.2")},
         {QStringLiteral("CFBundleVersion"), QStringLiteral("34")},

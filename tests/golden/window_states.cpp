@@ -44,7 +44,7 @@ private:
     PreferencesDesk m_desk;
 
 public:
-    WelcomeWindowController controller{m_desk.motion, m_desk.screens.locator};
+    WelcomeWindowController controller{m_desk.motion, m_desk.screens.locator, m_desk.abilities};
 };
 
 class UpdateStage : public WindowStage {

@@ -1,5 +1,6 @@
 #include "app/preferences/general_pane.h"
 
+#include "app/base/session_texts.h"
 #include "app/look/action_button.h"
 #include "app/look/text_label.h"
 #include "app/preferences/number_picker.h"
@@ -21,6 +22,7 @@ namespace corvane {
 namespace {
 
 constexpr double betweenSections = 20;
+constexpr double betweenNotices = 8;
 constexpr double noticeSize = 12;
 constexpr double buttonTextSize = 12;
 constexpr QSize buttonSize{88, 26};
@@ -35,20 +37,43 @@ GeneralPane::GeneralPane(PreferencesContext context, QWidget *parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(m_look.length(betweenSections));
     if (!m_context.settings.areKept())
-        layout->addWidget(makeUnkeptNotice());
+        layout->addWidget(makeNotice(tr("Your settings folder cannot be written to. Changes work "
+                                        "until Corvane quits, and are not kept.")));
+    layout->addWidget(makeLimits());
     layout->addWidget(makeShelfSection());
     layout->addWidget(makeBehaviourSection());
     layout->addWidget(makeShortcutsSection());
     layout->addWidget(makeUpdatesSection());
 }
 
-QWidget *GeneralPane::makeUnkeptNotice() const
+QWidget *GeneralPane::makeNotice(const QString &text) const
 {
-    auto *notice = new TextLabel(tr("Your settings folder cannot be written to. Changes work until "
-                                    "Corvane quits, and are not kept."),
-                                 m_look.font(noticeSize), TextLabel::Tone::Secondary);
+    auto *notice = new TextLabel(text, m_look.font(noticeSize), TextLabel::Tone::Secondary);
     notice->setWordWrap(true);
     return notice;
+}
+
+QWidget *GeneralPane::makeLimits()
+{
+    m_limits = new QWidget;
+    auto *layout = new QVBoxLayout(m_limits);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(m_look.length(betweenNotices));
+    showLimits();
+    m_abilities = m_context.abilities.observe([this] { showLimits(); });
+    return m_limits;
+}
+
+void GeneralPane::showLimits()
+{
+    qDeleteAll(m_limits->findChildren<TextLabel *>());
+    const QStringList limits = session_texts::limits(m_context.abilities.now());
+    for (const QString &limit : limits) {
+        QWidget *notice = makeNotice(limit);
+        m_limits->layout()->addWidget(notice);
+        notice->show();
+    }
+    m_limits->setVisible(!limits.isEmpty());
 }
 
 PreferenceSection *GeneralPane::makeShelfSection()

@@ -19,7 +19,7 @@ class SwitchButton;
 
 /// Every setting of the user. Each control writes what it shows at once. The settings are read when
 /// the pane is made; a shortcut that was refused is tried once more then, and shown to be taken as
-/// long as it is.
+/// long as it is. Above the settings stands what the session is not able to do.
 class GeneralPane : public QWidget {
     Q_OBJECT
 
@@ -27,7 +27,9 @@ public:
     explicit GeneralPane(PreferencesContext context, QWidget *parent = nullptr);
 
 private:
-    QWidget *makeUnkeptNotice() const;
+    QWidget *makeNotice(const QString &text) const;
+    QWidget *makeLimits();
+    void showLimits();
     PreferenceSection *makeShelfSection();
     PreferenceSection *makeBehaviourSection();
     PreferenceSection *makeShortcutsSection();
@@ -43,6 +45,8 @@ private:
     ShortcutRow *m_shelfShortcut = nullptr;
     ShortcutRow *m_viewAllShortcut = nullptr;
     Subscription m_outcomes;
+    QWidget *m_limits = nullptr;
+    Subscription m_abilities;
 };
 
 } // namespace corvane

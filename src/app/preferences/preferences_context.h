@@ -10,6 +10,7 @@ class KeyMonitors;
 class LoginItems;
 class MotionPreference;
 class ScreenLocator;
+class SessionAbilities;
 class Settings;
 class ShortcutBinder;
 class Updater;
@@ -24,6 +25,7 @@ struct PreferencesContext {
     DesktopServices &desktopServices;
     const MotionPreference &motion;
     const ScreenLocator &screenLocator;
+    SessionAbilities &abilities;
     AppInfo appInfo;
     /// Null where this build does not know where to look for updates, or where others keep it up
     /// to date.

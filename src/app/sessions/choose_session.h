@@ -13,6 +13,7 @@ namespace corvane {
 /// - beside `X11Session` a struct that fills a `DesktopSession`, and in `startSession` its case;
 /// - its window system's room in src/platform, a library in src/CMakeLists.txt, and the order of
 ///   its rooms in tools/check-includes;
+/// - its `Abilities`; what it lacks that has no words yet, in `session_texts`;
 /// - the test of the choice, and the README's table of what works where.
 enum class SessionKind {
     /// Also used in a Wayland session, through its X server.

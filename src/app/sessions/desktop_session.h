@@ -18,12 +18,14 @@ class MainQueue;
 class OutsideClicks;
 class ScreenLocator;
 class Screens;
+class SessionAbilities;
 class TrayWatch;
 class WindowActivation;
 
 /// What the program needs from the session that it runs in; each kind of session implements it in
 /// its own way. The references are valid as long as the `RunningSession` exists.
 struct DesktopSession {
+    SessionAbilities &abilities;
     const ScreenLocator &screenLocator;
     DragWatch &dragWatch;
     EdgeTrigger &edgeTrigger;

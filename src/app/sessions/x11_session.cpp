@@ -4,6 +4,7 @@ namespace corvane {
 
 X11Session::X11Session(const SessionNeeds &needs)
     : connection(needs.terminate)
+    , abilities(abilitiesOf(connection))
     , pingAnswers(connection)
     , pointer(connection, needs.screens)
     , screenLocator(needs.screens, pointer)
@@ -27,7 +28,8 @@ X11Session::X11Session(const SessionNeeds &needs)
 
 DesktopSession X11Session::desktop()
 {
-    return {.screenLocator = screenLocator,
+    return {.abilities = abilities,
+            .screenLocator = screenLocator,
             .dragWatch = dragMonitor,
             .edgeTrigger = edgeTrigger,
             .outsideClicks = outsideClicks,

@@ -5,6 +5,7 @@
 #include "input/drag_monitor.h"
 #include "input/monitored_clicks.h"
 #include "input/screen_locator.h"
+#include "platform/x11/base/x11_abilities.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_drag_desktop.h"
 #include "platform/x11/drags/x11_drag_support.h"
@@ -29,6 +30,7 @@ struct X11Session : RunningSession {
     DesktopSession desktop() override;
 
     X11Connection connection;
+    SessionAbilities abilities;
     X11PingAnswers pingAnswers;
     X11Pointer pointer;
     ScreenLocator screenLocator;

@@ -1,9 +1,11 @@
 #include "app/welcome/welcome_view.h"
 
+#include "app/base/session_texts.h"
 #include "app/look/action_button.h"
 #include "app/look/text_label.h"
 #include "app/welcome/illustration_view.h"
 #include "app/welcome/page_indicator.h"
+#include "platform/desktop/abilities.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -17,6 +19,7 @@ namespace {
 
 constexpr double titleSize = 21;
 constexpr double bodySize = 14;
+constexpr double limitSize = 12;
 constexpr double textInset = 58;
 constexpr double beforeTitle = 26;
 constexpr double afterTitle = 10;
@@ -27,21 +30,25 @@ constexpr int lastStep = static_cast<int>(allWelcomeSteps.size()) - 1;
 
 } // namespace
 
-WelcomeView::WelcomeView(const MotionPreference &motion, std::function<void()> onClose,
-                         QWidget *parent)
+WelcomeView::WelcomeView(const MotionPreference &motion, SessionAbilities &abilities,
+                         std::function<void()> onClose, QWidget *parent)
     : QWidget(parent)
     , m_motion(motion)
+    , m_abilities(abilities)
     , m_onClose(std::move(onClose))
     , m_illustration(new IllustrationView(m_look, motion))
     , m_title(new TextLabel({}, m_look.font(titleSize, QFont::DemiBold), TextLabel::Tone::Primary))
     , m_body(new TextLabel({}, m_look.font(bodySize), TextLabel::Tone::Secondary))
+    , m_limit(new TextLabel({}, m_look.font(limitSize), TextLabel::Tone::Secondary))
     , m_indicator(new PageIndicator(static_cast<int>(allWelcomeSteps.size()), m_look, motion))
 {
     m_title->setAlignment(Qt::AlignCenter);
     m_title->setWordWrap(true);
-    m_body->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
-    m_body->setWordWrap(true);
-    for (TextLabel *text : {m_title, m_body})
+    for (TextLabel *text : {m_body, m_limit}) {
+        text->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+        text->setWordWrap(true);
+    }
+    for (TextLabel *text : {m_title, m_body, m_limit})
         text->setContentsMargins(m_look.length(textInset), 0, m_look.length(textInset), 0);
 
     auto *layout = new QVBoxLayout(this);
@@ -53,10 +60,12 @@ WelcomeView::WelcomeView(const MotionPreference &motion, std::function<void()> o
     layout->addSpacing(m_look.length(afterTitle));
     layout->addWidget(m_body);
     layout->addSpacing(m_look.length(afterTitle));
+    layout->addWidget(m_limit);
     layout->addStretch();
     layout->addWidget(m_indicator, 0, Qt::AlignHCenter);
     layout->addWidget(makeButtons());
     showStep(0);
+    m_changes = m_abilities.observe([this] { showStep(m_step); });
 }
 
 QWidget *WelcomeView::makeButtons()
@@ -93,6 +102,8 @@ void WelcomeView::showStep(int step)
     m_illustration->setAccessibleName(tr("Illustration: %1").arg(welcome_step::title(shown)));
     m_title->setText(welcome_step::title(shown));
     m_body->setText(welcome_step::body(shown));
+    m_limit->setText(limitOf(shown));
+    m_limit->setVisible(!m_limit->text().isEmpty());
     m_indicator->setCurrent(step);
     if (step == 0 && m_back->hasFocus())
         m_forward->setFocus(Qt::OtherFocusReason);
@@ -100,6 +111,19 @@ void WelcomeView::showStep(int step)
     m_forward->setText(isLast() ? tr("Start using it") : tr("Next"));
     m_forward->setAccessibleDescription(isLast() ? tr("Closes this guide")
                                                  : tr("Goes to the next step"));
+}
+
+QString WelcomeView::limitOf(WelcomeStep step) const
+{
+    switch (step) {
+    case WelcomeStep::DragIn:
+        return session_texts::limit(m_abilities.now().drags);
+    case WelcomeStep::DragOut:
+        return session_texts::limit(m_abilities.now().topEdge);
+    case WelcomeStep::Keep:
+        break;
+    }
+    return {};
 }
 
 void WelcomeView::goBack()

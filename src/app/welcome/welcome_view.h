@@ -2,6 +2,7 @@
 
 #include "app/look/window_look.h"
 #include "app/welcome/welcome_step.h"
+#include "platform/base/subscription.h"
 
 #include <QWidget>
 
@@ -13,16 +14,18 @@ class ActionButton;
 class IllustrationView;
 class MotionPreference;
 class PageIndicator;
+class SessionAbilities;
 class TextLabel;
 
-/// The guide: a picture, a title and a text for each step, and buttons to go through them. `motion`
-/// must outlive it.
+/// The guide: a picture, a title and a text for each step, and buttons to go through them. Where
+/// the session is not able to do what a step describes, the step says that, too. Both that it is
+/// given must outlive it.
 class WelcomeView : public QWidget {
     Q_OBJECT
 
 public:
-    WelcomeView(const MotionPreference &motion, std::function<void()> onClose,
-                QWidget *parent = nullptr);
+    WelcomeView(const MotionPreference &motion, SessionAbilities &abilities,
+                std::function<void()> onClose, QWidget *parent = nullptr);
 
     /// Index of the step that is shown.
     int step() const { return m_step; }
@@ -38,18 +41,22 @@ protected:
 private:
     QWidget *makeButtons();
     void showStep(int step);
+    QString limitOf(WelcomeStep step) const;
     bool isLast() const;
 
     const MotionPreference &m_motion;
+    SessionAbilities &m_abilities;
     std::function<void()> m_onClose;
     WindowLook m_look;
     int m_step = 0;
     IllustrationView *m_illustration;
     TextLabel *m_title;
     TextLabel *m_body;
+    TextLabel *m_limit;
     PageIndicator *m_indicator;
     ActionButton *m_back = nullptr;
     ActionButton *m_forward = nullptr;
+    Subscription m_changes;
 };
 
 } // namespace corvane

@@ -8,10 +8,11 @@
 namespace corvane {
 
 WelcomeWindowController::WelcomeWindowController(const MotionPreference &motion,
-                                                 const ScreenLocator &screenLocator)
+                                                 const ScreenLocator &screenLocator,
+                                                 SessionAbilities &abilities)
     : m_window(new ShellWindow(screenLocator, WindowLook().length(contentSize),
                                [this] { windowWillClose(); }))
-    , m_view(new WelcomeView(motion, [window = m_window.get()] { window->close(); }))
+    , m_view(new WelcomeView(motion, abilities, [window = m_window.get()] { window->close(); }))
 {
     auto *layout = new QVBoxLayout(m_window.get());
     layout->setContentsMargins(0, 0, 0, 0);

@@ -7,15 +7,17 @@
 namespace corvane {
 
 class MotionPreference;
+class SessionAbilities;
 class WelcomeView;
 
 /// Owns the window of the guide. Finishing the guide and closing the window are the same. Main
-/// thread only; the references must outlive it.
+/// thread only; everything that it is given must outlive it.
 class WelcomeWindowController {
 public:
     static constexpr QSize contentSize{520, 560};
 
-    WelcomeWindowController(const MotionPreference &motion, const ScreenLocator &screenLocator);
+    WelcomeWindowController(const MotionPreference &motion, const ScreenLocator &screenLocator,
+                            SessionAbilities &abilities);
     WelcomeWindowController(const WelcomeWindowController &) = delete;
     WelcomeWindowController &operator=(const WelcomeWindowController &) = delete;
     ~WelcomeWindowController();

@@ -1,3 +1,4 @@
+#include "app/base/session_texts.h"
 #include "app/look/text_label.h"
 #include "app/preferences/clear_button.h"
 #include "app/preferences/general_pane.h"
@@ -8,10 +9,12 @@
 #include "app/preferences/switch_button.h"
 #include "app/updates/updater.h"
 #include "app/widget_hands.h"
+#include "fakes/lacking_abilities.h"
 #include "fakes/preferences_desk.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 
 namespace corvane::test {
@@ -323,6 +326,31 @@ TEST_F(GeneralPaneTest, SettingsThatCannotBeKeptAreSaidAndStillWork)
     }));
     pick(5);
     EXPECT_EQ(desk.settings.inViewCount(), 5);
+}
+
+TEST_F(GeneralPaneTest, SaysWhatTheSessionLacksAsLongAsItLacksIt)
+{
+    const auto says = [this](const QString &text) {
+        const auto labels = pane().findChildren<TextLabel *>();
+        return std::ranges::any_of(labels, [&](const TextLabel *label) {
+            return label->text() == text && label->isVisibleTo(&pane());
+        });
+    };
+    const Abilities lacking = lackingAbilities(Reason::ServerLacksExtensions);
+    const QStringList limits = session_texts::limits(lacking);
+    ASSERT_EQ(limits.size(), 4);
+    for (const QString &limit : limits)
+        EXPECT_FALSE(says(limit));
+    desk.abilities.become(lacking);
+    for (const QString &limit : limits)
+        EXPECT_TRUE(says(limit)) << limit.toStdString();
+    Abilities better = lacking;
+    better.drags = {};
+    desk.abilities.become(better);
+    EXPECT_FALSE(says(limits[0]));
+    EXPECT_TRUE(says(limits[1]));
+    desk.abilities.become({});
+    EXPECT_FALSE(says(limits[1]));
 }
 
 TEST_F(GeneralPaneTest, EveryControlHasANameAndADescription)

@@ -1,3 +1,4 @@
+#include "app/base/session_texts.h"
 #include "app/look/text_label.h"
 #include "app/welcome/illustration_view.h"
 #include "app/welcome/welcome_illustration.h"
@@ -8,6 +9,8 @@
 #include "app/widget_hands.h"
 #include "fakes/fake_motion_preference.h"
 #include "fakes/user_screens.h"
+#include "fakes/lacking_abilities.h"
+#include "platform/desktop/abilities.h"
 
 #include <QImage>
 #include <QPainter>
@@ -38,7 +41,8 @@ protected:
 
     void make()
     {
-        controller = std::make_unique<WelcomeWindowController>(motion, screens.locator);
+        controller =
+            std::make_unique<WelcomeWindowController>(motion, screens.locator, abilities);
         controller->onClose = [this] { ++closed; };
     }
     ShellWindow &window() { return controller->window(); }
@@ -55,6 +59,7 @@ protected:
 
     FakeMotionPreference motion;
     UserScreens screens;
+    SessionAbilities abilities;
     std::unique_ptr<WelcomeWindowController> controller;
     int closed = 0;
 };
@@ -68,6 +73,26 @@ TEST_F(WelcomeWindowTest, TheFirstStepHasNoBackButton)
     EXPECT_EQ(title(), QStringLiteral("Drag anything onto the notch"));
     EXPECT_EQ(button("Back"), nullptr);
     EXPECT_NE(button("Next"), nullptr);
+}
+
+TEST_F(WelcomeWindowTest, AStepSaysThatTheSessionCannotDoWhatItDescribes)
+{
+    const Abilities lacking = lackingAbilities(Reason::KeptByDesktop);
+    const auto note = [this] {
+        const auto *label = window().findChildren<TextLabel *>().at(2);
+        return label->isVisible() ? label->text() : QString();
+    };
+    window().present();
+    EXPECT_EQ(note(), QString());
+    abilities.become(lacking);
+    EXPECT_EQ(note(), session_texts::limit(lacking.drags));
+    button("Next")->click();
+    EXPECT_EQ(note(), session_texts::limit(lacking.topEdge));
+    button("Next")->click();
+    EXPECT_EQ(note(), QString());
+    button("Back")->click();
+    abilities.become({});
+    EXPECT_EQ(note(), QString());
 }
 
 TEST_F(WelcomeWindowTest, NextAndBackGoThroughTheSteps)

@@ -40,7 +40,7 @@ XDesktop::XDesktop(DesktopKind kind)
     m_environment.insert(u"NO_AT_BRIDGE"_s, u"1"_s);
     m_environment.insert(u"GTK_A11Y"_s, u"none"_s);
 
-    startServer(kind.size);
+    startServer(kind);
     if (m_problem.isEmpty())
         startBus();
     if (m_problem.isEmpty())
@@ -49,13 +49,18 @@ XDesktop::XDesktop(DesktopKind kind)
         startCompositor();
 }
 
-void XDesktop::startServer(QSize size)
+void XDesktop::startServer(const DesktopKind &kind)
 {
-    // The server picks a free display number and writes it to its output.
-    m_xvfb = start(u"Xvfb"_s,
-                   {u"-displayfd"_s, u"1"_s, u"-noreset"_s, u"-nolisten"_s, u"tcp"_s, u"-screen"_s,
-                    u"0"_s, u"%1x%2x24"_s.arg(size.width()).arg(size.height())});
-    // Its messages are there, too; the number is on a line of its own.
+    QStringList arguments{
+        u"-displayfd"_s, u"1"_s,
+        u"-noreset"_s,   u"-nolisten"_s,
+        u"tcp"_s,        u"-screen"_s,
+        u"0"_s,          u"%1x%2x24"_s.arg(kind.size.width()).arg(kind.size.height())};
+    if (!kind.missingExtension.isEmpty())
+        arguments << u"-extension"_s << kind.missingExtension;
+    // The server picks a free number by itself and writes it where it is told to.
+    m_xvfb = start(u"Xvfb"_s, arguments);
+    // Its messages come the same way; a line with nothing but a number is the answer.
     QByteArray number;
     const bool told = eventually([&] {
         for (const QByteArray &line : m_xvfb->output().split('\n')) {

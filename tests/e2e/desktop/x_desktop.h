@@ -24,6 +24,8 @@ struct DesktopKind {
     WindowManager windowManager = WindowManager::Openbox;
     Compositor compositor = Compositor::Picom;
     QSize size{1512, 982};
+    /// One that the X server does without, such as "XFIXES".
+    QString missingExtension = {};
 };
 
 /// A desktop without a display: X server, window manager, perhaps a compositor, a session bus, and
@@ -67,7 +69,7 @@ public:
     void removeTemporaryFiles() const;
 
 private:
-    void startServer(QSize size);
+    void startServer(const DesktopKind &kind);
     void startBus();
     void startWindowManager(WindowManager windowManager);
     void startCompositor();

@@ -31,6 +31,9 @@ XServer::XServer(const QByteArray &display)
 {
     if (isConnected())
         m_root = xcb_setup_roots_iterator(xcb_get_setup(connection())).data->root;
+    const auto *fixesExtension = xcb_get_extension_data(connection(), &xcb_xfixes_id);
+    if (!fixesExtension || !fixesExtension->present)
+        return;
     // XFixes refuses requests of clients that have not told their version.
     const auto fixes = owned(xcb_xfixes_query_version_reply(
         connection(), xcb_xfixes_query_version(connection(), 4, 0), nullptr));

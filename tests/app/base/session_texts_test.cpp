@@ -1,0 +1,65 @@
+#include "app/base/session_texts.h"
+#include "fakes/lacking_abilities.h"
+
+#include <QFile>
+#include <QSet>
+
+#include <gtest/gtest.h>
+
+namespace corvane::test {
+
+namespace {
+
+/// Lines and what they are indented by are the editor's affair.
+QString readme()
+{
+    QFile file(QStringLiteral(CORVANE_TEST_DATA "/../README.md"));
+    return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()).simplified() : QString();
+}
+
+} // namespace
+
+TEST(SessionTexts, aSessionThatLacksNothingHasNothingToSay)
+{
+    EXPECT_EQ(session_texts::limits({}), QStringList());
+}
+
+TEST(SessionTexts, eachAbilityThatIsMissingIsSaidInWordsOfItsOwnForEachReason)
+{
+    QSet<QString> said;
+    for (const Reason why : {Reason::ServerLacksExtensions, Reason::KeptByDesktop}) {
+        for (const QString &limit : session_texts::limits(lackingAbilities(why)))
+            said << limit;
+        said << session_texts::limit(Ability<Drags>{Drags::AtTheEdge, why});
+    }
+    EXPECT_EQ(said.size(), 10);
+    for (const QString &text : said)
+        EXPECT_FALSE(text.contains(QStringLiteral("because .")))
+            << "without a reason: " << text.toStdString();
+}
+
+TEST(SessionTexts, theReadmesTableSaysOfEachAbilityWhatTheProgramSays)
+{
+    const auto rows = session_texts::tableRows({});
+    EXPECT_EQ(rows.size(), 4);
+    for (const auto &[ability, howFar] : rows) {
+        const QString cells = QStringLiteral("| %1 | %2 |").arg(ability, howFar);
+        EXPECT_TRUE(readme().contains(cells)) << cells.toStdString();
+    }
+}
+
+TEST(SessionTexts, theReadmeSaysWhatIsMissingWithoutTheServersExtensions)
+{
+    Abilities lacking = lackingAbilities(Reason::ServerLacksExtensions);
+    lacking.shortcutChoice = {};
+    for (const QString &limit : session_texts::limits(lacking))
+        EXPECT_TRUE(readme().contains(QStringLiteral("- ") + limit)) << limit.toStdString();
+}
+
+TEST(SessionTexts, whatASessionLacksStandsInItsColumnOfTheTable)
+{
+    const Abilities lacking = lackingAbilities(Reason::KeptByDesktop);
+    EXPECT_EQ(session_texts::tableRows(lacking)[0].howFar, session_texts::limit(lacking.drags));
+}
+
+} // namespace corvane::test
