@@ -26,21 +26,30 @@ bool HotKeyCenter::apply(const std::optional<Shortcut> &shortcut, Binding bindin
         return true;
     if (!m_eventHandler)
         installEventHandler();
-    const auto hotKey
-        = m_service.registerHotKey(shortcut->keyCode, shortcut->modifiers, {signature, id});
-    if (!hotKey)
-        return false;
-    m_hotKeyRefs[id] = *hotKey;
-    return true;
+    const auto changed = [this, binding, id](const ShortcutOutcome &outcome) {
+        m_outcomes[id] = outcome;
+        // A copy: it may replace itself.
+        if (const auto tell = onOutcomeChanged)
+            tell(binding);
+    };
+    auto registration = m_service.registerHotKey(shortcut->keyCode, shortcut->modifiers,
+                                                 {signature, id}, m_lifetime.guard(changed));
+    m_outcomes[id] = registration.outcome;
+    if (registration.subscription.isActive())
+        m_hotKeyRefs[id] = std::move(registration.subscription);
+    return !registration.outcome.isRefused();
+}
+
+ShortcutOutcome HotKeyCenter::outcome(Binding binding) const
+{
+    const auto found = m_outcomes.find(idOf(binding));
+    return found == m_outcomes.end() ? ShortcutOutcome() : found->second;
 }
 
 void HotKeyCenter::unregister(Binding binding)
 {
-    const auto found = m_hotKeyRefs.find(idOf(binding));
-    if (found == m_hotKeyRefs.end())
-        return;
-    m_service.unregisterHotKey(found->second);
-    m_hotKeyRefs.erase(found);
+    m_outcomes.erase(idOf(binding));
+    m_hotKeyRefs.erase(idOf(binding));
 }
 
 void HotKeyCenter::unregisterAll()

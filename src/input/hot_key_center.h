@@ -37,12 +37,17 @@ public:
     HotKeyCenter &operator=(const HotKeyCenter &) = delete;
     ~HotKeyCenter();
 
-    /// Replaces the binding's registration and handler. With no shortcut only the registration is
-    /// removed; the handler is still replaced. False if the combination was refused.
+    /// Replaces the binding's registration and its handler; a shortcut of none removes the one and
+    /// still replaces the other. False if the combination was refused
+    /// at once.
     ///
     /// A press calls the handler that the binding has when the main queue gets to it.
     bool apply(const std::optional<Shortcut> &shortcut, Binding binding, Handler handler);
-    /// Keeps the handler, so that a press that is already on its way is still handled.
+    /// What has become of the shortcut that was applied last.
+    ShortcutOutcome outcome(Binding binding) const;
+    /// That has become another one since it was applied.
+    std::function<void(Binding)> onOutcomeChanged;
+    /// Keeps the handler: a press that is on its way arrives.
     void unregister(Binding binding);
     /// Removes both registrations and both handlers.
     void unregisterAll();
@@ -53,7 +58,8 @@ private:
 
     HotKeyService &m_service;
     MainQueue &m_queue;
-    std::map<std::uint32_t, HotKeyService::Handle> m_hotKeyRefs;
+    std::map<std::uint32_t, Subscription> m_hotKeyRefs;
+    std::map<std::uint32_t, ShortcutOutcome> m_outcomes;
     std::map<std::uint32_t, Handler> m_handlers;
     /// Installed with the first shortcut, and never removed.
     std::optional<HotKeyService::HandlerRef> m_eventHandler;

@@ -9,6 +9,8 @@ ShortcutBinder::ShortcutBinder(HotKeyCenter &center, Stored shelfShortcut, Store
     , m_shelfShortcut(std::move(shelfShortcut))
     , m_viewAllShortcut(std::move(viewAllShortcut))
 {
+    m_center.onOutcomeChanged = m_lifetime.guard(
+        [this](HotKeyCenter::Binding binding) { note(binding, m_center.outcome(binding)); });
 }
 
 bool ShortcutBinder::bindShelf()
@@ -39,7 +41,7 @@ void ShortcutBinder::rebind(HotKeyCenter::Binding changed)
 void ShortcutBinder::retryRefused()
 {
     for (const auto &[binding, outcome] : std::map(m_outcomes)) {
-        if (outcome == ShortcutOutcome::Refused)
+        if (outcome.isRefused())
             bind(binding);
     }
 }
@@ -47,7 +49,7 @@ void ShortcutBinder::retryRefused()
 ShortcutOutcome ShortcutBinder::outcome(HotKeyCenter::Binding binding) const
 {
     const auto found = m_outcomes.find(binding);
-    return found == m_outcomes.end() ? ShortcutOutcome::Unset : found->second;
+    return found == m_outcomes.end() ? ShortcutOutcome() : found->second;
 }
 
 Subscription ShortcutBinder::observeOutcomes(std::function<void()> observer)
@@ -55,7 +57,7 @@ Subscription ShortcutBinder::observeOutcomes(std::function<void()> observer)
     return m_observers.subscribe(std::move(observer));
 }
 
-void ShortcutBinder::note(HotKeyCenter::Binding binding, ShortcutOutcome outcome)
+void ShortcutBinder::note(HotKeyCenter::Binding binding, const ShortcutOutcome &outcome)
 {
     if (outcome == this->outcome(binding))
         return;
@@ -66,15 +68,13 @@ void ShortcutBinder::note(HotKeyCenter::Binding binding, ShortcutOutcome outcome
 bool ShortcutBinder::bind(const Stored &shortcut, HotKeyCenter::Binding binding,
                           std::function<void()> ShortcutBinder::*action)
 {
-    const std::optional<Shortcut> wanted = shortcut();
-    const bool isBound = m_center.apply(wanted, binding, m_lifetime.guard([this, action] {
-        // A copy: the action may replace itself.
+    const bool isNotRefused = m_center.apply(shortcut(), binding, m_lifetime.guard([this, action] {
+        // A copy: it may replace itself.
         if (const auto run = this->*action)
             run();
     }));
-    using enum ShortcutOutcome;
-    note(binding, !wanted ? Unset : isBound ? Bound : Refused);
-    return isBound;
+    note(binding, m_center.outcome(binding));
+    return isNotRefused;
 }
 
 } // namespace corvane

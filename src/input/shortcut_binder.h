@@ -11,17 +11,9 @@
 
 namespace corvane {
 
-/// Whether a shortcut is bound.
-enum class ShortcutOutcome {
-    /// No shortcut is stored, or it was not tried yet.
-    Unset,
-    Bound,
-    /// Another program has it, or it cannot be registered at all.
-    Refused,
-};
-
-/// Binds the two stored shortcuts to their actions, and reports whether that worked, also after
-/// later attempts. Main thread only; the center must outlive it.
+/// Binds the two stored shortcuts to what they do, and tells what has become of that: also later,
+/// where the desktop takes its time, or another attempt has another outcome. Main thread only; the
+/// center must outlive it.
 class ShortcutBinder {
 public:
     /// Reads a stored shortcut at the time of binding; none if there is none.
@@ -29,7 +21,7 @@ public:
 
     ShortcutBinder(HotKeyCenter &center, Stored shelfShortcut, Stored viewAllShortcut);
 
-    /// Each gives false if the shortcut was refused.
+    /// Each gives false if the shortcut was refused at once.
     bool bindShelf();
     bool bindViewAll();
     /// Binds both again after the user changed one: the other one may be waiting for the
@@ -50,7 +42,7 @@ private:
     bool bind(const Stored &shortcut, HotKeyCenter::Binding binding,
               std::function<void()> ShortcutBinder::*action);
 
-    void note(HotKeyCenter::Binding binding, ShortcutOutcome outcome);
+    void note(HotKeyCenter::Binding binding, const ShortcutOutcome &outcome);
 
     HotKeyCenter &m_center;
     Stored m_shelfShortcut;

@@ -126,6 +126,21 @@ TEST(Texts, OfThePreferences)
         nothing);
     desk.abilities.become(lackingAbilities(Reason::ServerLacksExtensions));
     add(QStringLiteral("General, a session that lacks abilities"), general, nothing);
+    desk.abilities.become({});
+    desk.hotKeys.takenByOthers.clear();
+    desk.settings.setViewAllShortcut(Shortcut{KeyPosition{40}, 0, QStringLiteral("K")});
+    for (const auto &[answer, heading] :
+         {std::pair(ShortcutOutcome::pending(), "pending"),
+          std::pair(ShortcutOutcome::bound(QStringLiteral("Meta+A")), "bound by the desktop"),
+          std::pair(ShortcutOutcome::setInDesktop(QStringLiteral("corvane --toggle")),
+                    "set in the desktop")}) {
+        desk.hotKeys.firstAnswer = answer;
+        desk.binder.bindShelf();
+        desk.binder.bindViewAll();
+        add(QStringLiteral("General, a shortcut that types, the other one %1")
+                .arg(QLatin1String(heading)),
+            general, nothing);
+    }
     add(QStringLiteral("About"), PreferencesTab::About, nothing);
     deletePending();
     expectTable("preferences", table);

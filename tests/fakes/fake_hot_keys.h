@@ -22,28 +22,25 @@ public:
         m_handlers.push_back(std::move(onPressed));
         return static_cast<HandlerRef>(m_handlers.size());
     }
-    std::optional<Handle> registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
-                                         const HotKeyIdentifier &identifier) override
+    Registration registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
+                                const HotKeyIdentifier &identifier,
+                                OutcomeObserver onOutcome) override
     {
         const Combination wanted = {keyCode, modifiers};
         constexpr std::uint32_t sufficient = 256 | 2048 | 4096;
+        if ((modifiers & sufficient) == 0)
+            return {ShortcutOutcome::refused(ShortcutRefusal::TypesCharacter), {}};
         constexpr std::uint32_t known = sufficient | 512;
         constexpr KeyPosition lastKey{127};
         constexpr KeyPosition firstModifierKey{54};
         constexpr KeyPosition lastModifierKey{63};
         const bool isModifierKey = keyCode >= firstModifierKey && keyCode <= lastModifierKey;
-        if (keyCode > lastKey || isModifierKey || (modifiers & sufficient) == 0
-            || (modifiers & ~known) != 0 || takenByOthers.contains(wanted) || isRegistered(wanted))
-            return std::nullopt;
-        m_registered.emplace(m_nextHandle, Registration{wanted, identifier});
-        return m_nextHandle++;
-    }
-    void unregisterHotKey(Handle handle) override
-    {
-        if (onUnregister)
-            onUnregister();
-        if (m_registered.erase(handle) > 0)
-            ++unregistrations;
+        if (keyCode > lastKey || isModifierKey || (modifiers & ~known) != 0
+            || takenByOthers.contains(wanted) || isRegistered(wanted))
+            return {ShortcutOutcome::refused(), {}};
+        const int handle = m_nextHandle++;
+        m_registered.emplace(handle, Taken{wanted, identifier, std::move(onOutcome)});
+        return {firstAnswer, Subscription([this, handle] { unregister(handle); })};
     }
     std::unique_ptr<Suspension> suspend() override { return std::make_unique<Counted>(*this); }
 
@@ -66,6 +63,15 @@ public:
         for (const Handler &handler : std::vector(m_handlers))
             handler(identifier);
     }
+    /// The desktop answers, or changes its mind.
+    void answer(const Combination &combination, const ShortcutOutcome &outcome)
+    {
+        // A copy: whoever is told may register others.
+        for (const auto &[handle, taken] : std::map(m_registered)) {
+            if (taken.combination == combination)
+                taken.onOutcome(outcome);
+        }
+    }
     bool isRegistered(const Combination &combination) const
     {
         for (const auto &[handle, registration] : m_registered) {
@@ -78,6 +84,8 @@ public:
     std::size_t handlerCount() const { return m_handlers.size(); }
 
     std::set<Combination> takenByOthers;
+    /// What registering says of a combination that can be had.
+    ShortcutOutcome firstAnswer = ShortcutOutcome::bound();
     bool refusesHandler = false;
     int unregistrations = 0;
     int suspensions = 0;
@@ -85,9 +93,10 @@ public:
     std::function<void()> onUnregister;
 
 private:
-    struct Registration {
+    struct Taken {
         Combination combination;
         HotKeyIdentifier identifier;
+        OutcomeObserver onOutcome;
     };
     struct Counted : Suspension {
         explicit Counted(FakeHotKeys &keys)
@@ -99,9 +108,17 @@ private:
         FakeHotKeys &m_keys;
     };
 
+    void unregister(int handle)
+    {
+        if (onUnregister)
+            onUnregister();
+        if (m_registered.erase(handle) > 0)
+            ++unregistrations;
+    }
+
     std::vector<Handler> m_handlers;
-    std::map<Handle, Registration> m_registered;
-    Handle m_nextHandle = 1;
+    std::map<int, Taken> m_registered;
+    int m_nextHandle = 1;
 };
 
 } // namespace corvane::test

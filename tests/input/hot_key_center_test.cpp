@@ -204,10 +204,7 @@ protected:
     std::optional<ShortcutBinder> binder{std::in_place, *center, [this] { return shelfShortcut; },
                                          [this] { return viewAllShortcut; }};
 
-    bool isRefused(Binding binding) const
-    {
-        return binder->outcome(binding) == ShortcutOutcome::Refused;
-    }
+    bool isRefused(Binding binding) const { return binder->outcome(binding).isRefused(); }
 };
 
 } // namespace
@@ -249,6 +246,9 @@ TEST_F(ShortcutBinderTest, WhatTheUserTypesWithIsRefused)
     EXPECT_FALSE(binder->bindShelf());
     EXPECT_FALSE(binder->bindViewAll());
     EXPECT_EQ(keys.registrationCount(), 0U);
+    const auto refusal = ShortcutOutcome::refused(ShortcutRefusal::TypesCharacter);
+    EXPECT_EQ(binder->outcome(Binding::Shelf), refusal);
+    EXPECT_EQ(binder->outcome(Binding::ViewAll), refusal);
 }
 
 TEST_F(ShortcutBinderTest, RemembersWhatWasRefused)
@@ -289,14 +289,14 @@ TEST_F(ShortcutBinderTest, WhatOneGivesUpGoesToTheOtherThatWaitsForIt)
 
 TEST_F(ShortcutBinderTest, TheOutcomeIsThatOfTheLastAttempt)
 {
-    EXPECT_EQ(binder->outcome(Binding::Shelf), ShortcutOutcome::Unset);
+    EXPECT_EQ(binder->outcome(Binding::Shelf), ShortcutOutcome());
     binder->bindShelf();
     binder->bindViewAll();
-    EXPECT_EQ(binder->outcome(Binding::Shelf), ShortcutOutcome::Bound);
-    EXPECT_EQ(binder->outcome(Binding::ViewAll), ShortcutOutcome::Unset);
+    EXPECT_EQ(binder->outcome(Binding::Shelf), ShortcutOutcome::bound());
+    EXPECT_EQ(binder->outcome(Binding::ViewAll), ShortcutOutcome());
     shelfShortcut.reset();
     binder->bindShelf();
-    EXPECT_EQ(binder->outcome(Binding::Shelf), ShortcutOutcome::Unset);
+    EXPECT_EQ(binder->outcome(Binding::Shelf), ShortcutOutcome());
 }
 
 TEST_F(ShortcutBinderTest, ObserversHearOfEachOtherOutcomeUntilTheirSubscriptionEnds)
@@ -306,17 +306,50 @@ TEST_F(ShortcutBinderTest, ObserversHearOfEachOtherOutcomeUntilTheirSubscription
         = binder->observeOutcomes([&] { heard << binder->outcome(Binding::Shelf); });
     binder->bindShelf();
     binder->bindShelf();
-    EXPECT_EQ(heard, QList{ShortcutOutcome::Bound}) << "the same outcome is no news";
+    EXPECT_EQ(heard, QList{ShortcutOutcome::bound()}) << "the same outcome is no news";
     keys.takenByOthers.insert({shiftCommandD.keyCode, shiftCommandD.modifiers});
     binder->bindShelf();
     keys.takenByOthers.clear();
     binder->retryRefused();
-    EXPECT_EQ(heard,
-              (QList{ShortcutOutcome::Bound, ShortcutOutcome::Refused, ShortcutOutcome::Bound}));
+    EXPECT_EQ(
+        heard,
+        (QList{ShortcutOutcome::bound(), ShortcutOutcome::refused(), ShortcutOutcome::bound()}));
     observing.end();
     shelfShortcut.reset();
     binder->bindShelf();
     EXPECT_EQ(heard.size(), 3);
+}
+
+TEST_F(ShortcutBinderTest, AnAnswerThatComesLaterIsTheOutcomeFromThenOn)
+{
+    const FakeHotKeys::Combination wanted = {shiftCommandD.keyCode, shiftCommandD.modifiers};
+    QList<ShortcutOutcome> heard;
+    const Subscription observing
+        = binder->observeOutcomes([&] { heard << binder->outcome(Binding::Shelf); });
+    keys.firstAnswer = ShortcutOutcome::pending();
+    EXPECT_TRUE(binder->bindShelf()) << "it is not refused";
+    keys.answer(wanted, ShortcutOutcome::bound(QStringLiteral("Meta+D")));
+    keys.answer(wanted, ShortcutOutcome::refused());
+    EXPECT_EQ(heard,
+              (QList{ShortcutOutcome::pending(), ShortcutOutcome::bound(QStringLiteral("Meta+D")),
+                     ShortcutOutcome::refused()}));
+    keys.firstAnswer = ShortcutOutcome::bound();
+    binder->retryRefused();
+    EXPECT_EQ(heard.last(), ShortcutOutcome::bound());
+    EXPECT_EQ(keys.registrationCount(), 1U);
+}
+
+TEST_F(ShortcutBinderTest, AnAnswerToAShortcutThatWasReplacedIsNotHeard)
+{
+    keys.firstAnswer = ShortcutOutcome::pending();
+    binder->bindShelf();
+    shelfShortcut = controlF5;
+    binder->bindShelf();
+    keys.answer({shiftCommandD.keyCode, shiftCommandD.modifiers}, ShortcutOutcome::refused());
+    EXPECT_EQ(binder->outcome(Binding::Shelf), ShortcutOutcome::pending());
+    binder.reset();
+    keys.answer({controlF5.keyCode, controlF5.modifiers}, ShortcutOutcome::bound());
+    EXPECT_EQ(center->outcome(Binding::Shelf), ShortcutOutcome::bound());
 }
 
 TEST_F(ShortcutBinderTest, TellsThatAShortcutIsTaken)

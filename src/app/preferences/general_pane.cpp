@@ -44,6 +44,8 @@ GeneralPane::GeneralPane(PreferencesContext context, QWidget *parent)
     layout->addWidget(makeBehaviourSection());
     layout->addWidget(makeShortcutsSection());
     layout->addWidget(makeUpdatesSection());
+    showAbilities();
+    m_abilities = m_context.abilities.observe([this] { showAbilities(); });
 }
 
 QWidget *GeneralPane::makeNotice(const QString &text) const
@@ -59,12 +61,10 @@ QWidget *GeneralPane::makeLimits()
     auto *layout = new QVBoxLayout(m_limits);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(m_look.length(betweenNotices));
-    showLimits();
-    m_abilities = m_context.abilities.observe([this] { showLimits(); });
     return m_limits;
 }
 
-void GeneralPane::showLimits()
+void GeneralPane::showAbilities()
 {
     qDeleteAll(m_limits->findChildren<TextLabel *>());
     const QStringList limits = session_texts::limits(m_context.abilities.now());
@@ -74,6 +74,8 @@ void GeneralPane::showLimits()
         notice->show();
     }
     m_limits->setVisible(!limits.isEmpty());
+    for (ShortcutRow *row : {m_shelfShortcut, m_viewAllShortcut})
+        row->setRecordable(m_context.abilities.now().shortcutChoice.isFull());
 }
 
 PreferenceSection *GeneralPane::makeShelfSection()
@@ -130,13 +132,11 @@ SettingRow *GeneralPane::makeSwitchRow(const QString &title, const QString &deta
 PreferenceSection *GeneralPane::makeShortcutsSection()
 {
     Settings &settings = m_context.settings;
-    const QString conflict = tr("Another app already uses that combination.");
     auto *section = new PreferenceSection(tr("Shortcuts"), m_look);
 
-    m_shelfShortcut
-        = new ShortcutRow(tr("Show or hide the shelf"),
-                          {tr("Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only."), conflict},
-                          m_context.keyMonitors, m_context.hotKeys, m_look);
+    m_shelfShortcut = new ShortcutRow(tr("Show or hide the shelf"),
+                                      tr("Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only."),
+                                      m_context.keyMonitors, m_context.hotKeys, m_look);
     m_shelfShortcut->setShortcut(settings.shortcut());
     m_shelfShortcut->onChange = [this](const std::optional<Shortcut> &shortcut) {
         m_context.settings.setShortcut(shortcut);
@@ -144,10 +144,9 @@ PreferenceSection *GeneralPane::makeShortcutsSection()
     };
     section->addRow(m_shelfShortcut);
 
-    m_viewAllShortcut
-        = new ShortcutRow(tr("Show or hide all items"),
-                          {tr("Unset by default. ↓ on the shelf does the same thing."), conflict},
-                          m_context.keyMonitors, m_context.hotKeys, m_look);
+    m_viewAllShortcut = new ShortcutRow(tr("Show or hide all items"),
+                                        tr("Unset by default. ↓ on the shelf does the same thing."),
+                                        m_context.keyMonitors, m_context.hotKeys, m_look);
     m_viewAllShortcut->setShortcut(settings.viewAllShortcut());
     m_viewAllShortcut->onChange = [this](const std::optional<Shortcut> &shortcut) {
         m_context.settings.setViewAllShortcut(shortcut);
@@ -156,8 +155,8 @@ PreferenceSection *GeneralPane::makeShortcutsSection()
     section->addRow(m_viewAllShortcut);
 
     m_context.shortcutBinder.retryRefused();
-    showConflicts();
-    m_outcomes = m_context.shortcutBinder.observeOutcomes([this] { showConflicts(); });
+    showOutcomes();
+    m_outcomes = m_context.shortcutBinder.observeOutcomes([this] { showOutcomes(); });
     return section;
 }
 
@@ -165,16 +164,14 @@ void GeneralPane::shortcutChanged(HotKeyCenter::Binding changed)
 {
     m_context.shortcutBinder.rebind(changed);
     // Also where the outcome is the same: the row shows another shortcut now.
-    showConflicts();
+    showOutcomes();
 }
 
-void GeneralPane::showConflicts()
+void GeneralPane::showOutcomes()
 {
-    const auto isRefused = [&binder = m_context.shortcutBinder](HotKeyCenter::Binding binding) {
-        return binder.outcome(binding) == ShortcutOutcome::Refused;
-    };
-    m_shelfShortcut->setConflict(isRefused(HotKeyCenter::Binding::Shelf));
-    m_viewAllShortcut->setConflict(isRefused(HotKeyCenter::Binding::ViewAll));
+    const ShortcutBinder &binder = m_context.shortcutBinder;
+    m_shelfShortcut->setOutcome(binder.outcome(HotKeyCenter::Binding::Shelf));
+    m_viewAllShortcut->setOutcome(binder.outcome(HotKeyCenter::Binding::ViewAll));
 }
 
 PreferenceSection *GeneralPane::makeUpdatesSection()

@@ -29,12 +29,12 @@ public:
 private:
     QWidget *makeNotice(const QString &text) const;
     QWidget *makeLimits();
-    void showLimits();
+    void showAbilities();
     PreferenceSection *makeShelfSection();
     PreferenceSection *makeBehaviourSection();
     PreferenceSection *makeShortcutsSection();
     void shortcutChanged(HotKeyCenter::Binding changed);
-    void showConflicts();
+    void showOutcomes();
     PreferenceSection *makeUpdatesSection();
     SettingRow *makeSwitchRow(const QString &title, const QString &detail, bool on,
                               void (Settings::*write)(bool));

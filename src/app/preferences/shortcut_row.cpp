@@ -2,8 +2,7 @@
 
 #include "app/preferences/clear_button.h"
 #include "app/preferences/shortcut_recorder_view.h"
-
-#include <utility>
+#include "core/display_text.h"
 
 namespace corvane {
 
@@ -13,23 +12,23 @@ constexpr QSize recorderSize{124, 26};
 
 } // namespace
 
-ShortcutRow::ShortcutRow(const QString &title, Details details, KeyMonitors &keyMonitors,
+ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail, KeyMonitors &keyMonitors,
                          HotKeyService &hotKeys, const WindowLook &look)
-    : ShortcutRow(title, std::move(details), new ShortcutRecorderView(keyMonitors, hotKeys),
+    : ShortcutRow(title, usualDetail, new ShortcutRecorderView(keyMonitors, hotKeys),
                   new ClearButton(look), look)
 {
 }
 
-ShortcutRow::ShortcutRow(const QString &title, Details details, ShortcutRecorderView *recorder,
-                         ClearButton *clear, const WindowLook &look)
-    : SettingRow(title, details.usual, {recorder, clear}, look)
-    , m_details(std::move(details))
+ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail,
+                         ShortcutRecorderView *recorder, ClearButton *clear, const WindowLook &look)
+    : SettingRow(title, usualDetail, {recorder, clear}, look)
+    , m_usualDetail(usualDetail)
     , m_recorder(recorder)
     , m_clear(clear)
 {
     m_recorder->setFixedSize(look.length(recorderSize));
     m_recorder->setAccessibleName(title);
-    m_recorder->setAccessibleDescription(m_details.usual);
+    m_recorder->setAccessibleDescription(usualDetail);
     // The signs do not stand on the keys of a PC keyboard.
     m_recorder->setToolTip(tr("⌘ is Super, ⌥ is Alt, ⌃ is Ctrl, ⇧ is Shift"));
     m_clear->setAccessibleDescription(title);
@@ -48,12 +47,39 @@ void ShortcutRow::setShortcut(const std::optional<Shortcut> &shortcut)
     m_clear->setEnabled(shortcut.has_value());
 }
 
-void ShortcutRow::setConflict(bool conflict)
+QString ShortcutRow::detailFor(const ShortcutOutcome &outcome) const
 {
-    const QString &detail = conflict ? m_details.conflict : m_details.usual;
-    m_recorder->setConflict(conflict);
+    // The desktop's words are a stranger's.
+    const QString text = displayText(outcome.text);
+    switch (outcome.kind) {
+    case ShortcutOutcome::Kind::Refused:
+        return outcome.why == ShortcutRefusal::TypesCharacter
+            ? tr("That combination types a character. Record one with ⌘, ⌥ or ⌃.")
+            : tr("Another app already uses that combination.");
+    case ShortcutOutcome::Kind::Pending:
+        return tr("Your desktop has not answered yet.");
+    case ShortcutOutcome::Kind::SetInDesktop:
+        return tr("Bind a key to this command in your desktop's settings: %1").arg(text);
+    case ShortcutOutcome::Kind::Bound:
+        return text.isEmpty() ? m_usualDetail : tr("Your desktop has bound it to %1.").arg(text);
+    case ShortcutOutcome::Kind::Unset:
+        break;
+    }
+    return m_usualDetail;
+}
+
+void ShortcutRow::setOutcome(const ShortcutOutcome &outcome)
+{
+    const QString detail = detailFor(outcome);
+    m_recorder->setConflict(outcome.isRefused());
     m_recorder->setAccessibleDescription(detail);
     setDetail(detail);
+}
+
+void ShortcutRow::setRecordable(bool recordable)
+{
+    m_recorder->setVisible(recordable);
+    m_clear->setVisible(recordable);
 }
 
 void ShortcutRow::change(const std::optional<Shortcut> &shortcut)

@@ -2,6 +2,7 @@
 
 #include "app/preferences/setting_row.h"
 #include "input/shortcut.h"
+#include "platform/desktop/shortcut_outcome.h"
 
 #include <functional>
 #include <optional>
@@ -13,35 +14,34 @@ class HotKeyService;
 class KeyMonitors;
 class ShortcutRecorderView;
 
-/// A row for one global shortcut: a field that records it, and a button that clears it.
+/// A row for one global shortcut: a field that records it, a button that clears it, and what has
+/// become of it.
 class ShortcutRow : public SettingRow {
     Q_OBJECT
 
 public:
-    /// What the row says under its title.
-    struct Details {
-        QString usual;
-        QString conflict;
-    };
-
-    /// `keyMonitors` and `hotKeys` must outlive it.
-    ShortcutRow(const QString &title, Details details, KeyMonitors &keyMonitors,
+    /// `usualDetail` stands under the title as long as there is nothing else to say. `keyMonitors`
+    /// and `hotKeys` must outlive it.
+    ShortcutRow(const QString &title, const QString &usualDetail, KeyMonitors &keyMonitors,
                 HotKeyService &hotKeys, const WindowLook &look);
 
     const std::optional<Shortcut> &shortcut() const { return m_shortcut; }
     void setShortcut(const std::optional<Shortcut> &shortcut);
-    /// Whether another program holds the shown combination.
-    void setConflict(bool conflict);
+    /// What has become of the shown combination.
+    void setOutcome(const ShortcutOutcome &outcome);
+    /// Whether it is chosen here; otherwise there is nothing to click.
+    void setRecordable(bool recordable);
 
     /// The user recorded another one, or cleared it.
     std::function<void(const std::optional<Shortcut> &)> onChange;
 
 private:
-    ShortcutRow(const QString &title, Details details, ShortcutRecorderView *recorder,
+    ShortcutRow(const QString &title, const QString &usualDetail, ShortcutRecorderView *recorder,
                 ClearButton *clear, const WindowLook &look);
+    QString detailFor(const ShortcutOutcome &outcome) const;
     void change(const std::optional<Shortcut> &shortcut);
 
-    Details m_details;
+    QString m_usualDetail;
     ShortcutRecorderView *m_recorder;
     ClearButton *m_clear;
     std::optional<Shortcut> m_shortcut;

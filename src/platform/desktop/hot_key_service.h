@@ -1,6 +1,8 @@
 #pragma once
 
+#include "platform/base/subscription.h"
 #include "platform/desktop/keys.h"
+#include "platform/desktop/shortcut_outcome.h"
 
 #include <cstdint>
 #include <functional>
@@ -21,10 +23,17 @@ struct HotKeyIdentifier {
 /// Registers keys that reach us whichever program has the keyboard. Main thread only.
 class HotKeyService {
 public:
-    using Handle = int;
     using HandlerRef = int;
     /// Gets the hot key that was pressed; none if that cannot be told.
     using Handler = std::function<void(const std::optional<HotKeyIdentifier> &)>;
+    using OutcomeObserver = std::function<void(const ShortcutOutcome &)>;
+
+    struct Registration {
+        /// Pending where the desktop takes its time.
+        ShortcutOutcome outcome;
+        /// Gives the combination up when it ends. Must not outlive the service.
+        Subscription subscription;
+    };
 
     /// While one of these exists no hot key reaches us; the keys go to the program that has the
     /// keyboard. Must not outlive the service.
@@ -42,14 +51,16 @@ public:
     /// key are not reported. Handlers cannot be removed. None if the service is not available.
     virtual std::optional<HandlerRef> installHandler(Handler onPressed) = 0;
 
-    /// Registers a combination of a key and modifier bits as shortcuts store them. None if another
-    /// program or another registration of ours has it, if no keyboard can type it, or if the user
-    /// types with it: without Command, Option and Control, or with a key that is itself a modifier.
-    virtual std::optional<Handle> registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
-                                                 const HotKeyIdentifier &identifier)
+    /// Takes a combination for us alone: a key and modifier bits as shortcuts store them. Refused
+    /// if it is taken, by another program or by a registration of our own, if no keyboard can type
+    /// it, if its key is itself a modifier, or if it types a character.
+    ///
+    /// The observer is called after this has returned, each time the outcome has become another
+    /// one, as long as the subscription lasts.
+    [[nodiscard]] virtual Registration registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
+                                                      const HotKeyIdentifier &identifier,
+                                                      OutcomeObserver onOutcome)
         = 0;
-    /// Does nothing for a handle that is not registered.
-    virtual void unregisterHotKey(Handle handle) = 0;
 
     /// Registering still works during a suspension, and still fails for combinations that are in
     /// use.

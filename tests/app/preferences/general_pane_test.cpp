@@ -202,6 +202,49 @@ TEST_F(GeneralPaneTest, ACombinationThatIsFreedWhileThePaneIsOpenIsShownToBeBoun
     EXPECT_FALSE(shelfRow().findChild<ShortcutRecorderView *>()->hasConflict());
 }
 
+TEST_F(GeneralPaneTest, AStoredCombinationThatTypesACharacterIsNotSaidToBeTaken)
+{
+    desk.settings.setShortcut(Shortcut{keyA, Shortcut::shift, QStringLiteral("A")});
+    desk.binder.bindShelf();
+    EXPECT_EQ(shelfRow().detail(),
+              QStringLiteral("That combination types a character. Record one with ⌘, ⌥ or ⌃."));
+    EXPECT_TRUE(shelfRow().findChild<ShortcutRecorderView *>()->hasConflict());
+}
+
+TEST_F(GeneralPaneTest, TheDesktopsLaterAnswerIsShownWhenItComes)
+{
+    const FakeHotKeys::Combination wanted = {KeyPosition::D, Shortcut::command | Shortcut::shift};
+    desk.hotKeys.firstAnswer = ShortcutOutcome::pending();
+    desk.binder.bindShelf();
+    EXPECT_EQ(shelfRow().detail(), QStringLiteral("Your desktop has not answered yet."));
+    desk.hotKeys.answer(wanted, ShortcutOutcome::bound(QStringLiteral("Meta+D")));
+    EXPECT_EQ(shelfRow().detail(), QStringLiteral("Your desktop has bound it to Meta+D."));
+    EXPECT_FALSE(shelfRow().findChild<ShortcutRecorderView *>()->hasConflict());
+    desk.hotKeys.answer(wanted, ShortcutOutcome::refused());
+    EXPECT_EQ(shelfRow().detail(), conflictText);
+    EXPECT_TRUE(shelfRow().findChild<ShortcutRecorderView *>()->hasConflict());
+    desk.hotKeys.answer(wanted, ShortcutOutcome::bound());
+    EXPECT_EQ(shelfRow().detail(), needsText);
+}
+
+TEST_F(GeneralPaneTest, WhereTheDesktopKeepsShortcutsThereIsACommandInsteadOfARecorder)
+{
+    desk.hotKeys.firstAnswer = ShortcutOutcome::setInDesktop(QStringLiteral("corvane --toggle"));
+    desk.binder.bindShelf();
+    desk.abilities.become(
+        {.shortcutChoice = {ShortcutChoice::InTheDesktop, Reason::KeptByDesktop}});
+    EXPECT_EQ(shelfRow().detail(),
+              QStringLiteral("Bind a key to this command in your desktop's settings: corvane "
+                             "--toggle"));
+    const auto canRecord = [this] {
+        return shelfRow().findChild<ShortcutRecorderView *>()->isVisibleTo(&pane())
+            && shelfRow().findChild<ClearButton *>()->isVisibleTo(&pane());
+    };
+    EXPECT_FALSE(canRecord());
+    desk.abilities.become({});
+    EXPECT_TRUE(canRecord());
+}
+
 TEST_F(GeneralPaneTest, ClearingATakenCombinationRestoresTheText)
 {
     desk.hotKeys.takenByOthers.insert({keyA, Shortcut::control});

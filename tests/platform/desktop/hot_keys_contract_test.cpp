@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <deque>
 
 namespace corvane::test {
 
@@ -155,9 +156,18 @@ protected:
             heard.push_back(pressed.value_or(HotKeyIdentifier{}).id);
         });
     }
-    auto take(Key key, std::uint32_t modifiers, std::uint32_t id = 1)
+    /// Null where it is refused. What is given lasts until it is ended.
+    Subscription *take(Key key, std::uint32_t modifiers, std::uint32_t id = 1)
     {
-        return keyboard.service.registerHotKey(key.code, modifiers, {0x4352564E, id});
+        auto [outcome, subscription] = keyboard.service.registerHotKey(
+            key.code, modifiers, {0x4352564E, id},
+            [this](const ShortcutOutcome &later) { outcomes.push_back(later); });
+        EXPECT_EQ(outcome.isRefused(), !subscription.isActive());
+        refusal = outcome.why;
+        if (outcome.isRefused())
+            return nullptr;
+        EXPECT_EQ(outcome, ShortcutOutcome::bound());
+        return &taken.emplace_back(std::move(subscription));
     }
     /// Whether exactly these were heard of in the end.
     bool hears(const std::vector<std::uint32_t> &ids)
@@ -169,6 +179,9 @@ protected:
 
     Keyboard keyboard;
     std::vector<std::uint32_t> heard;
+    std::vector<ShortcutOutcome> outcomes;
+    ShortcutRefusal refusal = ShortcutRefusal::Taken;
+    std::deque<Subscription> taken;
 };
 
 using AllKeyboards = testing::Types<FakeKeyboard, RealKeyboard>;
@@ -205,6 +218,7 @@ TYPED_TEST(HotKeysContract, whatAnotherProgramHoldsIsRefused)
 {
     this->keyboard.takeElsewhere(keyD, command | shift);
     EXPECT_FALSE(this->take(keyD, command | shift));
+    EXPECT_EQ(this->refusal, ShortcutRefusal::Taken);
     EXPECT_TRUE(this->take(keyD, command | control));
     this->keyboard.press(keyD, command | shift);
     this->keyboard.waitABit();
@@ -213,12 +227,12 @@ TYPED_TEST(HotKeysContract, whatAnotherProgramHoldsIsRefused)
 
 TYPED_TEST(HotKeysContract, whatAnotherRegistrationOfOursHoldsIsRefused)
 {
-    const auto first = this->take(keyD, command | shift, 1);
+    auto *const first = this->take(keyD, command | shift, 1);
     ASSERT_TRUE(first);
     EXPECT_FALSE(this->take(keyD, command | shift, 2));
     this->keyboard.press(keyD, command | shift);
     EXPECT_TRUE(this->hears({1}));
-    this->keyboard.service.unregisterHotKey(*first);
+    first->end();
     EXPECT_TRUE(this->take(keyD, command | shift, 2));
     this->keyboard.press(keyD, command | shift);
     EXPECT_TRUE(this->hears({1, 2}));
@@ -226,11 +240,9 @@ TYPED_TEST(HotKeysContract, whatAnotherRegistrationOfOursHoldsIsRefused)
 
 TYPED_TEST(HotKeysContract, whatIsNotRegisteredAnyMoreIsNotHeard)
 {
-    const auto handle = this->take(keyD, command | shift);
-    ASSERT_TRUE(handle);
-    this->keyboard.service.unregisterHotKey(*handle);
-    this->keyboard.service.unregisterHotKey(*handle);
-    this->keyboard.service.unregisterHotKey(12345);
+    auto *const registration = this->take(keyD, command | shift);
+    ASSERT_TRUE(registration);
+    registration->end();
     this->keyboard.press(keyD, command | shift);
     this->keyboard.waitABit();
     EXPECT_TRUE(this->heard.empty());
@@ -248,8 +260,10 @@ TYPED_TEST(HotKeysContract, whatTheUserTypesWithIsRefused)
 {
     constexpr KeyPosition leftShift{56};
     constexpr KeyPosition capsLockKey{57};
-    for (const std::uint32_t modifiers : {0U, shift})
+    for (const std::uint32_t modifiers : {0U, shift}) {
         EXPECT_FALSE(this->take(keyD, modifiers)) << modifiers;
+        EXPECT_EQ(this->refusal, ShortcutRefusal::TypesCharacter);
+    }
     EXPECT_FALSE(this->take({leftShift, keys::shift}, option));
     EXPECT_FALSE(this->take({capsLockKey, capsLock}, control));
     this->keyboard.press(keyD, shift);
@@ -290,10 +304,9 @@ TYPED_TEST(HotKeysContract, whileSuspendedTakenIsTakenAndFreeIsFree)
 
 TYPED_TEST(HotKeysContract, aHandlerMayUnregisterItsOwnHotKey)
 {
-    const auto handle = this->take(keyD, command | control);
-    ASSERT_TRUE(handle);
-    this->keyboard.service.installHandler(
-        [&](const auto &) { this->keyboard.service.unregisterHotKey(*handle); });
+    auto *const registration = this->take(keyD, command | control);
+    ASSERT_TRUE(registration);
+    this->keyboard.service.installHandler([&](const auto &) { registration->end(); });
     this->keyboard.press(keyD, command | control);
     EXPECT_TRUE(this->hears({1}));
     this->keyboard.press(keyD, command | control);
@@ -331,15 +344,15 @@ TEST_F(X11HotKeysTest, aCombinationTakenUnderOneLockOnlyIsRefusedWhole)
 
 TEST_F(X11HotKeysTest, aRegistrationIsOursAloneAndFreeAfterwards)
 {
-    const auto handle = take(keyD, command | shift);
-    ASSERT_TRUE(handle);
+    auto *const registration = take(keyD, command | shift);
+    ASSERT_TRUE(registration);
     EXPECT_FALSE(keyboard.isFree(keyD, command | shift));
     {
         const auto suspension = keyboard.service.suspend();
         EXPECT_TRUE(eventually([&] { return keyboard.isFree(keyD, command | shift); }));
     }
     EXPECT_FALSE(keyboard.isFree(keyD, command | shift));
-    keyboard.service.unregisterHotKey(*handle);
+    registration->end();
     EXPECT_TRUE(eventually([&] { return keyboard.isFree(keyD, command | shift); }));
 }
 
@@ -444,6 +457,7 @@ TEST_F(X11HotKeysTest, withoutASuperKeyItIsRefusedAndComesBackWithTheKey)
         EXPECT_EQ(said.count(QStringLiteral("cannot be taken again")), 1) << qPrintable(said);
     }
     EXPECT_TRUE(eventually([&] { return !keyboard.isFree(keyD, command | control); }));
+    EXPECT_EQ(outcomes, (std::vector{ShortcutOutcome::refused(), ShortcutOutcome::bound()}));
     keyboard.press(keyD, command | control);
     EXPECT_TRUE(hears({1}));
 }
@@ -461,6 +475,7 @@ TEST_F(X11HotKeysTest, whatWasTakenElsewhereDuringASuspensionIsSaidOnceAndCostsN
     suspension.reset();
     const QString said = QString::fromStdString(testing::internal::GetCapturedStderr());
     EXPECT_EQ(said.count(QStringLiteral("cannot be taken again")), 1) << qPrintable(said);
+    EXPECT_EQ(outcomes, std::vector{ShortcutOutcome::refused()});
     keyboard.press(keyD, command | control);
     keyboard.press(keyK, command);
     EXPECT_TRUE(hears({2}));
@@ -483,7 +498,8 @@ TEST_F(X11HotKeysTest, worksWhileAnotherProgramHoldsThePointer)
 TEST_F(X11HotKeysTest, whenItEndsItsKeysAreFree)
 {
     auto second = std::make_unique<X11HotKeys>(keyboard.connection, keyboard.queue);
-    ASSERT_TRUE(second->registerHotKey(keyD.code, command | control, {1, 1}));
+    const auto registration = second->registerHotKey(keyD.code, command | control, {1, 1}, {});
+    ASSERT_EQ(registration.outcome, ShortcutOutcome::bound());
     EXPECT_FALSE(keyboard.isFree(keyD, command | control));
     second.reset();
     EXPECT_TRUE(eventually([&] { return keyboard.isFree(keyD, command | control); }));

@@ -47,26 +47,30 @@ std::optional<HotKeyService::HandlerRef> X11HotKeys::installHandler(Handler onPr
     return m_handlers.add(std::move(onPressed));
 }
 
-std::optional<HotKeyService::Handle> X11HotKeys::registerHotKey(KeyPosition keyCode,
-                                                                std::uint32_t modifiers,
-                                                                const HotKeyIdentifier &identifier)
+HotKeyService::Registration X11HotKeys::registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
+                                                       const HotKeyIdentifier &identifier,
+                                                       OutcomeObserver onOutcome)
 {
+    if (!X11Modifiers::areMoreThanTyping(modifiers))
+        return {ShortcutOutcome::refused(ShortcutRefusal::TypesCharacter), {}};
     const auto combination = combinationFor(keyCode, modifiers);
     const bool isTwin = std::ranges::any_of(m_hotKeys, [&](const auto &other) {
         return other.second.keyCode == keyCode && other.second.modifiers == modifiers;
     });
     if (!combination || isTwin || !grab(*combination))
-        return std::nullopt;
-    HotKey hotKey = {keyCode, modifiers, identifier, combination, false};
+        return {ShortcutOutcome::refused(), {}};
+    HotKey hotKey = {keyCode, modifiers, identifier, std::move(onOutcome), combination, false};
     if (m_suspensions > 0) {
         ungrab(*combination);
         hotKey.grabbed.reset();
     }
-    m_hotKeys.emplace(m_nextHandle, hotKey);
-    return m_nextHandle++;
+    const Handle handle = m_nextHandle++;
+    m_hotKeys.emplace(handle, std::move(hotKey));
+    return {ShortcutOutcome::bound(),
+            Subscription(m_lifetime.guard([this, handle] { unregister(handle); }))};
 }
 
-void X11HotKeys::unregisterHotKey(Handle handle)
+void X11HotKeys::unregister(Handle handle)
 {
     const auto found = m_hotKeys.find(handle);
     if (found == m_hotKeys.end())
@@ -142,6 +146,7 @@ void X11HotKeys::ungrab(const Combination &combination)
 void X11HotKeys::grabAll()
 {
     bool isNews = false;
+    std::vector<Handle> changed;
     for (auto &[handle, hotKey] : m_hotKeys) {
         if (hotKey.grabbed)
             continue;
@@ -150,10 +155,27 @@ void X11HotKeys::grabAll()
             hotKey.grabbed = combination;
         const bool wasLost = std::exchange(hotKey.isLost, !hotKey.grabbed);
         isNews = isNews || (hotKey.isLost && !wasLost);
+        if (hotKey.isLost != wasLost)
+            changed.push_back(handle);
     }
     if (isNews)
         qWarning("[Corvane] A shortcut cannot be taken again: another program has it now, or the "
                  "keyboard lacks one of its keys.");
+    tellOutcomes(changed);
+}
+
+void X11HotKeys::tellOutcomes(const std::vector<Handle> &changed) const
+{
+    for (const Handle handle : changed) {
+        // Each may be gone by the time that it is told, and may go then.
+        const auto found = m_hotKeys.find(handle);
+        if (found == m_hotKeys.end())
+            continue;
+        const OutcomeObserver onOutcome = found->second.onOutcome;
+        const bool isLost = found->second.isLost;
+        if (onOutcome)
+            onOutcome(isLost ? ShortcutOutcome::refused() : ShortcutOutcome::bound());
+    }
 }
 
 void X11HotKeys::ungrabAll()

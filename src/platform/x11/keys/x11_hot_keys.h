@@ -9,6 +9,7 @@
 #include <map>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace corvane {
 
@@ -17,10 +18,11 @@ class MainQueue;
 /// Hot keys as passive grabs on the root window, which work whichever program has the keyboard and
 /// also while one drags with the pointer grabbed.
 ///
-/// A grab names a key by its position and modifiers by their bits. So it stays when the layout
-/// changes; when the modifiers' bits change all keys are grabbed anew. If a grab is refused then,
-/// or after a suspension, that is logged once, and tried again at the next such occasion. The
-/// connection and the queue must outlive it.
+/// A grab names a key by its position and modifiers by their bits, so a change of the layout costs
+/// nothing; one of the modifiers takes all grabs anew. One that cannot be had again then, or after
+/// a suspension, is logged and told, and tried for again at the next such occasion. Answers are
+/// there at once. The connection and the
+/// queue must outlive it.
 class X11HotKeys : public HotKeyService {
 public:
     X11HotKeys(X11Connection &connection, MainQueue &queue);
@@ -29,13 +31,15 @@ public:
     X11HotKeys &operator=(const X11HotKeys &) = delete;
 
     std::optional<HandlerRef> installHandler(Handler onPressed) override;
-    std::optional<Handle> registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
-                                         const HotKeyIdentifier &identifier) override;
-    void unregisterHotKey(Handle handle) override;
+    Registration registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
+                                const HotKeyIdentifier &identifier,
+                                OutcomeObserver onOutcome) override;
     std::unique_ptr<Suspension> suspend() override;
 
 private:
-    /// A key and modifiers as the server names them.
+    using Handle = int;
+
+    /// What the server is asked for.
     struct Combination {
         xcb_keycode_t key = 0;
         std::uint16_t modifiers = 0;
@@ -46,18 +50,21 @@ private:
         KeyPosition keyCode = KeyPosition::Unknown;
         std::uint32_t modifiers = 0;
         HotKeyIdentifier identifier;
-        /// None while it is not grabbed.
+        OutcomeObserver onOutcome;
+        /// None while it could not be had.
         std::optional<Combination> grabbed;
         /// The last attempt to grab it again failed, which was logged.
         bool isLost = false;
     };
     class Counted;
 
+    void unregister(Handle handle);
     std::optional<Combination> combinationFor(KeyPosition keyCode, std::uint32_t modifiers) const;
     bool isHeldByOurselves(const Combination &combination) const;
     bool grab(const Combination &combination);
     void ungrab(const Combination &combination);
     void grabAll();
+    void tellOutcomes(const std::vector<Handle> &changed) const;
     void ungrabAll();
 
     void handle(const xcb_generic_event_t &event);

@@ -107,6 +107,11 @@ X11Modifiers X11Modifiers::read(xcb_connection_t *connection)
             mapping.bitOf({symbols::scrollLock}), mapping.keys()};
 }
 
+bool X11Modifiers::areMoreThanTyping(std::uint32_t modifiers)
+{
+    return (modifiers & (storedCommand | storedOption | storedControl)) != 0;
+}
+
 std::optional<std::uint16_t> X11Modifiers::maskFor(std::uint32_t modifiers) const
 {
     struct Pair {
@@ -117,9 +122,6 @@ std::optional<std::uint16_t> X11Modifiers::maskFor(std::uint32_t modifiers) cons
                                         {storedShift, XCB_MOD_MASK_SHIFT},
                                         {storedOption, alt},
                                         {storedControl, XCB_MOD_MASK_CONTROL}}};
-    constexpr std::uint32_t sufficient = storedCommand | storedOption | storedControl;
-    if ((modifiers & sufficient) == 0)
-        return std::nullopt;
     std::uint32_t rest = modifiers;
     std::uint16_t mask = 0;
     for (const auto &[stored, bit] : pairs) {

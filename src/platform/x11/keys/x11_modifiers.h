@@ -21,9 +21,11 @@ struct X11Modifiers {
     /// Asks the server. All zero if it does not answer.
     static X11Modifiers read(xcb_connection_t *connection);
 
-    /// The mask for modifier bits as shortcuts store them. None for unknown bits, for a modifier
-    /// that no key sets, and without Command, Option and Control, because the user types with Shift
-    /// or nothing.
+    /// Whether modifier bits as shortcuts store them contain Command, Option or Control: without
+    /// them a key types a character.
+    static bool areMoreThanTyping(std::uint32_t modifiers);
+    /// The mask that stands for such bits. None for bits that have no meaning, and for a modifier
+    /// that no key sets.
     std::optional<std::uint16_t> maskFor(std::uint32_t modifiers) const;
     /// All combinations of lock modifiers (Caps, Num, Scroll) under which a hot key has to work;
     /// the empty one comes first.
