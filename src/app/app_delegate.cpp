@@ -8,7 +8,6 @@
 #include "core/shelf_store.h"
 #include "input/hot_key_center.h"
 #include "input/shortcut_binder.h"
-#include "platform/desktop/drag_watch.h"
 #include "services/quick_look_presenter.h"
 #include "shelf/edge_summoner.h"
 #include "shelf/hud_controller.h"
@@ -34,6 +33,8 @@ AppDelegate::~AppDelegate()
     m_context.statusItem.onShowShelf = nullptr;
     m_context.statusItem.onPreferences = nullptr;
     m_context.statusItem.onWelcome = nullptr;
+    m_context.store.onOwnDragChanged = nullptr;
+    m_context.hud.onDragOver = nullptr;
     m_context.hud.onAwaitsDrop = nullptr;
     m_context.hud.onPointerInside = nullptr;
     m_context.hud.onUsed = nullptr;
@@ -47,6 +48,7 @@ void AppDelegate::applicationDidFinishLaunching()
         qWarning("[Corvane] The settings folder cannot be written to; changes are not kept.");
     m_context.previewPanel.setController(this);
     wireAwaitedDrops();
+    wireDragsOverShelf();
     wireDragDetection();
     wireHotKey();
     wireMenu();
@@ -57,19 +59,38 @@ void AppDelegate::applicationDidFinishLaunching()
 void AppDelegate::wireDragDetection()
 {
     DragWatch &watch = m_context.dragWatch;
-    watch.onDragBegan = [this] {
-        if (!m_context.settings.autoShowOnDrag())
-            return;
-        m_isDragEndOwed = false;
-        m_context.store.dragBegan();
-    };
-    watch.onDragEnded = [this] {
-        // An empty shelf would close although a drop is on its way to it.
-        m_isDragEndOwed = m_isAwaitingDrop && m_context.store.items().isEmpty();
-        if (!m_isDragEndOwed)
-            m_context.store.dragEnded();
-    };
+    watch.onDragBegan = [this] { dragBegan(); };
+    watch.onDragEnded = [this](DragEnd end) { dragEnded(end); };
+    m_context.store.onOwnDragChanged = [&watch](bool isOwn) { watch.ownDrag(isOwn); };
     watch.start();
+}
+
+void AppDelegate::dragBegan()
+{
+    m_isDragEndAssumed = false;
+    if (!m_context.settings.autoShowOnDrag())
+        return;
+    m_isDragEndOwed = false;
+    m_context.store.dragBegan();
+}
+
+void AppDelegate::dragEnded(DragEnd end)
+{
+    m_isDragEndAssumed = end == DragEnd::Assumed;
+    // An empty shelf would close under what was dropped on it and is still on its way.
+    m_isDragEndOwed = m_isAwaitingDrop && m_context.store.items().isEmpty();
+    if (!m_isDragEndOwed)
+        m_context.store.dragEnded();
+}
+
+/// A drag whose end was assumed, and that comes to where the closed shelf hangs, opens it again.
+void AppDelegate::wireDragsOverShelf()
+{
+    m_context.hud.onDragOver = [this](bool isOver) {
+        m_context.dragWatch.overPanel(isOver);
+        if (isOver && m_isDragEndAssumed)
+            dragBegan();
+    };
 }
 
 void AppDelegate::wireAwaitedDrops()

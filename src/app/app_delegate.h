@@ -1,11 +1,11 @@
 #pragma once
 
 #include "app/preferences/preferences_tab.h"
+#include "platform/desktop/drag_watch.h"
 #include "platform/preview/preview_panel.h"
 
 namespace corvane {
 
-class DragWatch;
 class EdgeSummoner;
 class HotKeyCenter;
 class HUDController;
@@ -64,6 +64,9 @@ public:
 
 private:
     void wireDragDetection();
+    void wireDragsOverShelf();
+    void dragBegan();
+    void dragEnded(DragEnd end);
     void wireAwaitedDrops();
     void wireHotKey();
     void wireMenu();
@@ -74,6 +77,8 @@ private:
     bool m_isAwaitingDrop = false;
     /// The drag has ended, but the store is told of that only when the drop's contents are here.
     bool m_isDragEndOwed = false;
+    /// A drag is over only as far as the watch could tell.
+    bool m_isDragEndAssumed = false;
 };
 
 } // namespace corvane

@@ -314,8 +314,11 @@ void ShelfStore::dragBegan()
 
 void ShelfStore::ownDragChanged(bool isOwn)
 {
-    if (std::exchange(m_isOwnDrag, isOwn) != isOwn)
-        publishItems();
+    if (std::exchange(m_isOwnDrag, isOwn) == isOwn)
+        return;
+    if (onOwnDragChanged)
+        onOwnDragChanged(isOwn);
+    publishItems();
 }
 
 void ShelfStore::dragEnded()

@@ -48,6 +48,9 @@ public:
     /// Called for each item that leaves the shelf. With `deletingFiles` the files that were made
     /// for it are to be deleted, too; otherwise another program was given them.
     std::function<void(const QUuid &id, bool deletingFiles)> onLeft;
+    /// Called when the drag in flight has become one of the shelf's own, or is none any more,
+    /// before that is published.
+    std::function<void(bool isOwn)> onOwnDragChanged;
     /// Called once at the end of each operation that publishes more than once.
     void observeEndOfOperation(std::function<void()> observer);
     /// To be asked while an observer is being called: what the publication is part of.

@@ -76,7 +76,7 @@ void DragMonitor::settle()
     // drag.
     m_pasteboardBaseline = m_pasteboard.changeCount();
     if (const auto ended = onDragEnded)
-        ended();
+        ended(DragEnd::Seen);
 }
 
 } // namespace corvane

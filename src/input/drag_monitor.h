@@ -48,6 +48,9 @@ public:
 
     void start() override;
     void stop() override;
+    // Neither is needed: it sees every button, and who carries contents.
+    void ownDrag(bool /*isUnderWay*/) override { }
+    void overPanel(bool /*isOver*/) override { }
 
     /// From the moment a drag was noticed until its release was seen.
     bool isDragging() const { return m_isDragging; }

@@ -81,6 +81,10 @@ void HUDController::wireShelf()
         if (onAwaitsDrop)
             onAwaitsDrop(isAwaiting);
     };
+    m_shelf.onDragOver = [this](bool isOver) {
+        if (onDragOver)
+            onDragOver(isOver);
+    };
     m_shelf.onUsed = [this] {
         if (onUsed)
             onUsed();

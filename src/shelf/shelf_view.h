@@ -72,8 +72,10 @@ public:
     /// Called with true when a drop's contents are on their way; when they are here, with whether
     /// others are awaited.
     std::function<void(bool isAwaiting)> onAwaitsDrop;
-    /// A button or key was pressed, or a drag that can be dropped here entered. Called before
-    /// anything else is done about it.
+    /// Another program's drag has come over the panel, also while the shelf is closed, or has left
+    /// it or was dropped. Told before it is decided whether it may be dropped.
+    std::function<void(bool isOver)> onDragOver;
+    /// A press, a key or a drag that may be dropped here, before anything else comes of it.
     std::function<void()> onUsed;
     /// The body was pressed. Called after everything else was done about it.
     std::function<void()> onPressed;
@@ -130,6 +132,7 @@ private:
     QRectF thumbFrame(int index) const;
     DragSource::Picture dragPicture(const DropItem &item, int index, QPointF from) const;
     void updateDragTargeted();
+    void tellDragOver(bool isOver);
 
     Context m_context;
     LayerTree m_tree;
@@ -142,6 +145,8 @@ private:
     std::optional<QPointF> m_pointer;
     bool m_refusesDrag = false;
     bool m_isDragOver = false;
+    /// Also one that may not be dropped.
+    bool m_isForeignDragOver = false;
     int m_awaitedDrops = 0;
     Lifetime m_flashEnd;
     double m_scrollAccumulator = 0;

@@ -89,8 +89,16 @@ bool ShelfView::needsAddresses(const QStringList &types) const
     return PasteboardIngest::needsAddresses(types);
 }
 
+void ShelfView::tellDragOver(bool isOver)
+{
+    if (std::exchange(m_isForeignDragOver, isOver) != isOver)
+        call(onDragOver, isOver);
+}
+
 DragOperation ShelfView::draggingEntered(const DraggingInfo &info)
 {
+    // The shelf may be opened for it.
+    tellDragOver(!info.isOwn);
     m_refusesDrag = m_look.snapshot.state == ShelfState::Idle || info.isOwn
         || !PasteboardIngest::canRead(info.pasteboard);
     if (m_refusesDrag)
@@ -110,12 +118,14 @@ DragOperation ShelfView::draggingUpdated(const DraggingInfo & /*info*/)
 
 void ShelfView::draggingExited()
 {
+    tellDragOver(false);
     m_isDragOver = false;
     updateDragTargeted();
 }
 
 void ShelfView::dropIsAwaited()
 {
+    tellDragOver(false);
     m_isDragOver = false;
     if (++m_awaitedDrops == 1 && onAwaitsDrop)
         onAwaitsDrop(true);
@@ -153,6 +163,7 @@ bool ShelfView::performDragOperation(const DraggingInfo &info)
 
 void ShelfView::draggingEnded()
 {
+    tellDragOver(false);
     m_isDragOver = false;
     updateDragTargeted();
 }

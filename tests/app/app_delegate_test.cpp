@@ -8,8 +8,10 @@
 #include "core/temporary_spool.h"
 #include "fakes/fake_desktop_services.h"
 #include "fakes/fake_drag_desktop.h"
+#include "fakes/fake_drag_watch.h"
 #include "fakes/fake_hot_keys.h"
 #include "fakes/fake_key_monitors.h"
+#include "fakes/fake_pasteboard.h"
 #include "fakes/fake_pointer_barriers.h"
 #include "fakes/fake_preview_panel.h"
 #include "fakes/fake_status_item.h"
@@ -83,7 +85,7 @@ protected:
             .settings = settings,
             .queue = desk.clock,
             .terminate = [this] { log << QStringLiteral("terminate"); }});
-        delegate.emplace(AppDelegate::Context{.dragWatch = monitor,
+        delegate.emplace(AppDelegate::Context{.dragWatch = *watch,
                                               .hotKeys = hotKeys,
                                               .shortcuts = shortcuts,
                                               .settings = settings,
@@ -138,6 +140,7 @@ protected:
     FakeDragDesktop desktop;
     MonitoredClicks clicks{desktop, desktop.pointer};
     DragMonitor monitor{desktop, desktop, desktop, desk.clock};
+    DragWatch *watch = &monitor;
     FakeHotKeys hotKeyService;
     HotKeyCenter hotKeys{hotKeyService, desk.clock};
     ShortcutBinder shortcuts{hotKeys, [this] { return settings.shortcut(); },
@@ -166,7 +169,93 @@ protected:
     QStringList log;
 };
 
+/// In a session that does not see where a drag ends.
+class DragsOfUnknownEndTest : public AppDelegateTest {
+protected:
+    DragsOfUnknownEndTest()
+    {
+        end();
+        watch = &dim;
+        launch();
+    }
+    ~DragsOfUnknownEndTest() override { end(); }
+
+    DragOperation enter(bool isOwn = false)
+    {
+        FakePasteboard dragged;
+        dragged.offerText(QStringLiteral("text"));
+        return desk.panel.content->draggingEntered({dragged, {280, 100}, isOwn});
+    }
+
+    FakeDragWatch dim;
+};
+
 } // namespace
+
+TEST_F(DragsOfUnknownEndTest, AnAssumedEndClosesTheShelfAndTheDragOpensItAgain)
+{
+    dim.began();
+    dim.ended(DragEnd::Assumed);
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+    EXPECT_FALSE(store.isDragInFlight());
+    EXPECT_EQ(enter(), DragOperation::Copy);
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+    EXPECT_TRUE(store.isDragInFlight());
+    desk.panel.content->draggingExited();
+    dim.ended(DragEnd::Assumed);
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+    EXPECT_EQ(enter(), DragOperation::Copy) << "as often as it comes";
+}
+
+TEST_F(DragsOfUnknownEndTest, AfterAnEndThatWasSeenNothingOpensTheShelfButANewDrag)
+{
+    dim.began();
+    dim.ended(DragEnd::Seen);
+    EXPECT_EQ(enter(), DragOperation::None);
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+    dim.began();
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+}
+
+TEST_F(DragsOfUnknownEndTest, AShelfThatIsNotToOpenForDragsDoesNotOpenForOneThatComesBack)
+{
+    settings.setAutoShowOnDrag(false);
+    dim.began();
+    dim.ended(DragEnd::Assumed);
+    EXPECT_EQ(enter(), DragOperation::None);
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(DragsOfUnknownEndTest, AnEmptyShelfStaysOpenAfterAnAssumedEndForWhatIsOnItsWay)
+{
+    dim.began();
+    enter();
+    desk.panel.content->dropIsAwaited();
+    dim.ended(DragEnd::Assumed);
+    EXPECT_EQ(store.state(), ShelfState::Expanded);
+}
+
+TEST_F(DragsOfUnknownEndTest, TheWatchIsToldOfDragsOverTheShelfAndOfOwnDrags)
+{
+    PanelContent &shelf = *desk.panel.content;
+    dim.began();
+    enter();
+    shelf.draggingExited();
+    shelf.draggingEnded();
+    enter();
+    shelf.dropIsAwaited();
+    shelf.draggingEnded();
+    EXPECT_EQ(dim.log,
+              (QStringList{QStringLiteral("over 1"), QStringLiteral("over 0"),
+                           QStringLiteral("over 1"), QStringLiteral("over 0")}));
+    dim.log.clear();
+    store.ownDragChanged(true);
+    enter(true);
+    shelf.draggingExited();
+    store.ownDragChanged(true);
+    store.ownDragChanged(false);
+    EXPECT_EQ(dim.log, (QStringList{QStringLiteral("own 1"), QStringLiteral("own 0")}));
+}
 
 TEST_F(AppDelegateTest, StartsTheUpdaterOnceTheSettingsHaveTheirDefaults)
 {

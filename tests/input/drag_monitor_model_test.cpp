@@ -89,8 +89,9 @@ public:
         model.hearsOthers = !desk.refusesGlobalMonitor;
         model.hearsOurs = !desk.refusesLocalMonitor;
         monitor->onDragBegan = [this] { log << QStringLiteral("began"); };
-        monitor->onDragEnded
-            = [this] { log << QStringLiteral("ended at %1").arg(qRound(clock.now() * 100)); };
+        monitor->onDragEnded = [this](DragEnd) {
+            log << QStringLiteral("ended at %1").arg(qRound(clock.now() * 100));
+        };
     }
 
     void step(RandomSteps &steps)

@@ -18,7 +18,10 @@ struct DragMonitorTest : testing::Test {
     DragMonitorTest()
     {
         monitor->onDragBegan = [this] { log << QStringLiteral("began"); };
-        monitor->onDragEnded = [this] { log << QStringLiteral("ended"); };
+        monitor->onDragEnded = [this](DragEnd end) {
+            EXPECT_EQ(end, DragEnd::Seen);
+            log << QStringLiteral("ended");
+        };
     }
 
     test::FakeDragDesktop desk;
