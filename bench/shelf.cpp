@@ -14,7 +14,7 @@
 #include "fakes/memory_user_defaults.h"
 #include "fakes/recording_sources.h"
 #include "fakes/shelf_desk.h"
-#include "input/screen_locator.h"
+#include "input/pointer_screen_locator.h"
 #include "platform/qt/pictures/qt_text_measurer.h"
 #include "shelf/hud_controller.h"
 #include "support/table.h"
@@ -72,7 +72,7 @@ struct Shelf {
     ShelfStore store{settings, desk.spool, thumbnails, linkPreviews, feedback};
     test::FakeScreens screens;
     test::FakePointer pointer;
-    ScreenLocator locator{screens, pointer};
+    PointerScreenLocator locator{screens, pointer};
     test::FakeClipboard clipboard;
     test::FakeWorkQueue work;
     DataUris dataUris{desk.locality, desk.remoteFiles, work, desk.clock};

@@ -6,11 +6,11 @@
 #include "core/quick_actions.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
-#include "input/screen_locator.h"
 #include "platform/base/checked_math.h"
 #include "platform/base/geometry.h"
 #include "platform/base/main_queue.h"
 #include "platform/desktop/motion_preference.h"
+#include "platform/desktop/screen_locator.h"
 #include "shelf/drawing/theme.h"
 #include "shelf/view_all_bar.h"
 

@@ -13,7 +13,7 @@
 #include "fakes/memory_user_defaults.h"
 #include "fakes/recording_sources.h"
 #include "fakes/shelf_desk.h"
-#include "input/screen_locator.h"
+#include "input/pointer_screen_locator.h"
 #include "shelf/hud_controller.h"
 
 #include <memory>
@@ -41,7 +41,7 @@ struct ShelfModel {
     FakeScreens screens;
     std::shared_ptr<Screen> screen = screens.attach(QRectF(0, 0, 1512, 982));
     FakePointer pointer;
-    ScreenLocator locator{screens, pointer};
+    PointerScreenLocator locator{screens, pointer};
     FakeClipboard clipboard;
     FakeWorkQueue work;
     DataUris dataUris{desk.locality, desk.remoteFiles, work, desk.clock};

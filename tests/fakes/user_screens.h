@@ -2,7 +2,7 @@
 
 #include "fakes/fake_pointer.h"
 #include "fakes/fake_screens.h"
-#include "input/screen_locator.h"
+#include "input/pointer_screen_locator.h"
 
 namespace corvane::test {
 
@@ -12,7 +12,7 @@ struct UserScreens {
     std::shared_ptr<Screen> left = screens.attach(QRectF(0, 0, 800, 800));
     std::shared_ptr<Screen> right = screens.attach(QRectF(800, 0, 1600, 800));
     FakePointer pointer;
-    ScreenLocator locator{screens, pointer};
+    PointerScreenLocator locator{screens, pointer};
 };
 
 } // namespace corvane::test

@@ -1,6 +1,6 @@
 #include "app/look/shell_window.h"
 
-#include "input/screen_locator.h"
+#include "platform/desktop/screen_locator.h"
 #include "platform/qt/desktop/qt_geometry.h"
 #include "platform/qt/pictures/program_icon.h"
 

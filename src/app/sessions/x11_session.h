@@ -4,7 +4,7 @@
 #include "input/barrier_edge_trigger.h"
 #include "input/drag_monitor.h"
 #include "input/monitored_clicks.h"
-#include "input/screen_locator.h"
+#include "input/pointer_screen_locator.h"
 #include "platform/x11/base/x11_abilities.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_drag_desktop.h"
@@ -33,7 +33,7 @@ struct X11Session : RunningSession {
     SessionAbilities abilities;
     X11PingAnswers pingAnswers;
     X11Pointer pointer;
-    ScreenLocator screenLocator;
+    PointerScreenLocator screenLocator;
     X11DragDesktop dragDesktop;
     DragMonitor dragMonitor;
     MonitoredClicks outsideClicks;

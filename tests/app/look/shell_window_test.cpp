@@ -61,7 +61,7 @@ TEST_F(ShellWindowTest, IsNoLargerThanTheUsersScreenHasRoomForATitleBarToo)
 TEST_F(ShellWindowTest, HasItsSizeAlsoWhereThereIsNoScreen)
 {
     FakeScreens none;
-    const ScreenLocator locator(none, screens.pointer);
+    const PointerScreenLocator locator(none, screens.pointer);
     ShellWindow window(locator, {3000, 2000}, {});
     window.present();
     EXPECT_EQ(window.size(), QSize(3000, 2000));

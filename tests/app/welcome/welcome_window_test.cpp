@@ -8,8 +8,8 @@
 #include "app/welcome/welcome_window_controller.h"
 #include "app/widget_hands.h"
 #include "fakes/fake_motion_preference.h"
-#include "fakes/user_screens.h"
 #include "fakes/lacking_abilities.h"
+#include "fakes/user_screens.h"
 #include "platform/desktop/abilities.h"
 
 #include <QImage>
@@ -41,8 +41,7 @@ protected:
 
     void make()
     {
-        controller =
-            std::make_unique<WelcomeWindowController>(motion, screens.locator, abilities);
+        controller = std::make_unique<WelcomeWindowController>(motion, screens.locator, abilities);
         controller->onClose = [this] { ++closed; };
     }
     ShellWindow &window() { return controller->window(); }

@@ -1,6 +1,6 @@
 #include "fakes/fake_pointer.h"
 #include "fakes/fake_screens.h"
-#include "input/screen_locator.h"
+#include "input/pointer_screen_locator.h"
 
 #include <gtest/gtest.h>
 
@@ -9,10 +9,10 @@ namespace {
 
 using Notch = ScreenLocator::Notch;
 
-struct ScreenLocatorTest : testing::Test {
+struct PointerScreenLocatorTest : testing::Test {
     test::FakeScreens screens;
     test::FakePointer pointer;
-    ScreenLocator locator{screens, pointer};
+    PointerScreenLocator locator{screens, pointer};
 };
 
 /// A pointer at the origin that counts how often it is asked.
@@ -37,7 +37,7 @@ ScreenPointer screenWithNotch(double inset, std::optional<double> left, std::opt
     return std::make_shared<Screen>(screen);
 }
 
-TEST_F(ScreenLocatorTest, FollowsThePointerAndNotTheNotch)
+TEST_F(PointerScreenLocatorTest, FollowsThePointerAndNotTheNotch)
 {
     const auto first = screens.attach(QRectF(0, 0, 1512, 982));
     first->safeAreaInsets.top = 32;
@@ -47,7 +47,7 @@ TEST_F(ScreenLocatorTest, FollowsThePointerAndNotTheNotch)
     EXPECT_EQ(ScreenLocator::notch(locator.activeScreen()), (Notch{0, 0}));
 }
 
-TEST_F(ScreenLocatorTest, GivesASharedEdgeToTheScreenThatBeginsThere)
+TEST_F(PointerScreenLocatorTest, GivesASharedEdgeToTheScreenThatBeginsThere)
 {
     const auto left = screens.attach(QRectF(0, 0, 100, 100));
     const auto right = screens.attach(QRectF(100, 0, 100, 100));
@@ -60,7 +60,7 @@ TEST_F(ScreenLocatorTest, GivesASharedEdgeToTheScreenThatBeginsThere)
     EXPECT_EQ(locator.activeScreen(), left);
 }
 
-TEST_F(ScreenLocatorTest, PrefersTheEarlierOfTwoThatOverlap)
+TEST_F(PointerScreenLocatorTest, PrefersTheEarlierOfTwoThatOverlap)
 {
     const auto first = screens.attach(QRectF(0, 0, 100, 100));
     screens.attach(QRectF(50, 0, 100, 100));
@@ -68,7 +68,7 @@ TEST_F(ScreenLocatorTest, PrefersTheEarlierOfTwoThatOverlap)
     EXPECT_EQ(locator.activeScreen(), first);
 }
 
-TEST_F(ScreenLocatorTest, FallsBackToTheMainScreen)
+TEST_F(PointerScreenLocatorTest, FallsBackToTheMainScreen)
 {
     screens.attach(QRectF(0, 0, 100, 100));
     const auto main = screens.attach(QRectF(100, 0, 100, 100));
@@ -81,10 +81,10 @@ TEST_F(ScreenLocatorTest, FallsBackToTheMainScreen)
     EXPECT_EQ(locator.activeScreen(), main) << "a window system that does not tell the position";
 }
 
-TEST_F(ScreenLocatorTest, AsksForThePointerOnlyWhereThereAreSeveralScreens)
+TEST_F(PointerScreenLocatorTest, AsksForThePointerOnlyWhereThereAreSeveralScreens)
 {
     AskedPointer asked;
-    const ScreenLocator asking(screens, asked);
+    const PointerScreenLocator asking(screens, asked);
     const auto first = screens.attach(QRectF(0, 0, 100, 100));
     EXPECT_EQ(asking.activeScreen(), first);
     EXPECT_EQ(asked.times, 0);
@@ -93,33 +93,33 @@ TEST_F(ScreenLocatorTest, AsksForThePointerOnlyWhereThereAreSeveralScreens)
     EXPECT_EQ(asked.times, 1);
 }
 
-TEST_F(ScreenLocatorTest, HasNoScreenWhereNoneIsAttached)
+TEST_F(PointerScreenLocatorTest, HasNoScreenWhereNoneIsAttached)
 {
     pointer.position = QPointF(0, 0);
     EXPECT_EQ(locator.activeScreen(), nullptr);
     EXPECT_EQ(ScreenLocator::notch(nullptr), (Notch{0, 0}));
 }
 
-TEST_F(ScreenLocatorTest, MeasuresTheNotchBetweenTheAreasBesideIt)
+TEST_F(PointerScreenLocatorTest, MeasuresTheNotchBetweenTheAreasBesideIt)
 {
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(32, 656, 656)), (Notch{32, 200}));
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(32, 600, 656)), (Notch{32, 256}));
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(32, 756, 756)), (Notch{32, 0}));
 }
 
-TEST_F(ScreenLocatorTest, HasAnInsetWithoutAWidthWhereTheAreasAreNotTold)
+TEST_F(PointerScreenLocatorTest, HasAnInsetWithoutAWidthWhereTheAreasAreNotTold)
 {
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(32, {}, {})), (Notch{32, 0}));
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(32, 656, {})), (Notch{32, 0}));
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(32, {}, 656)), (Notch{32, 0}));
 }
 
-TEST_F(ScreenLocatorTest, NeverGivesANegativeWidth)
+TEST_F(PointerScreenLocatorTest, NeverGivesANegativeWidth)
 {
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(32, 1000, 1000)), (Notch{32, 0}));
 }
 
-TEST_F(ScreenLocatorTest, HasNoNotchWithoutATopInset)
+TEST_F(PointerScreenLocatorTest, HasNoNotchWithoutATopInset)
 {
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(0, 656, 656)), (Notch{0, 0}));
     EXPECT_EQ(ScreenLocator::notch(screenWithNotch(-5, 656, 656)), (Notch{0, 0}));

@@ -1,0 +1,21 @@
+#include "platform/desktop/screen_locator.h"
+
+#include <algorithm>
+
+namespace corvane {
+
+ScreenLocator::Notch ScreenLocator::notch(const ScreenPointer &screen)
+{
+    // Written so that an inset that is no number counts as none.
+    if (!screen || !(screen->safeAreaInsets.top > 0))
+        return {};
+    const double inset = screen->safeAreaInsets.top;
+    const auto &left = screen->auxiliaryTopLeftArea;
+    const auto &right = screen->auxiliaryTopRightArea;
+    if (!left || !right)
+        return {inset, 0};
+    const double width = screen->frame.width() - left->width() - right->width();
+    return {inset, std::max(width, 0.0)};
+}
+
+} // namespace corvane
