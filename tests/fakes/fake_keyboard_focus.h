@@ -16,7 +16,11 @@ class FakeKeyboardFocus : public KeyboardFocus {
 public:
     WindowNumber focusedWindow() const override { return focused; }
     Owner owner() const override { return {focused, active}; }
-    void giveTo(WindowNumber panel) override { focused = panel; }
+    void giveTo(WindowNumber panel) override
+    {
+        focused = panel;
+        ++timesGiven;
+    }
     bool giveBackTo(const Owner &owner) override
     {
         focused = owner.focused;
@@ -64,6 +68,7 @@ public:
 
     WindowNumber focused = WindowNumber::None;
     WindowNumber active = WindowNumber::None;
+    int timesGiven = 0;
     std::vector<Owner> givenBack;
     std::set<NativeKey> keysDown;
     bool leftButtonIsDown = false;

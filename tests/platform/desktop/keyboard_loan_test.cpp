@@ -416,8 +416,10 @@ TEST_F(KeyboardLoanTest, isWithThePanelAgainBeforeAWindowOfOursHides)
     loan->windowWillHide(preview);
     EXPECT_EQ(focus.focused, shelf);
     loan->windowHidden();
+    const int given = focus.timesGiven;
     focus.answer();
     EXPECT_EQ(focus.focused, shelf);
+    EXPECT_EQ(focus.timesGiven, given) << "it has it";
     EXPECT_TRUE(focus.givenBack.empty());
     loan->willHide(shelf);
     EXPECT_EQ(focus.focused, field) << "the owner is the one before the panels";
@@ -512,6 +514,23 @@ TEST_F(KeyboardLoanTest, isWithThatPanelAlsoWhereTheWindowManagerNeverAnswers)
     focus.focused = stranger;
     clock.advance(KeyboardLoan::answerPatience);
     EXPECT_EQ(focus.focused, stranger) << "the user may have gone there in such a time";
+}
+
+TEST_F(KeyboardLoanTest, isLaterLeftWithSomebodyWhoTookItWhateverWasAwaitedOfAPreview)
+{
+    for (const bool hasWindowManager : {true, false}) {
+        focus.hasWindowManager = hasWindowManager;
+        openPreview();
+        closePreview();
+        focus.answer();
+        focus.focused = focus.active = program;
+        lendToShelf();
+        loan->resigned(shelf);
+        loan->wantedByHand(shelf);
+        focus.focused = stranger;
+        focus.answer(false);
+        EXPECT_EQ(focus.focused, stranger) << hasWindowManager;
+    }
 }
 
 TEST_F(KeyboardLoanTest, awaitsNothingWhereNoWindowManagerRuns)
