@@ -1,5 +1,6 @@
 """Which tests come to a mutant, and whether they notice it."""
 import collections
+import concurrent.futures
 import dataclasses
 import os
 import pathlib
@@ -8,7 +9,7 @@ import signal
 import subprocess
 import tempfile
 
-from mutation.mutants import KILLED, SURVIVED, Mutant
+from mutation.mutants import KILLED, SURVIVED
 
 PASSED = re.compile(r"\[       OK \] ([^\s,]+).*\((\d+) ms\)")
 FAILED = re.compile(r"\[  FAILED  \] ([^\s,(]+[./][^\s,(]+)")
@@ -20,7 +21,8 @@ ENCLOSED = ["bwrap", "--die-with-parent", "--cap-add", "ALL", "--ro-bind", "/", 
 SLOWER, START = 5, 25
 # More than that, and the whole program is as quick as choosing.
 LONGEST_FILTER = 100_000
-# A program that takes no longer is run as a whole before a mutant has survived it.
+# A program that takes no longer is run as a whole before a mutant has survived it; of others the
+# suites of tests that come to the mutant.
 QUICK = 40
 
 
@@ -51,37 +53,44 @@ class Programs:
         self._times: dict[str, dict[str, float]] = {}
         self._reached: dict[str, dict[int, set]] = {}
 
-    def run_clean(self) -> None:
-        """Runs everything once without a mutant, and writes down which tests come to which."""
-        for name in self.names:
-            with tempfile.NamedTemporaryFile("r", dir=self._scratch) as reached:
-                run = self._run(name, "*", -1, 1800, reached.name)
-                reached.seek(0)
-                self._reached[name] = collections.defaultdict(set)
-                for line in reached:
-                    number, _, test = line.rstrip("\n").partition(" ")
-                    self._reached[name][int(number)].add(test)
-            self._times[name] = {test: int(ms) / 1000 for test, ms in PASSED.findall(run.output)}
-            failed = set(FAILED.findall(run.output))
-            print(f"  {name}: {len(self._times[name])} tests, {sum(self._times[name].values()):.0f} s,"
-                  f" come to {len(self._reached[name])} mutants", flush=True)
-            if run.status is None or not self._times[name]:
-                raise SystemExit(f"corvane_{name}_tests did not run:\n{run.output[-3000:]}")
-            if failed:
-                print(f"    not used, for they fail without a mutant: {', '.join(sorted(failed))}")
+    def run_clean(self, at_once: int) -> None:
+        """Runs everything once without a mutant, and writes down which tests come to which.
 
-    def try_out(self, number: int, mutant: Mutant) -> None:
+        As many programs at once as mutants later, so that the times are those that tests then take.
+        """
+        with concurrent.futures.ThreadPoolExecutor(at_once) as threads:
+            for told in threads.map(self._run_clean, self.names):
+                print(told, flush=True)
+
+    def _run_clean(self, name: str) -> str:
+        with tempfile.NamedTemporaryFile("r", dir=self._scratch) as reached:
+            run = self._run(name, "*", -1, 1800, reached.name)
+            reached.seek(0)
+            self._reached[name] = collections.defaultdict(set)
+            for line in reached:
+                number, _, test = line.rstrip("\n").partition(" ")
+                self._reached[name][int(number)].add(test)
+        self._times[name] = {test: int(ms) / 1000 for test, ms in PASSED.findall(run.output)}
+        if run.status is None or not self._times[name]:
+            raise SystemExit(f"corvane_{name}_tests did not run:\n{run.output[-3000:]}")
+        failed = sorted(set(FAILED.findall(run.output)))
+        return (f"  {name}: {len(self._times[name])} tests, {sum(self._times[name].values()):.0f} s,"
+                f" come to {len(self._reached[name])} mutants"
+                + (f"\n    not used, for they fail without a mutant: {', '.join(failed)}" if failed
+                   else ""))
+
+    def try_out(self, number: int, path: str) -> tuple[str, str]:
+        """The result, and which test noticed the mutant in that source."""
         ran = 0
-        for name in self._in_order(mutant.path):
+        for name in self._in_order(path):
             tests = self._reached[name].get(number)
             if not tests:
                 continue
             ran += 1
             noticed = self._noticed(name, number, tests)
             if noticed:
-                mutant.result, mutant.by = KILLED, f"{name}: {noticed}"
-                return
-        mutant.result, mutant.by = SURVIVED, "" if ran else "no test comes here"
+                return KILLED, f"{name}: {noticed}"
+        return SURVIVED, "" if ran else "no test comes here"
 
     def _in_order(self, path: str) -> list[str]:
         """The folder's own program first."""
@@ -95,8 +104,11 @@ class Programs:
         if "" in tests or not chosen or len(":".join(chosen)) > LONGEST_FILTER:
             return self._noticed_by(name, number, sorted(times))
         # What is made once in a process is noted at the first test that needs it, and others may look.
+        suites = {test.rpartition(".")[0] for test in chosen}
+        wider = sorted(test for test in times
+                       if sum(times.values()) < QUICK or test.rpartition(".")[0] in suites)
         return self._noticed_by(name, number, chosen) or (
-            self._noticed_by(name, number, sorted(times)) if sum(times.values()) < QUICK else "")
+            self._noticed_by(name, number, wider) if wider != chosen else "")
 
     def _noticed_by(self, name: str, number: int, tests: list[str]) -> str:
         times = self._times[name]
