@@ -1,5 +1,6 @@
 #include "fakes/shelf_desk.h"
 #include "shelf/drag_source.h"
+#include "shelf/late_contents.h"
 
 #include <QFile>
 #include <QStringList>
@@ -237,16 +238,8 @@ TEST_F(DragSourceTest, nothingThatCouldTravelStartsNoDragAndIsTold)
 
 TEST_F(DragSourceTest, whatIsBeingMadeIsHandedOverOnceItIsReady)
 {
-    desk.codec.teach("tiff bytes", {3, 2});
-    begin({text("a"), *desk.pictures.ofTiffFile(desk.writtenFile("scan.tiff", "tiff bytes"))});
-    ASSERT_TRUE(desk.panel.dragOut);
-    ASSERT_TRUE(desk.panel.dragOut->whenReady);
-    std::optional<PasteboardContents> handedOver;
-    desk.panel.dragOut->whenReady(
-        [&](const std::optional<PasteboardContents> &contents) { handedOver = contents; });
-    EXPECT_FALSE(handedOver);
-    desk.work.runAll();
-    desk.clock.runPending();
+    begin({text("a"), pictureBeingMade(desk)});
+    const auto handedOver = contentsHandedOverLate(desk);
     ASSERT_TRUE(handedOver);
     const QUrl url = std::get<PasteboardWriter::File>(handedOver->writers.at(1).content).url;
     EXPECT_TRUE(QFile::exists(url.toLocalFile()));

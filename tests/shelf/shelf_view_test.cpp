@@ -1,4 +1,5 @@
 #include "fakes/shelf_desk.h"
+#include "shelf/late_contents.h"
 
 #include <QDir>
 #include <QFile>
@@ -645,21 +646,13 @@ TEST_F(ShelfViewTest, AFileThatIsGoneIsNotDraggedAndTheUserIsTold)
 
 TEST_F(ShelfViewTest, APictureThatIsBeingMadeIsDraggedAndHandedOverOnceItIsReady)
 {
-    desk.codec.teach("tiff bytes", {3, 2});
-    const DropItem item = *desk.pictures.ofTiffFile(desk.writtenFile("scan.tiff", "tiff bytes"));
+    const DropItem item = pictureBeingMade(desk);
     ShelfSnapshot snapshot = holding(1, 1);
     snapshot.visible[0].second = item;
     show(snapshot);
     press(middleOf(0));
     view.mouseDragged({middleOf(0) + QPointF(9, 0)});
-    ASSERT_TRUE(desk.panel.dragOut);
-    ASSERT_TRUE(desk.panel.dragOut->whenReady);
-    std::optional<PasteboardContents> handedOver;
-    desk.panel.dragOut->whenReady(
-        [&](const std::optional<PasteboardContents> &contents) { handedOver = contents; });
-    EXPECT_FALSE(handedOver);
-    desk.work.runAll();
-    desk.clock.runPending();
+    const auto handedOver = contentsHandedOverLate(desk);
     ASSERT_TRUE(handedOver);
     const QUrl url = std::get<PasteboardWriter::File>(handedOver->writers.at(0).content).url;
     EXPECT_EQ(url, std::get<DropItem::File>(item.payload()).url);

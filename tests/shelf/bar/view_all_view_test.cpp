@@ -1,6 +1,7 @@
 #include "fakes/shelf_desk.h"
 #include "platform/base/geometry.h"
 #include "shelf/bar/view_all_view.h"
+#include "shelf/late_contents.h"
 
 #include <QDir>
 #include <QFile>
@@ -520,20 +521,12 @@ TEST_F(ViewAllViewTest, oneItemDragsItsPictureAndSeveralAStack)
 
 TEST_F(ViewAllViewTest, picturesThatAreBeingMadeAreHandedOverWithTheOthersOnceTheyAreReady)
 {
-    desk.codec.teach("tiff bytes", {3, 2});
     hold(2);
-    items << *desk.pictures.ofTiffFile(desk.writtenFile("scan.tiff", "tiff bytes"));
+    items << pictureBeingMade(desk);
     view->apply(items, selection, 0);
     select({0, 2});
     drag(middleOf(2));
-    ASSERT_TRUE(desk.panel.dragOut);
-    ASSERT_TRUE(desk.panel.dragOut->whenReady);
-    std::optional<PasteboardContents> handedOver;
-    desk.panel.dragOut->whenReady(
-        [&](const std::optional<PasteboardContents> &contents) { handedOver = contents; });
-    EXPECT_FALSE(handedOver);
-    desk.work.runAll();
-    desk.clock.runPending();
+    const auto handedOver = contentsHandedOverLate(desk);
     ASSERT_TRUE(handedOver);
     ASSERT_EQ(handedOver->writers.size(), 2U);
     const QUrl url = std::get<PasteboardWriter::File>(handedOver->writers[1].content).url;

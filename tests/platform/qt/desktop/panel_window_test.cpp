@@ -20,7 +20,13 @@ namespace corvane::test {
 
 namespace {
 
-using PanelWindowTest = PanelFixture;
+class PanelWindowTest : public PanelFixture {
+protected:
+    bool keyboardComesTo(xcb_window_t window)
+    {
+        return eventually([&] { return display.server.focusedWindow() == window; });
+    }
+};
 
 /// A selection owner that does nothing else: what makes a compositor known.
 class CompositorName {
@@ -321,7 +327,7 @@ TEST_F(PanelWindowTest, takesTheKeyboardOnAClickAndGivesItBack)
     content.onMouseDown = [this] { panel.makeKey(); };
     show();
     display.hands.click(at(150, 30));
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    ASSERT_TRUE(keyboardComesTo(id()));
     display.hands.key('c', {e2e::keys::control});
     ASSERT_TRUE(eventually(
         [&] { return !content.keys.empty() && content.keys.back().key == TypedKey::C; }));
@@ -329,7 +335,7 @@ TEST_F(PanelWindowTest, takesTheKeyboardOnAClickAndGivesItBack)
     display.hands.key(e2e::keys::escape);
     EXPECT_TRUE(eventually([&] { return content.keys.back().key == TypedKey::Escape; }));
     panel.orderOut();
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+    EXPECT_TRUE(keyboardComesTo(other.id()));
 }
 
 TEST_F(PanelWindowTest, leavesTheKeyboardWithSomebodyWhoTookItMeanwhile)
@@ -338,9 +344,9 @@ TEST_F(PanelWindowTest, leavesTheKeyboardWithSomebodyWhoTookItMeanwhile)
     content.onMouseDown = [this] { panel.makeKey(); };
     show();
     display.hands.click(at(150, 30));
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    ASSERT_TRUE(keyboardComesTo(id()));
     const ManagedWindow second({500, 600, 300, 200});
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == second.id(); }));
+    ASSERT_TRUE(keyboardComesTo(second.id()));
     panel.orderOut();
     settle();
     EXPECT_EQ(display.server.focusedWindow(), second.id());
@@ -359,11 +365,11 @@ TEST_F(PanelWindowTest, aPanelThatTookItFromAnotherGivesItBackToTheProgram)
     show();
     display.hands.click(at(150, 30));
     const auto secondId = static_cast<xcb_window_t>(second.window().winId());
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == secondId; }));
+    ASSERT_TRUE(keyboardComesTo(secondId));
     // The first one, which has nothing to give back, forgets nothing.
     panel.orderOut();
     second.orderOut();
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+    EXPECT_TRUE(keyboardComesTo(other.id()));
 }
 
 TEST_F(PanelWindowTest, takesTheKeyboardOnDemandWithoutAnEventOfItsOwn)
@@ -373,7 +379,7 @@ TEST_F(PanelWindowTest, takesTheKeyboardOnDemandWithoutAnEventOfItsOwn)
     display.hands.click({150, 150});
     settle();
     panel.makeKey();
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    EXPECT_TRUE(keyboardComesTo(id()));
 }
 
 TEST_F(PanelWindowTest, takesTheKeyboardAlsoFromWhoTookItAfterTheLastEventOfItsOwn)
@@ -387,7 +393,7 @@ TEST_F(PanelWindowTest, takesTheKeyboardAlsoFromWhoTookItAfterTheLastEventOfItsO
                         XCB_CURRENT_TIME);
     ASSERT_EQ(display.server.focusedWindow(), other.id());
     panel.makeKey();
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    EXPECT_TRUE(keyboardComesTo(id()));
 }
 
 TEST_F(PanelWindowTest, takesTheKeyboardInTheMomentInWhichItIsShown)
@@ -395,7 +401,7 @@ TEST_F(PanelWindowTest, takesTheKeyboardInTheMomentInWhichItIsShown)
     const ManagedWindow other({100, 100, 300, 200});
     panel.orderFrontRegardless();
     panel.makeKey();
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    EXPECT_TRUE(keyboardComesTo(id()));
 }
 
 TEST_F(PanelWindowTest, tellsTheWindowManagerTheTimeWhenItGivesTheKeyboardBack)
@@ -403,7 +409,7 @@ TEST_F(PanelWindowTest, tellsTheWindowManagerTheTimeWhenItGivesTheKeyboardBack)
     const ManagedWindow other({100, 100, 300, 200});
     show();
     panel.makeKey();
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    ASSERT_TRUE(keyboardComesTo(id()));
     const xcb_timestamp_t before = connection.serverTime();
     RootEars ears;
     panel.orderOut();
@@ -418,14 +424,14 @@ TEST_F(PanelWindowTest, takesTheKeyboardFromNobodyWhenTheUserWentOn)
     const ManagedWindow before({100, 100, 300, 200});
     const ManagedWindow clicked({500, 600, 300, 200});
     display.hands.click({150, 150});
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == before.id(); }));
+    ASSERT_TRUE(keyboardComesTo(before.id()));
     show();
     panel.makeKey();
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    ASSERT_TRUE(keyboardComesTo(id()));
     display.hands.click({650, 700});
     panel.userWentOn();
     panel.orderOut();
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == clicked.id(); }));
+    EXPECT_TRUE(keyboardComesTo(clicked.id()));
     settle();
     EXPECT_EQ(display.server.focusedWindow(), clicked.id());
 }
@@ -435,14 +441,14 @@ TEST_F(PanelWindowTest, resigningGivesTheKeyboardBackAndLeavesThePanelOnScreen)
     ManagedWindow other({100, 100, 300, 200});
     show();
     panel.makeKey();
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    ASSERT_TRUE(keyboardComesTo(id()));
     panel.resignKey();
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+    EXPECT_TRUE(keyboardComesTo(other.id()));
     EXPECT_TRUE(facts().isViewable);
     // It was asked to activate that window, and takes its time.
     other.resize({100, 100, 320, 220});
     panel.makeKey();
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    EXPECT_TRUE(keyboardComesTo(id()));
 }
 
 TEST_F(PanelWindowTest, hasTheKeyboardAgainHoweverLateTheWindowManagerGivesItBack)
@@ -450,7 +456,7 @@ TEST_F(PanelWindowTest, hasTheKeyboardAgainHoweverLateTheWindowManagerGivesItBac
     ManagedWindow other({100, 100, 300, 200});
     show();
     panel.makeKey();
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    ASSERT_TRUE(keyboardComesTo(id()));
     for (int i = 0; i < 2; ++i) {
         const BusyWindowManager busy;
         ASSERT_TRUE(busy.isFound());
@@ -458,11 +464,11 @@ TEST_F(PanelWindowTest, hasTheKeyboardAgainHoweverLateTheWindowManagerGivesItBac
         ASSERT_EQ(display.server.focusedWindow(), other.id());
         panel.orderFrontRegardless();
         panel.makeKey();
-        ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+        ASSERT_TRUE(keyboardComesTo(id()));
     }
     // It has done all that it was asked by then.
     other.resize({100, 100, 320, 220});
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    EXPECT_TRUE(keyboardComesTo(id()));
     settle();
     EXPECT_EQ(display.server.focusedWindow(), id());
     panel.orderOut();
@@ -475,9 +481,9 @@ TEST_F(PanelWindowTest, resigningTakesTheKeyboardFromNoOther)
 {
     show();
     panel.makeKey();
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    ASSERT_TRUE(keyboardComesTo(id()));
     const ManagedWindow later({100, 100, 300, 200});
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == later.id(); }));
+    ASSERT_TRUE(keyboardComesTo(later.id()));
     panel.resignKey();
     settle();
     EXPECT_EQ(display.server.focusedWindow(), later.id());
@@ -489,7 +495,7 @@ TEST_F(PanelWindowTest, resigningKeepsNoKeyboardForAWindowThatIsGone)
     {
         const ManagedWindow other({100, 100, 300, 200});
         panel.makeKey();
-        ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+        ASSERT_TRUE(keyboardComesTo(id()));
     }
     panel.resignKey();
     EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() != id(); }));
@@ -508,7 +514,7 @@ TEST_F(PanelWindowTest, amongPanelsItTakesTheKeyboardFromPanelsAlone)
     EXPECT_EQ(display.server.focusedWindow(), other.id());
     panel.makeKey();
     second.makeKeyAmongPanels();
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == secondId; }));
+    EXPECT_TRUE(keyboardComesTo(secondId));
     panel.makeKey();
     second.makeKey();
     panel.makeKeyAmongPanels();
@@ -516,7 +522,7 @@ TEST_F(PanelWindowTest, amongPanelsItTakesTheKeyboardFromPanelsAlone)
     EXPECT_EQ(display.server.focusedWindow(), id()) << "the latest wish is the one that counts";
     second.orderOut();
     panel.orderOut();
-    EXPECT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+    EXPECT_TRUE(keyboardComesTo(other.id()));
 }
 
 TEST_F(PanelWindowTest, tellsRepeatsFromPressesAlsoWhereTheToolkitDoesNot)
@@ -545,11 +551,11 @@ TEST_F(PanelWindowTest, theRepeatsOfAKeyThatHidItReachNobodyElse)
     e2e::KeyLog log(qgetenv("DISPLAY"), other.id());
     show();
     panel.makeKey();
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    ASSERT_TRUE(keyboardComesTo(id()));
     display.hands.keyDown(e2e::keys::escape);
     ASSERT_TRUE(eventually([&] { return !content.keys.empty(); }));
     panel.orderOut();
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+    ASSERT_TRUE(keyboardComesTo(other.id()));
     // Many repeats long.
     EXPECT_FALSE(eventually([&] { return log.presses() > 0; }, std::chrono::milliseconds{1200}));
     display.hands.keyUp(e2e::keys::escape);
@@ -566,13 +572,13 @@ TEST_F(PanelWindowTest, aKeyThatIsUpAgainWhenThePanelHidesIsNotKeptFromAnybody)
     e2e::KeyLog log(qgetenv("DISPLAY"), other.id());
     show();
     panel.makeKey();
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == id(); }));
+    ASSERT_TRUE(keyboardComesTo(id()));
     display.hands.keyDown(e2e::keys::escape);
     ASSERT_TRUE(eventually([&] { return !content.keys.empty(); }));
     // Released while nobody looks.
     display.hands.keyUp(e2e::keys::escape);
     panel.orderOut();
-    ASSERT_TRUE(eventually([&] { return display.server.focusedWindow() == other.id(); }));
+    ASSERT_TRUE(keyboardComesTo(other.id()));
     display.hands.key(e2e::keys::escape);
     EXPECT_TRUE(eventually([&] { return log.presses() == 1; }));
 }
