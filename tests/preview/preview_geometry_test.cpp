@@ -54,6 +54,14 @@ TEST(PreviewSize, IsNeverSmallerThanAWindowThatCanBeRead)
     EXPECT_EQ(sizeOf(text(QStringLiteral("a"))).height(), smallestWindow.height());
 }
 
+TEST(PreviewSize, CountsALineThatIsFullAsOne)
+{
+    const QString rest(30, QLatin1Char('\n'));
+    const int full = sizeOf(text(QString(80, QLatin1Char('x')) + rest)).height();
+    EXPECT_EQ(full, sizeOf(text(QStringLiteral("x") + rest)).height());
+    EXPECT_EQ(sizeOf(text(QString(81, QLatin1Char('x')) + rest)).height(), full + lineHeight);
+}
+
 TEST(PreviewSize, ShowsASmallDrawingLarge)
 {
     EXPECT_EQ(sizeOf(picture({16, 16}, true)), QSize(384, 384 + barHeight));
@@ -115,6 +123,7 @@ TEST(PreviewPages, StandBelowEachOtherAsWideAsTheRoomLetsTheWidest)
     EXPECT_EQ(rects[1], QRectF(16, 432, 400, 200));
     EXPECT_TRUE(pageRects({}, 432).isEmpty());
     EXPECT_GE(pageRects({QSize(100, 200)}, 0)[0].width(), 1);
+    EXPECT_EQ(pageRects({QSize(1, 2)}, 132)[0].size(), QSizeF(100, 200));
 }
 
 struct PictureZoomTest : testing::Test {

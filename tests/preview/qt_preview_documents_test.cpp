@@ -1,4 +1,5 @@
 #include "core/temporary_spool.h"
+#include "fakes/turned_jpeg.h"
 #include "platform/qt/pictures/qt_image_codec.h"
 #include "preview/qt_preview_documents.h"
 
@@ -88,6 +89,16 @@ TEST_F(QtPreviewDocumentsTest, FitsALargePictureAndRendersMoreOfItOnDemand)
 TEST_F(QtPreviewDocumentsTest, KeepsASmallPictureAsItIs)
 {
     EXPECT_EQ(picture("a.png", encoded({20, 10}, "png"))->fitted.size(), QSize(20, 10));
+}
+
+TEST_F(QtPreviewDocumentsTest, HasTheUprightSizeOfATurnedPicture)
+{
+    QImage image(400, 100, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    const auto turned = picture("a.jpg", turnedJpeg(image), {50, 200});
+    ASSERT_TRUE(turned.has_value());
+    EXPECT_EQ(turned->pixelSize, QSize(100, 400));
+    EXPECT_EQ(turned->fitted.size(), QSize(50, 200));
 }
 
 TEST_F(QtPreviewDocumentsTest, RefusesToRenderMorePixelsThanMayBeDecoded)

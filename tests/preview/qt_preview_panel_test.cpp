@@ -6,6 +6,7 @@
 #include "fakes/fake_window_activation.h"
 #include "fakes/test_clock.h"
 #include "platform/desktop/keyboard_loan.h"
+#include "preview/manual_loading.h"
 #include "preview/preview_geometry.h"
 #include "preview/qt_preview_panel.h"
 
@@ -25,54 +26,6 @@
 
 namespace corvane::test {
 namespace {
-
-/// Answers when the test says so.
-class ManualLoading : public PreviewLoading {
-public:
-    PreviewDetails placeholder(const QUrl &url) const override
-    {
-        return {url.fileName(), {}, {}, {}};
-    }
-    bool mayNeverAnswer(const QUrl &) const override { return isRemote; }
-    void load(const QUrl &url, QSize wanted,
-              std::function<void(PreviewContent)> completion) override
-    {
-        asked << url;
-        wantedPixels = wanted;
-        m_completion = std::move(completion);
-    }
-    void cancel() override { m_completion = nullptr; }
-    void render(std::shared_ptr<PreviewDocument>, int, QSize pixels,
-                std::function<void(std::optional<QImage>)>) override
-    {
-        rendered << pixels;
-    }
-    void nextFrame(std::shared_ptr<PreviewDocument>, QSize,
-                   std::function<void(std::optional<PreviewDocument::Frame>)> completion) override
-    {
-        ++framesAsked;
-        frameAsked = std::move(completion);
-    }
-
-    void answer(PreviewContent content)
-    {
-        content.url = asked.last();
-        content.details.name = asked.last().fileName();
-        if (const auto completion = std::exchange(m_completion, nullptr))
-            completion(std::move(content));
-    }
-    bool isWaitedFor() const { return m_completion != nullptr; }
-
-    bool isRemote = false;
-    QList<QUrl> asked;
-    QSize wantedPixels;
-    QList<QSize> rendered;
-    int framesAsked = 0;
-    std::function<void(std::optional<PreviewDocument::Frame>)> frameAsked;
-
-private:
-    std::function<void(PreviewContent)> m_completion;
-};
 
 struct OneItem : PreviewPanelDataSource, PreviewPanelController {
     int numberOfPreviewItems() const override { return isThere ? 1 : 0; }
@@ -366,6 +319,7 @@ TEST_F(QtPreviewPanelTest, ControlWClosesItUnlessItIsHeldSinceBefore)
 {
     show(textOf(QStringLiteral("hello")));
     pressControl(Qt::Key_W, true);
+    pressControl(Qt::Key_Space, false);
     EXPECT_TRUE(panel->isVisible());
     pressControl(Qt::Key_W, false);
     EXPECT_FALSE(panel->isVisible());
@@ -418,7 +372,9 @@ TEST_F(QtPreviewPanelTest, TheRepeatsOfTheKeyThatClosedItReachNoOtherWindow)
 {
     struct Heard : QWindow {
         void keyPressEvent(QKeyEvent *) override { ++presses; }
+        void keyReleaseEvent(QKeyEvent *) override { ++releases; }
         int presses = 0;
+        int releases = 0;
     } other;
     show(textOf(QStringLiteral("hello")));
     press(Qt::Key_Escape);
@@ -427,6 +383,7 @@ TEST_F(QtPreviewPanelTest, TheRepeatsOfTheKeyThatClosedItReachNoOtherWindow)
     key(other, QEvent::KeyPress, Qt::Key_Escape, 1530);
     EXPECT_EQ(other.presses, 0);
     key(other, QEvent::KeyRelease, Qt::Key_Escape, 1560);
+    EXPECT_EQ(other.releases, 0);
     key(other, QEvent::KeyPress, Qt::Key_Escape, 2000);
     EXPECT_EQ(other.presses, 1) << "pressed anew it means something again";
 }
@@ -508,6 +465,16 @@ TEST_F(QtPreviewPanelTest, AsksForMorePixelsOnlyWhenThereIsRoomForThem)
     EXPECT_LE(loading.rendered[0].width(), loading.wantedPixels.width());
     press(Qt::Key_Plus);
     EXPECT_EQ(loading.rendered.size(), 1) << "one at a time";
+}
+
+TEST_F(QtPreviewPanelTest, ShowsNothingOfOneItemWhileTheNextIsLoading)
+{
+    show(textOf(QStringLiteral("hello")));
+    ASSERT_TRUE(window()->findChild<QPlainTextEdit *>());
+    item.url = QUrl(QStringLiteral("file:///home/b.txt"));
+    panel->reloadData();
+    EXPECT_FALSE(window()->findChild<QPlainTextEdit *>());
+    EXPECT_EQ(window()->windowTitle(), QStringLiteral("b.txt"));
 }
 
 TEST_F(QtPreviewPanelTest, AnAnimationThatNobodySeesMakesNoFrames)

@@ -1,5 +1,6 @@
 #include "fakes/boasting_png.h"
 #include "fakes/fake_file_locality.h"
+#include "fakes/turned_jpeg.h"
 #include "platform/qt/pictures/qt_file_icons.h"
 #include "platform/qt/pictures/qt_image_codec.h"
 #include "platform/system/file_url.h"
@@ -37,18 +38,6 @@ QByteArray written(const QImage &image, const char *format)
     QImageWriter writer(&buffer, format);
     EXPECT_TRUE(writer.write(image)) << format;
     return bytes;
-}
-
-/// A JPEG that says that it must be turned a quarter clockwise.
-QByteArray turnedJpeg(const QImage &image)
-{
-    constexpr char orientation[] = "\xff\xe1\x00\x22"
-                                   "Exif\0\0"
-                                   "II*\0\x08\0\0\0"
-                                   "\x01\0"
-                                   "\x12\x01\x03\0\x01\0\0\0\x06\0\0\0"
-                                   "\0\0\0\0";
-    return written(image, "jpeg").insert(2, QByteArray(orientation, sizeof orientation - 1));
 }
 
 bool isReady(const QImage &image)
