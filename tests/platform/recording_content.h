@@ -69,6 +69,7 @@ public:
     }
     bool performDragOperation(const DraggingInfo &info) override
     {
+        performedAt = info.location;
         log << QStringLiteral("perform");
         return !onPerform || onPerform(info.pasteboard);
     }
@@ -84,6 +85,7 @@ public:
     QRectF clip;
     QStringList log;
     QPointF lastMove;
+    QPointF performedAt;
     QStringList types;
     QList<QUrl> addresses;
     bool wantsAddresses = false;

@@ -268,7 +268,7 @@ TEST_F(SoftwareUpdaterTest, ACheckThatIsDueWhileTheUserDecidesIsNotMadeUpForSoon
     make();
     pass(60);
     answer(newer());
-    pass(day + 60);
+    pass(day + 30);
     display.onDismiss();
     pass(day / 2);
     EXPECT_EQ(checks(), 1U);
@@ -339,6 +339,9 @@ TEST_F(SoftwareUpdaterTest, ProgressIsShown)
     settle();
     EXPECT_EQ(display.report.stage, Stage::Downloading);
     EXPECT_EQ(display.report.received, 100'000);
+    EXPECT_TRUE(downloader.send(UpdateFolder::newImage().mid(100'000, 50'000)));
+    settle();
+    EXPECT_EQ(display.report.received, 150'000);
 }
 
 TEST_F(SoftwareUpdaterTest, AWrongSignatureLeavesEverythingAsItWas)

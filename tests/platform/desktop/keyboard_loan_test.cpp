@@ -334,6 +334,18 @@ TEST_F(KeyboardLoanTest, isWithThePanelAfterEveryLateAnswer)
     EXPECT_EQ(focus.focused, program);
 }
 
+TEST_F(KeyboardLoanTest, isWithThePanelAfterALateAnswerWhileALaterOneIsAwaited)
+{
+    for (int i = 0; i < 2; ++i) {
+        lendToShelf();
+        loan->resigned(shelf);
+        clock.advance(KeyboardLoan::answerPatience * 0.6);
+    }
+    lendToShelf();
+    focus.answer();
+    EXPECT_EQ(focus.focused, shelf);
+}
+
 TEST_F(KeyboardLoanTest, isLeftWithItsOwnerByAnAnswerWhereNoPanelWantsIt)
 {
     lendToShelf();

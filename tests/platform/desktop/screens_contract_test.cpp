@@ -225,6 +225,31 @@ TEST(X11Pointer, eachPixelLiesOnTheScreenThatShowsItAtEveryScale)
     }
 }
 
+TEST(X11Pointer, screensOfAnySizesShareNoPixel)
+{
+    struct Pair {
+        QRect first;
+        QRect second;
+        QPoint onSecond;
+    };
+    for (const Pair &pair : {Pair{{0, 0, 2000, 768}, {0, 768, 1000, 768}, {500, 768}},
+                             Pair{{0, 0, 1000, 768}, {0, 768, 2000, 768}, {500, 768}},
+                             Pair{{0, 0, 1366, 1200}, {1366, 0, 1366, 600}, {1366, 300}},
+                             Pair{{0, 0, 1366, 600}, {1366, 0, 1366, 1200}, {1366, 300}}}) {
+        FakeScreens screens;
+        for (const QRect &native : {pair.first, pair.second}) {
+            const double bottom = pair.first.height() - native.bottom() - 1;
+            const auto screen
+                = screens.attach(QRectF(native.x(), bottom, native.width(), native.height()));
+            screen->nativeFrame = native;
+        }
+        const auto attached = screens.screens();
+        const auto place = X11Pointer::locationOf(pair.onSecond, attached);
+        ASSERT_TRUE(place);
+        EXPECT_TRUE(contains(attached[1]->frame, *place)) << pair.first.width();
+    }
+}
+
 TEST(X11Pointer, aPixelOfNoScreenLiesOnNone)
 {
     FakeScreens screens;

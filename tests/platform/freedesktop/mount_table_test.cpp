@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/time.h>
 #include <unistd.h>
 
 #include <optional>
@@ -32,6 +33,10 @@ protected:
     {
         lines += "36 35 98:0 / " + path(name) + " rw,noatime master:1 - " + type + ' ' + source
             + " rw\n";
+        writeTable();
+    }
+    void writeTable()
+    {
         QFile file(folder.filePath(QStringLiteral("table")));
         ASSERT_TRUE(file.open(QFile::WriteOnly));
         file.write(lines);
@@ -62,6 +67,16 @@ TEST_F(MountTableTest, tellsWhatLiesBehindANetwork)
     EXPECT_FALSE(isRemote(""));
     EXPECT_FALSE(table->isRemote("/"));
     EXPECT_FALSE(table->isRemote(""));
+}
+
+TEST_F(MountTableTest, readsATableOfAnyLengthToItsEnd)
+{
+    // It is read in pieces of this size, so that the last one is a single byte.
+    constexpr qsizetype piece = 65'536;
+    const QByteArray last = "\n36 35 98:0 / " + path("local") + " rw - nfs";
+    lines += QByteArray(piece + 1 - lines.size() - last.size(), '#') + last;
+    writeTable();
+    EXPECT_TRUE(isRemote("local/a.png"));
 }
 
 TEST_F(MountTableTest, followsLinksAndDotsWithoutTouchingWhatIsRemote)
@@ -159,6 +174,8 @@ TEST_F(MountTableTest, inspectsWhatIsLocalAndOnlyThat)
     link("a", "local/link");
     link("../net/deep", "local/away");
     link("local", "home");
+    const timeval longAgo[2] = {{1000, 0}, {1000, 0}};
+    ASSERT_EQ(::utimes(path("local").constData(), longAgo), 0);
     const auto found = table->inspect(
         {path("local/a"), path("local/link"), path("local/away"), path("local/away/a"),
          path("local/gone"), path("gone/a"), path("net"), path("net/deep/"), path("local/"),
@@ -176,6 +193,8 @@ TEST_F(MountTableTest, inspectsWhatIsLocalAndOnlyThat)
     EXPECT_EQ(summary,
               "3 3 remote remote none none remote remote folder 3 3 folder folder none none none ");
     EXPECT_EQ(found[9].version->path, path("home/a")) << "as it was asked for";
+    EXPECT_EQ(found[8].version->modificationTime, 1000);
+    EXPECT_NE(found[11].version->modificationTime, 1000) << "that of the folder above";
 }
 
 TEST_F(MountTableTest, withoutATableNothingIsRemote)

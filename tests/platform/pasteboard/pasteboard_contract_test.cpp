@@ -125,10 +125,11 @@ TEST(PasteboardText, isTakenUnderTheMostExactName)
                                QStringLiteral("text/plain;charset=utf-16"),
                                QStringLiteral("text/plain; charset=UTF-8"),
                                QStringLiteral("UTF8_STRING"),
+                               QStringLiteral("text/plain;charset=ISO-10646-UCS-2"),
                                QStringLiteral("text/plain")};
     EXPECT_EQ(pasteboard_text::typesByExactness(types),
-              QStringList({types[8], types[7], types[6], types[5], types[4], types[3], types[2],
-                           types[1]}));
+              QStringList({types[8], types[7], types[6], types[9], types[5], types[4], types[3],
+                           types[2], types[1]}));
 }
 
 TEST(QtPasteboard, exactTextComesBeforeOtherSpellings)

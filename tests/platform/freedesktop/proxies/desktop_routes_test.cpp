@@ -225,6 +225,10 @@ TEST(CommandOutput, IsWhatAProgramPrints)
     EXPECT_EQ(run({"echo", "a b"}), (CommandOutput{End::Well, "a b\n"}));
     EXPECT_EQ(run({"sh", "-c", "echo complaint >&2"}), CommandOutput{End::Well});
     EXPECT_EQ(run({"sh", "-c", "echo x; exit 1"}), CommandOutput{End::Failed});
+    EXPECT_EQ(run({"head", "-c", "1000000", "/dev/zero"}),
+              (CommandOutput{End::Well, QByteArray(1'000'000, '\0')}));
+    EXPECT_EQ(run({"head", "-c", "1000001", "/dev/zero"}), CommandOutput{End::Unknown})
+        << "more than anybody wants";
     EXPECT_EQ(run({"/no/such/program"}), CommandOutput{End::Failed});
     EXPECT_EQ(run({"no-such-program-anywhere"}), CommandOutput{End::Failed});
 }

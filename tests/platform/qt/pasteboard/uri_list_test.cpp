@@ -105,6 +105,9 @@ TEST(UriList, anEndlessLineIsLeftOut)
 {
     EXPECT_EQ(pathsOf("file:///" + QByteArray(1'000'000, 'a') + "\nfile:///b"),
               QByteArrayList({"/b"}));
+    const QByteArray longest = "file:///" + QByteArray(uri_list::maximumLineLength - 8, 'a');
+    EXPECT_EQ(pathsOf(longest).size(), 1);
+    EXPECT_EQ(pathsOf(longest + 'a').size(), 0);
 }
 
 TEST(UriList, tenThousandAddressesAreRead)

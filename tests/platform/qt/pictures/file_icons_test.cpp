@@ -67,4 +67,16 @@ TEST_F(FileIconsTest, WhatTheThemeHasNoIconForIsDrawn)
     }
 }
 
+TEST_F(FileIconsTest, AFolderHasATabAndASheetATurnedCorner)
+{
+    const QImage folder = icons.iconForFolder(320, 1).bitmap;
+    const QImage sheet = icons.iconForFile(QUrl(QStringLiteral("file:///a.bin")), 320, 1).bitmap;
+    // To both sides of where their slanted edges end.
+    EXPECT_EQ(folder.pixelColor(143, 85).alpha(), 255);
+    EXPECT_EQ(folder.pixelColor(147, 85).alpha(), 0);
+    EXPECT_EQ(sheet.pixelColor(233, 65).alpha(), 255);
+    EXPECT_EQ(sheet.pixelColor(238, 65).alpha(), 0);
+    EXPECT_EQ(sheet.pixelColor(190, 113), sheet.pixelColor(100, 200)) << "right below the corner";
+}
+
 } // namespace corvane::test

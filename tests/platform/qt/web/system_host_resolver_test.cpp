@@ -1,6 +1,9 @@
 #include "e2e/desktop/eventually.h"
 #include "platform/qt/web/system_host_resolver.h"
 
+#include <QHostInfo>
+#include <QSet>
+
 #include <gtest/gtest.h>
 
 #include <mutex>
@@ -59,6 +62,15 @@ TEST(SystemHostResolver, otherSpellingsOfAnAddressBecomeThatAddress)
             EXPECT_TRUE(address.isLoopback()) << qPrintable(spelling);
     }
     EXPECT_EQ(resolved(u"127.1"_s), QList{loopback});
+}
+
+TEST(SystemHostResolver, otherNamesHaveTheAddressesThatTheSystemKnows)
+{
+    const QString name = QHostInfo::localHostName();
+    const auto known = QHostInfo::fromName(name).addresses();
+    const auto found = resolved(name);
+    EXPECT_EQ(QSet<QHostAddress>(found.begin(), found.end()),
+              QSet<QHostAddress>(known.begin(), known.end()));
 }
 
 TEST(SystemHostResolver, anUnknownNameHasNoAddresses)

@@ -30,12 +30,12 @@ protected:
     DragOut drag() const
     {
         if (isTextAlone)
-            return {{{}, text}, picture, {8, 8}};
+            return {{{}, text}, picture, hotSpot};
         return {{{{PasteboardWriter::File{QUrl(QStringLiteral("file:///tmp/a%FF.txt"))}},
                   {PasteboardWriter::Data{bytes, UTType::png()}}},
                  text},
                 picture,
-                {8, 8}};
+                hotSpot};
     }
     static Image yellow(QSize pixels, QSizeF points)
     {
@@ -70,7 +70,31 @@ protected:
     QByteArray bytes = "picture";
     QString text = QStringLiteral("täxt");
     bool isTextAlone = false;
+    /// Drags the picture, and whether that is yellow in its first and last point, and no larger,
+    /// where the pointer holds it by the point that is 8 points from its top left.
+    testing::AssertionResult isDraggedAs(QSize shown)
+    {
+        const QPoint goal(200, 200);
+        const e2e::XServer eye{qgetenv("DISPLAY")};
+        const auto isYellow = [&](int x, int y) {
+            const QImage seen = eye.picture({goal - QPoint(8, 8) + QPoint(x, y), QSize(1, 1)});
+            return seen.pixelColor(0, 0) == QColor(Qt::yellow);
+        };
+        bool isSeen = false;
+        bool isLarger = false;
+        letGoOver(goal, [&] {
+            isSeen = isYellow(0, 0) && isYellow(shown.width() - 1, shown.height() - 1);
+            isLarger = isYellow(0, shown.height()) || isYellow(shown.width(), 0);
+            return isSeen || isLarger;
+        });
+        if (isSeen && !isLarger)
+            return testing::AssertionSuccess();
+        return testing::AssertionFailure() << (isLarger ? "it is larger" : "it is not seen there");
+    }
+
     Image picture = yellow({32, 32}, {16, 16});
+    /// From its bottom left.
+    QPointF hotSpot{8, 8};
     int releases = 0;
     std::vector<DragOperation> results;
     QList<qsizetype> taken;
@@ -100,21 +124,15 @@ TEST_F(DragOutTest, showsAPictureOfAnotherShapeThanItsPlaceFittedIntoIt)
 {
     picture = yellow({64, 16}, {32, 16});
     show();
-    const QPoint goal(200, 200);
-    const e2e::XServer eye{qgetenv("DISPLAY")};
-    const auto isYellow = [&](int x, int y) {
-        const QImage seen = eye.picture({goal - QPoint(8, 8) + QPoint(x, y), QSize(1, 1)});
-        return seen.pixelColor(0, 0) == QColor(Qt::yellow);
-    };
-    bool isSeen = false;
-    bool isLarger = false;
-    letGoOver(goal, [&] {
-        isSeen = isYellow(0, 0) && isYellow(31, 7);
-        isLarger = isYellow(0, 8) || isYellow(32, 0);
-        return isSeen || isLarger;
-    });
-    EXPECT_TRUE(isSeen);
-    EXPECT_FALSE(isLarger);
+    EXPECT_TRUE(isDraggedAs({32, 8}));
+}
+
+TEST_F(DragOutTest, showsATallPictureFittedIntoItsPlaceToo)
+{
+    picture = yellow({16, 64}, {16, 32});
+    hotSpot = {8, 24};
+    show();
+    EXPECT_TRUE(isDraggedAs({8, 32}));
 }
 
 TEST_F(DragOutTest, everyTypeThatIsAnnouncedIsGiven)

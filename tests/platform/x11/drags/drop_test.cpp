@@ -100,6 +100,17 @@ TEST_F(DropTest, anAcceptedDropIsCopiedAndFinished)
                            QStringLiteral("drag ended")}));
 }
 
+TEST_F(DropTest, isMadeWhereThePointerWasLast)
+{
+    show();
+    DragSource source({{text, "hello"}}, "XdndActionCopy");
+    ASSERT_TRUE(hover(source));
+    source.moveTo(id(), at(100, 40));
+    ASSERT_TRUE(source.waitForStatus());
+    ASSERT_TRUE(dropFrom(source));
+    EXPECT_EQ(content.performedAt, QPointF(100, 60));
+}
+
 TEST_F(DropTest, isACopyOrNothingWhateverWasProposed)
 {
     show();

@@ -40,6 +40,13 @@ public:
         xcb_flush(connection());
     }
 
+    /// Whether its reader has taken all that it was to give.
+    bool hasStopped()
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_unanswered.has_value();
+    }
+
     static constexpr qsizetype pieceBytes = 64 * 1024;
 
 private:
@@ -219,6 +226,25 @@ TEST_F(SelectionReaderTest, waitsForASlowOwnerThatGoesOn)
     owner.goOnUntil(std::numeric_limits<qsizetype>::max());
     ASSERT_TRUE(isOver());
     EXPECT_EQ(bytes, contents);
+}
+
+TEST_F(SelectionReaderTest, givesAnOwnerUpThatNeverComesToAnEnd)
+{
+    constexpr int step = 20;
+    constexpr auto steps = static_cast<qsizetype>(SelectionReader::longest) / step;
+    Owner owner(QByteArray((steps + 2) * Owner::pieceBytes, 'x'), 1);
+    read();
+    for (qsizetype i = 1; i <= steps; ++i) {
+        ASSERT_TRUE(eventually([&] {
+            clock.runPending();
+            return owner.hasStopped();
+        }));
+        EXPECT_FALSE(outcome) << "it gives something every time";
+        owner.goOnUntil(i * Owner::pieceBytes + 1);
+        clock.advance(step);
+    }
+    EXPECT_EQ(outcome, Outcome::Lost);
+    EXPECT_EQ(reader.count(), 0U);
 }
 
 TEST_F(SelectionReaderTest, hearsThatItsOwnerEnds)

@@ -240,6 +240,19 @@ TEST_F(X11DragSupportTest, severalTypesMayBeAskedForAtOnce)
     EXPECT_EQ(atoms[2], xcb_atom_t{XCB_NONE}) << "what was not given is crossed out";
 }
 
+TEST_F(X11DragSupportTest, ofSeveralTypesTheLastOneWithoutAPropertyIsPassedOver)
+{
+    begin();
+    const auto atom = [&](const char *name) { return connection.atom(name); };
+    target.setAtoms("PAIRS", {atom("image/png"), atom("FIRST"), atom("text/uri-list")});
+    ASSERT_TRUE(target.ask("MULTIPLE", "PAIRS"));
+    EXPECT_EQ(target.given("FIRST"), "picture");
+    const QByteArray pairs = target.given("PAIRS");
+    ASSERT_EQ(pairs.size(), 12);
+    const auto *atoms = reinterpret_cast<const xcb_atom_t *>(pairs.constData());
+    EXPECT_EQ(atoms[2], atom("text/uri-list"));
+}
+
 TEST_F(X11DragSupportTest, whoNamesNoPropertyIsAnsweredUnderTheTargetsName)
 {
     begin();
