@@ -50,6 +50,9 @@ void ItemPreparation::ended(const QUuid &id, const std::optional<DropItem> &made
     if (made && running.places.front()->isWanted()) {
         ready = running.item;
         ready->become(*made);
+        if (const auto *file = std::get_if<DropItem::File>(&ready->payload());
+            file && ready->isSpooled())
+            m_spool.keepName(file->url);
     } else {
         for (const auto &place : running.places)
             m_spool.discard(place->url());

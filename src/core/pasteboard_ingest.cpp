@@ -172,6 +172,7 @@ std::optional<DropItem> PasteboardIngest::promisedFileItem(Pasteboard &pasteboar
         if (const auto picture = m_pictures.ofSpooledTiff(*file))
             return *picture;
     }
+    m_spool.keepName(*file);
     return DropItem(DropItem::File{*file}, file_url::lastPathComponent(*file),
                     PictureItems::describe(*file), true);
 }

@@ -80,7 +80,7 @@ void QuickActions::copy(const QList<DropItem> &items)
 {
     if (items.isEmpty())
         return;
-    m_preparation.whenReady(items, [this, latest = begin()](const QList<DropItem> &ready) {
+    m_preparation.whenReady(items, [this, latest = begin(items)](const QList<DropItem> &ready) {
         if (isStillWanted(latest))
             copyReady(ready, latest);
     });
@@ -111,14 +111,14 @@ void QuickActions::writeSeveral(const QList<DropItem> &items, qsizetype count)
     contents.writers.reserve(static_cast<std::size_t>(items.size()));
     for (const DropItem &item : items)
         contents.writers.push_back(DragWriter::pasteboardWriter(item));
-    m_pasteboard.write(contents);
+    write(contents, items);
     m_feedback.show(QString::number(count) + QStringLiteral(" items copied"));
 }
 
 void QuickActions::copy(const DropItem &item, bool asDataUri)
 {
     m_preparation.whenReady(
-        item, [this, asDataUri, latest = begin()](const std::optional<DropItem> &ready) {
+        item, [this, asDataUri, latest = begin({item})](const std::optional<DropItem> &ready) {
             if (!isStillWanted(latest) || !ready)
                 return;
             if (asDataUri)
@@ -137,27 +137,40 @@ void QuickActions::copyAsDataUri(const DropItem &item, const Latest &latest)
             copyAsItIs(item);
             return;
         }
-        m_pasteboard.write({{}, uri});
+        write({{}, uri}, {});
         m_feedback.show(QStringLiteral("Data URI copied"));
     });
 }
 
-QuickActions::Latest QuickActions::begin()
+QuickActions::Latest QuickActions::begin(const QList<DropItem> &items)
 {
-    m_latest = std::make_shared<const Copy>(Copy{m_pasteboard.changeCount()});
+    m_latest
+        = std::make_shared<const Copy>(Copy{m_pasteboard.changeCount(), m_pictures.lend(items)});
     return m_latest;
 }
 
-bool QuickActions::isStillWanted(const Latest &latest) const
+bool QuickActions::isStillWanted(const Latest &latest)
 {
     const auto copy = latest.lock();
-    return copy && copy->changeCount == m_pasteboard.changeCount();
+    if (!copy)
+        return false;
+    const bool isLatest = copy->changeCount == m_pasteboard.changeCount();
+    if (!isLatest)
+        m_latest.reset();
+    return isLatest;
+}
+
+void QuickActions::write(const PasteboardContents &contents, const QList<DropItem> &items)
+{
+    m_pictures.giveAway(items);
+    m_pasteboard.write(contents);
+    m_latest.reset();
 }
 
 void QuickActions::copyAsItIs(const DropItem &item)
 {
     const Copied copied = std::visit(CopiedPayload(), item.payload());
-    m_pasteboard.write({{DragWriter::pasteboardWriter(item)}, copied.string});
+    write({{DragWriter::pasteboardWriter(item)}, copied.string}, {item});
     m_feedback.show(copied.message);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "core/spool_loans.h"
 
 #include <QList>
 
@@ -12,6 +13,7 @@ class DataUris;
 struct Feedback;
 class Clipboard;
 class ItemPreparation;
+struct PasteboardContents;
 class SavedPictures;
 
 /// Puts items on the clipboard and shows a message about it. All references must outlive it. Main
@@ -19,27 +21,32 @@ class SavedPictures;
 ///
 /// What is not ready at once (items that are still being made, pictures that are saved to files
 /// first, data URIs) is put there later, unless something else was copied meanwhile, here or by
-/// another program.
+/// another program. An item that is removed after it was copied is made ready all the same, and its
+/// file stays, so that it can be pasted.
 class QuickActions {
 public:
     QuickActions(Clipboard &pasteboard, const Feedback &feedback, DataUris &dataUris,
                  ItemPreparation &preparation, SavedPictures &pictures);
 
     /// Copies all of them. A clipboard can hold only one picture of each type, so two or more
-    /// pictures that are held in memory are saved and copied as files. Items that are removed
-    /// before they are ready are left out, and the message counts the others.
+    /// pictures that are held in memory are saved and copied as files. The message counts what was
+    /// copied.
     void copy(const QList<DropItem> &items);
     /// Copies one item, as a data URI if asked to; an item that has none is copied as it is.
     void copy(const DropItem &item, bool asDataUri);
 
 private:
-    /// A copy that is not done yet, with the clipboard's change count from when it was asked for.
+    /// A copy that is not done yet.
     struct Copy {
+        /// The clipboard's change count from when it was asked for.
         qint64 changeCount = 0;
+        SpoolLoans::Loan loan;
     };
     using Latest = std::weak_ptr<const Copy>;
-    Latest begin();
-    bool isStillWanted(const Latest &latest) const;
+    Latest begin(const QList<DropItem> &items);
+    /// Whether it is the latest copy of all; ends it otherwise.
+    bool isStillWanted(const Latest &latest);
+    void write(const PasteboardContents &contents, const QList<DropItem> &items);
     void copyReady(const QList<DropItem> &items, const Latest &latest);
     void copyAsDataUri(const DropItem &item, const Latest &latest);
     void copyAsItIs(const DropItem &item);

@@ -22,6 +22,18 @@ bool exists(const QUrl &url)
     return ::lstat(file_url::nativePath(url).constData(), &status) == 0;
 }
 
+/// Of those items that are files of the shelf's own, or about to be.
+QList<QUrl> spooledFiles(const QList<DropItem> &items)
+{
+    QList<QUrl> files;
+    for (const DropItem &item : items) {
+        const bool isOurs = item.isSpooled() || item.isBeingMade();
+        if (isOurs && std::holds_alternative<DropItem::File>(item.payload()))
+            files << urlOf(item);
+    }
+    return files;
+}
+
 QString extensionOf(const UTType &type)
 {
     const QString extension = type.preferredFilenameExtension();
@@ -83,7 +95,18 @@ void SavedPictures::asFiles(const QList<DropItem> &items,
     files.reserve(items.size());
     for (const DropItem &item : items)
         files << asFile(item);
-    m_preparation.whenReady(files, callback);
+    m_preparation.whenReady(
+        files, [loan = lend(files), callback](const QList<DropItem> &ready) { callback(ready); });
+}
+
+SpoolLoans::Loan SavedPictures::lend(const QList<DropItem> &items) const
+{
+    return m_spool.lend(spooledFiles(items));
+}
+
+void SavedPictures::giveAway(const QList<DropItem> &items) const
+{
+    m_spool.giveAway(spooledFiles(items));
 }
 
 void SavedPictures::ended(const QUuid &id, const QUuid &fileId, const std::optional<DropItem> &made)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "core/spool_loans.h"
 #include "platform/base/lifetime.h"
 
 #include <QByteArray>
@@ -15,8 +16,8 @@ namespace corvane {
 class ItemPreparation;
 class ScratchSpool;
 
-/// Saves pictures that are held in memory to files in the spool, for copies and drags of several
-/// items, of which programs take only files.
+/// The files in the spool that other programs are given. Pictures that are held in memory are saved
+/// to such files for copies and drags of several items, of which programs take only files.
 ///
 /// A picture is saved once, on another thread. As long as its item is on the shelf the file is kept
 /// and used again, also after the drag or copy that it was made for: another program may read it
@@ -34,10 +35,18 @@ public:
     /// is still being made; if that fails it becomes the picture in memory again. Items that are no
     /// pictures in memory are returned unchanged, and so are all where there is no spool.
     DropItem asFile(const DropItem &item);
-    /// The same for many; calls back once all files are written. Items removed meanwhile are left
-    /// out.
+    /// The same for many; calls back once all files are written, also those of items that are
+    /// removed meanwhile.
     void asFiles(const QList<DropItem> &items,
                  const std::function<void(const QList<DropItem> &files)> &callback);
+
+    /// To be called before another program is told of these items. As long as the loan lives, their
+    /// files in the spool are not deleted, even if an item is removed, and what is still being made
+    /// is finished.
+    [[nodiscard]] SpoolLoans::Loan lend(const QList<DropItem> &items) const;
+    /// To be called when another program was told of these items: their files in the spool are kept
+    /// until the program ends.
+    void giveAway(const QList<DropItem> &items) const;
 
     /// To be called when an item has left the shelf: its file is forgotten, and deleted with
     /// `deletingFile`. Otherwise the file stays, for the program that was given it.

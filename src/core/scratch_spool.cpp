@@ -30,6 +30,15 @@ QString safeExtension(QString extension)
     return extension.toUtf8().size() <= maximumBytes ? extension : QString();
 }
 
+QList<QByteArray> pathsOf(const QList<QUrl> &files)
+{
+    QList<QByteArray> paths;
+    paths.reserve(files.size());
+    for (const QUrl &file : files)
+        paths << file_url::nativePath(file);
+    return paths;
+}
+
 bool exists(const QByteArray &path)
 {
     struct stat status = {};
@@ -43,6 +52,7 @@ ScratchSpool::ScratchSpool(QByteArray temporaryDirectory, qint64 processIdentifi
     : m_temporaryDirectory(spool_directory::withoutTrailingSlashes(std::move(temporaryDirectory)))
     , m_directory(m_temporaryDirectory + '/' + spool_directory::name(processIdentifier))
     , m_deletions(deletionQueue)
+    , m_loans([this](const QByteArray &path) { discardNow(path); })
 {
 }
 
@@ -96,7 +106,7 @@ QByteArray ScratchSpool::freePath(const QString &basename, const QString &extens
 
 bool ScratchSpool::isKept(const QByteArray &path) const
 {
-    return !m_places.value(path).expired();
+    return m_keptNames.contains(path) || m_loans.isKnown(path) || !m_places.value(path).expired();
 }
 
 std::optional<QUrl> ScratchSpool::reserve(const QString &basename, const QString &extension)
@@ -125,8 +135,10 @@ std::optional<QUrl> ScratchSpool::store(const QByteArray &data, const QString &b
                                         const QString &extension)
 {
     const auto url = reserve(basename, extension);
-    const bool isWritten = url && private_file::create(file_url::nativePath(*url), data);
-    return isWritten ? url : std::nullopt;
+    if (!url || !private_file::create(file_url::nativePath(*url), data))
+        return std::nullopt;
+    keepName(*url);
+    return url;
 }
 
 bool ScratchSpool::contains(const QUrl &url) const
@@ -134,9 +146,31 @@ bool ScratchSpool::contains(const QUrl &url) const
     return m_open && m_open->contains(file_url::nativePath(url));
 }
 
+void ScratchSpool::keepName(const QUrl &url)
+{
+    m_keptNames.insert(file_url::nativePath(url));
+}
+
+SpoolLoans::Loan ScratchSpool::lend(const QList<QUrl> &files)
+{
+    return m_loans.lend(pathsOf(files));
+}
+
+void ScratchSpool::giveAway(const QList<QUrl> &files)
+{
+    m_loans.giveAway(pathsOf(files));
+}
+
 void ScratchSpool::discard(const QUrl &url) const
 {
     const QByteArray path = file_url::nativePath(url);
+    if (!m_loans.putOff(path))
+        discardNow(path);
+}
+
+void ScratchSpool::discardNow(const QByteArray &path) const
+{
+    m_keptNames.remove(path);
     if (const auto place = m_places.value(path).lock())
         place->giveUp();
     if (m_open)
@@ -150,6 +184,8 @@ void ScratchSpool::discardAll()
             place->giveUp();
     }
     m_deletions.stop();
+    m_loans.clear();
+    m_keptNames.clear();
     if (stillStands())
         spool_directory::removeAtEnd(m_directory);
     m_open.reset();

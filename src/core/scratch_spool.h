@@ -2,9 +2,12 @@
 
 #include "core/open_spool.h"
 #include "core/spool_deletions.h"
+#include "core/spool_loans.h"
 
 #include <QByteArray>
 #include <QHash>
+#include <QList>
+#include <QSet>
 #include <QString>
 #include <QUrl>
 
@@ -60,9 +63,20 @@ public:
                               const QString &extension);
     /// Whether the address lies in the directory, by whole path components, the parent resolved.
     bool contains(const QUrl &url) const;
+    /// To be called for a file that an item refers to. Its name is not given out again before it is
+    /// discarded, even if the file disappears: otherwise the item would refer to another item's
+    /// file, and delete that when it is removed.
+    void keepName(const QUrl &url);
     /// Deletes a file of the spool, on the queue; addresses outside are left alone, failures
-    /// ignored. Its name is not given out again before it is deleted.
+    /// ignored. Its name is not given out again before it is deleted. A file that is lent is
+    /// deleted when the loan ends, one that was given away with the directory.
     void discard(const QUrl &url) const;
+    /// To be called before another program is told of these files: as long as the loan lives, none
+    /// of them is deleted, nor given up while it is still being made.
+    [[nodiscard]] SpoolLoans::Loan lend(const QList<QUrl> &files);
+    /// To be called when another program was told of these files and may read them at any time:
+    /// they are kept until `discardAll`.
+    void giveAway(const QList<QUrl> &files);
     /// Deletes the directory and everything in it. Many files are left to a child process that
     /// outlives this one (`spool_directory::removeAtEnd`).
     void discardAll();
@@ -79,6 +93,7 @@ private:
     bool open();
     bool stillStands() const;
     bool isKept(const QByteArray &path) const;
+    void discardNow(const QByteArray &path) const;
     QByteArray freePath(const QString &basename, const QString &extension) const;
 
     QByteArray m_temporaryDirectory;
@@ -89,6 +104,9 @@ private:
     /// By native path. Entries whose place is gone are removed once there are `m_tidyPlacesAt`.
     QHash<QByteArray, std::weak_ptr<SpoolPlace>> m_places;
     qsizetype m_tidyPlacesAt = 64;
+    /// Paths of the files that items refer to.
+    mutable QSet<QByteArray> m_keptNames;
+    mutable SpoolLoans m_loans;
 };
 
 } // namespace corvane

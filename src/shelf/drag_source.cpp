@@ -2,6 +2,7 @@
 
 #include "core/awaited_contents.h"
 #include "core/drag_set.h"
+#include "core/saved_pictures.h"
 #include "platform/desktop/keyboard.h"
 #include "shelf/optional_callback.h"
 
@@ -61,7 +62,7 @@ void DragSource::begin(const QList<DropItem> &items, const Painter &paint)
     }
     for (const DropItem &item : std::as_const(set.items))
         m_dragged << item.id();
-    Drag begun{m_dragged, set.forms, items.size()};
+    Drag begun{m_dragged, set.forms, items.size(), false, m_context.pictures.lend(set.forms)};
     call(onChanged, true);
 
     DragOut drag;
@@ -89,17 +90,21 @@ void DragSource::released(Drag &drag)
     call(onChanged, false);
 }
 
-void DragSource::ended(const Drag &drag, const DragOutEnd &end)
+void DragSource::ended(Drag &drag, const DragOutEnd &end)
 {
     for (const QUuid &id : drag.ids)
         m_leaving.removeOne(id);
     call(onEnded);
     QList<QUuid> leaving;
     QList<QUuid> kept;
+    QList<DropItem> given;
     for (const qsizetype place : end.taken) {
+        given << drag.forms[place];
         const bool keep = drag.keep || isOnlyLinkedTo(drag.forms[place], end.operation);
         (keep ? kept : leaving) << drag.ids[place];
     }
+    m_context.pictures.giveAway(given);
+    drag.loan.reset();
     if (!leaving.isEmpty())
         call(onEjected, leaving, false);
     if (!kept.isEmpty())

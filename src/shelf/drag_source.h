@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "core/spool_loans.h"
 #include "platform/base/lifetime.h"
 #include "platform/desktop/panel_window.h"
 
@@ -96,10 +97,12 @@ private:
         /// How many items were to be dragged; more than `ids` where some cannot be.
         qsizetype wanted = 0;
         bool keep = false;
+        /// What is removed while it is on its way arrives all the same.
+        SpoolLoans::Loan loan;
     };
     DragOutEvents eventsOf(Drag drag);
     void released(Drag &drag);
-    void ended(const Drag &drag, const DragOutEnd &end);
+    void ended(Drag &drag, const DragOutEnd &end);
 
     Context m_context;
     std::optional<Press> m_press;

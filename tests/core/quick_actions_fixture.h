@@ -48,6 +48,10 @@ struct QuickActionsTest : testing::Test {
                                   },
                                   {}});
     }
+    void remove(const DropItem &item)
+    {
+        scratch.spool.discard(std::get<DropItem::File>(item.payload()).url);
+    }
     const PasteboardContents &written()
     {
         EXPECT_EQ(pasteboard.writes.size(), 1U);

@@ -102,23 +102,41 @@ TEST_F(QuickActionsTest, DoesNotCountPicturesThatCouldNotBeSaved)
               (QStringList{QStringLiteral("2 items copied"), QStringLiteral("1 items copied")}));
 }
 
-TEST_F(QuickActionsTest, DoesNotCopyWhatIsRemovedBeforeItIsSaved)
+TEST_F(QuickActionsTest, CopiesPicturesThatAreRemovedBeforeTheyAreSaved)
 {
     actions.copy({image, another, text});
     pictures.itemLeft(image.id(), true);
     finishWork();
-    EXPECT_EQ(copiedFiles(), (QList<QByteArray>{"more", {}}));
-    EXPECT_EQ(messages, QStringList{QStringLiteral("2 items copied")});
+    EXPECT_EQ(copiedFiles(), (QList<QByteArray>{"png bytes", "more", {}}));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("3 items copied")});
+    pictures.itemLeft(another.id(), true);
+    EXPECT_EQ(copiedFiles(), (QList<QByteArray>{"png bytes", "more", {}}));
 }
 
-TEST_F(QuickActionsTest, CopiesNothingWhereAllIsRemovedBeforeItIsSaved)
+TEST_F(QuickActionsTest, WhatIsCopiedIsThereToBePastedWhenItsItemIsRemoved)
 {
-    actions.copy({image, another});
-    pictures.itemLeft(image.id(), true);
-    pictures.itemLeft(another.id(), true);
+    const QUrl alone = *scratch.spool.store("alone", QStringLiteral("a"), QStringLiteral("png"));
+    const QUrl beside = *scratch.spool.store("beside", QStringLiteral("b"), QStringLiteral("png"));
+    actions.copy(DropItem(DropItem::File{alone}, {}, {}, true), false);
+    actions.copy({DropItem(DropItem::File{beside}, {}, {}, true), text});
+    scratch.spool.discard(alone);
+    scratch.spool.discard(beside);
+    EXPECT_EQ(test::contents(alone), "alone") << "clipboard managers keep what was copied before";
+    EXPECT_EQ(test::contents(beside), "beside");
+    const QUrl next = *scratch.spool.store("next", QStringLiteral("a"), QStringLiteral("png"));
+    EXPECT_NE(next, alone);
+}
+
+TEST_F(QuickActionsTest, OfWhatIsCopiedAsADataUriTheFileGoesWithItsItem)
+{
+    const QUrl url = *scratch.spool.store("x", QStringLiteral("a"), QStringLiteral("png"));
+    const DropItem item(DropItem::File{url}, {}, {}, true);
+    actions.copy(item, true);
+    scratch.spool.discard(url);
     finishWork();
-    EXPECT_TRUE(pasteboard.writes.empty());
-    EXPECT_TRUE(messages.isEmpty());
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Data URI copied")});
+    EXPECT_EQ(pasteboard.writes.back().string, QStringLiteral("data:image/png;base64,eA=="));
+    EXPECT_FALSE(test::exists(url));
 }
 
 TEST_F(QuickActionsTest, PicturesThatAreBeingSavedGiveWayToWhatWasCopiedMeanwhile)
@@ -180,24 +198,37 @@ TEST_F(QuickActionsTest, SavesWhatTurnsOutToBeHeldInMemory)
     EXPECT_EQ(messages, QStringList{QStringLiteral("2 items copied")});
 }
 
-TEST_F(QuickActionsTest, DoesNotCopyWhatIsRemovedBeforeItIsMade)
+TEST_F(QuickActionsTest, CopiesWhatIsRemovedBeforeItIsMade)
 {
     const DropItem item = being("scan", "pixels");
     actions.copy(item, false);
-    scratch.spool.discard(std::get<DropItem::File>(item.payload()).url);
+    remove(item);
     finishWork();
-    EXPECT_TRUE(pasteboard.writes.empty());
-    EXPECT_TRUE(messages.isEmpty());
+    EXPECT_EQ(copiedFiles(), QList<QByteArray>{"pixels"});
+    const DropItem other = being("page", "more");
+    actions.copy({other, link});
+    remove(other);
+    finishWork();
+    EXPECT_EQ(copiedFiles(), (QList<QByteArray>{"more", {}}));
+    EXPECT_EQ(messages,
+              (QStringList{QStringLiteral("Path copied"), QStringLiteral("2 items copied")}));
 }
 
-TEST_F(QuickActionsTest, CopiesTheOtherOneWhereOneOfTwoIsRemovedBeforeItIsMade)
+TEST_F(QuickActionsTest, WhatGaveWayAndIsRemovedIsNotMade)
 {
     const DropItem item = being("scan", "pixels");
-    actions.copy({item, link});
-    scratch.spool.discard(std::get<DropItem::File>(item.payload()).url);
+    actions.copy(item, false);
+    remove(item);
+    actions.copy(text, false);
     finishWork();
-    EXPECT_EQ(writer<PasteboardWriter::Link>().url, std::get<DropItem::Link>(link.payload()).url);
-    EXPECT_EQ(messages, QStringList{QStringLiteral("Link copied")});
+    EXPECT_FALSE(test::exists(std::get<DropItem::File>(item.payload()).url));
+    const DropItem other = being("page", "more");
+    actions.copy(other, false);
+    remove(other);
+    ++pasteboard.changes;
+    finishWork();
+    EXPECT_FALSE(test::exists(std::get<DropItem::File>(other.payload()).url));
+    EXPECT_EQ(messages, QStringList{QStringLiteral("Text copied")});
 }
 
 TEST_F(QuickActionsTest, WhatIsStillBeingMadeGivesWayToWhatWasCopiedMeanwhile)

@@ -102,20 +102,29 @@ TEST_F(SavedPicturesTest, GoWithAnItemThatIsRemoved)
 
 TEST_F(SavedPicturesTest, AreNotWrittenForAnItemThatIsRemovedBefore)
 {
+    pictures.asFile(item);
+    pictures.itemLeft(item.id(), true);
+    finishWork();
+    EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(SavedPicturesTest, AreWrittenForWhoeverIsToBeToldOfThem)
+{
     QList<DropItem> given;
-    int answers = 0;
-    const DropItem other = picture("more");
-    pictures.asFiles({item, other}, [&](const QList<DropItem> &ready) {
+    QByteArrayList contents;
+    pictures.asFiles({item, picture("more")}, [&](const QList<DropItem> &ready) {
+        for (const DropItem &file : ready)
+            contents << test::contents(urlOf(file));
         given = ready;
-        ++answers;
+        pictures.giveAway({ready.constLast()});
     });
     pictures.itemLeft(item.id(), true);
-    EXPECT_EQ(answers, 0);
+    EXPECT_TRUE(given.isEmpty());
     finishWork();
-    EXPECT_EQ(answers, 1);
-    ASSERT_EQ(given.size(), 1);
-    EXPECT_EQ(test::contents(urlOf(given[0])), "more");
-    EXPECT_EQ(files().size(), 1);
+    EXPECT_EQ(contents, (QByteArrayList{"pixels", "more"}));
+    ASSERT_EQ(given.size(), 2);
+    EXPECT_FALSE(test::exists(urlOf(given[0]))) << "nobody was told of it after all";
+    EXPECT_TRUE(test::exists(urlOf(given[1])));
 }
 
 TEST_F(SavedPicturesTest, StayForWhoeverTookTheItem)

@@ -9,6 +9,7 @@
 #include <sys/wait.h>
 
 #include <memory>
+#include <optional>
 #include <thread>
 
 namespace corvane {
@@ -289,6 +290,77 @@ TEST_F(ScratchSpoolTest, GivesANameOutAgainOnlyOnceItsFileIsGone)
     queue.runAll();
     EXPECT_EQ(contents(*second), "2");
     EXPECT_EQ(nameOf(queued.reserve(image, png)), QStringLiteral("Image.png"));
+}
+
+TEST_F(ScratchSpoolTest, GivesNoNameOutAgainThatAnItemHas)
+{
+    const auto first = spool.store("1", image, png);
+    // Who tidies the temporary directory takes old files away.
+    ::unlink(file_url::nativePath(*first).constData());
+    const auto second = spool.store("2", image, png);
+    EXPECT_EQ(nameOf(second), QStringLiteral("Image 2.png"));
+    spool.discard(*first);
+    EXPECT_EQ(contents(*second), "2");
+    EXPECT_EQ(nameOf(spool.reserve(image, png)), nameOf(first));
+    spool.keepName(*first);
+    EXPECT_EQ(nameOf(spool.reserve(image, png)), QStringLiteral("Image 3.png"));
+}
+
+TEST_F(ScratchSpoolTest, DeletesWhatIsLentOnceTheLastLoanHasEnded)
+{
+    const auto file = spool.store("1", image, png);
+    auto loan = spool.lend({*file});
+    auto other = spool.lend({*file, temporary.url("elsewhere")});
+    loan.reset();
+    spool.discard(*file);
+    EXPECT_EQ(contents(*file), "1");
+    EXPECT_EQ(nameOf(spool.reserve(image, png)), QStringLiteral("Image 2.png"));
+    other.reset();
+    EXPECT_FALSE(exists(*file));
+    const auto kept = spool.store("2", image, png);
+    loan = spool.lend({*kept});
+    loan.reset();
+    EXPECT_EQ(contents(*kept), "2") << "nobody wanted it to go";
+    spool.discard(*kept);
+    EXPECT_FALSE(exists(*kept));
+}
+
+TEST_F(ScratchSpoolTest, GivesUpNothingThatIsLentWhileItIsBeingMade)
+{
+    const auto place = spool.keepPlace(image, png);
+    auto loan = spool.lend({place->url()});
+    spool.discard(place->url());
+    EXPECT_TRUE(place->isWanted());
+    loan.reset();
+    EXPECT_FALSE(place->isWanted());
+}
+
+TEST_F(ScratchSpoolTest, WhatIsGivenAwayGoesWithTheDirectoryAlone)
+{
+    const auto file = spool.store("1", image, png);
+    auto loan = spool.lend({*file});
+    spool.giveAway({*file});
+    spool.discard(*file);
+    loan.reset();
+    spool.discard(*file);
+    EXPECT_EQ(contents(*file), "1");
+    // Its new owner may have moved it.
+    ::unlink(file_url::nativePath(*file).constData());
+    EXPECT_EQ(nameOf(spool.store("2", image, png)), QStringLiteral("Image 2.png"));
+    loan = spool.lend({*file});
+    spool.discardAll();
+    EXPECT_FALSE(exists(directory()));
+}
+
+TEST_F(ScratchSpoolTest, ALoanMayEndAfterTheSpool)
+{
+    std::optional<ScratchSpool> shortLived(std::in_place, temporary.path(), 4712);
+    const auto file = shortLived->store("1", image, png);
+    auto loan = shortLived->lend({*file});
+    shortLived->discard(*file);
+    shortLived.reset();
+    loan.reset();
+    EXPECT_EQ(contents(*file), "1");
 }
 
 TEST_F(ScratchSpoolTest, GoesAsAWholeWithoutWaitingForSingleFiles)

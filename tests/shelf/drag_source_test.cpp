@@ -245,6 +245,39 @@ TEST_F(DragSourceTest, whatIsBeingMadeIsHandedOverOnceItIsReady)
     EXPECT_TRUE(QFile::exists(url.toLocalFile()));
 }
 
+TEST_F(DragSourceTest, whatIsRemovedOnItsWayArrives)
+{
+    const QUrl file = *desk.spool.store("pixels", QStringLiteral("a"), QStringLiteral("png"));
+    begin({known(DropItem(DropItem::File{file}, QStringLiteral("a"), {}, true))});
+    release();
+    desk.spool.discard(file);
+    EXPECT_TRUE(QFile::exists(file.toLocalFile()));
+    end({copy, {0}, true});
+    EXPECT_TRUE(QFile::exists(file.toLocalFile())) << "its target may still read it";
+}
+
+TEST_F(DragSourceTest, whatATargetHasIsNotDeletedWhenItsItemIsRemoved)
+{
+    const QUrl file = *desk.spool.store("pixels", QStringLiteral("a"), QStringLiteral("png"));
+    desk.keyboard.modifiers = Modifier::Shift;
+    begin({known(DropItem(DropItem::File{file}, QStringLiteral("a"), {}, true))});
+    release();
+    end({copy, {0}, true});
+    EXPECT_EQ(take().last(), QStringLiteral("kept a"));
+    desk.spool.discard(file);
+    EXPECT_TRUE(QFile::exists(file.toLocalFile()));
+}
+
+TEST_F(DragSourceTest, whatNobodyTookGoesWithItsItem)
+{
+    const QUrl file = *desk.spool.store("pixels", QStringLiteral("a"), QStringLiteral("png"));
+    begin({known(DropItem(DropItem::File{file}, QStringLiteral("a"), {}, true))});
+    release();
+    desk.spool.discard(file);
+    end({copy, {}, true});
+    EXPECT_FALSE(QFile::exists(file.toLocalFile()));
+}
+
 TEST_F(DragSourceTest, ofTwoDragsEachEndsForItself)
 {
     const DropItem item = text("a");
