@@ -152,7 +152,7 @@ TEST(LayerAnimator, FadesOpacityFor0Point14Seconds)
 {
     const auto motion = LayerAnimator().action(QStringLiteral("opacity"));
     ASSERT_TRUE(motion);
-    EXPECT_EQ(*motion, Motion(CurveMotion{0.14, TimingCurve::easeOut()}));
+    EXPECT_EQ(*motion, Motion(CurveMotion{0.14, TimingCurve{0, 0, 0.58, 1}}));
 }
 
 TEST(LayerAnimator, AnyOtherChangeTakesEffectAtOnce)
