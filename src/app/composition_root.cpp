@@ -79,8 +79,8 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                            {.mainQueue = mainQueue, .screens = screens, .terminate = terminate}))
     , desktop(session->desktop())
     , keyMonitors(desktop.keyboardLayout)
-    , panel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &workQueue)
-    , viewAllPanel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &workQueue)
+    , panel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &textWork)
+    , viewAllPanel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &textWork)
     , statusItem(mainQueue, desktop.trayWatch)
     , hotKeys(desktop.hotKeys, mainQueue)
     , settings(userDefaults, loginItems)
@@ -94,7 +94,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
     , remoteFiles(mainQueue)
     , remoteDescriptions(remoteFiles)
     , remotePictures(remoteFiles, pictureItems)
-    , textDescriptions(workQueue, mainQueue)
+    , textDescriptions(textWork, mainQueue)
     , ingest(spool, pictureItems, mountTable, remoteDescriptions, remotePictures, textDescriptions)
     , savedPictures(spool, itemPreparation)
     , dataUris(mountTable, remoteFiles, workQueue, mainQueue)
@@ -234,7 +234,7 @@ bool CompositionRoot::finishWork(std::chrono::milliseconds patience)
         const std::chrono::milliseconds rest(std::max<qint64>(deadline.remainingTime(), 0));
         haveAllEnded = threads.finish(rest) && haveAllEnded;
     };
-    for (QtWorkQueue *queue : {&workQueue, &conversionWork, &thumbnailWork, &previewWork,
+    for (QtWorkQueue *queue : {&workQueue, &textWork, &conversionWork, &thumbnailWork, &previewWork,
                                &remotePreviewWork, &updateWork})
         finish(*queue);
     finish(webClient);

@@ -84,6 +84,8 @@ struct CompositionRoot {
     QtImageCodec imageCodec;
     // After the objects that its work uses, because its destructor waits for work that is running.
     QtWorkQueue workQueue;
+    // Of its own: a text that is dropped waits for no disk.
+    QtWorkQueue textWork;
     std::shared_ptr<WebRoutes> webRoutes;
     QtWebClient webClient;
     QtScreens screens;
