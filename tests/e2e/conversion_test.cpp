@@ -126,6 +126,21 @@ TEST_F(Conversion, aPictureThatIsCopiedBeforeItIsReadyIsThereWhenItIsPasted)
     EXPECT_EQ(copied, made.toUtf8());
 }
 
+TEST_F(Conversion, aPictureThatIsCopiedAndRemovedIsThereWhenItIsPasted)
+{
+    const QString page = makePage(u"page.tiff"_s);
+    start();
+    ASSERT_TRUE(dropAndLook({{"text/uri-list", uriList({page})}}));
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    focusShelf(corvane().at(38, 22));
+    hands().key('c', {keys::control});
+    hands().key(keys::forwardDelete);
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    const QString made = corvane().spool() + u"/page.png"_s;
+    ASSERT_TRUE(eventually([&] { return m_desktop.clipboard(u"UTF8_STRING"_s) == made.toUtf8(); }));
+    EXPECT_TRUE(isThePage(made));
+}
+
 TEST_F(Conversion, aLargeTiffFromMemoryIsAnsweredAtOnce)
 {
     QByteArray tiff;
