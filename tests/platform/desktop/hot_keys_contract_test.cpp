@@ -2,6 +2,7 @@
 #include "fakes/fake_hot_keys.h"
 #include "platform/display.h"
 #include "platform/qt/base/qt_main_queue.h"
+#include "platform/silent_server.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/keys/x11_hot_keys.h"
 #include "platform/x11/keys/x11_keyboard_layout.h"
@@ -493,6 +494,30 @@ TEST_F(X11HotKeysTest, worksWhileAnotherProgramHoldsThePointer)
                                      nullptr));
     keyboard.press(keyD, command | control);
     EXPECT_TRUE(hears({1}));
+}
+
+TEST_F(X11HotKeysTest, aServerThatKeepsSilentForAMomentCostsNoKey)
+{
+    const auto handle = take(keyD, command | control);
+    ASSERT_TRUE(handle);
+    X11Connection connection;
+    std::optional<X11HotKeys> later;
+    HotKeyService::Registration registration;
+    QList<ShortcutOutcome> told;
+    EXPECT_TRUE(endsWhileTheServerStandsStill(connection.get(), [&] {
+        // Taken away and back.
+        keyboard.service.suspend().reset();
+        later.emplace(connection, keyboard.queue);
+        registration
+            = later->registerHotKey(keyK.code, command | control, {},
+                                    [&](const ShortcutOutcome &outcome) { told << outcome; });
+        EXPECT_EQ(registration.outcome, ShortcutOutcome::pending());
+    }));
+    EXPECT_TRUE(eventually([&] { return !keyboard.isFree(keyD, command | control); }));
+    keyboard.press(keyD, command | control);
+    EXPECT_TRUE(hears({1}));
+    EXPECT_TRUE(eventually([&] { return told == QList{ShortcutOutcome::bound()}; }));
+    EXPECT_FALSE(keyboard.isFree(keyK, command | control));
 }
 
 TEST_F(X11HotKeysTest, whenItEndsItsKeysAreFree)

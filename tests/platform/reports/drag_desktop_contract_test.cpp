@@ -1,5 +1,6 @@
 #include "fakes/fake_drag_desktop.h"
 #include "platform/display.h"
+#include "platform/silent_server.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_drag_desktop.h"
 #include "platform/x11_client.h"
@@ -310,6 +311,18 @@ TEST(X11DragDesktop, anOwnDragAndTheClipboardAreNoChange)
         [&] { return display.server.selectionOwner("XdndSelection") == window.winId(); }));
     settle();
     EXPECT_EQ(desktop.changeCount(), 0);
+}
+
+TEST(X11DragDesktop, aServerThatKeepsSilentReleasesNoButton)
+{
+    RealHands hands;
+    hands.press();
+    EXPECT_EQ(hands.desktop.pressedMouseButtons(), MouseButtons::left);
+    EXPECT_TRUE(endsWhileTheServerStandsStill(hands.connection.get(), [&] {
+        EXPECT_EQ(hands.desktop.pressedMouseButtons(), MouseButtons::left);
+    }));
+    hands.release();
+    EXPECT_TRUE(eventually([&] { return hands.desktop.pressedMouseButtons() == 0; }));
 }
 
 TEST(X11DragDesktop, leftHandedPeopleDragWithTheOtherButton)

@@ -7,9 +7,12 @@
 #include <QSocketNotifier>
 
 #include <poll.h>
+#include <xcb/xcbext.h>
 #include <xcb/xfixes.h>
 #include <xcb/xinput.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <cstdlib>
 #include <cstring>
 #include <utility>
@@ -106,17 +109,85 @@ xcb_atom_t X11Connection::atom(const char *name)
     if (known != m_atoms.end())
         return known->second;
     const auto length = static_cast<std::uint16_t>(std::strlen(name));
-    const X11Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
-        m_connection, xcb_intern_atom(m_connection, 0, length, name), nullptr));
-    if (!reply)
+    const auto answer
+        = reply<xcb_intern_atom_reply_t>(xcb_intern_atom(m_connection, 0, length, name));
+    if (!answer)
         return XCB_NONE;
-    return m_atoms.emplace(name, reply->atom).first->second;
+    return m_atoms.emplace(name, answer->atom).first->second;
 }
 
 bool X11Connection::isSelectionNotify(const xcb_generic_event_t &event) const
 {
     const int type = event.response_type & 0x7f;
     return hasXFixes() && type == m_xfixesEvent + int{XCB_XFIXES_SELECTION_NOTIFY};
+}
+
+void *X11Connection::answerTo(unsigned int sequence)
+{
+    flush();
+    const QDeadlineTimer deadline(isSilent() ? 0 : answerPatience);
+    void *answer = nullptr;
+    xcb_generic_error_t *error = nullptr;
+    while (xcb_poll_for_reply(m_connection, sequence, &answer, &error) == 0) {
+        if (waitForNews(static_cast<int>(deadline.remainingTime())))
+            continue;
+        if (m_overdue)
+            xcb_discard_reply(m_connection, sequence);
+        else
+            m_overdue = sequence;
+        return nullptr;
+    }
+    const X11Reply<xcb_generic_error_t> ignored(error);
+    return answer;
+}
+
+bool X11Connection::isSilent()
+{
+    if (!m_overdue)
+        return false;
+    while (waitForNews(0))
+        continue;
+    void *answer = nullptr;
+    xcb_generic_error_t *error = nullptr;
+    if (xcb_poll_for_reply(m_connection, *m_overdue, &answer, &error) == 0)
+        return true;
+    const X11Reply<void> ignored(answer);
+    const X11Reply<xcb_generic_error_t> ignoredToo(error);
+    m_overdue.reset();
+    return false;
+}
+
+/// False when nothing came within so many milliseconds; events are kept for later.
+bool X11Connection::waitForNews(int patience)
+{
+    pollfd waiting = {xcb_get_file_descriptor(m_connection), POLLIN, 0};
+    if (!isConnected())
+        return false;
+    const int found = ::poll(&waiting, 1, std::max(patience, 0));
+    if (found <= 0)
+        return found < 0 && errno == EINTR;
+    while (auto *const event = xcb_poll_for_event(m_connection))
+        m_setAside.emplace_back(event);
+    return true;
+}
+
+X11Connection::Outcome X11Connection::outcomeOf(std::span<const xcb_void_cookie_t> requests)
+{
+    // Asked for behind them: with its answer they are done.
+    const bool isKnown
+        = reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus(m_connection)) != nullptr;
+    Outcome outcome = isKnown ? Outcome::Done : Outcome::Unknown;
+    for (const xcb_void_cookie_t request : requests) {
+        void *none = nullptr;
+        xcb_generic_error_t *error = nullptr;
+        if (isKnown)
+            xcb_poll_for_reply(m_connection, request.sequence, &none, &error);
+        else
+            xcb_discard_reply(m_connection, request.sequence);
+        if (const X11Reply<xcb_generic_error_t> refusal{error})
+            outcome = Outcome::Refused;
+    }
+    return outcome;
 }
 
 xcb_timestamp_t X11Connection::serverTime()
@@ -126,7 +197,7 @@ xcb_timestamp_t X11Connection::serverTime()
     const auto asked = xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_clock,
                                            XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, nullptr);
     flush();
-    const QDeadlineTimer deadline(timePatience);
+    const QDeadlineTimer deadline(isSilent() ? 0 : timePatience);
     while (isConnected()) {
         X11Reply<xcb_generic_event_t> event(xcb_poll_for_event(m_connection));
         if (!event) {

@@ -11,6 +11,8 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <optional>
+#include <span>
 #include <string>
 
 class QSocketNotifier;
@@ -46,6 +48,29 @@ public:
     /// XInput 2.3).
     bool hasPointerBarriers() const { return m_hasPointerBarriers; }
 
+    /// In milliseconds: how long a request waits for its answer. A server that takes longer counts
+    /// as silent, as it is while another program has grabbed it. Slow or distant servers take far
+    /// less.
+    static constexpr int answerPatience = 1'000;
+
+    /// The answer to a request that was made on this connection: null for an error, and where none
+    /// comes. A silent server is not waited for again before it has answered. Events that come
+    /// before the answer are handled afterwards, in their order.
+    template<typename Reply, typename Cookie>
+    X11Reply<Reply> reply(Cookie cookie)
+    {
+        return X11Reply<Reply>(static_cast<Reply *>(answerTo(cookie.sequence)));
+    }
+    enum class Outcome {
+        Done,
+        /// At least one of them was refused.
+        Refused,
+        /// The server is silent and may still do them.
+        Unknown,
+    };
+    /// What became of checked requests that were made on this connection.
+    Outcome outcomeOf(std::span<const xcb_void_cookie_t> requests);
+
     /// In milliseconds: how long `serverTime` waits for the server.
     static constexpr int timePatience = 100;
 
@@ -62,6 +87,9 @@ public:
 
 private:
     void setUpExtensions();
+    void *answerTo(unsigned int sequence);
+    bool isSilent();
+    bool waitForNews(int patience);
     void makeClock();
     void readEvents();
     void handleQueuedEvents();
@@ -80,6 +108,8 @@ private:
     QSocketNotifier *m_notifier = nullptr;
     /// Events that came while `serverTime` waited for its answer.
     std::deque<X11Reply<xcb_generic_event_t>> m_setAside;
+    /// The request that the server has left unanswered.
+    std::optional<unsigned int> m_overdue;
     /// A window that is never shown; `serverTime` changes a property of it. Made at the first use.
     xcb_window_t m_clock = XCB_NONE;
     CallbackList<const xcb_generic_event_t &> m_listeners;

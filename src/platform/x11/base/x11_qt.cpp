@@ -1,7 +1,13 @@
 #include "platform/x11/base/x11_qt.h"
 
+#include "platform/x11/base/x11_connection.h"
+
+#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QWindow>
+
+#include <poll.h>
+#include <xcb/xcbext.h>
 
 namespace corvane::x11_qt {
 
@@ -44,6 +50,26 @@ void giveKeyboard(xcb_window_t window, xcb_timestamp_t time)
         return;
     ignoreErrors(xcb_set_input_focus_checked(qt, XCB_INPUT_FOCUS_PARENT, window, time));
     xcb_flush(qt);
+}
+
+void *answerTo(unsigned int sequence)
+{
+    auto *const qt = connection();
+    xcb_flush(qt);
+    const QDeadlineTimer deadline(X11Connection::answerPatience);
+    void *answer = nullptr;
+    xcb_generic_error_t *error = nullptr;
+    while (xcb_poll_for_reply(qt, sequence, &answer, &error) == 0) {
+        if (deadline.hasExpired()) {
+            xcb_discard_reply(qt, sequence);
+            return nullptr;
+        }
+        // A thread of Qt's reads what comes, so that there may be no more to be seen of it here.
+        pollfd waiting = {xcb_get_file_descriptor(qt), POLLIN, 0};
+        ::poll(&waiting, 1, 1);
+    }
+    const X11Reply<xcb_generic_error_t> ignored(error);
+    return answer;
 }
 
 void ignoreErrors(xcb_void_cookie_t cookie)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/x11/base/x11_reply.h"
+
 #include <QtGlobal>
 
 #include <xcb/xcb.h>
@@ -20,6 +22,14 @@ xcb_window_t nativeWindow(const QWindow &window);
 /// Gives the keyboard to a window of Qt's that the window manager does not manage. `time` is a time
 /// of the server. Uses Qt's connection, so that Qt's earlier requests for the window come first.
 void giveKeyboard(xcb_window_t window, xcb_timestamp_t time);
+/// What `reply` below waits for.
+void *answerTo(unsigned int sequence);
+/// The answer to a request on Qt's connection, as `X11Connection::reply` gives it.
+template<typename Reply, typename Cookie>
+X11Reply<Reply> reply(Cookie cookie)
+{
+    return X11Reply<Reply>(static_cast<Reply *>(answerTo(cookie.sequence)));
+}
 /// Ignores an error of a request on Qt's connection: the window that it names may be gone.
 void ignoreErrors(xcb_void_cookie_t cookie);
 

@@ -1,6 +1,5 @@
 #include "platform/x11/drags/drag_answers.h"
 
-#include "platform/x11/base/x11_reply.h"
 #include "platform/x11/drags/incremental_transfers.h"
 
 #include <utility>
@@ -126,11 +125,9 @@ bool DragAnswers::writeContents(xcb_window_t requestor, xcb_atom_t target, xcb_a
 /// answer. Targets of pairs that are not answered are replaced by None in the list.
 bool DragAnswers::writeMultiple(xcb_window_t requestor, xcb_atom_t property)
 {
-    const X11Reply<xcb_get_property_reply_t> reply(
-        xcb_get_property_reply(m_connection.get(),
-                               xcb_get_property(m_connection.get(), 0, requestor, property,
-                                                XCB_GET_PROPERTY_TYPE_ANY, 0, maximumPairs * 2),
-                               nullptr));
+    const auto reply = m_connection.reply<xcb_get_property_reply_t>(
+        xcb_get_property(m_connection.get(), 0, requestor, property, XCB_GET_PROPERTY_TYPE_ANY, 0,
+                         maximumPairs * 2));
     if (!reply || reply->format != 32 || reply->bytes_after > 0)
         return false;
     const auto *const first = static_cast<const xcb_atom_t *>(xcb_get_property_value(reply.get()));

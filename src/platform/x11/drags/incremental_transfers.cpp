@@ -1,7 +1,5 @@
 #include "platform/x11/drags/incremental_transfers.h"
 
-#include "platform/x11/base/x11_reply.h"
-
 #include <algorithm>
 #include <iterator>
 #include <limits>
@@ -65,11 +63,9 @@ bool IncrementalTransfers::begin(xcb_window_t reader, xcb_atom_t property, xcb_a
 bool IncrementalTransfers::listenTo(xcb_window_t reader)
 {
     const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE | XCB_EVENT_MASK_STRUCTURE_NOTIFY;
-    const X11Reply<xcb_generic_error_t> error(
-        xcb_request_check(m_connection.get(),
-                          xcb_change_window_attributes_checked(m_connection.get(), reader,
-                                                               XCB_CW_EVENT_MASK, &mask)));
-    return !error && m_connection.isConnected();
+    const auto asked = xcb_change_window_attributes_checked(m_connection.get(), reader,
+                                                            XCB_CW_EVENT_MASK, &mask);
+    return m_connection.outcomeOf({&asked, 1}) == X11Connection::Outcome::Done;
 }
 
 void IncrementalTransfers::handle(const xcb_generic_event_t &event)

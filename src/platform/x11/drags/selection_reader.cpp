@@ -1,7 +1,5 @@
 #include "platform/x11/drags/selection_reader.h"
 
-#include "platform/x11/base/x11_reply.h"
-
 #include <xcb/xfixes.h>
 
 #include <algorithm>
@@ -20,10 +18,10 @@ xcb_window_t makeWindow(const X11Connection &connection, std::uint32_t events)
     return window;
 }
 
-bool exists(const X11Connection &connection, xcb_window_t window)
+bool exists(X11Connection &connection, xcb_window_t window)
 {
-    return X11Reply<xcb_get_window_attributes_reply_t>(xcb_get_window_attributes_reply(
-               connection.get(), xcb_get_window_attributes(connection.get(), window), nullptr))
+    return connection.reply<xcb_get_window_attributes_reply_t>(
+               xcb_get_window_attributes(connection.get(), window))
         != nullptr;
 }
 
@@ -77,8 +75,8 @@ void SelectionReader::cancel(Id id)
 
 xcb_window_t SelectionReader::owner() const
 {
-    const X11Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
-        m_connection.get(), xcb_get_selection_owner(m_connection.get(), m_selection), nullptr));
+    const auto reply = m_connection.reply<xcb_get_selection_owner_reply_t>(
+        xcb_get_selection_owner(m_connection.get(), m_selection));
     return reply ? reply->owner : XCB_NONE;
 }
 
@@ -150,12 +148,10 @@ void SelectionReader::takeSlice(Id id)
     const auto read = find(id);
     if (read == m_reads.end())
         return;
-    // The property is deleted with its last byte, which tells the owner to send the next piece.
-    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection.get(),
+    // Removed with its last byte, which tells the owner to go on.
+    const auto reply = m_connection.reply<xcb_get_property_reply_t>(
         xcb_get_property(m_connection.get(), 1, read->window, m_property, XCB_GET_PROPERTY_TYPE_ANY,
-                         read->sliceOffset / 4, sliceBytes / 4),
-        nullptr));
+                         read->sliceOffset / 4, sliceBytes / 4));
     if (!reply) {
         finish(read, Outcome::Lost);
         return;

@@ -1,7 +1,6 @@
 #include "platform/x11/drags/window_end_watch.h"
 
 #include "platform/x11/base/x11_qt.h"
-#include "platform/x11/base/x11_reply.h"
 
 #include <cstdint>
 #include <map>
@@ -38,8 +37,8 @@ WindowEndWatch::WindowEndWatch(xcb_window_t window)
     auto *const qt = x11_qt::connection();
     if (!qt)
         return;
-    const X11Reply<xcb_get_window_attributes_reply_t> attributes(
-        xcb_get_window_attributes_reply(qt, xcb_get_window_attributes(qt, window), nullptr));
+    const auto attributes
+        = x11_qt::reply<xcb_get_window_attributes_reply_t>(xcb_get_window_attributes(qt, window));
     m_exists = attributes != nullptr;
     if (!attributes)
         return;

@@ -1,7 +1,5 @@
 #include "platform/x11/drags/x11_drag.h"
 
-#include "platform/x11/base/x11_reply.h"
-
 #include <utility>
 
 namespace corvane {
@@ -69,11 +67,9 @@ void X11Drag::targetAnswered(const xcb_client_message_event_t &status)
 
 std::optional<std::uint32_t> X11Drag::cardinal(xcb_window_t window, const char *property)
 {
-    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection.get(),
+    const auto reply = m_connection.reply<xcb_get_property_reply_t>(
         xcb_get_property(m_connection.get(), 0, window, m_connection.atom(property),
-                         XCB_GET_PROPERTY_TYPE_ANY, 0, 1),
-        nullptr));
+                         XCB_GET_PROPERTY_TYPE_ANY, 0, 1));
     if (!reply || reply->format != 32 || reply->value_len == 0)
         return std::nullopt;
     return *static_cast<const std::uint32_t *>(xcb_get_property_value(reply.get()));

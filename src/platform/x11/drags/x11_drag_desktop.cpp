@@ -2,7 +2,6 @@
 
 #include "platform/base/checked_math.h"
 #include "platform/x11/base/x11_qt.h"
-#include "platform/x11/base/x11_reply.h"
 
 #include <xcb/xfixes.h>
 #include <xcb/xinput.h>
@@ -91,14 +90,16 @@ void X11DragDesktop::remove(ChangingList<Monitor>::Id monitor)
 
 unsigned X11DragDesktop::pressedMouseButtons() const
 {
-    const X11Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
-        m_connection.get(), xcb_query_pointer(m_connection.get(), m_connection.root()), nullptr));
+    const auto reply = m_connection.reply<xcb_query_pointer_reply_t>(
+        xcb_query_pointer(m_connection.get(), m_connection.root()));
+    // A silent server ends no drag.
     if (!reply)
-        return 0;
-    // X11 counts left, middle, right; the result has left, right, middle.
+        return m_connection.isConnected() ? m_lastPressed : 0;
+    // X11 counts left, middle, right; here it is left, right, other.
     const auto isDown = [&](unsigned mask) { return (reply->mask & mask) != 0 ? 1U : 0U; };
-    return isDown(XCB_BUTTON_MASK_1) * left | isDown(XCB_BUTTON_MASK_3) << 1
+    m_lastPressed = isDown(XCB_BUTTON_MASK_1) * left | isDown(XCB_BUTTON_MASK_3) << 1
         | isDown(XCB_BUTTON_MASK_2) << 2;
+    return m_lastPressed;
 }
 
 void X11DragDesktop::handle(const xcb_generic_event_t &event)
@@ -174,8 +175,8 @@ bool X11DragDesktop::isOverOwnWindow() const
     constexpr int maximumDepth = 32;
     xcb_window_t window = m_connection.root();
     for (int depth = 0; depth < maximumDepth; ++depth) {
-        const X11Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
-            m_connection.get(), xcb_query_pointer(m_connection.get(), window), nullptr));
+        const auto reply = m_connection.reply<xcb_query_pointer_reply_t>(
+            xcb_query_pointer(m_connection.get(), window));
         if (!reply || reply->child == XCB_NONE)
             return false;
         if (x11_qt::isOwn(reply->child))
@@ -214,8 +215,8 @@ void X11DragDesktop::listenTo(Listening what)
 
 void X11DragDesktop::readButtonMapping()
 {
-    const X11Reply<xcb_get_pointer_mapping_reply_t> reply(xcb_get_pointer_mapping_reply(
-        m_connection.get(), xcb_get_pointer_mapping(m_connection.get()), nullptr));
+    const auto reply = m_connection.reply<xcb_get_pointer_mapping_reply_t>(
+        xcb_get_pointer_mapping(m_connection.get()));
     if (!reply)
         return;
     const std::uint8_t *map = xcb_get_pointer_mapping_map(reply.get());

@@ -73,7 +73,9 @@ private:
     /// device, so it does not tell which button is the left one.
     std::array<std::uint8_t, 256> m_buttonMapping{};
     bool m_isLeftDown = false;
-    /// The physical button that went down as the left one; 0 if that is not known.
+    /// What the server told last.
+    mutable unsigned m_lastPressed = 0;
+    /// The physical button that is down as the left one; 0 where that is not known.
     std::uint32_t m_leftButton = 0;
     ChangingList<Monitor> m_monitors;
     Lifetime m_lifetime;

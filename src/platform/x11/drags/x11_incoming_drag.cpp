@@ -18,11 +18,9 @@ using Property = X11Reply<xcb_get_property_reply_t>;
 Property propertyOf(X11Connection &connection, xcb_window_t window, const char *name,
                     std::uint32_t maximumBytes)
 {
-    return Property(
-        xcb_get_property_reply(connection.get(),
-                               xcb_get_property(connection.get(), 0, window, connection.atom(name),
-                                                XCB_GET_PROPERTY_TYPE_ANY, 0, maximumBytes / 4),
-                               nullptr));
+    return connection.reply<xcb_get_property_reply_t>(
+        xcb_get_property(connection.get(), 0, window, connection.atom(name),
+                         XCB_GET_PROPERTY_TYPE_ANY, 0, maximumBytes / 4));
 }
 
 std::vector<xcb_atom_t> atomsIn(const Property &property)
@@ -54,8 +52,7 @@ X11IncomingDrag::X11IncomingDrag(X11Connection &connection, MainQueue &queue,
     for (const xcb_atom_t atom : atoms)
         names.push_back(xcb_get_atom_name(connection.get(), atom));
     for (std::size_t i = 0; i < atoms.size(); ++i) {
-        const X11Reply<xcb_get_atom_name_reply_t> reply(
-            xcb_get_atom_name_reply(connection.get(), names[i], nullptr));
+        const auto reply = connection.reply<xcb_get_atom_name_reply_t>(names[i]);
         if (!reply)
             continue;
         const QString name = QString::fromLatin1(xcb_get_atom_name_name(reply.get()),

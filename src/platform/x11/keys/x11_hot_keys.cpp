@@ -2,7 +2,6 @@
 
 #include "platform/base/main_queue.h"
 #include "platform/desktop/virtual_key_codes.h"
-#include "platform/x11/base/x11_reply.h"
 
 #include <QtDebug>
 
@@ -11,6 +10,13 @@
 #include <vector>
 
 namespace corvane {
+
+namespace {
+
+/// After which a server that kept silent is asked once more.
+constexpr double silentDelay = 1;
+
+} // namespace
 
 class X11HotKeys::Counted : public Suspension {
 public:
@@ -31,8 +37,10 @@ X11HotKeys::X11HotKeys(X11Connection &connection, MainQueue &queue)
     , m_queue(queue)
     , m_listener(
           connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
-    , m_mapping(X11Modifiers::read(connection.get()))
+    , m_mapping(X11Modifiers::read(connection).value_or(X11Modifiers()))
 {
+    if (m_mapping == X11Modifiers() && connection.isConnected())
+        rereadLater();
 }
 
 X11HotKeys::~X11HotKeys()
@@ -53,21 +61,21 @@ HotKeyService::Registration X11HotKeys::registerHotKey(KeyPosition keyCode, std:
 {
     if (!X11Modifiers::areMoreThanTyping(modifiers))
         return {ShortcutOutcome::refused(ShortcutRefusal::TypesCharacter), {}};
-    const auto combination = combinationFor(keyCode, modifiers);
     const bool isTwin = std::ranges::any_of(m_hotKeys, [&](const auto &other) {
         return other.second.keyCode == keyCode && other.second.modifiers == modifiers;
     });
-    if (!combination || isTwin || !grab(*combination))
-        return {ShortcutOutcome::refused(), {}};
-    HotKey hotKey = {keyCode, modifiers, identifier, std::move(onOutcome), combination, false};
-    if (m_suspensions > 0) {
-        ungrab(*combination);
+    HotKey hotKey = {keyCode, modifiers, identifier, std::move(onOutcome), {}, {}};
+    const ShortcutOutcome outcome = isTwin ? ShortcutOutcome::refused() : take(hotKey);
+    if (outcome.isRefused())
+        return {outcome, {}};
+    hotKey.told = outcome;
+    if (m_suspensions > 0 && hotKey.grabbed) {
+        ungrab(*hotKey.grabbed);
         hotKey.grabbed.reset();
     }
     const Handle handle = m_nextHandle++;
     m_hotKeys.emplace(handle, std::move(hotKey));
-    return {ShortcutOutcome::bound(),
-            Subscription(m_lifetime.guard([this, handle] { unregister(handle); }))};
+    return {outcome, Subscription(m_lifetime.guard([this, handle] { unregister(handle); }))};
 }
 
 void X11HotKeys::unregister(Handle handle)
@@ -111,27 +119,42 @@ bool X11HotKeys::isHeldByOurselves(const Combination &combination) const
         m_hotKeys, [&](const auto &hotKey) { return hotKey.second.grabbed == combination; });
 }
 
-bool X11HotKeys::grab(const Combination &combination)
+ShortcutOutcome X11HotKeys::take(HotKey &hotKey)
+{
+    // The server has not told yet which modifiers there are. `rereadMapping` comes back to this.
+    if (m_mapping == X11Modifiers() && m_connection.isConnected())
+        return ShortcutOutcome::pending();
+    const auto combination = combinationFor(hotKey.keyCode, hotKey.modifiers);
+    if (!combination)
+        return ShortcutOutcome::refused();
+    switch (grab(*combination)) {
+    case X11Connection::Outcome::Done:
+        hotKey.grabbed = combination;
+        return ShortcutOutcome::bound();
+    case X11Connection::Outcome::Refused:
+        return ShortcutOutcome::refused();
+    case X11Connection::Outcome::Unknown:
+        grabAgainLater();
+        break;
+    }
+    return ShortcutOutcome::pending();
+}
+
+X11Connection::Outcome X11HotKeys::grab(const Combination &combination)
 {
     // The server refuses a grab that another program holds, but not one that we hold.
-    if (!m_connection.isConnected() || isHeldByOurselves(combination))
-        return false;
+    if (isHeldByOurselves(combination))
+        return X11Connection::Outcome::Refused;
     std::vector<xcb_void_cookie_t> requests;
     for (const std::uint16_t locks : m_mapping.lockVariants())
         requests.push_back(
             xcb_grab_key_checked(m_connection.get(), 0, m_connection.root(),
                                  static_cast<std::uint16_t>(combination.modifiers | locks),
                                  combination.key, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
-    bool isRefused = false;
-    for (const xcb_void_cookie_t request : requests) {
-        const X11Reply<xcb_generic_error_t> error(xcb_request_check(m_connection.get(), request));
-        isRefused = isRefused || error;
-    }
-    // Requests on a broken connection report no error.
-    isRefused = isRefused || !m_connection.isConnected();
-    if (isRefused)
+    const auto outcome = m_connection.outcomeOf(requests);
+    if (outcome != X11Connection::Outcome::Done)
         ungrab(combination);
-    return !isRefused;
+    return outcome;
 }
 
 void X11HotKeys::ungrab(const Combination &combination)
@@ -150,13 +173,11 @@ void X11HotKeys::grabAll()
     for (auto &[handle, hotKey] : m_hotKeys) {
         if (hotKey.grabbed)
             continue;
-        const auto combination = combinationFor(hotKey.keyCode, hotKey.modifiers);
-        if (combination && grab(*combination))
-            hotKey.grabbed = combination;
-        const bool wasLost = std::exchange(hotKey.isLost, !hotKey.grabbed);
-        isNews = isNews || (hotKey.isLost && !wasLost);
-        if (hotKey.isLost != wasLost)
-            changed.push_back(handle);
+        const ShortcutOutcome outcome = take(hotKey);
+        if (std::exchange(hotKey.told, outcome) == outcome)
+            continue;
+        isNews = isNews || outcome.isRefused();
+        changed.push_back(handle);
     }
     if (isNews)
         qWarning("[Corvane] A shortcut cannot be taken again: another program has it now, or the "
@@ -172,10 +193,22 @@ void X11HotKeys::tellOutcomes(const std::vector<Handle> &changed) const
         if (found == m_hotKeys.end())
             continue;
         const OutcomeObserver onOutcome = found->second.onOutcome;
-        const bool isLost = found->second.isLost;
+        const ShortcutOutcome outcome = found->second.told;
         if (onOutcome)
-            onOutcome(isLost ? ShortcutOutcome::refused() : ShortcutOutcome::bound());
+            onOutcome(outcome);
     }
+}
+
+void X11HotKeys::grabAgainLater()
+{
+    // Once for all of them: each attempt that is not answered asks for the next one.
+    if (std::exchange(m_willGrabAgain, true))
+        return;
+    m_queue.asyncAfter(silentDelay, m_lifetime.guard([this] {
+        m_willGrabAgain = false;
+        if (m_suspensions == 0)
+            grabAll();
+    }));
 }
 
 void X11HotKeys::ungrabAll()
@@ -220,15 +253,23 @@ void X11HotKeys::handlePress(const xcb_key_press_event_t &press)
     m_handlers.forEach([&](const Handler &handler) { handler(identifier); });
 }
 
+void X11HotKeys::rereadLater()
+{
+    m_willReread = true;
+    m_queue.asyncAfter(silentDelay, m_lifetime.guard([this] { rereadMapping(); }));
+}
+
 void X11HotKeys::rereadMapping()
 {
     m_willReread = false;
-    const X11Modifiers mapping = X11Modifiers::read(m_connection.get());
-    if (mapping == m_mapping || !m_connection.isConnected())
+    const auto mapping = X11Modifiers::read(m_connection);
+    if (!mapping && m_connection.isConnected())
+        rereadLater();
+    if (!mapping || *mapping == m_mapping)
         return;
     // With the modifiers' old bits, by which the keys were grabbed.
     ungrabAll();
-    m_mapping = mapping;
+    m_mapping = *mapping;
     if (m_suspensions == 0)
         grabAll();
 }

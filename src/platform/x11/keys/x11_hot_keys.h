@@ -20,9 +20,9 @@ class MainQueue;
 ///
 /// A grab names a key by its position and modifiers by their bits, so a change of the layout costs
 /// nothing; one of the modifiers takes all grabs anew. One that cannot be had again then, or after
-/// a suspension, is logged and told, and tried for again at the next such occasion. Answers are
-/// there at once. The connection and the
-/// queue must outlive it.
+/// a suspension, is logged and told, and tried for again at the next such occasion. The outcome is
+/// known at once unless the server is silent; then it is pending, and asked for again each second.
+/// The connection and the queue must outlive it.
 class X11HotKeys : public HotKeyService {
 public:
     X11HotKeys(X11Connection &connection, MainQueue &queue);
@@ -53,22 +53,26 @@ private:
         OutcomeObserver onOutcome;
         /// None while it could not be had.
         std::optional<Combination> grabbed;
-        /// The last attempt to grab it again failed, which was logged.
-        bool isLost = false;
+        /// What has become of it, as its observer knows.
+        ShortcutOutcome told;
     };
     class Counted;
 
     void unregister(Handle handle);
     std::optional<Combination> combinationFor(KeyPosition keyCode, std::uint32_t modifiers) const;
     bool isHeldByOurselves(const Combination &combination) const;
-    bool grab(const Combination &combination);
+    /// Grabs it where the server does not refuse; pending while the server does not answer.
+    ShortcutOutcome take(HotKey &hotKey);
+    X11Connection::Outcome grab(const Combination &combination);
     void ungrab(const Combination &combination);
     void grabAll();
     void tellOutcomes(const std::vector<Handle> &changed) const;
+    void grabAgainLater();
     void ungrabAll();
 
     void handle(const xcb_generic_event_t &event);
     void handlePress(const xcb_key_press_event_t &press);
+    void rereadLater();
     void rereadMapping();
     void resume();
 
@@ -81,6 +85,7 @@ private:
     ChangingList<Handler> m_handlers;
     int m_suspensions = 0;
     bool m_willReread = false;
+    bool m_willGrabAgain = false;
     /// Key and time of the latest release. An automatic repeat is a press with the same key and
     /// time as a release that the user did not make.
     std::pair<xcb_keycode_t, xcb_timestamp_t> m_released{0, 0};

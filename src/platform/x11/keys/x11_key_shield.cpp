@@ -1,7 +1,5 @@
 #include "platform/x11/keys/x11_key_shield.h"
 
-#include "platform/x11/base/x11_reply.h"
-
 #include <xcb/xinput.h>
 
 #include <algorithm>
@@ -72,15 +70,15 @@ void X11KeyShield::listen(bool wanted)
 bool X11KeyShield::isDown(xcb_keycode_t key) const
 {
     constexpr int bitsPerByte = 8;
-    const X11Reply<xcb_query_keymap_reply_t> reply(
-        xcb_query_keymap_reply(m_connection.get(), xcb_query_keymap(m_connection.get()), nullptr));
+    const auto reply
+        = m_connection.reply<xcb_query_keymap_reply_t>(xcb_query_keymap(m_connection.get()));
     return reply && (reply->keys[key / bitsPerByte] >> (key % bitsPerByte) & 1) != 0;
 }
 
 bool X11KeyShield::isAnyDown() const
 {
-    const X11Reply<xcb_query_keymap_reply_t> reply(
-        xcb_query_keymap_reply(m_connection.get(), xcb_query_keymap(m_connection.get()), nullptr));
+    const auto reply
+        = m_connection.reply<xcb_query_keymap_reply_t>(xcb_query_keymap(m_connection.get()));
     return reply && std::ranges::any_of(reply->keys, [](std::uint8_t keys) { return keys != 0; });
 }
 

@@ -1,6 +1,6 @@
 #include "platform/x11/keys/x11_modifiers.h"
 
-#include "platform/x11/base/x11_reply.h"
+#include "platform/x11/base/x11_connection.h"
 
 #include <algorithm>
 #include <array>
@@ -30,16 +30,17 @@ constexpr std::uint32_t storedControl = 4096;
 /// The mapping's two tables: the keys of each modifier, and the symbols of each key.
 class Mapping {
 public:
-    explicit Mapping(xcb_connection_t *connection)
+    explicit Mapping(X11Connection &asked)
     {
+        xcb_connection_t *const connection = asked.get();
         const auto *setup = xcb_get_setup(connection);
         m_firstKey = setup->min_keycode;
         const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
         // Both requests are sent before the first answer is awaited.
         const auto modifiers = xcb_get_modifier_mapping(connection);
         const auto keyboard = xcb_get_keyboard_mapping(connection, m_firstKey, count);
-        m_modifiers.reset(xcb_get_modifier_mapping_reply(connection, modifiers, nullptr));
-        m_keyboard.reset(xcb_get_keyboard_mapping_reply(connection, keyboard, nullptr));
+        m_modifiers = asked.reply<xcb_get_modifier_mapping_reply_t>(modifiers);
+        m_keyboard = asked.reply<xcb_get_keyboard_mapping_reply_t>(keyboard);
     }
 
     bool isComplete() const { return m_modifiers && m_keyboard; }
@@ -95,16 +96,17 @@ private:
 
 } // namespace
 
-X11Modifiers X11Modifiers::read(xcb_connection_t *connection)
+std::optional<X11Modifiers> X11Modifiers::read(X11Connection &connection)
 {
-    if (xcb_connection_has_error(connection) != 0)
-        return {};
+    if (!connection.isConnected())
+        return std::nullopt;
     const Mapping mapping(connection);
     if (!mapping.isComplete())
-        return {};
-    return {mapping.bitOf({symbols::superLeft, symbols::superRight}),
-            mapping.bitOf({symbols::altLeft, symbols::altRight}), mapping.bitOf({symbols::numLock}),
-            mapping.bitOf({symbols::scrollLock}), mapping.keys()};
+        return std::nullopt;
+    return X11Modifiers{mapping.bitOf({symbols::superLeft, symbols::superRight}),
+                        mapping.bitOf({symbols::altLeft, symbols::altRight}),
+                        mapping.bitOf({symbols::numLock}), mapping.bitOf({symbols::scrollLock}),
+                        mapping.keys()};
 }
 
 bool X11Modifiers::areMoreThanTyping(std::uint32_t modifiers)

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <xcb/xcb.h>
-
 #include <bitset>
 #include <cstdint>
 #include <optional>
 #include <vector>
 
 namespace corvane {
+
+class X11Connection;
 
 /// Which modifier bit each modifier key sets in the user's keyboard mapping; 0 where no key does.
 struct X11Modifiers {
@@ -18,8 +18,8 @@ struct X11Modifiers {
     /// The keys that set a bit, by their key codes.
     std::bitset<256> keys = {};
 
-    /// Asks the server. All zero if it does not answer.
-    static X11Modifiers read(xcb_connection_t *connection);
+    /// Asks the server; none if it does not answer.
+    static std::optional<X11Modifiers> read(X11Connection &connection);
 
     /// Whether modifier bits as shortcuts store them contain Command, Option or Control: without
     /// them a key types a character.

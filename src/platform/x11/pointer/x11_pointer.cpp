@@ -1,7 +1,6 @@
 #include "platform/x11/pointer/x11_pointer.h"
 
 #include "platform/base/geometry.h"
-#include "platform/x11/base/x11_reply.h"
 
 #include <algorithm>
 
@@ -39,8 +38,8 @@ X11Pointer::X11Pointer(X11Connection &connection, const Screens &screens)
 
 std::optional<QPointF> X11Pointer::location() const
 {
-    const X11Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
-        m_connection.get(), xcb_query_pointer(m_connection.get(), m_connection.root()), nullptr));
+    const auto reply = m_connection.reply<xcb_query_pointer_reply_t>(
+        xcb_query_pointer(m_connection.get(), m_connection.root()));
     if (!reply)
         return std::nullopt;
     return locationOf({reply->root_x, reply->root_y}, m_screens.screens());

@@ -24,7 +24,7 @@ public:
     bool isOfType(std::int64_t device, const char *type);
 
 private:
-    void read();
+    bool read();
 
     X11Connection &m_connection;
     /// None for a device that the server does not know.

@@ -1,7 +1,6 @@
 #include "platform/x11/windows/x11_full_screen_windows.h"
 
 #include "platform/desktop/screens.h"
-#include "platform/x11/base/x11_reply.h"
 #include "platform/x11/windows/x11_window_manager.h"
 
 #include <algorithm>
@@ -40,9 +39,9 @@ bool X11FullScreenWindows::isFullScreen(xcb_window_t window) const
 
 bool X11FullScreenWindows::coversUnmanaged(xcb_window_t window, const QRect &screen) const
 {
-    const X11Reply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
-        m_connection.get(), xcb_get_window_attributes(m_connection.get(), window), nullptr));
-    // Window managers have empty (input-only) windows of their own below all others.
+    const auto attributes = m_connection.reply<xcb_get_window_attributes_reply_t>(
+        xcb_get_window_attributes(m_connection.get(), window));
+    // Window managers keep windows of their own, with nothing in them, below all others.
     if (!attributes || attributes->override_redirect == 0
         || attributes->_class == XCB_WINDOW_CLASS_INPUT_ONLY)
         return false;
@@ -57,11 +56,9 @@ bool X11FullScreenWindows::hasAtom(xcb_window_t window, const char *property,
 {
     // More than there are window states or types.
     constexpr std::uint32_t maximumCount = 64;
-    const X11Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(
-        m_connection.get(),
+    const auto reply = m_connection.reply<xcb_get_property_reply_t>(
         xcb_get_property(m_connection.get(), 0, window, m_connection.atom(property), XCB_ATOM_ATOM,
-                         0, maximumCount),
-        nullptr));
+                         0, maximumCount));
     if (!reply || reply->format != 32)
         return false;
     const auto *const atoms = static_cast<const xcb_atom_t *>(xcb_get_property_value(reply.get()));
@@ -72,22 +69,19 @@ bool X11FullScreenWindows::hasAtom(xcb_window_t window, const char *property,
 /// The visible child that takes clicks at a point of the root window.
 xcb_window_t X11FullScreenWindows::childAt(xcb_window_t window, QPoint point) const
 {
-    const X11Reply<xcb_translate_coordinates_reply_t> reply(xcb_translate_coordinates_reply(
-        m_connection.get(),
-        xcb_translate_coordinates(m_connection.get(), m_connection.root(), window,
-                                  static_cast<std::int16_t>(point.x()),
-                                  static_cast<std::int16_t>(point.y())),
-        nullptr));
+    const auto reply
+        = m_connection.reply<xcb_translate_coordinates_reply_t>(xcb_translate_coordinates(
+            m_connection.get(), m_connection.root(), window, static_cast<std::int16_t>(point.x()),
+            static_cast<std::int16_t>(point.y())));
     return reply ? reply->child : XCB_NONE;
 }
 
 std::optional<QRect> X11FullScreenWindows::frameOf(xcb_window_t window) const
 {
-    const X11Reply<xcb_get_geometry_reply_t> geometry(xcb_get_geometry_reply(
-        m_connection.get(), xcb_get_geometry(m_connection.get(), window), nullptr));
-    const X11Reply<xcb_translate_coordinates_reply_t> place(xcb_translate_coordinates_reply(
-        m_connection.get(),
-        xcb_translate_coordinates(m_connection.get(), window, m_connection.root(), 0, 0), nullptr));
+    const auto geometry = m_connection.reply<xcb_get_geometry_reply_t>(
+        xcb_get_geometry(m_connection.get(), window));
+    const auto place = m_connection.reply<xcb_translate_coordinates_reply_t>(
+        xcb_translate_coordinates(m_connection.get(), window, m_connection.root(), 0, 0));
     if (!geometry || !place)
         return std::nullopt;
     return QRect(place->dst_x, place->dst_y, geometry->width, geometry->height);

@@ -1,7 +1,6 @@
 #include "platform/x11/windows/x11_keyboard_focus.h"
 
 #include "platform/x11/base/x11_qt.h"
-#include "platform/x11/base/x11_reply.h"
 
 #include <utility>
 
@@ -30,10 +29,10 @@ X11KeyboardFocus::~X11KeyboardFocus()
 /// requests that were sent before.
 xcb_window_t X11KeyboardFocus::focus() const
 {
+    using Reply = xcb_get_input_focus_reply_t;
     auto *const qt = x11_qt::connection();
-    auto *const connection = qt ? qt : m_connection.get();
-    const X11Reply<xcb_get_input_focus_reply_t> reply(
-        xcb_get_input_focus_reply(connection, xcb_get_input_focus(connection), nullptr));
+    const auto reply = qt ? x11_qt::reply<Reply>(xcb_get_input_focus(qt))
+                          : m_connection.reply<Reply>(xcb_get_input_focus(m_connection.get()));
     return reply ? reply->focus : XCB_NONE;
 }
 
@@ -76,11 +75,9 @@ bool X11KeyboardFocus::giveBackTo(const Owner &owner)
 /// from the panel another way.
 bool X11KeyboardFocus::tryToFocus(xcb_window_t window, xcb_timestamp_t time)
 {
-    const X11Reply<xcb_generic_error_t> error(
-        xcb_request_check(m_connection.get(),
-                          xcb_set_input_focus_checked(m_connection.get(),
-                                                      XCB_INPUT_FOCUS_POINTER_ROOT, window, time)));
-    return !error;
+    const auto asked = xcb_set_input_focus_checked(m_connection.get(), XCB_INPUT_FOCUS_POINTER_ROOT,
+                                                   window, time);
+    return m_connection.outcomeOf({&asked, 1}) != X11Connection::Outcome::Refused;
 }
 
 bool X11KeyboardFocus::askForAnswer()
@@ -101,8 +98,8 @@ void X11KeyboardFocus::observeAnswers(std::function<void()> callback)
 
 bool X11KeyboardFocus::isLeftButtonDown() const
 {
-    const X11Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
-        m_connection.get(), xcb_query_pointer(m_connection.get(), m_connection.root()), nullptr));
+    const auto reply = m_connection.reply<xcb_query_pointer_reply_t>(
+        xcb_query_pointer(m_connection.get(), m_connection.root()));
     return reply && (reply->mask & XCB_BUTTON_MASK_1) != 0;
 }
 

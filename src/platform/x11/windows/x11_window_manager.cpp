@@ -1,7 +1,5 @@
 #include "platform/x11/windows/x11_window_manager.h"
 
-#include "platform/x11/base/x11_reply.h"
-
 namespace corvane {
 
 bool X11WindowManager::isRunning() const
@@ -68,11 +66,9 @@ void X11WindowManager::tellTime(xcb_connection_t *on) const
 
 xcb_window_t X11WindowManager::rootProperty(const char *name) const
 {
-    const X11Reply<xcb_get_property_reply_t> reply(
-        xcb_get_property_reply(m_connection.get(),
-                               xcb_get_property(m_connection.get(), 0, m_connection.root(),
-                                                m_connection.atom(name), XCB_ATOM_WINDOW, 0, 1),
-                               nullptr));
+    const auto reply = m_connection.reply<xcb_get_property_reply_t>(
+        xcb_get_property(m_connection.get(), 0, m_connection.root(), m_connection.atom(name),
+                         XCB_ATOM_WINDOW, 0, 1));
     if (!reply || xcb_get_property_value_length(reply.get()) < int{sizeof(xcb_window_t)})
         return XCB_NONE;
     return *static_cast<const xcb_window_t *>(xcb_get_property_value(reply.get()));

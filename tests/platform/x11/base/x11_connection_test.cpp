@@ -1,16 +1,16 @@
 // The connection beside Qt's own.
 
 #include "platform/display.h"
+#include "platform/silent_server.h"
 #include "platform/x11/base/x11_connection.h"
+#include "platform/x11/base/x11_qt.h"
 
 #include <QStringList>
 
 #include <gtest/gtest.h>
-#include <sys/socket.h>
 
-#include <csignal>
-#include <future>
-#include <thread>
+#include <functional>
+#include <initializer_list>
 
 namespace corvane::test {
 
@@ -37,6 +37,16 @@ protected:
                             XCB_ATOM_CARDINAL, 32, 0, nullptr);
     }
 
+    bool hasAnswer()
+    {
+        return connection.reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus(connection.get()))
+            != nullptr;
+    }
+    bool endsWhileTheServerStandsStill(const std::function<void()> &work)
+    {
+        return test::endsWhileTheServerStandsStill(connection.get(), work);
+    }
+
     X11Connection connection;
     xcb_window_t window;
     std::vector<xcb_atom_t> heard;
@@ -55,27 +65,71 @@ TEST_F(X11ConnectionTest, theServersTimeNeverRunsBackwards)
 TEST_F(X11ConnectionTest, aServerThatStandsStillIsNotWaitedForAndItsLateAnswerIsNoLaterTime)
 {
     connection.serverTime();
-    ucred server = {};
-    socklen_t size = sizeof server;
-    ASSERT_EQ(::getsockopt(xcb_get_file_descriptor(connection.get()), SOL_SOCKET, SO_PEERCRED,
-                           &server, &size),
-              0);
-    ASSERT_EQ(::kill(server.pid, SIGSTOP), 0);
-    std::promise<void> answered;
-    bool isAnsweredInTime = false;
-    // Whatever happens the server goes on, or this test would never end.
-    std::thread rescue([&, answer = answered.get_future()] {
-        isAnsweredInTime = answer.wait_for(std::chrono::seconds{20}) == std::future_status::ready;
-        ::kill(server.pid, SIGCONT);
-    });
-    const xcb_timestamp_t late = connection.serverTime();
-    answered.set_value();
-    rescue.join();
-    EXPECT_TRUE(isAnsweredInTime);
+    auto late = xcb_timestamp_t{0} - 1;
+    EXPECT_TRUE(endsWhileTheServerStandsStill([&] { late = connection.serverTime(); }));
     EXPECT_EQ(late, xcb_timestamp_t{XCB_CURRENT_TIME});
     const xcb_timestamp_t after = connection.serverTime();
     EXPECT_NE(after, xcb_timestamp_t{XCB_CURRENT_TIME});
     EXPECT_GE(connection.serverTime(), after);
+}
+
+TEST_F(X11ConnectionTest, anAnswerThatDoesNotComeIsNotWaitedForForEver)
+{
+    EXPECT_TRUE(hasAnswer());
+    EXPECT_TRUE(endsWhileTheServerStandsStill([&] {
+        EXPECT_FALSE(hasAnswer());
+        EXPECT_FALSE(hasAnswer());
+        EXPECT_EQ(connection.atom("CORVANE_UNHEARD_OF"), xcb_atom_t{XCB_NONE});
+    }));
+    EXPECT_TRUE(eventually([this] { return hasAnswer(); }));
+    EXPECT_NE(connection.atom("CORVANE_UNHEARD_OF"), xcb_atom_t{XCB_NONE});
+    EXPECT_NE(connection.serverTime(), xcb_timestamp_t{XCB_CURRENT_TIME});
+}
+
+TEST_F(X11ConnectionTest, anAnswerOnTheToolkitsConnectionIsNotWaitedForForEver)
+{
+    const auto hasAnswerThere = [] {
+        return x11_qt::reply<xcb_get_input_focus_reply_t>(xcb_get_input_focus(x11_qt::connection()))
+            != nullptr;
+    };
+    EXPECT_TRUE(hasAnswerThere());
+    EXPECT_TRUE(endsWhileTheServerStandsStill([&] { EXPECT_FALSE(hasAnswerThere()); }));
+    EXPECT_TRUE(eventually(hasAnswerThere));
+}
+
+TEST_F(X11ConnectionTest, tellsWhatBecameOfRequests)
+{
+    using Outcome = X11Connection::Outcome;
+    const auto outcomeOf = [this](std::initializer_list<xcb_window_t> windows) {
+        std::vector<xcb_void_cookie_t> requests;
+        for (const xcb_window_t asked : windows)
+            requests.push_back(
+                xcb_change_window_attributes_checked(connection.get(), asked, 0, nullptr));
+        return connection.outcomeOf(requests);
+    };
+    const xcb_window_t nothing = xcb_generate_id(connection.get());
+    EXPECT_EQ(outcomeOf({window, window}), Outcome::Done);
+    EXPECT_EQ(outcomeOf({window, nothing}), Outcome::Refused);
+    EXPECT_EQ(outcomeOf({nothing, window}), Outcome::Refused);
+    EXPECT_EQ(outcomeOf({window}), Outcome::Done);
+    EXPECT_TRUE(endsWhileTheServerStandsStill([&] {
+        EXPECT_EQ(outcomeOf({nothing, window}), Outcome::Unknown);
+    }));
+    EXPECT_TRUE(eventually([&] { return outcomeOf({window}) == Outcome::Done; }));
+}
+
+TEST_F(X11ConnectionTest, eventsThatComeBeforeAnAnswerAreHandledAfterwardsInTheirOrder)
+{
+    touch(XCB_ATOM_WM_NAME);
+    EXPECT_TRUE(hasAnswer());
+    touch(XCB_ATOM_WM_CLASS);
+    EXPECT_TRUE(hasAnswer());
+    EXPECT_TRUE(heard.empty()) << "nobody is told in the middle of something else";
+    touch(XCB_ATOM_WM_HINTS);
+    connection.flush();
+    ASSERT_TRUE(eventually([this] { return heard.size() == 3; }));
+    EXPECT_EQ(heard,
+              (std::vector<xcb_atom_t>{XCB_ATOM_WM_NAME, XCB_ATOM_WM_CLASS, XCB_ATOM_WM_HINTS}));
 }
 
 TEST_F(X11ConnectionTest, eventsThatComeWhileTheTimeIsAskedForAreHandledAfterwardsInTheirOrder)
