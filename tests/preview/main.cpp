@@ -20,7 +20,8 @@ int main(int argc, char **argv)
         {"name": "left", "x": 0, "y": 0, "width": 800, "height": 800},
         {"name": "right", "x": 800, "y": 0, "width": 1200, "height": 700}]})");
     screens.close();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + QFile::encodeName(screens.fileName()));
+    const QByteArray platform = "offscreen:configfile=" + QFile::encodeName(screens.fileName());
+    qputenv("QT_QPA_PLATFORM", platform);
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
 
     const QApplication application(argc, argv);
