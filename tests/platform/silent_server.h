@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QCoreApplication>
+
 #include <sys/socket.h>
 #include <xcb/xcb.h>
 
@@ -16,6 +18,8 @@ namespace corvane::test {
 inline bool endsWhileTheServerStandsStill(xcb_connection_t *connection,
                                           const std::function<void()> &work)
 {
+    // Before the first turn of the event loop connections wait without a bound.
+    QCoreApplication::processEvents();
     ucred server = {};
     socklen_t size = sizeof server;
     if (::getsockopt(xcb_get_file_descriptor(connection), SOL_SOCKET, SO_PEERCRED, &server, &size)

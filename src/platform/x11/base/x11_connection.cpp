@@ -11,7 +11,6 @@
 #include <xcb/xfixes.h>
 #include <xcb/xinput.h>
 
-#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
@@ -29,6 +28,20 @@ std::vector<X11Connection *> &liveConnections()
     return connections;
 }
 
+/// The names of which the server is asked at the start, all at once.
+constexpr auto commonAtoms = {"CORVANE_SELECTION",  "INCR",
+                              "MULTIPLE",           "TARGETS",
+                              "TIMESTAMP",          "UTF8_STRING",
+                              "WM_PROTOCOLS",       "XdndActionCopy",
+                              "XdndActionLink",     "XdndDrop",
+                              "XdndEnter",          "XdndFinished",
+                              "XdndLeave",          "XdndPosition",
+                              "XdndProxy",          "XdndSelection",
+                              "XdndStatus",         "XdndTypeList",
+                              "_CORVANE_TIME",      "_NET_ACTIVE_WINDOW",
+                              "_NET_FRAME_EXTENTS", "_NET_REQUEST_FRAME_EXTENTS",
+                              "_NET_WM_PING",       "_NET_WM_USER_TIME"};
+
 } // namespace
 
 X11Connection::X11Connection(std::function<void()> onLost)
@@ -42,6 +55,7 @@ X11Connection::X11Connection(std::function<void()> onLost)
         xcb_screen_next(&screens);
     m_root = screens.data->root;
     setUpExtensions();
+    internAtoms();
 
     m_notifier
         = new QSocketNotifier(xcb_get_file_descriptor(m_connection), QSocketNotifier::Read, this);
@@ -103,6 +117,19 @@ void X11Connection::setUpExtensions()
     }
 }
 
+void X11Connection::internAtoms()
+{
+    std::vector<xcb_intern_atom_cookie_t> asked;
+    for (const char *const name : commonAtoms)
+        asked.push_back(
+            xcb_intern_atom(m_connection, 0, static_cast<std::uint16_t>(std::strlen(name)), name));
+    auto next = asked.begin();
+    for (const char *const name : commonAtoms) {
+        if (const auto answer = reply<xcb_intern_atom_reply_t>(*next++))
+            m_atoms.emplace(name, answer->atom);
+    }
+}
+
 xcb_atom_t X11Connection::atom(const char *name)
 {
     const auto known = m_atoms.find(name);
@@ -124,46 +151,55 @@ bool X11Connection::isSelectionNotify(const xcb_generic_event_t &event) const
 
 void *X11Connection::answerTo(unsigned int sequence)
 {
-    flush();
-    const QDeadlineTimer deadline(isSilent() ? 0 : answerPatience);
+    if (!isAnswering()) {
+        xcb_discard_reply(m_connection, sequence);
+        return nullptr;
+    }
+    xcb_flush(m_connection);
+    const QDeadlineTimer deadline
+        = m_isInUse ? QDeadlineTimer(answerPatience) : QDeadlineTimer(QDeadlineTimer::Forever);
     void *answer = nullptr;
     xcb_generic_error_t *error = nullptr;
     while (xcb_poll_for_reply(m_connection, sequence, &answer, &error) == 0) {
         if (waitForNews(static_cast<int>(deadline.remainingTime())))
             continue;
-        if (m_overdue)
-            xcb_discard_reply(m_connection, sequence);
-        else
-            m_overdue = sequence;
+        m_overdue = sequence;
         return nullptr;
     }
     const X11Reply<xcb_generic_error_t> ignored(error);
     return answer;
 }
 
-bool X11Connection::isSilent()
+bool X11Connection::isAnswering()
 {
     if (!m_overdue)
-        return false;
+        return true;
     while (waitForNews(0))
         continue;
     void *answer = nullptr;
     xcb_generic_error_t *error = nullptr;
     if (xcb_poll_for_reply(m_connection, *m_overdue, &answer, &error) == 0)
-        return true;
+        return false;
     const X11Reply<void> ignored(answer);
     const X11Reply<xcb_generic_error_t> ignoredToo(error);
     m_overdue.reset();
-    return false;
+    return true;
 }
 
-/// False when nothing came within so many milliseconds; events are kept for later.
+void X11Connection::flush()
+{
+    if (isAnswering())
+        xcb_flush(m_connection);
+}
+
+/// False when nothing came within so many milliseconds, which -1 does not bound; events are kept
+/// for later.
 bool X11Connection::waitForNews(int patience)
 {
     pollfd waiting = {xcb_get_file_descriptor(m_connection), POLLIN, 0};
     if (!isConnected())
         return false;
-    const int found = ::poll(&waiting, 1, std::max(patience, 0));
+    const int found = ::poll(&waiting, 1, patience);
     if (found <= 0)
         return found < 0 && errno == EINTR;
     while (auto *const event = xcb_poll_for_event(m_connection))
@@ -192,12 +228,14 @@ X11Connection::Outcome X11Connection::outcomeOf(std::span<const xcb_void_cookie_
 
 xcb_timestamp_t X11Connection::serverTime()
 {
+    // Before the request: asking sets events aside, which may already include its answer.
+    const bool isWorthWaiting = isAnswering();
     makeClock();
     // Appends nothing to the property; the server reports the change with its time.
     const auto asked = xcb_change_property(m_connection, XCB_PROP_MODE_APPEND, m_clock,
                                            XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8, 0, nullptr);
     flush();
-    const QDeadlineTimer deadline(isSilent() ? 0 : timePatience);
+    const QDeadlineTimer deadline(isWorthWaiting ? timePatience : 0);
     while (isConnected()) {
         X11Reply<xcb_generic_event_t> event(xcb_poll_for_event(m_connection));
         if (!event) {
@@ -237,17 +275,25 @@ Subscription X11Connection::addListener(Listener listener)
 
 void X11Connection::readEvents()
 {
-    handleEvents(&xcb_poll_for_event);
-    // Listeners may have queued requests; nothing else would send them before the next event.
-    flush();
+    handleEventsAndFlush(&xcb_poll_for_event);
     if (!isConnected())
         noticeLoss();
 }
 
 void X11Connection::handleQueuedEvents()
 {
-    handleEvents(&xcb_poll_for_queued_event);
-    flush();
+    handleEventsAndFlush(&xcb_poll_for_queued_event);
+}
+
+void X11Connection::handleEventsAndFlush(Poll poll)
+{
+    m_isInUse = true;
+    do {
+        handleEvents(poll);
+        // Listeners may have queued requests; nothing else would send them before the next event.
+        flush();
+        // Finding out whether the server is silent may have read further events.
+    } while (!m_setAside.empty());
 }
 
 void X11Connection::handleEvents(Poll poll)

@@ -53,9 +53,15 @@ public:
     /// less.
     static constexpr int answerPatience = 1'000;
 
-    /// The answer to a request that was made on this connection: null for an error, and where none
-    /// comes. A silent server is not waited for again before it has answered. Events that come
-    /// before the answer are handled afterwards, in their order.
+    /// False while the server is silent. Nothing is sent then, because the socket would take only
+    /// a few hundred requests before sending blocks; so what repeats itself should ask this first.
+    bool isAnswering();
+    /// The answer to a request that was made on this connection: null for an error, and from a
+    /// server that is silent, which is not waited for again before it has answered. Events that
+    /// come before the answer are handled afterwards, in their order.
+    ///
+    /// Before the first turn of the event loop there is no bound: what is asked then is needed as
+    /// long as the program runs.
     template<typename Reply, typename Cookie>
     X11Reply<Reply> reply(Cookie cookie)
     {
@@ -83,18 +89,20 @@ public:
     /// added, until the subscription ends. A listener may add and remove listeners.
     Subscription addListener(Listener listener);
 
-    void flush() { xcb_flush(m_connection); }
+    /// Sends what was asked for, unless the server is silent: then it is sent when it has answered.
+    void flush();
 
 private:
     void setUpExtensions();
+    void internAtoms();
     void *answerTo(unsigned int sequence);
-    bool isSilent();
     bool waitForNews(int patience);
     void makeClock();
     void readEvents();
     void handleQueuedEvents();
     using Poll = xcb_generic_event_t *(*)(xcb_connection_t *);
     void handleEvents(Poll poll);
+    void handleEventsAndFlush(Poll poll);
     void noticeLoss();
     void noticeLossAtExit();
 
@@ -106,10 +114,12 @@ private:
     std::uint8_t m_xinputOpcode = 0;
     bool m_hasPointerBarriers = false;
     QSocketNotifier *m_notifier = nullptr;
-    /// Events that came while `serverTime` waited for its answer.
+    /// Events that came while an answer was awaited.
     std::deque<X11Reply<xcb_generic_event_t>> m_setAside;
     /// The request that the server has left unanswered.
     std::optional<unsigned int> m_overdue;
+    /// Whether the event loop has had its first turn.
+    bool m_isInUse = false;
     /// A window that is never shown; `serverTime` changes a property of it. Made at the first use.
     xcb_window_t m_clock = XCB_NONE;
     CallbackList<const xcb_generic_event_t &> m_listeners;

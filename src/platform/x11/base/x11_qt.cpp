@@ -9,6 +9,8 @@
 #include <poll.h>
 #include <xcb/xcbext.h>
 
+#include <optional>
+
 namespace corvane::x11_qt {
 
 namespace {
@@ -17,6 +19,13 @@ QNativeInterface::QX11Application *application()
 {
     return qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
 }
+
+/// A request that the server has left unanswered.
+struct Overdue {
+    xcb_connection_t *connection = nullptr;
+    unsigned int sequence = 0;
+};
+std::optional<Overdue> overdue;
 
 } // namespace
 
@@ -52,16 +61,35 @@ void giveKeyboard(xcb_window_t window, xcb_timestamp_t time)
     xcb_flush(qt);
 }
 
+bool isAnswering()
+{
+    if (!overdue || overdue->connection != connection())
+        return true;
+    void *answer = nullptr;
+    xcb_generic_error_t *error = nullptr;
+    // A thread of Qt's reads what comes.
+    if (xcb_poll_for_reply(overdue->connection, overdue->sequence, &answer, &error) == 0)
+        return false;
+    const X11Reply<void> ignored(answer);
+    const X11Reply<xcb_generic_error_t> ignoredToo(error);
+    overdue.reset();
+    return true;
+}
+
 void *answerTo(unsigned int sequence)
 {
     auto *const qt = connection();
+    if (!isAnswering()) {
+        xcb_discard_reply(qt, sequence);
+        return nullptr;
+    }
     xcb_flush(qt);
     const QDeadlineTimer deadline(X11Connection::answerPatience);
     void *answer = nullptr;
     xcb_generic_error_t *error = nullptr;
     while (xcb_poll_for_reply(qt, sequence, &answer, &error) == 0) {
         if (deadline.hasExpired()) {
-            xcb_discard_reply(qt, sequence);
+            overdue = {qt, sequence};
             return nullptr;
         }
         // A thread of Qt's reads what comes, so that there may be no more to be seen of it here.

@@ -22,9 +22,11 @@ xcb_window_t nativeWindow(const QWindow &window);
 /// Gives the keyboard to a window of Qt's that the window manager does not manage. `time` is a time
 /// of the server. Uses Qt's connection, so that Qt's earlier requests for the window come first.
 void giveKeyboard(xcb_window_t window, xcb_timestamp_t time);
-/// What `reply` below waits for.
+/// False while the server leaves a request of `reply` unanswered.
+bool isAnswering();
+/// Waits for an answer as `reply` does; the caller frees it.
 void *answerTo(unsigned int sequence);
-/// The answer to a request on Qt's connection, as `X11Connection::reply` gives it.
+/// The answer to a request on Qt's connection, as `X11Connection::reply` gives it. Always bounded.
 template<typename Reply, typename Cookie>
 X11Reply<Reply> reply(Cookie cookie)
 {

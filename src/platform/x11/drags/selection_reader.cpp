@@ -20,9 +20,10 @@ xcb_window_t makeWindow(const X11Connection &connection, std::uint32_t events)
 
 bool exists(X11Connection &connection, xcb_window_t window)
 {
-    return connection.reply<xcb_get_window_attributes_reply_t>(
-               xcb_get_window_attributes(connection.get(), window))
-        != nullptr;
+    const auto reply = connection.reply<xcb_get_window_attributes_reply_t>(
+        xcb_get_window_attributes(connection.get(), window));
+    // A silent server has not said that it is gone.
+    return reply || !connection.isAnswering();
 }
 
 } // namespace
@@ -148,7 +149,7 @@ void SelectionReader::takeSlice(Id id)
     const auto read = find(id);
     if (read == m_reads.end())
         return;
-    // Removed with its last byte, which tells the owner to go on.
+    // The property is deleted with its last byte, which tells the owner to send the next piece.
     const auto reply = m_connection.reply<xcb_get_property_reply_t>(
         xcb_get_property(m_connection.get(), 1, read->window, m_property, XCB_GET_PROPERTY_TYPE_ANY,
                          read->sliceOffset / 4, sliceBytes / 4));

@@ -39,7 +39,8 @@ WindowEndWatch::WindowEndWatch(xcb_window_t window)
         return;
     const auto attributes
         = x11_qt::reply<xcb_get_window_attributes_reply_t>(xcb_get_window_attributes(qt, window));
-    m_exists = attributes != nullptr;
+    m_exists = attributes || !x11_qt::isAnswering();
+    m_isWatching = attributes != nullptr;
     if (!attributes)
         return;
     auto &[previousMask, watches] = watched()[window];
@@ -52,7 +53,7 @@ WindowEndWatch::WindowEndWatch(xcb_window_t window)
 WindowEndWatch::~WindowEndWatch()
 {
     const auto found = watched().find(m_window);
-    if (!m_exists || found == watched().end() || --found->second.watches > 0)
+    if (!m_isWatching || found == watched().end() || --found->second.watches > 0)
         return;
     if (x11_qt::connection())
         listen(m_window, found->second.previousMask);

@@ -14,12 +14,14 @@ public:
     WindowEndWatch &operator=(const WindowEndWatch &) = delete;
 
     xcb_window_t window() const { return m_window; }
-    /// False for a window that was already gone when this was made.
+    /// False for a window that was already gone when this was made. A server that is silent then
+    /// does not report its end either.
     bool exists() const { return m_exists; }
 
 private:
     xcb_window_t m_window;
     bool m_exists = false;
+    bool m_isWatching = false;
 };
 
 } // namespace corvane

@@ -74,7 +74,7 @@ Subscription X11DragDesktop::add(What what, Handler handler)
 {
     if (!canListen())
         return {};
-    // The first one may come in mid-drag.
+    // Listening may begin in the middle of a drag.
     if (m_listening == Listening::Nothing)
         m_isLeftDown = (pressedMouseButtons() & left) != 0;
     const auto monitor = m_monitors.add({what, std::move(handler)});
@@ -90,12 +90,14 @@ void X11DragDesktop::remove(ChangingList<Monitor>::Id monitor)
 
 unsigned X11DragDesktop::pressedMouseButtons() const
 {
+    // A silent server ends no drag.
+    if (!m_connection.isAnswering())
+        return m_lastPressed;
     const auto reply = m_connection.reply<xcb_query_pointer_reply_t>(
         xcb_query_pointer(m_connection.get(), m_connection.root()));
-    // A silent server ends no drag.
     if (!reply)
         return m_connection.isConnected() ? m_lastPressed : 0;
-    // X11 counts left, middle, right; here it is left, right, other.
+    // X11 counts left, middle, right; the result has left, right, middle.
     const auto isDown = [&](unsigned mask) { return (reply->mask & mask) != 0 ? 1U : 0U; };
     m_lastPressed = isDown(XCB_BUTTON_MASK_1) * left | isDown(XCB_BUTTON_MASK_3) << 1
         | isDown(XCB_BUTTON_MASK_2) << 2;

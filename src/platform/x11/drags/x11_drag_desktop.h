@@ -26,7 +26,7 @@ public:
 
     qint64 changeCount() const override { return m_changeCount; }
     Subscription addGlobalMonitor(Handler onLeftMouseDragged) override;
-    /// None: the global monitor hears this program too.
+    /// Always none: the global monitor gets this program's events, too.
     Subscription addLocalMonitor(Handler onLeftMouseDragged) override;
     Subscription addLeftMouseDownMonitor(Handler onLeftMouseDown) override;
     Subscription addGlobalMouseDownMonitor(Handler onMouseDown) override;
@@ -75,7 +75,7 @@ private:
     bool m_isLeftDown = false;
     /// What the server told last.
     mutable unsigned m_lastPressed = 0;
-    /// The physical button that is down as the left one; 0 where that is not known.
+    /// The physical button that went down as the left one; 0 if that is not known.
     std::uint32_t m_leftButton = 0;
     ChangingList<Monitor> m_monitors;
     Lifetime m_lifetime;

@@ -37,10 +37,8 @@ X11HotKeys::X11HotKeys(X11Connection &connection, MainQueue &queue)
     , m_queue(queue)
     , m_listener(
           connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
-    , m_mapping(X11Modifiers::read(connection).value_or(X11Modifiers()))
 {
-    if (m_mapping == X11Modifiers() && connection.isConnected())
-        rereadLater();
+    rereadMapping();
 }
 
 X11HotKeys::~X11HotKeys()
@@ -121,8 +119,8 @@ bool X11HotKeys::isHeldByOurselves(const Combination &combination) const
 
 ShortcutOutcome X11HotKeys::take(HotKey &hotKey)
 {
-    // The server has not told yet which modifiers there are. `rereadMapping` comes back to this.
-    if (m_mapping == X11Modifiers() && m_connection.isConnected())
+    // `rereadMapping` comes back to this.
+    if (!m_isMappingKnown && m_connection.isConnected())
         return ShortcutOutcome::pending();
     const auto combination = combinationFor(hotKey.keyCode, hotKey.modifiers);
     if (!combination)
@@ -180,8 +178,9 @@ void X11HotKeys::grabAll()
         changed.push_back(handle);
     }
     if (isNews)
-        qWarning("[Corvane] A shortcut cannot be taken again: another program has it now, or the "
-                 "keyboard lacks one of its keys.");
+        qWarning(
+            "[Corvane] A shortcut cannot be taken: another program has it now, or the keyboard "
+            "lacks one of its keys.");
     tellOutcomes(changed);
 }
 
@@ -206,7 +205,9 @@ void X11HotKeys::grabAgainLater()
         return;
     m_queue.asyncAfter(silentDelay, m_lifetime.guard([this] {
         m_willGrabAgain = false;
-        if (m_suspensions == 0)
+        if (!m_connection.isAnswering())
+            grabAgainLater();
+        else if (m_suspensions == 0)
             grabAll();
     }));
 }
@@ -262,10 +263,11 @@ void X11HotKeys::rereadLater()
 void X11HotKeys::rereadMapping()
 {
     m_willReread = false;
-    const auto mapping = X11Modifiers::read(m_connection);
+    const auto mapping
+        = m_connection.isAnswering() ? X11Modifiers::read(m_connection) : std::nullopt;
     if (!mapping && m_connection.isConnected())
         rereadLater();
-    if (!mapping || *mapping == m_mapping)
+    if (!mapping || (std::exchange(m_isMappingKnown, true) && *mapping == m_mapping))
         return;
     // With the modifiers' old bits, by which the keys were grabbed.
     ungrabAll();

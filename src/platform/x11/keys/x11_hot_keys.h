@@ -18,11 +18,11 @@ class MainQueue;
 /// Hot keys as passive grabs on the root window, which work whichever program has the keyboard and
 /// also while one drags with the pointer grabbed.
 ///
-/// A grab names a key by its position and modifiers by their bits, so a change of the layout costs
-/// nothing; one of the modifiers takes all grabs anew. One that cannot be had again then, or after
-/// a suspension, is logged and told, and tried for again at the next such occasion. The outcome is
-/// known at once unless the server is silent; then it is pending, and asked for again each second.
-/// The connection and the queue must outlive it.
+/// A grab names a key by its position and modifiers by their bits. So it stays when the layout
+/// changes; when the modifiers' bits change all keys are grabbed anew. If a grab is refused then,
+/// or after a suspension, that is logged and told to its observer, and tried again at the next such
+/// occasion. The outcome is known at once unless the server is silent; then it is pending, and
+/// asked for again each second. The connection and the queue must outlive it.
 class X11HotKeys : public HotKeyService {
 public:
     X11HotKeys(X11Connection &connection, MainQueue &queue);
@@ -39,7 +39,7 @@ public:
 private:
     using Handle = int;
 
-    /// What the server is asked for.
+    /// A key and modifiers as the server names them.
     struct Combination {
         xcb_keycode_t key = 0;
         std::uint16_t modifiers = 0;
@@ -51,7 +51,7 @@ private:
         std::uint32_t modifiers = 0;
         HotKeyIdentifier identifier;
         OutcomeObserver onOutcome;
-        /// None while it could not be had.
+        /// None while it is not grabbed.
         std::optional<Combination> grabbed;
         /// What has become of it, as its observer knows.
         ShortcutOutcome told;
@@ -80,6 +80,8 @@ private:
     MainQueue &m_queue;
     Subscription m_listener;
     X11Modifiers m_mapping;
+    /// False until the server has told its modifiers.
+    bool m_isMappingKnown = false;
     std::map<Handle, HotKey> m_hotKeys;
     Handle m_nextHandle = 1;
     ChangingList<Handler> m_handlers;

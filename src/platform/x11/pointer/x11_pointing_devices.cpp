@@ -7,7 +7,8 @@ namespace corvane {
 bool X11PointingDevices::isOfType(std::int64_t device, const char *type)
 {
     if (!m_types.contains(device)) {
-        // What the server does not know it is not asked for at every turn of a wheel.
+        // Remembered also for a device that the server does not know, so that it is not asked for
+        // every turn of a wheel.
         if (!read())
             return false;
         m_types.try_emplace(device, XCB_NONE);

@@ -1,7 +1,5 @@
 #include "platform/x11/windows/x11_compositing.h"
 
-#include "platform/x11/base/x11_reply.h"
-
 #include <QByteArray>
 
 #include <xcb/xfixes.h>
@@ -23,8 +21,8 @@ X11Compositing::X11Compositing(X11Connection &connection)
             XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER
                 | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY
                 | XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
-    const X11Reply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
-        m_connection.get(), xcb_get_selection_owner(m_connection.get(), m_selection), nullptr));
+    const auto owner = m_connection.reply<xcb_get_selection_owner_reply_t>(
+        xcb_get_selection_owner(m_connection.get(), m_selection));
     m_isComposited = owner && owner->owner != XCB_NONE;
 }
 

@@ -41,7 +41,7 @@ bool X11FullScreenWindows::coversUnmanaged(xcb_window_t window, const QRect &scr
 {
     const auto attributes = m_connection.reply<xcb_get_window_attributes_reply_t>(
         xcb_get_window_attributes(m_connection.get(), window));
-    // Window managers keep windows of their own, with nothing in them, below all others.
+    // Window managers have empty (input-only) windows of their own below all others.
     if (!attributes || attributes->override_redirect == 0
         || attributes->_class == XCB_WINDOW_CLASS_INPUT_ONLY)
         return false;

@@ -26,14 +26,16 @@ X11KeyboardFocus::~X11KeyboardFocus()
 }
 
 /// Asked on Qt's connection, because panels are given the keyboard there: the answer then includes
-/// requests that were sent before.
+/// requests that were sent before. While the server is silent the last answer stands.
 xcb_window_t X11KeyboardFocus::focus() const
 {
     using Reply = xcb_get_input_focus_reply_t;
     auto *const qt = x11_qt::connection();
     const auto reply = qt ? x11_qt::reply<Reply>(xcb_get_input_focus(qt))
                           : m_connection.reply<Reply>(xcb_get_input_focus(m_connection.get()));
-    return reply ? reply->focus : XCB_NONE;
+    if (reply)
+        m_lastFocus = reply->focus;
+    return m_lastFocus;
 }
 
 WindowNumber X11KeyboardFocus::focusedWindow() const
@@ -51,7 +53,8 @@ KeyboardFocus::Owner X11KeyboardFocus::owner() const
 
 void X11KeyboardFocus::giveTo(WindowNumber panel)
 {
-    x11_qt::giveKeyboard(static_cast<xcb_window_t>(panel), m_connection.serverTime());
+    m_lastFocus = static_cast<xcb_window_t>(panel);
+    x11_qt::giveKeyboard(m_lastFocus, m_connection.serverTime());
 }
 
 bool X11KeyboardFocus::giveBackTo(const Owner &owner)
@@ -75,6 +78,7 @@ bool X11KeyboardFocus::giveBackTo(const Owner &owner)
 /// from the panel another way.
 bool X11KeyboardFocus::tryToFocus(xcb_window_t window, xcb_timestamp_t time)
 {
+    m_lastFocus = window;
     const auto asked = xcb_set_input_focus_checked(m_connection.get(), XCB_INPUT_FOCUS_POINTER_ROOT,
                                                    window, time);
     return m_connection.outcomeOf({&asked, 1}) != X11Connection::Outcome::Refused;

@@ -40,6 +40,8 @@ private:
 
     X11Connection &m_connection;
     X11WindowManager m_windowManager;
+    /// What the server said last, or was told last.
+    mutable xcb_window_t m_lastFocus = XCB_NONE;
     X11KeyShield m_keyShield;
     Subscription m_listener;
     /// A window that is never shown; the window manager answers `askForSign` on it.

@@ -1,7 +1,5 @@
 #include "platform/x11/windows/x11_tray_watch.h"
 
-#include "platform/x11/base/x11_reply.h"
-
 #include <xcb/xfixes.h>
 
 #include <utility>
@@ -28,9 +26,9 @@ void X11TrayWatch::start(std::function<void()> onTray)
     const std::string name = "_NET_SYSTEM_TRAY_S" + std::to_string(m_connection.screenNumber());
     m_selection = m_connection.atom(name.c_str());
     select(XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER);
-    const X11Reply<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
-        m_connection.get(), xcb_get_selection_owner(m_connection.get(), m_selection), nullptr));
-    if (reply && reply->owner != XCB_NONE)
+    const auto owner = m_connection.reply<xcb_get_selection_owner_reply_t>(
+        xcb_get_selection_owner(m_connection.get(), m_selection));
+    if (owner && owner->owner != XCB_NONE)
         m_onTray();
 }
 
