@@ -38,7 +38,7 @@ HUDController::HUDController(const Context &context)
     , m_store(context.store)
     , m_follower(context.store, context.view.queue, [this] { render(); })
 {
-    m_panel.setFrame(initialFrame);
+    m_panel.place({nullptr, 0, initialSize});
     m_panel.setContent(&m_shelf);
     m_panel.setIgnoresMouseEvents(true);
     m_context.feedback.handler
@@ -168,13 +168,13 @@ void HUDController::render()
     const ScreenPointer screen = m_context.screenLocator.activeScreen();
     const ShelfSnapshot snapshot = makeSnapshot(screen);
     const QSizeF size = m_shelf.preferredSize(snapshot);
-    QRectF frame;
+    QRectF pillFrame;
     if (snapshot.state != ShelfState::Idle && screen) {
         m_pendingHide.restart();
-        frame = {midX(screen->frame) - 0.5 * size.width(), maxY(screen->frame) - size.height(),
-                 size.width(), size.height()};
+        const PanelPlacement atTop{screen, 0, size};
+        pillFrame = frameOf(atTop);
         m_shelf.setRefreshRate(screen->refreshRate);
-        resizeWindow(frame, screen);
+        resizeWindow(atTop);
         // During a drag the shelf must take the pointer at once.
         if (m_store.isDragInFlight())
             m_letsClicksThrough = false;
@@ -184,51 +184,51 @@ void HUDController::render()
     m_shelf.apply(snapshot);
     const bool isShown = snapshot.state != ShelfState::Idle;
     if (m_context.viewAll)
-        m_context.viewAll->render(frame, isShown ? screen : nullptr);
+        m_context.viewAll->render(pillFrame, isShown ? screen : nullptr);
     if (!isShown)
         scheduleHide();
 }
 
-void HUDController::resizeWindow(const QRectF &target, const ScreenPointer &active)
+void HUDController::resizeWindow(const PanelPlacement &target)
 {
     m_pendingShrink.restart();
-    const bool isSameScreen = m_lastScreen.lock() == active;
-    m_lastScreen = active;
-    const QSizeF before = std::exchange(m_target, target.size());
+    const bool isSameScreen = m_lastScreen.lock() == target.screen;
+    m_lastScreen = target.screen;
+    const QSizeF before = std::exchange(m_target, target.size);
     if (!m_panel.isVisible() || !isSameScreen) {
         m_overshoot = {};
-        m_panel.setFrame(target);
+        m_panel.place(target);
         return;
     }
     // Large enough for the body where it is and where it goes; shrunk to the target when it has
     // arrived.
-    const QRectF room = unionOf(m_panel.frame(), withOvershoot(target, before));
-    m_panel.setFrame(room);
-    if (room == target)
+    PanelPlacement whereItGoes = target;
+    whereItGoes.size = withOvershoot(target.size, before);
+    const QRectF room = unionOf(m_panel.frame(), frameOf(whereItGoes));
+    m_panel.place(placementOn(target.screen, room));
+    if (room == frameOf(target))
         return;
     m_context.view.queue.asyncAfter(Theme::Motion::settlingDuration(),
                                     m_pendingShrink.guard([this, target] {
                                         if (m_store.state() == ShelfState::Idle)
                                             return;
                                         m_overshoot = {};
-                                        m_panel.setFrame(target);
+                                        m_panel.place(target);
                                         m_shelf.panelWasResized();
                                     }));
 }
 
 /// Springs that are still moving add up, and so do the distances by which they overshoot.
-QRectF HUDController::withOvershoot(const QRectF &target, QSizeF before)
+QSizeF HUDController::withOvershoot(QSizeF target, QSizeF before)
 {
     if (m_context.view.motionPreference.reducesMotion())
         return target;
     const double share = Theme::Motion::spring().overshoot();
     m_overshoot += {std::abs(target.width() - before.width()) * share,
                     std::abs(target.height() - before.height()) * share};
-    // Whole points, because the body hangs from the middle of the panel's top edge and must not
-    // shift by half a pixel.
-    const double side = std::ceil(m_overshoot.width() / 2);
-    const double below = std::ceil(m_overshoot.height());
-    return target.adjusted(-side, -below, side, 0);
+    // Whole points on each side, because the body hangs from the middle of the panel's top edge and
+    // must not shift by half a pixel.
+    return target + QSizeF(2 * std::ceil(m_overshoot.width() / 2), std::ceil(m_overshoot.height()));
 }
 
 void HUDController::scheduleHide()

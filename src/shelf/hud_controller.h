@@ -2,10 +2,11 @@
 
 #include "core/store_follower.h"
 #include "platform/base/lifetime.h"
+#include "platform/desktop/panel_placement.h"
 #include "platform/desktop/screens.h"
 #include "shelf/shelf_view.h"
 
-#include <QRectF>
+#include <QSizeF>
 #include <QUuid>
 
 #include <functional>
@@ -34,8 +35,8 @@ struct Feedback;
 /// thread only. Everything that it is given must outlive it.
 class HUDController {
 public:
-    /// The panel's frame before the shelf is first shown, in points.
-    static constexpr QRectF initialFrame{0, 0, 560, 136};
+    /// The panel's size before the shelf is first shown, in points.
+    static constexpr QSizeF initialSize{560, 136};
     /// In seconds: the 0.32 s of the closing slide and a margin.
     static constexpr double hideDelay = 0.32 + 0.05;
 
@@ -83,8 +84,8 @@ private:
 
     ShelfSnapshot makeSnapshot(const ScreenPointer &screen) const;
     void render();
-    void resizeWindow(const QRectF &target, const ScreenPointer &active);
-    QRectF withOvershoot(const QRectF &target, QSizeF before);
+    void resizeWindow(const PanelPlacement &target);
+    QSizeF withOvershoot(QSizeF target, QSizeF before);
     void scheduleHide();
     void takeClicks();
     void preview(const DropItem &item);

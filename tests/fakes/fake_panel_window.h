@@ -13,8 +13,10 @@ namespace corvane::test {
 class FakePanelWindow : public PanelWindow {
 public:
     void setContent(PanelContent *newContent) override { content = newContent; }
+    void place(const PanelPlacement &placement) override { setFrame(frameOf(placement)); }
     QRectF frame() const override { return m_frame; }
-    void setFrame(const QRectF &frame) override
+    /// Puts it anywhere.
+    virtual void setFrame(const QRectF &frame)
     {
         m_frame = frame;
         frames.push_back(frame);

@@ -66,7 +66,7 @@ struct ShelfDesk {
     }
 
     /// Gives the panel the frame that the view wants, as its controller does.
-    static void fit(PanelWindow &panel, ShelfView &view, const ShelfSnapshot &snapshot)
+    static void fit(FakePanelWindow &panel, ShelfView &view, const ShelfSnapshot &snapshot)
     {
         panel.setFrame({{100, 500}, view.preferredSize(snapshot)});
     }

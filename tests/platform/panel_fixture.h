@@ -3,6 +3,7 @@
 #include "platform/display.h"
 #include "platform/qt/base/qt_main_queue.h"
 #include "platform/qt/desktop/qt_panel_window.h"
+#include "platform/qt/desktop/qt_screens.h"
 #include "platform/recording_content.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_drag_support.h"
@@ -20,10 +21,15 @@ protected:
     {
         display.hands.moveTo({5, 900});
         panel.setContent(&content);
-        panel.setFrame({600, 482, 300, 100});
+        panel.place(placementFor({600, 482, 300, 100}));
     }
     ~PanelFixture() override { panel.setContent(nullptr); }
 
+    /// In global points, as `PanelWindow::frame`.
+    PanelPlacement placementFor(const QRectF &frame) const
+    {
+        return placementOn(screens.mainScreen(), frame);
+    }
     void show()
     {
         panel.orderFrontRegardless();
@@ -47,6 +53,7 @@ protected:
     const QRectF body{50, 40, 200, 60};
     Display display;
     QtMainQueue queue;
+    QtScreens screens{queue};
     X11Connection connection;
     X11Panels panels{connection, queue};
     X11DropSupport dropSupport{connection, queue};

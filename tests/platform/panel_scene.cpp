@@ -5,6 +5,7 @@
 #include "platform/qt/base/qt_main_queue.h"
 #include "platform/qt/desktop/qt_geometry.h"
 #include "platform/qt/desktop/qt_panel_window.h"
+#include "platform/qt/desktop/qt_screens.h"
 #include "platform/recording_content.h"
 #include "platform/scenes.h"
 #include "platform/x11/base/x11_connection.h"
@@ -52,6 +53,7 @@ bool readText(Pasteboard &pasteboard, qint64 memoryBefore)
 int playPanel()
 {
     QtMainQueue queue;
+    QtScreens screens(queue);
     X11Connection connection;
     X11Panels panels(connection, queue);
     X11DropSupport dropSupport(connection, queue);
@@ -61,7 +63,13 @@ int playPanel()
         = [before = peakMemory()](Pasteboard &pasteboard) { return readText(pasteboard, before); };
     QtPanelWindow panel(panels.desktop(), queue, &dropSupport, &dragSupport);
     panel.setContent(&content);
-    panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame)));
+    const auto placeAt = [&](const QRect &frame) {
+        panel.place(placementOn(screens.mainScreen(), qt_geometry::toGlobal(QRectF(frame))));
+    };
+    if (qEnvironmentVariableIsSet(panelSceneHangs))
+        panel.place({screens.mainScreen(), panelSceneFromTop, panelSceneFrame.size()});
+    else
+        placeAt(panelSceneFrame);
     const QRectF body
         = qt_geometry::flipped(QRectF(panelSceneBody), double{panelSceneFrame.height()});
     QPainterPath outline;
@@ -71,7 +79,7 @@ int playPanel()
     panel.orderFrontRegardless();
     if (const int moved = qEnvironmentVariableIntValue(panelSceneMove)) {
         eventually([&] { return panel.window().isExposed(); });
-        panel.setFrame(qt_geometry::toGlobal(QRectF(panelSceneFrame.translated(moved, 0))));
+        placeAt(panelSceneFrame.translated(moved, 0));
     }
     say("panel " + QByteArray::number(panel.window().winId()));
     return QCoreApplication::exec();

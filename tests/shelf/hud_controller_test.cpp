@@ -425,7 +425,7 @@ TEST_F(HUDControllerTest, ScreenChangesRender)
     settle();
     screen->frame = {0, 0, 800, 600};
     screens.notifyChanges();
-    EXPECT_EQ(maxY(frame()), 982) << "large enough for both until it has settled";
+    EXPECT_EQ(frame(), QRectF(254, 600 - 56, 648, 982 - 544)) << "covers both until it has settled";
     settle();
     EXPECT_EQ(frame(), QRectF(400 - 146, 600 - 56, 292, 56));
 }

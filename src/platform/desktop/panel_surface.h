@@ -1,22 +1,13 @@
 #pragma once
 
+#include "platform/desktop/panel_placement.h"
+
 #include <QRegion>
-#include <QSize>
 
 class QScreen;
 class QWindow;
 
 namespace corvane {
-
-/// A panel's screen and its place on it. In Qt's device-independent pixels, y downward.
-struct PanelPlacement {
-    /// Null lets the window system choose; distances are then from its first screen, if it uses
-    /// them.
-    QScreen *screen = nullptr;
-    int fromLeft = 0;
-    int fromTop = 0;
-    QSize size;
-};
 
 /// Makes windows into panels: they float above everything, on every workspace and over full-screen
 /// windows, are in no task list, and do not get the keyboard when they are shown. There is one for
@@ -29,6 +20,8 @@ public:
     /// its platform window.
     virtual void adopt(QWindow &window) = 0;
 
+    /// Turns the placement into the window system's own terms. The window's size becomes
+    /// `inWholePoints(placement.size)`.
     virtual void place(QWindow &window, const PanelPlacement &placement) = 0;
     /// The window's screen, also where the window system chose it; null when it is on none.
     virtual QScreen *screenOf(const QWindow &window) const = 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/desktop/panel_events.h"
+#include "platform/desktop/panel_placement.h"
 #include "platform/pasteboard/pasteboard_writer.h"
 #include "platform/pictures/image.h"
 
@@ -96,8 +97,6 @@ struct DragOutEvents {
 
 /// A borderless window that floats above everything, on every workspace and over full-screen
 /// windows, in no task list, and takes no focus when it appears. Made hidden.
-///
-/// `frame` is the frame that was set: the window system may not tell where a window really is.
 class PanelWindow {
 public:
     virtual ~PanelWindow() = default;
@@ -105,9 +104,10 @@ public:
     /// The content must outlive the panel, or be removed with null before.
     virtual void setContent(PanelContent *content) = 0;
 
-    /// In global points, origin at the bottom left of the primary display.
+    virtual void place(const PanelPlacement &placement) = 0;
+    /// `frameOf` the last placement, as it was at that moment: the window system may not tell where
+    /// a window really is. Empty before the first.
     virtual QRectF frame() const = 0;
-    virtual void setFrame(const QRectF &frame) = 0;
     /// The screen that it is on, or will appear on; null when it is on none.
     virtual const QScreen *screen() const = 0;
 

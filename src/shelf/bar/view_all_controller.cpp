@@ -19,7 +19,7 @@ ViewAllController::ViewAllController(const Context &context)
     , m_view(context.view)
     , m_store(context.store)
 {
-    m_panel.setFrame(initialFrame);
+    m_panel.place({nullptr, 0, initialSize});
     m_panel.setContent(&m_view);
     m_panel.setIgnoresMouseEvents(true);
     wireView();
@@ -53,7 +53,7 @@ void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &scr
     const bool isWanted = findWhetherWanted();
     if (m_store.isViewAllOpen() && screen && m_store.items().size() >= minimumItems) {
         m_isWanted = m_isWanted || isWanted;
-        show(*screen, isDraggedOrWasJustNow);
+        show(screen, isDraggedOrWasJustNow);
     } else {
         hide();
     }
@@ -68,14 +68,13 @@ bool ViewAllController::findWhetherWanted()
     return std::exchange(m_isByHand, false) || isNewlyOpen;
 }
 
-void ViewAllController::show(const Screen &screen, bool isDragged)
+void ViewAllController::show(const ScreenPointer &screen, bool isDragged)
 {
-    const double width = std::round(screen.frame.width() * widthShare);
-    const double height = view_all_layout::barHeight;
-    const QRectF frame(midX(screen.frame) - width / 2, minY(m_pillFrame) - gap - height, width,
-                       height);
-    if (m_panel.frame() != frame)
-        m_panel.setFrame(frame);
+    const double width = std::round(screen->frame.width() * widthShare);
+    const double fromTop = maxY(screen->frame) - minY(m_pillFrame) + gap;
+    const PanelPlacement placement{screen, fromTop, {width, view_all_layout::barHeight}};
+    if (m_panel.frame() != frameOf(placement))
+        m_panel.place(placement);
 
     const auto count = static_cast<int>(m_store.items().size());
     m_offset

@@ -27,8 +27,8 @@ struct Feedback;
 /// store still says that it is open. Main thread only; everything in the context must outlive it.
 class ViewAllController : public ViewAllBar {
 public:
-    /// The panel's frame before the bar is first shown, in points.
-    static constexpr QRectF initialFrame{0, 0, 600, view_all_layout::barHeight};
+    /// The panel's size before the bar is first shown, in points.
+    static constexpr QSizeF initialSize{600, view_all_layout::barHeight};
     /// The bar's width as a share of the screen's.
     static constexpr double widthShare = 0.8;
     /// In points, between the shelf and the bar.
@@ -59,7 +59,7 @@ public:
 private:
     void wireView();
     bool findWhetherWanted();
-    void show(const Screen &screen, bool isDragged);
+    void show(const ScreenPointer &screen, bool isDragged);
     void takeKeyboard(bool wasShown);
     void hide();
     void scroll(int step);

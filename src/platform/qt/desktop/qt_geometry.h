@@ -3,10 +3,6 @@
 #include <QPointF>
 #include <QRectF>
 
-namespace corvane {
-struct PanelPlacement;
-}
-
 namespace corvane::qt_geometry {
 
 /// The only place that converts between Qt's global points, which start at the top left of the
@@ -20,9 +16,6 @@ QPointF toGlobal(QPointF qtPoint);
 QRectF toGlobal(const QRectF &qtRect);
 /// Rounded to whole points, as windows are placed; the size is kept.
 QRect toQt(const QRectF &rect);
-/// Where a panel with this frame goes: on the screen that has the middle of its upper edge, else on
-/// the primary one.
-PanelPlacement placementOf(const QRectF &frame);
 
 /// Converts between Qt's coordinates and ours inside a window of that height, in both directions.
 inline QPointF flipped(QPointF point, double height)

@@ -1,6 +1,7 @@
 #include "platform/qt/desktop/qt_panel_window.h"
 
 #include "platform/base/main_queue.h"
+#include "platform/base/whole_points.h"
 #include "platform/desktop/compositing.h"
 #include "platform/desktop/keyboard_loan.h"
 #include "platform/desktop/panel_surface.h"
@@ -50,11 +51,10 @@ void QtPanelWindow::setContent(PanelContent *content)
     setNeedsDisplay({{}, m_frame.size()});
 }
 
-void QtPanelWindow::setFrame(const QRectF &frame)
+void QtPanelWindow::place(const PanelPlacement &placement)
 {
-    m_frame = frame;
-    const PanelPlacement placement = qt_geometry::placementOf(frame);
-    m_canvas->setCanvasSize(placement.size);
+    m_frame = frameOf(placement);
+    m_canvas->setCanvasSize(inWholePoints(placement.size));
     m_desktop.surface.place(*m_canvas, placement);
     updateRegions();
 }

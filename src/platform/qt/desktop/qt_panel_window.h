@@ -33,8 +33,8 @@ public:
     ~QtPanelWindow() override;
 
     void setContent(PanelContent *content) override;
+    void place(const PanelPlacement &placement) override;
     QRectF frame() const override { return m_frame; }
-    void setFrame(const QRectF &frame) override;
     const QScreen *screen() const override;
     bool isVisible() const override { return m_isVisible; }
     void orderFrontRegardless() override;

@@ -1,5 +1,7 @@
 #include "platform/x11/windows/x11_panel_surface.h"
 
+#include "platform/base/geometry.h"
+#include "platform/base/whole_points.h"
 #include "platform/x11/base/x11_qt.h"
 
 #include <QGuiApplication>
@@ -48,6 +50,18 @@ void clearShape(const QWindow &window, xcb_shape_kind_t kind)
     xcb_flush(qt);
 }
 
+/// A screen's upper edge in Qt's coordinates, y downward. Of the primary screen for none, because
+/// here no window manager chooses; empty if there is no screen at all.
+QRectF upperEdge(const Screen *screen)
+{
+    // Qt has the corners of screens where the server has them, whatever the scale.
+    if (screen)
+        return {screen->nativeFrame.topLeft(), QSizeF(screen->frame.width(), 0)};
+    const QScreen *const primary = QGuiApplication::primaryScreen();
+    return primary ? QRectF(primary->geometry().topLeft(), QSizeF(primary->geometry().width(), 0))
+                   : QRectF();
+}
+
 void flushQt()
 {
     if (auto *const qt = x11_qt::connection())
@@ -77,9 +91,10 @@ void X11PanelSurface::adopt(QWindow &window)
 
 void X11PanelSurface::place(QWindow &window, const PanelPlacement &placement)
 {
-    const QPoint origin = placement.screen ? placement.screen->geometry().topLeft() : QPoint();
-    window.setGeometry(
-        QRect(origin + QPoint(placement.fromLeft, placement.fromTop), placement.size));
+    const QRectF edge = upperEdge(placement.screen.get());
+    const QPointF corner(midX(edge) + placement.fromMiddle - 0.5 * placement.size.width(),
+                         edge.y() + placement.fromTop);
+    window.setGeometry(inWholePoints(QRectF(corner, placement.size)));
     flushQt();
 }
 

@@ -1,6 +1,7 @@
 #include "platform/base/geometry.h"
 #include "platform/managed_window.h"
 #include "platform/panel_fixture.h"
+#include "platform/two_monitors.h"
 #include "platform/x11/base/x11_reply.h"
 
 #include <QCoreApplication>
@@ -135,15 +136,59 @@ TEST_F(PanelWindowTest, standsExactlyWhereItWasPut)
     show();
     EXPECT_EQ(facts().frame, QRect(600, 400, 300, 100));
     EXPECT_TRUE(facts().isOverrideRedirect);
-    panel.setFrame({100.4, 881.6, 320, 100});
+    panel.place(placementFor({100.4, 881.6, 320, 100}));
     EXPECT_TRUE(eventually([&] { return facts().frame == QRect(100, 0, 320, 100); }));
     EXPECT_EQ(panel.frame(), QRectF(100.4, 881.6, 320, 100));
+}
+
+TEST_F(PanelWindowTest, hangsInTheMiddleOfItsScreenOnWholePoints)
+{
+    struct Case {
+        QSizeF size;
+        double fromTop;
+        QRect frame;
+    };
+    show();
+    for (const auto &[size, fromTop, frame] :
+         {Case{{320, 100}, 0, {596, 0, 320, 100}}, Case{{321, 100}, 66, {596, 66, 321, 100}},
+          Case{{320.4, 99.5}, 66.4, {596, 66, 320, 100}},
+          Case{{320.6, 99.4}, 66.5, {596, 67, 321, 99}},
+          Case{{1513, 100}, 1, {-1, 1, 1513, 100}}}) {
+        panel.place({screens.mainScreen(), fromTop, size});
+        EXPECT_TRUE(eventually([&] { return facts().frame == frame; })) << size.width();
+        EXPECT_EQ(panel.frame(),
+                  QRectF(756 - size.width() / 2, 982 - fromTop - size.height(), size.width(),
+                         size.height()));
+    }
+}
+
+TEST_F(PanelWindowTest, hangsFromTheScreenThatItIsGiven)
+{
+    show();
+    const auto isSplit = [&](bool isWanted) {
+        return eventually(
+            [&] { return screens.screens().front()->frame.width() == (isWanted ? 700 : 1512); });
+    };
+    {
+        const TwoMonitors monitors(182);
+        ASSERT_TRUE(isSplit(true));
+        ASSERT_TRUE(eventually([&] { return screens.screens().size() == 2; }));
+        panel.place({screens.screens().back(), 66, {321, 100}});
+        EXPECT_TRUE(eventually([&] { return facts().frame == QRect(946, 248, 321, 100); }));
+        EXPECT_EQ(panel.frame(), QRectF(945.5, 982 - 248 - 100, 321, 100));
+        EXPECT_EQ(panel.screen(), QGuiApplication::screens().back());
+        // Without a screen on the primary one.
+        panel.place({nullptr, 10, {301, 100}});
+        EXPECT_TRUE(eventually([&] { return facts().frame == QRect(200, 10, 301, 100); }));
+        EXPECT_EQ(panel.screen(), QGuiApplication::primaryScreen());
+    }
+    EXPECT_TRUE(isSplit(false));
 }
 
 TEST_F(PanelWindowTest, tellsWhichScreenItIsOn)
 {
     EXPECT_EQ(panel.screen(), QGuiApplication::primaryScreen());
-    panel.setFrame({5000, 482, 300, 100});
+    panel.place(placementFor({5000, 482, 300, 100}));
     EXPECT_EQ(panel.screen(), nullptr);
     EXPECT_TRUE(eventually([&] { return facts().frame == QRect(5000, 400, 300, 100); }));
 }
@@ -243,7 +288,7 @@ TEST_F(PanelWindowTest, theBodyHangsFromTheBottomLeftAlsoWhenThePanelGrows)
 {
     setBody();
     show();
-    panel.setFrame({600, 432, 300, 150});
+    panel.place(placementFor({600, 432, 300, 150}));
     EXPECT_TRUE(eventually(
         [&] { return display.server.inputShape(id()) == QList<QRect>{QRect(50, 50, 200, 60)}; }));
 }
@@ -356,7 +401,7 @@ TEST_F(PanelWindowTest, aPanelThatTookItFromAnotherGivesItBackToTheProgram)
 {
     const ManagedWindow other({100, 100, 300, 200});
     QtPanelWindow second(panels.desktop(), queue);
-    second.setFrame({600, 200, 300, 100});
+    second.place(placementFor({600, 200, 300, 100}));
     content.onMouseDown = [&] {
         panel.makeKey();
         second.orderFrontRegardless();
@@ -505,7 +550,7 @@ TEST_F(PanelWindowTest, amongPanelsItTakesTheKeyboardFromPanelsAlone)
 {
     const ManagedWindow other({100, 100, 300, 200});
     QtPanelWindow second(panels.desktop(), queue);
-    second.setFrame({600, 200, 300, 100});
+    second.place(placementFor({600, 200, 300, 100}));
     const auto secondId = static_cast<xcb_window_t>(second.window().winId());
     show();
     second.orderFrontRegardless();

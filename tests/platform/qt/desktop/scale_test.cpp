@@ -3,6 +3,7 @@
 
 #include "platform/panel_scene.h"
 #include "platform/scene.h"
+#include "platform/two_monitors.h"
 
 #include <gtest/gtest.h>
 
@@ -55,30 +56,6 @@ protected:
     Display display;
 };
 
-/// The server's one screen, cut into two that stand side by side.
-struct TwoMonitors {
-    TwoMonitors()
-    {
-        xrandr("--setmonitor left 700/200x982/260+0+0 screen");
-        xrandr("--setmonitor right 812/200x982/260+700+0 none");
-    }
-    ~TwoMonitors()
-    {
-        xrandr("--delmonitor right");
-        xrandr("--delmonitor left");
-    }
-    TwoMonitors(const TwoMonitors &) = delete;
-    TwoMonitors &operator=(const TwoMonitors &) = delete;
-
-    static void xrandr(const char *arguments)
-    {
-        QProcess tool;
-        tool.start(QStringLiteral("xrandr"),
-                   QString::fromLatin1(arguments).split(QLatin1Char(' ')));
-        EXPECT_TRUE(tool.waitForFinished() && tool.exitCode() == 0) << arguments;
-    }
-};
-
 } // namespace
 
 TEST_P(PanelScaleTest, standsAndTakesClicksOnExactPixels)
@@ -93,6 +70,23 @@ TEST_P(PanelScaleTest, standsAndTakesClicksOnExactPixels)
     EXPECT_EQ(display.server.facts(window)->frame, pixels(panelSceneFrame));
     EXPECT_EQ(display.server.inputShape(window), QList<QRect>{pixels(panelSceneBody)});
     EXPECT_EQ(display.server.boundingShape(window), QList<QRect>{pixels(panelSceneBody)});
+}
+
+TEST_P(PanelScaleTest, hangsInTheMiddleOfItsScreenOnExactPixels)
+{
+    environment.insert(QLatin1String(panelSceneHangs), QStringLiteral("1"));
+    Scene scene("panel", environment);
+    ASSERT_TRUE(scene.waitFor("\n"));
+    const auto window = scene.output.mid(6).trimmed().toUInt();
+    const QSize size = panelSceneFrame.size();
+    // The panel is an odd number of points wide and the screen an even one: half a point is rounded
+    // to the right.
+    const double left = (1512 / GetParam().scale - size.width()) / 2 + 0.5;
+    const QRect frame = pixels({QPoint(static_cast<int>(left), panelSceneFromTop), size});
+    EXPECT_TRUE(eventually([&] {
+        const auto facts = display.server.facts(window);
+        return facts && facts->isViewable && facts->frame == frame;
+    }));
 }
 
 INSTANTIATE_TEST_SUITE_P(, PanelScaleTest,

@@ -315,7 +315,7 @@ TEST_F(DragOutTest, aPanelThatDiesInItsDragReportsNothing)
         = std::make_unique<QtPanelWindow>(panels.desktop(), queue, &dropSupport, &dragSupport);
     RecordingContent dyingContent;
     dying->setContent(&dyingContent);
-    dying->setFrame({600, 482, 300, 100});
+    dying->place(placementFor({600, 482, 300, 100}));
     bool hasReturned = false;
     bool hasEnded = false;
     dyingContent.onFirstDragged = [&] {
