@@ -196,7 +196,7 @@ void HUDController::resizeWindow(const PanelPlacement &target)
     m_lastScreen = target.screen;
     const QSizeF before = std::exchange(m_target, target.size);
     if (!m_panel.isVisible() || !isSameScreen) {
-        m_overshoot = {};
+        m_overshoot = {0, 0};
         m_panel.place(target);
         return;
     }
@@ -212,7 +212,7 @@ void HUDController::resizeWindow(const PanelPlacement &target)
                                     m_pendingShrink.guard([this, target] {
                                         if (m_store.state() == ShelfState::Idle)
                                             return;
-                                        m_overshoot = {};
+                                        m_overshoot = {0, 0};
                                         m_panel.place(target);
                                         m_shelf.panelWasResized();
                                     }));

@@ -100,7 +100,7 @@ private:
     bool m_letsClicksThrough = false;
     /// The size of the last resize's target, and how far the springs that are moving go beyond it.
     QSizeF m_target;
-    QSizeF m_overshoot;
+    QSizeF m_overshoot{0, 0};
     std::weak_ptr<const Screen> m_lastScreen;
     /// The item that is to be previewed once its file is there.
     std::optional<QUuid> m_awaitedPreview;
