@@ -1,5 +1,7 @@
 // A feed of any bytes: what is chosen of it fits, and what is shown of it is bounded and harmless.
 
+#include "app/updates/appcast.h"
+
 #include "app/updates/release_notes.h"
 #include "app/updates/update_choice.h"
 

@@ -30,7 +30,7 @@ struct RealDesk {
     RealDesk()
     {
         surface.adopt(window);
-        surface.place(window, {nullptr, 600, 400, {300, 100}});
+        surface.place(window, {nullptr, 400, {300, 100}});
         window.show();
         panel = WindowNumber{window.winId()};
         const auto id = static_cast<xcb_window_t>(window.winId());
