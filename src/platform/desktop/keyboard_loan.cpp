@@ -78,7 +78,7 @@ void KeyboardLoan::resigned(WindowNumber panel)
 void KeyboardLoan::userWentOn(WindowNumber panel)
 {
     m_panels[panel].hasUserGoneOn = true;
-    m_wantedMeanwhile.reset();
+    nobodyWants();
 }
 
 void KeyboardLoan::windowOpens()
@@ -188,7 +188,14 @@ void KeyboardLoan::giveBackFrom(WindowNumber panel)
 void KeyboardLoan::wishEnds(WindowNumber panel)
 {
     if (m_wantedMeanwhile == panel)
-        m_wantedMeanwhile.reset();
+        nobodyWants();
+}
+
+void KeyboardLoan::nobodyWants()
+{
+    m_wantedMeanwhile.reset();
+    // Whoever has the keyboard from now on was not chosen in place of a panel.
+    m_isOwnChoiceAwaited = false;
 }
 
 void KeyboardLoan::giveBackFromAnyPanel()
@@ -199,7 +206,7 @@ void KeyboardLoan::giveBackFromAnyPanel()
 
 void KeyboardLoan::giveBack()
 {
-    m_wantedMeanwhile.reset();
+    nobodyWants();
     m_givenBackTo = std::exchange(m_owner, {});
     if (m_focus.giveBackTo(m_givenBackTo))
         awaitAnswer();
@@ -238,8 +245,7 @@ void KeyboardLoan::answerIsOverdue()
 void KeyboardLoan::forgetAnswers()
 {
     m_awaitedAnswers = 0;
-    m_isOwnChoiceAwaited = false;
-    m_wantedMeanwhile.reset();
+    nobodyWants();
     m_waiting.restart();
 }
 

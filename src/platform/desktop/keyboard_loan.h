@@ -98,6 +98,7 @@ private:
     bool isJustGivenBackTo(WindowNumber window) const;
     void take(WindowNumber panel);
     void wishEnds(WindowNumber panel);
+    void nobodyWants();
     void giveBackFrom(WindowNumber panel);
     void giveBackFromAnyPanel();
     void giveBack();

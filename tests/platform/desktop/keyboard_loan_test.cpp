@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <functional>
 #include <optional>
+#include <vector>
 
 namespace corvane::test {
 
@@ -542,6 +545,31 @@ TEST_F(KeyboardLoanTest, isLaterLeftWithSomebodyWhoTookItWhateverWasAwaitedOfAPr
         focus.focused = stranger;
         focus.answer(false);
         EXPECT_EQ(focus.focused, stranger) << hasWindowManager;
+    }
+}
+
+TEST_F(KeyboardLoanTest, isLeftWithSomebodyWhoTookItOnceThePanelBehindAPreviewHadGivenItUp)
+{
+    const std::vector<std::function<void()>> givenUp{
+        [this] { drag(DragOperation::Copy); },
+        [this] { loan->userWentOn(shelf); },
+        [this] {
+            focus.focused = stranger;
+            loan->willHide(shelf);
+            loan->shown(shelf);
+        },
+    };
+    for (std::size_t i = 0; i < givenUp.size(); ++i) {
+        openPreview();
+        closePreview();
+        givenUp[i]();
+        loan->wantedByHand(shelf);
+        focus.focused = stranger;
+        focus.answer();
+        EXPECT_EQ(focus.focused, stranger) << i;
+        focus.answer(false);
+        focus.focused = field;
+        focus.active = program;
     }
 }
 
