@@ -51,8 +51,11 @@ void ItemPreparation::ended(const QUuid &id, const std::optional<DropItem> &made
         ready = running.item;
         ready->become(*made);
         if (const auto *file = std::get_if<DropItem::File>(&ready->payload());
-            file && ready->isSpooled())
+            file && ready->isSpooled()) {
             m_spool.keepName(file->url);
+            // A picture that cannot be converted stays the file that it was.
+            m_spool.moveLoans(running.places.front()->url(), file->url);
+        }
     } else {
         for (const auto &place : running.places)
             m_spool.discard(place->url());

@@ -161,6 +161,11 @@ void ScratchSpool::giveAway(const QList<QUrl> &files)
     m_loans.giveAway(pathsOf(files));
 }
 
+void ScratchSpool::moveLoans(const QUrl &from, const QUrl &to)
+{
+    m_loans.move(file_url::nativePath(from), file_url::nativePath(to));
+}
+
 void ScratchSpool::discard(const QUrl &url) const
 {
     const QByteArray path = file_url::nativePath(url);

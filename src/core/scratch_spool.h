@@ -77,6 +77,10 @@ public:
     /// To be called when another program was told of these files and may read them at any time:
     /// they are kept until `discardAll`.
     void giveAway(const QList<QUrl> &files);
+    /// To be called when the file that was to be made as `from` has become `to`: loans, gifts and a
+    /// deletion that was put off are then those of `to`. A gift may follow under the old address as
+    /// long as the loan lives.
+    void moveLoans(const QUrl &from, const QUrl &to);
     /// Deletes the directory and everything in it. Many files are left to a child process that
     /// outlives this one (`spool_directory::removeAtEnd`).
     void discardAll();

@@ -25,13 +25,19 @@ public:
 
     [[nodiscard]] Loan lend(const QList<QByteArray> &paths);
     void giveAway(const QList<QByteArray> &paths);
+    /// What was lent or given away as `from` is the file `to`. Until the last loan of it ends it
+    /// may be given away under the old name, too.
+    void move(const QByteArray &from, const QByteArray &to);
     /// Whether the file must not be deleted now. A lent one is then deleted when its last loan
     /// ends.
     bool putOff(const QByteArray &path);
     /// Whether another program was told of a file of that name, which must not be given to another.
-    bool isKnown(const QByteArray &path) const { return m_files.contains(path); }
+    bool isKnown(const QByteArray &path) const
+    {
+        return m_files.contains(path) || m_moved.contains(path);
+    }
     /// All files are gone.
-    void clear() { m_files.clear(); }
+    void clear();
 
 private:
     struct File {
@@ -40,9 +46,12 @@ private:
         bool isToGo = false;
     };
     void ended(const QList<QByteArray> &paths);
+    QByteArray nowOf(const QByteArray &path) const { return m_moved.value(path, path); }
 
     std::function<void(const QByteArray &path)> m_discard;
     QHash<QByteArray, File> m_files;
+    /// The files' paths by those that they were lent as. Entries stay until the last loan ends.
+    QHash<QByteArray, QByteArray> m_moved;
     Lifetime m_lifetime;
 };
 

@@ -158,6 +158,26 @@ TEST_F(ItemPreparationTest, GivesUpEveryPlaceOfAnItemThatIsRemovedOrThatItLeaves
     }
 }
 
+TEST_F(ItemPreparationTest, LendsTheFileThatALentItemBecomesInsteadOfItsOwn)
+{
+    const auto first = spool.keepPlace(QStringLiteral("a"), QStringLiteral("png"));
+    const auto second = spool.keepPlace(QStringLiteral("a"), QStringLiteral("tiff"));
+    const DropItem item = preparation->begin(
+        {DropItem::beingMade({first->url()}, QStringLiteral("a"), {}, {}),
+         {first, second},
+         [second] {
+             second->write("b");
+             return DropItem(DropItem::File{second->url()}, QStringLiteral("a"), {}, true);
+         },
+         {}});
+    auto loan = spool.lend({urlOf(item)});
+    spool.discard(urlOf(item));
+    finishWork();
+    EXPECT_EQ(contents(second->url()), "b");
+    loan.reset();
+    EXPECT_FALSE(exists(second->url())) << "the item was removed while its file was lent";
+}
+
 TEST_F(ItemPreparationTest, HandsOverManyOnceTheLastIsDecided)
 {
     const DropItem text(DropItem::Text{}, QStringLiteral("text"), {}, false);

@@ -352,6 +352,42 @@ TEST_F(ScratchSpoolTest, WhatIsGivenAwayGoesWithTheDirectoryAlone)
     EXPECT_FALSE(exists(directory()));
 }
 
+TEST_F(ScratchSpoolTest, LendsTheFileThatWasMadeInsteadOfTheOneThatWasLent)
+{
+    auto place = spool.keepPlace(image, png);
+    const QUrl lent = place->url();
+    auto loan = spool.lend({lent, lent});
+    auto other = spool.lend({lent});
+    spool.discard(lent);
+    const auto made = spool.store("1", image, QStringLiteral("tiff"));
+    spool.moveLoans(lent, *made);
+    place.reset();
+    EXPECT_NE(*spool.reserve(image, png), lent) << "a loan of that name is not over";
+    loan.reset();
+    EXPECT_EQ(contents(*made), "1");
+    other.reset();
+    EXPECT_FALSE(exists(*made));
+    EXPECT_EQ(*spool.reserve(image, png), lent);
+    spool.moveLoans(lent, *made);
+    EXPECT_EQ(*spool.reserve(image, QStringLiteral("tiff")), *made) << "nothing is lent any more";
+}
+
+TEST_F(ScratchSpoolTest, WhatIsGivenAwayUnderTheNameThatItWasLentAsStays)
+{
+    const QUrl lent = spool.keepPlace(image, png)->url();
+    auto loan = spool.lend({lent});
+    const auto made = spool.store("1", image, QStringLiteral("tiff"));
+    spool.moveLoans(lent, *made);
+    spool.giveAway({lent});
+    loan.reset();
+    spool.discard(*made);
+    EXPECT_EQ(contents(*made), "1");
+    const auto next = spool.store("2", image, png);
+    EXPECT_EQ(*next, lent);
+    spool.discard(*next);
+    EXPECT_FALSE(exists(*next)) << "nobody was told of this one";
+}
+
 TEST_F(ScratchSpoolTest, ALoanMayEndAfterTheSpool)
 {
     std::optional<ScratchSpool> shortLived(std::in_place, temporary.path(), 4712);
