@@ -88,9 +88,11 @@ void QuickActions::copy(const QList<DropItem> &items)
 
 void QuickActions::copyReady(const QList<DropItem> &items, const Latest &latest)
 {
-    // All or some of them may have been removed.
-    if (items.isEmpty())
+    if (items.isEmpty()) {
+        // None of them could be made.
+        m_latest.reset();
         return;
+    }
     if (items.size() == 1) {
         copyAsItIs(items.constFirst());
         return;
@@ -100,7 +102,11 @@ void QuickActions::copyReady(const QList<DropItem> &items, const Latest &latest)
         return;
     }
     m_pictures.asFiles(items, [this, latest](const QList<DropItem> &files) {
-        if (isStillWanted(latest) && !files.isEmpty())
+        if (!isStillWanted(latest))
+            return;
+        if (files.isEmpty())
+            m_latest.reset();
+        else
             writeSeveral(files, countThatArrives(files));
     });
 }
@@ -119,9 +125,11 @@ void QuickActions::copy(const DropItem &item, bool asDataUri)
 {
     m_preparation.whenReady(
         item, [this, asDataUri, latest = begin({item})](const std::optional<DropItem> &ready) {
-            if (!isStillWanted(latest) || !ready)
+            if (!isStillWanted(latest))
                 return;
-            if (asDataUri)
+            if (!ready)
+                m_latest.reset();
+            else if (asDataUri)
                 copyAsDataUri(*ready, latest);
             else
                 copyAsItIs(*ready);

@@ -231,6 +231,29 @@ TEST_F(QuickActionsTest, WhatGaveWayAndIsRemovedIsNotMade)
     EXPECT_EQ(messages, QStringList{QStringLiteral("Text copied")});
 }
 
+TEST_F(QuickActionsTest, HoldsNothingOfWhatCannotBeMade)
+{
+    const auto reserved = [this](const char *name) {
+        return *scratch.spool.reserve(QString::fromLatin1(name), QStringLiteral("png"));
+    };
+    const DropItem scan = being("scan", "pixels");
+    remove(scan);
+    actions.copy(scan, false);
+    finishWork();
+    EXPECT_EQ(reserved("scan"), std::get<DropItem::File>(scan.payload()).url)
+        << "its name is free again";
+    const DropItem page = being("page", "pixels");
+    const DropItem leaf = being("leaf", "pixels");
+    remove(page);
+    remove(leaf);
+    actions.copy({page, leaf});
+    finishWork();
+    EXPECT_EQ(reserved("page"), std::get<DropItem::File>(page.payload()).url);
+    EXPECT_EQ(reserved("leaf"), std::get<DropItem::File>(leaf.payload()).url);
+    EXPECT_TRUE(pasteboard.writes.empty());
+    EXPECT_TRUE(messages.isEmpty());
+}
+
 TEST_F(QuickActionsTest, WhatIsStillBeingMadeGivesWayToWhatWasCopiedMeanwhile)
 {
     actions.copy(being("scan", "pixels"), false);
