@@ -4,7 +4,6 @@
 #include "core/item_preparation.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace corvane {
 

@@ -11,8 +11,6 @@
 #include <QPainter>
 #include <QPainterPath>
 
-#include <algorithm>
-
 namespace corvane {
 
 namespace {

@@ -7,7 +7,6 @@
 
 #include <list>
 #include <map>
-#include <memory>
 #include <optional>
 #include <set>
 #include <vector>

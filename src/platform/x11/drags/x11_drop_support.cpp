@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <utility>
 
 namespace corvane {
