@@ -77,13 +77,13 @@ void AppDelegate::dragBegan()
 void AppDelegate::dragEnded(DragEnd end)
 {
     m_isDragEndAssumed = end == DragEnd::Assumed;
-    // An empty shelf would close under what was dropped on it and is still on its way.
+    // An empty shelf would close although a drop is on its way to it.
     m_isDragEndOwed = m_isAwaitingDrop && m_context.store.items().isEmpty();
     if (!m_isDragEndOwed)
         m_context.store.dragEnded();
 }
 
-/// A drag whose end was assumed, and that comes to where the closed shelf hangs, opens it again.
+/// If a drag comes over the closed shelf after its end was only assumed, the shelf opens again.
 void AppDelegate::wireDragsOverShelf()
 {
     m_context.hud.onDragOver = [this](bool isOver) {

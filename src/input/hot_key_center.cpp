@@ -28,7 +28,7 @@ bool HotKeyCenter::apply(const std::optional<Shortcut> &shortcut, Binding bindin
         installEventHandler();
     const auto changed = [this, binding, id](const ShortcutOutcome &outcome) {
         m_outcomes[id] = outcome;
-        // A copy: it may replace itself.
+        // A copy: the callback may replace itself.
         if (const auto tell = onOutcomeChanged)
             tell(binding);
     };

@@ -37,17 +37,16 @@ public:
     HotKeyCenter &operator=(const HotKeyCenter &) = delete;
     ~HotKeyCenter();
 
-    /// Replaces the binding's registration and its handler; a shortcut of none removes the one and
-    /// still replaces the other. False if the combination was refused
-    /// at once.
+    /// Replaces the binding's registration and handler. With no shortcut only the registration is
+    /// removed; the handler is still replaced. False if the combination was refused at once.
     ///
     /// A press calls the handler that the binding has when the main queue gets to it.
     bool apply(const std::optional<Shortcut> &shortcut, Binding binding, Handler handler);
     /// What has become of the shortcut that was applied last.
     ShortcutOutcome outcome(Binding binding) const;
-    /// That has become another one since it was applied.
+    /// Called when the outcome has changed after `apply` returned. May be empty.
     std::function<void(Binding)> onOutcomeChanged;
-    /// Keeps the handler: a press that is on its way arrives.
+    /// Keeps the handler, so that a press that is already on its way is still handled.
     void unregister(Binding binding);
     /// Removes both registrations and both handlers.
     void unregisterAll();

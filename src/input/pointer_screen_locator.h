@@ -6,13 +6,14 @@ namespace corvane {
 
 class Pointer;
 
-/// Where the desktop tells where the pointer is, that is the screen that the user is on. Both
+/// For desktops that tell where the pointer is: the user is on the screen that it is on. Both
 /// references must outlive it. Main thread only.
 class PointerScreenLocator : public ScreenLocator {
 public:
     PointerScreenLocator(const Screens &screens, const Pointer &pointer);
 
-    /// The screen under the pointer, else the main screen, which may be none.
+    /// The screen under the pointer, else the main screen; null when no screen is attached. With
+    /// several screens the window system is asked for the pointer.
     ScreenPointer activeScreen() const override;
 
 private:

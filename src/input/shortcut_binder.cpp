@@ -69,7 +69,7 @@ bool ShortcutBinder::bind(const Stored &shortcut, HotKeyCenter::Binding binding,
                           std::function<void()> ShortcutBinder::*action)
 {
     const bool isNotRefused = m_center.apply(shortcut(), binding, m_lifetime.guard([this, action] {
-        // A copy: it may replace itself.
+        // A copy: the action may replace itself.
         if (const auto run = this->*action)
             run();
     }));

@@ -11,9 +11,8 @@
 
 namespace corvane {
 
-/// Binds the two stored shortcuts to what they do, and tells what has become of that: also later,
-/// where the desktop takes its time, or another attempt has another outcome. Main thread only; the
-/// center must outlive it.
+/// Binds the two stored shortcuts to their actions, and reports whether that worked, also when the
+/// desktop answers late, and after later attempts. Main thread only; the center must outlive it.
 class ShortcutBinder {
 public:
     /// Reads a stored shortcut at the time of binding; none if there is none.

@@ -75,7 +75,7 @@ private:
     std::unique_ptr<PreviewWindow> m_window;
     QRect m_placed;
     HeldKey m_heldKey;
-    /// Restarted where a showing ends: what waits for its turn opens nothing in the next one.
+    /// Restarted when the panel is hidden, which ends what waits for opening.
     Lifetime m_showing;
 };
 

@@ -71,10 +71,11 @@ public:
     /// Called with true when a drop's contents are on their way; when they are here, with whether
     /// others are awaited.
     std::function<void(bool isAwaiting)> onAwaitsDrop;
-    /// Another program's drag has come over the panel, also while it is closed, or is there no
-    /// longer.
+    /// Another program's drag has come over the panel, also while the shelf is closed, or has left
+    /// it or was dropped.
     std::function<void(bool isOver)> onDragOver;
-    /// The user pressed, typed or is about to drop on the shelf.
+    /// The user pressed a button or a key on the shelf, or drags something over it that it would
+    /// take.
     std::function<void()> onUsed;
 
 private:

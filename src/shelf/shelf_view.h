@@ -73,9 +73,10 @@ public:
     /// others are awaited.
     std::function<void(bool isAwaiting)> onAwaitsDrop;
     /// Another program's drag has come over the panel, also while the shelf is closed, or has left
-    /// it or was dropped. Told before it is decided whether it may be dropped.
+    /// it or was dropped. Called before it is decided whether it may be dropped.
     std::function<void(bool isOver)> onDragOver;
-    /// A press, a key or a drag that may be dropped here, before anything else comes of it.
+    /// A button or key was pressed, or a drag that can be dropped here entered. Called before
+    /// anything else is done about it.
     std::function<void()> onUsed;
     /// The body was pressed. Called after everything else was done about it.
     std::function<void()> onPressed;

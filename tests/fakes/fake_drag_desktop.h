@@ -12,7 +12,8 @@
 
 namespace corvane::test {
 
-/// A desktop with a mouse on it, seen by what watches for drags. Its verbs are the user's.
+/// A desktop with a mouse, for code that watches for drags and clicks. Its functions are what the
+/// user does.
 class FakeDragDesktop : public DragPasteboard, public EventMonitors, public MouseButtons {
 public:
     static constexpr unsigned rightButton = 2;

@@ -49,9 +49,8 @@ public:
         swallowed.emplace_back(key, modifiers);
     }
 
-    /// The window manager activates the window that it was asked for first, or says that it has
-    /// come so far where it was asked for an answer alone. It may find that somebody else has the
-    /// keyboard by rights.
+    /// The window manager answers what it was asked first. If that was to activate a window it
+    /// does; with `givesKeyboard` false it leaves the keyboard with another window.
     void answer(bool givesKeyboard = true)
     {
         if (m_asked.empty())

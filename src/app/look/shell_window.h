@@ -11,9 +11,9 @@ namespace corvane {
 
 class ScreenLocator;
 
-/// A window of the program beside the shelf: of one size, with a title and a close button, in the
-/// middle of the user's screen until they move it. It can be dragged by its ground; Escape and the
-/// desktop's keys for closing close it. Closing hides it.
+/// An ordinary window of the program, such as the preferences: of a fixed size, with a title and a
+/// close button, in the middle of the user's screen until they move it. It can be moved by dragging
+/// its background. Escape and the desktop's keys for closing close it, which hides it.
 class ShellWindow : public QWidget {
     Q_OBJECT
 
@@ -26,8 +26,8 @@ public:
     template<class Window>
     using Pointer = std::unique_ptr<Window, Deleter>;
 
-    /// The size is in device-independent pixels; a screen that is smaller makes it smaller.
-    /// `screenLocator` must outlive the window.
+    /// `size` is in device-independent pixels; on a smaller screen the window is smaller. `onClose`
+    /// is called each time the window closes. `screenLocator` must outlive the window.
     ShellWindow(const ScreenLocator &screenLocator, QSize size, std::function<void()> onClose);
 
     /// Changes the size, which a smaller screen limits as well.

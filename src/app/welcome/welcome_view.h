@@ -18,8 +18,8 @@ class SessionAbilities;
 class TextLabel;
 
 /// The guide: a picture, a title and a text for each step, and buttons to go through them. Where
-/// the session is not able to do what a step describes, the step says that, too. Both that it is
-/// given must outlive it.
+/// the session is not able to do what a step describes, the step says that, too. `motion` and
+/// `abilities` must outlive it.
 class WelcomeView : public QWidget {
     Q_OBJECT
 

@@ -11,7 +11,7 @@ class SessionAbilities;
 class WelcomeView;
 
 /// Owns the window of the guide. Finishing the guide and closing the window are the same. Main
-/// thread only; everything that it is given must outlive it.
+/// thread only; everything that the constructor is given must outlive it.
 class WelcomeWindowController {
 public:
     static constexpr QSize contentSize{520, 560};

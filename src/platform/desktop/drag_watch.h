@@ -7,15 +7,16 @@ namespace corvane {
 /// How a watch knows that a drag is over.
 enum class DragEnd {
     Seen,
-    /// It could not be seen, and nothing was heard of the drag for a while: it may go on.
+    /// The end could not be seen, and nothing was heard of the drag for a while; it may still go
+    /// on.
     Assumed,
 };
 
 /// Notices when the user drags something with another program's contents, anywhere on the desktop,
-/// and when that is over. Each kind of session has its own way to find that out. Main thread only.
+/// and when that is over. Each kind of session implements it in its own way. Main thread only.
 ///
-/// Where the end cannot be seen the watch assumes one after a time. A drag that comes over a panel
-/// after that goes on after all: its end is reported once more.
+/// If the end cannot be seen the watch assumes one after some time. If the drag then comes over a
+/// panel, it was not over: its end is reported once more.
 class DragWatch {
 public:
     virtual ~DragWatch() = default;
@@ -26,13 +27,14 @@ public:
     /// Stops watching; may be called several times. If a drag is going on, its end is not reported.
     virtual void stop() = 0;
 
-    /// A drag of our own has begun, or is over. None of those is ever reported.
+    /// To be called when a drag of our own has begun and when it is over; the callbacks are not
+    /// called for those.
     virtual void ownDrag(bool isUnderWay) = 0;
-    /// A drag of another program has come over a panel, or has left it or was dropped there. As
-    /// long as it is there no end of it is assumed.
+    /// To be called when another program's drag has come over a panel, and when it has left it or
+    /// was dropped there. While it is over a panel no end is assumed.
     virtual void overPanel(bool isOver) = 0;
 
-    /// Each may be left empty, and may destroy the watch.
+    /// Both may be empty, and may destroy the watch.
     std::function<void()> onDragBegan;
     std::function<void(DragEnd)> onDragEnded;
 };

@@ -29,9 +29,9 @@ public:
     using OutcomeObserver = std::function<void(const ShortcutOutcome &)>;
 
     struct Registration {
-        /// Pending where the desktop takes its time.
+        /// Pending if the desktop answers later.
         ShortcutOutcome outcome;
-        /// Gives the combination up when it ends. Must not outlive the service.
+        /// The combination is released when it ends. Must not outlive the service.
         Subscription subscription;
     };
 
@@ -51,12 +51,12 @@ public:
     /// key are not reported. Handlers cannot be removed. None if the service is not available.
     virtual std::optional<HandlerRef> installHandler(Handler onPressed) = 0;
 
-    /// Takes a combination for us alone: a key and modifier bits as shortcuts store them. Refused
-    /// if it is taken, by another program or by a registration of our own, if no keyboard can type
-    /// it, if its key is itself a modifier, or if it types a character.
+    /// Registers a combination of a key and modifier bits as shortcuts store them. Refused if
+    /// another program or another registration of ours has it, if no keyboard can type it, if its
+    /// key is itself a modifier, or if it types a character.
     ///
-    /// The observer is called after this has returned, each time the outcome has become another
-    /// one, as long as the subscription lasts.
+    /// The observer is called each time the outcome changes after this has returned, until the
+    /// subscription ends.
     [[nodiscard]] virtual Registration registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
                                                       const HotKeyIdentifier &identifier,
                                                       OutcomeObserver onOutcome)

@@ -41,7 +41,7 @@ public:
 
     virtual ~KeyMonitors() = default;
 
-    /// A monitor until the subscription ends, which the handler may do.
+    /// The handler is called until the subscription ends, which may happen inside of it.
     virtual Subscription addLocalMonitor(Handler handler) = 0;
 };
 

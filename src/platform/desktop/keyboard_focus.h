@@ -34,11 +34,11 @@ public:
     /// Gives the keyboard to the owner; the panel loses it even if the owner is gone. True if a
     /// window manager was asked to do that; it may do it after other requests for the keyboard.
     virtual bool giveBackTo(const Owner &owner) = 0;
-    /// Asks for an answer as soon as the window manager has done what it does about everything that
-    /// has happened by now. Whether there is one who is asked.
+    /// Asks the window manager to answer when it has reacted to everything that has happened so
+    /// far. False if no window manager runs.
     virtual bool askForAnswer() = 0;
-    /// Calls back each time that something asked for with `giveBackTo` has been done, and for each
-    /// `askForAnswer`; in the order of asking.
+    /// Calls back each time the window manager has done what `giveBackTo` asked for, and each time
+    /// it has answered `askForAnswer`; in the order in which it was asked.
     virtual void observeAnswers(std::function<void()> callback) = 0;
 
     /// Qt cannot always tell a repeat's release from the user's.

@@ -91,8 +91,8 @@ void KeyboardLoan::windowWillHide(WindowNumber window)
     const WindowNumber behind = std::exchange(m_behindWindow, WindowNumber::None);
     if (!isShown(behind) || m_focus.focusedWindow() != window)
         return;
-    // Before it is hidden: once it is, the window manager chooses among its own windows, and panels
-    // are none of them.
+    // Before the window is hidden: after that, the window manager gives the keyboard to a window
+    // that it manages, and panels are none.
     m_focus.giveTo(behind);
     m_wantedMeanwhile = behind;
     m_isOwnChoiceAwaited = true;
@@ -100,7 +100,8 @@ void KeyboardLoan::windowWillHide(WindowNumber window)
 
 void KeyboardLoan::windowHidden()
 {
-    // Some window managers choose all the same, and have the keyboard given to nobody.
+    // Some window managers, when they hear that the window is gone, give the keyboard to another
+    // window or to none, although a panel has it.
     if (m_isOwnChoiceAwaited && m_focus.askForAnswer())
         awaitAnswer();
     else if (m_awaitedAnswers == 0)
@@ -236,7 +237,7 @@ void KeyboardLoan::answered()
 
 void KeyboardLoan::answerIsOverdue()
 {
-    // The user may have chosen somebody since, but not nobody.
+    // If another window has it, the user may have gone there meanwhile.
     if (m_isOwnChoiceAwaited && m_wantedMeanwhile && m_focus.focusedWindow() == WindowNumber::None)
         m_focus.giveTo(*m_wantedMeanwhile);
     forgetAnswers();

@@ -21,11 +21,11 @@ class MainQueue;
 ///     with a panel --a window of ours opens--> with that window
 ///     with that window --it hides--> with the panel, if that is still shown
 ///
-/// A window manager that is asked to activate the owner may do so late, after a panel has asked for
-/// the keyboard again; one that hears of a hidden window may choose the next one by itself. Then
-/// the panel is given it once more.
+/// A window manager that is asked to activate the owner may do that after a panel has asked for the
+/// keyboard again. And when a window of ours hides, a window manager may give the keyboard to a
+/// window that it chooses, or to none. In both cases that panel is given it once more.
 ///
-/// Both that it is given must outlive it. Main thread only.
+/// The focus and the queue must outlive it. Main thread only.
 class KeyboardLoan {
 public:
     /// In seconds: how long a window manager may take to give the keyboard to the window that the
@@ -60,15 +60,15 @@ public:
     /// keyboard where the click puts it.
     void userWentOn(WindowNumber panel);
 
-    /// A window of ours that the window manager knows opens, as a preview does, and is given the
-    /// keyboard there. One at a time.
+    /// To be called before a window of ours opens that the window manager manages and gives the
+    /// keyboard to, such as a preview. One at a time.
     void windowOpens();
-    /// Called while that window is still on screen: it has the keyboard until then, unless the user
-    /// went on. `windowHidden` follows at once.
+    /// To be called while that window is still on screen, right before it is hidden; after that,
+    /// `windowHidden`.
     void windowWillHide(WindowNumber window);
     void windowHidden();
 
-    /// The left button went down on a panel, which has not done anything for it yet.
+    /// The left button went down on a panel; to be called before the panel reacts.
     void pressed();
     /// The drag that began with that press is over. `promised` is what the target would do.
     void dragLetGo(DragOperation promised);
@@ -119,9 +119,10 @@ private:
     int m_awaitedAnswers = 0;
     /// The panel that asked for the keyboard while answers were awaited.
     std::optional<WindowNumber> m_wantedMeanwhile;
-    /// Who had it when a window of ours opened, and whether the window manager may now choose
-    /// somebody because that is hidden.
+    /// The window that had the keyboard when a window of ours opened.
     WindowNumber m_behindWindow = WindowNumber::None;
+    /// A window of ours was hidden, and the window manager may now give the keyboard to a window
+    /// that it chooses, or to none.
     bool m_isOwnChoiceAwaited = false;
     bool m_wasWithPanelBeforePress = false;
     /// Escape ended a drag and is still held. The keyboard is given back when it is released, so

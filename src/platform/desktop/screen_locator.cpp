@@ -6,7 +6,7 @@ namespace corvane {
 
 ScreenLocator::Notch ScreenLocator::notch(const ScreenPointer &screen)
 {
-    // Written so that an inset that is no number counts as none.
+    // Not "inset <= 0": an inset that is not a number counts as none, too.
     if (!screen || !(screen->safeAreaInsets.top > 0))
         return {};
     const double inset = screen->safeAreaInsets.top;

@@ -4,8 +4,8 @@
 
 namespace corvane {
 
-/// Says which screen the user is on: the shelf appears there. Each kind of session has its own way
-/// to find that out. Main thread only.
+/// Finds the screen that the user is on, where the shelf appears. Each kind of session implements
+/// it in its own way. Main thread only.
 class ScreenLocator {
 public:
     struct Notch {
@@ -19,9 +19,10 @@ public:
 
     virtual ~ScreenLocator() = default;
 
-    /// None where no screen is attached.
+    /// Null when no screen is attached.
     virtual ScreenPointer activeScreen() const = 0;
 
+    /// The notch of a screen; all 0 for null and for a screen without one.
     static Notch notch(const ScreenPointer &screen);
 };
 

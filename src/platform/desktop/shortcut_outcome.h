@@ -6,17 +6,16 @@ namespace corvane {
 
 /// Why a shortcut is refused.
 enum class ShortcutRefusal {
-    /// Another program has it, or another shortcut of ours, or nobody can have it: no keyboard has
-    /// its keys.
+    /// Another program or another shortcut of ours has it, or no keyboard can type it.
     Taken,
     /// It types a character: none of Command, Option and Control is held.
     TypesCharacter,
 };
 
-/// What has become of a shortcut that was to be bound.
+/// Whether a shortcut is bound, and if not, why.
 struct ShortcutOutcome {
     enum class Kind {
-        /// There is none, or it was never bound.
+        /// No shortcut is stored, or it was not tried yet.
         Unset,
         /// The desktop has not answered yet.
         Pending,
@@ -27,10 +26,11 @@ struct ShortcutOutcome {
     };
 
     Kind kind = Kind::Unset;
-    /// Of one that is refused.
+    /// Only for a refused shortcut.
     ShortcutRefusal why = ShortcutRefusal::Taken;
-    /// Of one that is bound how the desktop names its keys, empty where they are those that were
-    /// asked for. Of one that is set in the desktop the command that a key is to be bound to there.
+    /// For a bound shortcut, how the desktop names its keys; empty if they are those that were
+    /// asked for. For one that is set in the desktop, the command that the user binds a key to
+    /// there.
     QString text = {};
 
     static ShortcutOutcome pending() { return {.kind = Kind::Pending}; }

@@ -88,7 +88,7 @@ int main(int argc, char **argv)
         return 128 + received;
     const QString name = arguments.takeFirst();
     const int status = desktop.runToEnd(name, arguments, desktop.environment(), commandRuns);
-    // The command's number may be somebody else's from now on, and the desktop is ending anyway.
+    // The process id may be reused from now on, and the desktop is ending anyway.
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         std::signal(number, SIG_IGN);
     return status;

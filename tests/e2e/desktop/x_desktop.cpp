@@ -58,9 +58,9 @@ void XDesktop::startServer(const DesktopKind &kind)
         u"0"_s,          u"%1x%2x24"_s.arg(kind.size.width()).arg(kind.size.height())};
     if (!kind.missingExtension.isEmpty())
         arguments << u"-extension"_s << kind.missingExtension;
-    // The server picks a free number by itself and writes it where it is told to.
+    // The server picks a free display number and writes it to its output.
     m_xvfb = start(u"Xvfb"_s, arguments);
-    // Its messages come the same way; a line with nothing but a number is the answer.
+    // Its messages are there, too; the number is on a line of its own.
     QByteArray number;
     const bool told = eventually([&] {
         for (const QByteArray &line : m_xvfb->output().split('\n')) {
