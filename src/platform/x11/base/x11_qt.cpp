@@ -9,6 +9,7 @@
 #include <poll.h>
 #include <xcb/xcbext.h>
 
+#include <ctime>
 #include <optional>
 
 namespace corvane::x11_qt {
@@ -26,6 +27,8 @@ struct Overdue {
     unsigned int sequence = 0;
 };
 std::optional<Overdue> overdue;
+
+constexpr timespec leaveToReader = {.tv_sec = 0, .tv_nsec = 50'000};
 
 } // namespace
 
@@ -94,7 +97,9 @@ void *answerTo(unsigned int sequence)
         }
         // A thread of Qt's reads what comes, so that there may be no more to be seen of it here.
         pollfd waiting = {xcb_get_file_descriptor(qt), POLLIN, 0};
-        ::poll(&waiting, 1, 1);
+        // What has come stays readable until that thread runs: leave it the processor.
+        if (::poll(&waiting, 1, 1) > 0)
+            ::ppoll(nullptr, 0, &leaveToReader, nullptr);
     }
     const X11Reply<xcb_generic_error_t> ignored(error);
     return answer;
