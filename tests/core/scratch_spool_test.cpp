@@ -350,6 +350,23 @@ TEST_F(ScratchSpoolTest, WhatIsGivenAwayGoesWithTheDirectoryAlone)
     loan = spool.lend({*file});
     spool.discardAll();
     EXPECT_FALSE(exists(directory()));
+    const auto later = spool.store("3", image, png);
+    EXPECT_EQ(later, file);
+    spool.discard(*later);
+    EXPECT_FALSE(exists(*later)) << "nobody was told of this one";
+}
+
+TEST_F(ScratchSpoolTest, GivesNoNameOutAgainThatAnotherProgramWasToldOf)
+{
+    // No item has them: they are pictures that were saved for others.
+    const auto lent = spool.reserve(image, png);
+    auto loan = spool.lend({*lent});
+    const auto given = spool.reserve(image, png);
+    EXPECT_EQ(nameOf(given), QStringLiteral("Image 2.png"));
+    spool.giveAway({*given});
+    EXPECT_EQ(nameOf(spool.reserve(image, png)), QStringLiteral("Image 3.png"));
+    loan.reset();
+    EXPECT_EQ(spool.reserve(image, png), lent);
 }
 
 TEST_F(ScratchSpoolTest, LendsTheFileThatWasMadeInsteadOfTheOneThatWasLent)
