@@ -1,5 +1,6 @@
 #include "e2e/desktop/program.h"
 #include "fakes/fake_hot_keys.h"
+#include "fakes/test_clock.h"
 #include "platform/display.h"
 #include "platform/qt/base/qt_main_queue.h"
 #include "platform/silent_server.h"
@@ -519,6 +520,41 @@ TEST_F(X11HotKeysTest, aServerThatKeepsSilentForAMomentCostsNoKey)
         return !heard.empty();
     }));
     EXPECT_TRUE(eventually([&] { return told == QList{ShortcutOutcome::bound()}; }));
+    EXPECT_FALSE(keyboard.isFree(keyK, command | control));
+}
+
+TEST_F(X11HotKeysTest, aServerThatKeepsSilentForLongerIsAskedAgainUntilItAnswers)
+{
+    TestClock clock;
+    X11Connection connection;
+    std::optional<X11HotKeys> later;
+    HotKeyService::Registration registration;
+    QList<ShortcutOutcome> told;
+    EXPECT_TRUE(endsWhileTheServerStandsStill(connection.get(), [&] {
+        later.emplace(connection, clock);
+        registration
+            = later->registerHotKey(keyK.code, command | control, {},
+                                    [&](const ShortcutOutcome &outcome) { told << outcome; });
+        // The modifiers are not known yet.
+        clock.advance(1);
+    }));
+    EXPECT_TRUE(eventually([&] {
+        clock.advance(1);
+        return told == QList{ShortcutOutcome::bound()};
+    }));
+    told.clear();
+    EXPECT_TRUE(endsWhileTheServerStandsStill(connection.get(), [&] {
+        later->suspend().reset();
+        clock.advance(1);
+    }));
+    EXPECT_EQ(told, QList{ShortcutOutcome::pending()});
+    EXPECT_TRUE(eventually([&] { return connection.atom("CORVANE_AWAKE") != XCB_NONE; }));
+    auto suspension = later->suspend();
+    clock.advance(2);
+    EXPECT_EQ(told, QList{ShortcutOutcome::pending()}) << "not while it is suspended";
+    EXPECT_TRUE(keyboard.isFree(keyK, command | control));
+    suspension.reset();
+    EXPECT_EQ(told, (QList{ShortcutOutcome::pending(), ShortcutOutcome::bound()}));
     EXPECT_FALSE(keyboard.isFree(keyK, command | control));
 }
 
