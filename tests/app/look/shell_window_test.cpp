@@ -1,5 +1,8 @@
 #include "app/look/shell_window.h"
+#include "app/widget_hands.h"
 #include "fakes/user_screens.h"
+
+#include <QPointer>
 
 #include <gtest/gtest.h>
 
@@ -56,6 +59,26 @@ TEST_F(ShellWindowTest, IsNoLargerThanTheUsersScreenHasRoomForATitleBarToo)
     EXPECT_EQ(low.size(), QSize(1000, 660 - 64));
     low.setContentSize({1700, 300});
     EXPECT_EQ(low.size(), QSize(1600, 300));
+}
+
+TEST_F(ShellWindowTest, GoesAtOnceUnlessItsOwnerLetsGoOfItWhileItCloses)
+{
+    ShellWindow::Pointer<ShellWindow> window(new ShellWindow(screens.locator, {300, 200}, {}));
+    window->present();
+    window->close();
+    QPointer<ShellWindow> alive(window.get());
+    window.reset();
+    EXPECT_FALSE(alive) << "it was closed before";
+
+    window.reset(new ShellWindow(screens.locator, {300, 200}, [&] { window.reset(); }));
+    alive = window.get();
+    alive->present();
+    alive->close();
+    EXPECT_FALSE(window);
+    ASSERT_TRUE(alive);
+    EXPECT_FALSE(alive->isEnabled()) << "keys on their way reach nothing";
+    deletePending();
+    EXPECT_FALSE(alive);
 }
 
 TEST_F(ShellWindowTest, HasItsSizeAlsoWhereThereIsNoScreen)

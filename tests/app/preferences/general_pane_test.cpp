@@ -3,6 +3,7 @@
 #include "app/preferences/clear_button.h"
 #include "app/preferences/general_pane.h"
 #include "app/preferences/number_picker.h"
+#include "app/preferences/preference_section.h"
 #include "app/preferences/setting_row.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "app/preferences/shortcut_row.h"
@@ -11,6 +12,8 @@
 #include "app/widget_hands.h"
 #include "fakes/lacking_abilities.h"
 #include "fakes/preferences_desk.h"
+
+#include <QLayout>
 
 #include <gtest/gtest.h>
 
@@ -227,6 +230,13 @@ TEST_F(GeneralPaneTest, TheDesktopsLaterAnswerIsShownWhenItComes)
     EXPECT_EQ(shelfRow().detail(), needsText);
 }
 
+TEST_F(GeneralPaneTest, TheDesktopsWordsAreMadeFitToBeShown)
+{
+    desk.hotKeys.firstAnswer = ShortcutOutcome::bound(QStringLiteral("Meta\n\u202eD"));
+    desk.binder.bindShelf();
+    EXPECT_EQ(shelfRow().detail(), QStringLiteral("Your desktop has bound it to Meta \ufffdD."));
+}
+
 TEST_F(GeneralPaneTest, WhereTheDesktopKeepsShortcutsThereIsACommandInsteadOfARecorder)
 {
     desk.hotKeys.firstAnswer = ShortcutOutcome::setInDesktop(QStringLiteral("corvane --toggle"));
@@ -379,6 +389,11 @@ TEST_F(GeneralPaneTest, SaysWhatTheSessionLacksAsLongAsItLacksIt)
             return label->text() == text && label->isVisibleTo(&pane());
         });
     };
+    const auto roomAboveTheSettings = [this] {
+        pane().layout()->activate();
+        return pane().findChild<PreferenceSection *>()->y();
+    };
+    EXPECT_EQ(roomAboveTheSettings(), 0);
     const Abilities lacking = lackingAbilities(Reason::ServerLacksExtensions);
     const QStringList limits = session_texts::limits(lacking);
     ASSERT_EQ(limits.size(), 4);
@@ -387,6 +402,7 @@ TEST_F(GeneralPaneTest, SaysWhatTheSessionLacksAsLongAsItLacksIt)
     desk.abilities.become(lacking);
     for (const QString &limit : limits)
         EXPECT_TRUE(says(limit)) << limit.toStdString();
+    EXPECT_GT(roomAboveTheSettings(), 0);
     Abilities better = lacking;
     better.drags = {};
     desk.abilities.become(better);
@@ -394,6 +410,7 @@ TEST_F(GeneralPaneTest, SaysWhatTheSessionLacksAsLongAsItLacksIt)
     EXPECT_TRUE(says(limits[1]));
     desk.abilities.become({});
     EXPECT_FALSE(says(limits[1]));
+    EXPECT_EQ(roomAboveTheSettings(), 0);
 }
 
 TEST_F(GeneralPaneTest, EveryControlHasANameAndADescription)
