@@ -27,8 +27,7 @@ QList<QUrl> spooledFiles(const QList<DropItem> &items)
 {
     QList<QUrl> files;
     for (const DropItem &item : items) {
-        const bool isOurs = item.isSpooled() || item.isBeingMade();
-        if (isOurs && std::holds_alternative<DropItem::File>(item.payload()))
+        if (item.isSpooled() && std::holds_alternative<DropItem::File>(item.payload()))
             files << urlOf(item);
     }
     return files;

@@ -68,11 +68,8 @@ void GeneralPane::showAbilities()
 {
     qDeleteAll(m_limits->findChildren<TextLabel *>());
     const QStringList limits = session_texts::limits(m_context.abilities.now());
-    for (const QString &limit : limits) {
-        QWidget *notice = makeNotice(limit);
-        m_limits->layout()->addWidget(notice);
-        notice->show();
-    }
+    for (const QString &limit : limits)
+        m_limits->layout()->addWidget(makeNotice(limit));
     m_limits->setVisible(!limits.isEmpty());
     for (ShortcutRow *row : {m_shelfShortcut, m_viewAllShortcut})
         row->setRecordable(m_context.abilities.now().shortcutChoice.isFull());
