@@ -217,6 +217,16 @@ TEST_F(DragsOfUnknownEndTest, AfterAnEndThatWasSeenNothingOpensTheShelfButANewDr
     EXPECT_EQ(store.state(), ShelfState::Expanded);
 }
 
+TEST_F(DragsOfUnknownEndTest, ADragThatWasSeenToBeginDoesNotBeginAgainOverTheShelf)
+{
+    dim.began();
+    dim.ended(DragEnd::Assumed);
+    dim.began();
+    log.clear();
+    EXPECT_EQ(enter(), DragOperation::Copy);
+    EXPECT_EQ(log, QStringList());
+}
+
 TEST_F(DragsOfUnknownEndTest, AShelfThatIsNotToOpenForDragsDoesNotOpenForOneThatComesBack)
 {
     settings.setAutoShowOnDrag(false);
@@ -255,6 +265,19 @@ TEST_F(DragsOfUnknownEndTest, TheWatchIsToldOfDragsOverTheShelfAndOfOwnDrags)
     store.ownDragChanged(true);
     store.ownDragChanged(false);
     EXPECT_EQ(dim.log, (QStringList{QStringLiteral("own 1"), QStringLiteral("own 0")}));
+}
+
+TEST_F(DragsOfUnknownEndTest, OnceTheDelegateIsGoneNobodyIsToldAndNothingOpensTheShelf)
+{
+    dim.began();
+    dim.ended(DragEnd::Assumed);
+    dim.log.clear();
+    delegate.reset();
+    EXPECT_EQ(enter(), DragOperation::None);
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+    store.ownDragChanged(true);
+    EXPECT_EQ(dim.log, QStringList());
+    EXPECT_FALSE(hud->onDragOver || hud->onAwaitsDrop || hud->onPointerInside || hud->onUsed);
 }
 
 TEST_F(AppDelegateTest, StartsTheUpdaterOnceTheSettingsHaveTheirDefaults)
@@ -488,6 +511,17 @@ TEST_F(AppDelegateTest, TheMenuDoesNothingOnceItIsGone)
     EXPECT_TRUE(statusItem.choose(u"Show Shelf"));
     EXPECT_TRUE(statusItem.choose(u"Quit Corvane"));
     EXPECT_TRUE(log.isEmpty());
+}
+
+TEST_F(AppDelegateTest, TheMenuShowsNothingOnceTheDelegateIsGone)
+{
+    statusItem.open();
+    delegate.reset();
+    for (const auto *const entry : {u"Show Shelf", u"Preferences", u"How It Works"})
+        EXPECT_TRUE(statusItem.choose(entry));
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+    EXPECT_EQ(windows.preferences(), nullptr);
+    EXPECT_EQ(windows.welcome(), nullptr);
 }
 
 TEST_F(AppDelegateTest, TerminationStopsTheMonitorAndRemovesTheSpool)
