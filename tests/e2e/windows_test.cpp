@@ -69,6 +69,24 @@ TEST_P(Windows, theGuideIsReadWithTheKeyboardAlone)
     EXPECT_TRUE(waitUntilGone(welcomeSize));
 }
 
+TEST_P(Windows, theGuideIsMovedByItsGround)
+{
+    startForTheFirstTime();
+    ASSERT_TRUE(waitUntilActive(welcomeSize));
+    const QRect before = window(welcomeSize).value_or(WindowFacts{}).frame;
+    hands().moveTo(before.bottomLeft() + QPoint(8, -8));
+    hands().press(1);
+    // By more than a click that slips.
+    hands().moveBy({30, 0});
+    const auto movedBy
+        = [&] { return window(welcomeSize).value_or(WindowFacts{}).frame.x() - before.x(); };
+    EXPECT_TRUE(eventually([&] {
+        hands().moveBy({5, 0});
+        return movedBy() > 40;
+    }));
+    hands().release(1);
+}
+
 TEST_P(Windows, preferencesAreChangedWithTheKeyboardAlone)
 {
     start();

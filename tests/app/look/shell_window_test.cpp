@@ -70,13 +70,14 @@ TEST_F(ShellWindowTest, GoesAtOnceUnlessItsOwnerLetsGoOfItWhileItCloses)
     window.reset();
     EXPECT_FALSE(alive) << "it was closed before";
 
-    window.reset(new ShellWindow(screens.locator, {300, 200}, [&] { window.reset(); }));
-    alive = window.get();
-    alive->present();
-    alive->close();
+    auto &closing = *new ShellWindow(screens.locator, {300, 200}, [&] { window.reset(); });
+    window.reset(&closing);
+    alive = &closing;
+    closing.present();
+    closing.close();
     EXPECT_FALSE(window);
     ASSERT_TRUE(alive);
-    EXPECT_FALSE(alive->isEnabled()) << "keys on their way reach nothing";
+    EXPECT_FALSE(closing.isEnabled()) << "keys on their way reach nothing";
     deletePending();
     EXPECT_FALSE(alive);
 }

@@ -89,6 +89,20 @@ TEST_F(X11ConnectionTest, anAnswerThatDoesNotComeIsNotWaitedForForEver)
     EXPECT_NE(connection.serverTime(), xcb_timestamp_t{XCB_CURRENT_TIME});
 }
 
+TEST_F(X11ConnectionTest, ofAllThatIsAskedInOneSilenceTheFirstAloneIsWaitedFor)
+{
+    for (int silence = 0; silence < 2; ++silence) {
+        // Far longer than the server stands still, were each of them waited for.
+        EXPECT_TRUE(endsWhileTheServerStandsStill([&] {
+            for (int i = 0; i < 300; ++i) {
+                EXPECT_FALSE(hasAnswer());
+                EXPECT_EQ(connection.serverTime(), xcb_timestamp_t{XCB_CURRENT_TIME});
+            }
+        }));
+        EXPECT_TRUE(eventually([this] { return hasAnswer(); }));
+    }
+}
+
 TEST_F(X11ConnectionTest, anAnswerOnTheToolkitsConnectionIsNotWaitedForForEver)
 {
     const auto hasAnswerThere = [] {
