@@ -2,12 +2,22 @@
 
 #include "platform/desktop/panel_placement.h"
 
+#include <QPoint>
 #include <QRegion>
+#include <QSize>
 
 class QScreen;
 class QWindow;
 
 namespace corvane {
+
+/// The window of a panel that was placed. It may be larger than the panel: the rest of it is
+/// transparent and takes no clicks. In Qt's device-independent pixels.
+struct PanelSpace {
+    QSize window;
+    /// The panel's top left in the window.
+    QPoint panel;
+};
 
 /// Makes windows into panels: they float above everything, on every workspace and over full-screen
 /// windows, are in no task list, and do not get the keyboard when they are shown. There is one for
@@ -20,9 +30,9 @@ public:
     /// its platform window.
     virtual void adopt(QWindow &window) = 0;
 
-    /// Turns the placement into the window system's own terms. The window's size becomes
-    /// `inWholePoints(placement.size)`.
-    virtual void place(QWindow &window, const PanelPlacement &placement) = 0;
+    /// Turns the placement into the window system's own terms. The panel's size in its window
+    /// becomes `inWholePoints(placement.size)`.
+    virtual PanelSpace place(QWindow &window, const PanelPlacement &placement) = 0;
     /// The window's screen, also where the window system chose it; null when it is on none.
     virtual QScreen *screenOf(const QWindow &window) const = 0;
 

@@ -1,7 +1,6 @@
 #include "platform/qt/desktop/panel_drop_target.h"
 
 #include "platform/desktop/panel_window.h"
-#include "platform/qt/desktop/qt_geometry.h"
 #include "platform/qt/pasteboard/qt_pasteboard.h"
 
 #include <QDropEvent>
@@ -39,10 +38,9 @@ Result guarded(Result fallback, Function ask)
     }
 }
 
-DraggingInfo infoFrom(const QDropEvent &event, double panelHeight, Pasteboard &pasteboard)
+DraggingInfo infoFrom(const QDropEvent &event, QPointF location, Pasteboard &pasteboard)
 {
-    return {pasteboard, qt_geometry::flipped(event.position(), panelHeight),
-            event.source() != nullptr};
+    return {pasteboard, location, event.source() != nullptr};
 }
 
 } // namespace
@@ -78,7 +76,7 @@ std::unique_ptr<Pasteboard> PanelDropTarget::pasteboardOf(const QDropEvent &even
     return pasteboard;
 }
 
-void PanelDropTarget::enter(QDragEnterEvent &event, double panelHeight)
+void PanelDropTarget::enter(QDragEnterEvent &event, QPointF location)
 {
     leave();
     m_state = State::Refused;
@@ -87,28 +85,28 @@ void PanelDropTarget::enter(QDragEnterEvent &event, double panelHeight)
         return;
     const auto pasteboard = pasteboardOf(event);
     const auto answer = guarded(DragOperation::None, [&] {
-        return m_content->draggingEntered(infoFrom(event, panelHeight, *pasteboard));
+        return m_content->draggingEntered(infoFrom(event, location, *pasteboard));
     });
-    m_location = qt_geometry::flipped(event.position(), panelHeight);
+    m_location = location;
     if (answer != DragOperation::None && acceptAsCopy(event))
         m_state = State::Accepted;
 }
 
-void PanelDropTarget::move(QDragMoveEvent &event, double panelHeight)
+void PanelDropTarget::move(QDragMoveEvent &event, QPointF location)
 {
     event.ignore();
     if (m_state != State::Accepted || !m_content)
         return;
-    m_location = qt_geometry::flipped(event.position(), panelHeight);
+    m_location = location;
     const auto pasteboard = pasteboardOf(event);
     const auto answer = guarded(DragOperation::None, [&] {
-        return m_content->draggingUpdated(infoFrom(event, panelHeight, *pasteboard));
+        return m_content->draggingUpdated(infoFrom(event, location, *pasteboard));
     });
     if (answer != DragOperation::None)
         acceptAsCopy(event);
 }
 
-void PanelDropTarget::drop(QDropEvent &event, double panelHeight)
+void PanelDropTarget::drop(QDropEvent &event, QPointF location)
 {
     event.ignore();
     const State state = std::exchange(m_state, State::Outside);
@@ -117,7 +115,7 @@ void PanelDropTarget::drop(QDropEvent &event, double panelHeight)
     if (state == State::Accepted) {
         QtPasteboard pasteboard(event.mimeData());
         const bool isTaken = guarded(false, [&] {
-            return m_content->performDragOperation(infoFrom(event, panelHeight, pasteboard));
+            return m_content->performDragOperation(infoFrom(event, location, pasteboard));
         });
         if (isTaken)
             acceptAsCopy(event);

@@ -42,10 +42,10 @@ public:
     /// With null everything is refused, also drops that are on their way.
     void setContent(PanelContent *content);
 
-    /// `panelHeight` in points, to turn the events' places over.
-    void enter(QDragEnterEvent &event, double panelHeight);
-    void move(QDragMoveEvent &event, double panelHeight);
-    void drop(QDropEvent &event, double panelHeight);
+    /// `location` in the panel's coordinates.
+    void enter(QDragEnterEvent &event, QPointF location);
+    void move(QDragMoveEvent &event, QPointF location);
+    void drop(QDropEvent &event, QPointF location);
     void leave();
 
     bool needsAddresses(const QStringList &types) const override;

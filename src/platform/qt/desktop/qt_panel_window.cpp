@@ -1,7 +1,6 @@
 #include "platform/qt/desktop/qt_panel_window.h"
 
 #include "platform/base/main_queue.h"
-#include "platform/base/whole_points.h"
 #include "platform/desktop/compositing.h"
 #include "platform/desktop/keyboard_loan.h"
 #include "platform/desktop/panel_surface.h"
@@ -53,9 +52,14 @@ void QtPanelWindow::setContent(PanelContent *content)
 
 void QtPanelWindow::place(const PanelPlacement &placement)
 {
+    const QRect before = toWindow({{}, m_frame.size()});
     m_frame = frameOf(placement);
-    m_canvas->setCanvasSize(inWholePoints(placement.size));
-    m_desktop.surface.place(*m_canvas, placement);
+    const PanelSpace space = m_desktop.surface.place(*m_canvas, placement);
+    m_origin = space.panel;
+    m_canvas->setCanvasSize(space.window);
+    // Where the window stays as it is, its panel has moved in it.
+    if (const QRect now = toWindow({{}, m_frame.size()}); now != before)
+        m_canvas->repaintSoon(before | now);
     updateRegions();
 }
 
@@ -122,7 +126,7 @@ void QtPanelWindow::userWentOn()
 
 void QtPanelWindow::setNeedsDisplay(const QRectF &rect)
 {
-    m_canvas->repaintSoon(qt_geometry::flipped(rect, m_frame.height()).toAlignedRect());
+    m_canvas->repaintSoon(toWindow(rect));
 }
 
 void QtPanelWindow::beginDraggingSession(DragOut drag, DragOutEvents events)
@@ -151,7 +155,17 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, DragOutEvents events)
 QTransform QtPanelWindow::toDevicePixels() const
 {
     const double scale = m_canvas->devicePixelRatio();
-    return QTransform(scale, 0, 0, -scale, 0, m_frame.height() * scale);
+    return QTransform(scale, 0, 0, -scale, m_origin.x() * scale, bottom() * scale);
+}
+
+QPointF QtPanelWindow::toPanel(QPointF inWindow) const
+{
+    return qt_geometry::flipped(inWindow, bottom()) - QPointF(m_origin.x(), 0);
+}
+
+QRect QtPanelWindow::toWindow(const QRectF &inPanel) const
+{
+    return qt_geometry::flipped(inPanel.translated(m_origin.x(), 0), bottom()).toAlignedRect();
 }
 
 void QtPanelWindow::updateRegions()
@@ -186,7 +200,7 @@ void QtPanelWindow::paint(QPainter &painter)
 {
     if (!m_content)
         return;
-    painter.translate(0, m_frame.height());
+    painter.translate(m_origin.x(), bottom());
     painter.scale(1, -1);
     m_content->paint(painter, m_frame.size(), m_canvas->devicePixelRatio());
 }

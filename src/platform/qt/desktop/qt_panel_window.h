@@ -61,6 +61,10 @@ private:
     void updateRegions();
     QTransform toDevicePixels() const;
     QPointF middleOfPixel(QPointF position) const;
+    QPointF toPanel(QPointF inWindow) const;
+    QRect toWindow(const QRectF &inPanel) const;
+    /// How far below the window's top edge the panel ends.
+    double bottom() const { return m_origin.y() + m_frame.height(); }
 
     PanelDesktop m_desktop;
     MainQueue &m_queue;
@@ -70,6 +74,8 @@ private:
     PanelDropTarget m_dropTarget;
     WindowNumber m_number = WindowNumber::None;
     QRectF m_frame;
+    /// Where the panel's top left is in its window.
+    QPoint m_origin;
     bool m_isVisible = false;
     bool m_ignoresMouseEvents = false;
     /// None, until it is set, for the whole panel.

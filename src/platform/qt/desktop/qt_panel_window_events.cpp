@@ -19,7 +19,7 @@ namespace corvane {
 QPointF QtPanelWindow::middleOfPixel(QPointF position) const
 {
     const double half = 0.5 / m_canvas->devicePixelRatio();
-    return qt_geometry::flipped(position + QPointF(half, half), m_frame.height());
+    return toPanel(position + QPointF(half, half));
 }
 
 bool QtPanelWindow::handle(QEvent &event)
@@ -107,17 +107,23 @@ void QtPanelWindow::handleWheel(QWheelEvent &event)
 bool QtPanelWindow::handleDrag(QEvent &event)
 {
     switch (event.type()) {
-    case QEvent::DragEnter:
-        m_dropTarget.enter(dynamic_cast<QDragEnterEvent &>(event), m_frame.height());
+    case QEvent::DragEnter: {
+        auto &entering = dynamic_cast<QDragEnterEvent &>(event);
+        m_dropTarget.enter(entering, toPanel(entering.position()));
         return true;
-    case QEvent::DragMove:
-        m_dropTarget.move(dynamic_cast<QDragMoveEvent &>(event), m_frame.height());
+    }
+    case QEvent::DragMove: {
+        auto &moving = dynamic_cast<QDragMoveEvent &>(event);
+        m_dropTarget.move(moving, toPanel(moving.position()));
         return true;
+    }
+    case QEvent::Drop: {
+        auto &drop = dynamic_cast<QDropEvent &>(event);
+        m_dropTarget.drop(drop, toPanel(drop.position()));
+        return true;
+    }
     case QEvent::DragLeave:
         m_dropTarget.leave();
-        return true;
-    case QEvent::Drop:
-        m_dropTarget.drop(dynamic_cast<QDropEvent &>(event), m_frame.height());
         return true;
     default:
         return false;

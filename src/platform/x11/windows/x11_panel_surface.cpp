@@ -89,13 +89,14 @@ void X11PanelSurface::adopt(QWindow &window)
     xcb_flush(qt);
 }
 
-void X11PanelSurface::place(QWindow &window, const PanelPlacement &placement)
+PanelSpace X11PanelSurface::place(QWindow &window, const PanelPlacement &placement)
 {
     const QRectF edge = upperEdge(placement.screen.get());
     const QPointF corner(midX(edge) + placement.fromMiddle - 0.5 * placement.size.width(),
                          edge.y() + placement.fromTop);
     window.setGeometry(inWholePoints(QRectF(corner, placement.size)));
     flushQt();
+    return {inWholePoints(placement.size), {}};
 }
 
 QScreen *X11PanelSurface::screenOf(const QWindow &window) const

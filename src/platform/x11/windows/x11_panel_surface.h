@@ -16,7 +16,7 @@ public:
     }
 
     void adopt(QWindow &window) override;
-    void place(QWindow &window, const PanelPlacement &placement) override;
+    PanelSpace place(QWindow &window, const PanelPlacement &placement) override;
     QScreen *screenOf(const QWindow &window) const override;
     void willShow(QWindow &window) override;
     void didHide(QWindow &window) override;
