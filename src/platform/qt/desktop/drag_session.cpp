@@ -74,6 +74,13 @@ void runDragSession(QWindow &window, const DragOut &drag, DragSupport *support,
     const std::size_t writers = drag.contents.writers.size();
     PasteboardForms forms = formsOf(drag.contents, PasteboardKind::Drag);
     auto mimeData = mimeDataFor(forms);
+    if (!support && drag.whenReady) {
+        // Nobody would have a target wait for what is still being made: it would be given what only
+        // stands for it.
+        events.released(DragOperation::None);
+        events.ended({});
+        return;
+    }
     if (!support) {
         const Qt::DropAction action = execute(window, drag, std::move(mimeData));
         events.released(promisedBy(action));

@@ -19,7 +19,8 @@ struct DragSessionEvents {
 
 /// Drags `drag` out of `window`. Returns when the user has let go; until then an event loop of its
 /// own runs. `ended` may be called later. With a support it reports the target's own message about
-/// the end; without one what the target said while the drag was over it.
+/// the end; without one what the target said while the drag was over it, and
+/// contents that are still being made are not dragged.
 ///
 /// Copy and link are offered, but not move: a file manager would take the file away although its
 /// item may stay on the shelf. `window` may be destroyed meanwhile.
