@@ -3,7 +3,6 @@
 #include "platform/base/checked_math.h"
 #include "platform/x11/base/x11_qt.h"
 
-#include <xcb/xfixes.h>
 #include <xcb/xinput.h>
 
 #include <algorithm>
@@ -31,6 +30,7 @@ std::uint32_t maskFor(bool hearsMotion)
 
 X11DragDesktop::X11DragDesktop(X11Connection &connection)
     : m_connection(connection)
+    , m_selection(connection, [this] { m_changeCount = checkedAdd(m_changeCount, qint64{1}); })
     , m_listener(
           connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
 {
@@ -38,11 +38,6 @@ X11DragDesktop::X11DragDesktop(X11Connection &connection)
     if (!m_connection.isConnected())
         return;
     readButtonMapping();
-    if (m_connection.hasXFixes())
-        xcb_xfixes_select_selection_input(m_connection.get(), m_connection.root(),
-                                          m_connection.atom("XdndSelection"),
-                                          XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER);
-    m_connection.flush();
 }
 
 X11DragDesktop::~X11DragDesktop()
@@ -107,9 +102,7 @@ unsigned X11DragDesktop::pressedMouseButtons() const
 void X11DragDesktop::handle(const xcb_generic_event_t &event)
 {
     const auto type = static_cast<std::uint8_t>(event.response_type & 0x7f);
-    if (m_connection.isSelectionNotify(event)) {
-        handleSelection(event);
-    } else if (type == XCB_MAPPING_NOTIFY) {
+    if (type == XCB_MAPPING_NOTIFY) {
         const auto &mapping = reinterpret_cast<const xcb_mapping_notify_event_t &>(event);
         if (mapping.request == XCB_MAPPING_POINTER)
             readButtonMapping();
@@ -125,17 +118,6 @@ void X11DragDesktop::handle(const xcb_generic_event_t &event)
         else if (raw.event_type == XCB_INPUT_RAW_BUTTON_RELEASE)
             handleRawButton(raw.detail, false);
     }
-}
-
-void X11DragDesktop::handleSelection(const xcb_generic_event_t &event)
-{
-    const auto &news = reinterpret_cast<const xcb_xfixes_selection_notify_event_t &>(event);
-    if (news.selection != m_connection.atom("XdndSelection"))
-        return;
-    // Some programs give up the selection after a drag; that starts no drag.
-    if (news.owner == XCB_NONE || x11_qt::isOwn(news.owner))
-        return;
-    m_changeCount = checkedAdd(m_changeCount, qint64{1});
 }
 
 void X11DragDesktop::handleRawButton(std::uint32_t button, bool isPress)

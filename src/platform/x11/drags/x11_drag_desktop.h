@@ -6,6 +6,7 @@
 #include "platform/reports/event_monitors.h"
 #include "platform/reports/mouse_buttons.h"
 #include "platform/x11/base/x11_connection.h"
+#include "platform/x11/drags/x11_drag_selection.h"
 
 #include <array>
 
@@ -50,7 +51,6 @@ private:
     };
 
     void handle(const xcb_generic_event_t &event);
-    void handleSelection(const xcb_generic_event_t &event);
     void handleRawButton(std::uint32_t button, bool isPress);
     Subscription add(What what, Handler handler);
     void remove(ChangingList<Monitor>::Id monitor);
@@ -65,8 +65,9 @@ private:
     void notify(What what) const;
 
     X11Connection &m_connection;
-    Subscription m_listener;
     qint64 m_changeCount = 0;
+    X11DragSelection m_selection;
+    Subscription m_listener;
     Listening m_listening = Listening::Nothing;
     /// Maps physical buttons, which raw events tell, to logical ones; used to recognise wheels and
     /// disabled buttons. It is one mapping for all devices. Users may swap the buttons of a single
