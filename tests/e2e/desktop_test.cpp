@@ -5,9 +5,10 @@
 #include <QFileInfo>
 #include <QUrl>
 
-#include <array>
+#include <algorithm>
 #include <filesystem>
 #include <iostream>
+#include <vector>
 
 namespace corvane::e2e {
 
@@ -15,9 +16,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::array<std::unique_ptr<XDesktop>, 4> &desktops()
+struct KeptDesktop {
+    DesktopKind kind;
+    std::unique_ptr<XDesktop> desktop;
+};
+
+std::vector<KeptDesktop> &desktops()
 {
-    static std::array<std::unique_ptr<XDesktop>, 4> all;
+    static std::vector<KeptDesktop> all;
     return all;
 }
 
@@ -54,22 +60,22 @@ void takePicturesOfFailures()
 
 XDesktop &desktopOf(DesktopKind kind)
 {
-    auto &desktop = desktops().at(static_cast<size_t>(kind.windowManager) * 2
-                                  + static_cast<size_t>(kind.compositor));
-    if (!desktop)
-        desktop = std::make_unique<XDesktop>(kind);
-    return *desktop;
+    const auto kept = std::ranges::find(desktops(), kind, &KeptDesktop::kind);
+    if (kept != desktops().end())
+        return *kept->desktop;
+    return *desktops().emplace_back(kind, std::make_unique<XDesktop>(kind)).desktop;
 }
 
 void endDesktops()
 {
     current = nullptr;
-    for (auto &desktop : desktops())
-        desktop.reset();
+    desktops().clear();
 }
 
 std::string nameOf(const testing::TestParamInfo<DesktopKind> &kind)
 {
+    if (kind.param.windowManager == WindowManager::Sway)
+        return "sway";
     return std::string(kind.param.windowManager == WindowManager::Openbox ? "openbox" : "xfwm4")
         + (kind.param.compositor == Compositor::Picom ? "_composited" : "_plain");
 }

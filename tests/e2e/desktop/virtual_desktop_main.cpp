@@ -12,6 +12,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <optional>
 
 namespace {
 
@@ -48,6 +49,17 @@ bool closeTheGuide(const XDesktop &desktop)
         && settings.write("[General]\nsettings.seenWelcome=true\n") > 0;
 }
 
+std::optional<WindowManager> windowManagerFrom(const QString &name)
+{
+    if (name == u"openbox"_s)
+        return WindowManager::Openbox;
+    if (name == u"xfwm4"_s)
+        return WindowManager::Xfwm4;
+    if (name == u"sway"_s)
+        return WindowManager::Sway;
+    return std::nullopt;
+}
+
 QSize sizeFrom(const QString &text)
 {
     return {text.section(u'x', 0, 0).toInt(), text.section(u'x', 1).toInt()};
@@ -58,12 +70,15 @@ QSize sizeFrom(const QString &text)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QCommandLineOption manager(u"window-manager"_s, u"openbox or xfwm4"_s, u"name"_s,
+    const QCommandLineOption manager(u"window-manager"_s, u"openbox, xfwm4 or sway"_s, u"name"_s,
                                      u"openbox"_s);
     const QCommandLineOption noCompositor(u"no-compositor"_s, u"nothing is blended"_s);
     const QCommandLineOption size(u"size"_s, u"of the screen"_s, u"WxH"_s, u"1512x982"_s);
+    const QCommandLineOption scale(u"scale"_s, u"pixels per point, under sway"_s, u"number"_s,
+                                   u"1"_s);
+    const QCommandLineOption noXWayland(u"no-xwayland"_s, u"sway keeps no X server"_s);
     QCommandLineParser parser;
-    parser.addOptions({manager, noCompositor, size});
+    parser.addOptions({manager, noCompositor, size, scale, noXWayland});
     parser.addHelpOption();
     parser.addPositionalArgument(u"command"_s, u"runs on the desktop"_s, u"COMMAND..."_s);
     // Options after the command belong to the command.
@@ -71,15 +86,18 @@ int main(int argc, char **argv)
     parser.process(application);
     QStringList arguments = parser.positionalArguments();
     const QString managerName = parser.value(manager);
-    const bool isKnown = managerName == u"openbox"_s || managerName == u"xfwm4"_s;
-    if (arguments.isEmpty() || !isKnown || sizeFrom(parser.value(size)).isEmpty())
+    const auto windowManager = windowManagerFrom(managerName);
+    if (arguments.isEmpty() || !windowManager || sizeFrom(parser.value(size)).isEmpty())
         parser.showHelp(2);
 
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         std::signal(number, passOn);
-    XDesktop desktop({managerName == u"xfwm4"_s ? WindowManager::Xfwm4 : WindowManager::Openbox,
-                      parser.isSet(noCompositor) ? Compositor::None : Compositor::Picom,
-                      sizeFrom(parser.value(size))});
+    XDesktop desktop(
+        {.windowManager = *windowManager,
+         .compositor = parser.isSet(noCompositor) ? Compositor::None : Compositor::Picom,
+         .size = sizeFrom(parser.value(size)),
+         .sway
+         = {.scale = parser.value(scale).toDouble(), .hasXWayland = !parser.isSet(noXWayland)}});
     if (!desktop.problem().isEmpty() || !closeTheGuide(desktop)) {
         qWarning("virtual-desktop: %s", qPrintable(desktop.problem()));
         return 1;

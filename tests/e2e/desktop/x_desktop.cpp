@@ -8,6 +8,7 @@
 #include <sys/prctl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <csignal>
 
 namespace corvane::e2e {
@@ -44,8 +45,8 @@ XDesktop::XDesktop(DesktopKind kind)
     if (m_problem.isEmpty())
         startBus();
     if (m_problem.isEmpty())
-        startWindowManager(kind.windowManager);
-    if (m_problem.isEmpty() && kind.compositor == Compositor::Picom)
+        startWindowManager(kind);
+    if (m_problem.isEmpty() && kind.compositor == Compositor::Picom && !m_sway)
         startCompositor();
 }
 
@@ -93,10 +94,14 @@ void XDesktop::startBus()
         m_problem = u"the session bus does not start"_s;
 }
 
-void XDesktop::startWindowManager(WindowManager windowManager)
+void XDesktop::startWindowManager(const DesktopKind &kind)
 {
+    if (kind.windowManager == WindowManager::Sway) {
+        startSway(kind.sway);
+        return;
+    }
     // Without the window manager's own compositor: whether there is one is the test's choice.
-    m_windowManager = windowManager == WindowManager::Openbox
+    m_windowManager = kind.windowManager == WindowManager::Openbox
         ? start(u"openbox"_s, {u"--sm-disable"_s})
         : start(u"xfwm4"_s, {u"--compositor=off"_s, u"--sm-client-disable"_s});
     const bool up = eventually([this] {
@@ -105,6 +110,18 @@ void XDesktop::startWindowManager(WindowManager windowManager)
     });
     if (!up)
         m_problem = u"the window manager does not start"_s;
+}
+
+void XDesktop::startSway(const NestedSway::Kind &kind)
+{
+    m_sway = std::make_unique<NestedSway>(*m_server, m_environment, kind);
+    m_problem = m_sway->problem();
+    m_sway->addTo(m_environment);
+}
+
+QList<WindowFacts> XDesktop::windows() const
+{
+    return m_sway ? m_sway->windows() : m_server->windows();
 }
 
 void XDesktop::startCompositor()
@@ -150,7 +167,7 @@ XDesktop::waitForWindow(const std::function<bool(const WindowFacts &)> &holds)
     std::optional<WindowFacts> found;
     eventually(
         [&] {
-            for (const WindowFacts &window : m_server->windows()) {
+            for (const WindowFacts &window : windows()) {
                 if (window.isViewable && !window.isOverrideRedirect && holds(window))
                     found = window;
             }
@@ -170,9 +187,19 @@ std::optional<WindowFacts> XDesktop::waitForWindowOf(const Program &program)
 
 std::optional<WindowFacts> XDesktop::place(xcb_window_t window, const QRect &frame)
 {
-    m_server->moveResize(window, frame);
+    const auto facts = [&]() -> std::optional<WindowFacts> {
+        if (!m_sway)
+            return m_server->facts(window);
+        const auto all = windows();
+        const auto found = std::ranges::find(all, window, &WindowFacts::id);
+        return found == all.end() ? std::nullopt : std::optional(*found);
+    };
+    if (m_sway)
+        m_sway->place(window, frame);
+    else
+        m_server->moveResize(window, frame);
     const bool placed = eventually([&] {
-        const auto now = m_server->facts(window);
+        const auto now = facts();
         // Window managers take borders into account differently.
         return now && now->frame.size() == frame.size()
             && (now->frame.topLeft() - frame.topLeft()).manhattanLength() < 60;
@@ -180,7 +207,7 @@ std::optional<WindowFacts> XDesktop::place(xcb_window_t window, const QRect &fra
     if (!placed)
         return std::nullopt;
     pictureAtRest(frame);
-    return m_server->facts(window);
+    return facts();
 }
 
 QImage XDesktop::pictureAtRest(const QRect &area)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "e2e/desktop/hands.h"
+#include "e2e/desktop/nested_sway.h"
 #include "e2e/desktop/program.h"
 #include "e2e/desktop/x_server.h"
 
@@ -17,7 +18,8 @@
 
 namespace corvane::e2e {
 
-enum class WindowManager { Openbox, Xfwm4 };
+/// Sway is a compositor of its own, whose session is none of X11's.
+enum class WindowManager { Openbox, Xfwm4, Sway };
 enum class Compositor { None, Picom };
 
 struct DesktopKind {
@@ -26,10 +28,17 @@ struct DesktopKind {
     QSize size{1512, 982};
     /// One that the X server does without, such as "XFIXES".
     QString missingExtension = {};
+    /// Of a compositor of its own.
+    NestedSway::Kind sway = {};
+
+    friend bool operator==(const DesktopKind &, const DesktopKind &) = default;
 };
 
 /// A desktop without a display: X server, window manager, perhaps a compositor, a session bus, and
 /// a home folder of its own. The destructor ends everything that it started.
+///
+/// Everything is seen on the X server, and the user's hands are there. Programs use it, too, except
+/// in a Wayland session, whose compositor is its one window.
 class XDesktop {
 public:
     explicit XDesktop(DesktopKind kind = {});
@@ -39,6 +48,8 @@ public:
 
     XServer &server() { return *m_server; }
     Hands &hands() { return *m_hands; }
+    /// The compositor that the programs run in; null where they run on the X server itself.
+    NestedSway *sway() { return m_sway.get(); }
 
     /// The environment for programs on this desktop. Tests may change a copy of it.
     const QProcessEnvironment &environment() const { return m_environment; }
@@ -71,7 +82,9 @@ public:
 private:
     void startServer(const DesktopKind &kind);
     void startBus();
-    void startWindowManager(WindowManager windowManager);
+    void startWindowManager(const DesktopKind &kind);
+    void startSway(const NestedSway::Kind &kind);
+    QList<WindowFacts> windows() const;
     void startCompositor();
 
     QTemporaryDir m_home;
@@ -84,6 +97,7 @@ private:
     std::unique_ptr<Program> m_bus;
     std::unique_ptr<Program> m_windowManager;
     std::unique_ptr<Program> m_compositor;
+    std::unique_ptr<NestedSway> m_sway;
 };
 
 } // namespace corvane::e2e
