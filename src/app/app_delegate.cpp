@@ -149,6 +149,11 @@ bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/)
     return false;
 }
 
+void AppDelegate::toggleViewAll()
+{
+    m_context.store.toggleViewAll();
+}
+
 void AppDelegate::showPreferences(PreferencesTab tab)
 {
     m_context.windows.showPreferences(tab);

@@ -54,6 +54,7 @@ public:
     /// done.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
 
+    void toggleViewAll();
     void showPreferences(PreferencesTab tab);
     void showWelcome();
 

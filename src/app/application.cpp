@@ -59,12 +59,14 @@ void setUpApplication(const AppInfo &info)
 
 int runApplication(int argc, char **argv)
 {
-    const SessionChoice choice = chooseSession(SessionEnvironment::ofThisProcess());
+    const SessionChoice choice
+        = chooseSession(SessionEnvironment::ofThisProcess(), probeRegistry());
     if (!choice.kind) {
         std::fprintf(stderr, "corvane: %s\n", choice.refusal.constData());
         return 1;
     }
     qputenv("QT_QPA_PLATFORM", choice.platformPlugin);
+    prepareSession(*choice.kind);
     session_bus::keepFromStarting();
     const AppInfo info = AppInfo::builtIn();
     auto application = std::make_unique<QApplication>(argc, argv);
@@ -81,6 +83,8 @@ int runApplication(int argc, char **argv)
         isBeingLaunched = false;
         if (delegate && name == QStringLiteral("preferences"))
             delegate->showPreferences(PreferencesTab::General);
+        else if (delegate && name == QStringLiteral("view-all"))
+            delegate->toggleViewAll();
     };
     if (outcome == SingleInstance::Outcome::HandedOver)
         return 0;

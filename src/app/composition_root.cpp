@@ -2,6 +2,7 @@
 
 #include "app/base/app_info.h"
 #include "app/updates/software_updater.h"
+#include "platform/desktop/abilities.h"
 #include "platform/system/file_url.h"
 #include "shelf/drawing/phosphor_icon_drawing.h"
 
@@ -171,7 +172,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
             .store = store,
             .queue = mainQueue,
             .shelfWidth = [this](const ScreenPointer &screen) { return hud.openWidth(screen); },
-            .letClicksThrough = [this](double seconds) { hud.letClicksThrough(seconds); }})
+            .letClicksThrough = letClicksThrough()})
     , installation(Installation::from(Installation::Evidence::ofThisProcess()))
     , updateWindow(desktop.windowActivation, desktop.screenLocator, AppInfo::builtIn().version(),
                    installation.kind == Installation::Kind::AppImage)
@@ -224,6 +225,15 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
     };
     remotePictures.isWanted = [this](const QUuid &item) { return store.indexOf(item).has_value(); };
     thumbnails.setItemsInView([this] { return itemsInView(store); });
+}
+
+/// Where clicks elsewhere are not heard of, the shelf would stay in the way of one that went
+/// through it; and a compositor may not look at who is below the pointer again before it moves.
+std::function<void(double)> CompositionRoot::letClicksThrough()
+{
+    if (!desktop.abilities.now().clicksElsewhere.isFull())
+        return {};
+    return [this](double seconds) { hud.letClicksThrough(seconds); };
 }
 
 bool CompositionRoot::finishWork(std::chrono::milliseconds patience)

@@ -175,6 +175,7 @@ struct CompositionRoot {
     AppDelegate delegate;
 
 private:
+    std::function<void(double seconds)> letClicksThrough();
     std::unique_ptr<Updater> makeUpdater();
 };
 

@@ -253,11 +253,15 @@ TEST(Texts, OfAStartWithoutADisplay)
 {
     TextTable table;
     const QByteArray display = qgetenv("DISPLAY");
+    const QByteArray waylandDisplay = qgetenv("WAYLAND_DISPLAY");
     qunsetenv("DISPLAY");
+    qunsetenv("WAYLAND_DISPLAY");
     int status = 0;
     const QString error = standardErrorOf([&status] { status = runApplication(0, nullptr); });
     if (!display.isEmpty())
         qputenv("DISPLAY", display);
+    if (!waylandDisplay.isEmpty())
+        qputenv("WAYLAND_DISPLAY", waylandDisplay);
     EXPECT_EQ(status, 1);
     table.add(QStringLiteral("Start without a display, on the standard error"), {error});
     expectTable("no-display", table);

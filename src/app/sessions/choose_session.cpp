@@ -1,22 +1,64 @@
 #include "app/sessions/choose_session.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QtGlobal>
+
+#include <algorithm>
 
 namespace corvane {
 
-SessionEnvironment SessionEnvironment::ofThisProcess()
+namespace {
+
+/// Looked for by its file: before there is an application object Qt tells of none.
+bool isWaylandPluginInstalled()
 {
-    return {.display = qgetenv("DISPLAY")};
+    const QStringList folders = QCoreApplication::libraryPaths();
+    return std::ranges::any_of(folders, [](const QString &folder) {
+        const QDir plugins(folder + QStringLiteral("/platforms"));
+        return !plugins.entryList({QStringLiteral("libqwayland*.so")}, QDir::Files).isEmpty();
+    });
 }
 
-SessionChoice chooseSession(const SessionEnvironment &environment)
+QByteArray refusal(const SessionEnvironment &environment, const CompositorRegistry &compositor)
 {
-    if (environment.display.isEmpty()) {
-        return {.kind = std::nullopt,
-                .platformPlugin = {},
-                .refusal = "there is no X11 display to hang the shelf on (DISPLAY is not set)"};
-    }
-    return {.kind = SessionKind::X11, .platformPlugin = "xcb", .refusal = {}};
+    if (compositor.hasLayerShell)
+        return "this Wayland session takes Qt's plug-in for Wayland, which is not installed "
+               "(the package qt6-wayland)";
+    if (compositor.answers)
+        return "this Wayland session lets no program hang a shelf from its screen's edge, and "
+               "there "
+               "is no X11 display either (DISPLAY is not set)";
+    if (!environment.waylandDisplay.isEmpty())
+        return "there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either "
+               "(DISPLAY is not set)";
+    return "there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)";
+}
+
+} // namespace
+
+SessionEnvironment SessionEnvironment::ofThisProcess()
+{
+    SessionEnvironment environment{.display = qgetenv("DISPLAY"),
+                                   .waylandDisplay = qgetenv("WAYLAND_DISPLAY"),
+                                   .platformWish = qgetenv("QT_QPA_PLATFORM")};
+    // An X11 session is not kept waiting for the disk.
+    environment.hasWaylandPlugin
+        = !environment.waylandDisplay.isEmpty() && isWaylandPluginInstalled();
+    return environment;
+}
+
+SessionChoice chooseSession(const SessionEnvironment &environment,
+                            const CompositorRegistry &compositor)
+{
+    const bool hasX = !environment.display.isEmpty();
+    const bool wantsX = hasX && environment.platformWish == "xcb";
+    if (compositor.hasLayerShell && environment.hasWaylandPlugin && !wantsX)
+        return {.kind = SessionKind::Layer, .platformPlugin = "wayland", .refusal = {}};
+    if (hasX)
+        return {.kind = SessionKind::X11, .platformPlugin = "xcb", .refusal = {}};
+    return {
+        .kind = std::nullopt, .platformPlugin = {}, .refusal = refusal(environment, compositor)};
 }
 
 } // namespace corvane

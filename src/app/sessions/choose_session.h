@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/wayland/base/registry_probe.h"
+
 #include <QByteArray>
 
 #include <optional>
@@ -16,7 +18,9 @@ namespace corvane {
 /// - its `Abilities`; what it lacks that has no words yet, in `session_texts`;
 /// - the test of the choice, and the README's table of what works where.
 enum class SessionKind {
-    /// Also used in a Wayland session, through its X server.
+    /// A Wayland session whose compositor hangs panels from its screens' edges.
+    Layer,
+    /// Also used in other Wayland sessions, through their X server.
     X11,
 };
 
@@ -24,6 +28,13 @@ enum class SessionKind {
 struct SessionEnvironment {
     /// DISPLAY
     QByteArray display;
+    /// WAYLAND_DISPLAY
+    QByteArray waylandDisplay;
+    /// QT_QPA_PLATFORM: somebody who asks for "xcb" alone gets it where it can be had.
+    QByteArray platformWish;
+    /// Qt's plug-in for Wayland is installed: many distributions have a package of its own for it.
+    /// Looked for only where there is something to use it with.
+    bool hasWaylandPlugin = false;
 
     static SessionEnvironment ofThisProcess();
 };
@@ -38,7 +49,8 @@ struct SessionChoice {
     QByteArray refusal;
 };
 
-/// Depends only on its argument. To be called before there is an application object.
-SessionChoice chooseSession(const SessionEnvironment &environment);
+/// Depends only on its arguments. To be called before there is an application object.
+SessionChoice chooseSession(const SessionEnvironment &environment,
+                            const CompositorRegistry &compositor);
 
 } // namespace corvane

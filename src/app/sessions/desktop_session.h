@@ -44,7 +44,7 @@ struct DesktopSession {
 /// What a session needs from the program. Everything must outlive it.
 struct SessionNeeds {
     MainQueue &mainQueue;
-    const Screens &screens;
+    Screens &screens;
     /// Called when the session has ended.
     std::function<void()> terminate;
 };
@@ -60,6 +60,9 @@ public:
 
     virtual DesktopSession desktop() = 0;
 };
+
+/// Prepares the process for the session. There must be no application object yet.
+void prepareSession(SessionKind kind);
 
 /// Makes the session. The application object must exist, with the platform plug-in of the chosen
 /// kind.

@@ -2,32 +2,97 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <ostream>
+
 namespace corvane::test {
 
-TEST(ChooseSession, anXDisplayIsASessionToRunIn)
+namespace {
+
+constexpr CompositorRegistry noAnswer{};
+constexpr CompositorRegistry withoutPanels{.answers = true, .hasLayerShell = false};
+constexpr CompositorRegistry withPanels{.answers = true, .hasLayerShell = true};
+
+struct Case {
+    const char *what;
+    SessionEnvironment environment;
+    CompositorRegistry compositor;
+    std::optional<SessionKind> kind;
+    QByteArray platformPlugin;
+};
+
+const SessionEnvironment wayland{.waylandDisplay = "wayland-1", .hasWaylandPlugin = true};
+const SessionEnvironment x11{.display = ":0", .hasWaylandPlugin = true};
+const SessionEnvironment both{
+    .display = ":0", .waylandDisplay = "wayland-1", .hasWaylandPlugin = true};
+const SessionEnvironment bothWithoutPlugin{.display = ":0", .waylandDisplay = "wayland-1"};
+const SessionEnvironment bothForX11{.display = ":0",
+                                    .waylandDisplay = "wayland-1",
+                                    .platformWish = "xcb",
+                                    .hasWaylandPlugin = true};
+const SessionEnvironment waylandForX11{
+    .waylandDisplay = "wayland-1", .platformWish = "xcb", .hasWaylandPlugin = true};
+
+const Case cases[] = {
+    {"an X11 session", x11, noAnswer, SessionKind::X11, "xcb"},
+    {"a compositor that hangs panels", wayland, withPanels, SessionKind::Layer, "wayland"},
+    {"the same with an X server beside it", both, withPanels, SessionKind::Layer, "wayland"},
+    {"a compositor that hangs none", both, withoutPanels, SessionKind::X11, "xcb"},
+    {"one that is there no longer", both, noAnswer, SessionKind::X11, "xcb"},
+    {"no plug-in for it", bothWithoutPlugin, withPanels, SessionKind::X11, "xcb"},
+    {"somebody who asks for X11", bothForX11, withPanels, SessionKind::X11, "xcb"},
+    {"somebody who asks for X11 where it is not", waylandForX11, withPanels, SessionKind::Layer,
+     "wayland"},
+    {"a compositor that hangs none, and no X server", wayland, withoutPanels, std::nullopt, ""},
+    {"a wrong name, and no X server", wayland, noAnswer, std::nullopt, ""},
+    {"nothing at all", {}, noAnswer, std::nullopt, ""},
+};
+
+} // namespace
+
+TEST(ChooseSession, takesTheBestThatThereIs)
 {
-    const SessionChoice choice = chooseSession({.display = ":0"});
-    EXPECT_EQ(choice.kind, SessionKind::X11);
-    EXPECT_EQ(choice.platformPlugin, "xcb");
-    EXPECT_TRUE(choice.refusal.isEmpty());
+    for (const Case &one : cases) {
+        const SessionChoice choice = chooseSession(one.environment, one.compositor);
+        EXPECT_TRUE(choice.kind == one.kind) << one.what;
+        EXPECT_EQ(choice.platformPlugin, one.platformPlugin) << one.what;
+        EXPECT_EQ(choice.refusal.isEmpty(), one.kind.has_value()) << one.what;
+    }
 }
 
-TEST(ChooseSession, withoutADisplayItSaysInOneLineWhyItCannotRun)
+TEST(ChooseSession, saysInOneLineWhyItCannotRun)
 {
-    const SessionChoice choice = chooseSession({});
-    EXPECT_FALSE(choice.kind);
-    EXPECT_EQ(choice.refusal, "there is no X11 display to hang the shelf on (DISPLAY is not set)");
+    const auto refusal = [](const SessionEnvironment &environment, CompositorRegistry compositor) {
+        return chooseSession(environment, compositor).refusal;
+    };
+    EXPECT_EQ(refusal({}, noAnswer),
+              "there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is "
+              "set)");
+    EXPECT_EQ(refusal(wayland, noAnswer),
+              "there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either "
+              "(DISPLAY is not set)");
+    EXPECT_EQ(refusal(wayland, withoutPanels),
+              "this Wayland session lets no program hang a shelf from its screen's edge, and there "
+              "is no X11 display either (DISPLAY is not set)");
+    EXPECT_EQ(refusal({.waylandDisplay = "wayland-1"}, withPanels),
+              "this Wayland session takes Qt's plug-in for Wayland, which is not installed (the "
+              "package qt6-wayland)");
 }
 
 TEST(ChooseSession, theEnvironmentIsThatOfTheProcess)
 {
-    const QByteArray before = qgetenv("DISPLAY");
-    qputenv("DISPLAY", ":7.1");
-    EXPECT_EQ(SessionEnvironment::ofThisProcess().display, ":7.1");
-    qunsetenv("DISPLAY");
-    EXPECT_EQ(SessionEnvironment::ofThisProcess().display, "");
-    if (!before.isEmpty())
-        qputenv("DISPLAY", before);
+    for (const auto &[variable, member] :
+         {std::pair("DISPLAY", &SessionEnvironment::display),
+          std::pair("WAYLAND_DISPLAY", &SessionEnvironment::waylandDisplay),
+          std::pair("QT_QPA_PLATFORM", &SessionEnvironment::platformWish)}) {
+        const QByteArray before = qgetenv(variable);
+        qputenv(variable, ":7.1");
+        EXPECT_EQ(SessionEnvironment::ofThisProcess().*member, ":7.1") << variable;
+        qunsetenv(variable);
+        EXPECT_EQ(SessionEnvironment::ofThisProcess().*member, "") << variable;
+        if (!before.isEmpty())
+            qputenv(variable, before);
+    }
 }
 
 } // namespace corvane::test

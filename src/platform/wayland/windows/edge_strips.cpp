@@ -1,0 +1,131 @@
+#include "platform/wayland/windows/edge_strips.h"
+
+#include "platform/wayland/windows/edge_strip.h"
+#include "platform/wayland/windows/toolkit_screen.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace corvane {
+
+namespace {
+
+/// Of a strip that nobody but what is dragged is watched for at: the width of an empty shelf.
+constexpr double widthForDrags = 292;
+
+QRect areaOf(const EdgeStretch &stretch)
+{
+    return {static_cast<int>(std::round(stretch.left)), 0,
+            static_cast<int>(std::round(stretch.width)), EdgeStrips::height};
+}
+
+} // namespace
+
+EdgeStrips::EdgeStrips(WaylandConnection &connection, const Screens &screens)
+    : m_connection(connection)
+    , m_screens(screens)
+{
+}
+
+EdgeStrips::~EdgeStrips()
+{
+    retire();
+}
+
+void EdgeStrips::watch(const std::vector<EdgeStretch> &stretches)
+{
+    m_watched = stretches;
+    update();
+}
+
+void EdgeStrips::watchDrags(bool watches)
+{
+    m_watchesDrags = watches;
+    update();
+}
+
+void EdgeStrips::renew()
+{
+    retire();
+    update();
+}
+
+bool EdgeStrips::isStillThere() const
+{
+    return m_isPointerThere;
+}
+
+/// One strip a screen does both.
+std::vector<EdgeStretch> EdgeStrips::wanted() const
+{
+    std::vector<EdgeStretch> all = m_watched;
+    if (!m_watchesDrags)
+        return all;
+    for (const ScreenPointer &screen : m_screens.screens()) {
+        const bool isThere = std::ranges::any_of(
+            all, [&](const EdgeStretch &stretch) { return stretch.screen == screen; });
+        const double width = std::min(widthForDrags, screen->frame.width());
+        if (!isThere)
+            all.push_back({screen, (screen->frame.width() - width) * 0.5, width});
+    }
+    return all;
+}
+
+void EdgeStrips::update()
+{
+    auto next = wanted();
+    if (next == m_shown)
+        return;
+    retire();
+    m_shown = std::move(next);
+    for (const EdgeStretch &stretch : m_shown) {
+        if (EdgeStrip *const strip = makeStrip(stretch))
+            m_strips.push_back(strip);
+    }
+}
+
+void EdgeStrips::retire()
+{
+    m_isPointerThere = false;
+    m_shown.clear();
+    for (EdgeStrip *strip : std::exchange(m_strips, {}))
+        strip->retire();
+}
+
+EdgeStrip *EdgeStrips::makeStrip(const EdgeStretch &stretch)
+{
+    QScreen *const screen = toolkitScreen(*stretch.screen);
+    if (!screen)
+        return nullptr;
+    const auto dragEntered = [this, at = stretch.screen](bool isOwn) {
+        if (const auto tell = onDragEntered)
+            tell(at, isOwn);
+    };
+    return new EdgeStrip(m_connection, *screen, areaOf(stretch),
+                         {.pointerCame = [this, at = stretch.screen] { pointerCame(at); },
+                          .pointerWent = [this] { pointerWent(); },
+                          .dragEntered = dragEntered});
+}
+
+void EdgeStrips::pointerCame(const ScreenPointer &screen)
+{
+    m_isPointerThere = true;
+    if (const auto tell = onPointer)
+        tell(screen);
+    // Where only what is dragged is watched for, nobody else is told.
+    const bool isWatched = std::ranges::any_of(
+        m_watched, [&](const EdgeStretch &stretch) { return stretch.screen == screen; });
+    if (const auto tell = onEntered; tell && isWatched)
+        tell();
+}
+
+void EdgeStrips::pointerWent()
+{
+    if (!std::exchange(m_isPointerThere, false))
+        return;
+    if (const auto tell = onLeft)
+        tell();
+}
+
+} // namespace corvane

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/desktop/compositing.h"
+#include "platform/desktop/keyboard_loan.h"
+#include "platform/desktop/panel_desktop.h"
+#include "platform/desktop/pointing_devices.h"
+#include "platform/wayland/windows/layer_keyboard_focus.h"
+#include "platform/wayland/windows/layer_panel_surface.h"
+
+namespace corvane {
+
+/// Whoever shows windows here blends them.
+class AlwaysComposited : public Compositing {
+public:
+    bool isComposited() const override { return true; }
+    void observeChanges(std::function<void()> /*callback*/) override { }
+};
+
+/// The devices as Qt has been told of them.
+class WaylandPointingDevices : public PointingDevices {
+public:
+    bool isTouchpad(std::int64_t device) override;
+};
+
+/// What a session of layer surfaces has for panels. The connection and the queue must outlive it.
+struct LayerPanels {
+    LayerPanels(WaylandConnection &connection, MainQueue &queue)
+        : surface(connection)
+        , focus(surface)
+        , keyboard(focus, queue)
+    {
+    }
+
+    PanelDesktop desktop() { return {surface, keyboard, compositing, pointingDevices}; }
+
+    LayerPanelSurface surface;
+    LayerKeyboardFocus focus;
+    KeyboardLoan keyboard;
+    AlwaysComposited compositing;
+    WaylandPointingDevices pointingDevices;
+};
+
+} // namespace corvane

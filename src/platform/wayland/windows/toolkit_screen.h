@@ -1,0 +1,12 @@
+#pragma once
+
+class QScreen;
+
+namespace corvane {
+
+struct Screen;
+
+/// Qt's screen, which stands where the same screen of ours does; null where it is just gone.
+QScreen *toolkitScreen(const Screen &screen);
+
+} // namespace corvane
