@@ -1,6 +1,7 @@
 #include "e2e/desktop/corvane_program.h"
 
 #include "e2e/desktop/eventually.h"
+#include "e2e/desktop/shelf_in_picture.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -161,10 +162,23 @@ std::optional<WindowFacts> CorvaneProgram::popup(int height)
 
 std::optional<WindowFacts> CorvaneProgram::panel()
 {
+    if (m_desktop.sway())
+        return panelInPicture();
     // The picture of a drag is an unmanaged window, too, but not at the top edge.
     return find([](const WindowFacts &window) {
         return window.isOverrideRedirect && window.frame.top() == 0;
     });
+}
+
+/// A compositor tells nobody of it.
+std::optional<WindowFacts> CorvaneProgram::panelInPicture()
+{
+    constexpr int deepest = 300;
+    const QRect top(0, 0, m_desktop.server().size().width(), deepest);
+    WindowFacts facts;
+    facts.frame = shelfIn(m_desktop.server().picture(top), NestedSway::wallpaper);
+    facts.isViewable = true;
+    return facts.frame.isEmpty() ? std::nullopt : std::optional(facts);
 }
 
 bool CorvaneProgram::waitUntilShown()
@@ -212,6 +226,8 @@ QRect CorvaneProgram::body()
     const auto now = panel();
     if (!now)
         return {};
+    if (m_desktop.sway())
+        return now->frame;
     QRect bounds;
     for (const QRect &part : m_desktop.server().inputShape(now->id))
         bounds = bounds.united(part);

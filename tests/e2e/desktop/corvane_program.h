@@ -49,7 +49,7 @@ public:
     /// An unmanaged window that is not at the top edge: a menu or the view-all bar; of that height
     /// if one is given.
     std::optional<WindowFacts> popup(int height = 0);
-    /// The shelf's panel if it is on screen.
+    /// The shelf's panel if it is on screen; in a Wayland session what is seen of it.
     std::optional<WindowFacts> panel();
     bool isShown() { return panel().has_value(); }
     bool waitUntilShown();
@@ -87,6 +87,7 @@ private:
     QString settingsFolder() const;
     template<class Condition>
     std::optional<WindowFacts> find(Condition condition);
+    std::optional<WindowFacts> panelInPicture();
     void writeSettings(const Start &start) const;
 
     XDesktop &m_desktop;

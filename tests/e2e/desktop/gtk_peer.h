@@ -1,0 +1,45 @@
+#pragma once
+
+#include "e2e/desktop/program.h"
+#include "e2e/desktop/x_desktop.h"
+
+#include <QByteArray>
+#include <QRect>
+#include <QString>
+
+#include <memory>
+
+namespace corvane::e2e {
+
+/// A window of the GTK 3 toolkit, in the session's own window system: something to drag in its
+/// left half, and in its right half a place to drop.
+class GtkPeer {
+public:
+    struct Offer {
+        /// Paths; as addresses.
+        QStringList files = {};
+        QString text = {};
+    };
+    GtkPeer(XDesktop &desktop, const Offer &offer, const QRect &frame);
+
+    /// Empty when its window is there.
+    QString problem() const { return m_problem; }
+    QPoint source() const;
+    QPoint target() const;
+    /// What was dropped on it, by type: the last drop of several. Empty before.
+    QByteArray droppedAddresses() { return dropped("text/uri-list"); }
+    QByteArray droppedText() { return dropped("text"); }
+    /// How the last drag out of it ended, as it was told: "done" or "failed"; empty before.
+    QByteArray endOfDrag();
+    int presses();
+
+private:
+    QByteArray dropped(const QByteArray &type);
+    QByteArray lastLine(const QByteArray &beginning);
+
+    std::unique_ptr<Program> m_program;
+    QString m_problem;
+    QRect m_frame;
+};
+
+} // namespace corvane::e2e

@@ -1,0 +1,28 @@
+#include "e2e/desktop/shelf_in_picture.h"
+
+namespace corvane::e2e {
+
+QRect shelfIn(const QImage &picture, QRgb wallpaper)
+{
+    const int middle = picture.width() / 2;
+    const auto isShelf = [&](int x, int y) {
+        return picture.rect().contains(x, y) && (picture.pixel(x, y) | 0xff000000U) != wallpaper;
+    };
+    int bottom = 0;
+    while (isShelf(middle, bottom))
+        ++bottom;
+    if (bottom == 0)
+        return {};
+    int left = middle;
+    int right = middle;
+    // Wherever its outline is at its widest.
+    for (int y = 0; y < bottom; ++y) {
+        while (isShelf(left - 1, y))
+            --left;
+        while (isShelf(right + 1, y))
+            ++right;
+    }
+    return {left, 0, right - left + 1, bottom};
+}
+
+} // namespace corvane::e2e

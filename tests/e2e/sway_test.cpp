@@ -1,0 +1,185 @@
+// The program in a Wayland session, under sway: what its own test program cannot see, the main job
+// above all.
+
+#include "e2e/desktop/gtk_peer.h"
+#include "e2e/desktop_test.h"
+
+#include <QFile>
+
+namespace corvane::e2e {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class SwayTest : public DesktopTest {
+protected:
+    explicit SwayTest(const NestedSway::Kind &kind)
+        : DesktopTest({.windowManager = WindowManager::Sway,
+                       .compositor = Compositor::None,
+                       .size = {1512, 982},
+                       .sway = kind})
+    {
+    }
+
+    static QRect leftPlace() { return {60, 400, 400, 200}; }
+    static QRect rightPlace() { return {900, 400, 400, 200}; }
+
+    /// In the middle of the top edge, and next to it.
+    QPoint edge() { return {server().size().width() / 2, 0}; }
+    QPoint belowEdge() { return edge() + QPoint(0, 200); }
+
+    void keep(const QString &file)
+    {
+        GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
+        ASSERT_EQ(source.problem(), QString());
+        hands().beginDrag(source.source(), edge());
+        dropOnShelf();
+        ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    }
+};
+
+class Sway : public SwayTest {
+protected:
+    Sway()
+        : SwayTest({})
+    {
+    }
+};
+
+class SwayWithoutXWayland : public SwayTest {
+protected:
+    SwayWithoutXWayland()
+        : SwayTest({.hasXWayland = false})
+    {
+    }
+};
+
+TEST_F(Sway, aFileIsKeptAndGoesOnIntoAnotherProgram)
+{
+    const QString file = makeFile(u"report.txt"_s, "report");
+    GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
+    ASSERT_EQ(source.problem(), QString());
+    GtkPeer target(m_desktop, {}, rightPlace());
+    ASSERT_EQ(target.problem(), QString());
+    start();
+
+    hands().beginDrag(source.source(), edge());
+    dropOnShelf();
+    EXPECT_EQ(source.endOfDrag(), "done");
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+
+    dropOutOn(corvane().at(38, 22), target.target());
+    EXPECT_EQ(target.droppedAddresses().trimmed(), uriList({file}).trimmed());
+    EXPECT_TRUE(corvane().waitUntilHidden());
+}
+
+TEST_F(Sway, aTextComesBackLetterForLetter)
+{
+    const QString text = u"Grüße, 你好\nzweite Zeile"_s;
+    GtkPeer source(m_desktop, {.text = text}, leftPlace());
+    ASSERT_EQ(source.problem(), QString());
+    GtkPeer target(m_desktop, {}, rightPlace());
+    ASSERT_EQ(target.problem(), QString());
+    start();
+
+    hands().beginDrag(source.source(), edge());
+    dropOnShelf();
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    dropOutOn(corvane().at(38, 22), target.target());
+    EXPECT_EQ(target.droppedText(), text.toUtf8());
+}
+
+TEST_F(Sway, aDragThatIsRefusedElsewhereLeavesTheItemOnTheShelf)
+{
+    start();
+    keep(makeFile(u"report.txt"_s, "report"));
+    hands().beginDrag(corvane().at(38, 22), belowEdge());
+    hands().glideTo(belowEdge());
+    hands().release();
+    EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+}
+
+TEST_F(Sway, aDragThatEndsElsewhereClosesTheShelfAgain)
+{
+    GtkPeer source(m_desktop, {.text = u"text"_s}, leftPlace());
+    ASSERT_EQ(source.problem(), QString());
+    GtkPeer target(m_desktop, {}, rightPlace());
+    ASSERT_EQ(target.problem(), QString());
+    start();
+    hands().beginDrag(source.source(), target.target());
+    EXPECT_TRUE(corvane().waitUntilShown());
+    hands().glideTo(target.target());
+    hands().aim(target.target());
+    hands().release();
+    EXPECT_EQ(target.droppedText(), "text");
+    EXPECT_TRUE(corvane().waitUntilHidden());
+}
+
+TEST_F(Sway, aLongSlowDragFindsTheShelfAgainAtTheEdge)
+{
+    const QString file = makeFile(u"report.txt"_s, "report");
+    GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
+    ASSERT_EQ(source.problem(), QString());
+    start();
+    hands().beginDrag(source.source(), edge());
+    ASSERT_TRUE(corvane().waitUntilShown());
+    // Whether it is over nobody tells.
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    hands().glideTo(edge());
+    dropOnShelf();
+    EXPECT_EQ(source.endOfDrag(), "done");
+    EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+}
+
+TEST_F(Sway, aPointerKeptAtTheEdgeShowsAHiddenShelfThatHoldsSomething)
+{
+    start();
+    keep(makeFile(u"report.txt"_s, "report"));
+    hands().glideTo(belowEdge());
+    EXPECT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    hands().glideTo(edge());
+    ASSERT_TRUE(corvane().waitUntilShown());
+    hands().glideTo(belowEdge());
+    EXPECT_TRUE(corvane().waitUntilHidden());
+}
+
+TEST_F(Sway, clicksBesideTheShelfReachWhatLiesBelow)
+{
+    GtkPeer below(m_desktop, {.text = u"text"_s}, {0, 0, 1512, 300});
+    ASSERT_EQ(below.problem(), QString());
+    start();
+    // The window covers the wallpaper, so that the shelf cannot be told from it: it is asked to
+    // show itself, and the picture changes.
+    const QRect middle(600, 0, 312, 60);
+    const QImage before = m_desktop.pictureAtRest(middle);
+    EXPECT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(eventually([&] { return server().picture(middle) != before; }));
+    hands().click({500, 20});
+    EXPECT_TRUE(eventually([&] { return below.presses() == 1; }));
+}
+
+TEST_F(Sway, keysGoToTheShelfAfterAClickOnIt)
+{
+    start();
+    keep(makeFile(u"report.txt"_s, "report"));
+    hands().click(corvane().at(38, 22));
+    hands().key(keys::backSpace);
+    EXPECT_TRUE(corvane().waitUntilHidden());
+}
+
+TEST_F(SwayWithoutXWayland, aDragAtTheEdgeOpensTheShelfThatTakesIt)
+{
+    const QString file = makeFile(u"report.txt"_s, "report");
+    GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
+    ASSERT_EQ(source.problem(), QString());
+    start();
+    hands().beginDrag(source.source(), edge());
+    hands().glideTo(edge());
+    dropOnShelf();
+    EXPECT_EQ(source.endOfDrag(), "done");
+    EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+}
+
+} // namespace
+} // namespace corvane::e2e
