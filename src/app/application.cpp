@@ -8,6 +8,7 @@
 #include "platform/freedesktop/dbus_single_instance.h"
 #include "platform/freedesktop/session_bus.h"
 #include "platform/qt/base/unix_signals.h"
+#include "platform/system/own_environment.h"
 #include "services/preview_scratch.h"
 
 #include <QApplication>
@@ -65,7 +66,7 @@ int runApplication(int argc, char **argv)
         std::fprintf(stderr, "corvane: %s\n", choice.refusal.constData());
         return 1;
     }
-    qputenv("QT_QPA_PLATFORM", choice.platformPlugin);
+    own_environment::set("QT_QPA_PLATFORM", choice.platformPlugin);
     prepareSession(*choice.kind);
     session_bus::keepFromStarting();
     const AppInfo info = AppInfo::builtIn();

@@ -1,5 +1,7 @@
 #include "platform/qt/system/qt_desktop_services.h"
 
+#include "platform/system/own_environment.h"
+
 #include <QDesktopServices>
 #include <QUrl>
 
@@ -7,7 +9,10 @@ namespace corvane {
 
 bool QtDesktopServices::open(const QUrl &url)
 {
-    return url.isValid() && QDesktopServices::openUrl(url);
+    if (!url.isValid())
+        return false;
+    const own_environment::AsFound environment;
+    return QDesktopServices::openUrl(url);
 }
 
 } // namespace corvane
