@@ -2,8 +2,9 @@
 
 #include "app/base/app_info.h"
 #include "input/hot_key_center.h"
+#include "platform/system/own_environment.h"
 
-#include <QtGlobal>
+#include <QLoggingCategory>
 
 #include <algorithm>
 
@@ -33,7 +34,11 @@ void LayerSession::prepare()
 {
     // Without it Qt makes each window one of the desktop's ordinary ones, which can be nothing else
     // any more.
-    qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
+    own_environment::set("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
+    // Nothing here is painted by a graphics card, and what Qt would load for one takes more memory
+    // than all the rest. It warns of a name that stands for nothing.
+    own_environment::set("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none");
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.wayland.warning=false"));
 }
 
 LayerSession::LayerSession(const SessionNeeds &needs)
