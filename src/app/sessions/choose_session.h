@@ -27,11 +27,11 @@ enum class SessionKind {
 /// The variables of the environment that tell the kind of session, as bytes; empty if not set.
 struct SessionEnvironment {
     /// DISPLAY
-    QByteArray display;
+    QByteArray display = {};
     /// WAYLAND_DISPLAY
-    QByteArray waylandDisplay;
+    QByteArray waylandDisplay = {};
     /// QT_QPA_PLATFORM: somebody who asks for "xcb" alone gets it where it can be had.
-    QByteArray platformWish;
+    QByteArray platformWish = {};
     /// Qt's plug-in for Wayland is installed: many distributions have a package of its own for it.
     /// Looked for only where there is something to use it with.
     bool hasWaylandPlugin = false;
