@@ -129,7 +129,8 @@ bool WaylandConnection::waitOn(wl_event_queue *queue, const std::function<bool()
 
 void WaylandConnection::flush() const
 {
-    wl_display_flush(m_display);
+    if (m_display)
+        wl_display_flush(m_display);
 }
 
 } // namespace corvane

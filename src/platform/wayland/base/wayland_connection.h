@@ -15,8 +15,9 @@ class QWindow;
 
 namespace corvane {
 
-/// The compositor, on the connection that Qt has to it, and what Qt does not use there. Made once
-/// there is an application object, which must outlive it. Main thread only.
+/// The compositor, on the connection that Qt has to it, and what Qt does not use there; nothing
+/// where Qt has none. Made once there is an application object, which must outlive it. Main thread
+/// only.
 class WaylandConnection {
 public:
     WaylandConnection();

@@ -122,7 +122,9 @@ void LayerPanelSurface::hangUp(QWindow &window, Panel &panel)
     panel.surface->onClosed = [&panel] { panel.surface.reset(); };
     if (panel.hasKeyboard)
         panel.surface->setKeyboard(LayerSurface::Keyboard::Always);
-    panel.surface->announce();
+    // What has no place is shown nowhere; the next placement tries again.
+    if (!panel.surface->announce())
+        panel.surface.reset();
 }
 
 void LayerPanelSurface::showAnew(QWindow &window)

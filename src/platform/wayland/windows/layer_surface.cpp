@@ -33,7 +33,7 @@ struct LayerSurface::Listener {
         auto &self = *static_cast<LayerSurface *>(data);
         self.m_isClosed = true;
         // A copy: it may destroy the surface, and itself with it.
-        if (const auto tell = self.onClosed)
+        if (const auto tell = self.onClosed; tell && !self.m_isBeingAnnounced)
             tell();
     }
     static constexpr zwlr_layer_surface_v1_listener all = {configure, closed};
@@ -72,9 +72,11 @@ bool LayerSurface::announce()
     wl_event_queue *const queue = wl_display_create_queue(m_connection.display());
     auto *const proxy = reinterpret_cast<wl_proxy *>(m_layerSurface);
     wl_proxy_set_queue(proxy, queue);
+    m_isBeingAnnounced = true;
     commit();
     const bool isAnswered
         = m_connection.waitOn(queue, [this] { return m_isConfigured || m_isClosed; });
+    m_isBeingAnnounced = false;
     wl_proxy_set_queue(proxy, nullptr);
     wl_event_queue_destroy(queue);
     return isAnswered && !m_isClosed;

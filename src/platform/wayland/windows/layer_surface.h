@@ -53,7 +53,8 @@ public:
     void setKeyboard(Keyboard keyboard);
     void commit();
 
-    /// The compositor shows it no longer. May destroy this.
+    /// The compositor shows it no longer. Not called by `announce`, which says so itself. May
+    /// destroy this.
     std::function<void()> onClosed;
 
 private:
@@ -62,6 +63,7 @@ private:
     WaylandConnection &m_connection;
     wl_surface *m_surface;
     zwlr_layer_surface_v1 *m_layerSurface = nullptr;
+    bool m_isBeingAnnounced = false;
     bool m_isConfigured = false;
     bool m_isClosed = false;
 };
