@@ -11,15 +11,14 @@ XWaylandDrags::XWaylandDrags(MainQueue &queue)
     if (qEnvironmentVariableIsEmpty("DISPLAY"))
         return;
     m_connection = std::make_unique<X11Connection>([this] {
-        // A copy: it may replace itself.
-        if (const auto lost = onLost)
-            lost();
+        if (onLost)
+            onLost();
     });
     if (!isWatching())
         return;
     m_selection = std::make_unique<X11DragSelection>(*m_connection, [this] {
-        if (const auto began = onBegan)
-            began();
+        if (onBegan)
+            onBegan();
     });
     prime(queue);
 }

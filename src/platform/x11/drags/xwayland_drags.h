@@ -29,9 +29,9 @@ public:
     /// Whether drags are told of.
     bool isWatching() const;
 
-    /// A drag began, perhaps one of our own. May destroy this.
+    /// A drag began, perhaps one of our own. Must not destroy this.
     std::function<void()> onBegan;
-    /// The X server is gone, and nothing is told any more.
+    /// The X server is gone, and nothing is told any more. The same holds.
     std::function<void()> onLost;
 
 private:
