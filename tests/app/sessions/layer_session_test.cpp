@@ -1,0 +1,171 @@
+// How the parts of a session without a compositor, and without an X server beside it, work
+// together.
+
+#include "app/base/app_info.h"
+#include "app/sessions/layer_session.h"
+#include "fakes/fake_screens.h"
+#include "fakes/test_clock.h"
+#include "input/hot_key_center.h"
+#include "platform/wayland/windows/edge_strip.h"
+
+#include <QDragEnterEvent>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QScreen>
+#include <QStringList>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <utility>
+
+namespace corvane::test {
+
+namespace {
+
+struct LayerSessionTest : testing::Test {
+    LayerSessionTest()
+    {
+        qunsetenv("DISPLAY");
+        session = std::make_unique<LayerSession>(SessionNeeds{clock, screens, {}});
+        session->dragWatch.onDragBegan = [this] { log << QStringLiteral("began"); };
+        session->dragWatch.onDragEnded = [this](DragEnd end) {
+            log << (end == DragEnd::Seen ? QStringLiteral("seen") : QStringLiteral("assumed"));
+        };
+        session->dragWatch.start();
+    }
+    ScreenPointer attach(QPoint topLeft)
+    {
+        Screen values;
+        values.nativeFrame = QRect(topLeft, QSize(800, 600));
+        values.frame = values.availableFrame = values.nativeFrame;
+        return screens.attach(values);
+    }
+    static QList<EdgeStrip *> strips()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QList<EdgeStrip *> found;
+        for (QWindow *window : QGuiApplication::allWindows()) {
+            if (auto *const strip = dynamic_cast<EdgeStrip *>(window))
+                found << strip;
+        }
+        return found;
+    }
+    static void dragToTheEdge()
+    {
+        ASSERT_EQ(strips().size(), 1);
+        const QMimeData contents;
+        QDragEnterEvent enter({}, Qt::CopyAction, &contents, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(strips().first(), &enter);
+    }
+    static void pointAtTheEdge()
+    {
+        ASSERT_EQ(strips().size(), 1);
+        QMouseEvent move(QEvent::MouseMove, QPointF(), QPointF(), QPointF(), Qt::NoButton,
+                         Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(strips().first(), &move);
+    }
+    QStringList taken() { return std::exchange(log, {}); }
+    static QStringList words(const char *text)
+    {
+        return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    }
+
+    TestClock clock;
+    FakeScreens screens;
+    // Without a screen of the toolkit, so that no strip is hung there.
+    ScreenPointer main = attach({9000, 0});
+    ScreenPointer beside = attach(QGuiApplication::primaryScreen()->geometry().topLeft());
+    std::unique_ptr<LayerSession> session;
+    QStringList log;
+};
+
+} // namespace
+
+TEST_F(LayerSessionTest, aDragIsNoticedAtTheEdgeWhereNobodyElseTellsOfIt)
+{
+    EXPECT_EQ(session->abilities.now().drags.extent, Drags::AtTheEdge);
+    dragToTheEdge();
+    EXPECT_EQ(taken(), words("began"));
+}
+
+TEST_F(LayerSessionTest, theShelfOpensOnTheScreenWhoseEdgeThePointerOrADragCameTo)
+{
+    EXPECT_EQ(session->screenLocator.activeScreen(), main);
+    dragToTheEdge();
+    EXPECT_EQ(session->screenLocator.activeScreen(), beside);
+    screens.detach(beside);
+    EXPECT_EQ(session->screenLocator.activeScreen(), main);
+    screens.detach(main);
+    EXPECT_EQ(session->screenLocator.activeScreen(), nullptr);
+}
+
+TEST_F(LayerSessionTest, aPointerAtTheEdgeNamesTheScreenToo)
+{
+    pointAtTheEdge();
+    EXPECT_EQ(session->screenLocator.activeScreen(), beside);
+}
+
+TEST_F(LayerSessionTest, theEndIsSeenWhereThePointerComesWithNothing)
+{
+    dragToTheEdge();
+    taken();
+    pointAtTheEdge();
+    EXPECT_EQ(taken(), words("seen"));
+    dragToTheEdge();
+    taken();
+    session->panels.surface.onPointer();
+    EXPECT_EQ(taken(), words("seen"));
+}
+
+TEST_F(LayerSessionTest, theEndIsSeenWhereItIsLetGoOverAPanel)
+{
+    dragToTheEdge();
+    session->dragWatch.overPanel(true);
+    session->panels.surface.onDropped();
+    session->dragWatch.overPanel(false);
+    clock.advance(TimedDragWatch::settleDelay);
+    EXPECT_EQ(taken(), words("began seen"));
+}
+
+TEST_F(LayerSessionTest, stripsAreForDragsOnlyWhereTheyAreNotToldOfOrMayGoOn)
+{
+    session->xwaylandDrags.onBegan();
+    EXPECT_EQ(taken(), words("began"));
+    EXPECT_EQ(strips().size(), 1);
+    EXPECT_FALSE(session->mayDragGoOn);
+    clock.advance(TimedDragWatch::patience);
+    EXPECT_EQ(taken(), words("assumed"));
+    EXPECT_TRUE(session->mayDragGoOn);
+    session->panels.surface.onPointer();
+    EXPECT_FALSE(session->mayDragGoOn);
+}
+
+TEST_F(LayerSessionTest, stripsAreHungAnewWhereTheScreensChange)
+{
+    EXPECT_EQ(strips().size(), 1);
+    screens.detach(beside);
+    screens.notifyChanges();
+    EXPECT_TRUE(strips().isEmpty());
+    attach(QGuiApplication::primaryScreen()->geometry().topLeft());
+    screens.notifyChanges();
+    EXPECT_EQ(strips().size(), 1);
+}
+
+TEST_F(LayerSessionTest, keysAreBoundToCommandsInTheDesktop)
+{
+    const auto outcomeOf = [this](HotKeyCenter::Binding binding) {
+        return session->hotKeys
+            .registerHotKey({}, 0, {HotKeyCenter::signature, HotKeyCenter::idOf(binding)}, {})
+            .outcome;
+    };
+    EXPECT_EQ(outcomeOf(HotKeyCenter::Binding::Shelf),
+              ShortcutOutcome::setInDesktop(QStringLiteral("corvane")));
+    EXPECT_EQ(outcomeOf(HotKeyCenter::Binding::ViewAll),
+              ShortcutOutcome::setInDesktop(QStringLiteral("gapplication action %1 view-all")
+                                                .arg(AppInfo::builtIn().applicationId())));
+    EXPECT_FALSE(session->hotKeys.installHandler({}).has_value());
+}
+
+} // namespace corvane::test
