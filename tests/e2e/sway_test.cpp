@@ -28,6 +28,36 @@ protected:
     QPoint edge() { return {server().size().width() / 2, 0}; }
     QPoint belowEdge() { return edge() + QPoint(0, 200); }
 
+    /// With a drag in the hand whose pointer is where the shelf opens.
+    void dropWhereTheShelfOpens(GtkPeer &source)
+    {
+        wiggleUntil([&] { return corvane().isShown(); });
+        ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
+        hands().glideTo(dropPoint());
+        wiggleUntil([&] { return source.isSourceWelcome(); });
+        hands().release();
+    }
+
+    void dragOut(GtkPeer &target)
+    {
+        const QPoint item = corvane().at(38, 22);
+        hands().beginDrag(item, target.target());
+        hands().glideTo(target.target());
+        wiggleUntil([&] { return target.isTargetReady(); });
+        hands().release();
+    }
+
+    /// Only moves are told of.
+    template<class Condition>
+    void wiggleUntil(Condition condition)
+    {
+        int step = 1;
+        EXPECT_TRUE(eventually([&] {
+            hands().moveBy(QPoint(step = -step, 0));
+            return condition();
+        }));
+    }
+
     void keep(const QString &file)
     {
         GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
@@ -68,7 +98,7 @@ TEST_F(Sway, aFileIsKeptAndGoesOnIntoAnotherProgram)
     EXPECT_EQ(source.endOfDrag(), "done");
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 
-    dropOutOn(corvane().at(38, 22), target.target());
+    dragOut(target);
     EXPECT_EQ(target.droppedAddresses().trimmed(), uriList({file}).trimmed());
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
@@ -85,7 +115,7 @@ TEST_F(Sway, aTextComesBackLetterForLetter)
     hands().beginDrag(source.source(), edge());
     dropOnShelf();
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-    dropOutOn(corvane().at(38, 22), target.target());
+    dragOut(target);
     EXPECT_EQ(target.droppedText(), text.toUtf8());
 }
 
@@ -109,7 +139,7 @@ TEST_F(Sway, aDragThatEndsElsewhereClosesTheShelfAgain)
     hands().beginDrag(source.source(), target.target());
     EXPECT_TRUE(corvane().waitUntilShown());
     hands().glideTo(target.target());
-    hands().aim(target.target());
+    wiggleUntil([&] { return target.isTargetReady(); });
     hands().release();
     EXPECT_EQ(target.droppedText(), "text");
     EXPECT_TRUE(corvane().waitUntilHidden());
@@ -126,7 +156,7 @@ TEST_F(Sway, aLongSlowDragFindsTheShelfAgainAtTheEdge)
     // Whether it is over nobody tells.
     ASSERT_TRUE(corvane().waitUntilHidden());
     hands().glideTo(edge());
-    dropOnShelf();
+    dropWhereTheShelfOpens(source);
     EXPECT_EQ(source.endOfDrag(), "done");
     EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 }
@@ -176,7 +206,7 @@ TEST_F(SwayWithoutXWayland, aDragAtTheEdgeOpensTheShelfThatTakesIt)
     start();
     hands().beginDrag(source.source(), edge());
     hands().glideTo(edge());
-    dropOnShelf();
+    dropWhereTheShelfOpens(source);
     EXPECT_EQ(source.endOfDrag(), "done");
     EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 }

@@ -41,6 +41,7 @@ else:
 state = {"failed": False}
 def begun(widget, context):
     state["failed"] = False
+    context.connect("action-changed", lambda c, action: tell("action", action.first_value_nick))
 def failed(widget, context, result):
     state["failed"] = True
     return True
@@ -60,6 +61,12 @@ def received(widget, context, x, y, data, info, time):
     elif data.get_text() is not None:
         tell("text", data.get_text().encode().hex())
 target.connect("drag-data-received", received)
+# Told once the display server knows that it would be taken.
+def hovering():
+    Gdk.Display.get_default().sync()
+    tell("target over")
+target.connect("drag-motion", lambda w, c, x, y, t: bool(GLib.idle_add(hovering)) and False)
+target.connect("drag-leave", lambda w, c, t: tell("target left"))
 
 box.pack_start(source, True, True, 0)
 box.pack_start(target, True, True, 0)
@@ -117,6 +124,16 @@ QByteArray GtkPeer::endOfDrag()
     QByteArray end;
     eventually([&] { return !(end = lastLine("end")).isEmpty(); });
     return end;
+}
+
+bool GtkPeer::isSourceWelcome()
+{
+    return lastLine("action") == "copy";
+}
+
+bool GtkPeer::isTargetReady()
+{
+    return lastLine("target") == "over";
 }
 
 int GtkPeer::presses()

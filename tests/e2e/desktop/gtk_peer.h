@@ -31,6 +31,10 @@ public:
     QByteArray droppedText() { return dropped("text"); }
     /// How the last drag out of it ended, as it was told: "done" or "failed"; empty before.
     QByteArray endOfDrag();
+    /// What is dragged out of it would be taken where it is now.
+    bool isSourceWelcome();
+    /// Something is over its target, which would take it.
+    bool isTargetReady();
     int presses();
 
 private:

@@ -1,12 +1,28 @@
 #include "e2e/desktop/shelf_in_picture.h"
 
+#include <algorithm>
+#include <cstdlib>
+
 namespace corvane::e2e {
+
+namespace {
+
+/// By more than what an outline leaves in the pixels beside it.
+bool differs(QRgb one, QRgb other)
+{
+    constexpr int clearly = 32;
+    return std::max({std::abs(qRed(one) - qRed(other)), std::abs(qGreen(one) - qGreen(other)),
+                     std::abs(qBlue(one) - qBlue(other))})
+        > clearly;
+}
+
+} // namespace
 
 QRect shelfIn(const QImage &picture, QRgb wallpaper)
 {
     const int middle = picture.width() / 2;
     const auto isShelf = [&](int x, int y) {
-        return picture.rect().contains(x, y) && (picture.pixel(x, y) | 0xff000000U) != wallpaper;
+        return picture.rect().contains(x, y) && differs(picture.pixel(x, y), wallpaper);
     };
     int bottom = 0;
     while (isShelf(middle, bottom))
