@@ -139,6 +139,32 @@ TEST_F(TimedDragWatchTest, NoticesADragOverAPanelThatNobodyToldOf)
     EXPECT_EQ(taken(), words("began"));
 }
 
+TEST_F(TimedDragWatchTest, AssumesNoEndWhereADragIsToldOfThatIsOverAPanelAlready)
+{
+    watch->overPanel(true);
+    watch->noticed();
+    clock.advance(2 * patience);
+    EXPECT_EQ(taken(), words("began"));
+}
+
+TEST_F(TimedDragWatchTest, SeesNoEndWhereADragOfOurOwnIsLetGoOverAPanel)
+{
+    watch->ownDrag(true);
+    watch->overPanel(true);
+    watch->droppedOnPanel();
+    clock.advance(2 * settling);
+    EXPECT_EQ(taken(), words(""));
+}
+
+TEST_F(TimedDragWatchTest, SettlesWhatWasUncertainWhenItIsStopped)
+{
+    watch->noticed();
+    clock.advance(patience);
+    taken();
+    watch->stop();
+    EXPECT_EQ(taken(), words("settled"));
+}
+
 TEST_F(TimedDragWatchTest, TakesADragOfOurOwnForNone)
 {
     watch->ownDrag(true);
