@@ -76,6 +76,11 @@ struct EdgeStripsTest : testing::Test {
         QCoreApplication::sendEvent(&strip, &enter);
         return enter.isAccepted();
     }
+    static void dragAway(EdgeStrip &strip)
+    {
+        QDragLeaveEvent leave;
+        QCoreApplication::sendEvent(&strip, &leave);
+    }
     QStringList taken() { return std::exchange(log, {}); }
 
     QPoint origin = QGuiApplication::primaryScreen()->geometry().topLeft();
@@ -190,7 +195,35 @@ TEST_F(EdgeStripsTest, mayBeReplacedByWhatTheyTell)
     EXPECT_TRUE(shown().isEmpty());
     strips.watchDrags(true);
     strips.onDragEntered = [this](const ScreenPointer &, bool) { strips.watchDrags(false); };
-    dragTo(*shown().first());
+    EdgeStrip &strip = *shown().first();
+    dragTo(strip);
+    dragAway(strip);
+    EXPECT_TRUE(shown().isEmpty());
+}
+
+TEST_F(EdgeStripsTest, stayUntilWhatIsDraggedOverThemHasLeft)
+{
+    strips.watchDrags(true);
+    EdgeStrip &strip = *shown().first();
+    dragTo(strip);
+    strips.watchDrags(false);
+    EXPECT_EQ(shown(), QList<EdgeStrip *>{&strip});
+    taken();
+    dragTo(strip);
+    EXPECT_EQ(taken(), QStringList());
+    dragAway(strip);
+    EXPECT_TRUE(shown().isEmpty());
+}
+
+TEST_F(EdgeStripsTest, endWithTheSessionWhateverIsDraggedOverThem)
+{
+    {
+        EdgeStrips others(connection, screens);
+        others.watchDrags(true);
+        dragTo(*shown().first());
+        others.watchDrags(false);
+        EXPECT_EQ(shown().size(), 1);
+    }
     EXPECT_TRUE(shown().isEmpty());
 }
 

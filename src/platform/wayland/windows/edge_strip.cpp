@@ -42,6 +42,13 @@ EdgeStrip::~EdgeStrip()
 void EdgeStrip::retire()
 {
     m_events = {};
+    m_isRetired = true;
+    if (!m_hasDrag)
+        end();
+}
+
+void EdgeStrip::end()
+{
     m_surface.reset();
     hide();
     deleteLater();
@@ -65,6 +72,20 @@ void EdgeStrip::pointerLeft()
         tell();
 }
 
+void EdgeStrip::dragEntered(bool isOwn)
+{
+    m_hasDrag = true;
+    if (const auto tell = m_events.dragEntered)
+        tell(isOwn);
+}
+
+void EdgeStrip::dragIsGone()
+{
+    m_hasDrag = false;
+    if (m_isRetired)
+        end();
+}
+
 bool EdgeStrip::event(QEvent *event)
 {
     switch (event->type()) {
@@ -77,17 +98,18 @@ bool EdgeStrip::event(QEvent *event)
     case QEvent::Leave:
         pointerLeft();
         return true;
-    case QEvent::DragEnter: {
+    case QEvent::DragEnter:
         // What is let go right here goes back to where it came from.
         event->ignore();
-        const bool isOwn = static_cast<QDragEnterEvent *>(event)->source() != nullptr;
-        if (const auto tell = m_events.dragEntered)
-            tell(isOwn);
+        dragEntered(static_cast<QDragEnterEvent *>(event)->source() != nullptr);
         return true;
-    }
     case QEvent::DragMove:
+        event->ignore();
+        return true;
+    case QEvent::DragLeave:
     case QEvent::Drop:
         event->ignore();
+        dragIsGone();
         return true;
     case QEvent::PlatformSurface:
         if (static_cast<QPlatformSurfaceEvent *>(event)->surfaceEventType()

@@ -29,9 +29,12 @@ public:
     EdgeStrip(WaylandConnection &connection, QScreen &screen, const QRect &area, Events events);
     ~EdgeStrip() override;
 
-    /// Takes it away, tells nobody anything any more, and destroys it once none of its events is
-    /// being handled.
+    /// Tells nobody anything any more, and takes it away; later, if something is dragged over it,
+    /// once that has left. Qt goes on using the window until then, and sway the surface, even if
+    /// they are gone: it would take a surface that is made meanwhile for this one.
     void retire();
+    /// Takes it away at once, and destroys it once none of its events is being handled.
+    void end();
 
 protected:
     bool event(QEvent *event) override;
@@ -39,11 +42,15 @@ protected:
 private:
     void pointerMoved(bool hasJustCome);
     void pointerLeft();
+    void dragEntered(bool isOwn);
+    void dragIsGone();
     void paint();
 
     Events m_events;
     QElapsedTimer m_sinceShown;
     bool m_hasPointer = false;
+    bool m_hasDrag = false;
+    bool m_isRetired = false;
     QBackingStore m_store;
     std::unique_ptr<LayerSurface> m_surface;
 };

@@ -31,6 +31,10 @@ EdgeStrips::EdgeStrips(WaylandConnection &connection, const Screens &screens)
 EdgeStrips::~EdgeStrips()
 {
     retire();
+    for (const auto &strip : m_retired) {
+        if (strip)
+            strip->end();
+    }
 }
 
 void EdgeStrips::watch(const std::vector<EdgeStretch> &stretches)
@@ -89,8 +93,11 @@ void EdgeStrips::retire()
 {
     m_isPointerThere = false;
     m_shown.clear();
-    for (EdgeStrip *strip : std::exchange(m_strips, {}))
+    std::erase_if(m_retired, [](const auto &strip) { return strip.isNull(); });
+    for (EdgeStrip *strip : std::exchange(m_strips, {})) {
+        m_retired.emplace_back(strip);
         strip->retire();
+    }
 }
 
 EdgeStrip *EdgeStrips::makeStrip(const EdgeStretch &stretch)

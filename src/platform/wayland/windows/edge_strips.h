@@ -3,6 +3,8 @@
 #include "platform/desktop/edge_trigger.h"
 #include "platform/desktop/screens.h"
 
+#include <QPointer>
+
 #include <functional>
 #include <vector>
 
@@ -59,6 +61,8 @@ private:
     std::vector<EdgeStretch> m_shown;
     /// Each destroys itself once it is retired.
     std::vector<EdgeStrip *> m_strips;
+    /// Those that were retired and may have a drag over them still.
+    std::vector<QPointer<EdgeStrip>> m_retired;
 };
 
 } // namespace corvane
