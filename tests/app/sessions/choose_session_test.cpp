@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <optional>
 #include <ostream>
 
@@ -33,7 +34,7 @@ const SessionEnvironment bothForX11{.display = ":0",
 const SessionEnvironment waylandForX11{
     .waylandDisplay = "wayland-1", .platformWish = "xcb", .hasWaylandPlugin = true};
 
-const Case cases[] = {
+const auto cases = std::to_array<Case>({
     {"an X11 session", x11, noAnswer, SessionKind::X11, "xcb"},
     {"a compositor that hangs panels", wayland, withPanels, SessionKind::Layer, "wayland"},
     {"the same with an X server beside it", both, withPanels, SessionKind::Layer, "wayland"},
@@ -46,7 +47,7 @@ const Case cases[] = {
     {"a compositor that hangs none, and no X server", wayland, withoutPanels, std::nullopt, ""},
     {"a wrong name, and no X server", wayland, noAnswer, std::nullopt, ""},
     {"nothing at all", {}, noAnswer, std::nullopt, ""},
-};
+});
 
 } // namespace
 

@@ -12,7 +12,6 @@
 #include <unistd.h>
 
 #include <cmath>
-#include <utility>
 
 namespace corvane::e2e {
 
@@ -74,8 +73,8 @@ void collect(const QJsonObject &node, double scale, QList<WindowFacts> &found)
 
 } // namespace
 
-NestedSway::NestedSway(XServer &screen, QProcessEnvironment environment, const Kind &kind)
-    : m_environment(std::move(environment))
+NestedSway::NestedSway(XServer &screen, const QProcessEnvironment &environment, const Kind &kind)
+    : m_environment(environment)
     , m_scale(kind.scale)
 {
     for (const auto &folder :
@@ -159,7 +158,7 @@ QString NestedSway::fileLike(const QString &pattern) const
 }
 
 /// Its one output is as large as its window.
-bool NestedSway::fillScreen(XServer &screen)
+bool NestedSway::fillScreen(XServer &screen) const
 {
     const auto windows = screen.windows();
     if (windows.isEmpty())

@@ -32,7 +32,7 @@ public:
 
         friend bool operator==(const Kind &, const Kind &) = default;
     };
-    NestedSway(XServer &screen, QProcessEnvironment environment, const Kind &kind);
+    NestedSway(XServer &screen, const QProcessEnvironment &environment, const Kind &kind);
 
     QString problem() const { return m_problem; }
     /// What programs of this session are started with, beside what they are started with anyway.
@@ -49,7 +49,7 @@ private:
     std::unique_ptr<Program> startAsUser(const QString &name, const QStringList &arguments);
     void writeConfiguration(const Kind &kind);
     void letUserIn(XServer &screen);
-    bool fillScreen(XServer &screen);
+    bool fillScreen(XServer &screen) const;
     void letRootIn();
     QString fileLike(const QString &pattern) const;
 
