@@ -42,6 +42,10 @@ public:
         m_registered.emplace(handle, Taken{wanted, identifier, std::move(onOutcome)});
         return {firstAnswer, Subscription([this, handle] { unregister(handle); })};
     }
+    ShortcutOutcome outcomeWithoutKeys(const HotKeyIdentifier & /*identifier*/) const override
+    {
+        return withoutKeys;
+    }
     std::unique_ptr<Suspension> suspend() override { return std::make_unique<Counted>(*this); }
 
     /// Presses the keys; true if one of our hot keys was pressed.
@@ -86,6 +90,8 @@ public:
     std::set<Combination> takenByOthers;
     /// What registering says of a combination that can be had.
     ShortcutOutcome firstAnswer = ShortcutOutcome::bound();
+    /// What a hot key is that has no combination.
+    ShortcutOutcome withoutKeys;
     bool refusesHandler = false;
     int unregistrations = 0;
     int suspensions = 0;

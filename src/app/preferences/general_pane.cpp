@@ -11,6 +11,7 @@
 #include "app/updates/updater.h"
 #include "core/settings.h"
 #include "input/shortcut_binder.h"
+#include "platform/desktop/hot_key_service.h"
 #include "platform/system/login_items.h"
 
 #include <QVBoxLayout>
@@ -73,6 +74,8 @@ void GeneralPane::showAbilities()
     m_limits->setVisible(!limits.isEmpty());
     for (ShortcutRow *row : {m_shelfShortcut, m_viewAllShortcut})
         row->setRecordable(m_context.abilities.now().shortcutChoice.isFull());
+    // What they are bound to changes with who binds them.
+    showOutcomes();
 }
 
 PreferenceSection *GeneralPane::makeShelfSection()
@@ -166,9 +169,18 @@ void GeneralPane::shortcutChanged(HotKeyCenter::Binding changed)
 
 void GeneralPane::showOutcomes()
 {
-    const ShortcutBinder &binder = m_context.shortcutBinder;
-    m_shelfShortcut->setOutcome(binder.outcome(HotKeyCenter::Binding::Shelf));
-    m_viewAllShortcut->setOutcome(binder.outcome(HotKeyCenter::Binding::ViewAll));
+    m_shelfShortcut->setOutcome(outcome(HotKeyCenter::Binding::Shelf));
+    m_viewAllShortcut->setOutcome(outcome(HotKeyCenter::Binding::ViewAll));
+}
+
+/// Where keys are bound to commands the user is told the command, whether or not keys are stored.
+ShortcutOutcome GeneralPane::outcome(HotKeyCenter::Binding binding) const
+{
+    const ShortcutOutcome known = m_context.shortcutBinder.outcome(binding);
+    if (known.kind != ShortcutOutcome::Kind::Unset)
+        return known;
+    return m_context.hotKeys.outcomeWithoutKeys(
+        {HotKeyCenter::signature, HotKeyCenter::idOf(binding)});
 }
 
 PreferenceSection *GeneralPane::makeUpdatesSection()

@@ -35,6 +35,7 @@ private:
     PreferenceSection *makeShortcutsSection();
     void shortcutChanged(HotKeyCenter::Binding changed);
     void showOutcomes();
+    ShortcutOutcome outcome(HotKeyCenter::Binding binding) const;
     PreferenceSection *makeUpdatesSection();
     SettingRow *makeSwitchRow(const QString &title, const QString &detail, bool on,
                               void (Settings::*write)(bool));

@@ -1,30 +1,39 @@
 #include "app/preferences/shortcut_row.h"
 
+#include "app/look/action_button.h"
 #include "app/preferences/clear_button.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "core/display_text.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
 
 namespace corvane {
 
 namespace {
 
 constexpr QSize recorderSize{124, 26};
+constexpr double copyTextSize = 12;
+constexpr QSize copySize{64, 26};
 
 } // namespace
 
 ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail, KeyMonitors &keyMonitors,
                          HotKeyService &hotKeys, const WindowLook &look)
     : ShortcutRow(title, usualDetail, new ShortcutRecorderView(keyMonitors, hotKeys),
-                  new ClearButton(look), look)
+                  new ClearButton(look), new ActionButton(tr("Copy"), copyTextSize, copySize, look),
+                  look)
 {
 }
 
 ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail,
-                         ShortcutRecorderView *recorder, ClearButton *clear, const WindowLook &look)
-    : SettingRow(title, usualDetail, {recorder, clear}, look)
+                         ShortcutRecorderView *recorder, ClearButton *clear, ActionButton *copy,
+                         const WindowLook &look)
+    : SettingRow(title, usualDetail, {recorder, clear, copy}, look)
     , m_usualDetail(usualDetail)
     , m_recorder(recorder)
     , m_clear(clear)
+    , m_copy(copy)
 {
     m_recorder->setFixedSize(look.length(recorderSize));
     m_recorder->setAccessibleName(title);
@@ -34,6 +43,10 @@ ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail,
     m_clear->setAccessibleDescription(title);
     m_recorder->onChange = [this](const Shortcut &shortcut) { change(shortcut); };
     connect(m_clear, &QPushButton::clicked, this, [this] { change(std::nullopt); });
+    m_copy->setAccessibleDescription(title);
+    m_copy->hide();
+    connect(m_copy, &ActionButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(m_copied); });
     setShortcut(std::nullopt);
 }
 
@@ -59,7 +72,10 @@ QString ShortcutRow::detailFor(const ShortcutOutcome &outcome) const
     case ShortcutOutcome::Kind::Pending:
         return tr("Your desktop has not answered yet.");
     case ShortcutOutcome::Kind::SetInDesktop:
-        return tr("Bind a key to this command in your desktop's settings: %1").arg(text);
+        return outcome.settingsLine.isEmpty()
+            ? tr("Bind a key to this command in your desktop's settings: %1").arg(text)
+            : tr("Add this line to your desktop's settings: %1")
+                  .arg(displayText(outcome.settingsLine));
     case ShortcutOutcome::Kind::Bound:
         return text.isEmpty() ? m_usualDetail : tr("Your desktop has bound it to %1.").arg(text);
     case ShortcutOutcome::Kind::Unset:
@@ -74,6 +90,10 @@ void ShortcutRow::setOutcome(const ShortcutOutcome &outcome)
     m_recorder->setConflict(outcome.isRefused());
     m_recorder->setAccessibleDescription(detail);
     setDetail(detail);
+    const bool isCommand = outcome.kind == ShortcutOutcome::Kind::SetInDesktop;
+    const QString &line = outcome.settingsLine;
+    m_copied = isCommand ? (line.isEmpty() ? outcome.text : line) : QString();
+    m_copy->setVisible(isCommand);
 }
 
 void ShortcutRow::setRecordable(bool recordable)

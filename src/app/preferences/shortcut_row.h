@@ -9,6 +9,7 @@
 
 namespace corvane {
 
+class ActionButton;
 class ClearButton;
 class HotKeyService;
 class KeyMonitors;
@@ -27,7 +28,8 @@ public:
 
     const std::optional<Shortcut> &shortcut() const { return m_shortcut; }
     void setShortcut(const std::optional<Shortcut> &shortcut);
-    /// What has become of the shown combination.
+    /// What has become of the shown combination. Where the user binds keys to a command, it can be
+    /// copied.
     void setOutcome(const ShortcutOutcome &outcome);
     /// Whether it is chosen here; otherwise there is nothing to click.
     void setRecordable(bool recordable);
@@ -37,13 +39,16 @@ public:
 
 private:
     ShortcutRow(const QString &title, const QString &usualDetail, ShortcutRecorderView *recorder,
-                ClearButton *clear, const WindowLook &look);
+                ClearButton *clear, ActionButton *copy, const WindowLook &look);
     QString detailFor(const ShortcutOutcome &outcome) const;
     void change(const std::optional<Shortcut> &shortcut);
 
     QString m_usualDetail;
     ShortcutRecorderView *m_recorder;
     ClearButton *m_clear;
+    ActionButton *m_copy;
+    /// Empty where there is nothing to copy.
+    QString m_copied;
     std::optional<Shortcut> m_shortcut;
 };
 

@@ -2,32 +2,44 @@
 
 #include "app/base/app_info.h"
 #include "input/hot_key_center.h"
+#include "platform/system/own_command.h"
 #include "platform/system/own_environment.h"
 
+#include <QCoreApplication>
 #include <QLoggingCategory>
 
 #include <algorithm>
 
 namespace corvane {
 
+namespace {
+
+/// What the hot keys do, as the desktop lists it and as commands.
+std::vector<DesktopAction> desktopActions()
+{
+    using enum HotKeyCenter::Binding;
+    const auto title = [](const char *text) {
+        return QCoreApplication::translate("corvane::GeneralPane", text);
+    };
+    const QString application = AppInfo::builtIn().applicationId();
+    // Starting the program once more is for the shelf; the bar is one of its actions.
+    return {{.id = HotKeyCenter::idOf(Shelf),
+             .name = QStringLiteral("toggle"),
+             .title = title("Show or hide the shelf"),
+             .command = own_command::inShell()},
+            {.id = HotKeyCenter::idOf(ViewAll),
+             .name = QStringLiteral("view-all"),
+             .title = title("Show or hide all items"),
+             .command = QStringLiteral("gapplication action %1 view-all").arg(application)}};
+}
+
+} // namespace
+
 ScreenPointer LastSeenScreen::activeScreen() const
 {
     const auto attached = m_screens.screens();
     const auto found = std::ranges::find(attached, m_last.lock());
     return found == attached.end() ? m_screens.mainScreen() : *found;
-}
-
-HotKeyService::Registration KeysBoundToCommands::registerHotKey(KeyPosition /*keyCode*/,
-                                                                std::uint32_t /*modifiers*/,
-                                                                const HotKeyIdentifier &identifier,
-                                                                OutcomeObserver /*onOutcome*/)
-{
-    const bool isForShelf = identifier.id == HotKeyCenter::idOf(HotKeyCenter::Binding::Shelf);
-    // Starting the program once more is for the shelf; the bar is one of its actions.
-    const QString command = isForShelf
-        ? QStringLiteral("corvane")
-        : QStringLiteral("gapplication action %1 view-all").arg(AppInfo::builtIn().applicationId());
-    return {ShortcutOutcome::setInDesktop(command), {}};
 }
 
 void LayerSession::prepare()
@@ -46,14 +58,29 @@ LayerSession::LayerSession(const SessionNeeds &needs)
     , dragWatch(needs.mainQueue)
     , edgeStrips(connection, needs.screens)
     , keyboardLayout(connection)
+    , kdeShortcuts({.name = AppInfo::builtIn().applicationId(),
+                    .title = QCoreApplication::applicationName()},
+                   desktopActions(), keyNaming())
+    , portalShortcuts(desktopActions(), keyNaming(), needs.mainQueue)
+    , actionShortcuts(desktopActions(),
+                      key_notation::settingsOf(qEnvironmentVariable("XDG_CURRENT_DESKTOP")),
+                      keyNaming())
+    , hotKeys({&kdeShortcuts, &portalShortcuts, &actionShortcuts})
     , panels(connection, needs.mainQueue)
     , windowActivation(panels.surface)
     , xwaylandDrags(needs.mainQueue)
 {
     wireDrags();
     wireStrips();
+    hotKeys.onChosen = [this] { tellAbilities(); };
     tellAbilities();
     needs.screens.observeChanges(lifetime.guard([this] { edgeStrips.renew(); }));
+}
+
+KeyNaming LayerSession::keyNaming() const
+{
+    return
+        [this](KeyPosition key, bool isShifted) { return keyboardLayout.nameOf(key, isShifted); };
 }
 
 void LayerSession::wireDrags()
@@ -95,8 +122,10 @@ void LayerSession::updateStrips()
 
 void LayerSession::tellAbilities()
 {
-    Abilities now{.clicksElsewhere = {ClicksElsewhere::Unnoticed, Reason::KeptByDesktop},
-                  .shortcutChoice = {ShortcutChoice::InTheDesktop, Reason::KeptByDesktop}};
+    Abilities now{.clicksElsewhere = {ClicksElsewhere::Unnoticed, Reason::KeptByDesktop}};
+    const OptionalHotKeys *const service = hotKeys.chosen();
+    if (!service || service->choice() != ShortcutChoice::Here)
+        now.shortcutChoice = {ShortcutChoice::InTheDesktop, Reason::KeptByDesktop};
     if (!xwaylandDrags.isWatching())
         now.drags = {Drags::AtTheEdge, Reason::KeptByDesktop};
     abilities.become(now);

@@ -1,12 +1,15 @@
 #pragma once
 
 #include "app/sessions/desktop_session.h"
+#include "input/first_hot_keys.h"
 #include "input/timed_drag_watch.h"
 #include "platform/base/lifetime.h"
 #include "platform/desktop/abilities.h"
-#include "platform/desktop/hot_key_service.h"
 #include "platform/desktop/outside_clicks.h"
 #include "platform/desktop/screen_locator.h"
+#include "platform/freedesktop/shortcuts/action_shortcuts.h"
+#include "platform/freedesktop/shortcuts/kde_shortcuts.h"
+#include "platform/freedesktop/shortcuts/portal_shortcuts.h"
 #include "platform/wayland/base/wayland_connection.h"
 #include "platform/wayland/keys/wayland_keyboard_layout.h"
 #include "platform/wayland/windows/edge_strips.h"
@@ -40,20 +43,6 @@ public:
     Subscription watch(Handler /*onPressed*/) override { return {}; }
 };
 
-/// A session that lets no program take keys for itself: the user binds keys to commands, in the
-/// compositor's settings.
-class KeysBoundToCommands : public HotKeyService {
-public:
-    std::optional<HandlerRef> installHandler(Handler /*onPressed*/) override
-    {
-        return std::nullopt;
-    }
-    Registration registerHotKey(KeyPosition keyCode, std::uint32_t modifiers,
-                                const HotKeyIdentifier &identifier,
-                                OutcomeObserver onOutcome) override;
-    std::unique_ptr<Suspension> suspend() override { return std::make_unique<Suspension>(); }
-};
-
 /// A session whose compositor hangs our panels from its screens' edges, and tells us nothing of
 /// other programs: neither where the pointer is, nor what is dragged, except where that comes to a
 /// window of ours. An X server that the compositor may keep for X11's programs tells when a drag
@@ -72,8 +61,11 @@ struct LayerSession : RunningSession {
     TimedDragWatch dragWatch;
     EdgeStrips edgeStrips;
     UnheardClicks outsideClicks;
-    KeysBoundToCommands hotKeys;
     WaylandKeyboardLayout keyboardLayout;
+    KdeShortcuts kdeShortcuts;
+    PortalShortcuts portalShortcuts;
+    ActionShortcuts actionShortcuts;
+    FirstHotKeys hotKeys;
     LayerPanels panels;
     LayerWindowActivation windowActivation;
     XWaylandDrags xwaylandDrags;
@@ -81,6 +73,7 @@ struct LayerSession : RunningSession {
     Lifetime lifetime;
 
 private:
+    KeyNaming keyNaming() const;
     void wireDrags();
     void wireStrips();
     void updateStrips();

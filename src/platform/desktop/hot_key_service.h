@@ -62,6 +62,13 @@ public:
                                                       OutcomeObserver onOutcome)
         = 0;
 
+    /// What has become of a hot key for which no combination is stored: unset, except where a
+    /// desktop leaves hot keys to the user.
+    virtual ShortcutOutcome outcomeWithoutKeys(const HotKeyIdentifier & /*identifier*/) const
+    {
+        return {};
+    }
+
     /// Registering still works during a suspension, and still fails for combinations that are in
     /// use.
     [[nodiscard]] virtual std::unique_ptr<Suspension> suspend() = 0;

@@ -32,6 +32,9 @@ struct ShortcutOutcome {
     /// asked for. For one that is set in the desktop, the command that the user binds a key to
     /// there.
     QString text = {};
+    /// For one that is set in the desktop, the line of the desktop's settings that binds the keys
+    /// which were asked for to the command; empty where we do not know how such a line is written.
+    QString settingsLine = {};
 
     static ShortcutOutcome pending() { return {.kind = Kind::Pending}; }
     static ShortcutOutcome bound(const QString &keys = {})
@@ -42,9 +45,9 @@ struct ShortcutOutcome {
     {
         return {.kind = Kind::Refused, .why = why};
     }
-    static ShortcutOutcome setInDesktop(const QString &command)
+    static ShortcutOutcome setInDesktop(const QString &command, const QString &settingsLine = {})
     {
-        return {.kind = Kind::SetInDesktop, .text = command};
+        return {.kind = Kind::SetInDesktop, .text = command, .settingsLine = settingsLine};
     }
 
     bool isRefused() const { return kind == Kind::Refused; }

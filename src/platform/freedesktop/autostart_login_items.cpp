@@ -1,10 +1,9 @@
 #include "platform/freedesktop/autostart_login_items.h"
 
 #include "platform/freedesktop/desktop_entry.h"
-#include "platform/system/app_image.h"
+#include "platform/system/own_command.h"
 #include "platform/system/regular_file.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -26,14 +25,6 @@ QString entryPath()
 {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
         + QLatin1String("/autostart/corvane.desktop");
-}
-
-/// Of an AppImage its file, since what runs then is a temporary copy.
-QString runningProgram()
-{
-    const QByteArray appImage = app_image::containing(app_image::Evidence::ofThisProcess());
-    return appImage.isEmpty() ? QCoreApplication::applicationFilePath()
-                              : QFile::decodeName(appImage);
 }
 
 /// One argument of an Exec line. Its quoting is undone twice: once as text of the entry, once as a
@@ -105,7 +96,7 @@ void removeOtherThanFile(const QString &path)
 } // namespace
 
 AutostartLoginItems::AutostartLoginItems()
-    : AutostartLoginItems(runningProgram())
+    : AutostartLoginItems(own_command::file())
 {
 }
 

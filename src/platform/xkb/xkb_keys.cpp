@@ -66,6 +66,17 @@ QString textOf(xkb_keymap *keymap, xkb_keycode_t key, xkb_layout_index_t layout)
     return {};
 }
 
+KeyName nameOf(xkb_keymap *keymap, xkb_keycode_t key, xkb_layout_index_t layout, bool isShifted)
+{
+    const xkb_keysym_t *symbols = nullptr;
+    const xkb_level_index_t level = isShifted ? 1 : 0;
+    if (xkb_keymap_key_get_syms_by_level(keymap, key, layout, level, &symbols) != 1)
+        return {};
+    std::array<char, 64> name{};
+    xkb_keysym_get_name(*symbols, name.data(), name.size());
+    return {.text = textOf(*symbols), .symbol = QString::fromLatin1(name.data())};
+}
+
 bool changesKeys(KeySymbol symbol)
 {
     struct Range {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/desktop/keys.h"
+#include "platform/desktop/key_name.h"
 
 #include <QString>
 
@@ -26,6 +26,9 @@ using State = std::unique_ptr<xkb_state, Unreference<xkb_state_unref>>;
 /// By the first level at which the key types something: a keypad's digits are not on its lowest
 /// one. Of a dead key the accent that it puts on others; empty where it types nothing.
 QString textOf(xkb_keymap *keymap, xkb_keycode_t key, xkb_layout_index_t layout);
+
+/// What the key is called on its lowest level, or with Shift on the next one.
+KeyName nameOf(xkb_keymap *keymap, xkb_keycode_t key, xkb_layout_index_t layout, bool isShifted);
 
 /// Whether a key that has this symbol changes what keys do instead of being one itself.
 bool changesKeys(KeySymbol symbol);

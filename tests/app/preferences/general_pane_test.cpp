@@ -1,4 +1,5 @@
 #include "app/base/session_texts.h"
+#include "app/look/action_button.h"
 #include "app/look/text_label.h"
 #include "app/preferences/clear_button.h"
 #include "app/preferences/general_pane.h"
@@ -13,6 +14,8 @@
 #include "fakes/lacking_abilities.h"
 #include "fakes/preferences_desk.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLayout>
 
 #include <gtest/gtest.h>
@@ -253,6 +256,38 @@ TEST_F(GeneralPaneTest, WhereTheDesktopKeepsShortcutsThereIsACommandInsteadOfARe
     EXPECT_FALSE(canRecord());
     desk.abilities.become({});
     EXPECT_TRUE(canRecord());
+}
+
+TEST_F(GeneralPaneTest, TheCommandOrItsLineCanBeCopied)
+{
+    const auto copied = [this](const ShortcutOutcome &outcome) {
+        dynamic_cast<ShortcutRow &>(shelfRow()).setOutcome(outcome);
+        auto *const copy = shelfRow().findChild<ActionButton *>();
+        EXPECT_EQ(copy->isVisibleTo(&shelfRow()),
+                  outcome.kind == ShortcutOutcome::Kind::SetInDesktop);
+        QGuiApplication::clipboard()->clear();
+        copy->click();
+        return QGuiApplication::clipboard()->text();
+    };
+    const auto command = QStringLiteral("corvane");
+    const auto line = QStringLiteral("bindsym Mod4+d exec corvane");
+    EXPECT_EQ(copied(ShortcutOutcome::setInDesktop(command)), command);
+    EXPECT_EQ(copied(ShortcutOutcome::setInDesktop(command, line)), line);
+    EXPECT_EQ(shelfRow().detail(),
+              QStringLiteral("Add this line to your desktop's settings: ") + line);
+    EXPECT_EQ(copied(ShortcutOutcome::bound()), QString());
+}
+
+TEST_F(GeneralPaneTest, WithoutAShortcutTheCommandIsSaidWhereKeysAreBoundToCommands)
+{
+    desk.hotKeys.withoutKeys = ShortcutOutcome::setInDesktop(QStringLiteral("corvane-all"));
+    EXPECT_EQ(row("Show or hide all items").detail(),
+              QStringLiteral("Bind a key to this command in your desktop's settings: corvane-all"));
+    desk.hotKeys.withoutKeys = {};
+    desk.abilities.become({.drags = {Drags::AtTheEdge, Reason::KeptByDesktop}});
+    EXPECT_EQ(row("Show or hide all items").detail(),
+              QStringLiteral("Unset by default. ↓ on the shelf does the same thing."))
+        << "with the abilities it may change who binds keys";
 }
 
 TEST_F(GeneralPaneTest, ClearingATakenCombinationRestoresTheText)

@@ -8,6 +8,7 @@
 #include <wayland-client.h>
 
 #include <cstring>
+#include <utility>
 
 namespace corvane {
 
@@ -68,7 +69,14 @@ void WaylandKeyboardLayout::follow()
         return;
     m_keyboard = wl_seat_get_keyboard(seat);
     wl_keyboard_add_listener(m_keyboard, &Listener::all, this);
-    m_connection.flush();
+    // Waited for: hot keys are registered by what the keys type.
+    wl_event_queue *const queue = wl_display_create_queue(m_connection.display());
+    auto *const proxy = reinterpret_cast<wl_proxy *>(m_keyboard);
+    wl_proxy_set_queue(proxy, queue);
+    bool isAsked = false;
+    m_connection.waitOn(queue, [&] { return std::exchange(isAsked, true); });
+    wl_proxy_set_queue(proxy, nullptr);
+    wl_event_queue_destroy(queue);
 }
 
 void WaylandKeyboardLayout::release()
@@ -88,6 +96,15 @@ QString WaylandKeyboardLayout::charactersOf(KeyPosition position) const
     if (!native || !m_keymap)
         return {};
     return xkb_keys::textOf(m_keymap.get(), static_cast<xkb_keycode_t>(*native), m_layout);
+}
+
+KeyName WaylandKeyboardLayout::nameOf(KeyPosition position, bool isShifted) const
+{
+    const auto native = virtual_key_codes::toNative(position);
+    if (!native || !m_keymap)
+        return {};
+    return xkb_keys::nameOf(m_keymap.get(), static_cast<xkb_keycode_t>(*native), m_layout,
+                            isShifted);
 }
 
 } // namespace corvane

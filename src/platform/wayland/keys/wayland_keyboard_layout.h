@@ -10,7 +10,8 @@ namespace corvane {
 class WaylandConnection;
 
 /// The layout as the compositor describes it; which one of several is in use it tells while a
-/// window of ours has the keyboard. The connection must outlive it.
+/// window of ours has the keyboard. It is known as soon as this is made, if there is a keyboard.
+/// The connection must outlive it.
 class WaylandKeyboardLayout : public KeyboardLayout {
 public:
     explicit WaylandKeyboardLayout(WaylandConnection &connection);
@@ -19,6 +20,8 @@ public:
     WaylandKeyboardLayout &operator=(const WaylandKeyboardLayout &) = delete;
 
     QString charactersOf(KeyPosition position) const override;
+    /// What the key is called in the layout, alone or with Shift.
+    KeyName nameOf(KeyPosition position, bool isShifted) const;
     bool changesKeys(KeySymbol symbol) const override { return xkb_keys::changesKeys(symbol); }
 
 private:

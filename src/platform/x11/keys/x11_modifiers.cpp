@@ -1,5 +1,6 @@
 #include "platform/x11/keys/x11_modifiers.h"
 
+#include "platform/desktop/stored_modifiers.h"
 #include "platform/x11/base/x11_connection.h"
 
 #include <algorithm>
@@ -20,12 +21,6 @@ constexpr xcb_keysym_t altRight = 0xffea;
 constexpr xcb_keysym_t superLeft = 0xffeb;
 constexpr xcb_keysym_t superRight = 0xffec;
 } // namespace symbols
-
-// Modifier bits of stored shortcuts, as in `Shortcut`, which back ends may not include.
-constexpr std::uint32_t storedCommand = 256;
-constexpr std::uint32_t storedShift = 512;
-constexpr std::uint32_t storedOption = 2048;
-constexpr std::uint32_t storedControl = 4096;
 
 /// The mapping's two tables: the keys of each modifier, and the symbols of each key.
 class Mapping {
@@ -111,7 +106,7 @@ std::optional<X11Modifiers> X11Modifiers::read(X11Connection &connection)
 
 bool X11Modifiers::areMoreThanTyping(std::uint32_t modifiers)
 {
-    return (modifiers & (storedCommand | storedOption | storedControl)) != 0;
+    return (modifiers & stored_modifiers::moreThanTyping) != 0;
 }
 
 std::optional<std::uint16_t> X11Modifiers::maskFor(std::uint32_t modifiers) const
@@ -120,10 +115,10 @@ std::optional<std::uint16_t> X11Modifiers::maskFor(std::uint32_t modifiers) cons
         std::uint32_t stored;
         std::uint16_t bit;
     };
-    const std::array<Pair, 4> pairs = {{{storedCommand, super},
-                                        {storedShift, XCB_MOD_MASK_SHIFT},
-                                        {storedOption, alt},
-                                        {storedControl, XCB_MOD_MASK_CONTROL}}};
+    const std::array<Pair, 4> pairs = {{{stored_modifiers::command, super},
+                                        {stored_modifiers::shift, XCB_MOD_MASK_SHIFT},
+                                        {stored_modifiers::option, alt},
+                                        {stored_modifiers::control, XCB_MOD_MASK_CONTROL}}};
     std::uint32_t rest = modifiers;
     std::uint16_t mask = 0;
     for (const auto &[stored, bit] : pairs) {
