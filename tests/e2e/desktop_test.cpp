@@ -76,6 +76,8 @@ std::string nameOf(const testing::TestParamInfo<DesktopKind> &kind)
 {
     if (kind.param.windowManager == WindowManager::Sway)
         return "sway";
+    if (kind.param.windowManager == WindowManager::KWin)
+        return "kwin";
     return std::string(kind.param.windowManager == WindowManager::Openbox ? "openbox" : "xfwm4")
         + (kind.param.compositor == Compositor::Picom ? "_composited" : "_plain");
 }

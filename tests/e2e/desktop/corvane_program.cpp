@@ -162,7 +162,7 @@ std::optional<WindowFacts> CorvaneProgram::popup(int height)
 
 std::optional<WindowFacts> CorvaneProgram::panel()
 {
-    if (m_desktop.sway())
+    if (m_desktop.nested())
         return panelInPicture();
     // The picture of a drag is an unmanaged window, too, but not at the top edge.
     return find([](const WindowFacts &window) {
@@ -176,7 +176,7 @@ std::optional<WindowFacts> CorvaneProgram::panelInPicture()
     constexpr int deepest = 300;
     const QRect top(0, 0, m_desktop.server().size().width(), deepest);
     WindowFacts facts;
-    facts.frame = shelfIn(m_desktop.server().picture(top), NestedSway::wallpaper);
+    facts.frame = shelfIn(m_desktop.server().picture(top), NestedCompositor::wallpaper);
     facts.isViewable = true;
     return facts.frame.isEmpty() ? std::nullopt : std::optional(facts);
 }
@@ -226,7 +226,7 @@ QRect CorvaneProgram::body()
     const auto now = panel();
     if (!now)
         return {};
-    if (m_desktop.sway())
+    if (m_desktop.nested())
         return now->frame;
     QRect bounds;
     for (const QRect &part : m_desktop.server().inputShape(now->id))

@@ -68,6 +68,7 @@ def hovering():
 target.connect("drag-motion", lambda w, c, x, y, t: bool(GLib.idle_add(hovering)) and False)
 target.connect("drag-leave", lambda w, c, t: tell("target left"))
 
+window.connect("key-press-event", lambda w, e: tell("key", Gdk.keyval_name(e.keyval)) or False)
 box.pack_start(source, True, True, 0)
 box.pack_start(target, True, True, 0)
 window.add(box)
@@ -124,6 +125,16 @@ QByteArray GtkPeer::endOfDrag()
     QByteArray end;
     eventually([&] { return !(end = lastLine("end")).isEmpty(); });
     return end;
+}
+
+QList<QByteArray> GtkPeer::keys()
+{
+    QList<QByteArray> typed;
+    for (const QByteArray &line : m_program->output().split('\n')) {
+        if (line.startsWith("key "))
+            typed << line.mid(4);
+    }
+    return typed;
 }
 
 bool GtkPeer::isSourceWelcome()

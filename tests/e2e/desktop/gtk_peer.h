@@ -4,6 +4,7 @@
 #include "e2e/desktop/x_desktop.h"
 
 #include <QByteArray>
+#include <QList>
 #include <QRect>
 #include <QString>
 
@@ -36,6 +37,8 @@ public:
     /// Something is over its target, which would take it.
     bool isTargetReady();
     int presses();
+    /// The names of the keys that were typed into it.
+    QList<QByteArray> keys();
 
 private:
     QByteArray dropped(const QByteArray &type);

@@ -175,11 +175,7 @@ bool NestedSway::fillScreen(XServer &screen) const
         return QSize(mode[u"width"].toInt(), mode[u"height"].toInt()) == screen.size();
     });
     // The wallpaper comes by another program.
-    return fits && eventually([&] {
-               const QImage picture = screen.picture();
-               return picture.pixel(0, 0) == wallpaper
-                   && picture.pixel(picture.width() - 1, picture.height() - 1) == wallpaper;
-           });
+    return fits && showsWallpaper(screen);
 }
 
 void NestedSway::letRootIn()
@@ -192,18 +188,9 @@ void NestedSway::letRootIn()
         m_problem = u"sway's X server cannot be used: "_s + QString::fromUtf8(xhost->output());
 }
 
-void NestedSway::addTo(QProcessEnvironment &environment) const
+void NestedSway::addOwnTo(QProcessEnvironment &environment) const
 {
-    environment.insert(u"WAYLAND_DISPLAY"_s, fileLike(u"wayland-?"_s));
     environment.insert(u"SWAYSOCK"_s, fileLike(u"sway-ipc.*"_s));
-    environment.insert(u"QT_QPA_PLATFORM"_s, u"wayland"_s);
-    environment.insert(u"GDK_BACKEND"_s, u"wayland"_s);
-    environment.insert(u"XDG_SESSION_TYPE"_s, u"wayland"_s);
-    environment.insert(u"XDG_CURRENT_DESKTOP"_s, u"sway"_s);
-    if (m_display.isEmpty())
-        environment.remove(u"DISPLAY"_s);
-    else
-        environment.insert(u"DISPLAY"_s, m_display);
 }
 
 std::optional<QByteArray> NestedSway::message(const QStringList &arguments) const
@@ -212,7 +199,7 @@ std::optional<QByteArray> NestedSway::message(const QStringList &arguments) cons
                     m_environment);
 }
 
-QList<WindowFacts> NestedSway::windows() const
+QList<WindowFacts> NestedSway::windows()
 {
     QList<WindowFacts> found;
     const auto tree = message({u"-r"_s, u"-t"_s, u"get_tree"_s});
@@ -220,7 +207,7 @@ QList<WindowFacts> NestedSway::windows() const
     return found;
 }
 
-void NestedSway::place(xcb_window_t window, const QRect &frame) const
+void NestedSway::place(xcb_window_t window, const QRect &frame)
 {
     const QRect points = scaled(frame, 1 / m_scale);
     const QString which = u"[con_id=%1] "_s.arg(window);

@@ -57,6 +57,8 @@ std::optional<WindowManager> windowManagerFrom(const QString &name)
         return WindowManager::Xfwm4;
     if (name == u"sway"_s)
         return WindowManager::Sway;
+    if (name == u"kwin"_s)
+        return WindowManager::KWin;
     return std::nullopt;
 }
 
@@ -70,13 +72,13 @@ QSize sizeFrom(const QString &text)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QCommandLineOption manager(u"window-manager"_s, u"openbox, xfwm4 or sway"_s, u"name"_s,
-                                     u"openbox"_s);
+    const QCommandLineOption manager(u"window-manager"_s, u"openbox, xfwm4, sway or kwin"_s,
+                                     u"name"_s, u"openbox"_s);
     const QCommandLineOption noCompositor(u"no-compositor"_s, u"nothing is blended"_s);
     const QCommandLineOption size(u"size"_s, u"of the screen"_s, u"WxH"_s, u"1512x982"_s);
-    const QCommandLineOption scale(u"scale"_s, u"pixels per point, under sway"_s, u"number"_s,
-                                   u"1"_s);
-    const QCommandLineOption noXWayland(u"no-xwayland"_s, u"sway keeps no X server"_s);
+    const QCommandLineOption scale(u"scale"_s, u"pixels per point, under sway and kwin"_s,
+                                   u"number"_s, u"1"_s);
+    const QCommandLineOption noXWayland(u"no-xwayland"_s, u"sway and kwin keep no X server"_s);
     QCommandLineParser parser;
     parser.addOptions({manager, noCompositor, size, scale, noXWayland});
     parser.addHelpOption();
@@ -96,7 +98,7 @@ int main(int argc, char **argv)
         {.windowManager = *windowManager,
          .compositor = parser.isSet(noCompositor) ? Compositor::None : Compositor::Picom,
          .size = sizeFrom(parser.value(size)),
-         .sway
+         .nested
          = {.scale = parser.value(scale).toDouble(), .hasXWayland = !parser.isSet(noXWayland)}});
     if (!desktop.problem().isEmpty() || !closeTheGuide(desktop)) {
         qWarning("virtual-desktop: %s", qPrintable(desktop.problem()));

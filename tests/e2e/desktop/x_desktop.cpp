@@ -1,6 +1,8 @@
 #include "e2e/desktop/x_desktop.h"
 
 #include "e2e/desktop/eventually.h"
+#include "e2e/desktop/nested_kwin.h"
+#include "e2e/desktop/nested_sway.h"
 
 #include <QDir>
 #include <QFile>
@@ -46,7 +48,7 @@ XDesktop::XDesktop(DesktopKind kind)
         startBus();
     if (m_problem.isEmpty())
         startWindowManager(kind);
-    if (m_problem.isEmpty() && kind.compositor == Compositor::Picom && !m_sway)
+    if (m_problem.isEmpty() && kind.compositor == Compositor::Picom && !m_nested)
         startCompositor();
 }
 
@@ -96,8 +98,8 @@ void XDesktop::startBus()
 
 void XDesktop::startWindowManager(const DesktopKind &kind)
 {
-    if (kind.windowManager == WindowManager::Sway) {
-        startSway(kind.sway);
+    if (kind.windowManager == WindowManager::Sway || kind.windowManager == WindowManager::KWin) {
+        startNested(kind);
         return;
     }
     // Without the window manager's own compositor: whether there is one is the test's choice.
@@ -112,16 +114,19 @@ void XDesktop::startWindowManager(const DesktopKind &kind)
         m_problem = u"the window manager does not start"_s;
 }
 
-void XDesktop::startSway(const NestedSway::Kind &kind)
+void XDesktop::startNested(const DesktopKind &kind)
 {
-    m_sway = std::make_unique<NestedSway>(*m_server, m_environment, kind);
-    m_problem = m_sway->problem();
-    m_sway->addTo(m_environment);
+    if (kind.windowManager == WindowManager::Sway)
+        m_nested = std::make_unique<NestedSway>(*m_server, m_environment, kind.nested);
+    else
+        m_nested = std::make_unique<NestedKwin>(*m_server, m_environment, kind.nested);
+    m_problem = m_nested->problem();
+    m_nested->addTo(m_environment);
 }
 
 QList<WindowFacts> XDesktop::windows() const
 {
-    return m_sway ? m_sway->windows() : m_server->windows();
+    return m_nested ? m_nested->windows() : m_server->windows();
 }
 
 void XDesktop::startCompositor()
@@ -188,14 +193,14 @@ std::optional<WindowFacts> XDesktop::waitForWindowOf(const Program &program)
 std::optional<WindowFacts> XDesktop::place(xcb_window_t window, const QRect &frame)
 {
     const auto facts = [&]() -> std::optional<WindowFacts> {
-        if (!m_sway)
+        if (!m_nested)
             return m_server->facts(window);
         const auto all = windows();
         const auto found = std::ranges::find(all, window, &WindowFacts::id);
         return found == all.end() ? std::nullopt : std::optional(*found);
     };
-    if (m_sway)
-        m_sway->place(window, frame);
+    if (m_nested)
+        m_nested->place(window, frame);
     else
         m_server->moveResize(window, frame);
     const bool placed = eventually([&] {

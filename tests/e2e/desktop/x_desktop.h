@@ -1,7 +1,7 @@
 #pragma once
 
 #include "e2e/desktop/hands.h"
-#include "e2e/desktop/nested_sway.h"
+#include "e2e/desktop/nested_compositor.h"
 #include "e2e/desktop/program.h"
 #include "e2e/desktop/x_server.h"
 
@@ -18,8 +18,8 @@
 
 namespace corvane::e2e {
 
-/// Sway is a compositor of its own, whose session is none of X11's.
-enum class WindowManager { Openbox, Xfwm4, Sway };
+/// Sway and KWin are compositors of their own, whose sessions are none of X11's.
+enum class WindowManager { Openbox, Xfwm4, Sway, KWin };
 enum class Compositor { None, Picom };
 
 struct DesktopKind {
@@ -29,7 +29,7 @@ struct DesktopKind {
     /// One that the X server does without, such as "XFIXES".
     QString missingExtension = {};
     /// Of a compositor of its own.
-    NestedSway::Kind sway = {};
+    NestedCompositor::Kind nested = {};
 
     friend bool operator==(const DesktopKind &, const DesktopKind &) = default;
 };
@@ -49,7 +49,7 @@ public:
     XServer &server() { return *m_server; }
     Hands &hands() { return *m_hands; }
     /// The compositor that the programs run in; null where they run on the X server itself.
-    NestedSway *sway() { return m_sway.get(); }
+    NestedCompositor *nested() { return m_nested.get(); }
 
     /// The environment for programs on this desktop. Tests may change a copy of it.
     const QProcessEnvironment &environment() const { return m_environment; }
@@ -83,7 +83,7 @@ private:
     void startServer(const DesktopKind &kind);
     void startBus();
     void startWindowManager(const DesktopKind &kind);
-    void startSway(const NestedSway::Kind &kind);
+    void startNested(const DesktopKind &kind);
     QList<WindowFacts> windows() const;
     void startCompositor();
 
@@ -97,7 +97,7 @@ private:
     std::unique_ptr<Program> m_bus;
     std::unique_ptr<Program> m_windowManager;
     std::unique_ptr<Program> m_compositor;
-    std::unique_ptr<NestedSway> m_sway;
+    std::unique_ptr<NestedCompositor> m_nested;
 };
 
 } // namespace corvane::e2e

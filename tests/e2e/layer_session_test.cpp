@@ -1,5 +1,5 @@
-// The program in a Wayland session, under sway: what its own test program cannot see, the main job
-// above all.
+// The program in Wayland sessions whose compositors hang panels from a screen's edge: what its own
+// test program cannot see, the main job above all.
 
 #include "e2e/desktop/gtk_peer.h"
 #include "e2e/desktop_test.h"
@@ -11,13 +11,18 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class SwayTest : public DesktopTest {
+DesktopKind sessionOf(WindowManager compositor, const NestedCompositor::Kind &kind = {})
+{
+    return {.windowManager = compositor,
+            .compositor = Compositor::None,
+            .size = {1512, 982},
+            .nested = kind};
+}
+
+class LayerSession : public DesktopTest, public testing::WithParamInterface<DesktopKind> {
 protected:
-    explicit SwayTest(const NestedSway::Kind &kind)
-        : DesktopTest({.windowManager = WindowManager::Sway,
-                       .compositor = Compositor::None,
-                       .size = {1512, 982},
-                       .sway = kind})
+    LayerSession()
+        : DesktopTest(GetParam())
     {
     }
 
@@ -68,23 +73,20 @@ protected:
     }
 };
 
-class Sway : public SwayTest {
-protected:
-    Sway()
-        : SwayTest({})
-    {
-    }
-};
+class LayerSessionWithoutXWayland : public LayerSession { };
 
-class SwayWithoutXWayland : public SwayTest {
-protected:
-    SwayWithoutXWayland()
-        : SwayTest({.hasXWayland = false})
-    {
-    }
-};
+INSTANTIATE_TEST_SUITE_P(Sway, LayerSession, testing::Values(sessionOf(WindowManager::Sway)),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(KWin, LayerSession, testing::Values(sessionOf(WindowManager::KWin)),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(Sway, LayerSessionWithoutXWayland,
+                         testing::Values(sessionOf(WindowManager::Sway, {.hasXWayland = false})),
+                         nameOf);
+INSTANTIATE_TEST_SUITE_P(KWin, LayerSessionWithoutXWayland,
+                         testing::Values(sessionOf(WindowManager::KWin, {.hasXWayland = false})),
+                         nameOf);
 
-TEST_F(Sway, aFileIsKeptAndGoesOnIntoAnotherProgram)
+TEST_P(LayerSession, aFileIsKeptAndGoesOnIntoAnotherProgram)
 {
     const QString file = makeFile(u"report.txt"_s, "report");
     GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
@@ -103,7 +105,7 @@ TEST_F(Sway, aFileIsKeptAndGoesOnIntoAnotherProgram)
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
-TEST_F(Sway, aTextComesBackLetterForLetter)
+TEST_P(LayerSession, aTextComesBackLetterForLetter)
 {
     const QString text = u"Grüße, 你好\nzweite Zeile"_s;
     GtkPeer source(m_desktop, {.text = text}, leftPlace());
@@ -119,7 +121,7 @@ TEST_F(Sway, aTextComesBackLetterForLetter)
     EXPECT_EQ(target.droppedText(), text.toUtf8());
 }
 
-TEST_F(Sway, aDragThatIsRefusedElsewhereLeavesTheItemOnTheShelf)
+TEST_P(LayerSession, aDragThatIsRefusedElsewhereLeavesTheItemOnTheShelf)
 {
     start();
     keep(makeFile(u"report.txt"_s, "report"));
@@ -129,7 +131,7 @@ TEST_F(Sway, aDragThatIsRefusedElsewhereLeavesTheItemOnTheShelf)
     EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 }
 
-TEST_F(Sway, aDragThatEndsElsewhereClosesTheShelfAgain)
+TEST_P(LayerSession, aDragThatEndsElsewhereClosesTheShelfAgain)
 {
     GtkPeer source(m_desktop, {.text = u"text"_s}, leftPlace());
     ASSERT_EQ(source.problem(), QString());
@@ -145,7 +147,7 @@ TEST_F(Sway, aDragThatEndsElsewhereClosesTheShelfAgain)
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
-TEST_F(Sway, aLongSlowDragFindsTheShelfAgainAtTheEdge)
+TEST_P(LayerSession, aLongSlowDragFindsTheShelfAgainAtTheEdge)
 {
     const QString file = makeFile(u"report.txt"_s, "report");
     GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
@@ -161,7 +163,7 @@ TEST_F(Sway, aLongSlowDragFindsTheShelfAgainAtTheEdge)
     EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 }
 
-TEST_F(Sway, aPointerKeptAtTheEdgeShowsAHiddenShelfThatHoldsSomething)
+TEST_P(LayerSession, aPointerKeptAtTheEdgeShowsAHiddenShelfThatHoldsSomething)
 {
     start();
     keep(makeFile(u"report.txt"_s, "report"));
@@ -174,7 +176,7 @@ TEST_F(Sway, aPointerKeptAtTheEdgeShowsAHiddenShelfThatHoldsSomething)
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
-TEST_F(Sway, clicksBesideTheShelfReachWhatLiesBelow)
+TEST_P(LayerSession, clicksBesideTheShelfReachWhatLiesBelow)
 {
     GtkPeer below(m_desktop, {.text = u"text"_s}, {0, 0, 1512, 300});
     ASSERT_EQ(below.problem(), QString());
@@ -189,7 +191,7 @@ TEST_F(Sway, clicksBesideTheShelfReachWhatLiesBelow)
     EXPECT_TRUE(eventually([&] { return below.presses() == 1; }));
 }
 
-TEST_F(Sway, keysGoToTheShelfAfterAClickOnIt)
+TEST_P(LayerSession, keysGoToTheShelfAfterAClickOnIt)
 {
     start();
     keep(makeFile(u"report.txt"_s, "report"));
@@ -198,7 +200,49 @@ TEST_F(Sway, keysGoToTheShelfAfterAClickOnIt)
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
-TEST_F(SwayWithoutXWayland, aDragAtTheEdgeOpensTheShelfThatTakesIt)
+TEST_P(LayerSession, afterADropTheKeyboardIsWhereItWasBefore)
+{
+    GtkPeer typing(m_desktop, {}, rightPlace());
+    ASSERT_EQ(typing.problem(), QString());
+    GtkPeer source(m_desktop, {.files = {makeFile(u"report.txt"_s, "report")}}, leftPlace());
+    ASSERT_EQ(source.problem(), QString());
+    start();
+    hands().beginDrag(source.source(), edge());
+    dropOnShelf();
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    // To the program that it was dragged out of, which the press has given the keyboard.
+    ASSERT_TRUE(eventually([&] {
+        hands().key('k');
+        return source.keys().contains("k");
+    })) << "keys are typed somewhere else";
+    hands().click(typing.target());
+    ASSERT_TRUE(eventually([&] {
+        hands().key('l');
+        return typing.keys().contains("l");
+    }));
+}
+
+TEST_P(LayerSession, theKeyboardGoesBackWhenThePointerLeavesTheShelf)
+{
+    GtkPeer typing(m_desktop, {}, rightPlace());
+    ASSERT_EQ(typing.problem(), QString());
+    start();
+    keep(makeFile(u"report.txt"_s, "report"));
+    hands().click(typing.target());
+    ASSERT_TRUE(eventually([&] {
+        hands().key('k');
+        return typing.keys().contains("k");
+    }));
+    hands().click(corvane().at(38, 22));
+    hands().glideTo(typing.target());
+    ASSERT_TRUE(eventually([&] {
+        hands().key('l');
+        return typing.keys().contains("l");
+    })) << "keys are typed somewhere else";
+    EXPECT_TRUE(corvane().isShown());
+}
+
+TEST_P(LayerSessionWithoutXWayland, aDragAtTheEdgeOpensTheShelfThatTakesIt)
 {
     const QString file = makeFile(u"report.txt"_s, "report");
     GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
