@@ -6,6 +6,7 @@
 #include "fakes/fake_screens.h"
 #include "fakes/test_clock.h"
 #include "input/hot_key_center.h"
+#include "platform/system/own_command.h"
 #include "platform/wayland/windows/edge_strip.h"
 
 #include <QDragEnterEvent>
@@ -29,6 +30,9 @@ struct LayerSessionTest : testing::Test {
     LayerSessionTest()
     {
         qunsetenv("DISPLAY");
+        // Nor is there a session bus.
+        qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+        qputenv("XDG_RUNTIME_DIR", "/nowhere");
         session = std::make_unique<LayerSession>(SessionNeeds{clock, screens, {}});
         session->dragWatch.onDragBegan = [this] { log << QStringLiteral("began"); };
         session->dragWatch.onDragEnded = [this](DragEnd end) {
@@ -159,19 +163,20 @@ TEST_F(LayerSessionTest, stripsAreHungAnewWhereTheScreensChange)
     EXPECT_EQ(strips().size(), 1);
 }
 
-TEST_F(LayerSessionTest, keysAreBoundToCommandsInTheDesktop)
+TEST_F(LayerSessionTest, hotKeysAreCommandsWhereNoServiceTakesKeys)
 {
-    const auto outcomeOf = [this](HotKeyCenter::Binding binding) {
+    const auto outcomeOf = [&](HotKeyCenter::Binding binding) {
         return session->hotKeys
-            .registerHotKey({}, 0, {HotKeyCenter::signature, HotKeyCenter::idOf(binding)}, {})
+            .registerHotKey(KeyPosition::D, Shortcut::command,
+                            {HotKeyCenter::signature, HotKeyCenter::idOf(binding)}, {})
             .outcome;
     };
     EXPECT_EQ(outcomeOf(HotKeyCenter::Binding::Shelf),
-              ShortcutOutcome::setInDesktop(QStringLiteral("corvane")));
+              ShortcutOutcome::setInDesktop(own_command::inShell()));
     EXPECT_EQ(outcomeOf(HotKeyCenter::Binding::ViewAll),
               ShortcutOutcome::setInDesktop(QStringLiteral("gapplication action %1 view-all")
                                                 .arg(AppInfo::builtIn().applicationId())));
-    EXPECT_FALSE(session->hotKeys.installHandler({}).has_value());
+    EXPECT_EQ(session->abilities.now().shortcutChoice.extent, ShortcutChoice::InTheDesktop);
 }
 
 } // namespace corvane::test

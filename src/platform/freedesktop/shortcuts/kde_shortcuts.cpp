@@ -3,8 +3,10 @@
 #include "platform/freedesktop/session_bus.h"
 #include "platform/freedesktop/shortcuts/key_notation.h"
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QKeySequence>
@@ -39,6 +41,27 @@ QDBusMessage callTo(const QString &method, const QVariantList &arguments)
 QVariant listOf(const QList<int> &keys)
 {
     return QVariant::fromValue(keys);
+}
+
+/// Keys that are pressed one after the other, up to four; the others are 0.
+struct Sequence {
+    QList<int> keys;
+};
+
+QDBusArgument &operator<<(QDBusArgument &to, const Sequence &sequence)
+{
+    to.beginStructure();
+    to << sequence.keys;
+    to.endStructure();
+    return to;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &from, Sequence &sequence)
+{
+    from.beginStructure();
+    from >> sequence.keys;
+    from.endStructure();
+    return from;
 }
 
 /// The service writes 0 where it refused a key.
@@ -77,6 +100,8 @@ KdeShortcuts::KdeShortcuts(Component component, std::vector<DesktopAction> actio
         m_presence = Presence::Absent;
         return;
     }
+    qDBusRegisterMetaType<Sequence>();
+    qDBusRegisterMetaType<QList<Sequence>>();
     listen();
     lookForService();
 }
@@ -215,13 +240,15 @@ void KdeShortcuts::bind(HotKey &hotKey)
     if (m_presence != Presence::There)
         return;
     send(QStringLiteral("doRegister"), {actionId(hotKey.action)});
-    ask<QList<int>>(hotKey, QStringLiteral("defaultShortcut"), {actionId(hotKey.action)},
-                    [this](HotKey &asked, const QList<int> &before) {
-                        if (before == QList{asked.keys})
-                            bindAsBefore(asked);
-                        else
-                            bindAnew(asked, Retry::Allowed);
-                    });
+    // In this form: "defaultShortcut" answers with the present keys in some versions (5.103).
+    ask<QList<Sequence>>(hotKey, QStringLiteral("defaultShortcutKeys"), {actionId(hotKey.action)},
+                         [this](HotKey &asked, const QList<Sequence> &before) {
+                             if (before.size() == 1
+                                 && withoutRefused(before.front().keys) == QList{asked.keys})
+                                 bindAsBefore(asked);
+                             else
+                                 bindAnew(asked, Retry::Allowed);
+                         });
 }
 
 void KdeShortcuts::bindAsBefore(HotKey &hotKey)

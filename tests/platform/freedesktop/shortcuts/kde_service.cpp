@@ -1,5 +1,7 @@
 #include "platform/freedesktop/shortcuts/kde_service.h"
 
+#include <QDBusMetaType>
+
 namespace corvane::test {
 
 namespace {
@@ -10,8 +12,26 @@ const auto path = QStringLiteral("/kglobalaccel");
 
 } // namespace
 
+QDBusArgument &operator<<(QDBusArgument &to, const KdeSequence &sequence)
+{
+    to.beginStructure();
+    to << sequence.keys;
+    to.endStructure();
+    return to;
+}
+
+const QDBusArgument &operator>>(const QDBusArgument &from, KdeSequence &sequence)
+{
+    from.beginStructure();
+    from >> sequence.keys;
+    from.endStructure();
+    return from;
+}
+
 KdeService::KdeService()
 {
+    qDBusRegisterMetaType<KdeSequence>();
+    qDBusRegisterMetaType<KdeSequences>();
     m_bus.registerObject(path, this, QDBusConnection::ExportScriptableInvokables);
 }
 
@@ -90,7 +110,17 @@ QList<int> KdeService::shortcut(const QStringList &id)
 
 QList<int> KdeService::defaultShortcut(const QStringList &id)
 {
-    return answers() ? actions[id.mid(0, 2)].wanted : QList<int>();
+    return shortcut(id);
+}
+
+KdeSequences KdeService::defaultShortcutKeys(const QStringList &id)
+{
+    KdeSequences wanted;
+    if (answers()) {
+        for (const int key : actions[id.mid(0, 2)].wanted)
+            wanted << KdeSequence{{key, 0, 0, 0}};
+    }
+    return wanted;
 }
 
 QList<int> KdeService::setShortcut(const QStringList &id, const QList<int> &keys, uint flags)

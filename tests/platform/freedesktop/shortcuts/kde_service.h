@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusMessage>
@@ -9,6 +10,15 @@
 #include <map>
 
 namespace corvane::test {
+
+/// Keys that are pressed one after the other.
+struct KdeSequence {
+    QList<int> keys;
+};
+using KdeSequences = QList<KdeSequence>;
+
+QDBusArgument &operator<<(QDBusArgument &to, const KdeSequence &sequence);
+const QDBusArgument &operator>>(const QDBusArgument &from, KdeSequence &sequence);
 
 /// KDE's service for hot keys as its compositor has it, on a connection of its own. It answers as
 /// kwin_wayland 5.27 does; its other functions are what the user and other programs do.
@@ -50,7 +60,9 @@ public:
     Q_INVOKABLE Q_SCRIPTABLE void doRegister(const QStringList &id);
     Q_INVOKABLE Q_SCRIPTABLE void setInactive(const QStringList &id);
     Q_INVOKABLE Q_SCRIPTABLE QList<int> shortcut(const QStringList &id);
+    /// Of the wanted keys this gives the present ones, as some versions do.
     Q_INVOKABLE Q_SCRIPTABLE QList<int> defaultShortcut(const QStringList &id);
+    Q_INVOKABLE Q_SCRIPTABLE corvane::test::KdeSequences defaultShortcutKeys(const QStringList &id);
     Q_INVOKABLE Q_SCRIPTABLE QList<int> setShortcut(const QStringList &id, const QList<int> &keys,
                                                     uint flags);
     Q_INVOKABLE Q_SCRIPTABLE QStringList action(int key);
