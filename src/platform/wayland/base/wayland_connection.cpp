@@ -20,6 +20,9 @@ namespace {
 /// Milliseconds that a compositor may take before a panel is shown without its answer.
 constexpr int patience = 2000;
 
+/// No other compositor has it.
+constexpr auto kwinsOwn = "org_kde_plasma_shell";
+
 /// The versions up to which they are known here.
 constexpr std::uint32_t layerShellVersion = 4;
 constexpr std::uint32_t seatVersion = 5;
@@ -50,6 +53,8 @@ struct WaylandConnection::Listeners {
         if (std::strcmp(interface, zwlr_layer_shell_v1_interface.name) == 0) {
             self.m_layerShell = static_cast<zwlr_layer_shell_v1 *>(
                 bind(zwlr_layer_shell_v1_interface, layerShellVersion));
+        } else if (std::strcmp(interface, kwinsOwn) == 0) {
+            self.m_leavesKeyboardBehind = true;
         } else if (std::strcmp(interface, wl_seat_interface.name) == 0 && !self.m_seat) {
             self.m_seat = static_cast<wl_seat *>(bind(wl_seat_interface, seatVersion));
             wl_seat_add_listener(self.m_seat, &seat, &self);

@@ -33,6 +33,10 @@ public:
     /// Called when there is a keyboard, or none any more.
     std::function<void()> onKeyboardChanged;
 
+    /// Hands the keyboard to whatever something is dragged over, and takes it back from nobody that
+    /// does not want it any more, as KWin does.
+    bool leavesKeyboardBehind() const { return m_leavesKeyboardBehind; }
+
     /// Null before the window has a platform window, and once it is hidden.
     static wl_surface *surfaceOf(QWindow &window);
     /// Null for a screen that stands for none.
@@ -50,6 +54,7 @@ private:
     zwlr_layer_shell_v1 *m_layerShell = nullptr;
     wl_seat *m_seat = nullptr;
     bool m_hasKeyboard = false;
+    bool m_leavesKeyboardBehind = false;
 };
 
 } // namespace corvane

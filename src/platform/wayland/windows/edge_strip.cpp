@@ -1,10 +1,6 @@
 #include "platform/wayland/windows/edge_strip.h"
 
-#include <QCoreApplication>
 #include <QDragEnterEvent>
-#include <QPainter>
-#include <QPlatformSurfaceEvent>
-#include <QScreen>
 
 #include <utility>
 
@@ -12,31 +8,11 @@ namespace corvane {
 
 EdgeStrip::EdgeStrip(WaylandConnection &connection, QScreen &screen, const QRect &area,
                      Events events)
-    : m_events(std::move(events))
-    , m_store(this)
+    : InvisibleWindow(connection, {&screen, LayerSurface::Layer::Top, area},
+                      LayerSurface::Keyboard::Never)
+    , m_events(std::move(events))
 {
-    setSurfaceType(QSurface::RasterSurface);
-    QSurfaceFormat format;
-    format.setAlphaBufferSize(8);
-    setFormat(format);
-    setFlags(Qt::Window | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint);
-    setScreen(&screen);
-    setGeometry(area.translated(screen.geometry().topLeft()));
-    create();
-    m_surface = std::make_unique<LayerSurface>(
-        connection, *this, LayerSurface::Place{&screen, LayerSurface::Layer::Top, area});
-    m_surface->onClosed = [this] { m_surface.reset(); };
-    if (m_surface->announce())
-        setVisible(true);
     m_sinceShown.start();
-    // Nobody tells a window without a place of the toolkit's own that it is to be painted.
-    QCoreApplication::postEvent(this, new QEvent(QEvent::UpdateRequest));
-}
-
-EdgeStrip::~EdgeStrip()
-{
-    // Before the window's own surface.
-    m_surface.reset();
 }
 
 void EdgeStrip::retire()
@@ -49,8 +25,7 @@ void EdgeStrip::retire()
 
 void EdgeStrip::end()
 {
-    m_surface.reset();
-    hide();
+    takeAway();
     deleteLater();
 }
 
@@ -111,39 +86,10 @@ bool EdgeStrip::event(QEvent *event)
         event->ignore();
         dragIsGone();
         return true;
-    case QEvent::PlatformSurface:
-        if (static_cast<QPlatformSurfaceEvent *>(event)->surfaceEventType()
-            == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
-            m_surface.reset();
-        break;
-    case QEvent::UpdateRequest:
-    case QEvent::Paint:
-        paint();
-        return true;
-    case QEvent::Close:
-        event->ignore();
-        return true;
     default:
         break;
     }
-    return QWindow::event(event);
-}
-
-/// A surface is there only with a picture on it.
-void EdgeStrip::paint()
-{
-    if (!isVisible() || !m_surface || size().isEmpty())
-        return;
-    const QRect all({}, size());
-    m_store.resize(size());
-    m_store.beginPaint(all);
-    {
-        QPainter painter(m_store.paintDevice());
-        painter.setCompositionMode(QPainter::CompositionMode_Source);
-        painter.fillRect(all, Qt::transparent);
-    }
-    m_store.endPaint();
-    m_store.flush(all);
+    return InvisibleWindow::event(event);
 }
 
 } // namespace corvane

@@ -1,20 +1,17 @@
 #pragma once
 
-#include "platform/wayland/windows/layer_surface.h"
+#include "platform/wayland/windows/invisible_window.h"
 
-#include <QBackingStore>
 #include <QElapsedTimer>
-#include <QWindow>
 
 #include <functional>
-#include <memory>
 
 namespace corvane {
 
 /// One invisible surface at a screen's top edge, shown until it is retired.
 ///
 /// A pointer that rests where it comes up has not come to it, until it moves there.
-class EdgeStrip : public QWindow {
+class EdgeStrip : public InvisibleWindow {
 public:
     /// Milliseconds within which a compositor tells of a pointer that was there before.
     static constexpr qint64 settling = 200;
@@ -27,7 +24,6 @@ public:
     };
     /// `area` from the screen's top left. The connection must outlive it.
     EdgeStrip(WaylandConnection &connection, QScreen &screen, const QRect &area, Events events);
-    ~EdgeStrip() override;
 
     /// Tells nobody anything any more, and takes it away; later, if something is dragged over it,
     /// once that has left. Qt goes on using the window until then, and sway the surface, even if
@@ -44,15 +40,12 @@ private:
     void pointerLeft();
     void dragEntered(bool isOwn);
     void dragIsGone();
-    void paint();
 
     Events m_events;
     QElapsedTimer m_sinceShown;
     bool m_hasPointer = false;
     bool m_hasDrag = false;
     bool m_isRetired = false;
-    QBackingStore m_store;
-    std::unique_ptr<LayerSurface> m_surface;
 };
 
 } // namespace corvane

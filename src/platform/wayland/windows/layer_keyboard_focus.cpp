@@ -23,7 +23,7 @@ void LayerKeyboardFocus::giveTo(WindowNumber panel)
 
 bool LayerKeyboardFocus::giveBackTo(const Owner & /*owner*/)
 {
-    m_panels.giveKeyboard(WindowNumber::None);
+    m_panels.giveKeyboardBack();
     return false;
 }
 

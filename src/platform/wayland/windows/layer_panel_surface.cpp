@@ -12,6 +12,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace corvane {
 
 namespace {
@@ -180,12 +182,15 @@ void LayerPanelSurface::giveKeyboard(WindowNumber number)
     }
 }
 
-/// The compositor keeps the keyboard for a surface that has it: whoever took the pointer away, and
-/// clicks elsewhere, would go on typing here.
-void LayerPanelSurface::pointerLeft(Panel &panel)
+void LayerPanelSurface::giveKeyboardBack()
 {
-    if (panel.hasKeyboard)
-        giveKeyboard(WindowNumber::None);
+    const bool isShown = std::ranges::any_of(m_panels, [](const auto &panel) {
+        return panel.second.hasKeyboard && panel.second.surface;
+    });
+    giveKeyboard(WindowNumber::None);
+    // It goes with a panel that is hidden.
+    if (isShown && onKeyboardLeftBehind)
+        onKeyboardLeftBehind();
 }
 
 bool LayerPanelSurface::eventFilter(QObject *watched, QEvent *event)
@@ -202,13 +207,18 @@ bool LayerPanelSurface::eventFilter(QObject *watched, QEvent *event)
     case QEvent::Drop:
         if (onDropped)
             onDropped();
+        if (!found->second.hasKeyboard && onKeyboardLeftBehind)
+            onKeyboardLeftBehind();
         break;
     case QEvent::Enter:
         if (onPointer)
             onPointer();
         break;
     case QEvent::Leave:
-        pointerLeft(found->second);
+        // The compositor keeps the keyboard for a surface that has it: whoever took the pointer
+        // away, and clicks elsewhere, would go on typing here.
+        if (found->second.hasKeyboard)
+            giveKeyboardBack();
         break;
     default:
         break;

@@ -37,9 +37,14 @@ public:
     WindowNumber panelWithKeyboard() const;
     /// Gives that panel the keyboard, and takes it from every other one; none for all.
     void giveKeyboard(WindowNumber panel);
+    /// Takes the keyboard from the panel that has it, for whoever had it before.
+    void giveKeyboardBack();
 
     /// What is dragged was let go over a panel, which has not been told yet.
     std::function<void()> onDropped;
+    /// The compositor may have the keyboard with a panel that does not ask for it, or no longer
+    /// does.
+    std::function<void()> onKeyboardLeftBehind;
     /// The pointer came to a panel, or is there, with nothing that is dragged.
     std::function<void()> onPointer;
 
@@ -59,7 +64,6 @@ private:
     PanelSpace fit(QWindow &window, Panel &panel);
     void hangUp(QWindow &window, Panel &panel);
     void showAnew(QWindow &window);
-    void pointerLeft(Panel &panel);
     static QScreen *screenFor(const Panel &panel);
 
     WaylandConnection &m_connection;

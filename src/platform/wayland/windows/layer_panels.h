@@ -4,6 +4,8 @@
 #include "platform/desktop/keyboard_loan.h"
 #include "platform/desktop/panel_desktop.h"
 #include "platform/desktop/pointing_devices.h"
+#include "platform/wayland/base/wayland_connection.h"
+#include "platform/wayland/windows/keyboard_return.h"
 #include "platform/wayland/windows/layer_keyboard_focus.h"
 #include "platform/wayland/windows/layer_panel_surface.h"
 
@@ -28,7 +30,10 @@ struct LayerPanels {
         : surface(connection)
         , focus(surface)
         , keyboard(focus, queue)
+        , keyboardReturn(connection, queue)
     {
+        if (connection.leavesKeyboardBehind())
+            surface.onKeyboardLeftBehind = [this] { keyboardReturn.start(); };
     }
 
     PanelDesktop desktop() { return {surface, keyboard, compositing, pointingDevices}; }
@@ -36,6 +41,7 @@ struct LayerPanels {
     LayerPanelSurface surface;
     LayerKeyboardFocus focus;
     KeyboardLoan keyboard;
+    KeyboardReturn keyboardReturn;
     AlwaysComposited compositing;
     WaylandPointingDevices pointingDevices;
 };
