@@ -63,9 +63,9 @@ public:
 
     static uint version() { return 1; }
     Q_INVOKABLE Q_SCRIPTABLE QDBusObjectPath CreateSession(const QVariantMap &options);
-    Q_INVOKABLE Q_SCRIPTABLE QDBusObjectPath
-    BindShortcuts(const QDBusObjectPath &session, const corvane::test::PortalEntries &shortcuts,
-                  const QString &parent, const QVariantMap &options);
+    Q_INVOKABLE Q_SCRIPTABLE QDBusObjectPath BindShortcuts(
+        const QDBusObjectPath &session, const QList<corvane::test::PortalEntry> &shortcuts,
+        const QString &parent, const QVariantMap &options);
 
     Manners manners;
     /// The shortcuts asked for last, with the keys that were proposed.
