@@ -176,7 +176,7 @@ void GeneralPane::showOutcomes()
 /// Where keys are bound to commands the user is told the command, whether or not keys are stored.
 ShortcutOutcome GeneralPane::outcome(HotKeyCenter::Binding binding) const
 {
-    const ShortcutOutcome known = m_context.shortcutBinder.outcome(binding);
+    ShortcutOutcome known = m_context.shortcutBinder.outcome(binding);
     if (known.kind != ShortcutOutcome::Kind::Unset)
         return known;
     return m_context.hotKeys.outcomeWithoutKeys(

@@ -29,7 +29,7 @@ QString inShell(const QString &file, const QStringList &folders)
     const QString found = QStandardPaths::findExecutable(name, folders);
     const bool isFound = !found.isEmpty()
         && QFileInfo(found).canonicalFilePath() == QFileInfo(file).canonicalFilePath();
-    const QString command = isFound ? name : file;
+    QString command = isFound ? name : file;
     static const QRegularExpression plain(QStringLiteral("^[\\w@%+=:,./-]+$"));
     if (plain.match(command).hasMatch())
         return command;

@@ -8,8 +8,6 @@
 #include <QJsonObject>
 #include <QStandardPaths>
 
-#include <utility>
-
 namespace corvane::e2e {
 
 using namespace Qt::StringLiterals;
@@ -74,8 +72,8 @@ QRect scaled(const QRect &rect, double scale)
 
 } // namespace
 
-NestedKwin::NestedKwin(XServer &screen, QProcessEnvironment environment, const Kind &kind)
-    : m_environment(std::move(environment))
+NestedKwin::NestedKwin(XServer &screen, const QProcessEnvironment &environment, const Kind &kind)
+    : m_environment(environment)
     , m_scale(kind.scale)
 {
     const QString display = m_environment.value(u"DISPLAY"_s);

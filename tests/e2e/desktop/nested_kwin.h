@@ -14,7 +14,7 @@ namespace corvane::e2e {
 /// scripts tell which windows there are, and move them.
 class NestedKwin : public NestedCompositor {
 public:
-    NestedKwin(XServer &screen, QProcessEnvironment environment, const Kind &kind);
+    NestedKwin(XServer &screen, const QProcessEnvironment &environment, const Kind &kind);
 
     QList<WindowFacts> windows() override;
     void place(xcb_window_t window, const QRect &frame) override;

@@ -107,8 +107,7 @@ int main(int argc, char **argv)
     if (received != 0)
         return 128 + received;
     const QString name = arguments.takeFirst();
-    const int status
-        = XDesktop::runToEnd(name, arguments, desktop.environment(), commandRuns);
+    const int status = XDesktop::runToEnd(name, arguments, desktop.environment(), commandRuns);
     // The process id may be reused from now on, and the desktop is ending anyway.
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         std::signal(number, SIG_IGN);

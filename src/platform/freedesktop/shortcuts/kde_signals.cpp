@@ -23,21 +23,21 @@ void KdeSignals::listen()
         bus.connect(service, {}, settings, name, this, SLOT(changed(QDBusMessage)));
 }
 
-void KdeSignals::pressed(const QDBusMessage &message)
+void KdeSignals::pressed(const QDBusMessage &message) const
 {
     const QVariantList said = message.arguments();
     if (onPressed && said.size() >= 2)
         onPressed(said.at(0).toString(), said.at(1).toString());
 }
 
-void KdeSignals::released()
+void KdeSignals::released() const
 {
     if (onReleased)
         onReleased();
 }
 
 /// Which keys that are, it says in several forms.
-void KdeSignals::changed(const QDBusMessage &message)
+void KdeSignals::changed(const QDBusMessage &message) const
 {
     const QStringList which = message.arguments().value(0).toStringList();
     if (onChanged && which.size() >= 2)

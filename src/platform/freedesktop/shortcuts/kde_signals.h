@@ -27,9 +27,9 @@ public:
     About onChanged;
 
 private:
-    Q_SLOT void pressed(const QDBusMessage &message);
-    Q_SLOT void released();
-    Q_SLOT void changed(const QDBusMessage &message);
+    Q_SLOT void pressed(const QDBusMessage &message) const;
+    Q_SLOT void released() const;
+    Q_SLOT void changed(const QDBusMessage &message) const;
 };
 
 } // namespace corvane

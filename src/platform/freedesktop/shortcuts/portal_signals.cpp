@@ -19,14 +19,14 @@ void PortalSignals::listen()
                 SLOT(changed(QDBusMessage)));
 }
 
-void PortalSignals::activated(const QDBusMessage &message)
+void PortalSignals::activated(const QDBusMessage &message) const
 {
     const QVariantList said = message.arguments();
     if (onActivated && said.size() >= 2)
         onActivated(said.at(0).value<QDBusObjectPath>().path(), said.at(1).toString());
 }
 
-void PortalSignals::changed(const QDBusMessage &message)
+void PortalSignals::changed(const QDBusMessage &message) const
 {
     const QVariantList said = message.arguments();
     if (onChanged && said.size() >= 2)

@@ -23,8 +23,8 @@ public:
     std::function<void(const QString &session, const QVariant &shortcuts)> onChanged;
 
 private:
-    Q_SLOT void activated(const QDBusMessage &message);
-    Q_SLOT void changed(const QDBusMessage &message);
+    Q_SLOT void activated(const QDBusMessage &message) const;
+    Q_SLOT void changed(const QDBusMessage &message) const;
 };
 
 } // namespace corvane

@@ -73,11 +73,13 @@ bool EdgeStrip::event(QEvent *event)
     case QEvent::Leave:
         pointerLeft();
         return true;
-    case QEvent::DragEnter:
+    case QEvent::DragEnter: {
         // What is let go right here goes back to where it came from.
         event->ignore();
-        dragEntered(static_cast<QDragEnterEvent *>(event)->source() != nullptr);
+        const auto *const enter = dynamic_cast<const QDragEnterEvent *>(event);
+        dragEntered(enter && enter->source());
         return true;
+    }
     case QEvent::DragMove:
         event->ignore();
         return true;

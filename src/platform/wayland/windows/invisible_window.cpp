@@ -45,11 +45,13 @@ void InvisibleWindow::takeAway()
 bool InvisibleWindow::event(QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::PlatformSurface:
-        if (static_cast<QPlatformSurfaceEvent *>(event)->surfaceEventType()
-            == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
+    case QEvent::PlatformSurface: {
+        const auto *const change = dynamic_cast<const QPlatformSurfaceEvent *>(event);
+        if (change
+            && change->surfaceEventType() == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
             m_surface.reset();
         break;
+    }
     case QEvent::UpdateRequest:
     case QEvent::Paint:
         paint();

@@ -195,15 +195,17 @@ void LayerPanelSurface::giveKeyboardBack()
 
 bool LayerPanelSurface::eventFilter(QObject *watched, QEvent *event)
 {
-    const auto found = m_panels.find(static_cast<const QWindow *>(watched));
+    const auto found = m_panels.find(dynamic_cast<const QWindow *>(watched));
     if (found == m_panels.end())
         return false;
     switch (event->type()) {
-    case QEvent::PlatformSurface:
-        if (static_cast<QPlatformSurfaceEvent *>(event)->surfaceEventType()
-            == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
+    case QEvent::PlatformSurface: {
+        const auto *const change = dynamic_cast<const QPlatformSurfaceEvent *>(event);
+        if (change
+            && change->surfaceEventType() == QPlatformSurfaceEvent::SurfaceAboutToBeDestroyed)
             found->second.surface.reset();
         break;
+    }
     case QEvent::Drop:
         if (onDropped)
             onDropped();

@@ -36,7 +36,7 @@ public:
     /// program.
     WindowNumber panelWithKeyboard() const;
     /// Gives that panel the keyboard, and takes it from every other one; none for all.
-    void giveKeyboard(WindowNumber panel);
+    void giveKeyboard(WindowNumber number);
     /// Takes the keyboard from the panel that has it, for whoever had it before.
     void giveKeyboardBack();
 
