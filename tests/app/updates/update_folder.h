@@ -12,15 +12,20 @@ namespace corvane::test {
 struct UpdateFolder {
     UpdateFolder() { write("Corvane.AppImage", oldImage()); }
 
-    /// What nothing but its own bytes is.
+    /// The layout of an AppImage of ours: the head of a program for this machine with the format's
+    /// mark in it, bytes where the file system would be, and the program's line.
     static QByteArray image(char filling, qsizetype size = 300'000)
     {
-        QByteArray bytes(size, filling);
+        const QByteArray line = "\napplication-id=example.corvane.Corvane\n";
+        QByteArray bytes(size - line.size(), filling);
         bytes.replace(0, 11,
                       QByteArray("\x7f"
                                  "ELF\x02\x01\x01\0AI\x02",
                                  11));
-        return bytes;
+        // 64 bits, little-endian, x86_64.
+        bytes[18] = 62;
+        bytes[19] = 0;
+        return bytes + line;
     }
     static QByteArray oldImage() { return image('o'); }
     static QByteArray newImage() { return image('n', 400'000); }
