@@ -106,6 +106,16 @@ void Settings::setAutoCheckUpdates(bool on)
     m_defaults.setBool(on, name(autoCheckUpdatesKey));
 }
 
+bool Settings::betaUpdates() const
+{
+    return m_defaults.boolForKey(name(betaUpdatesKey));
+}
+
+void Settings::setBetaUpdates(bool on)
+{
+    m_defaults.setBool(on, name(betaUpdatesKey));
+}
+
 bool Settings::seenWelcome() const
 {
     return m_defaults.boolForKey(name(seenWelcomeKey));

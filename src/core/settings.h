@@ -25,6 +25,7 @@ public:
     static constexpr auto shortcutKey = "settings.shortcut";
     static constexpr auto viewAllShortcutKey = "settings.viewAllShortcut";
     static constexpr auto seenWelcomeKey = "settings.seenWelcome";
+    static constexpr auto betaUpdatesKey = "settings.betaUpdates";
 
     /// The range of `inViewCount`.
     static constexpr int minimumInViewCount = 1;
@@ -48,6 +49,9 @@ public:
     void setLinkPreviews(bool on);
     bool autoCheckUpdates() const;
     void setAutoCheckUpdates(bool on);
+    /// Whether beta versions are offered too; not before somebody chose them.
+    bool betaUpdates() const;
+    void setBetaUpdates(bool on);
     bool seenWelcome() const;
     void setSeenWelcome(bool seen);
 

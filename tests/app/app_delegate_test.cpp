@@ -3,7 +3,6 @@
 #include "app/preferences/preferences_window_controller.h"
 #include "app/shell_windows.h"
 #include "app/status/status_item_controller.h"
-#include "app/updates/updater.h"
 #include "app/welcome/welcome_window_controller.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_desktop_services.h"
@@ -15,6 +14,7 @@
 #include "fakes/fake_pointer_barriers.h"
 #include "fakes/fake_preview_panel.h"
 #include "fakes/fake_status_item.h"
+#include "fakes/fake_updater.h"
 #include "fakes/fake_window_activation.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/shelf_model.h"
@@ -37,16 +37,13 @@ namespace corvane::test {
 namespace {
 
 /// Notes what the setting said when it was started.
-class StartedUpdater : public Updater {
+class StartedUpdater : public FakeUpdater {
 public:
     explicit StartedUpdater(const Settings &settings)
         : m_settings(settings)
     {
     }
     void start() override { automaticWhenStarted.push_back(m_settings.autoCheckUpdates()); }
-    void checkForUpdates() override { }
-    bool automaticallyChecksForUpdates() const override { return true; }
-    void setAutomaticallyChecksForUpdates(bool) override { }
 
     std::vector<bool> automaticWhenStarted;
 

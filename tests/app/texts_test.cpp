@@ -8,12 +8,12 @@
 #include "app/status/status_item_controller.h"
 #include "app/text_table.h"
 #include "app/updates/update_window_controller.h"
-#include "app/updates/updater.h"
 #include "app/welcome/welcome_view.h"
 #include "app/welcome/welcome_window_controller.h"
 #include "app/widget_hands.h"
 #include "fakes/fake_drag_desktop.h"
 #include "fakes/fake_status_item.h"
+#include "fakes/fake_updater.h"
 #include "fakes/fake_window_activation.h"
 #include "fakes/lacking_abilities.h"
 #include "fakes/preferences_desk.h"
@@ -28,13 +28,21 @@ namespace corvane::test {
 
 namespace {
 
-class IdleUpdater : public Updater {
-public:
-    void start() override { }
-    void checkForUpdates() override { }
-    bool automaticallyChecksForUpdates() const override { return false; }
-    void setAutomaticallyChecksForUpdates(bool) override { }
-};
+/// One of each kind that the menu and the preferences tell of.
+std::vector<UpdateReport> wrongWithUpdates()
+{
+    std::vector<UpdateReport> reports;
+    for (const UpdateFailure failure :
+         {UpdateFailure::WentBack, UpdateFailure::Unverifiable, UpdateFailure::Expired,
+          UpdateFailure::RecordDamaged, UpdateFailure::Unreachable}) {
+        UpdateReport report{UpdateReport::Stage::Failed};
+        report.failure = failure;
+        report.renewed = QDate(2026, 11, 1);
+        report.route = WebRoute{WebRoute::Kind::NeedsScript};
+        reports.push_back(report);
+    }
+    return reports;
+}
 
 QStringList menuLines(const FakeStatusItem &item)
 {
@@ -69,7 +77,7 @@ TEST(Texts, OfTheMenu)
     ShelfModel model;
     model.settings.setViewAllShortcut(
         Shortcut{KeyPosition{40}, Shortcut::control, QStringLiteral("K")});
-    IdleUpdater updates;
+    FakeUpdater updates;
     TextTable table;
     for (const bool hasUpdates : {false, true}) {
         FakeStatusItem item;
@@ -88,13 +96,21 @@ TEST(Texts, OfTheMenu)
                       menuLines(item));
         }
     }
+    for (const UpdateReport &wrong : wrongWithUpdates()) {
+        FakeStatusItem item;
+        updates.wrong.set(wrong);
+        StatusItemController controller(
+            {item, model.store, model.settings, model.desk.clock, [] {}, &updates});
+        item.open();
+        table.add(QStringLiteral("Menu with a notice"), menuLines(item));
+    }
     expectTable("menu", table);
 }
 
 TEST(Texts, OfThePreferences)
 {
     TextTable table;
-    IdleUpdater updates;
+    FakeUpdater updates;
     PreferencesDesk desk;
     const auto add = [&](const QString &heading, PreferencesTab tab, const auto &prepare) {
         PreferencesWindowController controller(desk.context());
@@ -111,6 +127,8 @@ TEST(Texts, OfThePreferences)
     desk.settings.setViewAllShortcut(
         Shortcut{KeyPosition{40}, Shortcut::control | Shortcut::option, QStringLiteral("K")});
     add(QStringLiteral("General, 3 in view, updates, both shortcuts"), general, nothing);
+    updates.wrong.set(wrongWithUpdates().front());
+    add(QStringLiteral("General, a notice about updates"), general, nothing);
     desk.updater = nullptr;
     desk.isKeptUpToDateByOthers = true;
     desk.settings.setShortcut(std::nullopt);
@@ -209,8 +227,13 @@ TEST(Texts, OfTheUpdates)
                 = WebRoute{kind, {WebProxy::Kind::Http, QStringLiteral("proxy.test"), 3128}};
             add(replacing, QStringLiteral("Update, ") + QLatin1String(heading), asked);
         }
+        report.stage = Stage::Available;
+        report.isForDownloads = true;
+        add(replacing, QStringLiteral("Update, available for the downloads folder"), report);
         report.stage = Stage::Failed;
-        for (int failure = 0; failure <= static_cast<int>(UpdateFailure::NotWritten); ++failure) {
+        report.renewed = QDate(2026, 11, 1);
+        for (int failure = 0; failure <= static_cast<int>(UpdateFailure::RecordDamaged);
+             ++failure) {
             report.failure = static_cast<UpdateFailure>(failure);
             add(replacing, QStringLiteral("Update, failure %1").arg(failure), report);
         }

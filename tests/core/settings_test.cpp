@@ -30,6 +30,7 @@ TEST_F(SettingsTest, HasItsDefaultsFromTheStartWithoutStoringThem)
     EXPECT_TRUE(settings.linkPreviews());
     EXPECT_EQ(settings.inViewCount(), 1);
     EXPECT_FALSE(settings.seenWelcome());
+    EXPECT_FALSE(settings.betaUpdates());
     EXPECT_FALSE(defaults.boolForKey(key("settings.playFeedback")));
     EXPECT_TRUE(defaults.stored.isEmpty());
 }
@@ -45,10 +46,12 @@ TEST_F(SettingsTest, KeepsEachSwitchUnderItsKey)
     settings.setAutoCheckUpdates(false);
     settings.setLinkPreviews(false);
     settings.setSeenWelcome(true);
+    settings.setBetaUpdates(true);
     EXPECT_EQ(defaults.stored.value(key("settings.autoShowOnDrag")), false);
     EXPECT_EQ(defaults.stored.value(key("settings.autoCheckUpdates")), false);
     EXPECT_EQ(defaults.stored.value(key("settings.linkPreviews")), false);
     EXPECT_EQ(defaults.stored.value(key("settings.seenWelcome")), true);
+    EXPECT_EQ(defaults.stored.value(key("settings.betaUpdates")), true);
     EXPECT_FALSE(settings.autoShowOnDrag() || settings.autoCheckUpdates());
     EXPECT_FALSE(settings.linkPreviews());
     EXPECT_TRUE(settings.seenWelcome());
@@ -92,6 +95,7 @@ TEST_F(SettingsTest, TellsOfTheLayoutForNothingElse)
     settings.setAutoCheckUpdates(false);
     settings.setLinkPreviews(false);
     settings.setSeenWelcome(true);
+    settings.setBetaUpdates(true);
     settings.setShortcut(other);
     settings.setViewAllShortcut(other);
     settings.setLaunchAtLogin(true);

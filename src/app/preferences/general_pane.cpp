@@ -8,6 +8,8 @@
 #include "app/preferences/setting_row.h"
 #include "app/preferences/shortcut_row.h"
 #include "app/preferences/switch_button.h"
+#include "app/updates/update_notices.h"
+#include "app/updates/update_texts.h"
 #include "app/updates/updater.h"
 #include "core/settings.h"
 #include "input/shortcut_binder.h"
@@ -183,6 +185,18 @@ ShortcutOutcome GeneralPane::outcome(HotKeyCenter::Binding binding) const
         {HotKeyCenter::signature, HotKeyCenter::idOf(binding)});
 }
 
+ActionButton *GeneralPane::makeCheckButton(Updater *updater, const QString &reason)
+{
+    auto *checkNow = new ActionButton(tr("Check Now"), buttonTextSize, buttonSize, m_look);
+    checkNow->setAccessibleDescription(updater ? tr("Looks for a new version at once") : reason);
+    checkNow->setEnabled(updater != nullptr);
+    if (updater)
+        connect(checkNow, &ActionButton::clicked, this, [updater] { updater->checkForUpdates(); });
+    else
+        checkNow->setToolTip(reason);
+    return checkNow;
+}
+
 PreferenceSection *GeneralPane::makeUpdatesSection()
 {
     Updater *const updater = m_context.updater;
@@ -193,14 +207,7 @@ PreferenceSection *GeneralPane::makeUpdatesSection()
         ? tr("Your system's software manager keeps Corvane up to date.")
         : tr("This build does not know where to look.");
     const QString detail = updater ? QString() : reason;
-    auto *checkNow = new ActionButton(tr("Check Now"), buttonTextSize, buttonSize, m_look);
-    checkNow->setAccessibleDescription(updater ? tr("Looks for a new version at once") : detail);
-    checkNow->setEnabled(updater != nullptr);
-    if (updater)
-        connect(checkNow, &ActionButton::clicked, this, [updater] { updater->checkForUpdates(); });
-    else
-        checkNow->setToolTip(detail);
-
+    auto *checkNow = makeCheckButton(updater, detail);
     auto *control = new SwitchButton(title, detail, m_look, m_context.motion);
     control->setChecked(m_context.settings.autoCheckUpdates());
     connect(control, &SwitchButton::toggled, this,
@@ -209,7 +216,18 @@ PreferenceSection *GeneralPane::makeUpdatesSection()
                 if (updater)
                     updater->setAutomaticallyChecksForUpdates(on);
             });
-    section->addRow(new SettingRow(title, detail, {checkNow, control}, m_look));
+    auto *row = new SettingRow(title, detail, {checkNow, control}, m_look);
+    section->addRow(row);
+    if (updater) {
+        const auto show = [row, &notices = updater->notices()] {
+            row->setDetail(notices.now() ? UpdateTexts::explanation(*notices.now()) : QString());
+        };
+        show();
+        m_notices = updater->notices().observe(show);
+        section->addRow(makeSwitchRow(tr("Offer beta versions too"),
+                                      tr("They come earlier, and fewer people have tried them."),
+                                      m_context.settings.betaUpdates(), &Settings::setBetaUpdates));
+    }
     return section;
 }
 

@@ -11,6 +11,7 @@ class QVBoxLayout;
 
 namespace corvane {
 
+class ActionButton;
 class NumberPicker;
 class PreferenceSection;
 class SettingRow;
@@ -19,7 +20,8 @@ class SwitchButton;
 
 /// Every setting of the user. Each control writes what it shows at once. The settings are read when
 /// the pane is made; a shortcut that was refused is tried once more then, and shown to be taken as
-/// long as it is. Above the settings stands what the session is not able to do.
+/// long as it is. Above the settings stands what the session is not able to do, and beside the
+/// automatic checks what they found to be wrong.
 class GeneralPane : public QWidget {
     Q_OBJECT
 
@@ -37,6 +39,8 @@ private:
     void showOutcomes();
     ShortcutOutcome outcome(HotKeyCenter::Binding binding) const;
     PreferenceSection *makeUpdatesSection();
+    /// `reason` is why it is disabled where there is no updater.
+    ActionButton *makeCheckButton(Updater *updater, const QString &reason);
     SettingRow *makeSwitchRow(const QString &title, const QString &detail, bool on,
                               void (Settings::*write)(bool));
     static QString inViewDetail(int count);
@@ -48,6 +52,7 @@ private:
     Subscription m_outcomes;
     QWidget *m_limits = nullptr;
     Subscription m_abilities;
+    Subscription m_notices;
 };
 
 } // namespace corvane

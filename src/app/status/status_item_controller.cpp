@@ -1,6 +1,8 @@
 #include "app/status/status_item_controller.h"
 
 #include "app/status/status_icon.h"
+#include "app/updates/update_notices.h"
+#include "app/updates/update_texts.h"
 #include "app/updates/updater.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
@@ -30,6 +32,16 @@ StatusItemController::StatusItemController(Context context)
     m_context.statusItem.setMenu(m_lifetime.guard([this] { return rebuild(); }));
     m_context.store.observeItems(
         m_lifetime.guard([this](const QList<DropItem> &) { itemsChanged(); }));
+    if (m_context.updater)
+        m_notices
+            = m_context.updater->notices().observe([this] { m_context.statusItem.menuChanged(); });
+}
+
+QString StatusItemController::updateNotice() const
+{
+    if (!m_context.updater || !m_context.updater->notices().now())
+        return {};
+    return UpdateTexts::menuTitle(*m_context.updater->notices().now());
 }
 
 void StatusItemController::itemsChanged()
@@ -64,7 +76,7 @@ MenuRows StatusItemController::rebuild() const
 {
     MenuRows rows = status_menu::rows(
         {static_cast<int>(m_context.store.items().size()), m_context.settings.shortcut(),
-         m_context.settings.viewAllShortcut(), m_context.updater != nullptr});
+         m_context.settings.viewAllShortcut(), m_context.updater != nullptr, updateNotice()});
     for (MenuRow &row : rows) {
         if (row.isSeparator())
             continue;
@@ -87,6 +99,10 @@ void StatusItemController::perform(StatusMenuRow row) const
         return call(onPreferences);
     case StatusMenuRow::HowItWorks:
         return call(onWelcome);
+    case StatusMenuRow::UpdateNotice:
+        if (m_context.updater)
+            m_context.updater->showNotice();
+        return;
     case StatusMenuRow::CheckForUpdates:
         if (m_context.updater)
             m_context.updater->checkForUpdates();

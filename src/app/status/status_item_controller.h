@@ -2,6 +2,7 @@
 
 #include "app/status/status_menu.h"
 #include "platform/base/lifetime.h"
+#include "platform/base/subscription.h"
 
 #include <functional>
 
@@ -49,12 +50,14 @@ private:
     void itemsChanged();
     void update();
     MenuRows rebuild() const;
+    QString updateNotice() const;
     void perform(StatusMenuRow row) const;
 
     Context m_context;
     /// The number that was last shown.
     int m_count = 0;
     bool m_isUpdateScheduled = false;
+    Subscription m_notices;
     Lifetime m_lifetime;
 };
 

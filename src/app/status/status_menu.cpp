@@ -66,6 +66,8 @@ MenuRows rows(const StatusMenuState &state)
     add(StatusMenuRow::Preferences, translated(QT_TRANSLATE_NOOP("StatusMenu", "Preferences…")),
         withControl(u','));
     add(StatusMenuRow::HowItWorks, translated(QT_TRANSLATE_NOOP("StatusMenu", "How It Works…")));
+    if (!state.updateNotice.isEmpty())
+        add(StatusMenuRow::UpdateNotice, state.updateNotice);
     if (state.canCheckForUpdates)
         add(StatusMenuRow::CheckForUpdates,
             translated(QT_TRANSLATE_NOOP("StatusMenu", "Check for Updates…")));

@@ -17,6 +17,7 @@ enum class StatusMenuRow {
     FirstSeparator,
     Preferences,
     HowItWorks,
+    UpdateNotice,
     CheckForUpdates,
     SecondSeparator,
     Quit,
@@ -28,6 +29,8 @@ struct StatusMenuState {
     std::optional<Shortcut> shelfShortcut = std::nullopt;
     std::optional<Shortcut> viewAllShortcut = std::nullopt;
     bool canCheckForUpdates = false;
+    /// What is wrong with updates; empty for nothing.
+    QString updateNotice = {};
 };
 
 namespace status_menu {

@@ -1,21 +1,57 @@
 #include "app/updates/appcast.h"
 
+#include "app/updates/feed_bounds.h"
 #include "app/updates/release_notes.h"
+#include "app/updates/release_statement.h"
 
+#include <QStringDecoder>
 #include <QXmlStreamReader>
 
 namespace corvane::appcast {
 
 namespace {
 
-constexpr QLatin1String sparkle("http://www.andymatuschak.org/xml-namespaces/sparkle");
+const QLatin1String sparkle(sparkleNamespace);
+const QLatin1String ours(statementNamespace);
 constexpr qsizetype signatureBytes = 64;
-/// The longest text that is kept, except for the notes.
+/// The longest text that is kept, except for the notes and statements.
 constexpr qsizetype maximumCharacters = 1024;
+/// A statement in base64, and the line ends in it.
+constexpr qsizetype maximumStatement = 2 * ReleaseStatement::maximumBytes;
+
+QByteArray decoded(const QString &base64)
+{
+    QByteArray text = base64.toLatin1();
+    text.removeIf([](char c) { return c == '\n' || c == ' ' || c == '\t' || c == '\r'; });
+    const auto result
+        = QByteArray::fromBase64Encoding(text, QByteArray::AbortOnBase64DecodingErrors);
+    return result ? result.decoded : QByteArray();
+}
+
+QByteArray signatureFrom(const QString &base64)
+{
+    const QByteArray signature = decoded(base64);
+    return signature.size() == signatureBytes ? signature : QByteArray();
+}
+
+/// The feed as text. Which bytes are markup must be clear before it is read, so only two encodings
+/// will do, in which those are the same.
+std::optional<QString> textOf(const QByteArray &feed)
+{
+    if (feed.contains('\0'))
+        return std::nullopt;
+    const QByteArray declaration
+        = feed.startsWith("<?xml") ? feed.left(feed.indexOf("?>")).toLower() : QByteArray();
+    if (declaration.contains("iso-8859-1"))
+        return QString::fromLatin1(feed);
+    QStringDecoder utf8(QStringDecoder::Utf8);
+    QString text = utf8(feed);
+    return utf8.hasError() ? std::nullopt : std::optional(text);
+}
 
 class Reader {
 public:
-    explicit Reader(const QByteArray &feed)
+    explicit Reader(const QString &feed)
         : m_xml(feed)
     {
     }
@@ -50,6 +86,10 @@ private:
     bool isPlain(const char *name) const
     {
         return m_xml.namespaceUri().isEmpty() && m_xml.name() == QLatin1String(name);
+    }
+    bool isStatement() const
+    {
+        return m_xml.namespaceUri() == ours && m_xml.name() == QLatin1String("statement");
     }
     bool isSparkle(const char *name) const
     {
@@ -112,6 +152,8 @@ private:
                 readNotes(item);
             else if (isPlain("enclosure"))
                 readEnclosure(item);
+            else if (isStatement())
+                readStatement(item);
             else
                 m_xml.skipCurrentElement();
         }
@@ -134,10 +176,7 @@ private:
         enclosure.length = isNumber && length >= 0 ? length : -1;
         enclosure.system = sparkled("os");
         enclosure.architecture = sparkled("arch");
-        const auto signature = QByteArray::fromBase64Encoding(
-            sparkled("edSignature").trimmed().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
-        if (signature && signature.decoded.size() == signatureBytes)
-            enclosure.signature = signature.decoded;
+        enclosure.signature = signatureFrom(sparkled("edSignature"));
         // Both may stand here instead of in elements of the item, which count first.
         if (item.version.isEmpty())
             item.version = sparkled("version");
@@ -147,7 +186,18 @@ private:
         m_xml.skipCurrentElement();
     }
 
+    void readStatement(ClaimedRelease &item)
+    {
+        if (m_statements++ == maximumStatements)
+            return m_xml.raiseError();
+        const QByteArray signature = signatureFrom(plain("signature"));
+        const QByteArray bytes = decoded(text(maximumStatement));
+        if (!signature.isEmpty() && !bytes.isEmpty())
+            item.statements << ClaimedStatement{bytes, signature};
+    }
+
     QXmlStreamReader m_xml;
+    qsizetype m_statements = 0;
     QList<ClaimedRelease> m_items;
 };
 
@@ -157,7 +207,10 @@ std::optional<QList<ClaimedRelease>> read(const QByteArray &feed)
 {
     if (feed.size() > maximumBytes)
         return std::nullopt;
-    return Reader(feed).read();
+    const auto text = textOf(feed);
+    if (!text || !feed_bounds::holds(*text))
+        return std::nullopt;
+    return Reader(*text).read();
 }
 
 } // namespace corvane::appcast

@@ -8,6 +8,16 @@
 
 namespace corvane {
 
+/// What a feed gives out as a statement of the makers, and a signature of it. Anybody may have
+/// written both; `VerifiedRelease` tells what is genuine.
+struct ClaimedStatement {
+    QByteArray bytes;
+    /// 64 bytes.
+    QByteArray signature;
+
+    bool operator==(const ClaimedStatement &) const = default;
+};
+
 /// A file that a feed offers. Nothing of it is verified: anybody who can answer for the feed's
 /// machine may have written it.
 struct ClaimedFile {
@@ -17,7 +27,7 @@ struct ClaimedFile {
     /// As they are written; empty where it is for all.
     QString system;
     QString architecture;
-    /// 64 bytes, or none. `UpdateKey::verify` checks it once the file is there.
+    /// 64 bytes, or none. `VerifiedDownload` checks it once the file is there.
     QByteArray signature;
 };
 
@@ -33,6 +43,8 @@ struct ClaimedRelease {
     QString notes;
     bool notesAreMarkup = false;
     QList<ClaimedFile> files;
+    /// One for each file.
+    QList<ClaimedStatement> statements;
 };
 
 } // namespace corvane

@@ -1,11 +1,13 @@
 #include "app/updates/installation_steps.h"
 
+#include "app/updates/update_file.h"
 #include "platform/system/file_descriptor.h"
 
 #include <QStringBuilder>
 
 #include <fcntl.h>
 #include <linux/fs.h>
+#include <sys/file.h>
 #include <sys/sendfile.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -17,6 +19,8 @@
 namespace corvane {
 
 namespace {
+
+constexpr mode_t permissionBits = S_IRWXU | S_IRWXG | S_IRWXO;
 
 int errorOf(int result)
 {
@@ -32,13 +36,54 @@ bool hasNoSecondNames(int error)
 int copyBytes(int from, int to)
 {
     constexpr std::size_t piece = 1024UL * 1024;
+    off_t at = 0;
     while (true) {
-        const auto count = ::sendfile(to, from, nullptr, piece);
+        // Reads where `at` says, so that it does not matter how far the file was read before.
+        const auto count = ::sendfile(to, from, &at, piece);
         if (count == 0)
             return 0;
         if (count < 0 && errno != EINTR)
             return errno;
     }
+}
+
+/// Fails where the name is taken.
+int moveToFreeName(const QByteArray &from, const QByteArray &to)
+{
+    const int error = errorOf(
+        ::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE));
+    if (error != EINVAL && error != ENOSYS)
+        return error;
+    // The file system has no RENAME_NOREPLACE; a second name fails where it is taken, too.
+    if (const int linked = errorOf(::link(from.constData(), to.constData())); linked != 0)
+        return linked;
+    return errorOf(::unlink(from.constData()));
+}
+
+/// A copy of an open file, which has the name only once it is whole. Until then its name is one of
+/// those that the next start removes.
+int copy(int from, const QByteArray &path)
+{
+    struct stat status = {};
+    if (::fstat(from, &status) != 0)
+        return errno;
+    QByteArray unfinished
+        = path.left(path.lastIndexOf('/') + 1) + UpdateFile::temporaryPrefix + "XXXXXX";
+    const FileDescriptor to(::mkostemp(unfinished.data(), O_CLOEXEC));
+    if (!to.isOpen())
+        return errno;
+    int error = errorOf(::flock(to.number(), LOCK_EX | LOCK_NB));
+    if (error == 0)
+        error = copyBytes(from, to.number());
+    if (error == 0)
+        error = errorOf(::fchmod(to.number(), status.st_mode & permissionBits));
+    if (error == 0)
+        error = errorOf(::fsync(to.number()));
+    if (error == 0)
+        error = moveToFreeName(unfinished, path);
+    if (error != 0)
+        ::unlink(unfinished.constData());
+    return error;
 }
 
 } // namespace
@@ -48,7 +93,7 @@ int PosixInstallationSteps::takePermissions(int descriptor, const QByteArray &pa
     struct stat status = {};
     if (::stat(path.constData(), &status) != 0)
         return errno;
-    return errorOf(::fchmod(descriptor, status.st_mode & (S_IRWXU | S_IRWXG | S_IRWXO)));
+    return errorOf(::fchmod(descriptor, status.st_mode & permissionBits));
 }
 
 int PosixInstallationSteps::sync(int descriptor)
@@ -70,41 +115,22 @@ int PosixInstallationSteps::keep(const QByteArray &path, const QByteArray &other
     const int error = errorOf(::link(path.constData(), otherPath.constData()));
     if (!hasNoSecondNames(error))
         return error;
-    // The copy has a temporary name until it is whole.
-    QByteArray unfinished = otherPath + ".XXXXXX";
     const FileDescriptor from(::open(path.constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW));
-    if (!from.isOpen())
-        return errno;
-    const FileDescriptor to(::mkostemp(unfinished.data(), O_CLOEXEC));
-    if (!to.isOpen())
-        return errno;
-    int outcome = copyBytes(from.number(), to.number());
-    if (outcome == 0)
-        outcome = takePermissions(to.number(), path);
-    if (outcome == 0)
-        outcome = sync(to.number());
-    if (outcome == 0)
-        outcome = moveToFreeName(unfinished, otherPath);
-    if (outcome != 0)
-        ::unlink(unfinished.constData());
-    return outcome;
+    return from.isOpen() ? copy(from.number(), otherPath) : errno;
+}
+
+int PosixInstallationSteps::giveName(int descriptor, const QByteArray &path)
+{
+    const QByteArray opened = "/proc/self/fd/" + QByteArray::number(descriptor);
+    const int error = errorOf(
+        ::linkat(AT_FDCWD, opened.constData(), AT_FDCWD, path.constData(), AT_SYMLINK_FOLLOW));
+    // ENOENT: somebody removed the file's last name, and it cannot have one any more.
+    return hasNoSecondNames(error) || error == ENOENT ? copy(descriptor, path) : error;
 }
 
 int PosixInstallationSteps::replace(const QByteArray &from, const QByteArray &to)
 {
     return errorOf(::rename(from.constData(), to.constData()));
-}
-
-int PosixInstallationSteps::moveToFreeName(const QByteArray &from, const QByteArray &to)
-{
-    const int error = errorOf(
-        ::renameat2(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), RENAME_NOREPLACE));
-    if (error != EINVAL && error != ENOSYS)
-        return error;
-    // The file system has no RENAME_NOREPLACE; a second name fails where it is taken, too.
-    if (const int linked = errorOf(::link(from.constData(), to.constData())); linked != 0)
-        return linked;
-    return errorOf(::unlink(from.constData()));
 }
 
 int PosixInstallationSteps::remove(const QByteArray &path)

@@ -21,10 +21,11 @@ public:
     /// A second name for the file, or a copy of it where there are no second names; fails where
     /// the name is taken.
     virtual int keep(const QByteArray &path, const QByteArray &otherPath) = 0;
+    /// A name for the open file itself, whatever stands under its other names by now, or for a copy
+    /// of it where it cannot have the name; fails where the name is taken.
+    virtual int giveName(int descriptor, const QByteArray &path) = 0;
     /// Takes the place of what stands at `to`, in one step.
     virtual int replace(const QByteArray &from, const QByteArray &to) = 0;
-    /// Fails where the name is taken.
-    virtual int moveToFreeName(const QByteArray &from, const QByteArray &to) = 0;
     virtual int remove(const QByteArray &path) = 0;
 };
 
@@ -35,8 +36,8 @@ public:
     int sync(int descriptor) override;
     int syncFolder(const QByteArray &folder) override;
     int keep(const QByteArray &path, const QByteArray &otherPath) override;
+    int giveName(int descriptor, const QByteArray &path) override;
     int replace(const QByteArray &from, const QByteArray &to) override;
-    int moveToFreeName(const QByteArray &from, const QByteArray &to) override;
     int remove(const QByteArray &path) override;
 };
 

@@ -2,6 +2,7 @@
 #include "app/updates/software_updater.h"
 #include "app/updates/update_file.h"
 #include "app/updates/update_installation.h"
+#include "app/updates/verified_download.h"
 #include "platform/base/work_queue.h"
 #include "platform/system/desktop_services.h"
 #include "platform/system/file_url.h"
@@ -28,21 +29,34 @@ struct SoftwareUpdater::Installed {
     std::optional<UpdateFailure> failure;
     QByteArray path = {};
     std::optional<UpdateVersion> version = {};
+    /// Else it is in the downloads folder.
+    bool isReplaced = false;
 };
+
+bool SoftwareUpdater::replacesAppImage(const ReleaseStatement &statement) const
+{
+    return m_program.installation.kind == Installation::Kind::AppImage
+        && statement.kind == ReleaseStatement::appImage;
+}
 
 void SoftwareUpdater::install()
 {
     if (m_state != State::Offering)
         return;
+    const ReleaseStatement &statement = m_offer->release.statement();
+    // The offer may have been open for months.
+    if (statement.expiry.toSecsSinceEpoch() <= m_context.now())
+        return check(UpdateAttention::Asked);
+    m_feedRequest.restart();
     m_state = State::Downloading;
     m_report.stage = Stage::Downloading;
     m_context.display.update(m_report);
-    const bool replaces = m_program.installation.kind == Installation::Kind::AppImage;
     m_download = std::make_unique<UpdateDownload>(
         m_context.download,
-        UpdateDownload::Plan{
-            m_offer->file, m_feedFoundIn, "Corvane/" + m_program.version.toLatin1(),
-            replaces ? folderOf(m_program.installation.appImage) : m_program.downloadsFolder});
+        UpdateDownload::Plan{statement.address, statement.length, m_feedFoundIn,
+                             "Corvane/" + m_program.version.toLatin1(),
+                             replacesAppImage(statement) ? folderOf(m_program.installation.appImage)
+                                                         : m_program.downloadsFolder});
     // `this` owns the download, which calls none of these once it is destroyed.
     m_download->onProgress = [this](qint64 received) {
         // The progress bar is redrawn for every half percent and not more often.
@@ -75,19 +89,20 @@ void SoftwareUpdater::downloadEnded(const std::shared_ptr<UpdateFile> &file,
 void SoftwareUpdater::verifyAndInstall(const std::shared_ptr<UpdateFile> &file)
 {
     const auto work
-        = [file, &steps = m_context.steps, key = m_program.publicKey, claim = m_offer->file,
-           version = m_offer->version, installation = m_program.installation]() -> Installed {
-        const auto publicKey = UpdateKey::fromBase64(key);
-        auto download = publicKey ? publicKey->verify(file, claim) : std::nullopt;
+        = [file, &steps = m_context.steps, offer = *m_offer, downloads = m_program.downloadsFolder,
+           installation = m_program.installation]() -> Installed {
+        const auto download
+            = VerifiedDownload::of(file, offer.release, offer.keys, offer.fileSignature);
         if (!download)
             return {UpdateFailure::WrongSignature};
-        const QByteArray name
-            = update_installation::safeName(claim.url.fileName(QUrl::FullyDecoded), version.text());
-        const auto outcome = installation.kind == Installation::Kind::AppImage
+        // Whatever else was signed is the user's to look at, and replaces nothing.
+        const bool replaces
+            = installation.kind == Installation::Kind::AppImage && download->isAppImage();
+        const auto outcome = replaces
             ? update_installation::swap(steps, *download, installation.appImage)
-            : update_installation::handOver(steps, *download, name);
+            : update_installation::handOver(steps, *download, downloads);
         if (outcome.error == 0)
-            return {std::nullopt, outcome.path, version};
+            return {std::nullopt, outcome.path, download->statement().version, replaces};
         return {outcome.error == ENOSPC ? UpdateFailure::NoRoom : UpdateFailure::NotWritten};
     };
     const auto end = m_lifetime.guard([this](const Installed &outcome) { installed(outcome); });
@@ -101,9 +116,8 @@ void SoftwareUpdater::installed(const Installed &outcome)
     if (outcome.failure)
         return fail(*outcome.failure);
     UpdateReport report = m_report;
-    const bool isReplaced = m_program.installation.kind == Installation::Kind::AppImage;
-    report.stage = isReplaced ? Stage::Replaced : Stage::HandedOver;
-    if (!isReplaced) {
+    report.stage = outcome.isReplaced ? Stage::Replaced : Stage::HandedOver;
+    if (!outcome.isReplaced) {
         m_handedOver = outcome.path;
         report.fileName = file_url::lastPathComponent(outcome.path);
     }
@@ -111,7 +125,7 @@ void SoftwareUpdater::installed(const Installed &outcome)
     m_takenReport = report;
     m_attention = UpdateAttention::Asked;
     rest(report);
-    if (!isReplaced)
+    if (!outcome.isReplaced)
         showFile();
 }
 

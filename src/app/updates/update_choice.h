@@ -1,7 +1,8 @@
 #pragma once
 
-#include "app/updates/claimed_release.h"
-#include "app/updates/update_version.h"
+#include "app/updates/update_trust.h"
+
+#include <QDateTime>
 
 #include <optional>
 
@@ -18,31 +19,60 @@ struct UpdateSystem {
     static UpdateSystem thisOne();
 };
 
-/// What the program's versions are compared by: builds where the feed gives any, else the versions
-/// that people see. They are never mixed: build 40 is not newer than version 1.2.
-enum class VersionScale { Build, ShortVersion };
-
-/// A version that could run here, as the feed claims it.
-struct UpdateOffer {
-    UpdateVersion version;
-    /// For people; the compared version where the feed gives no other.
-    QString shownVersion;
-    /// To be shown as it is.
-    QString notes;
-    ClaimedFile file;
+/// Whom a feed is read for.
+struct UpdateAudience {
+    UpdateSystem system;
+    /// The build that runs; none where it has none that can be compared, and nothing is newer then.
+    std::optional<UpdateVersion> build;
+    /// And the version that people see, which unsigned items may give alone.
+    std::optional<UpdateVersion> shortVersion;
+    bool wantsBetas = false;
 };
 
-/// What a feed has for this machine.
+/// A release that could run here, and is newer than what does.
+struct UpdateOffer {
+    VerifiedRelease release;
+    /// Those whose digest is stated, to be shown as they are.
+    QString notes;
+    /// What the feed says is the signature of the file alone.
+    QByteArray fileSignature;
+    /// Any of which may have made it.
+    QList<UpdateKey> keys;
+};
+
+/// What a feed has for somebody.
 struct UpdateChoice {
-    VersionScale scale = VersionScale::Build;
-    /// None where nothing fits.
-    std::optional<UpdateOffer> newest;
+    enum class Verdict {
+        /// The feed is fresh, and has nothing newer.
+        UpToDate,
+        Newer,
+        /// The statement with the highest number, or the newest release, is older than what was
+        /// stated before, or nothing is stated any more.
+        WentBack,
+        /// Whatever is stated, its time is over.
+        Expired,
+        /// What is announced is not stated by anybody who is believed.
+        Unverifiable,
+    };
+
+    Verdict verdict = Verdict::Unverifiable;
+    /// There is one where something is newer.
+    std::optional<UpdateOffer> offer = {};
+    /// When the newest statement was made, where its time is over.
+    QDateTime renewed = {};
+    /// The trust that was given, with what it has learned.
+    UpdateTrust trust;
 };
 
 namespace update_choice {
 
-/// The newest item that fits the machine. Items without an `UpdateVersion` are passed over.
-UpdateChoice choose(const QList<ClaimedRelease> &items, const UpdateSystem &system);
+/// "Up to date" is said only where somebody who is believed states it, and that is not over. What
+/// the feed says without a statement is never offered. Any thread.
+UpdateChoice choose(const QList<ClaimedRelease> &items, const UpdateAudience &audience,
+                    UpdateTrust trust, const QDateTime &now);
+
+/// A file larger than this is not offered, because its signature is checked over all of it.
+inline constexpr qint64 largestFile = 1024LL * 1024 * 1024;
 
 } // namespace update_choice
 

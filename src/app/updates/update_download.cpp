@@ -48,7 +48,7 @@ void UpdateDownload::start()
     const auto made = m_lifetime.guard(
         [this](const std::shared_ptr<UpdateFile> &file, int error) { fileMade(file, error); });
     m_context.work.run(
-        [made, &queue = m_context.queue, folder = m_plan.folder, length = m_plan.file.length] {
+        [made, &queue = m_context.queue, folder = m_plan.folder, length = m_plan.length] {
             int error = 0;
             const std::shared_ptr<UpdateFile> file = UpdateFile::make(folder, length, error);
             queue.async([made, file, error] { made(file, error); });
@@ -61,7 +61,7 @@ void UpdateDownload::fileMade(const std::shared_ptr<UpdateFile> &file, int error
         return finish(nullptr, failureOf(error));
     const auto transfer = std::make_shared<Transfer>();
     transfer->file = file;
-    transfer->expected = m_plan.file.length;
+    transfer->expected = m_plan.length;
     const auto tell = m_lifetime.guard([this](qint64 received) { progressed(received); });
     const auto take = [tell, transfer, &queue = m_context.queue](const QByteArray &piece) {
         transfer->isTooLong = transfer->file->size() + piece.size() > transfer->expected;
@@ -77,7 +77,7 @@ void UpdateDownload::fileMade(const std::shared_ptr<UpdateFile> &file, int error
         return true;
     };
     WebRequest request;
-    request.url = m_plan.file.url;
+    request.url = m_plan.address;
     request.userAgent = m_plan.userAgent;
     // One byte more, so that a file that is too long is not mistaken for a whole one.
     request.maximumBytes = transfer->expected + 1;

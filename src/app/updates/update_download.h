@@ -1,11 +1,11 @@
 #pragma once
 
-#include "app/updates/claimed_release.h"
 #include "app/updates/update_report.h"
 #include "platform/base/lifetime.h"
 #include "platform/web/web_client.h"
 
 #include <QByteArray>
+#include <QUrl>
 
 #include <functional>
 #include <memory>
@@ -19,7 +19,7 @@ class UpdateFile;
 class WebDownloader;
 class WorkQueue;
 
-/// Fetches one announced file into a folder.
+/// Fetches a file of a stated length into a folder.
 ///
 /// Destroying it ends the transfer; what has come goes with it, and nobody is called any more. Main
 /// thread only; nothing here keeps it waiting.
@@ -32,16 +32,15 @@ public:
         WorkQueue &work;
     };
     struct Plan {
-        ClaimedFile file;
+        QUrl address;
+        /// As it is stated.
+        qint64 length = 0;
         /// Where the address was found.
         AddressSpace foundIn = AddressSpace::Public;
         QByteArray userAgent;
         /// A native path.
         QByteArray folder;
     };
-
-    /// No update is larger. The limit is needed because the signature is checked over all of it.
-    static constexpr qint64 maximumBytes = 1024LL * 1024 * 1024;
 
     UpdateDownload(const Context &context, Plan plan);
     UpdateDownload(const UpdateDownload &) = delete;
@@ -52,7 +51,7 @@ public:
     std::function<void(qint64)> onProgress;
     /// Called before the end with the way of the request, also of one that was withheld.
     std::function<void(const WebRoute &)> onRoute;
-    /// Called once, with a file of the claimed length or with what went wrong; may delete this.
+    /// Called once, with a file of the stated length or with what went wrong; may delete this.
     std::function<void(std::shared_ptr<UpdateFile>, std::optional<UpdateFailure>)> onEnd;
 
     void start();

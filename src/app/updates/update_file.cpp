@@ -19,8 +19,6 @@ namespace corvane {
 
 namespace {
 
-const QByteArray prefix = QByteArrayLiteral(".corvane-update-");
-
 /// A process holds the lock of its own file: one without a lock was left by a process that died.
 void removeIfLeftOver(const QByteArray &path)
 {
@@ -29,17 +27,6 @@ void removeIfLeftOver(const QByteArray &path)
     if (opened.isOpen() && ::fstat(opened.number(), &status) == 0 && status.st_uid == ::geteuid()
         && ::flock(opened.number(), LOCK_EX | LOCK_NB) == 0)
         ::unlink(path.constData());
-}
-
-void removeLeftovers(const QByteArray &folder)
-{
-    std::error_code error;
-    std::filesystem::directory_iterator entry(folder.toStdString(), error);
-    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-        const QByteArray path = QByteArray::fromStdString(entry->path().native());
-        if (path.mid(path.lastIndexOf('/') + 1).startsWith(prefix))
-            removeIfLeftOver(path);
-    }
 }
 
 /// So that a full disk is noticed before the download. Not every file system can do it.
@@ -51,12 +38,23 @@ bool setRoomAside(int descriptor, qint64 length)
 
 } // namespace
 
+void UpdateFile::removeLeftovers(const QByteArray &folder)
+{
+    std::error_code error;
+    std::filesystem::directory_iterator entry(folder.toStdString(), error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+        const QByteArray path = QByteArray::fromStdString(entry->path().native());
+        if (path.mid(path.lastIndexOf('/') + 1).startsWith(temporaryPrefix))
+            removeIfLeftOver(path);
+    }
+}
+
 std::unique_ptr<UpdateFile> UpdateFile::make(const QByteArray &folder, qint64 length, int &error)
 {
     // The downloads folder may never have been used.
     ::mkdir(folder.constData(), S_IRWXU);
     removeLeftovers(folder);
-    QByteArray path = folder + '/' + prefix + "XXXXXX";
+    QByteArray path = folder + '/' + temporaryPrefix + "XXXXXX";
     FileDescriptor made(::mkostemp(path.data(), O_CLOEXEC));
     if (!made.isOpen()) {
         error = errno;
@@ -78,8 +76,7 @@ UpdateFile::UpdateFile(FileDescriptor descriptor, QByteArray path)
 
 UpdateFile::~UpdateFile()
 {
-    if (!m_path.isEmpty())
-        ::unlink(m_path.constData());
+    ::unlink(m_path.constData());
 }
 
 bool UpdateFile::append(const QByteArray &bytes)

@@ -9,7 +9,8 @@
 namespace corvane {
 
 /// A file that an update arrives in: in the folder where it will stay, under a name that means
-/// nothing to anybody, readable by nobody else. It goes with this object unless it was installed.
+/// nothing to anybody, readable by nobody else. The name goes with this object; the file stays
+/// where it was installed, because it has another name then.
 ///
 /// Used by one thread after the other.
 class UpdateFile {
@@ -17,6 +18,12 @@ public:
     /// Makes one with room for `length` bytes; none, and the error's number, where that cannot be.
     /// Removes first what processes that died have left in the folder.
     static std::unique_ptr<UpdateFile> make(const QByteArray &folder, qint64 length, int &error);
+    /// The beginning of all names that are meant to go, in the folder of an AppImage or in that for
+    /// downloads.
+    static inline const QByteArray temporaryPrefix = QByteArrayLiteral(".corvane-update-");
+    /// Removes what processes that died have left in the folder.
+    static void removeLeftovers(const QByteArray &folder);
+
     UpdateFile(const UpdateFile &) = delete;
     UpdateFile &operator=(const UpdateFile &) = delete;
     ~UpdateFile();
@@ -29,9 +36,6 @@ public:
 
     int descriptor() const { return m_descriptor.number(); }
     QByteArray path() const { return m_path; }
-
-    /// It has another name now, and stays.
-    void release() { m_path.clear(); }
 
 private:
     UpdateFile(FileDescriptor descriptor, QByteArray path);

@@ -2,9 +2,13 @@
 
 #include "app/updates/installation.h"
 #include "app/updates/installation_steps.h"
+#include "app/updates/update_file.h"
 #include "app/updates/verified_download.h"
 
 #include <QStringBuilder>
+#include <QUrl>
+
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -14,6 +18,8 @@ namespace corvane::update_installation {
 namespace {
 
 constexpr int maximumNames = 100;
+/// Follows the temporary name in the one that the replacement takes away.
+constexpr auto freshSuffix = ".new";
 constexpr qsizetype longestName = 120;
 
 QByteArray folderOf(const QByteArray &path)
@@ -47,12 +53,13 @@ int keepOld(InstallationSteps &steps, const QByteArray &appImage)
 
 } // namespace
 
-Outcome swap(InstallationSteps &steps, VerifiedDownload &download, const QByteArray &appImage)
+Outcome swap(InstallationSteps &steps, const VerifiedDownload &download, const QByteArray &appImage)
 {
     // It may have been moved or replaced since the program was started.
     if (!Installation::isReplaceable(appImage))
         return {ENOENT};
     const QByteArray folder = folderOf(appImage);
+    const QByteArray fresh = download.path() + freshSuffix;
     int error = steps.takePermissions(download.descriptor(), appImage);
     if (error == 0)
         error = steps.sync(download.descriptor());
@@ -61,25 +68,33 @@ Outcome swap(InstallationSteps &steps, VerifiedDownload &download, const QByteAr
     if (error == 0)
         error = steps.syncFolder(folder);
     if (error == 0)
-        error = steps.replace(download.path(), appImage);
+        error = steps.giveName(download.descriptor(), fresh);
     if (error != 0)
         return {error};
-    download.release();
+    error = steps.replace(fresh, appImage);
+    if (error != 0) {
+        steps.remove(fresh);
+        return {error};
+    }
     // The new file is in its place: a folder that cannot be synced now is no failure any more.
     steps.syncFolder(folder);
     return {0, appImage};
 }
 
-Outcome handOver(InstallationSteps &steps, VerifiedDownload &download, const QByteArray &name)
+Outcome handOver(InstallationSteps &steps, const VerifiedDownload &download,
+                 const QByteArray &folder)
 {
-    const QByteArray folder = folderOf(download.path());
+    const QUrl address = download.statement().address;
+    const QByteArray name
+        = safeName(address.fileName(QUrl::FullyDecoded), download.statement().version.text());
+    // The downloads folder may never have been used.
+    ::mkdir(folder.constData(), S_IRWXU);
     if (const int error = steps.sync(download.descriptor()); error != 0)
         return {error};
     for (int number = 1; number <= maximumNames; ++number) {
         const QByteArray path = folder + '/' + numbered(name, number);
-        const int error = steps.moveToFreeName(download.path(), path);
+        const int error = steps.giveName(download.descriptor(), path);
         if (error == 0) {
-            download.release();
             steps.syncFolder(folder);
             return {0, path};
         }
@@ -102,6 +117,7 @@ void removePrevious(InstallationSteps &steps, const QByteArray &appImage)
     const QByteArray previous = appImage + previousSuffix;
     if (Installation::isReplaceable(previous))
         steps.remove(previous);
+    UpdateFile::removeLeftovers(folderOf(appImage));
 }
 
 } // namespace corvane::update_installation

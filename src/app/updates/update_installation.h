@@ -27,18 +27,22 @@ struct Outcome {
 ///
 ///     permissions, sync            the new file is whole
 ///     keep the old one, sync       two names for the old file, unless an older one is still kept
+///     name                         a fresh name for the open file itself
 ///     replace, sync                the new file under the AppImage's name, in one step
-Outcome swap(InstallationSteps &steps, VerifiedDownload &download, const QByteArray &appImage);
+Outcome swap(InstallationSteps &steps, const VerifiedDownload &download,
+             const QByteArray &appImage);
 
-/// Gives the download the name in the folder that it is in, with a number where the name is taken:
-/// nothing is overwritten.
-Outcome handOver(InstallationSteps &steps, VerifiedDownload &download, const QByteArray &name);
+/// Gives the download a name in the folder, with a number where that is taken: nothing is
+/// overwritten. Its name is that of its address.
+Outcome handOver(InstallationSteps &steps, const VerifiedDownload &download,
+                 const QByteArray &folder);
 
 /// The name for a file from this address: its last part where that is harmless, else one with the
 /// version.
 QByteArray safeName(const QString &lastPartOfAddress, const QString &version);
 
-/// Removes the version before. To be called once the new AppImage has been started.
+/// Removes the version before, and what interrupted swaps left. To be called once the new AppImage
+/// has been started.
 void removePrevious(InstallationSteps &steps, const QByteArray &appImage);
 
 } // namespace update_installation

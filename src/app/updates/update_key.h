@@ -1,33 +1,31 @@
 #pragma once
 
-#include "app/updates/claimed_release.h"
-#include "app/updates/verified_download.h"
-
 #include <QByteArray>
 #include <QString>
 
-#include <memory>
+#include <cstddef>
 #include <optional>
 #include <utility>
 
 namespace corvane {
 
-/// The public half of the key that updates are signed with: Ed25519 over the file's bytes.
+/// The public half of a key that releases are signed with: Ed25519.
 class UpdateKey {
 public:
-    /// 32 bytes in base64; none for anything else.
+    /// 32 bytes; none for anything else.
+    static std::optional<UpdateKey> fromBytes(const QByteArray &bytes);
+    /// The same in base64.
     static std::optional<UpdateKey> fromBase64(const QString &text);
 
-    /// The file, if it is as long as was claimed and this key signed all of it; none otherwise.
-    /// Nobody may write to the file meanwhile or afterwards. Any thread.
-    std::optional<VerifiedDownload> verify(const std::shared_ptr<UpdateFile> &file,
-                                           const ClaimedFile &claim) const;
+    /// Whether the other half signed all of these bytes. Any thread.
+    bool hasSigned(const QByteArray &message, const QByteArray &signature) const;
+    bool hasSigned(const unsigned char *message, std::size_t size,
+                   const QByteArray &signature) const;
+
+    const QByteArray &bytes() const { return m_bytes; }
+    bool operator==(const UpdateKey &) const = default;
 
 private:
-    /// The signature covers the whole file at once, so it is mapped and not read: only as much
-    /// memory is taken as the system has to spare.
-    bool hasSigned(int descriptor, qint64 length, const QByteArray &signature) const;
-
     explicit UpdateKey(QByteArray bytes)
         : m_bytes(std::move(bytes))
     {

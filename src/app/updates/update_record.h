@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/updates/update_choice.h"
+#include "app/updates/update_trust.h"
 
 #include <QByteArray>
 
@@ -12,14 +12,12 @@ namespace corvane {
 struct UpdateRecord {
     /// Seconds since 1970; none where there was none.
     std::optional<qint64> lastCheck;
-    /// The highest version that a feed has ever announced, on each scale.
-    std::optional<UpdateVersion> highestBuild;
-    std::optional<UpdateVersion> highestShortVersion;
-
-    std::optional<UpdateVersion> &highest(VersionScale scale)
-    {
-        return scale == VersionScale::Build ? highestBuild : highestShortVersion;
-    }
+    /// Whether that check got no answer that could be used, or was not ended.
+    bool hasFailed = false;
+    /// When the user was told last that the feed is not renewed.
+    std::optional<qint64> lastExpiryNotice;
+    /// To be recalled by an `UpdateTrust`: anybody may have written it.
+    UpdateMemory memory;
 };
 
 /// The file that keeps it, apart from the settings, which people copy to other machines.
@@ -31,12 +29,16 @@ public:
     /// The program's folder for its state: below $XDG_STATE_HOME, or ~/.local/state.
     static QByteArray environmentFolder();
 
-    /// Empty where there is no file or it cannot be read.
-    UpdateRecord load() const;
+    /// Empty where there is no file; none where there is something else than a record.
+    std::optional<UpdateRecord> load() const;
     /// Writes the whole file or none of it. A failure is not reported.
     void save(const UpdateRecord &record) const;
+    /// Gives the file another name, in place of one that was set aside before.
+    void setAside() const;
 
 private:
+    QByteArray path() const;
+
     QByteArray m_folder;
 };
 

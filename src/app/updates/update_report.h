@@ -2,6 +2,7 @@
 
 #include "platform/web/web_route.h"
 
+#include <QDate>
 #include <QString>
 
 #include <functional>
@@ -14,10 +15,10 @@ enum class UpdateFailure {
     /// The feed could not be had.
     Unreachable,
     NotAFeed,
-    /// The feed's newest version is older than one that it told of before.
+    /// The feed states less, or older things, than it did before.
     WentBack,
-    /// The version is announced without a signature, a length or an address.
-    Incomplete,
+    /// A release is announced, or none is, and nobody who is believed has signed that.
+    Unverifiable,
     DownloadFailed,
     /// Of another length than announced.
     WrongLength,
@@ -25,6 +26,10 @@ enum class UpdateFailure {
     NoRoom,
     /// The disk does not take it, for another reason.
     NotWritten,
+    /// The time of the feed's newest statement is over.
+    Expired,
+    /// What was remembered of the checks was no record, and was set aside.
+    RecordDamaged,
 };
 
 /// What the user is told about updates at one moment.
@@ -55,6 +60,11 @@ struct UpdateReport {
     QString fileName = {};
     /// Which way the announcement, and later the file, was asked for; none before it is known.
     std::optional<WebRoute> route = {};
+    /// When the feed was renewed last, where its time is over.
+    QDate renewed = {};
+    /// Whether the version that is available goes into the downloads folder although it is an
+    /// AppImage that runs.
+    bool isForDownloads = false;
 
     bool operator==(const UpdateReport &) const = default;
 };

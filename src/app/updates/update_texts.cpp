@@ -5,6 +5,7 @@
 #include "platform/web/shown_address.h"
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <QStringBuilder>
 #include <QUrl>
 
@@ -19,14 +20,16 @@ QString translated(const char *text)
     return QCoreApplication::translate("UpdateTexts", text);
 }
 
-QString failureText(UpdateFailure failure)
+/// In English, as all of these texts.
+QString shownDate(const QDate &date)
 {
-    switch (failure) {
-    case UpdateFailure::Unreachable:
-        return translated(QT_TRANSLATE_NOOP(
-            "UpdateTexts",
-            "The place where new versions are announced could not be reached over "
-            "a safe connection. Try again later."));
+    return QLocale::c().toString(date, QStringLiteral("d MMMM yyyy"));
+}
+
+/// Of what is wrong with what is announced, or with what is remembered of it.
+QString announcementText(const UpdateReport &report)
+{
+    switch (report.failure) {
     case UpdateFailure::NotAFeed:
         return translated(
             QT_TRANSLATE_NOOP("UpdateTexts",
@@ -37,9 +40,33 @@ QString failureText(UpdateFailure failure)
             QT_TRANSLATE_NOOP("UpdateTexts",
                               "A newer version was announced before than is now. Somebody may be "
                               "keeping news from you, so nothing was taken."));
-    case UpdateFailure::Incomplete:
+    case UpdateFailure::Unverifiable:
         return translated(QT_TRANSLATE_NOOP(
-            "UpdateTexts", "A new version is announced without what is needed to check it."));
+            "UpdateTexts",
+            "This version of Corvane cannot verify what is announced, so nothing was taken."));
+    case UpdateFailure::Expired:
+        return translated(
+                   QT_TRANSLATE_NOOP("UpdateTexts",
+                                     "What is announced has not been renewed since %1. Somebody "
+                                     "may be keeping news from you, or your clock is wrong."))
+            .arg(shownDate(report.renewed));
+    case UpdateFailure::RecordDamaged:
+        return translated(QT_TRANSLATE_NOOP(
+            "UpdateTexts",
+            "What Corvane remembered of earlier updates was damaged. It was set aside and begins "
+            "anew with the next check."));
+    default:
+        break;
+    }
+    return translated(
+        QT_TRANSLATE_NOOP("UpdateTexts",
+                          "The place where new versions are announced could not be reached over "
+                          "a safe connection. Try again later."));
+}
+
+QString failureText(const UpdateReport &report)
+{
+    switch (report.failure) {
     case UpdateFailure::DownloadFailed:
         return translated(QT_TRANSLATE_NOOP(
             "UpdateTexts", "The new version could not be downloaded. Try again later."));
@@ -57,10 +84,11 @@ QString failureText(UpdateFailure failure)
         return translated(
             QT_TRANSLATE_NOOP("UpdateTexts", "There is not enough room on the disk."));
     case UpdateFailure::NotWritten:
-        break;
+        return translated(
+            QT_TRANSLATE_NOOP("UpdateTexts", "The new version could not be written to the disk."));
+    default:
+        return announcementText(report);
     }
-    return translated(
-        QT_TRANSLATE_NOOP("UpdateTexts", "The new version could not be written to the disk."));
 }
 
 QString nameOf(const WebProxy &proxy)
@@ -105,6 +133,16 @@ QString withRoute(const QString &detail, const UpdateReport &report)
     return report.route->isWithheld() ? route : detail % QLatin1Char(' ') % route;
 }
 
+QString failureTitle(const UpdateReport &report)
+{
+    if (report.failure == UpdateFailure::RecordDamaged)
+        return translated(
+            QT_TRANSLATE_NOOP("UpdateTexts", "Corvane's record of updates was damaged"));
+    return report.version.isEmpty()
+        ? translated(QT_TRANSLATE_NOOP("UpdateTexts", "Corvane could not check for updates"))
+        : translated(QT_TRANSLATE_NOOP("UpdateTexts", "Corvane was not updated"));
+}
+
 } // namespace
 
 UpdateTexts UpdateTexts::of(const UpdateReport &report, const QString &runningVersion,
@@ -131,8 +169,9 @@ UpdateTexts UpdateTexts::of(const UpdateReport &report, const QString &runningVe
                               QT_TRANSLATE_NOOP("UpdateTexts", "You have %1. The download has %2."))
                               .arg(runningVersion, formatByteCount(report.total)),
                           report),
-                replaces ? translated(QT_TRANSLATE_NOOP("UpdateTexts", "Install"))
-                         : translated(QT_TRANSLATE_NOOP("UpdateTexts", "Download")),
+                replaces && !report.isForDownloads
+                    ? translated(QT_TRANSLATE_NOOP("UpdateTexts", "Install"))
+                    : translated(QT_TRANSLATE_NOOP("UpdateTexts", "Download")),
                 translated(QT_TRANSLATE_NOOP("UpdateTexts", "Later"))};
     case Stage::Downloading:
         return {translated(QT_TRANSLATE_NOOP("UpdateTexts", "Downloading Corvane %1…"))
@@ -167,13 +206,31 @@ UpdateTexts UpdateTexts::of(const UpdateReport &report, const QString &runningVe
     case Stage::Failed:
         break;
     }
-    const QString title = report.version.isEmpty()
-        ? translated(QT_TRANSLATE_NOOP("UpdateTexts", "Corvane could not check for updates"))
-        : translated(QT_TRANSLATE_NOOP("UpdateTexts", "Corvane was not updated"));
+    return {failureTitle(report), explanation(report), {}, close};
+}
+
+QString UpdateTexts::explanation(const UpdateReport &report)
+{
     const bool isOfTheWay = report.failure == UpdateFailure::Unreachable
         || report.failure == UpdateFailure::DownloadFailed;
-    const QString reason = failureText(report.failure);
-    return {title, isOfTheWay ? withRoute(reason, report) : reason, {}, close};
+    const QString reason = failureText(report);
+    return isOfTheWay ? withRoute(reason, report) : reason;
+}
+
+QString UpdateTexts::menuTitle(const UpdateReport &report)
+{
+    switch (report.failure) {
+    case UpdateFailure::WentBack:
+        return translated(QT_TRANSLATE_NOOP("UpdateTexts", "Updates Go Back in Time…"));
+    case UpdateFailure::Unverifiable:
+        return translated(QT_TRANSLATE_NOOP("UpdateTexts", "Updates Cannot Be Verified…"));
+    case UpdateFailure::Expired:
+        return translated(QT_TRANSLATE_NOOP("UpdateTexts", "Updates Have Not Been Renewed…"));
+    case UpdateFailure::RecordDamaged:
+        return translated(QT_TRANSLATE_NOOP("UpdateTexts", "Record of Updates Was Damaged…"));
+    default:
+        return translated(QT_TRANSLATE_NOOP("UpdateTexts", "Updates Cannot Use Your Proxy…"));
+    }
 }
 
 } // namespace corvane

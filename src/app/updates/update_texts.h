@@ -6,7 +6,7 @@
 
 namespace corvane {
 
-/// What the window says, and which buttons it has; all of it plain text.
+/// What the window says of a report, and which buttons it has; all of it plain text.
 struct UpdateTexts {
     QString title;
     QString detail;
@@ -18,6 +18,10 @@ struct UpdateTexts {
     /// `runningVersion` is the one that the user has; `replaces` says whether an update takes its
     /// place or is handed over.
     static UpdateTexts of(const UpdateReport &report, const QString &runningVersion, bool replaces);
+
+    /// What the menu and the preferences say of something that went wrong.
+    static QString menuTitle(const UpdateReport &report);
+    static QString explanation(const UpdateReport &report);
 };
 
 } // namespace corvane

@@ -9,8 +9,8 @@
 #include "app/preferences/shortcut_recorder_view.h"
 #include "app/preferences/shortcut_row.h"
 #include "app/preferences/switch_button.h"
-#include "app/updates/updater.h"
 #include "app/widget_hands.h"
+#include "fakes/fake_updater.h"
 #include "fakes/lacking_abilities.h"
 #include "fakes/preferences_desk.h"
 
@@ -32,17 +32,6 @@ const auto unsetText = QStringLiteral("Unset by default. ↓ on the shelf does t
 const auto conflictText = QStringLiteral("Another app already uses that combination.");
 constexpr KeyPosition keyA = KeyPosition::A;
 constexpr KeyPosition keyB{11};
-
-class RecordingUpdater : public Updater {
-public:
-    void start() override { }
-    void checkForUpdates() override { ++checks; }
-    bool automaticallyChecksForUpdates() const override { return false; }
-    void setAutomaticallyChecksForUpdates(bool on) override { automatic = on; }
-
-    int checks = 0;
-    std::optional<bool> automatic;
-};
 
 class GeneralPaneTest : public testing::Test {
 protected:
@@ -394,7 +383,7 @@ TEST_F(GeneralPaneTest, WhereOthersKeepTheProgramUpToDateItSaysSo)
 
 TEST_F(GeneralPaneTest, TheUpdaterFollowsTheSwitchAndChecksWhenAsked)
 {
-    RecordingUpdater updater;
+    FakeUpdater updater;
     desk.updater = &updater;
     auto &updates = row("Check for updates automatically");
     EXPECT_EQ(updates.detail(), QString());
@@ -403,6 +392,36 @@ TEST_F(GeneralPaneTest, TheUpdaterFollowsTheSwitchAndChecksWhenAsked)
     EXPECT_EQ(updater.automatic, false);
     updates.findChild<QPushButton *>()->click();
     EXPECT_EQ(updater.checks, 1);
+}
+
+TEST_F(GeneralPaneTest, WhatIsWrongWithUpdatesStandsBesideTheirSwitchAsLongAsItIs)
+{
+    FakeUpdater updater;
+    desk.updater = &updater;
+    UpdateReport report{UpdateReport::Stage::Failed};
+    report.failure = UpdateFailure::Unverifiable;
+    updater.wrong.set(report);
+    auto &updates = row("Check for updates automatically");
+    EXPECT_TRUE(updates.detail().contains(QStringLiteral("cannot verify")));
+    report.failure = UpdateFailure::WentBack;
+    updater.wrong.set(report);
+    EXPECT_TRUE(updates.detail().contains(QStringLiteral("keeping news from you")));
+    updater.wrong.set(std::nullopt);
+    EXPECT_EQ(updates.detail(), QString());
+}
+
+TEST_F(GeneralPaneTest, BetasAreThereForThoseWhoChooseThem)
+{
+    FakeUpdater updater;
+    desk.updater = &updater;
+    EXPECT_FALSE(switchOf("Offer beta versions too").isChecked());
+    switchOf("Offer beta versions too").click();
+    EXPECT_TRUE(desk.settings.betaUpdates());
+}
+
+TEST_F(GeneralPaneTest, WithoutAnUpdaterThereIsNothingToChooseOf)
+{
+    EXPECT_THROW(row("Offer beta versions too"), std::runtime_error);
 }
 
 TEST_F(GeneralPaneTest, SettingsThatCannotBeKeptAreSaidAndStillWork)

@@ -1,7 +1,7 @@
 #include "app/status/status_icon.h"
 #include "app/status/status_item_controller.h"
-#include "app/updates/updater.h"
 #include "fakes/fake_status_item.h"
+#include "fakes/fake_updater.h"
 #include "fakes/shelf_model.h"
 
 #include <gtest/gtest.h>
@@ -9,16 +9,6 @@
 namespace corvane::test {
 
 namespace {
-
-class CountingUpdater : public Updater {
-public:
-    void start() override { }
-    void checkForUpdates() override { ++checks; }
-    bool automaticallyChecksForUpdates() const override { return false; }
-    void setAutomaticallyChecksForUpdates(bool) override { }
-
-    int checks = 0;
-};
 
 class StatusItemControllerTest : public testing::Test, protected ShelfModel {
 protected:
@@ -200,11 +190,35 @@ TEST_F(StatusItemControllerTest, AnUnsetCallbackMakesItsRowDoNothing)
     EXPECT_TRUE(log.isEmpty());
 }
 
+TEST_F(StatusItemControllerTest, WhatIsWrongWithUpdatesStandsInTheMenuAsLongAsItIs)
+{
+    FakeUpdater updater;
+    make(&updater);
+    panel.open();
+    const qsizetype before = panel.rows.size();
+    const int changes = panel.menuChanges;
+    UpdateReport report{UpdateReport::Stage::Failed};
+    report.failure = UpdateFailure::WentBack;
+    updater.wrong.set(report);
+    EXPECT_EQ(panel.menuChanges, changes + 1);
+    panel.open();
+    EXPECT_TRUE(panel.choose(u"Updates Go Back in Time…"));
+    EXPECT_EQ(updater.noticesShown, 1);
+    EXPECT_EQ(updater.checks, 0);
+    updater.wrong.set(report);
+    EXPECT_EQ(panel.menuChanges, changes + 1) << "the same as before";
+    updater.wrong.set(std::nullopt);
+    panel.open();
+    EXPECT_EQ(panel.rows.size(), before);
+    controller.reset();
+    updater.wrong.set(report);
+}
+
 TEST_F(StatusItemControllerTest, UpdatesAreLookedForWhereTheBuildHasThem)
 {
     panel.open();
     EXPECT_FALSE(panel.row(u"Check for Updates"));
-    CountingUpdater updater;
+    FakeUpdater updater;
     make(&updater);
     panel.open();
     EXPECT_TRUE(panel.choose(u"Check for Updates"));

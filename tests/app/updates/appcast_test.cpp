@@ -142,16 +142,69 @@ TEST(Appcast, AFeedOfTooManyItemsIsRefused)
     EXPECT_FALSE(appcast::read(feed(QByteArray("<item/>").repeated(appcast::maximumItems + 1))));
 }
 
-TEST(Appcast, ElementsNestedWithoutEndCostNoStack)
+TEST(Appcast, ElementsNestedWithoutEndAreRefused)
 {
-    constexpr int depth = 140'000;
-    const QByteArray nested
-        = QByteArray("<a>").repeated(depth) + "x" + QByteArray("</a>").repeated(depth);
-    const auto items = itemsOf("<item><description>" + nested + "</description></item>");
+    const auto nested = [](int depth) -> QByteArray {
+        return QByteArray("<a>").repeated(depth) + "x" + QByteArray("</a>").repeated(depth);
+    };
+    const auto items = itemsOf("<item><description>" + nested(20) + "</description></item>");
     ASSERT_EQ(items.size(), 1);
     EXPECT_EQ(items.first().notes, QStringLiteral("x"));
-    EXPECT_TRUE(appcast::read(feed("<item>" + nested + "</item>")));
+    EXPECT_FALSE(appcast::read(feed("<item><description>" + nested(140'000))));
     EXPECT_FALSE(appcast::read(feed("<item><description>" + QByteArray("<a>").repeated(300'000))));
+}
+
+TEST(Appcast, AnElementOfMoreAttributesThanAnybodyNeedsIsRefused)
+{
+    QByteArray attributes;
+    for (int i = 0; attributes.size() < 900'000; ++i)
+        attributes += " a" + QByteArray::number(i) + "=''";
+    EXPECT_FALSE(appcast::read(feed("<item><enclosure" + attributes + "/></item>")));
+}
+
+TEST(Appcast, StatementsAreReadWithTheirSignatures)
+{
+    const QByteArray signature(64, 's');
+    const QByteArray statement = "<corvane:statement signature='" + signature.toBase64() + "'>";
+    const auto items
+        = itemsOf("<item>" + statement + "\n  "
+                  + QByteArray("a statement").toBase64().insert(4, "\n ") + "\n</corvane:statement>"
+                  + statement + QByteArray("another").toBase64() + "</corvane:statement></item>");
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items.first().statements,
+              (QList<ClaimedStatement>{{"a statement", signature}, {"another", signature}}));
+}
+
+TEST(Appcast, AStatementThatIsNoneIsPassedOver)
+{
+    const QByteArray signature = QByteArray(64, 's').toBase64();
+    const auto items = itemsOf("<item><corvane:statement signature='" + signature
+                               + "'>%%%</corvane:statement>"
+                                 "<corvane:statement signature='QUJD'>QUJD</corvane:statement>"
+                                 "<corvane:statement>QUJD</corvane:statement><statement signature='"
+                               + signature + "'>QUJD</statement><corvane:statement signature='"
+                               + signature + "'/><corvane:statement signature='" + signature + "'>"
+                               + QByteArray(9000, 'A') + "</corvane:statement></item>");
+    ASSERT_EQ(items.size(), 1);
+    for (const ClaimedStatement &one : items.first().statements)
+        EXPECT_LE(one.bytes.size(), 6144) << "one that is too long is cut, and so not signed";
+    EXPECT_LE(items.first().statements.size(), 1);
+}
+
+TEST(Appcast, AFeedOfTooManyStatementsIsRefused)
+{
+    const QByteArray one = "<corvane:statement/>";
+    EXPECT_TRUE(appcast::read(feed("<item>" + one.repeated(1000) + "</item>")));
+    EXPECT_FALSE(appcast::read(feed("<item>" + one.repeated(1001) + "</item>")));
+}
+
+TEST(Appcast, EncodingsInWhichMarkupIsWrittenOtherwiseAreRefused)
+{
+    const QString text = QString::fromUtf8(feed(""));
+    QByteArray utf16(reinterpret_cast<const char *>(text.utf16()), text.size() * 2);
+    EXPECT_FALSE(appcast::read(utf16));
+    EXPECT_FALSE(appcast::read("\xff\xfe" + utf16));
+    EXPECT_FALSE(appcast::read(feed("<item><title>\xff</title></item>")));
 }
 
 TEST(Appcast, LongTextsAreCut)

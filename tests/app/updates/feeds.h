@@ -9,7 +9,8 @@ namespace corvane::test {
 inline QByteArray feed(const QByteArray &items)
 {
     return "<rss version='2.0' "
-           "xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'>\n"
+           "xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle' "
+           "xmlns:corvane='urn:corvane:releases'>\n"
            "<channel><title>Corvane</title>"
         + items + "</channel></rss>\n";
 }

@@ -19,6 +19,27 @@ protected:
     }
     QByteArray newer() const { return feed(item("11", UpdateFolder::newImage())); }
     QByteArray same() const { return feed(item("10", UpdateFolder::newImage())); }
+    std::optional<UpdateFailure> noticed() const
+    {
+        const auto &notice = updater->notices().now();
+        return notice ? std::optional(notice->failure) : std::nullopt;
+    }
+    /// What an automatic check finds.
+    void checkBySelf(const QByteArray &bytes)
+    {
+        pass(day);
+        answer(bytes);
+    }
+    /// A feed that is good until that many days from the beginning of the test.
+    QByteArray goodFor(const QByteArray &build, double days) const
+    {
+        Statement statement = Statement::of(build, UpdateFolder::newImage());
+        statement.expiry
+            = QDateTime::fromSecsSinceEpoch(began + static_cast<qint64>(days * day), Qt::UTC)
+                  .toString(Qt::ISODate)
+                  .toLatin1();
+        return feed(statement.item(key, UpdateFolder::newImage()));
+    }
 };
 
 } // namespace
@@ -104,11 +125,35 @@ TEST_F(SoftwareUpdaterTest, NobodyHearsOfACheckThatFoundNothingOrFailed)
     answer(same());
     pass(day);
     answer("no feed");
-    pass(day);
+    pass(3600);
     web.fail(checks() - 1);
     settle();
     EXPECT_EQ(checks(), 3U);
     EXPECT_TRUE(display.stages.empty());
+    EXPECT_FALSE(noticed());
+}
+
+TEST_F(SoftwareUpdaterTest, ACheckThatFailedIsRepeatedAfterAnHour)
+{
+    make();
+    pass(60);
+    web.fail(0);
+    settle();
+    pass(3600 - 1);
+    EXPECT_EQ(checks(), 1U);
+    pass(2);
+    EXPECT_EQ(checks(), 2U);
+    answer("no feed");
+    make();
+    pass(3600 - 61);
+    EXPECT_EQ(checks(), 2U) << "after a start, too";
+    pass(62);
+    ASSERT_EQ(checks(), 3U);
+    answer(same());
+    pass(day - 10);
+    EXPECT_EQ(checks(), 3U) << "and after a day once it went well";
+    pass(20);
+    EXPECT_EQ(checks(), 4U);
 }
 
 TEST_F(SoftwareUpdaterTest, ANewVersionIsToldOfWithoutBeingAskedFor)
@@ -216,10 +261,34 @@ TEST_F(SoftwareUpdaterTest, NothingThatIsOlderThanTheRunningVersionIsOffered)
     EXPECT_EQ(display.report.stage, Stage::UpToDate);
 }
 
-TEST_F(SoftwareUpdaterTest, AFeedWithNothingForThisMachineHasNothingNewer)
+TEST_F(SoftwareUpdaterTest, AFeedThatNobodySignedProvesNothing)
 {
     checkNow(feed(""));
-    EXPECT_EQ(display.report.stage, Stage::UpToDate);
+    EXPECT_TRUE(hasFailed(UpdateFailure::Unverifiable));
+    checkNow(feed(unsignedItem("10", UpdateFolder::newImage())));
+    EXPECT_TRUE(hasFailed(UpdateFailure::Unverifiable));
+}
+
+TEST_F(SoftwareUpdaterTest, TheFeedIsReadBesideTheMainThread)
+{
+    make();
+    updater->checkForUpdates();
+    web.answerWith(0, newer());
+    clock.runPending();
+    EXPECT_EQ(display.report.stage, Stage::Checking);
+    EXPECT_EQ(work.pendingCount(), 1U);
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::Available);
+}
+
+TEST_F(SoftwareUpdaterTest, WhatIsReadAfterTheWindowWasClosedIsForgotten)
+{
+    make();
+    updater->checkForUpdates();
+    web.answerWith(0, newer());
+    display.onDismiss();
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::Checking);
 }
 
 TEST_F(SoftwareUpdaterTest, AFeedThatGoesBackIsReportedAndNotFollowed)
@@ -237,22 +306,239 @@ TEST_F(SoftwareUpdaterTest, AFeedThatGoesBackIsReportedAndNotFollowed)
     EXPECT_EQ(display.report.stage, Stage::Available);
 }
 
-TEST_F(SoftwareUpdaterTest, VersionsForPeopleAreComparedWhereThereAreNoBuilds)
+TEST_F(SoftwareUpdaterTest, WhatNobodySignedIsNotRemembered)
 {
-    const auto people = [this](const char *version) {
-        QByteArray announced = newer();
-        announced.replace("<sparkle:version>11</sparkle:version>", "");
-        return announced.replace("11.0", version);
-    };
-    checkNow(people("1.0"));
+    QByteArray nines = item("11", UpdateFolder::newImage());
+    nines.replace("<sparkle:version>11<",
+                  QByteArray("<sparkle:version>" + QByteArray(64, '9') + "<"));
+    nines.truncate(nines.indexOf("<corvane:statement"));
+    checkNow(feed(nines + "</item>"));
+    EXPECT_TRUE(hasFailed(UpdateFailure::Unverifiable));
+    make();
+    checkNow(newer());
+    EXPECT_EQ(display.report.stage, Stage::Available);
+}
+
+TEST_F(SoftwareUpdaterTest, AnOldReleaseUnderANewVersionIsNotOffered)
+{
+    QByteArray dressedUp = item("8", UpdateFolder::oldImage());
+    dressedUp.replace("<sparkle:version>8<", "<sparkle:version>99<");
+    checkNow(feed(dressedUp));
     EXPECT_EQ(display.report.stage, Stage::UpToDate);
-    checkNow(people("1.2"));
+    checkNow(newer());
+    EXPECT_EQ(display.report.stage, Stage::Available) << "the next genuine one is";
+}
+
+TEST_F(SoftwareUpdaterTest, AutomaticChecksTellOfAFeedThatGoesBackUntilItIsGoodAgain)
+{
+    make();
+    checkNow(feed(item("12", UpdateFolder::newImage())));
+    display.onDismiss();
+    display.stages.clear();
+    checkBySelf(newer());
+    EXPECT_EQ(noticed(), UpdateFailure::WentBack);
+    EXPECT_TRUE(display.stages.empty()) << "no window comes up";
+    updater->showNotice();
+    EXPECT_TRUE(hasFailed(UpdateFailure::WentBack));
+    EXPECT_EQ(display.attentions.back(), UpdateAttention::Asked);
+    EXPECT_EQ(noticed(), UpdateFailure::WentBack);
+    pass(3600);
+    answer(feed(item("12", UpdateFolder::newImage())));
+    EXPECT_FALSE(noticed());
+}
+
+TEST_F(SoftwareUpdaterTest, AutomaticChecksTellOfWhatCannotBeVerified)
+{
+    make();
+    checkBySelf(
+        feed(item("10", UpdateFolder::newImage()) + unsignedItem("11", UpdateFolder::newImage())));
+    EXPECT_EQ(noticed(), UpdateFailure::Unverifiable);
+    pass(3600);
+    answer("no feed");
+    EXPECT_EQ(noticed(), UpdateFailure::Unverifiable) << "nothing better is known";
+}
+
+TEST_F(SoftwareUpdaterTest, AutomaticChecksTellOfAProxyThatCannotBeUsed)
+{
+    make();
+    pass(60);
+    web.requests.back().onRoute(WebRoute{WebRoute::Kind::NeedsScript});
+    web.fail(0);
+    settle();
+    EXPECT_EQ(noticed(), UpdateFailure::Unreachable);
+    EXPECT_EQ(updater->notices().now()->route, (WebRoute{WebRoute::Kind::NeedsScript}));
+    pass(3600);
+    web.requests.back().onRoute(WebRoute{});
+    answer(same());
+    EXPECT_FALSE(noticed());
+}
+
+TEST_F(SoftwareUpdaterTest, WhoeverAskedSeesWhatIsWrongInTheWindowAlone)
+{
+    checkNow(feed(""));
+    EXPECT_TRUE(hasFailed(UpdateFailure::Unverifiable));
+    EXPECT_FALSE(noticed());
+}
+
+TEST_F(SoftwareUpdaterTest, AFeedThatIsNotRenewedIsToldOfOnceAWeek)
+{
+    make();
+    const QByteArray old = goodFor("10", 1.5);
+    checkBySelf(old);
+    EXPECT_FALSE(noticed());
+    checkBySelf(old);
+    EXPECT_EQ(noticed(), UpdateFailure::Expired);
+    EXPECT_EQ(updater->notices().now()->renewed, QDate(2026, 11, 1));
+    updater->showNotice();
+    EXPECT_TRUE(hasFailed(UpdateFailure::Expired));
+    EXPECT_FALSE(noticed()) << "it was seen";
+    const double told = clock.now();
+    while (clock.now() < told + 7 * day - 7200) {
+        pass(3600);
+        answer(old);
+        ASSERT_FALSE(noticed());
+    }
+    make();
+    pass(7200);
+    answer(old);
+    EXPECT_EQ(noticed(), UpdateFailure::Expired) << "a week later, and across starts";
+}
+
+TEST_F(SoftwareUpdaterTest, WhatHasExpiredIsNotOffered)
+{
+    checkNow(goodFor("11", 1));
     EXPECT_EQ(display.report.stage, Stage::Available);
     display.onDismiss();
-    checkNow(people("1.1"));
-    EXPECT_TRUE(hasFailed(UpdateFailure::WentBack));
-    checkNow(feed(""));
-    EXPECT_TRUE(hasFailed(UpdateFailure::WentBack)) << "nor one that falls silent about it";
+    pass(day);
+    checkNow(goodFor("11", 1));
+    EXPECT_TRUE(hasFailed(UpdateFailure::Expired));
+    EXPECT_EQ(display.report.renewed, QDate(2026, 11, 1));
+}
+
+TEST_F(SoftwareUpdaterTest, AnOfferThatExpiresWhileItIsLookedAtIsLookedForAgain)
+{
+    isAutomatic = false;
+    checkNow(goodFor("11", 1));
+    pass(2 * day);
+    display.onInstall();
+    settle();
+    EXPECT_TRUE(downloader.downloads.empty());
+    EXPECT_EQ(display.report.stage, Stage::Checking);
+    answer(newer());
+    EXPECT_EQ(display.report.stage, Stage::Available);
+}
+
+TEST_F(SoftwareUpdaterTest, BetasAreOfferedFromTheMomentInWhichTheyAreChosen)
+{
+    Statement beta = Statement::of("11", UpdateFolder::newImage());
+    beta.channel = "beta";
+    const QByteArray both
+        = feed(item("10", UpdateFolder::newImage()) + beta.item(key, UpdateFolder::newImage()));
+    checkNow(both);
+    EXPECT_EQ(display.report.stage, Stage::UpToDate);
+    wantsBetas = true;
+    checkNow(both);
+    EXPECT_EQ(display.report.stage, Stage::Available);
+}
+
+TEST_F(SoftwareUpdaterTest, ARecordThatIsDamagedIsSetAsideSaidSoOnceAndRebuilt)
+{
+    checkNow(feed(item("12", UpdateFolder::newImage())));
+    display.onDismiss();
+    QDir(QFile::decodeName(state.path("corvane"))).mkpath(QStringLiteral("."));
+    state.write("corvane/updates.json", "{ broken");
+    make();
+    EXPECT_EQ(noticed(), UpdateFailure::RecordDamaged);
+    EXPECT_EQ(UpdateFolder::contents(state.path("corvane/updates.json.set-aside")), "{ broken");
+    checkBySelf(same());
+    EXPECT_EQ(noticed(), UpdateFailure::RecordDamaged) << "until somebody has seen it";
+    updater->showNotice();
+    EXPECT_TRUE(hasFailed(UpdateFailure::RecordDamaged));
+    EXPECT_FALSE(noticed());
+    make();
+    EXPECT_FALSE(noticed()) << "once";
+    checkNow(feed(item("9", UpdateFolder::newImage())));
+    EXPECT_TRUE(hasFailed(UpdateFailure::WentBack)) << "it is kept again";
+}
+
+TEST_F(SoftwareUpdaterTest, ARecordThatNobodySignedEndsNothing)
+{
+    make();
+    UpdateRecord poisoned;
+    Statement highest = Statement::of("99999", UpdateFolder::newImage());
+    highest.number = "1000000000000000";
+    poisoned.memory.builtInKey = key.publicBytes();
+    poisoned.memory.releases = {{highest.bytes(), TestKey().sign(highest.bytes())}};
+    UpdateRecordFile(state.path("corvane")).save(poisoned);
+    make();
+    EXPECT_EQ(noticed(), UpdateFailure::RecordDamaged);
+    checkNow(newer());
+    EXPECT_EQ(display.report.stage, Stage::Available);
+}
+
+TEST_F(SoftwareUpdaterTest, TheNextKeySignsOnceTheOneBeforeHasNamedIt)
+{
+    const TestKey next;
+    Statement last = Statement::of("10", UpdateFolder::newImage());
+    last.nextKey = next.publicBytes();
+    const QByteArray handover = last.item(key, UpdateFolder::newImage());
+    const QByteArray image = UpdateFolder::newImage();
+    const QByteArray after = Statement::of("11", image).item(next, image);
+    checkNow(feed(after));
+    EXPECT_TRUE(hasFailed(UpdateFailure::Unverifiable));
+    checkNow(feed(after + handover));
+    EXPECT_EQ(display.report.stage, Stage::Available);
+    display.onDismiss();
+    make();
+    checkNow(feed(item("12", image)));
+    EXPECT_TRUE(hasFailed(UpdateFailure::WentBack)) << "the old key has no say any more";
+    checkNow(feed(after));
+    ASSERT_EQ(display.report.stage, Stage::Available);
+    display.onInstall();
+    settle();
+    downloader.sendWhole(image);
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::Replaced);
+}
+
+TEST_F(SoftwareUpdaterTest, OnlyAnAppImageOfOursReplacesOne)
+{
+    QByteArray other = UpdateFolder::newImage();
+    other.replace("example.corvane.Corvane", "example.corvane.Another");
+    checkNow(feed(item("11", other)));
+    display.onInstall();
+    settle();
+    downloader.sendWhole(other);
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::HandedOver);
+    EXPECT_TRUE(UpdateFolder::contents(downloads.path("new.AppImage")) == other);
+    EXPECT_TRUE(isUntouched());
+}
+
+TEST_F(SoftwareUpdaterTest, WhatIsNoAppImageIsDownloadedToTheDownloads)
+{
+    Statement archive = Statement::of("11", "an archive");
+    archive.kind = "archive";
+    archive.address = "https://corvane.example/new.tar.gz";
+    checkNow(feed(archive.item(key, "an archive")));
+    EXPECT_TRUE(display.report.isForDownloads);
+    display.onInstall();
+    settle();
+    downloader.sendWhole("an archive");
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::HandedOver);
+    EXPECT_EQ(UpdateFolder::contents(downloads.path("new.tar.gz")), "an archive");
+    EXPECT_TRUE(isUntouched());
+}
+
+TEST_F(SoftwareUpdaterTest, WhatAnInterruptedUpdateLeftGoesWithTheNextStart)
+{
+    folder.write(".corvane-update-abcdef", "left");
+    folder.write(".corvane-update-abcdef.new", "left");
+    downloads.write(".corvane-update-ghijkl", "left");
+    make();
+    EXPECT_TRUE(isUntouched());
+    EXPECT_EQ(downloads.names(), QStringList{QStringLiteral("Corvane.AppImage")});
 }
 
 TEST_F(SoftwareUpdaterTest, ACheckIsRememberedWhenItBegins)
@@ -260,29 +546,56 @@ TEST_F(SoftwareUpdaterTest, ACheckIsRememberedWhenItBegins)
     make();
     pass(100);
     ASSERT_EQ(checks(), 1U);
-    EXPECT_EQ(UpdateRecordFile(state.path("corvane")).load().lastCheck, began + 60);
+    EXPECT_EQ(UpdateRecordFile(state.path("corvane")).load()->lastCheck, began + 60);
 }
 
-TEST_F(SoftwareUpdaterTest, ACheckThatIsDueWhileTheUserDecidesIsNotMadeUpForSoonAfter)
+TEST_F(SoftwareUpdaterTest, AnOfferThatStaysOpenIsRefreshed)
 {
     make();
     pass(60);
     answer(newer());
-    pass(day + 30);
-    display.onDismiss();
-    pass(day / 2);
-    EXPECT_EQ(checks(), 1U);
+    const auto shown = display.attentions.size();
+    pass(day);
+    EXPECT_EQ(checks(), 2U);
+    EXPECT_EQ(display.report.stage, Stage::Available);
+    answer(feed(item("12", UpdateFolder::newImage())));
+    EXPECT_EQ(display.report.version, QStringLiteral("12.0"));
+    EXPECT_EQ(display.report.notes, QStringLiteral("Notes of 12"));
+    EXPECT_EQ(display.attentions.size(), shown) << "the window does not come forward";
+    display.onInstall();
+    settle();
+    EXPECT_EQ(downloader.downloads.size(), 1U);
 }
 
-TEST_F(SoftwareUpdaterTest, AVersionThatCannotBeCheckedIsNotOffered)
+TEST_F(SoftwareUpdaterTest, AnOfferStaysWhereItCannotBeRefreshed)
 {
-    for (const QByteArray &announced :
-         {item("11", 10, "short"), item("11", 0, QByteArray(64, 's')),
-          item("11", 2LL * 1024 * 1024 * 1024, QByteArray(64, 's')),
-          item("11", 10, QByteArray(64, 's')).replace("https://corvane.example/", "")}) {
-        checkNow(feed(announced));
-        EXPECT_TRUE(hasFailed(UpdateFailure::Incomplete)) << announced.toStdString();
-    }
+    make();
+    pass(60);
+    answer(newer());
+    pass(day);
+    web.fail(checks() - 1);
+    settle();
+    EXPECT_EQ(display.report.stage, Stage::Available);
+    pass(3600);
+    answer(same());
+    EXPECT_EQ(noticed(), UpdateFailure::WentBack);
+    EXPECT_EQ(display.report.stage, Stage::Available);
+    display.onInstall();
+    settle();
+    EXPECT_EQ(downloader.downloads.size(), 1U);
+}
+
+TEST_F(SoftwareUpdaterTest, WhatARefreshFindsAfterInstallWasPressedIsForgotten)
+{
+    make();
+    pass(60);
+    answer(newer());
+    pass(day);
+    display.onInstall();
+    settle();
+    answer(feed(item("12", UpdateFolder::newImage())));
+    EXPECT_EQ(display.report.stage, Stage::Downloading);
+    EXPECT_EQ(display.report.version, QStringLiteral("11.0"));
 }
 
 TEST_F(SoftwareUpdaterTest, TheNewImageTakesTheOldOnesPlaceAndItIsKept)
@@ -344,13 +657,15 @@ TEST_F(SoftwareUpdaterTest, ProgressIsShown)
     EXPECT_EQ(display.report.received, 150'000);
 }
 
-TEST_F(SoftwareUpdaterTest, AWrongSignatureLeavesEverythingAsItWas)
+TEST_F(SoftwareUpdaterTest, AWrongSignatureOfTheFileLeavesEverythingAsItWas)
 {
-    checkNow(feed(
-        item("11", UpdateFolder::newImage().size(), TestKey().sign(UpdateFolder::newImage()))));
+    const QByteArray image = UpdateFolder::newImage();
+    const Statement statement = Statement::of("11", image);
+    checkNow(feed("<item>" + statement.attributes(TestKey().sign(image)) + statement.element(key)
+                  + "</item>"));
     display.onInstall();
     settle();
-    downloader.sendWhole(UpdateFolder::newImage());
+    downloader.sendWhole(image);
     settle();
     EXPECT_TRUE(hasFailed(UpdateFailure::WrongSignature));
     EXPECT_TRUE(isUntouched());
@@ -485,18 +800,6 @@ TEST_F(SoftwareUpdaterTest, AskingAgainShowsWhatIsUnderWay)
     EXPECT_EQ(downloader.downloads.size(), 1U);
     EXPECT_EQ(display.report.stage, Stage::Downloading);
     EXPECT_EQ(display.attentions.back(), UpdateAttention::Asked);
-}
-
-TEST_F(SoftwareUpdaterTest, AnOfferThatWaitsIsNotReplacedByTheNextDaysCheck)
-{
-    make();
-    pass(60);
-    answer(newer());
-    pass(3 * day);
-    EXPECT_EQ(checks(), 1U);
-    display.onDismiss();
-    pass(day);
-    EXPECT_EQ(checks(), 2U);
 }
 
 TEST_F(SoftwareUpdaterTest, ClosingTheWindowWhileItLooksEndsTheWaiting)

@@ -1,4 +1,4 @@
-#include "app/updates/update_choice.h"
+#include "app/updates/choice_desk.h"
 
 #include <gtest/gtest.h>
 
@@ -6,138 +6,267 @@ namespace corvane::test {
 
 namespace {
 
-const UpdateSystem debian{QStringLiteral("x86_64"), QStringLiteral("debian"), QStringLiteral("12")};
+using Verdict = UpdateChoice::Verdict;
 
-ClaimedRelease item(const char *version, const char *shortVersion = "")
-{
-    ClaimedRelease item;
-    item.version = QString::fromLatin1(version);
-    item.shortVersion = QString::fromLatin1(shortVersion);
-    item.files = {ClaimedFile()};
-    return item;
-}
-
-ClaimedRelease itemWith(const char *system, const char *architecture)
-{
-    ClaimedRelease one = item("5");
-    one.files.first().system = QString::fromLatin1(system);
-    one.files.first().architecture = QString::fromLatin1(architecture);
-    return one;
-}
-
-ClaimedRelease itemFrom(const char *minimum)
-{
-    ClaimedRelease one = item("5");
-    one.minimumSystems = {QString::fromLatin1(minimum)};
-    return one;
-}
-
-QString newest(const QList<ClaimedRelease> &items, const UpdateSystem &system = debian)
-{
-    const auto choice = update_choice::choose(items, system);
-    return choice.newest ? choice.newest->version.text() : QString();
-}
-
-bool fits(const ClaimedRelease &item, const UpdateSystem &system = debian)
-{
-    return !newest({item}, system).isEmpty();
-}
+class UpdateChoiceTest : public testing::Test, protected ChoiceDesk {
+protected:
+    static Statement build(const char *number) { return Statement::of(number, file); }
+    bool isOffered(const Statement &statement) { return !offered(item(statement)).isEmpty(); }
+    QByteArray withoutStatement(const Statement &statement) const
+    {
+        return "<item>" + statement.attributes(key.sign(file)) + "</item>";
+    }
+};
 
 } // namespace
 
-TEST(UpdateChoice, TakesTheNewestWhereverItStands)
+TEST_F(UpdateChoiceTest, TheNewestIsOfferedWhereverItStands)
 {
-    EXPECT_EQ(newest({item("9"), item("10"), item("8")}), QStringLiteral("10"));
-    EXPECT_EQ(newest({}), QString());
+    EXPECT_EQ(offered(item("11") + item("13") + item("12")), QStringLiteral("13"));
 }
 
-TEST(UpdateChoice, BuildsCountAndVersionsForPeopleOnlyWhereThereAreNone)
+TEST_F(UpdateChoiceTest, WhatIsNotNewerIsNotOffered)
 {
-    const QList<ClaimedRelease> both = {item("7", "9.0"), item("8", "1.0"), item("", "99")};
-    EXPECT_EQ(newest(both), QStringLiteral("8"));
-    EXPECT_EQ(update_choice::choose(both, debian).scale, VersionScale::Build);
-    EXPECT_EQ(update_choice::choose(both, debian).newest->shownVersion, QStringLiteral("1.0"));
-    const QList<ClaimedRelease> people = {item("", "1.9"), item("", "1.10")};
-    EXPECT_EQ(newest(people), QStringLiteral("1.10"));
-    EXPECT_EQ(update_choice::choose(people, debian).scale, VersionScale::ShortVersion);
+    EXPECT_EQ(verdict(item("9")), Verdict::UpToDate);
+    EXPECT_EQ(verdict(item("10")), Verdict::UpToDate);
+    audience.build.reset();
+    EXPECT_EQ(verdict(item("11")), Verdict::UpToDate) << "than a build without a number";
 }
 
-TEST(UpdateChoice, ABuildIsShownWhereThereIsNoVersionForPeople)
+TEST_F(UpdateChoiceTest, EverythingIsTakenFromTheStatement)
 {
-    EXPECT_EQ(update_choice::choose({item("7")}, debian).newest->shownVersion, QStringLiteral("7"));
+    QByteArray lying = item("11");
+    lying.replace("<sparkle:version>11<", "<sparkle:version>99<");
+    lying.replace("<sparkle:shortVersionString>11.0<", "<sparkle:shortVersionString>99.0<");
+    const auto choice = choose(lying);
+    ASSERT_TRUE(choice.offer);
+    EXPECT_EQ(choice.offer->release.statement().version.text(), QStringLiteral("11"));
+    EXPECT_EQ(choice.offer->release.statement().shortVersion, QStringLiteral("11.0"));
+    EXPECT_EQ(choice.offer->notes, QStringLiteral("Notes of 11"));
+    EXPECT_EQ(choice.offer->fileSignature, key.sign(file));
+    EXPECT_EQ(choice.offer->keys.size(), 1);
 }
 
-TEST(UpdateChoice, WhatIsNoVersionIsPassedOver)
+TEST_F(UpdateChoiceTest, AnOldReleaseThatIsAnnouncedAsANewOneIsOld)
 {
-    EXPECT_EQ(newest({item("nightly"), item("3")}), QStringLiteral("3"));
+    QByteArray dressedUp = item("8");
+    dressedUp.replace("<sparkle:version>8<", "<sparkle:version>99<");
+    EXPECT_EQ(verdict(dressedUp), Verdict::UpToDate);
 }
 
-TEST(UpdateChoice, AnItemWithoutAFileForThisSystemIsPassedOver)
+TEST_F(UpdateChoiceTest, AnItemWithoutAStatementCannotBeVerified)
 {
-    EXPECT_TRUE(fits(itemWith("", "")));
-    EXPECT_TRUE(fits(itemWith("linux", "")));
-    EXPECT_TRUE(fits(itemWith("Linux", "")));
-    EXPECT_FALSE(fits(itemWith("macos", "")));
-    EXPECT_FALSE(fits(itemWith("windows", "x86_64")));
-    ClaimedRelease none = item("5");
-    none.files.clear();
-    EXPECT_FALSE(fits(none));
-    EXPECT_EQ(newest({itemWith("macos", ""), item("4")}), QStringLiteral("4"));
+    EXPECT_EQ(verdict(withoutStatement(build("11"))), Verdict::Unverifiable);
+    EXPECT_EQ(verdict(item("10") + withoutStatement(build("11"))), Verdict::Unverifiable);
+    EXPECT_EQ(verdict(item("10") + withoutStatement(build("9"))), Verdict::UpToDate)
+        << "an old one from before there were statements";
+    EXPECT_EQ(offered(item("11") + withoutStatement(build("99"))), QStringLiteral("11"))
+        << "nor does it stand before one that can";
 }
 
-TEST(UpdateChoice, AFileIsForThisArchitectureOrForAll)
+TEST_F(UpdateChoiceTest, AnItemWithoutABuildNumberIsComparedByTheVersionForPeople)
 {
-    EXPECT_TRUE(fits(itemWith("", "x86_64")));
-    EXPECT_TRUE(fits(itemWith("linux", "amd64")));
-    EXPECT_FALSE(fits(itemWith("", "arm64")));
-    UpdateSystem arm = debian;
-    arm.architecture = QStringLiteral("arm64");
-    EXPECT_TRUE(fits(itemWith("", "aarch64"), arm));
-    EXPECT_FALSE(fits(itemWith("", "amd64"), arm));
+    QByteArray people = withoutStatement(build("11"));
+    people.replace("<sparkle:version>11</sparkle:version>", "");
+    EXPECT_EQ(verdict(item("10") + people), Verdict::Unverifiable);
+    people.replace("11.0", "1.0");
+    EXPECT_EQ(verdict(item("10") + people), Verdict::UpToDate);
 }
 
-TEST(UpdateChoice, OfSeveralFilesTheFirstThatFitsIsTaken)
+TEST_F(UpdateChoiceTest, AnItemForAnotherMachineIsNothingToBeVerifiedHere)
 {
-    ClaimedRelease several = itemWith("linux", "arm64");
-    ClaimedFile ours;
-    ours.architecture = QStringLiteral("x86_64");
-    ours.length = 7;
-    several.files << ours;
-    EXPECT_EQ(update_choice::choose({several}, debian).newest->file.length, 7);
+    QByteArray other = withoutStatement(build("11"));
+    other.replace("sparkle:os='linux'", "sparkle:os='macos'");
+    EXPECT_EQ(verdict(item("10") + other), Verdict::UpToDate);
+    other.replace("sparkle:os='macos'", "sparkle:arch='arm64'");
+    EXPECT_EQ(verdict(item("10") + other), Verdict::UpToDate);
+    other.replace("arm64", "x86_64");
+    EXPECT_EQ(verdict(item("10") + other), Verdict::Unverifiable);
 }
 
-TEST(UpdateChoice, AMinimumBindsOnlyTheDistributionThatItNames)
+TEST_F(UpdateChoiceTest, SomebodyElsesStatementIsNone)
 {
-    EXPECT_TRUE(fits(itemFrom("debian 12")));
-    EXPECT_TRUE(fits(itemFrom("Debian 11")));
-    EXPECT_FALSE(fits(itemFrom("debian 12.1")));
-    EXPECT_FALSE(fits(itemFrom("debian 13")));
-    EXPECT_TRUE(fits(itemFrom("ubuntu 99.04")));
-    EXPECT_TRUE(fits(itemFrom("99.0"))) << "of no distribution";
+    EXPECT_EQ(verdict(item("10") + build("11").item(TestKey(), file)), Verdict::Unverifiable);
 }
 
-TEST(UpdateChoice, ARollingReleaseIsNewEnough)
+TEST_F(UpdateChoiceTest, AFeedThatStatesNothingForThisMachineProvesNothing)
 {
-    UpdateSystem sid = debian;
-    sid.release = QStringLiteral("unknown");
-    EXPECT_TRUE(fits(itemFrom("debian 13"), sid));
+    EXPECT_EQ(verdict(""), Verdict::Unverifiable);
+    Statement other = build("11");
+    other.architecture = "arm64";
+    EXPECT_EQ(verdict(item(other)), Verdict::Unverifiable);
+    other = build("11");
+    other.system = "plan9";
+    EXPECT_EQ(verdict(item(other)), Verdict::Unverifiable);
+    other = build("11");
+    other.application = "example.corvane.Other";
+    EXPECT_EQ(verdict(item(other)), Verdict::Unverifiable);
 }
 
-TEST(UpdateChoice, NotesAreShownAsText)
+TEST_F(UpdateChoiceTest, AFeedThatFallsBehindWhatItStatedGoesBack)
 {
-    ClaimedRelease one = item("5");
-    one.notes = QStringLiteral("<p>A &amp; B</p>");
-    one.notesAreMarkup = true;
-    EXPECT_EQ(update_choice::choose({one}, debian).newest->notes, QStringLiteral("A & B"));
-    one.notesAreMarkup = false;
-    EXPECT_EQ(update_choice::choose({one}, debian).newest->notes,
-              QStringLiteral("<p>A &amp; B</p>"));
+    EXPECT_EQ(verdict(item("12")), Verdict::Newer);
+    EXPECT_EQ(verdict(item("11")), Verdict::WentBack);
+    EXPECT_EQ(verdict(""), Verdict::WentBack) << "nor may it fall silent";
+    EXPECT_EQ(verdict(item("12")), Verdict::Newer);
+    Statement renewed = build("12");
+    renewed.number = "40";
+    EXPECT_EQ(verdict(item(renewed)), Verdict::Newer);
+    EXPECT_EQ(verdict(item("12")), Verdict::WentBack) << "an older word on the same release";
+    Statement old = build("11");
+    old.number = "41";
+    EXPECT_EQ(verdict(item(old)), Verdict::WentBack) << "a later word on an older release";
+    EXPECT_EQ(verdict(item(renewed) + item(old)), Verdict::Newer);
 }
 
-TEST(UpdateChoice, AVersionForPeopleForgesNothing)
+TEST_F(UpdateChoiceTest, WhatIsOnlyClaimedIsNotRemembered)
 {
-    EXPECT_EQ(update_choice::choose({item("5", "1\n2")}, debian).newest->shownVersion,
-              QStringLiteral("1 2"));
+    Statement nines = build("9");
+    nines.version = QByteArray(64, '9');
+    verdict(withoutStatement(nines));
+    verdict(nines.item(TestKey(), file));
+    EXPECT_EQ(verdict(item("11")), Verdict::Newer);
+}
+
+TEST_F(UpdateChoiceTest, AFeedWhoseTimeIsOverIsSaidToBe)
+{
+    Statement old = build("11");
+    old.expiry = "2026-12-31T23:59:59Z";
+    const UpdateChoice choice = choose(item(old));
+    EXPECT_EQ(choice.verdict, Verdict::Expired);
+    EXPECT_FALSE(choice.offer);
+    EXPECT_EQ(choice.renewed, QDateTime({2026, 11, 1}, {0, 0}, Qt::UTC));
+    now = QDateTime({2026, 12, 31}, {23, 59, 58}, Qt::UTC);
+    EXPECT_EQ(verdict(item(old)), Verdict::Newer);
+    now = now.addSecs(1);
+    EXPECT_EQ(verdict(item(old)), Verdict::Expired) << "at its last moment";
+}
+
+TEST_F(UpdateChoiceTest, AnOldStatementBesideARenewedOneIsNoExpiry)
+{
+    Statement old = build("11");
+    old.expiry = "2026-12-01T00:00:00Z";
+    EXPECT_EQ(offered(item(old) + item("12")), QStringLiteral("12"));
+    Statement present = build("10");
+    present.number = "50";
+    EXPECT_EQ(verdict(item(old) + item(present)), Verdict::Unverifiable) << "but it is not offered";
+}
+
+TEST_F(UpdateChoiceTest, BetasAreForThoseWhoChoseThem)
+{
+    Statement beta = build("12");
+    beta.channel = "beta";
+    const QByteArray both = item("11") + item(beta);
+    EXPECT_EQ(offered(both), QStringLiteral("11"));
+    audience.wantsBetas = true;
+    EXPECT_EQ(offered(both), QStringLiteral("12"));
+    beta.channel = "nightly";
+    EXPECT_EQ(offered(item("11") + item(beta)), QStringLiteral("11")) << "nobody chose these";
+}
+
+TEST_F(UpdateChoiceTest, WhoLeavesTheBetasIsNotToldThatTheFeedWentBack)
+{
+    Statement beta = build("12");
+    beta.channel = "beta";
+    audience.wantsBetas = true;
+    EXPECT_EQ(verdict(item("11") + item(beta)), Verdict::Newer);
+    audience.wantsBetas = false;
+    EXPECT_EQ(offered(item("11") + item(beta)), QStringLiteral("11"));
+    EXPECT_EQ(verdict(item("11")), Verdict::Newer);
+    audience.wantsBetas = true;
+    EXPECT_EQ(verdict(item("11")), Verdict::WentBack);
+}
+
+TEST_F(UpdateChoiceTest, OfOneVersionTheAppImageIsTakenWhereverItStands)
+{
+    Statement archive = build("11");
+    archive.kind = "archive";
+    archive.address = "https://corvane.example/new.tar.gz";
+    archive.number = "12";
+    for (const QByteArray &items :
+         {QByteArray(item(archive) + item("11")), QByteArray(item("11") + item(archive))})
+        EXPECT_EQ(choose(items).offer->release.statement().kind, ReleaseStatement::appImage);
+    EXPECT_EQ(choose(item(archive)).offer->release.statement().kind, QStringLiteral("archive"));
+}
+
+TEST_F(UpdateChoiceTest, TheEnclosureIsTheOneOfTheStatedAddress)
+{
+    const Statement statement = build("11");
+    Statement other = statement;
+    other.address = "https://corvane.example/other";
+    const QByteArray items = "<item>" + other.attributes(QByteArray(64, 'x'))
+        + statement.enclosure(key.sign(file)) + statement.element(key) + "</item>";
+    EXPECT_EQ(choose(items).offer->fileSignature, key.sign(file));
+}
+
+TEST_F(UpdateChoiceTest, WhatIsMixedFromTwoReleasesIsNotOffered)
+{
+    const Statement statement = build("11");
+    const auto mixed = [&](const QByteArray &attributes) {
+        const QByteArray items
+            = item("10") + "<item>" + attributes + statement.element(key) + "</item>";
+        return offered(items).isEmpty() && verdict(items) == Verdict::Unverifiable;
+    };
+    Statement other = statement;
+    other.address = "https://corvane.example/old.AppImage";
+    EXPECT_TRUE(mixed(other.attributes(key.sign(file)))) << "the file of another one";
+    other = statement;
+    other.notes = "Notes of 8";
+    EXPECT_TRUE(mixed(other.attributes(key.sign(file)))) << "the notes of another one";
+    other = statement;
+    other.length = "5";
+    EXPECT_TRUE(mixed(other.attributes(key.sign(file)))) << "the length of another one";
+    EXPECT_TRUE(mixed(statement.attributes(""))) << "no signature of the file";
+    EXPECT_TRUE(mixed(statement.attributes(key.sign(file)).replace("plain-text", "html")));
+}
+
+TEST_F(UpdateChoiceTest, AFileThatIsTooLargeIsNotOffered)
+{
+    Statement large = build("11");
+    large.length = QByteArray::number(update_choice::largestFile);
+    EXPECT_TRUE(isOffered(large));
+    large.length = QByteArray::number(update_choice::largestFile + 1);
+    EXPECT_FALSE(isOffered(large));
+}
+
+TEST_F(UpdateChoiceTest, AMinimumBindsOnlyTheDistributionThatItNames)
+{
+    const auto fits = [this](const char *minimum) {
+        Statement statement = build("11");
+        statement.minimums = {minimum};
+        return isOffered(statement);
+    };
+    EXPECT_TRUE(fits("debian 12"));
+    EXPECT_TRUE(fits("Debian 11"));
+    EXPECT_FALSE(fits("debian 12.1"));
+    EXPECT_FALSE(fits("debian 13"));
+    EXPECT_TRUE(fits("ubuntu 99.04"));
+    audience.system.release = QStringLiteral("unknown");
+    EXPECT_TRUE(fits("debian 13")) << "a rolling release is new enough";
+}
+
+TEST_F(UpdateChoiceTest, WhereTheNewestDoesNotRunTheNewestThatDoesIsOffered)
+{
+    Statement newest = build("13");
+    newest.minimums = {"debian 13"};
+    EXPECT_EQ(offered(item(newest) + item("12") + item("11")), QStringLiteral("12"));
+    EXPECT_EQ(verdict(item(newest)), Verdict::UpToDate);
+    EXPECT_EQ(verdict(item("12")), Verdict::WentBack) << "it was stated all the same";
+}
+
+TEST_F(UpdateChoiceTest, MarkupInNotesIsShownAsText)
+{
+    Statement statement = build("11");
+    statement.notes = "<p>A &amp; B</p>";
+    QByteArray announced = "<item>" + statement.attributes(key.sign(file));
+    announced.replace("<p>A &amp; B</p>", "<![CDATA[<p>A &amp; B</p>]]>");
+    EXPECT_EQ(choose(announced + statement.element(key) + "</item>").offer->notes,
+              QStringLiteral("<p>A &amp; B</p>"))
+        << "which was meant as text";
+    const QByteArray html = statement.bytes().replace("plain-text", "html");
+    announced.replace("plain-text", "html");
+    announced += Statement::element(html, key.sign(html)) + "</item>";
+    EXPECT_EQ(choose(announced).offer->notes, QStringLiteral("A & B"));
 }
 
 } // namespace corvane::test

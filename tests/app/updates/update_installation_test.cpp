@@ -1,9 +1,8 @@
 #include "app/updates/installation_steps.h"
-#include "app/updates/test_key.h"
+#include "app/updates/statements.h"
 #include "app/updates/update_file.h"
 #include "app/updates/update_folder.h"
 #include "app/updates/update_installation.h"
-#include "app/updates/update_key.h"
 #include "app/updates/verified_download.h"
 
 #include <gtest/gtest.h>
@@ -54,9 +53,9 @@ public:
     {
         return step([&] { return PosixInstallationSteps::replace(from, to); });
     }
-    int moveToFreeName(const QByteArray &from, const QByteArray &to) override
+    int giveName(int descriptor, const QByteArray &path) override
     {
-        return step([&] { return PosixInstallationSteps::moveToFreeName(from, to); });
+        return step([&] { return PosixInstallationSteps::giveName(descriptor, path); });
     }
 
     int steps() const { return m_count; }
@@ -81,7 +80,8 @@ private:
 };
 
 constexpr int noStep = -1;
-constexpr int stepsOfSwap = 6;
+constexpr int stepsOfSwap = 7;
+constexpr int replacement = 5;
 
 std::unique_ptr<UpdateFile> downloaded(const UpdateFolder &folder)
 {
@@ -94,13 +94,17 @@ std::unique_ptr<UpdateFile> downloaded(const UpdateFolder &folder)
 }
 
 /// The same, verified.
-std::optional<VerifiedDownload> verified(const UpdateFolder &folder)
+std::optional<VerifiedDownload> verified(const UpdateFolder &folder,
+                                         const QByteArray &address = "https://a.test/new.bin")
 {
-    const TestKey owner;
-    ClaimedFile claim;
-    claim.length = UpdateFolder::newImage().size();
-    claim.signature = owner.sign(UpdateFolder::newImage());
-    return UpdateKey::fromBase64(owner.publicText())->verify(downloaded(folder), claim);
+    static const TestKey owner;
+    const QByteArray image = UpdateFolder::newImage();
+    Statement statement = Statement::of("11", image);
+    statement.address = address;
+    const QByteArray bytes = statement.bytes();
+    const auto key = UpdateKey::fromBytes(owner.publicBytes());
+    const auto release = VerifiedRelease::of({bytes, owner.sign(bytes)}, *key);
+    return VerifiedDownload::of(downloaded(folder), *release, {*key}, owner.sign(image));
 }
 
 /// How a swap in a process of its own ended: the signal that killed it.
@@ -156,8 +160,8 @@ TEST(UpdateSwap, WheneverTheProcessIsKilledAWholeImageIsThereAndTheNextSwapWorks
             UpdateFolder folder;
             ASSERT_EQ(swapInOtherProcess(folder, step, fault), SIGKILL) << step;
             const QByteArray image = UpdateFolder::contents(folder.appImage());
-            const bool isReplaced
-                = step > 4 || (step == 4 && fault == FaultyFiles::Fault::KillAfter);
+            const bool isReplaced = step > replacement
+                || (step == replacement && fault == FaultyFiles::Fault::KillAfter);
             EXPECT_TRUE(image == (isReplaced ? UpdateFolder::newImage() : UpdateFolder::oldImage()))
                 << step;
             EXPECT_EQ(permissions(folder.appImage()), 0740U) << step;
@@ -235,6 +239,43 @@ TEST(UpdateSwap, AnImageThatIsGoneOrAnotherFileByNowIsNotReplaced)
     EXPECT_FALSE(QFile::exists(QFile::decodeName(folder.appImage())));
 }
 
+// What is checked is an open file, so its names do not matter.
+TEST(UpdateSwap, SomethingElseUnderTheTemporaryNameIsNotWhatIsInstalled)
+{
+    UpdateFolder folder;
+    PosixInstallationSteps files;
+    auto file = verified(folder);
+    ASSERT_TRUE(QFile::remove(QFile::decodeName(file->path())));
+    folder.write(file->path().mid(folder.path().size() + 1), UpdateFolder::image('x'));
+    ASSERT_EQ(swap(files, *file, folder.appImage()).error, 0);
+    EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::newImage());
+}
+
+TEST(UpdateSwap, ANameThatSomebodyElseTookIsLeftAloneAndNothingHappens)
+{
+    UpdateFolder folder;
+    PosixInstallationSteps files;
+    auto file = verified(folder);
+    const QByteArray name = file->path().mid(folder.path().size() + 1) + ".new";
+    folder.write(name, "somebody else's");
+    EXPECT_EQ(swap(files, *file, folder.appImage()).error, EEXIST);
+    EXPECT_EQ(UpdateFolder::contents(folder.path(name)), "somebody else's");
+    EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::oldImage());
+}
+
+TEST(UpdateSwap, WhatInterruptedSwapsLeftGoesWithTheNextStart)
+{
+    UpdateFolder folder;
+    folder.write(".corvane-update-abcdef", "a download");
+    folder.write(".corvane-update-abcdef.new", "its other name");
+    folder.write("corvane-update-abcdef", "the user's");
+    PosixInstallationSteps files;
+    removePrevious(files, folder.appImage());
+    EXPECT_EQ(
+        folder.names(),
+        (QStringList{QStringLiteral("Corvane.AppImage"), QStringLiteral("corvane-update-abcdef")}));
+}
+
 TEST(UpdateSwap, TheKeptOneGoesOnceTheNewOneRuns)
 {
     UpdateFolder folder;
@@ -254,12 +295,28 @@ TEST(UpdateHandOver, NothingThatIsThereIsOverwritten)
     folder.write("new.bin", "the user's");
     for (const char *name : {"new-2.bin", "new-3.bin"}) {
         auto file = verified(folder);
-        const Outcome outcome = handOver(files, *file, "new.bin");
+        const Outcome outcome = handOver(files, *file, folder.path());
         EXPECT_EQ(outcome.error, 0);
         EXPECT_EQ(outcome.path, folder.path(name));
         EXPECT_TRUE(UpdateFolder::contents(outcome.path) == UpdateFolder::newImage());
     }
     EXPECT_EQ(UpdateFolder::contents(folder.path("new.bin")), "the user's");
+}
+
+TEST(UpdateHandOver, AFolderOnAnotherFileSystemGetsACopy)
+{
+    const UpdateFolder folder;
+    const QTemporaryDir elsewhere(QStringLiteral("/dev/shm/updates-XXXXXX"));
+    ASSERT_TRUE(elsewhere.isValid());
+    const QByteArray target = QFile::encodeName(elsewhere.path()) + "/downloads";
+    PosixInstallationSteps files;
+    auto file = verified(folder);
+    for (const char *name : {"/new.bin", "/new-2.bin"}) {
+        const Outcome outcome = handOver(files, *file, target);
+        EXPECT_EQ(outcome.path, target + name);
+        EXPECT_TRUE(UpdateFolder::contents(outcome.path) == UpdateFolder::newImage());
+    }
+    EXPECT_EQ(QDir(QFile::decodeName(target)).entryList(QDir::Files | QDir::Hidden).size(), 2);
 }
 
 TEST(UpdateHandOver, AHundredNamesAreTriedAndNoMore)
@@ -270,9 +327,9 @@ TEST(UpdateHandOver, AHundredNamesAreTriedAndNoMore)
     for (int number = 2; number < 100; ++number)
         folder.write("new-" + QByteArray::number(number) + ".bin", "n");
     auto last = verified(folder);
-    EXPECT_EQ(handOver(files, *last, "new.bin").path, folder.path("new-100.bin"));
+    EXPECT_EQ(handOver(files, *last, folder.path()).path, folder.path("new-100.bin"));
     auto tooMany = verified(folder);
-    EXPECT_EQ(handOver(files, *tooMany, "new.bin").error, EEXIST);
+    EXPECT_EQ(handOver(files, *tooMany, folder.path()).error, EEXIST);
 }
 
 TEST(UpdateHandOver, ALinkThatWaitsUnderTheNameIsNotFollowed)
@@ -280,8 +337,8 @@ TEST(UpdateHandOver, ALinkThatWaitsUnderTheNameIsNotFollowed)
     UpdateFolder folder;
     ASSERT_EQ(::symlink("Corvane.AppImage", folder.path("new").constData()), 0);
     PosixInstallationSteps files;
-    auto file = verified(folder);
-    EXPECT_EQ(handOver(files, *file, "new").path, folder.path("new-2"));
+    auto file = verified(folder, "https://a.test/new");
+    EXPECT_EQ(handOver(files, *file, folder.path()).path, folder.path("new-2"));
     EXPECT_TRUE(UpdateFolder::contents(folder.appImage()) == UpdateFolder::oldImage());
 }
 

@@ -1,6 +1,6 @@
 #include "app/base/app_info.h"
-#include "app/updates/updater.h"
 #include "app/updates/updater_controller.h"
+#include "fakes/fake_updater.h"
 
 #include <QJsonArray>
 
@@ -9,21 +9,6 @@
 namespace corvane::test {
 
 namespace {
-
-class StartedUpdater : public Updater {
-public:
-    explicit StartedUpdater(int &starts)
-        : m_starts(starts)
-    {
-    }
-    void start() override { ++m_starts; }
-    void checkForUpdates() override { }
-    bool automaticallyChecksForUpdates() const override { return true; }
-    void setAutomaticallyChecksForUpdates(bool) override { }
-
-private:
-    int &m_starts;
-};
 
 const QString feedAddress = QStringLiteral("https://corvane.example/appcast.xml");
 const QString key = QStringLiteral("a2V5");
@@ -39,11 +24,15 @@ protected:
         if (!publicKey.isUndefined())
             dictionary.insert(QStringLiteral("SUPublicEDKey"), publicKey);
         const UpdaterController controller(AppInfo(dictionary), {kind}, [this] {
-            return std::make_unique<StartedUpdater>(starts);
+            auto made = std::make_unique<FakeUpdater>();
+            updater = made.get();
+            return made;
         });
+        starts = controller.updater() ? updater->starts : 0;
         return controller.updater() != nullptr;
     }
 
+    FakeUpdater *updater = nullptr;
     int starts = 0;
 };
 

@@ -3,6 +3,7 @@
 #include "app/updates/feeds.h"
 #include "app/updates/installation_steps.h"
 #include "app/updates/software_updater.h"
+#include "app/updates/statements.h"
 #include "app/updates/test_key.h"
 #include "app/updates/update_folder.h"
 #include "fakes/fake_desktop_services.h"
@@ -34,10 +35,12 @@ struct UpdaterDesk {
                                      .record = UpdateRecordFile(state.path("corvane")),
                                      .now
                                      = [this] { return began + static_cast<qint64>(clock.now()); },
-                                     .checksAutomatically = [this] { return isAutomatic; }},
+                                     .checksAutomatically = [this] { return isAutomatic; },
+                                     .wantsBetas = [this] { return wantsBetas; }},
             SoftwareUpdater::Program{
                 .feedAddress = QStringLiteral("https://corvane.example/appcast.xml"),
-                .publicKey = key.publicText(),
+                .publicKey = builtInKey.isEmpty() ? key.publicText() : builtInKey,
+                .applicationId = QStringLiteral("example.corvane.Corvane"),
                 .version = QStringLiteral("1.0"),
                 .build = QStringLiteral("10"),
                 .system
@@ -62,19 +65,15 @@ struct UpdaterDesk {
         settle();
     }
 
-    /// An item that announces an image.
+    /// An item that announces an image, with the makers' statement.
     QByteArray item(const QByteArray &build, const QByteArray &image) const
     {
-        return item(build, image.size(), key.sign(image));
+        return Statement::of(build, image).item(key, image);
     }
-    static QByteArray item(const QByteArray &build, qsizetype length, const QByteArray &signature)
+    /// The same without the statement.
+    QByteArray unsignedItem(const QByteArray &build, const QByteArray &image) const
     {
-        return "<item><sparkle:version>" + build + "</sparkle:version>"
-            + "<sparkle:shortVersionString>" + build + ".0</sparkle:shortVersionString>"
-            + "<description>Notes of " + build + "</description>"
-            + "<enclosure url='https://corvane.example/new.AppImage' length='"
-            + QByteArray::number(length) + "' sparkle:edSignature='" + signature.toBase64()
-            + "'/></item>";
+        return "<item>" + Statement::of(build, image).attributes(key.sign(image)) + "</item>";
     }
 
     void answer(const QByteArray &bytes)
@@ -116,6 +115,9 @@ struct UpdaterDesk {
     FakeDesktopServices desktop;
     Installation installation;
     bool isAutomatic = true;
+    bool wantsBetas = false;
+    /// In base64; that of `key` where it is empty.
+    QString builtInKey;
     qint64 began = 1'800'000'000;
     std::unique_ptr<SoftwareUpdater> updater;
 };
