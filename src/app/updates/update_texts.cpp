@@ -43,7 +43,8 @@ QString announcementText(const UpdateReport &report)
     case UpdateFailure::Unverifiable:
         return translated(QT_TRANSLATE_NOOP(
             "UpdateTexts",
-            "This version of Corvane cannot verify what is announced, so nothing was taken."));
+            "What is announced is a release that this build cannot verify, or none at all. Nothing "
+            "was taken."));
     case UpdateFailure::Expired:
         return translated(
                    QT_TRANSLATE_NOOP("UpdateTexts",

@@ -365,7 +365,7 @@ TEST_F(SoftwareUpdaterTest, AutomaticChecksTellOfAProxyThatCannotBeUsed)
     web.requests.back().onRoute(WebRoute{WebRoute::Kind::NeedsScript});
     web.fail(0);
     settle();
-    EXPECT_EQ(noticed(), UpdateFailure::Unreachable);
+    ASSERT_EQ(noticed(), UpdateFailure::Unreachable);
     EXPECT_EQ(updater->notices().now()->route, (WebRoute{WebRoute::Kind::NeedsScript}));
     pass(3600);
     web.requests.back().onRoute(WebRoute{});
@@ -387,7 +387,7 @@ TEST_F(SoftwareUpdaterTest, AFeedThatIsNotRenewedIsToldOfOnceAWeek)
     checkBySelf(old);
     EXPECT_FALSE(noticed());
     checkBySelf(old);
-    EXPECT_EQ(noticed(), UpdateFailure::Expired);
+    ASSERT_EQ(noticed(), UpdateFailure::Expired);
     EXPECT_EQ(updater->notices().now()->renewed, QDate(2026, 11, 1));
     updater->showNotice();
     EXPECT_TRUE(hasFailed(UpdateFailure::Expired));
