@@ -17,23 +17,23 @@ bool isAccepted(const QString &number, const QString &feed)
     return configuration.waitForFinished() && configuration.exitCode() == 0;
 }
 
-const QString feed = QStringLiteral("https://corvane.example/appcast.xml");
+const QString someFeed = QStringLiteral("https://corvane.example/appcast.xml");
 
 } // namespace
 
 TEST(BuildNumber, HasNoDefaultBesideAFeed)
 {
-    EXPECT_FALSE(isAccepted({}, feed));
-    EXPECT_TRUE(isAccepted(QStringLiteral("12"), feed));
+    EXPECT_FALSE(isAccepted({}, someFeed));
+    EXPECT_TRUE(isAccepted(QStringLiteral("12"), someFeed));
     EXPECT_TRUE(isAccepted({}, {}));
     EXPECT_TRUE(isAccepted({}, QStringLiteral("https://REPLACE_ME/appcast.xml")));
 }
 
 TEST(BuildNumber, IsANumberThatCanBeCompared)
 {
-    EXPECT_TRUE(isAccepted(QStringLiteral("1.12"), feed));
+    EXPECT_TRUE(isAccepted(QStringLiteral("1.12"), someFeed));
     for (const char *number : {"1.0-beta", "abc", "1.", "-1"})
-        EXPECT_FALSE(isAccepted(QString::fromLatin1(number), feed)) << number;
+        EXPECT_FALSE(isAccepted(QString::fromLatin1(number), someFeed)) << number;
 }
 
 } // namespace corvane::test
