@@ -68,6 +68,7 @@ LayerSession::LayerSession(const SessionNeeds &needs)
     , hotKeys({&kdeShortcuts, &portalShortcuts, &actionShortcuts})
     , panels(connection, needs.mainQueue)
     , windowActivation(panels.surface)
+    , dragCarrier(connection, needs.mainQueue)
     , xwaylandDrags(needs.mainQueue)
 {
     wireDrags();
@@ -97,7 +98,7 @@ void LayerSession::wireDrags()
 void LayerSession::wireStrips()
 {
     edgeStrips.onDragEntered = [this](const ScreenPointer &screen, bool isOwn) {
-        if (isOwn)
+        if (isOwn || dragCarrier.isCarrying())
             return;
         screenLocator.cameTo(screen);
         dragWatch.noticed();
@@ -133,6 +134,9 @@ void LayerSession::tellAbilities()
 
 DesktopSession LayerSession::desktop()
 {
+    PanelDesktop panelDesktop = panels.desktop();
+    if (dragCarrier.isAble())
+        panelDesktop.dragCarrier = &dragCarrier;
     return {.abilities = abilities,
             .screenLocator = screenLocator,
             .dragWatch = dragWatch,
@@ -140,7 +144,7 @@ DesktopSession LayerSession::desktop()
             .outsideClicks = outsideClicks,
             .hotKeys = hotKeys,
             .keyboardLayout = keyboardLayout,
-            .panels = panels.desktop(),
+            .panels = panelDesktop,
             .windowActivation = windowActivation};
 }
 

@@ -11,6 +11,7 @@
 #include "platform/freedesktop/shortcuts/kde_shortcuts.h"
 #include "platform/freedesktop/shortcuts/portal_shortcuts.h"
 #include "platform/wayland/base/wayland_connection.h"
+#include "platform/wayland/drags/wayland_drag_carrier.h"
 #include "platform/wayland/keys/wayland_keyboard_layout.h"
 #include "platform/wayland/windows/edge_strips.h"
 #include "platform/wayland/windows/layer_panels.h"
@@ -68,6 +69,7 @@ struct LayerSession : RunningSession {
     FirstHotKeys hotKeys;
     LayerPanels panels;
     LayerWindowActivation windowActivation;
+    WaylandDragCarrier dragCarrier;
     XWaylandDrags xwaylandDrags;
     bool mayDragGoOn = false;
     Lifetime lifetime;

@@ -3,6 +3,7 @@
 namespace corvane {
 
 class Compositing;
+class DragCarrier;
 class KeyboardLoan;
 class PanelSurface;
 class PointingDevices;
@@ -13,6 +14,8 @@ struct PanelDesktop {
     KeyboardLoan &keyboard;
     Compositing &compositing;
     PointingDevices &pointingDevices;
+    /// Null where Qt carries what is dragged out of them.
+    DragCarrier *dragCarrier = nullptr;
 };
 
 } // namespace corvane

@@ -1,5 +1,6 @@
 #include "platform/qt/desktop/drag_session.h"
 
+#include "platform/desktop/drag_carrier.h"
 #include "platform/desktop/drag_support.h"
 #include "platform/desktop/panel_window.h"
 #include "platform/qt/pasteboard/mime_encoding.h"
@@ -17,6 +18,12 @@ namespace corvane {
 
 namespace {
 
+/// Where the pointer holds the image, from its top left.
+QPoint fromTopLeft(QPointF hotSpot, const Image &image)
+{
+    return QPointF(hotSpot.x(), image.size.height() - hotSpot.y()).toPoint();
+}
+
 void setImage(QDrag &drag, const Image &image, QPointF hotSpot)
 {
     if (image.isNull() || image.size.isEmpty())
@@ -25,7 +32,7 @@ void setImage(QDrag &drag, const Image &image, QPointF hotSpot)
     pixmap.setDevicePixelRatio(std::max(image.bitmap.width() / image.size.width(),
                                         image.bitmap.height() / image.size.height()));
     drag.setPixmap(pixmap);
-    drag.setHotSpot(QPointF(hotSpot.x(), image.size.height() - hotSpot.y()).toPoint());
+    drag.setHotSpot(fromTopLeft(hotSpot, image));
 }
 
 /// The operation that Qt reports when the user lets go: what the target would do, not what it did.
@@ -44,12 +51,14 @@ DragOutEnd asPromised(Qt::DropAction action, std::size_t writers)
     return end;
 }
 
-void passOnWhenReady(const DragOut &drag, DragSupport &support, DragSupport::DragId id)
+/// `Helper` is a `DragSupport` or a `DragCarrier`.
+template<typename Helper>
+void passOnWhenReady(const DragOut &drag, Helper &helper, typename Helper::DragId id)
 {
     if (!drag.whenReady)
         return;
-    drag.whenReady([&support, id](const std::optional<PasteboardContents> &contents) {
-        support.formsAreReady(
+    drag.whenReady([&helper, id](const std::optional<PasteboardContents> &contents) {
+        helper.formsAreReady(
             id, contents ? std::optional(formsOf(*contents, PasteboardKind::Drag)) : std::nullopt);
     });
 }
@@ -100,6 +109,17 @@ void runDragSession(QWindow &window, const DragOut &drag, DragSupport *support,
     // watch it.
     support->dragWasDropped(id, events.ended);
     events.released(promisedBy(action));
+}
+
+void carryDrag(QWindow &window, const DragOut &drag, DragCarrier &carrier,
+               const DragSessionEvents &events)
+{
+    const DragCarrier::DragId id
+        = carrier.carry(window,
+                        {formsOf(drag.contents, PasteboardKind::Drag), !drag.whenReady, drag.image,
+                         fromTopLeft(drag.hotSpot, drag.image)},
+                        {events.released, events.ended});
+    passOnWhenReady(drag, carrier, id);
 }
 
 } // namespace corvane

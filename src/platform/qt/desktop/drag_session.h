@@ -8,6 +8,7 @@ class QWindow;
 
 namespace corvane {
 
+class DragCarrier;
 class DragSupport;
 
 /// Like `DragOutEvents`, but `released` is told what the target promised when the user let go;
@@ -26,5 +27,10 @@ struct DragSessionEvents {
 /// item may stay on the shelf. `window` may be destroyed meanwhile.
 void runDragSession(QWindow &window, const DragOut &drag, DragSupport *support,
                     const DragSessionEvents &events);
+
+/// The same, with the drag carried by the carrier. Returns at once, and needs the window only until
+/// then.
+void carryDrag(QWindow &window, const DragOut &drag, DragCarrier &carrier,
+               const DragSessionEvents &events);
 
 } // namespace corvane

@@ -149,7 +149,10 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, DragOutEvents events)
         tell();
     };
     const auto ended = m_lifetime.guard(std::move(events.ended));
-    runDragSession(*canvas, drag, m_dragSupport, {released, ended});
+    if (m_desktop.dragCarrier)
+        carryDrag(*canvas, drag, *m_desktop.dragCarrier, {released, ended});
+    else
+        runDragSession(*canvas, drag, m_dragSupport, {released, ended});
 }
 
 QTransform QtPanelWindow::toDevicePixels() const

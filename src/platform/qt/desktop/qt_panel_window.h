@@ -58,6 +58,7 @@ private:
     bool handleKey(QKeyEvent &event);
     void handleWheel(QWheelEvent &event);
     bool handleDrag(QEvent &event);
+    bool isOwnDrag(const QEvent &event) const;
     void updateRegions();
     QTransform toDevicePixels() const;
     QPointF middleOfPixel(QPointF position) const;

@@ -1,6 +1,7 @@
 // Events of the panel's window, passed on to its content.
 
 #include "platform/base/main_queue.h"
+#include "platform/desktop/drag_carrier.h"
 #include "platform/desktop/keyboard_loan.h"
 #include "platform/desktop/pointing_devices.h"
 #include "platform/qt/desktop/panel_event_translation.h"
@@ -104,8 +105,20 @@ void QtPanelWindow::handleWheel(QWheelEvent &event)
         m_content->scrollWheel(*scroll);
 }
 
+bool QtPanelWindow::isOwnDrag(const QEvent &event) const
+{
+    // Qt takes what it did not begin itself for another program's.
+    const bool isAboutDrag = event.type() == QEvent::DragEnter || event.type() == QEvent::DragMove
+        || event.type() == QEvent::Drop;
+    return isAboutDrag && m_desktop.dragCarrier && m_desktop.dragCarrier->isCarrying();
+}
+
 bool QtPanelWindow::handleDrag(QEvent &event)
 {
+    if (isOwnDrag(event)) {
+        event.ignore();
+        return true;
+    }
     switch (event.type()) {
     case QEvent::DragEnter: {
         auto &entering = dynamic_cast<QDragEnterEvent &>(event);
