@@ -69,6 +69,7 @@ LayerSession::LayerSession(const SessionNeeds &needs)
     , panels(connection, needs.mainQueue)
     , windowActivation(panels.surface)
     , dragCarrier(connection, needs.mainQueue)
+    , dropSupport(needs.mainQueue, panels.surface)
     , xwaylandDrags(needs.mainQueue)
 {
     wireDrags();
@@ -86,13 +87,23 @@ KeyNaming LayerSession::keyNaming() const
 
 void LayerSession::wireDrags()
 {
-    xwaylandDrags.onBegan = [this] { dragWatch.noticed(); };
+    xwaylandDrags.onBegan = [this] { dragIsNoticed(); };
     xwaylandDrags.onLost = [this] {
         updateStrips();
         tellAbilities();
     };
     panels.surface.onDropped = [this] { dragWatch.droppedOnPanel(); };
     panels.surface.onPointer = [this] { dragWatch.pointerIsFree(); };
+    dropSupport.onDropped = [this] { dragWatch.droppedOnPanel(); };
+    dropSupport.onPointer = [this] { dragWatch.pointerIsFree(); };
+    dropSupport.isOwnDrag = [this] { return dragCarrier.isCarrying(); };
+}
+
+void LayerSession::dragIsNoticed()
+{
+    dragWatch.noticed();
+    if (!dragCarrier.isCarrying())
+        dropSupport.expect();
 }
 
 void LayerSession::wireStrips()
@@ -101,7 +112,7 @@ void LayerSession::wireStrips()
         if (isOwn || dragCarrier.isCarrying())
             return;
         screenLocator.cameTo(screen);
-        dragWatch.noticed();
+        dragIsNoticed();
     };
     edgeStrips.onPointer = [this](const ScreenPointer &screen) {
         screenLocator.cameTo(screen);
@@ -145,6 +156,7 @@ DesktopSession LayerSession::desktop()
             .hotKeys = hotKeys,
             .keyboardLayout = keyboardLayout,
             .panels = panelDesktop,
+            .dropSupport = dropSupport.isAble() ? &dropSupport : nullptr,
             .windowActivation = windowActivation};
 }
 

@@ -12,6 +12,7 @@
 #include "platform/freedesktop/shortcuts/portal_shortcuts.h"
 #include "platform/wayland/base/wayland_connection.h"
 #include "platform/wayland/drags/wayland_drag_carrier.h"
+#include "platform/wayland/drags/wayland_drop_support.h"
 #include "platform/wayland/keys/wayland_keyboard_layout.h"
 #include "platform/wayland/windows/edge_strips.h"
 #include "platform/wayland/windows/layer_panels.h"
@@ -70,6 +71,7 @@ struct LayerSession : RunningSession {
     LayerPanels panels;
     LayerWindowActivation windowActivation;
     WaylandDragCarrier dragCarrier;
+    WaylandDropSupport dropSupport;
     XWaylandDrags xwaylandDrags;
     bool mayDragGoOn = false;
     Lifetime lifetime;
@@ -77,6 +79,7 @@ struct LayerSession : RunningSession {
 private:
     KeyNaming keyNaming() const;
     void wireDrags();
+    void dragIsNoticed();
     void wireStrips();
     void updateStrips();
     void tellAbilities();

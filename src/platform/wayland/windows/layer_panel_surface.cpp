@@ -13,6 +13,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <utility>
 
 namespace corvane {
 
@@ -104,6 +105,12 @@ QScreen *LayerPanelSurface::screenOf(const QWindow &window) const
     return found == m_panels.end() ? nullptr : screenFor(found->second);
 }
 
+QRect LayerPanelSurface::spaceOf(const QWindow &window) const
+{
+    const auto found = m_panels.find(&window);
+    return found == m_panels.end() ? QRect() : found->second.space;
+}
+
 void LayerPanelSurface::willShow(QWindow &window)
 {
     hangUp(window, m_panels[&window]);
@@ -146,11 +153,31 @@ void LayerPanelSurface::didHide(QWindow &window)
 
 void LayerPanelSurface::setInputRegion(QWindow &window, const QRegion &region)
 {
-    window.setMask(region.isEmpty() ? QRegion(nowhere)
-                                    : inPoints(region, window.devicePixelRatio()));
-    const auto &surface = m_panels[&window].surface;
-    if (surface)
-        surface->commit();
+    Panel &panel = m_panels[&window];
+    panel.input = inPoints(region, window.devicePixelRatio());
+    applyInputRegion(window, panel);
+}
+
+void LayerPanelSurface::applyInputRegion(QWindow &window, const Panel &panel)
+{
+    const bool takesNothing = panel.isCovered || panel.input.isEmpty();
+    window.setMask(takesNothing ? QRegion(nowhere) : panel.input);
+    if (panel.surface)
+        panel.surface->commit();
+}
+
+QRegion LayerPanelSurface::inputRegionOf(const QWindow &window) const
+{
+    const auto found = m_panels.find(&window);
+    return found == m_panels.end() ? QRegion() : found->second.input;
+}
+
+void LayerPanelSurface::setCovered(QWindow &window, bool isCovered)
+{
+    const auto found = m_panels.find(&window);
+    if (found == m_panels.end() || std::exchange(found->second.isCovered, isCovered) == isCovered)
+        return;
+    applyInputRegion(window, found->second);
 }
 
 void LayerPanelSurface::setBoundingRegion(QWindow & /*window*/, const QRegion & /*region*/)

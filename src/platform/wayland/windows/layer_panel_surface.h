@@ -40,6 +40,15 @@ public:
     /// Takes the keyboard from the panel that has it, for whoever had it before.
     void giveKeyboardBack();
 
+    /// What its window takes up of its screen; empty while it is hidden. Qt gives such windows
+    /// other places.
+    QRect spaceOf(const QWindow &window) const;
+    /// The part of it that takes clicks, in points.
+    QRegion inputRegionOf(const QWindow &window) const;
+    /// While covered it takes none, since something else there does: of several surfaces in one
+    /// layer some compositors have the newest on top, and some the oldest.
+    void setCovered(QWindow &window, bool isCovered);
+
     /// What is dragged was let go over a panel, which has not been told yet.
     std::function<void()> onDropped;
     /// The compositor may have the keyboard with a panel that does not ask for it, or no longer
@@ -57,10 +66,14 @@ private:
         QRect frame;
         /// What its window takes up of the screen since it is shown; empty while it is hidden.
         QRect space;
+        /// In points.
+        QRegion input;
+        bool isCovered = false;
         bool hasKeyboard = false;
         std::unique_ptr<LayerSurface> surface;
     };
 
+    void applyInputRegion(QWindow &window, const Panel &panel);
     PanelSpace fit(QWindow &window, Panel &panel);
     void hangUp(QWindow &window, Panel &panel);
     void showAnew(QWindow &window);

@@ -1,0 +1,82 @@
+#include "platform/desktop/drop_hover.h"
+
+#include "platform/base/main_queue.h"
+
+#include <utility>
+
+namespace corvane {
+
+DropHover::DropHover(MainQueue &queue, std::shared_ptr<IncomingDrag> drag, DropReceiver &receiver,
+                     Panel panel, Answer answer)
+    : m_queue(queue)
+    , m_drag(std::move(drag))
+    , m_receiver(receiver)
+    , m_panel(std::move(panel))
+    , m_answer(std::move(answer))
+{
+}
+
+DropHover::~DropHover()
+{
+    if (m_isTold)
+        m_panel.leave();
+}
+
+void DropHover::begin(QPointF at)
+{
+    m_at = at;
+    const QStringList types = m_drag->types();
+    if (!m_receiver.needsAddresses(types)) {
+        decide();
+        return;
+    }
+    m_queue.asyncAfter(patience, m_lifetime.guard([this] { decide(); }));
+    fetchAddresses(m_receiver.addressTypes(types));
+}
+
+void DropHover::fetchAddresses(QStringList types)
+{
+    if (types.isEmpty()) {
+        decide();
+        return;
+    }
+    const QString type = types.takeFirst();
+    m_drag->fetch(type, maximumAddressBytes,
+                  m_lifetime.guard([this, types = std::move(types)](IncomingDrag::Outcome outcome,
+                                                                    const QByteArray &bytes) {
+                      if (!bytes.isEmpty() || outcome == IncomingDrag::Outcome::Lost)
+                          decide();
+                      else
+                          fetchAddresses(types);
+                  }));
+}
+
+/// The panel decides by the addresses known so far.
+void DropHover::decide()
+{
+    if (!std::exchange(m_isTold, true))
+        tell(m_panel.enter(m_at));
+}
+
+void DropHover::moveTo(QPointF at)
+{
+    m_at = at;
+    if (!m_isTold)
+        return;
+    const bool wouldBeTaken = m_panel.move(at);
+    if (wouldBeTaken != m_wouldBeTaken)
+        tell(wouldBeTaken);
+}
+
+void DropHover::tell(bool wouldBeTaken)
+{
+    m_wouldBeTaken = wouldBeTaken;
+    m_answer(wouldBeTaken);
+}
+
+bool DropHover::drop()
+{
+    return m_isTold && m_wouldBeTaken && m_receiver.takeDrop(m_drag);
+}
+
+} // namespace corvane

@@ -1,0 +1,129 @@
+#include "platform/wayland/drags/wayland_incoming_drag.h"
+
+#include "platform/wayland/base/own_connection.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+#include <wayland-client.h>
+
+#include <array>
+#include <utility>
+
+namespace corvane {
+
+struct WaylandIncomingDrag::Listeners {
+    static void offered(void *data, wl_data_offer *, const char *type)
+    {
+        auto &self = *static_cast<WaylandIncomingDrag *>(data);
+        const QString name = QString::fromUtf8(type);
+        if (self.m_types.size() < maximumTypes && !self.m_types.contains(name))
+            self.m_types << name;
+    }
+    static void sourceActions(void *data, wl_data_offer *, std::uint32_t actions)
+    {
+        static_cast<WaylandIncomingDrag *>(data)->m_canBeCopied
+            = (actions & WL_DATA_DEVICE_MANAGER_DND_ACTION_COPY) != 0;
+    }
+    static void action(void *data, wl_data_offer *, std::uint32_t action)
+    {
+        static_cast<WaylandIncomingDrag *>(data)->m_isCopy
+            = action == WL_DATA_DEVICE_MANAGER_DND_ACTION_COPY;
+    }
+    static constexpr wl_data_offer_listener all = {offered, sourceActions, action};
+};
+
+WaylandIncomingDrag::WaylandIncomingDrag(OwnConnection &connection, MainQueue &queue,
+                                         wl_data_offer *offer)
+    : m_connection(&connection)
+    , m_queue(&queue)
+    , m_offer(offer)
+{
+    wl_data_offer_add_listener(m_offer, &Listeners::all, this);
+}
+
+WaylandIncomingDrag::~WaylandIncomingDrag()
+{
+    forget();
+}
+
+void WaylandIncomingDrag::forget()
+{
+    if (!m_connection)
+        return;
+    m_readings.clear();
+    m_isDropped = false;
+    wl_data_offer_destroy(m_offer);
+    m_connection->flush();
+    m_connection = nullptr;
+}
+
+void WaylandIncomingDrag::tellLater(Outcome outcome, const QByteArray &bytes, Fetched done)
+{
+    m_queue->async(
+        m_lifetime.guard([outcome, bytes, done = std::move(done)] { done(outcome, bytes); }));
+}
+
+void WaylandIncomingDrag::fetch(const QString &type, qsizetype maximumBytes, Fetched done)
+{
+    if (!m_connection)
+        return;
+    if (const auto known = m_fetched.constFind(type); known != m_fetched.cend()) {
+        tellLater(Outcome::Arrived, *known, std::move(done));
+        return;
+    }
+    if (!m_types.contains(type)) {
+        tellLater(Outcome::Refused, {}, std::move(done));
+        return;
+    }
+    std::array<int, 2> ends = {-1, -1};
+    if (!m_connection->display() || ::pipe2(ends.data(), O_CLOEXEC) != 0) {
+        tellLater(Outcome::Lost, {}, std::move(done));
+        return;
+    }
+    FileDescriptor reader(ends[0]);
+    const FileDescriptor writer(ends[1]);
+    wl_data_offer_receive(m_offer, type.toUtf8().constData(), writer.number());
+    m_connection->flush();
+    const auto place = m_readings.emplace(m_readings.end());
+    *place = std::make_unique<PipeIntake>(
+        *m_queue, std::move(reader), maximumBytes,
+        m_lifetime.guard(
+            [this, type, place, tell = std::move(done)](Outcome outcome, const QByteArray &bytes) {
+                const auto read = std::move(*place);
+                m_readings.erase(place);
+                if (outcome == Outcome::Arrived)
+                    m_fetched.insert(type, bytes);
+                tell(outcome, bytes);
+            }));
+}
+
+void WaylandIncomingDrag::receivePromisedFile(const QUrl & /*destination*/,
+                                              std::function<void(bool)> done)
+{
+    m_queue->async(m_lifetime.guard([done = std::move(done)] { done(false); }));
+}
+
+void WaylandIncomingDrag::answer(std::uint32_t serial, bool wouldBeTaken)
+{
+    if (!m_connection || !m_connection->display() || m_types.isEmpty())
+        return;
+    constexpr std::uint32_t none = WL_DATA_DEVICE_MANAGER_DND_ACTION_NONE;
+    constexpr std::uint32_t copy = WL_DATA_DEVICE_MANAGER_DND_ACTION_COPY;
+    const QByteArray first = m_types.constFirst().toUtf8();
+    wl_data_offer_accept(m_offer, serial, wouldBeTaken ? first.constData() : nullptr);
+    wl_data_offer_set_actions(m_offer, wouldBeTaken ? copy : none, wouldBeTaken ? copy : none);
+    m_connection->flush();
+}
+
+void WaylandIncomingDrag::finish(bool isTaken)
+{
+    if (!m_connection || !std::exchange(m_isDropped, false))
+        return;
+    // To finish what the compositor does not take for a copy is a mistake that it ends us for. An
+    // offer that goes away unfinished was not taken.
+    if (isTaken && m_isCopy)
+        wl_data_offer_finish(m_offer);
+    forget();
+}
+
+} // namespace corvane

@@ -1,0 +1,65 @@
+#pragma once
+
+#include "platform/base/lifetime.h"
+#include "platform/base/main_queue.h"
+#include "platform/desktop/incoming_drag.h"
+#include "platform/wayland/drags/pipe_intake.h"
+
+#include <QHash>
+
+#include <list>
+#include <memory>
+
+struct wl_data_offer;
+
+namespace corvane {
+
+class OwnConnection;
+
+/// Another program's drag, as the compositor offers it. The connection and the queue must outlive
+/// it, or `forget` must be called before they are destroyed.
+class WaylandIncomingDrag : public IncomingDrag {
+public:
+    /// Further types are ignored.
+    static constexpr qsizetype maximumTypes = 256;
+
+    /// Owns the offer, of which nothing has been heard yet.
+    WaylandIncomingDrag(OwnConnection &connection, MainQueue &queue, wl_data_offer *offer);
+    ~WaylandIncomingDrag() override;
+
+    QStringList types() const override { return m_types; }
+    QByteArray fetched(const QString &type) const override { return m_fetched.value(type); }
+    void fetch(const QString &type, qsizetype maximumBytes, Fetched done) override;
+    /// Sources write no files themselves here.
+    std::optional<QString> promisedFileName() override { return std::nullopt; }
+    void receivePromisedFile(const QUrl &destination, std::function<void(bool)> done) override;
+    /// Not taken, the source hears that its drag came to nothing.
+    void finish(bool isTaken) override;
+
+    wl_data_offer *offer() const { return m_offer; }
+    /// Whether the source lets what it drags be copied.
+    bool canBeCopied() const { return m_canBeCopied; }
+    /// Tells the source whether it would be taken as a copy. `serial` is that of the entering.
+    void answer(std::uint32_t serial, bool wouldBeTaken);
+    void setDropped() { m_isDropped = true; }
+    /// Finishes a drop as not taken, and stops using the references.
+    void forget();
+
+private:
+    struct Listeners;
+
+    void tellLater(Outcome outcome, const QByteArray &bytes, Fetched done);
+
+    OwnConnection *m_connection;
+    MainQueue *m_queue;
+    wl_data_offer *m_offer;
+    QStringList m_types;
+    bool m_canBeCopied = false;
+    bool m_isCopy = false;
+    bool m_isDropped = false;
+    QHash<QString, QByteArray> m_fetched;
+    std::list<std::unique_ptr<PipeIntake>> m_readings;
+    Lifetime m_lifetime;
+};
+
+} // namespace corvane

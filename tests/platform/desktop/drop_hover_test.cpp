@@ -1,0 +1,173 @@
+#include "fakes/test_clock.h"
+#include "platform/desktop/drop_hover.h"
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <vector>
+
+namespace corvane::test {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// A source that answers when a test says so.
+class SlowDrag : public IncomingDrag {
+public:
+    QStringList types() const override { return {u"text/uri-list"_s, u"text/x-moz-url"_s}; }
+    QByteArray fetched(const QString &) const override { return {}; }
+    void fetch(const QString &type, qsizetype, Fetched done) override
+    {
+        asked << type;
+        answer = std::move(done);
+    }
+    std::optional<QString> promisedFileName() override { return std::nullopt; }
+    void receivePromisedFile(const QUrl &, std::function<void(bool)> done) override { done(false); }
+    void finish(bool) override { }
+
+    QStringList asked;
+    Fetched answer;
+};
+
+class FakeReceiver : public DropReceiver {
+public:
+    bool needsAddresses(const QStringList &) const override { return needs; }
+    QStringList addressTypes(const QStringList &types) const override { return types; }
+    bool takeDrop(std::shared_ptr<IncomingDrag>) override
+    {
+        ++drops;
+        return true;
+    }
+
+    bool needs = false;
+    int drops = 0;
+};
+
+class DropHoverTest : public testing::Test {
+protected:
+    void begin()
+    {
+        hover = std::make_unique<DropHover>(
+            clock, drag, receiver,
+            DropHover::Panel{[this](QPointF at) {
+                                 entered = at;
+                                 return isWelcome;
+                             },
+                             [this](QPointF) {
+                                 ++moves;
+                                 return isWelcome;
+                             },
+                             [this] { ++leaves; }},
+            [this](bool wouldBeTaken) { answers.push_back(wouldBeTaken); });
+        hover->begin({1, 2});
+    }
+
+    TestClock clock;
+    std::shared_ptr<SlowDrag> drag = std::make_shared<SlowDrag>();
+    FakeReceiver receiver;
+    bool isWelcome = true;
+    std::optional<QPointF> entered;
+    int moves = 0;
+    int leaves = 0;
+    std::vector<bool> answers;
+    std::unique_ptr<DropHover> hover;
+};
+
+TEST_F(DropHoverTest, thePanelIsAskedAtOnceWhereAddressesDoNotMatter)
+{
+    begin();
+    EXPECT_EQ(entered, QPointF(1, 2));
+    EXPECT_EQ(answers, std::vector<bool>{true});
+    EXPECT_TRUE(drag->asked.isEmpty());
+}
+
+TEST_F(DropHoverTest, theSourceHearsOnlyOfAnswersThatChange)
+{
+    begin();
+    hover->moveTo({3, 4});
+    isWelcome = false;
+    hover->moveTo({5, 6});
+    hover->moveTo({7, 8});
+    EXPECT_EQ(moves, 3);
+    EXPECT_EQ(answers, (std::vector<bool>{true, false}));
+}
+
+TEST_F(DropHoverTest, thePanelIsAskedWhereTheDragIsOnceItsAddressesAreHere)
+{
+    receiver.needs = true;
+    begin();
+    hover->moveTo({3, 4});
+    EXPECT_FALSE(entered);
+    EXPECT_EQ(drag->asked, QStringList{u"text/uri-list"_s});
+    drag->answer(IncomingDrag::Outcome::Arrived, "file:///a\r\n");
+    EXPECT_EQ(entered, QPointF(3, 4));
+    EXPECT_EQ(answers, std::vector<bool>{true});
+}
+
+TEST_F(DropHoverTest, theNextTypeIsAskedForWhereOneHoldsNothing)
+{
+    receiver.needs = true;
+    begin();
+    drag->answer(IncomingDrag::Outcome::Arrived, {});
+    EXPECT_EQ(drag->asked.size(), 2);
+    EXPECT_FALSE(entered);
+    drag->answer(IncomingDrag::Outcome::Refused, {});
+    EXPECT_TRUE(entered);
+}
+
+TEST_F(DropHoverTest, aSilentSourceIsJudgedWithoutItsAddressesAfterAWhile)
+{
+    receiver.needs = true;
+    begin();
+    clock.advance(DropHover::patience * 0.9);
+    EXPECT_FALSE(entered);
+    clock.advance(DropHover::patience);
+    EXPECT_TRUE(entered);
+    entered.reset();
+    drag->answer(IncomingDrag::Outcome::Arrived, "file:///a\r\n");
+    EXPECT_FALSE(entered) << "it is asked once";
+}
+
+TEST_F(DropHoverTest, aSourceThatIsGoneIsJudgedAtOnce)
+{
+    receiver.needs = true;
+    begin();
+    drag->answer(IncomingDrag::Outcome::Lost, {});
+    EXPECT_TRUE(entered);
+    EXPECT_EQ(drag->asked.size(), 1);
+}
+
+TEST_F(DropHoverTest, onlyWhatIsWelcomeIsTakenWhenItIsLetGo)
+{
+    begin();
+    EXPECT_TRUE(hover->drop());
+    isWelcome = false;
+    begin();
+    EXPECT_FALSE(hover->drop());
+    EXPECT_EQ(receiver.drops, 1);
+}
+
+TEST_F(DropHoverTest, whatIsLetGoBeforeItsAddressesAreHereIsRefused)
+{
+    receiver.needs = true;
+    begin();
+    EXPECT_FALSE(hover->drop());
+    EXPECT_EQ(receiver.drops, 0);
+}
+
+TEST_F(DropHoverTest, thePanelIsToldOfTheEndOfWhatItWasToldOf)
+{
+    begin();
+    hover.reset();
+    EXPECT_EQ(leaves, 1);
+    receiver.needs = true;
+    begin();
+    hover.reset();
+    EXPECT_EQ(leaves, 1);
+    drag->answer(IncomingDrag::Outcome::Arrived, "file:///a\r\n");
+    clock.advance(DropHover::patience);
+    EXPECT_EQ(answers.size(), 1U);
+}
+
+} // namespace
+} // namespace corvane::test
