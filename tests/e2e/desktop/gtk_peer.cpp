@@ -20,7 +20,7 @@ from gi.repository import Gtk, Gdk, GLib
 def tell(*words):
     print(*words, flush=True)
 
-text, files = sys.argv[1], sys.argv[2:]
+text, habits, files = sys.argv[1], sys.argv[2], sys.argv[3:]
 window = Gtk.Window(title="peer")
 window.set_decorated(False)
 box = Gtk.Box(homogeneous=True)
@@ -74,15 +74,16 @@ box.pack_start(target, True, True, 0)
 window.add(box)
 window.set_default_size(400, 200)
 window.show_all()
+exec(habits)
 Gtk.main()
 )";
 
 } // namespace
 
 GtkPeer::GtkPeer(XDesktop &desktop, const Offer &offer, const QRect &frame)
-    : m_program(
-        desktop.start(QString::fromLatin1(python),
-                      QStringList{u"-c"_s, QString::fromLatin1(program), offer.text} + offer.files))
+    : m_program(desktop.start(
+        QString::fromLatin1(python),
+        QStringList{u"-c"_s, QString::fromLatin1(program), offer.text, offer.habits} + offer.files))
 {
     const auto window = desktop.waitForWindowOf(*m_program);
     const auto placed = window ? desktop.place(window->id, frame) : std::nullopt;
@@ -106,7 +107,9 @@ QByteArray GtkPeer::lastLine(const QByteArray &beginning)
 {
     const QByteArray start = beginning + ' ';
     QByteArray last;
-    for (const QByteArray &line : m_program->output().split('\n')) {
+    // The last one may still be on its way.
+    const QByteArray output = m_program->output();
+    for (const QByteArray &line : output.left(output.lastIndexOf('\n')).split('\n')) {
         if (line.startsWith(start))
             last = line.mid(start.size());
     }
@@ -145,6 +148,11 @@ bool GtkPeer::isSourceWelcome()
 bool GtkPeer::isTargetReady()
 {
     return lastLine("target") == "over";
+}
+
+bool GtkPeer::hasSaid(const QByteArray &word)
+{
+    return eventually([&] { return hasSaidNow(word); });
 }
 
 int GtkPeer::presses()

@@ -20,6 +20,8 @@ public:
         /// Paths; as addresses.
         QStringList files = {};
         QString text = {};
+        /// What is odd about it: statements in its own language, run once its window is there.
+        QString habits = {};
     };
     GtkPeer(XDesktop &desktop, const Offer &offer, const QRect &frame);
 
@@ -39,6 +41,9 @@ public:
     int presses();
     /// The names of the keys that were typed into it.
     QList<QByteArray> keys();
+    /// Whether it has told that of its habits, before long or until now.
+    bool hasSaid(const QByteArray &word);
+    bool hasSaidNow(const QByteArray &word) { return !lastLine(word).isEmpty(); }
 
 private:
     QByteArray dropped(const QByteArray &type);
