@@ -8,8 +8,22 @@
 
 namespace corvane {
 
+namespace {
+
+/// The compositor that Qt was told of by name. Without a name nobody is asked: the usual one may be
+/// that of another session.
+wl_display *connectAgain()
+{
+    if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
+        || qEnvironmentVariableIsSet("WAYLAND_SOCKET"))
+        return nullptr;
+    return wl_display_connect(nullptr);
+}
+
+} // namespace
+
 OwnConnection::OwnConnection()
-    : m_display(qEnvironmentVariableIsSet("WAYLAND_SOCKET") ? nullptr : wl_display_connect(nullptr))
+    : m_display(connectAgain())
 {
     if (!m_display)
         return;

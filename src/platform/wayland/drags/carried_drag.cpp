@@ -38,7 +38,7 @@ void CarriedDrag::answer(Request request)
     const auto answer = m_forms.answerTo(request.name);
     if (!answer)
         return;
-    const Place place = m_underWay.insert(m_underWay.end(), {nullptr, answer->holds});
+    const auto place = m_underWay.insert(m_underWay.end(), {nullptr, answer->holds});
     place->delivery
         = m_deliver(std::move(request.pipe), answer->bytes,
                     {m_lifetime.guard([this] { noteSign(); }),

@@ -43,8 +43,8 @@ private:
     struct Listeners;
     /// A screen, which is told by its place among the others.
     struct Output {
-        std::uint32_t name;
-        wl_output *output;
+        std::uint32_t name = 0;
+        wl_output *output = nullptr;
         QPoint place;
     };
 

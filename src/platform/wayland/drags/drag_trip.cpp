@@ -51,6 +51,11 @@ DragTrip::DragTrip(const Start &start, std::unique_ptr<CarriedDrag> drag,
 {
     wl_data_source_add_listener(m_source, &Listeners::source, this);
     wl_data_device_add_listener(m_device, &Listeners::device, this);
+    begin(start);
+}
+
+void DragTrip::begin(const Start &start)
+{
     for (const QString &name : m_drag->names())
         wl_data_source_offer(m_source, name.toUtf8().constData());
     wl_data_source_set_actions(m_source, WL_DATA_DEVICE_MANAGER_DND_ACTION_COPY);

@@ -21,11 +21,11 @@ namespace corvane {
 class DragTrip {
 public:
     struct Start {
-        wl_display *display;
-        wl_data_device_manager *manager;
-        wl_seat *seat;
-        wl_surface *origin;
-        std::uint32_t serial;
+        wl_display *display = nullptr;
+        wl_data_device_manager *manager = nullptr;
+        wl_seat *seat = nullptr;
+        wl_surface *origin = nullptr;
+        std::uint32_t serial = 0;
         QPoint hotSpot;
     };
     DragTrip(const Start &start, std::unique_ptr<CarriedDrag> drag, std::unique_ptr<DragIcon> icon);
@@ -43,12 +43,14 @@ public:
 private:
     struct Listeners;
 
+    void begin(const Start &start);
+
     std::unique_ptr<CarriedDrag> m_drag;
     std::unique_ptr<DragIcon> m_icon;
     wl_data_source *m_source;
     wl_data_device *m_device;
     /// Done once the compositor has begun the drag, or has not.
-    wl_callback *m_begun;
+    wl_callback *m_begun = nullptr;
     /// What is told of drags over our windows; Qt is told the same.
     std::vector<wl_data_offer *> m_offers;
 };

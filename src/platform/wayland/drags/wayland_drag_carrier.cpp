@@ -69,6 +69,19 @@ bool WaylandDragCarrier::isCarrying() const
                                [](const auto &trip) { return trip.second->drag().isCarried(); });
 }
 
+DragCarrier::Events WaylandDragCarrier::watched(DragId id, Events events)
+{
+    // Both are told in the middle of what the trip hears: it goes away later.
+    return {m_lifetime.guard([this, id, tell = std::move(events.released)](DragOperation promised) {
+                m_queue.async(m_lifetime.guard([this, id] { letGo(id); }));
+                tell(promised);
+            }),
+            m_lifetime.guard([this, id, tell = std::move(events.ended)](const DragOutEnd &end) {
+                m_queue.async(m_lifetime.guard([this, id] { m_trips.erase(id); }));
+                tell(end);
+            })};
+}
+
 DragCarrier::DragId WaylandDragCarrier::carry(QWindow &window, Load load, Events events)
 {
     m_lastId = checkedAdd(m_lastId, 1);
@@ -80,23 +93,13 @@ DragCarrier::DragId WaylandDragCarrier::carry(QWindow &window, Load load, Events
         events.ended({});
         return id;
     }
-    // Both are told in the middle of what the trip hears: it goes away later.
-    Events watched
-        = {m_lifetime.guard([this, id, tell = std::move(events.released)](DragOperation promised) {
-               m_queue.async(m_lifetime.guard([this, id] { letGo(id); }));
-               tell(promised);
-           }),
-           m_lifetime.guard([this, id, tell = std::move(events.ended)](const DragOutEnd &end) {
-               m_queue.async(m_lifetime.guard([this, id] { m_trips.erase(id); }));
-               tell(end);
-           })};
     auto drag = std::make_unique<CarriedDrag>(
         m_queue,
         [this](FileDescriptor pipe, QByteArray bytes, Delivery::Events told) {
             return std::make_unique<PipeDelivery>(m_queue, std::move(pipe), std::move(bytes),
                                                   std::move(told));
         },
-        NamedForms(std::move(load.forms)), load.areFinal, std::move(watched));
+        NamedForms(std::move(load.forms)), load.areFinal, watched(id, std::move(events)));
     auto icon = std::make_unique<DragIcon>(m_services.compositor, m_services.shm, load.image,
                                            window.devicePixelRatio());
     m_trips[id] = std::make_unique<DragTrip>(DragTrip::Start{m_connection.display(),

@@ -53,6 +53,8 @@ private:
         wl_seat *seat = nullptr;
     };
 
+    /// These events, and what becomes of the trip with them.
+    Events watched(DragId id, Events events);
     void pointerIsHere();
     void letGo(DragId drag);
 
