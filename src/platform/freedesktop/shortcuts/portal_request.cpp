@@ -1,5 +1,7 @@
 #include "platform/freedesktop/shortcuts/portal_request.h"
 
+#include "platform/freedesktop/shortcuts/desktop_portal.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -11,9 +13,6 @@
 namespace corvane {
 
 namespace {
-
-const auto service = QStringLiteral("org.freedesktop.portal.Desktop");
-const auto path = QStringLiteral("/org/freedesktop/portal/desktop");
 
 QString nextToken()
 {
@@ -41,11 +40,13 @@ void PortalRequest::ask(const QString &method, const QVariantList &arguments)
     // Before it is asked: the answer may come at once. The name of its place follows from ours.
     QString sender = bus.baseService().mid(1);
     sender.replace(QLatin1Char('.'), QLatin1Char('_'));
-    bus.connect(service, path % QStringLiteral("/request/") % sender % QLatin1Char('/') % m_token,
+    bus.connect(desktop_portal::service,
+                desktop_portal::path % QStringLiteral("/request/") % sender % QLatin1Char('/')
+                    % m_token,
                 QStringLiteral("org.freedesktop.portal.Request"), QStringLiteral("Response"), this,
                 SLOT(answer(QDBusMessage)));
-    auto call = QDBusMessage::createMethodCall(
-        service, path, QStringLiteral("org.freedesktop.portal.GlobalShortcuts"), method);
+    auto call = QDBusMessage::createMethodCall(desktop_portal::service, desktop_portal::path,
+                                               desktop_portal::globalShortcuts, method);
     call.setArguments(arguments);
     auto *accepted = new QDBusPendingCallWatcher(bus.asyncCall(call, acceptMilliseconds), this);
     connect(accepted, &QDBusPendingCallWatcher::finished, this, [this, accepted] {

@@ -2,6 +2,7 @@
 
 #include "platform/base/main_queue.h"
 #include "platform/freedesktop/session_bus.h"
+#include "platform/freedesktop/shortcuts/desktop_portal.h"
 #include "platform/freedesktop/shortcuts/key_notation.h"
 #include "platform/freedesktop/shortcuts/portal_request.h"
 
@@ -20,10 +21,6 @@
 namespace corvane {
 
 namespace {
-
-const auto service = QStringLiteral("org.freedesktop.portal.Desktop");
-const auto path = QStringLiteral("/org/freedesktop/portal/desktop");
-const auto interface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
 
 /// A shortcut as the portal takes and lists it.
 struct Listed {
@@ -95,7 +92,7 @@ PortalShortcuts::PortalShortcuts(std::vector<DesktopAction> actions, KeyNaming n
     m_signals.listen();
     m_watcher.setConnection(QDBusConnection::sessionBus());
     m_watcher.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
-    m_watcher.addWatchedService(service);
+    m_watcher.addWatchedService(desktop_portal::service);
     QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, &m_answers,
                      [this](const QString &, const QString &before, const QString & /*now*/) {
                          // Whoever comes after it knows nothing of its sessions.
@@ -117,9 +114,10 @@ void PortalShortcuts::lookForPortal()
     m_attempt.restart();
     become(Presence::Unknown);
     m_search.restart();
-    auto call = QDBusMessage::createMethodCall(
-        service, path, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    call << interface << QStringLiteral("version");
+    auto call = QDBusMessage::createMethodCall(desktop_portal::service, desktop_portal::path,
+                                               QStringLiteral("org.freedesktop.DBus.Properties"),
+                                               QStringLiteral("Get"));
+    call << QString(desktop_portal::globalShortcuts) << QStringLiteral("version");
     auto *answer = new QDBusPendingCallWatcher(
         QDBusConnection::sessionBus().asyncCall(call, PortalRequest::acceptMilliseconds),
         &m_answers);
@@ -231,7 +229,7 @@ void PortalShortcuts::closeSession()
     if (session.isEmpty())
         return;
     QDBusConnection::sessionBus().call(
-        QDBusMessage::createMethodCall(service, session,
+        QDBusMessage::createMethodCall(desktop_portal::service, session,
                                        QStringLiteral("org.freedesktop.portal.Session"),
                                        QStringLiteral("Close")),
         QDBus::NoBlock);

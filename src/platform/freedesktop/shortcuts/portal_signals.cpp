@@ -1,5 +1,7 @@
 #include "platform/freedesktop/shortcuts/portal_signals.h"
 
+#include "platform/freedesktop/shortcuts/desktop_portal.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
@@ -9,14 +11,11 @@ namespace corvane {
 
 void PortalSignals::listen()
 {
-    const auto service = QStringLiteral("org.freedesktop.portal.Desktop");
-    const auto path = QStringLiteral("/org/freedesktop/portal/desktop");
-    const auto interface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
     QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect(service, path, interface, QStringLiteral("Activated"), this,
-                SLOT(activated(QDBusMessage)));
-    bus.connect(service, path, interface, QStringLiteral("ShortcutsChanged"), this,
-                SLOT(changed(QDBusMessage)));
+    bus.connect(desktop_portal::service, desktop_portal::path, desktop_portal::globalShortcuts,
+                QStringLiteral("Activated"), this, SLOT(activated(QDBusMessage)));
+    bus.connect(desktop_portal::service, desktop_portal::path, desktop_portal::globalShortcuts,
+                QStringLiteral("ShortcutsChanged"), this, SLOT(changed(QDBusMessage)));
 }
 
 void PortalSignals::activated(const QDBusMessage &message) const

@@ -19,7 +19,7 @@ void bindIfWanted(void *data, wl_registry *registry, std::uint32_t name, const c
     }
 }
 
-const wl_registry_listener registryListener = {
+const wl_registry_listener wantedListener = {
     .global = bindIfWanted,
     .global_remove = [](void *, wl_registry *, std::uint32_t) {},
 };
@@ -33,7 +33,7 @@ void bindGlobals(wl_display *display, const std::vector<WantedGlobal> &wanted)
     wl_proxy_set_queue(reinterpret_cast<wl_proxy *>(wrapper), queue);
     wl_registry *const registry = wl_display_get_registry(wrapper);
     wl_proxy_wrapper_destroy(wrapper);
-    wl_registry_add_listener(registry, &registryListener,
+    wl_registry_add_listener(registry, &wantedListener,
                              const_cast<std::vector<WantedGlobal> *>(&wanted));
     wl_display_roundtrip_queue(display, queue);
     for (const WantedGlobal &one : wanted) {

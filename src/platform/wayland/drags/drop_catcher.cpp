@@ -16,7 +16,7 @@ namespace corvane {
 namespace {
 
 /// What users name in their compositor's rules for it.
-constexpr auto label = "corvane-drops";
+constexpr auto labelForDrops = "corvane-drops";
 constexpr std::int32_t bytesPerPixel = 4;
 
 } // namespace
@@ -45,7 +45,7 @@ DropCatcher::DropCatcher(CatcherServices &services, LayerPanelSurface &panels, Q
     m_surface = wl_compositor_create_surface(services.compositor);
     m_layerSurface = zwlr_layer_shell_v1_get_layer_surface(
         services.layerShell, m_surface, m_screen ? services.outputOf(*m_screen) : nullptr,
-        ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY, label);
+        ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY, labelForDrops);
     zwlr_layer_surface_v1_add_listener(m_layerSurface, &Listener::all, this);
     zwlr_layer_surface_v1_set_anchor(
         m_layerSurface, ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT);
