@@ -277,6 +277,8 @@ TEST_F(SoftwareUpdaterTest, TheFeedIsReadBesideTheMainThread)
     clock.runPending();
     EXPECT_EQ(display.report.stage, Stage::Checking);
     EXPECT_EQ(work.pendingCount(), 1U);
+    work.runAll();
+    EXPECT_EQ(display.report.stage, Stage::Checking) << "nor is it told of from there";
     settle();
     EXPECT_EQ(display.report.stage, Stage::Available);
 }

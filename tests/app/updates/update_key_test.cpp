@@ -50,6 +50,7 @@ TEST_F(UpdateKeyTest, EveryBitOfTheSignatureCounts)
     EXPECT_FALSE(isSigned(file, QByteArray(64, '\0')));
     EXPECT_FALSE(isSigned(file, {}));
     EXPECT_FALSE(isSigned(file, owner.sign(file).chopped(1)));
+    EXPECT_FALSE(isSigned(file, owner.sign(file) + 'x'));
 }
 
 TEST_F(UpdateKeyTest, SomebodyElsesSignatureDoesNotCount)
