@@ -78,6 +78,8 @@ std::string nameOf(const testing::TestParamInfo<DesktopKind> &kind)
         return "sway";
     if (kind.param.windowManager == WindowManager::KWin)
         return "kwin";
+    if (kind.param.windowManager == WindowManager::Mutter)
+        return "mutter";
     return std::string(kind.param.windowManager == WindowManager::Openbox ? "openbox" : "xfwm4")
         + (kind.param.compositor == Compositor::Picom ? "_composited" : "_plain");
 }

@@ -55,6 +55,8 @@ SessionChoice chooseSession(const SessionEnvironment &environment,
     const bool wantsX = hasX && environment.platformWish == "xcb";
     if (compositor.hasLayerShell && environment.hasWaylandPlugin && !wantsX)
         return {.kind = SessionKind::Layer, .platformPlugin = "wayland", .refusal = {}};
+    if (hasX && compositor.answers)
+        return {.kind = SessionKind::XWayland, .platformPlugin = "xcb", .refusal = {}};
     if (hasX)
         return {.kind = SessionKind::X11, .platformPlugin = "xcb", .refusal = {}};
     return {

@@ -20,7 +20,8 @@ namespace corvane {
 enum class SessionKind {
     /// A Wayland session whose compositor hangs panels from its screens' edges.
     Layer,
-    /// Also used in other Wayland sessions, through their X server.
+    /// Other Wayland sessions, through the X server that their compositor keeps.
+    XWayland,
     X11,
 };
 

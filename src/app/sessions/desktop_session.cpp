@@ -2,6 +2,7 @@
 
 #include "app/sessions/layer_session.h"
 #include "app/sessions/x11_session.h"
+#include "app/sessions/xwayland_session.h"
 
 #include <QtGlobal>
 
@@ -18,6 +19,8 @@ std::unique_ptr<RunningSession> startSession(SessionKind kind, const SessionNeed
     switch (kind) {
     case SessionKind::Layer:
         return std::make_unique<LayerSession>(needs);
+    case SessionKind::XWayland:
+        return std::make_unique<XWaylandSession>(needs);
     case SessionKind::X11:
         return std::make_unique<X11Session>(needs);
     }

@@ -1,46 +1,10 @@
 #include "app/sessions/layer_session.h"
 
-#include "app/base/app_info.h"
-#include "input/hot_key_center.h"
-#include "platform/system/own_command.h"
 #include "platform/system/own_environment.h"
 
-#include <QCoreApplication>
 #include <QLoggingCategory>
 
-#include <algorithm>
-
 namespace corvane {
-
-namespace {
-
-/// What the hot keys do, as the desktop lists it and as commands.
-std::vector<DesktopAction> desktopActions()
-{
-    using enum HotKeyCenter::Binding;
-    const auto title = [](const char *text) {
-        return QCoreApplication::translate("corvane::GeneralPane", text);
-    };
-    const QString application = AppInfo::builtIn().applicationId();
-    // Starting the program once more is for the shelf; the bar is one of its actions.
-    return {{.id = HotKeyCenter::idOf(Shelf),
-             .name = QStringLiteral("toggle"),
-             .title = title("Show or hide the shelf"),
-             .command = own_command::inShell()},
-            {.id = HotKeyCenter::idOf(ViewAll),
-             .name = QStringLiteral("view-all"),
-             .title = title("Show or hide all items"),
-             .command = QStringLiteral("gapplication action %1 view-all").arg(application)}};
-}
-
-} // namespace
-
-ScreenPointer LastSeenScreen::activeScreen() const
-{
-    const auto attached = m_screens.screens();
-    const auto found = std::ranges::find(attached, m_last.lock());
-    return found == attached.end() ? m_screens.mainScreen() : *found;
-}
 
 void LayerSession::prepare()
 {
@@ -54,18 +18,10 @@ void LayerSession::prepare()
 }
 
 LayerSession::LayerSession(const SessionNeeds &needs)
-    : screenLocator(needs.screens)
-    , dragWatch(needs.mainQueue)
-    , edgeStrips(connection, needs.screens)
+    : strips(connection)
+    , quiet(needs.mainQueue, needs.screens, strips)
     , keyboardLayout(connection)
-    , kdeShortcuts({.name = AppInfo::builtIn().applicationId(),
-                    .title = QCoreApplication::applicationName()},
-                   desktopActions(), keyNaming())
-    , portalShortcuts(desktopActions(), keyNaming(), needs.mainQueue)
-    , actionShortcuts(desktopActions(),
-                      key_notation::settingsOf(qEnvironmentVariable("XDG_CURRENT_DESKTOP")),
-                      keyNaming())
-    , hotKeys({&kdeShortcuts, &portalShortcuts, &actionShortcuts})
+    , hotKeys(keyNaming(), needs.mainQueue)
     , panels(connection, needs.mainQueue)
     , windowActivation(panels.surface)
     , dragCarrier(connection, needs.mainQueue)
@@ -73,10 +29,8 @@ LayerSession::LayerSession(const SessionNeeds &needs)
     , xwaylandDrags(needs.mainQueue)
 {
     wireDrags();
-    wireStrips();
-    hotKeys.onChosen = [this] { tellAbilities(); };
+    hotKeys.service.onChosen = [this] { tellAbilities(); };
     tellAbilities();
-    needs.screens.observeChanges(lifetime.guard([this] { edgeStrips.renew(); }));
 }
 
 KeyNaming LayerSession::keyNaming() const
@@ -87,60 +41,27 @@ KeyNaming LayerSession::keyNaming() const
 
 void LayerSession::wireDrags()
 {
-    xwaylandDrags.onBegan = [this] { dragIsNoticed(); };
+    quiet.setToldOfDrags(xwaylandDrags.isWatching());
+    quiet.isOwnDrag = [this] { return dragCarrier.isCarrying(); };
+    quiet.onNoticed = [this] {
+        if (!dragCarrier.isCarrying())
+            dropSupport.expect();
+    };
+    xwaylandDrags.onBegan = [this] { quiet.noticed(); };
     xwaylandDrags.onLost = [this] {
-        updateStrips();
+        quiet.setToldOfDrags(false);
         tellAbilities();
     };
-    panels.surface.onDropped = [this] { dragWatch.droppedOnPanel(); };
-    panels.surface.onPointer = [this] { dragWatch.pointerIsFree(); };
-    dropSupport.onDropped = [this] { dragWatch.droppedOnPanel(); };
-    dropSupport.onPointer = [this] { dragWatch.pointerIsFree(); };
+    panels.surface.onDropped = [this] { quiet.dragWatch.droppedOnPanel(); };
+    panels.surface.onPointer = [this] { quiet.dragWatch.pointerIsFree(); };
+    dropSupport.onDropped = [this] { quiet.dragWatch.droppedOnPanel(); };
+    dropSupport.onPointer = [this] { quiet.dragWatch.pointerIsFree(); };
     dropSupport.isOwnDrag = [this] { return dragCarrier.isCarrying(); };
-}
-
-void LayerSession::dragIsNoticed()
-{
-    dragWatch.noticed();
-    if (!dragCarrier.isCarrying())
-        dropSupport.expect();
-}
-
-void LayerSession::wireStrips()
-{
-    edgeStrips.onDragEntered = [this](const ScreenPointer &screen, bool isOwn) {
-        if (isOwn || dragCarrier.isCarrying())
-            return;
-        screenLocator.cameTo(screen);
-        dragIsNoticed();
-    };
-    edgeStrips.onPointer = [this](const ScreenPointer &screen) {
-        screenLocator.cameTo(screen);
-        dragWatch.pointerIsFree();
-    };
-    dragWatch.onUncertain = [this](bool mayGoOn) {
-        mayDragGoOn = mayGoOn;
-        updateStrips();
-    };
-    updateStrips();
-}
-
-/// A strip takes the clicks on it: where drags are told of anyway, there is one only for a drag
-/// that nobody knows the end of.
-void LayerSession::updateStrips()
-{
-    edgeStrips.watchDrags(mayDragGoOn || !xwaylandDrags.isWatching());
 }
 
 void LayerSession::tellAbilities()
 {
-    Abilities now{.clicksElsewhere = {ClicksElsewhere::Unnoticed, Reason::KeptByDesktop}};
-    const OptionalHotKeys *const service = hotKeys.chosen();
-    if (!service || service->choice() != ShortcutChoice::Here)
-        now.shortcutChoice = {ShortcutChoice::InTheDesktop, Reason::KeptByDesktop};
-    if (!xwaylandDrags.isWatching())
-        now.drags = {Drags::AtTheEdge, Reason::KeptByDesktop};
-    abilities.become(now);
+    abilities.become(quiet.abilities(hotKeys.areChosenHere()));
 }
 
 DesktopSession LayerSession::desktop()
@@ -149,11 +70,11 @@ DesktopSession LayerSession::desktop()
     if (dragCarrier.isAble())
         panelDesktop.dragCarrier = &dragCarrier;
     return {.abilities = abilities,
-            .screenLocator = screenLocator,
-            .dragWatch = dragWatch,
-            .edgeTrigger = edgeStrips,
-            .outsideClicks = outsideClicks,
-            .hotKeys = hotKeys,
+            .screenLocator = quiet.screenLocator,
+            .dragWatch = quiet.dragWatch,
+            .edgeTrigger = quiet.edgeStrips,
+            .outsideClicks = quiet.outsideClicks,
+            .hotKeys = hotKeys.service,
             .keyboardLayout = keyboardLayout,
             .panels = panelDesktop,
             .dropSupport = dropSupport.isAble() ? &dropSupport : nullptr,

@@ -7,7 +7,7 @@
 #include "fakes/test_clock.h"
 #include "input/hot_key_center.h"
 #include "platform/system/own_command.h"
-#include "platform/wayland/windows/edge_strip.h"
+#include "platform/wayland/windows/invisible_window.h"
 
 #include <QDragEnterEvent>
 #include <QGuiApplication>
@@ -34,11 +34,11 @@ struct LayerSessionTest : testing::Test {
         qunsetenv("DBUS_SESSION_BUS_ADDRESS");
         qputenv("XDG_RUNTIME_DIR", "/nowhere");
         session = std::make_unique<LayerSession>(SessionNeeds{clock, screens, {}});
-        session->dragWatch.onDragBegan = [this] { log << QStringLiteral("began"); };
-        session->dragWatch.onDragEnded = [this](DragEnd end) {
+        session->quiet.dragWatch.onDragBegan = [this] { log << QStringLiteral("began"); };
+        session->quiet.dragWatch.onDragEnded = [this](DragEnd end) {
             log << (end == DragEnd::Seen ? QStringLiteral("seen") : QStringLiteral("assumed"));
         };
-        session->dragWatch.start();
+        session->quiet.dragWatch.start();
     }
     ScreenPointer attach(QPoint topLeft)
     {
@@ -47,12 +47,12 @@ struct LayerSessionTest : testing::Test {
         values.frame = values.availableFrame = values.nativeFrame;
         return screens.attach(values);
     }
-    static QList<EdgeStrip *> strips()
+    static QList<InvisibleWindow *> strips()
     {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QList<EdgeStrip *> found;
+        QList<InvisibleWindow *> found;
         for (QWindow *window : QGuiApplication::allWindows()) {
-            if (auto *const strip = dynamic_cast<EdgeStrip *>(window))
+            if (auto *const strip = dynamic_cast<InvisibleWindow *>(window))
                 found << strip;
         }
         return found;
@@ -97,19 +97,19 @@ TEST_F(LayerSessionTest, aDragIsNoticedAtTheEdgeWhereNobodyElseTellsOfIt)
 
 TEST_F(LayerSessionTest, theShelfOpensOnTheScreenWhoseEdgeThePointerOrADragCameTo)
 {
-    EXPECT_EQ(session->screenLocator.activeScreen(), main);
+    EXPECT_EQ(session->quiet.screenLocator.activeScreen(), main);
     dragToTheEdge();
-    EXPECT_EQ(session->screenLocator.activeScreen(), beside);
+    EXPECT_EQ(session->quiet.screenLocator.activeScreen(), beside);
     screens.detach(beside);
-    EXPECT_EQ(session->screenLocator.activeScreen(), main);
+    EXPECT_EQ(session->quiet.screenLocator.activeScreen(), main);
     screens.detach(main);
-    EXPECT_EQ(session->screenLocator.activeScreen(), nullptr);
+    EXPECT_EQ(session->quiet.screenLocator.activeScreen(), nullptr);
 }
 
 TEST_F(LayerSessionTest, aPointerAtTheEdgeNamesTheScreenToo)
 {
     pointAtTheEdge();
-    EXPECT_EQ(session->screenLocator.activeScreen(), beside);
+    EXPECT_EQ(session->quiet.screenLocator.activeScreen(), beside);
 }
 
 TEST_F(LayerSessionTest, theEndIsSeenWhereThePointerComesWithNothing)
@@ -127,9 +127,9 @@ TEST_F(LayerSessionTest, theEndIsSeenWhereThePointerComesWithNothing)
 TEST_F(LayerSessionTest, theEndIsSeenWhereItIsLetGoOverAPanel)
 {
     dragToTheEdge();
-    session->dragWatch.overPanel(true);
+    session->quiet.dragWatch.overPanel(true);
     session->panels.surface.onDropped();
-    session->dragWatch.overPanel(false);
+    session->quiet.dragWatch.overPanel(false);
     EXPECT_EQ(taken(), words("began"));
     clock.advance(TimedDragWatch::settleDelay);
     EXPECT_EQ(taken(), words("seen"));
@@ -140,18 +140,18 @@ TEST_F(LayerSessionTest, stripsAreForDragsOnlyWhereTheyAreNotToldOfOrMayGoOn)
     session->xwaylandDrags.onBegan();
     EXPECT_EQ(taken(), words("began"));
     EXPECT_EQ(strips().size(), 1);
-    EXPECT_FALSE(session->mayDragGoOn);
+    EXPECT_FALSE(session->quiet.mayDragGoOn());
     clock.advance(TimedDragWatch::patience);
     EXPECT_EQ(taken(), words("assumed"));
-    EXPECT_TRUE(session->mayDragGoOn);
+    EXPECT_TRUE(session->quiet.mayDragGoOn());
     session->panels.surface.onPointer();
-    EXPECT_FALSE(session->mayDragGoOn);
+    EXPECT_FALSE(session->quiet.mayDragGoOn());
 }
 
 TEST_F(LayerSessionTest, stripsAreHungAnewWhereTheScreensChange)
 {
     ASSERT_EQ(strips().size(), 1);
-    const QPointer<EdgeStrip> before(strips().first());
+    const QPointer<InvisibleWindow> before(strips().first());
     screens.notifyChanges();
     EXPECT_EQ(strips().size(), 1);
     EXPECT_TRUE(before.isNull());
@@ -166,7 +166,7 @@ TEST_F(LayerSessionTest, stripsAreHungAnewWhereTheScreensChange)
 TEST_F(LayerSessionTest, hotKeysAreCommandsWhereNoServiceTakesKeys)
 {
     const auto outcomeOf = [&](HotKeyCenter::Binding binding) {
-        return session->hotKeys
+        return session->hotKeys.service
             .registerHotKey(KeyPosition::D, Shortcut::command,
                             {HotKeyCenter::signature, HotKeyCenter::idOf(binding)}, {})
             .outcome;

@@ -135,10 +135,21 @@ bool CorvaneProgram::activateAction(const QString &action) const
         .has_value();
 }
 
+XServer &CorvaneProgram::panelServer()
+{
+    XServer *const nested = m_desktop.nested() ? m_desktop.nested()->panelServer() : nullptr;
+    return nested ? *nested : m_desktop.server();
+}
+
+bool CorvaneProgram::isPanelSurface()
+{
+    return m_desktop.nested() && !m_desktop.nested()->panelServer();
+}
+
 template<class Condition>
 std::optional<WindowFacts> CorvaneProgram::find(Condition condition)
 {
-    for (const WindowFacts &window : m_desktop.server().windows()) {
+    for (const WindowFacts &window : panelServer().windows()) {
         if (window.isViewable && window.pid == m_program->pid() && condition(window))
             return window;
     }
@@ -162,7 +173,7 @@ std::optional<WindowFacts> CorvaneProgram::popup(int height)
 
 std::optional<WindowFacts> CorvaneProgram::panel()
 {
-    if (m_desktop.nested())
+    if (isPanelSurface())
         return panelInPicture();
     // The picture of a drag is an unmanaged window, too, but not at the top edge.
     return find([](const WindowFacts &window) {
@@ -226,10 +237,10 @@ QRect CorvaneProgram::body()
     const auto now = panel();
     if (!now)
         return {};
-    if (m_desktop.nested())
+    if (isPanelSurface())
         return now->frame;
     QRect bounds;
-    for (const QRect &part : m_desktop.server().inputShape(now->id))
+    for (const QRect &part : panelServer().inputShape(now->id))
         bounds = bounds.united(part);
     return bounds.translated(now->frame.topLeft());
 }

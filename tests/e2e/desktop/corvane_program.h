@@ -88,6 +88,8 @@ private:
     template<class Condition>
     std::optional<WindowFacts> find(Condition condition);
     std::optional<WindowFacts> panelInPicture();
+    XServer &panelServer();
+    bool isPanelSurface();
     void writeSettings(const Start &start) const;
 
     XDesktop &m_desktop;

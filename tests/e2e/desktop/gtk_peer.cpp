@@ -2,6 +2,9 @@
 
 #include "e2e/desktop/eventually.h"
 
+#include <QColor>
+#include <QImage>
+
 namespace corvane::e2e {
 
 using namespace Qt::StringLiterals;
@@ -20,12 +23,13 @@ from gi.repository import Gtk, Gdk, GLib
 def tell(*words):
     print(*words, flush=True)
 
-text, habits, files = sys.argv[1], sys.argv[2], sys.argv[3:]
+colour, width, height, text, habits, files = *sys.argv[1:6], sys.argv[6:]
 window = Gtk.Window(title="peer")
 window.set_decorated(False)
 box = Gtk.Box(homogeneous=True)
 style = Gtk.CssProvider()
-style.load_from_data(b"#source { background: #d0ffd0; } #target { background: #ffffff; }")
+style.load_from_data(
+    f"#source {{ background: {colour}; }} #target {{ background: #ffffff; }}".encode())
 Gtk.StyleContext.add_provider_for_screen(
     Gdk.Screen.get_default(), style, Gtk.STYLE_PROVIDER_PRIORITY_APPLICATION)
 
@@ -72,7 +76,7 @@ window.connect("key-press-event", lambda w, e: tell("key", Gdk.keyval_name(e.key
 box.pack_start(source, True, True, 0)
 box.pack_start(target, True, True, 0)
 window.add(box)
-window.set_default_size(400, 200)
+window.set_default_size(int(width), int(height))
 window.show_all()
 exec(habits)
 Gtk.main()
@@ -81,16 +85,73 @@ Gtk.main()
 } // namespace
 
 GtkPeer::GtkPeer(XDesktop &desktop, const Offer &offer, const QRect &frame)
-    : m_program(desktop.start(
-        QString::fromLatin1(python),
-        QStringList{u"-c"_s, QString::fromLatin1(program), offer.text, offer.habits} + offer.files))
+    : m_desktop(desktop)
 {
+    // One of its own for each, so that it is found in pictures.
+    static int count = 0;
+    m_colour = qRgb(0xd0, 0xff, 0xc0 + ++count % 0x40);
+    QProcessEnvironment environment = desktop.environment();
+    if (offer.isForX11)
+        environment.insert(u"GDK_BACKEND"_s, u"x11"_s);
+    const QStringList arguments{u"-c"_s,
+                                QString::fromLatin1(program),
+                                QColor(m_colour).name(),
+                                QString::number(frame.width()),
+                                QString::number(frame.height()),
+                                offer.text,
+                                offer.habits};
+    m_program = std::make_unique<Program>(QString::fromLatin1(python), arguments + offer.files,
+                                          environment, desktop.home());
+    if (desktop.nested() && !desktop.nested()->tellsOfWindows()) {
+        moveByHand(frame);
+        return;
+    }
     const auto window = desktop.waitForWindowOf(*m_program);
     const auto placed = window ? desktop.place(window->id, frame) : std::nullopt;
     if (!placed)
         m_problem = u"the GTK window does not come: "_s + QString::fromUtf8(m_program->output());
     else
         m_frame = placed->frame;
+}
+
+QRect GtkPeer::sourceInPicture() const
+{
+    const QImage picture = m_desktop.server().picture().convertToFormat(QImage::Format_RGB32);
+    QRect found;
+    for (int y = 0; y < picture.height(); ++y) {
+        const auto *const line = reinterpret_cast<const QRgb *>(picture.constScanLine(y));
+        for (int x = 0; x < picture.width(); ++x) {
+            if ((line[x] | 0xff000000U) == m_colour)
+                found |= QRect(x, y, 1, 1);
+        }
+    }
+    return found;
+}
+
+/// With the key that moves windows wherever they are held.
+void GtkPeer::moveByHand(const QRect &frame)
+{
+    QRect source;
+    const auto hasSize = [&] {
+        source = sourceInPicture();
+        return source.size() == QSize(frame.width() / 2, frame.height());
+    };
+    constexpr auto startOfAProgram = 4 * patience;
+    if (eventually(hasSize, startOfAProgram)) {
+        Hands &hands = m_desktop.hands();
+        const QPoint from = source.center();
+        hands.moveTo(from);
+        hands.keyDown(keys::super);
+        hands.press();
+        hands.glideTo(from + frame.topLeft() - source.topLeft());
+        hands.release();
+        hands.keyUp(keys::super);
+        eventually([&] { return hasSize() && source.topLeft() == frame.topLeft(); });
+    }
+    m_frame = QRect(source.topLeft(), frame.size());
+    if (m_frame != frame)
+        m_problem = u"the GTK window is not where it should be: "_s
+            + QString::fromUtf8(m_program->output());
 }
 
 QPoint GtkPeer::source() const

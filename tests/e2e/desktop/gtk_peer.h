@@ -4,6 +4,7 @@
 #include "e2e/desktop/x_desktop.h"
 
 #include <QByteArray>
+#include <QColor>
 #include <QList>
 #include <QRect>
 #include <QString>
@@ -22,6 +23,8 @@ public:
         QString text = {};
         /// What is odd about it: statements in its own language, run once its window is there.
         QString habits = {};
+        /// As a program of X11, in a Wayland session too.
+        bool isForX11 = false;
     };
     GtkPeer(XDesktop &desktop, const Offer &offer, const QRect &frame);
 
@@ -47,8 +50,12 @@ public:
 
 private:
     QByteArray dropped(const QByteArray &type);
+    QRect sourceInPicture() const;
+    void moveByHand(const QRect &frame);
     QByteArray lastLine(const QByteArray &beginning);
 
+    XDesktop &m_desktop;
+    QRgb m_colour = 0;
     std::unique_ptr<Program> m_program;
     QString m_problem;
     QRect m_frame;

@@ -42,6 +42,11 @@ public:
     /// The programs' windows, in pixels of the screen.
     virtual QList<WindowFacts> windows() = 0;
     virtual void place(xcb_window_t window, const QRect &frame) = 0;
+    /// False where nobody tells of the windows of Wayland's programs, nor places them.
+    virtual bool tellsOfWindows() const { return true; }
+    /// The X server that the panels of the program under test are windows of; null where they are
+    /// surfaces of the compositor.
+    virtual XServer *panelServer() { return nullptr; }
 
 protected:
     /// The name or the path of its Wayland socket.

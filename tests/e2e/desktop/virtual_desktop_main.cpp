@@ -59,6 +59,8 @@ std::optional<WindowManager> windowManagerFrom(const QString &name)
         return WindowManager::Sway;
     if (name == u"kwin"_s)
         return WindowManager::KWin;
+    if (name == u"mutter"_s)
+        return WindowManager::Mutter;
     return std::nullopt;
 }
 
@@ -72,7 +74,7 @@ QSize sizeFrom(const QString &text)
 int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
-    const QCommandLineOption manager(u"window-manager"_s, u"openbox, xfwm4, sway or kwin"_s,
+    const QCommandLineOption manager(u"window-manager"_s, u"openbox, xfwm4, sway, kwin or mutter"_s,
                                      u"name"_s, u"openbox"_s);
     const QCommandLineOption noCompositor(u"no-compositor"_s, u"nothing is blended"_s);
     const QCommandLineOption size(u"size"_s, u"of the screen"_s, u"WxH"_s, u"1512x982"_s);

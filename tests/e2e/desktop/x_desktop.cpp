@@ -2,6 +2,7 @@
 
 #include "e2e/desktop/eventually.h"
 #include "e2e/desktop/nested_kwin.h"
+#include "e2e/desktop/nested_mutter.h"
 #include "e2e/desktop/nested_sway.h"
 
 #include <QDir>
@@ -98,7 +99,8 @@ void XDesktop::startBus()
 
 void XDesktop::startWindowManager(const DesktopKind &kind)
 {
-    if (kind.windowManager == WindowManager::Sway || kind.windowManager == WindowManager::KWin) {
+    if (kind.windowManager != WindowManager::Openbox
+        && kind.windowManager != WindowManager::Xfwm4) {
         startNested(kind);
         return;
     }
@@ -118,6 +120,8 @@ void XDesktop::startNested(const DesktopKind &kind)
 {
     if (kind.windowManager == WindowManager::Sway)
         m_nested = std::make_unique<NestedSway>(*m_server, m_environment, kind.nested);
+    else if (kind.windowManager == WindowManager::Mutter)
+        m_nested = std::make_unique<NestedMutter>(*m_server, m_environment, kind.nested);
     else
         m_nested = std::make_unique<NestedKwin>(*m_server, m_environment, kind.nested);
     m_problem = m_nested->problem();

@@ -18,8 +18,8 @@
 
 namespace corvane::e2e {
 
-/// Sway and KWin are compositors of their own, whose sessions are none of X11's.
-enum class WindowManager { Openbox, Xfwm4, Sway, KWin };
+/// Sway, KWin and Mutter are compositors of their own, whose sessions are none of X11's.
+enum class WindowManager { Openbox, Xfwm4, Sway, KWin, Mutter };
 enum class Compositor { None, Picom };
 
 struct DesktopKind {

@@ -161,6 +161,8 @@ std::shared_ptr<X11IncomingDrag> X11DropSupport::leave()
 
 void X11DropSupport::drop(xcb_client_message_event_t &message, DropReceiver &receiver)
 {
+    if (onDropped)
+        onDropped();
     const auto dropped = leave();
     dropped->setTime(message.data.data32[2]);
     dropped->setDropped();

@@ -11,6 +11,7 @@
 #include <QPointer>
 #include <QWindow>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -43,6 +44,9 @@ public:
 
     Subscription addReceiver(QWindow &window, DropReceiver &receiver) override;
     std::shared_ptr<IncomingDrag> incomingDrag() override { return m_drag; }
+
+    /// Something was let go over a panel, which Qt has not been told yet. May be empty.
+    std::function<void()> onDropped;
 
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/desktop/key_name.h"
 #include "platform/desktop/keyboard_layout.h"
 
 namespace corvane {
@@ -13,6 +14,8 @@ namespace corvane {
 class X11KeyboardLayout : public KeyboardLayout {
 public:
     QString charactersOf(KeyPosition position) const override;
+    /// What the key is called in the layout, alone or with Shift.
+    KeyName nameOf(KeyPosition position, bool isShifted) const;
     bool changesKeys(KeySymbol symbol) const override;
 };
 

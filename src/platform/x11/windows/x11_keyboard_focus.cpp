@@ -64,7 +64,7 @@ bool X11KeyboardFocus::giveBackTo(const Owner &owner)
     const xcb_timestamp_t now = m_connection.serverTime();
     if (active != XCB_NONE) {
         m_windowManager.activate(active, m_connection.get(), now);
-        m_windowManager.askForSign(m_answers);
+        askForSign();
     }
     // The focus is set also if there is a window manager, after it was asked. Some do not notice
     // that a window loses the keyboard while a key is grabbed, as a hot key is; they think that the
@@ -91,7 +91,7 @@ bool X11KeyboardFocus::askForAnswer()
     // What Qt was told to do with its windows is asked for on its own connection: once the server
     // answers there it has told the window manager of that.
     focus();
-    m_windowManager.askForSign(m_answers);
+    askForSign();
     return true;
 }
 

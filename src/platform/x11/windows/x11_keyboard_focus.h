@@ -33,6 +33,10 @@ public:
         m_keyShield.hold(static_cast<xcb_keycode_t>(key), static_cast<std::uint16_t>(modifiers));
     }
 
+protected:
+    /// Has the window manager answer once it has done what it was asked for before.
+    void askForSign() { m_windowManager.askForSign(m_answers); }
+
 private:
     void handle(const xcb_generic_event_t &event);
     xcb_window_t focus() const;

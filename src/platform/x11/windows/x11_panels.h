@@ -6,12 +6,15 @@
 #include "platform/x11/windows/x11_compositing.h"
 #include "platform/x11/windows/x11_keyboard_focus.h"
 #include "platform/x11/windows/x11_panel_surface.h"
+#include "platform/x11/windows/xwayland_keyboard_focus.h"
+#include "platform/x11/windows/xwayland_panel_surface.h"
 
 namespace corvane {
 
-/// The X11 implementations of what panels need. The connection and the queue must outlive it.
-struct X11Panels {
-    X11Panels(X11Connection &connection, MainQueue &queue)
+/// What panels need on an X server. The connection and the queue must outlive it.
+template<typename Surface, typename Focus>
+struct PanelsOnXServer {
+    PanelsOnXServer(X11Connection &connection, MainQueue &queue)
         : surface(connection)
         , focus(connection)
         , keyboard(focus, queue)
@@ -28,11 +31,15 @@ struct X11Panels {
                 .pointingDevices = pointingDevices};
     }
 
-    X11PanelSurface surface;
-    X11KeyboardFocus focus;
+    Surface surface;
+    Focus focus;
     KeyboardLoan keyboard;
     X11Compositing compositing;
     X11PointingDevices pointingDevices;
 };
+
+using X11Panels = PanelsOnXServer<X11PanelSurface, X11KeyboardFocus>;
+/// On the one that a Wayland compositor keeps.
+using XWaylandPanels = PanelsOnXServer<XWaylandPanelSurface, XWaylandKeyboardFocus>;
 
 } // namespace corvane

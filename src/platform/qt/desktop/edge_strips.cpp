@@ -1,7 +1,9 @@
-#include "platform/wayland/windows/edge_strips.h"
+#include "platform/qt/desktop/edge_strips.h"
 
-#include "platform/wayland/windows/edge_strip.h"
-#include "platform/wayland/windows/toolkit_screen.h"
+#include "platform/desktop/strip_surface.h"
+#include "platform/qt/desktop/edge_strip.h"
+
+#include <QWindow>
 
 #include <algorithm>
 #include <cmath>
@@ -22,8 +24,8 @@ QRect areaOf(const EdgeStretch &stretch)
 
 } // namespace
 
-EdgeStrips::EdgeStrips(WaylandConnection &connection, const Screens &screens)
-    : m_connection(connection)
+EdgeStrips::EdgeStrips(StripSurface &surface, const Screens &screens)
+    : m_surface(surface)
     , m_screens(screens)
 {
 }
@@ -102,14 +104,16 @@ void EdgeStrips::retire()
 
 EdgeStrip *EdgeStrips::makeStrip(const EdgeStretch &stretch)
 {
-    QScreen *const screen = toolkitScreen(*stretch.screen);
-    if (!screen)
+    auto window = m_surface.show(*stretch.screen, areaOf(stretch));
+    if (!window)
         return nullptr;
     const auto dragEntered = [this, at = stretch.screen](bool isOwn) {
         if (const auto tell = onDragEntered)
             tell(at, isOwn);
     };
-    return new EdgeStrip(m_connection, *screen, areaOf(stretch),
+    const auto entering = m_surface.tellsTrulyWhatEnters() ? EdgeStrip::Entering::Counts
+                                                           : EdgeStrip::Entering::Unreliable;
+    return new EdgeStrip(std::move(window), entering,
                          {.pointerCame = [this, at = stretch.screen] { pointerCame(at); },
                           .pointerWent = [this] { pointerWent(); },
                           .dragEntered = dragEntered});

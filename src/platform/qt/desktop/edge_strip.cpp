@@ -1,19 +1,22 @@
-#include "platform/wayland/windows/edge_strip.h"
+#include "platform/qt/desktop/edge_strip.h"
 
 #include <QDragEnterEvent>
+#include <QWindow>
 
 #include <utility>
 
 namespace corvane {
 
-EdgeStrip::EdgeStrip(WaylandConnection &connection, QScreen &screen, const QRect &area,
-                     Events events)
-    : InvisibleWindow(connection, {&screen, LayerSurface::Layer::Top, area},
-                      LayerSurface::Keyboard::Never)
+EdgeStrip::EdgeStrip(std::unique_ptr<QWindow> window, Entering entering, Events events)
+    : m_entering(entering)
     , m_events(std::move(events))
+    , m_window(std::move(window))
 {
+    m_window->installEventFilter(this);
     m_sinceShown.start();
 }
+
+EdgeStrip::~EdgeStrip() = default;
 
 void EdgeStrip::retire()
 {
@@ -25,7 +28,7 @@ void EdgeStrip::retire()
 
 void EdgeStrip::end()
 {
-    takeAway();
+    m_window->hide();
     deleteLater();
 }
 
@@ -61,14 +64,18 @@ void EdgeStrip::dragIsGone()
         end();
 }
 
-bool EdgeStrip::event(QEvent *event)
+bool EdgeStrip::eventFilter(QObject * /*watched*/, QEvent *event)
 {
     switch (event->type()) {
+    case QEvent::Expose:
+        m_sinceShown.restart();
+        return false;
     case QEvent::Enter:
-        pointerMoved(true);
+        if (m_entering == Entering::Counts)
+            pointerMoved(true);
         return true;
     case QEvent::MouseMove:
-        pointerMoved(false);
+        pointerMoved(m_entering == Entering::Unreliable);
         return true;
     case QEvent::Leave:
         pointerLeft();
@@ -80,18 +87,18 @@ bool EdgeStrip::event(QEvent *event)
         dragEntered(enter && enter->source());
         return true;
     }
-    case QEvent::DragMove:
-        event->ignore();
-        return true;
     case QEvent::DragLeave:
     case QEvent::Drop:
         event->ignore();
         dragIsGone();
         return true;
+    case QEvent::DragMove:
+    case QEvent::Close:
+        event->ignore();
+        return true;
     default:
-        break;
+        return false;
     }
-    return InvisibleWindow::event(event);
 }
 
 } // namespace corvane

@@ -11,10 +11,10 @@
 namespace corvane {
 
 class EdgeStrip;
-class WaylandConnection;
+class StripSurface;
 
-/// Thin, invisible surfaces at the top edges of the screens, where a compositor tells of the
-/// pointer, and of what is dragged, over our own surfaces alone.
+/// Thin, invisible windows at the top edges of the screens, where a desktop tells of the
+/// pointer, and of what is dragged, over our own windows alone.
 ///
 /// They are there only while somebody watches, since a click on them reaches nobody else. They lie
 /// below windows that fill the screen. A pointer with a button held does not come to them, except
@@ -24,7 +24,7 @@ public:
     /// Points that a strip is high: a resting hand trembles, and what is dragged jumps.
     static constexpr int height = 3;
 
-    EdgeStrips(WaylandConnection &connection, const Screens &screens);
+    EdgeStrips(StripSurface &surface, const Screens &screens);
     ~EdgeStrips() override;
     EdgeStrips(const EdgeStrips &) = delete;
     EdgeStrips &operator=(const EdgeStrips &) = delete;
@@ -52,7 +52,7 @@ private:
     void pointerCame(const ScreenPointer &screen);
     void pointerWent();
 
-    WaylandConnection &m_connection;
+    StripSurface &m_surface;
     const Screens &m_screens;
     std::vector<EdgeStretch> m_watched;
     bool m_watchesDrags = false;

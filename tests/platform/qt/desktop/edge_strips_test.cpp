@@ -1,24 +1,57 @@
-// What strips make of the events that they get. There is no compositor here to show them.
+// What strips make of the events that they get.
 
 #include "fakes/fake_screens.h"
-#include "platform/wayland/base/wayland_connection.h"
-#include "platform/wayland/windows/edge_strip.h"
-#include "platform/wayland/windows/edge_strips.h"
+#include "platform/desktop/strip_surface.h"
+#include "platform/display.h"
+#include "platform/qt/desktop/edge_strips.h"
 
 #include <QDragEnterEvent>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScreen>
 #include <QStringList>
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <utility>
 
 namespace corvane::test {
 
 namespace {
+
+class FakeStripSurface : public StripSurface {
+public:
+    bool isTruthful = true;
+
+    bool tellsTrulyWhatEnters() const override { return isTruthful; }
+    std::unique_ptr<QWindow> show(const Screen &screen, const QRect &area) override
+    {
+        if (screen.nativeFrame.x() > 4000)
+            return nullptr;
+        auto window = std::make_unique<QWindow>();
+        window->setGeometry(area.translated(screen.nativeFrame.topLeft()));
+        window->show();
+        m_windows << window.get();
+        return window;
+    }
+    QList<QWindow *> shown() const
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QList<QWindow *> found;
+        for (const QPointer<QWindow> &window : m_windows) {
+            if (window)
+                found << window;
+        }
+        return found;
+    }
+
+private:
+    QList<QPointer<QWindow>> m_windows;
+};
 
 struct EdgeStripsTest : testing::Test {
     EdgeStripsTest()
@@ -42,41 +75,37 @@ struct EdgeStripsTest : testing::Test {
         values.frame = values.availableFrame = values.nativeFrame;
         return screens.attach(values);
     }
-    static QList<EdgeStrip *> shown()
-    {
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QList<EdgeStrip *> found;
-        for (QWindow *window : QGuiApplication::allWindows()) {
-            if (auto *const strip = dynamic_cast<EdgeStrip *>(window))
-                found << strip;
-        }
-        return found;
-    }
-    static QRect area()
+    QList<QWindow *> shown() const { return surface.shown(); }
+    QRect area() const
     {
         const auto all = shown();
         return all.size() == 1 ? all.first()->geometry() : QRect();
     }
-    void comeTo(EdgeStrip &strip)
+    void comeTo(QWindow &strip)
     {
         QMouseEvent move(QEvent::MouseMove, QPointF(), QPointF(), QPointF(), Qt::NoButton,
                          Qt::NoButton, Qt::NoModifier);
         QCoreApplication::sendEvent(&strip, &move);
     }
-    void leave(EdgeStrip &strip)
+    void enter(QWindow &strip)
+    {
+        QEvent enter(QEvent::Enter);
+        QCoreApplication::sendEvent(&strip, &enter);
+    }
+    void leave(QWindow &strip)
     {
         QEvent leave(QEvent::Leave);
         QCoreApplication::sendEvent(&strip, &leave);
     }
     /// Whether it would take the drop.
-    bool dragTo(EdgeStrip &strip)
+    bool dragTo(QWindow &strip)
     {
         QDragEnterEvent enter({}, Qt::CopyAction, &contents, Qt::LeftButton, Qt::NoModifier);
         enter.accept();
         QCoreApplication::sendEvent(&strip, &enter);
         return enter.isAccepted();
     }
-    static void dragAway(EdgeStrip &strip)
+    static void dragAway(QWindow &strip)
     {
         QDragLeaveEvent leave;
         QCoreApplication::sendEvent(&strip, &leave);
@@ -86,8 +115,8 @@ struct EdgeStripsTest : testing::Test {
     QPoint origin = QGuiApplication::primaryScreen()->geometry().topLeft();
     FakeScreens screens;
     ScreenPointer screen = attach(origin);
-    WaylandConnection connection;
-    EdgeStrips strips{connection, screens};
+    FakeStripSurface surface;
+    EdgeStrips strips{surface, screens};
     QMimeData contents;
     QStringList log;
 };
@@ -136,7 +165,7 @@ TEST_F(EdgeStripsTest, stayTheSameWhereTheSameIsWatched)
 TEST_F(EdgeStripsTest, tellOnceThatThePointerCameAndThatItLeft)
 {
     strips.watch({{screen, 600, 312}});
-    EdgeStrip &strip = *shown().first();
+    QWindow &strip = *shown().first();
     EXPECT_FALSE(strips.isStillThere());
     comeTo(strip);
     comeTo(strip);
@@ -146,6 +175,22 @@ TEST_F(EdgeStripsTest, tellOnceThatThePointerCameAndThatItLeft)
     leave(strip);
     EXPECT_EQ(taken(), QStringList{QStringLiteral("left")});
     EXPECT_FALSE(strips.isStillThere());
+}
+
+TEST_F(EdgeStripsTest, waitForAMoveWhereItIsNotTrueThatThePointerEnters)
+{
+    surface.isTruthful = false;
+    strips.watch({{screen, 600, 312}});
+    QWindow &strip = *shown().first();
+    comeTo(strip);
+    // As early as that it may have rested there before.
+    EXPECT_FALSE(strips.isStillThere());
+    EXPECT_TRUE(eventually([&] {
+        enter(strip);
+        EXPECT_FALSE(strips.isStillThere());
+        comeTo(strip);
+        return strips.isStillThere();
+    }));
 }
 
 TEST_F(EdgeStripsTest, summonNobodyWhereOnlyDragsAreWatchedFor)
@@ -166,7 +211,7 @@ TEST_F(EdgeStripsTest, tellOfWhatIsDraggedAndTakeNoDrop)
 TEST_F(EdgeStripsTest, tellNothingOnceTheyAreGone)
 {
     strips.watch({{screen, 600, 312}});
-    EdgeStrip &strip = *shown().first();
+    QWindow &strip = *shown().first();
     comeTo(strip);
     taken();
     strips.watch({});
@@ -181,7 +226,7 @@ TEST_F(EdgeStripsTest, tellNothingOnceTheyAreGone)
 TEST_F(EdgeStripsTest, areMadeAnewWhereTheScreensChange)
 {
     strips.watch({{screen, 600, 312}});
-    const QPointer<EdgeStrip> before(shown().first());
+    const QPointer<QWindow> before(shown().first());
     strips.renew();
     EXPECT_EQ(shown().size(), 1);
     EXPECT_TRUE(before.isNull());
@@ -195,7 +240,7 @@ TEST_F(EdgeStripsTest, mayBeReplacedByWhatTheyTell)
     EXPECT_TRUE(shown().isEmpty());
     strips.watchDrags(true);
     strips.onDragEntered = [this](const ScreenPointer &, bool) { strips.watchDrags(false); };
-    EdgeStrip &strip = *shown().first();
+    QWindow &strip = *shown().first();
     dragTo(strip);
     dragAway(strip);
     EXPECT_TRUE(shown().isEmpty());
@@ -204,10 +249,10 @@ TEST_F(EdgeStripsTest, mayBeReplacedByWhatTheyTell)
 TEST_F(EdgeStripsTest, stayUntilWhatIsDraggedOverThemHasLeft)
 {
     strips.watchDrags(true);
-    EdgeStrip &strip = *shown().first();
+    QWindow &strip = *shown().first();
     dragTo(strip);
     strips.watchDrags(false);
-    EXPECT_EQ(shown(), QList<EdgeStrip *>{&strip});
+    EXPECT_EQ(shown(), QList<QWindow *>{&strip});
     taken();
     dragTo(strip);
     EXPECT_EQ(taken(), QStringList());
@@ -218,7 +263,7 @@ TEST_F(EdgeStripsTest, stayUntilWhatIsDraggedOverThemHasLeft)
 TEST_F(EdgeStripsTest, endWithTheSessionWhateverIsDraggedOverThem)
 {
     {
-        EdgeStrips others(connection, screens);
+        EdgeStrips others(surface, screens);
         others.watchDrags(true);
         dragTo(*shown().first());
         others.watchDrags(false);

@@ -1,0 +1,52 @@
+#include "app/sessions/xwayland_session.h"
+
+namespace corvane {
+
+XWaylandSession::XWaylandSession(const SessionNeeds &needs)
+    : connection(needs.terminate)
+    , pingAnswers(connection)
+    , strips(connection)
+    , quiet(needs.mainQueue, needs.screens, strips)
+    , dragSelection(connection, [this] { quiet.noticed(); })
+    , hotKeys(keyNaming(), needs.mainQueue)
+    , panels(connection, needs.mainQueue)
+    , windowActivation(connection)
+    , dropSupport(connection, needs.mainQueue)
+    , dragSupport(connection, needs.mainQueue)
+    , trayWatch(connection)
+{
+    quiet.setToldOfDrags(connection.hasXFixes());
+    panels.surface.onPointer = [this] { quiet.dragWatch.pointerIsFree(); };
+    dropSupport.onDropped = [this] { quiet.dragWatch.droppedOnPanel(); };
+    hotKeys.service.onChosen = [this] { tellAbilities(); };
+    tellAbilities();
+}
+
+KeyNaming XWaylandSession::keyNaming() const
+{
+    return
+        [this](KeyPosition key, bool isShifted) { return keyboardLayout.nameOf(key, isShifted); };
+}
+
+void XWaylandSession::tellAbilities()
+{
+    abilities.become(quiet.abilities(hotKeys.areChosenHere()));
+}
+
+DesktopSession XWaylandSession::desktop()
+{
+    return {.abilities = abilities,
+            .screenLocator = quiet.screenLocator,
+            .dragWatch = quiet.dragWatch,
+            .edgeTrigger = quiet.edgeStrips,
+            .outsideClicks = quiet.outsideClicks,
+            .hotKeys = hotKeys.service,
+            .keyboardLayout = keyboardLayout,
+            .panels = panels.desktop(),
+            .dropSupport = &dropSupport,
+            .dragSupport = &dragSupport,
+            .windowActivation = windowActivation,
+            .trayWatch = &trayWatch};
+}
+
+} // namespace corvane

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "e2e/desktop/gtk_peer.h"
+#include "e2e/desktop_test.h"
+
+namespace corvane::e2e {
+
+inline DesktopKind sessionOf(WindowManager compositor, const NestedCompositor::Kind &kind = {})
+{
+    return {.windowManager = compositor,
+            .compositor = Compositor::None,
+            .size = {1512, 982},
+            .nested = kind};
+}
+
+/// A test in a Wayland session, whatever the program uses of it.
+class WaylandSessionTest : public DesktopTest {
+protected:
+    explicit WaylandSessionTest(const DesktopKind &kind)
+        : DesktopTest(kind)
+    {
+    }
+
+    static QRect leftPlace() { return {60, 400, 400, 200}; }
+    static QRect rightPlace() { return {900, 400, 400, 200}; }
+
+    /// In the middle of the top edge, and next to it.
+    QPoint edge() { return {server().size().width() / 2, 0}; }
+    QPoint belowEdge() { return edge() + QPoint(0, 200); }
+
+    /// With a drag in the hand whose pointer is where the shelf opens.
+    void dropWhereTheShelfOpens(GtkPeer &source)
+    {
+        wiggleUntil([&] { return corvane().isShown(); });
+        ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
+        hands().glideTo(dropPoint());
+        wiggleUntil([&] { return source.isSourceWelcome(); });
+        hands().release();
+    }
+
+    void dragOut(GtkPeer &target)
+    {
+        const QPoint item = corvane().at(38, 22);
+        hands().beginDrag(item, target.target());
+        hands().glideTo(target.target());
+        wiggleUntil([&] { return target.isTargetReady(); });
+        hands().release();
+    }
+
+    /// Only moves are told of.
+    template<class Condition>
+    void wiggleUntil(Condition condition)
+    {
+        int step = 1;
+        EXPECT_TRUE(eventually([&] {
+            hands().moveBy(QPoint(step = -step, 0));
+            return condition();
+        }));
+    }
+
+    void keep(const QString &file)
+    {
+        GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
+        ASSERT_EQ(source.problem(), QString());
+        hands().beginDrag(source.source(), edge());
+        dropOnShelf();
+        ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    }
+};
+
+/// The same in several.
+class WaylandSession : public WaylandSessionTest, public testing::WithParamInterface<DesktopKind> {
+protected:
+    WaylandSession()
+        : WaylandSessionTest(GetParam())
+    {
+    }
+};
+
+} // namespace corvane::e2e
