@@ -8,6 +8,8 @@
 #include <QJsonObject>
 #include <QStandardPaths>
 
+#include <cmath>
+
 namespace corvane::e2e {
 
 using namespace Qt::StringLiterals;
@@ -87,15 +89,17 @@ NestedKwin::NestedKwin(XServer &screen, const QProcessEnvironment &environment, 
         m_problem = u"kwin_wayland cannot be copied, or its settings cannot be written"_s;
         return;
     }
+    // Asked for in points.
+    const QSizeF size = QSizeF(screen.size()) / kind.scale;
     QStringList arguments{u"--no-lockscreen"_s,
                           u"--x11-display"_s,
                           display,
                           u"--socket"_s,
                           socket(),
                           u"--width"_s,
-                          QString::number(screen.size().width()),
+                          QString::number(std::round(size.width())),
                           u"--height"_s,
-                          QString::number(screen.size().height()),
+                          QString::number(std::round(size.height())),
                           u"--scale"_s,
                           QString::number(kind.scale)};
     if (kind.hasXWayland)
