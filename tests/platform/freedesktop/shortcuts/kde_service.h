@@ -51,7 +51,7 @@ public:
     void press(const QString &action, const QString &component = program());
     void release(const QString &action);
     /// What the user chooses in the desktop's settings.
-    void choose(const QString &action, const QList<int> &keys);
+    void choose(const QString &name, const QList<int> &keys);
 
     static QString program() { return QStringLiteral("example.test.Program"); }
     static QStringList idOf(const QString &action) { return {program(), action, {}, {}}; }
