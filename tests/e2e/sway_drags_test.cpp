@@ -1,8 +1,7 @@
 // Drags between the program and others in a Wayland session, under sway: large, slow, and such as
 // do not end well.
 
-#include "e2e/desktop/gtk_peer.h"
-#include "e2e/desktop_test.h"
+#include "e2e/wayland_session.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -18,49 +17,18 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-class SwayDrags : public DesktopTest {
+class SwayDrags : public WaylandSessionTest {
 protected:
     SwayDrags()
-        : DesktopTest({.windowManager = WindowManager::Sway,
-                       .compositor = Compositor::None,
-                       .size = {1512, 982},
-                       .sway = {}})
+        : WaylandSessionTest(sessionOf(WindowManager::Sway))
     {
     }
-
-    static QRect leftPlace() { return {60, 400, 400, 200}; }
-    static QRect rightPlace() { return {900, 400, 400, 200}; }
-    QPoint edge() { return {server().size().width() / 2, 0}; }
 
     void dropFrom(const GtkPeer &source)
     {
         ASSERT_EQ(source.problem(), QString());
         hands().beginDrag(source.source(), edge());
         dropOnShelf();
-    }
-    void keep(const QString &file)
-    {
-        GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
-        dropFrom(source);
-        ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-    }
-    void dragOut(GtkPeer &target)
-    {
-        const QPoint item = corvane().at(38, 22);
-        hands().beginDrag(item, target.target());
-        hands().glideTo(target.target());
-        wiggleUntil([&] { return target.isTargetReady(); });
-        hands().release();
-    }
-    /// Only moves are told of.
-    template<class Condition>
-    void wiggleUntil(Condition condition)
-    {
-        int step = 1;
-        EXPECT_TRUE(eventually([&] {
-            hands().moveBy(QPoint(step = -step, 0));
-            return condition();
-        }));
     }
 };
 
