@@ -20,10 +20,16 @@ void NestedCompositor::addTo(QProcessEnvironment &environment) const
     addOwnTo(environment);
 }
 
-bool NestedCompositor::showsWallpaper(XServer &screen)
+QRect scaled(const QRect &rect, double scale)
+{
+    return QRectF(rect.x() * scale, rect.y() * scale, rect.width() * scale, rect.height() * scale)
+        .toRect();
+}
+
+bool NestedCompositor::showsWallpaper(XServer &screen, const QRect &area)
 {
     return eventually([&] {
-        const QImage picture = screen.picture();
+        const QImage picture = screen.picture(area);
         return (picture.pixel(0, 0) | 0xff000000U) == wallpaper
             && (picture.pixel(picture.width() - 1, picture.height() - 1) | 0xff000000U)
             == wallpaper;

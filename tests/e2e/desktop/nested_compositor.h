@@ -54,13 +54,16 @@ protected:
     /// As desktops call themselves.
     virtual QString desktopName() const = 0;
     virtual void addOwnTo(QProcessEnvironment &environment) const = 0;
-    /// Waits until the wallpaper covers the whole screen.
-    static bool showsWallpaper(XServer &screen);
+    /// Waits until the wallpaper covers that part of the screen.
+    static bool showsWallpaper(XServer &screen, const QRect &area);
 
     QString m_problem;
     /// The X server's for X11's programs; empty without one.
     QString m_display;
     std::unique_ptr<Program> m_program;
 };
+
+/// Points as pixels, or the other way round.
+QRect scaled(const QRect &rect, double scale);
 
 } // namespace corvane::e2e

@@ -66,12 +66,6 @@ workspace.clientList().forEach(function(window) {
 });
 )";
 
-QRect scaled(const QRect &rect, double scale)
-{
-    return QRectF(rect.x() * scale, rect.y() * scale, rect.width() * scale, rect.height() * scale)
-        .toRect();
-}
-
 } // namespace
 
 NestedKwin::NestedKwin(XServer &screen, const QProcessEnvironment &environment, const Kind &kind)
@@ -110,7 +104,8 @@ NestedKwin::NestedKwin(XServer &screen, const QProcessEnvironment &environment, 
     const bool isUp = eventually([this] {
         return QFile::exists(m_folder.filePath(u"display"_s)) || !m_program->isRunning();
     });
-    if (!isUp || !m_program->isRunning() || !showsWallpaper(screen) || !run(teller)
+    if (!isUp || !m_program->isRunning() || !showsWallpaper(screen, {{}, screen.size()})
+        || !run(teller)
         || !eventually([this] { return m_program->output().contains("telling"); })) {
         m_problem = u"kwin_wayland does not start: "_s + QString::fromUtf8(m_program->output());
         return;

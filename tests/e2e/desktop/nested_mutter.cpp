@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Started once there is an X server for X11's programs.
-constexpr auto firstProgram
+constexpr auto displayTeller
     = R"(printf '%s\n' "$DISPLAY" "$XAUTHORITY" > "$0.new" && mv "$0.new" "$0"; exec sleep infinity)";
 
 } // namespace
@@ -26,7 +26,7 @@ NestedMutter::NestedMutter(XServer &screen, QProcessEnvironment environment, con
     m_program = std::make_unique<Program>(u"mutter"_s,
                                           arguments
                                               + QStringList{u"--"_s, u"sh"_s, u"-c"_s,
-                                                            QString::fromLatin1(firstProgram),
+                                                            QString::fromLatin1(displayTeller),
                                                             m_folder.filePath(u"display"_s)},
                                           environment, m_folder.path());
     const bool isUp = eventually([this] { return readDisplay() || !m_program->isRunning(); });

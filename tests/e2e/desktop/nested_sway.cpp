@@ -48,12 +48,6 @@ QRect rectFrom(const QJsonObject &json)
             json[u"height"].toInt()};
 }
 
-QRect scaled(const QRect &rect, double scale)
-{
-    return QRectF(rect.x() * scale, rect.y() * scale, rect.width() * scale, rect.height() * scale)
-        .toRect();
-}
-
 void collect(const QJsonObject &node, double scale, QList<WindowFacts> &found)
 {
     if (node.contains(u"pid")) {
@@ -87,8 +81,9 @@ NestedSway::NestedSway(XServer &screen, const QProcessEnvironment &environment, 
     m_environment.insert(u"LIBSEAT_BACKEND"_s, u"noop"_s);
     writeConfiguration(kind);
     letUserIn(screen);
-    // It looks this name up and does not make it.
+    // It looks these names up and does not make them.
     screen.atom("WM_PROTOCOLS");
+    screen.atom("WM_DELETE_WINDOW");
     m_program = startAsUser(u"sway"_s, {u"-c"_s, m_home.filePath(u"config"_s)});
     const bool isUp = eventually([this] {
         return (QFile::exists(m_home.filePath(u"display"_s)) && !fileLike(u"wayland-?"_s).isEmpty()
@@ -99,7 +94,7 @@ NestedSway::NestedSway(XServer &screen, const QProcessEnvironment &environment, 
         m_problem = u"sway does not start: "_s + QString::fromUtf8(m_program->output());
         return;
     }
-    if (!fillScreen(screen)) {
+    if (!fit(screen, {{}, screen.size()})) {
         m_problem = u"sway does not fill its screen"_s;
         return;
     }
@@ -157,25 +152,52 @@ QString NestedSway::fileLike(const QString &pattern) const
     return found.isEmpty() ? QString() : m_home.filePath(found.first());
 }
 
-/// Its one output is as large as its window.
-bool NestedSway::fillScreen(XServer &screen) const
+/// An output is as large as its window.
+bool NestedSway::fit(XServer &screen, const QRect &frame) const
 {
     const auto windows = screen.windows();
     if (windows.isEmpty())
         return false;
-    const std::array<uint32_t, 2> size = {static_cast<uint32_t>(screen.size().width()),
-                                          static_cast<uint32_t>(screen.size().height())};
+    const std::array<uint32_t, 4> place
+        = {static_cast<uint32_t>(frame.x()), static_cast<uint32_t>(frame.y()),
+           static_cast<uint32_t>(frame.width()), static_cast<uint32_t>(frame.height())};
     xcb_configure_window(screen.connection(), windows.last().id,
-                         XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT, size.data());
+                         XCB_CONFIG_WINDOW_X | XCB_CONFIG_WINDOW_Y | XCB_CONFIG_WINDOW_WIDTH
+                             | XCB_CONFIG_WINDOW_HEIGHT,
+                         place.data());
     xcb_flush(screen.connection());
     const bool fits = eventually([&] {
         const auto answer = message({u"-r"_s, u"-t"_s, u"get_outputs"_s}).value_or(QByteArray());
         const auto mode
-            = QJsonDocument::fromJson(answer).array().first()[u"current_mode"].toObject();
-        return QSize(mode[u"width"].toInt(), mode[u"height"].toInt()) == screen.size();
+            = QJsonDocument::fromJson(answer).array().last()[u"current_mode"].toObject();
+        return QSize(mode[u"width"].toInt(), mode[u"height"].toInt()) == frame.size();
     });
     // The wallpaper comes by another program.
-    return fits && showsWallpaper(screen);
+    return fits && showsWallpaper(screen, frame);
+}
+
+bool NestedSway::plug(XServer &screen, const QRect &frame) const
+{
+    const auto before = screen.windows().size();
+    message({u"create_output"_s});
+    return eventually([&] { return screen.windows().size() > before; }) && fit(screen, frame);
+}
+
+void NestedSway::unplug(XServer &screen) const
+{
+    const auto windows = screen.windows();
+    if (windows.isEmpty())
+        return;
+    xcb_client_message_event_t close{};
+    close.response_type = XCB_CLIENT_MESSAGE;
+    close.format = 32;
+    close.window = windows.last().id;
+    close.type = screen.atom("WM_PROTOCOLS");
+    close.data.data32[0] = screen.atom("WM_DELETE_WINDOW");
+    xcb_send_event(screen.connection(), 0, close.window, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char *>(&close));
+    xcb_flush(screen.connection());
+    eventually([&] { return screen.windows().size() < windows.size(); });
 }
 
 void NestedSway::letRootIn()

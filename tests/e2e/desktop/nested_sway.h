@@ -21,6 +21,11 @@ public:
     /// What `swaymsg` does; none where it fails.
     std::optional<QByteArray> message(const QStringList &arguments) const;
 
+    /// Plugs a further output in, which shows at `frame` of that screen; whether it is there.
+    bool plug(XServer &screen, const QRect &frame) const;
+    /// Unplugs the output that was plugged in last, or the one that was there from the start.
+    void unplug(XServer &screen) const;
+
 protected:
     QString socket() const override { return fileLike(QStringLiteral("wayland-?")); }
     QString desktopName() const override { return QStringLiteral("sway"); }
@@ -30,7 +35,8 @@ private:
     std::unique_ptr<Program> startAsUser(const QString &name, const QStringList &arguments);
     void writeConfiguration(const Kind &kind);
     void letUserIn(XServer &screen);
-    bool fillScreen(XServer &screen) const;
+    /// Has the output that was plugged in last show there.
+    bool fit(XServer &screen, const QRect &frame) const;
     void letRootIn();
     QString fileLike(const QString &pattern) const;
 

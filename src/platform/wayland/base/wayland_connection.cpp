@@ -7,6 +7,7 @@
 #include <QScreen>
 #include <QWindow>
 #include <qpa/qplatformnativeinterface.h>
+#include <qpa/qplatformscreen.h>
 
 #include <wayland-client.h>
 
@@ -117,7 +118,9 @@ wl_surface *WaylandConnection::surfaceOf(QWindow &window)
 
 wl_output *WaylandConnection::outputOf(QScreen *screen)
 {
-    if (!screen || !native())
+    // Qt takes the one that it makes where there are none for one of the compositor's.
+    const bool isReal = screen && screen->handle() && !screen->handle()->isPlaceholder();
+    if (!isReal || !native())
         return nullptr;
     return static_cast<wl_output *>(native()->nativeResourceForScreen("output", screen));
 }

@@ -2,6 +2,7 @@
 
 #include "layer_shell_generated.h"
 #include "platform/wayland/base/wayland_globals.h"
+#include "platform/wayland/drags/drag_versions.h"
 
 #include <QScreen>
 
@@ -14,10 +15,7 @@ namespace corvane {
 
 namespace {
 
-constexpr std::uint32_t managerVersion = 3;
-constexpr std::uint32_t seatVersion = 3;
-constexpr std::uint32_t compositorVersion = 4;
-constexpr std::uint32_t layerShellVersion = 3;
+constexpr std::uint32_t catcherShellVersion = 3;
 constexpr std::uint32_t outputVersion = 2;
 
 } // namespace
@@ -67,11 +65,11 @@ CatcherServices::CatcherServices()
     if (!display)
         return;
     bindGlobals(display,
-                {{&wl_data_device_manager_interface, managerVersion, placeOf(manager)},
-                 {&wl_compositor_interface, compositorVersion, placeOf(compositor)},
+                {{&wl_data_device_manager_interface, drag_versions::manager, placeOf(manager)},
+                 {&wl_compositor_interface, drag_versions::compositor, placeOf(compositor)},
                  {&wl_shm_interface, 1, placeOf(shm)},
-                 {&wl_seat_interface, seatVersion, placeOf(seat)},
-                 {&zwlr_layer_shell_v1_interface, layerShellVersion, placeOf(layerShell)}});
+                 {&wl_seat_interface, drag_versions::seat, placeOf(seat)},
+                 {&zwlr_layer_shell_v1_interface, catcherShellVersion, placeOf(layerShell)}});
     m_registry = wl_display_get_registry(display);
     wl_registry_add_listener(m_registry, &Listeners::registry, this);
     connection.flush();
@@ -96,7 +94,7 @@ CatcherServices::~CatcherServices()
 bool CatcherServices::areAll() const
 {
     return connection.display() && manager && compositor && shm && seat && layerShell
-        && wl_data_device_manager_get_version(manager) >= managerVersion;
+        && wl_data_device_manager_get_version(manager) >= drag_versions::manager;
 }
 
 wl_output *CatcherServices::outputOf(const QScreen &screen) const

@@ -5,6 +5,7 @@
 #include "platform/wayland/base/wayland_connection.h"
 #include "platform/wayland/base/wayland_globals.h"
 #include "platform/wayland/drags/drag_trip.h"
+#include "platform/wayland/drags/drag_versions.h"
 #include "platform/wayland/drags/pipe_delivery.h"
 
 #include <QWindow>
@@ -16,24 +17,15 @@
 
 namespace corvane {
 
-namespace {
-
-/// The first versions that tell everything; more of the pointer is not asked for.
-constexpr std::uint32_t managerVersion = 3;
-constexpr std::uint32_t seatVersion = 3;
-constexpr std::uint32_t compositorVersion = 4;
-
-} // namespace
-
 WaylandDragCarrier::Services::Services(WaylandConnection &connection)
 {
     if (!connection.display())
         return;
     bindGlobals(connection.display(),
-                {{&wl_data_device_manager_interface, managerVersion, placeOf(manager)},
-                 {&wl_compositor_interface, compositorVersion, placeOf(compositor)},
+                {{&wl_data_device_manager_interface, drag_versions::manager, placeOf(manager)},
+                 {&wl_compositor_interface, drag_versions::compositor, placeOf(compositor)},
                  {&wl_shm_interface, 1, placeOf(shm)},
-                 {&wl_seat_interface, seatVersion, placeOf(seat)}});
+                 {&wl_seat_interface, drag_versions::seat, placeOf(seat)}});
 }
 
 WaylandDragCarrier::Services::~Services()
@@ -60,7 +52,7 @@ WaylandDragCarrier::~WaylandDragCarrier() = default;
 bool WaylandDragCarrier::isAble() const
 {
     return m_services.seat && m_services.manager
-        && wl_data_device_manager_get_version(m_services.manager) >= managerVersion;
+        && wl_data_device_manager_get_version(m_services.manager) >= drag_versions::manager;
 }
 
 bool WaylandDragCarrier::isCarrying() const

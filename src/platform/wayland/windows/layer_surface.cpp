@@ -43,11 +43,11 @@ LayerSurface::LayerSurface(WaylandConnection &connection, QWindow &window, const
     : m_connection(connection)
     , m_surface(WaylandConnection::surfaceOf(window))
 {
-    if (!m_surface || !connection.layerShell())
+    wl_output *const output = WaylandConnection::outputOf(place.screen);
+    if (!m_surface || !output || !connection.layerShell())
         return;
     m_layerSurface = zwlr_layer_shell_v1_get_layer_surface(
-        connection.layerShell(), m_surface, WaylandConnection::outputOf(place.screen),
-        static_cast<std::uint32_t>(place.layer), label);
+        connection.layerShell(), m_surface, output, static_cast<std::uint32_t>(place.layer), label);
     zwlr_layer_surface_v1_add_listener(m_layerSurface, &Listener::all, this);
     zwlr_layer_surface_v1_set_anchor(
         m_layerSurface, ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT);

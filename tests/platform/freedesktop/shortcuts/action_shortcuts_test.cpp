@@ -1,5 +1,6 @@
 #include "platform/desktop/stored_modifiers.h"
 #include "platform/freedesktop/shortcuts/action_shortcuts.h"
+#include "platform/freedesktop/shortcuts/super_shift.h"
 
 #include <gtest/gtest.h>
 
@@ -7,7 +8,7 @@ namespace corvane::test {
 
 namespace {
 
-std::vector<DesktopAction> actions()
+std::vector<DesktopAction> commandActions()
 {
     return {{.id = 1,
              .name = QStringLiteral("toggle"),
@@ -24,13 +25,11 @@ KeyName typesD(KeyPosition /*key*/, bool /*isShifted*/)
     return {.text = QStringLiteral("d"), .symbol = QStringLiteral("d")};
 }
 
-constexpr std::uint32_t superShift = stored_modifiers::command | stored_modifiers::shift;
-
 } // namespace
 
 TEST(ActionShortcuts, SayWhichCommandToBindAndInWhichLine)
 {
-    ActionShortcuts shortcuts(actions(), key_notation::Settings::Sway, typesD);
+    ActionShortcuts shortcuts(commandActions(), key_notation::Settings::Sway, typesD);
     EXPECT_EQ(shortcuts.presence(), OptionalHotKeys::Presence::There);
     EXPECT_EQ(shortcuts.choice(), ShortcutChoice::InTheDesktop);
     EXPECT_EQ(shortcuts.registerHotKey(KeyPosition::D, superShift, {1, 1}, {}).outcome,
@@ -40,7 +39,7 @@ TEST(ActionShortcuts, SayWhichCommandToBindAndInWhichLine)
 
 TEST(ActionShortcuts, SayTheCommandAloneWhereNoKeysAreWantedOrTheSettingsAreUnknown)
 {
-    ActionShortcuts shortcuts(actions(), key_notation::Settings::Unknown, typesD);
+    ActionShortcuts shortcuts(commandActions(), key_notation::Settings::Unknown, typesD);
     const auto command = ShortcutOutcome::setInDesktop(QStringLiteral("corvane-all"));
     EXPECT_EQ(shortcuts.registerHotKey(KeyPosition::D, superShift, {1, 2}, {}).outcome, command);
     EXPECT_EQ(shortcuts.outcomeWithoutKeys({1, 2}), command);
@@ -48,7 +47,7 @@ TEST(ActionShortcuts, SayTheCommandAloneWhereNoKeysAreWantedOrTheSettingsAreUnkn
 
 TEST(ActionShortcuts, KnowNoOtherHotKeys)
 {
-    ActionShortcuts shortcuts(actions(), key_notation::Settings::Sway, typesD);
+    ActionShortcuts shortcuts(commandActions(), key_notation::Settings::Sway, typesD);
     EXPECT_TRUE(
         shortcuts.registerHotKey(KeyPosition::D, superShift, {1, 3}, {}).outcome.isRefused());
     EXPECT_EQ(shortcuts.outcomeWithoutKeys({1, 3}), ShortcutOutcome());

@@ -2,6 +2,7 @@
 #include "platform/display.h"
 #include "platform/freedesktop/shortcuts/kde_service.h"
 #include "platform/freedesktop/shortcuts/kde_shortcuts.h"
+#include "platform/freedesktop/shortcuts/super_shift.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,6 @@ namespace {
 
 using enum OptionalHotKeys::Presence;
 
-constexpr std::uint32_t superShift = stored_modifiers::command | stored_modifiers::shift;
 constexpr int metaShift = static_cast<int>(Qt::META) | static_cast<int>(Qt::SHIFT);
 constexpr int metaShiftD = metaShift | Qt::Key_D;
 constexpr int metaShiftK = metaShift | Qt::Key_K;
@@ -22,7 +22,7 @@ constexpr KeyPosition keyK{40};
 const auto toggle = QStringLiteral("toggle");
 const auto viewAll = QStringLiteral("view-all");
 
-std::vector<DesktopAction> actions()
+std::vector<DesktopAction> kdeActions()
 {
     return {{.id = 1,
              .name = toggle,
@@ -47,7 +47,7 @@ protected:
     void start(int patience = KdeShortcuts::answerMilliseconds)
     {
         keys.emplace(KdeShortcuts::Component{KdeService::program(), QStringLiteral("Program")},
-                     actions(), ansi, patience);
+                     kdeActions(), ansi, patience);
         presence = keys->observePresence([this] { presences.push_back(keys->presence()); });
         keys->installHandler([this](const std::optional<HotKeyIdentifier> &pressed) {
             heard.push_back(pressed->id);

@@ -1,18 +1,12 @@
 #include "platform/freedesktop/shortcuts/portal_service.h"
 
+#include "platform/freedesktop/shortcuts/desktop_portal.h"
+
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 
 namespace corvane::test {
-
-namespace {
-
-const auto service = QStringLiteral("org.freedesktop.portal.Desktop");
-const auto path = QStringLiteral("/org/freedesktop/portal/desktop");
-const auto interface = QStringLiteral("org.freedesktop.portal.GlobalShortcuts");
-
-} // namespace
 
 QDBusArgument &operator<<(QDBusArgument &to, const PortalEntry &entry)
 {
@@ -34,7 +28,7 @@ PortalService::PortalService()
 {
     qDBusRegisterMetaType<PortalEntry>();
     qDBusRegisterMetaType<PortalEntries>();
-    m_bus.registerObject(path, this,
+    m_bus.registerObject(desktop_portal::path, this,
                          QDBusConnection::ExportScriptableInvokables
                              | QDBusConnection::ExportAllProperties);
 }
@@ -47,24 +41,24 @@ PortalService::~PortalService()
 
 void PortalService::come()
 {
-    m_bus.registerService(service);
+    m_bus.registerService(desktop_portal::service);
 }
 
 void PortalService::go()
 {
-    m_bus.unregisterService(service);
+    m_bus.unregisterService(desktop_portal::service);
 }
 
 QString PortalService::sessionPath(int number)
 {
-    return path + QStringLiteral("/session/%1").arg(number);
+    return desktop_portal::path + QStringLiteral("/session/%1").arg(number);
 }
 
 QString PortalService::requestOf(const QVariantMap &options) const
 {
     QString sender = message().service().mid(1);
     sender.replace(QLatin1Char('.'), QLatin1Char('_'));
-    return path + QStringLiteral("/request/") + sender + QLatin1Char('/')
+    return desktop_portal::path + QStringLiteral("/request/") + sender + QLatin1Char('/')
         + options.value(QStringLiteral("handle_token")).toString();
 }
 
@@ -120,7 +114,8 @@ void PortalService::userSays(bool yes)
 
 void PortalService::press(const QString &shortcut, int session)
 {
-    auto signal = QDBusMessage::createSignal(path, interface, QStringLiteral("Activated"));
+    auto signal = QDBusMessage::createSignal(desktop_portal::path, desktop_portal::globalShortcuts,
+                                             QStringLiteral("Activated"));
     signal << QVariant::fromValue(QDBusObjectPath(sessionPath(session))) << shortcut << quint64(0)
            << QVariantMap();
     m_bus.send(signal);
@@ -129,7 +124,8 @@ void PortalService::press(const QString &shortcut, int session)
 void PortalService::choose(const QString &keys)
 {
     m_keys = keys;
-    auto signal = QDBusMessage::createSignal(path, interface, QStringLiteral("ShortcutsChanged"));
+    auto signal = QDBusMessage::createSignal(desktop_portal::path, desktop_portal::globalShortcuts,
+                                             QStringLiteral("ShortcutsChanged"));
     signal << QVariant::fromValue(
         QDBusObjectPath(sessionPath(static_cast<int>(sessions.size()) - 1)))
            << listed();

@@ -2,6 +2,7 @@
 #include "platform/display.h"
 #include "platform/freedesktop/shortcuts/portal_service.h"
 #include "platform/freedesktop/shortcuts/portal_shortcuts.h"
+#include "platform/freedesktop/shortcuts/super_shift.h"
 #include "platform/qt/base/qt_main_queue.h"
 
 #include <gtest/gtest.h>
@@ -14,11 +15,9 @@ namespace {
 
 using enum OptionalHotKeys::Presence;
 
-constexpr std::uint32_t superShift = stored_modifiers::command | stored_modifiers::shift;
-
 const auto command = ShortcutOutcome::setInDesktop(QStringLiteral("corvane"));
 
-std::vector<DesktopAction> actions()
+std::vector<DesktopAction> portalActions()
 {
     return {{.id = 1,
              .name = QStringLiteral("toggle"),
@@ -39,7 +38,7 @@ class PortalShortcutsTest : public testing::Test {
 protected:
     void start(double patience = PortalShortcuts::sessionPatience)
     {
-        keys.emplace(actions(), typesD, queue, patience);
+        keys.emplace(portalActions(), typesD, queue, patience);
         keys->installHandler([this](const std::optional<HotKeyIdentifier> &pressed) {
             heard.push_back(pressed->id);
         });
