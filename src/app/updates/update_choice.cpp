@@ -71,7 +71,7 @@ public:
             m_trust.remember(one.release);
         if (verdict)
             return {*verdict, {}, m_renewed, m_trust};
-        if (auto offer = newestOffer())
+        if (auto offer = newestOffer(); offer && !isSurpassed(*offer))
             return {UpdateChoice::Verdict::Newer, std::move(offer), {}, m_trust};
         return {isMoreAnnounced() ? UpdateChoice::Verdict::Unverifiable
                                   : UpdateChoice::Verdict::UpToDate,
@@ -131,8 +131,9 @@ private:
 
     bool goesBack(const QString &channel) const
     {
-        const auto number = m_trust.highestNumber(channel);
-        const auto version = m_trust.highestVersion(channel);
+        const QString &architecture = m_audience.system.architecture;
+        const auto number = m_trust.highestNumber(channel, architecture);
+        const auto version = m_trust.highestVersion(channel, architecture);
         bool hasNumber = !number;
         bool hasVersion = !version;
         for (const Stated &one : m_stated) {
@@ -170,6 +171,16 @@ private:
             }
         }
         return offer;
+    }
+
+    /// Whether something newer is stated that would run here, and that the feed does not keep: an
+    /// older release in its place would be the choice of whoever broke the feed.
+    bool isSurpassed(const UpdateOffer &offer) const
+    {
+        return std::ranges::any_of(m_stated, [&](const Stated &one) {
+            return couldRun(one.statement()) && one.statement().expiry > m_now
+                && one.statement().version > offer.release.statement().version;
+        });
     }
 
     bool couldRun(const ReleaseStatement &statement) const

@@ -25,6 +25,18 @@ bool hasLowerVersion(const VerifiedRelease &a, const VerifiedRelease &b)
     return a.statement().version < b.statement().version;
 }
 
+/// Numbers and versions are compared within one channel and for one machine.
+bool isOfLine(const VerifiedRelease &release, const QString &channel, const QString &architecture)
+{
+    return release.statement().channel == channel
+        && release.statement().architecture == architecture;
+}
+
+bool isOfLine(const VerifiedRelease &release, const ReleaseStatement &other)
+{
+    return isOfLine(release, other.channel, other.architecture);
+}
+
 } // namespace
 
 UpdateTrust::UpdateTrust(const std::optional<UpdateKey> &builtIn, QString application)
@@ -123,35 +135,40 @@ QList<UpdateKey> UpdateTrust::keys() const
 
 void UpdateTrust::remember(const VerifiedRelease &release)
 {
-    const QString channel = release.statement().channel;
-    QList<VerifiedRelease> ofChannel{release};
+    // The last word of a key whose time is over: a thief may have written it as well, with a number
+    // that nothing is higher than and the genuine key as the next one.
+    if (!m_rotations.isEmpty() && m_rotations.constLast().source() == release.source())
+        return;
+    QList<VerifiedRelease> ofLine{release};
     QList<VerifiedRelease> others;
     for (const VerifiedRelease &one : std::as_const(m_remembered))
-        (one.statement().channel == channel ? ofChannel : others) << one;
-    const auto latest = std::ranges::max_element(ofChannel, hasLowerNumber);
-    const auto newest = std::ranges::max_element(ofChannel, hasLowerVersion);
+        (isOfLine(one, release.statement()) ? ofLine : others) << one;
+    const auto latest = std::ranges::max_element(ofLine, hasLowerNumber);
+    const auto newest = std::ranges::max_element(ofLine, hasLowerVersion);
     m_remembered = others;
     m_remembered << *latest;
     if (newest->statement().version != latest->statement().version)
         m_remembered << *newest;
 }
 
-std::optional<qint64> UpdateTrust::highestNumber(const QString &channel) const
+std::optional<qint64> UpdateTrust::highestNumber(const QString &channel,
+                                                 const QString &architecture) const
 {
     std::optional<qint64> highest;
     for (const VerifiedRelease &one : m_remembered) {
-        if (one.statement().channel == channel)
+        if (isOfLine(one, channel, architecture))
             highest = std::max(highest.value_or(0), one.statement().number);
     }
     return highest;
 }
 
-std::optional<UpdateVersion> UpdateTrust::highestVersion(const QString &channel) const
+std::optional<UpdateVersion> UpdateTrust::highestVersion(const QString &channel,
+                                                         const QString &architecture) const
 {
     std::optional<UpdateVersion> highest;
     for (const VerifiedRelease &one : m_remembered) {
         const UpdateVersion &version = one.statement().version;
-        if (one.statement().channel == channel && (!highest || *highest < version))
+        if (isOfLine(one, channel, architecture) && (!highest || *highest < version))
             highest = version;
     }
     return highest;

@@ -16,7 +16,8 @@ struct UpdateMemory {
     QByteArray builtInKey;
     /// Each of them names the key that signed what follows.
     QList<ClaimedStatement> rotations;
-    /// For each channel the one with the highest number and that of the highest version.
+    /// For each channel and machine the one with the highest number and that of the highest
+    /// version.
     QList<ClaimedStatement> releases;
 };
 
@@ -51,10 +52,12 @@ public:
     /// before its statement was renewed with another key.
     QList<UpdateKey> keys() const;
 
+    /// Not of the statement that ended a key's time: its number is of that time.
     void remember(const VerifiedRelease &release);
-    /// Of all that were remembered of the channel; none where there were none.
-    std::optional<qint64> highestNumber(const QString &channel) const;
-    std::optional<UpdateVersion> highestVersion(const QString &channel) const;
+    /// Of all that were remembered of the channel for such machines; none where there were none.
+    std::optional<qint64> highestNumber(const QString &channel, const QString &architecture) const;
+    std::optional<UpdateVersion> highestVersion(const QString &channel,
+                                                const QString &architecture) const;
 
 private:
     bool rotate(const ClaimedStatement &claim);

@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <map>
 
 namespace corvane::test {
@@ -103,6 +104,16 @@ private:
         return best;
     }
 
+    /// Whether something newer than all that can be offered is stated, and not kept.
+    bool isSurpassed(const QList<Made> &feed) const
+    {
+        const int best = bestOf(feed);
+        return std::ranges::any_of(feed, [&](const Made &one) {
+            return isRead(one) && !isOver(one) && couldRun(one)
+                && one.statement.version.toInt() > best;
+        });
+    }
+
     Verdict expectedOf(const QList<Made> &feed)
     {
         std::map<QByteArray, Highest> present;
@@ -123,7 +134,7 @@ private:
             }
         }
         Verdict verdict = isAnnounced ? Verdict::Unverifiable : Verdict::UpToDate;
-        if (bestOf(feed) > 0)
+        if (bestOf(feed) > 0 && !isSurpassed(feed))
             verdict = Verdict::Newer;
         for (const auto &[channel, one] : latest) {
             if (isOver(*one))

@@ -220,6 +220,36 @@ TEST_F(UpdateChoiceTest, WhatIsMixedFromTwoReleasesIsNotOffered)
     EXPECT_TRUE(mixed(statement.attributes(key.sign(file)).replace("plain-text", "html")));
 }
 
+TEST_F(UpdateChoiceTest, AnOlderReleaseIsNotOfferedInPlaceOfANewerOneThatTheFeedDoesNotKeep)
+{
+    const QByteArray broken = item("13").replace("Notes of 13", "Notes of 8");
+    EXPECT_EQ(verdict(item("12") + broken), Verdict::Unverifiable);
+    EXPECT_EQ(offered(item("12") + item("13")), QStringLiteral("13"));
+}
+
+TEST_F(UpdateChoiceTest, AThiefWhoHandsOverToTheGenuineKeyDoesNotEndUpdates)
+{
+    const TestKey next;
+    Statement last = build("99");
+    last.number = "1000000000000000";
+    last.nextKey = next.publicBytes();
+    EXPECT_EQ(verdict(item(last)), Verdict::Newer) << "the thief is believed as long as the key is";
+    EXPECT_EQ(verdict(build("11").item(next, file)), Verdict::Newer);
+    EXPECT_EQ(verdict(build("12").item(next, file)), Verdict::Newer);
+    EXPECT_EQ(verdict(build("11").item(next, file)), Verdict::WentBack);
+}
+
+TEST_F(UpdateChoiceTest, WhatWasStatedForAnotherMachineIsNotWhatThisOneGoesBackBehind)
+{
+    Statement other = build("12");
+    other.architecture = "arm64";
+    const QByteArray both = item("11") + item(other);
+    audience.system.architecture = QStringLiteral("arm64");
+    EXPECT_EQ(verdict(both), Verdict::Newer);
+    audience.system.architecture = QStringLiteral("x86_64");
+    EXPECT_EQ(verdict(both), Verdict::Newer) << "with a state folder that both machines share";
+}
+
 TEST_F(UpdateChoiceTest, AFileThatIsTooLargeIsNotOffered)
 {
     Statement large = build("11");

@@ -36,7 +36,16 @@ protected:
         ASSERT_TRUE(release);
         trust.remember(*release);
     }
-    std::optional<qint64> number() const { return trust.highestNumber(ReleaseStatement::stable); }
+    static std::optional<qint64> numberIn(const UpdateTrust &trust,
+                                          const QString &channel = ReleaseStatement::stable)
+    {
+        return trust.highestNumber(channel, QStringLiteral("x86_64"));
+    }
+    std::optional<qint64> number() const { return numberIn(trust); }
+    std::optional<UpdateVersion> version() const
+    {
+        return trust.highestVersion(ReleaseStatement::stable, QStringLiteral("x86_64"));
+    }
 
     TestKey first;
     TestKey second;
@@ -81,9 +90,21 @@ TEST_F(UpdateTrustTest, RemembersTheHighestOfEachChannel)
     remember(claim(release("10"), first));
     remember(claim(release("40", "beta"), first));
     EXPECT_EQ(number(), 30);
-    EXPECT_EQ(trust.highestVersion(ReleaseStatement::stable)->text(), QStringLiteral("12"));
-    EXPECT_EQ(trust.highestNumber(ReleaseStatement::beta), 40);
+    EXPECT_EQ(version()->text(), QStringLiteral("12"));
+    EXPECT_EQ(numberIn(trust, ReleaseStatement::beta), 40);
     EXPECT_EQ(trust.memory().releases.size(), 3);
+}
+
+TEST_F(UpdateTrustTest, WhatIsStatedForOtherMachinesIsRememberedApart)
+{
+    Statement other = release("12");
+    other.architecture = "arm64";
+    remember(claim(release("11"), first));
+    remember(claim(other, first));
+    EXPECT_EQ(number(), 11);
+    EXPECT_EQ(version()->text(), QStringLiteral("11"));
+    EXPECT_EQ(trust.highestNumber(ReleaseStatement::stable, QStringLiteral("arm64")), 12);
+    EXPECT_EQ(trust.memory().releases.size(), 2);
 }
 
 TEST_F(UpdateTrustTest, WhatWasRememberedIsRecalledByItsSignaturesAlone)
@@ -91,13 +112,13 @@ TEST_F(UpdateTrustTest, WhatWasRememberedIsRecalledByItsSignaturesAlone)
     remember(claim(release("12"), first));
     UpdateTrust later = trustIn(first);
     EXPECT_TRUE(later.recall(trust.memory()));
-    EXPECT_EQ(later.highestNumber(ReleaseStatement::stable), 12);
+    EXPECT_EQ(numberIn(later), 12);
 
     UpdateMemory poisoned = trust.memory();
     poisoned.releases << claim(release("999999999999999"), second);
     UpdateTrust healed = trustIn(first);
     EXPECT_FALSE(healed.recall(poisoned));
-    EXPECT_EQ(healed.highestNumber(ReleaseStatement::stable), 12) << "the rest of it counts";
+    EXPECT_EQ(numberIn(healed), 12) << "the rest of it counts";
 }
 
 TEST_F(UpdateTrustTest, AStatementOfTheOldKeyMayNameTheNextOne)
@@ -156,7 +177,19 @@ TEST_F(UpdateTrustTest, ANumberThatAThiefUsedUpEndsWithTheKey)
     EXPECT_EQ(number(), 1'000'000'000'000'000);
     trust.follow({handover("12", first, second)});
     EXPECT_FALSE(number());
-    EXPECT_FALSE(trust.highestVersion(ReleaseStatement::stable));
+    EXPECT_FALSE(version());
+}
+
+TEST_F(UpdateTrustTest, ANumberThatAThiefUsedUpInHandingOverToTheGenuineKeyEndsWithTheOldOne)
+{
+    Statement handover = release("99999");
+    handover.number = "1000000000000000";
+    handover.nextKey = second.publicBytes();
+    trust.follow({claim(handover, first)});
+    remember(claim(handover, first));
+    EXPECT_FALSE(number());
+    remember(claim(release("13"), second));
+    EXPECT_EQ(number(), 13);
 }
 
 TEST_F(UpdateTrustTest, RotationsAreRememberedAcrossStarts)
@@ -165,7 +198,7 @@ TEST_F(UpdateTrustTest, RotationsAreRememberedAcrossStarts)
     remember(claim(release("13"), second));
     UpdateTrust later = trustIn(first);
     EXPECT_TRUE(later.recall(trust.memory()));
-    EXPECT_EQ(later.highestNumber(ReleaseStatement::stable), 13);
+    EXPECT_EQ(numberIn(later), 13);
     EXPECT_FALSE(later.verified(claim(release("14"), first)));
 }
 
@@ -175,7 +208,7 @@ TEST_F(UpdateTrustTest, ABuildWithTheNextKeyTakesOverWhatItCanCheckAndComplainsO
     remember(claim(release("13"), second));
     UpdateTrust rebuilt = trustIn(second);
     EXPECT_TRUE(rebuilt.recall(trust.memory()));
-    EXPECT_EQ(rebuilt.highestNumber(ReleaseStatement::stable), 13);
+    EXPECT_EQ(numberIn(rebuilt), 13);
 }
 
 } // namespace corvane::test
