@@ -202,6 +202,19 @@ TEST_F(UpdateTrustTest, RotationsAreRememberedAcrossStarts)
     EXPECT_FALSE(later.verified(claim(release("14"), first)));
 }
 
+TEST_F(UpdateTrustTest, ARememberedRotationCountsForNoMoreThanOneInAFeed)
+{
+    Statement other = release("12");
+    other.application = "example.corvane.Other";
+    other.nextKey = second.publicBytes();
+    UpdateMemory memory{first.publicBytes(), {claim(other, first)}, {}};
+    EXPECT_FALSE(trust.recall(memory)) << "it is about another program";
+    EXPECT_EQ(trust.keys().size(), 1);
+    memory.rotations = {handover("12", first, second), handover("13", second, first)};
+    EXPECT_FALSE(trust.recall(memory)) << "a key does not come back";
+    EXPECT_TRUE(trust.verified(claim(release("14"), second)));
+}
+
 TEST_F(UpdateTrustTest, ABuildWithTheNextKeyTakesOverWhatItCanCheckAndComplainsOfNothing)
 {
     trust.follow({handover("12", first, second)});
