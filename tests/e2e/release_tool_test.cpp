@@ -112,6 +112,25 @@ TEST_F(ReleaseTool, aBuildThatIsNotHigherIsRefusedAndTheFeedStays)
     EXPECT_EQ(publish(u"12"_s), 0) << said.toStdString();
 }
 
+TEST_F(ReleaseTool, anAddressThatIsTakenOrThatNobodyDownloadsFromIsRefused)
+{
+    ASSERT_EQ(publish(u"11"_s), 0) << said.toStdString();
+    const QByteArray before = feed();
+    EXPECT_NE(publish(u"12"_s), 0);
+    EXPECT_TRUE(said.contains("has this address")) << said.toStdString();
+    address = u"http://corvane.example/newer.AppImage"_s;
+    EXPECT_NE(publish(u"12"_s), 0);
+    EXPECT_TRUE(said.contains("https")) << said.toStdString();
+    EXPECT_EQ(feed(), before);
+}
+
+TEST_F(ReleaseTool, notesThatAreNotThereAreRefused)
+{
+    EXPECT_NE(publish(u"11"_s, {u"--notes"_s, path("missing.txt")}), 0);
+    EXPECT_TRUE(said.contains("cannot be read")) << said.toStdString();
+    EXPECT_EQ(feed(), QByteArray());
+}
+
 TEST_F(ReleaseTool, betasHaveNoNumbersOfTheirOwn)
 {
     ASSERT_EQ(publish(u"12"_s, {u"--channel"_s, u"beta"_s}), 0) << said.toStdString();
@@ -166,6 +185,20 @@ TEST_F(ReleaseTool, aFeedOfAnotherKeyIsNotContinued)
     write("key.pem", test::TestKey().pem());
     EXPECT_NE(renew({u"--first-key"_s, key.publicText()}), 0);
     EXPECT_TRUE(said.contains("another key")) << said.toStdString();
+}
+
+TEST_F(ReleaseTool, whatNamedTheNextKeyIsNotLostWhereTheFirstKeyIsForgotten)
+{
+    const test::TestKey next;
+    write("next.pem", next.pem());
+    ASSERT_EQ(publish(u"11"_s, {u"--next-key"_s, path("next.pem")}), 0) << said.toStdString();
+    const QByteArray before = feed();
+    const QStringList byNext{u"--key"_s, path("next.pem"), u"--feed"_s, path("feed.xml")};
+    EXPECT_NE(run(byNext), 0);
+    EXPECT_TRUE(said.contains("--first-key")) << said.toStdString();
+    EXPECT_EQ(feed(), before);
+    EXPECT_EQ(run(byNext + QStringList{u"--first-key"_s, key.publicText()}), 0)
+        << said.toStdString();
 }
 
 TEST_F(ReleaseTool, whatIsRenewedSaysTheSameWithHigherNumbers)

@@ -29,12 +29,12 @@ QCommandLineOption option(const char *name, const char *description, const char 
             otherwise};
 }
 
-/// The contents, empty where there is no such file; false where it cannot be read.
+/// The contents, empty where none is named; false where it cannot be read.
 bool readFile(const QString &path, QByteArray &bytes)
 {
-    QFile file(path);
-    if (!file.exists())
+    if (path.isEmpty())
         return true;
+    QFile file(path);
     if (!file.open(QFile::ReadOnly))
         return false;
     bytes = file.readAll();
@@ -132,7 +132,9 @@ private:
         QByteArray before;
         QByteArray notes;
         QByteArray file;
-        if (!readFile(value("feed"), before) || !readFile(value("notes"), notes)
+        // The first release makes the feed.
+        const bool hasFeed = QFile::exists(value("feed"));
+        if ((hasFeed && !readFile(value("feed"), before)) || !readFile(value("notes"), notes)
             || !readFile(value("file"), file))
             return refuse(QStringLiteral("A file cannot be read."));
 
@@ -144,7 +146,9 @@ private:
         maker.sign(next);
         const QByteArray feed = maker.feed();
         const SelfCheck check{*first, value("application"), now};
-        error = isRelease ? check.ofRelease(feed, asked(), file) : check.ofFeed(feed);
+        error = isRelease ? check.ofRelease(feed, asked(), file) : QString();
+        if (error.isEmpty())
+            error = check.ofFeed(feed);
         if (!error.isEmpty())
             return refuse(error);
         QSaveFile written(value("feed"));

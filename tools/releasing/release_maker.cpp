@@ -6,6 +6,7 @@
 #include "feed_writer.h"
 
 #include <QCryptographicHash>
+#include <QHostAddress>
 
 #include <algorithm>
 #include <span>
@@ -70,6 +71,15 @@ bool ReleaseMaker::open(const QByteArray &feed, QString &error)
                     .arg(QString::fromLatin1(keys.constLast().bytes().toBase64()));
         return false;
     }
+    // One that none of them signed would be lost, and with it perhaps the way from the first key.
+    const QList<ClaimedStatement> claims = claimsOf(m_items);
+    if (!std::ranges::all_of(claims, [&](const ClaimedStatement &claim) {
+            return verifiedBy(keys, claim).has_value();
+        })) {
+        error = QStringLiteral("The feed has a statement that neither the first key nor one after "
+                               "it signed: is --first-key right?");
+        return false;
+    }
     gather(keys);
     return true;
 }
@@ -107,6 +117,19 @@ bool ReleaseMaker::isNewest(const ReleaseStatement &statement) const
     });
 }
 
+QString ReleaseMaker::objectionTo(const QUrl &address) const
+{
+    // Of http only what stands on the maker's own machine is ever fetched, when updates are tried
+    // out.
+    const bool isHere = QHostAddress(address.host()).isLoopback();
+    if (address.scheme() != QLatin1String("https") && !isHere)
+        return QStringLiteral("The address is not one of https.");
+    // What is stated of a file holds as long as the file is there.
+    const bool isTaken = std::ranges::any_of(
+        m_stated, [&](const Stated &one) { return one.statement.address == address; });
+    return isTaken ? QStringLiteral("Another release in the feed has this address.") : QString();
+}
+
 bool ReleaseMaker::add(ReleaseStatement statement, const QByteArray &file, const QString &notes,
                        QString &error)
 {
@@ -126,6 +149,8 @@ bool ReleaseMaker::add(ReleaseStatement statement, const QByteArray &file, const
         error = QStringLiteral("The file is no AppImage for %1 that carries the line %2.")
                     .arg(statement.architecture,
                          QString::fromUtf8(app_image_bytes::mark(m_application).trimmed()));
+    else
+        error = objectionTo(statement.address);
     if (!error.isEmpty())
         return false;
     const qsizetype item = itemFor(statement, notes);

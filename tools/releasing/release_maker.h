@@ -56,6 +56,7 @@ private:
     };
 
     void sign(Stated &stated, const SigningKey &key, const QByteArray &nextKey);
+    QString objectionTo(const QUrl &address) const;
     bool isNewest(const ReleaseStatement &statement) const;
     qsizetype itemFor(const ReleaseStatement &statement, const QString &notes);
     void gather(const QList<UpdateKey> &keys);

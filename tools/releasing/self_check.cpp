@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <memory>
 
 namespace corvane {
@@ -26,6 +27,15 @@ bool isTaken(const UpdateOffer &offer, const QByteArray &bytes)
         = VerifiedDownload::of(file, offer.release, offer.keys, offer.fileSignature);
     return download
         && (offer.release.statement().kind != ReleaseStatement::appImage || download->isAppImage());
+}
+
+/// Whether the item has the file and the notes that are stated.
+bool isKept(const ClaimedRelease &item, const ReleaseStatement &statement)
+{
+    return ReleaseStatement::digestOfNotes(item.notes) == statement.notesDigest
+        && std::ranges::any_of(item.files, [&](const ClaimedFile &file) {
+               return file.url == statement.address && file.length == statement.length;
+           });
 }
 
 } // namespace
@@ -61,12 +71,20 @@ QString SelfCheck::ofFeed(const QByteArray &feed) const
         claims << item.statements;
     UpdateTrust trust(first, application);
     trust.follow(claims);
-    for (const ClaimedStatement &claim : std::as_const(claims)) {
-        const auto release = trust.verified(claim);
-        if (release && release->statement().expiry > now)
-            return {};
+    bool isAnythingBelieved = false;
+    for (const ClaimedRelease &item : *items) {
+        for (const ClaimedStatement &claim : item.statements) {
+            const auto release = trust.verified(claim);
+            if (!release || release->statement().expiry <= now)
+                continue;
+            if (!isKept(item, release->statement()))
+                return QStringLiteral("The item of build %1 is not as it is stated.")
+                    .arg(release->statement().version.text());
+            isAnythingBelieved = true;
+        }
     }
-    return QStringLiteral("Nothing in the feed would be believed.");
+    return isAnythingBelieved ? QString()
+                              : QStringLiteral("Nothing in the feed would be believed.");
 }
 
 } // namespace corvane

@@ -18,7 +18,7 @@ struct SelfCheck {
     /// What is wrong; empty where the program would be offered this release, and take the file.
     QString ofRelease(const QByteArray &feed, const ReleaseStatement &asked,
                       const QByteArray &file) const;
-    /// What is wrong; empty where every statement that was signed last is believed.
+    /// What is wrong; empty where something is believed, and all of that is as it is stated.
     QString ofFeed(const QByteArray &feed) const;
 };
 
