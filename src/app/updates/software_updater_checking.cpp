@@ -105,8 +105,9 @@ void SoftwareUpdater::checkSucceeded(const UpdateChoice &choice)
     saveRecord();
     scheduleCheck();
     clearNotice();
+    // Nor what is older: whoever took a beta and then left the betas would go back.
     const bool isTaken
-        = m_taken && choice.offer && choice.offer->release.statement().version == *m_taken;
+        = m_taken && choice.offer && choice.offer->release.statement().version <= *m_taken;
     if (choice.offer && !isTaken)
         return offer(*choice.offer);
     // An offer that the user is looking at stays.

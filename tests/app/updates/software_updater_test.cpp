@@ -794,6 +794,26 @@ TEST_F(SoftwareUpdaterTest, WhatHasBeenTakenIsNotOfferedAgainBeforeTheNextStart)
     EXPECT_EQ(display.report.stage, Stage::Available);
 }
 
+TEST_F(SoftwareUpdaterTest, WhatIsOlderThanWhatHasBeenTakenIsNotOfferedEither)
+{
+    wantsBetas = true;
+    Statement beta = Statement::of("12", UpdateFolder::newImage());
+    beta.channel = "beta";
+    const QByteArray stable = item("11", UpdateFolder::oldImage());
+    const QByteArray both = feed(stable + beta.item(key, UpdateFolder::newImage()));
+    checkNow(both);
+    display.onInstall();
+    settle();
+    downloader.sendWhole(UpdateFolder::newImage());
+    settle();
+    ASSERT_EQ(UpdateFolder::contents(folder.appImage()), UpdateFolder::newImage());
+
+    wantsBetas = false;
+    checkNow(both);
+    EXPECT_EQ(display.report.stage, Stage::Replaced);
+    EXPECT_EQ(display.report.version, QStringLiteral("12.0"));
+}
+
 TEST_F(SoftwareUpdaterTest, AskingAgainShowsWhatIsUnderWay)
 {
     beginDownload();
