@@ -201,6 +201,24 @@ TEST_F(ReleaseTool, whatNamedTheNextKeyIsNotLostWhereTheFirstKeyIsForgotten)
         << said.toStdString();
 }
 
+TEST_F(ReleaseTool, aKeyThatProgramsWouldNotFollowToIsRefused)
+{
+    ASSERT_EQ(publish(u"11"_s), 0) << said.toStdString();
+    const QStringList first{u"--first-key"_s, key.publicText(), u"--next-key"_s, path("next.pem")};
+    constexpr int mostRotations = 8;
+    for (int i = 0; i < mostRotations; ++i) {
+        const QByteArray next = test::TestKey().pem();
+        write("next.pem", next);
+        ASSERT_EQ(renew(first), 0) << said.toStdString();
+        write("key.pem", next);
+    }
+    const QByteArray before = feed();
+    write("next.pem", test::TestKey().pem());
+    EXPECT_NE(renew(first), 0);
+    EXPECT_TRUE(said.contains("not follow")) << said.toStdString();
+    EXPECT_EQ(feed(), before);
+}
+
 TEST_F(ReleaseTool, whatIsRenewedSaysTheSameWithHigherNumbers)
 {
     ASSERT_EQ(publish(u"11"_s), 0) << said.toStdString();

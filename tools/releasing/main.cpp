@@ -145,7 +145,8 @@ private:
             return refuse(error);
         maker.sign(next);
         const QByteArray feed = maker.feed();
-        const SelfCheck check{*first, value("application"), now};
+        const UpdateKey last = next ? next->publicHalf() : key.publicHalf();
+        const SelfCheck check{*first, last, value("application"), now};
         error = isRelease ? check.ofRelease(feed, asked(), file) : QString();
         if (error.isEmpty())
             error = check.ofFeed(feed);

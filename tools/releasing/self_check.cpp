@@ -71,6 +71,8 @@ QString SelfCheck::ofFeed(const QByteArray &feed) const
         claims << item.statements;
     UpdateTrust trust(first, application);
     trust.follow(claims);
+    if (trust.keys().constLast() != last)
+        return QStringLiteral("Programs would not follow to this key: too many came before it.");
     bool isAnythingBelieved = false;
     for (const ClaimedRelease &item : *items) {
         for (const ClaimedStatement &claim : item.statements) {

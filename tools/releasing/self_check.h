@@ -12,6 +12,8 @@ namespace corvane {
 /// Looks at a feed as a program does that has the first key built in and runs no build yet.
 struct SelfCheck {
     UpdateKey first;
+    /// The one that signs from now on.
+    UpdateKey last;
     QString application;
     QDateTime now;
 
