@@ -149,7 +149,10 @@ TEST_F(UpdateChoiceTest, AnOldStatementBesideARenewedOneIsNoExpiry)
     EXPECT_EQ(offered(item(old) + item("12")), QStringLiteral("12"));
     Statement present = build("10");
     present.number = "50";
-    EXPECT_EQ(verdict(item(old) + item(present)), Verdict::Unverifiable) << "but it is not offered";
+    EXPECT_EQ(choose(item(old) + item(present)).verdict, Verdict::Unverifiable)
+        << "but it is not offered";
+    old.expiry = "2027-01-01T00:00:00Z";
+    EXPECT_EQ(verdict(item(old) + item(present)), Verdict::Unverifiable) << "at its last moment";
 }
 
 TEST_F(UpdateChoiceTest, BetasAreForThoseWhoChoseThem)
@@ -187,6 +190,15 @@ TEST_F(UpdateChoiceTest, OfOneVersionTheAppImageIsTakenWhereverItStands)
          {QByteArray(item(archive) + item("11")), QByteArray(item("11") + item(archive))})
         EXPECT_EQ(choose(items).offer->release.statement().kind, ReleaseStatement::appImage);
     EXPECT_EQ(choose(item(archive)).offer->release.statement().kind, QStringLiteral("archive"));
+}
+
+TEST_F(UpdateChoiceTest, OfTwoStatementsOnOneVersionTheLaterOneCounts)
+{
+    Statement renewed = build("11");
+    renewed.number = "12";
+    for (const QByteArray &items :
+         {QByteArray(item(renewed) + item("11")), QByteArray(item("11") + item(renewed))})
+        EXPECT_EQ(choose(items).offer->release.statement().number, 12);
 }
 
 TEST_F(UpdateChoiceTest, TheEnclosureIsTheOneOfTheStatedAddress)
