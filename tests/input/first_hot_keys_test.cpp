@@ -14,7 +14,7 @@ using enum OptionalHotKeys::Presence;
 using Combination = FakeHotKeys::Combination;
 
 constexpr Combination superShiftD = {KeyPosition::D, Shortcut::command | Shortcut::shift};
-constexpr Combination controlF5 = {KeyPosition::F5, Shortcut::control};
+constexpr Combination controlAndF5 = {KeyPosition::F5, Shortcut::control};
 
 class FirstHotKeysTest : public testing::Test {
 protected:
@@ -86,10 +86,10 @@ TEST_F(FirstHotKeysTest, AreHeardOfWhicheverServiceHasThem)
     keys.installHandler([&](const auto &pressed) { heard.push_back(10 * pressed->id); });
     best.become(There);
     const auto first = take(superShiftD, 1);
-    const auto second = take(controlF5, 2);
+    const auto second = take(controlAndF5, 2);
     best.keys.press(superShiftD.first, superShiftD.second);
     best.become(Absent);
-    other.keys.press(controlF5.first, controlF5.second);
+    other.keys.press(controlAndF5.first, controlAndF5.second);
     EXPECT_EQ(heard, (std::vector<std::uint32_t>{1, 10, 2, 20}));
 }
 
@@ -109,9 +109,9 @@ TEST_F(FirstHotKeysTest, ThatAServiceRefusesLaterAreToldToBeRefused)
     const auto taken = take(superShiftD);
     best.become(There);
     EXPECT_EQ(told, std::vector{ShortcutOutcome::refused()});
-    const auto again = take(controlF5, 2);
+    const auto again = take(controlAndF5, 2);
     EXPECT_EQ(again.outcome, ShortcutOutcome::bound());
-    best.keys.answer(controlF5, ShortcutOutcome::refused());
+    best.keys.answer(controlAndF5, ShortcutOutcome::refused());
     EXPECT_EQ(told.size(), 2U);
 }
 

@@ -18,11 +18,11 @@ namespace corvane {
 
 namespace {
 
-const auto service = QStringLiteral("org.kde.kglobalaccel");
+const auto kdeService = QStringLiteral("org.kde.kglobalaccel");
 /// The compositor's other name.
 const auto compositor = QStringLiteral("org.kde.KWin");
-const auto path = QStringLiteral("/kglobalaccel");
-const auto interface = QStringLiteral("org.kde.KGlobalAccel");
+const auto kdePath = QStringLiteral("/kglobalaccel");
+const auto kdeInterface = QStringLiteral("org.kde.KGlobalAccel");
 
 // How keys are set. Unless it is `asAsked`, keys that the action has already stay.
 constexpr uint present = 2;
@@ -32,7 +32,7 @@ constexpr uint wanted = 8;
 
 QDBusMessage callTo(const QString &method, const QVariantList &arguments)
 {
-    auto call = QDBusMessage::createMethodCall(service, path, interface, method);
+    auto call = QDBusMessage::createMethodCall(kdeService, kdePath, kdeInterface, method);
     call.setArguments(arguments);
     call.setAutoStartService(false);
     return call;
@@ -125,7 +125,7 @@ void KdeShortcuts::listen()
     m_signals.listen();
     m_watcher.setConnection(QDBusConnection::sessionBus());
     m_watcher.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
-    m_watcher.addWatchedService(service);
+    m_watcher.addWatchedService(kdeService);
     m_watcher.addWatchedService(compositor);
     QObject::connect(&m_watcher, &QDBusServiceWatcher::serviceOwnerChanged, &m_answers,
                      [this] { lookForService(); });
@@ -152,7 +152,7 @@ void KdeShortcuts::lookForService()
                              then(reply.isError() ? QString() : reply.value());
                          });
     };
-    askWho(service, [this, askWho](const QString &owner) {
+    askWho(kdeService, [this, askWho](const QString &owner) {
         askWho(compositor, [this, owner](const QString &other) {
             become(!owner.isEmpty() && owner == other ? Presence::There : Presence::Absent);
         });
