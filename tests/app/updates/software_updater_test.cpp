@@ -406,6 +406,16 @@ TEST_F(SoftwareUpdaterTest, AFeedThatIsNotRenewedIsToldOfOnceAWeek)
     EXPECT_EQ(noticed(), UpdateFailure::Expired) << "a week later, and across starts";
 }
 
+TEST_F(SoftwareUpdaterTest, TheWeekBetweenTwoSuchNoticesGoesOnAcrossStarts)
+{
+    make();
+    checkBySelf(goodFor("10", 0.5));
+    EXPECT_EQ(noticed(), UpdateFailure::Expired);
+    make();
+    checkBySelf(goodFor("10", 0.5));
+    EXPECT_EQ(noticed(), std::nullopt);
+}
+
 TEST_F(SoftwareUpdaterTest, WhatHasExpiredIsNotOffered)
 {
     checkNow(goodFor("11", 1));
