@@ -30,8 +30,10 @@ QString sentence(const QString &missing, Reason why, const QString &instead)
 }
 
 template<typename Extent>
-TableRow row(const char *title, const Ability<Extent> &ability, const char *inFull)
+TableRow row(const char *title, const Ability<Extent> &ability, TableStyle style,
+             const char *inDetail)
 {
+    const char *const inFull = style == TableStyle::Detailed ? inDetail : "yes";
     return {QString::fromUtf8(title),
             ability.isFull() ? QString::fromUtf8(inFull) : limit(ability)};
 }
@@ -85,18 +87,18 @@ QStringList limits(const Abilities &abilities)
     return all;
 }
 
-QList<TableRow> tableRows(const Abilities &abilities)
+QList<TableRow> tableRows(const Abilities &abilities, TableStyle style)
 {
     return {
-        row("opens by itself when a drag starts", abilities.drags,
+        row("opens by itself when a drag starts", abilities.drags, style,
             "yes, under every window manager tried (openbox, xfwm4)"),
-        row("the bar with all items", abilities.clicksElsewhere,
+        row("the bar with all items", abilities.clicksElsewhere, style,
             "yes; a click in any other program closes it"),
-        row("the shelf at the top edge", abilities.topEdge,
+        row("the shelf at the top edge", abilities.topEdge, style,
             "yes, with mice and touchpads; tablets, and the pointers of some virtual machines, "
             "push against nothing"),
         row("hot keys: Super+Shift+D for the shelf, one of your own for the bar",
-            abilities.shortcutChoice,
+            abilities.shortcutChoice, style,
             "yes, also during a drag, in every layout and with every lock on"),
     };
 }

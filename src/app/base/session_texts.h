@@ -24,7 +24,12 @@ struct TableRow {
     QString ability;
     QString howFar;
 };
+/// How much is said where nothing is missing.
+enum class TableStyle {
+    Detailed,
+    Brief,
+};
 /// In the table's order.
-QList<TableRow> tableRows(const Abilities &abilities);
+QList<TableRow> tableRows(const Abilities &abilities, TableStyle style = TableStyle::Detailed);
 
 } // namespace corvane::session_texts

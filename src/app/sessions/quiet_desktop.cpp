@@ -46,12 +46,12 @@ void QuietDesktop::setToldOfDrags(bool isTold)
     updateStrips();
 }
 
-Abilities QuietDesktop::abilities(bool areHotKeysChosenHere) const
+Abilities QuietDesktop::abilities(bool isToldOfDrags, bool areHotKeysChosenHere)
 {
     Abilities now{.clicksElsewhere = {ClicksElsewhere::Unnoticed, Reason::KeptByDesktop}};
     if (!areHotKeysChosenHere)
         now.shortcutChoice = {ShortcutChoice::InTheDesktop, Reason::KeptByDesktop};
-    if (!m_isToldOfDrags)
+    if (!isToldOfDrags)
         now.drags = {Drags::AtTheEdge, Reason::KeptByDesktop};
     return now;
 }

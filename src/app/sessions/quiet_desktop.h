@@ -50,7 +50,11 @@ public:
     /// Somebody began to drag something; it may be our own.
     void noticed();
     /// Of a session on such a desktop.
-    Abilities abilities(bool areHotKeysChosenHere) const;
+    Abilities abilities(bool areHotKeysChosenHere) const
+    {
+        return abilities(m_isToldOfDrags, areHotKeysChosenHere);
+    }
+    static Abilities abilities(bool isToldOfDrags, bool areHotKeysChosenHere);
     /// A drag whose end nobody saw may still go on.
     bool mayDragGoOn() const { return m_mayDragGoOn; }
 

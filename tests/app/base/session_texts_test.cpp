@@ -1,4 +1,5 @@
 #include "app/base/session_texts.h"
+#include "app/sessions/quiet_desktop.h"
 #include "fakes/lacking_abilities.h"
 
 #include <QFile>
@@ -40,10 +41,19 @@ TEST(SessionTexts, eachAbilityThatIsMissingIsSaidInWordsOfItsOwnForEachReason)
 
 TEST(SessionTexts, theReadmesTableSaysOfEachAbilityWhatTheProgramSays)
 {
-    const auto rows = session_texts::tableRows({});
-    EXPECT_EQ(rows.size(), 4);
-    for (const auto &[ability, howFar] : rows) {
-        const QString cells = QStringLiteral("| %1 | %2 |").arg(ability, howFar);
+    using session_texts::TableStyle;
+    const auto x11 = session_texts::tableRows({});
+    // Where the compositor keeps an X server for X11's programs.
+    const auto sway
+        = session_texts::tableRows(QuietDesktop::abilities(true, false), TableStyle::Brief);
+    const auto kde
+        = session_texts::tableRows(QuietDesktop::abilities(true, true), TableStyle::Brief);
+    EXPECT_EQ(x11.size(), 4);
+    for (int i = 0; i < x11.size(); ++i) {
+        // That of GNOME is like sway's.
+        const QString cells
+            = QStringLiteral("| %1 | %2 | %3 | %4 | %3 |")
+                  .arg(x11[i].ability, x11[i].howFar, sway[i].howFar, kde[i].howFar);
         EXPECT_TRUE(readme().contains(cells)) << cells.toStdString();
     }
 }
@@ -54,6 +64,12 @@ TEST(SessionTexts, theReadmeSaysWhatIsMissingWithoutTheServersExtensions)
     lacking.shortcutChoice = {};
     for (const QString &limit : session_texts::limits(lacking))
         EXPECT_TRUE(readme().contains(QStringLiteral("- ") + limit)) << limit.toStdString();
+}
+
+TEST(SessionTexts, theReadmeSaysWhatIsMissingWhereNoXServerTellsOfDrags)
+{
+    const QString limit = session_texts::limit(QuietDesktop::abilities(false, true).drags);
+    EXPECT_TRUE(readme().contains(QStringLiteral("- ") + limit)) << limit.toStdString();
 }
 
 TEST(SessionTexts, whatASessionLacksStandsInItsColumnOfTheTable)
