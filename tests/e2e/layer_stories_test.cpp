@@ -28,7 +28,7 @@ INSTANTIATE_TEST_SUITE_P(KWin, LayerSessionWithoutXWayland,
                          testing::Values(sessionOf(WindowManager::KWin, {.hasXWayland = false})),
                          nameOf);
 
-TEST_P(WaylandSession, aFileIsKeptAndGoesOnIntoAnotherProgram)
+TEST_P(LayerSession, aFileIsKeptAndGoesOnIntoAnotherProgram)
 {
     const QString file = makeFile(u"report.txt"_s, "report");
     GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
@@ -38,7 +38,7 @@ TEST_P(WaylandSession, aFileIsKeptAndGoesOnIntoAnotherProgram)
     start();
 
     hands().beginDrag(source.source(), edge());
-    dropOnShelf();
+    dropWhereTheShelfOpens(source);
     EXPECT_EQ(source.endOfDrag(), "done");
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 
@@ -47,7 +47,7 @@ TEST_P(WaylandSession, aFileIsKeptAndGoesOnIntoAnotherProgram)
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
-TEST_P(WaylandSession, aTextComesBackLetterForLetter)
+TEST_P(LayerSession, aTextComesBackLetterForLetter)
 {
     const QString text = u"Grüße, 你好\nzweite Zeile"_s;
     GtkPeer source(m_desktop, {.text = text}, leftPlace());
@@ -57,7 +57,7 @@ TEST_P(WaylandSession, aTextComesBackLetterForLetter)
     start();
 
     hands().beginDrag(source.source(), edge());
-    dropOnShelf();
+    dropWhereTheShelfOpens(source);
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
     dragOut(target);
     EXPECT_EQ(target.droppedText(), text.toUtf8());
@@ -153,7 +153,7 @@ TEST_P(WaylandSession, afterADropTheKeyboardIsWhereItWasBefore)
     ASSERT_EQ(source.problem(), QString());
     start();
     hands().beginDrag(source.source(), edge());
-    dropOnShelf();
+    dropWhereTheShelfOpens(source);
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
     // To the program that it was dragged out of, which the press has given the keyboard.
     ASSERT_TRUE(eventually([&] {
