@@ -28,7 +28,7 @@ INSTANTIATE_TEST_SUITE_P(KWin, LayerSessionWithoutXWayland,
                          testing::Values(sessionOf(WindowManager::KWin, {.hasXWayland = false})),
                          nameOf);
 
-TEST_P(LayerSession, aFileIsKeptAndGoesOnIntoAnotherProgram)
+TEST_P(WaylandSession, aFileIsKeptAndGoesOnIntoAnotherProgram)
 {
     const QString file = makeFile(u"report.txt"_s, "report");
     GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
@@ -47,7 +47,7 @@ TEST_P(LayerSession, aFileIsKeptAndGoesOnIntoAnotherProgram)
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
-TEST_P(LayerSession, aTextComesBackLetterForLetter)
+TEST_P(WaylandSession, aTextComesBackLetterForLetter)
 {
     const QString text = u"Grüße, 你好\nzweite Zeile"_s;
     GtkPeer source(m_desktop, {.text = text}, leftPlace());
