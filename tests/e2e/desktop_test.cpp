@@ -143,6 +143,12 @@ QPoint DesktopTest::dropPoint()
 
 void DesktopTest::dropOnShelf()
 {
+    ASSERT_NO_FATAL_FAILURE(holdOverShelf());
+    hands().release();
+}
+
+void DesktopTest::holdOverShelf()
+{
     // A hand goes on moving, and only a move that follows the beginning of a drag tells of it: some
     // programs take their time to begin.
     int step = 1;
@@ -159,7 +165,6 @@ void DesktopTest::dropOnShelf()
     hands().aim(dropPoint());
     ASSERT_TRUE(eventually([&] { return server().picture(leftEnd()) != before; }))
         << "the shelf does not show that it would take the drop";
-    hands().release();
 }
 
 void DesktopTest::dropOutOn(QPoint from, QPoint place)

@@ -63,6 +63,8 @@ protected:
     /// With a drag in the hand: moves over the shelf, waits until it shows that it would take the
     /// drop, and releases.
     void dropOnShelf();
+    /// The same, without letting go.
+    void holdOverShelf();
     /// Drags what the shelf or its bar shows at `from`, and lets go of it at `place` once the
     /// target there would take it.
     void dropOutOn(QPoint from, QPoint place);

@@ -31,9 +31,7 @@ protected:
     /// With a drag in the hand whose pointer is where the shelf opens.
     void dropWhereTheShelfOpens(GtkPeer &source)
     {
-        wiggleUntil([&] { return corvane().isShown(); });
-        ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
-        hands().glideTo(dropPoint());
+        ASSERT_NO_FATAL_FAILURE(holdOverShelf());
         wiggleUntil([&] { return source.isSourceWelcome(); });
         hands().release();
     }
