@@ -147,7 +147,7 @@ void DesktopTest::dropOnShelf()
     hands().release();
 }
 
-void DesktopTest::holdOverShelf()
+void DesktopTest::awaitDropTarget()
 {
     // A hand goes on moving, and only a move that follows the beginning of a drag tells of it: some
     // programs take their time to begin.
@@ -159,6 +159,11 @@ void DesktopTest::holdOverShelf()
     // While something is dragged the shelf is as large as when it is empty, or larger by a width
     // that it grew to before.
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
+}
+
+void DesktopTest::holdOverShelf()
+{
+    ASSERT_NO_FATAL_FAILURE(awaitDropTarget());
     const auto leftEnd = [this] { return QRect(corvane().body().topLeft(), QSize(70, 56)); };
     const QImage before = m_desktop.pictureAtRest(leftEnd());
     hands().glideTo(dropPoint());

@@ -63,8 +63,11 @@ protected:
     /// With a drag in the hand: moves over the shelf, waits until it shows that it would take the
     /// drop, and releases.
     void dropOnShelf();
-    /// The same, without letting go.
+    /// The same, without letting go. The pointer comes from beside the shelf.
     void holdOverShelf();
+    /// With a drag in the hand: waits until the shelf is open and as large as what can be dropped
+    /// on.
+    void awaitDropTarget();
     /// Drags what the shelf or its bar shows at `from`, and lets go of it at `place` once the
     /// target there would take it.
     void dropOutOn(QPoint from, QPoint place);

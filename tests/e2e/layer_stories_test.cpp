@@ -100,7 +100,7 @@ TEST_P(WaylandSession, aLongSlowDragFindsTheShelfAgainAtTheEdge)
     // Whether it is over nobody tells.
     ASSERT_TRUE(corvane().waitUntilHidden());
     hands().glideTo(edge());
-    dropWhereTheShelfOpens(source);
+    dropOnTheShelfBelowThePointer(source);
     EXPECT_EQ(source.endOfDrag(), "done");
     EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 }
@@ -195,7 +195,7 @@ TEST_P(LayerSessionWithoutXWayland, aDragAtTheEdgeOpensTheShelfThatTakesIt)
     start();
     hands().beginDrag(source.source(), edge());
     hands().glideTo(edge());
-    dropWhereTheShelfOpens(source);
+    dropOnTheShelfBelowThePointer(source);
     EXPECT_EQ(source.endOfDrag(), "done");
     EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
 }

@@ -28,10 +28,25 @@ protected:
     QPoint edge() { return {server().size().width() / 2, 0}; }
     QPoint belowEdge() { return edge() + QPoint(0, 200); }
 
-    /// With a drag in the hand whose pointer is where the shelf opens.
+    /// With a drag in the hand, away from where the shelf opens.
     void dropWhereTheShelfOpens(GtkPeer &source)
     {
         ASSERT_NO_FATAL_FAILURE(holdOverShelf());
+        dropWhenWelcome(source);
+    }
+
+    /// With a drag in the hand under which the shelf opens: the pointer enters nothing, so that no
+    /// change of the picture shows what the shelf thinks of it.
+    void dropOnTheShelfBelowThePointer(GtkPeer &source)
+    {
+        ASSERT_NO_FATAL_FAILURE(awaitDropTarget());
+        hands().glideTo(dropPoint());
+        hands().aim(dropPoint());
+        dropWhenWelcome(source);
+    }
+
+    void dropWhenWelcome(GtkPeer &source)
+    {
         wiggleUntil([&] { return source.isSourceWelcome(); });
         hands().release();
     }
