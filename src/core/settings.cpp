@@ -61,7 +61,9 @@ bool Settings::areKept() const
 
 int Settings::inViewCount() const
 {
-    const qint64 count = m_defaults.integerForKey(name(inViewCountKey));
+    // Made once: this is asked for each of thousands of items that are removed one by one.
+    static const QString key = name(inViewCountKey);
+    const qint64 count = m_defaults.integerForKey(key);
     return static_cast<int>(clampedInViewCount(count));
 }
 

