@@ -149,6 +149,27 @@ bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/)
     return false;
 }
 
+bool AppDelegate::perform(const QString &action)
+{
+    if (action == QLatin1String("toggle"))
+        m_context.hud.toggleByHand();
+    else if (action == QLatin1String("view-all"))
+        toggleViewAll();
+    else if (action == QLatin1String("show-all"))
+        showAll();
+    else if (action == QLatin1String("preferences"))
+        showPreferences(PreferencesTab::General);
+    else
+        return false;
+    return true;
+}
+
+void AppDelegate::showAll()
+{
+    if (!m_context.store.isViewAllOpen())
+        toggleViewAll();
+}
+
 void AppDelegate::toggleViewAll()
 {
     m_context.store.toggleViewAll();

@@ -4,6 +4,8 @@
 #include "platform/desktop/drag_watch.h"
 #include "platform/preview/preview_panel.h"
 
+#include <QString>
+
 namespace corvane {
 
 class EdgeSummoner;
@@ -54,6 +56,9 @@ public:
     /// done.
     bool applicationShouldHandleReopen(bool hasVisibleWindows);
 
+    /// Does what another program asks for by the name of an action; false if there is none of that
+    /// name.
+    bool perform(const QString &action);
     void toggleViewAll();
     void showPreferences(PreferencesTab tab);
     void showWelcome();
@@ -64,6 +69,7 @@ public:
     void endPreviewPanelControl(PreviewPanel &panel) override;
 
 private:
+    void showAll();
     void wireDragDetection();
     void wireDragsOverShelf();
     void dragBegan();

@@ -1,6 +1,10 @@
 #include "app/application.h"
 
 #include "app/base/app_info.h"
+#include "app/commands/command_answers.h"
+#include "app/commands/command_line.h"
+#include "app/commands/start_wish.h"
+#include "app/commands/toolkit_start.h"
 #include "app/composition_root.h"
 #include "app/sessions/choose_session.h"
 #include "app/unanswered_start.h"
@@ -18,20 +22,14 @@
 
 #include <unistd.h>
 
-#include <cstdio>
 #include <memory>
+#include <optional>
 #include <utility>
+#include <vector>
 
 namespace corvane {
 
 namespace {
-
-/// Whether the desktop started the program through the session bus. The first call that the bus
-/// delivers is then the start itself, not a request to show the shelf.
-bool isStartedByBus()
-{
-    return QCoreApplication::arguments().contains(QLatin1String("--started-by-bus"));
-}
 
 /// How long the end waits for threads; the rest of `end_deadline::forRest` is for the clipboard.
 constexpr std::chrono::milliseconds patienceForThreads{150};
@@ -56,52 +54,78 @@ void setUpApplication(const AppInfo &info)
     QGuiApplication::setQuitOnLastWindowClosed(false);
 }
 
-} // namespace
-
-int runApplication(int argc, char **argv)
-{
-    const SessionChoice choice
-        = chooseSession(SessionEnvironment::ofThisProcess(), probeRegistry());
-    if (!choice.kind) {
-        std::fprintf(stderr, "corvane: %s\n", choice.refusal.constData());
-        return 1;
+/// What the toolkit is told of the command line: the program's name, and what it understands
+/// itself.
+struct ToolkitArguments {
+    explicit ToolkitArguments(const QList<QByteArray> &arguments)
+        : texts(arguments)
+    {
+        for (QByteArray &text : texts)
+            pointers.push_back(text.data());
+        count = static_cast<int>(pointers.size());
+        pointers.push_back(nullptr);
     }
-    own_environment::set("QT_QPA_PLATFORM", choice.platformPlugin);
-    prepareSession(*choice.kind);
-    session_bus::keepFromStarting();
-    const AppInfo info = AppInfo::builtIn();
-    auto application = std::make_unique<QApplication>(argc, argv);
-    setUpApplication(info);
 
-    AppDelegate *delegate = nullptr;
-    DBusSingleInstance instance(info.applicationId());
-    bool isBeingLaunched = isStartedByBus();
-    const auto outcome = instance.acquire([&delegate, &isBeingLaunched] {
-        if (!std::exchange(isBeingLaunched, false) && delegate)
-            delegate->applicationShouldHandleReopen(false);
-    });
-    instance.onAction = [&delegate, &isBeingLaunched](const QString &name) {
-        isBeingLaunched = false;
-        if (delegate && name == QStringLiteral("preferences"))
-            delegate->showPreferences(PreferencesTab::General);
-        else if (delegate && name == QStringLiteral("view-all"))
-            delegate->toggleViewAll();
-    };
-    if (outcome == SingleInstance::Outcome::HandedOver)
-        return 0;
-    if (outcome == SingleInstance::Outcome::NotAnswering) {
+    QList<QByteArray> texts;
+    std::vector<char *> pointers;
+    int count = 0;
+};
+
+void complainOf(const StartWish &wish)
+{
+    for (const QByteArray &problem : wish.problems())
+        command_answers::complain(problem);
+}
+
+/// Where this process cannot be the shelf: asks one that runs, which needs no display.
+std::optional<int> askedOfAnother(StartWish &wish, ToolkitArguments &toolkit, const AppInfo &info)
+{
+    const QCoreApplication application(toolkit.count, toolkit.pointers.data());
+    RunningProgram other(info.applicationId());
+    other.setPlatformData(RunningProgram::platformDataOfEnvironment());
+    const bool isThere
+        = session_bus::isAvailable() && other.isAlive() == RunningProgram::Answer::Done;
+    if (!isThere || wish.handOver(other) != RunningProgram::Answer::Done)
+        return std::nullopt;
+    complainOf(wish);
+    return wish.problems().isEmpty() ? 0 : 1;
+}
+
+/// The exit status of a start beside another process; none if this process is the one to run.
+std::optional<int> endBesideAnother(SingleInstance::Outcome outcome, const StartWish &wish,
+                                    const SingleInstance &instance)
+{
+    complainOf(wish);
+    switch (outcome) {
+    case SingleInstance::Outcome::HandedOver:
+        return wish.problems().isEmpty() ? 0 : 1;
+    case SingleInstance::Outcome::Refused:
+        command_answers::complain("the Corvane that runs does not do this; it may be an older "
+                                  "version");
+        return 1;
+    case SingleInstance::Outcome::NotAnswering:
         tellOfUnansweredStart(instance.otherProcess());
         return 1;
+    case SingleInstance::Outcome::First:
+    case SingleInstance::Outcome::Unknown:
+        break;
     }
+    return std::nullopt;
+}
 
+/// Runs the shelf until the program ends.
+int runShelf(SessionKind kind, DBusSingleInstance &instance, AppDelegate *&delegate,
+             StartWish &wish, std::unique_ptr<QApplication> &application)
+{
     // The process may end by a signal, by the user or with the session. In all cases `putInOrder`
     // runs, which removes the spool, within a time limit.
     end_deadline::prepare();
-    const auto terminate = [&delegate] {
+    const auto terminate = [&delegate, &instance] {
+        instance.setRequests(nullptr);
         putInOrder(std::exchange(delegate, nullptr));
         QCoreApplication::quit();
     };
-    auto root = std::make_unique<CompositionRoot>(*choice.kind, terminate);
+    auto root = std::make_unique<CompositionRoot>(kind, terminate);
     delegate = &root->delegate;
     const UnixSignals signals(terminate);
     // Only `putInOrder`: some versions of Qt take a call of `quit` in here for another end, and
@@ -110,11 +134,14 @@ int runApplication(int argc, char **argv)
                      [&delegate] { putInOrder(std::exchange(delegate, nullptr)); });
 
     delegate->applicationDidFinishLaunching();
+    instance.setRequests(&root->requests);
+    wish.fulfil(root->requests);
     root->workQueue.run(root->spool.leftoversRemoval());
     root->workQueue.run([folder = QFile::encodeName(QDir::tempPath())] {
         preview_scratch::removeLeftovers(folder);
     });
     const int status = QApplication::exec();
+    instance.setRequests(nullptr);
     putInOrder(std::exchange(delegate, nullptr));
     root->userDefaults.synchronize();
     const bool haveAllEnded = root->finishWork(patienceForThreads);
@@ -127,6 +154,68 @@ int runApplication(int argc, char **argv)
     [[maybe_unused]] const CompositionRoot *const kept = root.release();
     application.reset();
     ::_exit(status);
+}
+
+/// Starts the shelf, or hands over to the one that runs.
+int start(const CommandLine &line, ToolkitArguments &toolkit, const AppInfo &info)
+{
+    StartWish wish(line, StartWish::Surroundings::ofThisProcess());
+    if (wish.isVain()) {
+        complainOf(wish);
+        return 1;
+    }
+    const SessionChoice choice
+        = chooseSession(SessionEnvironment::ofThisProcess(), probeRegistry());
+    if (!choice.kind) {
+        const auto status = wish.isPlain() ? std::nullopt : askedOfAnother(wish, toolkit, info);
+        if (!status)
+            command_answers::complain(choice.refusal);
+        return status.value_or(1);
+    }
+    own_environment::set("QT_QPA_PLATFORM", choice.platformPlugin);
+    prepareSession(*choice.kind);
+    // Before the toolkit, which takes what the desktop gave for windows of this process.
+    const QVariantMap platformData = RunningProgram::platformDataOfEnvironment();
+    std::unique_ptr<QApplication> application;
+    {
+        const ToolkitStart guarded;
+        application = std::make_unique<QApplication>(toolkit.count, toolkit.pointers.data());
+    }
+    setUpApplication(info);
+
+    AppDelegate *delegate = nullptr;
+    DBusSingleInstance instance(info.applicationId());
+    if (line.isStartedByBus)
+        instance.setStartedByBus();
+    instance.setHandOver([&wish](const RunningProgram &other) { return wish.handOver(other); });
+    instance.setPlatformData(platformData);
+    const auto outcome = instance.acquire([&delegate] {
+        if (delegate)
+            delegate->applicationShouldHandleReopen(false);
+    });
+    if (const auto status = endBesideAnother(outcome, wish, instance))
+        return *status;
+    return runShelf(*choice.kind, instance, delegate, wish, application);
+}
+
+} // namespace
+
+int runApplication(int argc, char **argv)
+{
+    QList<QByteArray> arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments << argv[i];
+    const QList<QByteArray> ofToolkit = CommandLine::takeToolkitArguments(arguments);
+    const CommandLine line = CommandLine::of(arguments);
+    const AppInfo info = AppInfo::builtIn();
+    if (const auto status = command_answers::atOnce(line, info))
+        return *status;
+    session_bus::keepFromStarting();
+    ToolkitArguments toolkit(QList<QByteArray>{argc > 0 ? argv[0] : "corvane"} + ofToolkit);
+    if (!command_answers::isForRunningProgram(line.wish))
+        return start(line, toolkit, info);
+    const QCoreApplication application(toolkit.count, toolkit.pointers.data());
+    return command_answers::byRunningProgram(line, info);
 }
 
 } // namespace corvane

@@ -212,6 +212,14 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                 .statusItem = statusItemController,
                 .windows = windows,
                 .updater = updates.updater()})
+    , requests({.ingest = ingest,
+                .store = store,
+                .preparation = itemPreparation,
+                .pictures = savedPictures,
+                .workQueue = textWork,
+                .mainQueue = mainQueue,
+                .perform = [this](const QString &action) { return delegate.perform(action); },
+                .terminate = terminate})
 {
     const auto describe = [this](const QUuid &item, const QString &description) {
         store.describe(item, description);

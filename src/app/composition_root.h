@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/app_delegate.h"
+#include "app/commands/shelf_request_handler.h"
 #include "app/sessions/desktop_session.h"
 #include "app/shell_windows.h"
 #include "app/status/desktop_status_item.h"
@@ -173,6 +174,7 @@ struct CompositionRoot {
     StatusItemController statusItemController;
     ShellWindows windows;
     AppDelegate delegate;
+    ShelfRequestHandler requests;
 
 private:
     std::function<void(double seconds)> letClicksThrough();

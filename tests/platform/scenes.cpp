@@ -16,7 +16,9 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
+#include <functional>
 #include <semaphore>
+#include <utility>
 
 namespace corvane::test {
 
@@ -31,6 +33,8 @@ const char *nameOf(SingleInstance::Outcome outcome)
         return "handed over";
     case SingleInstance::Outcome::NotAnswering:
         return "not answering";
+    case SingleInstance::Outcome::Refused:
+        return "refused";
     case SingleInstance::Outcome::Unknown:
         break;
     }
@@ -44,8 +48,56 @@ int instance()
     return QCoreApplication::exec();
 }
 
-/// The same, with a main thread that stands still between two lines of its input. Its other threads
-/// go on, as those of a program do that waits for a disk.
+/// Says what it is asked for. A text "wait" is never done with.
+class SayingRequests : public ShelfRequests {
+public:
+    bool act(const QString &action, const QString &activationToken) override
+    {
+        say((action % u' ' % activationToken).toUtf8());
+        return action == QStringLiteral("known");
+    }
+    void put(const ShelfDelivery &delivery, std::function<void(int)> done) override
+    {
+        if (delivery.bytes == "wait")
+            return;
+        say((delivery.kind == ShelfDelivery::Kind::Text ? "text " : "addresses ")
+            + QByteArray::number(delivery.bytes.size()));
+        done(3);
+    }
+    void list(Entries done) override
+    {
+        done(QByteArray(QByteArray(3'999, 'x').append('\0')).repeated(10'000));
+    }
+    void take(const QString &, Entries done) override
+    {
+        m_isTaken = true;
+        done(QByteArray("/a\0", 3));
+    }
+    bool taken(const QString &) override
+    {
+        if (m_isTaken)
+            say("confirmed");
+        return std::exchange(m_isTaken, false);
+    }
+    void takerLeft(const QString &) override { say("left"); }
+    void end() override { QCoreApplication::exit(); }
+
+private:
+    bool m_isTaken = false;
+};
+
+/// The same, and does what it is asked for.
+int requests()
+{
+    DBusSingleInstance single(sceneApplicationId());
+    SayingRequests requests;
+    single.setRequests(&requests);
+    say(nameOf(single.acquire([] { say("reopened"); })));
+    return QCoreApplication::exec();
+}
+
+/// As "instance", with a main thread that stands still between two lines of its input. Its other
+/// threads go on, as those of a program do that waits for a disk.
 int stuckInstance()
 {
     QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
@@ -128,6 +180,8 @@ int playScene(const QByteArray &name)
     QTimer::singleShot(std::chrono::minutes{1}, qApp, &QCoreApplication::quit);
     if (name == "instance")
         return instance();
+    if (name == "requests")
+        return requests();
     if (name == "stuckInstance")
         return stuckInstance();
     if (name == "signals")

@@ -1,6 +1,7 @@
 #include "platform/freedesktop/dbus_single_instance.h"
 
 #include "platform/freedesktop/session_bus.h"
+#include "platform/freedesktop/shelf_adaptor.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -11,38 +12,42 @@ namespace corvane {
 
 namespace {
 
-constexpr auto interface = "org.freedesktop.Application";
-
 // What the bus knows a request for a name by.
 constexpr quint32 doNotQueue = 4;
 constexpr quint32 primaryOwner = 1;
 constexpr quint32 nameExists = 3;
 constexpr quint32 alreadyOwner = 4;
 
-QDBusMessage toBus(const QString &method, const QVariantList &arguments)
+QString activationToken(const QVariantMap &platformData)
 {
-    const auto name = QStringLiteral("org.freedesktop.DBus");
-    auto call = QDBusMessage::createMethodCall(name, QStringLiteral("/org/freedesktop/DBus"), name,
-                                               method);
-    call.setArguments(arguments);
-    return call;
+    // Compositors make them of a few dozen characters.
+    constexpr qsizetype longest = 1'024;
+    const QString token = platformData.value(QStringLiteral("activation-token")).toString();
+    return token.size() > longest ? QString() : token;
 }
 
 } // namespace
 
 DBusSingleInstance::DBusSingleInstance(QString applicationId)
     : m_applicationId(std::move(applicationId))
+    , m_other(m_applicationId)
+    , m_handOver([](const RunningProgram &other) { return other.activate(); })
+    , m_shelf(new ShelfAdaptor(this))
 {
 }
 
+DBusSingleInstance::~DBusSingleInstance() = default;
+
 SingleInstance::Outcome DBusSingleInstance::acquire(std::function<void()> onReopen)
 {
+    using Answer = RunningProgram::Answer;
     m_onReopen = std::move(onReopen);
     if (!session_bus::isAvailable())
         return Outcome::Unknown;
     // Before the name is ours: another process may call the object as soon as it sees the name.
-    QDBusConnection::sessionBus().registerObject(objectPath(), this,
-                                                 QDBusConnection::ExportScriptableInvokables);
+    QDBusConnection::sessionBus().registerObject(RunningProgram::objectPath(m_applicationId), this,
+                                                 QDBusConnection::ExportScriptableInvokables
+                                                     | QDBusConnection::ExportAdaptors);
     // The other one may end just while it is asked.
     constexpr int attempts = 2;
     auto answer = Answer::Gone;
@@ -57,29 +62,30 @@ SingleInstance::Outcome DBusSingleInstance::acquire(std::function<void()> onReop
             // asked for once more; waiting once more would tell nothing new.
             if (answer == Answer::None)
                 return Outcome::NotAnswering;
-            answer = activateOther();
+            answer = askOther();
             if (answer == Answer::Done)
                 return Outcome::HandedOver;
+            if (answer == Answer::Refused)
+                return Outcome::Refused;
         }
     }
     return answer == Answer::None ? Outcome::NotAnswering : Outcome::Unknown;
 }
 
-std::optional<qint64> DBusSingleInstance::otherProcess() const
+RunningProgram::Answer DBusSingleInstance::askOther() const
 {
-    const auto reply = QDBusConnection::sessionBus().call(
-        toBus(QStringLiteral("GetConnectionUnixProcessID"), {m_applicationId}), QDBus::Block,
-        busMilliseconds);
-    if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
-        return std::nullopt;
-    return reply.arguments().constFirst().toLongLong();
+    const RunningProgram::Answer alive = m_other.isAlive();
+    return alive == RunningProgram::Answer::Done ? m_handOver(m_other) : alive;
 }
 
 DBusSingleInstance::NameRequest DBusSingleInstance::requestName() const
 {
-    const auto reply = QDBusConnection::sessionBus().call(
-        toBus(QStringLiteral("RequestName"), {m_applicationId, doNotQueue}), QDBus::Block,
-        busMilliseconds);
+    const auto bus = QStringLiteral("org.freedesktop.DBus");
+    auto call = QDBusMessage::createMethodCall(bus, QStringLiteral("/org/freedesktop/DBus"), bus,
+                                               QStringLiteral("RequestName"));
+    call.setArguments({m_applicationId, doNotQueue});
+    const auto reply
+        = QDBusConnection::sessionBus().call(call, QDBus::Block, RunningProgram::busMilliseconds);
     if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty())
         return NameRequest::Failed;
     const quint32 answer = reply.arguments().constFirst().toUInt();
@@ -88,53 +94,54 @@ DBusSingleInstance::NameRequest DBusSingleInstance::requestName() const
     return answer == nameExists ? NameRequest::Taken : NameRequest::Failed;
 }
 
-DBusSingleInstance::Answer DBusSingleInstance::askOther(const QString &interface,
-                                                        const QString &method,
-                                                        const QVariantList &arguments) const
+void DBusSingleInstance::setRequests(ShelfRequests *requests)
 {
-    auto call = QDBusMessage::createMethodCall(m_applicationId, objectPath(), interface, method);
-    call.setArguments(arguments);
-    call.setAutoStartService(false);
-    const auto reply = QDBusConnection::sessionBus().call(call, QDBus::Block, answerMilliseconds);
-    if (reply.type() == QDBusMessage::ReplyMessage)
-        return Answer::Done;
-    return reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NoReply") ? Answer::None
-                                                                                    : Answer::Gone;
+    m_shelf->requests = requests;
 }
 
-DBusSingleInstance::Answer DBusSingleInstance::activateOther() const
+void DBusSingleInstance::refuse(const char *error, const QString &text) const
 {
-    // The program's main thread describes its object, and every version of it does.
-    const Answer alive = askOther(QStringLiteral("org.freedesktop.DBus.Introspectable"),
-                                  QStringLiteral("Introspect"), {});
-    if (alive != Answer::Done)
-        return alive;
-    return askOther(QLatin1String(interface), QStringLiteral("Activate"), {QVariantMap()});
-}
-
-QString DBusSingleInstance::objectPath() const
-{
-    QString path = QLatin1Char('/') % m_applicationId;
-    return path.replace(QLatin1Char('.'), QLatin1Char('/'))
-        .replace(QLatin1Char('-'), QLatin1Char('_'));
+    if (calledFromDBus())
+        sendErrorReply(QLatin1String(error), text);
 }
 
 void DBusSingleInstance::Activate(const QVariantMap &)
 {
-    if (m_onReopen)
+    if (!std::exchange(m_isBeingLaunched, false) && m_onReopen)
         m_onReopen();
 }
 
-void DBusSingleInstance::Open(const QStringList &, const QVariantMap &platformData)
+void DBusSingleInstance::Open(const QStringList &uris, const QVariantMap &platformData)
 {
-    Activate(platformData);
+    if (uris.isEmpty()) {
+        Activate(platformData);
+        return;
+    }
+    m_isBeingLaunched = false;
+    ShelfDelivery delivery;
+    // A line end would make two addresses of one.
+    for (const QString &uri : uris)
+        delivery.bytes += uri.toUtf8().replace('\n', "").replace('\r', "") + "\r\n";
+    if (!m_shelf->requests)
+        refuse("org.freedesktop.DBus.Error.Failed", QStringLiteral("Corvane is not ready yet"));
+    else if (uris.size() > mostAddresses || delivery.bytes.size() > ShelfRequests::maximumBytes)
+        refuse("org.freedesktop.DBus.Error.LimitsExceeded", QStringLiteral("too many addresses"));
+    else
+        m_shelf->requests->put(delivery, [](int) {});
 }
 
-void DBusSingleInstance::ActivateAction(const QString &name, const QVariantList &,
-                                        const QVariantMap &) const
+void DBusSingleInstance::ActivateAction(const QString &name, const QVariantList &parameter,
+                                        const QVariantMap &platformData)
 {
-    if (onAction)
-        onAction(name);
+    m_isBeingLaunched = false;
+    if (!m_shelf->requests)
+        refuse("org.freedesktop.DBus.Error.Failed", QStringLiteral("Corvane is not ready yet"));
+    else if (!parameter.isEmpty())
+        refuse("org.freedesktop.DBus.Error.InvalidArgs",
+               QStringLiteral("actions of Corvane have no parameters"));
+    else if (!m_shelf->requests->act(name, activationToken(platformData)))
+        refuse("org.freedesktop.DBus.Error.InvalidArgs",
+               QStringLiteral("Corvane has no action of that name"));
 }
 
 } // namespace corvane

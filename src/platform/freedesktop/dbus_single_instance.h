@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/freedesktop/running_program.h"
+#include "platform/system/shelf_requests.h"
 #include "platform/system/single_instance.h"
 
+#include <QDBusContext>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -10,35 +13,46 @@
 
 namespace corvane {
 
+class ShelfAdaptor;
+
 /// One process a session, by a name on the session bus. The process that holds the name offers
-/// org.freedesktop.Application, as desktops expect of a program of that name; a later process asks
-/// it to activate itself. Every question to the bus has a time limit.
-///
-/// The other process is first asked something that changes nothing: a wish that waits in a process
-/// that is stuck would be done long after the user gave up.
-class DBusSingleInstance : public QObject, public SingleInstance {
+/// org.freedesktop.Application, as desktops expect of a program of that name, and the interface of
+/// `ShelfAdaptor`; a later process asks it for what it was started for. Every question to the bus
+/// has a time limit.
+class DBusSingleInstance : public QObject, public SingleInstance, protected QDBusContext {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    static constexpr int busMilliseconds = 2'000;
-    /// Longer than a program needs that was started a moment ago, on a slow disk.
-    static constexpr int answerMilliseconds = 4'000;
+    /// Asks the other process for something, and says what became of it.
+    using HandOver = std::function<RunningProgram::Answer(const RunningProgram &other)>;
+
+    /// How many addresses one call of `Open` may have, as a drop.
+    static constexpr qsizetype mostAddresses = 100'000;
 
     /// The application's id in reverse domain order, which is the name on the bus.
     explicit DBusSingleInstance(QString applicationId);
+    ~DBusSingleInstance() override;
 
+    /// What the other process is asked for where there is one; to show itself if this is not
+    /// called.
+    void setHandOver(HandOver handOver) { m_handOver = std::move(handOver); }
+    /// What the desktop gave to this process, for the other one.
+    void setPlatformData(const QVariantMap &data) { m_other.setPlatformData(data); }
+    /// To be called where the desktop has started this process through the bus: the first call is
+    /// then the start itself, and if it is `Activate` not a request to show the shelf.
+    void setStartedByBus() { m_isBeingLaunched = true; }
     Outcome acquire(std::function<void()> onReopen) override;
-    std::optional<qint64> otherProcess() const override;
+    std::optional<qint64> otherProcess() const override { return m_other.process(); }
 
-    /// Called with the name of an action that the desktop's menu for the program offers.
-    std::function<void(const QString &)> onAction;
+    /// Sets who does what other processes ask for; until then they are refused. Null to end that.
+    void setRequests(ShelfRequests *requests);
 
     /// What the desktop and later processes call.
     Q_INVOKABLE Q_SCRIPTABLE void Activate(const QVariantMap &platformData);
     Q_INVOKABLE Q_SCRIPTABLE void Open(const QStringList &uris, const QVariantMap &platformData);
     Q_INVOKABLE Q_SCRIPTABLE void ActivateAction(const QString &name, const QVariantList &parameter,
-                                                 const QVariantMap &platformData) const;
+                                                 const QVariantMap &platformData);
 
 private:
     enum class NameRequest {
@@ -47,22 +61,16 @@ private:
         Failed,
     };
 
-    enum class Answer {
-        Done,
-        /// It has ended meanwhile, or is no program of ours.
-        Gone,
-        /// Nothing came within the time limit.
-        None,
-    };
-
     NameRequest requestName() const;
-    Answer askOther(const QString &interface, const QString &method,
-                    const QVariantList &arguments) const;
-    Answer activateOther() const;
-    QString objectPath() const;
+    RunningProgram::Answer askOther() const;
+    void refuse(const char *error, const QString &text) const;
 
     QString m_applicationId;
+    RunningProgram m_other;
+    HandOver m_handOver;
     std::function<void()> m_onReopen;
+    bool m_isBeingLaunched = false;
+    ShelfAdaptor *m_shelf;
 };
 
 } // namespace corvane

@@ -13,11 +13,13 @@ public:
     enum class Outcome {
         /// No other process runs.
         First,
-        /// Another one runs and has been asked to show itself.
+        /// Another one runs and has been asked for what this one was started for.
         HandedOver,
         /// Another one runs, but did not answer within the time limit, and will not act on the
         /// request later.
         NotAnswering,
+        /// Another one runs, but does not do what it was asked for.
+        Refused,
         /// The session has no means to find out; this process runs without the check.
         Unknown,
     };

@@ -1,0 +1,17 @@
+#pragma once
+
+namespace corvane {
+
+/// To exist while the application object is made. If the toolkit cannot start, because the display
+/// cannot be reached or its plug-in cannot be loaded, it ends the process by an abort. With this it
+/// ends with status 1 and one line that says why. What the toolkit says meanwhile, and is no reason
+/// to end, is passed on afterwards.
+class ToolkitStart {
+public:
+    ToolkitStart();
+    ~ToolkitStart();
+    ToolkitStart(const ToolkitStart &) = delete;
+    ToolkitStart &operator=(const ToolkitStart &) = delete;
+};
+
+} // namespace corvane
