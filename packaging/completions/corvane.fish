@@ -1,0 +1,10 @@
+# Completion of corvane for fish.
+complete -c corvane -l toggle -d 'Show or hide the shelf'
+complete -c corvane -l show-all -d 'Show all items in the bar'
+complete -c corvane -l list -d 'Print the paths and links on the shelf, one a line'
+complete -c corvane -l take -d 'Print them, and remove them from the shelf'
+complete -c corvane -s 0 -l null -d 'Print a NUL character at the end of each, no new line'
+complete -c corvane -l preferences -d 'Open the preferences'
+complete -c corvane -l quit -d 'End Corvane'
+complete -c corvane -s h -l help -d 'Print this help'
+complete -c corvane -s v -l version -d 'Print the version'
