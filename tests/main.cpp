@@ -4,6 +4,7 @@
 #include <QApplication>
 #endif
 #include <QGuiApplication>
+#include <QLocale>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -32,5 +33,7 @@ int main(int argc, char **argv)
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
 
     const Application application(argc, argv);
+    // Numbers and dates as everywhere, whoever runs this.
+    QLocale::setDefault(QLocale::c());
     return RUN_ALL_TESTS();
 }

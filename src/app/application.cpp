@@ -1,6 +1,7 @@
 #include "app/application.h"
 
 #include "app/base/app_info.h"
+#include "app/base/translations.h"
 #include "app/commands/command_answers.h"
 #include "app/commands/command_line.h"
 #include "app/commands/start_wish.h"
@@ -19,6 +20,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
+#include <QLocale>
 
 #include <unistd.h>
 
@@ -182,6 +184,8 @@ int start(const CommandLine &line, ToolkitArguments &toolkit, const AppInfo &inf
         application = std::make_unique<QApplication>(toolkit.count, toolkit.pointers.data());
     }
     setUpApplication(info);
+    const Translations translations(Translations::wanted(qEnvironmentVariable("CORVANE_LANGUAGE"),
+                                                         QLocale::system().uiLanguages()));
 
     AppDelegate *delegate = nullptr;
     DBusSingleInstance instance(info.applicationId());

@@ -221,11 +221,13 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                 .perform = [this](const QString &action) { return delegate.perform(action); },
                 .terminate = terminate})
 {
-    const auto describe = [this](const QUuid &item, const QString &description) {
+    remoteDescriptions.onFound
+        = [this](const QUuid &item, const QString &description, bool isFolder) {
+              store.describeFile(item, description, isFolder);
+          };
+    textDescriptions.onFound = [this](const QUuid &item, const QString &description) {
         store.describe(item, description);
     };
-    remoteDescriptions.onFound = describe;
-    textDescriptions.onFound = describe;
     itemPreparation.onReady = [this](const DropItem &made) { store.becomeReady(made); };
     store.onLeft = [this](const QUuid &item, bool deletingFiles) {
         savedPictures.itemLeft(item, deletingFiles);

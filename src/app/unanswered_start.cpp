@@ -33,10 +33,15 @@ void showWindow(const QString &title, const QString &advice)
 
 void tellOfUnansweredStart(std::optional<qint64> process)
 {
-    const QString title = text("Corvane is running already, but does not answer.");
+    const QString title = text(
+        QT_TRANSLATE_NOOP("UnansweredStart", "Corvane is running already, but does not answer."));
     const QString advice = process
-        ? text("Try again in a moment, or end the process %1 and start Corvane anew.").arg(*process)
-        : text("Try again in a moment, or end it and start Corvane anew.");
+        ? text(QT_TRANSLATE_NOOP(
+                   "UnansweredStart",
+                   "Try again in a moment, or end the process %1 and start Corvane anew."))
+              .arg(*process)
+        : text(QT_TRANSLATE_NOOP("UnansweredStart",
+                                 "Try again in a moment, or end it and start Corvane anew."));
     std::fprintf(stderr, "corvane: %s %s\n", qPrintable(title), qPrintable(advice));
     // Without a terminal the program was started by the desktop, and the user does not see standard
     // error.

@@ -1,5 +1,9 @@
 #include "core/byte_count.h"
 
+#include "core/shown_numbers.h"
+
+#include <QCoreApplication>
+
 #include <array>
 
 namespace corvane {
@@ -10,15 +14,16 @@ struct Unit {
     qint64 bytes;
     /// Digits after the decimal point.
     int digits;
-    const char *name;
+    /// With the number in place of %1.
+    const char *text;
 };
 constexpr std::array<Unit, 6> units = {{
-    {1'000, 0, " KB"},
-    {1'000'000, 1, " MB"},
-    {1'000'000'000, 2, " GB"},
-    {1'000'000'000'000, 2, " TB"},
-    {1'000'000'000'000'000, 2, " PB"},
-    {1'000'000'000'000'000'000, 2, " EB"},
+    {1'000, 0, QT_TRANSLATE_NOOP("ByteCount", "%1 KB")},
+    {1'000'000, 1, QT_TRANSLATE_NOOP("ByteCount", "%1 MB")},
+    {1'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 GB")},
+    {1'000'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 TB")},
+    {1'000'000'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 PB")},
+    {1'000'000'000'000'000'000, 2, QT_TRANSLATE_NOOP("ByteCount", "%1 EB")},
 }};
 
 qint64 powerOfTen(int exponent)
@@ -38,18 +43,15 @@ qint64 rounded(qint64 bytes, const Unit &unit)
     return bytes / step + (rest >= step - rest ? 1 : 0);
 }
 
-QString withoutTrailingZeros(qint64 steps, int digits)
+/// The multiple as a number, without zeros at the end of its decimals.
+QString shownSteps(qint64 steps, int digits)
 {
     while (digits > 0 && steps % 10 == 0) {
         steps /= 10;
         --digits;
     }
-    QString text = QString::number(steps);
-    if (digits > 0)
-        text = text.rightJustified(digits + 1, QLatin1Char('0'));
-    if (digits > 0)
-        text.insert(text.size() - digits, QLatin1Char('.'));
-    return text;
+    return shownNumber(static_cast<double>(steps) / static_cast<double>(powerOfTen(digits)),
+                       digits);
 }
 
 } // namespace
@@ -57,14 +59,17 @@ QString withoutTrailingZeros(qint64 steps, int digits)
 QString formatByteCount(qint64 bytes)
 {
     if (bytes < units.front().bytes)
-        return QString::number(bytes) + QLatin1String(bytes == 1 ? " byte" : " bytes");
+        return bytes == 1
+            ? QCoreApplication::translate("ByteCount", "1 byte")
+            : QCoreApplication::translate("ByteCount", "%n bytes", nullptr, pluralOf(bytes));
     for (std::size_t i = 0; i < units.size(); ++i) {
         const Unit &unit = units[i];
         const qint64 steps = rounded(bytes, unit);
         // 999,999 bytes are shown as 1 MB, not as 1000 KB.
         const bool reachesNext = steps >= 1000 * powerOfTen(unit.digits);
         if (!reachesNext || i + 1 == units.size())
-            return withoutTrailingZeros(steps, unit.digits) + QLatin1String(unit.name);
+            return QCoreApplication::translate("ByteCount", unit.text)
+                .arg(shownSteps(steps, unit.digits));
     }
     Q_UNREACHABLE();
 }

@@ -95,6 +95,12 @@ void DropItem::setSubtitle(const QString &subtitle)
     m_data->subtitle = subtitle;
 }
 
+void DropItem::setIsFolder(bool isFolder)
+{
+    if (auto *file = std::get_if<File>(&m_data->payload))
+        file->isFolder = isFolder;
+}
+
 std::optional<Image> DropItem::thumbnail() const
 {
     return m_data->thumbnail;
@@ -146,17 +152,15 @@ PhosphorIcon DropItem::glyph() const
     if (isBeingMade())
         return PhosphorIcon::Image;
     struct Chooser {
-        const QString &subtitle;
-
-        PhosphorIcon operator()(const File &) const
+        PhosphorIcon operator()(const File &file) const
         {
-            return subtitle == QLatin1String("Folder") ? PhosphorIcon::Folder : PhosphorIcon::File;
+            return file.isFolder ? PhosphorIcon::Folder : PhosphorIcon::File;
         }
         PhosphorIcon operator()(const ImageBytes &) const { return PhosphorIcon::Image; }
         PhosphorIcon operator()(const Text &) const { return PhosphorIcon::TextAlignLeft; }
         PhosphorIcon operator()(const Link &) const { return PhosphorIcon::Link; }
     };
-    return std::visit(Chooser{m_data->subtitle}, m_data->payload);
+    return std::visit(Chooser(), m_data->payload);
 }
 
 } // namespace corvane

@@ -24,6 +24,8 @@ public:
     /// A file or folder on disk.
     struct File {
         QUrl url;
+        /// As the disk said when the item was made.
+        bool isFolder = false;
     };
     /// A picture held in memory.
     struct ImageBytes {
@@ -59,6 +61,8 @@ public:
     /// Second line shown.
     QString subtitle() const;
     void setSubtitle(const QString &subtitle);
+    /// What was found out later about a file; does nothing to other payloads.
+    void setIsFolder(bool isFolder);
     std::optional<Image> thumbnail() const;
     void setThumbnail(const Image &thumbnail);
     /// The file lives in the scratch spool and belongs to the shelf.
@@ -74,9 +78,8 @@ public:
     /// Takes over payload, texts and `isSpooled` of `made`; id and thumbnail stay.
     void become(const DropItem &made);
 
-    /// The icon drawn where there is no thumbnail. A file counts as a folder by its subtitle, which
-    /// is exactly "Folder" for a directory: the disk is not asked again. What is still being made
-    /// is shown as a picture.
+    /// The icon drawn where there is no thumbnail. The disk is not asked again whether a file is a
+    /// folder. What is still being made is shown as a picture.
     PhosphorIcon glyph() const;
 
 private:

@@ -1,17 +1,17 @@
 #pragma once
 
-#include <QString>
+#include "core/message.h"
 
 #include <functional>
 
 namespace corvane {
 
-/// Shows short messages to the user, such as "Link copied". The composition root sets the handler;
+/// Shows short messages to the user. The composition root sets the handler;
 /// without one messages are dropped.
 struct Feedback {
-    std::function<void(const QString &message)> handler;
+    std::function<void(const Message &message)> handler;
 
-    void show(const QString &message) const
+    void show(const Message &message) const
     {
         if (handler)
             handler(message);

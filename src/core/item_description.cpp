@@ -3,6 +3,8 @@
 #include "core/byte_count.h"
 #include "platform/system/file_url.h"
 
+#include <QCoreApplication>
+
 #include <sys/stat.h>
 
 #include <algorithm>
@@ -35,7 +37,7 @@ QString separator()
 QString ofFile(const FileName &name, const std::optional<FileVersion> &version)
 {
     if (version && version->kind == FileVersion::Kind::Folder)
-        return QStringLiteral("Folder");
+        return QCoreApplication::translate("ItemTexts", "Folder");
     QString kind = name.extension.toUpper();
     // The size of a pipe or a device says nothing.
     if (!version || version->kind != FileVersion::Kind::Regular)

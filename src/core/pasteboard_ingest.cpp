@@ -146,7 +146,9 @@ DropItem PasteboardIngest::fileItem(const QUrl &url,
         if (const auto picture = m_pictures.ofTiffFile(url))
             return *picture;
     }
-    DropItem item(DropItem::File{url}, name.whole,
+    const bool isFolder
+        = inspection.version && inspection.version->kind == FileVersion::Kind::Folder;
+    DropItem item(DropItem::File{url, isFolder}, name.whole,
                   item_description::ofFile(name, inspection.version), false);
     if (inspection.isRemote)
         m_remoteDescriptions.find(item.id(), name.nativePath);

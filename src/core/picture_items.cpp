@@ -5,9 +5,12 @@
 #include "core/item_description.h"
 #include "core/item_preparation.h"
 #include "core/scratch_spool.h"
+#include "core/shown_numbers.h"
 #include "core/spool_place.h"
 #include "platform/pictures/image_codec.h"
 #include "platform/system/file_url.h"
+
+#include <QCoreApplication>
 
 #include <functional>
 #include <memory>
@@ -16,8 +19,13 @@ namespace corvane {
 
 namespace {
 
+/// The name of a file that is made, in every language alike.
 const QString basename = QStringLiteral("Image");
-const QString isBeingConverted = QStringLiteral("Converting to PNG…");
+
+QString isBeingConverted()
+{
+    return QCoreApplication::translate("ItemTexts", "Converting to PNG…");
+}
 
 QString extensionOf(const UTType &type)
 {
@@ -44,7 +52,8 @@ DropItem fileItem(const QUrl &url, bool isSpooled)
 
 DropItem inMemory(const QByteArray &data, const UTType &type, const QString &description)
 {
-    return {DropItem::ImageBytes{data, type}, basename, description, false};
+    return {DropItem::ImageBytes{data, type}, QCoreApplication::translate("ItemTexts", "Image"),
+            description, false};
 }
 
 using Place = std::shared_ptr<SpoolPlace>;
@@ -100,7 +109,7 @@ std::optional<DropItem> PictureItems::converted(const QUrl &url, bool isSpooled)
         return std::nullopt;
     const DropItem item
         = DropItem::beingMade(DropItem::File{place->url()},
-                              file_url::lastPathComponent(place->url()), isBeingConverted, url);
+                              file_url::lastPathComponent(place->url()), isBeingConverted(), url);
     const auto make = [&converter = m_converter, url, isSpooled, place] {
         const bool isMade = converter.transcode(url, UTType::png(), *place);
         return isMade ? fileItem(place->url(), true) : fileItem(url, isSpooled);
@@ -151,8 +160,9 @@ DropItem PictureItems::ofBytes(const QByteArray &data, const UTType &type) const
     const Place png
         = type.isTiff() ? m_spool.keepPlace(basename, extensionOf(UTType::png())) : nullptr;
     const QUrl &url = png ? png->url() : asItIs->url();
-    const DropItem item = DropItem::beingMade(DropItem::File{url}, file_url::lastPathComponent(url),
-                                              png ? isBeingConverted : kindAndSize(data, type), {});
+    const DropItem item
+        = DropItem::beingMade(DropItem::File{url}, file_url::lastPathComponent(url),
+                              png ? isBeingConverted() : kindAndSize(data, type), {});
     ItemPreparation::Job job{item,
                              {png ? png : asItIs},
                              MakeOfBytes{data, type, png, asItIs, m_converter, m_codec},
@@ -172,8 +182,7 @@ QString PictureItems::describe(const QByteArray &imageData, const UTType &type,
                                const ImageCodec &codec)
 {
     if (const auto size = codec.pixelSize(imageData))
-        return QString::number(size->width()) + QStringLiteral(" × ")
-            + QString::number(size->height()) + item_description::separator() + kindOf(type);
+        return shownPixels(*size) + item_description::separator() + kindOf(type);
     return kindAndSize(imageData, type);
 }
 

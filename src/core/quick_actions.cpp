@@ -20,25 +20,25 @@ namespace {
 /// What one item puts on the clipboard, and what the user is told.
 struct Copied {
     std::optional<QString> string;
-    QString message;
+    Message::Kind message;
 };
 
 struct CopiedPayload {
     Copied operator()(const DropItem::File &file) const
     {
-        return {QString::fromUtf8(file_url::nativePath(file.url)), QStringLiteral("Path copied")};
+        return {QString::fromUtf8(file_url::nativePath(file.url)), Message::Kind::PathCopied};
     }
     Copied operator()(const DropItem::ImageBytes &) const
     {
-        return {std::nullopt, QStringLiteral("Image copied")};
+        return {std::nullopt, Message::Kind::ImageCopied};
     }
     Copied operator()(const DropItem::Text &text) const
     {
-        return {text.string, QStringLiteral("Text copied")};
+        return {text.string, Message::Kind::TextCopied};
     }
     Copied operator()(const DropItem::Link &link) const
     {
-        return {link.url.toString(QUrl::FullyEncoded), QStringLiteral("Link copied")};
+        return {link.url.toString(QUrl::FullyEncoded), Message::Kind::LinkCopied};
     }
 };
 
@@ -118,7 +118,7 @@ void QuickActions::writeSeveral(const QList<DropItem> &items, qsizetype count)
     for (const DropItem &item : items)
         contents.writers.push_back(DragWriter::pasteboardWriter(item));
     write(contents, items);
-    m_feedback.show(QString::number(count) + QStringLiteral(" items copied"));
+    m_feedback.show({Message::Kind::ItemsCopied, count});
 }
 
 void QuickActions::copy(const DropItem &item, bool asDataUri)
@@ -146,7 +146,7 @@ void QuickActions::copyAsDataUri(const DropItem &item, const Latest &latest)
             return;
         }
         write({{}, uri}, {});
-        m_feedback.show(QStringLiteral("Data URI copied"));
+        m_feedback.show({Message::Kind::DataUriCopied});
     });
 }
 
@@ -179,7 +179,7 @@ void QuickActions::copyAsItIs(const DropItem &item)
 {
     const Copied copied = std::visit(CopiedPayload(), item.payload());
     write({{DragWriter::pasteboardWriter(item)}, copied.string}, {item});
-    m_feedback.show(copied.message);
+    m_feedback.show({copied.message});
 }
 
 } // namespace corvane

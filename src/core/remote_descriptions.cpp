@@ -20,7 +20,8 @@ void RemoteDescriptions::find(const QUuid &item, const QByteArray &path)
                         if (!version || !onFound)
                             return;
                         const item_description::FileName name(file_url::fromNativePath(path));
-                        onFound(item, item_description::ofFile(name, version));
+                        onFound(item, item_description::ofFile(name, version),
+                                version->kind == FileVersion::Kind::Folder);
                     }));
 }
 

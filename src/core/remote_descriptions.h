@@ -24,7 +24,7 @@ public:
 
     /// Called later, on the main thread, for each file that was reached. Not called for others, nor
     /// after this is destroyed.
-    std::function<void(const QUuid &item, const QString &description)> onFound;
+    std::function<void(const QUuid &item, const QString &description, bool isFolder)> onFound;
 
     /// Begins to ask for the file at `path`, a native path.
     void find(const QUuid &item, const QByteArray &path);

@@ -144,7 +144,7 @@ bool ShelfStore::accept(const QList<DropItem> &newItems)
 void ShelfStore::ejected(int index, bool keep)
 {
     if (keep)
-        m_feedback.show(QStringLiteral("Kept on the shelf"));
+        m_feedback.show({Message::Kind::Kept});
     else
         // The program that took the drop may still be reading the spooled file.
         discard(index, false);
@@ -153,7 +153,7 @@ void ShelfStore::ejected(int index, bool keep)
 void ShelfStore::ejected(const QList<QUuid> &ids, bool keep)
 {
     if (keep) {
-        m_feedback.show(QStringLiteral("Kept on the shelf"));
+        m_feedback.show({Message::Kind::Kept});
         return;
     }
     discardEach(ids, false);

@@ -105,6 +105,8 @@ public:
     void inViewCountChanged();
     /// Replaces an item's subtitle and publishes; nothing if it is gone.
     void describe(const QUuid &id, const QString &subtitle);
+    /// The same for a file, with what it was found to be.
+    void describeFile(const QUuid &id, const QString &subtitle, bool isFolder);
     /// The item of `made`'s id takes over what it was made into (published), and its thumbnail is
     /// asked for; nothing if it is gone.
     void becomeReady(const DropItem &made);

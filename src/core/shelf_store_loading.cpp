@@ -73,6 +73,14 @@ void ShelfStore::describe(const QUuid &id, const QString &subtitle)
     change(id, PublicationPace::Detail, [&](DropItem &item) { item.setSubtitle(subtitle); });
 }
 
+void ShelfStore::describeFile(const QUuid &id, const QString &subtitle, bool isFolder)
+{
+    change(id, PublicationPace::Detail, [&](DropItem &item) {
+        item.setSubtitle(subtitle);
+        item.setIsFolder(isFolder);
+    });
+}
+
 void ShelfStore::becomeReady(const DropItem &made)
 {
     const QUuid id = made.id();

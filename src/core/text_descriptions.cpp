@@ -1,8 +1,11 @@
 #include "core/text_descriptions.h"
 
 #include "core/characters.h"
+#include "core/shown_numbers.h"
 #include "platform/base/main_queue.h"
 #include "platform/base/work_queue.h"
+
+#include <QCoreApplication>
 
 namespace corvane {
 
@@ -11,8 +14,9 @@ namespace {
 QString counted(const QString &text)
 {
     const qsizetype count = characters::count(text);
-    return count == 1 ? QStringLiteral("1 character")
-                      : QString::number(count) + QStringLiteral(" characters");
+    return count == 1
+        ? QCoreApplication::translate("ItemTexts", "1 character")
+        : QCoreApplication::translate("ItemTexts", "%n characters", nullptr, pluralOf(count));
 }
 
 bool isLarge(const QString &text)
@@ -32,7 +36,8 @@ TextDescriptions::~TextDescriptions() = default;
 
 QString TextDescriptions::atOnce(const QString &text)
 {
-    return isLarge(text) ? QStringLiteral("Counting characters…") : counted(text);
+    return isLarge(text) ? QCoreApplication::translate("ItemTexts", "Counting characters…")
+                         : counted(text);
 }
 
 void TextDescriptions::find(const QUuid &item, const QString &text)

@@ -1,5 +1,7 @@
 #include "input/shortcut.h"
 
+#include "platform/desktop/shown_keys.h"
+
 #include <QHash>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -99,6 +101,21 @@ QString Shortcut::display() const
             text += QStringView(sign.glyph);
     }
     return text + character;
+}
+
+KeyEquivalent Shortcut::keyEquivalent() const
+{
+    if (character.isEmpty())
+        return {};
+    Modifiers held;
+    for (const ModifierSign &sign : modifierSigns)
+        held.setFlag(sign.modifier, (modifiers & sign.bit) != 0);
+    return {character.toLower(), held};
+}
+
+QString Shortcut::shown() const
+{
+    return shownKeys(keyEquivalent());
 }
 
 QByteArray Shortcut::toJson() const

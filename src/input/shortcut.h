@@ -2,6 +2,7 @@
 
 #include "platform/desktop/keyboard.h"
 #include "platform/desktop/keys.h"
+#include "platform/desktop/menu.h"
 
 #include <QByteArray>
 #include <QHash>
@@ -35,6 +36,11 @@ struct Shortcut {
 
     /// Modifier glyphs (Control, Option, Shift, Command) and the key's name, "⇧⌘D".
     QString display() const;
+    /// What people see instead, since no keyboard here has these signs: "Super+Shift+D".
+    QString shown() const;
+    /// The keys for a menu: the character in lower case and the modifiers; nothing without a
+    /// character.
+    KeyEquivalent keyEquivalent() const;
 
     /// The `character` for a key: its sign ("↩") where it has one, else what it types, as a
     /// capital.

@@ -2,6 +2,7 @@
 
 #include "preview/elided_label.h"
 
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -36,7 +37,7 @@ private:
 QStringList linesOf(const PreviewContent &content)
 {
     if (std::holds_alternative<PreviewContent::Missing>(content.body))
-        return {QStringLiteral("This item is no longer there.")};
+        return {QCoreApplication::translate("PreviewWindow", "This item is no longer there.")};
     const PreviewDetails &details = content.details;
     QStringList what;
     for (const QString &part : {details.kind, details.size}) {
@@ -47,7 +48,7 @@ QStringList linesOf(const PreviewContent &content)
     if (!what.isEmpty())
         lines << what.join(QStringLiteral("  ·  "));
     if (!details.modified.isEmpty())
-        lines << QLatin1String("Modified ") + details.modified;
+        lines << QCoreApplication::translate("PreviewWindow", "Modified %1").arg(details.modified);
     return lines;
 }
 

@@ -2,6 +2,7 @@
 
 #include "preview/preview_geometry.h"
 
+#include <QCoreApplication>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -19,7 +20,7 @@ PagesView::PagesView(PreviewContent::Pages pages, PreviewLoading &loading, QWidg
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    setAccessibleName(QStringLiteral("Pages"));
+    setAccessibleName(QCoreApplication::translate("PreviewWindow", "Pages"));
 }
 
 PagesView::~PagesView() = default;

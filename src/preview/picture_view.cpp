@@ -3,6 +3,7 @@
 #include "platform/base/main_queue.h"
 #include "platform/pictures/image_codec.h"
 
+#include <QCoreApplication>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
 #include <QPainter>
@@ -52,7 +53,7 @@ PictureView::PictureView(const PreviewContent::Picture &picture, PreviewLoading 
     , m_isAnimating(picture.isAnimated && picture.document)
 {
     setFocusPolicy(Qt::StrongFocus);
-    setAccessibleName(QStringLiteral("Picture"));
+    setAccessibleName(QCoreApplication::translate("PreviewWindow", "Picture"));
 }
 
 PictureView::~PictureView() = default;

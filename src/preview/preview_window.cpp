@@ -8,8 +8,10 @@
 #include "preview/text_view.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -26,6 +28,25 @@ struct Overloaded : Functions... {
 template<class... Functions>
 Overloaded(Functions...) -> Overloaded<Functions...>;
 
+QString pageCount(int count)
+{
+    return count == 1 ? QCoreApplication::translate("PreviewWindow", "1 page")
+                      : QCoreApplication::translate("PreviewWindow", "%n pages", nullptr, count);
+}
+
+/// In the locale's digits, not in groups.
+QString pixels(QSize size)
+{
+    QLocale locale;
+    locale.setNumberOptions(QLocale::OmitGroupSeparator);
+    return locale.toString(size.width()) + QStringLiteral(" × ") + locale.toString(size.height());
+}
+
+QString onlyTheBeginning()
+{
+    return QCoreApplication::translate("PreviewWindow", "only the beginning is shown");
+}
+
 /// The text of the line below the content.
 QString lineFor(const PreviewContent &content)
 {
@@ -40,24 +61,21 @@ QString lineFor(const PreviewContent &content)
                    [&](const PreviewContent::Picture &picture) {
                        add(content.details.kind);
                        if (!picture.isVector)
-                           add(QStringLiteral("%1 × %2")
-                                   .arg(picture.pixelSize.width())
-                                   .arg(picture.pixelSize.height()));
+                           add(pixels(picture.pixelSize));
                        add(content.details.size);
                    },
                    [&](const PreviewContent::Pages &pages) {
                        add(content.details.kind);
-                       add(pages.count == 1 ? QStringLiteral("1 page")
-                                            : QStringLiteral("%1 pages").arg(pages.count));
+                       add(pageCount(pages.count));
                        add(content.details.size);
                        if (pages.sizes.size() < pages.count)
-                           add(QStringLiteral("only the beginning is shown"));
+                           add(onlyTheBeginning());
                    },
                    [&](const PreviewContent::Text &text) {
                        add(content.details.kind);
                        add(content.details.size);
                        if (text.isCut)
-                           add(QStringLiteral("only the beginning is shown"));
+                           add(onlyTheBeginning());
                    },
                },
                content.body);
@@ -75,7 +93,7 @@ PreviewWindow::PreviewWindow(PreviewLoading &loading, MainQueue &queue)
     , m_layout(new QVBoxLayout(this))
     , m_bar(new QWidget(this))
     , m_line(new ElidedLabel(m_bar))
-    , m_open(new QPushButton(QStringLiteral("Open"), m_bar))
+    , m_open(new QPushButton(QCoreApplication::translate("PreviewWindow", "Open"), m_bar))
 {
     // The line begins where the text above it does.
     constexpr int sideMargin = 18;
@@ -110,7 +128,8 @@ void PreviewWindow::setContent(const PreviewContent &content, const Image &icon)
     m_line->setText(line);
     m_open->setVisible(content.canBeOpened);
     m_bar->setVisible(content.canBeOpened || !line.isEmpty());
-    m_open->setAccessibleName(QLatin1String("Open ") + content.details.name);
+    m_open->setAccessibleName(
+        QCoreApplication::translate("PreviewWindow", "Open %1").arg(content.details.name));
     delete m_view;
     m_picture = nullptr;
     m_view = makeView(content, icon);

@@ -12,6 +12,7 @@
 #include "preview/preview_window.h"
 #include "preview/text_view.h"
 
+#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -66,7 +67,7 @@ void QtPreviewPanel::reloadData()
     m_title = m_dataSource->previewItemTitle(0);
     if (m_title)
         m_content.details.name = *m_title;
-    m_content.details.kind = QStringLiteral("Loading…");
+    m_content.details.kind = QCoreApplication::translate("PreviewWindow", "Loading…");
     if (url)
         load(*url);
     else

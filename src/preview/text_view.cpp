@@ -3,6 +3,7 @@
 #include "platform/base/main_queue.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QTextBlock>
 #include <QTextCursor>
@@ -31,7 +32,7 @@ TextView::TextView(const PreviewContent::Text &text, MainQueue &queue, QWidget *
     setFrameShape(QFrame::NoFrame);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    setAccessibleName(QStringLiteral("Text"));
+    setAccessibleName(QCoreApplication::translate("PreviewWindow", "Text"));
     setFont(fontFor(text));
     setTabStopDistance(tabWidth * fontMetrics().horizontalAdvance(QLatin1Char(' ')));
     document()->setDocumentMargin(margin);

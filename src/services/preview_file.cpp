@@ -7,6 +7,7 @@
 #include "platform/system/regular_file.h"
 #include "services/preview_text.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
 #include <QMimeDatabase>
@@ -40,8 +41,10 @@ QString itemCount(const QByteArray &path)
     }
     ::closedir(folder);
     if (count > maximumCounted)
-        return QStringLiteral("More than 10,000 items");
-    return count == 1 ? QStringLiteral("1 item") : QString::number(count) % u" items";
+        return QCoreApplication::translate("PreviewFile", "More than %n items", nullptr,
+                                           maximumCounted);
+    return count == 1 ? QCoreApplication::translate("PreviewFile", "1 item")
+                      : QCoreApplication::translate("PreviewFile", "%n items", nullptr, count);
 }
 
 QString timeOf(const struct stat &status)
@@ -51,7 +54,7 @@ QString timeOf(const struct stat &status)
         return {};
     const QLocale locale;
     const QString hours = locale.timeFormat(QLocale::ShortFormat).remove(QLatin1String(":ss"));
-    return locale.toString(time.date(), u"d MMMM yyyy") % u", "
+    return locale.toString(time.date(), QLocale::LongFormat) % u", "
         % locale.toString(time.time(), hours);
 }
 

@@ -6,7 +6,6 @@
 #include "platform/desktop/keyboard.h"
 #include "shelf/optional_callback.h"
 
-#include <QCoreApplication>
 #include <QLineF>
 
 #include <memory>
@@ -16,17 +15,12 @@ namespace corvane {
 
 namespace {
 
-QString nothingToDragMessage()
-{
-    return QCoreApplication::translate("ShelfView", "The file is no longer there");
-}
-
 /// The message when `stayed` of `all` dragged items were not taken.
-QString stayedMessage(qsizetype stayed, qsizetype all)
+Message stayedMessage(qsizetype stayed, qsizetype all)
 {
     if (stayed >= all)
-        return QCoreApplication::translate("ShelfView", "It was not taken");
-    return QCoreApplication::translate("ShelfView", "%1 of %2 were not taken").arg(stayed).arg(all);
+        return {Message::Kind::NotTaken};
+    return {Message::Kind::SomeNotTaken, stayed, all};
 }
 
 } // namespace
@@ -57,7 +51,7 @@ void DragSource::begin(const QList<DropItem> &items, const Painter &paint)
     m_press.reset();
     DragSet set = makeDragSet(items, m_context.dragWriter, m_context.pictures);
     if (set.items.isEmpty()) {
-        call(onMessage, nothingToDragMessage());
+        call(onMessage, Message{Message::Kind::FileIsGone});
         return;
     }
     for (const DropItem &item : std::as_const(set.items))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "core/message.h"
 #include "core/spool_loans.h"
 #include "platform/base/lifetime.h"
 #include "platform/desktop/panel_window.h"
@@ -68,7 +69,7 @@ public:
     /// empty list.
     std::function<void(const QList<QUuid> &ids, bool keep)> onEjected;
     /// A message for the user: that there is nothing to drag, or that items were not taken.
-    std::function<void(const QString &message)> onMessage;
+    std::function<void(const Message &message)> onMessage;
 
     /// The button went down on that item, at `point` of the panel.
     void press(const QUuid &item, QPointF point);

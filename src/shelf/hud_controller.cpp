@@ -42,7 +42,7 @@ HUDController::HUDController(const Context &context)
     m_panel.setContent(&m_shelf);
     m_panel.setIgnoresMouseEvents(true);
     m_context.feedback.handler
-        = m_lifetime.guard([this](const QString &message) { m_shelf.flash(message); });
+        = m_lifetime.guard([this](const Message &message) { m_shelf.flash(message.text()); });
     wireShelf();
     wireSettings();
     wireScreenChanges();

@@ -33,7 +33,7 @@ void ShelfView::wireDragSource()
         for (const QUuid &id : ids)
             call(onEjected, id, keep);
     };
-    m_dragSource.onMessage = [this](const QString &message) { flash(message); };
+    m_dragSource.onMessage = [this](const Message &message) { flash(message.text()); };
 }
 
 void ShelfView::mouseDragged(const MouseEvent &event)

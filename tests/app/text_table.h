@@ -1,10 +1,7 @@
 #pragma once
 
-#include <QFile>
 #include <QString>
 #include <QStringList>
-
-#include <gtest/gtest.h>
 
 namespace corvane::test {
 
@@ -17,30 +14,15 @@ public:
         for (const QString &line : lines)
             m_text += line + u'\n';
         m_text += u'\n';
+        m_lines += lines;
     }
     std::string text() const { return m_text.toStdString(); }
+    /// Without the headings.
+    const QStringList &lines() const { return m_lines; }
 
 private:
     QString m_text;
+    QStringList m_lines;
 };
-
-/// What the group is to say; rewritten where the present texts are to be taken as the right ones.
-inline std::string groupOfFile(const QString &group, const std::string &present)
-{
-    const QString path
-        = QStringLiteral(CORVANE_TEST_DATA "/app/texts/") + group + QStringLiteral(".txt");
-    QFile file(path);
-    if (qEnvironmentVariableIsSet("CORVANE_REBASELINE")) {
-        if (file.open(QFile::WriteOnly))
-            file.write(QByteArray::fromStdString(present));
-        return present;
-    }
-    return file.open(QFile::ReadOnly) ? file.readAll().toStdString() : std::string();
-}
-
-inline void expectTable(const char *group, const TextTable &table)
-{
-    EXPECT_EQ(table.text(), groupOfFile(QString::fromLatin1(group), table.text()));
-}
 
 } // namespace corvane::test

@@ -7,20 +7,30 @@
 namespace corvane {
 namespace {
 
-DropItem file(const QString &subtitle)
+DropItem file(const QString &subtitle, bool isFolder = false)
 {
     const QUrl url(QStringLiteral("file:///tmp/a"));
-    return DropItem(DropItem::File{url}, QStringLiteral("a"), subtitle, false);
+    return DropItem(DropItem::File{url, isFolder}, QStringLiteral("a"), subtitle, false);
 }
 
-TEST(DropItem, ShowsAFolderByItsExactSubtitle)
+TEST(DropItem, ShowsAFolderAsOneWhateverItIsCalled)
 {
-    EXPECT_EQ(file(QStringLiteral("Folder")).glyph(), PhosphorIcon::Folder);
-    EXPECT_EQ(file(QStringLiteral("folder")).glyph(), PhosphorIcon::File);
-    EXPECT_EQ(file(QStringLiteral("TXT · 2 KB")).glyph(), PhosphorIcon::File);
-    DropItem renamed = file(QString());
-    renamed.setSubtitle(QStringLiteral("Folder"));
-    EXPECT_EQ(renamed.glyph(), PhosphorIcon::Folder);
+    EXPECT_EQ(file(QStringLiteral("Folder"), true).glyph(), PhosphorIcon::Folder);
+    EXPECT_EQ(file(QStringLiteral("Ordner"), true).glyph(), PhosphorIcon::Folder);
+    EXPECT_EQ(file(QStringLiteral("Folder"), false).glyph(), PhosphorIcon::File);
+    EXPECT_EQ(file(QStringLiteral("TXT · 2 KB"), false).glyph(), PhosphorIcon::File);
+}
+
+TEST(DropItem, CanTurnOutToBeAFolderLater)
+{
+    DropItem found = file(QString(), false);
+    const DropItem before = found;
+    found.setIsFolder(true);
+    EXPECT_EQ(found.glyph(), PhosphorIcon::Folder);
+    EXPECT_EQ(before.glyph(), PhosphorIcon::File) << "a copy stays what it was";
+    DropItem text(DropItem::Text{QStringLiteral("a")}, {}, {}, false);
+    text.setIsFolder(true);
+    EXPECT_EQ(text.glyph(), PhosphorIcon::TextAlignLeft);
 }
 
 TEST(DropItem, HasAGlyphForEachKind)

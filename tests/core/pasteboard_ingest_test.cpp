@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -293,9 +294,9 @@ TEST_F(RemoteFileItems, AreToldByTheirNamesAlone)
 
 TEST_F(RemoteFileItems, AreDescribedOnceTheServerAnswers)
 {
-    std::vector<std::pair<QUuid, QString>> found;
-    remoteDescriptions.onFound = [&](const QUuid &item, const QString &description) {
-        found.emplace_back(item, description);
+    std::vector<std::tuple<QUuid, QString, bool>> found;
+    remoteDescriptions.onFound = [&](const QUuid &item, const QString &description, bool isFolder) {
+        found.emplace_back(item, description, isFolder);
     };
     locality.remoteFolder = "/net";
     const DropItem file = ingest.fileItem(file_url::fromNativePath("/net/a.txt"));
@@ -308,8 +309,8 @@ TEST_F(RemoteFileItems, AreDescribedOnceTheServerAnswers)
         FileVersion{"/net/Photos.d/", FileVersion::Kind::Folder, 0, 0});
     remoteFiles.inspections[2].answer(std::nullopt);
     ASSERT_EQ(found.size(), 2U);
-    EXPECT_EQ(found[0], std::pair(file.id(), QStringLiteral("TXT · 2 KB")));
-    EXPECT_EQ(found[1], std::pair(folder.id(), QStringLiteral("Folder")));
+    EXPECT_EQ(found[0], std::tuple(file.id(), QStringLiteral("TXT · 2 KB"), false));
+    EXPECT_EQ(found[1], std::tuple(folder.id(), QStringLiteral("Folder"), true));
 }
 
 TEST_F(RemoteFileItems, OfTiffAreNotReadForTheDrop)
@@ -399,7 +400,7 @@ TEST(RemoteDescriptionsTest, FindNothingOnceTheyAreGone)
     test::FakeRemoteFiles files;
     std::optional<RemoteDescriptions> descriptions(files);
     int found = 0;
-    descriptions->onFound = [&](const QUuid &, const QString &) { ++found; };
+    descriptions->onFound = [&](const QUuid &, const QString &, bool) { ++found; };
     descriptions->find(QUuid::createUuid(), "/net/a");
     descriptions.reset();
     files.inspections[0].answer(FileVersion{"/net/a", FileVersion::Kind::Folder, 0, 0});

@@ -23,7 +23,7 @@ namespace corvane::test {
 struct QuickActionsTest : testing::Test {
     QuickActionsTest()
     {
-        feedback.handler = [this](const QString &message) { messages << message; };
+        feedback.handler = [this](const Message &message) { messages << message.text(); };
     }
 
     DropItem file(const QByteArray &name, const QByteArray &contents)

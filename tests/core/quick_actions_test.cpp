@@ -9,7 +9,7 @@ namespace {
 TEST_F(QuickActionsTest, SaysThatItWasCopiedOnceItIs)
 {
     std::vector<std::size_t> writesWhenTold;
-    feedback.handler = [&](const QString &) { writesWhenTold.push_back(pasteboard.writes.size()); };
+    feedback.handler = [&](const Message &) { writesWhenTold.push_back(pasteboard.writes.size()); };
     actions.copy(text, false);
     actions.copy({text, link});
     EXPECT_EQ(writesWhenTold, (std::vector<std::size_t>{1, 2}));

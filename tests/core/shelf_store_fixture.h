@@ -21,7 +21,7 @@ namespace corvane::test {
 struct ShelfStoreTest : testing::Test, TemporarySpool {
     ShelfStoreTest()
     {
-        feedback.handler = [this](const QString &message) { messages << message; };
+        feedback.handler = [this](const Message &message) { messages << message.text(); };
         store.observeItems([this](const QList<DropItem> &items) {
             log << QStringLiteral("items ") + joined(items);
         });

@@ -303,7 +303,7 @@ TEST_F(ShelfStoreTest, ADescriptionThatComesLaterIsPublishedWhileItsItemIsThere)
     store.setItems({DropItem(DropItem::File{QUrl(QStringLiteral("file:///net/a"))},
                              QStringLiteral("a"), QString(), false)});
     log.clear();
-    store.describe(store.items()[0].id(), QStringLiteral("Folder"));
+    store.describeFile(store.items()[0].id(), QStringLiteral("Folder"), true);
     EXPECT_EQ(store.items()[0].subtitle(), QStringLiteral("Folder"));
     EXPECT_EQ(store.items()[0].glyph(), PhosphorIcon::Folder);
     EXPECT_EQ(log, QStringList{QStringLiteral("items a")});

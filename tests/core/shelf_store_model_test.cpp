@@ -48,8 +48,9 @@ class StoreAndModel : TemporarySpool {
 public:
     explicit StoreAndModel(RandomSteps & /*steps*/)
     {
-        feedback.handler
-            = [this](const QString &message) { log << QStringLiteral("message ") + message; };
+        feedback.handler = [this](const Message &message) {
+            log << QStringLiteral("message ") + message.text();
+        };
         store.observeItems([this](const QList<DropItem> &items) {
             EXPECT_EQ(items.size(), store.items().size());
             log << QStringLiteral("items ") + whole();

@@ -51,6 +51,12 @@ struct ShelfDesk {
         return {DropItem::File{QUrl::fromLocalFile(QStringLiteral("/nowhere/") + name)}, name,
                 subtitle, false};
     }
+    static DropItem folderItem(const QString &name)
+    {
+        DropItem item = fileItem(name, QStringLiteral("Folder"));
+        item.setIsFolder(true);
+        return item;
+    }
     static DropItem textItem(const QString &text)
     {
         return {DropItem::Text{text}, text, QStringLiteral("5 characters"), false};

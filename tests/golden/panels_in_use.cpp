@@ -190,7 +190,7 @@ void PanelsInUse::dragLeaves(RandomSteps &steps)
 void PanelsInUse::flash(RandomSteps &steps)
 {
     steps.note(QStringLiteral("flash"));
-    feedback.show(QStringLiteral("Message %1").arg(steps.below(9)));
+    feedback.show({Message::Kind::ItemsCopied, steps.below(9)});
 }
 
 void PanelsInUse::setInView(RandomSteps &steps)

@@ -51,7 +51,7 @@ QList<DropItem> sampleItems()
         samplePhoto(QStringLiteral("harbour.jpg"), evening, harbour),
         link(QStringLiteral("Rust 2026 edition")),
         ShelfDesk::fileItem(QStringLiteral("cover-v3.png"), QStringLiteral("PNG · 80 KB")),
-        ShelfDesk::fileItem(QStringLiteral("Holiday"), QStringLiteral("Folder")),
+        ShelfDesk::folderItem(QStringLiteral("Holiday")),
         ShelfDesk::textItem(QStringLiteral("Remember the milk")),
         samplePhoto(QStringLiteral("mast.tiff"), morning, meadow, {60, 34}),
     };
@@ -65,7 +65,7 @@ QList<DropItem> largeSampleItems()
                     sun),
         link(QStringLiteral("Rust 2026 edition guide")),
         ShelfDesk::fileItem(QStringLiteral("cover-v3.png"), QStringLiteral("PNG · 80 KB")),
-        ShelfDesk::fileItem(QStringLiteral("Holiday"), QStringLiteral("Folder")),
+        ShelfDesk::folderItem(QStringLiteral("Holiday")),
         ShelfDesk::textItem(QStringLiteral("Remember the milk and the bread")),
         samplePhoto(QStringLiteral("mast.tiff"), morning, meadow, {128, 72}, sun),
         samplePhoto(QStringLiteral("tower.png"), Qt::white, QColor(0xDD, 0xE3, 0xEE), {72, 128},

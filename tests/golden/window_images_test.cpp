@@ -1,5 +1,7 @@
-// Pictures of the preferences, of the guide and of updates, light and dark, at several scales.
+// Pictures of the preferences, of the guide and of updates, light and dark, at several scales, as
+// people read them in English.
 
+#include "app/base/translations.h"
 #include "golden/golden.h"
 #include "golden/panel_stage.h"
 #include "golden/window_stage.h"
@@ -16,6 +18,7 @@ class WindowImages : public testing::TestWithParam<WindowState> { };
 
 TEST_P(WindowImages, AreAsKept)
 {
+    const Translations english({QStringLiteral("en")});
     const WindowLookForPictures look(Scheme::Light);
     const auto stage = GetParam().make();
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {

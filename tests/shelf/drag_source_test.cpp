@@ -31,7 +31,7 @@ protected:
         source->onEjected = [this](const QList<QUuid> &ids, bool keep) {
             log << (keep ? QStringLiteral("kept ") : QStringLiteral("left ")) + titles(ids);
         };
-        source->onMessage = [this](const QString &message) { log << message; };
+        source->onMessage = [this](const Message &message) { log << message.text(); };
     }
 
     DropItem text(const char *title)

@@ -620,7 +620,7 @@ TEST_F(HUDControllerTest, WhatOutlivesItDoesNothing)
     accept(1);
     settings.setInViewCount(2);
     screens.notifyChanges();
-    feedback.show(QStringLiteral("nobody listens"));
+    feedback.show({Message::Kind::Kept});
     desk.clock.advance(5);
     EXPECT_TRUE(desk.panel.visible) << "the pending hide is void";
 }

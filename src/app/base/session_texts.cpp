@@ -15,9 +15,10 @@ QString because(Reason why)
 {
     switch (why) {
     case Reason::ServerLacksExtensions:
-        return text("your display server lacks XInput 2 or XFixes");
+        return text(
+            QT_TRANSLATE_NOOP("SessionTexts", "your display server lacks XInput 2 or XFixes"));
     case Reason::KeptByDesktop:
-        return text("your desktop keeps that to itself");
+        return text(QT_TRANSLATE_NOOP("SessionTexts", "your desktop keeps that to itself"));
     case Reason::None:
         break;
     }
@@ -26,7 +27,8 @@ QString because(Reason why)
 
 QString sentence(const QString &missing, Reason why, const QString &instead)
 {
-    return text("%1, because %2. %3").arg(missing, because(why), instead);
+    return text(QT_TRANSLATE_NOOP("SessionTexts", "%1, because %2. %3"))
+        .arg(missing, because(why), instead);
 }
 
 template<typename Extent>
@@ -46,11 +48,18 @@ QString limit(const Ability<Drags> &drags)
     case Drags::Everywhere:
         return {};
     case Drags::AtTheEdge:
-        return sentence(text("Drags are noticed only at the top of the screen"), drags.why,
-                        text("Drag to the middle of the top edge, and the shelf opens."));
+        return sentence(
+            text(QT_TRANSLATE_NOOP("SessionTexts",
+                                   "Drags are noticed only at the top of the screen")),
+            drags.why,
+            text(QT_TRANSLATE_NOOP("SessionTexts",
+                                   "Drag to the middle of the top edge, and the shelf opens.")));
     case Drags::Unnoticed:
-        return sentence(text("The shelf does not open when a drag begins"), drags.why,
-                        text("Open it with its shortcut or from the menu before you drag."));
+        return sentence(
+            text(QT_TRANSLATE_NOOP("SessionTexts", "The shelf does not open when a drag begins")),
+            drags.why,
+            text(QT_TRANSLATE_NOOP("SessionTexts",
+                                   "Open it with its shortcut or from the menu before you drag.")));
     }
     return {};
 }
@@ -59,24 +68,30 @@ QString limit(const Ability<TopEdge> &topEdge)
 {
     if (topEdge.isFull())
         return {};
-    return sentence(text("A hidden shelf does not come to the pointer at the top edge"),
-                    topEdge.why, text("Open it with its shortcut or from the menu."));
+    return sentence(
+        text(QT_TRANSLATE_NOOP("SessionTexts",
+                               "A hidden shelf does not come to the pointer at the top edge")),
+        topEdge.why,
+        text(QT_TRANSLATE_NOOP("SessionTexts", "Open it with its shortcut or from the menu.")));
 }
 
 QString limit(const Ability<ClicksElsewhere> &clicks)
 {
     if (clicks.isFull())
         return {};
-    return sentence(text("A click in another program does not close the bar with all items"),
-                    clicks.why, text("Press Escape to close it."));
+    return sentence(
+        text(QT_TRANSLATE_NOOP("SessionTexts",
+                               "A click in another program does not close the bar with all items")),
+        clicks.why, text(QT_TRANSLATE_NOOP("SessionTexts", "Press Escape to close it.")));
 }
 
 QString limit(const Ability<ShortcutChoice> &choice)
 {
     if (choice.isFull())
         return {};
-    return sentence(text("Shortcuts cannot be recorded here"), choice.why,
-                    text("Choose them in your desktop's settings."));
+    return sentence(
+        text(QT_TRANSLATE_NOOP("SessionTexts", "Shortcuts cannot be recorded here")), choice.why,
+        text(QT_TRANSLATE_NOOP("SessionTexts", "Choose them in your desktop's settings.")));
 }
 
 QStringList limits(const Abilities &abilities)

@@ -1,6 +1,7 @@
 #include "app/preferences/number_picker.h"
 
 #include "app/preferences/choice_button.h"
+#include "core/shown_numbers.h"
 
 #include <QButtonGroup>
 #include <QHBoxLayout>
@@ -37,7 +38,7 @@ NumberPicker::NumberPicker(int minimum, int maximum, const QString &name, const 
     layout->setSpacing(0);
     for (int number = minimum; number <= maximum; ++number) {
         auto *button
-            = new ChoiceButton(QString::number(number),
+            = new ChoiceButton(shownNumber(number),
                                {fontSize, horizontalPadding, verticalPadding, buttonWidth}, m_look);
         button->setAccessibleDescription(name);
         m_group->addButton(button, number);

@@ -28,7 +28,7 @@ QString ShortcutRecorderAccessible::text(QAccessible::Text kind) const
     if (kind != QAccessible::Name)
         return QAccessibleWidget::text(kind);
     const QString purpose = m_view.accessibleName();
-    return purpose.isEmpty() ? m_view.spokenText() : purpose + u": " + m_view.spokenText();
+    return purpose.isEmpty() ? m_view.text() : purpose + u": " + m_view.text();
 }
 
 QStringList ShortcutRecorderAccessible::actionNames() const

@@ -10,14 +10,13 @@
 #include <QMouseEvent>
 #include <QPainter>
 
-#include <array>
 #include <utility>
 
 namespace corvane {
 
 namespace {
 
-constexpr QSizeF usualSize{124, 26};
+constexpr QSizeF usualSize{148, 26};
 constexpr double cornerRadius = 5;
 constexpr double fontSize = 12;
 constexpr double sidePadding = 6;
@@ -86,23 +85,7 @@ QString ShortcutRecorderView::text() const
 {
     if (isRecording())
         return tr("Type a shortcut…");
-    return shortcut() ? displayText(shortcut()->display()) : tr("Record Shortcut");
-}
-
-QString ShortcutRecorderView::spokenText() const
-{
-    if (isRecording() || !shortcut())
-        return text();
-    QStringList names;
-    const std::array all
-        = {std::pair(Shortcut::control, tr("Control")), std::pair(Shortcut::option, tr("Alt")),
-           std::pair(Shortcut::shift, tr("Shift")), std::pair(Shortcut::command, tr("Super"))};
-    for (const auto &[bit, name] : all) {
-        if ((shortcut()->modifiers & bit) != 0)
-            names << name;
-    }
-    names << displayText(shortcut()->character);
-    return names.join(u' ');
+    return shortcut() ? displayText(shortcut()->shown()) : tr("Record Shortcut");
 }
 
 QSize ShortcutRecorderView::sizeHint() const
@@ -125,6 +108,13 @@ QColor ShortcutRecorderView::textColor() const
     return hasConflict() ? warningRed(palette()) : palette().color(QPalette::ButtonText);
 }
 
+/// A stored name may be of any length, and the names of keys are long in some languages.
+QString ShortcutRecorderView::elidedText() const
+{
+    return QFontMetricsF(textFont())
+        .elidedText(text(), Qt::ElideRight, width() - 2 * m_look.length(sidePadding));
+}
+
 void ShortcutRecorderView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
@@ -143,9 +133,7 @@ void ShortcutRecorderView::paintEvent(QPaintEvent *)
 
     const QFont font = textFont();
     const QFontMetricsF metrics(font);
-    // A stored name may be of any length.
-    const QString shown
-        = metrics.elidedText(text(), Qt::ElideRight, width() - 2 * m_look.length(sidePadding));
+    const QString shown = elidedText();
     painter.setFont(font);
     painter.setPen(textColor());
     const double x = (width() - metrics.horizontalAdvance(shown)) * 0.5;
@@ -195,6 +183,7 @@ void ShortcutRecorderView::changed()
 {
     if (!isRecording())
         giveKeyboardBack();
+    setToolTip(elidedText() == text() ? QString() : text());
     update();
     if (QAccessible::isActive()) {
         QAccessibleEvent event(this, QAccessible::NameChanged);

@@ -30,8 +30,6 @@ public:
 
     /// What stands in it.
     QString text() const;
-    /// The same for somebody who hears it: the modifiers by their names.
-    QString spokenText() const;
 
     QSize sizeHint() const override;
 
@@ -52,6 +50,7 @@ protected:
 
 private:
     QFont textFont() const;
+    QString elidedText() const;
     QColor textColor() const;
     void takeKeyboard();
     void giveKeyboardBack();

@@ -12,7 +12,7 @@ namespace corvane {
 
 namespace {
 
-constexpr QSize recorderSize{124, 26};
+constexpr QSize recorderSize{148, 26};
 constexpr double copyTextSize = 12;
 constexpr QSize copySize{64, 26};
 
@@ -38,8 +38,6 @@ ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail,
     m_recorder->setFixedSize(look.length(recorderSize));
     m_recorder->setAccessibleName(title);
     m_recorder->setAccessibleDescription(usualDetail);
-    // The signs do not stand on the keys of a PC keyboard.
-    m_recorder->setToolTip(tr("⌘ is Super, ⌥ is Alt, ⌃ is Ctrl, ⇧ is Shift"));
     m_clear->setAccessibleDescription(title);
     m_recorder->onChange = [this](const Shortcut &shortcut) { change(shortcut); };
     connect(m_clear, &QPushButton::clicked, this, [this] { change(std::nullopt); });

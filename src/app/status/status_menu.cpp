@@ -28,14 +28,7 @@ KeyEquivalent withControl(QChar key)
 
 KeyEquivalent keyEquivalent(const std::optional<Shortcut> &shortcut)
 {
-    if (!shortcut || shortcut->character.isEmpty())
-        return {};
-    Modifiers modifiers;
-    modifiers.setFlag(Modifier::Control, (shortcut->modifiers & Shortcut::control) != 0);
-    modifiers.setFlag(Modifier::Option, (shortcut->modifiers & Shortcut::option) != 0);
-    modifiers.setFlag(Modifier::Shift, (shortcut->modifiers & Shortcut::shift) != 0);
-    modifiers.setFlag(Modifier::Command, (shortcut->modifiers & Shortcut::command) != 0);
-    return {shortcut->character.toLower(), modifiers};
+    return shortcut ? shortcut->keyEquivalent() : KeyEquivalent();
 }
 
 QString toolTip(int itemCount)

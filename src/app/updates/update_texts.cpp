@@ -20,10 +20,9 @@ QString translated(const char *text)
     return QCoreApplication::translate("UpdateTexts", text);
 }
 
-/// In English, as all of these texts.
 QString shownDate(const QDate &date)
 {
-    return QLocale::c().toString(date, QStringLiteral("d MMMM yyyy"));
+    return QLocale().toString(date, QLocale::LongFormat);
 }
 
 /// Of what is wrong with what is announced, or with what is remembered of it.

@@ -1,5 +1,6 @@
 #include "app/welcome/page_indicator.h"
 
+#include "core/shown_numbers.h"
 #include "platform/desktop/motion_preference.h"
 
 #include <QPainter>
@@ -44,7 +45,7 @@ QSize PageIndicator::sizeHint() const
 
 void PageIndicator::setCurrent(int page)
 {
-    setAccessibleName(tr("Step %1 of %2").arg(page + 1).arg(m_count));
+    setAccessibleName(tr("Step %1 of %2").arg(shownNumber(page + 1), shownNumber(m_count)));
     m_place.setStartValue(m_place.currentValue());
     m_place.setEndValue(static_cast<double>(page));
     m_place.stop();

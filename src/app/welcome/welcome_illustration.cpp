@@ -4,7 +4,9 @@
 #include "app/welcome/welcome_shapes.h"
 #include "shelf/drawing/pill_path.h"
 
+#include <QCoreApplication>
 #include <QFont>
+#include <QFontMetrics>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
@@ -25,6 +27,7 @@ constexpr double titleBarHeight = 20;
 constexpr double notchRadius = 8;
 constexpr double shelfRadius = 18;
 constexpr double ringInset = 7;
+constexpr double keyPadding = 4;
 
 struct Colours {
     explicit Colours(const QPalette &palette)
@@ -172,6 +175,20 @@ void drawShelf(QPainter &painter, const WelcomeScene &scene)
     painter.drawRoundedRect(ring, shelfRadius - ringInset, shelfRadius - ringInset);
 }
 
+/// What stands on the key, made small enough for its cap.
+void drawKeyName(QPainter &painter, const QRectF &cap)
+{
+    const QString name = QCoreApplication::translate("QShortcut", "Shift");
+    const double width = painter.fontMetrics().horizontalAdvance(name);
+    const double scale = std::min(1.0, (cap.width() - 2 * keyPadding) / width);
+    painter.save();
+    painter.translate(cap.center());
+    painter.scale(scale, scale);
+    painter.drawText(QRectF(-width, -cap.height(), 2 * width, 2 * cap.height()), Qt::AlignCenter,
+                     name);
+    painter.restore();
+}
+
 void drawKey(QPainter &painter, double pressed, const Colours &colours, const QFont &font)
 {
     const QRectF cap = keyCap.translated(0, keyTravel * pressed);
@@ -187,7 +204,7 @@ void drawKey(QPainter &painter, double pressed, const Colours &colours, const QF
     painter.drawRoundedRect(cap, 8, 8);
     painter.setFont(font);
     painter.setPen(pressed > 0.5 || colours.isDark ? Qt::white : QColor(0x30, 0x33, 0x3A));
-    painter.drawText(cap, Qt::AlignCenter, QStringLiteral("⇧"));
+    drawKeyName(painter, cap);
 }
 
 void drawPointer(QPainter &painter, QPointF tip)

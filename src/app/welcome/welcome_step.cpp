@@ -4,21 +4,15 @@
 
 namespace corvane::welcome_step {
 
-namespace {
-
-constexpr auto context = "WelcomeStep";
-
-} // namespace
-
 QString title(WelcomeStep step)
 {
     switch (step) {
     case WelcomeStep::DragIn:
-        return QCoreApplication::translate(context, "Drag anything onto the notch");
+        return QCoreApplication::translate("WelcomeStep", "Drag anything onto the notch");
     case WelcomeStep::DragOut:
-        return QCoreApplication::translate(context, "Drag it back out when you arrive");
+        return QCoreApplication::translate("WelcomeStep", "Drag it back out when you arrive");
     case WelcomeStep::Keep:
-        return QCoreApplication::translate(context, "Hold ⇧ to keep it on the shelf");
+        return QCoreApplication::translate("WelcomeStep", "Hold ⇧ to keep it on the shelf");
     }
     return {};
 }
@@ -28,17 +22,17 @@ QString body(WelcomeStep step)
     switch (step) {
     case WelcomeStep::DragIn:
         return QCoreApplication::translate(
-            context,
+            "WelcomeStep",
             "Start dragging a file, image or link and a shelf slides down from the notch. Drop it "
             "there. It stays put while you switch apps, Spaces, or displays.");
     case WelcomeStep::DragOut:
         return QCoreApplication::translate(
-            context,
+            "WelcomeStep",
             "Move the pointer to the notch and the shelf reappears. Drag the item into whatever "
             "you are working in. Press Space to preview it, or ⌘C to copy its path.");
     case WelcomeStep::Keep:
         return QCoreApplication::translate(
-            context,
+            "WelcomeStep",
             "Normally an item leaves the shelf when you drop it. Hold Shift as you release and it "
             "stays, so you can drop the same thing into several places without collecting it "
             "again.");

@@ -41,7 +41,7 @@ void ViewAllController::wireView()
     m_view.onScroll = [this](int step) { scroll(step); };
     m_view.onClose = [this] { m_store.closeViewAll(); };
     m_view.onDragOutChanged = [this](bool isDraggingOut) { m_store.ownDragChanged(isDraggingOut); };
-    m_view.onMessage = [this](const QString &message) { m_context.feedback.show(message); };
+    m_view.onMessage = [this](const Message &message) { m_context.feedback.show(message); };
 }
 
 void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &screen)

@@ -1,9 +1,10 @@
 #include "shelf/bar/view_all_layout.h"
 
+#include "core/shown_numbers.h"
 #include "platform/base/checked_math.h"
 #include "platform/base/geometry.h"
 
-#include <QStringBuilder>
+#include <QCoreApplication>
 
 #include <algorithm>
 
@@ -97,8 +98,8 @@ void layOutActions(ViewAllLayout &layout, const ViewAllState &state)
         = {QRectF(edgeMargin, 12, checkSide, checkSide), isSelectAllHovered ? 1 : 0.75};
     layout.isEverythingSelected = state.itemCount > 0 && state.selectedCount == state.itemCount;
     layout.selectAllLabel = QRectF({37, 13}, labelSize);
-    layout.selectionText = QString::number(state.selectedCount) % QStringLiteral(" of ")
-        % QString::number(state.itemCount) % QStringLiteral(" selected");
+    layout.selectionText = QCoreApplication::translate("ViewAllView", "%1 of %2 selected")
+                               .arg(shownNumber(state.selectedCount), shownNumber(state.itemCount));
 
     const double trashX = state.size.width() - edgeMargin - buttonSide;
     const double copyX = trashX - buttonSide - edgeMargin;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/drop_item.h"
+#include "core/message.h"
 #include "platform/desktop/panel_window.h"
 #include "shelf/bar/view_all_layers.h"
 #include "shelf/bar/view_all_layout.h"
@@ -65,7 +66,7 @@ public:
     std::function<void()> onClose;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
     /// A message for the user about a drag.
-    std::function<void(const QString &message)> onMessage;
+    std::function<void(const Message &message)> onMessage;
 
     /// Shows the page of `items` that begins at `offset`, or the nearest one that exists. List and
     /// set are not copied and are read again at every event, so they must stay where they are. With

@@ -93,7 +93,7 @@ void ViewAllView::wireDragSource()
     m_dragSource.onChanged = [this](bool isDraggingOut) { call(onDragOutChanged, isDraggingOut); };
     m_dragSource.onEjected
         = [this](const QList<QUuid> &ids, bool keep) { call(onEjected, ids, keep); };
-    m_dragSource.onMessage = [this](const QString &message) { call(onMessage, message); };
+    m_dragSource.onMessage = [this](const Message &message) { call(onMessage, message); };
 }
 
 void ViewAllView::mouseDragged(const MouseEvent &event)

@@ -516,7 +516,7 @@ TEST_F(ViewAllControllerTest, tellsWhenTheFileToBeDraggedIsGone)
     QStringList messages;
     store.accept({ShelfDesk::fileItem(QStringLiteral("gone.txt"))});
     open(1);
-    feedback.handler = [&](const QString &message) { messages << message; };
+    feedback.handler = [&](const Message &message) { messages << message.text(); };
     store.toggleSelection(store.items()[0]);
     drag(middleOf(0));
     EXPECT_EQ(messages, QStringList{QStringLiteral("The file is no longer there")});

@@ -36,7 +36,7 @@ protected:
         view->onScroll = [this](int step) { log << QStringLiteral("scroll %1").arg(step); };
         view->onClose = [this] { log << QStringLiteral("close"); };
         view->onDragOutChanged = [this](bool on) { log << QStringLiteral("dragOut %1").arg(on); };
-        view->onMessage = [this](const QString &message) { log << message; };
+        view->onMessage = [this](const Message &message) { log << message.text(); };
     }
 
     ViewAllView::Context context()

@@ -1,9 +1,6 @@
-// The texts of the preview's window, and of a start beside one that does not answer, for the tables
-// in texts/.
-
-#include "app/application.h"
+#include "app/reading/all_texts.h"
+#include "app/reading/standard_error.h"
 #include "app/spoken_texts.h"
-#include "app/text_table.h"
 #include "app/unanswered_start.h"
 #include "fakes/fake_desktop_services.h"
 #include "fakes/fake_file_icons.h"
@@ -20,17 +17,14 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QLocale>
 #include <QMimeDatabase>
 #include <QTemporaryDir>
-#include <QTemporaryFile>
 #include <QTimer>
 
 #include <fcntl.h>
-#include <unistd.h>
+#include <gtest/gtest.h>
 
 #include <array>
-#include <cstdio>
 #include <functional>
 
 namespace corvane::test {
@@ -78,6 +72,8 @@ public:
     QUrl file(const QString &name, const QByteArray &contents) const
     {
         QFile file(m_folder.filePath(name));
+        if (file.exists())
+            return QUrl::fromLocalFile(file.fileName());
         EXPECT_TRUE(file.open(QFile::WriteOnly));
         file.write(contents);
         file.flush();
@@ -87,6 +83,8 @@ public:
     QUrl folder(const QString &name, int items) const
     {
         const QString path = m_folder.filePath(name);
+        if (QDir(path).exists())
+            return QUrl::fromLocalFile(path);
         EXPECT_TRUE(QDir().mkdir(path));
         for (int i = 0; i < items; ++i)
             file(name + u'/' + QString::number(i), {});
@@ -119,54 +117,16 @@ QString kindOfPrograms()
         .comment();
 }
 
-/// What the program itself writes to the standard error meanwhile.
-QString standardErrorOf(const std::function<void()> &act)
-{
-    QTemporaryFile file;
-    EXPECT_TRUE(file.open());
-    std::fflush(stderr);
-    const int before = ::dup(STDERR_FILENO);
-    ::dup2(file.handle(), STDERR_FILENO);
-    act();
-    std::fflush(stderr);
-    ::dup2(before, STDERR_FILENO);
-    ::close(before);
-    file.seek(0);
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
-    return lines.filter(QStringLiteral("corvane: ")).join(QLatin1Char('\n'));
-}
-
-/// Texts for people depend on the language, and those of a window on the program's name.
-class Surroundings {
-public:
-    Surroundings()
-    {
-        QLocale::setDefault(QLocale::c());
-        QCoreApplication::setApplicationName(QStringLiteral("Corvane"));
-    }
-    Surroundings(const Surroundings &) = delete;
-    Surroundings &operator=(const Surroundings &) = delete;
-    ~Surroundings()
-    {
-        QLocale::setDefault(m_locale);
-        QCoreApplication::setApplicationName(m_name);
-    }
-
-private:
-    QLocale m_locale;
-    QString m_name = QCoreApplication::applicationName();
-};
-
 } // namespace
 
-TEST(Texts, OfThePreview)
+TextTable textsOfThePreview()
 {
-    const Surroundings surroundings;
     TextTable table;
     SilentLoading loading;
     TestClock clock;
     FakeFileIcons icons;
-    PreviewedFiles files;
+    // Ten thousand files, for all languages.
+    static PreviewedFiles files;
     PreviewWindow window(loading, clock);
     window.show();
     const auto add = [&](const char *heading, const PreviewContent &content) {
@@ -224,12 +184,11 @@ TEST(Texts, OfThePreview)
     }
     panel.setController(nullptr);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    expectTable("preview", table);
+    return table;
 }
 
-TEST(Texts, OfAStartBesideOneThatDoesNotAnswer)
+TextTable textsOfAStartBesideOneThatDoesNotAnswer()
 {
-    const Surroundings surroundings;
     TextTable table;
     const auto add = [&table](const char *heading, std::optional<qint64> process) {
         // The window is waited for.
@@ -246,25 +205,7 @@ TEST(Texts, OfAStartBesideOneThatDoesNotAnswer)
     };
     add("its process known", 4711);
     add("its process unknown", std::nullopt);
-    expectTable("unanswered", table);
-}
-
-TEST(Texts, OfAStartWithoutADisplay)
-{
-    TextTable table;
-    const QByteArray display = qgetenv("DISPLAY");
-    const QByteArray waylandDisplay = qgetenv("WAYLAND_DISPLAY");
-    qunsetenv("DISPLAY");
-    qunsetenv("WAYLAND_DISPLAY");
-    int status = 0;
-    const QString error = standardErrorOf([&status] { status = runApplication(0, nullptr); });
-    if (!display.isEmpty())
-        qputenv("DISPLAY", display);
-    if (!waylandDisplay.isEmpty())
-        qputenv("WAYLAND_DISPLAY", waylandDisplay);
-    EXPECT_EQ(status, 1);
-    table.add(QStringLiteral("Start without a display, on the standard error"), {error});
-    expectTable("no-display", table);
+    return table;
 }
 
 } // namespace corvane::test
