@@ -386,6 +386,15 @@ TEST_P(Preferences, everyControlSaysWhatItIs)
     EXPECT_GE(count, fewest);
 }
 
+TEST_P(Preferences, areReadInTheLanguageOfTheSession)
+{
+    CorvaneProgram::Start how;
+    how.environment = m_desktop.environment();
+    how.environment.insert(u"LC_ALL"_s, u"de_AT.UTF-8"_s);
+    startWithPreferences(how);
+    EXPECT_TRUE(waitFor(u"Ablage zeigen oder verbergen: Super+Umschalt+D"_s));
+}
+
 TEST_P(Preferences, controlQInItsWindowsQuitsNothing)
 {
     startWithPreferences();

@@ -1,10 +1,13 @@
-// Pictures of the preferences, of the guide and of updates, light and dark, at several scales, as
-// people read them in English.
+// Pictures of the preferences, of the guide and of updates as people read them: in English light
+// and dark, at several scales, and in languages that are long, written from right to left, or
+// without words to break lines between.
 
 #include "app/base/translations.h"
 #include "golden/golden.h"
 #include "golden/panel_stage.h"
 #include "golden/window_stage.h"
+
+#include <QLocale>
 
 #include <gtest/gtest.h>
 
@@ -28,6 +31,21 @@ TEST_P(WindowImages, AreAsKept)
                                            pictureOf(stage->window(), scale)));
         }
     }
+}
+
+TEST_P(WindowImages, InOtherLanguagesAreAsKept)
+{
+    const QLocale before;
+    for (const char *language : {"de", "ar", "ja"}) {
+        const QString name = QString::fromLatin1(language);
+        const Translations translations({name});
+        QLocale::setDefault(QLocale(name));
+        const WindowLookForPictures look(Scheme::Light);
+        const auto stage = GetParam().make();
+        const QString file = GetParam().fileName(Scheme::Light, 1);
+        EXPECT_TRUE(matchesGoldenImage(name + u'-' + file, pictureOf(stage->window(), 1)));
+    }
+    QLocale::setDefault(before);
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryState, WindowImages, testing::ValuesIn(windowStates()),

@@ -1,0 +1,865 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ru" sourcelanguage="en">
+<context>
+    <name>ByteCount</name>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 КБ</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 МБ</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 ГБ</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 ТБ</translation>
+    </message>
+    <message>
+        <source>%1 PB</source>
+        <translation>%1 ПБ</translation>
+    </message>
+    <message>
+        <source>%1 EB</source>
+        <translation>%1 ЭБ</translation>
+    </message>
+    <message>
+        <source>1 byte</source>
+        <translation>1 байт</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bytes</source>
+        <translation>
+            <numerusform>%Ln байт</numerusform>
+            <numerusform>%Ln байта</numerusform>
+            <numerusform>%Ln байт</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ItemTexts</name>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Converting to PNG…</source>
+        <translation>Преобразование в PNG…</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Изображение</translation>
+    </message>
+    <message>
+        <source>1 character</source>
+        <translation>1 символ</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters</source>
+        <translation>
+            <numerusform>%Ln символ</numerusform>
+            <numerusform>%Ln символа</numerusform>
+            <numerusform>%Ln символов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Counting characters…</source>
+        <translation>Подсчёт символов…</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Path copied</source>
+        <translation>Путь скопирован</translation>
+    </message>
+    <message>
+        <source>Image copied</source>
+        <translation>Изображение скопировано</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>Текст скопирован</translation>
+    </message>
+    <message>
+        <source>Link copied</source>
+        <translation>Ссылка скопирована</translation>
+    </message>
+    <message>
+        <source>Data URI copied</source>
+        <translation>URI данных скопирован</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items copied</source>
+        <translation>
+            <numerusform>Скопирован %Ln объект</numerusform>
+            <numerusform>Скопировано %Ln объекта</numerusform>
+            <numerusform>Скопировано %Ln объектов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kept on the shelf</source>
+        <translation>Остаётся на полке</translation>
+    </message>
+    <message>
+        <source>It was not taken</source>
+        <translation>Не принято</translation>
+    </message>
+    <message>
+        <source>%1 of %2 were not taken</source>
+        <translation>Не принято: %1 из %2</translation>
+    </message>
+    <message>
+        <source>The file is no longer there</source>
+        <translation>Файла больше нет</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesTab</name>
+    <message>
+        <source>General</source>
+        <translation>Общие</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>О программе</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewFile</name>
+    <message numerus="yes">
+        <source>More than %n items</source>
+        <translation>
+            <numerusform>Более %Ln объекта</numerusform>
+            <numerusform>Более %Ln объектов</numerusform>
+            <numerusform>Более %Ln объектов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 item</source>
+        <translation>1 объект</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%Ln объект</numerusform>
+            <numerusform>%Ln объекта</numerusform>
+            <numerusform>%Ln объектов</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PreviewWindow</name>
+    <message>
+        <source>This item is no longer there.</source>
+        <translation>Этого объекта больше нет.</translation>
+    </message>
+    <message>
+        <source>Modified %1</source>
+        <translation>Изменено: %1</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Страницы</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Изображение</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 страница</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%Ln страница</numerusform>
+            <numerusform>%Ln страницы</numerusform>
+            <numerusform>%Ln страниц</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>only the beginning is shown</source>
+        <translation>показано только начало</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Открыть</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>Открыть %1</translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <translation>Загрузка…</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Meta</source>
+        <translation>Super</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Return</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Пробел</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Backspace</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Влево</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Вправо</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Вверх</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Вниз</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionTexts</name>
+    <message>
+        <source>your display server lacks XInput 2 or XFixes</source>
+        <translation>у сервера отображения нет XInput 2 или XFixes</translation>
+    </message>
+    <message>
+        <source>your desktop keeps that to itself</source>
+        <translation>среда рабочего стола об этом не сообщает</translation>
+    </message>
+    <message>
+        <source>%1, because %2. %3</source>
+        <translation>%1, потому что %2. %3</translation>
+    </message>
+    <message>
+        <source>Drags are noticed only at the top of the screen</source>
+        <translation>Перетаскивание заметно только у верхнего края экрана</translation>
+    </message>
+    <message>
+        <source>Drag to the middle of the top edge, and the shelf opens.</source>
+        <translation>Перетащите к середине верхнего края, и полка откроется.</translation>
+    </message>
+    <message>
+        <source>The shelf does not open when a drag begins</source>
+        <translation>Полка не открывается в начале перетаскивания</translation>
+    </message>
+    <message>
+        <source>Open it with its shortcut or from the menu before you drag.</source>
+        <translation>Откройте её сочетанием клавиш или из меню до перетаскивания.</translation>
+    </message>
+    <message>
+        <source>A hidden shelf does not come to the pointer at the top edge</source>
+        <translation>Скрытая полка не появляется, когда указатель подходит к верхнему краю</translation>
+    </message>
+    <message>
+        <source>Open it with its shortcut or from the menu.</source>
+        <translation>Откройте её сочетанием клавиш или из меню.</translation>
+    </message>
+    <message>
+        <source>A click in another program does not close the bar with all items</source>
+        <translation>Щелчок в другой программе не закрывает панель со всеми объектами</translation>
+    </message>
+    <message>
+        <source>Press Escape to close it.</source>
+        <translation>Нажмите Esc, чтобы закрыть её.</translation>
+    </message>
+    <message>
+        <source>Shortcuts cannot be recorded here</source>
+        <translation>Сочетания клавиш здесь нельзя записать</translation>
+    </message>
+    <message>
+        <source>Choose them in your desktop&apos;s settings.</source>
+        <translation>Выберите их в параметрах среды рабочего стола.</translation>
+    </message>
+</context>
+<context>
+    <name>ShelfView</name>
+    <message>
+        <source>Release to hold</source>
+        <translation>Отпустите, чтобы сохранить</translation>
+    </message>
+    <message>
+        <source>Drop to hold</source>
+        <translation>Перетащите сюда</translation>
+    </message>
+</context>
+<context>
+    <name>StatusMenu</name>
+    <message>
+        <source>Clear Shelf (1 item)</source>
+        <translation>Очистить полку (1 объект)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Clear Shelf (%n items)</source>
+        <translation>
+            <numerusform>Очистить полку (%Ln объект)</numerusform>
+            <numerusform>Очистить полку (%Ln объекта)</numerusform>
+            <numerusform>Очистить полку (%Ln объектов)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Corvane</source>
+        <translation>Corvane</translation>
+    </message>
+    <message>
+        <source>Corvane — 1 item</source>
+        <translation>Corvane — 1 объект</translation>
+    </message>
+    <message numerus="yes">
+        <source>Corvane — %n items</source>
+        <translation>
+            <numerusform>Corvane — %Ln объект</numerusform>
+            <numerusform>Corvane — %Ln объекта</numerusform>
+            <numerusform>Corvane — %Ln объектов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show Shelf</source>
+        <translation>Показать полку</translation>
+    </message>
+    <message>
+        <source>View All Items…</source>
+        <translation>Показать все объекты…</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Параметры…</translation>
+    </message>
+    <message>
+        <source>How It Works…</source>
+        <translation>Как это работает…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Проверить обновления…</translation>
+    </message>
+    <message>
+        <source>Quit Corvane</source>
+        <translation>Завершить Corvane</translation>
+    </message>
+</context>
+<context>
+    <name>UnansweredStart</name>
+    <message>
+        <source>Corvane is running already, but does not answer.</source>
+        <translation>Corvane уже запущен, но не отвечает.</translation>
+    </message>
+    <message>
+        <source>Try again in a moment, or end the process %1 and start Corvane anew.</source>
+        <translation>Повторите попытку чуть позже или завершите процесс %1 и запустите Corvane заново.</translation>
+    </message>
+    <message>
+        <source>Try again in a moment, or end it and start Corvane anew.</source>
+        <translation>Повторите попытку чуть позже или завершите его и запустите Corvane заново.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateTexts</name>
+    <message>
+        <source>What came from the place where new versions are announced could not be read.</source>
+        <translation>Не удалось прочитать то, что пришло из места, где объявляют о новых версиях.</translation>
+    </message>
+    <message>
+        <source>A newer version was announced before than is now. Somebody may be keeping news from you, so nothing was taken.</source>
+        <translation>Ранее объявлялась более новая версия, чем сейчас. Возможно, кто-то скрывает от вас новости, поэтому ничего не принято.</translation>
+    </message>
+    <message>
+        <source>What is announced is a release that this build cannot verify, or none at all. Nothing was taken.</source>
+        <translation>Объявлен выпуск, который эта сборка не может проверить, либо никакого. Ничего не принято.</translation>
+    </message>
+    <message>
+        <source>What is announced has not been renewed since %1. Somebody may be keeping news from you, or your clock is wrong.</source>
+        <translation>Объявление не обновлялось с этой даты: %1. Возможно, кто-то скрывает от вас новости или ваши часы неверны.</translation>
+    </message>
+    <message>
+        <source>What Corvane remembered of earlier updates was damaged. It was set aside and begins anew with the next check.</source>
+        <translation>Сведения Corvane о прежних обновлениях были повреждены. Они отложены и начнутся заново при следующей проверке.</translation>
+    </message>
+    <message>
+        <source>The place where new versions are announced could not be reached over a safe connection. Try again later.</source>
+        <translation>Не удалось по безопасному соединению обратиться к месту, где объявляют о новых версиях. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The new version could not be downloaded. Try again later.</source>
+        <translation>Не удалось загрузить новую версию. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The downloaded file has another length than was announced. It was thrown away.</source>
+        <translation>Длина загруженного файла не та, что объявлена. Файл удалён.</translation>
+    </message>
+    <message>
+        <source>The downloaded file was not signed by the makers of Corvane. It was thrown away.</source>
+        <translation>Загруженный файл не подписан создателями Corvane. Файл удалён.</translation>
+    </message>
+    <message>
+        <source>There is not enough room on the disk.</source>
+        <translation>На диске недостаточно места.</translation>
+    </message>
+    <message>
+        <source>The new version could not be written to the disk.</source>
+        <translation>Не удалось записать новую версию на диск.</translation>
+    </message>
+    <message>
+        <source>Asked directly, without a proxy.</source>
+        <translation>Запрошено напрямую, без прокси.</translation>
+    </message>
+    <message>
+        <source>Asked through the proxy %1.</source>
+        <translation>Запрошено через прокси %1.</translation>
+    </message>
+    <message>
+        <source>Nothing was asked: a script chooses your proxy, and Corvane runs none.</source>
+        <translation>Ничего не запрошено: прокси выбирает сценарий, а Corvane их не выполняет.</translation>
+    </message>
+    <message>
+        <source>Nothing was asked: your proxy is of a kind that Corvane cannot use.</source>
+        <translation>Ничего не запрошено: прокси такого вида Corvane использовать не может.</translation>
+    </message>
+    <message>
+        <source>Corvane&apos;s record of updates was damaged</source>
+        <translation>Записи об обновлениях Corvane были повреждены</translation>
+    </message>
+    <message>
+        <source>Corvane could not check for updates</source>
+        <translation>Corvane не удалось проверить обновления</translation>
+    </message>
+    <message>
+        <source>Corvane was not updated</source>
+        <translation>Corvane не обновлён</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Looking for updates…</source>
+        <translation>Поиск обновлений…</translation>
+    </message>
+    <message>
+        <source>Corvane is up to date</source>
+        <translation>У вас последняя версия Corvane</translation>
+    </message>
+    <message>
+        <source>You have version %1, the newest.</source>
+        <translation>У вас версия %1, самая новая.</translation>
+    </message>
+    <message>
+        <source>Corvane %1 is available</source>
+        <translation>Доступен Corvane %1</translation>
+    </message>
+    <message>
+        <source>You have %1. The download has %2.</source>
+        <translation>У вас версия %1. Размер загрузки: %2.</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Установить</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Загрузить</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Позже</translation>
+    </message>
+    <message>
+        <source>Downloading Corvane %1…</source>
+        <translation>Загрузка Corvane %1…</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 из %2</translation>
+    </message>
+    <message>
+        <source>Checking and installing…</source>
+        <translation>Проверка и установка…</translation>
+    </message>
+    <message>
+        <source>Corvane %1 is installed</source>
+        <translation>Corvane %1 установлен</translation>
+    </message>
+    <message>
+        <source>It is used from the next time that Corvane is started. The one before is kept beside it until then.</source>
+        <translation>Он будет использоваться со следующего запуска Corvane. До тех пор прежняя версия хранится рядом.</translation>
+    </message>
+    <message>
+        <source>Corvane %1 is downloaded</source>
+        <translation>Corvane %1 загружен</translation>
+    </message>
+    <message>
+        <source>It was signed by the makers of Corvane and is in your downloads folder as %1.</source>
+        <translation>Файл подписан создателями Corvane и лежит в папке загрузок под именем %1.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Показать</translation>
+    </message>
+    <message>
+        <source>Updates Go Back in Time…</source>
+        <translation>Обновления идут назад во времени…</translation>
+    </message>
+    <message>
+        <source>Updates Cannot Be Verified…</source>
+        <translation>Обновления нельзя проверить…</translation>
+    </message>
+    <message>
+        <source>Updates Have Not Been Renewed…</source>
+        <translation>Обновления не подтверждались…</translation>
+    </message>
+    <message>
+        <source>Record of Updates Was Damaged…</source>
+        <translation>Записи об обновлениях были повреждены…</translation>
+    </message>
+    <message>
+        <source>Updates Cannot Use Your Proxy…</source>
+        <translation>Обновления не могут использовать прокси…</translation>
+    </message>
+</context>
+<context>
+    <name>ViewAllView</name>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>Выбрано %1 из %2</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Drag anything onto the notch</source>
+        <translation>Перетащите что угодно к верхнему краю экрана</translation>
+    </message>
+    <message>
+        <source>Drag it back out when you arrive</source>
+        <translation>Вытащите обратно, когда придёте</translation>
+    </message>
+    <message>
+        <source>Hold ⇧ to keep it on the shelf</source>
+        <translation>Удерживайте Shift, чтобы оставить на полке</translation>
+    </message>
+    <message>
+        <source>Start dragging a file, image or link and a shelf slides down from the notch. Drop it there. It stays put while you switch apps, Spaces, or displays.</source>
+        <translation>Начните перетаскивать файл, изображение или ссылку, и от верхнего края экрана выдвинется полка. Отпустите там. Всё останется на месте, пока вы переходите между программами, рабочими столами или экранами.</translation>
+    </message>
+    <message>
+        <source>Move the pointer to the notch and the shelf reappears. Drag the item into whatever you are working in. Press Space to preview it, or ⌘C to copy its path.</source>
+        <translation>Подведите указатель к верхнему краю экрана, и полка появится снова. Перетащите объект туда, где работаете. Нажмите «Пробел» для просмотра или Ctrl+C, чтобы скопировать путь.</translation>
+    </message>
+    <message>
+        <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
+        <translation>Обычно объект покидает полку, когда вы его куда-то отпускаете. Удерживайте Shift, отпуская кнопку, и он останется: одно и то же можно отпустить в нескольких местах, не собирая заново.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::AboutPane</name>
+    <message>
+        <source>Version %1 (%2)</source>
+        <translation>Версия %1 (%2)</translation>
+    </message>
+    <message>
+        <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
+        <translation>Одно место. Положите, перейдите, вытащите. Полка сама опустеет и не мешает.</translation>
+    </message>
+    <message>
+        <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
+        <translation>Работает на вашем компьютере. Ничто из положенного не отправляется нам, не записывается в журналы и никуда не передаётся. Corvane обращается к сети только для просмотра ссылок, запрашивая страницу у самого сайта, и, если она есть, для проверки обновлений. И то и другое отключается на вкладке «Общие».</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Веб-сайт</translation>
+    </message>
+    <message>
+        <source>Opens the product&apos;s page in the web browser</source>
+        <translation>Открывает страницу программы в веб-браузере</translation>
+    </message>
+    <message>
+        <source>Email support</source>
+        <translation>Написать в поддержку</translation>
+    </message>
+    <message>
+        <source>Opens a new message in the mail program</source>
+        <translation>Открывает новое письмо в почтовой программе</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ClearButton</name>
+    <message>
+        <source>Clear the shortcut</source>
+        <translation>Очистить сочетание клавиш</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::GeneralPane</name>
+    <message>
+        <source>Your settings folder cannot be written to. Changes work until Corvane quits, and are not kept.</source>
+        <translation>В папку с параметрами нельзя писать. Изменения действуют до завершения Corvane и не сохраняются.</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Полка</translation>
+    </message>
+    <message>
+        <source>Items in view</source>
+        <translation>Видимых объектов</translation>
+    </message>
+    <message>
+        <source>One at a time. Use the arrows to page through the rest.</source>
+        <translation>По одному. Остальные листайте стрелками.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thumbnails at once, with arrows for the rest.</source>
+        <translation>
+            <numerusform>%Ln миниатюра сразу, остальные — стрелками.</numerusform>
+            <numerusform>%Ln миниатюры сразу, остальные — стрелками.</numerusform>
+            <numerusform>%Ln миниатюр сразу, остальные — стрелками.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Behaviour</source>
+        <translation>Поведение</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Запускать при входе в систему</translation>
+    </message>
+    <message>
+        <source>Corvane runs in the menu bar with no Dock icon.</source>
+        <translation>Corvane работает в фоне, его значок находится на панели.</translation>
+    </message>
+    <message>
+        <source>Open the shelf when a drag begins</source>
+        <translation>Открывать полку в начале перетаскивания</translation>
+    </message>
+    <message>
+        <source>Turn off to summon it only with the shortcut.</source>
+        <translation>Если выключить, полка открывается только сочетанием клавиш.</translation>
+    </message>
+    <message>
+        <source>Show previews for dropped links</source>
+        <translation>Показывать просмотр положенных ссылок</translation>
+    </message>
+    <message>
+        <source>Asks the linked site for its title and image. It is the only time Corvane uses the network on your behalf, and the site learns you have the link.</source>
+        <translation>Запрашивает у сайта его заголовок и изображение, и сайт узнаёт, что у вас есть ссылка. Кроме проверки обновлений, если она есть, только здесь Corvane обращается к сети.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Сочетания клавиш</translation>
+    </message>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Показать или скрыть полку</translation>
+    </message>
+    <message>
+        <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
+        <translation>Нужна Super, Alt или Ctrl. Очистите, чтобы обходиться значком на панели.</translation>
+    </message>
+    <message>
+        <source>Show or hide all items</source>
+        <translation>Показать или скрыть все объекты</translation>
+    </message>
+    <message>
+        <source>Unset by default. ↓ on the shelf does the same thing.</source>
+        <translation>Изначально не задано. Клавиша «Вниз» на полке делает то же самое.</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Проверить</translation>
+    </message>
+    <message>
+        <source>Looks for a new version at once</source>
+        <translation>Сразу ищет новую версию</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Обновления</translation>
+    </message>
+    <message>
+        <source>Check for updates automatically</source>
+        <translation>Проверять обновления автоматически</translation>
+    </message>
+    <message>
+        <source>Your system&apos;s software manager keeps Corvane up to date.</source>
+        <translation>Corvane обновляет менеджер программ вашей системы.</translation>
+    </message>
+    <message>
+        <source>This build does not know where to look.</source>
+        <translation>Эта сборка не знает, где искать.</translation>
+    </message>
+    <message>
+        <source>Offer beta versions too</source>
+        <translation>Предлагать и бета-версии</translation>
+    </message>
+    <message>
+        <source>They come earlier, and fewer people have tried them.</source>
+        <translation>Они выходят раньше, и их опробовало меньше людей.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::PageIndicator</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Шаг %1 из %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::PreferencesWindow</name>
+    <message>
+        <source>Pane of the preferences</source>
+        <translation>Вкладка параметров</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ShortcutRecorderView</name>
+    <message>
+        <source>Type a shortcut…</source>
+        <translation>Нажмите клавиши…</translation>
+    </message>
+    <message>
+        <source>Record Shortcut</source>
+        <translation>Задать клавиши</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ShortcutRow</name>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>That combination types a character. Record one with ⌘, ⌥ or ⌃.</source>
+        <translation>Это сочетание вводит символ. Задайте сочетание с Super, Alt или Ctrl.</translation>
+    </message>
+    <message>
+        <source>Another app already uses that combination.</source>
+        <translation>Это сочетание уже занято другой программой.</translation>
+    </message>
+    <message>
+        <source>Your desktop has not answered yet.</source>
+        <translation>Среда рабочего стола ещё не ответила.</translation>
+    </message>
+    <message>
+        <source>Bind a key to this command in your desktop&apos;s settings: %1</source>
+        <translation>Назначьте клавишу этой команде в параметрах среды рабочего стола: %1</translation>
+    </message>
+    <message>
+        <source>Add this line to your desktop&apos;s settings: %1</source>
+        <translation>Добавьте эту строку в параметры среды рабочего стола: %1</translation>
+    </message>
+    <message>
+        <source>Your desktop has bound it to %1.</source>
+        <translation>Среда рабочего стола назначила %1.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdateWindow</name>
+    <message>
+        <source>What is new</source>
+        <translation>Что нового</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>Загрузка</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::WelcomeView</name>
+    <message>
+        <source>Back</source>
+        <translation>Назад</translation>
+    </message>
+    <message>
+        <source>Goes to the step before</source>
+        <translation>Переходит к предыдущему шагу</translation>
+    </message>
+    <message>
+        <source>Illustration: %1</source>
+        <translation>Иллюстрация: %1</translation>
+    </message>
+    <message>
+        <source>Start using it</source>
+        <translation>Начать работу</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>Далее</translation>
+    </message>
+    <message>
+        <source>Closes this guide</source>
+        <translation>Закрывает это руководство</translation>
+    </message>
+    <message>
+        <source>Goes to the next step</source>
+        <translation>Переходит к следующему шагу</translation>
+    </message>
+</context>
+</TS>

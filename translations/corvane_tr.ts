@@ -1,0 +1,847 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr" sourcelanguage="en">
+<context>
+    <name>ByteCount</name>
+    <message>
+        <source>%1 KB</source>
+        <translation>%1 KB</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>%1 GB</source>
+        <translation>%1 GB</translation>
+    </message>
+    <message>
+        <source>%1 TB</source>
+        <translation>%1 TB</translation>
+    </message>
+    <message>
+        <source>%1 PB</source>
+        <translation>%1 PB</translation>
+    </message>
+    <message>
+        <source>%1 EB</source>
+        <translation>%1 EB</translation>
+    </message>
+    <message>
+        <source>1 byte</source>
+        <translation>1 bayt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n bytes</source>
+        <translation>
+            <numerusform>%Ln bayt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>ItemTexts</name>
+    <message>
+        <source>Folder</source>
+        <translation>Klasör</translation>
+    </message>
+    <message>
+        <source>Converting to PNG…</source>
+        <translation>PNG biçimine dönüştürülüyor…</translation>
+    </message>
+    <message>
+        <source>Image</source>
+        <translation>Görüntü</translation>
+    </message>
+    <message>
+        <source>1 character</source>
+        <translation>1 karakter</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n characters</source>
+        <translation>
+            <numerusform>%Ln karakter</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Counting characters…</source>
+        <translation>Karakterler sayılıyor…</translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>Path copied</source>
+        <translation>Yol kopyalandı</translation>
+    </message>
+    <message>
+        <source>Image copied</source>
+        <translation>Görüntü kopyalandı</translation>
+    </message>
+    <message>
+        <source>Text copied</source>
+        <translation>Metin kopyalandı</translation>
+    </message>
+    <message>
+        <source>Link copied</source>
+        <translation>Bağlantı kopyalandı</translation>
+    </message>
+    <message>
+        <source>Data URI copied</source>
+        <translation>Veri URI’si kopyalandı</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items copied</source>
+        <translation>
+            <numerusform>%Ln öge kopyalandı</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Kept on the shelf</source>
+        <translation>Rafta kaldı</translation>
+    </message>
+    <message>
+        <source>It was not taken</source>
+        <translation>Alınmadı</translation>
+    </message>
+    <message>
+        <source>%1 of %2 were not taken</source>
+        <translation>%2 ögeden %1 tanesi alınmadı</translation>
+    </message>
+    <message>
+        <source>The file is no longer there</source>
+        <translation>Dosya artık yok</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesTab</name>
+    <message>
+        <source>General</source>
+        <translation>Genel</translation>
+    </message>
+    <message>
+        <source>About</source>
+        <translation>Hakkında</translation>
+    </message>
+</context>
+<context>
+    <name>PreviewFile</name>
+    <message numerus="yes">
+        <source>More than %n items</source>
+        <translation>
+            <numerusform>%Ln ögeden fazla</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>1 item</source>
+        <translation>1 öge</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items</source>
+        <translation>
+            <numerusform>%Ln öge</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>PreviewWindow</name>
+    <message>
+        <source>This item is no longer there.</source>
+        <translation>Bu öge artık yok.</translation>
+    </message>
+    <message>
+        <source>Modified %1</source>
+        <translation>Değiştirilme: %1</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Sayfalar</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Görüntü</translation>
+    </message>
+    <message>
+        <source>1 page</source>
+        <translation>1 sayfa</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n pages</source>
+        <translation>
+            <numerusform>%Ln sayfa</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>only the beginning is shown</source>
+        <translation>yalnızca başlangıcı gösteriliyor</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Aç</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>%1 ögesini aç</translation>
+    </message>
+    <message>
+        <source>Loading…</source>
+        <translation>Yükleniyor…</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Metin</translation>
+    </message>
+</context>
+<context>
+    <name>QShortcut</name>
+    <message>
+        <source>Meta</source>
+        <translation>Super</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Return</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Boşluk</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Backspace</translation>
+    </message>
+    <message>
+        <source>Del</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Sol</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Sağ</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Yukarı</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Aşağı</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>PgUp</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>PgDown</source>
+        <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionTexts</name>
+    <message>
+        <source>your display server lacks XInput 2 or XFixes</source>
+        <translation>görüntü sunucunuzda XInput 2 veya XFixes yok</translation>
+    </message>
+    <message>
+        <source>your desktop keeps that to itself</source>
+        <translation>masaüstünüz bunu bildirmiyor</translation>
+    </message>
+    <message>
+        <source>%1, because %2. %3</source>
+        <translation>%1, çünkü %2. %3</translation>
+    </message>
+    <message>
+        <source>Drags are noticed only at the top of the screen</source>
+        <translation>Sürüklemeler yalnızca ekranın üstünde fark edilir</translation>
+    </message>
+    <message>
+        <source>Drag to the middle of the top edge, and the shelf opens.</source>
+        <translation>Üst kenarın ortasına sürükleyin, raf açılır.</translation>
+    </message>
+    <message>
+        <source>The shelf does not open when a drag begins</source>
+        <translation>Sürükleme başladığında raf açılmaz</translation>
+    </message>
+    <message>
+        <source>Open it with its shortcut or from the menu before you drag.</source>
+        <translation>Sürüklemeden önce kısayoluyla veya menüden açın.</translation>
+    </message>
+    <message>
+        <source>A hidden shelf does not come to the pointer at the top edge</source>
+        <translation>Gizli raf, işaretçi üst kenara geldiğinde görünmez</translation>
+    </message>
+    <message>
+        <source>Open it with its shortcut or from the menu.</source>
+        <translation>Kısayoluyla veya menüden açın.</translation>
+    </message>
+    <message>
+        <source>A click in another program does not close the bar with all items</source>
+        <translation>Başka bir programa tıklamak tüm ögelerin çubuğunu kapatmaz</translation>
+    </message>
+    <message>
+        <source>Press Escape to close it.</source>
+        <translation>Kapatmak için Esc tuşuna basın.</translation>
+    </message>
+    <message>
+        <source>Shortcuts cannot be recorded here</source>
+        <translation>Kısayollar burada kaydedilemez</translation>
+    </message>
+    <message>
+        <source>Choose them in your desktop&apos;s settings.</source>
+        <translation>Onları masaüstünüzün ayarlarından seçin.</translation>
+    </message>
+</context>
+<context>
+    <name>ShelfView</name>
+    <message>
+        <source>Release to hold</source>
+        <translation>Tutmak için bırakın</translation>
+    </message>
+    <message>
+        <source>Drop to hold</source>
+        <translation>Tutmak için buraya sürükleyin</translation>
+    </message>
+</context>
+<context>
+    <name>StatusMenu</name>
+    <message>
+        <source>Clear Shelf (1 item)</source>
+        <translation>Rafı Temizle (1 öge)</translation>
+    </message>
+    <message numerus="yes">
+        <source>Clear Shelf (%n items)</source>
+        <translation>
+            <numerusform>Rafı Temizle (%Ln öge)</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Corvane</source>
+        <translation>Corvane</translation>
+    </message>
+    <message>
+        <source>Corvane — 1 item</source>
+        <translation>Corvane — 1 öge</translation>
+    </message>
+    <message numerus="yes">
+        <source>Corvane — %n items</source>
+        <translation>
+            <numerusform>Corvane — %Ln öge</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Show Shelf</source>
+        <translation>Rafı Göster</translation>
+    </message>
+    <message>
+        <source>View All Items…</source>
+        <translation>Tüm Ögeleri Görüntüle…</translation>
+    </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Tercihler…</translation>
+    </message>
+    <message>
+        <source>How It Works…</source>
+        <translation>Nasıl Çalışır…</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Güncellemeleri Denetle…</translation>
+    </message>
+    <message>
+        <source>Quit Corvane</source>
+        <translation>Corvane’den Çık</translation>
+    </message>
+</context>
+<context>
+    <name>UnansweredStart</name>
+    <message>
+        <source>Corvane is running already, but does not answer.</source>
+        <translation>Corvane zaten çalışıyor, ancak yanıt vermiyor.</translation>
+    </message>
+    <message>
+        <source>Try again in a moment, or end the process %1 and start Corvane anew.</source>
+        <translation>Biraz sonra yeniden deneyin veya %1 sürecini sonlandırıp Corvane’i yeniden başlatın.</translation>
+    </message>
+    <message>
+        <source>Try again in a moment, or end it and start Corvane anew.</source>
+        <translation>Biraz sonra yeniden deneyin veya onu sonlandırıp Corvane’i yeniden başlatın.</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateTexts</name>
+    <message>
+        <source>What came from the place where new versions are announced could not be read.</source>
+        <translation>Yeni sürümlerin duyurulduğu yerden gelen okunamadı.</translation>
+    </message>
+    <message>
+        <source>A newer version was announced before than is now. Somebody may be keeping news from you, so nothing was taken.</source>
+        <translation>Daha önce şimdikinden yeni bir sürüm duyurulmuştu. Birisi haberleri sizden saklıyor olabilir, bu yüzden hiçbir şey alınmadı.</translation>
+    </message>
+    <message>
+        <source>What is announced is a release that this build cannot verify, or none at all. Nothing was taken.</source>
+        <translation>Duyurulan, bu programın doğrulayamadığı bir sürüm veya hiçbiri. Hiçbir şey alınmadı.</translation>
+    </message>
+    <message>
+        <source>What is announced has not been renewed since %1. Somebody may be keeping news from you, or your clock is wrong.</source>
+        <translation>Duyuru şu tarihten beri yenilenmedi: %1. Birisi haberleri sizden saklıyor olabilir veya saatiniz yanlış.</translation>
+    </message>
+    <message>
+        <source>What Corvane remembered of earlier updates was damaged. It was set aside and begins anew with the next check.</source>
+        <translation>Corvane’in önceki güncellemelerden hatırladıkları bozulmuştu. Kenara konuldu ve sonraki denetimle yeniden başlıyor.</translation>
+    </message>
+    <message>
+        <source>The place where new versions are announced could not be reached over a safe connection. Try again later.</source>
+        <translation>Yeni sürümlerin duyurulduğu yere güvenli bir bağlantıyla ulaşılamadı. Daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The new version could not be downloaded. Try again later.</source>
+        <translation>Yeni sürüm indirilemedi. Daha sonra yeniden deneyin.</translation>
+    </message>
+    <message>
+        <source>The downloaded file has another length than was announced. It was thrown away.</source>
+        <translation>İndirilen dosyanın uzunluğu duyurulandan farklı. Dosya atıldı.</translation>
+    </message>
+    <message>
+        <source>The downloaded file was not signed by the makers of Corvane. It was thrown away.</source>
+        <translation>İndirilen dosya Corvane’in yapımcılarınca imzalanmamış. Dosya atıldı.</translation>
+    </message>
+    <message>
+        <source>There is not enough room on the disk.</source>
+        <translation>Diskte yeterli yer yok.</translation>
+    </message>
+    <message>
+        <source>The new version could not be written to the disk.</source>
+        <translation>Yeni sürüm diske yazılamadı.</translation>
+    </message>
+    <message>
+        <source>Asked directly, without a proxy.</source>
+        <translation>Vekil sunucu olmadan doğrudan soruldu.</translation>
+    </message>
+    <message>
+        <source>Asked through the proxy %1.</source>
+        <translation>%1 vekil sunucusu üzerinden soruldu.</translation>
+    </message>
+    <message>
+        <source>Nothing was asked: a script chooses your proxy, and Corvane runs none.</source>
+        <translation>Hiçbir şey sorulmadı: vekil sunucunuzu bir betik seçiyor ve Corvane betik çalıştırmaz.</translation>
+    </message>
+    <message>
+        <source>Nothing was asked: your proxy is of a kind that Corvane cannot use.</source>
+        <translation>Hiçbir şey sorulmadı: vekil sunucunuz Corvane’in kullanamadığı türde.</translation>
+    </message>
+    <message>
+        <source>Corvane&apos;s record of updates was damaged</source>
+        <translation>Corvane’in güncelleme kaydı bozulmuştu</translation>
+    </message>
+    <message>
+        <source>Corvane could not check for updates</source>
+        <translation>Corvane güncellemeleri denetleyemedi</translation>
+    </message>
+    <message>
+        <source>Corvane was not updated</source>
+        <translation>Corvane güncellenmedi</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Kapat</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>İptal</translation>
+    </message>
+    <message>
+        <source>Looking for updates…</source>
+        <translation>Güncellemeler aranıyor…</translation>
+    </message>
+    <message>
+        <source>Corvane is up to date</source>
+        <translation>Corvane güncel</translation>
+    </message>
+    <message>
+        <source>You have version %1, the newest.</source>
+        <translation>%1 sürümünü kullanıyorsunuz, en yenisi bu.</translation>
+    </message>
+    <message>
+        <source>Corvane %1 is available</source>
+        <translation>Corvane %1 hazır</translation>
+    </message>
+    <message>
+        <source>You have %1. The download has %2.</source>
+        <translation>Kullandığınız sürüm %1. İndirme boyutu %2.</translation>
+    </message>
+    <message>
+        <source>Install</source>
+        <translation>Kur</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>İndir</translation>
+    </message>
+    <message>
+        <source>Later</source>
+        <translation>Sonra</translation>
+    </message>
+    <message>
+        <source>Downloading Corvane %1…</source>
+        <translation>Corvane %1 indiriliyor…</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message>
+        <source>Checking and installing…</source>
+        <translation>Denetleniyor ve kuruluyor…</translation>
+    </message>
+    <message>
+        <source>Corvane %1 is installed</source>
+        <translation>Corvane %1 kuruldu</translation>
+    </message>
+    <message>
+        <source>It is used from the next time that Corvane is started. The one before is kept beside it until then.</source>
+        <translation>Corvane’in sonraki başlatılışından itibaren kullanılır. O zamana kadar önceki sürüm yanında saklanır.</translation>
+    </message>
+    <message>
+        <source>Corvane %1 is downloaded</source>
+        <translation>Corvane %1 indirildi</translation>
+    </message>
+    <message>
+        <source>It was signed by the makers of Corvane and is in your downloads folder as %1.</source>
+        <translation>Corvane’in yapımcılarınca imzalandı ve indirilenler klasörünüzde %1 adıyla bulunuyor.</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Göster</translation>
+    </message>
+    <message>
+        <source>Updates Go Back in Time…</source>
+        <translation>Güncellemeler Zamanda Geri Gidiyor…</translation>
+    </message>
+    <message>
+        <source>Updates Cannot Be Verified…</source>
+        <translation>Güncellemeler Doğrulanamıyor…</translation>
+    </message>
+    <message>
+        <source>Updates Have Not Been Renewed…</source>
+        <translation>Güncellemeler Yenilenmedi…</translation>
+    </message>
+    <message>
+        <source>Record of Updates Was Damaged…</source>
+        <translation>Güncelleme Kaydı Bozulmuştu…</translation>
+    </message>
+    <message>
+        <source>Updates Cannot Use Your Proxy…</source>
+        <translation>Güncellemeler Vekil Sunucunuzu Kullanamıyor…</translation>
+    </message>
+</context>
+<context>
+    <name>ViewAllView</name>
+    <message>
+        <source>%1 of %2 selected</source>
+        <translation>%2 ögeden %1 tanesi seçili</translation>
+    </message>
+</context>
+<context>
+    <name>WelcomeStep</name>
+    <message>
+        <source>Drag anything onto the notch</source>
+        <translation>İstediğinizi ekranın üstüne sürükleyin</translation>
+    </message>
+    <message>
+        <source>Drag it back out when you arrive</source>
+        <translation>Varınca yeniden dışarı sürükleyin</translation>
+    </message>
+    <message>
+        <source>Hold ⇧ to keep it on the shelf</source>
+        <translation>Rafta tutmak için Shift’i basılı tutun</translation>
+    </message>
+    <message>
+        <source>Start dragging a file, image or link and a shelf slides down from the notch. Drop it there. It stays put while you switch apps, Spaces, or displays.</source>
+        <translation>Bir dosyayı, görüntüyü veya bağlantıyı sürüklemeye başlayın; ekranın üstünden bir raf iner. Oraya bırakın. Uygulama, çalışma alanı veya ekran değiştirirken yerinde kalır.</translation>
+    </message>
+    <message>
+        <source>Move the pointer to the notch and the shelf reappears. Drag the item into whatever you are working in. Press Space to preview it, or ⌘C to copy its path.</source>
+        <translation>İşaretçiyi ekranın üstüne götürün, raf yeniden görünür. Ögeyi çalıştığınız yere sürükleyin. Ön izlemek için Boşluk tuşuna, yolunu kopyalamak için Ctrl+C tuşlarına basın.</translation>
+    </message>
+    <message>
+        <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
+        <translation>Normalde bir öge, bıraktığınızda raftan ayrılır. Bırakırken Shift’i basılı tutarsanız kalır; böylece aynı şeyi yeniden toplamadan birkaç yere bırakabilirsiniz.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::AboutPane</name>
+    <message>
+        <source>Version %1 (%2)</source>
+        <translation>Sürüm %1 (%2)</translation>
+    </message>
+    <message>
+        <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
+        <translation>Tek yer. İçine sürükleyin, başka yere geçin, dışarı sürükleyin. Raf kendini boşaltır ve yoldan çekilir.</translation>
+    </message>
+    <message>
+        <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
+        <translation>Bilgisayarınızda çalışır. Bıraktığınız hiçbir şey bize yüklenmez, günlüğe yazılmaz veya bir yere gönderilmez. Corvane ağı yalnızca bağlantının sitesinden kendi sayfasını isteyen bağlantı ön izlemeleri ve varsa güncelleme denetimi için kullanır. İkisini de Genel bölümünde kapatabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>Website</source>
+        <translation>Web sitesi</translation>
+    </message>
+    <message>
+        <source>Opens the product&apos;s page in the web browser</source>
+        <translation>Ürünün sayfasını web tarayıcısında açar</translation>
+    </message>
+    <message>
+        <source>Email support</source>
+        <translation>Desteğe e-posta</translation>
+    </message>
+    <message>
+        <source>Opens a new message in the mail program</source>
+        <translation>E-posta programında yeni bir ileti açar</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ClearButton</name>
+    <message>
+        <source>Clear the shortcut</source>
+        <translation>Kısayolu temizle</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::GeneralPane</name>
+    <message>
+        <source>Your settings folder cannot be written to. Changes work until Corvane quits, and are not kept.</source>
+        <translation>Ayar klasörünüze yazılamıyor. Değişiklikler Corvane kapanana kadar geçerlidir ve saklanmaz.</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Raf</translation>
+    </message>
+    <message>
+        <source>Items in view</source>
+        <translation>Görünen ögeler</translation>
+    </message>
+    <message>
+        <source>One at a time. Use the arrows to page through the rest.</source>
+        <translation>Her seferinde bir tane. Kalanlara oklarla geçin.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n thumbnails at once, with arrows for the rest.</source>
+        <translation>
+            <numerusform>Aynı anda %Ln küçük resim, kalanlar için oklar.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Behaviour</source>
+        <translation>Davranış</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Oturum açılışında başlat</translation>
+    </message>
+    <message>
+        <source>Corvane runs in the menu bar with no Dock icon.</source>
+        <translation>Corvane arka planda, paneldeki bir simgeyle çalışır.</translation>
+    </message>
+    <message>
+        <source>Open the shelf when a drag begins</source>
+        <translation>Sürükleme başladığında rafı aç</translation>
+    </message>
+    <message>
+        <source>Turn off to summon it only with the shortcut.</source>
+        <translation>Yalnızca kısayolla açmak için kapatın.</translation>
+    </message>
+    <message>
+        <source>Show previews for dropped links</source>
+        <translation>Bırakılan bağlantıların ön izlemesini göster</translation>
+    </message>
+    <message>
+        <source>Asks the linked site for its title and image. It is the only time Corvane uses the network on your behalf, and the site learns you have the link.</source>
+        <translation>Bağlantının sitesinden başlığını ve görüntüsünü ister; site böylece bağlantının sizde olduğunu öğrenir. Varsa güncelleme denetimi dışında, Corvane ağı yalnızca burada kullanır.</translation>
+    </message>
+    <message>
+        <source>Shortcuts</source>
+        <translation>Kısayollar</translation>
+    </message>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Rafı göster veya gizle</translation>
+    </message>
+    <message>
+        <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
+        <translation>Super, Alt veya Ctrl gerekir. Yalnızca paneldeki simgeyi kullanmak için temizleyin.</translation>
+    </message>
+    <message>
+        <source>Show or hide all items</source>
+        <translation>Tüm ögeleri göster veya gizle</translation>
+    </message>
+    <message>
+        <source>Unset by default. ↓ on the shelf does the same thing.</source>
+        <translation>Başlangıçta atanmamıştır. Raftaki Aşağı tuşu aynı işi yapar.</translation>
+    </message>
+    <message>
+        <source>Check Now</source>
+        <translation>Denetle</translation>
+    </message>
+    <message>
+        <source>Looks for a new version at once</source>
+        <translation>Hemen yeni bir sürüm arar</translation>
+    </message>
+    <message>
+        <source>Updates</source>
+        <translation>Güncellemeler</translation>
+    </message>
+    <message>
+        <source>Check for updates automatically</source>
+        <translation>Güncellemeleri kendiliğinden denetle</translation>
+    </message>
+    <message>
+        <source>Your system&apos;s software manager keeps Corvane up to date.</source>
+        <translation>Corvane’i sisteminizin yazılım yöneticisi güncel tutar.</translation>
+    </message>
+    <message>
+        <source>This build does not know where to look.</source>
+        <translation>Bu program nereye bakacağını bilmiyor.</translation>
+    </message>
+    <message>
+        <source>Offer beta versions too</source>
+        <translation>Beta sürümlerini de öner</translation>
+    </message>
+    <message>
+        <source>They come earlier, and fewer people have tried them.</source>
+        <translation>Daha erken gelirler ve onları daha az kişi denemiştir.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::PageIndicator</name>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Adım %1 / %2</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::PreferencesWindow</name>
+    <message>
+        <source>Pane of the preferences</source>
+        <translation>Tercihler bölmesi</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ShortcutRecorderView</name>
+    <message>
+        <source>Type a shortcut…</source>
+        <translation>Bir kısayola basın…</translation>
+    </message>
+    <message>
+        <source>Record Shortcut</source>
+        <translation>Kısayol Kaydet</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::ShortcutRow</name>
+    <message>
+        <source>Copy</source>
+        <translation>Kopyala</translation>
+    </message>
+    <message>
+        <source>That combination types a character. Record one with ⌘, ⌥ or ⌃.</source>
+        <translation>Bu birleşim bir karakter yazar. Super, Alt veya Ctrl içeren bir tane kaydedin.</translation>
+    </message>
+    <message>
+        <source>Another app already uses that combination.</source>
+        <translation>Bu birleşimi başka bir uygulama zaten kullanıyor.</translation>
+    </message>
+    <message>
+        <source>Your desktop has not answered yet.</source>
+        <translation>Masaüstünüz henüz yanıt vermedi.</translation>
+    </message>
+    <message>
+        <source>Bind a key to this command in your desktop&apos;s settings: %1</source>
+        <translation>Masaüstünüzün ayarlarında şu komuta bir tuş atayın: %1</translation>
+    </message>
+    <message>
+        <source>Add this line to your desktop&apos;s settings: %1</source>
+        <translation>Masaüstünüzün ayarlarına şu satırı ekleyin: %1</translation>
+    </message>
+    <message>
+        <source>Your desktop has bound it to %1.</source>
+        <translation>Masaüstünüz onu %1 olarak atadı.</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::UpdateWindow</name>
+    <message>
+        <source>What is new</source>
+        <translation>Yenilikler</translation>
+    </message>
+    <message>
+        <source>Download</source>
+        <translation>İndirme</translation>
+    </message>
+</context>
+<context>
+    <name>corvane::WelcomeView</name>
+    <message>
+        <source>Back</source>
+        <translation>Geri</translation>
+    </message>
+    <message>
+        <source>Goes to the step before</source>
+        <translation>Önceki adıma gider</translation>
+    </message>
+    <message>
+        <source>Illustration: %1</source>
+        <translation>Çizim: %1</translation>
+    </message>
+    <message>
+        <source>Start using it</source>
+        <translation>Kullanmaya başla</translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation>İleri</translation>
+    </message>
+    <message>
+        <source>Closes this guide</source>
+        <translation>Bu rehberi kapatır</translation>
+    </message>
+    <message>
+        <source>Goes to the next step</source>
+        <translation>Sonraki adıma gider</translation>
+    </message>
+</context>
+</TS>
