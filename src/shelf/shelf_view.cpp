@@ -2,6 +2,7 @@
 
 #include "platform/base/geometry.h"
 #include "platform/base/main_queue.h"
+#include "shelf/accessible_shelf.h"
 #include "shelf/optional_callback.h"
 
 #include <QPainter>
@@ -41,6 +42,7 @@ QSizeF ShelfView::preferredSize(const ShelfSnapshot &snapshot) const
 
 void ShelfView::apply(const ShelfSnapshot &snapshot)
 {
+    const QString news = accessible_shelf::newsOf(m_look.snapshot, snapshot);
     m_look.snapshot = snapshot;
     if (snapshot.state == ShelfState::Idle)
         m_dragSource.release();
@@ -48,6 +50,8 @@ void ShelfView::apply(const ShelfSnapshot &snapshot)
     if (snapshot.visible.empty())
         m_look.flashMessage.clear();
     relayout();
+    if (!news.isEmpty())
+        m_context.panel.announce(news);
 }
 
 void ShelfView::relayout()
@@ -62,6 +66,7 @@ void ShelfView::relayout()
                               : ShelfHit();
     m_layers.apply(m_look);
     updateBody();
+    m_context.panel.accessibleChanged();
 }
 
 void ShelfView::updateBody()
@@ -116,6 +121,7 @@ void ShelfView::flash(const QString &message)
     m_look.flashMessage = message;
     m_flashEnd.restart();
     relayout();
+    m_context.panel.announce(message);
     m_context.queue.asyncAfter(flashDuration, m_flashEnd.guard([this] {
         m_look.flashMessage.clear();
         relayout();

@@ -116,6 +116,8 @@ public:
     std::optional<QUrl> placeForPromisedFile(const QString &name) override;
     bool performDragOperation(const DraggingInfo &info) override;
     void draggingEnded() override;
+    AccessibleNode accessible() const override;
+    void perform(const QString &key, const QString &action) override;
 
 private:
     void relayout();
@@ -129,6 +131,7 @@ private:
     void press(const ShelfHit &hit, QPointF point);
     void pressCell(int itemIndex, QPointF point);
     void pressKey(const KeyEvent &event) const;
+    void performOnItem(const QUuid &id, int index, const QString &action);
     void wireDragSource();
     QRectF thumbFrame(int index) const;
     DragSource::Picture dragPicture(const DropItem &item, int index, QPointF from) const;

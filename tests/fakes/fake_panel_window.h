@@ -44,6 +44,8 @@ public:
     void resignKey() override { isKey = false; }
     void userWentOn() override { log << QStringLiteral("userWentOn"); }
     void setNeedsDisplay(const QRectF &) override { ++displayRequests; }
+    void accessibleChanged() override { ++accessibleChanges; }
+    void announce(const QString &text) override { announced << text; }
     void beginDraggingSession(DragOut drag, DragOutEvents events) override
     {
         const auto writers = static_cast<qsizetype>(drag.contents.writers.size());
@@ -68,6 +70,8 @@ public:
     QRectF body;
     QPainterPath outline;
     int displayRequests = 0;
+    int accessibleChanges = 0;
+    QStringList announced;
     std::vector<QRectF> frames;
     QStringList log;
     std::optional<DragOut> dragOut;

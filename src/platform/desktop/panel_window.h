@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/desktop/accessible_node.h"
 #include "platform/desktop/panel_events.h"
 #include "platform/desktop/panel_placement.h"
 #include "platform/pasteboard/pasteboard_writer.h"
@@ -57,6 +58,13 @@ public:
     virtual bool performDragOperation(const DraggingInfo &info) = 0;
     /// Called after a drop or an exit: the drag is over for this panel.
     virtual void draggingEnded() = 0;
+
+    /// What is on the panel, for assistive technologies; asked for only while one is in use. Tell
+    /// the panel when it changes (`PanelWindow::accessibleChanged`).
+    virtual AccessibleNode accessible() const { return {}; }
+    /// A user of an assistive technology wants an action of the thing with that key. Either may be
+    /// gone meanwhile.
+    virtual void perform(const QString & /*key*/, const QString & /*action*/) { }
 };
 
 /// What is dragged out of a panel.
@@ -137,6 +145,12 @@ public:
 
     /// Asks for a repaint of part of the panel, in its coordinates.
     virtual void setNeedsDisplay(const QRectF &rect) = 0;
+
+    /// To be called when the content's `accessible` may have another answer. Costs nothing while no
+    /// assistive technology is in use.
+    virtual void accessibleChanged() = 0;
+    /// Has screen readers say a text at once, wherever the keyboard is.
+    virtual void announce(const QString &text) = 0;
 
     /// Starts a drag that offers copy and link; the button must be down. The contents are fixed at
     /// this moment. Another drag may begin after `released`, while this one's target is still busy.

@@ -1,5 +1,9 @@
 #include "shelf/bar/view_all_view.h"
 
+#include "shelf/accessible_items.h"
+#include "shelf/bar/accessible_bar.h"
+#include "shelf/optional_callback.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -58,6 +62,7 @@ void ViewAllView::wasHidden()
     m_pointer.reset();
     if (findHovered())
         relayout();
+    m_context.panel.accessibleChanged();
 }
 
 QList<DropItem> ViewAllView::selectedInOrder() const
@@ -92,6 +97,7 @@ void ViewAllView::relayout()
     m_layers.apply(m_layout, page());
     const QRectF bounds({0, 0}, m_layout.size);
     m_context.panel.setBody(bounds, ViewAllLayers::outline(bounds));
+    m_context.panel.accessibleChanged();
 }
 
 void ViewAllView::paint(QPainter &painter, QSizeF /*size*/, double scale)
@@ -99,6 +105,30 @@ void ViewAllView::paint(QPainter &painter, QSizeF /*size*/, double scale)
     m_scale = scale;
     painter.setRenderHint(QPainter::Antialiasing);
     m_layers.render(painter, scale);
+}
+
+AccessibleNode ViewAllView::accessible() const
+{
+    return accessible_bar::describe(
+        {.layout = m_layout,
+         .page = page(),
+         .offset = m_offset,
+         .itemCount = itemCount(),
+         .selectedCount = m_selection ? static_cast<int>(m_selection->size()) : 0,
+         .isShown = m_isShown});
+}
+
+void ViewAllView::perform(const QString &key, const QString &action)
+{
+    if (!m_isShown || action != AccessibleNode::press())
+        return;
+    m_context.panel.makeKey();
+    const auto id = accessible_items::itemOf(key);
+    const DropItem *item = id ? itemWithId(*id) : nullptr;
+    if (const auto control = accessible_bar::controlOf(key))
+        press(*control);
+    else if (item)
+        call(onToggleItem, DropItem(*item));
 }
 
 const DropItem *ViewAllView::itemAt(QPointF point) const

@@ -102,6 +102,8 @@ public:
     void draggingExited() override { }
     bool performDragOperation(const DraggingInfo &info) override;
     void draggingEnded() override { }
+    AccessibleNode accessible() const override;
+    void perform(const QString &key, const QString &action) override;
 
 private:
     int itemCount() const { return m_items ? static_cast<int>(m_items->size()) : 0; }

@@ -1,5 +1,6 @@
 #include "platform/qt/desktop/panel_canvas.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QPaintEvent>
 #include <QPainter>
@@ -28,6 +29,13 @@ void PanelCanvas::setCanvasSize(QSize size)
 void PanelCanvas::forgetOwner()
 {
     m_hasOwner = false;
+}
+
+QAccessibleInterface *PanelCanvas::accessibleRoot() const
+{
+    return isVisible() && makeAccessible
+        ? QAccessible::queryAccessibleInterface(const_cast<PanelCanvas *>(this))
+        : nullptr;
 }
 
 void PanelCanvas::repaintSoon(const QRegion &region)

@@ -6,6 +6,7 @@
 
 #include <functional>
 
+class QAccessibleInterface;
 class QPainter;
 
 namespace corvane {
@@ -33,6 +34,11 @@ public:
     void setCanvasSize(QSize size);
     /// From now on neither `Paint` nor `Handle` is called: their owner is being destroyed.
     void forgetOwner();
+
+    /// Makes what Qt's accessibility is told of the panel; unset for nothing. Called at most once.
+    std::function<QAccessibleInterface *()> makeAccessible;
+    /// None while it is hidden.
+    QAccessibleInterface *accessibleRoot() const override;
 
 protected:
     bool event(QEvent *event) override;

@@ -23,6 +23,16 @@ QtPanelWindow::QtPanelWindow(const PanelDesktop &desktop, MainQueue &queue,
     , m_canvas(std::make_unique<PanelCanvas>([this](QPainter &painter) { paint(painter); },
                                              [this](QEvent &event) { return handle(event); }))
     , m_dropTarget(*m_canvas, dropSupport, {workQueue, &queue})
+    , m_accessible(
+          {.canvas = *m_canvas,
+           .queue = queue,
+           .read = [this] { return m_content ? m_content->accessible() : AccessibleNode(); },
+           .perform =
+               [this](const QString &key, const QString &action) {
+                   if (m_content)
+                       m_content->perform(key, action);
+               },
+           .toWindow = [this](const QRectF &inPanel) { return toWindow(inPanel); }})
 {
     m_desktop.surface.adopt(*m_canvas);
     m_number = WindowNumber{m_canvas->winId()};
@@ -47,6 +57,7 @@ void QtPanelWindow::setContent(PanelContent *content)
 {
     m_content = content;
     m_dropTarget.setContent(content);
+    m_accessible.changed();
     setNeedsDisplay({{}, m_frame.size()});
 }
 
@@ -80,6 +91,7 @@ void QtPanelWindow::orderFrontRegardless()
     // Raised before it is mapped, or it would appear at its old place in the stack.
     m_canvas->raise();
     m_canvas->show();
+    m_accessible.shown();
 }
 
 void QtPanelWindow::orderOut()
@@ -87,6 +99,7 @@ void QtPanelWindow::orderOut()
     if (!std::exchange(m_isVisible, false))
         return;
     m_desktop.keyboard.willHide(m_number);
+    m_accessible.willHide();
     m_canvas->hide();
     m_desktop.surface.didHide(*m_canvas);
 }

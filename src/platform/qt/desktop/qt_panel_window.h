@@ -5,6 +5,7 @@
 #include "platform/desktop/panel_desktop.h"
 #include "platform/desktop/panel_window.h"
 #include "platform/qt/desktop/key_repeats.h"
+#include "platform/qt/desktop/panel_accessible.h"
 #include "platform/qt/desktop/panel_canvas.h"
 #include "platform/qt/desktop/panel_drop_target.h"
 #include "platform/qt/desktop/wheel_steps.h"
@@ -46,6 +47,8 @@ public:
     void resignKey() override;
     void userWentOn() override;
     void setNeedsDisplay(const QRectF &rect) override;
+    void accessibleChanged() override { m_accessible.changed(); }
+    void announce(const QString &text) override { m_accessible.announce(text); }
     void beginDraggingSession(DragOut drag, DragOutEvents events) override;
 
     /// The window, for tests of the back end.
@@ -73,6 +76,7 @@ private:
     PanelContent *m_content = nullptr;
     std::unique_ptr<PanelCanvas> m_canvas;
     PanelDropTarget m_dropTarget;
+    PanelAccessible m_accessible;
     WindowNumber m_number = WindowNumber::None;
     QRectF m_frame;
     /// Where the panel's top left is in its window.

@@ -46,8 +46,12 @@ bool QtPanelWindow::handle(QEvent &event)
     case QEvent::KeyPress:
     case QEvent::KeyRelease:
         return handleKey(dynamic_cast<QKeyEvent &>(event));
+    case QEvent::FocusIn:
+        m_accessible.keyboardChanged();
+        return false;
     case QEvent::FocusOut:
         m_desktop.keyboard.lost(m_number);
+        m_accessible.keyboardChanged();
         return false;
     default:
         return handleDrag(event);

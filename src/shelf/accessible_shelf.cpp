@@ -1,0 +1,193 @@
+#include "shelf/accessible_shelf.h"
+
+#include "core/display_text.h"
+#include "shelf/accessible_items.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <utility>
+
+namespace corvane::accessible_shelf {
+
+namespace {
+
+const QLatin1String backKey("back");
+const QLatin1String forwardKey("forward");
+const QLatin1String allItemsKey("all items");
+constexpr std::array<QLatin1String, 3> actionKeys{QLatin1String("preview"), QLatin1String("copy"),
+                                                  QLatin1String("remove")};
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(AccessibleShelf)
+};
+
+AccessibleNode button(const QString &key, const QString &name, const QRectF &frame)
+{
+    AccessibleNode node;
+    node.key = key;
+    node.role = AccessibleNode::Role::Button;
+    node.name = name;
+    node.frame = frame;
+    node.actions = {{AccessibleNode::press(), Words::tr("Press")}};
+    return node;
+}
+
+AccessibleNode itemNode(const ShelfLook &look, int index, const DropItem &item)
+{
+    const ShelfSnapshot &snapshot = look.snapshot;
+    AccessibleNode node = accessible_items::describe(item, {index, snapshot.totalCount});
+    node.isSelectable = true;
+    node.isFocusable = true;
+    node.isSelected = node.isFocused = index == snapshot.focusedIndex;
+    node.actions = {{AccessibleNode::press(), Words::tr("Focus")},
+                    {preview(), Words::tr("Preview")},
+                    {copy(), Words::tr("Copy")},
+                    {remove(), Words::tr("Remove")},
+                    {moveOut(), Words::tr("Copy and take off the shelf")}};
+    for (const ShelfLayout::Cell &cell : look.layout.cells) {
+        if (cell.itemIndex == index)
+            node.frame = cell.root;
+    }
+    return node;
+}
+
+AccessibleNode itemList(const ShelfLook &look)
+{
+    AccessibleNode list;
+    list.key = QStringLiteral("items");
+    list.role = AccessibleNode::Role::List;
+    list.name = Words::tr("Items on the shelf");
+    for (const auto &[index, item] : look.snapshot.visible) {
+        list.children.push_back(itemNode(look, index, item));
+        list.frame |= list.children.back().frame;
+    }
+    return list;
+}
+
+void addArrows(const ShelfLook &look, std::vector<AccessibleNode> &nodes)
+{
+    if (!look.layout.arrows)
+        return;
+    nodes.push_back(button(backKey, Words::tr("Earlier items"), look.layout.arrows->at(0)));
+    nodes.back().isEnabled = look.snapshot.canScrollBack;
+    nodes.push_back(button(forwardKey, Words::tr("Later items"), look.layout.arrows->at(1)));
+    nodes.back().isEnabled = look.snapshot.canScrollForward;
+}
+
+void addButtons(const ShelfLook &look, std::vector<AccessibleNode> &nodes)
+{
+    if (look.layout.actionButtons) {
+        const std::array<QString, 3> names{Words::tr("Preview"), Words::tr("Copy"),
+                                           Words::tr("Remove")};
+        for (std::size_t i = 0; i < names.size(); ++i)
+            nodes.push_back(
+                button(actionKeys.at(i), names.at(i), look.layout.actionButtons->at(i)));
+    }
+    if (look.layout.viewAllButton)
+        nodes.push_back(button(allItemsKey, Words::tr("All items"), *look.layout.viewAllButton));
+}
+
+/// Says what is drawn there: that something may be dropped, or that it only has to be let go.
+AccessibleNode dropTarget(const ShelfLook &look)
+{
+    AccessibleNode node;
+    node.key = QStringLiteral("drop target");
+    node.name = look.isDragTargeted ? QCoreApplication::translate("ShelfView", "Release to hold")
+                                    : QCoreApplication::translate("ShelfView", "Drop to hold");
+    node.frame = look.layout.ring;
+    return node;
+}
+
+void moveBy(QPointF distance, std::vector<AccessibleNode> &nodes)
+{
+    for (AccessibleNode &node : nodes) {
+        node.frame.translate(distance);
+        moveBy(distance, node.children);
+    }
+}
+
+} // namespace
+
+QString preview()
+{
+    return QStringLiteral("Preview");
+}
+
+QString copy()
+{
+    return QStringLiteral("Copy");
+}
+
+QString remove()
+{
+    return QStringLiteral("Remove");
+}
+
+QString moveOut()
+{
+    return QStringLiteral("Move out");
+}
+
+AccessibleNode describe(const ShelfLook &look, QPointF body)
+{
+    AccessibleNode shelf;
+    shelf.key = QStringLiteral("shelf");
+    shelf.role = AccessibleNode::Role::Window;
+    shelf.name = Words::tr("Shelf");
+    shelf.frame = QRectF(body, look.layout.size);
+    if (look.snapshot.state == ShelfState::Idle)
+        return shelf;
+    std::vector<AccessibleNode> nodes;
+    if (!look.snapshot.visible.empty())
+        nodes.push_back(itemList(look));
+    if (look.snapshot.looksLikeDropTarget())
+        nodes.push_back(dropTarget(look));
+    addArrows(look, nodes);
+    addButtons(look, nodes);
+    moveBy(body, nodes);
+    shelf.children = std::move(nodes);
+    return shelf;
+}
+
+std::optional<ShelfHit> controlOf(const QString &key, const ShelfLook &look)
+{
+    const ShelfLayout &layout = look.layout;
+    if (key == backKey && layout.arrows)
+        return shelf_hit::Arrow{ArrowSide::Left};
+    if (key == forwardKey && layout.arrows)
+        return shelf_hit::Arrow{ArrowSide::Right};
+    if (key == allItemsKey && layout.viewAllButton)
+        return shelf_hit::ViewAll{};
+    const auto action = std::ranges::find(actionKeys, key);
+    if (action != actionKeys.end() && layout.actionButtons)
+        return shelf_hit::Button{
+            allShelfActions.at(static_cast<std::size_t>(action - actionKeys.begin()))};
+    const auto id = accessible_items::itemOf(key);
+    for (const auto &[index, item] : look.snapshot.visible) {
+        if (id == item.id())
+            return shelf_hit::Cell{index};
+    }
+    return std::nullopt;
+}
+
+QString newsOf(const ShelfSnapshot &before, const ShelfSnapshot &now)
+{
+    const int more = now.totalCount - before.totalCount;
+    if (more == 0)
+        return {};
+    if (now.totalCount == 0)
+        return Words::tr("The shelf is empty");
+    if (more < 0)
+        return now.totalCount == 1
+            ? Words::tr("Removed; 1 item is left")
+            : Words::tr("Removed; %n items are left", nullptr, now.totalCount);
+    const auto last
+        = std::ranges::find(now.visible, now.totalCount - 1, &std::pair<int, DropItem>::first);
+    if (more == 1 && last != now.visible.end())
+        return Words::tr("%1 was added").arg(displayText(last->second.title()));
+    return more == 1 ? Words::tr("1 item was added")
+                     : Words::tr("%n items were added", nullptr, more);
+}
+
+} // namespace corvane::accessible_shelf
