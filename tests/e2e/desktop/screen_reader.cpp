@@ -17,6 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto accessible = u"org.a11y.atspi.Accessible"_s;
+const auto actionInterface = u"org.a11y.atspi.Action"_s;
 const auto connectionName = u"screen reader"_s;
 
 /// The address of the accessibility bus, which is started when it is first asked for.
@@ -105,6 +106,56 @@ QRect ScreenReader::frame(const Place &place) const
     return {x, y, width, height};
 }
 
+quint64 ScreenReader::states(const Place &place) const
+{
+    const QVariantList answer = ask(place, accessible, u"GetState"_s);
+    if (answer.isEmpty())
+        return 0;
+    quint64 all = 0;
+    int shift = 0;
+    const auto halves = answer.constFirst().value<QDBusArgument>();
+    halves.beginArray();
+    while (!halves.atEnd()) {
+        quint32 half = 0;
+        halves >> half;
+        all |= quint64(half) << shift;
+        shift += 32;
+    }
+    halves.endArray();
+    return all;
+}
+
+QStringList ScreenReader::actions(const Element &element) const
+{
+    const QVariantList answer = ask(element.place, actionInterface, u"GetActions"_s);
+    QStringList names;
+    if (answer.isEmpty())
+        return names;
+    const auto list = answer.constFirst().value<QDBusArgument>();
+    list.beginArray();
+    while (!list.atEnd()) {
+        QString name;
+        QString description;
+        QString keys;
+        list.beginStructure();
+        list >> name >> description >> keys;
+        list.endStructure();
+        names << name;
+    }
+    list.endArray();
+    return names;
+}
+
+bool ScreenReader::perform(const Element &element, const QString &wanted) const
+{
+    const qsizetype index = actions(element).indexOf(wanted);
+    if (index < 0)
+        return false;
+    const QVariantList done
+        = ask(element.place, actionInterface, u"DoAction"_s, {static_cast<int>(index)});
+    return !done.isEmpty() && done.constFirst().toBool();
+}
+
 std::optional<ScreenReader::Place> ScreenReader::program(qint64 pid) const
 {
     const Place registry{u"org.a11y.atspi.Registry"_s, u"/org/a11y/atspi/accessible/root"_s};
@@ -124,8 +175,12 @@ void ScreenReader::collect(const Place &place, int depth, QList<Element> &found)
     if (depth == deepest)
         return;
     const QVariantList role = ask(place, accessible, u"GetRoleName"_s);
-    found << Element{property(place, u"Name"_s), property(place, u"Description"_s),
-                     role.isEmpty() ? QString() : role.constFirst().toString(), frame(place)};
+    found << Element{property(place, u"Name"_s),
+                     property(place, u"Description"_s),
+                     role.isEmpty() ? QString() : role.constFirst().toString(),
+                     frame(place),
+                     states(place),
+                     place};
     for (const Place &child : children(place))
         collect(child, depth + 1, found);
 }

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QRect>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -14,6 +15,19 @@ namespace corvane::e2e {
 /// Reads a program's windows through the accessibility bus, as screen readers do.
 class ScreenReader {
 public:
+    struct Place {
+        QString service;
+        QString path;
+    };
+    /// Numbers of the accessibility bus.
+    enum class State {
+        Active = 1,
+        Busy = 3,
+        Checked = 4,
+        Focused = 12,
+        Selected = 23,
+        Sensitive = 24
+    };
     struct Element {
         QString name;
         QString description;
@@ -21,6 +35,10 @@ public:
         QString role;
         /// In root coordinates.
         QRect frame;
+        quint64 states = 0;
+        Place place = {};
+
+        bool is(State state) const { return (states >> static_cast<int>(state) & 1) != 0; }
     };
 
     explicit ScreenReader(XDesktop &desktop);
@@ -37,19 +55,20 @@ public:
     /// The first control (not a text) whose name begins with `name`.
     std::optional<Element> control(qint64 pid, const QString &name,
                                    const QString &description = {}) const;
+    /// Has the element do one of its actions, known by its untranslated name. False if it has no
+    /// such action.
+    bool perform(const Element &element, const QString &action) const;
+    QStringList actions(const Element &element) const;
     /// Whether an element has this text.
     bool says(qint64 pid, const QString &text) const;
 
 private:
-    struct Place {
-        QString service;
-        QString path;
-    };
     QVariantList ask(const Place &place, const QString &interface, const QString &method,
                      const QVariantList &arguments = {}) const;
     QString property(const Place &place, const QString &name) const;
     QList<Place> children(const Place &place) const;
     QRect frame(const Place &place) const;
+    quint64 states(const Place &place) const;
     std::optional<Place> program(qint64 pid) const;
     void collect(const Place &place, int depth, QList<Element> &found) const;
 

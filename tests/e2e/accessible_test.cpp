@@ -1,0 +1,125 @@
+// The shelf and its bar as screen readers have them, and used through those alone.
+
+#include "e2e/desktop/screen_reader.h"
+#include "e2e/desktop_test.h"
+
+namespace corvane::e2e {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+class Accessible : public DesktopTest {
+protected:
+    static constexpr int inView = 3;
+
+    void SetUp() override
+    {
+        DesktopTest::SetUp();
+        ASSERT_TRUE(m_reader.isReady());
+    }
+    void startToBeRead()
+    {
+        CorvaneProgram::Start how{inView, {}, m_desktop.environment()};
+        ScreenReader::addTo(how.environment);
+        start(how);
+    }
+    /// Starts with as many files on the shelf: a.txt, b.txt and so on.
+    void hold(int count)
+    {
+        for (int i = 0; i < count; ++i)
+            m_paths << makeFile(u"%1.txt"_s.arg(QChar(u'a' + i)), "x");
+        startToBeRead();
+        ASSERT_TRUE(dropFiles(m_paths));
+        ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(inView, count)));
+    }
+    std::optional<ScreenReader::Element> find(const QString &role, const QString &name)
+    {
+        for (const ScreenReader::Element &element : m_reader.elements(corvane().program().pid())) {
+            if (element.role == role && element.name == name)
+                return element;
+        }
+        return std::nullopt;
+    }
+    /// Waits until there is such an element, and returns it; an empty one if there is none.
+    ScreenReader::Element await(const QString &role, const QString &name)
+    {
+        std::optional<ScreenReader::Element> found;
+        eventually([&] {
+            found = find(role, name);
+            return found.has_value();
+        });
+        return found.value_or(ScreenReader::Element{});
+    }
+    /// Waits until there is such an element in that state.
+    bool isSoon(ScreenReader::State state, const QString &role, const QString &name)
+    {
+        return eventually([&] {
+            const auto found = find(role, name);
+            return found && found->is(state);
+        });
+    }
+    bool perform(const QString &role, const QString &name, const QString &action = u"Press"_s)
+    {
+        return m_reader.perform(await(role, name), action);
+    }
+
+    QStringList m_paths;
+    ScreenReader m_reader{m_desktop};
+};
+
+TEST_F(Accessible, theShelfIsAListOfItemsThatAreUsedByTheirActions)
+{
+    hold(4);
+    const auto last = await(u"list item"_s, u"d.txt"_s);
+    EXPECT_TRUE(last.description.startsWith(u"File, "_s)) << last.description.toStdString();
+    EXPECT_TRUE(last.description.endsWith(u", 4 of 4"_s)) << last.description.toStdString();
+    EXPECT_TRUE(last.is(ScreenReader::State::Selected)) << "what came last is focused";
+    EXPECT_TRUE(corvane().body().contains(last.frame.center()));
+    EXPECT_EQ(await(u"list"_s, u"Items on the shelf"_s).role, u"list"_s);
+    EXPECT_EQ(await(u"frame"_s, u"Shelf"_s).role, u"frame"_s);
+    EXPECT_FALSE(await(u"push button"_s, u"Later items"_s).is(ScreenReader::State::Sensitive));
+
+    ASSERT_TRUE(perform(u"push button"_s, u"Earlier items"_s));
+    ASSERT_TRUE(perform(u"list item"_s, u"a.txt"_s));
+    EXPECT_TRUE(isSoon(ScreenReader::State::Focused, u"list item"_s, u"a.txt"_s))
+        << "the press gives the shelf the keyboard, too";
+    ASSERT_TRUE(perform(u"list item"_s, u"b.txt"_s, u"Copy"_s));
+    EXPECT_EQ(clipboardText(m_paths[1].toUtf8()), m_paths[1].toUtf8());
+    ASSERT_TRUE(perform(u"list item"_s, u"b.txt"_s, u"Remove"_s));
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(inView, 3)));
+    ASSERT_TRUE(perform(u"list item"_s, u"c.txt"_s, u"Move out"_s));
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(inView, 2)));
+    EXPECT_EQ(clipboardText(m_paths[2].toUtf8()), m_paths[2].toUtf8());
+}
+
+TEST_F(Accessible, theBarsTilesAreTickedAndRemoved)
+{
+    hold(3);
+    ASSERT_TRUE(perform(u"push button"_s, u"All items"_s));
+    const auto all = await(u"check box"_s, u"Select all"_s);
+    EXPECT_TRUE(all.is(ScreenReader::State::Checked)) << "what was dropped is selected";
+    EXPECT_EQ(all.description, u"3 of 3 selected"_s);
+    ASSERT_TRUE(m_reader.perform(all, u"Press"_s));
+    Bar bar(m_desktop, corvane(), inView);
+    ASSERT_TRUE(bar.waitForKeyboard());
+    EXPECT_TRUE(eventually([this] {
+        const auto box = find(u"check box"_s, u"Select all"_s);
+        return box && box->description == u"0 of 3 selected"_s;
+    }));
+    // The shelf's item has the same name; the bar's is the one that can be ticked.
+    ASSERT_TRUE(eventually([this] {
+        for (const auto &element : m_reader.elements(corvane().program().pid())) {
+            if (element.name == u"b.txt"_s && m_reader.actions(element).size() == 1)
+                return m_reader.perform(element, u"Press"_s);
+        }
+        return false;
+    }));
+    EXPECT_TRUE(
+        isSoon(ScreenReader::State::Sensitive, u"push button"_s, u"Remove the selected items"_s));
+    ASSERT_TRUE(perform(u"push button"_s, u"Remove the selected items"_s));
+    EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(inView, 2)));
+    EXPECT_TRUE(eventually([this] { return !find(u"list item"_s, u"b.txt"_s); }));
+}
+
+} // namespace
+} // namespace corvane::e2e
