@@ -38,7 +38,6 @@
 #include "platform/qt/base/qt_main_queue.h"
 #include "platform/qt/base/qt_work_queue.h"
 #include "platform/qt/desktop/qt_key_monitors.h"
-#include "platform/qt/desktop/qt_keyboard.h"
 #include "platform/qt/desktop/qt_panel_window.h"
 #include "platform/qt/desktop/qt_screens.h"
 #include "platform/qt/pasteboard/qt_clipboard.h"
@@ -90,7 +89,6 @@ struct CompositionRoot {
     std::shared_ptr<WebRoutes> webRoutes;
     QtWebClient webClient;
     QtScreens screens;
-    QtKeyboard keyboard;
     QtClipboard clipboard;
     QtUserDefaults userDefaults;
     QtDesktopServices desktopServices;

@@ -10,7 +10,8 @@ inline Abilities lackingAbilities(Reason why)
     return {.drags = {Drags::Unnoticed, why},
             .topEdge = {TopEdge::Unwatched, why},
             .clicksElsewhere = {ClicksElsewhere::Unnoticed, why},
-            .shortcutChoice = {ShortcutChoice::InTheDesktop, why}};
+            .shortcutChoice = {ShortcutChoice::InTheDesktop, why},
+            .keepingKey = {KeepingKey::BeforeTheDrag, why}};
 }
 
 } // namespace corvane::test

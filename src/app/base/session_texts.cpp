@@ -94,10 +94,19 @@ QString limit(const Ability<ShortcutChoice> &choice)
         text(QT_TRANSLATE_NOOP("SessionTexts", "Choose them in your desktop's settings.")));
 }
 
+QString limit(const Ability<KeepingKey> &key)
+{
+    if (key.isFull())
+        return {};
+    return sentence(text("Shift is not noticed once a drag has begun"), key.why,
+                    text("Hold it before you begin to drag, and the item stays."));
+}
+
 QStringList limits(const Abilities &abilities)
 {
     QStringList all{limit(abilities.drags), limit(abilities.topEdge),
-                    limit(abilities.clicksElsewhere), limit(abilities.shortcutChoice)};
+                    limit(abilities.clicksElsewhere), limit(abilities.shortcutChoice),
+                    limit(abilities.keepingKey)};
     all.removeAll(QString());
     return all;
 }

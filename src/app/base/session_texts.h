@@ -15,6 +15,7 @@ QString limit(const Ability<Drags> &drags);
 QString limit(const Ability<TopEdge> &topEdge);
 QString limit(const Ability<ClicksElsewhere> &clicks);
 QString limit(const Ability<ShortcutChoice> &choice);
+QString limit(const Ability<KeepingKey> &key);
 
 /// Those that are not empty.
 QStringList limits(const Abilities &abilities);

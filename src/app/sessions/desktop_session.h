@@ -13,6 +13,7 @@ class DragWatch;
 class DropSupport;
 class EdgeTrigger;
 class HotKeyService;
+class Keyboard;
 class KeyboardLayout;
 class MainQueue;
 class OutsideClicks;
@@ -31,6 +32,7 @@ struct DesktopSession {
     EdgeTrigger &edgeTrigger;
     OutsideClicks &outsideClicks;
     HotKeyService &hotKeys;
+    const Keyboard &keyboard;
     const KeyboardLayout &keyboardLayout;
     PanelDesktop panels;
     /// What drops and drags of the panels need beyond what Qt does; null if they need nothing more.

@@ -61,7 +61,9 @@ void LayerSession::wireDrags()
 
 void LayerSession::tellAbilities()
 {
-    abilities.become(quiet.abilities(hotKeys.areChosenHere()));
+    Abilities now = quiet.abilities(hotKeys.areChosenHere());
+    now.keepingKey = {KeepingKey::BeforeTheDrag, Reason::KeptByDesktop};
+    abilities.become(now);
 }
 
 DesktopSession LayerSession::desktop()
@@ -75,6 +77,7 @@ DesktopSession LayerSession::desktop()
             .edgeTrigger = quiet.edgeStrips,
             .outsideClicks = quiet.outsideClicks,
             .hotKeys = hotKeys.service,
+            .keyboard = keyboard,
             .keyboardLayout = keyboardLayout,
             .panels = panelDesktop,
             .dropSupport = dropSupport.isAble() ? &dropSupport : nullptr,

@@ -3,6 +3,7 @@
 #include "app/sessions/desktop_hot_keys.h"
 #include "app/sessions/desktop_session.h"
 #include "app/sessions/quiet_desktop.h"
+#include "platform/qt/desktop/qt_keyboard.h"
 #include "platform/wayland/base/wayland_connection.h"
 #include "platform/wayland/drags/wayland_drag_carrier.h"
 #include "platform/wayland/drags/wayland_drop_support.h"
@@ -30,6 +31,7 @@ struct LayerSession : RunningSession {
     SessionAbilities abilities;
     LayerStripSurface strips;
     QuietDesktop quiet;
+    QtLastModifiers keyboard;
     WaylandKeyboardLayout keyboardLayout;
     DesktopHotKeys hotKeys;
     LayerPanels panels;

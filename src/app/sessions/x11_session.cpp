@@ -34,6 +34,7 @@ DesktopSession X11Session::desktop()
             .edgeTrigger = edgeTrigger,
             .outsideClicks = outsideClicks,
             .hotKeys = hotKeys,
+            .keyboard = keyboard,
             .keyboardLayout = keyboardLayout,
             .panels = panels.desktop(),
             .dropSupport = &dropSupport,

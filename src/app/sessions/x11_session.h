@@ -5,6 +5,7 @@
 #include "input/drag_monitor.h"
 #include "input/monitored_clicks.h"
 #include "input/pointer_screen_locator.h"
+#include "platform/qt/desktop/qt_keyboard.h"
 #include "platform/x11/base/x11_abilities.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_drag_desktop.h"
@@ -38,6 +39,7 @@ struct X11Session : RunningSession {
     DragMonitor dragMonitor;
     MonitoredClicks outsideClicks;
     X11HotKeys hotKeys;
+    QtKeyboard keyboard;
     X11KeyboardLayout keyboardLayout;
     X11Panels panels;
     X11WindowActivation windowActivation;

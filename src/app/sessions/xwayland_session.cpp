@@ -41,6 +41,7 @@ DesktopSession XWaylandSession::desktop()
             .edgeTrigger = quiet.edgeStrips,
             .outsideClicks = quiet.outsideClicks,
             .hotKeys = hotKeys.service,
+            .keyboard = keyboard,
             .keyboardLayout = keyboardLayout,
             .panels = panels.desktop(),
             .dropSupport = &dropSupport,

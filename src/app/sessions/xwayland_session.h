@@ -3,6 +3,7 @@
 #include "app/sessions/desktop_hot_keys.h"
 #include "app/sessions/desktop_session.h"
 #include "app/sessions/quiet_desktop.h"
+#include "platform/qt/desktop/qt_keyboard.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_drag_selection.h"
 #include "platform/x11/drags/x11_drag_support.h"
@@ -31,6 +32,7 @@ struct XWaylandSession : RunningSession {
     X11StripSurface strips;
     QuietDesktop quiet;
     X11DragSelection dragSelection;
+    QtKeyboard keyboard;
     X11KeyboardLayout keyboardLayout;
     DesktopHotKeys hotKeys;
     XWaylandPanels panels;

@@ -121,7 +121,7 @@ QString WelcomeView::limitOf(WelcomeStep step) const
     case WelcomeStep::DragOut:
         return session_texts::limit(m_abilities.now().topEdge);
     case WelcomeStep::Keep:
-        break;
+        return session_texts::limit(m_abilities.now().keepingKey);
     }
     return {};
 }

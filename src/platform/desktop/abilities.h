@@ -55,12 +55,20 @@ enum class ShortcutChoice {
     InTheDesktop,
 };
 
+/// From when on the key that keeps what is dragged out has to be held.
+enum class KeepingKey {
+    /// At the moment of the drop is enough.
+    AtTheDrop,
+    BeforeTheDrag,
+};
+
 /// What people may have to be told of a session. Everything, unless it says otherwise.
 struct Abilities {
     Ability<Drags> drags = {};
     Ability<TopEdge> topEdge = {};
     Ability<ClicksElsewhere> clicksElsewhere = {};
     Ability<ShortcutChoice> shortcutChoice = {};
+    Ability<KeepingKey> keepingKey = {};
 
     friend bool operator==(const Abilities &, const Abilities &) = default;
 };

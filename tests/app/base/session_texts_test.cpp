@@ -33,7 +33,7 @@ TEST(SessionTexts, eachAbilityThatIsMissingIsSaidInWordsOfItsOwnForEachReason)
             said << limit;
         said << session_texts::limit(Ability<Drags>{Drags::AtTheEdge, why});
     }
-    EXPECT_EQ(said.size(), 10);
+    EXPECT_EQ(said.size(), 12);
     for (const QString &text : said)
         EXPECT_FALSE(text.contains(QStringLiteral("because .")))
             << "without a reason: " << text.toStdString();
@@ -62,6 +62,7 @@ TEST(SessionTexts, theReadmeSaysWhatIsMissingWithoutTheServersExtensions)
 {
     Abilities lacking = lackingAbilities(Reason::ServerLacksExtensions);
     lacking.shortcutChoice = {};
+    lacking.keepingKey = {};
     for (const QString &limit : session_texts::limits(lacking))
         EXPECT_TRUE(readme().contains(QStringLiteral("- ") + limit)) << limit.toStdString();
 }

@@ -450,7 +450,7 @@ TEST_F(GeneralPaneTest, SaysWhatTheSessionLacksAsLongAsItLacksIt)
     EXPECT_EQ(roomAboveTheSettings(), 0);
     const Abilities lacking = lackingAbilities(Reason::ServerLacksExtensions);
     const QStringList limits = session_texts::limits(lacking);
-    ASSERT_EQ(limits.size(), 4);
+    ASSERT_EQ(limits.size(), 5);
     for (const QString &limit : limits)
         EXPECT_FALSE(says(limit));
     desk.abilities.become(lacking);

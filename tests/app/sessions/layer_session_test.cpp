@@ -95,6 +95,12 @@ TEST_F(LayerSessionTest, aDragIsNoticedAtTheEdgeWhereNobodyElseTellsOfIt)
     EXPECT_EQ(taken(), words("began"));
 }
 
+TEST_F(LayerSessionTest, saysThatTheKeyThatKeepsAnItemHasToBeHeldBeforeTheDrag)
+{
+    EXPECT_EQ(session->abilities.now().keepingKey,
+              (Ability<KeepingKey>{KeepingKey::BeforeTheDrag, Reason::KeptByDesktop}));
+}
+
 TEST_F(LayerSessionTest, theShelfOpensOnTheScreenWhoseEdgeThePointerOrADragCameTo)
 {
     EXPECT_EQ(session->quiet.screenLocator.activeScreen(), main);

@@ -92,6 +92,7 @@ TEST_F(XWaylandSessionTest, saysWhatTheDesktopKeepsToItself)
               (Ability<ClicksElsewhere>{ClicksElsewhere::Unnoticed, Reason::KeptByDesktop}));
     EXPECT_EQ(now.shortcutChoice,
               (Ability<ShortcutChoice>{ShortcutChoice::InTheDesktop, Reason::KeptByDesktop}));
+    EXPECT_TRUE(now.keepingKey.isFull());
     // There is no X server that would tell of them.
     EXPECT_EQ(now.drags, (Ability<Drags>{Drags::AtTheEdge, Reason::KeptByDesktop}));
 }

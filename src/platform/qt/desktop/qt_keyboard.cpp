@@ -19,4 +19,9 @@ Modifiers QtKeyboard::currentModifiers() const
     return modifiersFrom(QGuiApplication::queryKeyboardModifiers());
 }
 
+Modifiers QtLastModifiers::currentModifiers() const
+{
+    return modifiersFrom(QGuiApplication::keyboardModifiers());
+}
+
 } // namespace corvane

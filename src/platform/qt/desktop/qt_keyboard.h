@@ -16,4 +16,12 @@ public:
     Modifiers currentModifiers() const override;
 };
 
+/// Those that were held at the last event of a window of ours: all that is known where the desktop
+/// keeps to itself which keys are held while another program has the keyboard. A drag gives it to
+/// whatever it comes to.
+class QtLastModifiers : public Keyboard {
+public:
+    Modifiers currentModifiers() const override;
+};
+
 } // namespace corvane
