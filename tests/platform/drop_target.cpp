@@ -97,6 +97,8 @@ void DropTarget::handleMessage(const xcb_client_message_event_t &message)
         m_announced = atomNames(m_server.property(m_source, "XdndTypeList"));
     } else if (message.type == atom("XdndPosition")) {
         ++m_positions;
+        if (hesitates)
+            queueMessage(m_source, "XdndStatus", {window(), 0, 0, 0, e2e::noAtom});
         sendMessage(m_source, "XdndStatus",
                     {window(), accepts ? 3U : 2U, 0, 0,
                      accepts ? atom("XdndActionCopy") : xcb_atom_t{e2e::noAtom}});

@@ -36,6 +36,8 @@ public:
     /// Asked for after the drop, in order; `TARGETS` comes first by itself.
     QList<QByteArray> wanted;
     bool accepts = true;
+    /// Refuses each time, and thinks better of it at once.
+    bool hesitates = false;
     bool wantsAllThatIsAnnounced = false;
 
 private:

@@ -96,6 +96,12 @@ void X11Client::setBytes(xcb_window_t window, const char *property, xcb_atom_t t
 
 void X11Client::sendMessage(xcb_window_t to, const char *type, std::array<std::uint32_t, 5> data)
 {
+    queueMessage(to, type, data);
+    xcb_flush(connection());
+}
+
+void X11Client::queueMessage(xcb_window_t to, const char *type, std::array<std::uint32_t, 5> data)
+{
     xcb_client_message_event_t message = {};
     message.response_type = XCB_CLIENT_MESSAGE;
     message.format = 32;
@@ -104,7 +110,6 @@ void X11Client::sendMessage(xcb_window_t to, const char *type, std::array<std::u
     std::memcpy(message.data.data32, data.data(), sizeof data);
     xcb_send_event(connection(), 0, to, XCB_EVENT_MASK_NO_EVENT,
                    reinterpret_cast<const char *>(&message));
-    xcb_flush(connection());
 }
 
 // The source

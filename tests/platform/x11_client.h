@@ -29,6 +29,8 @@ protected:
     void stopThread();
 
     void sendMessage(xcb_window_t to, const char *type, std::array<std::uint32_t, 5> data);
+    /// Goes out together with the next one that is sent.
+    void queueMessage(xcb_window_t to, const char *type, std::array<std::uint32_t, 5> data);
     xcb_connection_t *connection() const { return m_server.connection(); }
     xcb_atom_t atom(const QByteArray &name);
     QByteArray nameOf(xcb_atom_t atom);

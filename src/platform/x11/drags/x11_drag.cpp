@@ -61,8 +61,12 @@ void X11Drag::delivered(xcb_window_t requestor, const QList<qsizetype> &holds)
 
 void X11Drag::targetAnswered(const xcb_client_message_event_t &status)
 {
-    if (!m_isWaiting)
-        m_target = status.data.data32[0];
+    const bool isUnseen = m_isWaiting && m_target == XCB_NONE;
+    if (m_isWaiting && !isUnseen)
+        return;
+    m_target = status.data.data32[0];
+    if (isUnseen)
+        watchTarget();
 }
 
 std::optional<std::uint32_t> X11Drag::cardinal(xcb_window_t window, const char *property)
@@ -77,21 +81,27 @@ std::optional<std::uint32_t> X11Drag::cardinal(xcb_window_t window, const char *
 
 X11Drag::Target X11Drag::wasDropped()
 {
-    if (m_target == XCB_NONE)
-        return Target::Nobody;
     noteSign();
     m_isWaiting = true;
+    if (m_target == XCB_NONE)
+        return Target::Unseen;
+    return watchTarget() ? Target::There : Target::Gone;
+}
+
+/// False if the target is gone.
+bool X11Drag::watchTarget()
+{
     const xcb_window_t proxy = cardinal(m_target, "XdndProxy").value_or(m_target);
     m_saysHowItEnded
         = cardinal(proxy, "XdndAware").value_or(versionWithResult) >= versionWithResult;
     if (proxy != m_target)
         m_watches.emplace_back(proxy);
-    return m_watches.emplace_back(m_target).exists() ? Target::There : Target::Gone;
+    return m_watches.emplace_back(m_target).exists();
 }
 
 bool X11Drag::wasDroppedOn(xcb_window_t window) const
 {
-    return m_isWaiting && window == m_target;
+    return m_isWaiting && window != XCB_NONE && window == m_target;
 }
 
 bool X11Drag::isOverProgramOf(xcb_window_t window) const
@@ -101,7 +111,10 @@ bool X11Drag::isOverProgramOf(xcb_window_t window) const
 
 bool X11Drag::mayBeFinishedBy(xcb_window_t window) const
 {
-    return m_isWaiting && (isOverProgramOf(window) || m_askedAfterDrop.contains(programOf(window)));
+    const std::uint32_t program = programOf(window);
+    const bool hasFetched = m_askedAfterDrop.contains(program)
+        || (m_target == XCB_NONE && m_takenByProgram.contains(program));
+    return m_isWaiting && (isOverProgramOf(window) || hasFetched);
 }
 
 bool X11Drag::isSuccess(const xcb_client_message_event_t &finished) const

@@ -34,16 +34,17 @@ public:
     xcb_timestamp_t began() const { return m_began; }
     DragAnswers &answers() { return m_answers; }
 
-    /// XdndStatus of a window that would take the drop.
+    /// XdndStatus of a window that would take the drop. Of several that have come Qt hands on the
+    /// first one alone, and believes the last.
     void targetAnswered(const xcb_client_message_event_t &status);
     enum class Target {
-        /// No window has accepted.
-        Nobody,
+        /// A window has accepted, and nobody knows which: it shows by what it does.
+        Unseen,
         /// The window is gone; only messages that are already on their way can come.
         Gone,
         There,
     };
-    /// The user let go: waits from now on for the window that accepted last.
+    /// The user let go where a window had accepted: waits from now on for the last one that did.
     Target wasDropped();
     bool isWaiting() const { return m_isWaiting; }
     /// Whether it was dropped on that window and has not ended.
@@ -51,7 +52,8 @@ public:
     /// Whether the window belongs to the program of the target.
     bool isOverProgramOf(xcb_window_t window) const;
     /// Whether an XdndFinished from that window may be about this drop: the window belongs to the
-    /// target's program, or to one that has fetched contents since the drop.
+    /// target's program, or to one that has fetched contents since the drop; if the target is
+    /// unseen, to any that has fetched some.
     bool mayBeFinishedBy(xcb_window_t window) const;
     /// Whether it waits for an XdndFinished from that window.
     bool awaitsWordOf(xcb_window_t window) const { return wasDroppedOn(window) && !m_finish; }
@@ -73,6 +75,7 @@ private:
     /// The part of a window's number that all windows of a client share.
     std::uint32_t programOf(xcb_window_t window) const;
     std::optional<std::uint32_t> cardinal(xcb_window_t window, const char *property);
+    bool watchTarget();
     void delivered(xcb_window_t requestor, const QList<qsizetype> &holds);
     QList<qsizetype> taken() const;
     void endIfOver();

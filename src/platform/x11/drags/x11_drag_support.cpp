@@ -71,11 +71,11 @@ void X11DragSupport::formsAreReady(DragId drag, std::optional<PasteboardForms> f
 void X11DragSupport::dragWasDropped(DragId drag, std::function<void(const DragOutEnd &)> ended)
 {
     auto *const found = find(drag);
-    const auto target = found ? found->wasDropped() : X11Drag::Target::Nobody;
-    if (target == X11Drag::Target::Nobody) {
+    if (!found) {
         m_queue.async([ended = std::move(ended)] { ended({}); });
         return;
     }
+    const auto target = found->wasDropped();
     found->onEnd = [this, drag, ended = std::move(ended)](const DragOutEnd &end) {
         if (!isCurrent(drag) || !m_hasSelection)
             forget(drag);

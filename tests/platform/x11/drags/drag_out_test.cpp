@@ -160,6 +160,18 @@ TEST_F(DragOutTest, theTargetsLastWordCountsAndNotItsFirst)
     EXPECT_EQ(results, std::vector{DragOperation::None});
 }
 
+// Qt reads answers that come together all at once, and hands on the first one alone.
+TEST_F(DragOutTest, aTargetThatAcceptsRightAfterItRefusedHasWhatItFetched)
+{
+    show();
+    DropTarget target({100, 100, 200, 200});
+    target.wanted = {"text/uri-list"};
+    target.hesitates = true;
+    dragTo({200, 200}, [&] { return target.isOver(); });
+    EXPECT_EQ(results, std::vector{DragOperation::Copy});
+    EXPECT_EQ(taken, QList<qsizetype>{0});
+}
+
 TEST_F(DragOutTest, aTargetThatDiesWithTheDropHasNothing)
 {
     show();

@@ -401,6 +401,46 @@ TEST_F(X11DragSupportTest, aWindowThatWasOnlyHoveredMayGo)
     EXPECT_EQ(taken(), Places{0});
 }
 
+// Where several answers wait, Qt reads them all at once.
+TEST_F(X11DragSupportTest, aTargetWhoseAnswerNobodySawIsTheOneThatFetchesAndFinishes)
+{
+    drop(begin());
+    bystander.finish();
+    EXPECT_TRUE(ends.empty());
+    target.ask("text/uri-list");
+    target.finish();
+    ASSERT_EQ(ends.size(), 1U);
+    EXPECT_EQ(ends[0].operation, DragOperation::Copy);
+    EXPECT_EQ(taken(), Places{0});
+}
+
+TEST_F(X11DragSupportTest, aTargetWhoseAnswerNobodySawMayHaveFetchedBefore)
+{
+    const auto drag = begin();
+    target.ask("image/png");
+    drop(drag);
+    target.finish();
+    EXPECT_EQ(taken(), Places{2});
+}
+
+TEST_F(X11DragSupportTest, aTargetThatAnswersAfterTheDropIsWatched)
+{
+    drop(begin());
+    target.accept();
+    target.destroyWindow();
+    ASSERT_TRUE(eventually([&] { return !ends.empty(); }));
+    EXPECT_EQ(ends[0].operation, DragOperation::None);
+}
+
+TEST_F(X11DragSupportTest, aTargetWhoseAnswerNobodySawIsGivenUp)
+{
+    drop(begin());
+    clock.advance(X11DragSupport::defaultPatience * 5 / 4);
+    ASSERT_EQ(ends.size(), 1U);
+    EXPECT_EQ(ends[0].operation, DragOperation::None);
+    EXPECT_EQ(clock.pendingCount(), 0U);
+}
+
 TEST_F(X11DragSupportTest, theNextDragLeavesABusyTargetWhatWasDroppedOnIt)
 {
     const auto press = [&](xcb_timestamp_t time) {
