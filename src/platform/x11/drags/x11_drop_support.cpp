@@ -78,8 +78,10 @@ bool X11DropSupport::nativeEventFilter(const QByteArray &eventType, void *messag
         enter(told, *receiver);
         return false;
     }
+    // A position that was held back and sent again arrives after the end of its drag where that
+    // comes meanwhile: Qt would take it for a drag that begins, and that never ends.
     if (!m_drag || told.data.data32[0] != m_drag->source() || told.window != m_drag->target())
-        return false;
+        return told.type == m_connection.atom("XdndPosition");
     if (told.type == m_connection.atom("XdndPosition"))
         return position(told, *receiver);
     if (told.type == m_connection.atom("XdndLeave"))

@@ -159,6 +159,30 @@ TEST_F(DropTest, aDragThatLeavesExitsAndEnds)
     EXPECT_EQ(content.count("perform"), 0);
 }
 
+TEST_F(DropTest, aPositionThatComesAfterItsDragHasLeftBeginsNothing)
+{
+    show();
+    DragSource source({{text, "hello"}}, "XdndActionCopy");
+    ASSERT_TRUE(hover(source));
+    source.leave(id());
+    ASSERT_TRUE(eventually([&] { return content.count("drag ended") == 1; }));
+    source.moveTo(id(), at(150, 30));
+    settle();
+    EXPECT_EQ(content.count("drag entered"), 1);
+    EXPECT_EQ(content.count("drag ended"), 1);
+}
+
+TEST_F(DropTest, aPositionThatComesAfterItsDropBeginsNothing)
+{
+    show();
+    DragSource source({{text, "hello"}}, "XdndActionCopy");
+    ASSERT_TRUE(hover(source));
+    ASSERT_TRUE(dropFrom(source)->accepts);
+    source.moveTo(id(), at(150, 30));
+    settle();
+    EXPECT_EQ(content.count("drag entered"), 1);
+}
+
 TEST_F(DropTest, aDropThatComesToNothingIsFinishedAllTheSame)
 {
     show();
