@@ -13,10 +13,46 @@
 
 #include <algorithm>
 #include <csignal>
+#include <cstring>
 
 namespace corvane::e2e {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+bool manages(const XServer &server, xcb_window_t window)
+{
+    const QByteArray listed = server.property(server.root(), "_NET_CLIENT_LIST");
+    constexpr qsizetype width = sizeof window;
+    for (qsizetype i = 0; i + width <= listed.size(); i += width) {
+        if (std::memcmp(listed.constData() + i, &window, sizeof window) == 0)
+            return true;
+    }
+    return false;
+}
+
+/// Whether the window manager shows a window before long: while it starts, one that wants to be
+/// shown may be passed over. A dock, which is given no focus and so takes none away when it goes.
+bool isShowingWindows(const XServer &server)
+{
+    xcb_connection_t *const connection = server.connection();
+    const xcb_window_t dock = xcb_generate_id(connection);
+    xcb_create_window(connection, XCB_COPY_FROM_PARENT, dock, server.root(), 0, 0, 1, 1, 0,
+                      XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    const xcb_atom_t type = server.atom("_NET_WM_WINDOW_TYPE_DOCK");
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, dock, server.atom("_NET_WM_WINDOW_TYPE"),
+                        XCB_ATOM_ATOM, 32, 1, &type);
+    const bool isShown = eventually([&] {
+        xcb_map_window(connection, dock);
+        const auto facts = server.facts(dock);
+        return facts && facts->isViewable && manages(server, dock);
+    });
+    xcb_destroy_window(connection, dock);
+    return isShown && eventually([&] { return !manages(server, dock); });
+}
+
+} // namespace
 
 XDesktop::XDesktop(DesktopKind kind)
     : m_environment(QProcessEnvironment::systemEnvironment())
@@ -112,7 +148,7 @@ void XDesktop::startWindowManager(const DesktopKind &kind)
         const auto check = m_server->windowProperty(m_server->root(), "_NET_SUPPORTING_WM_CHECK");
         return check && m_server->windowProperty(*check, "_NET_SUPPORTING_WM_CHECK") == check;
     });
-    if (!up)
+    if (!up || !isShowingWindows(*m_server))
         m_problem = u"the window manager does not start"_s;
 }
 

@@ -26,8 +26,6 @@ struct X11StripSurfaceTest : testing::Test {
 
 TEST_F(X11StripSurfaceTest, aStripIsADockWhereItIsPlacedAndTakesNoKeyboard)
 {
-    // The window manager may be starting still, or giving the focus of earlier windows away.
-    settle();
     const auto before = display.server.focusedWindow();
     const auto strip = surface.show(*screens.mainScreen(), {600, 0, 312, 3});
     ASSERT_TRUE(strip);
