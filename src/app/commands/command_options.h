@@ -10,11 +10,11 @@ namespace corvane {
 /// An option of the command line.
 struct CommandOption {
     /// Without the dashes; with one dash it is short.
-    const char *name;
+    const char *name = "";
     /// One character, or none.
-    const char *shortName;
+    const char *shortName = "";
     /// What `--help` says of it, and the man page and the completions as well.
-    const char *description;
+    const char *description = "";
     /// For the desktop, not for people: `--help` does not mention it.
     bool isHidden = false;
 };

@@ -148,13 +148,13 @@ void ShelfAdaptor::takerLeft(const QString &taker)
         requests->takerLeft(taker);
 }
 
-void ShelfAdaptor::ConfirmTaken(const QDBusMessage &message)
+void ShelfAdaptor::ConfirmTaken(const QDBusMessage &message) const
 {
     if (!requests || !requests->taken(message.service()))
         refuse(message, "org.freedesktop.DBus.Error.Failed", "nothing was taken");
 }
 
-void ShelfAdaptor::End(const QDBusMessage &message)
+void ShelfAdaptor::End(const QDBusMessage &message) const
 {
     if (!requests) {
         refuse(message, "org.freedesktop.DBus.Error.Failed", "Corvane is not ready yet");

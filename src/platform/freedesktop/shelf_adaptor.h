@@ -42,9 +42,9 @@ public Q_SLOTS:
     /// The same, of what no other caller has taken. It leaves the shelf with `ConfirmTaken`, or
     /// stays if the caller leaves the bus before.
     QDBusUnixFileDescriptor Take(const QDBusMessage &message);
-    void ConfirmTaken(const QDBusMessage &message);
+    void ConfirmTaken(const QDBusMessage &message) const;
     /// Ends the program. Is not answered; the caller hears that the program has left the bus.
-    void End(const QDBusMessage &message);
+    void End(const QDBusMessage &message) const;
     // NOLINTEND(readability-identifier-naming)
 
 private:

@@ -12,7 +12,7 @@ namespace corvane::uri_list {
 /// Further addresses are ignored.
 constexpr qsizetype maximumUrls = 100'000;
 /// In bytes: three, as "%2F" has, for each byte of the longest path, and some more.
-constexpr qsizetype maximumLineLength = 16 * 1024;
+constexpr qsizetype maximumLineLength = 16LL * 1024;
 
 /// text/uri-list. A file's path keeps its exact bytes; the host of its address is dropped.
 QList<QUrl> parse(const QByteArray &data);
