@@ -57,7 +57,7 @@ TEST_F(PreviewFileTest, TellsTheMinuteOfTheLastChange)
     const std::array<timespec, 2> times
         = {{{time.toSecsSinceEpoch(), 0}, {time.toSecsSinceEpoch(), 0}}};
     ASSERT_EQ(::utimensat(AT_FDCWD, file_url::nativePath(url).constData(), times.data(), 0), 0);
-    EXPECT_EQ(read(url).details.modified, QStringLiteral("4 March 2021, 17:08"));
+    EXPECT_EQ(read(url).details.modified, QStringLiteral("Thursday, 4 March 2021, 17:08"));
     QLocale::setDefault(before);
 }
 
