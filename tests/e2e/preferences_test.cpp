@@ -289,7 +289,7 @@ TEST_P(Preferences, aStoredKeyThatTypesIsNotTakenFromOtherPrograms)
                    R"x(\"character\":\"A\"})")x"
                    "\n";
     startWithPreferences(how);
-    EXPECT_TRUE(waitFor(shelf + u": Shift A"_s, typesACharacter));
+    EXPECT_TRUE(waitFor(shelf + u": Shift+A"_s, typesACharacter));
     hands().key(keys::escape);
     ASSERT_TRUE(eventually([this] { return !window(); }));
     editor.selectAll();
