@@ -13,6 +13,7 @@
 #include "platform/freedesktop/dbus_single_instance.h"
 #include "platform/freedesktop/session_bus.h"
 #include "platform/qt/base/unix_signals.h"
+#include "platform/qt/desktop/window_roles.h"
 #include "platform/system/own_environment.h"
 #include "services/preview_scratch.h"
 
@@ -54,6 +55,7 @@ void setUpApplication(const AppInfo &info)
     QGuiApplication::setDesktopFileName(info.applicationId());
     // Qt would quit when the last window is closed, but the program runs without windows.
     QGuiApplication::setQuitOnLastWindowClosed(false);
+    installWindowRoles();
 }
 
 /// What the toolkit is told of the command line: the program's name, and what it understands

@@ -57,6 +57,7 @@ QStringList linesOf(const PreviewContent &content)
 DetailsView::DetailsView(const PreviewContent &content, const Image &icon, QWidget *parent)
     : QWidget(parent)
 {
+    setAccessibleName(QCoreApplication::translate("PreviewWindow", "Details"));
     constexpr int margin = 32;
     constexpr int gap = 28;
     constexpr int lineGap = 6;

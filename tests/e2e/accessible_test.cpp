@@ -1,4 +1,4 @@
-// The shelf and its bar as screen readers have them, and used through those alone.
+// The shelf, its bar and the windows as screen readers have them, and used through those alone.
 
 #include "e2e/desktop/screen_reader.h"
 #include "e2e/desktop_test.h"
@@ -119,6 +119,17 @@ TEST_F(Accessible, theBarsTilesAreTickedAndRemoved)
     ASSERT_TRUE(perform(u"push button"_s, u"Remove the selected items"_s));
     EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(inView, 2)));
     EXPECT_TRUE(eventually([this] { return !find(u"list item"_s, u"b.txt"_s); }));
+}
+
+TEST_F(Accessible, thePreferencesAreADialogWhoseTabsShowTheirPanes)
+{
+    startToBeRead();
+    ASSERT_TRUE(corvane().activateAction(u"preferences"_s));
+    EXPECT_EQ(await(u"dialog"_s, u"Corvane"_s).role, u"dialog"_s);
+    ASSERT_TRUE(perform(u"radio button"_s, u"About"_s, u"Toggle"_s));
+    EXPECT_TRUE(isSoon(ScreenReader::State::Checked, u"radio button"_s, u"About"_s));
+    EXPECT_TRUE(eventually([this] { return !find(u"radio button"_s, u"3"_s); }))
+        << "the other pane is still shown";
 }
 
 } // namespace

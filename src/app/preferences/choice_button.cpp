@@ -25,6 +25,10 @@ ChoiceButton::ChoiceButton(const QString &text, const Shape &shape, const Window
 {
     setAttribute(Qt::WA_Hover);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    // Tab comes to the chosen one. Qt sees to that once one of them has had the focus.
+    setFocusPolicy(Qt::ClickFocus);
+    connect(this, &QRadioButton::toggled, this,
+            [this](bool isChosen) { setFocusPolicy(isChosen ? Qt::StrongFocus : Qt::ClickFocus); });
 }
 
 QSize ChoiceButton::sizeHint() const

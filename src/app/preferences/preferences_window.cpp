@@ -81,7 +81,11 @@ QWidget *PreferencesWindow::makeTabBar()
             = new ChoiceButton(preferences_tab::title(tab),
                                {tabFontSize, tabHorizontalPadding, tabVerticalPadding}, m_look);
         button->setAccessibleDescription(tr("Pane of the preferences"));
-        connect(button, &QRadioButton::clicked, this, [this, tab] { m_selection.setTab(tab); });
+        // Not `clicked`: a screen reader's action chooses without a click.
+        connect(button, &QRadioButton::toggled, this, [this, tab](bool isChosen) {
+            if (isChosen && m_selection.tab() != tab)
+                m_selection.setTab(tab);
+        });
         layout->addWidget(button);
         m_tabs[i] = button;
     }

@@ -17,6 +17,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLayout>
+#include <QRadioButton>
 
 #include <gtest/gtest.h>
 
@@ -476,6 +477,23 @@ TEST_F(GeneralPaneTest, EveryControlHasANameAndADescription)
         EXPECT_FALSE(name.isEmpty());
         EXPECT_FALSE(control->accessibleDescription().isEmpty()) << name.toStdString();
     }
+}
+
+TEST_F(GeneralPaneTest, TabComesToTheChosenNumberAndPassesTheOthers)
+{
+    desk.settings.setInViewCount(4);
+    pane().show();
+    ASSERT_TRUE(activate(pane()));
+    QStringList passed;
+    for (int i = 0; i < 4; ++i) {
+        typeKey(pane(), Qt::Key_Tab);
+        if (const auto *number = qobject_cast<QRadioButton *>(pane().focusWidget()))
+            passed << number->text();
+    }
+    EXPECT_EQ(passed, QStringList{QStringLiteral("4")});
+    pick(2);
+    EXPECT_FALSE(pickButton(4)->focusPolicy() & Qt::TabFocus);
+    EXPECT_TRUE(pickButton(2)->focusPolicy() & Qt::TabFocus);
 }
 
 TEST_F(GeneralPaneTest, NumbersAreChosenWithTheArrowKeys)

@@ -7,6 +7,8 @@
 #include "app/widget_hands.h"
 #include "fakes/preferences_desk.h"
 
+#include <QAccessible>
+#include <QAccessibleInterface>
 #include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
@@ -107,6 +109,24 @@ TEST_F(PreferencesWindowTest, ATabsButtonSelectsIt)
     tabButton("About").click();
     EXPECT_EQ(controller->selection().tab(), PreferencesTab::About);
     EXPECT_TRUE(shows(PreferencesTab::About));
+}
+
+TEST_F(PreferencesWindowTest, AScreenReadersActionOnATabShowsItsPane)
+{
+    window().present();
+    QAccessibleInterface *about = QAccessible::queryAccessibleInterface(&tabButton("About"));
+    about->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(shows(PreferencesTab::About));
+    about->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_TRUE(shows(PreferencesTab::About)) << "there is no pane without a tab";
+}
+
+TEST_F(PreferencesWindowTest, TabComesToTheChosenTab)
+{
+    controller->selection().setTab(PreferencesTab::About);
+    window().present();
+    EXPECT_TRUE(tabButton("About").focusPolicy() & Qt::TabFocus);
+    EXPECT_FALSE(tabButton("General").focusPolicy() & Qt::TabFocus);
 }
 
 TEST_F(PreferencesWindowTest, ClosingAndReopeningKeepsThePlaceAndTellsOncePerClose)

@@ -1,0 +1,9 @@
+#pragma once
+
+namespace corvane {
+
+/// From now on screen readers are told that our windows are windows or dialogs. Qt tells them so of
+/// its own kinds of windows only, and calls one that is a plain widget a filler. To be called once.
+void installWindowRoles();
+
+} // namespace corvane
