@@ -2,6 +2,161 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ar" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>اضغط</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>حدّد أو ألغِ التحديد</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>كل العناصر</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>حدّد الكل</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>كل العناصر على الرفّ</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>العناصر السابقة</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>العناصر اللاحقة</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>انسخ العناصر المحدّدة</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>أزل العناصر المحدّدة</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>مجلد</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>صورة</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>نص</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>رابط</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ملف</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 من %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>قيد التحضير</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>اضغط</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>ركّز</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>معاينة</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>انسخ</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>أزل</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>انسخ وخذ من الرفّ</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>العناصر على الرفّ</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>العناصر السابقة</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>العناصر اللاحقة</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>كل العناصر</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>الرفّ</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>الرفّ فارغ</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>أُزيل؛ بقي عنصر واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>أُزيل؛ لم يبق شيء</numerusform>
+            <numerusform>أُزيل؛ بقي عنصر واحد</numerusform>
+            <numerusform>أُزيل؛ بقي عنصران</numerusform>
+            <numerusform>أُزيل؛ بقيت %Ln عناصر</numerusform>
+            <numerusform>أُزيل؛ بقي %Ln عنصرًا</numerusform>
+            <numerusform>أُزيل؛ بقي %Ln عنصر</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>أُضيف %1</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>أُضيف عنصر واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>لم يُضف أي عنصر</numerusform>
+            <numerusform>أُضيف عنصر واحد</numerusform>
+            <numerusform>أُضيف عنصران</numerusform>
+            <numerusform>أُضيفت %Ln عناصر</numerusform>
+            <numerusform>أُضيف %Ln عنصرًا</numerusform>
+            <numerusform>أُضيف %Ln عنصر</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -41,6 +196,57 @@
             <numerusform>%Ln بايتًا</numerusform>
             <numerusform>%Ln بايت</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>أظهر الرفّ أو أخفه</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>أظهر كل العناصر في الشريط</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>اطبع المسارات والروابط التي على الرفّ، واحدًا في كل سطر</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>اطبعها وأزلها من الرفّ</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>اطبع محرف NUL بعد كل منها، بلا سطر جديد</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>افتح التفضيلات</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>أنهِ Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>اطبع هذه المساعدة</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>اطبع الإصدار</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>الاستخدام:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>يضع الملفات والروابط على الرفّ، ومع - نصًا من الدخل القياسي.
+من دون معطيات يبدأ Corvane، أو يُظهر رفّ البرنامج الذي يعمل
+أو يخفيه.</translation>
     </message>
 </context>
 <context>
@@ -220,6 +426,10 @@
         <source>Text</source>
         <translation>نص</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>التفاصيل</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -353,6 +563,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>اخترها في إعدادات سطح مكتبك.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>لا يُلاحَظ مفتاح Shift بعد بدء السحب</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>اضغط عليه قبل بدء السحب فيبقى العنصر.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Drücken</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Auswählen oder abwählen</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Alle Elemente</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>Alle Elemente der Ablage</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Frühere Elemente</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Spätere Elemente</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Die ausgewählten Elemente kopieren</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Die ausgewählten Elemente entfernen</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 von %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>wird vorbereitet</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Drücken</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Fokussieren</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Kopieren und aus der Ablage nehmen</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Elemente der Ablage</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Frühere Elemente</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Spätere Elemente</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Alle Elemente</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Ablage</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>Die Ablage ist leer</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Entfernt; 1 Element bleibt</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Entfernt; %Ln Element bleibt</numerusform>
+            <numerusform>Entfernt; %Ln Elemente bleiben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>%1 wurde hinzugefügt</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>1 Element wurde hinzugefügt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>%Ln Element wurde hinzugefügt</numerusform>
+            <numerusform>%Ln Elemente wurden hinzugefügt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -37,6 +184,57 @@
             <numerusform>%Ln Byte</numerusform>
             <numerusform>%Ln Byte</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Ablage zeigen oder verbergen</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Alle Elemente in der Leiste zeigen</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Die Pfade und Links der Ablage ausgeben, je eine Zeile</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Sie ausgeben und aus der Ablage entfernen</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Nach jedem ein NUL-Zeichen statt eines Zeilenendes ausgeben</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Die Einstellungen öffnen</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Corvane beenden</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Diese Hilfe ausgeben</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Die Version ausgeben</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Aufruf:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Legt Dateien und Links in die Ablage, und mit - einen Text von der Standardeingabe.
+Ohne Argumente wird Corvane gestartet, oder die Ablage des laufenden Programms
+gezeigt oder verborgen.</translation>
     </message>
 </context>
 <context>
@@ -196,6 +394,10 @@
         <source>Text</source>
         <translation>Text</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Einzelheiten</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -329,6 +531,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Wählen Sie sie in den Einstellungen Ihrer Arbeitsumgebung.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Umschalt wird nicht bemerkt, wenn das Ziehen schon begonnen hat</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Halten Sie die Taste vor dem Ziehen gedrückt, dann bleibt das Element.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Press</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Select or deselect</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>All items</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>All items on the shelf</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Earlier items</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Later items</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Copy the selected items</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Remove the selected items</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Picture</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 of %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>being made ready</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Press</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Focus</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Copy and take off the shelf</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Items on the shelf</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Earlier items</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Later items</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>All items</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Shelf</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>The shelf is empty</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Removed; 1 item is left</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Removed; %Ln item is left</numerusform>
+            <numerusform>Removed; %Ln items are left</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>%1 was added</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>1 item was added</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>%Ln item was added</numerusform>
+            <numerusform>%Ln items were added</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -37,6 +184,57 @@
             <numerusform>%Ln byte</numerusform>
             <numerusform>%Ln bytes</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Show or hide the shelf</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Show all items in the bar</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Print the paths and links on the shelf, one a line</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Print them, and remove them from the shelf</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Print a NUL character at the end of each, no new line</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Open the preferences</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>End Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Print this help</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Print the version</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Usage:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</translation>
     </message>
 </context>
 <context>
@@ -196,6 +394,10 @@
         <source>Text</source>
         <translation>Text</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -329,6 +531,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Choose them in your desktop&apos;s settings.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Shift is not noticed once a drag has begun</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Hold it before you begin to drag, and the item stays.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Pulsar</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Seleccionar o deseleccionar</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Todos los elementos</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>Todos los elementos del estante</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Elementos anteriores</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Elementos posteriores</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Copiar los elementos seleccionados</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Quitar los elementos seleccionados</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Carpeta</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Enlace</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Archivo</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 de %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>preparándose</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Pulsar</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Enfocar</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Copiar y quitar del estante</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Elementos del estante</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Elementos anteriores</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Elementos posteriores</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Todos los elementos</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Estante</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>El estante está vacío</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Quitado; queda 1 elemento</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Quitado; queda %Ln elemento</numerusform>
+            <numerusform>Quitado; quedan %Ln elementos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>Se añadió %1</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>Se añadió 1 elemento</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>Se añadió %Ln elemento</numerusform>
+            <numerusform>Se añadieron %Ln elementos</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -37,6 +184,57 @@
             <numerusform>%Ln byte</numerusform>
             <numerusform>%Ln bytes</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Mostrar u ocultar el estante</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Mostrar todos los elementos en la barra</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Imprimir las rutas y enlaces del estante, uno por línea</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Imprimirlos y quitarlos del estante</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Imprimir un carácter NUL tras cada uno, sin salto de línea</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Abrir las preferencias</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Terminar Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Imprimir esta ayuda</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Imprimir la versión</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Uso:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Pone archivos y enlaces en el estante, y con - un texto de la entrada estándar.
+Sin argumentos inicia Corvane, o muestra u oculta el estante del que
+se está ejecutando.</translation>
     </message>
 </context>
 <context>
@@ -196,6 +394,10 @@
         <source>Text</source>
         <translation>Texto</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -329,6 +531,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Elíjalos en la configuración de su escritorio.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Mayús no se nota una vez empezado el arrastre</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Manténgala pulsada antes de empezar a arrastrar y el elemento se quedará.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Appuyer</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Sélectionner ou désélectionner</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Tous les éléments</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>Tous les éléments de l’étagère</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Éléments précédents</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Éléments suivants</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Copier les éléments sélectionnés</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Retirer les éléments sélectionnés</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Dossier</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Image</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Lien</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Fichier</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 sur %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>en préparation</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Appuyer</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Activer</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Copier et retirer de l’étagère</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Éléments de l’étagère</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Éléments précédents</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Éléments suivants</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Tous les éléments</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Étagère</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>L’étagère est vide</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Retiré&#xa0;; il reste 1 élément</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Retiré&#xa0;; il reste %Ln élément</numerusform>
+            <numerusform>Retiré&#xa0;; il reste %Ln éléments</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>%1 a été ajouté</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>1 élément a été ajouté</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>%Ln élément a été ajouté</numerusform>
+            <numerusform>%Ln éléments ont été ajoutés</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -37,6 +184,57 @@
             <numerusform>%Ln octet</numerusform>
             <numerusform>%Ln octets</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Afficher ou masquer l’étagère</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Afficher tous les éléments dans la barre</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Afficher les chemins et les liens de l’étagère, un par ligne</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Les afficher et les retirer de l’étagère</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Afficher un caractère NUL après chacun, sans saut de ligne</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Ouvrir les préférences</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Terminer Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Afficher cette aide</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Afficher la version</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Utilisation&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Place des fichiers et des liens sur l’étagère, et avec - un texte de l’entrée standard.
+Sans argument, lance Corvane, ou affiche ou masque l’étagère de celui
+qui est lancé.</translation>
     </message>
 </context>
 <context>
@@ -108,7 +306,7 @@
     </message>
     <message>
         <source>%1 of %2 were not taken</source>
-        <translation>Non acceptés : %1 sur %2</translation>
+        <translation>Non acceptés&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>The file is no longer there</source>
@@ -195,6 +393,10 @@
     <message>
         <source>Text</source>
         <translation>Texte</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
     </message>
 </context>
 <context>
@@ -330,6 +532,14 @@
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Choisissez-les dans les paramètres de votre bureau.</translation>
     </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Maj n’est pas remarquée une fois le glissement commencé</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Maintenez-la avant de commencer à glisser, et l’élément reste.</translation>
+    </message>
 </context>
 <context>
     <name>ShelfView</name>
@@ -418,7 +628,7 @@
     </message>
     <message>
         <source>A newer version was announced before than is now. Somebody may be keeping news from you, so nothing was taken.</source>
-        <translation>Une version plus récente que celle d’aujourd’hui a déjà été annoncée. Quelqu’un vous cache peut-être des nouvelles ; rien n’a donc été pris.</translation>
+        <translation>Une version plus récente que celle d’aujourd’hui a déjà été annoncée. Quelqu’un vous cache peut-être des nouvelles&#xa0;; rien n’a donc été pris.</translation>
     </message>
     <message>
         <source>What is announced is a release that this build cannot verify, or none at all. Nothing was taken.</source>
@@ -466,11 +676,11 @@
     </message>
     <message>
         <source>Nothing was asked: a script chooses your proxy, and Corvane runs none.</source>
-        <translation>Rien n’a été demandé : un script choisit votre serveur mandataire, et Corvane n’en exécute aucun.</translation>
+        <translation>Rien n’a été demandé&#xa0;: un script choisit votre serveur mandataire, et Corvane n’en exécute aucun.</translation>
     </message>
     <message>
         <source>Nothing was asked: your proxy is of a kind that Corvane cannot use.</source>
-        <translation>Rien n’a été demandé : votre serveur mandataire est d’un type que Corvane ne peut pas utiliser.</translation>
+        <translation>Rien n’a été demandé&#xa0;: votre serveur mandataire est d’un type que Corvane ne peut pas utiliser.</translation>
     </message>
     <message>
         <source>Corvane&apos;s record of updates was damaged</source>
@@ -608,7 +818,7 @@
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Normalement, un élément quitte l’étagère quand vous le déposez. Maintenez Maj en le relâchant et il y reste : vous pouvez ainsi déposer la même chose à plusieurs endroits sans la récupérer de nouveau.</translation>
+        <translation>Normalement, un élément quitte l’étagère quand vous le déposez. Maintenez Maj en le relâchant et il y reste&#xa0;: vous pouvez ainsi déposer la même chose à plusieurs endroits sans la récupérer de nouveau.</translation>
     </message>
 </context>
 <context>
@@ -700,7 +910,7 @@
     </message>
     <message>
         <source>Asks the linked site for its title and image. It is the only time Corvane uses the network on your behalf, and the site learns you have the link.</source>
-        <translation>Demande au site son titre et son image ; le site apprend donc que vous avez le lien. Hormis la recherche de mises à jour, si elle existe, c’est le seul cas où Corvane utilise le réseau.</translation>
+        <translation>Demande au site son titre et son image&#xa0;; le site apprend donc que vous avez le lien. Hormis la recherche de mises à jour, si elle existe, c’est le seul cas où Corvane utilise le réseau.</translation>
     </message>
     <message>
         <source>Shortcuts</source>
@@ -800,11 +1010,11 @@
     </message>
     <message>
         <source>Bind a key to this command in your desktop&apos;s settings: %1</source>
-        <translation>Associez une touche à cette commande dans les paramètres de votre bureau : %1</translation>
+        <translation>Associez une touche à cette commande dans les paramètres de votre bureau&#xa0;: %1</translation>
     </message>
     <message>
         <source>Add this line to your desktop&apos;s settings: %1</source>
-        <translation>Ajoutez cette ligne aux paramètres de votre bureau : %1</translation>
+        <translation>Ajoutez cette ligne aux paramètres de votre bureau&#xa0;: %1</translation>
     </message>
     <message>
         <source>Your desktop has bound it to %1.</source>
@@ -834,7 +1044,7 @@
     </message>
     <message>
         <source>Illustration: %1</source>
-        <translation>Illustration : %1</translation>
+        <translation>Illustration&#xa0;: %1</translation>
     </message>
     <message>
         <source>Start using it</source>

@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="he" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>לחיצה</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>בחירה או ביטול בחירה</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>כל הפריטים</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>בחירת הכול</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>כל הפריטים שעל המדף</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>פריטים קודמים</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>פריטים הבאים</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>העתקת הפריטים שנבחרו</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>הסרת הפריטים שנבחרו</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>תיקייה</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>תמונה</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>טקסט</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>קישור</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>קובץ</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 מתוך %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>בהכנה</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>לחיצה</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>מיקוד</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>תצוגה מקדימה</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>העתקה</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>הסרה</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>העתקה והורדה מהמדף</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>הפריטים שעל המדף</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>פריטים קודמים</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>פריטים הבאים</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>כל הפריטים</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>מדף</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>המדף ריק</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>הוסר; נשאר פריט אחד</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>הוסר; נשאר פריט אחד</numerusform>
+            <numerusform>הוסר; נשארו %Ln פריטים</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>נוסף: %1</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>נוסף פריט אחד</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>נוסף פריט אחד</numerusform>
+            <numerusform>נוספו %Ln פריטים</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -37,6 +184,57 @@
             <numerusform>בית אחד</numerusform>
             <numerusform>%Ln בתים</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>הצגה או הסתרה של המדף</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>הצגת כל הפריטים בסרגל</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>הדפסת הנתיבים והקישורים שעל המדף, אחד בשורה</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>הדפסתם והסרתם מהמדף</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>הדפסת תו NUL אחרי כל אחד, בלי שורה חדשה</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>פתיחת ההעדפות</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>סיום Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>הדפסת העזרה הזו</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>הדפסת הגרסה</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>שימוש:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>מניח קבצים וקישורים על המדף, ועם - טקסט מהקלט התקני.
+בלי ארגומנטים מפעיל את Corvane, או מציג או מסתיר את המדף של זה
+שפועל.</translation>
     </message>
 </context>
 <context>
@@ -196,6 +394,10 @@
         <source>Text</source>
         <translation>טקסט</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>פרטים</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -329,6 +531,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>יש לבחור אותם בהגדרות שולחן העבודה.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>מקש Shift אינו מורגש אחרי שהגרירה התחילה</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>יש להחזיק אותו לפני תחילת הגרירה, והפריט נשאר.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="hi" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>दबाएँ</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>चुनें या चयन हटाएँ</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>सभी वस्तुएँ</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>सभी चुनें</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>शेल्फ़ की सभी वस्तुएँ</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>पिछली वस्तुएँ</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>अगली वस्तुएँ</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>चुनी हुई वस्तुएँ कॉपी करें</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>चुनी हुई वस्तुएँ हटाएँ</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>फ़ोल्डर</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>चित्र</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>पाठ</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>लिंक</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>फ़ाइल</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L2 में से %L1</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>तैयार हो रहा है</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>दबाएँ</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>फ़ोकस करें</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>पूर्वावलोकन</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>कॉपी करें</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>हटाएँ</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>कॉपी करके शेल्फ़ से हटाएँ</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>शेल्फ़ की वस्तुएँ</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>पिछली वस्तुएँ</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>अगली वस्तुएँ</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>सभी वस्तुएँ</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>शेल्फ़</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>शेल्फ़ खाली है</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>हटाया गया; 1 वस्तु बची है</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>हटाया गया; %Ln वस्तु बची है</numerusform>
+            <numerusform>हटाया गया; %Ln वस्तुएँ बची हैं</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>%1 जोड़ा गया</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>1 वस्तु जोड़ी गई</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>%Ln वस्तु जोड़ी गई</numerusform>
+            <numerusform>%Ln वस्तुएँ जोड़ी गईं</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -37,6 +184,57 @@
             <numerusform>%Ln बाइट</numerusform>
             <numerusform>%Ln बाइट</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>शेल्फ़ दिखाएँ या छिपाएँ</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>सभी वस्तुएँ पट्टी में दिखाएँ</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>शेल्फ़ के पथ और लिंक छापें, हर पंक्ति में एक</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>उन्हें छापें और शेल्फ़ से हटाएँ</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>हर एक के बाद नई पंक्ति की जगह NUL वर्ण छापें</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>वरीयताएँ खोलें</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Corvane समाप्त करें</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>यह सहायता छापें</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>संस्करण छापें</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>उपयोग:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>फ़ाइलें और लिंक शेल्फ़ पर रखता है, और - के साथ मानक इनपुट का पाठ।
+बिना तर्कों के Corvane शुरू करता है, या चल रहे का शेल्फ़ दिखाता
+या छिपाता है।</translation>
     </message>
 </context>
 <context>
@@ -196,6 +394,10 @@
         <source>Text</source>
         <translation>पाठ</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>विवरण</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -329,6 +531,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>इन्हें अपने डेस्कटॉप की सेटिंग में चुनें।</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>खींचना शुरू होने के बाद Shift पर ध्यान नहीं जाता</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>खींचना शुरू करने से पहले इसे दबाए रखें, और वस्तु बनी रहेगी।</translation>
     </message>
 </context>
 <context>

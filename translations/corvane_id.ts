@@ -2,6 +2,151 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="id" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Tekan</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Pilih atau batal pilih</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Semua butir</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Pilih semua</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>Semua butir di rak</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Butir sebelumnya</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Butir berikutnya</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Salin butir yang dipilih</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Hapus butir yang dipilih</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Gambar</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Teks</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Tautan</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Berkas</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 dari %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>sedang disiapkan</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Tekan</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Fokuskan</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Pratinjau</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Salin</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Hapus</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Salin dan ambil dari rak</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Butir di rak</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Butir sebelumnya</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Butir berikutnya</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Semua butir</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Rak</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>Rak kosong</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Dihapus; tersisa 1 butir</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Dihapus; tersisa %Ln butir</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>%1 ditambahkan</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>1 butir ditambahkan</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>%Ln butir ditambahkan</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -36,6 +181,57 @@
         <translation>
             <numerusform>%Ln bita</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Tampilkan atau sembunyikan rak</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Tampilkan semua butir di bilah</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Cetak lokasi dan tautan di rak, satu per baris</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Cetak lalu hapus dari rak</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Cetak karakter NUL setelah tiap butir, tanpa baris baru</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Buka preferensi</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Akhiri Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Cetak bantuan ini</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Cetak versi</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Penggunaan:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Menaruh berkas dan tautan di rak, dan dengan - teks dari masukan standar.
+Tanpa argumen, menjalankan Corvane, atau menampilkan atau menyembunyikan
+rak yang sudah berjalan.</translation>
     </message>
 </context>
 <context>
@@ -190,6 +386,10 @@
         <source>Text</source>
         <translation>Teks</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Rincian</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -323,6 +523,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Pilih di pengaturan desktop Anda.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Shift tidak diketahui setelah penyeretan dimulai</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Tahan sebelum mulai menyeret, dan butir itu tetap ada.</translation>
     </message>
 </context>
 <context>

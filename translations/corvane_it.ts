@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="it" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Premi</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Seleziona o deseleziona</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Tutti gli elementi</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>Tutti gli elementi del ripiano</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Elementi precedenti</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Elementi successivi</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Copia gli elementi selezionati</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Rimuovi gli elementi selezionati</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Cartella</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Immagine</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Collegamento</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 di %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>in preparazione</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Premi</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Metti a fuoco</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Anteprima</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Copia e togli dal ripiano</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Elementi del ripiano</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Elementi precedenti</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Elementi successivi</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Tutti gli elementi</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Ripiano</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>Il ripiano è vuoto</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Rimosso; resta 1 elemento</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Rimosso; resta %Ln elemento</numerusform>
+            <numerusform>Rimosso; restano %Ln elementi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>%1 è stato aggiunto</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>1 elemento è stato aggiunto</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>%Ln elemento è stato aggiunto</numerusform>
+            <numerusform>%Ln elementi sono stati aggiunti</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -37,6 +184,57 @@
             <numerusform>%Ln byte</numerusform>
             <numerusform>%Ln byte</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Mostra o nascondi il ripiano</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Mostra tutti gli elementi nella barra</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Scrive i percorsi e i collegamenti del ripiano, uno per riga</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Li scrive e li toglie dal ripiano</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Scrive un carattere NUL dopo ciascuno, senza andare a capo</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Apri le preferenze</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Termina Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Scrive questo aiuto</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Scrive la versione</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Uso:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Mette file e collegamenti sul ripiano, e con - un testo dallo standard input.
+Senza argomenti avvia Corvane, o mostra o nasconde il ripiano di quello
+in esecuzione.</translation>
     </message>
 </context>
 <context>
@@ -196,6 +394,10 @@
         <source>Text</source>
         <translation>Testo</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Dettagli</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -329,6 +531,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Sceglierle nelle impostazioni dell’ambiente desktop.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Maiusc non si nota più quando il trascinamento è iniziato</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Tenerlo premuto prima di iniziare a trascinare: l’elemento resta.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,151 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>押す</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>選択または選択解除</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>すべての項目</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>すべて選択</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>シェルフのすべての項目</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>前の項目</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>次の項目</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>選択した項目をコピー</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>選択した項目を削除</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>フォルダー</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>画像</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>リンク</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L2 個中 %L1 番目</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>準備中</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>押す</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>フォーカス</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>プレビュー</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>コピーしてシェルフから取り除く</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>シェルフの項目</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>前の項目</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>次の項目</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>すべての項目</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>シェルフ</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>シェルフは空です</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>削除しました。残り 1 個です</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>削除しました。残り %Ln 個です</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>%1 を追加しました</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>1 個の項目を追加しました</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>%Ln 個の項目を追加しました</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -36,6 +181,57 @@
         <translation>
             <numerusform>%Ln バイト</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>シェルフの表示/非表示</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>すべての項目をバーに表示する</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>シェルフのパスとリンクを 1 行に 1 つずつ出力する</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>出力してシェルフから取り除く</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>改行の代わりにそれぞれの後に NUL 文字を出力する</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>設定を開く</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Corvane を終了する</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>このヘルプを出力する</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>バージョンを出力する</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>使い方:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>ファイルとリンクを、- では標準入力のテキストをシェルフに置きます。
+引数がなければ Corvane を起動するか、起動しているもののシェルフを
+表示または非表示にします。</translation>
     </message>
 </context>
 <context>
@@ -190,6 +386,10 @@
         <source>Text</source>
         <translation>テキスト</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -323,6 +523,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>デスクトップの設定で選んでください。</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>ドラッグを始めた後では Shift を検知できません</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>ドラッグを始める前に押しておくと、項目は残ります。</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,151 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ko" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>누르기</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>선택 또는 선택 해제</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>모든 항목</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>모두 선택</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>선반의 모든 항목</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>이전 항목</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>다음 항목</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>선택한 항목 복사</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>선택한 항목 제거</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>폴더</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>그림</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>텍스트</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>링크</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L2개 중 %L1번째</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>준비 중</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>누르기</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>초점 맞추기</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>미리 보기</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>복사</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>복사하고 선반에서 내리기</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>선반의 항목</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>이전 항목</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>다음 항목</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>모든 항목</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>선반</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>선반이 비었습니다</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>제거했습니다. 항목 1개가 남았습니다</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>제거했습니다. 항목 %Ln개가 남았습니다</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>%1을(를) 추가했습니다</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>항목 1개를 추가했습니다</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>항목 %Ln개를 추가했습니다</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -36,6 +181,57 @@
         <translation>
             <numerusform>%Ln바이트</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>선반 보기 또는 숨기기</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>모든 항목을 막대에 보이기</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>선반의 경로와 링크를 한 줄에 하나씩 출력</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>출력하고 선반에서 제거</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>줄바꿈 대신 각각의 끝에 NUL 문자 출력</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>기본 설정 열기</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Corvane 끝내기</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>이 도움말 출력</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>버전 출력</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>사용법:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>파일과 링크를, -를 쓰면 표준 입력의 텍스트를 선반에 놓습니다.
+인수가 없으면 Corvane을 시작하거나, 실행 중인 것의 선반을 보이거나
+숨깁니다.</translation>
     </message>
 </context>
 <context>
@@ -190,6 +386,10 @@
         <source>Text</source>
         <translation>텍스트</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>세부 정보</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -323,6 +523,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>데스크톱 설정에서 고르십시오.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>드래그를 시작한 뒤에는 Shift를 감지하지 못합니다</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>드래그를 시작하기 전에 누르고 있으면 항목이 남습니다.</translation>
     </message>
 </context>
 <context>

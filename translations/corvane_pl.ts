@@ -2,6 +2,155 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pl" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Naciśnij</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Zaznacz lub odznacz</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Wszystkie elementy</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Zaznacz wszystko</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>Wszystkie elementy na półce</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Wcześniejsze elementy</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Późniejsze elementy</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Skopiuj zaznaczone elementy</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Usuń zaznaczone elementy</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Katalog</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Obraz</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Tekst</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Odnośnik</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Plik</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 z %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>w przygotowaniu</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Naciśnij</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Uaktywnij</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Podgląd</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Skopiuj</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Usuń</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Skopiuj i zdejmij z półki</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Elementy na półce</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Wcześniejsze elementy</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Późniejsze elementy</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Wszystkie elementy</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Półka</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>Półka jest pusta</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Usunięto; pozostał 1 element</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Usunięto; pozostał %Ln element</numerusform>
+            <numerusform>Usunięto; pozostały %Ln elementy</numerusform>
+            <numerusform>Usunięto; pozostało %Ln elementów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>Dodano: %1</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>Dodano 1 element</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>Dodano %Ln element</numerusform>
+            <numerusform>Dodano %Ln elementy</numerusform>
+            <numerusform>Dodano %Ln elementów</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -38,6 +187,57 @@
             <numerusform>%Ln bajty</numerusform>
             <numerusform>%Ln bajtów</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Pokazanie lub ukrycie półki</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Pokazuje wszystkie elementy na pasku</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Wypisuje ścieżki i odnośniki z półki, po jednym w wierszu</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Wypisuje je i usuwa z półki</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Wypisuje po każdym znak NUL zamiast nowego wiersza</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Otwiera preferencje</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Kończy działanie Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Wypisuje tę pomoc</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Wypisuje wersję</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Użycie:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Kładzie na półce pliki i odnośniki, a z - tekst ze standardowego wejścia.
+Bez argumentów uruchamia Corvane albo pokazuje lub ukrywa półkę tego,
+który już działa.</translation>
     </message>
 </context>
 <context>
@@ -202,6 +402,10 @@
         <source>Text</source>
         <translation>Tekst</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Szczegóły</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -335,6 +539,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Można je wybrać w ustawieniach środowiska.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Shift nie jest zauważany po rozpoczęciu przeciągania</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Proszę przytrzymać go przed przeciąganiem, a element pozostanie.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,153 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="pt_BR" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Pressionar</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Marcar ou desmarcar</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Todos os itens</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Selecionar tudo</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>Todos os itens da prateleira</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Itens anteriores</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Itens posteriores</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Copiar os itens selecionados</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Remover os itens selecionados</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Pasta</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagem</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Link</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Arquivo</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 de %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>em preparação</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Pressionar</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Focar</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Prévia</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Copiar e tirar da prateleira</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Itens da prateleira</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Itens anteriores</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Itens posteriores</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Todos os itens</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Prateleira</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>A prateleira está vazia</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Removido; resta 1 item</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Removido; resta %Ln item</numerusform>
+            <numerusform>Removido; restam %Ln itens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>%1 foi adicionado</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>1 item foi adicionado</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>%Ln item foi adicionado</numerusform>
+            <numerusform>%Ln itens foram adicionados</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -37,6 +184,57 @@
             <numerusform>%Ln byte</numerusform>
             <numerusform>%Ln bytes</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Mostrar ou ocultar a prateleira</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Mostrar todos os itens na barra</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Imprimir os caminhos e links da prateleira, um por linha</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Imprimi-los e removê-los da prateleira</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Imprimir um caractere NUL após cada um, sem nova linha</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Abrir as preferências</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Encerrar o Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Imprimir esta ajuda</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Imprimir a versão</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Uso:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Põe arquivos e links na prateleira, e com - um texto da entrada padrão.
+Sem argumentos inicia o Corvane, ou mostra ou oculta a prateleira do que
+está em execução.</translation>
     </message>
 </context>
 <context>
@@ -196,6 +394,10 @@
         <source>Text</source>
         <translation>Texto</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalhes</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -329,6 +531,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Escolha-os nas configurações do seu ambiente de trabalho.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Shift não é notado depois que o arrasto começou</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Segure antes de começar a arrastar, e o item fica.</translation>
     </message>
 </context>
 <context>

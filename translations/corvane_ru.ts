@@ -2,6 +2,155 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Нажать</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Выбрать или снять выбор</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Все объекты</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Выбрать все</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>Все объекты на полке</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Предыдущие объекты</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Следующие объекты</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Копировать выбранные объекты</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Убрать выбранные объекты</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Папка</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Изображение</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Ссылка</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 из %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>готовится</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Нажать</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Перейти</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Просмотр</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Убрать</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Копировать и убрать с полки</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Объекты на полке</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Предыдущие объекты</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Следующие объекты</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Все объекты</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Полка</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>Полка пуста</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Убрано; остался 1 объект</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Убрано; остался %Ln объект</numerusform>
+            <numerusform>Убрано; осталось %Ln объекта</numerusform>
+            <numerusform>Убрано; осталось %Ln объектов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>Добавлено: %1</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>Добавлен 1 объект</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>Добавлен %Ln объект</numerusform>
+            <numerusform>Добавлено %Ln объекта</numerusform>
+            <numerusform>Добавлено %Ln объектов</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -38,6 +187,57 @@
             <numerusform>%Ln байта</numerusform>
             <numerusform>%Ln байт</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Показать или скрыть полку</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Показать все объекты на панели</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Вывести пути и ссылки на полке, по одному в строке</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Вывести их и убрать с полки</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Выводить после каждого символ NUL вместо новой строки</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Открыть параметры</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Завершить Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Вывести эту справку</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Вывести версию</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Использование:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Кладёт на полку файлы и ссылки, а с - текст со стандартного ввода.
+Без аргументов запускает Corvane либо показывает или скрывает полку уже
+запущенного.</translation>
     </message>
 </context>
 <context>
@@ -202,6 +402,10 @@
         <source>Text</source>
         <translation>Текст</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Сведения</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -335,6 +539,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Выберите их в параметрах среды рабочего стола.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Shift не замечается, когда перетаскивание уже началось</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Нажмите её до начала перетаскивания, и объект останется.</translation>
     </message>
 </context>
 <context>

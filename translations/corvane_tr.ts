@@ -2,6 +2,151 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="tr" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Seç veya seçimi kaldır</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Tüm ögeler</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Tümünü seç</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>Raftaki tüm ögeler</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Önceki ögeler</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Sonraki ögeler</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Seçili ögeleri kopyala</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Seçili ögeleri kaldır</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Klasör</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Görüntü</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Metin</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Bağlantı</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Dosya</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 / %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>hazırlanıyor</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Odaklan</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Ön izleme</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopyala</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Kaldır</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Kopyala ve raftan al</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Raftaki ögeler</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Önceki ögeler</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Sonraki ögeler</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Tüm ögeler</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Raf</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>Raf boş</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Kaldırıldı; 1 öge kaldı</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Kaldırıldı; %Ln öge kaldı</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>%1 eklendi</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>1 öge eklendi</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>%Ln öge eklendi</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -36,6 +181,57 @@
         <translation>
             <numerusform>%Ln bayt</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Rafı göster veya gizle</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Tüm ögeleri çubukta göster</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Raftaki yolları ve bağlantıları satır satır yazdır</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Onları yazdır ve raftan kaldır</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Her birinden sonra yeni satır yerine NUL karakteri yazdır</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Tercihleri aç</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Corvane’i sonlandır</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Bu yardımı yazdır</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Sürümü yazdır</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Kullanım:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Dosyaları ve bağlantıları, - ile de standart girdiden bir metni rafa koyar.
+Argüman verilmezse Corvane’i başlatır ya da çalışanın rafını gösterir
+veya gizler.</translation>
     </message>
 </context>
 <context>
@@ -190,6 +386,10 @@
         <source>Text</source>
         <translation>Metin</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Ayrıntılar</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -323,6 +523,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Onları masaüstünüzün ayarlarından seçin.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Shift, sürükleme başladıktan sonra fark edilmez</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Sürüklemeye başlamadan önce basılı tutun, öge kalır.</translation>
     </message>
 </context>
 <context>

@@ -2,6 +2,155 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="uk" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>Натиснути</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>Вибрати або зняти вибір</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Усі об’єкти</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>Вибрати все</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>Усі об’єкти на полиці</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Попередні об’єкти</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Наступні об’єкти</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>Копіювати вибрані об’єкти</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>Прибрати вибрані об’єкти</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>Тека</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Зображення</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Текст</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>Посилання</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>Файл</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>%L1 з %L2</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>готується</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>Натиснути</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Перейти</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Перегляд</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копіювати</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Прибрати</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>Копіювати і прибрати з полиці</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>Об’єкти на полиці</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>Попередні об’єкти</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>Наступні об’єкти</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>Усі об’єкти</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>Полиця</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>Полиця порожня</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>Прибрано; лишився 1 об’єкт</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>Прибрано; лишився %Ln об’єкт</numerusform>
+            <numerusform>Прибрано; лишилося %Ln об’єкти</numerusform>
+            <numerusform>Прибрано; лишилося %Ln об’єктів</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>Додано: %1</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>Додано 1 об’єкт</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>Додано %Ln об’єкт</numerusform>
+            <numerusform>Додано %Ln об’єкти</numerusform>
+            <numerusform>Додано %Ln об’єктів</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -38,6 +187,57 @@
             <numerusform>%Ln байти</numerusform>
             <numerusform>%Ln байтів</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>Показати або приховати полицю</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>Показати всі об’єкти на панелі</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>Вивести шляхи й посилання на полиці, по одному в рядку</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>Вивести їх і прибрати з полиці</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>Виводити після кожного символ NUL замість нового рядка</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>Відкрити параметри</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>Завершити Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>Вивести цю довідку</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>Вивести версію</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>Використання:</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>Кладе на полицю файли й посилання, а з - текст зі стандартного вводу.
+Без аргументів запускає Corvane або показує чи ховає полицю вже
+запущеного.</translation>
     </message>
 </context>
 <context>
@@ -202,6 +402,10 @@
         <source>Text</source>
         <translation>Текст</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>Подробиці</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -335,6 +539,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>Виберіть їх у параметрах стільничного середовища.</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>Shift не помічається, коли перетягування вже почалося</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>Натисніть її до початку перетягування, і об’єкт залишиться.</translation>
     </message>
 </context>
 <context>

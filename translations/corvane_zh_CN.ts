@@ -2,6 +2,151 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>选择或取消选择</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>全部项目</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全选</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>置物架上的全部项目</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>前面的项目</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>后面的项目</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>复制所选项目</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>移除所选项目</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>文件夹</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>图片</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文本</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>链接</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>第 %L1 个，共 %L2 个</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>正在准备</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>聚焦</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>预览</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>复制并从置物架取走</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>置物架上的项目</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>前面的项目</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>后面的项目</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>全部项目</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>置物架</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>置物架是空的</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>已移除；还剩 1 个项目</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>已移除；还剩 %Ln 个项目</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>已添加 %1</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>已添加 1 个项目</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>已添加 %Ln 个项目</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -36,6 +181,57 @@
         <translation>
             <numerusform>%Ln 字节</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>显示或隐藏置物架</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>在栏中显示全部项目</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>输出置物架上的路径和链接，每行一个</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>输出它们并从置物架移除</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>在每项之后输出 NUL 字符，不换行</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>打开首选项</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>结束 Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>输出此帮助</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>输出版本</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>用法：</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>将文件和链接放到置物架上，使用 - 时放入标准输入的文本。
+没有参数时启动 Corvane，或者显示或隐藏正在运行的
+那个置物架。</translation>
     </message>
 </context>
 <context>
@@ -190,6 +386,10 @@
         <source>Text</source>
         <translation>文本</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>详细信息</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -323,6 +523,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>请在桌面的设置中选择。</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>拖动开始之后无法察觉 Shift</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>请在开始拖动之前按住它，项目就会留下。</translation>
     </message>
 </context>
 <context>

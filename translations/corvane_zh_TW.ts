@@ -2,6 +2,151 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_TW" sourcelanguage="en">
 <context>
+    <name>AccessibleBar</name>
+    <message>
+        <source>Press</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>Select or deselect</source>
+        <translation>選取或取消選取</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>全部項目</translation>
+    </message>
+    <message>
+        <source>Select all</source>
+        <translation>全選</translation>
+    </message>
+    <message>
+        <source>All items on the shelf</source>
+        <translation>置物架上的全部項目</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>前面的項目</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>後面的項目</translation>
+    </message>
+    <message>
+        <source>Copy the selected items</source>
+        <translation>複製選取的項目</translation>
+    </message>
+    <message>
+        <source>Remove the selected items</source>
+        <translation>移除選取的項目</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleItems</name>
+    <message>
+        <source>Folder</source>
+        <translation>資料夾</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>圖片</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>文字</translation>
+    </message>
+    <message>
+        <source>Link</source>
+        <translation>連結</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>檔案</translation>
+    </message>
+    <message>
+        <source>%L1 of %L2</source>
+        <translation>第 %L1 個，共 %L2 個</translation>
+    </message>
+    <message>
+        <source>being made ready</source>
+        <translation>正在準備</translation>
+    </message>
+</context>
+<context>
+    <name>AccessibleShelf</name>
+    <message>
+        <source>Press</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>聚焦</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>預覽</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>移除</translation>
+    </message>
+    <message>
+        <source>Copy and take off the shelf</source>
+        <translation>複製並從置物架取走</translation>
+    </message>
+    <message>
+        <source>Items on the shelf</source>
+        <translation>置物架上的項目</translation>
+    </message>
+    <message>
+        <source>Earlier items</source>
+        <translation>前面的項目</translation>
+    </message>
+    <message>
+        <source>Later items</source>
+        <translation>後面的項目</translation>
+    </message>
+    <message>
+        <source>All items</source>
+        <translation>全部項目</translation>
+    </message>
+    <message>
+        <source>Shelf</source>
+        <translation>置物架</translation>
+    </message>
+    <message>
+        <source>The shelf is empty</source>
+        <translation>置物架是空的</translation>
+    </message>
+    <message>
+        <source>Removed; 1 item is left</source>
+        <translation>已移除；還剩 1 個項目</translation>
+    </message>
+    <message numerus="yes">
+        <source>Removed; %n items are left</source>
+        <translation>
+            <numerusform>已移除；還剩 %Ln 個項目</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 was added</source>
+        <translation>已加入 %1</translation>
+    </message>
+    <message>
+        <source>1 item was added</source>
+        <translation>已加入 1 個項目</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n items were added</source>
+        <translation>
+            <numerusform>已加入 %Ln 個項目</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -36,6 +181,57 @@
         <translation>
             <numerusform>%Ln 位元組</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>Show or hide the shelf</source>
+        <translation>顯示或隱藏置物架</translation>
+    </message>
+    <message>
+        <source>Show all items in the bar</source>
+        <translation>在列中顯示全部項目</translation>
+    </message>
+    <message>
+        <source>Print the paths and links on the shelf, one a line</source>
+        <translation>輸出置物架上的路徑和連結，每行一個</translation>
+    </message>
+    <message>
+        <source>Print them, and remove them from the shelf</source>
+        <translation>輸出它們並從置物架移除</translation>
+    </message>
+    <message>
+        <source>Print a NUL character at the end of each, no new line</source>
+        <translation>在每項之後輸出 NUL 字元，不換行</translation>
+    </message>
+    <message>
+        <source>Open the preferences</source>
+        <translation>開啟偏好設定</translation>
+    </message>
+    <message>
+        <source>End Corvane</source>
+        <translation>結束 Corvane</translation>
+    </message>
+    <message>
+        <source>Print this help</source>
+        <translation>輸出此說明</translation>
+    </message>
+    <message>
+        <source>Print the version</source>
+        <translation>輸出版本</translation>
+    </message>
+    <message>
+        <source>Usage:</source>
+        <translation>用法：</translation>
+    </message>
+    <message>
+        <source>Puts files and links on the shelf, and with - a text from standard input.
+Without arguments it starts Corvane, or shows or hides the shelf of the one
+that runs.</source>
+        <translation>將檔案和連結放到置物架上，使用 - 時放入標準輸入的文字。
+沒有參數時啟動 Corvane，或者顯示或隱藏正在執行的
+那個置物架。</translation>
     </message>
 </context>
 <context>
@@ -190,6 +386,10 @@
         <source>Text</source>
         <translation>文字</translation>
     </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細資訊</translation>
+    </message>
 </context>
 <context>
     <name>QShortcut</name>
@@ -323,6 +523,14 @@
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
         <translation>請在桌面環境的設定中選擇。</translation>
+    </message>
+    <message>
+        <source>Shift is not noticed once a drag has begun</source>
+        <translation>拖曳開始之後無法察覺 Shift</translation>
+    </message>
+    <message>
+        <source>Hold it before you begin to drag, and the item stays.</source>
+        <translation>請在開始拖曳之前按住它，項目就會留下。</translation>
     </message>
 </context>
 <context>

@@ -98,8 +98,11 @@ QString limit(const Ability<KeepingKey> &key)
 {
     if (key.isFull())
         return {};
-    return sentence(text("Shift is not noticed once a drag has begun"), key.why,
-                    text("Hold it before you begin to drag, and the item stays."));
+    return sentence(
+        text(QT_TRANSLATE_NOOP("SessionTexts", "Shift is not noticed once a drag has begun")),
+        key.why,
+        text(QT_TRANSLATE_NOOP("SessionTexts",
+                               "Hold it before you begin to drag, and the item stays.")));
 }
 
 QStringList limits(const Abilities &abilities)

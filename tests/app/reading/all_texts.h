@@ -13,6 +13,8 @@ TextTable textsOfKeys();
 TextTable textsOfTheShelfsHint();
 TextTable textsOfTheShelfsMessages();
 TextTable textsOfTheBar();
+TextTable textsForScreenReaders();
+TextTable textsOfTheCommandLine();
 TextTable textsOfTheMenu();
 TextTable textsOfWhatASessionLacks();
 TextTable textsOfThePreferences();
@@ -22,7 +24,7 @@ TextTable textsOfThePreview();
 TextTable textsOfAStartBesideOneThatDoesNotAnswer();
 
 struct TextGroup {
-    /// Of its table in texts/.
+    /// Of its table in texts/; empty for none, where other tests hold the exact words.
     const char *name;
     TextTable (*read)();
 };
@@ -32,6 +34,8 @@ inline constexpr std::array allTexts = {
     TextGroup{"hint", textsOfTheShelfsHint},
     TextGroup{"messages", textsOfTheShelfsMessages},
     TextGroup{"bar", textsOfTheBar},
+    TextGroup{"", textsForScreenReaders},
+    TextGroup{"", textsOfTheCommandLine},
     TextGroup{"menu", textsOfTheMenu},
     TextGroup{"limits", textsOfWhatASessionLacks},
     TextGroup{"preferences", textsOfThePreferences},

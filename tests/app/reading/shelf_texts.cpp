@@ -6,8 +6,12 @@
 #include "fakes/shelf_model.h"
 #include "input/monitored_clicks.h"
 #include "input/shortcut.h"
+#include "shelf/accessible_shelf.h"
 #include "shelf/bar/view_all_controller.h"
+#include "shelf/bar/view_all_view.h"
 #include "shelf/drawing/text_layer.h"
+
+#include <algorithm>
 
 namespace corvane::test {
 
@@ -22,7 +26,77 @@ void addTexts(const Layer &layer, QStringList &lines)
         addTexts(*sublayer, lines);
 }
 
+/// What is said of it and of all that is in it, a line each.
+void addSpoken(const AccessibleNode &node, QStringList &lines)
+{
+    QStringList words{node.name, node.description};
+    for (const AccessibleNode::Action &action : node.actions)
+        words << action.text;
+    lines << words.join(QLatin1String(" | "));
+    for (const AccessibleNode &child : node.children)
+        addSpoken(child, lines);
+}
+
+/// One of each kind, without what stands below its title.
+QList<DropItem> itemsOfEachKind()
+{
+    const QString title = QStringLiteral("letter");
+    DropItem folder(DropItem::File{{}, true}, title, {}, false);
+    return {DropItem(DropItem::File{}, title, {}, false),
+            folder,
+            DropItem(DropItem::Text{title}, title, {}, false),
+            DropItem(DropItem::Link{}, title, {}, false),
+            DropItem(DropItem::ImageBytes{"x", UTType::png()}, title, {}, false),
+            DropItem::beingMade({}, title, {}, {})};
+}
+
+ShelfSnapshot snapshotOf(const QList<DropItem> &items, int inView)
+{
+    ShelfSnapshot snapshot;
+    snapshot.state = ShelfState::Occupied;
+    snapshot.inViewCount = inView;
+    snapshot.totalCount = static_cast<int>(items.size());
+    snapshot.canScrollForward = inView < snapshot.totalCount;
+    for (int i = 0; i < std::min(inView, snapshot.totalCount); ++i)
+        snapshot.visible.emplace_back(i, items[i]);
+    return snapshot;
+}
+
 } // namespace
+
+TextTable textsForScreenReaders()
+{
+    ShelfDesk desk;
+    QStringList lines;
+    const QList<DropItem> items = itemsOfEachKind();
+    ShelfView shelf(desk.context());
+    for (const int inView : {1, 6}) {
+        const ShelfSnapshot snapshot = snapshotOf(items, inView);
+        ShelfDesk::fit(desk.panel, shelf, snapshot);
+        shelf.apply(snapshot);
+        desk.clock.advance(2);
+        addSpoken(shelf.accessible(), lines);
+    }
+    desk.panel.setFrame({100, 500, 600, 132});
+    ViewAllView bar({desk.panel, desk.clock, desk.motion, desk.theme, desk.keyboard,
+                     desk.dragWriter, desk.savedPictures, desk.preparation});
+    bar.apply(items + itemsOfEachKind(), {}, 0);
+    addSpoken(bar.accessible(), lines);
+    const auto news = [&](int before, int now, int inView) {
+        lines << accessible_shelf::newsOf(snapshotOf(items.first(before), inView),
+                                          snapshotOf(items.first(now), inView));
+    };
+    news(1, 0, 6);
+    news(2, 1, 6);
+    news(5, 3, 6);
+    news(0, 1, 6);
+    // The last one is not in view.
+    news(5, 6, 3);
+    news(0, 3, 6);
+    TextTable table;
+    table.add(QStringLiteral("What screen readers are told"), lines);
+    return table;
+}
 
 TextTable textsOfItems()
 {

@@ -1,4 +1,5 @@
 #include "app/base/session_texts.h"
+#include "app/commands/command_options.h"
 #include "app/preferences/preferences_window_controller.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "app/reading/all_texts.h"
@@ -61,6 +62,15 @@ TextTable textsOfWhatASessionLacks()
         lines << session_texts::limit(lacking.drags);
         table.add(QLatin1String(heading), lines);
     }
+    return table;
+}
+
+TextTable textsOfTheCommandLine()
+{
+    TextTable table;
+    // One line: a text of several has no other beginning than its first.
+    table.add(QStringLiteral("Help"),
+              {command_options::help().replace(u'\n', QLatin1String(" / "))});
     return table;
 }
 
