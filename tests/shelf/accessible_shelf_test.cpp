@@ -129,8 +129,7 @@ TEST_F(AccessibleShelfTest, ANodeIsWhereItIsDrawn)
 TEST_F(AccessibleShelfTest, AFolderIsNotCalledSoTwice)
 {
     show(1, 1);
-    snapshot.visible.front().second
-        = ShelfDesk::fileItem(QStringLiteral("Papers"), QStringLiteral("Folder"));
+    snapshot.visible.front().second = ShelfDesk::folderItem(QStringLiteral("Papers"));
     apply();
     EXPECT_EQ(named(QStringLiteral("Papers")).description, QStringLiteral("Folder, 1 of 1"));
     snapshot.visible.front().second = ShelfDesk::fileItem(QStringLiteral("a.txt"));
