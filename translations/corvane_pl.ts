@@ -193,7 +193,7 @@
     <name>CommandLine</name>
     <message>
         <source>Show or hide the shelf</source>
-        <translation>Pokazanie lub ukrycie półki</translation>
+        <translation>Pokazuje lub ukrywa półkę</translation>
     </message>
     <message>
         <source>Show all items in the bar</source>

@@ -546,7 +546,7 @@ that runs.</source>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
-        <translation>Нажмите её до начала перетаскивания, и объект останется.</translation>
+        <translation>Зажмите Shift до начала перетаскивания, и объект останется.</translation>
     </message>
 </context>
 <context>

@@ -546,7 +546,7 @@ that runs.</source>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
-        <translation>Натисніть її до початку перетягування, і об’єкт залишиться.</translation>
+        <translation>Затисніть Shift до початку перетягування, і об’єкт залишиться.</translation>
     </message>
 </context>
 <context>

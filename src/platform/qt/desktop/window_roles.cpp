@@ -8,29 +8,43 @@ namespace corvane {
 
 namespace {
 
-QAccessibleInterface *makeWindow(const QString &className, QObject *object)
+/// A widget is asked for while it has no parent yet, and looks like a window then: what it is, is
+/// found out each time.
+class PlainWidget : public QAccessibleWidget {
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    QAccessible::Role role() const override
+    {
+        if (!widget()->isWindow())
+            return QAccessibleWidget::role();
+        switch (widget()->windowType()) {
+        case Qt::Window:
+            return QAccessible::Window;
+        case Qt::Dialog:
+            return QAccessible::Dialog;
+        default:
+            return QAccessibleWidget::role();
+        }
+    }
+
+protected:
+    ~PlainWidget() override = default;
+};
+
+QAccessibleInterface *makePlainWidget(const QString &className, QObject *object)
 {
     // Asked for the class of the object first, and for the plainest one last.
-    if (className != QLatin1String("QWidget"))
-        return nullptr;
-    auto *const widget = qobject_cast<QWidget *>(object);
-    if (!widget || !widget->isWindow())
-        return nullptr;
-    switch (widget->windowType()) {
-    case Qt::Window:
-        return new QAccessibleWidget(widget, QAccessible::Window);
-    case Qt::Dialog:
-        return new QAccessibleWidget(widget, QAccessible::Dialog);
-    default:
-        return nullptr;
-    }
+    auto *const widget
+        = className == QLatin1String("QWidget") ? qobject_cast<QWidget *>(object) : nullptr;
+    return widget ? new PlainWidget(widget) : nullptr;
 }
 
 } // namespace
 
 void installWindowRoles()
 {
-    QAccessible::installFactory(makeWindow);
+    QAccessible::installFactory(makePlainWidget);
 }
 
 } // namespace corvane
