@@ -12,7 +12,7 @@ namespace {
 
 // Qt writes the keys of menus with these names. They are among our messages because Qt's own
 // translations need not be installed, and because desktops say "Super" where Qt says "Meta".
-constexpr std::array modifierNames = {
+constexpr std::array namesOfModifiers = {
     std::pair(Modifier::Command, QT_TRANSLATE_NOOP("QShortcut", "Meta")),
     std::pair(Modifier::Control, QT_TRANSLATE_NOOP("QShortcut", "Ctrl")),
     std::pair(Modifier::Option, QT_TRANSLATE_NOOP("QShortcut", "Alt")),
@@ -33,7 +33,7 @@ constexpr std::array modifierNames = {
 QString withOwnName(const KeyEquivalent &keys)
 {
     QStringList names;
-    for (const auto &[modifier, name] : modifierNames) {
+    for (const auto &[modifier, name] : namesOfModifiers) {
         if (keys.modifiers.testFlag(modifier))
             names << QCoreApplication::translate("QShortcut", name);
     }
