@@ -78,9 +78,11 @@ TextTable textsForScreenReaders()
         addSpoken(shelf.accessible(), lines);
     }
     desk.panel.setFrame({100, 500, 600, 132});
+    const QList<DropItem> inTheBar = items + itemsOfEachKind();
+    const QSet<QUuid> noneSelected;
     ViewAllView bar({desk.panel, desk.clock, desk.motion, desk.theme, desk.keyboard,
                      desk.dragWriter, desk.savedPictures, desk.preparation});
-    bar.apply(items + itemsOfEachKind(), {}, 0);
+    bar.apply(inTheBar, noneSelected, 0);
     addSpoken(bar.accessible(), lines);
     const auto news = [&](int before, int now, int inView) {
         lines << accessible_shelf::newsOf(snapshotOf(items.first(before), inView),
