@@ -42,8 +42,15 @@ if files:
 else:
     source.drag_source_add_text_targets()
     source.connect("drag-data-get", lambda w, c, data, i, t: data.set_text(text, -1))
+target = Gtk.EventBox(name="target")
+def welcome():
+    target.drag_dest_set(Gtk.DestDefaults.ALL, [], Gdk.DragAction.COPY)
+    target.drag_dest_add_uri_targets()
+    target.drag_dest_add_text_targets()
 state = {"failed": False}
+# What it drags itself it does not take on the way: whoever says that it is welcome is somebody else.
 def begun(widget, context):
+    target.drag_dest_unset()
     state["failed"] = False
     context.connect("action-changed", lambda c, action: tell("action", action.first_value_nick))
 def failed(widget, context, result):
@@ -51,14 +58,14 @@ def failed(widget, context, result):
     return True
 source.connect("drag-begin", begun)
 source.connect("drag-failed", failed)
-source.connect("drag-end", lambda w, c: tell("end", "failed" if state["failed"] else "done"))
+def ended(widget, context):
+    welcome()
+    tell("end", "failed" if state["failed"] else "done")
+source.connect("drag-end", ended)
 source.add_events(Gdk.EventMask.BUTTON_PRESS_MASK)
 source.connect("button-press-event", lambda w, e: tell("press") or False)
 
-target = Gtk.EventBox(name="target")
-target.drag_dest_set(Gtk.DestDefaults.ALL, [], Gdk.DragAction.COPY)
-target.drag_dest_add_uri_targets()
-target.drag_dest_add_text_targets()
+welcome()
 def received(widget, context, x, y, data, info, time):
     if data.get_uris():
         tell("text/uri-list", bytes(data.get_data()).hex())
