@@ -3,7 +3,13 @@ add_library(corvane_settings INTERFACE)
 target_compile_options(corvane_settings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual -Wnull-dereference -Wformat=2
-    -fstack-protector-strong -fstack-clash-protection -fcf-protection)
+    -fstack-protector-strong -fstack-clash-protection)
+# Some processors alone check where jumps and returns lead.
+include(CheckCXXCompilerFlag)
+check_cxx_compiler_flag(-fcf-protection CORVANE_HAS_CF_PROTECTION)
+if(CORVANE_HAS_CF_PROTECTION)
+    target_compile_options(corvane_settings INTERFACE -fcf-protection)
+endif()
 # A compiler that came later warns of more: that stops us, not somebody who only wants to build it.
 option(CORVANE_WARNINGS_AS_ERRORS "Fail the build on a warning" OFF)
 if(CORVANE_WARNINGS_AS_ERRORS)
