@@ -1,6 +1,8 @@
 #include "platform/freedesktop/session_bus.h"
 
 #include <QDBusConnection>
+#include <QDBusMetaType>
+#include <QDBusVariant>
 #include <QFileInfo>
 
 namespace corvane::session_bus {
@@ -21,7 +23,13 @@ bool isThere()
 
 bool isAvailable()
 {
-    return isThere() && QDBusConnection::sessionBus().isConnected();
+    if (!isThere())
+        return false;
+    // Qt makes its types known on first use. Done by the thread of a first connection, that would
+    // still be under way when a program that asks one question ends, and Qt complains of half of
+    // them.
+    qDBusRegisterMetaType<QDBusVariant>();
+    return QDBusConnection::sessionBus().isConnected();
 }
 
 void keepFromStarting()
