@@ -2,6 +2,7 @@
 #include "app/updates/software_updater.h"
 #include "platform/base/work_queue.h"
 
+#include <QTimeZone>
 #include <QtDebug>
 
 namespace corvane {
@@ -70,7 +71,7 @@ void SoftwareUpdater::feedArrived(const std::optional<WebResponse> &response)
         return checkFailed(UpdateFailure::Unreachable);
     m_feedFoundIn = response->foundIn;
     const auto work = [feed = response->body, audience = audience(), trust = m_trust,
-                       now = QDateTime::fromSecsSinceEpoch(m_context.now(), Qt::UTC)] {
+                       now = QDateTime::fromSecsSinceEpoch(m_context.now(), QTimeZone::utc())] {
         return read(feed, audience, trust, now);
     };
     const auto end = m_feedRequest.guard(
