@@ -7,6 +7,8 @@
 #include "app/updates/release_notes.h"
 #include "app/updates/update_choice.h"
 
+#include <QTimeZone>
+
 #include <sodium.h>
 
 #include <array>
@@ -95,7 +97,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         UpdateVersion::fromText(QStringLiteral("10")),
         UpdateVersion::fromText(QStringLiteral("1.0")),
         false};
-    const QDateTime now({2026, 11, 22}, {12, 0}, Qt::UTC);
+    const QDateTime now({2026, 11, 22}, {12, 0}, QTimeZone::utc());
     const UpdateTrust trust(signer.key(), QStringLiteral("example.corvane.Corvane"));
     const UpdateChoice choice = update_choice::choose(*items, audience, trust, now);
     if ((choice.verdict == UpdateChoice::Verdict::Newer) != choice.offer.has_value())

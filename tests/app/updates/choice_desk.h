@@ -5,6 +5,8 @@
 #include "app/updates/statements.h"
 #include "app/updates/update_choice.h"
 
+#include <QTimeZone>
+
 namespace corvane::test {
 
 /// Somebody with build 10 on Debian 12, who reads feeds at the beginning of 2027.
@@ -40,7 +42,7 @@ struct ChoiceDesk {
         UpdateVersion::fromText(QStringLiteral("10")),
         UpdateVersion::fromText(QStringLiteral("1.0")),
         false};
-    QDateTime now{{2027, 1, 1}, {0, 0}, Qt::UTC};
+    QDateTime now{{2027, 1, 1}, {0, 0}, QTimeZone::utc()};
 };
 
 } // namespace corvane::test

@@ -1,6 +1,8 @@
 #include "app/updates/release_statement.h"
 #include "app/updates/statements.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace corvane::test {
@@ -43,8 +45,8 @@ TEST(ReleaseStatement, SaysEverythingThatWasWritten)
               (QStringList{QStringLiteral("debian 12"), QStringLiteral("ubuntu 24.04")}));
     EXPECT_FALSE(read->notesAreMarkup);
     EXPECT_EQ(read->notesDigest, sha512("Notes of 12"));
-    EXPECT_EQ(read->date, QDateTime({2026, 11, 1}, {0, 0}, Qt::UTC));
-    EXPECT_EQ(read->expiry, QDateTime({2099, 1, 1}, {0, 0}, Qt::UTC));
+    EXPECT_EQ(read->date, QDateTime({2026, 11, 1}, {0, 0}, QTimeZone::utc()));
+    EXPECT_EQ(read->expiry, QDateTime({2099, 1, 1}, {0, 0}, QTimeZone::utc()));
     EXPECT_EQ(read->nextKey, QByteArray(32, 'k'));
     EXPECT_EQ(read->toBytes(), whole().bytes());
 }

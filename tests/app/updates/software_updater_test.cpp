@@ -2,6 +2,8 @@
 #include "app/updates/software_updater.h"
 #include "app/updates/updater_desk.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace corvane::test {
@@ -34,10 +36,10 @@ protected:
     QByteArray goodFor(const QByteArray &build, double days) const
     {
         Statement statement = Statement::of(build, UpdateFolder::newImage());
-        statement.expiry
-            = QDateTime::fromSecsSinceEpoch(began + static_cast<qint64>(days * day), Qt::UTC)
-                  .toString(Qt::ISODate)
-                  .toLatin1();
+        statement.expiry = QDateTime::fromSecsSinceEpoch(began + static_cast<qint64>(days * day),
+                                                         QTimeZone::utc())
+                               .toString(Qt::ISODate)
+                               .toLatin1();
         return feed(statement.item(key, UpdateFolder::newImage()));
     }
 };

@@ -1,5 +1,7 @@
 #include "app/updates/choice_desk.h"
 
+#include <QTimeZone>
+
 #include <gtest/gtest.h>
 
 namespace corvane::test {
@@ -135,8 +137,8 @@ TEST_F(UpdateChoiceTest, AFeedWhoseTimeIsOverIsSaidToBe)
     const UpdateChoice choice = choose(item(old));
     EXPECT_EQ(choice.verdict, Verdict::Expired);
     EXPECT_FALSE(choice.offer);
-    EXPECT_EQ(choice.renewed, QDateTime({2026, 11, 1}, {0, 0}, Qt::UTC));
-    now = QDateTime({2026, 12, 31}, {23, 59, 58}, Qt::UTC);
+    EXPECT_EQ(choice.renewed, QDateTime({2026, 11, 1}, {0, 0}, QTimeZone::utc()));
+    now = QDateTime({2026, 12, 31}, {23, 59, 58}, QTimeZone::utc());
     EXPECT_EQ(verdict(item(old)), Verdict::Newer);
     now = now.addSecs(1);
     EXPECT_EQ(verdict(item(old)), Verdict::Expired) << "at its last moment";
