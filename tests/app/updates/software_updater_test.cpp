@@ -2,8 +2,6 @@
 #include "app/updates/software_updater.h"
 #include "app/updates/updater_desk.h"
 
-#include <QTimeZone>
-
 #include <gtest/gtest.h>
 
 namespace corvane::test {
@@ -36,8 +34,8 @@ protected:
     QByteArray goodFor(const QByteArray &build, double days) const
     {
         Statement statement = Statement::of(build, UpdateFolder::newImage());
-        statement.expiry = QDateTime::fromSecsSinceEpoch(began + static_cast<qint64>(days * day),
-                                                         QTimeZone::utc())
+        statement.expiry = QDateTime::fromSecsSinceEpoch(began + static_cast<qint64>(days * day))
+                               .toUTC()
                                .toString(Qt::ISODate)
                                .toLatin1();
         return feed(statement.item(key, UpdateFolder::newImage()));
