@@ -63,6 +63,25 @@ TEST_P(WaylandSession, aTextComesBackLetterForLetter)
     EXPECT_EQ(target.droppedText(), text.toUtf8());
 }
 
+TEST_P(WaylandSession, whatWasDroppedIsPressedAndGoesOnUnderARestingPointer)
+{
+    const QString file = makeFile(u"report.txt"_s, "report");
+    GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
+    ASSERT_EQ(source.problem(), QString());
+    GtkPeer target(m_desktop, {}, rightPlace());
+    ASSERT_EQ(target.problem(), QString());
+    start();
+    hands().beginDrag(source.source(), edge());
+    ASSERT_NO_FATAL_FAILURE(awaitDropTarget());
+    // Where the only item of a shelf is.
+    hands().glideTo(edge() + QPoint(-82, 22));
+    dropWhenWelcome(source);
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    hands().press();
+    carryTo(target);
+    EXPECT_EQ(target.droppedAddresses().trimmed(), uriList({file}).trimmed());
+}
+
 TEST_P(WaylandSession, aDragThatIsRefusedElsewhereLeavesTheItemOnTheShelf)
 {
     start();

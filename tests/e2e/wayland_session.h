@@ -54,11 +54,13 @@ protected:
     void dragOut(GtkPeer &target)
     {
         const QPoint item = corvane().at(38, 22);
-        // After a drop the shelf takes presses again once the compositor has heard of it; it then
-        // shows that the pointer is there.
-        hands().glideTo(item);
-        m_desktop.pictureAtRest(corvane().body());
         hands().beginDrag(item, target.target());
+        carryTo(target);
+    }
+
+    /// With the button held.
+    void carryTo(GtkPeer &target)
+    {
         hands().glideTo(target.target());
         wiggleUntil([&] { return target.isTargetReady(); });
         hands().release();

@@ -25,7 +25,7 @@ LayerSession::LayerSession(const SessionNeeds &needs)
     , panels(connection, needs.mainQueue)
     , windowActivation(panels.surface)
     , dragCarrier(connection, needs.mainQueue)
-    , dropSupport(needs.mainQueue, panels.surface)
+    , dropSupport(connection, needs.mainQueue, panels.surface)
     , xwaylandDrags(needs.mainQueue)
 {
     wireDrags();

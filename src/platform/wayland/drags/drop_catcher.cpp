@@ -110,8 +110,21 @@ void DropCatcher::follow()
     if (!m_isConfigured || !m_window)
         return;
     const QRegion region = m_panels.inputRegionOf(*m_window);
-    if (std::exchange(m_region, region) == region)
-        return;
+    if (std::exchange(m_region, region) != region)
+        setInputRegion(region);
+}
+
+void DropCatcher::stepAside()
+{
+    if (m_window)
+        m_panels.setCovered(*m_window, false);
+    m_window.clear();
+    if (m_surface)
+        setInputRegion({});
+}
+
+void DropCatcher::setInputRegion(const QRegion &region)
+{
     wl_region *const input = wl_compositor_create_region(m_services.compositor);
     for (const QRect &rect : region)
         wl_region_add(input, rect.x(), rect.y(), rect.width(), rect.height());

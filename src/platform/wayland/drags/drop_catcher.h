@@ -35,12 +35,15 @@ public:
     bool isInPlace() const;
     /// The window takes clicks elsewhere now, perhaps.
     void follow();
+    /// Has no window any more: that one takes clicks itself, and this one none.
+    void stepAside();
 
 private:
     struct Listener;
 
     bool makeBuffer();
     void configured();
+    void setInputRegion(const QRegion &region);
 
     CatcherServices &m_services;
     LayerPanelSurface &m_panels;

@@ -1,6 +1,7 @@
 #include "platform/wayland/drags/wayland_drop_support.h"
 
 #include "platform/base/main_queue.h"
+#include "platform/wayland/base/wayland_connection.h"
 #include "platform/wayland/drags/drop_catcher.h"
 #include "platform/wayland/drags/wayland_incoming_drag.h"
 #include "platform/wayland/windows/layer_panel_surface.h"
@@ -51,8 +52,10 @@ struct WaylandDropSupport::Listeners {
         = {offered, enter, leave, motion, drop, selection};
 };
 
-WaylandDropSupport::WaylandDropSupport(MainQueue &queue, LayerPanelSurface &panels)
-    : m_queue(queue)
+WaylandDropSupport::WaylandDropSupport(WaylandConnection &connection, MainQueue &queue,
+                                       LayerPanelSurface &panels)
+    : m_connection(connection)
+    , m_queue(queue)
     , m_panels(panels)
     , m_presses(m_services.seat)
 {
@@ -76,6 +79,7 @@ WaylandDropSupport::~WaylandDropSupport()
             drag->forget();
     }
     m_catchers.clear();
+    m_leaving.clear();
     if (m_device)
         wl_data_device_release(m_device);
 }
@@ -157,8 +161,23 @@ void WaylandDropSupport::rest()
     // Not within what one of them hears.
     m_queue.async(m_lifetime.guard([this] {
         if (!m_isExpecting)
-            m_catchers.clear();
+            stepAside();
     }));
+}
+
+/// A compositor that looks for what lies below a resting pointer only when a surface goes, as sway
+/// does, must know by then that the windows take the pointer themselves: a press there would be
+/// lost.
+void WaylandDropSupport::stepAside()
+{
+    if (m_catchers.empty())
+        return;
+    for (auto &catcher : std::exchange(m_catchers, {})) {
+        catcher->stepAside();
+        m_leaving.push_back(std::move(catcher));
+    }
+    m_handled
+        = std::make_unique<HandledMark>(m_connection.display(), [this] { m_leaving.clear(); });
 }
 
 void WaylandDropSupport::pointerIsHere()

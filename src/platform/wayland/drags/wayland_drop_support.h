@@ -4,6 +4,7 @@
 #include "platform/base/lifetime.h"
 #include "platform/desktop/drop_hover.h"
 #include "platform/desktop/drop_support.h"
+#include "platform/wayland/base/handled_mark.h"
 #include "platform/wayland/drags/catcher_services.h"
 #include "platform/wayland/drags/pointer_presses.h"
 
@@ -24,6 +25,7 @@ namespace corvane {
 
 class DropCatcher;
 class LayerPanelSurface;
+class WaylandConnection;
 class WaylandIncomingDrag;
 
 /// Takes what other programs drag over our panels and drop on them, in place of Qt: Qt stands still
@@ -35,7 +37,7 @@ class WaylandIncomingDrag;
 ///     expect --the pointer comes without anything, a drop, or a while--> the surfaces are gone
 ///
 /// A drag that comes to a panel unexpected is refused by that, and is over the catcher from its
-/// next move on. The queue and the panels' places must outlive it, and the application object.
+/// next move on. What it is given must outlive it, and the application object.
 class WaylandDropSupport : public QObject, public DropSupport {
 public:
     /// More drops at once are refused.
@@ -44,7 +46,8 @@ public:
     /// no pointer would be lost on the catchers all the while.
     static constexpr double patience = 60;
 
-    WaylandDropSupport(MainQueue &queue, LayerPanelSurface &panels);
+    /// The panels are shown on that connection.
+    WaylandDropSupport(WaylandConnection &connection, MainQueue &queue, LayerPanelSurface &panels);
     ~WaylandDropSupport() override;
 
     /// Whether the compositor offers all that it takes.
@@ -76,6 +79,7 @@ private:
     void followSoon(QWindow &window);
     void follow(QWindow &window);
     void rest();
+    void stepAside();
     void pointerIsHere();
     DropReceiver *receiverOf(const QWindow &window) const;
     DropHover::Panel panelOf(QWindow &window);
@@ -83,6 +87,7 @@ private:
     void leave();
     void drop();
 
+    WaylandConnection &m_connection;
     MainQueue &m_queue;
     LayerPanelSurface &m_panels;
     CatcherServices m_services;
@@ -93,6 +98,9 @@ private:
     /// Qt's events of drags are our own just now.
     bool m_isTelling = false;
     std::vector<std::unique_ptr<DropCatcher>> m_catchers;
+    /// Those that stepped aside, until the mark is reached.
+    std::vector<std::unique_ptr<DropCatcher>> m_leaving;
+    std::unique_ptr<HandledMark> m_handled;
     /// Announced, and not over a panel yet.
     std::shared_ptr<WaylandIncomingDrag> m_announced;
     std::shared_ptr<WaylandIncomingDrag> m_drag;
