@@ -92,6 +92,8 @@ WaylandConnection::WaylandConnection()
     giveToQt(m_layerShell);
     giveToQt(m_seat);
     wl_registry_destroy(registry);
+    // What came meanwhile.
+    wl_display_dispatch_queue_pending(m_display, queue);
     wl_event_queue_destroy(queue);
 }
 

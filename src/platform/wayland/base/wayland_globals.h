@@ -24,7 +24,8 @@ void **placeOf(Service *&service)
 }
 
 /// Asks the compositor what it has of these. What is on its way to others on that connection is not
-/// handled meanwhile. Events of what was bound come on the connection's main queue.
+/// handled meanwhile. Events of what was bound come on the connection's main queue, so that whoever
+/// listens before that is handled next misses none.
 void bindGlobals(wl_display *display, const std::vector<WantedGlobal> &wanted);
 
 } // namespace corvane

@@ -76,6 +76,8 @@ void WaylandKeyboardLayout::follow()
     bool isAsked = false;
     m_connection.waitOn(queue, [&] { return std::exchange(isAsked, true); });
     wl_proxy_set_queue(proxy, nullptr);
+    // What has come since then.
+    wl_display_dispatch_queue_pending(m_connection.display(), queue);
     wl_event_queue_destroy(queue);
 }
 

@@ -76,8 +76,10 @@ bool LayerSurface::announce()
     commit();
     const bool isAnswered
         = m_connection.waitOn(queue, [this] { return m_isConfigured || m_isClosed; });
-    m_isBeingAnnounced = false;
     wl_proxy_set_queue(proxy, nullptr);
+    // What has come since then.
+    wl_display_dispatch_queue_pending(m_connection.display(), queue);
+    m_isBeingAnnounced = false;
     wl_event_queue_destroy(queue);
     return isAnswered && !m_isClosed;
 }
