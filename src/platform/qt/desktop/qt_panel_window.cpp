@@ -216,6 +216,9 @@ void QtPanelWindow::paint(QPainter &painter)
 {
     if (!m_content)
         return;
+    // Where the window is larger, lines that reach over the panel's edge would stay there: what
+    // lies beyond it is not painted again when the panel changes.
+    painter.setClipRect(toWindow({{}, m_frame.size()}), Qt::IntersectClip);
     painter.translate(m_origin.x(), bottom());
     painter.scale(1, -1);
     m_content->paint(painter, m_frame.size(), m_canvas->devicePixelRatio());
