@@ -89,6 +89,10 @@ PortalShortcuts::PortalShortcuts(std::vector<DesktopAction> actions, KeyNaming n
         if (session == m_session)
             take(shortcuts);
     };
+    m_signals.onClosed = [this](const QString &session) {
+        if (session == m_session)
+            closed();
+    };
     m_signals.listen();
     m_watcher.setConnection(QDBusConnection::sessionBus());
     m_watcher.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
@@ -195,7 +199,8 @@ void PortalShortcuts::bindAll()
     });
     auto *const request = new PortalRequest(&m_answers, made);
     QVariantMap options = request->options();
-    options[QStringLiteral("session_handle_token")] = QStringLiteral("corvane");
+    // Each has a name of its own: the end of one must not be taken for that of the next.
+    options[QStringLiteral("session_handle_token")] = QStringLiteral("corvane%1").arg(++m_sessions);
     request->ask(QStringLiteral("CreateSession"), {options});
     m_queue.asyncAfter(m_patience, m_attempt.guard([this] {
         if (m_session.isEmpty())
@@ -206,6 +211,7 @@ void PortalShortcuts::bindAll()
 void PortalShortcuts::bindIn(const QString &session)
 {
     m_session = session;
+    m_boundSince.reset();
     QList<Listed> wanted;
     for (const auto &[id, hotKey] : m_hotKeys) {
         QVariantMap about{{QStringLiteral("description"), hotKey.action.title}};
@@ -229,24 +235,51 @@ void PortalShortcuts::closeSession()
     if (session.isEmpty())
         return;
     QDBusConnection::sessionBus().call(
-        QDBusMessage::createMethodCall(desktop_portal::service, session,
-                                       QStringLiteral("org.freedesktop.portal.Session"),
+        QDBusMessage::createMethodCall(desktop_portal::service, session, desktop_portal::session,
                                        QStringLiteral("Close")),
         QDBus::NoBlock);
+}
+
+/// No key reaches us any more, and an answer that is awaited will not come.
+void PortalShortcuts::closed()
+{
+    m_session.clear();
+    m_attempt.restart();
+    const bool wasKept = m_boundSince && m_queue.now() - *m_boundSince >= lastingSession;
+    if (!wasKept) {
+        take({});
+        return;
+    }
+    bindLater();
+    tellAll([](const HotKey &) { return ShortcutOutcome::pending(); });
 }
 
 void PortalShortcuts::take(const QVariant &listed)
 {
     const QList<Listed> shortcuts = listedIn(listed);
-    std::map<Id, ShortcutOutcome> outcomes;
-    for (const auto &[id, hotKey] : m_hotKeys) {
+    const auto outcomeOf = [&shortcuts](const HotKey &hotKey) {
         const auto found = std::ranges::find(shortcuts, hotKey.action.name, &Listed::name);
         const QString keys = found == shortcuts.end()
             ? QString()
             : found->about.value(QStringLiteral("trigger_description")).toString();
-        outcomes[id] = keys.isEmpty() ? ShortcutOutcome::setInDesktop(hotKey.action.command)
-                                      : ShortcutOutcome::bound(keys);
-    }
+        return keys.isEmpty() ? ShortcutOutcome::setInDesktop(hotKey.action.command)
+                              : ShortcutOutcome::bound(keys);
+    };
+    const bool isAnyBound = std::ranges::any_of(m_hotKeys, [&](const auto &hotKey) {
+        return outcomeOf(hotKey.second).kind == ShortcutOutcome::Kind::Bound;
+    });
+    if (!isAnyBound)
+        m_boundSince.reset();
+    else if (!m_boundSince)
+        m_boundSince = m_queue.now();
+    tellAll(outcomeOf);
+}
+
+void PortalShortcuts::tellAll(const std::function<ShortcutOutcome(const HotKey &)> &outcomeOf)
+{
+    std::map<Id, ShortcutOutcome> outcomes;
+    for (const auto &[id, hotKey] : m_hotKeys)
+        outcomes[id] = outcomeOf(hotKey);
     const Lifetime::Token life = m_lifetime.token();
     for (const auto &[id, outcome] : outcomes) {
         if (!life.isOver())

@@ -11,7 +11,9 @@
 #include <QDBusServiceWatcher>
 #include <QObject>
 
+#include <functional>
 #include <map>
+#include <optional>
 
 namespace corvane {
 
@@ -23,11 +25,15 @@ class MainQueue;
 /// command.
 ///
 /// Everything that is registered is asked for at once, in a session of the portal; when that
-/// changes it is asked for in a new one. Main thread only; the queue must outlive it.
+/// changes it is asked for in a new one. So it is when the portal ends a session in which the user
+/// had bound something, once that has lasted: who has said no, or whose portal keeps none, is not
+/// asked over and over. Main thread only; the queue must outlive it.
 class PortalShortcuts : public OptionalHotKeys {
 public:
     /// Seconds within which a portal makes a session; it asks nobody for that.
     static constexpr double sessionPatience = 10;
+    /// Seconds after which a session counts as one that the portal keeps.
+    static constexpr double lastingSession = 60;
 
     PortalShortcuts(std::vector<DesktopAction> actions, KeyNaming naming, MainQueue &queue,
                     double patience = sessionPatience);
@@ -71,7 +77,9 @@ private:
     void bindAll();
     void bindIn(const QString &session);
     void closeSession();
+    void closed();
     void take(const QVariant &listed);
+    void tellAll(const std::function<ShortcutOutcome(const HotKey &)> &outcomeOf);
     void tell(Id id, const ShortcutOutcome &outcome);
     void activated(const QString &session, const QString &shortcut);
 
@@ -88,6 +96,9 @@ private:
     int m_suspensions = 0;
     /// Empty while there is none.
     QString m_session;
+    int m_sessions = 0;
+    /// When the portal told what of the session is bound; none as long as nothing is.
+    std::optional<double> m_boundSince;
     QObject m_answers;
     Lifetime m_search;
     /// Of the latest attempt to bind everything.

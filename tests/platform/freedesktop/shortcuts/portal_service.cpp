@@ -121,6 +121,15 @@ void PortalService::press(const QString &shortcut, int session)
     m_bus.send(signal);
 }
 
+void PortalService::end(int session)
+{
+    m_bus.unregisterObject(sessionPath(session));
+    auto signal = QDBusMessage::createSignal(sessionPath(session), desktop_portal::session,
+                                             QStringLiteral("Closed"));
+    signal << QVariantMap();
+    m_bus.send(signal);
+}
+
 void PortalService::choose(const QString &keys)
 {
     m_keys = keys;

@@ -58,6 +58,8 @@ public:
     /// The user answers what was asked last.
     void userSays(bool yes);
     void press(const QString &shortcut, int session);
+    /// Ends the session without having been asked to.
+    void end(int session);
     /// What the user chooses in the desktop's settings, for all.
     void choose(const QString &keys);
 

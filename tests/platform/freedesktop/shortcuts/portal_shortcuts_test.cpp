@@ -16,6 +16,7 @@ namespace {
 using enum OptionalHotKeys::Presence;
 
 const auto command = ShortcutOutcome::setInDesktop(QStringLiteral("corvane"));
+const auto bound = ShortcutOutcome::bound(QStringLiteral("Super+Shift+D"));
 
 std::vector<DesktopAction> portalActions()
 {
@@ -33,6 +34,13 @@ KeyName typesD(KeyPosition /*key*/, bool /*isShifted*/)
 {
     return {.text = QStringLiteral("d"), .symbol = QStringLiteral("d")};
 }
+
+/// Time passes for it when a test says so, besides.
+class LaterQueue : public QtMainQueue {
+public:
+    double now() const override { return QtMainQueue::now() + later; }
+    double later = 0;
+};
 
 class PortalShortcutsTest : public testing::Test {
 protected:
@@ -61,6 +69,12 @@ protected:
     {
         return eventually([&] { return portal.asked.size() == count; });
     }
+    void bindAndWait()
+    {
+        portal.userSays(true);
+        ASSERT_TRUE(becomes(bound));
+        queue.later += PortalShortcuts::lastingSession;
+    }
     bool becomes(const ShortcutOutcome &outcome)
     {
         const bool came = eventually([&] { return !told.empty() && told.back() == outcome; });
@@ -68,7 +82,7 @@ protected:
         return came;
     }
 
-    QtMainQueue queue;
+    LaterQueue queue;
     PortalService portal;
     std::optional<PortalShortcuts> keys;
     std::vector<ShortcutOutcome> told;
@@ -88,7 +102,7 @@ TEST_F(PortalShortcutsTest, keysAreProposedTogetherAndBoundAsTheUserSays)
     EXPECT_TRUE(told.empty()) << "the user has not answered";
     portal.userSays(true);
     EXPECT_TRUE(eventually([&] { return told.size() == 2; }));
-    EXPECT_TRUE(becomes(ShortcutOutcome::bound(QStringLiteral("Super+Shift+D"))));
+    EXPECT_TRUE(becomes(bound));
     EXPECT_EQ(portal.sessions.size(), 1U);
 }
 
@@ -129,7 +143,7 @@ TEST_F(PortalShortcutsTest, aPressIsToldUnlessItIsSuspendedOrOfAnotherSession)
     const auto taken = take();
     ASSERT_TRUE(isAsked());
     portal.userSays(true);
-    ASSERT_TRUE(becomes(ShortcutOutcome::bound(QStringLiteral("Super+Shift+D"))));
+    ASSERT_TRUE(becomes(bound));
     portal.press(QStringLiteral("toggle"), 7);
     portal.press(QStringLiteral("view-all"), 0);
     portal.press(QStringLiteral("toggle"), 0);
@@ -146,7 +160,7 @@ TEST_F(PortalShortcutsTest, whatTheUserChangesLaterIsTold)
     const auto taken = take();
     ASSERT_TRUE(isAsked());
     portal.userSays(true);
-    ASSERT_TRUE(becomes(ShortcutOutcome::bound(QStringLiteral("Super+Shift+D"))));
+    ASSERT_TRUE(becomes(bound));
     portal.choose(QStringLiteral("Super+Y"));
     EXPECT_TRUE(becomes(ShortcutOutcome::bound(QStringLiteral("Super+Y"))));
 }
@@ -163,6 +177,69 @@ TEST_F(PortalShortcutsTest, whatIsGivenUpEndsItsSession)
     ASSERT_TRUE(eventually([&] { return portal.asked.contains(QStringLiteral("view-all")); }));
     keys.reset();
     EXPECT_TRUE(eventually([&] { return portal.sessions.back()->isClosed; }));
+}
+
+TEST_F(PortalShortcutsTest, whatIsBoundIsAskedForAgainWhenThePortalEndsItsSession)
+{
+    startWithPortal();
+    const auto taken = take();
+    ASSERT_TRUE(isAsked());
+    ASSERT_NO_FATAL_FAILURE(bindAndWait());
+    portal.asked.clear();
+    portal.end(0);
+    EXPECT_TRUE(becomes(ShortcutOutcome::pending()));
+    ASSERT_TRUE(isAsked());
+    portal.userSays(true);
+    EXPECT_TRUE(becomes(bound));
+    portal.press(QStringLiteral("toggle"), 0);
+    portal.press(QStringLiteral("toggle"), 1);
+    EXPECT_TRUE(eventually([&] { return !heard.empty(); }));
+    EXPECT_EQ(portal.sessions.size(), 2U);
+    EXPECT_EQ(heard, std::vector<std::uint32_t>{1});
+}
+
+TEST_F(PortalShortcutsTest, aSessionThatIsNotKeptIsNotAskedForAgain)
+{
+    startWithPortal();
+    const auto taken = take();
+    ASSERT_TRUE(isAsked());
+    ASSERT_NO_FATAL_FAILURE(bindAndWait());
+    portal.asked.clear();
+    portal.end(0);
+    ASSERT_TRUE(isAsked());
+    portal.userSays(true);
+    ASSERT_TRUE(becomes(bound));
+    portal.end(1);
+    EXPECT_TRUE(becomes(command));
+    settle();
+    EXPECT_EQ(portal.sessions.size(), 2U);
+}
+
+TEST_F(PortalShortcutsTest, whoSaidNoIsNotAskedAgainWhenTheSessionEnds)
+{
+    startWithPortal();
+    const auto taken = take();
+    ASSERT_TRUE(isAsked());
+    portal.userSays(false);
+    ASSERT_TRUE(becomes(command));
+    queue.later += PortalShortcuts::lastingSession;
+    portal.end(0);
+    settle();
+    EXPECT_TRUE(told.empty());
+    EXPECT_EQ(portal.sessions.size(), 1U);
+}
+
+TEST_F(PortalShortcutsTest, aSessionThatEndsBeforeTheUserAnsweredHasBoundNothing)
+{
+    startWithPortal();
+    const auto taken = take();
+    ASSERT_TRUE(isAsked());
+    portal.end(0);
+    EXPECT_TRUE(becomes(command));
+    portal.userSays(true);
+    settle();
+    EXPECT_TRUE(told.empty());
+    EXPECT_EQ(portal.sessions.size(), 1U);
 }
 
 TEST_F(PortalShortcutsTest, withoutThatPortalNothingIsThere)
