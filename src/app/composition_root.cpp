@@ -30,6 +30,13 @@ double logicalDotsPerInch()
     return screen ? std::round(screen->logicalDotsPerInchY()) : usual;
 }
 
+Theme makeTheme()
+{
+    Theme theme(QGuiApplication::font(), logicalDotsPerInch());
+    theme.direction = QGuiApplication::layoutDirection();
+    return theme;
+}
+
 DragWriter makeDragWriter(const Theme &theme, const FileLocality &locality)
 {
     return {
@@ -133,7 +140,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                     .shelf = panel})
     , presenter({.panel = previewPanel, .mainQueue = mainQueue, .workQueue = previewWork},
                 QFile::encodeName(QDir::tempPath()))
-    , theme(QGuiApplication::font(), logicalDotsPerInch())
+    , theme(makeTheme())
     , dragWriter(makeDragWriter(theme, mountTable))
     , viewAll({.view = {.panel = viewAllPanel,
                         .queue = mainQueue,

@@ -103,7 +103,8 @@ PreviewWindow::PreviewWindow(PreviewLoading &loading, MainQueue &queue)
     m_layout->setSpacing(0);
     m_bar->setFixedHeight(preview_geometry::barHeight);
     auto *const row = new QHBoxLayout(m_bar);
-    row->setContentsMargins(sideMargin, 0, gap, 0);
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    row->setContentsMargins(isMirrored ? gap : sideMargin, 0, isMirrored ? sideMargin : gap, 0);
     row->setSpacing(gap);
     row->addWidget(m_line, 1);
     row->addWidget(m_open);

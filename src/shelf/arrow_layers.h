@@ -12,6 +12,9 @@ struct ArrowLayers {
     {
     }
 
+    /// Points to where the next items come from.
+    void show(StrokeIcon caretIcon, const QColor &tint) { caret.setIcon(caretIcon, 10, 0.5, tint); }
+
     Layer plate;
     IconLayer caret;
 };

@@ -1,6 +1,7 @@
 #include "shelf/drag_stack.h"
 
 #include "core/drag_writer.h"
+#include "core/shown_numbers.h"
 #include "shelf/drawing/drawing.h"
 #include "shelf/drawing/theme.h"
 
@@ -26,7 +27,7 @@ void paintBadge(QPainter &painter, qsizetype count, double whole, const Theme &t
 {
     QFont font = theme.typography.primary;
     font.setWeight(QFont::DemiBold);
-    const QString number = QString::number(count);
+    const QString number = shownNumber(count);
     const QFontMetricsF metrics(font, painter.device());
     const double width = std::max(badgeHeight, metrics.horizontalAdvance(number) + 12);
     const QRectF badge(whole - width - 1, 1, width, badgeHeight);

@@ -82,9 +82,13 @@ void ShelfCell::fill(const DropItem &item, const Look &look)
     m_item = item;
     m_title.setString(item.title());
     m_title.setFont(look.isCarousel ? fonts.tile : fonts.primary);
-    m_title.setAlignment(look.isCarousel ? Qt::AlignHCenter : Qt::AlignLeft);
+    const Qt::Alignment atThumb = look.isMirrored ? Qt::AlignRight : Qt::AlignLeft;
+    m_title.setAlignment(look.isCarousel ? Qt::AlignHCenter : atThumb);
+    m_title.setTextDirection(m_theme.titleDirection());
     m_title.setColor(look.isCarousel && !look.isFocused ? m_theme.palette.secondary
                                                         : m_theme.palette.primary);
+    m_subtitle.setAlignment(atThumb);
+    m_subtitle.setTextDirection(m_theme.direction);
     m_subtitle.setString(look.flash.isEmpty() ? item.subtitle() : look.flash);
     m_subtitle.setColor(look.flash.isEmpty() ? m_theme.palette.secondary : m_theme.palette.primary);
     m_focusRing.setOpacity(look.isFocused ? 1 : 0);

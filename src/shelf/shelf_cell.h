@@ -18,6 +18,7 @@ public:
     /// How the cell looks, apart from its place.
     struct Look {
         bool isCarousel = false;
+        bool isMirrored = false;
         bool isFocused = false;
         bool showsBadge = false;
         /// The item is being dragged out, or was let go and its target has not said how that ended.

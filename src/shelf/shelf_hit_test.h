@@ -8,6 +8,8 @@
 
 namespace corvane {
 
+/// Left is back and right is forward, also where the shelf is mirrored and they stand the other way
+/// round.
 enum class ArrowSide { Left, Right };
 
 /// What is under a point of the body. Where areas overlap, the alternative that comes first in

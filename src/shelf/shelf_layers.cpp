@@ -5,12 +5,14 @@
 #include "shelf/drawing/layer_animator.h"
 #include "shelf/drawing/pill_path.h"
 #include "shelf/drawing/theme.h"
+#include "shelf/mirrored.h"
 
 #include <QCoreApplication>
 #include <QLinearGradient>
 #include <QPainter>
 
 #include <cmath>
+#include <utility>
 
 namespace corvane {
 
@@ -102,8 +104,6 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
     m_flash.setColor(palette.primary);
     m_flash.setOpacity(0);
 
-    m_leftArrow.caret.setIcon(StrokeIcon::CaretLeft, 10, 0.5, palette.emphasis);
-    m_rightArrow.caret.setIcon(StrokeIcon::CaretRight, 10, 0.5, palette.emphasis);
     m_actionButtons[0].setIcon(StrokeIcon::Eye, 19, 1.5, palette.emphasis);
     m_actionButtons[1].setIcon(StrokeIcon::Copy, 19, 2, palette.emphasis);
     m_actionButtons[2].setIcon(StrokeIcon::Trash, 19, 2, palette.emphasis);
@@ -193,6 +193,7 @@ void ShelfLayers::applyDropTarget(const ShelfLook &look)
     m_ring.setOpacity(isOpen && snapshot.looksLikeDropTarget() ? 1 : 0);
 
     m_hint.setFrame(look.layout.hint);
+    m_hint.setTextDirection(m_theme.direction);
     m_hint.setString(look.isDragTargeted
                          ? QCoreApplication::translate("ShelfView", "Release to hold")
                          : QCoreApplication::translate("ShelfView", "Drop to hold"));
@@ -216,6 +217,7 @@ void ShelfLayers::applyCells(const ShelfLook &look)
         const auto &[index, item] = snapshot.visible[i];
         ShelfCell::Look cellLook;
         cellLook.isCarousel = snapshot.isCarousel();
+        cellLook.isMirrored = look.layout.isMirrored;
         cellLook.isFocused = index == snapshot.focusedIndex;
         cellLook.showsBadge = badgeIndex == index;
         cellLook.isDragged = look.draggedItem == item.id() || look.leavingItems.contains(item.id());
@@ -227,9 +229,12 @@ void ShelfLayers::applyCells(const ShelfLook &look)
         m_cells[i]->layout(layout);
     }
 
-    m_edgeFade.setFrame({row.width() - edgeFadeWidth, 0, edgeFadeWidth, look.layout.bodyHeight});
+    const QRectF fade(row.width() - edgeFadeWidth, 0, edgeFadeWidth, look.layout.bodyHeight);
+    m_edgeFade.setFrame(look.layout.isMirrored ? mirrored(fade, row.width()) : fade);
+    m_edgeFade.setMirrored(look.layout.isMirrored);
     m_edgeFade.setOpacity(look.layout.overflows ? 1 : 0);
     m_flash.setFrame(look.layout.flash);
+    m_flash.setTextDirection(m_theme.direction);
     if (flashesOverCells)
         m_flash.setString(look.flashMessage);
     m_flash.setOpacity(flashesOverCells ? 1 : 0);
@@ -265,6 +270,9 @@ void ShelfLayers::applyArrow(std::size_t side, const ShelfLook &look)
                                                    : palette.buttonFill);
     arrow.plate.setOpacity(1);
     arrow.caret.setFrame(QRectF({0, 0}, frame.size()));
+    arrow.show((side == 0) != look.layout.isMirrored ? StrokeIcon::CaretLeft
+                                                     : StrokeIcon::CaretRight,
+               palette.emphasis);
     arrow.caret.setOpacity(isEnabled ? 1 : 0.28);
 }
 
@@ -306,6 +314,12 @@ bool ShelfLayers::isAway() const
         && m_body.bounds().height() > 0;
 }
 
+void ShelfLayers::EdgeFade::setMirrored(bool isMirrored)
+{
+    if (std::exchange(m_isMirrored, isMirrored) != isMirrored)
+        needsDisplay();
+}
+
 void ShelfLayers::EdgeFade::draw(QPainter &painter, QSizeF size, double /*scale*/) const
 {
     QLinearGradient gradient(0, 0, size.width(), 0);
@@ -318,6 +332,10 @@ void ShelfLayers::EdgeFade::draw(QPainter &painter, QSizeF size, double /*scale*
                        bodyCornerRadius, bodyCornerRadius);
     painter.save();
     painter.setClipRect(QRectF({0, 0}, size), Qt::IntersectClip);
+    if (m_isMirrored) {
+        painter.translate(size.width(), 0);
+        painter.scale(-1, 1);
+    }
     painter.fillPath(end, gradient);
     painter.restore();
 }

@@ -70,13 +70,19 @@ private:
                      const ShelfLook &look);
     void applyArrow(std::size_t side, const ShelfLook &look);
 
-    /// Darkens the right end of a row of cells that does not fit.
+    /// Darkens the end of a row of cells that does not fit.
     class EdgeFade : public Layer {
     public:
         using Layer::Layer;
 
+        /// At the left end, where the row begins at the right.
+        void setMirrored(bool isMirrored);
+
     protected:
         void draw(QPainter &painter, QSizeF size, double scale) const override;
+
+    private:
+        bool m_isMirrored = false;
     };
 
     LayerTree &m_tree;

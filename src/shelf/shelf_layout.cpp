@@ -5,6 +5,7 @@
 #include "platform/pictures/text_measurer.h"
 #include "shelf/drawing/pill_path.h"
 #include "shelf/drawing/theme.h"
+#include "shelf/mirrored.h"
 
 #include <algorithm>
 #include <cmath>
@@ -119,6 +120,46 @@ void layoutActions(const ShelfSnapshot &snapshot, ShelfLayout &layout)
                             0.44 * layout.bodyHeight);
 }
 
+void mirror(std::optional<QRectF> &frame, double width)
+{
+    if (frame)
+        frame = mirrored(*frame, width);
+}
+
+template<std::size_t count>
+void mirror(std::array<QRectF, count> &frames, double width)
+{
+    for (QRectF &frame : frames)
+        frame = mirrored(frame, width);
+}
+
+void mirror(ShelfLayout::Cell &cell, double width)
+{
+    const double inside = cell.root.width();
+    cell.root = mirrored(cell.root, width);
+    for (QRectF *frame : {&cell.thumb, &cell.title, &cell.focusRing, &cell.badge})
+        *frame = mirrored(*frame, inside);
+    mirror(cell.subtitle, inside);
+}
+
+void mirror(ShelfLayout &layout)
+{
+    const double width = layout.size.width();
+    layout.isMirrored = true;
+    for (QRectF *frame : {&layout.ring, &layout.hint, &layout.viewAllHit, &layout.flash})
+        *frame = mirrored(*frame, width);
+    for (ShelfLayout::Cell &cell : layout.cells)
+        mirror(cell, width);
+    if (layout.arrows)
+        mirror(*layout.arrows, width);
+    if (layout.actionButtons)
+        mirror(*layout.actionButtons, width);
+    mirror(layout.arrowHits, width);
+    mirror(layout.actionHits, width);
+    mirror(layout.viewAllButton, width);
+    mirror(layout.divider, width);
+}
+
 } // namespace
 
 double detailTextWidth(const ShelfSnapshot &snapshot, const Theme &theme,
@@ -153,7 +194,8 @@ QSizeF preferredSize(const ShelfSnapshot &snapshot, double detailTextWidth)
     return {std::round((notchWidth > 0 ? std::max(wanted, aroundNotch) : wanted) + flares), height};
 }
 
-ShelfLayout layoutShelf(const ShelfSnapshot &snapshot, double detailTextWidth)
+ShelfLayout layoutShelf(const ShelfSnapshot &snapshot, double detailTextWidth,
+                        Qt::LayoutDirection direction)
 {
     ShelfLayout layout;
     layout.size = preferredSize(snapshot, detailTextWidth);
@@ -192,6 +234,8 @@ ShelfLayout layoutShelf(const ShelfSnapshot &snapshot, double detailTextWidth)
     layoutRingAndHint(snapshot, layout);
     layoutActions(snapshot, layout);
     layout.flash = {left, layout.bodyHeight / 2 - 8, right - zone - left, 16};
+    if (direction == Qt::RightToLeft)
+        mirror(layout);
     return layout;
 }
 

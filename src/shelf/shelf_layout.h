@@ -14,7 +14,7 @@ namespace corvane {
 class TextMeasurer;
 struct Theme;
 
-/// The action buttons, left to right.
+/// The action buttons, in the order in which one reads.
 enum class ShelfAction { QuickLook, Copy, Clear };
 constexpr std::array<ShelfAction, 3> allShelfActions{ShelfAction::QuickLook, ShelfAction::Copy,
                                                      ShelfAction::Clear};
@@ -45,7 +45,7 @@ struct ShelfLayout {
     double ringCornerRadius = 0;
     QRectF hint;
     std::vector<Cell> cells;
-    /// Left and right; none when every item is in view.
+    /// Back and forward: left and right, unless mirrored; none when every item is in view.
     std::optional<std::array<QRectF, 2>> arrows;
     /// The areas that react to clicks; empty rectangles when there are no arrows.
     std::array<QRectF, 2> arrowHits;
@@ -57,8 +57,11 @@ struct ShelfLayout {
     std::array<QRectF, 3> actionHits;
     std::optional<QRectF> divider;
     QRectF flash;
-    /// Some cells do not fit into the body; the row fades at its right edge.
+    /// Some cells do not fit into the body; the row fades at its end.
     bool overflows = false;
+    /// For people who read from right to left: the row begins at the right, and everything is where
+    /// it would be seen in a mirror.
+    bool isMirrored = false;
 
     friend bool operator==(const ShelfLayout &, const ShelfLayout &) = default;
 };
@@ -70,8 +73,10 @@ double detailTextWidth(const ShelfSnapshot &snapshot, const Theme &theme,
 /// The size of the body, and of the panel around it; in whole points.
 QSizeF preferredSize(const ShelfSnapshot &snapshot, double detailTextWidth);
 
-/// The layout in a body of the preferred size.
-ShelfLayout layoutShelf(const ShelfSnapshot &snapshot, double detailTextWidth);
+/// The layout in a body of the preferred size, for people who read in that direction. What is drawn
+/// and what answers to clicks are mirrored here together, and nowhere else.
+ShelfLayout layoutShelf(const ShelfSnapshot &snapshot, double detailTextWidth,
+                        Qt::LayoutDirection direction = Qt::LeftToRight);
 
 /// The frame of the plate behind a hovered button with this frame.
 QRectF hoverPlateFrame(const QRectF &button);

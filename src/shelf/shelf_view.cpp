@@ -3,6 +3,7 @@
 #include "platform/base/geometry.h"
 #include "platform/base/main_queue.h"
 #include "shelf/accessible_shelf.h"
+#include "shelf/drawing/theme.h"
 #include "shelf/optional_callback.h"
 
 #include <QPainter>
@@ -57,7 +58,7 @@ void ShelfView::apply(const ShelfSnapshot &snapshot)
 void ShelfView::relayout()
 {
     const double textWidth = detailTextWidth(m_look.snapshot, m_context.theme, m_context.measurer);
-    m_look.layout = layoutShelf(m_look.snapshot, textWidth);
+    m_look.layout = layoutShelf(m_look.snapshot, textWidth, m_context.theme.direction);
     // The shelf may have changed under a pointer that does not move.
     const bool isInside = m_pointer && hitTest(fromTopCentre(*m_pointer));
     m_look.isHovering = isInside;
@@ -217,7 +218,8 @@ void ShelfView::scrollWheel(const ScrollEvent &event)
     if (!hasPhases && event.time - m_lastScrollTime > scrollMemory)
         m_scrollAccumulator = 0;
     m_lastScrollTime = event.time;
-    m_scrollAccumulator += event.deltaX;
+    // What lies to the right is earlier where the shelf is mirrored.
+    m_scrollAccumulator += m_look.layout.isMirrored ? -event.deltaX : event.deltaX;
     const double step = event.hasPreciseDeltas ? preciseScrollStep : wheelScrollStep;
     while (std::abs(m_scrollAccumulator) >= step) {
         const bool isBack = m_scrollAccumulator > 0;

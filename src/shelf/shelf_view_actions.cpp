@@ -53,16 +53,17 @@ bool ShelfView::keyDown(const KeyEvent &event)
     if (m_look.snapshot.visible.empty())
         return false;
     const int focused = m_look.snapshot.focusedIndex;
+    const int rightward = m_look.layout.isMirrored ? -1 : 1;
     switch (event.key) {
     case TypedKey::C:
         if (!event.modifiers.testFlag(Modifier::Command))
             return false;
         break;
     case TypedKey::LeftArrow:
-        call(onFocus, checkedAdd(focused, -1));
+        call(onFocus, checkedAdd(focused, -rightward));
         return true;
     case TypedKey::RightArrow:
-        call(onFocus, checkedAdd(focused, 1));
+        call(onFocus, checkedAdd(focused, rightward));
         return true;
     case TypedKey::Space:
     case TypedKey::DeleteBackward:

@@ -62,10 +62,11 @@ TEST(Translations, AreChosenByWhatPeopleWantMost)
     EXPECT_EQ(chosen("zh-HK"), "zh_TW") << "the script counts";
 }
 
-TEST(Translations, FromRightToLeftAreForThoseWhoAskForOneByName)
+TEST(Translations, AreThoseOfTheSessionUnlessOneIsNamed)
 {
-    const QStringList session{QStringLiteral("he-IL"), QStringLiteral("he"), QStringLiteral("fr")};
-    EXPECT_EQ(Translations::wanted({}, session), QStringList{QStringLiteral("fr")});
+    const QStringList session{QStringLiteral("ar-EG"), QStringLiteral("ar"), QStringLiteral("fr")};
+    EXPECT_EQ(Translations::wanted({}, session), session);
+    EXPECT_EQ(Translations(Translations::wanted({}, session)).language(), QStringLiteral("ar"));
     EXPECT_EQ(Translations::wanted(QStringLiteral("he"), session),
               QStringList{QStringLiteral("he")});
 }

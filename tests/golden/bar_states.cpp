@@ -110,6 +110,27 @@ void showPageWithTicks(BarStage &stage)
     stage.hoverTile(4);
 }
 
+void mirror(BarStage &stage)
+{
+    stage.desk.theme.direction = Qt::RightToLeft;
+    stage.items[0] = ShelfDesk::fileItem(QString::fromUtf8("تقرير الربع الأول من هذه السنة.pdf"));
+    stage.items[1] = ShelfDesk::folderItem(QString::fromUtf8("תמונות"));
+}
+
+void showMirroredPage(BarStage &stage)
+{
+    mirror(stage);
+    showPageWithTicks(stage);
+}
+
+void showMirroredLastPageWithTrashHovered(BarStage &stage)
+{
+    mirror(stage);
+    stage.select({5, 6});
+    stage.show(100);
+    stage.hover(ViewAllControl::Trash);
+}
+
 void showPicturesBeingMade(BarStage &stage)
 {
     stage.items = stage.items.first(2);
@@ -172,6 +193,10 @@ const std::vector<PanelState> &barStates()
         {"view-all-being-made", bar(showPicturesBeingMade), {{light, 2}, {dark, 1}}},
         {"view-all-two", bar(showTwoTickedWithTrashHovered), {{dark, 2}}},
         {"view-all-last-page", bar(showLastPageWithBackHovered, narrowWidth), {{light, 2}}},
+        {"view-all-mirrored", bar(showMirroredPage), {{light, 1}, {dark, 2}}},
+        {"view-all-mirrored-last-page",
+         bar(showMirroredLastPageWithTrashHovered, narrowWidth),
+         {{light, 2}}},
         {"view-all-nothing-ticked", bar(showNothingTicked), {}},
         {"view-all-all-ticked", bar(showAllTickedWithBoxHovered), {}},
         {"view-all-first-page", bar(showFirstPageWithForwardHovered, narrowWidth), {}},

@@ -4,6 +4,7 @@
 #include "fakes/layer_walk.h"
 #include "fakes/random_steps.h"
 #include "fakes/shelf_desk.h"
+#include "platform/base/geometry.h"
 #include "shelf/bar/view_all_view.h"
 
 #include <gtest/gtest.h>
@@ -14,18 +15,20 @@ namespace corvane::test {
 
 namespace {
 
-/// What a press on an icon has to come to, by the first word of the icon's name.
-QString promiseOf(const QString &iconKey)
+/// What a press on an icon has to come to, by the first word of the icon's name. A caret goes to
+/// where it points.
+QString promiseOf(const QString &iconKey, Qt::LayoutDirection direction)
 {
+    const bool isMirrored = direction == Qt::RightToLeft;
     const QString icon = iconKey.section(u' ', 0, 0);
     if (icon == u"trash")
         return QStringLiteral("remove");
     if (icon == u"copy")
         return QStringLiteral("copy");
     if (icon == u"caretLeft")
-        return QStringLiteral("scroll -1");
+        return isMirrored ? QStringLiteral("scroll 1") : QStringLiteral("scroll -1");
     if (icon == u"caretRight")
-        return QStringLiteral("scroll 1");
+        return isMirrored ? QStringLiteral("scroll -1") : QStringLiteral("scroll 1");
     return QStringLiteral("toggle");
 }
 
@@ -36,12 +39,12 @@ struct Control {
     QRectF frame;
 };
 
-std::vector<Control> controlsOf(const std::vector<Layer *> &roots)
+std::vector<Control> controlsOf(const std::vector<Layer *> &roots, Qt::LayoutDirection direction)
 {
     std::vector<Control> controls;
     for (const SeenLayer &seen : seenLayers(roots)) {
         const auto *bitmap = dynamic_cast<const BitmapLayer *>(seen.layer);
-        const QString promise = bitmap ? promiseOf(bitmap->key()) : QString();
+        const QString promise = bitmap ? promiseOf(bitmap->key(), direction) : QString();
         if (!promise.isEmpty())
             controls.push_back({seen.name % u' ' % bitmap->key(), promise, seen.frame});
     }
@@ -51,8 +54,11 @@ std::vector<Control> controlsOf(const std::vector<Layer *> &roots)
 /// A bar with anything in it, and what came of the last press.
 class PressedBar {
 public:
-    explicit PressedBar(RandomSteps & /*steps*/)
+    explicit PressedBar(RandomSteps &steps)
     {
+        desk.theme.direction = steps.oneOf({Qt::LeftToRight, Qt::RightToLeft});
+        if (isMirrored())
+            steps.note(QStringLiteral("mirrored"));
         view.onToggleItem = [this](const DropItem &) { answer = QStringLiteral("toggle"); };
         view.onToggleSelectAll = [this] { answer = QStringLiteral("toggle all"); };
         view.onCopySelected = [this] { answer = QStringLiteral("copy"); };
@@ -77,7 +83,8 @@ public:
         desk.panel.setFrame({0, 0, static_cast<double>(width), view_all_layout::barHeight});
         view.apply(items, selection, offset);
         for (const Control &control : controls()) {
-            const bool isAll = control.frame.x() < 30 && control.frame.y() < 20;
+            const double atSide = isMirrored() ? width - maxX(control.frame) : control.frame.x();
+            const bool isAll = atSide < 30 && control.frame.y() < 20;
             const QString promise = control.promise == u"toggle" && isAll
                 ? QStringLiteral("toggle all")
                 : control.promise;
@@ -93,8 +100,9 @@ private:
         std::vector<Layer *> roots;
         for (const Layer *root : view.layers().roots())
             roots.push_back(const_cast<Layer *>(root));
-        return controlsOf(roots);
+        return controlsOf(roots, desk.theme.direction);
     }
+    bool isMirrored() const { return desk.theme.direction == Qt::RightToLeft; }
 
     QString answerAt(QPointF point)
     {

@@ -9,9 +9,11 @@ namespace corvane::test {
 
 namespace {
 
+constexpr QLatin1String back("scroll -1");
+constexpr QLatin1String forward("scroll 1");
 constexpr std::array<IconKind, 6> iconKinds{{
-    {QLatin1String("caretLeft"), QLatin1String("scroll -1"), 3, 3, ControlRank::Arrow},
-    {QLatin1String("caretRight"), QLatin1String("scroll 1"), 3, 3, ControlRank::Arrow},
+    {QLatin1String("caretLeft"), back, 3, 3, ControlRank::Arrow},
+    {QLatin1String("caretRight"), forward, 3, 3, ControlRank::Arrow},
     {QLatin1String("squaresFour"), QLatin1String("view all"), 4, 5, ControlRank::ViewAll},
     {QLatin1String("eye"), QLatin1String("preview"), 1.5, 4, ControlRank::Action},
     {QLatin1String("copy"), QLatin1String("copy"), 1.5, 4, ControlRank::Action},
@@ -20,7 +22,8 @@ constexpr std::array<IconKind, 6> iconKinds{{
 
 } // namespace
 
-DrawnShelf::DrawnShelf(const ShelfView &view, QSizeF panel)
+DrawnShelf::DrawnShelf(const ShelfView &view, QSizeF panel, Qt::LayoutDirection direction)
+    : m_direction(direction)
 {
     // Its layers are there to be looked at.
     auto seen = seenLayers({const_cast<Layer *>(&view.layers().root())});
@@ -53,10 +56,13 @@ void DrawnShelf::add(const SeenLayer &seen, const SeenLayer &container)
 
     const auto *bitmap = asKind<BitmapLayer>(*seen.layer);
     const QString icon = bitmap ? bitmap->key().section(u' ', 0, 0) : QString();
-    for (const IconKind &kind : iconKinds) {
-        if (icon == kind.icon)
-            icons.push_back(
-                {kind, seen.frame, seen.layer->opacity(), container.layer->backgroundColor()});
+    for (IconKind kind : iconKinds) {
+        if (icon != kind.icon)
+            continue;
+        if (m_direction == Qt::RightToLeft && kind.rank == ControlRank::Arrow)
+            kind.promise = kind.promise == back ? forward : back;
+        icons.push_back(
+            {kind, seen.frame, seen.layer->opacity(), container.layer->backgroundColor()});
     }
 }
 

@@ -49,7 +49,8 @@ struct DrawnShelf {
     /// Titles begin with it and end with the item's index.
     static inline const QString namePrefix = QStringLiteral("item ");
 
-    DrawnShelf(const ShelfView &view, QSizeF panel);
+    /// Carets that point to where one reads from go back.
+    DrawnShelf(const ShelfView &view, QSizeF panel, Qt::LayoutDirection direction);
 
     QRectF body;
     /// Beyond it no cell is seen.
@@ -61,6 +62,8 @@ struct DrawnShelf {
 
 private:
     void add(const SeenLayer &seen, const SeenLayer &container);
+
+    Qt::LayoutDirection m_direction;
 };
 
 } // namespace corvane::test

@@ -29,8 +29,11 @@ struct Control {
 /// A shelf with anything in it, and what came of the last press.
 class PressedShelf {
 public:
-    explicit PressedShelf(RandomSteps & /*steps*/)
+    explicit PressedShelf(RandomSteps &steps)
     {
+        desk.theme.direction = steps.oneOf({Qt::LeftToRight, Qt::RightToLeft});
+        if (desk.theme.direction == Qt::RightToLeft)
+            steps.note(QStringLiteral("mirrored"));
         desk.motion.reduces = true;
         view.onScroll = [this](int step) { answer << QStringLiteral("scroll %1").arg(step); };
         view.onViewAll = [this] { answer << QStringLiteral("view all"); };
@@ -58,7 +61,7 @@ private:
     void hoverAt(QPointF point);
     void pressWhenClosed();
 
-    DrawnShelf drawn() const { return {view, desk.panel.frame().size()}; }
+    DrawnShelf drawn() const { return {view, desk.panel.frame().size(), desk.theme.direction}; }
     const ShelfSnapshot &snapshot() const { return view.look().snapshot; }
 
     ShelfDesk desk;

@@ -25,7 +25,12 @@ testing::AssertionResult areSame(const CanvasPanel &panel, const QImage &expecte
 /// Panels whose pictures are compared with pictures that are made afresh.
 class ComparedPanels : public PanelsInUse {
 public:
-    explicit ComparedPanels(RandomSteps & /*steps*/) { }
+    explicit ComparedPanels(RandomSteps &steps)
+    {
+        desk.theme.direction = steps.oneOf({Qt::LeftToRight, Qt::RightToLeft});
+        if (desk.theme.direction == Qt::RightToLeft)
+            steps.note(QStringLiteral("mirrored"));
+    }
 
     void step(RandomSteps &steps);
 

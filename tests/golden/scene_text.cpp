@@ -65,8 +65,12 @@ QString textLayer(const TextLayer &layer)
     const QString side = layer.alignment() & Qt::AlignHCenter ? QStringLiteral("centred")
         : layer.alignment() & Qt::AlignRight                  ? QStringLiteral("right")
                                                               : QStringLiteral("left");
-    return QStringLiteral(", \"%1\", %2, %3, %4, %5")
-        .arg(layer.string(), text(layer.color()), text(layer.font()), side,
+    const QString direction = layer.textDirection() == Qt::RightToLeft
+        ? QStringLiteral(" from right")
+        : layer.textDirection() == Qt::LeftToRight ? QString()
+                                                   : QStringLiteral(" from its first letter");
+    return QStringLiteral(", \"%1\", %2, %3, %4%5, %6")
+        .arg(layer.string(), text(layer.color()), text(layer.font()), side, direction,
              text(layer.elideMode()));
 }
 

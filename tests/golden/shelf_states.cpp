@@ -167,6 +167,23 @@ QList<DropItem> oneBeingMade()
     return {items[0], sampleBeingMade(), items[2]};
 }
 
+/// With names in the scripts of those who read from right to left, and in others.
+QList<DropItem> itemsFromRightToLeft()
+{
+    QList<DropItem> items = sampleItems();
+    items[0] = ShelfDesk::fileItem(QString::fromUtf8("تقرير الربع الأول من هذه السنة.pdf"),
+                                   QString::fromUtf8("PDF، ٢٫٤ م.ب."));
+    items[3] = ShelfDesk::folderItem(QString::fromUtf8("תמונות"));
+    items[4] = ShelfDesk::fileItem(QStringLiteral("Summer (2) of a very long year.png"),
+                                   QString::fromUtf8("PNG، ٨٠٠ × ٦٠٠"));
+    return items;
+}
+
+void mirror(ShelfStage &stage)
+{
+    stage.desk.theme.direction = Qt::RightToLeft;
+}
+
 using SetUp = void (*)(ShelfStage &);
 
 std::function<std::unique_ptr<PanelStage>(TextWidths)> shelf(SetUp setUp)
@@ -242,6 +259,54 @@ std::vector<PanelState> picturedStates()
     };
 }
 
+/// For those who read from right to left.
+std::vector<PanelState> mirroredStates()
+{
+    return {
+        {"mirrored-one",
+         shelf([](ShelfStage &s) {
+             mirror(s);
+             s.show(occupied(itemsFromRightToLeft().first(1), 1, 0));
+             s.hover((*s.layout().actionButtons)[2].center());
+         }),
+         {{light, 1}, {dark, 2}}},
+        {"mirrored-one-of-six",
+         shelf([](ShelfStage &s) {
+             mirror(s);
+             s.show(occupied(itemsFromRightToLeft(), 1, 4, 4));
+         }),
+         {{dark, 2}}},
+        {"mirrored-three-of-six",
+         shelf([](ShelfStage &s) {
+             mirror(s);
+             s.show(occupied(itemsFromRightToLeft(), 3, 3, 3));
+             const auto &cell = s.layout().cells[1];
+             s.hover(cell.root.topLeft() + cell.thumb.center());
+         }),
+         {{dark, 2}, {light, 1.5}}},
+        {"mirrored-receptive",
+         shelf([](ShelfStage &s) {
+             mirror(s);
+             s.show(receptive(occupied(itemsFromRightToLeft(), 6, 2)));
+         }),
+         {{light, 2}}},
+        {"mirrored-back-hovered",
+         shelf([](ShelfStage &s) {
+             mirror(s);
+             s.show(occupied(sampleItems(), 3, 3, 2));
+             s.hover((*s.layout().arrows)[0].center());
+         }),
+         {}},
+        {"mirrored-flash",
+         shelf([](ShelfStage &s) {
+             mirror(s);
+             s.show(occupied(sampleItems(), 1, 0));
+             s.flash(QString::fromUtf8("نُسخ المسار!"));
+         }),
+         {{light, 2}}},
+    };
+}
+
 /// What the pictures do not show.
 std::vector<PanelState> otherStates()
 {
@@ -309,8 +374,8 @@ const std::vector<PanelState> &shelfStates()
 {
     static const std::vector<PanelState> states = [] {
         std::vector<PanelState> all = picturedStates();
-        const std::vector<PanelState> others = otherStates();
-        all.insert(all.end(), others.begin(), others.end());
+        for (const auto &more : {mirroredStates(), otherStates()})
+            all.insert(all.end(), more.begin(), more.end());
         return all;
     }();
     return states;

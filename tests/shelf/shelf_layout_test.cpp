@@ -190,6 +190,66 @@ TEST(ShelfLayout, CellsThatDoNotFitAreToldToFade)
     EXPECT_TRUE(layoutShelf(snapshot, 100).overflows);
 }
 
+TEST(ShelfLayout, FromRightToLeftEverythingIsWhereAMirrorShowsIt)
+{
+    ShelfSnapshot receptive = holding(6, 6);
+    receptive.receptive = true;
+    for (const ShelfSnapshot &snapshot : {holding(5, 1), holding(7, 3, 210, 32), receptive}) {
+        const ShelfLayout usual = layoutShelf(snapshot, 100);
+        const ShelfLayout layout = layoutShelf(snapshot, 100, Qt::RightToLeft);
+        EXPECT_FALSE(usual.isMirrored);
+        EXPECT_TRUE(layout.isMirrored);
+        EXPECT_EQ(layout.size, usual.size);
+        const auto isMirrored = [&](const QRectF &one, const QRectF &other) {
+            return one.left() + other.right() == usual.size.width() && one.size() == other.size()
+                && one.y() == other.y();
+        };
+        ASSERT_EQ(layout.cells.size(), usual.cells.size());
+        for (std::size_t i = 0; i < usual.cells.size(); ++i) {
+            const ShelfLayout::Cell &cell = layout.cells[i];
+            const ShelfLayout::Cell &other = usual.cells[i];
+            const auto inBody = [](const QRectF &frame, const ShelfLayout::Cell &in) {
+                return frame.translated(in.root.topLeft());
+            };
+            EXPECT_EQ(cell.itemIndex, other.itemIndex);
+            EXPECT_TRUE(isMirrored(cell.root, other.root));
+            EXPECT_TRUE(isMirrored(inBody(cell.thumb, cell), inBody(other.thumb, other)));
+            EXPECT_TRUE(isMirrored(inBody(cell.title, cell), inBody(other.title, other)));
+            EXPECT_TRUE(isMirrored(inBody(cell.focusRing, cell), inBody(other.focusRing, other)));
+            EXPECT_TRUE(isMirrored(inBody(cell.badge, cell), inBody(other.badge, other)));
+            if (cell.subtitle) {
+                EXPECT_TRUE(
+                    isMirrored(inBody(*cell.subtitle, cell), inBody(*other.subtitle, other)));
+            }
+        }
+        for (std::size_t i = 0; usual.arrows && i < 2; ++i) {
+            EXPECT_TRUE(isMirrored((*layout.arrows)[i], (*usual.arrows)[i]));
+            EXPECT_TRUE(isMirrored(layout.arrowHits[i], usual.arrowHits[i]));
+        }
+        for (std::size_t i = 0; usual.actionButtons && i < 3; ++i) {
+            EXPECT_TRUE(isMirrored((*layout.actionButtons)[i], (*usual.actionButtons)[i]));
+            EXPECT_TRUE(isMirrored(layout.actionHits[i], usual.actionHits[i]));
+        }
+        if (usual.viewAllButton) {
+            EXPECT_TRUE(isMirrored(*layout.viewAllButton, *usual.viewAllButton));
+            EXPECT_TRUE(isMirrored(layout.viewAllHit, usual.viewAllHit));
+        }
+        if (usual.divider) {
+            EXPECT_TRUE(isMirrored(*layout.divider, *usual.divider));
+        }
+        EXPECT_TRUE(isMirrored(layout.flash, usual.flash));
+    }
+}
+
+TEST(ShelfHitTest, FromRightToLeftTheFirstCellAndTheWayBackAreAtTheRight)
+{
+    const ShelfLayout layout = layoutShelf(holding(5, 3), 100, Qt::RightToLeft);
+    const double width = layout.size.width();
+    EXPECT_EQ(hitTest(layout, true, {width - 34, 30}), ShelfHit(shelf_hit::Arrow{ArrowSide::Left}));
+    EXPECT_EQ(hitTest(layout, true, {34, 30}), ShelfHit(shelf_hit::Arrow{ArrowSide::Right}));
+    EXPECT_EQ(hitTest(layout, true, {width - 80, 30}), ShelfHit(shelf_hit::Cell{0}));
+}
+
 TEST(ShelfHitTest, TestsAreHalfOpen)
 {
     const ShelfLayout layout = layoutShelf(holding(5, 3), 100);

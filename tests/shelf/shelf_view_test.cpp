@@ -221,6 +221,38 @@ TEST_F(ShelfViewTest, ArrowsScrollByOne)
     EXPECT_EQ(log, (QStringList{QStringLiteral("scroll -1"), QStringLiteral("scroll 1")}));
 }
 
+TEST_F(ShelfViewTest, FromRightToLeftKeysWheelAndArrowsGoWhereTheyPoint)
+{
+    desk.theme.direction = Qt::RightToLeft;
+    show(holding(9, 3, 4));
+    ASSERT_TRUE(layout().isMirrored);
+    key(TypedKey::LeftArrow);
+    key(TypedKey::RightArrow);
+    EXPECT_EQ(log, (QStringList{QStringLiteral("focus 5"), QStringLiteral("focus 3")}));
+    log.clear();
+    // What lies to the left is later.
+    scroll(4);
+    scroll(-28, true, ScrollEvent::Phase::Changed);
+    press({34, 30});
+    press({desk.panel.frame().width() - 34, 30});
+    EXPECT_EQ(log,
+              (QStringList{QStringLiteral("scroll 1"), QStringLiteral("scroll -1"),
+                           QStringLiteral("scroll 1"), QStringLiteral("scroll -1")}));
+}
+
+TEST_F(ShelfViewTest, FromRightToLeftAnItemIsDraggedByThePointWhereItWasPressed)
+{
+    desk.theme.direction = Qt::RightToLeft;
+    show(holding(3, 1));
+    const auto &cell = layout().cells[0];
+    const QPointF corner = cell.root.topLeft() + cell.thumb.topLeft();
+    EXPECT_GT(corner.x(), desk.panel.frame().width() / 2);
+    view.mouseDown({corner + QPointF(3, 5)});
+    view.mouseDragged({corner + QPointF(20, 5)});
+    ASSERT_TRUE(desk.panel.dragOut);
+    EXPECT_EQ(desk.panel.dragOut->hotSpot, QPointF(3, 5));
+}
+
 TEST_F(ShelfViewTest, TheViewAllButtonAsksForTheBar)
 {
     show(holding(5, 3));

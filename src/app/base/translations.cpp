@@ -53,10 +53,7 @@ QStringList Translations::wanted(const QString &named, const QStringList &ofSess
 {
     if (!named.isEmpty())
         return {named};
-    QStringList names = ofSession;
-    names.removeIf(
-        [](const QString &name) { return QLocale(name).textDirection() == Qt::RightToLeft; });
-    return names;
+    return ofSession;
 }
 
 QStringList Translations::languages()

@@ -21,8 +21,7 @@ public:
     ~Translations();
 
     /// What people want whose session names these languages: `named`, where it is not empty, else
-    /// those of the session that are written from left to right. The shelf is not mirrored, so that
-    /// languages from right to left are for those who ask for one by its name.
+    /// those of the session.
     static QStringList wanted(const QString &named, const QStringList &ofSession);
     /// The languages that are built in: "de", "en", "pt_BR".
     static QStringList languages();

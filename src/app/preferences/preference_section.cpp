@@ -53,7 +53,9 @@ PreferenceSection::PreferenceSection(const QString &title, const WindowLook &loo
     layout->setSpacing(m_look.length(afterTitle));
     auto *heading
         = new TextLabel(title, m_look.font(titleSize, QFont::DemiBold), TextLabel::Tone::Heading);
-    heading->setContentsMargins(m_look.length(titleInset), 0, 0, 0);
+    // As far in on both sides, so that it stands right in either direction of reading.
+    const int inset = m_look.length(titleInset);
+    heading->setContentsMargins(inset, 0, inset, 0);
     layout->addWidget(heading);
     layout->addWidget(m_card);
     m_rows->setContentsMargins(0, 0, 0, 0);

@@ -101,9 +101,16 @@ QWidget *PreferencesWindow::makePane() const
     auto *page = new QWidget;
     auto *layout = new QVBoxLayout(page);
     // The longer pane is scrolled, and has the scroll bar in its margin.
-    const double right = isGeneral ? paneSides - WindowLook::scrollBarWidth : paneSides;
-    layout->setContentsMargins(m_look.length(paneSides), m_look.length(paneTop),
-                               m_look.length(right), m_look.length(paneBottom));
+    QMargins margins(m_look.length(paneSides), m_look.length(paneTop), m_look.length(paneSides),
+                     m_look.length(paneBottom));
+    if (isGeneral) {
+        const int besideBar = m_look.length(paneSides - WindowLook::scrollBarWidth);
+        if (layoutDirection() == Qt::RightToLeft)
+            margins.setLeft(besideBar);
+        else
+            margins.setRight(besideBar);
+    }
+    layout->setContentsMargins(margins);
     layout->addWidget(pane);
     layout->addStretch();
     page->setAutoFillBackground(false);

@@ -65,10 +65,12 @@ void PageIndicator::paintEvent(QPaintEvent *)
     const double place = m_place.currentValue().toDouble();
     const double height = m_look.length(dot);
     const double longer = m_look.length(capsule) - height;
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
     double x = 0;
     for (int i = 0; i < m_count; ++i) {
         const double share = std::max(0.0, 1 - std::abs(place - i));
-        const QRectF shape(x, 0, height + longer * share, height);
+        const double length = height + longer * share;
+        const QRectF shape(isMirrored ? width() - x - length : x, 0, length, height);
         painter.setBrush(WindowLook::tint(palette(), otherOpacity));
         painter.drawRoundedRect(shape, height / 2, height / 2);
         painter.setOpacity(share);

@@ -153,8 +153,11 @@ bool WelcomeView::eventFilter(QObject *watched, QEvent *event)
 
 void WelcomeView::keyPressEvent(QKeyEvent *event)
 {
-    const bool isBackward = event->key() == Qt::Key_Left || event->key() == Qt::Key_PageUp;
-    const bool isForward = event->key() == Qt::Key_Right || event->key() == Qt::Key_PageDown;
+    const bool isMirrored = layoutDirection() == Qt::RightToLeft;
+    const int toEarlier = isMirrored ? Qt::Key_Right : Qt::Key_Left;
+    const int toLater = isMirrored ? Qt::Key_Left : Qt::Key_Right;
+    const bool isBackward = event->key() == toEarlier || event->key() == Qt::Key_PageUp;
+    const bool isForward = event->key() == toLater || event->key() == Qt::Key_PageDown;
     // The keys for the next page do not close the guide on the last one.
     if (isBackward)
         goBack();

@@ -48,8 +48,6 @@ void ViewAllLayers::setUp()
     m_rightArrow.plate.addSublayer(m_rightArrow.caret);
 
     const QColor tint = m_theme.palette.emphasis;
-    m_leftArrow.caret.setIcon(StrokeIcon::CaretLeft, 10, 0.5, tint);
-    m_rightArrow.caret.setIcon(StrokeIcon::CaretRight, 10, 0.5, tint);
     const double side = view_all_layout::buttonSide;
     m_copyButton.setIcon(StrokeIcon::Copy, side, 1, tint);
     m_trashButton.setIcon(StrokeIcon::Trash, side, 1, tint);
@@ -69,6 +67,10 @@ void ViewAllLayers::apply(const ViewAllLayout &layout, std::span<const DropItem>
         m_tiles[i]->show(page[i], layout.tiles[i]);
     apply(m_leftArrow, layout.leftArrow);
     apply(m_rightArrow, layout.rightArrow);
+    const QColor tint = m_theme.palette.emphasis;
+    const bool isMirrored = layout.isMirrored;
+    m_leftArrow.show(isMirrored ? StrokeIcon::CaretRight : StrokeIcon::CaretLeft, tint);
+    m_rightArrow.show(isMirrored ? StrokeIcon::CaretLeft : StrokeIcon::CaretRight, tint);
     applyActions(layout);
 }
 
@@ -103,6 +105,8 @@ void ViewAllLayers::applyActions(const ViewAllLayout &layout)
                                        isChecked, view_all_layout::checkSide, scale);
                                });
     m_selectAllLabel.setFrame(layout.selectAllLabel);
+    m_selectAllLabel.setAlignment(layout.isMirrored ? Qt::AlignRight : Qt::AlignLeft);
+    m_selectAllLabel.setTextDirection(m_theme.direction);
     m_selectAllLabel.setString(layout.selectionText);
     corvane::apply(m_copyButton, layout.copyButton);
     corvane::apply(m_trashButton, layout.trashButton);

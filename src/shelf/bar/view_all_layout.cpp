@@ -3,6 +3,7 @@
 #include "core/shown_numbers.h"
 #include "platform/base/checked_math.h"
 #include "platform/base/geometry.h"
+#include "shelf/mirrored.h"
 
 #include <QCoreApplication>
 
@@ -114,6 +115,24 @@ void layOutActions(ViewAllLayout &layout, const ViewAllState &state)
     hit(layout, ViewAllControl::Trash) = grown(layout.trashButton.frame, 6, 6);
 }
 
+/// What is drawn and what answers to clicks, together.
+void mirror(ViewAllLayout &layout)
+{
+    const double width = layout.size.width();
+    layout.isMirrored = true;
+    for (ViewAllLayout::Tile &tile : layout.tiles) {
+        tile.root = mirrored(tile.root, width);
+        for (QRectF *frame : {&tile.thumb, &tile.ring, &tile.check, &tile.caption})
+            *frame = mirrored(*frame, tile.root.width());
+    }
+    for (QRectF *frame :
+         {&layout.leftArrow.frame, &layout.rightArrow.frame, &layout.selectAllBox.frame,
+          &layout.selectAllLabel, &layout.copyButton.frame, &layout.trashButton.frame})
+        *frame = mirrored(*frame, width);
+    for (QRectF &hit : layout.controlHits)
+        hit = mirrored(hit, width);
+}
+
 } // namespace
 
 int itemsPerPage(double width)
@@ -142,6 +161,8 @@ ViewAllLayout layOut(const ViewAllState &state)
     layOutTiles(layout, state);
     layOutArrows(layout, state);
     layOutActions(layout, state);
+    if (state.direction == Qt::RightToLeft)
+        mirror(layout);
     return layout;
 }
 

@@ -4,6 +4,7 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QString>
+#include <Qt>
 
 #include <array>
 #include <cstddef>
@@ -33,6 +34,8 @@ struct ViewAllState {
     /// One for each item shown, in their order.
     std::vector<Tile> tiles;
     std::optional<ViewAllControl> hoveredControl;
+    /// Which way people read.
+    Qt::LayoutDirection direction = Qt::LeftToRight;
 };
 
 /// Positions and opacities of everything in the view-all bar. In points, in the bar's coordinates:
@@ -68,6 +71,7 @@ struct ViewAllLayout {
 
     QSizeF size;
     std::vector<Tile> tiles;
+    /// Back and forward; where the bar is mirrored they stand the other way round.
     Arrow leftArrow;
     Arrow rightArrow;
     Button selectAllBox;
@@ -79,6 +83,8 @@ struct ViewAllLayout {
     /// The areas that react to clicks, one for each control in the order of `allViewAllControls`.
     /// They do not overlap.
     std::array<QRectF, 5> controlHits;
+    /// For people who read from right to left: everything is where it would be seen in a mirror.
+    bool isMirrored = false;
 
     friend bool operator==(const ViewAllLayout &, const ViewAllLayout &) = default;
 };

@@ -121,6 +121,7 @@ void ViewAllTile::show(const DropItem &item, const ViewAllLayout::Tile &layout)
 
     m_caption.setFrame(layout.caption);
     m_caption.setString(item.title());
+    m_caption.setTextDirection(m_theme.titleDirection());
     m_caption.setElideMode(hasExtension(item) ? Qt::ElideMiddle : Qt::ElideRight);
 }
 

@@ -2,6 +2,7 @@
 
 #include "shelf/accessible_items.h"
 #include "shelf/bar/accessible_bar.h"
+#include "shelf/drawing/theme.h"
 #include "shelf/optional_callback.h"
 
 #include <QPainter>
@@ -91,6 +92,7 @@ void ViewAllView::relayout()
     state.selectedCount = m_selection ? static_cast<int>(m_selection->size()) : 0;
     state.offset = m_offset;
     state.hoveredControl = m_hoveredControl;
+    state.direction = m_context.theme.direction;
     for (const DropItem &item : page())
         state.tiles.push_back({isSelected(item), m_hovered == item.id()});
     m_layout = view_all_layout::layOut(state);

@@ -153,8 +153,9 @@ void ViewAllView::scrollWheel(const ScrollEvent &event)
     if (itemCount() <= itemsPerPage())
         return;
     const double step = event.hasPreciseDeltas ? preciseScrollStep : wheelScrollStep;
+    // What lies to the right is earlier where the bar is mirrored.
     if (std::abs(event.deltaX) >= step)
-        call(onScroll, event.deltaX > 0 ? -1 : 1);
+        call(onScroll, (event.deltaX > 0) != m_layout.isMirrored ? -1 : 1);
 }
 
 bool ViewAllView::keyDown(const KeyEvent &event)

@@ -6,9 +6,23 @@
 #include <QFontMetricsF>
 #include <QPainter>
 
+#include <algorithm>
 #include <cmath>
 
 namespace corvane {
+
+namespace {
+
+bool hasLettersFromRightToLeft(const QString &line)
+{
+    const auto characters = line.toUcs4();
+    return std::ranges::any_of(characters, [](char32_t character) {
+        const QChar::Direction direction = QChar::direction(character);
+        return direction == QChar::DirR || direction == QChar::DirAL || direction == QChar::DirAN;
+    });
+}
+
+} // namespace
 
 void TextLayer::invalidate()
 {
@@ -48,6 +62,14 @@ void TextLayer::setAlignment(Qt::Alignment alignment)
     invalidate();
 }
 
+void TextLayer::setTextDirection(Qt::LayoutDirection direction)
+{
+    if (direction == m_direction)
+        return;
+    m_direction = direction;
+    invalidate();
+}
+
 void TextLayer::setElideMode(Qt::TextElideMode mode)
 {
     if (mode == m_elideMode)
@@ -70,6 +92,8 @@ QImage TextLayer::rasterized(double width, double height, double scale) const
         x = (width - advance) / 2;
     else if (m_alignment & Qt::AlignRight)
         x = width - advance;
+    const bool runsFromLeft = m_direction == Qt::LeftToRight || !hasLettersFromRightToLeft(line);
+    painter.setLayoutDirection(runsFromLeft ? Qt::LeftToRight : m_direction);
     // Baselines on whole pixels keep the letters sharp.
     const double baseline = (height + metrics.ascent() - metrics.descent()) / 2;
     painter.drawText(QPointF(std::round(x * scale) / scale, std::round(baseline * scale) / scale),

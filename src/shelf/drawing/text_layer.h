@@ -23,7 +23,12 @@ public:
     void setColor(const QColor &color);
     Qt::Alignment alignment() const { return m_alignment; }
     void setAlignment(Qt::Alignment alignment);
-    /// Where a line that does not fit is cut; its right end unless set.
+    Qt::LayoutDirection textDirection() const { return m_direction; }
+    /// How a line runs that has letters from right to left: as its first letter does for
+    /// `LayoutDirectionAuto`. Others run from left to right, so that the dots and brackets of names
+    /// stay at their ends.
+    void setTextDirection(Qt::LayoutDirection direction);
+    /// Where a line that does not fit is cut; its end unless set.
     Qt::TextElideMode elideMode() const { return m_elideMode; }
     void setElideMode(Qt::TextElideMode mode);
 
@@ -38,6 +43,7 @@ private:
     QFont m_font;
     QColor m_color = Qt::white;
     Qt::Alignment m_alignment = Qt::AlignLeft;
+    Qt::LayoutDirection m_direction = Qt::LeftToRight;
     Qt::TextElideMode m_elideMode = Qt::ElideRight;
     // The text is drawn once to a bitmap, which is then moved by whole pixels and so stays sharp.
     mutable QImage m_bitmap;

@@ -52,6 +52,16 @@ struct Theme {
 
     Palette palette;
     Typography typography;
+    /// Which way people read. Where that is from right to left, shelf and bar are laid out
+    /// mirrored; pictures are not.
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+
+    /// How a text of other programs runs, such as a title: as its letters do, or, as described for
+    /// people who read from left to right, from left to right.
+    Qt::LayoutDirection titleDirection() const
+    {
+        return direction == Qt::RightToLeft ? Qt::LayoutDirectionAuto : direction;
+    }
 };
 
 } // namespace corvane

@@ -1,6 +1,8 @@
 #include "app/base/session_texts.h"
 #include "app/look/text_label.h"
+#include "app/look/window_look.h"
 #include "app/welcome/illustration_view.h"
+#include "app/welcome/page_indicator.h"
 #include "app/welcome/welcome_illustration.h"
 #include "app/welcome/welcome_scene.h"
 #include "app/welcome/welcome_shapes.h"
@@ -150,6 +152,29 @@ TEST_F(WelcomeWindowTest, ItIsReadWithTheKeyboardAlone)
     EXPECT_EQ(controller->view().step(), 1);
     typeKey(window(), Qt::Key_Escape);
     EXPECT_EQ(closed, 1);
+}
+
+TEST_F(WelcomeWindowTest, FromRightToLeftArrowKeysAndPageIndicatorTurnRound)
+{
+    window().present();
+    ASSERT_TRUE(activate(window()));
+    auto *indicator = window().findChild<PageIndicator *>();
+    ASSERT_NE(indicator, nullptr);
+    // The first step's dot is nearly as long as half of the indicator.
+    const auto isAccentAt = [indicator](double share) {
+        const QImage picture = indicator->grab().toImage();
+        return picture.pixelColor(qRound(picture.width() * share), picture.height() / 2)
+            == WindowLook::accent(indicator->palette());
+    };
+    EXPECT_TRUE(isAccentAt(0.22));
+    EXPECT_FALSE(isAccentAt(0.78));
+    window().setLayoutDirection(Qt::RightToLeft);
+    EXPECT_FALSE(isAccentAt(0.22));
+    EXPECT_TRUE(isAccentAt(0.78));
+    typeKey(window(), Qt::Key_Left);
+    EXPECT_EQ(controller->view().step(), 1);
+    typeKey(window(), Qt::Key_Right);
+    EXPECT_EQ(controller->view().step(), 0);
 }
 
 TEST_F(WelcomeWindowTest, TheBackButtonThatGoesAwayLeavesTheKeyboardToNext)

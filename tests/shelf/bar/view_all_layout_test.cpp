@@ -29,6 +29,41 @@ QRectF hitOf(const ViewAllLayout &layout, ViewAllControl control)
 
 } // namespace
 
+TEST(ViewAllLayout, fromRightToLeftEverythingIsWhereAMirrorShowsIt)
+{
+    ViewAllState given = state(600, 20, 4, 2);
+    const ViewAllLayout usual = layOut(given);
+    given.direction = Qt::RightToLeft;
+    const ViewAllLayout layout = layOut(given);
+    EXPECT_FALSE(usual.isMirrored);
+    EXPECT_TRUE(layout.isMirrored);
+    const auto isMirrored = [&](const QRectF &one, const QRectF &other) {
+        return one.left() + other.right() == 600 && one.size() == other.size()
+            && one.y() == other.y();
+    };
+    ASSERT_EQ(layout.tiles.size(), usual.tiles.size());
+    for (std::size_t i = 0; i < usual.tiles.size(); ++i) {
+        const ViewAllLayout::Tile &tile = layout.tiles[i];
+        const ViewAllLayout::Tile &other = usual.tiles[i];
+        const auto inBar = [](const QRectF &frame, const ViewAllLayout::Tile &in) {
+            return frame.translated(in.root.topLeft());
+        };
+        EXPECT_TRUE(isMirrored(tile.root, other.root));
+        EXPECT_TRUE(isMirrored(inBar(tile.thumb, tile), inBar(other.thumb, other)));
+        EXPECT_TRUE(isMirrored(inBar(tile.ring, tile), inBar(other.ring, other)));
+        EXPECT_TRUE(isMirrored(inBar(tile.check, tile), inBar(other.check, other)));
+        EXPECT_TRUE(isMirrored(inBar(tile.caption, tile), inBar(other.caption, other)));
+    }
+    EXPECT_TRUE(isMirrored(layout.leftArrow.frame, usual.leftArrow.frame));
+    EXPECT_TRUE(isMirrored(layout.rightArrow.frame, usual.rightArrow.frame));
+    EXPECT_TRUE(isMirrored(layout.selectAllBox.frame, usual.selectAllBox.frame));
+    EXPECT_TRUE(isMirrored(layout.selectAllLabel, usual.selectAllLabel));
+    EXPECT_TRUE(isMirrored(layout.copyButton.frame, usual.copyButton.frame));
+    EXPECT_TRUE(isMirrored(layout.trashButton.frame, usual.trashButton.frame));
+    for (const ViewAllControl control : allViewAllControls)
+        EXPECT_TRUE(isMirrored(hitOf(layout, control), hitOf(usual, control)));
+}
+
 TEST(ViewAllLayout, aPageHoldsWhatFitsBetweenTheArrows)
 {
     EXPECT_EQ(itemsPerPage(600), 5);

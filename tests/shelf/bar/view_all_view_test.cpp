@@ -615,6 +615,19 @@ TEST_F(ViewAllViewTest, scrollingDoesNotAccumulate)
     EXPECT_EQ(log, QStringList());
 }
 
+TEST_F(ViewAllViewTest, fromRightToLeftTheWheelGoesWhereItPoints)
+{
+    desk.theme.direction = Qt::RightToLeft;
+    show(20, 4);
+    scroll(-5);
+    scroll(34, true);
+    click({25, 80});
+    click({575, 80});
+    EXPECT_EQ(log,
+              (QStringList{QStringLiteral("scroll -1"), QStringLiteral("scroll 1"),
+                           QStringLiteral("scroll 1"), QStringLiteral("scroll -1")}));
+}
+
 TEST_F(ViewAllViewTest, aSinglePageDoesNotScroll)
 {
     show(5);
