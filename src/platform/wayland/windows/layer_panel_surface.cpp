@@ -85,13 +85,19 @@ PanelSpace LayerPanelSurface::fit(QWindow &window, Panel &panel)
     const QRect space = layer_space::around(panel.frame, whole, panel.space);
     if (space != panel.space || space.size() != window.size()) {
         panel.space = space;
-        const QPoint origin = screen ? screen->geometry().topLeft() : QPoint();
-        window.setGeometry(space.translated(origin));
+        window.setGeometry(geometryOf(panel));
         // Counts from the next frame on, which has the new size.
         if (panel.surface)
             panel.surface->setArea(space);
     }
     return {space.size(), panel.frame.topLeft() - space.topLeft()};
+}
+
+/// Among all screens.
+QRect LayerPanelSurface::geometryOf(const Panel &panel)
+{
+    const QScreen *const screen = screenFor(panel);
+    return panel.space.translated(screen ? screen->geometry().topLeft() : QPoint());
 }
 
 QScreen *LayerPanelSurface::screenFor(const Panel &panel)
@@ -124,6 +130,9 @@ void LayerPanelSurface::hangUp(QWindow &window, Panel &panel)
     QScreen *const screen = screenFor(panel);
     if (screen)
         window.setScreen(screen);
+    // A hidden window's geometry goes with its surface, and newer versions of Qt stretch what is
+    // painted to the size that the window believes to have.
+    window.setGeometry(geometryOf(panel));
     window.create();
     panel.surface = std::make_unique<LayerSurface>(
         m_connection, window,

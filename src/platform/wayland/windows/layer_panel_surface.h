@@ -77,6 +77,7 @@ private:
     PanelSpace fit(QWindow &window, Panel &panel);
     void hangUp(QWindow &window, Panel &panel);
     void showAnew(QWindow &window);
+    static QRect geometryOf(const Panel &panel);
     static QScreen *screenFor(const Panel &panel);
 
     WaylandConnection &m_connection;
