@@ -34,7 +34,8 @@ echo "$DISPLAY" > "$CORVANE_KWIN_DISPLAY.new" && mv "$CORVANE_KWIN_DISPLAY.new" 
 exec swaybg -c "#336699"
 )";
 
-// A line for each window that comes or changes, and for each that goes.
+// A line for each window that comes or changes, and for each that goes. What KWin 5 called clients
+// are windows from KWin 6 on.
 constexpr auto teller = R"(
 var numbers = {};
 var next = 1;
@@ -49,9 +50,9 @@ function follow(window) {
     tell(window);
     window.frameGeometryChanged.connect(function() { tell(window); });
 }
-workspace.clientList().forEach(follow);
-workspace.clientAdded.connect(follow);
-workspace.clientRemoved.connect(function(window) {
+(workspace.windowList || workspace.clientList)().forEach(follow);
+(workspace.windowAdded || workspace.clientAdded).connect(follow);
+(workspace.windowRemoved || workspace.clientRemoved).connect(function(window) {
     print("window " + JSON.stringify({number: numbers[window.internalId], gone: true}));
 });
 print("telling");
@@ -59,7 +60,7 @@ print("telling");
 
 // Windows are known here by what they are and where they stand.
 constexpr auto mover = R"(
-workspace.clientList().forEach(function(window) {
+(workspace.windowList || workspace.clientList)().forEach(function(window) {
     var place = window.frameGeometry;
     if (window.pid == %1 && place.x == %2 && place.y == %3)
         window.frameGeometry = {x: %4, y: %5, width: %6, height: %7};
@@ -77,7 +78,7 @@ NestedKwin::NestedKwin(XServer &screen, const QProcessEnvironment &environment, 
         m_environment.remove(name);
     // It is painted without a graphics card, and what its scripts print is shown.
     m_environment.insert(u"KWIN_COMPOSE"_s, u"Q"_s);
-    m_environment.insert(u"QT_LOGGING_RULES"_s, u"js.debug=true"_s);
+    m_environment.insert(u"QT_LOGGING_RULES"_s, u"js.debug=true;kwin_scripting.debug=true"_s);
     m_environment.insert(u"CORVANE_KWIN_DISPLAY"_s, m_folder.filePath(u"display"_s));
     if (!prepare(screen)) {
         m_problem = u"kwin_wayland cannot be copied, or its settings cannot be written"_s;
