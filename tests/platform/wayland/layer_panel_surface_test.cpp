@@ -75,6 +75,17 @@ TEST_F(LayerPanelSurfaceTest, aHiddenPanelGetsNoMoreRoomThanItsNextPlaceNeeds)
     EXPECT_EQ(space.window.width(), 292 + 2 * layer_space::roomAside);
 }
 
+// As Qt does for windows that are hidden, and it shows what is painted in the size that they have.
+TEST_F(LayerPanelSurfaceTest, aPanelIsShownAsLargeAsItWasPlacedWhateverItsWindowBecameMeanwhile)
+{
+    const PanelSpace space = surface.place(window, {.screen = screen, .size = QSizeF(292, 56)});
+    const QRect placed = window.geometry();
+    ASSERT_EQ(placed.size(), space.window);
+    window.setGeometry(0, 0, 500, 500);
+    surface.willShow(window);
+    EXPECT_EQ(window.geometry(), placed);
+}
+
 TEST_F(LayerPanelSurfaceTest, aPanelWithoutAScreenOrOnOneThatIsGoneIsOnTheMainOne)
 {
     for (const ScreenPointer &nowhere : {ScreenPointer(), screenAt(origin() + QPoint(9000, 0))}) {
