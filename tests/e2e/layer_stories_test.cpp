@@ -206,6 +206,43 @@ TEST_P(LayerSession, theKeyboardGoesBackWhenThePointerLeavesTheShelf)
     EXPECT_TRUE(corvane().isShown());
 }
 
+/// KWin gives the keyboard to whatever a drag enters, and to its owner again when that goes away.
+TEST_P(LayerSession, aDragThatPassesOverTheShelfLeavesTheKeyboardWhereItWas)
+{
+    start();
+    keep(makeFile(u"report.txt"_s, "report"));
+    GtkPeer source(m_desktop, {.text = u"text"_s}, leftPlace());
+    ASSERT_EQ(source.problem(), QString());
+    hands().beginDrag(source.source(), edge());
+    ASSERT_NO_FATAL_FAILURE(holdOverShelf());
+    hands().glideTo(besideTheShelf());
+    hands().release();
+    EXPECT_TRUE(eventually([&] {
+        hands().key('k');
+        return source.keys().contains("k");
+    })) << "keys are typed somewhere else";
+    EXPECT_TRUE(corvane().isShown());
+}
+
+TEST_P(LayerSessionWithoutXWayland, aDragThatTouchesTheEdgeLeavesTheKeyboardWhereItWas)
+{
+    GtkPeer source(m_desktop, {.text = u"text"_s}, leftPlace());
+    ASSERT_EQ(source.problem(), QString());
+    start();
+    hands().beginDrag(source.source(), edge());
+    hands().glideTo(edge() + QPoint(0, 20));
+    // Away again before the shelf is there.
+    hands().moveTo(edge());
+    hands().moveTo(besideTheShelf());
+    hands().release();
+    ASSERT_TRUE(corvane().waitUntilShown());
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    EXPECT_TRUE(eventually([&] {
+        hands().key('k');
+        return source.keys().contains("k");
+    })) << "keys are typed somewhere else";
+}
+
 TEST_P(LayerSessionWithoutXWayland, aDragAtTheEdgeOpensTheShelfThatTakesIt)
 {
     const QString file = makeFile(u"report.txt"_s, "report");

@@ -27,6 +27,8 @@ protected:
     /// In the middle of the top edge, and next to it.
     QPoint edge() { return {server().size().width() / 2, 0}; }
     QPoint belowEdge() { return edge() + QPoint(0, 200); }
+    /// On the wallpaper, with nothing on the way there from the shelf.
+    QPoint besideTheShelf() { return edge() + QPoint(400, 100); }
 
     /// With a drag in the hand, away from where the shelf opens.
     void dropWhereTheShelfOpens(GtkPeer &source)

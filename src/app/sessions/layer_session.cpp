@@ -57,6 +57,9 @@ void LayerSession::wireDrags()
     dropSupport.onDropped = [this] { quiet.dragWatch.droppedOnPanel(); };
     dropSupport.onPointer = [this] { quiet.dragWatch.pointerIsFree(); };
     dropSupport.isOwnDrag = [this] { return dragCarrier.isCarrying(); };
+    // It may have been given the keyboard there.
+    dropSupport.onLeft = [this] { panels.returnKeyboard(); };
+    quiet.edgeStrips.onDragLeft = [this] { panels.returnKeyboard(); };
 }
 
 void LayerSession::tellAbilities()

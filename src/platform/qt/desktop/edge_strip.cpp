@@ -62,6 +62,8 @@ void EdgeStrip::dragIsGone()
     m_hasDrag = false;
     if (m_isRetired)
         end();
+    else if (const auto tell = m_events.dragWent)
+        tell();
 }
 
 bool EdgeStrip::eventFilter(QObject * /*watched*/, QEvent *event)

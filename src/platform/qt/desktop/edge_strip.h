@@ -23,6 +23,7 @@ public:
         std::function<void()> pointerCame;
         std::function<void()> pointerWent;
         std::function<void(bool isOwn)> dragEntered;
+        std::function<void()> dragWent;
     };
     enum class Entering {
         Counts,

@@ -116,7 +116,12 @@ EdgeStrip *EdgeStrips::makeStrip(const EdgeStretch &stretch)
     return new EdgeStrip(std::move(window), entering,
                          {.pointerCame = [this, at = stretch.screen] { pointerCame(at); },
                           .pointerWent = [this] { pointerWent(); },
-                          .dragEntered = dragEntered});
+                          .dragEntered = dragEntered,
+                          .dragWent =
+                              [this] {
+                                  if (const auto tell = onDragLeft)
+                                      tell();
+                              }});
 }
 
 void EdgeStrips::pointerCame(const ScreenPointer &screen)

@@ -41,6 +41,8 @@ public:
     /// Something is dragged over a strip of that screen; it may be our own. None where the screen
     /// is just going.
     std::function<void(const ScreenPointer &screen, bool isOwn)> onDragEntered;
+    /// What was dragged over a strip went away from it. May be left empty, as the others.
+    std::function<void()> onDragLeft;
     /// The pointer came to a strip with nothing dragged.
     std::function<void(const ScreenPointer &screen)> onPointer;
 

@@ -36,7 +36,7 @@ struct WaylandDropSupport::Listeners {
     {
         of(data).enter(serial, surface, point(x, y), offer);
     }
-    static void leave(void *data, wl_data_device *) { of(data).leave(); }
+    static void leave(void *data, wl_data_device *) { of(data).left(); }
     static void motion(void *data, wl_data_device *, std::uint32_t, wl_fixed_t x, wl_fixed_t y)
     {
         if (auto &hover = of(data).m_hover)
@@ -271,6 +271,14 @@ void WaylandDropSupport::leave()
 {
     m_hover.reset();
     m_drag.reset();
+}
+
+void WaylandDropSupport::left()
+{
+    const bool wasHere = m_drag != nullptr;
+    leave();
+    if (wasHere && onLeft)
+        onLeft();
 }
 
 void WaylandDropSupport::drop()

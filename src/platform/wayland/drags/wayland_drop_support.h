@@ -57,6 +57,8 @@ public:
     void expect();
     /// What is over a panel was let go there. Told before it is no longer over it.
     std::function<void()> onDropped;
+    /// What is dragged went away from a panel, or is no longer dragged.
+    std::function<void()> onLeft;
     /// The pointer came to a panel with nothing that is dragged.
     std::function<void()> onPointer;
     /// Whether what comes to our windows is dragged by ourselves. May be left empty.
@@ -85,6 +87,7 @@ private:
     DropHover::Panel panelOf(QWindow &window);
     void enter(std::uint32_t serial, wl_surface *surface, QPointF at, wl_data_offer *offer);
     void leave();
+    void left();
     void drop();
 
     WaylandConnection &m_connection;

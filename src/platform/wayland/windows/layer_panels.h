@@ -36,6 +36,13 @@ struct LayerPanels {
             surface.onKeyboardLeftBehind = [this] { keyboardReturn.start(); };
     }
 
+    /// Where the compositor leaves the keyboard with what of ours a drag came to.
+    void returnKeyboard()
+    {
+        if (const auto &leftBehind = surface.onKeyboardLeftBehind)
+            leftBehind();
+    }
+
     PanelDesktop desktop() { return {surface, keyboard, compositing, pointingDevices}; }
 
     LayerPanelSurface surface;

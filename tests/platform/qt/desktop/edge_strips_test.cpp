@@ -66,6 +66,7 @@ struct EdgeStripsTest : testing::Test {
             log << (isOwn ? QStringLiteral("own drag") : QStringLiteral("drag"));
             EXPECT_EQ(at, screen);
         };
+        strips.onDragLeft = [this] { log << QStringLiteral("drag left"); };
     }
 
     ScreenPointer attach(QPoint topLeft)
@@ -258,6 +259,16 @@ TEST_F(EdgeStripsTest, stayUntilWhatIsDraggedOverThemHasLeft)
     EXPECT_EQ(taken(), QStringList());
     dragAway(strip);
     EXPECT_TRUE(shown().isEmpty());
+}
+
+TEST_F(EdgeStripsTest, tellThatWhatIsDraggedHasLeft)
+{
+    strips.watchDrags(true);
+    QWindow &strip = *shown().first();
+    dragTo(strip);
+    taken();
+    dragAway(strip);
+    EXPECT_EQ(taken(), QStringList{QStringLiteral("drag left")});
 }
 
 TEST_F(EdgeStripsTest, endWithTheSessionWhateverIsDraggedOverThem)
