@@ -108,6 +108,42 @@ TEST_P(WaylandSession, aDragThatEndsElsewhereClosesTheShelfAgain)
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
+TEST_P(WaylandSession, pointersSelectionsAndWindowsThatMoveDoNotOpenTheShelf)
+{
+    // Words to be selected in place of its target.
+    GtkPeer peer(m_desktop,
+                 {.text = u"text"_s,
+                  .habits = u"entry = Gtk.Entry(text='many words to be selected')\n"
+                            "box.remove(target)\n"
+                            "box.pack_start(entry, True, True, 0)\n"
+                            "entry.show()"_s},
+                 leftPlace());
+    ASSERT_EQ(peer.problem(), QString());
+    start();
+    const auto moveAround = [&] {
+        hands().glideTo(edge());
+        hands().glideTo(peer.target());
+    };
+    const auto isStillHidden = [&] { return corvane().waitUntilReady() && !corvane().isShown(); };
+    moveAround();
+    EXPECT_TRUE(isStillHidden());
+    hands().beginDrag(peer.target(), leftPlace().topLeft());
+    moveAround();
+    hands().release();
+    EXPECT_TRUE(isStillHidden());
+    hands().moveTo(peer.target());
+    hands().keyDown(keys::super);
+    hands().press();
+    hands().moveBy({8, 0});
+    moveAround();
+    hands().release();
+    hands().keyUp(keys::super);
+    EXPECT_TRUE(isStillHidden());
+
+    hands().beginDrag(peer.source(), edge());
+    EXPECT_TRUE(corvane().waitUntilShown());
+}
+
 TEST_P(WaylandSession, aLongSlowDragFindsTheShelfAgainAtTheEdge)
 {
     const QString file = makeFile(u"report.txt"_s, "report");
