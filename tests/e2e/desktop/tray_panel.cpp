@@ -136,7 +136,11 @@ NotifierPanel::NotifierPanel(XDesktop &desktop)
   </property>
 </channel>
 )");
-    m_program = desktop.start(u"xfce4-panel"_s, {u"--disable-wm-check"_s});
+    // It is a program of X11 in every session.
+    QProcessEnvironment environment = desktop.environment();
+    environment.insert(u"GDK_BACKEND"_s, u"x11"_s);
+    m_program = std::make_unique<Program>(u"xfce4-panel"_s, QStringList{u"--disable-wm-check"_s},
+                                          environment, environment.value(u"HOME"_s));
 }
 
 NotifierPanel::~NotifierPanel()
