@@ -79,6 +79,28 @@ protected:
         }));
     }
 
+    /// On a desktop of these two outputs side by side.
+    void expectTheShelfOnlyWhereADragComesToTheEdge(const QRect &left, const QRect &right)
+    {
+        start();
+        GtkPeer source(m_desktop, {.text = QStringLiteral("text")},
+                       {right.left() + 60, 400, 400, 200});
+        ASSERT_EQ(source.problem(), QString());
+        const auto look = [this](const QRect &output) {
+            return server().picture({QPoint(output.center().x(), 20), QSize(1, 1)}).pixel(0, 0);
+        };
+        const QRgb bare = look(left);
+        const auto isShownOn = [&](const QRect &output) { return look(output) != bare; };
+        // The end of the drag is assumed first, so that there is a strip on each output.
+        hands().beginDrag(source.source(), right.center());
+        ASSERT_TRUE(eventually([&] { return isShownOn(left) || isShownOn(right); }));
+        ASSERT_TRUE(eventually([&] { return !isShownOn(left) && !isShownOn(right); }));
+        hands().glideTo({right.center().x(), 0});
+        wiggleUntil([&] { return isShownOn(right); });
+        EXPECT_FALSE(isShownOn(left));
+        hands().release();
+    }
+
     void keep(const QString &file)
     {
         GtkPeer source(m_desktop, {.files = {file}}, leftPlace());

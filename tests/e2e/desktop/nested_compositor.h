@@ -24,6 +24,8 @@ public:
         double scale = 1;
         /// Keeps an X server for X11's programs.
         bool hasXWayland = true;
+        /// Side by side, of one size; sway has one, and others that are plugged in.
+        int outputs = 1;
 
         friend bool operator==(const Kind &, const Kind &) = default;
     };

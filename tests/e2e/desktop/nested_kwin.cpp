@@ -85,7 +85,8 @@ NestedKwin::NestedKwin(XServer &screen, const QProcessEnvironment &environment, 
         return;
     }
     // Asked for in points.
-    const QSizeF size = QSizeF(screen.size()) / kind.scale;
+    const QSize output(screen.size().width() / kind.outputs, screen.size().height());
+    const QSizeF size = QSizeF(output) / kind.scale;
     QStringList arguments{u"--no-lockscreen"_s,
                           u"--x11-display"_s,
                           display,
@@ -96,7 +97,9 @@ NestedKwin::NestedKwin(XServer &screen, const QProcessEnvironment &environment, 
                           u"--height"_s,
                           QString::number(std::round(size.height())),
                           u"--scale"_s,
-                          QString::number(kind.scale)};
+                          QString::number(kind.scale),
+                          u"--output-count"_s,
+                          QString::number(kind.outputs)};
     if (kind.hasXWayland)
         arguments << u"--xwayland"_s;
     arguments << m_folder.filePath(u"first-program"_s);
@@ -105,6 +108,7 @@ NestedKwin::NestedKwin(XServer &screen, const QProcessEnvironment &environment, 
     const bool isUp = eventually([this] {
         return QFile::exists(m_folder.filePath(u"display"_s)) || !m_program->isRunning();
     });
+    placeOutputs(screen, output);
     if (!isUp || !m_program->isRunning() || !showsWallpaper(screen, {{}, screen.size()})
         || !run(teller)
         || !eventually([this] { return m_program->output().contains("telling"); })) {
@@ -114,6 +118,19 @@ NestedKwin::NestedKwin(XServer &screen, const QProcessEnvironment &environment, 
     QFile file(m_folder.filePath(u"display"_s));
     if (kind.hasXWayland && file.open(QFile::ReadOnly))
         m_display = QString::fromLatin1(file.readAll().trimmed());
+}
+
+/// Each is a window of the X server.
+void NestedKwin::placeOutputs(XServer &screen, QSize size)
+{
+    uint32_t x = 0;
+    for (const WindowFacts &window : screen.windows()) {
+        if (window.frame.size() != size)
+            continue;
+        xcb_configure_window(screen.connection(), window.id, XCB_CONFIG_WINDOW_X, &x);
+        x += static_cast<uint32_t>(size.width());
+    }
+    xcb_flush(screen.connection());
 }
 
 bool NestedKwin::prepare(XServer &screen)

@@ -25,6 +25,7 @@ protected:
     void addOwnTo(QProcessEnvironment & /*environment*/) const override { }
 
 private:
+    static void placeOutputs(XServer &screen, QSize size);
     bool prepare(XServer &screen);
     bool writeFile(const QString &name, const QByteArray &contents) const;
     /// Runs a script within the compositor.

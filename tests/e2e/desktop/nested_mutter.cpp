@@ -19,8 +19,10 @@ constexpr auto displayTeller
 
 NestedMutter::NestedMutter(XServer &screen, QProcessEnvironment environment, const Kind &kind)
 {
-    environment.insert(u"MUTTER_DEBUG_DUMMY_MODE_SPECS"_s,
-                       u"%1x%2@60"_s.arg(screen.size().width()).arg(screen.size().height()));
+    environment.insert(
+        u"MUTTER_DEBUG_DUMMY_MODE_SPECS"_s,
+        u"%1x%2@60"_s.arg(screen.size().width() / kind.outputs).arg(screen.size().height()));
+    environment.insert(u"MUTTER_DEBUG_NUM_DUMMY_MONITORS"_s, QString::number(kind.outputs));
     environment.insert(u"MUTTER_DEBUG_DUMMY_MONITOR_SCALES"_s, QString::number(kind.scale));
     QStringList arguments{u"--wayland"_s, u"--nested"_s, u"--wayland-display"_s, socket()};
     m_program = std::make_unique<Program>(u"mutter"_s,

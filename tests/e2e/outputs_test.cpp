@@ -76,25 +76,33 @@ TEST_F(SwayOutputs, theShelfOpensOnTheOutputWhoseEdgeADragCameTo)
     sway().unplug(server());
     ASSERT_TRUE(sway().plug(server(), left));
     ASSERT_TRUE(sway().plug(server(), right));
-    start();
-    GtkPeer source(m_desktop, {.text = u"text"_s}, {810, 400, 400, 200});
-    ASSERT_EQ(source.problem(), QString());
-
-    // The end of the drag is assumed first, so that there is a strip on each output.
-    hands().beginDrag(source.source(), right.center());
-    const auto isShownOn = [this](const QRect &output) {
-        return server().picture(output).pixel(output.width() / 2, 20) != NestedSway::wallpaper;
-    };
-    ASSERT_TRUE(eventually([&] { return isShownOn(left) || isShownOn(right); }));
-    ASSERT_TRUE(eventually([&] { return !isShownOn(left) && !isShownOn(right); }));
-    hands().glideTo({right.center().x(), 0});
-    wiggleUntil([&] { return isShownOn(right); });
-    EXPECT_FALSE(isShownOn(left));
-    hands().release();
+    expectTheShelfOnlyWhereADragComesToTheEdge(left, right);
 
     sway().unplug(server());
     sway().unplug(server());
     ASSERT_TRUE(sway().plug(server(), whole()));
+}
+
+/// On desktops that have two from the beginning.
+class WaylandOutputs : public WaylandSession { };
+
+DesktopKind twoOutputs(WindowManager compositor)
+{
+    return {.windowManager = compositor,
+            .compositor = Compositor::None,
+            .size = {1500, 900},
+            .nested = {.outputs = 2}};
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, WaylandOutputs,
+                         testing::Values(twoOutputs(WindowManager::KWin),
+                                         twoOutputs(WindowManager::Mutter)),
+                         nameOf);
+
+TEST_P(WaylandOutputs, theShelfOpensOnTheOutputWhoseEdgeADragCameTo)
+{
+    const QSize half(server().size().width() / 2, server().size().height());
+    expectTheShelfOnlyWhereADragComesToTheEdge(QRect({}, half), QRect({half.width(), 0}, half));
 }
 
 } // namespace
