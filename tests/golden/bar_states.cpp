@@ -5,6 +5,7 @@
 #include "golden/sample_items.h"
 #include "shelf/bar/view_all_view.h"
 
+#include <QGuiApplication>
 #include <QLinearGradient>
 
 namespace corvane::test {
@@ -17,6 +18,7 @@ public:
 
     explicit BarStage(double width = usualWidth)
     {
+        desk.theme.direction = QGuiApplication::layoutDirection();
         desk.panel.setFrame({0, 0, width, view_all_layout::barHeight});
     }
 
@@ -201,6 +203,14 @@ const std::vector<PanelState> &barStates()
         {"view-all-all-ticked", bar(showAllTickedWithBoxHovered), {}},
         {"view-all-first-page", bar(showFirstPageWithForwardHovered, narrowWidth), {}},
         {"view-all-middle-page", bar(showMiddlePageWithCopyHovered, narrowWidth), {}},
+    };
+    return states;
+}
+
+const std::vector<PanelState> &barStatesWithTexts()
+{
+    static const std::vector<PanelState> states{
+        {"view-all", bar(showFirstPageWithForwardHovered, narrowWidth), {{light, 1}}},
     };
     return states;
 }

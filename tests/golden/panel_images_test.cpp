@@ -1,11 +1,13 @@
 // Pictures of the shelf and of the view-all bar, on a light or a dark wallpaper, at several scales.
 
+#include "app/base/translations.h"
 #include "fakes/shelf_desk.h"
 #include "golden/golden.h"
 #include "golden/panel_stage.h"
 #include "golden/sample_items.h"
 #include "shelf/bar/view_all_view.h"
 
+#include <QLocale>
 #include <QPainter>
 
 #include <gtest/gtest.h>
@@ -29,6 +31,25 @@ TEST_P(PanelImages, AreAsKept)
 
 INSTANTIATE_TEST_SUITE_P(EveryState, PanelImages, testing::ValuesIn(picturedPanelStates()),
                          [](const auto &given) { return testName(given.param.name); });
+
+TEST(PanelTexts, AreAsKeptInOtherLanguages)
+{
+    const QLocale before;
+    for (const char *language : {"de", "ar", "ja"}) {
+        const QString name = QString::fromLatin1(language);
+        const Translations translations({name});
+        QLocale::setDefault(QLocale(name));
+        for (const auto &states : {shelfStatesWithTexts(), barStatesWithTexts()}) {
+            for (const PanelState &state : states) {
+                const PanelState::Shot &shot = state.shots.front();
+                EXPECT_TRUE(matchesGoldenImage(
+                    name + u'-' + state.fileName(shot),
+                    state.make(TextWidths::Measured)->picture(shot.wallpaper, shot.scale)));
+            }
+        }
+    }
+    QLocale::setDefault(before);
+}
 
 TEST(DragImages, SeveralItemsAreDraggedAsAStackWithTheirCount)
 {

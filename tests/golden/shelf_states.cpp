@@ -1,10 +1,14 @@
 // The states of the shelf of which pictures or layers are kept.
 
+#include "core/byte_count.h"
+#include "core/item_description.h"
+#include "core/message.h"
 #include "fakes/shelf_desk.h"
 #include "golden/panel_stage.h"
 #include "golden/sample_items.h"
 #include "platform/qt/pictures/qt_text_measurer.h"
 
+#include <QGuiApplication>
 #include <QLinearGradient>
 
 namespace corvane::test {
@@ -17,6 +21,7 @@ public:
         : desk(QFont(QStringLiteral("Inter")), widths == TextWidths::Measured ? &measurer : nullptr)
         , view(desk.context())
     {
+        desk.theme.direction = QGuiApplication::layoutDirection();
         view.apply({});
     }
 
@@ -259,6 +264,41 @@ std::vector<PanelState> picturedStates()
     };
 }
 
+std::vector<PanelState> statesWithTexts()
+{
+    return {
+        {"empty", shelf([](ShelfStage &s) { s.show(waiting()); }), {{light, 1}}},
+        {"targeted",
+         shelf([](ShelfStage &s) {
+             s.show(waiting());
+             s.dragOver();
+         }),
+         {{light, 1}}},
+        {"one-item",
+         shelf([](ShelfStage &s) {
+             constexpr qint64 size = 2'410'000;
+             QList<DropItem> items = report();
+             items[0] = ShelfDesk::fileItem(items[0].title(),
+                                            QStringLiteral("PDF") % item_description::separator()
+                                                % formatByteCount(size));
+             s.show(occupied(items + sampleItems(), 1, 0));
+         }),
+         {{light, 1}}},
+        {"flash-single",
+         shelf([](ShelfStage &s) {
+             s.show(occupied(sampleItems(), 1, 0));
+             s.flash(Message{Message::Kind::SomeNotTaken, 2, 5}.text());
+         }),
+         {{light, 1}}},
+        {"flash-carousel",
+         shelf([](ShelfStage &s) {
+             s.show(occupied(sampleItems(), 3, 0));
+             s.flash(Message{Message::Kind::ItemsCopied, 3}.text());
+         }),
+         {{light, 1}}},
+    };
+}
+
 /// For those who read from right to left.
 std::vector<PanelState> mirroredStates()
 {
@@ -378,6 +418,12 @@ const std::vector<PanelState> &shelfStates()
             all.insert(all.end(), more.begin(), more.end());
         return all;
     }();
+    return states;
+}
+
+const std::vector<PanelState> &shelfStatesWithTexts()
+{
+    static const std::vector<PanelState> states = statesWithTexts();
     return states;
 }
 
