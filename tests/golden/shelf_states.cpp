@@ -344,6 +344,13 @@ std::vector<PanelState> mirroredStates()
              s.flash(QString::fromUtf8("نُسخ المسار!"));
          }),
          {{light, 2}}},
+        {"mirrored-flash-carousel",
+         shelf([](ShelfStage &s) {
+             mirror(s);
+             s.show(occupied(sampleItems(), 3, 0));
+             s.flash(QString::fromUtf8("نُسخت المسارات!"));
+         }),
+         {{light, 2}}},
     };
 }
 
