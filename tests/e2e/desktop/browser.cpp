@@ -66,9 +66,9 @@ bool Browser::isInstalled(Kind kind)
     return e2e::isInstalled(kind == Kind::Chromium ? u"chromium"_s : u"firefox-esr"_s);
 }
 
-QStringList Browser::command(Kind kind, const QString &url) const
+QStringList Browser::command(XDesktop &desktop, Kind kind, const QString &url, bool isForX11)
 {
-    const QString profile = m_desktop.path(u"home/browser"_s);
+    const QString profile = desktop.path(u"home/browser"_s);
     QDir(profile).removeRecursively();
     QDir().mkpath(profile);
     if (kind == Kind::Chromium) {
@@ -84,7 +84,7 @@ QStringList Browser::command(Kind kind, const QString &url) const
                 u"--disable-quic"_s,
                 u"--disable-dev-shm-usage"_s,
                 u"--password-store=basic"_s,
-                u"--ozone-platform=x11"_s,
+                u"--ozone-platform="_s + (isForX11 || !desktop.nested() ? u"x11"_s : u"wayland"_s),
                 u"--user-data-dir="_s + profile,
                 u"--app="_s + url};
     }
@@ -123,7 +123,7 @@ Browser::Browser(XDesktop &desktop, Kind kind, const QString &link, const QByteA
         m_problem = u"the page cannot be served: "_s + QString::fromUtf8(m_server->output());
         return;
     }
-    QStringList arguments = command(kind, address + u"/page.html"_s);
+    QStringList arguments = command(desktop, kind, address + u"/page.html"_s);
     const QString name = arguments.takeFirst();
     m_program = desktop.start(name, arguments);
     const auto window = desktop.waitForWindowOf(*m_program);

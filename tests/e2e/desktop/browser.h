@@ -10,6 +10,10 @@ public:
     enum class Kind { Chromium, Firefox };
 
     static bool isInstalled(Kind kind);
+    /// What starts one that shows that page alone, with a fresh profile: a name and arguments. In a
+    /// Wayland session one of Wayland's, unless it is to be one of X11's.
+    static QStringList command(XDesktop &desktop, Kind kind, const QString &url,
+                               bool isForX11 = false);
 
     /// `picture` is the PNG file that the page shows. A relative `link` leads to a file beside the
     /// page, in the folder `site`.
@@ -38,8 +42,6 @@ public:
     QByteArray requests() { return m_server->output(); }
 
 private:
-    QStringList command(Kind kind, const QString &url) const;
-
     /// Starts a server for the folder and gives its address; empty if that fails.
     QString serve(const QString &folder);
 
