@@ -92,7 +92,7 @@ private:
     QString m_files;
 };
 
-/// The same on every kind of desktop.
+/// The same on several kinds of desktop.
 class EveryDesktop : public DesktopTest, public testing::WithParamInterface<DesktopKind> {
 protected:
     EveryDesktop()
@@ -103,7 +103,17 @@ protected:
 
 std::string nameOf(const testing::TestParamInfo<DesktopKind> &kind);
 
+/// Of X11 and of Wayland.
 inline auto everyDesktop()
+{
+    return testing::Values(DesktopKind{WindowManager::Openbox, Compositor::Picom},
+                           DesktopKind{WindowManager::Xfwm4, Compositor::None},
+                           DesktopKind{WindowManager::Sway, Compositor::None},
+                           DesktopKind{WindowManager::KWin, Compositor::None},
+                           DesktopKind{WindowManager::Mutter, Compositor::None});
+}
+
+inline auto everyX11Desktop()
 {
     return testing::Values(DesktopKind{WindowManager::Openbox, Compositor::Picom},
                            DesktopKind{WindowManager::Openbox, Compositor::None},

@@ -20,7 +20,7 @@ QByteArray bytesOf(const QString &path)
 }
 
 using VirtualDesktop = EveryDesktop;
-INSTANTIATE_TEST_SUITE_P(, VirtualDesktop, everyDesktop(), nameOf);
+INSTANTIATE_TEST_SUITE_P(, VirtualDesktop, everyX11Desktop(), nameOf);
 
 TEST_P(VirtualDesktop, carriesAFileFromOneFileManagerWindowToAnother)
 {

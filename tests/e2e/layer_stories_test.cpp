@@ -1,4 +1,4 @@
-// The program in Wayland sessions: what its own test program cannot see, the main job above all.
+// What holds in Wayland sessions alone, beside the stories of every desktop.
 
 #include "e2e/wayland_session.h"
 
@@ -28,41 +28,6 @@ INSTANTIATE_TEST_SUITE_P(KWin, LayerSessionWithoutXWayland,
                          testing::Values(sessionOf(WindowManager::KWin, {.hasXWayland = false})),
                          nameOf);
 
-TEST_P(WaylandSession, aFileIsKeptAndGoesOnIntoAnotherProgram)
-{
-    const QString file = makeFile(u"report.txt"_s, "report");
-    GtkPeer source(m_desktop, {.files = {file}}, leftPlace());
-    ASSERT_EQ(source.problem(), QString());
-    GtkPeer target(m_desktop, {}, rightPlace());
-    ASSERT_EQ(target.problem(), QString());
-    start();
-
-    hands().beginDrag(source.source(), edge());
-    dropWhereTheShelfOpens(source);
-    EXPECT_EQ(source.endOfDrag(), "done");
-    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-
-    dragOut(target);
-    EXPECT_EQ(target.droppedAddresses().trimmed(), uriList({file}).trimmed());
-    EXPECT_TRUE(corvane().waitUntilHidden());
-}
-
-TEST_P(WaylandSession, aTextComesBackLetterForLetter)
-{
-    const QString text = u"Grüße, 你好\nzweite Zeile"_s;
-    GtkPeer source(m_desktop, {.text = text}, leftPlace());
-    ASSERT_EQ(source.problem(), QString());
-    GtkPeer target(m_desktop, {}, rightPlace());
-    ASSERT_EQ(target.problem(), QString());
-    start();
-
-    hands().beginDrag(source.source(), edge());
-    dropWhereTheShelfOpens(source);
-    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-    dragOut(target);
-    EXPECT_EQ(target.droppedText(), text.toUtf8());
-}
-
 TEST_P(WaylandSession, whatWasDroppedIsPressedAndGoesOnUnderARestingPointer)
 {
     const QString file = makeFile(u"report.txt"_s, "report");
@@ -80,32 +45,6 @@ TEST_P(WaylandSession, whatWasDroppedIsPressedAndGoesOnUnderARestingPointer)
     hands().press();
     carryTo(target);
     EXPECT_EQ(target.droppedAddresses().trimmed(), uriList({file}).trimmed());
-}
-
-TEST_P(WaylandSession, aDragThatIsRefusedElsewhereLeavesTheItemOnTheShelf)
-{
-    start();
-    keep(makeFile(u"report.txt"_s, "report"));
-    hands().beginDrag(corvane().at(38, 22), belowEdge());
-    hands().glideTo(belowEdge());
-    hands().release();
-    EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-}
-
-TEST_P(WaylandSession, aDragThatEndsElsewhereClosesTheShelfAgain)
-{
-    GtkPeer source(m_desktop, {.text = u"text"_s}, leftPlace());
-    ASSERT_EQ(source.problem(), QString());
-    GtkPeer target(m_desktop, {}, rightPlace());
-    ASSERT_EQ(target.problem(), QString());
-    start();
-    hands().beginDrag(source.source(), target.target());
-    EXPECT_TRUE(corvane().waitUntilShown());
-    hands().glideTo(target.target());
-    wiggleUntil([&] { return target.isTargetReady(); });
-    hands().release();
-    EXPECT_EQ(target.droppedText(), "text");
-    EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
 TEST_P(WaylandSession, pointersSelectionsAndWindowsThatMoveDoNotOpenTheShelf)
@@ -171,55 +110,6 @@ TEST_P(LayerSession, aPointerKeptAtTheEdgeShowsAHiddenShelfThatHoldsSomething)
     ASSERT_TRUE(corvane().waitUntilShown());
     hands().glideTo(belowEdge());
     EXPECT_TRUE(corvane().waitUntilHidden());
-}
-
-TEST_P(WaylandSession, clicksBesideTheShelfReachWhatLiesBelow)
-{
-    GtkPeer below(m_desktop, {.text = u"text"_s}, {0, 0, 1512, 300});
-    ASSERT_EQ(below.problem(), QString());
-    start();
-    // The window covers the wallpaper, so that the shelf cannot be told from it: it is asked to
-    // show itself, and the picture changes.
-    const QRect middle(600, 0, 312, 60);
-    const QImage before = m_desktop.pictureAtRest(middle);
-    EXPECT_EQ(corvane().startAgain(), 0);
-    ASSERT_TRUE(eventually([&] { return server().picture(middle) != before; }));
-    hands().click({500, 20});
-    EXPECT_TRUE(eventually([&] { return below.presses() == 1; }));
-}
-
-TEST_P(WaylandSession, keysGoToTheShelfAfterAClickOnIt)
-{
-    start();
-    keep(makeFile(u"report.txt"_s, "report"));
-    hands().click(corvane().at(38, 22));
-    // Compositors take a moment to move the keyboard after a click.
-    EXPECT_TRUE(eventually([this] {
-        hands().key(keys::backSpace);
-        return !corvane().isShown();
-    }));
-}
-
-TEST_P(WaylandSession, afterADropTheKeyboardIsWhereItWasBefore)
-{
-    GtkPeer typing(m_desktop, {}, rightPlace());
-    ASSERT_EQ(typing.problem(), QString());
-    GtkPeer source(m_desktop, {.files = {makeFile(u"report.txt"_s, "report")}}, leftPlace());
-    ASSERT_EQ(source.problem(), QString());
-    start();
-    hands().beginDrag(source.source(), edge());
-    dropWhereTheShelfOpens(source);
-    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-    // To the program that it was dragged out of, which the press has given the keyboard.
-    ASSERT_TRUE(eventually([&] {
-        hands().key('k');
-        return source.keys().contains("k");
-    })) << "keys are typed somewhere else";
-    hands().click(typing.target());
-    ASSERT_TRUE(eventually([&] {
-        hands().key('l');
-        return typing.keys().contains("l");
-    }));
 }
 
 TEST_P(LayerSession, theKeyboardGoesBackWhenThePointerLeavesTheShelf)

@@ -102,9 +102,18 @@ void DragPeer::moveByHand(const QRect &frame)
         hands.keyDown(keys::super);
         hands.press();
         hands.glideTo(from + frame.topLeft() - source.topLeft());
+        // Newer versions of mutter take hold of it where the hand is a moment later.
+        eventually([&] {
+            m_desktop.pictureAtRest({{}, m_desktop.server().size()});
+            if (!isThere())
+                return false;
+            const QPoint missing = frame.topLeft() - source.topLeft();
+            if (!missing.isNull())
+                hands.moveBy(missing);
+            return missing.isNull();
+        });
         hands.release();
         hands.keyUp(keys::super);
-        eventually([&] { return isThere() && source.topLeft() == frame.topLeft(); });
     }
     m_frame = QRect(source.topLeft(), frame.size());
     if (m_frame != frame)
