@@ -70,7 +70,7 @@ protected:
         m_desktop.pictureAtRest(corvane().body());
         hands().beginDrag(from, target.target());
         hands().glideTo(target.target());
-        wiggleUntil([&] { return target.isTargetReady(); });
+        ASSERT_TRUE(wiggleUntil([&] { return target.isTargetReady(); })) << target.output();
     }
     void pressHotKey() { hands().key('d', {keys::super, keys::shift}); }
     /// What is on the shelf goes to that program now, and is this.
@@ -202,9 +202,9 @@ TEST_P(OnEveryDesktop, aDragThatEndsElsewhereClosesTheShelfAgain)
     ASSERT_EQ(target.problem(), QString());
     start();
     hands().beginDrag(source.source(), target.target());
-    EXPECT_TRUE(corvane().waitUntilShown());
+    EXPECT_TRUE(wiggleUntil([&] { return corvane().isShown(); }));
     hands().glideTo(target.target());
-    wiggleUntil([&] { return target.isTargetReady(); });
+    ASSERT_TRUE(wiggleUntil([&] { return target.isTargetReady(); })) << target.output();
     hands().release();
     EXPECT_EQ(target.droppedText(), "text");
     EXPECT_TRUE(corvane().waitUntilHidden());

@@ -20,9 +20,10 @@ protected:
     {
         for (int i = 0; i < times && !HasFailure(); ++i) {
             hands().beginDrag(source.source(), target.target());
-            ASSERT_TRUE(corvane().waitUntilShown()) << i;
+            // Some begin with a move that comes later.
+            ASSERT_TRUE(wiggleUntil([&] { return corvane().isShown(); })) << i;
             hands().moveTo(target.target());
-            wiggleUntil([&] { return target.isTargetReady(); });
+            ASSERT_TRUE(wiggleUntil([&] { return target.isTargetReady(); })) << target.output();
             hands().release();
             // A pointer over the shelf with nothing dragged: the drag is over.
             hands().moveTo(edge() + QPoint(0, 8));

@@ -49,7 +49,7 @@ protected:
 
     void dropWhenWelcome(GtkPeer &source)
     {
-        wiggleUntil([&] { return source.isSourceWelcome(); });
+        EXPECT_TRUE(wiggleUntil([&] { return source.isSourceWelcome(); })) << source.output();
         hands().release();
     }
 
@@ -64,19 +64,21 @@ protected:
     void carryTo(GtkPeer &target)
     {
         hands().glideTo(target.target());
-        wiggleUntil([&] { return target.isTargetReady(); });
+        EXPECT_TRUE(wiggleUntil([&] { return target.isTargetReady(); })) << target.output();
         hands().release();
     }
 
-    /// Only moves are told of.
+    /// Only moves are told of. They come as slowly as a hand's: whoever is slower to answer one
+    /// than the next one comes would have ever more to do.
     template<class Condition>
-    void wiggleUntil(Condition condition)
+    bool wiggleUntil(Condition condition)
     {
+        constexpr std::chrono::milliseconds betweenMoves{50};
         int step = 1;
-        EXPECT_TRUE(eventually([&] {
+        return eventually([&] {
             hands().moveBy(QPoint(step = -step, 0));
-            return condition();
-        }));
+            return eventually(condition, betweenMoves);
+        });
     }
 
     /// On a desktop of these two outputs side by side.

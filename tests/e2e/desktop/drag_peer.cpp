@@ -173,7 +173,10 @@ bool DragPeer::isToldWhereItIsWelcome() const
     const bool isQt = m_toolkit == Toolkit::Qt5 || m_toolkit == Toolkit::Qt6;
     // Qt's programs hear nothing of that where the target is a window of the compositor's X server.
     const bool isForXWayland = m_desktop.nested() && m_desktop.nested()->panelServer();
-    return !isBrowser(m_toolkit) && !(isQt && isForXWayland);
+    // GTK 4 takes a drag with a single action for welcome from the start where Wayland's compositor
+    // does not say otherwise.
+    const bool isSureTooEarly = m_toolkit == Toolkit::Gtk4 && m_desktop.nested();
+    return !isBrowser(m_toolkit) && !isSureTooEarly && !(isQt && isForXWayland);
 }
 
 bool DragPeer::isSourceWelcome()

@@ -11,6 +11,7 @@
 #include <QString>
 
 #include <memory>
+#include <string>
 
 namespace corvane::e2e {
 
@@ -55,6 +56,8 @@ public:
     /// Whether it has told that of its habits, before long or until now.
     bool hasSaid(const QByteArray &word);
     bool hasSaidNow(const QByteArray &word) { return !lastLine(word).isEmpty(); }
+    /// All that it has told.
+    std::string output() { return m_program->output().toStdString(); }
 
 private:
     QProcessEnvironment environment(const Offer &offer) const;

@@ -26,7 +26,7 @@ if files:
 else:
     source.drag_source_add_text_targets()
     source.connect("drag-data-get", lambda w, c, data, i, t: data.set_text(text, -1))
-state = {"failed": False, "over": False}
+state = {"failed": False, "over": False, "asked": False}
 # Its own target takes nothing on the way: who says that it is welcome is somebody else.
 def begun(widget, context):
     target.drag_dest_unset()
@@ -58,12 +58,15 @@ def received(widget, context, x, y, data, info, time):
 target.connect("drag-data-received", received)
 # Told once the display server knows that it would be taken.
 def hovering():
+    state["asked"] = False
     Gdk.Display.get_default().sync()
     if state["over"]:
         tell("target over")
 def moved(*arguments):
     state["over"] = True
-    GLib.idle_add(hovering)
+    if not state["asked"]:
+        state["asked"] = True
+        GLib.idle_add(hovering, priority=GLib.PRIORITY_HIGH)
     return False
 def left(*arguments):
     state["over"] = False

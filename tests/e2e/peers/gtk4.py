@@ -22,7 +22,7 @@ def offer(*arguments):
         return Gdk.ContentProvider.new_for_value(text)
     chosen = Gdk.FileList.new_from_list([Gio.File.new_for_path(file) for file in files])
     return Gdk.ContentProvider.new_for_value(GObject.Value(Gdk.FileList, chosen))
-state = {"failed": False, "over": False}
+state = {"failed": False, "over": False, "asked": False}
 def chosen(drag, *arguments):
     tell("action", "copy" if drag.get_selected_action() & Gdk.DragAction.COPY else "none")
 # Its own target takes nothing on the way: who says that it is welcome is somebody else.
@@ -47,12 +47,15 @@ drops = Gtk.DropTarget(actions=Gdk.DragAction.COPY)
 drops.set_gtypes([Gdk.FileList, GObject.TYPE_STRING])
 # Told once the display server knows that it would be taken.
 def hovering():
+    state["asked"] = False
     display.sync()
     if state["over"]:
         tell("target over")
 def moved(*arguments):
     state["over"] = True
-    GLib.idle_add(hovering)
+    if not state["asked"]:
+        state["asked"] = True
+        GLib.idle_add(hovering, priority=GLib.PRIORITY_HIGH)
     return Gdk.DragAction.COPY
 def left(*arguments):
     state["over"] = False
