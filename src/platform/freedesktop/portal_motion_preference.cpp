@@ -21,6 +21,8 @@ const auto appearance = QStringLiteral("org.freedesktop.appearance");
 const auto reducedMotion = QStringLiteral("reduced-motion");
 const auto gnome = QStringLiteral("org.gnome.desktop.interface");
 const auto enableAnimations = QStringLiteral("enable-animations");
+const auto kde = QStringLiteral("org.kde.kdeglobals.KDE");
+const auto durationFactor = QStringLiteral("AnimationDurationFactor");
 
 /// The portal wraps what it reads in one variant more than it needs.
 QVariant unwrapped(QVariant value)
@@ -28,6 +30,13 @@ QVariant unwrapped(QVariant value)
     while (value.metaType() == QMetaType::fromType<QDBusVariant>())
         value = value.value<QDBusVariant>().variant();
     return value;
+}
+
+/// KDE's portal gives what stands in its files, a text as a rule.
+bool isZero(const QVariant &value)
+{
+    bool isNumber = false;
+    return value.toDouble(&isNumber) == 0 && isNumber;
 }
 
 bool styleDoesNotMove()
@@ -47,10 +56,13 @@ PortalMotionPreference::PortalMotionPreference()
                                           SLOT(settingChanged(QString, QString, QDBusVariant)));
     ask(appearance, reducedMotion);
     ask(gnome, enableAnimations);
+    ask(kde, durationFactor);
 }
 
 bool PortalMotionPreference::reducesMotion() const
 {
+    if (m_animatesAtOnce)
+        return true;
     if (m_reducedMotion)
         return *m_reducedMotion;
     if (m_animationsEnabled)
@@ -85,6 +97,8 @@ void PortalMotionPreference::take(const QString &group, const QString &key, cons
         m_reducedMotion = plain.toUInt() == 1;
     else if (group == gnome && key == enableAnimations)
         m_animationsEnabled = plain.toBool();
+    else if (group == kde && key == durationFactor)
+        m_animatesAtOnce = isZero(plain);
 }
 
 } // namespace corvane

@@ -10,9 +10,10 @@ class QDBusVariant;
 
 namespace corvane {
 
-/// The desktop's wish for less movement, from the settings portal: the common key where the desktop
-/// has it, else GNOME's switch for animations, else what the toolkit's style does. Asks in the
-/// background and follows changes; until the first answer the toolkit decides.
+/// The desktop's wish for less movement, from the settings portal: that of KDE's users who have
+/// animations end at once, else the common key where the desktop has it, else GNOME's switch for
+/// animations, else what the toolkit's style does. Asks in the background and follows changes;
+/// until the first answer the toolkit decides.
 class PortalMotionPreference : public QObject, public MotionPreference {
     Q_OBJECT
 
@@ -30,6 +31,7 @@ private:
 
     std::optional<bool> m_reducedMotion;
     std::optional<bool> m_animationsEnabled;
+    bool m_animatesAtOnce = false;
 };
 
 } // namespace corvane

@@ -56,6 +56,8 @@ public:
 
 const auto appearance = QStringLiteral("org.freedesktop.appearance");
 const auto gnome = QStringLiteral("org.gnome.desktop.interface");
+const auto kde = QStringLiteral("org.kde.kdeglobals.KDE");
+const auto durationFactor = QStringLiteral("AnimationDurationFactor");
 
 } // namespace
 
@@ -70,10 +72,11 @@ TEST(MotionPreference, asksThePortalAndFollowsIt)
 {
     Portal portal;
     portal.values = {{gnome + QStringLiteral("/enable-animations"), false},
-                     {appearance + QStringLiteral("/reduced-motion"), 1U}};
+                     {appearance + QStringLiteral("/reduced-motion"), 1U},
+                     {kde + u'/' + durationFactor, QStringLiteral("1")}};
     const PortalMotionPreference preference;
     EXPECT_TRUE(eventually([&] { return preference.reducesMotion(); }));
-    EXPECT_TRUE(eventually([&] { return portal.reads == 2; }));
+    EXPECT_TRUE(eventually([&] { return portal.reads == 3; }));
     settle();
     portal.change(appearance, QStringLiteral("reduced-motion"), 0U);
     EXPECT_TRUE(eventually([&] { return !preference.reducesMotion(); }));
@@ -81,6 +84,24 @@ TEST(MotionPreference, asksThePortalAndFollowsIt)
     portal.change(gnome, QStringLiteral("enable-animations"), false);
     settle();
     EXPECT_FALSE(preference.reducesMotion());
+}
+
+TEST(MotionPreference, isForLessWhereKdeAnimatesAtOnce)
+{
+    Portal portal;
+    // As a text, as it stands in that desktop's file.
+    portal.values = {{gnome + QStringLiteral("/enable-animations"), true},
+                     {appearance + QStringLiteral("/reduced-motion"), 0U},
+                     {kde + u'/' + durationFactor, QStringLiteral("0")}};
+    const PortalMotionPreference preference;
+    EXPECT_TRUE(eventually([&] { return preference.reducesMotion(); }));
+    portal.change(kde, durationFactor, QStringLiteral("0.5"));
+    EXPECT_TRUE(eventually([&] { return !preference.reducesMotion(); }));
+    portal.change(kde, durationFactor, 0);
+    EXPECT_TRUE(eventually([&] { return preference.reducesMotion(); }));
+    portal.change(kde, durationFactor, QStringLiteral("none"));
+    EXPECT_TRUE(eventually([&] { return !preference.reducesMotion(); }))
+        << "what is no number says nothing";
 }
 
 } // namespace corvane::test
