@@ -8,11 +8,13 @@
 #include "fakes/fake_panel_window.h"
 #include "fakes/fake_window_activation.h"
 #include "platform/desktop/keyboard_loan.h"
+#include "platform/freedesktop/decoding/decoder_documents.h"
+#include "platform/freedesktop/sandbox/sandbox.h"
+#include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
 #include "platform/qt/base/qt_main_queue.h"
 #include "platform/qt/base/qt_work_queue.h"
 #include "platform/system/file_url.h"
 #include "preview/picture_view.h"
-#include "preview/qt_preview_documents.h"
 #include "preview/qt_preview_panel.h"
 #include "services/preview_loader.h"
 #include "support/table.h"
@@ -162,7 +164,10 @@ int run()
     const QTemporaryDir folder;
     Watch watch;
     QtMainQueue queue;
-    QtPreviewDocuments documents;
+    const Sandbox sandbox(ThumbnailerRegistry::environmentProgramFolders());
+    const DecoderProgram program(sandbox);
+    DecoderPool decoders(program);
+    DecoderDocuments documents(decoders);
     QtWorkQueue work;
     const test::FakeFileLocality locality;
     PreviewLoader loader({documents, locality, queue, work, work});

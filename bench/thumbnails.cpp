@@ -3,6 +3,7 @@
 
 #include "app/composition_root.h"
 #include "fakes/film.h"
+#include "fakes/in_process_codec.h"
 #include "platform/system/file_url.h"
 #include "support/table.h"
 
@@ -82,7 +83,7 @@ Files makeFiles(const QString &folder)
 double decoding(const QList<QUrl> &pictures)
 {
     const double start = now();
-    const QtImageCodec codec;
+    const test::InProcessCodec codec;
     std::atomic<qsizetype> next = 0;
     std::vector<std::thread> threads;
     for (std::size_t i = 0; i < ThumbnailService::maximumRunning; ++i) {

@@ -79,7 +79,11 @@ WebNetwork networkBy(const std::shared_ptr<WebRoutes> &routes)
 } // namespace
 
 CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<void()> &terminate)
-    : webRoutes(std::make_shared<DesktopRoutes>())
+    : sandbox(ThumbnailerRegistry::environmentProgramFolders())
+    , decoderProgram(sandbox)
+    , decoders(decoderProgram)
+    , imageCodec(decoders)
+    , webRoutes(std::make_shared<DesktopRoutes>())
     , webClient(mainQueue, networkBy(webRoutes))
     , screens(mainQueue)
     , fileIcons(mountTable)
@@ -110,7 +114,6 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
     , thumbnailCache(imageCodec, thumbnailPlaces(spool))
     , thumbnailerRegistry(ThumbnailerRegistry::environmentDataFolders(),
                           ThumbnailerRegistry::environmentProgramFolders())
-    , sandbox(ThumbnailerRegistry::environmentProgramFolders())
     , thumbnailers(thumbnailerRegistry, sandbox)
     , thumbnailChain({.locality = mountTable,
                       .cache = thumbnailCache,
@@ -126,6 +129,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                  thumbnailWork)
     , linkPreviews(webClient, imageCodec, mainQueue, workQueue, product())
     , store(settings, spool, thumbnails, linkPreviews, feedback)
+    , previewDocuments(decoders)
     , previewLoader({.documents = previewDocuments,
                      .locality = mountTable,
                      .mainQueue = mainQueue,
@@ -256,6 +260,8 @@ std::function<void(double)> CompositionRoot::letClicksThrough()
 bool CompositionRoot::finishWork(std::chrono::milliseconds patience)
 {
     const QDeadlineTimer deadline(patience);
+    // Those who wait for a picture go on at once.
+    decoders.finish();
     bool haveAllEnded = true;
     const auto finish = [&](auto &threads) {
         const std::chrono::milliseconds rest(std::max<qint64>(deadline.remainingTime(), 0));

@@ -27,11 +27,15 @@
 #include "input/hot_key_center.h"
 #include "input/shortcut_binder.h"
 #include "platform/freedesktop/autostart_login_items.h"
+#include "platform/freedesktop/decoding/decoder_documents.h"
+#include "platform/freedesktop/decoding/decoder_image_codec.h"
+#include "platform/freedesktop/decoding/decoder_pool.h"
+#include "platform/freedesktop/decoding/decoder_program.h"
 #include "platform/freedesktop/mount_table.h"
 #include "platform/freedesktop/portal_motion_preference.h"
 #include "platform/freedesktop/proxies/desktop_routes.h"
 #include "platform/freedesktop/remote_file_threads.h"
-#include "platform/freedesktop/thumbnails/sandbox.h"
+#include "platform/freedesktop/sandbox/sandbox.h"
 #include "platform/freedesktop/thumbnails/sandboxed_thumbnailers.h"
 #include "platform/freedesktop/thumbnails/shared_thumbnail_cache.h"
 #include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
@@ -42,12 +46,10 @@
 #include "platform/qt/desktop/qt_screens.h"
 #include "platform/qt/pasteboard/qt_clipboard.h"
 #include "platform/qt/pictures/qt_file_icons.h"
-#include "platform/qt/pictures/qt_image_codec.h"
 #include "platform/qt/pictures/qt_text_measurer.h"
 #include "platform/qt/system/qt_desktop_services.h"
 #include "platform/qt/system/qt_user_defaults.h"
 #include "platform/qt/web/qt_web_client.h"
-#include "preview/qt_preview_documents.h"
 #include "preview/qt_preview_panel.h"
 #include "services/link_preview_service.h"
 #include "services/preview_loader.h"
@@ -81,7 +83,11 @@ struct CompositionRoot {
 
     // The system, and what Qt does in every kind of session.
     QtMainQueue mainQueue;
-    QtImageCodec imageCodec;
+    // Strangers' pictures are decoded in processes of their own.
+    Sandbox sandbox;
+    DecoderProgram decoderProgram;
+    DecoderPool decoders;
+    DecoderImageCodec imageCodec;
     // After the objects that its work uses, because its destructor waits for work that is running.
     QtWorkQueue workQueue;
     // Of its own: a text that is dropped waits for no disk.
@@ -129,7 +135,6 @@ struct CompositionRoot {
     QuickActions quickActions;
     SharedThumbnailCache thumbnailCache;
     ThumbnailerRegistry thumbnailerRegistry;
-    Sandbox sandbox;
     SandboxedThumbnailers thumbnailers;
     // A queue of its own, because thumbnail programs may take long. It comes after the objects that
     // its work uses.
@@ -141,7 +146,7 @@ struct CompositionRoot {
     ShelfStore store;
 
     // The preview.
-    QtPreviewDocuments previewDocuments;
+    DecoderDocuments previewDocuments;
     // A queue of its own, so that previews do not wait for thumbnails. Files whose server may not
     // answer have another one, so that they do not block other previews.
     QtWorkQueue previewWork;

@@ -5,21 +5,6 @@
 
 namespace corvane {
 
-namespace {
-
-bool write(std::optional<QImage> picture, const UTType &type, const ImageCodec &codec,
-           const SpoolPlace &to)
-{
-    if (!picture || !to.isWanted())
-        return false;
-    const auto encoded = codec.encode(*picture, type);
-    // A decoded picture can take 256 MB; it is freed before the file is written, which takes time.
-    picture.reset();
-    return encoded && to.write(*encoded);
-}
-
-} // namespace
-
 ImageConverter::ImageConverter(const ImageCodec &codec)
     : m_codec(codec)
 {
@@ -27,13 +12,17 @@ ImageConverter::ImageConverter(const ImageCodec &codec)
 
 bool ImageConverter::transcode(const QUrl &fileAt, const UTType &type, const SpoolPlace &to) const
 {
-    return to.isWanted() && write(m_codec.decodeFile(fileAt), type, m_codec, to);
+    return to.write([&](const FileDescriptor &file) {
+        return m_codec.transcodeFile(fileAt, type, file) && to.isWanted();
+    });
 }
 
 bool ImageConverter::transcode(const QByteArray &data, const UTType &type,
                                const SpoolPlace &to) const
 {
-    return to.isWanted() && write(m_codec.decode(data), type, m_codec, to);
+    return to.write([&](const FileDescriptor &file) {
+        return m_codec.transcode(data, type, file) && to.isWanted();
+    });
 }
 
 } // namespace corvane

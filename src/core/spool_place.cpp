@@ -16,13 +16,22 @@ SpoolPlace::SpoolPlace(QUrl url)
 
 bool SpoolPlace::write(const QByteArray &data) const
 {
-    const QByteArray path = file_url::nativePath(m_url);
-    if (!isWanted() || !private_file::create(path, data))
+    return isWanted() && keep(private_file::create(file_url::nativePath(m_url), data));
+}
+
+bool SpoolPlace::write(const std::function<bool(const FileDescriptor &file)> &fill) const
+{
+    return isWanted() && keep(private_file::create(file_url::nativePath(m_url), fill));
+}
+
+bool SpoolPlace::keep(bool isCreated) const
+{
+    if (!isCreated)
         return false;
     if (isWanted())
         return true;
     // It was discarded while it was being written.
-    ::unlink(path.constData());
+    ::unlink(file_url::nativePath(m_url).constData());
     return false;
 }
 

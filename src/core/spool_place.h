@@ -4,8 +4,11 @@
 #include <QUrl>
 
 #include <atomic>
+#include <functional>
 
 namespace corvane {
+
+class FileDescriptor;
 
 /// A file name in the spool that is kept for a file still being made: while this exists, the name
 /// is given to no other file. Any thread.
@@ -20,8 +23,12 @@ public:
     /// Writes the file, which appears complete or not at all. False, and no file is left, when it
     /// is not wanted any more or cannot be written.
     bool write(const QByteArray &data) const;
+    /// The same with what `fill` writes into the empty file; false when that fails, too.
+    bool write(const std::function<bool(const FileDescriptor &file)> &fill) const;
 
 private:
+    bool keep(bool isCreated) const;
+
     const QUrl m_url;
     std::atomic<bool> m_isWanted = true;
 };

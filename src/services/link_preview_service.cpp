@@ -141,7 +141,10 @@ void LinkPreviewService::decodePicture(Number number, const std::optional<WebRes
     const auto take = m_lifetime.guard(
         [this, number](const std::optional<QImage> &bitmap) { takePicture(number, bitmap); });
     m_workQueue.run([&codec = m_codec, &mainQueue = m_mainQueue, take, body = response->body] {
-        mainQueue.async([take, bitmap = codec.thumbnail(body, pictureSide)] { take(bitmap); });
+        DecodingAttempt attempt;
+        attempt.formats = DecodingAttempt::Formats::Web;
+        mainQueue.async(
+            [take, bitmap = codec.thumbnail(body, pictureSide, attempt)] { take(bitmap); });
     });
 }
 

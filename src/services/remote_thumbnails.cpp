@@ -27,7 +27,11 @@ ThumbnailAnswer decoded(const RemoteThumbnails::Context &context, const Thumbnai
                         const FileVersion &file, const QByteArray &data)
 {
     const int toMake = context.cache.pixelsToMake(file, request.pixels());
-    const auto picture = context.codec.thumbnail(data, toMake);
+    DecodingAttempt attempt;
+    attempt.cancellation = request.cancellation.get();
+    const auto picture = context.codec.thumbnail(data, toMake, attempt);
+    if (attempt.outcome == DecodingAttempt::Outcome::OverBounds)
+        context.cache.keepFailure(file);
     if (!picture)
         return {};
     made_picture::keepDecoded(context.cache, file, *picture, toMake);

@@ -25,7 +25,9 @@ std::optional<QImage> decoded(const ImageCodec &codec, const QByteArray &png, in
     const auto size = codec.pixelSize(png);
     if (!size || std::max(size->width(), size->height()) > largestSide)
         return std::nullopt;
-    return codec.thumbnail(png, pixels);
+    DecodingAttempt attempt;
+    attempt.formats = DecodingAttempt::Formats::Png;
+    return codec.thumbnail(png, pixels, attempt);
 }
 
 std::optional<QImage> madeByProgram(const ThumbnailChain::Context &context, const FileVersion &file,
@@ -45,6 +47,29 @@ std::optional<QImage> madeByProgram(const ThumbnailChain::Context &context, cons
     return picture;
 }
 
+ThumbnailAnswer madeOfFile(const ThumbnailChain::Context &context, const ThumbnailRequest &request,
+                           const FileVersion &file)
+{
+    using Outcome = DecodingAttempt::Outcome;
+    using Patience = DecodingAttempt::Patience;
+    const int toMake = context.cache.pixelsToMake(file, request.pixels());
+    DecodingAttempt attempt;
+    attempt.patience = request.isPatient ? Patience::Alone : Patience::Brief;
+    attempt.cancellation = request.cancellation.get();
+    auto picture = context.codec.fileThumbnail(request.url, toMake, attempt);
+    if (picture)
+        made_picture::keepDecoded(context.cache, file, *picture, toMake);
+    else if (attempt.outcome == Outcome::TooSlow)
+        return {.picture = std::nullopt, .isSlow = true};
+    else if (attempt.outcome == Outcome::OverBounds)
+        context.cache.keepFailure(file);
+    else if (attempt.outcome == Outcome::Unreadable && !request.cancellation->isCancelled())
+        picture = madeByProgram(context, file, toMake, *request.cancellation);
+    if (!picture)
+        return {};
+    return {made_picture::fitted(*picture, request.pixels())};
+}
+
 ThumbnailAnswer make(const ThumbnailChain::Context &context, const ThumbnailRequest &request)
 {
     const QByteArray path = file_url::nativePath(request.url);
@@ -56,19 +81,10 @@ ThumbnailAnswer make(const ThumbnailChain::Context &context, const ThumbnailRequ
     if (!file || file->kind != FileVersion::Kind::Regular)
         return {std::nullopt, file && file->kind == FileVersion::Kind::Folder};
 
-    const int pixels = request.pixels();
-    const ThumbnailCache::Found found = context.cache.find(*file, pixels);
+    const ThumbnailCache::Found found = context.cache.find(*file, request.pixels());
     if (found.picture || found.hasFailed)
         return {found.picture};
-    const int toMake = context.cache.pixelsToMake(*file, pixels);
-    auto picture = context.codec.fileThumbnail(request.url, toMake);
-    if (picture)
-        made_picture::keepDecoded(context.cache, *file, *picture, toMake);
-    else if (!request.cancellation->isCancelled())
-        picture = madeByProgram(context, *file, toMake, *request.cancellation);
-    if (!picture)
-        return {};
-    return {made_picture::fitted(*picture, pixels)};
+    return madeOfFile(context, request, *file);
 }
 
 } // namespace

@@ -12,8 +12,8 @@ class WorkQueue;
 
 /// Thumbnails of local files: from the desktop's shared cache, else decoded by ourselves, else made
 /// by the desktop's thumbnail programs; none where all that fails. What was made is kept in the
-/// cache, also that nothing could be made. All references must outlive it, all but the work queue
-/// also the work.
+/// cache, also that nothing could be made, or not within the bounds of decoding. All references
+/// must outlive it, all but the work queue also the work.
 class ThumbnailChain : public ThumbnailGenerator {
 public:
     struct Context {

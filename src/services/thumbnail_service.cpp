@@ -37,6 +37,7 @@ ThumbnailService::ThumbnailService(ThumbnailGenerator &generator,
     , m_workQueue(workQueue)
     , m_queue(mainQueue, maximumRunning)
     , m_remoteQueue(mainQueue, maximumRunningRemotely)
+    , m_slowQueue(mainQueue, maximumRunningSlowly)
 {
 }
 
@@ -46,6 +47,7 @@ void ThumbnailService::setItemsInView(const std::function<QList<QUuid>()> &items
 {
     m_queue.setItemsInView(itemsInView);
     m_remoteQueue.setItemsInView(itemsInView);
+    m_slowQueue.setItemsInView(itemsInView);
 }
 
 double ThumbnailService::scale() const
@@ -58,6 +60,7 @@ void ThumbnailService::cancel(const QUuid &item)
 {
     m_queue.cancel(item);
     m_remoteQueue.cancel(item);
+    m_slowQueue.cancel(item);
 }
 
 void ThumbnailService::generateForFile(const QUuid &item, const QUrl &url, Completion completion)
@@ -92,7 +95,8 @@ void ThumbnailService::begin(ThumbnailGenerator &generator, const FileJob &job,
                              const std::shared_ptr<Cancellation> &cancellation,
                              const ThumbnailQueue::Done &done)
 {
-    const ThumbnailRequest request = {job.url, QSizeF(side, side), scale(), cancellation};
+    const ThumbnailRequest request
+        = {job.url, QSizeF(side, side), scale(), cancellation, job.isPatient};
     const auto end = m_lifetime.guard([this, request, job, done](const ThumbnailAnswer &answer) {
         done();
         answered(request, job, answer);
@@ -110,12 +114,11 @@ void ThumbnailService::answered(const ThumbnailRequest &request, const FileJob &
     if (request.cancellation->isCancelled())
         return;
     if (answer.isRemote && !job.isRemote) {
-        m_remoteQueue.add(job.item,
-                          [this, remote = FileJob{job.item, job.url, job.completion, true}](
-                              const std::shared_ptr<Cancellation> &cancellation,
-                              const ThumbnailQueue::Done &done) {
-                              begin(m_remoteGenerator, remote, cancellation, done);
-                          });
+        again(m_remoteQueue, m_remoteGenerator, {job.item, job.url, job.completion, true});
+        return;
+    }
+    if (answer.isSlow && !job.isPatient) {
+        again(m_slowQueue, m_generator, {job.item, job.url, job.completion, false, true});
         return;
     }
     if (const auto image = atDisplaySize(answer.picture)) {
@@ -128,25 +131,54 @@ void ThumbnailService::answered(const ThumbnailRequest &request, const FileJob &
     job.completion(icon);
 }
 
+void ThumbnailService::again(ThumbnailQueue &queue, ThumbnailGenerator &generator,
+                             const FileJob &job)
+{
+    queue.add(job.item,
+              [this, &generator, job](const std::shared_ptr<Cancellation> &cancellation,
+                                      const ThumbnailQueue::Done &done) {
+                  begin(generator, job, cancellation, done);
+              });
+}
+
 void ThumbnailService::generateForImageData(const QUuid &item, const QByteArray &data,
                                             Completion completion)
 {
-    m_queue.add(
-        item,
-        [this, data, completion = std::move(completion)](
-            const std::shared_ptr<Cancellation> &cancellation, const ThumbnailQueue::Done &done) {
-            const int maximumPixels = static_cast<int>(std::round(side * scale()));
-            m_workQueue.run([&codec = m_codec, &mainQueue = m_mainQueue, data, maximumPixels,
-                             completion, cancellation, done] {
-                const auto image = cancellation->isCancelled()
-                    ? std::nullopt
-                    : atDisplaySize(codec.thumbnail(data, maximumPixels));
-                mainQueue.async([completion, image, cancellation, done] {
-                    done();
-                    if (!cancellation->isCancelled())
-                        completion(image);
-                });
-            });
+    add(m_queue, {item, data, std::move(completion)});
+}
+
+void ThumbnailService::add(ThumbnailQueue &queue, const DataJob &job)
+{
+    queue.add(job.item,
+              [this, job](const std::shared_ptr<Cancellation> &cancellation,
+                          const ThumbnailQueue::Done &done) { begin(job, cancellation, done); });
+}
+
+void ThumbnailService::begin(const DataJob &job, const std::shared_ptr<Cancellation> &cancellation,
+                             const ThumbnailQueue::Done &done)
+{
+    const auto end = m_lifetime.guard(
+        [this, job, cancellation, done](std::optional<Image> image, bool isSlow) {
+            done();
+            if (cancellation->isCancelled())
+                return;
+            if (isSlow && !job.isPatient)
+                add(m_slowQueue, {job.item, job.data, job.completion, true});
+            else
+                job.completion(std::move(image));
+        });
+    const int maximumPixels = static_cast<int>(std::round(side * scale()));
+    m_workQueue.run(
+        [&codec = m_codec, &mainQueue = m_mainQueue, job, maximumPixels, cancellation, end] {
+            DecodingAttempt attempt;
+            attempt.patience = job.isPatient ? DecodingAttempt::Patience::Alone
+                                             : DecodingAttempt::Patience::Brief;
+            attempt.cancellation = cancellation.get();
+            std::optional<Image> image;
+            if (!cancellation->isCancelled())
+                image = atDisplaySize(codec.thumbnail(job.data, maximumPixels, attempt));
+            const bool isSlow = attempt.outcome == DecodingAttempt::Outcome::TooSlow;
+            mainQueue.async([end, image, isSlow] { end(image, isSlow); });
         });
 }
 

@@ -24,9 +24,9 @@ class WorkQueue;
 /// newest, two at a time, and none for an item that left.
 ///
 /// Files behind a network wait in a row of their own, where a server that does not answer keeps
-/// nobody else. Keeps nothing: the item keeps its picture. What it was given must outlive it and
-/// all work that is under way; the service itself may go earlier, and then its requests are never
-/// answered.
+/// nobody else; and so do pictures that need long, once that was noticed. Keeps nothing: the item
+/// keeps its picture. What it was given must outlive it and all work that is under way; the service
+/// itself may go earlier, and then its requests are never answered.
 class ThumbnailService : public ThumbnailSource {
 public:
     /// Width and height in points.
@@ -36,6 +36,7 @@ public:
     /// Each may hold a decoded picture.
     static constexpr std::size_t maximumRunning = 2;
     static constexpr std::size_t maximumRunningRemotely = 1;
+    static constexpr std::size_t maximumRunningSlowly = 1;
 
     /// `remoteGenerator` is asked for what `generator` found to be remote.
     ThumbnailService(ThumbnailGenerator &generator, ThumbnailGenerator &remoteGenerator,
@@ -62,6 +63,13 @@ private:
         QUrl url;
         Completion completion;
         bool isRemote = false;
+        bool isPatient = false;
+    };
+    struct DataJob {
+        QUuid item;
+        QByteArray data;
+        Completion completion;
+        bool isPatient = false;
     };
 
     double scale() const;
@@ -69,6 +77,10 @@ private:
                const std::shared_ptr<Cancellation> &cancellation, const ThumbnailQueue::Done &done);
     void answered(const ThumbnailRequest &request, const FileJob &job,
                   const ThumbnailAnswer &answer);
+    void again(ThumbnailQueue &queue, ThumbnailGenerator &generator, const FileJob &job);
+    void add(ThumbnailQueue &queue, const DataJob &job);
+    void begin(const DataJob &job, const std::shared_ptr<Cancellation> &cancellation,
+               const ThumbnailQueue::Done &done);
 
     ThumbnailGenerator &m_generator;
     ThumbnailGenerator &m_remoteGenerator;
@@ -79,6 +91,7 @@ private:
     WorkQueue &m_workQueue;
     ThumbnailQueue m_queue;
     ThumbnailQueue m_remoteQueue;
+    ThumbnailQueue m_slowQueue;
     Lifetime m_lifetime;
 };
 

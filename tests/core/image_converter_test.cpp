@@ -2,7 +2,7 @@
 #include "core/spool_place.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_image_codec.h"
-#include "platform/qt/pictures/qt_image_codec.h"
+#include "fakes/in_process_codec.h"
 
 #include <QBuffer>
 
@@ -60,7 +60,7 @@ TEST_F(ImageConverterTest, TurnsARealTiffIntoAPng)
     QByteArray tiff;
     QBuffer buffer(&tiff);
     ASSERT_TRUE(picture.save(&buffer, "TIFF"));
-    const QtImageCodec realCodec;
+    const test::InProcessCodec realCodec;
     const ImageConverter real(realCodec);
     ASSERT_TRUE(real.transcode(temporary.write("scan.tiff", tiff), UTType::png(), *place));
     const QImage png = QImage::fromData(contents(place->url()), "PNG");

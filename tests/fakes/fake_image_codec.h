@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/pictures/image_codec.h"
+#include "platform/system/file_descriptor.h"
 
 #include <QFile>
 #include <QHash>
@@ -14,30 +15,49 @@ namespace corvane::test {
 /// "image/png 3x2".
 class FakeImageCodec : public ImageCodec {
 public:
+    using ImageCodec::fileThumbnail;
+    using ImageCodec::thumbnail;
+
     std::optional<QSize> pixelSize(const QByteArray &data) const override
     {
         const auto found = sizes.constFind(data);
         return found == sizes.constEnd() ? std::nullopt : std::optional(*found);
     }
-    std::optional<QImage> decode(const QByteArray &data) const override
+    std::optional<QImage> thumbnail(const QByteArray &data, int maximumPixels,
+                                    DecodingAttempt &attempt) const override
     {
-        ++decodings;
-        const auto size = pixelSize(data);
-        return size ? std::optional(picture(*size)) : std::nullopt;
-    }
-    std::optional<QImage> decodeFile(const QUrl &url) const override { return decode(read(url)); }
-    std::optional<QImage> thumbnail(const QByteArray &data, int maximumPixels) const override
-    {
+        using Outcome = DecodingAttempt::Outcome;
+        formats << attempt.formats;
+        if (slow.contains(data) && attempt.patience == DecodingAttempt::Patience::Brief) {
+            attempt.outcome = Outcome::TooSlow;
+            return std::nullopt;
+        }
         auto size = pixelSize(data);
+        const Outcome failure = bombs.contains(data) ? Outcome::OverBounds : Outcome::Unreadable;
+        attempt.outcome = size ? Outcome::Made : failure;
         if (!size)
             return std::nullopt;
         if (std::max(size->width(), size->height()) > maximumPixels)
             size->scale(maximumPixels, maximumPixels, Qt::KeepAspectRatio);
         return picture(*size);
     }
-    std::optional<QImage> fileThumbnail(const QUrl &url, int maximumPixels) const override
+    std::optional<QImage> fileThumbnail(const QUrl &url, int maximumPixels,
+                                        DecodingAttempt &attempt) const override
     {
-        return thumbnail(read(url), maximumPixels);
+        return thumbnail(read(url), maximumPixels, attempt);
+    }
+    bool transcode(const QByteArray &data, const UTType &type,
+                   const FileDescriptor &target) const override
+    {
+        ++decodings;
+        const auto size = pixelSize(data);
+        const auto bytes = size ? encode(picture(*size), type) : std::nullopt;
+        return bytes && target.write(*bytes);
+    }
+    bool transcodeFile(const QUrl &url, const UTType &type,
+                       const FileDescriptor &target) const override
+    {
+        return transcode(read(url), type, target);
     }
     std::optional<QByteArray> encode(const QImage &image, const UTType &type) const override
     {
@@ -51,6 +71,11 @@ public:
     void teach(const QByteArray &data, QSize size) { sizes.insert(data, size); }
 
     QHash<QByteArray, QSize> sizes;
+    /// Bytes that need longer than a brief attempt, and those that break the bounds.
+    QByteArrayList slow;
+    QByteArrayList bombs;
+    /// What each thumbnail might be made of.
+    mutable QList<DecodingAttempt::Formats> formats;
     bool refusesToEncode = false;
     /// How often a whole picture was decoded.
     mutable std::atomic<int> decodings = 0;

@@ -119,6 +119,7 @@ TEST_F(LinkPreviewServiceTest, GivesTitleSiteAndPictureOnce)
     ASSERT_TRUE(result->image.has_value());
     EXPECT_EQ(result->image->bitmap.size(), QSize(192, 48));
     EXPECT_EQ(result->image->size, QSizeF(192, 48)) << "a point for each pixel";
+    EXPECT_EQ(codec.formats, QList{DecodingAttempt::Formats::Web}) << "no drawing of a stranger";
 }
 
 TEST_F(LinkPreviewServiceTest, ReadsBesideTheMainThreadAndAnswersOnIt)

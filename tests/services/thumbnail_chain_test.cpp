@@ -3,7 +3,7 @@
 #include "fakes/fake_image_codec.h"
 #include "fakes/fake_thumbnail_cache.h"
 #include "fakes/fake_work_queue.h"
-#include "platform/qt/pictures/qt_image_codec.h"
+#include "fakes/in_process_codec.h"
 #include "platform/system/file_url.h"
 #include "services/thumbnail_chain.h"
 
@@ -66,7 +66,7 @@ protected:
     QTemporaryDir folder;
     FakeFileLocality locality;
     FakeThumbnailCache cache;
-    QtImageCodec codec;
+    test::InProcessCodec codec;
     FakeExternalThumbnailers thumbnailers;
     FakeWorkQueue work;
     ThumbnailChain chain{{locality, cache, codec, thumbnailers, work}};
@@ -109,6 +109,42 @@ TEST_F(ThumbnailChainTest, otherFilesGoToTheInstalledPrograms)
     EXPECT_EQ(thumbnailers.asked[0].pixels, 128);
     EXPECT_EQ(cache.pictures.size(), 1);
     EXPECT_TRUE(cache.failures.isEmpty());
+}
+
+TEST_F(ThumbnailChainTest, aPictureThatBreaksTheBoundsOfDecodingIsRememberedAndGoesToNoProgram)
+{
+    FakeImageCodec bounded;
+    bounded.bombs << "bomb";
+    ThumbnailChain strict{{locality, cache, bounded, thumbnailers, work}};
+    thumbnailers.result = {Outcome::Made, written(plain(128, 64))};
+    request.url = file_url::fromNativePath(save("a.svg", "bomb"));
+    std::optional<ThumbnailAnswer> answer;
+    strict.generateBestRepresentation(request,
+                                      [&](const ThumbnailAnswer &given) { answer = given; });
+    work.runAll();
+    EXPECT_FALSE(answer->picture);
+    EXPECT_FALSE(answer->isSlow);
+    EXPECT_TRUE(thumbnailers.asked.empty());
+    EXPECT_EQ(cache.failures.size(), 1);
+}
+
+TEST_F(ThumbnailChainTest, aSlowPictureIsNoFailureUntilItWasTriedPatiently)
+{
+    FakeImageCodec slowly;
+    slowly.teach("slow", {100, 50});
+    slowly.slow << "slow";
+    ThumbnailChain chainOfIt{{locality, cache, slowly, thumbnailers, work}};
+    request.url = file_url::fromNativePath(save("a.svg", "slow"));
+    std::optional<ThumbnailAnswer> answer;
+    const auto keep = [&](const ThumbnailAnswer &given) { answer = given; };
+    chainOfIt.generateBestRepresentation(request, keep);
+    work.runAll();
+    EXPECT_TRUE(answer->isSlow);
+    EXPECT_TRUE(cache.failures.isEmpty());
+    request.isPatient = true;
+    chainOfIt.generateBestRepresentation(request, keep);
+    work.runAll();
+    EXPECT_TRUE(answer->picture);
 }
 
 TEST_F(ThumbnailChainTest, aFileThatNobodyKnowsHasNoPicture)

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <thread>
 
@@ -236,6 +237,56 @@ TEST_F(ThumbnailServiceTest, AFileThatAServerKeepsToItselfKeepsNoOther)
     clock.runPending();
     EXPECT_EQ(completions, 3);
     EXPECT_EQ(icons.asked.size(), 1);
+}
+
+TEST_F(ThumbnailServiceTest, PicturesThatNeedLongAreMadeOneAtATimeAndKeepNoOther)
+{
+    for (int i = 0; i < 4; ++i)
+        service->generateForFile(QUuid::createUuid(), url, completion());
+    clock.runPending();
+    ASSERT_EQ(generator.requests.size(), 2U);
+    EXPECT_FALSE(generator.requests[0].isPatient);
+    const ThumbnailAnswer slow = {.picture = std::nullopt, .isSlow = true};
+    generator.answer(0, slow);
+    generator.answer(1, slow);
+    clock.runPending();
+    ASSERT_EQ(generator.requests.size(), 5U) << "two quick ones, and one that is patient";
+    EXPECT_TRUE(generator.requests[4].isPatient != generator.requests[2].isPatient);
+    const auto isPatient = [](const ThumbnailRequest &request) { return request.isPatient; };
+    EXPECT_EQ(std::ranges::count_if(generator.requests, isPatient), 1);
+    EXPECT_EQ(completions, 0);
+    const auto patient = static_cast<std::size_t>(
+        std::ranges::find_if(generator.requests, isPatient) - generator.requests.begin());
+    generator.answer(patient, slow);
+    clock.runPending();
+    EXPECT_EQ(completions, 1) << "it has its icon, and is not tried for ever";
+    EXPECT_EQ(std::ranges::count_if(generator.requests, isPatient), 2);
+}
+
+TEST_F(ThumbnailServiceTest, BytesThatNeedLongAreTriedAgainWithMorePatience)
+{
+    codec.teach("slow", {8, 8});
+    codec.slow << "slow";
+    service->generateForImageData(item, "slow", completion());
+    for (int i = 0; i < 2; ++i) {
+        clock.runPending();
+        EXPECT_EQ(completions, 0);
+        work.runAll();
+    }
+    clock.runPending();
+    EXPECT_EQ(completions, 1);
+    EXPECT_TRUE(result.has_value());
+}
+
+TEST_F(ThumbnailServiceTest, CancellingReachesAPictureThatNeedsLong)
+{
+    service->generateForFile(item, url, completion());
+    clock.runPending();
+    generator.answer(0, {.picture = std::nullopt, .isSlow = true});
+    clock.runPending();
+    ASSERT_EQ(generator.requests.size(), 2U);
+    service->cancel(item);
+    EXPECT_TRUE(generator.requests[1].cancellation->isCancelled());
 }
 
 TEST_F(ThumbnailServiceTest, CancellingDropsWhatWaitsAndWhatRuns)

@@ -21,6 +21,8 @@ struct ThumbnailRequest {
     double scale = 1;
     /// Never null. After cancelling, the answer comes soon and may be none.
     std::shared_ptr<Cancellation> cancellation = std::make_shared<Cancellation>();
+    /// Asked again for a file whose picture needs long. Never more than one of these at once.
+    bool isPatient = false;
 
     /// The longer side in pixels, rounded.
     int pixels() const;
@@ -34,6 +36,8 @@ struct ThumbnailAnswer {
     /// The file is behind a network, which may not answer, and was not touched. Another generator
     /// has to be asked.
     bool isRemote = false;
+    /// Its picture needs long; it has to be asked for patiently.
+    bool isSlow = false;
 };
 
 /// Makes thumbnails of files.

@@ -45,10 +45,18 @@ struct Unfinished {
     bool isMade = false;
 };
 
-/// Writes the bytes and takes the lock. Closing a duplicate of the descriptor reports a full disk.
-bool fill(const FileDescriptor &file, const QByteArray &data)
+using Fill = std::function<bool(const FileDescriptor &file)>;
+
+Fill writing(const QByteArray &data)
 {
-    if (!file.isOpen() || !file.write(data) || ::flock(file.number(), LOCK_EX | LOCK_NB) != 0)
+    return [&data](const FileDescriptor &file) { return file.write(data); };
+}
+
+/// Has the contents written and takes the lock. Closing a duplicate of the descriptor reports a
+/// full disk.
+bool complete(const FileDescriptor &file, const Fill &fill)
+{
+    if (!file.isOpen() || !fill(file) || ::flock(file.number(), LOCK_EX | LOCK_NB) != 0)
         return false;
     FileDescriptor other(::fcntl(file.number(), F_DUPFD_CLOEXEC, 0));
     return other.isOpen() && other.close();
@@ -82,6 +90,27 @@ bool makeFolders(const QByteArray &base, const QByteArray &folder)
     return true;
 }
 
+FileDescriptor createFilled(const QByteArray &path, const Fill &fill)
+{
+    const QByteArray folder = folderOf(path);
+    FileDescriptor nameless(
+        ::open(folder.constData(), O_WRONLY | O_TMPFILE | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (nameless.isOpen()) {
+        // Contents that cannot be made or written once cannot be a second time.
+        if (!complete(nameless, fill))
+            return {};
+        if (name(nameless, path))
+            return nameless;
+        if (errno == EEXIST || errno == ENOSPC || errno == EDQUOT)
+            return {};
+    }
+    // Not all file systems support files without names, and not all containers have /proc.
+    Unfinished named(folder);
+    if (!complete(named.file, fill) || !moveInto(named.name, path))
+        return {};
+    return std::move(named.file);
+}
+
 } // namespace
 
 bool create(const QByteArray &path, const QByteArray &data)
@@ -89,20 +118,14 @@ bool create(const QByteArray &path, const QByteArray &data)
     return createLocked(path, data).isOpen();
 }
 
+bool create(const QByteArray &path, const Fill &fill)
+{
+    return createFilled(path, fill).isOpen();
+}
+
 FileDescriptor createLocked(const QByteArray &path, const QByteArray &data)
 {
-    const QByteArray folder = folderOf(path);
-    FileDescriptor nameless(
-        ::open(folder.constData(), O_WRONLY | O_TMPFILE | O_CLOEXEC, S_IRUSR | S_IWUSR));
-    if (fill(nameless, data) && name(nameless, path))
-        return nameless;
-    if (nameless.isOpen() && (errno == EEXIST || errno == ENOSPC || errno == EDQUOT))
-        return {};
-    // Not all file systems support files without names, and not all containers have /proc.
-    Unfinished named(folder);
-    if (!fill(named.file, data) || !moveInto(named.name, path))
-        return {};
-    return std::move(named.file);
+    return createFilled(path, writing(data));
 }
 
 bool replace(const QByteArray &base, const QByteArray &folder, const QByteArray &name,
@@ -112,7 +135,7 @@ bool replace(const QByteArray &base, const QByteArray &folder, const QByteArray 
         return false;
     const Unfinished unfinished(folder);
     const QByteArray finished = folder + '/' + name;
-    return fill(unfinished.file, data)
+    return complete(unfinished.file, writing(data))
         && ::rename(unfinished.name.constData(), finished.constData()) == 0;
 }
 

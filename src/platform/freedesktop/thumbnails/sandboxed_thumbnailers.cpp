@@ -1,7 +1,7 @@
 #include "platform/freedesktop/thumbnails/sandboxed_thumbnailers.h"
 
 #include "platform/base/cancellation.h"
-#include "platform/freedesktop/thumbnails/bounded_process.h"
+#include "platform/freedesktop/sandbox/bounded_process.h"
 #include "platform/system/file_url.h"
 #include "platform/system/regular_file.h"
 
@@ -79,7 +79,7 @@ ExternalThumbnailers::Result SandboxedThumbnailers::run(const FileVersion &file,
         = thumbnailer->entry.command({"file://" + inside, inside, Sandbox::outputPath(), pixels});
     command.front() = thumbnailer->program;
     auto result = bounded_process::run(m_sandbox.command({command, file.path, inside}),
-                                       {m_seconds, maximumBytes}, cancellation);
+                                       {m_seconds, maximumBytes}, cancellation, Sandbox::filter());
     if (result.outcome == bounded_process::Result::Outcome::NotStarted)
         return {};
     if (result.outcome == bounded_process::Result::Outcome::Killed)

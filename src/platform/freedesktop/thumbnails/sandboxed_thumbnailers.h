@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/freedesktop/thumbnails/sandbox.h"
+#include "platform/freedesktop/sandbox/sandbox.h"
 #include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
 #include "platform/pictures/external_thumbnailers.h"
 

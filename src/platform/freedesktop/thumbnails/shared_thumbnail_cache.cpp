@@ -103,7 +103,9 @@ ThumbnailCache::Found SharedThumbnailCache::find(const FileVersion &file, int pi
         const auto png = entry(m_folder + '/' + size.folder, file);
         if (!png)
             continue;
-        if (auto picture = m_codec.thumbnail(*png, pixels))
+        DecodingAttempt attempt;
+        attempt.formats = DecodingAttempt::Formats::Png;
+        if (auto picture = m_codec.thumbnail(*png, pixels, attempt))
             return {std::move(picture), false};
     }
     return {std::nullopt, entry(failureFolder(), file).has_value()};

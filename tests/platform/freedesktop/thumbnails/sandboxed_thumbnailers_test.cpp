@@ -1,9 +1,9 @@
 #include "e2e/desktop/eventually.h"
 #include "fakes/film.h"
+#include "fakes/in_process_codec.h"
 #include "platform/base/cancellation.h"
-#include "platform/freedesktop/thumbnails/bounded_process.h"
+#include "platform/freedesktop/sandbox/bounded_process.h"
 #include "platform/freedesktop/thumbnails/sandboxed_thumbnailers.h"
-#include "platform/qt/pictures/qt_image_codec.h"
 
 #include <QDir>
 #include <QFile>
@@ -169,6 +169,21 @@ TEST_F(SandboxedThumbnailersTest, giveTheProgramNothingOfThisProcess)
     EXPECT_EQ(result.outcome, Outcome::Made);
     EXPECT_FALSE(result.png.contains("secret"));
     EXPECT_FALSE(result.png.split('\n').contains("77"));
+}
+
+TEST_F(SandboxedThumbnailersTest, filterWhatTheProgramAsksOfTheKernel)
+{
+    install(
+        R"(grep ^Seccomp: /proc/self/status > "$2"; unshare --user true && echo out >> "$2"; true)");
+    const auto result = run();
+    EXPECT_EQ(result.outcome, Outcome::Made);
+    EXPECT_EQ(result.png.simplified(), "Seccomp: 2") << "filtered, and no way into namespaces";
+}
+
+TEST_F(SandboxedThumbnailersTest, showTheProgramNothingOfOtherVendors)
+{
+    install(R"(ls -d /opt > "$2" 2>/dev/null; true)");
+    EXPECT_EQ(run().png, "");
 }
 
 TEST_F(SandboxedThumbnailersTest, stopAProgramThatIgnoresToBeAsked)
@@ -375,7 +390,7 @@ TEST_F(SandboxedThumbnailersTest, showAFilmWithTheInstalledProgram)
     const auto result = SandboxedThumbnailers(installed, *sandbox, 60)
                             .run(FileVersion::at(path("films/red.avi")).value(), 128, cancellation);
     ASSERT_EQ(result.outcome, Outcome::Made);
-    const auto picture = QtImageCodec().thumbnail(result.png, 128);
+    const auto picture = test::InProcessCodec().thumbnail(result.png, 128);
     ASSERT_TRUE(picture);
     EXPECT_EQ(picture->size(), QSize(128, 96));
     EXPECT_GT(picture->pixelColor(64, 48).red(), 200);

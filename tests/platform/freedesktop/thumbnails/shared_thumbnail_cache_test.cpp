@@ -1,9 +1,9 @@
+#include "fakes/in_process_codec.h"
 #include "platform/base/cancellation.h"
-#include "platform/freedesktop/thumbnails/bounded_process.h"
+#include "platform/freedesktop/sandbox/bounded_process.h"
 #include "platform/freedesktop/thumbnails/png_text.h"
 #include "platform/freedesktop/thumbnails/shared_thumbnail_cache.h"
 #include "platform/freedesktop/thumbnails/thumbnail_uri.h"
-#include "platform/qt/pictures/qt_image_codec.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -110,7 +110,7 @@ protected:
     QTemporaryDir folder;
     QByteArray top = QFile::encodeName(folder.path());
     QByteArrayList files;
-    QtImageCodec codec;
+    test::InProcessCodec codec;
     SharedThumbnailCache cache{codec, {path("cache"), "corvane-1.2", {path("spool")}}};
 };
 

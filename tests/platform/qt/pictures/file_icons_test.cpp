@@ -41,6 +41,19 @@ protected:
     QtFileIcons icons{locality};
 };
 
+/// The icons of whatever theme there is.
+class SystemIconsTest : public testing::Test {
+protected:
+    QUrl saved(const QString &name) const
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        return QUrl::fromLocalFile(file.fileName());
+    }
+
+    QTemporaryDir folder;
+};
+
 } // namespace
 
 TEST_F(FileIconsTest, AnIconThatIsNoSquareStandsInTheMiddleOfOne)
@@ -77,6 +90,36 @@ TEST_F(FileIconsTest, AFolderHasATabAndASheetATurnedCorner)
     EXPECT_EQ(sheet.pixelColor(233, 65).alpha(), 255);
     EXPECT_EQ(sheet.pixelColor(238, 65).alpha(), 0);
     EXPECT_EQ(sheet.pixelColor(190, 113), sheet.pixelColor(100, 200)) << "right below the corner";
+}
+
+TEST_F(SystemIconsTest, EveryFileHasAnIconOfTheWantedSize)
+{
+    const FakeFileLocality locality;
+    QtFileIcons icons(locality);
+    for (const QUrl &url :
+         {saved(QStringLiteral("a.txt")), saved(QStringLiteral("b.unknown")),
+          saved(QStringLiteral("noextension")), QUrl::fromLocalFile(folder.path()),
+          QUrl::fromLocalFile(folder.path() + u'/'), QUrl(QStringLiteral("file:///gone.png")),
+          QUrl()}) {
+        const Image icon = icons.iconForFile(url, 30, 1.5);
+        EXPECT_EQ(icon.bitmap.size(), QSize(45, 45)) << url.toEncoded().constData();
+        EXPECT_EQ(icon.size, QSizeF(30, 30));
+        EXPECT_NE(icon.bitmap, QImage(icon.bitmap.size(), icon.bitmap.format()));
+    }
+    EXPECT_NE(icons.iconForFile(QUrl::fromLocalFile(folder.path()), 30, 1).bitmap,
+              icons.iconForFile(saved(QStringLiteral("a.txt")), 30, 1).bitmap);
+}
+
+TEST_F(SystemIconsTest, AnIconOfARemoteFileTouchesNothing)
+{
+    FakeFileLocality locality;
+    QtFileIcons icons(locality);
+    const QUrl remote = QUrl::fromLocalFile(folder.path());
+    const QImage asFolder = icons.iconForFile(remote, 30, 1).bitmap;
+    EXPECT_EQ(asFolder, icons.iconForFolder(30, 1).bitmap);
+    locality.remoteFolder = folder.path().toUtf8();
+    EXPECT_NE(icons.iconForFile(remote, 30, 1).bitmap, asFolder) << "it was looked at";
+    EXPECT_EQ(icons.iconForFile(QUrl::fromLocalFile(folder.path() + u'/'), 30, 1).bitmap, asFolder);
 }
 
 } // namespace corvane::test

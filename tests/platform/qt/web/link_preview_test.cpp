@@ -1,8 +1,8 @@
 // Link previews of pages and pictures as servers send them, through all that stands between.
 
 #include "fakes/boasting_png.h"
+#include "fakes/in_process_codec.h"
 #include "platform/qt/base/qt_work_queue.h"
-#include "platform/qt/pictures/qt_image_codec.h"
 #include "platform/qt/web/web_client_fixture.h"
 #include "services/link_preview_service.h"
 
@@ -47,7 +47,7 @@ protected:
         return file.leftJustified(bytes, '\0');
     }
 
-    QtImageCodec codec;
+    test::InProcessCodec codec;
     QtWorkQueue work;
     HttpServer server;
 };

@@ -1,14 +1,18 @@
-#include "core/temporary_spool.h"
 #include "fakes/turned_jpeg.h"
-#include "platform/qt/pictures/qt_image_codec.h"
-#include "preview/qt_preview_documents.h"
+#include "platform/freedesktop/decoding/decoder_documents.h"
+#include "platform/freedesktop/decoding/decoder_image_codec.h"
+#include "platform/freedesktop/sandbox/sandbox.h"
+#include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
 
 #include <QBuffer>
 #include <QImageReader>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace corvane::test {
 namespace {
@@ -44,7 +48,27 @@ QByteArray animation(char delay, char rounds)
     return gif + ';';
 }
 
-struct QtPreviewDocumentsTest : testing::Test {
+struct Folder {
+    QByteArray path(const QByteArray &name) const
+    {
+        return directory.filePath(QString::fromUtf8(name)).toUtf8();
+    }
+    QUrl url(const QByteArray &name) const
+    {
+        return QUrl::fromLocalFile(QString::fromUtf8(path(name)));
+    }
+    QUrl write(const QByteArray &name, const QByteArray &contents) const
+    {
+        QFile file(QString::fromUtf8(path(name)));
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        file.write(contents);
+        return url(name);
+    }
+
+    QTemporaryDir directory;
+};
+
+struct DecoderDocumentsTest : testing::Test {
     std::optional<PreviewContent::Picture> picture(const QByteArray &name, const QByteArray &bytes,
                                                    QSize wanted = {200, 100})
     {
@@ -71,12 +95,15 @@ struct QtPreviewDocumentsTest : testing::Test {
         return drawn ? drawn->fitted.pixelColor(drawn->fitted.rect().center()) : QColor();
     }
 
-    TemporaryFolder folder;
-    QtImageCodec codec;
-    QtPreviewDocuments documents;
+    Folder folder;
+    Sandbox sandbox{ThumbnailerRegistry::environmentProgramFolders()};
+    DecoderProgram program{sandbox};
+    DecoderPool pool{program};
+    DecoderImageCodec codec{pool};
+    DecoderDocuments documents{pool};
 };
 
-TEST_F(QtPreviewDocumentsTest, FitsALargePictureAndRendersMoreOfItOnDemand)
+TEST_F(DecoderDocumentsTest, FitsALargePictureAndRendersMoreOfItOnDemand)
 {
     const auto large = picture("a.jpg", encoded({800, 400}, "jpeg"));
     ASSERT_TRUE(large.has_value());
@@ -86,12 +113,12 @@ TEST_F(QtPreviewDocumentsTest, FitsALargePictureAndRendersMoreOfItOnDemand)
     EXPECT_EQ(large->document->render(0, {333, 77})->size(), QSize(333, 77));
 }
 
-TEST_F(QtPreviewDocumentsTest, KeepsASmallPictureAsItIs)
+TEST_F(DecoderDocumentsTest, KeepsASmallPictureAsItIs)
 {
     EXPECT_EQ(picture("a.png", encoded({20, 10}, "png"))->fitted.size(), QSize(20, 10));
 }
 
-TEST_F(QtPreviewDocumentsTest, HasTheUprightSizeOfATurnedPicture)
+TEST_F(DecoderDocumentsTest, HasTheUprightSizeOfATurnedPicture)
 {
     QImage image(400, 100, QImage::Format_RGB32);
     image.fill(Qt::red);
@@ -101,14 +128,14 @@ TEST_F(QtPreviewDocumentsTest, HasTheUprightSizeOfATurnedPicture)
     EXPECT_EQ(turned->fitted.size(), QSize(50, 200));
 }
 
-TEST_F(QtPreviewDocumentsTest, RefusesToRenderMorePixelsThanMayBeDecoded)
+TEST_F(DecoderDocumentsTest, RefusesToRenderMorePixelsThanMayBeDecoded)
 {
     const auto small = picture("a.png", encoded({20, 10}, "png"));
     EXPECT_FALSE(small->document->render(0, {30'000, 30'000}).has_value());
     EXPECT_FALSE(small->document->render(0, {0, 10}).has_value());
 }
 
-TEST_F(QtPreviewDocumentsTest, RefusesAPictureWhoseHeaderPromisesGigabytes)
+TEST_F(DecoderDocumentsTest, RefusesAPictureWhoseHeaderPromisesGigabytes)
 {
     QByteArray header = encoded({1, 1}, "png");
     // Width and height stand behind the signature and the chunk's head; its check sum is right.
@@ -119,14 +146,14 @@ TEST_F(QtPreviewDocumentsTest, RefusesAPictureWhoseHeaderPromisesGigabytes)
     EXPECT_FALSE(picture("a.png", header).has_value());
 }
 
-TEST_F(QtPreviewDocumentsTest, IsNotMisledByAName)
+TEST_F(DecoderDocumentsTest, IsNotMisledByAName)
 {
     EXPECT_TRUE(picture("a.png", encoded({20, 10}, "jpeg")).has_value());
     EXPECT_FALSE(picture("a.png", "no picture").has_value());
     EXPECT_FALSE(picture("a.svgz", QByteArray("\x1f\x8b\x08\0\0\0\0\0", 8)).has_value());
 }
 
-TEST_F(QtPreviewDocumentsTest, RendersADrawingSharpAtEverySize)
+TEST_F(DecoderDocumentsTest, RendersADrawingSharpAtEverySize)
 {
     const auto drawing = picture("a.svg", svg("<rect width='40' height='20' fill='#ff0000'/>"));
     ASSERT_TRUE(drawing.has_value());
@@ -136,7 +163,7 @@ TEST_F(QtPreviewDocumentsTest, RendersADrawingSharpAtEverySize)
     EXPECT_EQ(drawing->document->render(0, {400, 200})->pixelColor(399, 199), QColor(Qt::red));
 }
 
-TEST_F(QtPreviewDocumentsTest, FollowsNoReferenceOfADrawing)
+TEST_F(DecoderDocumentsTest, FollowsNoReferenceOfADrawing)
 {
     const QByteArray other = folder.path("other.png");
     folder.write("other.png", encoded({40, 20}, "png"));
@@ -153,7 +180,7 @@ TEST_F(QtPreviewDocumentsTest, FollowsNoReferenceOfADrawing)
         EXPECT_EQ(middle(image("xlink:href='" + reference + "'")), QColor(Qt::blue))
             << reference.constData();
         EXPECT_EQ(middle(image("href='" + reference + "'")), QColor(Qt::blue));
-        const auto decoded = codec.decode(image("xlink:href='" + reference + "'"));
+        const auto decoded = codec.thumbnail(image("xlink:href='" + reference + "'"), 40);
         ASSERT_TRUE(decoded.has_value());
         EXPECT_EQ(decoded->pixelColor(20, 10), QColor(Qt::blue)) << "on the shelf neither";
     }
@@ -162,7 +189,7 @@ TEST_F(QtPreviewDocumentsTest, FollowsNoReferenceOfADrawing)
         << "a bitmap that is part of the drawing stays";
 }
 
-TEST_F(QtPreviewDocumentsTest, RefusesADrawingThatGrowsByEntities)
+TEST_F(DecoderDocumentsTest, RefusesADrawingThatGrowsByEntities)
 {
     QByteArray bomb = "<?xml version='1.0'?><!DOCTYPE svg [<!ENTITY a0 'aaaaaaaaaa'>";
     for (int i = 1; i < 10; ++i) {
@@ -172,13 +199,13 @@ TEST_F(QtPreviewDocumentsTest, RefusesADrawingThatGrowsByEntities)
     EXPECT_FALSE(picture("a.svg", bomb + "]>" + svg("<text>&a9;</text>")).has_value());
 }
 
-TEST_F(QtPreviewDocumentsTest, SurvivesADrawingOfEndlessDepth)
+TEST_F(DecoderDocumentsTest, SurvivesADrawingOfEndlessDepth)
 {
     constexpr int depth = 100'000;
     picture("a.svg", svg(QByteArray("<g>").repeated(depth) + QByteArray("</g>").repeated(depth)));
 }
 
-TEST_F(QtPreviewDocumentsTest, PlaysAnAnimationWithItsDelaysAndRounds)
+TEST_F(DecoderDocumentsTest, PlaysAnAnimationWithItsDelaysAndRounds)
 {
     const auto moving = picture("a.gif", animation(5, 1));
     ASSERT_TRUE(moving.has_value());
@@ -193,19 +220,18 @@ TEST_F(QtPreviewDocumentsTest, PlaysAnAnimationWithItsDelaysAndRounds)
     EXPECT_FALSE(moving->document->nextFrame({10, 10}).has_value()) << "it repeats once";
 }
 
-TEST_F(QtPreviewDocumentsTest, PlaysAnEndlessAnimationFrameByFrame)
+TEST_F(DecoderDocumentsTest, PlaysAnEndlessAnimationFrameByFrame)
 {
     const auto moving = picture("a.gif", animation(0, 0));
     ASSERT_TRUE(moving.has_value());
     for (int i = 0; i < 20; ++i) {
         const auto frame = moving->document->nextFrame({10, 10});
         ASSERT_TRUE(frame.has_value());
-        EXPECT_EQ(frame->duration, QtPreviewDocuments::frameInstead)
-            << "nobody means no time at all";
+        EXPECT_EQ(frame->duration, 0.1) << "nobody means no time at all";
     }
 }
 
-TEST_F(QtPreviewDocumentsTest, ASinglePictureIsNoAnimation)
+TEST_F(DecoderDocumentsTest, ASinglePictureIsNoAnimation)
 {
     const QByteArray whole = animation(5, 0);
     const qsizetype second = whole.lastIndexOf("!\xF9");
@@ -215,7 +241,7 @@ TEST_F(QtPreviewDocumentsTest, ASinglePictureIsNoAnimation)
     EXPECT_FALSE(still->document->nextFrame({10, 10}).has_value());
 }
 
-TEST_F(QtPreviewDocumentsTest, RendersThePagesOfADocument)
+TEST_F(DecoderDocumentsTest, RendersThePagesOfADocument)
 {
     const auto opened = documents.open(writePdf(3), {200, 100});
     if (!opened)
@@ -230,12 +256,12 @@ TEST_F(QtPreviewDocumentsTest, RendersThePagesOfADocument)
     EXPECT_FALSE(pages.document->render(3, {300, 424}).has_value());
 }
 
-TEST_F(QtPreviewDocumentsTest, RefusesABrokenDocument)
+TEST_F(DecoderDocumentsTest, RefusesABrokenDocument)
 {
     EXPECT_FALSE(documents.open(folder.write("b.pdf", "%PDF-1.4\ngarbage"), {200, 100}));
 }
 
-TEST_F(QtPreviewDocumentsTest, OpensNoPipeAndNoDevice)
+TEST_F(DecoderDocumentsTest, OpensNoPipeAndNoDevice)
 {
     ASSERT_EQ(::mkfifo(folder.path("pipe.png").constData(), 0600), 0);
     EXPECT_FALSE(documents.open(folder.url("pipe.png"), {200, 100}));

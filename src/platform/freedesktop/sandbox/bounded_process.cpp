@@ -1,4 +1,4 @@
-#include "platform/freedesktop/thumbnails/bounded_process.h"
+#include "platform/freedesktop/sandbox/bounded_process.h"
 
 #include "platform/base/cancellation.h"
 #include "platform/system/file_descriptor.h"
@@ -24,7 +24,7 @@ namespace corvane::bounded_process {
 namespace {
 
 /// The process, or -1. It leads a session and a group. `output` becomes its standard output.
-pid_t start(const QByteArrayList &arguments, int output)
+pid_t start(const QByteArrayList &arguments, int output, const FileDescriptor &handed)
 {
     std::vector<char *> pointers;
     pointers.reserve(static_cast<std::size_t>(arguments.size()) + 1);
@@ -37,7 +37,10 @@ pid_t start(const QByteArrayList &arguments, int output)
     posix_spawn_file_actions_adddup2(&actions, output, STDOUT_FILENO);
     posix_spawn_file_actions_addopen(&actions, STDIN_FILENO, "/dev/null", O_RDONLY, 0);
     posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addclosefrom_np(&actions, STDERR_FILENO + 1);
+    if (handed.isOpen())
+        posix_spawn_file_actions_adddup2(&actions, handed.number(), handedNumber);
+    posix_spawn_file_actions_addclosefrom_np(&actions,
+                                             handed.isOpen() ? handedNumber + 1 : handedNumber);
 
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
@@ -100,7 +103,8 @@ bool readAll(int output, int stop, const Limits &limits, QByteArray &data)
 
 } // namespace
 
-Result run(const QByteArrayList &arguments, const Limits &limits, Cancellation &cancellation)
+Result run(const QByteArrayList &arguments, const Limits &limits, Cancellation &cancellation,
+           const FileDescriptor &handed)
 {
     std::array<int, 2> ends = {-1, -1};
     if (arguments.isEmpty() || ::pipe2(ends.data(), O_CLOEXEC) != 0)
@@ -112,7 +116,7 @@ Result run(const QByteArrayList &arguments, const Limits &limits, Cancellation &
         return {};
     const Cancellation::Handler handler(cancellation,
                                         [&stop] { ::eventfd_write(stop.number(), 1); });
-    const pid_t process = start(arguments, input.number());
+    const pid_t process = start(arguments, input.number(), handed);
     if (process < 0)
         return {};
     input.close();

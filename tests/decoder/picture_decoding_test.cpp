@@ -1,8 +1,6 @@
 #include "fakes/boasting_png.h"
-#include "fakes/fake_file_locality.h"
+#include "fakes/in_process_codec.h"
 #include "fakes/turned_jpeg.h"
-#include "platform/qt/pictures/qt_file_icons.h"
-#include "platform/qt/pictures/qt_image_codec.h"
 #include "platform/system/file_url.h"
 
 #include <QBuffer>
@@ -46,9 +44,9 @@ bool isReady(const QImage &image)
         || image.format() == QImage::Format_RGB32;
 }
 
-class ImageCodecTest : public testing::Test {
+class PictureDecodingTest : public testing::Test {
 protected:
-    ~ImageCodecTest() override
+    ~PictureDecodingTest() override
     {
         // Qt cannot remove what it cannot spell.
         for (const QByteArray &path : paths)
@@ -64,14 +62,14 @@ protected:
         return url;
     }
 
-    QtImageCodec codec;
+    InProcessCodec codec;
     QTemporaryDir folder;
     QByteArrayList paths;
 };
 
 } // namespace
 
-TEST_F(ImageCodecTest, thumbnailsKeepProportionsAndTheLimit)
+TEST_F(PictureDecodingTest, thumbnailsKeepProportionsAndTheLimit)
 {
     const auto image = codec.thumbnail(written(halves(400, 100), "png"), 60);
     ASSERT_TRUE(image);
@@ -81,12 +79,12 @@ TEST_F(ImageCodecTest, thumbnailsKeepProportionsAndTheLimit)
     EXPECT_EQ(codec.thumbnail(written(halves(2000, 2), "png"), 60)->size(), QSize(60, 1));
 }
 
-TEST_F(ImageCodecTest, aSmallerPictureKeepsItsSize)
+TEST_F(PictureDecodingTest, aSmallerPictureKeepsItsSize)
 {
     EXPECT_EQ(codec.thumbnail(written(halves(20, 10), "png"), 60)->size(), QSize(20, 10));
 }
 
-TEST_F(ImageCodecTest, turnsPicturesUpright)
+TEST_F(PictureDecodingTest, turnsPicturesUpright)
 {
     const auto bytes = turnedJpeg(halves(400, 100));
     EXPECT_EQ(codec.pixelSize(bytes), QSize(400, 100));
@@ -98,7 +96,7 @@ TEST_F(ImageCodecTest, turnsPicturesUpright)
     EXPECT_EQ(codec.decode(bytes)->size(), QSize(100, 400));
 }
 
-TEST_F(ImageCodecTest, readsEveryFormatOfItsKind)
+TEST_F(PictureDecodingTest, readsEveryFormatOfItsKind)
 {
     for (const char *format : {"png", "jpeg", "bmp", "webp", "tiff", "ppm", "ico"}) {
         const auto bytes = written(halves(40, 20), format);
@@ -111,7 +109,22 @@ TEST_F(ImageCodecTest, readsEveryFormatOfItsKind)
     }
 }
 
-TEST_F(ImageCodecTest, drawsSvgAtTheWantedSize)
+TEST_F(PictureDecodingTest, ofTheWebReadsNoMoreThanTheWebNeeds)
+{
+    DecodingAttempt attempt;
+    attempt.formats = DecodingAttempt::Formats::Web;
+    for (const char *format : {"png", "jpeg", "webp"})
+        EXPECT_TRUE(codec.thumbnail(written(halves(40, 20), format), 10, attempt)) << format;
+    for (const char *format : {"tiff", "bmp", "ppm", "ico"})
+        EXPECT_FALSE(codec.thumbnail(written(halves(40, 20), format), 10, attempt)) << format;
+    EXPECT_FALSE(codec.thumbnail("<svg xmlns='http://www.w3.org/2000/svg' width='8' height='4'/>",
+                                 10, attempt));
+    attempt.formats = DecodingAttempt::Formats::Png;
+    EXPECT_TRUE(codec.thumbnail(written(halves(40, 20), "png"), 10, attempt));
+    EXPECT_FALSE(codec.thumbnail(written(halves(40, 20), "jpeg"), 10, attempt));
+}
+
+TEST_F(PictureDecodingTest, drawsSvgAtTheWantedSize)
 {
     const QByteArray svg = "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='4'>"
                            "<rect width='8' height='4' fill='#ff0000'/></svg>";
@@ -126,7 +139,7 @@ TEST_F(ImageCodecTest, drawsSvgAtTheWantedSize)
     EXPECT_EQ(codec.thumbnail(huge, 60)->size(), QSize(60, 60));
 }
 
-TEST_F(ImageCodecTest, doesNotDecodeWhatWouldNotFit)
+TEST_F(PictureDecodingTest, doesNotDecodeWhatWouldNotFit)
 {
     const auto bomb = boastingPng(30'000, 30'000);
     EXPECT_EQ(codec.pixelSize(bomb), QSize(30'000, 30'000));
@@ -135,7 +148,7 @@ TEST_F(ImageCodecTest, doesNotDecodeWhatWouldNotFit)
     EXPECT_FALSE(codec.thumbnail(boastingPng(0x7fffffff, 0x7fffffff), 60));
 }
 
-TEST_F(ImageCodecTest, brokenBytesYieldNone)
+TEST_F(PictureDecodingTest, brokenBytesYieldNone)
 {
     const auto png = written(halves(64, 64), "png");
     for (const QByteArray &bytes :
@@ -149,7 +162,7 @@ TEST_F(ImageCodecTest, brokenBytesYieldNone)
     EXPECT_FALSE(codec.thumbnail(png, 0));
 }
 
-TEST_F(ImageCodecTest, readsFilesByTheirExactNames)
+TEST_F(PictureDecodingTest, readsFilesByTheirExactNames)
 {
     const auto png = written(halves(40, 20), "png");
     for (const char *name : {"plain.png", "a b#c?d%.png", "caf\xE9.png", "png.named.jpg", "none"}) {
@@ -159,7 +172,7 @@ TEST_F(ImageCodecTest, readsFilesByTheirExactNames)
     }
 }
 
-TEST_F(ImageCodecTest, opensRegularFilesOnly)
+TEST_F(PictureDecodingTest, opensRegularFilesOnly)
 {
     const QByteArray pipe = folder.path().toUtf8() + "/pipe.png";
     ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
@@ -170,7 +183,7 @@ TEST_F(ImageCodecTest, opensRegularFilesOnly)
     EXPECT_FALSE(codec.fileThumbnail(QUrl(QStringLiteral("https://example.org/x.png")), 60));
 }
 
-TEST_F(ImageCodecTest, writesWhatItReads)
+TEST_F(PictureDecodingTest, writesWhatItReads)
 {
     const auto image = halves(40, 20);
     for (const char *name : {"image/png", "image/tiff", "image/jpeg", "image/webp"}) {
@@ -184,7 +197,7 @@ TEST_F(ImageCodecTest, writesWhatItReads)
     EXPECT_FALSE(codec.encode({}, UTType::png()));
 }
 
-TEST_F(ImageCodecTest, keepsSixteenBitsAChannel)
+TEST_F(PictureDecodingTest, keepsSixteenBitsAChannel)
 {
     const QColor colour = QColor::fromRgba64(0x1234, 0x5678, 0x9abc, 0xdef0);
     for (const auto format :
@@ -243,7 +256,7 @@ QByteArray translucentTiff(const QByteArray &pixels, quint32 samples, quint32 al
 
 } // namespace
 
-TEST_F(ImageCodecTest, keepsTheColoursOfTranslucentPixels)
+TEST_F(PictureDecodingTest, keepsTheColoursOfTranslucentPixels)
 {
     const QByteArray pixels("\xc8\x64\x32\x03\xff\x00\x80\x00\x01\x02\x03\xff", 12);
     const auto image = codec.decode(translucentTiff(pixels, 4, 2));
@@ -256,7 +269,7 @@ TEST_F(ImageCodecTest, keepsTheColoursOfTranslucentPixels)
     EXPECT_EQ(png->pixel(1, 0), qRgba(255, 0, 128, 0));
 }
 
-TEST_F(ImageCodecTest, readsTranslucentTiffOfEveryKind)
+TEST_F(PictureDecodingTest, readsTranslucentTiffOfEveryKind)
 {
     const auto multiplied = codec.decode(translucentTiff({"\x40\x20\x10\x80", 4}, 4, 1));
     ASSERT_TRUE(multiplied);
@@ -275,7 +288,7 @@ TEST_F(ImageCodecTest, readsTranslucentTiffOfEveryKind)
     EXPECT_NEAR(multipliedGrey->pixelColor(0, 0).red(), 128, 1);
 }
 
-TEST_F(ImageCodecTest, brokenTiffDirectoriesYieldNone)
+TEST_F(PictureDecodingTest, brokenTiffDirectoriesYieldNone)
 {
     const auto whole = translucentTiff({"\xc8\x64\x32\x03", 4}, 4, 2);
     for (qsizetype length = 1; length < whole.size() - 4; length += 3)
@@ -285,7 +298,7 @@ TEST_F(ImageCodecTest, brokenTiffDirectoriesYieldNone)
     EXPECT_FALSE(codec.decode(elsewhere));
 }
 
-TEST_F(ImageCodecTest, aJpegShowsWhiteWhereThePictureWasTransparent)
+TEST_F(PictureDecodingTest, aJpegShowsWhiteWhereThePictureWasTransparent)
 {
     QImage clear(16, 16, QImage::Format_ARGB32_Premultiplied);
     clear.fill(Qt::transparent);
@@ -293,7 +306,7 @@ TEST_F(ImageCodecTest, aJpegShowsWhiteWhereThePictureWasTransparent)
     EXPECT_GT(codec.decode(*bytes)->pixelColor(8, 8).lightness(), 250);
 }
 
-TEST_F(ImageCodecTest, doesNotDecodeDocumentsThatCanShowPages)
+TEST_F(PictureDecodingTest, doesNotDecodeDocumentsThatCanShowPages)
 {
     const QByteArray pdf = "%PDF-1.4\n"
                            "1 0 obj<</Type/Catalog/Pages 2 0 R>>endobj\n"
@@ -303,35 +316,6 @@ TEST_F(ImageCodecTest, doesNotDecodeDocumentsThatCanShowPages)
     EXPECT_FALSE(codec.thumbnail(pdf, 60));
     EXPECT_FALSE(codec.fileThumbnail(saved("a.pdf", pdf), 60));
     EXPECT_FALSE(codec.fileThumbnail(saved("a.png", pdf), 60));
-}
-
-TEST_F(ImageCodecTest, everyFileHasAnIconOfTheWantedSize)
-{
-    const FakeFileLocality locality;
-    QtFileIcons icons(locality);
-    for (const QUrl &url :
-         {saved("a.txt", ""), saved("b.unknown", ""), saved("noextension", ""),
-          QUrl::fromLocalFile(folder.path()), QUrl::fromLocalFile(folder.path() + u'/'),
-          QUrl(QStringLiteral("file:///gone.png")), QUrl()}) {
-        const Image icon = icons.iconForFile(url, 30, 1.5);
-        EXPECT_EQ(icon.bitmap.size(), QSize(45, 45)) << url.toEncoded().constData();
-        EXPECT_EQ(icon.size, QSizeF(30, 30));
-        EXPECT_NE(icon.bitmap, QImage(icon.bitmap.size(), icon.bitmap.format()));
-    }
-    EXPECT_NE(icons.iconForFile(QUrl::fromLocalFile(folder.path()), 30, 1).bitmap,
-              icons.iconForFile(saved("a.txt", ""), 30, 1).bitmap);
-}
-
-TEST_F(ImageCodecTest, anIconOfARemoteFileTouchesNothing)
-{
-    FakeFileLocality locality;
-    QtFileIcons icons(locality);
-    const QUrl remote = QUrl::fromLocalFile(folder.path());
-    const QImage asFolder = icons.iconForFile(remote, 30, 1).bitmap;
-    EXPECT_EQ(asFolder, icons.iconForFolder(30, 1).bitmap);
-    locality.remoteFolder = folder.path().toUtf8();
-    EXPECT_NE(icons.iconForFile(remote, 30, 1).bitmap, asFolder) << "it was looked at";
-    EXPECT_EQ(icons.iconForFile(QUrl::fromLocalFile(folder.path() + u'/'), 30, 1).bitmap, asFolder);
 }
 
 } // namespace corvane::test

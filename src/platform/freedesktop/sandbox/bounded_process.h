@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/system/file_descriptor.h"
+
 #include <QByteArray>
 #include <QByteArrayList>
 
@@ -32,9 +34,12 @@ struct Result {
 
 /// Starts `arguments` (the first is the program's path), waits for its end, and leaves no process
 /// behind that it is the parent of. At a limit everything is killed that has stayed in the
-/// program's process group. The program gets no descriptor of ours, no input, no place for
-/// messages, a session of its own, and the environment of this process.
-Result run(const QByteArrayList &arguments, const Limits &limits, Cancellation &cancellation);
+/// program's process group. The program gets no descriptor of ours but `handed`, if that is one; no
+/// input, no place for messages, a session of its own, and the environment of this process.
+Result run(const QByteArrayList &arguments, const Limits &limits, Cancellation &cancellation,
+           const FileDescriptor &handed = FileDescriptor());
+/// What `handed` is called there.
+inline constexpr int handedNumber = 3;
 
 } // namespace bounded_process
 

@@ -1,7 +1,7 @@
-#include "platform/qt/pictures/picture_reader.h"
+#include "decoder/picture_reader.h"
 
+#include "decoder/svg_without_references.h"
 #include "platform/pictures/image_codec.h"
-#include "platform/qt/pictures/svg_without_references.h"
 
 #include <algorithm>
 #include <array>
@@ -19,19 +19,65 @@ bool isReadable(const QByteArray &format)
     return std::ranges::any_of(readableFormats, [&](const char *known) { return format == known; });
 }
 
+/// The format that most pictures are of, by their first bytes; empty for the others. Qt itself
+/// would load the plug-ins of all formats and ask each.
+QByteArray commonFormat(const QByteArray &beginning)
+{
+    if (beginning.startsWith("\x89PNG\r\n\x1a\n"))
+        return "png";
+    if (beginning.startsWith("\xff\xd8\xff"))
+        return "jpeg";
+    if (beginning.startsWith("GIF87a") || beginning.startsWith("GIF89a"))
+        return "gif";
+    if (beginning.startsWith("RIFF") && beginning.mid(8, 4) == "WEBP")
+        return "webp";
+    if (beginning.mid(4, 4) == "ftyp" && beginning.mid(8, 3) == "avi")
+        return "avif";
+    if (beginning.startsWith(QByteArray("II*\0", 4))
+        || beginning.startsWith(QByteArray("MM\0*", 4)))
+        return "tiff";
+    return {};
+}
+
+bool isAllowed(const QByteArray &format, PictureReader::Formats formats)
+{
+    switch (formats) {
+    case PictureReader::Formats::Any:
+        return true;
+    case PictureReader::Formats::Web:
+        return !format.isEmpty() && format != "tiff";
+    case PictureReader::Formats::Png:
+        return format == "png";
+    }
+    return false;
+}
+
 } // namespace
 
-bool PictureReader::open(QIODevice &device)
+bool PictureReader::open(QIODevice &device, Formats formats)
 {
-    // The signature of gzip; of pictures only compressed drawings have it.
-    if (device.peek(2) == "\x1f\x8b")
-        return false;
     m_reader.setDevice(&device);
-    m_reader.setDecideFormatFromContent(true);
     m_reader.setAutoTransform(true);
-    if (!m_reader.canRead() || !isReadable(m_reader.format()))
+    if (!recognise(device, formats))
         return false;
     return !isVector() || openDrawing(device);
+}
+
+bool PictureReader::recognise(QIODevice &device, Formats formats)
+{
+    constexpr qint64 enough = 12;
+    const QByteArray beginning = device.peek(enough);
+    const QByteArray format = commonFormat(beginning);
+    // The signature of gzip; of pictures only compressed drawings have it.
+    if (!isAllowed(format, formats) || beginning.startsWith("\x1f\x8b"))
+        return false;
+    if (!format.isEmpty()) {
+        m_reader.setAutoDetectImageFormat(false);
+        m_reader.setFormat(format);
+        return m_reader.canRead();
+    }
+    m_reader.setDecideFormatFromContent(true);
+    return m_reader.canRead() && isReadable(m_reader.format());
 }
 
 bool PictureReader::openDrawing(QIODevice &device)

@@ -1,4 +1,4 @@
-#include "platform/qt/pictures/tiff_as_stored.h"
+#include "decoder/tiff_as_stored.h"
 
 #include <QtEndian>
 

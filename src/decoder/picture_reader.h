@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/pictures/decoder_protocol.h"
+
 #include <QBuffer>
 #include <QImageReader>
 
@@ -15,9 +17,11 @@ namespace corvane {
 /// without the files that they refer to. One thread at a time.
 class PictureReader {
 public:
-    /// Opens the picture. False if it is of no format that is read. The device must outlive the
-    /// reader.
-    bool open(QIODevice &device);
+    using Formats = decoder_protocol::Formats;
+
+    /// Opens the picture. False if it is of no format that is read, or none of those. The device
+    /// must outlive the reader.
+    bool open(QIODevice &device, Formats formats = Formats::Any);
 
     QImageReader &reader() { return m_reader; }
     /// Whether it is a drawing without pixels of its own (SVG).
@@ -33,6 +37,7 @@ public:
     std::optional<QImage> readAsStored();
 
 private:
+    bool recognise(QIODevice &device, Formats formats);
     bool openDrawing(QIODevice &device);
 
     QByteArray m_drawing;

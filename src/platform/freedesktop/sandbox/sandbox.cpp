@@ -1,7 +1,8 @@
-#include "platform/freedesktop/thumbnails/sandbox.h"
+#include "platform/freedesktop/sandbox/sandbox.h"
 
 #include "platform/base/cancellation.h"
-#include "platform/freedesktop/thumbnails/bounded_process.h"
+#include "platform/freedesktop/sandbox/bounded_process.h"
+#include "platform/system/system_call_filter.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -58,6 +59,7 @@ Sandbox::Sandbox(const QByteArrayList &programFolders)
     : m_bubblewrap(find(programFolders, "bwrap"))
     , m_limiter(find(programFolders, "prlimit"))
     , m_shell(find(programFolders, "sh"))
+    , m_hasFilter(filter().isOpen())
 {
 }
 
@@ -79,7 +81,7 @@ QByteArrayList Sandbox::walls() const
     for (const char *path : {"/bin", "/sbin", "/lib", "/lib32", "/lib64", "/libx32"})
         arguments << rootFolder(path);
     for (const char *path :
-         {"/opt", "/nix/store", "/gnu/store", "/etc/alternatives", "/etc/fonts", "/etc/ld.so.cache",
+         {"/nix/store", "/gnu/store", "/etc/alternatives", "/etc/fonts", "/etc/ld.so.cache",
           "/etc/ld.so.conf", "/etc/ld.so.conf.d", "/var/cache/fontconfig"})
         arguments << readOnly(path);
     arguments << QByteArrayList{"--proc", "/proc", "--dev", "/dev"};
@@ -88,9 +90,27 @@ QByteArrayList Sandbox::walls() const
     return arguments;
 }
 
+FileDescriptor Sandbox::filter()
+{
+    return system_call_filter::forForeignProgram();
+}
+
+QByteArrayList Sandbox::command(const OwnProgram &program) const
+{
+    QByteArrayList arguments = walls();
+    for (const QByteArray &path : program.files)
+        arguments << QByteArrayList{"--ro-bind", path, path};
+    for (qsizetype i = 0; i + 1 < program.environment.size(); i += 2)
+        arguments << QByteArrayList{"--setenv", program.environment[i], program.environment[i + 1]};
+    arguments << QByteArrayList{"--remount-ro", "/dev", "--remount-ro", "/", "--chdir", "/", "--"};
+    return arguments + program.command;
+}
+
 QByteArrayList Sandbox::command(const Program &program) const
 {
     QByteArrayList arguments = walls();
+    if (m_hasFilter)
+        arguments << "--seccomp" << QByteArray::number(bounded_process::handedNumber);
     const QByteArray path = program.command.constFirst();
     // A user's own program is shown alone, without what lies beside it.
     if (!path.startsWith("/usr/"))
@@ -122,7 +142,7 @@ bool Sandbox::tryOut() const
         return false;
     const Program program = {{m_shell, "-c", "echo inside > /out/thumbnail.png"}, {}, {}};
     Cancellation never;
-    const auto result = bounded_process::run(command(program), {5, 1024}, never);
+    const auto result = bounded_process::run(command(program), {5, 1024}, never, filter());
     return result.outcome == bounded_process::Result::Outcome::Ended && result.exitCode == 0
         && result.output == "inside\n";
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/system/file_descriptor.h"
+
 #include <QByteArray>
 #include <QByteArrayList>
 
@@ -8,11 +10,13 @@
 
 namespace corvane {
 
-/// Where a program that is not trusted may run: in namespaces of its own, made by bubblewrap.
+/// Where a program runs that reads strangers' files: in namespaces of its own, made by bubblewrap.
 ///
-/// It sees the system's programs and libraries, one input file, and memory to write to; no home, no
-/// network, no other process, nothing that it could leave behind. What it made is copied to the
-/// standard output when it ended well. Time and output are for the caller to bound.
+/// It sees the system's programs and libraries, and memory to write to; no home, no network, no
+/// other process, nothing that it could leave behind. Thumbnail programs of the desktop see one
+/// input file besides, and what they made is copied to the standard output when they ended well;
+/// system calls that such a program does not need fail, where this system can filter them. Time and
+/// output are for the caller to bound.
 class Sandbox {
 public:
     /// Of a program's address space. Programs reserve much more than they use.
@@ -39,8 +43,21 @@ public:
     /// Where the program is to write, in a folder of its own.
     static QByteArray outputPath();
 
-    /// The command that runs `program` inside.
+    /// The command that runs `program` inside. It is to be handed `filter`.
     QByteArrayList command(const Program &program) const;
+    /// For one run. Not open where this system has no filters.
+    static FileDescriptor filter();
+
+    /// A program of our own, which confines itself further and bounds itself.
+    struct OwnProgram {
+        QByteArrayList command;
+        /// What it needs besides the system's files, for reading; absolute.
+        QByteArrayList files;
+        /// Names and values in turn.
+        QByteArrayList environment;
+    };
+    /// The same; what it is handed stays open.
+    QByteArrayList command(const OwnProgram &program) const;
 
 private:
     QByteArrayList walls() const;
@@ -49,6 +66,7 @@ private:
     QByteArray m_bubblewrap;
     QByteArray m_limiter;
     QByteArray m_shell;
+    bool m_hasFilter;
     mutable std::mutex m_mutex;
     mutable std::optional<bool> m_isAvailable;
 };

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QByteArray>
+#include <QByteArrayList>
+
+namespace corvane {
+
+class Sandbox;
+
+/// The program that decodes strangers' pictures, `corvane-decoder`: where it is, and how it is
+/// started. Any thread.
+class DecoderProgram {
+public:
+    /// Beside the program that runs, or in the folder for such programs that belongs to it. The
+    /// sandbox must outlive this.
+    explicit DecoderProgram(const Sandbox &sandbox);
+    /// That file.
+    DecoderProgram(const Sandbox &sandbox, QByteArray file);
+
+    bool isThere() const { return !m_file.isEmpty(); }
+    /// Whether it runs in the sandbox.
+    bool isShutIn() const;
+    /// What starts it, in the sandbox where that can be had, and returns at once. It is to be
+    /// handed the socket. Waits for what the sandbox is tried with the first time.
+    QByteArrayList command() const;
+
+private:
+    const Sandbox &m_sandbox;
+    QByteArray m_file;
+};
+
+} // namespace corvane

@@ -1,0 +1,148 @@
+#include "platform/freedesktop/decoding/decoder_image_codec.h"
+#include "platform/freedesktop/sandbox/sandbox.h"
+#include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+namespace corvane {
+namespace {
+
+using Outcome = DecodingAttempt::Outcome;
+
+QByteArray written(QSize size, const char *format)
+{
+    QImage image(size, QImage::Format_RGB32);
+    image.fill(Qt::red);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return bytes;
+}
+
+/// A drawing that takes minutes: a long path with thick, dashed, half transparent strokes, again
+/// and again.
+QByteArray bomb()
+{
+    QByteArray points;
+    for (int i = 0; i < 20'000; ++i)
+        points += QByteArray::number(i * 7'919 % 600) + ','
+            + QByteArray::number(i * 104'729LL % 600) + ' ';
+    const QByteArray path
+        = "<polyline id='a' fill='none' stroke='#123456' stroke-opacity='.5' "
+          "stroke-width='9' stroke-dasharray='1 2' stroke-linejoin='round' points='"
+        + points + "'/>";
+    return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
+           "width='600' height='600'>"
+        + path + QByteArray("<use xlink:href='#a' x='1'/>").repeated(30) + "</svg>";
+}
+
+/// The real decoder, in its sandbox where that can be had.
+struct DecoderImageCodecTest : testing::Test {
+    QUrl saved(const QByteArray &name, const QByteArray &bytes) const
+    {
+        QFile file(folder.filePath(QString::fromUtf8(name)));
+        EXPECT_TRUE(file.open(QFile::WriteOnly));
+        file.write(bytes);
+        return QUrl::fromLocalFile(file.fileName());
+    }
+    FileDescriptor target() const
+    {
+        const QByteArray path = folder.filePath(QStringLiteral("target")).toUtf8();
+        return FileDescriptor(::open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC, 0600));
+    }
+    QByteArray madeFile() const
+    {
+        QFile file(folder.filePath(QStringLiteral("target")));
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    Sandbox sandbox{ThumbnailerRegistry::environmentProgramFolders()};
+    DecoderProgram program{sandbox};
+    DecoderPool pool{program};
+    DecoderImageCodec codec{pool};
+    QTemporaryDir folder;
+};
+
+TEST_F(DecoderImageCodecTest, MakesThumbnailsOfFilesAndOfBytes)
+{
+    const QByteArray png = written({400, 100}, "png");
+    EXPECT_EQ(codec.thumbnail(png, 60)->size(), QSize(60, 15));
+    const auto picture = codec.fileThumbnail(saved("a b#c.png", png), 200);
+    ASSERT_TRUE(picture.has_value());
+    EXPECT_EQ(picture->size(), QSize(200, 50));
+    EXPECT_EQ(picture->pixelColor(100, 25), QColor(Qt::red));
+    EXPECT_EQ(codec.pixelSize(png), QSize(400, 100));
+}
+
+TEST_F(DecoderImageCodecTest, ReadsEveryKindThroughItsOwnPlugin)
+{
+    for (const char *format : {"png", "jpeg", "bmp", "webp", "tiff", "ppm", "ico", "xpm"})
+        EXPECT_TRUE(codec.thumbnail(written({40, 20}, format), 10).has_value()) << format;
+    const QByteArray text = "<svg xmlns='http://www.w3.org/2000/svg' width='60' height='60'>"
+                            "<text x='0' y='55' font-size='70'>MMM</text></svg>";
+    const auto drawn = codec.thumbnail(text, 60);
+    ASSERT_TRUE(drawn.has_value());
+    bool isWritten = false;
+    for (int x = 0; x < drawn->width(); ++x)
+        isWritten = isWritten || drawn->pixelColor(x, drawn->height() / 2).alpha() > 200;
+    EXPECT_TRUE(isWritten) << "there are fonts";
+}
+
+TEST_F(DecoderImageCodecTest, TellsWhatIsNoPicture)
+{
+    for (const QByteArray &bytes :
+         {QByteArray(), QByteArray("no picture"), QByteArray(1'000, '\0')}) {
+        DecodingAttempt attempt;
+        EXPECT_FALSE(codec.thumbnail(bytes, 60, attempt).has_value());
+        EXPECT_EQ(attempt.outcome, Outcome::Unreadable);
+    }
+    DecodingAttempt attempt;
+    EXPECT_FALSE(codec.fileThumbnail(QUrl(QStringLiteral("file:///dev/zero")), 60, attempt));
+    EXPECT_EQ(attempt.outcome, Outcome::Unreadable);
+}
+
+TEST_F(DecoderImageCodecTest, EndsADrawingThatTakesMinutes)
+{
+    const QByteArray drawing = bomb();
+    DecodingAttempt brief;
+    brief.patience = DecodingAttempt::Patience::Brief;
+    EXPECT_FALSE(codec.thumbnail(drawing, 60, brief).has_value());
+    EXPECT_EQ(brief.outcome, Outcome::TooSlow);
+    DecodingAttempt whole;
+    EXPECT_FALSE(codec.thumbnail(drawing, 60, whole).has_value());
+    EXPECT_EQ(whole.outcome, Outcome::OverBounds);
+    EXPECT_TRUE(codec.thumbnail(written({40, 20}, "png"), 10).has_value()) << "the next is served";
+}
+
+TEST_F(DecoderImageCodecTest, WritesAnotherTypeIntoTheFileThatIsGiven)
+{
+    const QByteArray tiff = written({40, 20}, "tiff");
+    ASSERT_TRUE(codec.transcode(tiff, UTType::png(), target()));
+    EXPECT_EQ(QImage::fromData(madeFile(), "PNG").size(), QSize(40, 20));
+    ASSERT_TRUE(
+        codec.transcodeFile(saved("a.tiff", tiff), UTType(QStringLiteral("image/jpeg")), target()));
+    EXPECT_EQ(QImage::fromData(madeFile(), "JPEG").size(), QSize(40, 20));
+    EXPECT_FALSE(codec.transcode("no picture", UTType::png(), target()));
+    EXPECT_FALSE(codec.transcode(tiff, UTType(QStringLiteral("application/pdf")), target()));
+    EXPECT_FALSE(codec.transcode(tiff, UTType::png(), FileDescriptor()));
+}
+
+TEST_F(DecoderImageCodecTest, DecodesWithoutTheSandboxToo)
+{
+    const Sandbox none{QByteArrayList()};
+    const DecoderProgram bare(none);
+    DecoderPool decoders(bare);
+    const DecoderImageCodec unshut(decoders);
+    EXPECT_TRUE(unshut.thumbnail(written({40, 20}, "jpeg"), 10).has_value());
+}
+
+} // namespace
+} // namespace corvane

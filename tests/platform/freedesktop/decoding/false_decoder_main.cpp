@@ -1,0 +1,111 @@
+// A decoder that misbehaves at the step of its work that CORVANE_FALSE_DECODER names.
+
+#include "platform/pictures/decoder_protocol.h"
+#include "platform/pictures/picture_memory.h"
+#include "platform/system/file_descriptor.h"
+#include "platform/system/packet_socket.h"
+
+#include <poll.h>
+#include <sys/mman.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <csignal>
+#include <cstdlib>
+
+namespace {
+
+using namespace corvane;
+using decoder_protocol::Reply;
+
+constexpr int socketNumber = 3;
+constexpr QSize size{8, 8};
+constexpr int bytes = 8 * 8 * 4;
+
+/// What dies is killed, as by the kernel for want of memory.
+[[noreturn]] void die()
+{
+    ::kill(::getpid(), SIGKILL);
+    std::abort();
+}
+
+void waitForPacket()
+{
+    pollfd source = {socketNumber, POLLIN, 0};
+    ::poll(&source, 1, -1);
+}
+
+FileDescriptor memoryFor(const QByteArray &step)
+{
+    if (step == "unsealed") {
+        FileDescriptor memory(::memfd_create("open", MFD_ALLOW_SEALING | MFD_CLOEXEC));
+        memory.write(QByteArray(bytes, '\x7f'));
+        return memory;
+    }
+    return picture_memory::of(QByteArray(step == "short" ? bytes - 1 : bytes, '\x7f'));
+}
+
+void answer(const FileDescriptor &socket, const QByteArray &step, std::uint32_t number)
+{
+    Reply reply;
+    reply.number = step == "other number" ? number + 1 : number;
+    reply.outcome = decoder_protocol::Outcome::Made;
+    reply.pixels = decoder_protocol::Pixels{size, size.width() * 4, QImage::Format_RGB32};
+    if (step == "too wide")
+        reply.pixels = decoder_protocol::Pixels{{64, 1}, 64 * 4, QImage::Format_RGB32};
+    QByteArray packet = decoder_protocol::encoded(reply);
+    if (step == "garbled reply")
+        packet = "garbage";
+    if (step == "cut reply")
+        packet.chop(1);
+    const FileDescriptor memory = memoryFor(step);
+    if (step == "no memory")
+        packet_socket::send(socket, packet);
+    else
+        packet_socket::send(socket, packet, {memory.number()});
+}
+
+int run(const QByteArray &step)
+{
+    const FileDescriptor socket(socketNumber);
+    if (step == "dies at once")
+        die();
+    if (step == "ends at once")
+        return EXIT_SUCCESS;
+    const FileDescriptor self(int(::syscall(SYS_pidfd_open, ::getpid(), 0)));
+    packet_socket::send(socket,
+                        step == "garbled greeting"
+                            ? QByteArray("garbage")
+                            : decoder_protocol::encoded(decoder_protocol::Greeting{true, true}),
+                        {self.number()});
+    if (step == "dies after greeting")
+        die();
+    while (true) {
+        waitForPacket();
+        if (step == "dies before reading")
+            die();
+        if (step == "says farewell") {
+            packet_socket::send(socket, decoder_protocol::farewell());
+            return EXIT_SUCCESS;
+        }
+        const auto received = packet_socket::receive(socket, decoder_protocol::maximumPacket);
+        const auto request
+            = received ? decoder_protocol::parsedRequest(received->packet) : std::nullopt;
+        if (!request)
+            return EXIT_FAILURE;
+        if (step == "dies after reading")
+            die();
+        if (step == "hangs")
+            waitForPacket();
+        answer(socket, step, request->number);
+        if (step == "dies after the reply")
+            die();
+    }
+}
+
+} // namespace
+
+int main()
+{
+    return run(qgetenv("CORVANE_FALSE_DECODER"));
+}
