@@ -102,7 +102,8 @@ PreviewContent::Text textOf(const QByteArray &path, const QMimeType &type, const
     return {std::move(decoded.text), preview_text::isMonospaced(type, name), decoded.isCut};
 }
 
-void readRegular(PreviewContent &content, QSize wanted, PreviewDocuments &documents)
+void readRegular(PreviewContent &content, QSize wanted, PreviewDocuments &documents,
+                 Cancellation &cancellation)
 {
     const QByteArray path = file_url::nativePath(content.url);
     const QString name = file_url::lastPathComponent(content.url);
@@ -114,7 +115,7 @@ void readRegular(PreviewContent &content, QSize wanted, PreviewDocuments &docume
     if (beginning.isEmpty())
         return;
     if (type.name().startsWith(u"image/") || type.inherits(QStringLiteral("application/pdf"))) {
-        if (auto opened = documents.open(content.url, wanted)) {
+        if (auto opened = documents.open(content.url, wanted, cancellation)) {
             std::visit([&](auto &body) { content.body = std::move(body); }, *opened);
             return;
         }
@@ -130,7 +131,8 @@ QString shownName(const QUrl &url)
     return displayText(file_url::lastPathComponent(url));
 }
 
-PreviewContent read(const QUrl &url, QSize wanted, PreviewDocuments &documents)
+PreviewContent read(const QUrl &url, QSize wanted, PreviewDocuments &documents,
+                    Cancellation &cancellation)
 {
     PreviewContent content;
     content.url = url;
@@ -150,7 +152,7 @@ PreviewContent read(const QUrl &url, QSize wanted, PreviewDocuments &documents)
         content.canBeOpened = true;
     } else if (S_ISREG(status.st_mode)) {
         content.details.size = formatByteCount(status.st_size);
-        readRegular(content, wanted, documents);
+        readRegular(content, wanted, documents, cancellation);
     } else {
         content.details.kind = kindOf(specialType(status.st_mode));
     }

@@ -1,5 +1,6 @@
 #include "services/preview_loader.h"
 
+#include "platform/base/cancellation.h"
 #include "platform/base/checked_math.h"
 #include "platform/base/main_queue.h"
 #include "platform/base/work_queue.h"
@@ -41,7 +42,10 @@ PreviewLoader::PreviewLoader(const Context &context)
 {
 }
 
-PreviewLoader::~PreviewLoader() = default;
+PreviewLoader::~PreviewLoader()
+{
+    cancel();
+}
 
 PreviewDetails PreviewLoader::placeholder(const QUrl &url) const
 {
@@ -57,12 +61,12 @@ bool PreviewLoader::mayNeverAnswer(const QUrl &url) const
 }
 
 template<class Result>
-void PreviewLoader::inBackground(std::function<Result()> work,
+void PreviewLoader::inBackground(std::function<Result(Cancellation &)> work,
                                  std::function<void(Result)> completion)
 {
     // Work reaches only what outlives it; the loader may be gone when it ends.
     m_workQueue->run([&mainQueue = m_context.mainQueue, weak = std::weak_ptr(m_generation),
-                      asked = m_generation->load(), work = std::move(work),
+                      asked = m_generation->load(), cancellation = begun(), work = std::move(work),
                       completion = std::move(completion)] {
         const auto isForgotten = [weak, asked] {
             const auto generation = weak.lock();
@@ -70,7 +74,7 @@ void PreviewLoader::inBackground(std::function<Result()> work,
         };
         if (isForgotten())
             return;
-        auto result = std::make_shared<Result>(work());
+        auto result = std::make_shared<Result>(work(*cancellation));
         mainQueue.async([isForgotten, result, completion] {
             if (!isForgotten())
                 completion(std::move(*result));
@@ -85,8 +89,9 @@ void PreviewLoader::load(const QUrl &url, QSize wanted,
     const bool isRemote = mayNeverAnswer(url);
     m_workQueue = isRemote ? &m_context.remoteWorkQueue : &m_context.workQueue;
     inBackground<PreviewContent>(
-        [&documents = m_context.documents, isRemote, &queue = *m_workQueue, url, wanted] {
-            PreviewContent content = preview_file::read(url, wanted, documents);
+        [&documents = m_context.documents, isRemote, &queue = *m_workQueue, url,
+         wanted](Cancellation &cancellation) {
+            PreviewContent content = preview_file::read(url, wanted, documents, cancellation);
             if (isRemote)
                 endOn(queue, content);
             return content;
@@ -97,13 +102,27 @@ void PreviewLoader::load(const QUrl &url, QSize wanted,
 void PreviewLoader::cancel()
 {
     m_generation->store(checkedAdd<std::uint64_t>(m_generation->load(), 1));
+    for (const auto &weak : std::exchange(m_underWay, {})) {
+        if (const auto cancellation = weak.lock())
+            cancellation->cancel();
+    }
+}
+
+std::shared_ptr<Cancellation> PreviewLoader::begun()
+{
+    std::erase_if(m_underWay, [](const auto &weak) { return weak.expired(); });
+    auto cancellation = std::make_shared<Cancellation>();
+    m_underWay.push_back(cancellation);
+    return cancellation;
 }
 
 void PreviewLoader::render(std::shared_ptr<PreviewDocument> document, int page, QSize pixels,
                            std::function<void(std::optional<QImage>)> completion)
 {
     inBackground<std::optional<QImage>>(
-        [document = std::move(document), page, pixels] { return document->render(page, pixels); },
+        [document = std::move(document), page, pixels](Cancellation &cancellation) {
+            return document->render(page, pixels, cancellation);
+        },
         std::move(completion));
 }
 
@@ -111,7 +130,9 @@ void PreviewLoader::nextFrame(std::shared_ptr<PreviewDocument> document, QSize l
                               std::function<void(std::optional<PreviewDocument::Frame>)> completion)
 {
     inBackground<std::optional<PreviewDocument::Frame>>(
-        [document = std::move(document), limit] { return document->nextFrame(limit); },
+        [document = std::move(document), limit](Cancellation &cancellation) {
+            return document->nextFrame(limit, cancellation);
+        },
         std::move(completion));
 }
 

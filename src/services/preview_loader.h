@@ -4,9 +4,11 @@
 
 #include <atomic>
 #include <cstdint>
+#include <vector>
 
 namespace corvane {
 
+class Cancellation;
 class FileLocality;
 class MainQueue;
 class PreviewDocuments;
@@ -18,7 +20,7 @@ class WorkQueue;
 /// again.
 ///
 /// What it is given must outlive it and all work that is under way. Once it is gone, or has been
-/// told to forget, nothing is answered.
+/// told to forget, nothing is answered, and decoding that is under way ends.
 class PreviewLoader : public PreviewLoading {
 public:
     struct Context {
@@ -46,7 +48,9 @@ public:
 
 private:
     template<class Result>
-    void inBackground(std::function<Result()> work, std::function<void(Result)> completion);
+    void inBackground(std::function<Result(Cancellation &)> work,
+                      std::function<void(Result)> completion);
+    std::shared_ptr<Cancellation> begun();
 
     Context m_context;
     /// For what was loaded last.
@@ -54,6 +58,8 @@ private:
     /// What was asked for before the last `cancel` holds an older number. Held weakly by all work.
     using Generation = std::atomic<std::uint64_t>;
     std::shared_ptr<Generation> m_generation = std::make_shared<Generation>(0);
+    /// Of the work that has not ended, one each.
+    std::vector<std::weak_ptr<Cancellation>> m_underWay;
 };
 
 } // namespace corvane

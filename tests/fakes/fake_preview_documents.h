@@ -10,18 +10,23 @@ class FakePreviewDocuments : public PreviewDocuments {
 public:
     class Document : public PreviewDocument {
     public:
-        std::optional<QImage> render(int page, QSize pixels) override
+        std::optional<QImage> render(int page, QSize pixels, Cancellation &) override
         {
             QImage image(pixels, QImage::Format_RGB32);
             image.fill(QColor(page, 0, 0));
             return image;
         }
-        std::optional<Frame> nextFrame(QSize) override { return Frame{QImage(), 0.1}; }
+        std::optional<Frame> nextFrame(QSize, Cancellation &) override
+        {
+            return Frame{QImage(), 0.1};
+        }
     };
 
-    std::optional<Opened> open(const QUrl &url, QSize wanted) override
+    std::optional<Opened> open(const QUrl &url, QSize wanted, Cancellation &cancellation) override
     {
         opened << url;
+        if (onOpen)
+            onOpen(cancellation);
         if (isBroken)
             return std::nullopt;
         if (url.path().endsWith(QLatin1String(".png"))) {
@@ -38,6 +43,8 @@ public:
     }
 
     QList<QUrl> opened;
+    /// While it is opened.
+    std::function<void(Cancellation &)> onOpen;
     bool isBroken = false;
 };
 

@@ -1,5 +1,6 @@
 #include "core/temporary_spool.h"
 #include "fakes/fake_preview_documents.h"
+#include "platform/base/cancellation.h"
 #include "services/preview_file.h"
 #include "services/preview_text.h"
 
@@ -19,7 +20,11 @@ namespace {
 constexpr QSize wanted{800, 600};
 
 struct PreviewFileTest : testing::Test {
-    PreviewContent read(const QUrl &url) { return preview_file::read(url, wanted, documents); }
+    PreviewContent read(const QUrl &url)
+    {
+        Cancellation never;
+        return preview_file::read(url, wanted, documents, never);
+    }
     template<class Body>
     static bool is(const PreviewContent &content)
     {

@@ -3,6 +3,7 @@
 #include "fakes/fake_preview_documents.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
+#include "platform/base/cancellation.h"
 #include "platform/system/file_url.h"
 #include "services/preview_loader.h"
 
@@ -142,6 +143,35 @@ TEST_F(PreviewLoaderTest, ReadsNothingForWhatWasCancelled)
     runAll();
     EXPECT_TRUE(loaded.empty());
     EXPECT_TRUE(documents.opened.isEmpty());
+}
+
+TEST_F(PreviewLoaderTest, EndsTheDecodingThatRunsWhenSomethingElseIsLoaded)
+{
+    std::vector<bool> wereCancelled;
+    documents.onOpen = [&](Cancellation &cancellation) {
+        if (wereCancelled.empty()) {
+            EXPECT_FALSE(cancellation.isCancelled());
+            loader->load(folder.write("two.png", "\x89PNG\r\n\x1a\n"), {800, 600}, keep());
+        }
+        wereCancelled.push_back(cancellation.isCancelled());
+    };
+    loader->load(folder.write("one.png", "\x89PNG\r\n\x1a\n"), {800, 600}, keep());
+    runAll();
+    EXPECT_EQ(wereCancelled, (std::vector{true, false}));
+    ASSERT_EQ(loaded.size(), 1U);
+    EXPECT_EQ(loaded[0].details.name, QStringLiteral("two.png"));
+}
+
+TEST_F(PreviewLoaderTest, EndsTheDecodingThatRunsWhenItGoes)
+{
+    bool wasCancelled = false;
+    documents.onOpen = [&](Cancellation &cancellation) {
+        loader.reset();
+        wasCancelled = cancellation.isCancelled();
+    };
+    loader->load(folder.write("one.png", "\x89PNG\r\n\x1a\n"), {800, 600}, keep());
+    runAll();
+    EXPECT_TRUE(wasCancelled);
 }
 
 TEST_F(PreviewLoaderTest, AnswersNothingOnceItIsGone)

@@ -15,8 +15,11 @@
 
 namespace corvane {
 
+class Cancellation;
+
 /// A picture or document, not trusted, that is rendered piece by piece. Each function may take
-/// long, and needs at most `ImageCodec::maximumDecodedBytes`. Any thread, but one call at a time.
+/// long, gives none soon after it is cancelled, and needs at most
+/// `ImageCodec::maximumDecodedBytes`. Any thread, but one call at a time.
 class PreviewDocument {
 public:
     struct Frame {
@@ -29,10 +32,10 @@ public:
 
     /// A page, upright, scaled to exactly `pixels` even if that distorts it. None if it is broken
     /// or too large.
-    virtual std::optional<QImage> render(int page, QSize pixels) = 0;
+    virtual std::optional<QImage> render(int page, QSize pixels, Cancellation &cancellation) = 0;
     /// The next frame of an animation, scaled down to fit into `limit`. After the last frame comes
     /// the first one, or none if the animation does not repeat.
-    virtual std::optional<Frame> nextFrame(QSize limit) = 0;
+    virtual std::optional<Frame> nextFrame(QSize limit, Cancellation &cancellation) = 0;
 };
 
 /// Texts about a file of any kind; unknown ones are empty. They can be shown as they are: unsafe

@@ -66,7 +66,7 @@ bool send(const FileDescriptor &socket, const QByteArray &packet,
     return sent == packet.size();
 }
 
-std::optional<Received> receive(const FileDescriptor &socket, qsizetype maximum)
+std::optional<Received> receive(const FileDescriptor &socket, qsizetype maximum, bool *wasUnread)
 {
     Received received;
     received.packet = QByteArray(maximum, Qt::Uninitialized);
@@ -85,6 +85,8 @@ std::optional<Received> receive(const FileDescriptor &socket, qsizetype maximum)
         count = ::recvmsg(socket.number(), &message, MSG_DONTWAIT | MSG_CMSG_CLOEXEC);
     } while (count < 0
              && (errno == EINTR || (errno == ECONNRESET && !std::exchange(wasReset, true))));
+    if (wasUnread)
+        *wasUnread = wasReset;
     if (count < 0)
         return std::nullopt;
     // Taken first in any case, so that they are closed.

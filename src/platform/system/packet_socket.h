@@ -27,7 +27,9 @@ struct Received {
     std::vector<FileDescriptor> descriptors;
 };
 /// A packet that has arrived. None if there is none, the other end is gone, or the packet is longer
-/// than `maximum`.
-std::optional<Received> receive(const FileDescriptor &socket, qsizetype maximum);
+/// than `maximum`. `wasUnread` is set to whether the other end has gone without reading all that it
+/// was sent.
+std::optional<Received> receive(const FileDescriptor &socket, qsizetype maximum,
+                                bool *wasUnread = nullptr);
 
 } // namespace corvane::packet_socket

@@ -9,6 +9,7 @@
 #include "fakes/fake_preview_documents.h"
 #include "fakes/fake_window_activation.h"
 #include "fakes/test_clock.h"
+#include "platform/base/cancellation.h"
 #include "platform/desktop/keyboard_loan.h"
 #include "preview/preview_window.h"
 #include "preview/qt_preview_panel.h"
@@ -94,7 +95,8 @@ public:
     QUrl none() const { return QUrl::fromLocalFile(m_folder.filePath(QStringLiteral("gone"))); }
     PreviewContent read(const QUrl &url)
     {
-        return preview_file::read(url, {800, 600}, m_documents);
+        Cancellation never;
+        return preview_file::read(url, {800, 600}, m_documents, never);
     }
 
 private:

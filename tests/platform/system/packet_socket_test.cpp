@@ -58,5 +58,20 @@ TEST_F(PacketSocketTest, NoticesThatTheOtherEndIsGone)
     EXPECT_FALSE(packet_socket::receive(ours, 100).has_value());
 }
 
+TEST_F(PacketSocketTest, TellsWhetherTheOtherEndHadReadEverything)
+{
+    for (const bool reads : {true, false}) {
+        auto [asking, asked] = packet_socket::makePair();
+        ASSERT_TRUE(packet_socket::send(asking, "question"));
+        if (reads) {
+            EXPECT_TRUE(packet_socket::receive(asked, 100).has_value());
+        }
+        asked.close();
+        bool wasUnread = reads;
+        EXPECT_FALSE(packet_socket::receive(asking, 100, &wasUnread).has_value());
+        EXPECT_EQ(wasUnread, !reads);
+    }
+}
+
 } // namespace
 } // namespace corvane

@@ -33,7 +33,7 @@ public:
     {
     }
 
-    DecoderPool::Result ask(Task task, int part, QSize wanted)
+    DecoderPool::Result ask(Task task, int part, QSize wanted, Cancellation &cancellation)
     {
         // With a place of its own: a decoder that was given up may still be reading.
         const QByteArray path = "/proc/self/fd/" + QByteArray::number(m_file.number());
@@ -46,30 +46,31 @@ public:
         job.request.milliseconds = DecoderDocuments::previewTime;
         job.descriptors = {again.isOpen() ? again.number() : m_file.number()};
         job.urgency = DecoderPool::Urgency::Preview;
+        job.cancellation = &cancellation;
         return m_pool.run(job);
     }
 
     /// Once it is known to be an animation.
     void setRepeats(int repeats) { m_roundsLeft = repeats; }
 
-    std::optional<QImage> render(int page, QSize pixels) override
+    std::optional<QImage> render(int page, QSize pixels, Cancellation &cancellation) override
     {
         constexpr qint64 most = ImageCodec::maximumDecodedBytes / 4;
         const QSize largest{decoder_protocol::maximumSide, decoder_protocol::maximumSide};
         if (pixels.isEmpty() || page < 0 || page > decoder_protocol::maximumFrame
             || !isWithin(pixels, largest) || qint64{pixels.width()} * pixels.height() > most)
             return std::nullopt;
-        const auto result = ask(Task::Render, page, pixels);
+        const auto result = ask(Task::Render, page, pixels, cancellation);
         auto picture = receivedPicture(result.reply, result.pixels);
         return picture && picture->size() == pixels ? std::move(picture) : std::nullopt;
     }
 
-    std::optional<Frame> nextFrame(QSize limit) override
+    std::optional<Frame> nextFrame(QSize limit, Cancellation &cancellation) override
     {
         const std::lock_guard lock(m_mutex);
         if (limit.isEmpty())
             return std::nullopt;
-        if (auto frame = readFrame(limit))
+        if (auto frame = readFrame(limit, cancellation))
             return frame;
         // A file with a single frame is no animation; one that is broken after its first frame is
         // not started again.
@@ -78,15 +79,15 @@ public:
         if (m_roundsLeft > 0)
             --m_roundsLeft;
         m_nextFrame = 0;
-        return readFrame(limit);
+        return readFrame(limit, cancellation);
     }
 
 private:
-    std::optional<Frame> readFrame(QSize limit)
+    std::optional<Frame> readFrame(QSize limit, Cancellation &cancellation)
     {
         if (m_nextFrame > decoder_protocol::maximumFrame)
             return std::nullopt;
-        const auto result = ask(Task::Frame, m_nextFrame, limit);
+        const auto result = ask(Task::Frame, m_nextFrame, limit, cancellation);
         auto picture = receivedPicture(result.reply, result.pixels);
         if (!picture || !isWithin(picture->size(), limit))
             return std::nullopt;
@@ -110,14 +111,15 @@ DecoderDocuments::DecoderDocuments(DecoderPool &pool)
 {
 }
 
-std::optional<PreviewDocuments::Opened> DecoderDocuments::open(const QUrl &url, QSize wanted)
+std::optional<PreviewDocuments::Opened> DecoderDocuments::open(const QUrl &url, QSize wanted,
+                                                               Cancellation &cancellation)
 {
     FileDescriptor file = regular_file::open(file_url::nativePath(url));
     if (!file.isOpen() || wanted.isEmpty())
         return std::nullopt;
     const QSize largest{decoder_protocol::maximumSide, decoder_protocol::maximumSide};
     auto document = std::make_shared<DecodedDocument>(m_pool, std::move(file));
-    const auto result = document->ask(Task::Open, 0, wanted.boundedTo(largest));
+    const auto result = document->ask(Task::Open, 0, wanted.boundedTo(largest), cancellation);
     const decoder_protocol::Reply &reply = result.reply;
     if (result.outcome != Outcome::Made)
         return std::nullopt;

@@ -14,7 +14,7 @@ public:
 
     explicit DecoderDocuments(DecoderPool &pool);
 
-    std::optional<Opened> open(const QUrl &url, QSize wanted) override;
+    std::optional<Opened> open(const QUrl &url, QSize wanted, Cancellation &cancellation) override;
 
 private:
     DecoderPool &m_pool;

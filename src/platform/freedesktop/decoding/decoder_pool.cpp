@@ -17,11 +17,6 @@ namespace {
 
 using decoder_protocol::Outcome;
 
-bool isLong(DecoderPool::Urgency urgency)
-{
-    return urgency >= DecoderPool::Urgency::SlowThumbnail;
-}
-
 DecodingAttempt::Outcome outcomeOf(Outcome outcome)
 {
     switch (outcome) {
@@ -89,19 +84,6 @@ std::uint32_t DecoderPool::newDocument()
     return ++m_lastDocument == 0 ? ++m_lastDocument : m_lastDocument;
 }
 
-bool DecoderPool::isNext(const Turn &turn) const
-{
-    if (isLong(turn.urgency) && m_longOnes > 0)
-        return false;
-    for (const Turn &other : m_waiting) {
-        if (&other == &turn)
-            return true;
-        if (other.urgency <= turn.urgency && !(isLong(other.urgency) && m_longOnes > 0))
-            return false;
-    }
-    return true;
-}
-
 DecoderPool::Slot *DecoderPool::freeSlot(std::uint32_t document)
 {
     const auto rank = [document](const Slot &slot) {
@@ -120,29 +102,30 @@ DecoderPool::Slot *DecoderPool::freeSlot(std::uint32_t document)
 DecoderPool::Slot *DecoderPool::takeSlot(const Job &job, const Cancelled &cancelled)
 {
     std::unique_lock lock(m_mutex);
-    const auto turn = m_waiting.insert(m_waiting.end(), Turn{job.urgency});
+    const auto turn = m_turns.wait(job.urgency);
     Slot *slot = nullptr;
     m_changed.wait(lock, [&] {
         if (m_isFinished || cancelled.isSet)
             return true;
-        slot = isNext(*turn) ? freeSlot(job.request.document) : nullptr;
+        slot = m_turns.isNext(turn) ? freeSlot(job.request.document) : nullptr;
         return slot != nullptr;
     });
-    m_waiting.erase(turn);
     if (slot) {
         slot->isBusy = true;
-        m_longOnes += isLong(job.urgency) ? 1 : 0;
+        m_turns.began(turn);
+    } else {
+        m_turns.gaveUp(turn);
     }
     m_changed.notify_all();
     return slot;
 }
 
-void DecoderPool::giveBack(Slot &slot, bool wasLong)
+void DecoderPool::giveBack(Slot &slot, Urgency urgency)
 {
     {
         const std::lock_guard lock(m_mutex);
         slot.isBusy = false;
-        m_longOnes -= wasLong ? 1 : 0;
+        m_turns.ended(urgency);
     }
     m_changed.notify_all();
 }
@@ -156,7 +139,7 @@ DecoderPool::Result DecoderPool::run(const Job &job)
     if (!slot)
         return {};
     Result result = runIn(*slot, job, cancelled);
-    giveBack(*slot, isLong(job.urgency));
+    giveBack(*slot, job.urgency);
     return result;
 }
 
@@ -235,7 +218,11 @@ DecoderPool::Result DecoderPool::runIn(Slot &slot, const Job &job, const Cancell
     }
     case Ending::OverTime:
         return {DecodingAttempt::Outcome::OverBounds, true, {}, {}};
-    case Ending::NotServed:
+    case Ending::NotServed: {
+        const std::lock_guard lock(m_mutex);
+        m_deaths.died(DeathRecord::Clock::now());
+        break;
+    }
     case Ending::Cancelled:
         break;
     }

@@ -3,12 +3,12 @@
 #include "platform/freedesktop/decoding/death_record.h"
 #include "platform/freedesktop/decoding/decoder_process.h"
 #include "platform/freedesktop/decoding/decoder_program.h"
+#include "platform/freedesktop/decoding/decoder_turns.h"
 #include "platform/pictures/image_codec.h"
 
 #include <array>
 #include <condition_variable>
 #include <cstdint>
-#include <list>
 #include <memory>
 #include <mutex>
 
@@ -23,14 +23,8 @@ class Cancellation;
 /// nobody here.
 class DecoderPool {
 public:
-    /// The most urgent first.
-    enum class Urgency : std::uint8_t {
-        Preview,
-        Thumbnail,
-        /// These may take long: never more than one of them at once.
-        SlowThumbnail,
-        Conversion,
-    };
+    using Urgency = DecoderTurns::Urgency;
+
     struct Job {
         /// Its number is set here.
         decoder_protocol::Request request;
@@ -68,15 +62,11 @@ private:
         /// What it may have kept open.
         std::uint32_t document = 0;
     };
-    struct Turn {
-        Urgency urgency;
-    };
     struct Cancelled;
 
     Slot *takeSlot(const Job &job, const Cancelled &cancelled);
     Slot *freeSlot(std::uint32_t document);
-    bool isNext(const Turn &turn) const;
-    void giveBack(Slot &slot, bool wasLong);
+    void giveBack(Slot &slot, Urgency urgency);
     bool waitForPause(std::unique_lock<std::mutex> &lock, const Cancelled &cancelled);
     Result runIn(Slot &slot, const Job &job, const Cancelled &cancelled);
     bool provide(Slot &slot, const Cancelled &cancelled);
@@ -87,9 +77,7 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::array<Slot, 2> m_slots;
-    /// In the order of their arrival.
-    std::list<Turn> m_waiting;
-    int m_longOnes = 0;
+    DecoderTurns m_turns;
     bool m_isFinished = false;
     bool m_hasTold = false;
     DeathRecord m_deaths;

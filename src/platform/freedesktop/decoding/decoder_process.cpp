@@ -145,8 +145,9 @@ DecoderProcess::Result DecoderProcess::ask(const decoder_protocol::Request &requ
 
 DecoderProcess::Result DecoderProcess::takeReply(const decoder_protocol::Request &request)
 {
-    auto received = packet_socket::receive(m_socket, decoder_protocol::maximumPacket);
-    if (received && decoder_protocol::isFarewell(received->packet))
+    bool wasUnread = false;
+    auto received = packet_socket::receive(m_socket, decoder_protocol::maximumPacket, &wasUnread);
+    if (received ? decoder_protocol::isFarewell(received->packet) : wasUnread)
         return ended(Ending::NotServed);
     auto reply = received ? decoder_protocol::parsedReply(received->packet) : std::nullopt;
     if (!reply || reply->number != request.number)

@@ -41,7 +41,7 @@ public:
 
     enum class Ending {
         Replied,
-        /// It ended by itself before it saw the request, as it does after a while.
+        /// It ended before it saw the request: by itself, as it does after a while, or otherwise.
         NotServed,
         /// It ended, or said what it must not say, while it served the request.
         Died,

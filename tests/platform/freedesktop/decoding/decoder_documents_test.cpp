@@ -1,4 +1,5 @@
 #include "fakes/turned_jpeg.h"
+#include "platform/base/cancellation.h"
 #include "platform/freedesktop/decoding/decoder_documents.h"
 #include "platform/freedesktop/decoding/decoder_image_codec.h"
 #include "platform/freedesktop/sandbox/sandbox.h"
@@ -72,7 +73,7 @@ struct DecoderDocumentsTest : testing::Test {
     std::optional<PreviewContent::Picture> picture(const QByteArray &name, const QByteArray &bytes,
                                                    QSize wanted = {200, 100})
     {
-        auto opened = documents.open(folder.write(name, bytes), wanted);
+        auto opened = documents.open(folder.write(name, bytes), wanted, never);
         if (!opened || !std::holds_alternative<PreviewContent::Picture>(*opened))
             return std::nullopt;
         return std::get<PreviewContent::Picture>(*opened);
@@ -101,6 +102,7 @@ struct DecoderDocumentsTest : testing::Test {
     DecoderPool pool{program};
     DecoderImageCodec codec{pool};
     DecoderDocuments documents{pool};
+    Cancellation never;
 };
 
 TEST_F(DecoderDocumentsTest, FitsALargePictureAndRendersMoreOfItOnDemand)
@@ -109,8 +111,8 @@ TEST_F(DecoderDocumentsTest, FitsALargePictureAndRendersMoreOfItOnDemand)
     ASSERT_TRUE(large.has_value());
     EXPECT_EQ(large->pixelSize, QSize(800, 400));
     EXPECT_EQ(large->fitted.size(), QSize(200, 100));
-    EXPECT_EQ(large->document->render(0, {800, 400})->size(), QSize(800, 400));
-    EXPECT_EQ(large->document->render(0, {333, 77})->size(), QSize(333, 77));
+    EXPECT_EQ(large->document->render(0, {800, 400}, never)->size(), QSize(800, 400));
+    EXPECT_EQ(large->document->render(0, {333, 77}, never)->size(), QSize(333, 77));
 }
 
 TEST_F(DecoderDocumentsTest, KeepsASmallPictureAsItIs)
@@ -131,8 +133,8 @@ TEST_F(DecoderDocumentsTest, HasTheUprightSizeOfATurnedPicture)
 TEST_F(DecoderDocumentsTest, RefusesToRenderMorePixelsThanMayBeDecoded)
 {
     const auto small = picture("a.png", encoded({20, 10}, "png"));
-    EXPECT_FALSE(small->document->render(0, {30'000, 30'000}).has_value());
-    EXPECT_FALSE(small->document->render(0, {0, 10}).has_value());
+    EXPECT_FALSE(small->document->render(0, {30'000, 30'000}, never).has_value());
+    EXPECT_FALSE(small->document->render(0, {0, 10}, never).has_value());
 }
 
 TEST_F(DecoderDocumentsTest, RefusesAPictureWhoseHeaderPromisesGigabytes)
@@ -160,7 +162,8 @@ TEST_F(DecoderDocumentsTest, RendersADrawingSharpAtEverySize)
     EXPECT_TRUE(drawing->isVector);
     EXPECT_EQ(drawing->pixelSize, QSize(40, 20));
     EXPECT_EQ(drawing->fitted.size(), QSize(200, 100));
-    EXPECT_EQ(drawing->document->render(0, {400, 200})->pixelColor(399, 199), QColor(Qt::red));
+    EXPECT_EQ(drawing->document->render(0, {400, 200}, never)->pixelColor(399, 199),
+              QColor(Qt::red));
 }
 
 TEST_F(DecoderDocumentsTest, FollowsNoReferenceOfADrawing)
@@ -212,12 +215,12 @@ TEST_F(DecoderDocumentsTest, PlaysAnAnimationWithItsDelaysAndRounds)
     EXPECT_TRUE(moving->isAnimated);
     std::vector<double> durations;
     for (int i = 0; i < 4; ++i) {
-        const auto frame = moving->document->nextFrame({10, 10});
+        const auto frame = moving->document->nextFrame({10, 10}, never);
         ASSERT_TRUE(frame.has_value()) << i;
         durations.push_back(frame->duration);
     }
     EXPECT_EQ(durations, std::vector<double>(4, 0.05));
-    EXPECT_FALSE(moving->document->nextFrame({10, 10}).has_value()) << "it repeats once";
+    EXPECT_FALSE(moving->document->nextFrame({10, 10}, never).has_value()) << "it repeats once";
 }
 
 TEST_F(DecoderDocumentsTest, PlaysAnEndlessAnimationFrameByFrame)
@@ -225,7 +228,7 @@ TEST_F(DecoderDocumentsTest, PlaysAnEndlessAnimationFrameByFrame)
     const auto moving = picture("a.gif", animation(0, 0));
     ASSERT_TRUE(moving.has_value());
     for (int i = 0; i < 20; ++i) {
-        const auto frame = moving->document->nextFrame({10, 10});
+        const auto frame = moving->document->nextFrame({10, 10}, never);
         ASSERT_TRUE(frame.has_value());
         EXPECT_EQ(frame->duration, 0.1) << "nobody means no time at all";
     }
@@ -237,37 +240,37 @@ TEST_F(DecoderDocumentsTest, ASinglePictureIsNoAnimation)
     const qsizetype second = whole.lastIndexOf("!\xF9");
     const auto still = picture("a.gif", whole.left(second) + ';');
     ASSERT_TRUE(still.has_value());
-    still->document->nextFrame({10, 10});
-    EXPECT_FALSE(still->document->nextFrame({10, 10}).has_value());
+    still->document->nextFrame({10, 10}, never);
+    EXPECT_FALSE(still->document->nextFrame({10, 10}, never).has_value());
 }
 
 TEST_F(DecoderDocumentsTest, RendersThePagesOfADocument)
 {
-    const auto opened = documents.open(writePdf(3), {200, 100});
+    const auto opened = documents.open(writePdf(3), {200, 100}, never);
     if (!opened)
         GTEST_SKIP() << "there is no reader of documents here";
     const auto &pages = std::get<PreviewContent::Pages>(*opened);
     EXPECT_EQ(pages.count, 3);
     EXPECT_EQ(pages.sizes, QList<QSize>(3, QSize(595, 842)));
-    const auto page = pages.document->render(2, {300, 424});
+    const auto page = pages.document->render(2, {300, 424}, never);
     ASSERT_TRUE(page.has_value());
     EXPECT_EQ(page->size(), QSize(300, 424));
     EXPECT_EQ(page->pixelColor(1, 1), QColor(Qt::white)) << "paper is white";
-    EXPECT_FALSE(pages.document->render(3, {300, 424}).has_value());
+    EXPECT_FALSE(pages.document->render(3, {300, 424}, never).has_value());
 }
 
 TEST_F(DecoderDocumentsTest, RefusesABrokenDocument)
 {
-    EXPECT_FALSE(documents.open(folder.write("b.pdf", "%PDF-1.4\ngarbage"), {200, 100}));
+    EXPECT_FALSE(documents.open(folder.write("b.pdf", "%PDF-1.4\ngarbage"), {200, 100}, never));
 }
 
 TEST_F(DecoderDocumentsTest, OpensNoPipeAndNoDevice)
 {
     ASSERT_EQ(::mkfifo(folder.path("pipe.png").constData(), 0600), 0);
-    EXPECT_FALSE(documents.open(folder.url("pipe.png"), {200, 100}));
+    EXPECT_FALSE(documents.open(folder.url("pipe.png"), {200, 100}, never));
     ASSERT_EQ(::symlink("/dev/zero", folder.path("zero.png").constData()), 0);
-    EXPECT_FALSE(documents.open(folder.url("zero.png"), {200, 100}));
-    EXPECT_FALSE(documents.open(folder.url("nowhere.png"), {200, 100}));
+    EXPECT_FALSE(documents.open(folder.url("zero.png"), {200, 100}, never));
+    EXPECT_FALSE(documents.open(folder.url("nowhere.png"), {200, 100}, never));
 }
 
 } // namespace
