@@ -1,9 +1,9 @@
 #include "decoder/request_handler.h"
 
 #include "decoder/picture_decoding.h"
+#include "decoder/picture_writer.h"
 #include "platform/pictures/image_codec.h"
 #include "platform/pictures/picture_memory.h"
-#include "platform/pictures/picture_writer.h"
 
 #include <unistd.h>
 

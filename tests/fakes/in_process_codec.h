@@ -1,8 +1,8 @@
 #pragma once
 
 #include "decoder/picture_decoding.h"
+#include "decoder/picture_writer.h"
 #include "platform/pictures/image_codec.h"
-#include "platform/pictures/picture_writer.h"
 #include "platform/system/file_url.h"
 #include "platform/system/regular_file.h"
 

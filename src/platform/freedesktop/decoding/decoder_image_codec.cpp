@@ -2,7 +2,7 @@
 
 #include "platform/freedesktop/decoding/received_picture.h"
 #include "platform/pictures/picture_memory.h"
-#include "platform/pictures/picture_writer.h"
+#include "platform/pictures/plain_png.h"
 #include "platform/system/file_url.h"
 #include "platform/system/regular_file.h"
 
@@ -134,7 +134,7 @@ bool DecoderImageCodec::transcodeTo(const FileDescriptor &contents, const UTType
 
 std::optional<QByteArray> DecoderImageCodec::encode(const QImage &image, const UTType &type) const
 {
-    return picture_writer::encoded(image, type);
+    return type == UTType::png() ? plainPng(image) : std::nullopt;
 }
 
 } // namespace corvane

@@ -1,4 +1,4 @@
-#include "platform/pictures/picture_writer.h"
+#include "decoder/picture_writer.h"
 
 #include "platform/pictures/image_codec.h"
 
