@@ -41,7 +41,7 @@ QByteArray bomb()
         + points + "'/>";
     return "<svg xmlns='http://www.w3.org/2000/svg' xmlns:xlink='http://www.w3.org/1999/xlink' "
            "width='600' height='600'>"
-        + path + QByteArray("<use xlink:href='#a' x='1'/>").repeated(30) + "</svg>";
+        + path + QByteArray("<use xlink:href='#a' x='1'/>").repeated(2'000) + "</svg>";
 }
 
 /// The real decoder, in its sandbox where that can be had.
