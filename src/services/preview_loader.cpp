@@ -44,7 +44,7 @@ PreviewLoader::PreviewLoader(const Context &context)
 
 PreviewLoader::~PreviewLoader()
 {
-    cancel();
+    PreviewLoader::cancel();
 }
 
 PreviewDetails PreviewLoader::placeholder(const QUrl &url) const

@@ -14,6 +14,7 @@
 #include <sys/stat.h>
 
 #include <algorithm>
+#include <array>
 
 namespace corvane::e2e {
 namespace {
@@ -47,8 +48,8 @@ protected:
     QString aged(const QString &path) const
     {
         constexpr timespec longAgo = {1'000'000'000, 0};
-        const timespec times[] = {longAgo, longAgo};
-        ::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times, 0);
+        const std::array times = {longAgo, longAgo};
+        ::utimensat(AT_FDCWD, QFile::encodeName(path).constData(), times.data(), 0);
         return path;
     }
     /// Larger than what the cache keeps.
@@ -62,7 +63,7 @@ protected:
     }
     QString makeDocument(const QString &name)
     {
-        const QString path = makeFile(name, {});
+        QString path = makeFile(name, {});
         QPdfWriter writer(path);
         QPainter(&writer).fillRect(0, 0, 50000, 50000, Qt::red);
         return path;
