@@ -53,6 +53,7 @@ TEST_F(Installation, entryAndServiceNameTheProgramWhereItIsInstalled)
     EXPECT_TRUE(contents(u"share/dbus-1/services/example.corvane.Corvane.service"_s)
                     .contains(command + u" --started-by-bus\n"_s));
     EXPECT_TRUE(QFileInfo(path(u"bin/corvane"_s)).isExecutable());
+    EXPECT_TRUE(QFileInfo(path(u"libexec/corvane-decoder"_s)).isExecutable());
 }
 
 TEST_F(Installation, entriesAreValid)

@@ -13,35 +13,42 @@ namespace corvane {
 
 namespace {
 
-QByteArray fileBesideProgram()
+QByteArray folderOf(const QByteArray &path)
 {
-    const QByteArray executable = app_image::Evidence::ofThisProcess().executable;
-    const QByteArray folder = executable.left(executable.lastIndexOf('/') + 1);
-    for (const char *place : {"corvane-decoder", CORVANE_DECODER_FROM_PROGRAM}) {
-        QByteArray file = app_image::canonical(folder + place);
-        if (!file.isEmpty() && ::access(file.constData(), X_OK) == 0)
-            return file;
-    }
-    qWarning("[Corvane] corvane-decoder is missing: there are no thumbnails and no previews.");
-    return {};
+    return path.left(path.lastIndexOf('/'));
+}
+
+QByteArray ownDecoder()
+{
+    QByteArray file = DecoderProgram::belongingTo(app_image::Evidence::ofThisProcess().executable);
+    if (file.isEmpty())
+        qWarning("[Corvane] corvane-decoder is missing: there are no thumbnails and no previews.");
+    return file;
+}
+
+/// The folder that a program lies in together with its libraries, as in an AppImage; empty if its
+/// libraries are the system's.
+QByteArray bundleOf(const QByteArray &file)
+{
+    const QByteArray prefix = folderOf(folderOf(file));
+    const QByteArray library = prefix + "/lib/libQt6Core.so.6";
+    return ::access(library.constData(), R_OK) == 0 ? prefix : QByteArray();
 }
 
 Sandbox::OwnProgram inside(const QByteArray &file)
 {
     Sandbox::OwnProgram program;
     program.command = {file};
-    const QByteArray folder = qgetenv("APPDIR");
-    const bool isInAppImage
-        = !app_image::containing(app_image::Evidence::ofThisProcess()).isEmpty();
-    if (isInAppImage) {
-        program.files << folder;
-        // Where it finds its libraries and plug-ins.
-        for (const char *name : {"LD_LIBRARY_PATH", "QT_PLUGIN_PATH"}) {
-            if (const QByteArray value = qgetenv(name); !value.isEmpty())
-                program.environment << name << value;
-        }
-    } else if (!file.startsWith("/usr/")) {
-        program.files << file;
+    if (file.startsWith("/usr/"))
+        return program;
+    const QByteArray bundle = bundleOf(file);
+    program.files << (bundle.isEmpty() ? file : bundle);
+    if (bundle.isEmpty())
+        return program;
+    // Where it finds its libraries and plug-ins, if it was told so.
+    for (const char *name : {"LD_LIBRARY_PATH", "QT_PLUGIN_PATH"}) {
+        if (const QByteArray value = qgetenv(name); !value.isEmpty())
+            program.environment << name << value;
     }
     return program;
 }
@@ -49,7 +56,7 @@ Sandbox::OwnProgram inside(const QByteArray &file)
 } // namespace
 
 DecoderProgram::DecoderProgram(const Sandbox &sandbox)
-    : DecoderProgram(sandbox, fileBesideProgram())
+    : DecoderProgram(sandbox, ownDecoder())
 {
 }
 
@@ -57,6 +64,16 @@ DecoderProgram::DecoderProgram(const Sandbox &sandbox, QByteArray file)
     : m_sandbox(sandbox)
     , m_file(std::move(file))
 {
+}
+
+QByteArray DecoderProgram::belongingTo(const QByteArray &executable)
+{
+    for (const char *place : {"corvane-decoder", CORVANE_DECODER_FROM_PROGRAM}) {
+        QByteArray file = app_image::canonical(folderOf(executable) + '/' + place);
+        if (!file.isEmpty() && ::access(file.constData(), X_OK) == 0)
+            return file;
+    }
+    return {};
 }
 
 bool DecoderProgram::isShutIn() const

@@ -17,6 +17,9 @@ public:
     /// That file.
     DecoderProgram(const Sandbox &sandbox, QByteArray file);
 
+    /// The decoder that belongs to the program of that path; empty if there is none.
+    static QByteArray belongingTo(const QByteArray &executable);
+
     bool isThere() const { return !m_file.isEmpty(); }
     /// Whether it runs in the sandbox.
     bool isShutIn() const;
