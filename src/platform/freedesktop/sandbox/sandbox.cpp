@@ -98,6 +98,9 @@ FileDescriptor Sandbox::filter()
 QByteArrayList Sandbox::command(const OwnProgram &program) const
 {
     QByteArrayList arguments = walls();
+    // Without one Qt would look the user up, and make a folder named after it.
+    arguments << QByteArrayList{"--perms",         "0700", "--dir", "/run", "--setenv",
+                                "XDG_RUNTIME_DIR", "/run"};
     for (const QByteArray &path : program.files)
         arguments << QByteArrayList{"--ro-bind", path, path};
     for (qsizetype i = 0; i + 1 < program.environment.size(); i += 2)
