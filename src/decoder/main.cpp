@@ -14,8 +14,10 @@ namespace {
 
 /// Texts of drawings need the fonts of an application object, and that a plug-in, which must not
 /// be one of a desktop. Without any such plug-in there are no texts.
-const char *platformPlugin()
+const char *platformPlugin(int argc, char *argv[])
 {
+    // Only with an application object Qt looks for the plug-ins that came along in a bundle.
+    const QCoreApplication application(argc, argv);
     const QString folder = QLibraryInfo::path(QLibraryInfo::PluginsPath) + u"/platforms/";
     if (QFileInfo::exists(folder + QStringLiteral("libqminimal.so")))
         return "minimal:fontconfig";
@@ -35,7 +37,7 @@ int main(int argc, char *argv[])
     confinement::limitResources();
     qunsetenv("QT_QPA_PLATFORMTHEME");
     std::unique_ptr<QCoreApplication> application;
-    if (const char *const plugin = platformPlugin()) {
+    if (const char *const plugin = platformPlugin(argc, argv)) {
         qputenv("QT_QPA_PLATFORM", plugin);
         application = std::make_unique<QGuiApplication>(argc, argv);
     } else {
