@@ -91,10 +91,12 @@ QImage TiffAsStored::corrected(QImage image) const
 
 qint64 TiffAsStored::readData(char *data, qint64 maximum)
 {
+    // Never below zero, not even where reading fails: Qt hands that on to libtiff, which takes it
+    // for a length and writes before its memory.
     const qint64 from = pos();
     if (from >= m_file.size() || !m_file.seek(from))
-        return -1;
-    const qint64 count = m_file.read(data, maximum);
+        return 0;
+    const qint64 count = std::max(m_file.read(data, maximum), qint64{0});
     if (m_statement && count > 0) {
         const qint64 first = std::max(*m_statement - from, qint64{0});
         const qint64 end = std::min(*m_statement + 2 - from, count);
