@@ -1,5 +1,6 @@
 #include "decoder/picture_reader.h"
 
+#include "decoder/png_chunks.h"
 #include "decoder/svg_without_references.h"
 #include "platform/pictures/image_codec.h"
 
@@ -70,6 +71,8 @@ bool PictureReader::recognise(QIODevice &device, Formats formats)
     const QByteArray format = commonFormat(beginning);
     // The signature of gzip; of pictures only compressed drawings have it.
     if (!isAllowed(format, formats) || beginning.startsWith("\x1f\x8b"))
+        return false;
+    if (format == "png" && !hasModestChunks(device))
         return false;
     if (!format.isEmpty()) {
         m_reader.setAutoDetectImageFormat(false);
