@@ -163,7 +163,7 @@ Answer RequestHandler::served(const Request &request, FileDescriptor contents,
         return size(request, *file);
     case Task::Thumbnail:
         return made(picture_decoding::thumbnail(
-            *file, std::max(request.wanted.width(), request.wanted.height()), request.formats));
+            *file, std::min(request.wanted.width(), request.wanted.height()), request.formats));
     case Task::Open:
         return open(request, std::move(file));
     case Task::Render:
