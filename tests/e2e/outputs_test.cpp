@@ -94,9 +94,7 @@ DesktopKind twoOutputs(WindowManager compositor)
             .nested = {.outputs = 2}};
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, WaylandOutputs,
-                         testing::Values(twoOutputs(WindowManager::KWin),
-                                         twoOutputs(WindowManager::Mutter)),
+INSTANTIATE_TEST_SUITE_P(Every, WaylandOutputs, testing::Values(twoOutputs(WindowManager::KWin)),
                          nameOf);
 
 TEST_P(WaylandOutputs, theShelfOpensOnTheOutputWhoseEdgeADragCameTo)
