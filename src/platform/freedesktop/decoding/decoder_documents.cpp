@@ -16,7 +16,7 @@ namespace {
 
 using decoder_protocol::Request;
 using decoder_protocol::Task;
-using Outcome = DecodingAttempt::Outcome;
+using AttemptOutcome = DecodingAttempt::Outcome;
 
 bool isWithin(QSize size, QSize limit)
 {
@@ -121,7 +121,7 @@ std::optional<PreviewDocuments::Opened> DecoderDocuments::open(const QUrl &url, 
     auto document = std::make_shared<DecodedDocument>(m_pool, std::move(file));
     const auto result = document->ask(Task::Open, 0, wanted.boundedTo(largest), cancellation);
     const decoder_protocol::Reply &reply = result.reply;
-    if (result.outcome != Outcome::Made)
+    if (result.outcome != AttemptOutcome::Made)
         return std::nullopt;
     if (reply.pages > 0) {
         PreviewContent::Pages pages;

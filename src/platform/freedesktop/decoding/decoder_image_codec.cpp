@@ -17,7 +17,7 @@ namespace {
 using decoder_protocol::Request;
 using decoder_protocol::Task;
 using decoder_protocol::Type;
-using Outcome = DecodingAttempt::Outcome;
+using AttemptOutcome = DecodingAttempt::Outcome;
 using Patience = DecodingAttempt::Patience;
 
 decoder_protocol::Formats formatsOf(DecodingAttempt::Formats formats)
@@ -61,7 +61,8 @@ std::optional<QSize> DecoderImageCodec::pixelSize(const QByteArray &data) const
     request.milliseconds = thumbnailTime;
     const auto result = m_pool.run({request, {contents.number()}});
     const QSize size = result.reply.pictureSize;
-    return result.outcome == Outcome::Made && !size.isEmpty() ? std::optional(size) : std::nullopt;
+    return result.outcome == AttemptOutcome::Made && !size.isEmpty() ? std::optional(size)
+                                                                     : std::nullopt;
 }
 
 std::optional<QImage> DecoderImageCodec::thumbnail(const QByteArray &data, int maximumPixels,
@@ -80,7 +81,7 @@ std::optional<QImage> DecoderImageCodec::thumbnailOf(const FileDescriptor &conte
                                                      int maximumPixels,
                                                      DecodingAttempt &attempt) const
 {
-    attempt.outcome = Outcome::Unreadable;
+    attempt.outcome = AttemptOutcome::Unreadable;
     if (!contents.isOpen() || maximumPixels < 1)
         return std::nullopt;
     const bool isBrief = attempt.patience == Patience::Brief;
@@ -97,11 +98,11 @@ std::optional<QImage> DecoderImageCodec::thumbnailOf(const FileDescriptor &conte
     const auto result = m_pool.run(job);
     attempt.outcome = result.outcome;
     if (isBrief && result.isOverTime)
-        attempt.outcome = Outcome::TooSlow;
+        attempt.outcome = AttemptOutcome::TooSlow;
     auto picture = receivedPicture(result.reply, result.pixels);
     const bool fits = picture && std::max(picture->width(), picture->height()) <= side;
-    if (result.outcome == Outcome::Made && !fits)
-        attempt.outcome = Outcome::OverBounds;
+    if (result.outcome == AttemptOutcome::Made && !fits)
+        attempt.outcome = AttemptOutcome::OverBounds;
     return fits ? std::move(picture) : std::nullopt;
 }
 
@@ -129,7 +130,7 @@ bool DecoderImageCodec::transcodeTo(const FileDescriptor &contents, const UTType
     job.request.milliseconds = conversionTime;
     job.descriptors = {contents.number(), target.number()};
     job.urgency = DecoderPool::Urgency::Conversion;
-    return m_pool.run(job).outcome == Outcome::Made;
+    return m_pool.run(job).outcome == AttemptOutcome::Made;
 }
 
 std::optional<QByteArray> DecoderImageCodec::encode(const QImage &image, const UTType &type) const

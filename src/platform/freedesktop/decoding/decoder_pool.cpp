@@ -15,17 +15,15 @@ namespace corvane {
 
 namespace {
 
-using decoder_protocol::Outcome;
-
-DecodingAttempt::Outcome outcomeOf(Outcome outcome)
+DecodingAttempt::Outcome outcomeOf(decoder_protocol::Outcome outcome)
 {
     switch (outcome) {
-    case Outcome::Made:
+    case decoder_protocol::Outcome::Made:
         return DecodingAttempt::Outcome::Made;
-    case Outcome::OverBounds:
+    case decoder_protocol::Outcome::OverBounds:
         return DecodingAttempt::Outcome::OverBounds;
-    case Outcome::Unreadable:
-    case Outcome::NoSuchPart:
+    case decoder_protocol::Outcome::Unreadable:
+    case decoder_protocol::Outcome::NoSuchPart:
         break;
     }
     return DecodingAttempt::Outcome::Unreadable;

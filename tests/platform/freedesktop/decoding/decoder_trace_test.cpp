@@ -30,7 +30,6 @@ namespace corvane {
 namespace {
 
 using namespace Qt::StringLiterals;
-using decoder_protocol::Outcome;
 using decoder_protocol::Task;
 
 QByteArray written(const char *format)
@@ -141,7 +140,8 @@ struct DecoderTrace : testing::TestWithParam<bool> {
         return packet_socket::receive(socket, decoder_protocol::maximumPacket)
             .value_or(packet_socket::Received());
     }
-    static Outcome asked(const FileDescriptor &socket, Task task, const QByteArray &contents)
+    static decoder_protocol::Outcome asked(const FileDescriptor &socket, Task task,
+                                           const QByteArray &contents)
     {
         decoder_protocol::Request request;
         request.task = task;
@@ -152,7 +152,7 @@ struct DecoderTrace : testing::TestWithParam<bool> {
         EXPECT_TRUE(
             packet_socket::send(socket, decoder_protocol::encoded(request), {memory.number()}));
         const auto reply = decoder_protocol::parsedReply(awaited(socket).packet);
-        return reply ? reply->outcome : Outcome::NoSuchPart;
+        return reply ? reply->outcome : decoder_protocol::Outcome::NoSuchPart;
     }
 
     /// What the decoder does from its beginning to its end, while `conversation` takes place.
@@ -216,9 +216,13 @@ TEST_P(DecoderTrace, OpensNothingButWhatItsLibrariesNeed)
     file.close();
     const Trace trace = traceOf([&](const FileDescriptor &socket) {
         for (const char *format : {"png", "jpg", "webp", "tiff", "bmp", "ppm", "xpm", "ico"})
-            EXPECT_EQ(asked(socket, Task::Thumbnail, written(format)), Outcome::Made) << format;
-        EXPECT_EQ(asked(socket, Task::Open, curiousDrawing(secret)), Outcome::Made);
-        EXPECT_EQ(asked(socket, Task::Thumbnail, "none of all"), Outcome::Unreadable);
+            EXPECT_EQ(asked(socket, Task::Thumbnail, written(format)),
+                      decoder_protocol::Outcome::Made)
+                << format;
+        EXPECT_EQ(asked(socket, Task::Open, curiousDrawing(secret)),
+                  decoder_protocol::Outcome::Made);
+        EXPECT_EQ(asked(socket, Task::Thumbnail, "none of all"),
+                  decoder_protocol::Outcome::Unreadable);
         asked(socket, Task::Render, document());
     });
     static const QRegularExpression quoted(u"\"([^\"]*)\""_s);
