@@ -67,6 +67,7 @@ void AppDelegate::wireDragDetection()
 
 void AppDelegate::dragBegan()
 {
+    m_isDragGoingOn = true;
     m_isDragEndAssumed = false;
     if (!m_context.settings.autoShowOnDrag())
         return;
@@ -76,6 +77,7 @@ void AppDelegate::dragBegan()
 
 void AppDelegate::dragEnded(DragEnd end)
 {
+    m_isDragGoingOn = false;
     m_isDragEndAssumed = end == DragEnd::Assumed;
     // An empty shelf would close although a drop is on its way to it.
     m_isDragEndOwed = m_isAwaitingDrop && m_context.store.items().isEmpty();
@@ -107,7 +109,7 @@ void AppDelegate::wireAwaitedDrops()
 void AppDelegate::wireHotKey()
 {
     ShortcutBinder &shortcuts = m_context.shortcuts;
-    shortcuts.onToggleShelf = [this] { m_context.hud.toggleByHand(); };
+    shortcuts.onToggleShelf = [this] { toggleShelf(); };
     shortcuts.onToggleViewAll = [this] { m_context.store.toggleViewAll(); };
     const bool isShelfBound = shortcuts.bindShelf();
     const bool isViewAllBound = shortcuts.bindViewAll();
@@ -119,7 +121,7 @@ void AppDelegate::wireHotKey()
 void AppDelegate::wireMenu()
 {
     StatusItemController &menu = m_context.statusItem;
-    menu.onShowShelf = [this] { m_context.hud.toggleByHand(); };
+    menu.onShowShelf = [this] { toggleShelf(); };
     menu.onPreferences = [this] { showPreferences(PreferencesTab::General); };
     menu.onWelcome = [this] { showWelcome(); };
 }
@@ -145,14 +147,14 @@ void AppDelegate::applicationWillTerminate()
 
 bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/)
 {
-    m_context.hud.toggleByHand();
+    toggleShelf();
     return false;
 }
 
 bool AppDelegate::perform(const QString &action)
 {
     if (action == QLatin1String("toggle"))
-        m_context.hud.toggleByHand();
+        toggleShelf();
     else if (action == QLatin1String("view-all"))
         toggleViewAll();
     else if (action == QLatin1String("show-all"))
@@ -162,6 +164,12 @@ bool AppDelegate::perform(const QString &action)
     else
         return false;
     return true;
+}
+
+void AppDelegate::toggleShelf()
+{
+    using Keys = HUDController::Keys;
+    m_context.hud.toggleByHand(m_isDragGoingOn ? Keys::LeftAlone : Keys::Taken);
 }
 
 void AppDelegate::showAll()

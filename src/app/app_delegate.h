@@ -69,6 +69,7 @@ public:
     void endPreviewPanelControl(PreviewPanel &panel) override;
 
 private:
+    void toggleShelf();
     void showAll();
     void wireDragDetection();
     void wireDragsOverShelf();
@@ -82,6 +83,8 @@ private:
     Context m_context;
     bool m_isTerminated = false;
     bool m_isAwaitingDrop = false;
+    /// Somebody drags something, also if the shelf does not open for it.
+    bool m_isDragGoingOn = false;
     /// The drag has ended, but the store is told of that only when the drop's contents are here.
     bool m_isDragEndOwed = false;
     /// A drag is over only as far as the watch could tell.

@@ -176,7 +176,8 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
            .screenLocator = desktop.screenLocator,
            .quickActions = quickActions,
            .presenter = &presenter,
-           .viewAll = &viewAll})
+           .viewAll = &viewAll,
+           .outsideClicks = &desktop.outsideClicks})
     , edge({.trigger = desktop.edgeTrigger,
             .outsideClicks = desktop.outsideClicks,
             .screens = screens,

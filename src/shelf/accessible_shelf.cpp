@@ -2,6 +2,7 @@
 
 #include "core/display_text.h"
 #include "shelf/accessible_items.h"
+#include "shelf/shelf_focus.h"
 
 #include <QCoreApplication>
 
@@ -39,7 +40,8 @@ AccessibleNode itemNode(const ShelfLook &look, int index, const DropItem &item)
     AccessibleNode node = accessible_items::describe(item, {index, snapshot.totalCount});
     node.isSelectable = true;
     node.isFocusable = true;
-    node.isSelected = node.isFocused = index == snapshot.focusedIndex;
+    node.isSelected = index == snapshot.focusedIndex;
+    node.isFocused = node.isSelected && look.keyboardFocus == ShelfHit();
     node.actions = {{AccessibleNode::press(), Words::tr("Focus")},
                     {preview(), Words::tr("Preview")},
                     {copy(), Words::tr("Copy")},
@@ -99,6 +101,19 @@ AccessibleNode dropTarget(const ShelfLook &look)
     return node;
 }
 
+/// Which of the controls Tab goes to, and on which the keyboard is.
+void tellFocus(const ShelfLook &look, std::vector<AccessibleNode> &nodes)
+{
+    const auto stops = shelf_focus::stops(look.layout, look.snapshot);
+    for (AccessibleNode &node : nodes) {
+        const auto control = controlOf(node.key, look);
+        if (!control || std::ranges::find(stops, *control) == stops.end())
+            continue;
+        node.isFocusable = true;
+        node.isFocused = look.keyboardFocus == *control;
+    }
+}
+
 void moveBy(QPointF distance, std::vector<AccessibleNode> &nodes)
 {
     for (AccessibleNode &node : nodes) {
@@ -145,6 +160,7 @@ AccessibleNode describe(const ShelfLook &look, QPointF body)
         nodes.push_back(dropTarget(look));
     addArrows(look, nodes);
     addButtons(look, nodes);
+    tellFocus(look, nodes);
     moveBy(body, nodes);
     shelf.children = std::move(nodes);
     return shelf;

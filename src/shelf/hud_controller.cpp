@@ -10,6 +10,7 @@
 #include "platform/base/geometry.h"
 #include "platform/base/main_queue.h"
 #include "platform/desktop/motion_preference.h"
+#include "platform/desktop/outside_clicks.h"
 #include "platform/desktop/screen_locator.h"
 #include "shelf/drawing/theme.h"
 #include "shelf/view_all_bar.h"
@@ -90,9 +91,11 @@ void HUDController::wireShelf()
             onUsed();
     };
     m_shelf.onPressed = [this] {
+        watchOutsideClicks();
         if (m_context.viewAll)
             m_context.viewAll->shelfWasPressed();
     };
+    m_shelf.onClose = [this] { closeEmptyShelf(); };
     m_shelf.onQuickLook = [this] {
         const auto item = m_store.focusedItem();
         if (item && m_context.presenter)
@@ -236,6 +239,7 @@ void HUDController::scheduleHide()
     m_pendingHide.restart();
     m_panel.setIgnoresMouseEvents(true);
     m_letsClicksThrough = false;
+    m_clickWatch.end();
     // Now, not when it has slid away: keys typed from here on are for the program behind.
     m_panel.resignKey();
     m_context.view.queue.asyncAfter(hideDelay, m_pendingHide.guard([this] {
@@ -244,11 +248,44 @@ void HUDController::scheduleHide()
     }));
 }
 
-void HUDController::toggleByHand()
+void HUDController::toggleByHand(Keys keys)
 {
     if (m_context.viewAll)
         m_context.viewAll->shelfIsToggledByHand();
     m_store.toggleManually();
+    const bool isDragged = m_store.isDragInFlight() || m_store.isOwnDrag();
+    if (keys == Keys::Taken && !isDragged && m_store.state() != ShelfState::Idle)
+        takeKeyboard();
+}
+
+void HUDController::takeKeyboard()
+{
+    if (m_context.viewAll && m_context.viewAll->isShown())
+        return;
+    m_panel.makeKey();
+    watchOutsideClicks();
+}
+
+void HUDController::watchOutsideClicks()
+{
+    if (m_context.outsideClicks && !m_clickWatch.isActive())
+        m_clickWatch = m_context.outsideClicks->watch(
+            m_lifetime.guard([this](std::optional<QPointF> place) { clickedElsewhere(place); }));
+}
+
+void HUDController::clickedElsewhere(std::optional<QPointF> place)
+{
+    if (place && contains(m_panel.frame(), *place))
+        return;
+    m_clickWatch.end();
+    m_panel.userWentOn();
+}
+
+/// The user is done with it: it opens again for the next drag.
+void HUDController::closeEmptyShelf()
+{
+    if (m_store.state() == ShelfState::Expanded && m_store.items().isEmpty())
+        m_store.toggleManually();
 }
 
 void HUDController::letClicksThrough(double seconds)

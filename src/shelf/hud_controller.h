@@ -2,6 +2,7 @@
 
 #include "core/store_follower.h"
 #include "platform/base/lifetime.h"
+#include "platform/base/subscription.h"
 #include "platform/desktop/panel_placement.h"
 #include "platform/desktop/screens.h"
 #include "shelf/shelf_view.h"
@@ -16,6 +17,7 @@
 namespace corvane {
 
 class ItemPresenter;
+class OutsideClicks;
 class QuickActions;
 class ScreenLocator;
 class Settings;
@@ -51,14 +53,22 @@ public:
         /// Null where there is none.
         ItemPresenter *presenter = nullptr;
         ViewAllBar *viewAll = nullptr;
+        OutsideClicks *outsideClicks = nullptr;
     };
     explicit HUDController(const Context &context);
     ~HUDController();
     HUDController(const HUDController &) = delete;
     HUDController &operator=(const HUDController &) = delete;
 
-    /// To be called when the user opens or closes the shelf by a hot key or a menu.
-    void toggleByHand();
+    /// Whether the shelf, when it opens, is given the keyboard. Not while something is dragged: the
+    /// drag's source may give up when it loses the keyboard.
+    enum class Keys {
+        Taken,
+        LeftAlone,
+    };
+    /// To be called when the user opens or closes the shelf by a hot key or a menu. A bar that was
+    /// left open has the keyboard in place of the shelf.
+    void toggleByHand(Keys keys = Keys::Taken);
     /// To be called before the shelf is shown without the user having asked: for so many seconds
     /// its clicks go to the window below, because the user may click there without having seen the
     /// shelf.
@@ -89,6 +99,10 @@ private:
     QSizeF withOvershoot(QSizeF target, QSizeF before);
     void scheduleHide();
     void takeClicks();
+    void takeKeyboard();
+    void watchOutsideClicks();
+    void clickedElsewhere(std::optional<QPointF> place);
+    void closeEmptyShelf();
     void preview(const DropItem &item);
 
     Context m_context;
@@ -106,6 +120,8 @@ private:
     /// The item that is to be previewed once its file is there.
     std::optional<QUuid> m_awaitedPreview;
     StoreFollower m_follower;
+    /// While the shelf may have the keyboard.
+    Subscription m_clickWatch;
     Lifetime m_lifetime;
 };
 

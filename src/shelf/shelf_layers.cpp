@@ -6,6 +6,7 @@
 #include "shelf/drawing/pill_path.h"
 #include "shelf/drawing/theme.h"
 #include "shelf/mirrored.h"
+#include "shelf/shelf_focus.h"
 
 #include <QCoreApplication>
 #include <QLinearGradient>
@@ -58,6 +59,7 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
     , m_viewAllButton(tree)
     , m_flash(tree)
     , m_hairline(tree)
+    , m_keyboardRing(tree, m_body, theme)
 {
     m_body.setAnchorPoint({0.5, 1});
     const std::array<Layer *, 13> inOrder{&m_shelf,
@@ -301,6 +303,7 @@ void ShelfLayers::applyControls(const ShelfLook &look)
     m_divider.setOpacity(layout.divider ? 1 : 0);
     applyArrow(0, look);
     applyArrow(1, look);
+    m_keyboardRing.show(shelf_focus::ringAround(look.keyboardFocus, layout));
 }
 
 QPainterPath ShelfLayers::presentedOutline() const

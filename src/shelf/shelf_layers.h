@@ -2,6 +2,7 @@
 
 #include "shelf/arrow_layers.h"
 #include "shelf/drawing/icon_layer.h"
+#include "shelf/drawing/keyboard_ring.h"
 #include "shelf/drawing/pill_layer.h"
 #include "shelf/drawing/ring_layer.h"
 #include "shelf/drawing/shape_layer.h"
@@ -26,6 +27,8 @@ struct ShelfLook {
     ShelfSnapshot snapshot;
     ShelfLayout layout;
     ShelfHit hovered;
+    /// The control that the keyboard is on; otherwise it is on the focused item.
+    ShelfHit keyboardFocus;
     bool isHovering = false;
     bool isDragTargeted = false;
     /// A short message shown in place of the details; empty for none.
@@ -56,6 +59,7 @@ public:
     std::size_t cellCount() const { return m_cells.size(); }
     /// The layer that contains all others.
     const Layer &root() const { return m_body; }
+    bool showsKeyboardRing() const { return m_keyboardRing.isShown(); }
 
 private:
     void paintShifted(QPainter &painter, double scale);
@@ -103,6 +107,7 @@ private:
     IconLayer m_viewAllButton;
     TextLayer m_flash;
     PillLayer m_hairline;
+    KeyboardRing m_keyboardRing;
     /// The picture of the body while it slides, with the scale and tree version that it was made
     /// for.
     QImage m_picture;

@@ -5,6 +5,7 @@
 #include "shelf/accessible_shelf.h"
 #include "shelf/drawing/theme.h"
 #include "shelf/optional_callback.h"
+#include "shelf/shelf_focus.h"
 
 #include <QPainter>
 
@@ -59,6 +60,10 @@ void ShelfView::relayout()
 {
     const double textWidth = detailTextWidth(m_look.snapshot, m_context.theme, m_context.measurer);
     m_look.layout = layoutShelf(m_look.snapshot, textWidth, m_context.theme.direction);
+    // The control that the keyboard was on may be gone, or lead nowhere now.
+    const auto stops = shelf_focus::stops(m_look.layout, m_look.snapshot);
+    if (std::ranges::find(stops, m_look.keyboardFocus) == stops.end())
+        m_look.keyboardFocus = {};
     // The shelf may have changed under a pointer that does not move.
     const bool isInside = m_pointer && hitTest(fromTopCentre(*m_pointer));
     m_look.isHovering = isInside;
@@ -176,6 +181,7 @@ void ShelfView::mouseDown(const MouseEvent &event)
     if (!hitTest(event.location))
         return;
     m_context.panel.makeKey();
+    returnToItem();
     press(corvane::hitTest(m_look.layout, m_look.snapshot.isCarousel(), inBody(event.location)),
           event.location);
     call(onPressed);

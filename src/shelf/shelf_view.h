@@ -67,6 +67,8 @@ public:
     std::function<void()> onCopy;
     std::function<void()> onQuickLook;
     std::function<void()> onViewAll;
+    /// Escape on the empty shelf.
+    std::function<void()> onClose;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
     std::function<void(bool isInside)> onPointerInside;
     /// Called with true when a drop's contents are on their way; when they are here, with whether
@@ -108,6 +110,8 @@ public:
     void mouseExited() override;
     void scrollWheel(const ScrollEvent &event) override;
     bool keyDown(const KeyEvent &event) override;
+    bool takesPaste() const override;
+    void keyboardLost() override;
     DragOperation draggingEntered(const DraggingInfo &info) override;
     DragOperation draggingUpdated(const DraggingInfo &info) override;
     void draggingExited() override;
@@ -130,7 +134,12 @@ private:
     void performAction(ShelfAction action) const;
     void press(const ShelfHit &hit, QPointF point);
     void pressCell(int itemIndex, QPointF point);
+    bool keyForItems(const KeyEvent &event);
     void pressKey(const KeyEvent &event) const;
+    bool keyForEverything(const KeyEvent &event);
+    void moveKeyboard(bool isBackward);
+    void returnToItem();
+    void pressFocused();
     void performOnItem(const QUuid &id, int index, const QString &action);
     void wireDragSource();
     QRectF thumbFrame(int index) const;

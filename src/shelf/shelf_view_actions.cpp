@@ -50,8 +50,11 @@ bool ShelfView::keyDown(const KeyEvent &event)
     if (m_look.snapshot.state == ShelfState::Idle)
         return false;
     call(onUsed);
-    if (m_look.snapshot.visible.empty())
-        return false;
+    return keyForEverything(event) || (!m_look.snapshot.visible.empty() && keyForItems(event));
+}
+
+bool ShelfView::keyForItems(const KeyEvent &event)
+{
     const int focused = m_look.snapshot.focusedIndex;
     const int rightward = m_look.layout.isMirrored ? -1 : 1;
     switch (event.key) {
@@ -60,9 +63,11 @@ bool ShelfView::keyDown(const KeyEvent &event)
             return false;
         break;
     case TypedKey::LeftArrow:
+        returnToItem();
         call(onFocus, checkedAdd(focused, -rightward));
         return true;
     case TypedKey::RightArrow:
+        returnToItem();
         call(onFocus, checkedAdd(focused, rightward));
         return true;
     case TypedKey::Space:

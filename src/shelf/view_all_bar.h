@@ -14,6 +14,7 @@ public:
     /// To be called on every change: `pillFrame` is the shelf's frame on `screen`, in global
     /// points; an empty rectangle and null while the shelf is closed.
     virtual void render(const QRectF &pillFrame, const ScreenPointer &screen) = 0;
+    virtual bool isShown() const = 0;
     /// The user opens or closes the shelf by a hot key or a menu, so keys are meant for the bar if
     /// it opens, too.
     virtual void shelfIsToggledByHand() = 0;

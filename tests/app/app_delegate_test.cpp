@@ -760,4 +760,27 @@ TEST(AppInfo, TheBuiltInDictionaryIsThere)
     EXPECT_TRUE(AppInfo::builtIn().applicationId().contains(u'.'));
 }
 
+TEST_F(AppDelegateTest, WhoeverOpensTheShelfByHandGivesItTheKeyboard)
+{
+    pressHotKey(shelfHotKey);
+    EXPECT_TRUE(desk.panel.isKey);
+    delegate->applicationShouldHandleReopen(false);
+    EXPECT_FALSE(desk.panel.isKey);
+    EXPECT_TRUE(delegate->perform(QStringLiteral("toggle")));
+    EXPECT_TRUE(desk.panel.isKey);
+}
+
+TEST_F(AppDelegateTest, TheHotKeyInTheMiddleOfADragLeavesTheKeyboardWhereItIs)
+{
+    settings.setAutoShowOnDrag(false);
+    drag();
+    pressHotKey(shelfHotKey);
+    EXPECT_TRUE(desk.panel.visible);
+    EXPECT_FALSE(desk.panel.isKey) << "the source might give up";
+    release();
+    ASSERT_EQ(store.state(), ShelfState::Idle);
+    pressHotKey(shelfHotKey);
+    EXPECT_TRUE(desk.panel.isKey);
+}
+
 } // namespace corvane::test

@@ -43,6 +43,7 @@ public:
     void makeKeyAmongPanels() override { isKey = isKey || !othersHaveKeyboard; }
     void resignKey() override { isKey = false; }
     void userWentOn() override { log << QStringLiteral("userWentOn"); }
+    void paste() override { ++pastes; }
     void setNeedsDisplay(const QRectF &) override { ++displayRequests; }
     void accessibleChanged() override { ++accessibleChanges; }
     void announce(const QString &text) override { announced << text; }
@@ -70,6 +71,7 @@ public:
     QRectF body;
     QPainterPath outline;
     int displayRequests = 0;
+    int pastes = 0;
     int accessibleChanges = 0;
     QStringList announced;
     std::vector<QRectF> frames;

@@ -74,6 +74,8 @@ public:
         return !onPerform || onPerform(info.pasteboard);
     }
     void draggingEnded() override { log << QStringLiteral("drag ended"); }
+    bool takesPaste() const override { return takesPastes; }
+    void keyboardLost() override { log << QStringLiteral("keyboard lost"); }
 
     int count(const char *what) const
     {
@@ -93,6 +95,7 @@ public:
     std::optional<QUrl> place;
     bool isOwn = false;
     bool accepts = true;
+    bool takesPastes = true;
     int updates = 0;
     std::vector<KeyEvent> keys;
     std::vector<ScrollEvent> scrolls;

@@ -141,6 +141,13 @@ void DragSource::putDown()
     xcb_flush(connection());
 }
 
+void DragSource::copy()
+{
+    xcb_set_selection_owner(connection(), window(), atom("CLIPBOARD"), XCB_CURRENT_TIME);
+    xcb_flush(connection());
+    m_server.facts(window());
+}
+
 void DragSource::enter(xcb_window_t target)
 {
     // The types are in the property, however few they are.
@@ -239,7 +246,15 @@ void DragSource::answer(const xcb_selection_request_event_t &request)
     notify.requestor = request.requestor;
     notify.selection = request.selection;
     notify.target = request.target;
-    if (m_offers.contains(type)) {
+    if (type == "TARGETS") {
+        std::vector<xcb_atom_t> types;
+        for (const QByteArray &offer : m_offers.keys())
+            types.push_back(atom(offer));
+        notify.property = request.property;
+        xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, request.requestor,
+                            request.property, XCB_ATOM_ATOM, 32,
+                            static_cast<std::uint32_t>(types.size()), types.data());
+    } else if (m_offers.contains(type)) {
         const QByteArray bytes = type == directSaveType ? saveDirectly() : m_offers.value(type);
         notify.property = request.property;
         xcb_change_property(connection(), XCB_PROP_MODE_REPLACE, request.requestor,

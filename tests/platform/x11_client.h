@@ -72,6 +72,8 @@ public:
     /// Takes the drag selection, which is what starts a drag.
     void pickUp();
     void putDown();
+    /// Takes the clipboard's selection, and says on request what it has.
+    void copy();
     void enter(xcb_window_t target);
     void moveTo(xcb_window_t target, QPoint point);
     void leave(xcb_window_t target);

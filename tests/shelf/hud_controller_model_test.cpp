@@ -20,6 +20,7 @@ struct TellingBar : ViewAllBar {
         if (onRendered)
             onRendered(pill, screen);
     }
+    bool isShown() const override { return false; }
     void shelfIsToggledByHand() override { }
     void shelfWasPressed() override { }
 

@@ -1,5 +1,7 @@
 #include "core/item_presenter.h"
+#include "fakes/fake_drag_desktop.h"
 #include "fakes/shelf_model.h"
+#include "input/monitored_clicks.h"
 #include "platform/base/geometry.h"
 #include "shelf/view_all_bar.h"
 
@@ -24,8 +26,10 @@ struct RecordingViewAllBar : ViewAllBar {
         if (shelf)
             sizesSeen.push_back(shelf->look().layout.size);
     }
+    bool isShown() const override { return isOpen; }
     void shelfIsToggledByHand() override { rendersBeforeHand = frames.size(); }
     void shelfWasPressed() override { ++presses; }
+    bool isOpen = false;
     const ShelfView *shelf = nullptr;
     int presses = 0;
     std::optional<std::size_t> rendersBeforeHand;
@@ -623,6 +627,76 @@ TEST_F(HUDControllerTest, WhatOutlivesItDoesNothing)
     feedback.show({Message::Kind::Kept});
     desk.clock.advance(5);
     EXPECT_TRUE(desk.panel.visible) << "the pending hide is void";
+}
+
+// The keyboard
+
+TEST_F(HUDControllerTest, OpenedByHandItHasTheKeyboardAndClosedByHandItGivesItBack)
+{
+    controller->toggleByHand();
+    EXPECT_TRUE(desk.panel.isKey);
+    controller->toggleByHand();
+    EXPECT_FALSE(desk.panel.isKey);
+}
+
+TEST_F(HUDControllerTest, OpenedInTheMiddleOfADragItLeavesTheKeyboardWhereItIs)
+{
+    controller->toggleByHand(HUDController::Keys::LeftAlone);
+    EXPECT_TRUE(desk.panel.visible);
+    EXPECT_FALSE(desk.panel.isKey);
+    controller->toggleByHand();
+    accept(1);
+    store.ownDragChanged(true);
+    controller->toggleByHand();
+    controller->toggleByHand();
+    EXPECT_FALSE(desk.panel.isKey) << "what is dragged came from the shelf";
+}
+
+TEST_F(HUDControllerTest, ABarThatOpensWithItHasTheKeyboardInItsPlace)
+{
+    accept(2);
+    controller->toggleByHand();
+    bar.isOpen = true;
+    controller->toggleByHand();
+    EXPECT_FALSE(desk.panel.isKey);
+}
+
+TEST_F(HUDControllerTest, EscapeClosesTheEmptyShelfOnly)
+{
+    controller->toggleByHand();
+    EXPECT_TRUE(view().keyDown({TypedKey::Escape, {}, false}));
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+    EXPECT_FALSE(desk.panel.isKey);
+    accept(2);
+    EXPECT_TRUE(view().keyDown({TypedKey::Escape, {}, false}));
+    EXPECT_EQ(store.items().size(), 1) << "it removes what is focused";
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+}
+
+TEST_F(HUDControllerTest, AClickElsewhereIsToldToThePanelOnceForEachTimeThatItHasTheKeyboard)
+{
+    const QString wentOn = QStringLiteral("userWentOn");
+    FakeDragDesktop desktop;
+    MonitoredClicks clicks(desktop, desktop.pointer);
+    HUDController::Context listening = context();
+    listening.outsideClicks = &clicks;
+    controller.emplace(listening);
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
+    controller->toggleByHand();
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 1U);
+    desktop.pressElsewhere(desk.panel.frame().center());
+    EXPECT_FALSE(desk.panel.log.contains(wentOn)) << "the shelf itself was clicked";
+    desktop.pressElsewhere(QPointF(5, 5));
+    desktop.pressElsewhere(QPointF(5, 5));
+    EXPECT_EQ(desk.panel.log.count(wentOn), 1);
+    EXPECT_EQ(store.state(), ShelfState::Expanded) << "it stays open";
+    accept(1);
+    view().mouseDown({view().look().layout.cells[0].root.center()});
+    desktop.pressElsewhere(std::nullopt);
+    EXPECT_EQ(desk.panel.log.count(wentOn), 2);
+    view().mouseDown({view().look().layout.cells[0].root.center()});
+    controller->toggleByHand();
+    EXPECT_EQ(desktop.mouseDownMonitorCount(), 0U);
 }
 
 } // namespace corvane::test

@@ -26,6 +26,7 @@ LayerSession::LayerSession(const SessionNeeds &needs)
     , windowActivation(panels.surface)
     , dragCarrier(connection, needs.mainQueue)
     , dropSupport(connection, needs.mainQueue, panels.surface)
+    , clipboard(connection, needs.mainQueue)
     , xwaylandDrags(needs.mainQueue)
 {
     wireDrags();
@@ -74,6 +75,8 @@ DesktopSession LayerSession::desktop()
     PanelDesktop panelDesktop = panels.desktop();
     if (dragCarrier.isAble())
         panelDesktop.dragCarrier = &dragCarrier;
+    if (clipboard.isAble())
+        panelDesktop.clipboard = &clipboard;
     return {.abilities = abilities,
             .screenLocator = quiet.screenLocator,
             .dragWatch = quiet.dragWatch,

@@ -5,6 +5,7 @@
 #include "app/sessions/quiet_desktop.h"
 #include "platform/qt/desktop/qt_keyboard.h"
 #include "platform/wayland/base/wayland_connection.h"
+#include "platform/wayland/drags/wayland_clipboard.h"
 #include "platform/wayland/drags/wayland_drag_carrier.h"
 #include "platform/wayland/drags/wayland_drop_support.h"
 #include "platform/wayland/keys/wayland_keyboard_layout.h"
@@ -38,6 +39,7 @@ struct LayerSession : RunningSession {
     LayerWindowActivation windowActivation;
     WaylandDragCarrier dragCarrier;
     WaylandDropSupport dropSupport;
+    WaylandClipboard clipboard;
     XWaylandDrags xwaylandDrags;
 
 private:

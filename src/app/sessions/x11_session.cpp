@@ -21,6 +21,7 @@ X11Session::X11Session(const SessionNeeds &needs)
                    .buttons = dragDesktop,
                    .pointer = pointer})
     , dropSupport(connection, needs.mainQueue)
+    , clipboard(connection, needs.mainQueue)
     , dragSupport(connection, needs.mainQueue)
     , trayWatch(connection)
 {
@@ -28,6 +29,8 @@ X11Session::X11Session(const SessionNeeds &needs)
 
 DesktopSession X11Session::desktop()
 {
+    PanelDesktop panelDesktop = panels.desktop();
+    panelDesktop.clipboard = &clipboard;
     return {.abilities = abilities,
             .screenLocator = screenLocator,
             .dragWatch = dragMonitor,
@@ -36,7 +39,7 @@ DesktopSession X11Session::desktop()
             .hotKeys = hotKeys,
             .keyboard = keyboard,
             .keyboardLayout = keyboardLayout,
-            .panels = panels.desktop(),
+            .panels = panelDesktop,
             .dropSupport = &dropSupport,
             .dragSupport = &dragSupport,
             .windowActivation = windowActivation,

@@ -8,6 +8,7 @@
 #include "platform/qt/desktop/qt_keyboard.h"
 #include "platform/x11/base/x11_abilities.h"
 #include "platform/x11/base/x11_connection.h"
+#include "platform/x11/drags/x11_clipboard.h"
 #include "platform/x11/drags/x11_drag_desktop.h"
 #include "platform/x11/drags/x11_drag_support.h"
 #include "platform/x11/drags/x11_drop_support.h"
@@ -47,6 +48,7 @@ struct X11Session : RunningSession {
     X11FullScreenWindows fullScreenWindows;
     BarrierEdgeTrigger edgeTrigger;
     X11DropSupport dropSupport;
+    X11Clipboard clipboard;
     X11DragSupport dragSupport;
     X11TrayWatch trayWatch;
 };

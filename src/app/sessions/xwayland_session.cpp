@@ -12,6 +12,7 @@ XWaylandSession::XWaylandSession(const SessionNeeds &needs)
     , panels(connection, needs.mainQueue)
     , windowActivation(connection)
     , dropSupport(connection, needs.mainQueue)
+    , clipboard(connection, needs.mainQueue)
     , dragSupport(connection, needs.mainQueue)
     , trayWatch(connection)
 {
@@ -35,6 +36,8 @@ void XWaylandSession::tellAbilities()
 
 DesktopSession XWaylandSession::desktop()
 {
+    PanelDesktop panelDesktop = panels.desktop();
+    panelDesktop.clipboard = &clipboard;
     return {.abilities = abilities,
             .screenLocator = quiet.screenLocator,
             .dragWatch = quiet.dragWatch,
@@ -43,7 +46,7 @@ DesktopSession XWaylandSession::desktop()
             .hotKeys = hotKeys.service,
             .keyboard = keyboard,
             .keyboardLayout = keyboardLayout,
-            .panels = panels.desktop(),
+            .panels = panelDesktop,
             .dropSupport = &dropSupport,
             .dragSupport = &dragSupport,
             .windowActivation = windowActivation,

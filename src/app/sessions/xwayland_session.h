@@ -5,6 +5,7 @@
 #include "app/sessions/quiet_desktop.h"
 #include "platform/qt/desktop/qt_keyboard.h"
 #include "platform/x11/base/x11_connection.h"
+#include "platform/x11/drags/x11_clipboard.h"
 #include "platform/x11/drags/x11_drag_selection.h"
 #include "platform/x11/drags/x11_drag_support.h"
 #include "platform/x11/drags/x11_drop_support.h"
@@ -38,6 +39,7 @@ struct XWaylandSession : RunningSession {
     XWaylandPanels panels;
     X11WindowActivation windowActivation;
     X11DropSupport dropSupport;
+    X11Clipboard clipboard;
     X11DragSupport dragSupport;
     X11TrayWatch trayWatch;
 

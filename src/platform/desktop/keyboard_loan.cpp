@@ -27,7 +27,8 @@ void KeyboardLoan::leave(WindowNumber panel)
 
 void KeyboardLoan::shown(WindowNumber panel)
 {
-    m_panels[panel] = {.isShown = true, .hasUserGoneOn = false};
+    m_panels[panel].isShown = true;
+    m_panels[panel].hasUserGoneOn = false;
 }
 
 void KeyboardLoan::willHide(WindowNumber panel)
@@ -37,7 +38,9 @@ void KeyboardLoan::willHide(WindowNumber panel)
         return;
     wishEnds(panel);
     if (!before.hasUserGoneOn) {
+        m_panels[panel].lender = before.lender;
         giveBackFrom(panel);
+        m_panels[panel].lender = WindowNumber::None;
         return;
     }
     // Not now: the window manager may get the click after us, and our request would then override
@@ -56,8 +59,10 @@ void KeyboardLoan::giveBackUnlessClaimed(WindowNumber hidden)
 void KeyboardLoan::wantedByHand(WindowNumber panel)
 {
     m_givesBackOnRelease = false;
-    if (isShown(panel))
-        take(panel);
+    if (!isShown(panel))
+        return;
+    m_goingOn.restart();
+    take(panel);
 }
 
 void KeyboardLoan::wantedAmongPanels(WindowNumber panel)
@@ -79,6 +84,8 @@ void KeyboardLoan::userWentOn(WindowNumber panel)
 {
     m_panels[panel].hasUserGoneOn = true;
     nobodyWants();
+    m_goingOn.restart();
+    m_queue.asyncAfter(clickPatience, m_goingOn.guard([this, panel] { resigned(panel); }));
 }
 
 void KeyboardLoan::windowOpens()
@@ -110,6 +117,8 @@ void KeyboardLoan::windowHidden()
 
 void KeyboardLoan::pressed()
 {
+    ++m_inputs;
+    m_isBeingPressed = true;
     m_wasWithPanelBeforePress = isPanel(m_focus.focusedWindow());
 }
 
@@ -127,6 +136,7 @@ void KeyboardLoan::dragLetGo(DragOperation promised)
 
 void KeyboardLoan::keyPressed(WindowNumber panel, NativeKey key, std::uint32_t modifiers)
 {
+    ++m_inputs;
     m_heldKey = {panel, key, modifiers};
 }
 
@@ -170,7 +180,19 @@ void KeyboardLoan::take(WindowNumber panel)
         m_owner = m_givenBackTo;
     else if (!isPanel(focused))
         m_owner = m_focus.owner();
+    rememberLender(panel, focused);
     m_focus.giveTo(panel);
+}
+
+/// A panel that got the keyboard by the same press only passes it on.
+void KeyboardLoan::rememberLender(WindowNumber panel, WindowNumber focused)
+{
+    Panel &taker = m_panels[panel];
+    taker.press = m_isBeingPressed ? m_inputs : 0;
+    if (!isPanel(focused))
+        taker.lender = WindowNumber::None;
+    else if (m_panels[focused].press == 0 || m_panels[focused].press != m_inputs)
+        taker.lender = focused;
 }
 
 void KeyboardLoan::giveBackFrom(WindowNumber panel)
@@ -182,7 +204,12 @@ void KeyboardLoan::giveBackFrom(WindowNumber panel)
         m_heldKey.reset();
     }
     // Otherwise another window has it by now: the user went on there, or to another panel.
-    if (m_focus.focusedWindow() == panel)
+    if (m_focus.focusedWindow() != panel)
+        return;
+    const WindowNumber lender = std::exchange(m_panels[panel].lender, WindowNumber::None);
+    if (lender != panel && isShown(lender))
+        m_focus.giveTo(lender);
+    else
         giveBack();
 }
 

@@ -16,8 +16,9 @@ class MainQueue;
 ///
 ///     with its owner --a panel wants it--> with that panel; the owner is remembered
 ///     with a panel --another panel wants it--> with that one; the owner stays remembered
-///     with a panel --it hides, resigns, or its drag is let go elsewhere--> with its owner
-///     with a panel --the user clicks elsewhere--> wherever the click takes it
+///     with a panel --it hides, resigns, or its drag is let go elsewhere--> with its owner, or with
+///                    the panel that it took it from, if that is shown
+///     with a panel --the user clicks elsewhere--> wherever the click takes it, else with its owner
 ///     with a panel --a window of ours opens--> with that window
 ///     with that window --it hides--> with the panel, if that is still shown
 ///
@@ -57,7 +58,8 @@ public:
     /// The panel stays on screen but needs the keyboard no longer: gives it back.
     void resigned(WindowNumber panel);
     /// The user clicked in another program. Until the panel is shown again, hiding it leaves the
-    /// keyboard where the click puts it.
+    /// keyboard where the click puts it. A panel that still has it after `clickPatience` gives it
+    /// back.
     void userWentOn(WindowNumber panel);
 
     /// To be called before a window of ours opens that the window manager manages and gives the
@@ -68,8 +70,10 @@ public:
     void windowWillHide(WindowNumber window);
     void windowHidden();
 
-    /// The left button went down on a panel; to be called before the panel reacts.
+    /// The left button went down on a panel; to be called before the panel reacts, and the other
+    /// when it has.
     void pressed();
+    void pressHandled() { m_isBeingPressed = false; }
     /// The drag that began with that press is over. `promised` is what the target would do.
     void dragLetGo(DragOperation promised);
 
@@ -85,6 +89,10 @@ private:
     struct Panel {
         bool isShown = false;
         bool hasUserGoneOn = false;
+        /// The panel that it took the keyboard from, unless that had got it by the same press.
+        WindowNumber lender = WindowNumber::None;
+        /// The press by which it got the keyboard; 0 for none.
+        std::uint64_t press = 0;
     };
     /// The latest key that was pressed on a panel and not released.
     struct HeldKey {
@@ -99,6 +107,7 @@ private:
     void take(WindowNumber panel);
     void wishEnds(WindowNumber panel);
     void nobodyWants();
+    void rememberLender(WindowNumber panel, WindowNumber focused);
     void giveBackFrom(WindowNumber panel);
     void giveBackFromAnyPanel();
     void giveBack();
@@ -125,12 +134,17 @@ private:
     /// that it chooses, or to none.
     bool m_isOwnChoiceAwaited = false;
     bool m_wasWithPanelBeforePress = false;
+    /// Counts presses and keys on panels.
+    std::uint64_t m_inputs = 0;
+    bool m_isBeingPressed = false;
     /// Escape ended a drag and is still held. The keyboard is given back when it is released, so
     /// that its repeats do not reach the owner.
     bool m_givesBackOnRelease = false;
     std::optional<HeldKey> m_heldKey;
     /// Restarted when waiting for answers begins again or ends.
     Lifetime m_waiting;
+    /// Restarted when the user wants a panel again after a click elsewhere.
+    Lifetime m_goingOn;
     Lifetime m_lifetime;
 };
 

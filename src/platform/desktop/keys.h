@@ -47,6 +47,7 @@ enum class KeyPosition : std::uint32_t {
 enum class TypedKey : std::uint32_t {
     A = 0,
     C = 8,
+    V = 9,
     Return = 36,
     Tab = 48,
     Space = 49,

@@ -2,6 +2,7 @@
 
 namespace corvane {
 
+class ClipboardSource;
 class Compositing;
 class DragCarrier;
 class KeyboardLoan;
@@ -16,6 +17,8 @@ struct PanelDesktop {
     PointingDevices &pointingDevices;
     /// Null where Qt carries what is dragged out of them.
     DragCarrier *dragCarrier = nullptr;
+    /// Null where only Qt reads what another program has put on the clipboard.
+    ClipboardSource *clipboard = nullptr;
 };
 
 } // namespace corvane

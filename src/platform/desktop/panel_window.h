@@ -58,6 +58,11 @@ public:
     virtual bool performDragOperation(const DraggingInfo &info) = 0;
     /// Called after a drop or an exit: the drag is over for this panel.
     virtual void draggingEnded() = 0;
+    /// Whether the clipboard's contents may be pasted here now. They then come as a drop does:
+    /// `dropIsAwaited` if they have to be waited for, and `performDragOperation`.
+    virtual bool takesPaste() const { return false; }
+    /// The panel no longer has the keyboard.
+    virtual void keyboardLost() { }
 
     /// What is on the panel, for assistive technologies; asked for only while one is in use. Tell
     /// the panel when it changes (`PanelWindow::accessibleChanged`).
@@ -140,8 +145,12 @@ public:
     /// Gives the keyboard back to the window that had it, and stays on screen.
     virtual void resignKey() = 0;
     /// The user clicked in another program, which is about to get the keyboard. Until the panel is
-    /// shown again, hiding it does not move the keyboard.
+    /// shown again, hiding it does not move the keyboard. If what was clicked takes no keyboard,
+    /// the panel gives it back, as in `resignKey`.
     virtual void userWentOn() = 0;
+    /// Hands what is on the clipboard to the content, as something that was dropped there, if the
+    /// content takes it (`PanelContent::takesPaste`).
+    virtual void paste() = 0;
 
     /// Asks for a repaint of part of the panel, in its coordinates.
     virtual void setNeedsDisplay(const QRectF &rect) = 0;

@@ -39,6 +39,8 @@ AccessibleNode tileNode(const State &state, std::size_t tile)
     node.frame = place.root;
     node.isSelectable = node.isCheckable = true;
     node.isSelected = node.isChecked = place.isChecked;
+    node.isFocusable = true;
+    node.isFocused = !state.focus.control && state.focus.index == index;
     node.actions = {{AccessibleNode::press(), BarWords::tr("Select or deselect")}};
     return node;
 }
@@ -93,6 +95,11 @@ AccessibleNode describe(const State &state)
         ViewAllControl::Trash, BarWords::tr("Remove the selected items"), layout.trashButton.frame);
     copy.isEnabled = trash.isEnabled = state.selectedCount > 0;
     bar.children = {tileList(state), back, forward, selectAllNode(state), copy, trash};
+    for (AccessibleNode &node : bar.children) {
+        const auto control = controlOf(node.key);
+        node.isFocusable = control && node.isEnabled;
+        node.isFocused = node.isFocusable && state.focus.control == control;
+    }
     return bar;
 }
 

@@ -2,7 +2,7 @@
 
 #include "core/drop_item.h"
 #include "platform/desktop/accessible_node.h"
-#include "shelf/bar/view_all_layout.h"
+#include "shelf/bar/view_all_focus.h"
 
 #include <QString>
 
@@ -19,6 +19,7 @@ struct State {
     int offset = 0;
     int itemCount = 0;
     int selectedCount = 0;
+    ViewAllFocus focus = {};
     /// Off the screen there is nothing in it.
     bool isShown = false;
 };

@@ -49,6 +49,7 @@ public:
     ViewAllController &operator=(const ViewAllController &) = delete;
 
     void render(const QRectF &pillFrame, const ScreenPointer &screen) override;
+    bool isShown() const override { return m_panel.isVisible(); }
     void shelfIsToggledByHand() override;
     void shelfWasPressed() override;
 

@@ -33,6 +33,7 @@ ViewAllLayers::ViewAllLayers(LayerTree &tree, const Theme &theme)
     , m_selectAllLabel(tree)
     , m_copyButton(tree)
     , m_trashButton(tree)
+    , m_keyboardRing(tree, m_content, theme)
 {
     setUp();
 }

@@ -5,6 +5,7 @@
 #include "shelf/drawing/bitmap_layer.h"
 #include "shelf/drawing/glass_background.h"
 #include "shelf/drawing/icon_layer.h"
+#include "shelf/drawing/keyboard_ring.h"
 #include "shelf/drawing/text_layer.h"
 
 #include <QPainterPath>
@@ -31,6 +32,8 @@ public:
     /// `page` are the items shown, one for each tile of the layout. Layers of tiles are reused from
     /// page to page; missing ones are made, and superfluous ones removed at the end.
     void apply(const ViewAllLayout &layout, std::span<const DropItem> page);
+    /// A ring around what the keyboard is on; none for none.
+    void showFocus(const std::optional<QRectF> &ring) { m_keyboardRing.show(ring); }
     std::size_t tileCount() const { return m_tiles.size(); }
     void render(QPainter &painter, double scale);
     /// The background and the layer with the content; together they contain all other layers.
@@ -55,6 +58,7 @@ private:
     TextLayer m_selectAllLabel;
     IconLayer m_copyButton;
     IconLayer m_trashButton;
+    KeyboardRing m_keyboardRing;
     // Last, so that tiles are destroyed before the layer that contains them.
     std::vector<std::unique_ptr<ViewAllTile>> m_tiles;
 };

@@ -50,6 +50,7 @@ void ViewAllView::apply(const QList<DropItem> &items, const QSet<QUuid> &selecti
     m_items = &items;
     m_selection = &selection;
     m_offset = view_all_layout::clampedOffset(offset, itemCount(), itemsPerPage());
+    followItems();
     relayout();
     // The bar may have paged under a pointer that does not move.
     if (findHovered())
@@ -59,6 +60,7 @@ void ViewAllView::apply(const QList<DropItem> &items, const QSet<QUuid> &selecti
 void ViewAllView::wasHidden()
 {
     m_isShown = false;
+    m_focus = {};
     m_dragSource.release();
     m_pointer.reset();
     if (findHovered())
@@ -84,7 +86,7 @@ std::span<const DropItem> ViewAllView::page() const
     return {m_items->constData() + range.first, m_items->constData() + range.end};
 }
 
-void ViewAllView::relayout()
+ViewAllState ViewAllView::state() const
 {
     ViewAllState state;
     state.size = m_context.panel.frame().size();
@@ -95,8 +97,19 @@ void ViewAllView::relayout()
     state.direction = m_context.theme.direction;
     for (const DropItem &item : page())
         state.tiles.push_back({isSelected(item), m_hovered == item.id()});
-    m_layout = view_all_layout::layOut(state);
+    return state;
+}
+
+void ViewAllView::relayout()
+{
+    const ViewAllState now = state();
+    m_layout = view_all_layout::layOut(now);
+    // The control that the keyboard was on may lead nowhere now.
+    const auto stops = view_all_focus::stops(now);
+    if (std::ranges::find(stops, m_focus.control) == stops.end())
+        m_focus.control.reset();
     m_layers.apply(m_layout, page());
+    m_layers.showFocus(view_all_focus::ringAround(m_focus, m_layout, m_offset));
     const QRectF bounds({0, 0}, m_layout.size);
     m_context.panel.setBody(bounds, ViewAllLayers::outline(bounds));
     m_context.panel.accessibleChanged();
@@ -117,6 +130,7 @@ AccessibleNode ViewAllView::accessible() const
          .offset = m_offset,
          .itemCount = itemCount(),
          .selectedCount = m_selection ? static_cast<int>(m_selection->size()) : 0,
+         .focus = m_focus,
          .isShown = m_isShown});
 }
 

@@ -3,6 +3,7 @@
 #include "core/drop_item.h"
 #include "core/message.h"
 #include "platform/desktop/panel_window.h"
+#include "shelf/bar/view_all_focus.h"
 #include "shelf/bar/view_all_layers.h"
 #include "shelf/bar/view_all_layout.h"
 #include "shelf/drag_source.h"
@@ -61,7 +62,7 @@ public:
     /// Items were dropped elsewhere: those whose contents the target has. `keep` when Shift was
     /// held as they were let go.
     std::function<void(const QList<QUuid> &ids, bool keep)> onEjected;
-    /// -1 is back, 1 forward.
+    /// -1 is back, 1 forward; more for a key that goes further.
     std::function<void(int step)> onScroll;
     std::function<void()> onClose;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
@@ -87,6 +88,7 @@ public:
     std::optional<QUuid> hovered() const { return m_hovered; }
     std::size_t tileCount() const { return m_layers.tileCount(); }
     const ViewAllLayers &layers() const { return m_layers; }
+    const ViewAllFocus &focus() const { return m_focus; }
 
     void paint(QPainter &painter, QSizeF size, double scale) override;
     void mouseDown(const MouseEvent &event) override;
@@ -97,6 +99,7 @@ public:
     void mouseExited() override;
     void scrollWheel(const ScrollEvent &event) override;
     bool keyDown(const KeyEvent &event) override;
+    void keyboardLost() override;
     DragOperation draggingEntered(const DraggingInfo &info) override;
     DragOperation draggingUpdated(const DraggingInfo &info) override;
     void draggingExited() override { }
@@ -113,6 +116,7 @@ private:
     }
     view_all_layout::Range visible() const;
     std::span<const DropItem> page() const;
+    ViewAllState state() const;
     void relayout();
     const DropItem *itemAt(QPointF point) const;
     const DropItem *itemWithId(const QUuid &id) const;
@@ -120,6 +124,11 @@ private:
     void updateHover(QPointF point);
     void press(ViewAllControl control) const;
     void pressKey(TypedKey key) const;
+    bool keyForFocus(const KeyEvent &event);
+    void moveToTile(int index);
+    void moveToControl(bool isBackward);
+    void pressFocused();
+    void followItems();
     void wireDragSource();
     Image dragImage(const DropItem &grabbed, const QList<DropItem> &items) const;
 
@@ -136,6 +145,7 @@ private:
     std::optional<QPointF> m_pointer;
     std::optional<QUuid> m_hovered;
     std::optional<ViewAllControl> m_hoveredControl;
+    ViewAllFocus m_focus;
     double m_scale = 1;
 };
 

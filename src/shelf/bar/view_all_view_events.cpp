@@ -59,6 +59,7 @@ void ViewAllView::mouseDown(const MouseEvent &event)
         return;
     m_context.panel.makeKey();
     m_context.panel.orderFrontRegardless();
+    m_focus.isVisible = false;
     if (const auto control = view_all_layout::controlAt(m_layout, event.location)) {
         press(*control);
     } else if (const DropItem *item = itemAt(event.location)) {
@@ -162,6 +163,8 @@ bool ViewAllView::keyDown(const KeyEvent &event)
 {
     if (!m_isShown)
         return false;
+    if (keyForFocus(event))
+        return true;
     const bool isCommand = event.modifiers.testFlag(Modifier::Command);
     switch (event.key) {
     case TypedKey::A:

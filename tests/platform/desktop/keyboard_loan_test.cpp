@@ -599,4 +599,74 @@ TEST_F(KeyboardLoanTest, touchesNothingOnceItIsGone)
     EXPECT_EQ(focus.givenBack.size(), 1U);
 }
 
+TEST_F(KeyboardLoanTest, goesBackAfterAClickThatLeavesItWithAPanelThatStays)
+{
+    lendToShelf();
+    loan->userWentOn(shelf);
+    EXPECT_EQ(focus.focused, shelf) << "the window manager may get the click later";
+    waitForClick();
+    EXPECT_EQ(focus.focused, field);
+}
+
+TEST_F(KeyboardLoanTest, staysWithAPanelThatIsWantedAgainRightAfterAClickElsewhere)
+{
+    lendToShelf();
+    loan->userWentOn(shelf);
+    loan->wantedByHand(shelf);
+    waitForClick();
+    EXPECT_EQ(focus.focused, shelf);
+}
+
+TEST_F(KeyboardLoanTest, goesBackToThePanelThatItWasTakenFrom)
+{
+    lendToShelf();
+    loan->shown(bar);
+    loan->keyPressed(shelf, escape, 0);
+    loan->wantedByHand(bar);
+    loan->keyPressed(bar, escape, controlBit);
+    loan->willHide(bar);
+    EXPECT_EQ(focus.focused, shelf);
+    ASSERT_EQ(focus.swallowed.size(), 1U) << "a key that is held would act on the shelf";
+    loan->resigned(shelf);
+    EXPECT_EQ(focus.focused, field);
+}
+
+TEST_F(KeyboardLoanTest, goesBackToTheProgramWhereOnePressTookItToAPanelAndOnToAnother)
+{
+    loan->shown(bar);
+    loan->pressed();
+    loan->wantedByHand(shelf);
+    loan->wantedByHand(bar);
+    loan->pressHandled();
+    loan->willHide(bar);
+    EXPECT_EQ(focus.focused, field);
+}
+
+TEST_F(KeyboardLoanTest, goesBackToThePanelThatHadItBeforeSuchAPress)
+{
+    lendToShelf();
+    loan->shown(bar);
+    loan->pressed();
+    loan->wantedByHand(shelf);
+    loan->wantedByHand(bar);
+    loan->pressHandled();
+    // The user presses the shelf, which leaves the keyboard with the bar.
+    loan->pressed();
+    loan->wantedByHand(shelf);
+    loan->wantedByHand(bar);
+    loan->pressHandled();
+    loan->willHide(bar);
+    EXPECT_EQ(focus.focused, shelf);
+}
+
+TEST_F(KeyboardLoanTest, goesBackToTheProgramWhereThePanelThatItWasTakenFromHides)
+{
+    lendToShelf();
+    loan->shown(bar);
+    loan->wantedByHand(bar);
+    loan->willHide(shelf);
+    loan->willHide(bar);
+    EXPECT_EQ(focus.focused, field);
+}
+
 } // namespace corvane::test

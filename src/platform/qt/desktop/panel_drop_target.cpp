@@ -152,6 +152,29 @@ bool PanelDropTarget::takeDrop(std::shared_ptr<IncomingDrag> drop)
     m_content->dropIsAwaited();
     if (!m_content)
         return false;
+    fetch(std::move(drop));
+    return true;
+}
+
+void PanelDropTarget::paste(const std::shared_ptr<IncomingDrag> &contents)
+{
+    if (!m_content || !m_content->takesPaste() || m_awaited.size() >= maximumAwaited)
+        return;
+    m_content->dropIsAwaited();
+    if (m_content)
+        fetch(contents);
+}
+
+void PanelDropTarget::paste(const QMimeData *contents)
+{
+    if (!m_content || !contents || !m_content->takesPaste())
+        return;
+    QtPasteboard pasteboard(contents);
+    guarded(false, [&] { return m_content->performDragOperation({pasteboard, {}, false}); });
+}
+
+void PanelDropTarget::fetch(std::shared_ptr<IncomingDrag> drop)
+{
     const auto findPlace = [this](const QString &name) {
         return guarded(std::optional<QUrl>(),
                        [&] { return m_content->placeForPromisedFile(name); });
@@ -160,7 +183,6 @@ bool PanelDropTarget::takeDrop(std::shared_ptr<IncomingDrag> drop)
     DropFetch &started = *m_awaited.emplace_back(std::move(fetch));
     started.start(
         [this, &started](FetchedPasteboard &pasteboard) { contentsArrived(&started, pasteboard); });
-    return true;
 }
 
 void PanelDropTarget::contentsArrived(DropFetch *fetch, FetchedPasteboard &pasteboard)

@@ -12,6 +12,7 @@
 class QDragEnterEvent;
 class QDragMoveEvent;
 class QDropEvent;
+class QMimeData;
 class QWindow;
 
 namespace corvane {
@@ -33,6 +34,9 @@ class Pasteboard;
 /// for drags of this process, the content reads a drop at once.
 class PanelDropTarget : public DropReceiver {
 public:
+    /// While so many drops are on their way nothing is pasted.
+    static constexpr std::size_t maximumAwaited = 32;
+
     /// The support must outlive it, or be null. `window` is registered with it.
     PanelDropTarget(QWindow &window, DropSupport *support, DropFetch::Threads threads);
     ~PanelDropTarget() override;
@@ -48,6 +52,11 @@ public:
     void drop(QDropEvent &event, QPointF location);
     void leave();
 
+    /// Fetches what is on the clipboard, and hands it to the content as a drop.
+    void paste(const std::shared_ptr<IncomingDrag> &contents);
+    /// The same at once, for what Qt has.
+    void paste(const QMimeData *contents);
+
     bool needsAddresses(const QStringList &types) const override;
     QStringList addressTypes(const QStringList &types) const override;
     bool takeDrop(std::shared_ptr<IncomingDrag> drop) override;
@@ -60,6 +69,7 @@ private:
     };
 
     std::unique_ptr<Pasteboard> pasteboardOf(const QDropEvent &event) const;
+    void fetch(std::shared_ptr<IncomingDrag> drop);
     void contentsArrived(DropFetch *fetch, FetchedPasteboard &pasteboard);
 
     DropSupport *m_support;

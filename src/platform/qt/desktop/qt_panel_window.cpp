@@ -1,6 +1,7 @@
 #include "platform/qt/desktop/qt_panel_window.h"
 
 #include "platform/base/main_queue.h"
+#include "platform/desktop/clipboard_source.h"
 #include "platform/desktop/compositing.h"
 #include "platform/desktop/keyboard_loan.h"
 #include "platform/desktop/panel_surface.h"
@@ -8,6 +9,8 @@
 #include "platform/qt/desktop/outline_region.h"
 #include "platform/qt/desktop/qt_geometry.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QPainter>
 
 #include <utility>
@@ -135,6 +138,21 @@ void QtPanelWindow::resignKey()
 void QtPanelWindow::userWentOn()
 {
     m_desktop.keyboard.userWentOn(m_number);
+}
+
+void QtPanelWindow::paste()
+{
+    const QClipboard *clipboard = QGuiApplication::clipboard();
+    // What is our own is here already, and its owner, which is this thread, would be waited for.
+    if (!m_desktop.clipboard || clipboard->ownsClipboard()) {
+        m_dropTarget.paste(clipboard->mimeData());
+        return;
+    }
+    m_desktop.clipboard->look(
+        m_lifetime.guard([this](const std::shared_ptr<IncomingDrag> &contents) {
+            if (contents)
+                m_dropTarget.paste(contents);
+        }));
 }
 
 void QtPanelWindow::setNeedsDisplay(const QRectF &rect)

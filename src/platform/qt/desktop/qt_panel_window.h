@@ -46,6 +46,7 @@ public:
     void makeKeyAmongPanels() override;
     void resignKey() override;
     void userWentOn() override;
+    void paste() override;
     void setNeedsDisplay(const QRectF &rect) override;
     void accessibleChanged() override { m_accessible.changed(); }
     void announce(const QString &text) override { m_accessible.announce(text); }

@@ -51,6 +51,7 @@ bool QtPanelWindow::handle(QEvent &event)
         return false;
     case QEvent::FocusOut:
         m_desktop.keyboard.lost(m_number);
+        m_content->keyboardLost();
         m_accessible.keyboardChanged();
         return false;
     default:
@@ -76,6 +77,7 @@ bool QtPanelWindow::handleMouse(QMouseEvent &event)
     } else {
         m_desktop.keyboard.pressed();
         m_content->mouseDown(mouse);
+        m_desktop.keyboard.pressHandled();
     }
     return true;
 }

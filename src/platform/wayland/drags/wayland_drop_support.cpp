@@ -28,8 +28,11 @@ struct WaylandDropSupport::Listeners {
     static void offered(void *data, wl_data_device *, wl_data_offer *offer)
     {
         auto &self = of(data);
-        self.m_announced = std::make_shared<WaylandIncomingDrag>(self.m_services.connection,
-                                                                 self.m_queue, offer);
+        OwnConnection &connection = self.m_services.connection;
+        self.m_announced = std::make_shared<WaylandIncomingDrag>(
+            WaylandIncomingDrag::Link{[&connection] { return connection.display() != nullptr; },
+                                      [&connection] { connection.flush(); }},
+            self.m_queue, offer);
     }
     static void enter(void *data, wl_data_device *, std::uint32_t serial, wl_surface *surface,
                       wl_fixed_t x, wl_fixed_t y, wl_data_offer *offer)

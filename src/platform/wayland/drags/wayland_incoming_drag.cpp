@@ -1,7 +1,5 @@
 #include "platform/wayland/drags/wayland_incoming_drag.h"
 
-#include "platform/wayland/base/own_connection.h"
-
 #include <fcntl.h>
 #include <unistd.h>
 #include <wayland-client.h>
@@ -32,9 +30,8 @@ struct WaylandIncomingDrag::Listeners {
     static constexpr wl_data_offer_listener all = {offered, sourceActions, action};
 };
 
-WaylandIncomingDrag::WaylandIncomingDrag(OwnConnection &connection, MainQueue &queue,
-                                         wl_data_offer *offer)
-    : m_connection(&connection)
+WaylandIncomingDrag::WaylandIncomingDrag(Link link, MainQueue &queue, wl_data_offer *offer)
+    : m_link(std::move(link))
     , m_queue(&queue)
     , m_offer(offer)
 {
@@ -48,13 +45,12 @@ WaylandIncomingDrag::~WaylandIncomingDrag()
 
 void WaylandIncomingDrag::forget()
 {
-    if (!m_connection)
+    if (!m_offer)
         return;
     m_readings.clear();
     m_isDropped = false;
-    wl_data_offer_destroy(m_offer);
-    m_connection->flush();
-    m_connection = nullptr;
+    wl_data_offer_destroy(std::exchange(m_offer, nullptr));
+    m_link.flush();
 }
 
 void WaylandIncomingDrag::tellLater(Outcome outcome, const QByteArray &bytes, Fetched done)
@@ -65,7 +61,7 @@ void WaylandIncomingDrag::tellLater(Outcome outcome, const QByteArray &bytes, Fe
 
 void WaylandIncomingDrag::fetch(const QString &type, qsizetype maximumBytes, Fetched done)
 {
-    if (!m_connection)
+    if (!m_offer)
         return;
     if (const auto known = m_fetched.constFind(type); known != m_fetched.cend()) {
         tellLater(Outcome::Arrived, *known, std::move(done));
@@ -76,14 +72,14 @@ void WaylandIncomingDrag::fetch(const QString &type, qsizetype maximumBytes, Fet
         return;
     }
     std::array<int, 2> ends = {-1, -1};
-    if (!m_connection->display() || ::pipe2(ends.data(), O_CLOEXEC) != 0) {
+    if (!m_link.isAlive() || ::pipe2(ends.data(), O_CLOEXEC) != 0) {
         tellLater(Outcome::Lost, {}, std::move(done));
         return;
     }
     FileDescriptor reader(ends[0]);
     const FileDescriptor writer(ends[1]);
     wl_data_offer_receive(m_offer, type.toUtf8().constData(), writer.number());
-    m_connection->flush();
+    m_link.flush();
     const auto place = m_readings.emplace(m_readings.end());
     *place = std::make_unique<PipeIntake>(
         *m_queue, std::move(reader), maximumBytes,
@@ -105,19 +101,19 @@ void WaylandIncomingDrag::receivePromisedFile(const QUrl & /*destination*/,
 
 void WaylandIncomingDrag::answer(std::uint32_t serial, bool wouldBeTaken)
 {
-    if (!m_connection || !m_connection->display() || m_types.isEmpty())
+    if (!m_offer || !m_link.isAlive() || m_types.isEmpty())
         return;
     constexpr std::uint32_t none = WL_DATA_DEVICE_MANAGER_DND_ACTION_NONE;
     constexpr std::uint32_t copy = WL_DATA_DEVICE_MANAGER_DND_ACTION_COPY;
     const QByteArray first = m_types.constFirst().toUtf8();
     wl_data_offer_accept(m_offer, serial, wouldBeTaken ? first.constData() : nullptr);
     wl_data_offer_set_actions(m_offer, wouldBeTaken ? copy : none, wouldBeTaken ? copy : none);
-    m_connection->flush();
+    m_link.flush();
 }
 
 void WaylandIncomingDrag::finish(bool isTaken)
 {
-    if (!m_connection || !std::exchange(m_isDropped, false))
+    if (!m_offer || !std::exchange(m_isDropped, false))
         return;
     // To finish what the compositor does not take for a copy is a mistake that it ends us for. An
     // offer that goes away unfinished was not taken.

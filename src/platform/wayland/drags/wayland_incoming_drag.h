@@ -7,6 +7,7 @@
 
 #include <QHash>
 
+#include <functional>
 #include <list>
 #include <memory>
 
@@ -14,17 +15,22 @@ struct wl_data_offer;
 
 namespace corvane {
 
-class OwnConnection;
-
-/// Another program's drag, as the compositor offers it. The connection and the queue must outlive
-/// it, or `forget` must be called before they are destroyed.
+/// What another program drags, or has put on the clipboard, as the compositor offers it. The
+/// connection and the queue must outlive it, or `forget` must be called before they are destroyed.
 class WaylandIncomingDrag : public IncomingDrag {
 public:
     /// Further types are ignored.
     static constexpr qsizetype maximumTypes = 256;
 
+    /// The connection that the offer came on: whether it still stands, and how what was asked for
+    /// is sent off.
+    struct Link {
+        std::function<bool()> isAlive;
+        std::function<void()> flush;
+    };
+
     /// Owns the offer, of which nothing has been heard yet.
-    WaylandIncomingDrag(OwnConnection &connection, MainQueue &queue, wl_data_offer *offer);
+    WaylandIncomingDrag(Link link, MainQueue &queue, wl_data_offer *offer);
     ~WaylandIncomingDrag() override;
 
     QStringList types() const override { return m_types; }
@@ -50,8 +56,9 @@ private:
 
     void tellLater(Outcome outcome, const QByteArray &bytes, Fetched done);
 
-    OwnConnection *m_connection;
+    Link m_link;
     MainQueue *m_queue;
+    /// Null once it is forgotten.
     wl_data_offer *m_offer;
     QStringList m_types;
     bool m_canBeCopied = false;

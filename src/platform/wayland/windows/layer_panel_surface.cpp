@@ -156,7 +156,9 @@ void LayerPanelSurface::didHide(QWindow &window)
 {
     Panel &panel = m_panels[&window];
     panel.space = {};
-    panel.hasKeyboard = false;
+    panel.hasPointer = false;
+    if (std::exchange(panel.hasKeyboard, false))
+        tellKeyboard();
     m_connection.flush();
 }
 
@@ -216,6 +218,20 @@ void LayerPanelSurface::giveKeyboard(WindowNumber number)
                                         : LayerSurface::Keyboard::Never);
         panel.surface->commit();
     }
+    tellKeyboard();
+}
+
+void LayerPanelSurface::tellKeyboard() const
+{
+    if (onKeyboardMoved)
+        onKeyboardMoved();
+}
+
+bool LayerPanelSurface::isPointerAtKeyboard() const
+{
+    return std::ranges::any_of(m_panels, [](const auto &panel) {
+        return panel.second.hasKeyboard && panel.second.hasPointer;
+    });
 }
 
 void LayerPanelSurface::giveKeyboardBack()
@@ -249,10 +265,12 @@ bool LayerPanelSurface::eventFilter(QObject *watched, QEvent *event)
             onKeyboardLeftBehind();
         break;
     case QEvent::Enter:
+        found->second.hasPointer = true;
         if (onPointer)
             onPointer();
         break;
     case QEvent::Leave:
+        found->second.hasPointer = false;
         // The compositor keeps the keyboard for a surface that has it: whoever took the pointer
         // away, and clicks elsewhere, would go on typing here.
         if (found->second.hasKeyboard)

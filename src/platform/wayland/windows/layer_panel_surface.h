@@ -39,6 +39,8 @@ public:
     void giveKeyboard(WindowNumber number);
     /// Takes the keyboard from the panel that has it, for whoever had it before.
     void giveKeyboardBack();
+    /// The pointer is on the panel that has the keyboard.
+    bool isPointerAtKeyboard() const;
 
     /// What its window takes up of its screen; empty while it is hidden. Qt gives such windows
     /// other places.
@@ -54,6 +56,8 @@ public:
     /// The compositor may have the keyboard with a panel that does not ask for it, or no longer
     /// does.
     std::function<void()> onKeyboardLeftBehind;
+    /// A panel has got the keyboard, or none has it any more.
+    std::function<void()> onKeyboardMoved;
     /// The pointer came to a panel, or is there, with nothing that is dragged.
     std::function<void()> onPointer;
 
@@ -70,6 +74,7 @@ private:
         QRegion input;
         bool isCovered = false;
         bool hasKeyboard = false;
+        bool hasPointer = false;
         std::unique_ptr<LayerSurface> surface;
     };
 
@@ -77,6 +82,7 @@ private:
     PanelSpace fit(QWindow &window, Panel &panel);
     void hangUp(QWindow &window, Panel &panel);
     void showAnew(QWindow &window);
+    void tellKeyboard() const;
     static QRect geometryOf(const Panel &panel);
     static QScreen *screenFor(const Panel &panel);
 

@@ -13,4 +13,13 @@ bool WaylandPointingDevices::isTouchpad(std::int64_t device)
     });
 }
 
+/// Where the pointer is on the panel, its leaving says enough.
+void LayerPanels::keyboardMoved()
+{
+    if (surface.panelWithKeyboard() != WindowNumber::None && !surface.isPointerAtKeyboard())
+        pointerElsewhere.watch();
+    else
+        pointerElsewhere.stop();
+}
+
 } // namespace corvane

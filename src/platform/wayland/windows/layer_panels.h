@@ -8,6 +8,7 @@
 #include "platform/wayland/windows/keyboard_return.h"
 #include "platform/wayland/windows/layer_keyboard_focus.h"
 #include "platform/wayland/windows/layer_panel_surface.h"
+#include "platform/wayland/windows/pointer_elsewhere.h"
 
 namespace corvane {
 
@@ -31,9 +32,14 @@ struct LayerPanels {
         , focus(surface)
         , keyboard(focus, queue)
         , keyboardReturn(connection, queue)
+        , pointerElsewhere(connection, queue)
     {
-        if (connection.leavesKeyboardBehind())
+        if (connection.leavesKeyboardBehind()) {
             surface.onKeyboardLeftBehind = [this] { keyboardReturn.start(); };
+            return;
+        }
+        surface.onKeyboardMoved = [this] { keyboardMoved(); };
+        pointerElsewhere.onMoved = [this] { surface.giveKeyboardBack(); };
     }
 
     /// Where the compositor leaves the keyboard with what of ours a drag came to.
@@ -49,8 +55,12 @@ struct LayerPanels {
     LayerKeyboardFocus focus;
     KeyboardLoan keyboard;
     KeyboardReturn keyboardReturn;
+    PointerElsewhere pointerElsewhere;
     AlwaysComposited compositing;
     WaylandPointingDevices pointingDevices;
+
+private:
+    void keyboardMoved();
 };
 
 } // namespace corvane
