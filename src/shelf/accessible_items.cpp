@@ -54,6 +54,11 @@ AccessibleNode describe(const DropItem &item, Place place)
     return node;
 }
 
+QString focus()
+{
+    return QStringLiteral("SetFocus");
+}
+
 QString keyOf(const QUuid &item)
 {
     return keyPrefix + item.toString(QUuid::WithoutBraces);

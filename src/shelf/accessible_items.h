@@ -20,6 +20,10 @@ struct Place {
 /// what is shown below the title, its place ("2 of 5"), and whether it is still being made.
 AccessibleNode describe(const DropItem &item, Place place);
 
+/// The toolkit's name for the action of everything that can be focused: the keyboard goes there,
+/// and nothing else is done.
+QString focus();
+
 /// The key of an item's node.
 QString keyOf(const QUuid &item);
 /// The item whose node has that key; none for other keys.

@@ -138,6 +138,7 @@ private:
     void pressKey(const KeyEvent &event) const;
     bool keyForEverything(const KeyEvent &event);
     void moveKeyboard(bool isBackward);
+    void moveKeyboardTo(const ShelfHit &stop);
     void returnToItem();
     void pressFocused();
     void performOnItem(const QUuid &id, int index, const QString &action);

@@ -20,6 +20,11 @@ void ShelfView::perform(const QString &key, const QString &action)
     call(onUsed);
     const auto *cell = std::get_if<shelf_hit::Cell>(&*control);
     const auto item = accessible_items::itemOf(key);
+    if (action == accessible_items::focus()) {
+        m_context.panel.makeKey();
+        moveKeyboardTo(*control);
+        return;
+    }
     if (cell && item && action != AccessibleNode::press()) {
         performOnItem(*item, cell->itemIndex, action);
         return;

@@ -49,14 +49,19 @@ void ShelfView::moveKeyboard(bool isBackward)
                                          : ShelfHit(shelf_hit::Cell{m_look.snapshot.focusedIndex});
     const auto next = shelf_focus::neighbour(shelf_focus::stops(m_look.layout, m_look.snapshot),
                                              current, isBackward);
-    if (!next)
-        return;
-    if (const auto *cell = std::get_if<shelf_hit::Cell>(&*next)) {
+    if (next)
+        moveKeyboardTo(*next);
+}
+
+void ShelfView::moveKeyboardTo(const ShelfHit &stop)
+{
+    if (const auto *cell = std::get_if<shelf_hit::Cell>(&stop)) {
+        const int index = cell->itemIndex;
         returnToItem();
-        call(onFocus, cell->itemIndex);
+        call(onFocus, index);
         return;
     }
-    m_look.keyboardFocus = *next;
+    m_look.keyboardFocus = stop;
     relayout();
 }
 

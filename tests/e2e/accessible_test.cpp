@@ -109,7 +109,7 @@ TEST_F(Accessible, theBarsTilesAreTickedAndRemoved)
     // The shelf's item has the same name; the bar's is the one that can be ticked.
     ASSERT_TRUE(eventually([this] {
         for (const auto &element : m_reader.elements(corvane().program().pid())) {
-            if (element.name == u"b.txt"_s && m_reader.actions(element).size() == 1)
+            if (element.name == u"b.txt"_s && !m_reader.actions(element).contains(u"Preview"_s))
                 return m_reader.perform(element, u"Press"_s);
         }
         return false;
@@ -119,6 +119,25 @@ TEST_F(Accessible, theBarsTilesAreTickedAndRemoved)
     ASSERT_TRUE(perform(u"push button"_s, u"Remove the selected items"_s));
     EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(inView, 2)));
     EXPECT_TRUE(eventually([this] { return !find(u"list item"_s, u"b.txt"_s); }));
+}
+
+TEST_F(Accessible, theFocusFollowsTheKeyboardThroughShelfAndBar)
+{
+    using State = ScreenReader::State;
+    hold(3);
+    ASSERT_TRUE(perform(u"list item"_s, u"b.txt"_s));
+    ASSERT_TRUE(isSoon(State::Focused, u"list item"_s, u"b.txt"_s));
+    hands().key(keys::tab);
+    ASSERT_TRUE(isSoon(State::Focused, u"list item"_s, u"c.txt"_s));
+    hands().key(keys::tab);
+    ASSERT_TRUE(isSoon(State::Focused, u"push button"_s, u"All items"_s));
+    hands().key(keys::enter);
+    ASSERT_TRUE(Bar(m_desktop, corvane(), inView).waitForKeyboard());
+    hands().key(keys::tab);
+    EXPECT_TRUE(isSoon(State::Focused, u"check box"_s, u"Select all"_s));
+    hands().key(keys::escape);
+    EXPECT_TRUE(isSoon(State::Focused, u"list item"_s, u"c.txt"_s))
+        << "the shelf had the keyboard before the bar";
 }
 
 TEST_F(Accessible, thePreferencesAreADialogWhoseTabsShowTheirPanes)

@@ -1,6 +1,7 @@
 // The shelf by keyboard alone.
 
 #include "fakes/shelf_desk.h"
+#include "shelf/accessible_items.h"
 #include "shelf/shelf_view.h"
 
 #include <QStringList>
@@ -211,6 +212,18 @@ TEST_F(ShelfKeyboardTest, EscapeClosesTheEmptyShelfUnlessADragWantsIt)
     view.apply(snapshot);
     EXPECT_FALSE(key(TypedKey::Escape));
     EXPECT_EQ(log.size(), 1);
+}
+
+TEST_F(ShelfKeyboardTest, WhatAScreenReaderFocusesIsNotPressed)
+{
+    show(3, 1, 1);
+    view.perform(QStringLiteral("remove"), accessible_items::focus());
+    EXPECT_EQ(focused(), QStringLiteral("Remove"));
+    EXPECT_TRUE(desk.panel.isKey);
+    EXPECT_TRUE(log.isEmpty());
+    view.perform(accessible_items::keyOf(snapshot.visible.front().second.id()),
+                 accessible_items::focus());
+    EXPECT_EQ(focused(), QStringLiteral("item 1"));
 }
 
 } // namespace corvane::test

@@ -136,12 +136,18 @@ AccessibleNode ViewAllView::accessible() const
 
 void ViewAllView::perform(const QString &key, const QString &action)
 {
-    if (!m_isShown || action != AccessibleNode::press())
+    const bool isFocus = action == accessible_items::focus();
+    if (!m_isShown || (!isFocus && action != AccessibleNode::press()))
         return;
     m_context.panel.makeKey();
     const auto id = accessible_items::itemOf(key);
     const DropItem *item = id ? itemWithId(*id) : nullptr;
-    if (const auto control = accessible_bar::controlOf(key))
+    const auto control = accessible_bar::controlOf(key);
+    if (isFocus && control)
+        moveToControl(*control);
+    else if (isFocus && item)
+        moveToTile(static_cast<int>(item - m_items->constData()));
+    else if (control)
         press(*control);
     else if (item)
         call(onToggleItem, DropItem(*item));

@@ -126,7 +126,8 @@ private:
     void pressKey(TypedKey key) const;
     bool keyForFocus(const KeyEvent &event);
     void moveToTile(int index);
-    void moveToControl(bool isBackward);
+    void moveToNextControl(bool isBackward);
+    void moveToControl(std::optional<ViewAllControl> control);
     void pressFocused();
     void followItems();
     void wireDragSource();

@@ -28,7 +28,7 @@ bool ViewAllView::keyForFocus(const KeyEvent &event)
     case TypedKey::Tab:
         if (event.modifiers & (Modifier::Command | Modifier::Option))
             return false;
-        moveToControl(event.modifiers.testFlag(Modifier::Shift));
+        moveToNextControl(event.modifiers.testFlag(Modifier::Shift));
         return true;
     case TypedKey::Space:
     case TypedKey::Return:
@@ -59,10 +59,15 @@ void ViewAllView::moveToTile(int index)
         relayout();
 }
 
-void ViewAllView::moveToControl(bool isBackward)
+void ViewAllView::moveToNextControl(bool isBackward)
 {
-    m_focus.control
-        = view_all_focus::neighbour(view_all_focus::stops(state()), m_focus.control, isBackward);
+    moveToControl(
+        view_all_focus::neighbour(view_all_focus::stops(state()), m_focus.control, isBackward));
+}
+
+void ViewAllView::moveToControl(std::optional<ViewAllControl> control)
+{
+    m_focus.control = control;
     m_focus.isVisible = true;
     relayout();
 }

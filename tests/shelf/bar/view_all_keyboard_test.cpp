@@ -1,6 +1,7 @@
 // The bar by keyboard alone.
 
 #include "fakes/shelf_desk.h"
+#include "shelf/accessible_items.h"
 #include "shelf/bar/view_all_view.h"
 
 #include <QStringList>
@@ -201,6 +202,17 @@ TEST_F(ViewAllKeyboardTest, ItBeginsAnewEachTimeThatTheBarOpens)
     apply();
     EXPECT_EQ(focused(), QStringLiteral("item 0"));
     EXPECT_FALSE(view.focus().isVisible);
+}
+
+TEST_F(ViewAllKeyboardTest, WhatAScreenReaderFocusesIsNeitherTickedNorPressed)
+{
+    show(3);
+    view.perform(accessible_items::keyOf(items.at(2).id()), accessible_items::focus());
+    EXPECT_EQ(focused(), QStringLiteral("item 2"));
+    EXPECT_TRUE(desk.panel.isKey);
+    view.perform(QStringLiteral("select all"), accessible_items::focus());
+    EXPECT_EQ(focused(), QStringLiteral("Select all"));
+    EXPECT_TRUE(log.isEmpty());
 }
 
 } // namespace corvane::test

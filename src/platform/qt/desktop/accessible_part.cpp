@@ -285,8 +285,7 @@ void AccessiblePart::doAction(const QString &name)
 {
     if (!isValid())
         return;
-    // A click focuses what can be focused.
-    m_owner->panel().perform(m_node.key, name == setFocusAction() ? AccessibleNode::press() : name);
+    m_owner->panel().perform(m_node.key, name);
 }
 
 } // namespace corvane
