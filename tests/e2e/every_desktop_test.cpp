@@ -287,10 +287,12 @@ TEST_P(OnEveryDesktop, clicksBesideTheShelfReachWhatLiesBelow)
     const QImage before = m_desktop.pictureAtRest(middle);
     EXPECT_EQ(corvane().startAgain(), 0);
     ASSERT_TRUE(eventually([&] { return server().picture(middle) != before; }));
-    // The shelf was given the keyboard. Where the compositor keeps it there, a click that comes right
-    // with the pointer only gives it back.
+    hands().click({500, 20});
     EXPECT_TRUE(eventually([&] {
-        hands().click({500, 20});
+        // The shelf was given the keyboard. Sway keeps it there whatever is clicked, and a click
+        // that comes right with the pointer only gives it back.
+        if (GetParam().windowManager == WindowManager::Sway)
+            hands().click({500, 20});
         return below.presses() >= 1;
     }));
 }

@@ -18,11 +18,28 @@ PanelDesktop withClipboard(PanelDesktop desktop, ClipboardSource &clipboard)
     return desktop;
 }
 
+/// Contents that never come.
+class SilentContents : public IncomingDrag {
+public:
+    QStringList types() const override { return {QStringLiteral("text/plain")}; }
+    QByteArray fetched(const QString &) const override { return {}; }
+    void fetch(const QString &, qsizetype, Fetched) override { }
+    std::optional<QString> promisedFileName() override { return std::nullopt; }
+    void receivePromisedFile(const QUrl &, std::function<void(bool)>) override { }
+    void finish(bool) override { }
+};
+
+struct SilentClipboard : ClipboardSource {
+    void look(Found found) override { found(std::make_shared<SilentContents>()); }
+};
+
 /// The fixture's panel knows no clipboard but Qt's; the one that is pasted onto here does.
 class PasteTest : public PanelFixture {
 protected:
     PasteTest()
     {
+        // Qt may not have heard yet that what an earlier test copied is no longer there.
+        QGuiApplication::clipboard()->clear();
         pasted.setContent(&taker);
         taker.onPerform = [this](Pasteboard &pasteboard) {
             texts << pasteboard.string().value_or(QString());
@@ -125,6 +142,17 @@ TEST_F(PasteTest, ofManyWhoseOwnerIsSilentIsEnoughOnce)
     }));
     settle();
     EXPECT_EQ(taker.count("awaited"), static_cast<int>(PanelDropTarget::maximumAwaited));
+}
+
+TEST_F(PasteTest, isAwaitedByAPanelOnlySoManyTimesWhereverItComesFrom)
+{
+    SilentClipboard silent;
+    QtPanelWindow waiting(withClipboard(panels.desktop(), silent), queue);
+    waiting.setContent(&taker);
+    for (std::size_t i = 0; i < PanelDropTarget::maximumAwaited + 3; ++i)
+        waiting.paste();
+    EXPECT_EQ(taker.count("awaited"), static_cast<int>(PanelDropTarget::maximumAwaited));
+    waiting.setContent(nullptr);
 }
 
 TEST_F(PasteTest, thatIsOnItsWayWhenThePanelGoesTellsNobody)
