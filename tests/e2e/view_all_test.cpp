@@ -164,7 +164,7 @@ TEST_P(ViewAll, withShiftTheyStayAndCanBeDraggedAgain)
     EXPECT_TRUE(holdsExactly({paths[1], paths[2]}));
 }
 
-TEST_P(ViewAll, theDownArrowOpensItAndEscapeGivesTheKeyboardBack)
+TEST_P(ViewAll, theDownArrowOpensItAndEscapeGivesTheKeyboardBackToTheShelf)
 {
     TextEditor editor(m_desktop, "text", leftHalf());
     ASSERT_EQ(editor.problem(), QString());
@@ -177,6 +177,11 @@ TEST_P(ViewAll, theDownArrowOpensItAndEscapeGivesTheKeyboardBack)
     ASSERT_TRUE(hasKeyboard());
     hands().key(keys::escape);
     ASSERT_TRUE(waitUntilClosed());
+    ASSERT_TRUE(eventually([&] {
+        const auto panel = corvane().panel();
+        return panel && server().focusedWindow() == panel->id;
+    })) << "the bar took it from the shelf";
+    hands().click(editor.middle());
     ASSERT_TRUE(hasKeyboardAgain(active));
     hands().key('z');
     EXPECT_TRUE(editor.text("textz").contains('z'));
