@@ -26,6 +26,15 @@ void X11WindowManager::activate(xcb_window_t window, xcb_connection_t *on,
     sendToRoot(message, on);
 }
 
+/// Windows are numbered by the connection that made them, and it has to have made the one by which
+/// it is known.
+bool X11WindowManager::isItsOwn(xcb_window_t window) const
+{
+    const xcb_window_t itsMark = rootProperty("_NET_SUPPORTING_WM_CHECK");
+    const std::uint32_t countedUp = xcb_get_setup(m_connection.get())->resource_id_mask;
+    return itsMark != XCB_NONE && (window & ~countedUp) == (itsMark & ~countedUp);
+}
+
 /// `_NET_REQUEST_FRAME_EXTENTS` asks for an estimate of the window's frame, which is written to a
 /// property.
 void X11WindowManager::askForSign(xcb_window_t window) const

@@ -16,6 +16,8 @@ public:
     bool isRunning() const;
     /// The active window; none when no window, or none that it manages, has the keyboard.
     xcb_window_t activeWindow() const;
+    /// Whether the window is one that it made for itself, and that stands for none of a program's.
+    bool isItsOwn(xcb_window_t window) const;
     /// Asks it to bring a window forward and to give it the keyboard. The request is sent on
     /// connection `on`, which is flushed.
     ///

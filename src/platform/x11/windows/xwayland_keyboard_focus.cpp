@@ -5,6 +5,14 @@
 
 namespace corvane {
 
+namespace {
+
+/// A compositor takes a change for its own until it has asked the server for something since, or,
+/// with some versions, for two things. Each answer to us is one.
+constexpr int answersUntilChangesCount = 2;
+
+} // namespace
+
 XWaylandKeyboardFocus::XWaylandKeyboardFocus(X11Connection &connection)
     : X11KeyboardFocus(connection)
     , m_connection(connection)
@@ -41,19 +49,26 @@ WindowNumber XWaylandKeyboardFocus::focusedWindow() const
 KeyboardFocus::Owner XWaylandKeyboardFocus::owner() const
 {
     const Owner owner = X11KeyboardFocus::owner();
-    return owner.active == WindowNumber::None ? Owner{.focused = somebodyElse} : owner;
+    const auto active = static_cast<xcb_window_t>(owner.active);
+    const bool isSomebodyElse = active == XCB_NONE || m_windowManager.isItsOwn(active);
+    return isSomebodyElse ? Owner{.focused = somebodyElse} : owner;
 }
 
 void XWaylandKeyboardFocus::giveTo(WindowNumber panel)
 {
     X11KeyboardFocus::giveTo(panel);
     m_given = panel;
-    m_windowManager.askForSign(m_questions);
+    for (int i = 0; i < answersUntilChangesCount; ++i)
+        m_windowManager.askForSign(m_questions);
+    m_awaitedAnswers += answersUntilChangesCount;
 }
 
 void XWaylandKeyboardFocus::handle(const xcb_generic_event_t &event)
 {
-    if (!m_windowManager.isSign(event, m_questions) || m_given == WindowNumber::None)
+    if (!m_windowManager.isSign(event, m_questions))
+        return;
+    --m_awaitedAnswers;
+    if (m_awaitedAnswers > 0 || m_given == WindowNumber::None)
         return;
     const WindowNumber panel = std::exchange(m_given, WindowNumber::None);
     const bool isKnown = WindowNumber{m_windowManager.activeWindow()} == panel;
