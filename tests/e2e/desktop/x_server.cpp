@@ -24,6 +24,12 @@ Reply<T> owned(T *reply)
     return Reply<T>(reply);
 }
 
+/// Most window managers' frames have no class; newer versions of mutter leave them to a program.
+bool isFrame(const WindowFacts &window)
+{
+    return window.windowClass.isEmpty() || window.windowClass.startsWith("mutter-x11-frames");
+}
+
 } // namespace
 
 XServer::XServer(const QByteArray &display)
@@ -129,8 +135,8 @@ void XServer::collect(xcb_window_t window, int depth, QList<WindowFacts> &found)
         if (!child)
             continue;
         found.append(*child);
-        // Frames have no class; the program's window is one or two levels below.
-        if (child->windowClass.isEmpty() && depth > 0)
+        // The program's window is one or two levels below its frame.
+        if (isFrame(*child) && depth > 0)
             collect(child->id, depth - 1, found);
     }
 }
