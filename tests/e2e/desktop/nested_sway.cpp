@@ -208,7 +208,6 @@ void NestedSway::letRootIn()
     const auto xhost = startAsUser(u"xhost"_s, {u"+si:localuser:root"_s});
     if (xhost->waitForEnd() != 0)
         m_problem = u"sway's X server cannot be used: "_s + QString::fromUtf8(xhost->output());
-    m_guest = std::make_unique<XServer>(m_display.toLatin1());
 }
 
 void NestedSway::addOwnTo(QProcessEnvironment &environment) const

@@ -4,7 +4,6 @@
 
 #include <QTemporaryDir>
 
-#include <memory>
 #include <optional>
 
 namespace corvane::e2e {
@@ -42,9 +41,6 @@ private:
     QString fileLike(const QString &pattern) const;
 
     QTemporaryDir m_home;
-    /// Newer versions end the X server ten seconds after its last client, and the next one knows
-    /// nothing of those who were let in.
-    std::unique_ptr<XServer> m_guest;
     QProcessEnvironment m_environment;
     double m_scale;
 };
