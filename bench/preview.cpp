@@ -197,7 +197,7 @@ int run()
     const QString photograph = folder.filePath(QStringLiteral("a.jpg"));
     file.url = file_url::fromNativePath(writePhotograph(photograph));
     const double picture = preview(panel, watch, true);
-    constexpr double pictureBound = 1.5;
+    constexpr double pictureBound = 1.3;
     // What 1512 by 982 points leave for it.
     print({"Space to a photograph of 12 megapixels", decoding(photograph, {995, 746}), picture,
            "ms", pictureBound});

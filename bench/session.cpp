@@ -1,8 +1,8 @@
 // Start, memory and wake-ups, seen from outside, beside an empty program with Qt Widgets.
 
 #include "support/child.h"
+#include "support/simple_drop.h"
 #include "support/table.h"
-#include "support/text_drop.h"
 #include "support/x_desk.h"
 
 #include <chrono>

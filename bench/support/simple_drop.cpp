@@ -1,4 +1,4 @@
-#include "support/text_drop.h"
+#include "support/simple_drop.h"
 
 #include "support/table.h"
 #include "support/x_desk.h"
@@ -12,6 +12,7 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace corvane::bench {
 
@@ -27,12 +28,13 @@ constexpr std::uint32_t protocolVersion = 5;
 /// In pixels from the top edge; the panel is higher than this.
 constexpr int depth = 20;
 
-class TextDrop {
+class SimpleDrop {
 public:
-    explicit TextDrop(XDesk &desk);
-    ~TextDrop() { xcb_disconnect(m_connection); }
-    TextDrop(const TextDrop &) = delete;
-    TextDrop &operator=(const TextDrop &) = delete;
+    /// What is dropped: `contents` as `type`.
+    SimpleDrop(XDesk &desk, std::string type, std::string contents);
+    ~SimpleDrop() { xcb_disconnect(m_connection); }
+    SimpleDrop(const SimpleDrop &) = delete;
+    SimpleDrop &operator=(const SimpleDrop &) = delete;
 
     void run();
 
@@ -44,14 +46,18 @@ private:
     void answer(const xcb_selection_request_event_t &request);
 
     XDesk &m_desk;
+    std::string m_type;
+    std::string m_contents;
     xcb_connection_t *m_connection;
     xcb_window_t m_root;
     xcb_window_t m_source;
     xcb_window_t m_target = XCB_NONE;
 };
 
-TextDrop::TextDrop(XDesk &desk)
+SimpleDrop::SimpleDrop(XDesk &desk, std::string type, std::string contents)
     : m_desk(desk)
+    , m_type(std::move(type))
+    , m_contents(std::move(contents))
     , m_connection(xcb_connect(nullptr, nullptr))
     , m_root(xcb_setup_roots_iterator(xcb_get_setup(m_connection)).data->root)
     , m_source(xcb_generate_id(m_connection))
@@ -63,16 +69,16 @@ TextDrop::TextDrop(XDesk &desk)
     xcb_map_window(m_connection, m_source);
 }
 
-void TextDrop::run()
+void SimpleDrop::run()
 {
     // The reply also shows that the window exists.
-    const xcb_atom_t text = atom("text/plain");
+    const xcb_atom_t type = atom(m_type);
     m_desk.moveTo(150, 350);
     m_desk.press();
     m_desk.sync();
     xcb_set_selection_owner(m_connection, m_source, atom("XdndSelection"), XCB_CURRENT_TIME);
     m_target = panel();
-    send("XdndEnter", {m_source, protocolVersion << 24, text, 0, 0});
+    send("XdndEnter", {m_source, protocolVersion << 24, type, 0, 0});
     const auto place = static_cast<std::uint32_t>(m_desk.width() / 2) << 16 | depth;
     send("XdndPosition", {m_source, 0, place, XCB_CURRENT_TIME, atom("XdndActionCopy")});
     waitFor("XdndStatus");
@@ -81,7 +87,7 @@ void TextDrop::run()
     waitFor("XdndFinished");
 }
 
-xcb_atom_t TextDrop::atom(const std::string &name)
+xcb_atom_t SimpleDrop::atom(const std::string &name)
 {
     const auto length = static_cast<std::uint16_t>(name.size());
     const Reply<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
@@ -89,7 +95,7 @@ xcb_atom_t TextDrop::atom(const std::string &name)
     return reply->atom;
 }
 
-xcb_window_t TextDrop::panel()
+xcb_window_t SimpleDrop::panel()
 {
     const xcb_atom_t dropTarget = atom("XdndAware");
     for (const double deadline = now() + 2000; now() < deadline;) {
@@ -113,7 +119,7 @@ xcb_window_t TextDrop::panel()
     throw std::runtime_error("no panel opens for the text");
 }
 
-void TextDrop::send(const char *type, std::array<std::uint32_t, 5> data)
+void SimpleDrop::send(const char *type, std::array<std::uint32_t, 5> data)
 {
     xcb_client_message_event_t message = {};
     message.response_type = XCB_CLIENT_MESSAGE;
@@ -126,7 +132,7 @@ void TextDrop::send(const char *type, std::array<std::uint32_t, 5> data)
     xcb_flush(m_connection);
 }
 
-void TextDrop::waitFor(const char *type)
+void SimpleDrop::waitFor(const char *type)
 {
     const xcb_atom_t wanted = atom(type);
     for (const double deadline = now() + 2000; now() < deadline;) {
@@ -144,11 +150,11 @@ void TextDrop::waitFor(const char *type)
     throw std::runtime_error(std::string("no ") + type);
 }
 
-void TextDrop::answer(const xcb_selection_request_event_t &request)
+void SimpleDrop::answer(const xcb_selection_request_event_t &request)
 {
-    static const std::string text = "a text";
     xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, request.requestor, request.property,
-                        request.target, 8, static_cast<std::uint32_t>(text.size()), text.data());
+                        request.target, 8, static_cast<std::uint32_t>(m_contents.size()),
+                        m_contents.data());
     xcb_selection_notify_event_t notify = {};
     notify.response_type = XCB_SELECTION_NOTIFY;
     notify.time = request.time;
@@ -165,7 +171,12 @@ void TextDrop::answer(const xcb_selection_request_event_t &request)
 
 void dropText(XDesk &desk)
 {
-    TextDrop(desk).run();
+    SimpleDrop(desk, "text/plain", "a text").run();
+}
+
+void dropFiles(XDesk &desk, const std::string &addresses)
+{
+    SimpleDrop(desk, "text/uri-list", addresses).run();
 }
 
 } // namespace corvane::bench
