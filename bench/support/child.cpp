@@ -78,10 +78,18 @@ std::string Child::readLine()
 long Child::contextSwitches() const
 {
     long sum = 0;
+    for (const auto &[thread, count] : contextSwitchesByThread())
+        sum += count;
+    return sum;
+}
+
+std::map<std::string, long> Child::contextSwitchesByThread() const
+{
+    std::map<std::string, long> counts;
     const std::filesystem::path tasks = "/proc/" + std::to_string(m_pid) + "/task";
     for (const auto &task : std::filesystem::directory_iterator(tasks))
-        sum += sumOfLines(task.path() / "status", "ctxt_switches");
-    return sum;
+        counts[task.path().filename()] = sumOfLines(task.path() / "status", "ctxt_switches");
+    return counts;
 }
 
 double Child::residentKilobytes() const

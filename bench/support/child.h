@@ -2,6 +2,7 @@
 
 #include <sys/types.h>
 
+#include <map>
 #include <string>
 
 namespace corvane::bench {
@@ -22,6 +23,8 @@ public:
 
     /// How often its threads have been taken off a CPU, voluntarily or not.
     long contextSwitches() const;
+    /// The same of each thread, by its number.
+    std::map<std::string, long> contextSwitchesByThread() const;
     double residentKilobytes() const;
     /// Waits until it has slept for one second.
     void waitUntilQuiet() const;
