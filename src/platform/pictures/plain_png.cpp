@@ -2,6 +2,7 @@
 
 #include <QtEndian>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 
@@ -48,16 +49,16 @@ QByteArray chunk(const QByteArray &kind, const QByteArray &contents)
 QByteArray rows(const QImage &image, int bytesPerPixel)
 {
     constexpr char differences = 1;
-    QByteArray result;
-    const qsizetype length = qsizetype{image.width()} * bytesPerPixel;
-    result.reserve((length + 1) * image.height());
+    const int length = image.width() * bytesPerPixel;
+    QByteArray result((qsizetype{length} + 1) * image.height(), Qt::Uninitialized);
+    char *to = result.data();
     for (int y = 0; y < image.height(); ++y) {
         const uchar *const row = image.constScanLine(y);
-        result += differences;
-        for (qsizetype x = 0; x < length; ++x) {
-            const int left = x < bytesPerPixel ? 0 : row[x - bytesPerPixel];
-            result += static_cast<char>(row[x] - left);
-        }
+        *to++ = differences;
+        for (int x = 0; x < std::min(bytesPerPixel, length); ++x)
+            *to++ = static_cast<char>(row[x]);
+        for (int x = bytesPerPixel; x < length; ++x)
+            *to++ = static_cast<char>(row[x] - row[x - bytesPerPixel]);
     }
     return result;
 }
