@@ -2,7 +2,8 @@
 // them, and what they are given. docs/toolkits.md says how all of it went.
 //
 // Browsers take too long for every day. What else not every run passes by other people's doing,
-// programs of X11 in Wayland sessions and drags out under mutter, tools/try-toolkits tries as well.
+// most programs of X11 in Wayland sessions and drags out under mutter, tools/try-toolkits tries as
+// well.
 
 #include "e2e/wayland_session.h"
 
@@ -119,10 +120,17 @@ INSTANTIATE_TEST_SUITE_P(DISABLED_Browsers, Toolkits,
                          testing::Combine(testing::Values(x11, sway, kwin, mutter),
                                           testing::ValuesIn(browsers)),
                          nameOfTrial);
+constexpr Partner gtkForX11{Toolkit::Gtk3, Native::No};
+constexpr Partner qtForX11{Toolkit::Qt6, Native::No};
+INSTANTIATE_TEST_SUITE_P(ThroughXWayland, Toolkits,
+                         testing::Combine(testing::Values(kwin), testing::Values(gtkForX11)),
+                         nameOfTrial);
 INSTANTIATE_TEST_SUITE_P(DISABLED_ThroughXWayland, Toolkits,
-                         testing::Combine(testing::Values(sway, kwin, mutter),
-                                          testing::Values(Partner{Toolkit::Gtk3, Native::No},
-                                                          Partner{Toolkit::Qt6, Native::No})),
+                         testing::Combine(testing::Values(sway, mutter),
+                                          testing::Values(gtkForX11, qtForX11)),
+                         nameOfTrial);
+INSTANTIATE_TEST_SUITE_P(DISABLED_QtThroughXWayland, Toolkits,
+                         testing::Combine(testing::Values(kwin), testing::Values(qtForX11)),
                          nameOfTrial);
 
 TEST_P(Toolkits, aSource)

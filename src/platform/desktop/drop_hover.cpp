@@ -68,6 +68,12 @@ void DropHover::moveTo(QPointF at)
         tell(wouldBeTaken);
 }
 
+void DropHover::answerAgain()
+{
+    if (m_isTold)
+        m_answer(m_wouldBeTaken);
+}
+
 void DropHover::tell(bool wouldBeTaken)
 {
     m_wouldBeTaken = wouldBeTaken;

@@ -43,6 +43,8 @@ public:
     /// Once it is where it can be found: may ask the panel at once.
     void begin(QPointF at);
     void moveTo(QPointF at);
+    /// What the source hears depends on more than the panel, and that has changed.
+    void answerAgain();
     /// It was let go. Whether the receiver has taken it.
     bool drop();
 

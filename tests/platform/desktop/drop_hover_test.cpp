@@ -92,6 +92,17 @@ TEST_F(DropHoverTest, theSourceHearsOnlyOfAnswersThatChange)
     EXPECT_EQ(answers, (std::vector<bool>{true, false}));
 }
 
+TEST_F(DropHoverTest, theSourceHearsTheSameAnswerAgainWhenItIsToldTo)
+{
+    receiver.needs = true;
+    begin();
+    hover->answerAgain();
+    EXPECT_TRUE(answers.empty());
+    drag->answer(IncomingDrag::Outcome::Arrived, "file:///a");
+    hover->answerAgain();
+    EXPECT_EQ(answers, (std::vector<bool>{true, true}));
+}
+
 TEST_F(DropHoverTest, thePanelIsAskedWhereTheDragIsOnceItsAddressesAreHere)
 {
     receiver.needs = true;

@@ -267,11 +267,14 @@ void WaylandDropSupport::enter(std::uint32_t serial, wl_surface *surface, QPoint
         m_queue, drag, *receiver, panelOf(window), [drag = drag.get(), serial](bool wouldBeTaken) {
             drag->answer(serial, wouldBeTaken && drag->canBeCopied());
         });
+    m_drag->onCanBeCopied = [this] { m_hover->answerAgain(); };
     m_hover->begin(at);
 }
 
 void WaylandDropSupport::leave()
 {
+    if (m_drag)
+        m_drag->onCanBeCopied = nullptr;
     m_hover.reset();
     m_drag.reset();
 }

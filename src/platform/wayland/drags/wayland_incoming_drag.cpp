@@ -19,8 +19,12 @@ struct WaylandIncomingDrag::Listeners {
     }
     static void sourceActions(void *data, wl_data_offer *, std::uint32_t actions)
     {
-        static_cast<WaylandIncomingDrag *>(data)->m_canBeCopied
-            = (actions & WL_DATA_DEVICE_MANAGER_DND_ACTION_COPY) != 0;
+        auto &self = *static_cast<WaylandIncomingDrag *>(data);
+        // None at all is told of what a program of X11 drags: KWin does not know yet.
+        const bool can = actions == WL_DATA_DEVICE_MANAGER_DND_ACTION_NONE
+            || (actions & WL_DATA_DEVICE_MANAGER_DND_ACTION_COPY) != 0;
+        if (std::exchange(self.m_canBeCopied, can) != can && self.onCanBeCopied)
+            self.onCanBeCopied();
     }
     static void action(void *data, wl_data_offer *, std::uint32_t action)
     {

@@ -43,8 +43,10 @@ public:
     void finish(bool isTaken) override;
 
     wl_data_offer *offer() const { return m_offer; }
-    /// Whether the source lets what it drags be copied.
+    /// Whether the source lets what it drags be copied, as far as the compositor knows.
     bool canBeCopied() const { return m_canBeCopied; }
+    /// That has changed. May be left empty.
+    std::function<void()> onCanBeCopied;
     /// Tells the source whether it would be taken as a copy. `serial` is that of the entering.
     void answer(std::uint32_t serial, bool wouldBeTaken);
     void setDropped() { m_isDropped = true; }
