@@ -16,7 +16,8 @@ namespace corvane {
 namespace {
 
 constexpr std::uint32_t catcherShellVersion = 3;
-constexpr std::uint32_t outputVersion = 2;
+/// The first that tells names.
+constexpr std::uint32_t outputVersion = 4;
 
 } // namespace
 
@@ -29,15 +30,15 @@ struct CatcherServices::Listeners {
             return;
         auto *const bound = static_cast<wl_output *>(wl_registry_bind(
             registry, name, &wl_output_interface, std::min(version, outputVersion)));
-        self.m_outputs.push_back(std::make_unique<Output>(Output{name, bound, {}}));
+        self.m_outputs.push_back(std::make_unique<Output>(Output{name, bound, {}, {}}));
         wl_output_add_listener(bound, &output, self.m_outputs.back().get());
     }
     static void removed(void *data, wl_registry *, std::uint32_t name)
     {
         std::erase_if(static_cast<CatcherServices *>(data)->m_outputs, [name](const auto &output) {
-            if (output->name == name)
+            if (output->global == name)
                 wl_output_destroy(output->output);
-            return output->name == name;
+            return output->global == name;
         });
     }
     static void geometry(void *data, wl_output *, std::int32_t x, std::int32_t y, std::int32_t,
@@ -55,6 +56,10 @@ struct CatcherServices::Listeners {
             = [](void *, wl_output *, std::uint32_t, std::int32_t, std::int32_t, std::int32_t) {};
         listener.done = [](void *, wl_output *) {};
         listener.scale = [](void *, wl_output *, std::int32_t) {};
+        listener.name = [](void *data, wl_output *, const char *name) {
+            static_cast<Output *>(data)->name = QString::fromUtf8(name);
+        };
+        listener.description = [](void *, wl_output *, const char *) {};
         return listener;
     }();
 };
@@ -100,7 +105,8 @@ bool CatcherServices::areAll() const
 wl_output *CatcherServices::outputOf(const QScreen &screen) const
 {
     const auto found = std::ranges::find_if(m_outputs, [&screen](const auto &output) {
-        return output->place == screen.geometry().topLeft();
+        return output->name.isEmpty() ? output->place == screen.geometry().topLeft()
+                                      : output->name == screen.name();
     });
     return found == m_outputs.end() ? nullptr : (*found)->output;
 }

@@ -3,6 +3,7 @@
 #include "platform/wayland/base/own_connection.h"
 
 #include <QPoint>
+#include <QString>
 
 #include <cstdint>
 #include <memory>
@@ -41,11 +42,13 @@ struct CatcherServices {
 
 private:
     struct Listeners;
-    /// A screen, which is told by its place among the others.
+    /// A screen, which is told by its name, or by its place where the compositor tells no names:
+    /// those that do may tell of no places here, as sway.
     struct Output {
-        std::uint32_t name = 0;
+        std::uint32_t global = 0;
         wl_output *output = nullptr;
         QPoint place;
+        QString name;
     };
 
     wl_registry *m_registry = nullptr;
