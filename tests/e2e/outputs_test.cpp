@@ -68,7 +68,7 @@ TEST_F(SwayOutputs, anOutputUnpluggedInTheMiddleOfADragCostsNoItemAndTheShelfOpe
     keep(file);
 }
 
-TEST_F(SwayOutputs, theShelfOpensOnTheOutputWhoseEdgeADragCameTo)
+TEST_F(SwayOutputs, theShelfOpensOnTheOutputThatADragIsOn)
 {
     const QSize half(server().size().width() / 2, server().size().height());
     const QRect left({}, half);
@@ -76,7 +76,7 @@ TEST_F(SwayOutputs, theShelfOpensOnTheOutputWhoseEdgeADragCameTo)
     sway().unplug(server());
     ASSERT_TRUE(sway().plug(server(), left));
     ASSERT_TRUE(sway().plug(server(), right));
-    expectTheShelfOnlyWhereADragComesToTheEdge(left, right);
+    expectTheShelfOnTheOutputOfTheDrag(left, right, Drags::StayOnAnOutput);
 
     sway().unplug(server());
     sway().unplug(server());
@@ -97,10 +97,11 @@ DesktopKind twoOutputs(WindowManager compositor)
 INSTANTIATE_TEST_SUITE_P(Every, WaylandOutputs, testing::Values(twoOutputs(WindowManager::KWin)),
                          nameOf);
 
-TEST_P(WaylandOutputs, theShelfOpensOnTheOutputWhoseEdgeADragCameTo)
+TEST_P(WaylandOutputs, theShelfOpensOnTheOutputThatADragIsOn)
 {
     const QSize half(server().size().width() / 2, server().size().height());
-    expectTheShelfOnlyWhereADragComesToTheEdge(QRect({}, half), QRect({half.width(), 0}, half));
+    expectTheShelfOnTheOutputOfTheDrag(QRect({}, half), QRect({half.width(), 0}, half),
+                                       Drags::Cross);
 }
 
 } // namespace

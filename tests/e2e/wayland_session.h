@@ -81,26 +81,41 @@ protected:
         });
     }
 
-    /// On a desktop of these two outputs side by side.
-    void expectTheShelfOnlyWhereADragComesToTheEdge(const QRect &left, const QRect &right)
+    enum class Drags { Cross, StayOnAnOutput };
+    /// On a desktop of these two outputs side by side. As windows of an X server, a button that is
+    /// held may keep the pointer on the one where it was pressed.
+    void expectTheShelfOnTheOutputOfTheDrag(const QRect &left, const QRect &right, Drags drags)
     {
         start();
-        GtkPeer source(m_desktop, {.text = QStringLiteral("text")},
-                       {right.left() + 60, 400, 400, 200});
-        ASSERT_EQ(source.problem(), QString());
         const auto look = [this](const QRect &output) {
             return server().picture({QPoint(output.center().x(), 20), QSize(1, 1)}).pixel(0, 0);
         };
         const QRgb bare = look(left);
         const auto isShownOn = [&](const QRect &output) { return look(output) != bare; };
-        // The end of the drag is assumed first, so that there is a strip on each output.
-        hands().beginDrag(source.source(), right.center());
-        ASSERT_TRUE(eventually([&] { return isShownOn(left) || isShownOn(right); }));
-        ASSERT_TRUE(eventually([&] { return !isShownOn(left) && !isShownOn(right); }));
-        hands().glideTo({right.center().x(), 0});
-        wiggleUntil([&] { return isShownOn(right); });
-        EXPECT_FALSE(isShownOn(left));
-        hands().release();
+        const auto expectOnlyOn = [&](const QRect &output, const QRect &other) {
+            const QRect &last = drags == Drags::Cross ? other : output;
+            GtkPeer source(m_desktop, {.text = QStringLiteral("text")},
+                           {output.left() + 60, 400, 400, 200});
+            ASSERT_EQ(source.problem(), QString());
+            hands().beginDrag(source.source(), output.center());
+            ASSERT_TRUE(eventually([&] { return isShownOn(left) || isShownOn(right); }));
+            EXPECT_TRUE(isShownOn(output));
+            EXPECT_FALSE(isShownOn(other));
+            // The end of the drag is assumed, so that there is a strip on each output.
+            ASSERT_TRUE(eventually([&] { return !isShownOn(left) && !isShownOn(right); }));
+            hands().glideTo({last.center().x(), 0});
+            EXPECT_TRUE(wiggleUntil([&] { return isShownOn(last); }));
+            EXPECT_FALSE(isShownOn(drags == Drags::Cross ? output : other));
+            hands().glideTo({last.center().x(), 30});
+            EXPECT_TRUE(wiggleUntil([&] { return source.isSourceWelcome(); }));
+            hands().glideTo(last.center());
+            hands().release();
+            ASSERT_TRUE(eventually([&] { return !isShownOn(left) && !isShownOn(right); }));
+        };
+        expectOnlyOn(right, left);
+        // Neither the main screen nor the last one where anything came to an edge.
+        expectOnlyOn(right, left);
+        expectOnlyOn(left, right);
     }
 
     void keep(const QString &file)

@@ -20,6 +20,7 @@ void LayerSession::prepare()
 LayerSession::LayerSession(const SessionNeeds &needs)
     : strips(connection)
     , quiet(needs.mainQueue, needs.screens, strips)
+    , whereabouts(connection, needs.mainQueue, needs.screens)
     , keyboardLayout(connection)
     , hotKeys(keyNaming(), needs.mainQueue)
     , panels(connection, needs.mainQueue)
@@ -48,7 +49,12 @@ void LayerSession::wireDrags()
         if (!dragCarrier.isCarrying())
             dropSupport.expect();
     };
-    xwaylandDrags.onBegan = [this] { quiet.noticed(); };
+    xwaylandDrags.onBegan = [this] { whereabouts.find(); };
+    whereabouts.onFound = [this](const ScreenPointer &screen) {
+        if (screen)
+            quiet.screenLocator.cameTo(screen);
+        quiet.noticed();
+    };
     xwaylandDrags.onLost = [this] {
         quiet.setToldOfDrags(false);
         tellAbilities();

@@ -9,6 +9,7 @@
 #include "platform/wayland/drags/wayland_drag_carrier.h"
 #include "platform/wayland/drags/wayland_drop_support.h"
 #include "platform/wayland/keys/wayland_keyboard_layout.h"
+#include "platform/wayland/windows/drag_whereabouts.h"
 #include "platform/wayland/windows/layer_panels.h"
 #include "platform/wayland/windows/layer_strip_surface.h"
 #include "platform/wayland/windows/layer_window_activation.h"
@@ -32,6 +33,7 @@ struct LayerSession : RunningSession {
     SessionAbilities abilities;
     LayerStripSurface strips;
     QuietDesktop quiet;
+    DragWhereabouts whereabouts;
     QtLastModifiers keyboard;
     WaylandKeyboardLayout keyboardLayout;
     DesktopHotKeys hotKeys;

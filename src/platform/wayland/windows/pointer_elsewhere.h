@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/base/lifetime.h"
+#include "platform/wayland/windows/covered_screens.h"
+
+#include <QPointF>
 
 #include <functional>
-#include <memory>
-#include <vector>
+#include <optional>
 
 namespace corvane {
 
@@ -23,9 +25,6 @@ public:
     static constexpr double farEnough = 4;
 
     PointerElsewhere(WaylandConnection &connection, MainQueue &queue);
-    ~PointerElsewhere();
-    PointerElsewhere(const PointerElsewhere &) = delete;
-    PointerElsewhere &operator=(const PointerElsewhere &) = delete;
 
     void watch();
     void stop();
@@ -33,13 +32,13 @@ public:
     std::function<void()> onMoved;
 
 private:
-    class Ground;
-
+    void happened(const QEvent &event);
     void used();
 
-    WaylandConnection &m_connection;
     MainQueue &m_queue;
-    std::vector<std::unique_ptr<Ground>> m_grounds;
+    CoveredScreens m_covered;
+    /// The first place where the pointer was seen, unless it has left.
+    std::optional<QPointF> m_first;
     /// Of the present watch.
     Lifetime m_watch;
 };
