@@ -1,58 +1,12 @@
 #include "platform/display.h"
 #include "platform/freedesktop/portal_motion_preference.h"
-
-#include <QDBusConnection>
-#include <QDBusError>
-#include <QDBusMessage>
-#include <QDBusVariant>
+#include "platform/freedesktop/settings_portal.h"
 
 #include <gtest/gtest.h>
 
 namespace corvane::test {
 
 namespace {
-
-/// The settings portal, on a connection of its own.
-class Portal : public QObject {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.Settings")
-
-public:
-    Portal()
-    {
-        bus.registerObject(path, this,
-                           QDBusConnection::ExportScriptableInvokables
-                               | QDBusConnection::ExportScriptableSignals);
-        bus.registerService(QStringLiteral("org.freedesktop.portal.Desktop"));
-    }
-    ~Portal() override
-    {
-        bus.unregisterService(QStringLiteral("org.freedesktop.portal.Desktop"));
-        QDBusConnection::disconnectFromBus(QStringLiteral("portal"));
-    }
-
-    Q_INVOKABLE Q_SCRIPTABLE QDBusVariant Read(const QString &group, const QString &key)
-    {
-        ++reads;
-        // One variant more than is needed, as the real one does.
-        return QDBusVariant(QVariant::fromValue(QDBusVariant(values.value(group + u'/' + key))));
-    }
-
-    void change(const QString &group, const QString &key, const QVariant &value)
-    {
-        auto signal
-            = QDBusMessage::createSignal(path, QStringLiteral("org.freedesktop.portal.Settings"),
-                                         QStringLiteral("SettingChanged"));
-        signal << group << key << QVariant::fromValue(QDBusVariant(value));
-        bus.send(signal);
-    }
-
-    const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
-    QDBusConnection bus
-        = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("portal"));
-    QVariantMap values;
-    int reads = 0;
-};
 
 const auto appearance = QStringLiteral("org.freedesktop.appearance");
 const auto gnome = QStringLiteral("org.gnome.desktop.interface");
@@ -70,7 +24,7 @@ TEST(MotionPreference, followsTheToolkitWhereThereIsNoPortal)
 
 TEST(MotionPreference, asksThePortalAndFollowsIt)
 {
-    Portal portal;
+    SettingsPortal portal;
     portal.values = {{gnome + QStringLiteral("/enable-animations"), false},
                      {appearance + QStringLiteral("/reduced-motion"), 1U},
                      {kde + u'/' + durationFactor, QStringLiteral("1")}};
@@ -88,7 +42,7 @@ TEST(MotionPreference, asksThePortalAndFollowsIt)
 
 TEST(MotionPreference, isForLessWhereKdeAnimatesAtOnce)
 {
-    Portal portal;
+    SettingsPortal portal;
     // As a text, as it stands in that desktop's file.
     portal.values = {{gnome + QStringLiteral("/enable-animations"), true},
                      {appearance + QStringLiteral("/reduced-motion"), 0U},
@@ -105,5 +59,3 @@ TEST(MotionPreference, isForLessWhereKdeAnimatesAtOnce)
 }
 
 } // namespace corvane::test
-
-#include "motion_preference_test.moc"
