@@ -13,8 +13,13 @@ namespace corvane::test {
 class FakePanelWindow : public PanelWindow {
 public:
     void setContent(PanelContent *newContent) override { content = newContent; }
-    void place(const PanelPlacement &placement) override { setFrame(frameOf(placement)); }
+    void place(const PanelPlacement &placement) override
+    {
+        contentScale = placement.scale;
+        setFrame(frameOf(placement));
+    }
     QRectF frame() const override { return m_frame; }
+    QSizeF contentSize() const override { return contentSizeOf(m_frame.size(), contentScale); }
     /// Puts it anywhere.
     virtual void setFrame(const QRectF &frame)
     {
@@ -63,6 +68,7 @@ public:
 
     PanelContent *content = nullptr;
     const QScreen *isOn = nullptr;
+    double contentScale = 1;
     bool visible = false;
     bool ignoresMouseEvents = false;
     bool isKey = false;

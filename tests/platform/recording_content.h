@@ -14,9 +14,11 @@ namespace corvane::test {
 /// A panel's content that writes down what it is told and paints one colour.
 class RecordingContent : public PanelContent {
 public:
-    void paint(QPainter &painter, QSizeF size, double) override
+    void paint(QPainter &painter, QSizeF size, double scale) override
     {
         ++paints;
+        paintedSize = size;
+        paintedScale = scale;
         clip = painter.clipBoundingRect();
         // The lower half only: upside down would be seen.
         painter.fillRect(QRectF(0, 0, size.width(), size.height() / 2), color);
@@ -83,6 +85,8 @@ public:
     }
 
     QColor color = Qt::red;
+    QSizeF paintedSize;
+    double paintedScale = 0;
     int paints = 0;
     QRectF clip;
     QStringList log;

@@ -27,6 +27,8 @@ public:
 
     /// Paints the panel, which is `size` points large. The painter works in points, origin at the
     /// bottom left, y upward; `scale` is pixels per point. What is not painted is transparent.
+    /// These points, and those of events and of everything in the panel's coordinates, are the
+    /// content's own (`PanelPlacement::scale`).
     virtual void paint(QPainter &painter, QSizeF size, double scale) = 0;
 
     virtual void mouseDown(const MouseEvent &event) = 0;
@@ -121,6 +123,8 @@ public:
     /// `frameOf` the last placement, as it was at that moment: the window system may not tell where
     /// a window really is. Empty before the first.
     virtual QRectF frame() const = 0;
+    /// Its size in its content's own points.
+    virtual QSizeF contentSize() const = 0;
     /// The screen that it is on, or will appear on; null when it is on none.
     virtual const QScreen *screen() const = 0;
 

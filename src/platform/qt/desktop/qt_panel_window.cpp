@@ -61,20 +61,23 @@ void QtPanelWindow::setContent(PanelContent *content)
     m_content = content;
     m_dropTarget.setContent(content);
     m_accessible.changed();
-    setNeedsDisplay({{}, m_frame.size()});
+    setNeedsDisplay({{}, contentSize()});
 }
 
 void QtPanelWindow::place(const PanelPlacement &placement)
 {
-    const QRect before = toWindow({{}, m_frame.size()});
+    const QRect before = toWindow({{}, contentSize()});
     m_frame = frameOf(placement);
+    const bool hasOtherScale = std::exchange(m_contentScale, placement.scale) != placement.scale;
     const PanelSpace space = m_desktop.surface.place(*m_canvas, placement);
     m_origin = space.panel;
     m_canvas->setCanvasSize(space.window);
     // Where the window stays as it is, its panel has moved in it.
-    if (const QRect now = toWindow({{}, m_frame.size()}); now != before)
+    if (const QRect now = toWindow({{}, contentSize()}); now != before || hasOtherScale)
         m_canvas->repaintSoon(before | now);
     updateRegions();
+    if (hasOtherScale)
+        m_accessible.changed();
 }
 
 const QScreen *QtPanelWindow::screen() const
@@ -167,6 +170,8 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, DragOutEvents events)
         events.ended({});
         return;
     }
+    drag.image.size *= m_contentScale;
+    drag.hotSpot *= m_contentScale;
     PanelCanvas *canvas = m_canvas.get();
     const auto released = [this, life = m_lifetime.token(), canvas,
                            tell = std::move(events.released)](DragOperation promised) {
@@ -188,24 +193,26 @@ void QtPanelWindow::beginDraggingSession(DragOut drag, DragOutEvents events)
 
 QTransform QtPanelWindow::toDevicePixels() const
 {
-    const double scale = m_canvas->devicePixelRatio();
-    return QTransform(scale, 0, 0, -scale, m_origin.x() * scale, bottom() * scale);
+    const double pixels = m_canvas->devicePixelRatio();
+    const double scale = pixels * m_contentScale;
+    return QTransform(scale, 0, 0, -scale, m_origin.x() * pixels, bottom() * pixels);
 }
 
 QPointF QtPanelWindow::toPanel(QPointF inWindow) const
 {
-    return qt_geometry::flipped(inWindow, bottom()) - QPointF(m_origin.x(), 0);
+    return (qt_geometry::flipped(inWindow, bottom()) - QPointF(m_origin.x(), 0)) / m_contentScale;
 }
 
 QRect QtPanelWindow::toWindow(const QRectF &inPanel) const
 {
-    return qt_geometry::flipped(inPanel.translated(m_origin.x(), 0), bottom()).toAlignedRect();
+    const QRectF inPoints(inPanel.topLeft() * m_contentScale, inPanel.size() * m_contentScale);
+    return qt_geometry::flipped(inPoints.translated(m_origin.x(), 0), bottom()).toAlignedRect();
 }
 
 void QtPanelWindow::updateRegions()
 {
     const QTransform toPixels = toDevicePixels();
-    const QRectF body = m_body.value_or(QRectF({}, m_frame.size()));
+    const QRectF body = m_body.value_or(QRectF({}, contentSize()));
     const QRegion input = m_ignoresMouseEvents ? QRegion() : toPixels.mapRect(body).toRect();
     if (std::exchange(m_inputRegion, input) != input)
         m_desktop.surface.setInputRegion(*m_canvas, input);
@@ -236,10 +243,10 @@ void QtPanelWindow::paint(QPainter &painter)
         return;
     // Where the window is larger, lines that reach over the panel's edge would stay there: what
     // lies beyond it is not painted again when the panel changes.
-    painter.setClipRect(toWindow({{}, m_frame.size()}), Qt::IntersectClip);
+    painter.setClipRect(toWindow({{}, contentSize()}), Qt::IntersectClip);
     painter.translate(m_origin.x(), bottom());
-    painter.scale(1, -1);
-    m_content->paint(painter, m_frame.size(), m_canvas->devicePixelRatio());
+    painter.scale(m_contentScale, -m_contentScale);
+    m_content->paint(painter, contentSize(), m_canvas->devicePixelRatio() * m_contentScale);
 }
 
 } // namespace corvane

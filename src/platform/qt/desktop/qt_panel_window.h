@@ -36,6 +36,7 @@ public:
     void setContent(PanelContent *content) override;
     void place(const PanelPlacement &placement) override;
     QRectF frame() const override { return m_frame; }
+    QSizeF contentSize() const override { return contentSizeOf(m_frame.size(), m_contentScale); }
     const QScreen *screen() const override;
     bool isVisible() const override { return m_isVisible; }
     void orderFrontRegardless() override;
@@ -80,6 +81,8 @@ private:
     PanelAccessible m_accessible;
     WindowNumber m_number = WindowNumber::None;
     QRectF m_frame;
+    /// `PanelPlacement::scale`.
+    double m_contentScale = 1;
     /// Where the panel's top left is in its window.
     QPoint m_origin;
     bool m_isVisible = false;

@@ -342,6 +342,30 @@ TEST_F(PanelWindowTest, thePixelsAlongItsEdgesLieInsideIt)
     }
 }
 
+TEST_F(PanelWindowTest, aLargerContentIsPaintedAndClickedInItsOwnPoints)
+{
+    show();
+    const PanelPlacement usual = placementFor({600, 482, 300, 100});
+    PanelPlacement larger = usual;
+    larger.scale = 2;
+    panel.place(larger);
+    EXPECT_EQ(panel.contentSize(), QSizeF(150, 50));
+    EXPECT_TRUE(eventually([&] { return content.paintedSize == QSizeF(150, 50); }));
+    EXPECT_EQ(content.paintedScale, 2);
+    EXPECT_EQ(colorAt(at(298, 51)), content.color) << "the lower half, up to the panel's edge";
+    EXPECT_NE(colorAt(at(298, 48)), content.color);
+    EXPECT_EQ(panel.frame(), QRectF(600, 482, 300, 100));
+
+    QPainterPath outline;
+    outline.addRect(10, 20, 100, 30);
+    panel.setBody({10, 20, 100, 30}, outline);
+    EXPECT_EQ(display.server.inputShape(id()), QList<QRect>{QRect(20, 0, 200, 60)});
+    display.hands.glideTo(at(121, 30));
+    EXPECT_TRUE(eventually([&] { return content.lastMove == QPointF(60.75, 34.75); }));
+    panel.place(usual);
+    EXPECT_TRUE(eventually([&] { return content.paintedSize == QSizeF(300, 100); }));
+}
+
 TEST_F(PanelWindowTest, aDoubleClickIsTwoClicks)
 {
     show();
