@@ -1,6 +1,7 @@
 #include "app/composition_root.h"
 
 #include "app/base/app_info.h"
+#include "app/look/window_look.h"
 #include "app/updates/software_updater.h"
 #include "platform/desktop/abilities.h"
 #include "platform/system/file_url.h"
@@ -90,6 +91,8 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
     , session(startSession(sessionKind,
                            {.mainQueue = mainQueue, .screens = screens, .terminate = terminate}))
     , desktop(session->desktop())
+    , appearance(desktop.textScaleIsInScreens ? PortalAppearancePreference::TextScale::InScreens
+                                              : PortalAppearancePreference::TextScale::OfItsOwn)
     , keyMonitors(desktop.keyboardLayout)
     , panel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &textWork)
     , viewAllPanel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &textWork)
@@ -177,7 +180,8 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
            .quickActions = quickActions,
            .presenter = &presenter,
            .viewAll = &viewAll,
-           .outsideClicks = &desktop.outsideClicks})
+           .outsideClicks = &desktop.outsideClicks,
+           .appearance = &appearance})
     , edge({.trigger = desktop.edgeTrigger,
             .outsideClicks = desktop.outsideClicks,
             .screens = screens,
@@ -247,6 +251,16 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
     };
     remotePictures.isWanted = [this](const QUuid &item) { return store.indexOf(item).has_value(); };
     thumbnails.setItemsInView([this] { return itemsInView(store); });
+    thumbnails.setEnlargement([this] { return appearance.textScale(); });
+    appearance.observeChanges([this] { applyAppearance(); });
+}
+
+void CompositionRoot::applyAppearance()
+{
+    const bool isMore = appearance.wantsMoreContrast();
+    theme.setContrast(isMore ? Theme::Contrast::More : Theme::Contrast::Usual);
+    WindowLook::setContrast(isMore ? WindowLook::Contrast::More : WindowLook::Contrast::Usual);
+    hud.appearanceChanged();
 }
 
 /// Where clicks elsewhere are not heard of, the shelf would stay in the way of one that went

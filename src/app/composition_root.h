@@ -32,6 +32,7 @@
 #include "platform/freedesktop/decoding/decoder_pool.h"
 #include "platform/freedesktop/decoding/decoder_program.h"
 #include "platform/freedesktop/mount_table.h"
+#include "platform/freedesktop/portal_appearance_preference.h"
 #include "platform/freedesktop/portal_motion_preference.h"
 #include "platform/freedesktop/proxies/desktop_routes.h"
 #include "platform/freedesktop/remote_file_threads.h"
@@ -107,6 +108,7 @@ struct CompositionRoot {
     // The session that the program runs in.
     std::unique_ptr<RunningSession> session;
     DesktopSession desktop;
+    PortalAppearancePreference appearance;
     QtKeyMonitors keyMonitors;
     QtPanelWindow panel;
     QtPanelWindow viewAllPanel;
@@ -181,6 +183,7 @@ struct CompositionRoot {
 
 private:
     std::function<void(double seconds)> letClicksThrough();
+    void applyAppearance();
     std::unique_ptr<Updater> makeUpdater();
 };
 

@@ -53,7 +53,8 @@ void ThumbnailService::setItemsInView(const std::function<QList<QUuid>()> &items
 double ThumbnailService::scale() const
 {
     const ScreenPointer screen = m_screens.mainScreen();
-    return screen ? screen->backingScaleFactor : defaultScale;
+    const double ofScreen = screen ? screen->backingScaleFactor : defaultScale;
+    return m_enlargement ? ofScreen * m_enlargement() : ofScreen;
 }
 
 void ThumbnailService::cancel(const QUuid &item)

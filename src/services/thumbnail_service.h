@@ -48,6 +48,11 @@ public:
 
     /// Tells which items are in view; without it none is.
     void setItemsInView(const std::function<QList<QUuid>()> &itemsInView);
+    /// How much larger than `side` thumbnails are shown, asked for each that is made; 1 unless set.
+    void setEnlargement(std::function<double()> enlargement)
+    {
+        m_enlargement = std::move(enlargement);
+    }
 
     /// The best picture of the file that there is, else its icon.
     void generateForFile(const QUuid &item, const QUrl &url, Completion completion) override;
@@ -92,6 +97,7 @@ private:
     ThumbnailQueue m_queue;
     ThumbnailQueue m_remoteQueue;
     ThumbnailQueue m_slowQueue;
+    std::function<double()> m_enlargement;
     Lifetime m_lifetime;
 };
 

@@ -9,10 +9,12 @@
 #include "platform/base/checked_math.h"
 #include "platform/base/geometry.h"
 #include "platform/base/main_queue.h"
+#include "platform/desktop/appearance_preference.h"
 #include "platform/desktop/motion_preference.h"
 #include "platform/desktop/outside_clicks.h"
 #include "platform/desktop/screen_locator.h"
 #include "shelf/drawing/theme.h"
+#include "shelf/shelf_layout.h"
 #include "shelf/view_all_bar.h"
 
 #include <algorithm>
@@ -140,6 +142,24 @@ void HUDController::wireScreenChanges()
     m_context.screens.observeChanges(m_lifetime.guard([this] { render(); }));
 }
 
+void HUDController::appearanceChanged()
+{
+    m_shelf.themeChanged();
+    if (m_context.viewAll)
+        m_context.viewAll->themeChanged();
+    render();
+}
+
+/// How much larger than usual everything is: as the user wants texts, if the widest shelf then fits
+/// on the screen.
+double HUDController::scaleOn(const ScreenPointer &screen) const
+{
+    if (!screen || !m_context.appearance)
+        return 1;
+    const double fitting = screen->frame.width() / widestShelf;
+    return std::max(1.0, std::min(m_context.appearance->textScale(), fitting));
+}
+
 ShelfSnapshot HUDController::makeSnapshot(const ScreenPointer &screen) const
 {
     const ScreenLocator::Notch notch = ScreenLocator::notch(screen);
@@ -152,9 +172,18 @@ ShelfSnapshot HUDController::makeSnapshot(const ScreenPointer &screen) const
     snapshot.canScrollBack = m_store.scrollOffset() > 0;
     snapshot.canScrollForward
         = checkedAdd(m_store.scrollOffset(), snapshot.inViewCount) < snapshot.totalCount;
-    snapshot.notch = {notch.width, notch.inset};
+    snapshot.notch = QSizeF(notch.width, notch.inset) / scaleOn(screen);
     snapshot.receptive = m_store.isDragInFlight() && !m_store.isOwnDrag();
     return snapshot;
+}
+
+/// In whole points, as a window is placed.
+PanelPlacement HUDController::placementOf(const ShelfSnapshot &snapshot,
+                                          const ScreenPointer &screen) const
+{
+    const double scale = scaleOn(screen);
+    const QSizeF size = m_shelf.preferredSize(snapshot) * scale;
+    return {screen, 0, {std::ceil(size.width()), std::ceil(size.height())}, 0, scale};
 }
 
 double HUDController::openWidth(const ScreenPointer &screen) const
@@ -162,7 +191,7 @@ double HUDController::openWidth(const ScreenPointer &screen) const
     ShelfSnapshot snapshot = makeSnapshot(screen);
     snapshot.state = snapshot.totalCount > 0 ? ShelfState::Occupied : ShelfState::Expanded;
     snapshot.receptive = false;
-    return m_shelf.preferredSize(snapshot).width();
+    return placementOf(snapshot, screen).size.width();
 }
 
 void HUDController::render()
@@ -170,11 +199,10 @@ void HUDController::render()
     // Asked once for all uses below, because finding the pointer is a request to the desktop.
     const ScreenPointer screen = m_context.screenLocator.activeScreen();
     const ShelfSnapshot snapshot = makeSnapshot(screen);
-    const QSizeF size = m_shelf.preferredSize(snapshot);
+    const PanelPlacement atTop = placementOf(snapshot, screen);
     QRectF pillFrame;
     if (snapshot.state != ShelfState::Idle && screen) {
         m_pendingHide.restart();
-        const PanelPlacement atTop{screen, 0, size};
         pillFrame = frameOf(atTop);
         m_shelf.setRefreshRate(screen->refreshRate);
         resizeWindow(atTop);
@@ -187,7 +215,7 @@ void HUDController::render()
     m_shelf.apply(snapshot);
     const bool isShown = snapshot.state != ShelfState::Idle;
     if (m_context.viewAll)
-        m_context.viewAll->render(pillFrame, isShown ? screen : nullptr);
+        m_context.viewAll->render(pillFrame, isShown ? screen : nullptr, atTop.scale);
     if (!isShown)
         scheduleHide();
 }
@@ -195,7 +223,9 @@ void HUDController::render()
 void HUDController::resizeWindow(const PanelPlacement &target)
 {
     m_pendingShrink.restart();
-    const bool isSameScreen = m_lastScreen.lock() == target.screen;
+    // What moves is drawn at the new scale at once.
+    const bool isSameScale = std::exchange(m_lastScale, target.scale) == target.scale;
+    const bool isSameScreen = m_lastScreen.lock() == target.screen && isSameScale;
     m_lastScreen = target.screen;
     const QSizeF before = std::exchange(m_target, target.size);
     if (!m_panel.isVisible() || !isSameScreen) {
@@ -208,7 +238,7 @@ void HUDController::resizeWindow(const PanelPlacement &target)
     PanelPlacement whereItGoes = target;
     whereItGoes.size = withOvershoot(target.size, before);
     const QRectF room = unionOf(m_panel.frame(), frameOf(whereItGoes));
-    m_panel.place(placementOn(target.screen, room));
+    m_panel.place(placementOn(target.screen, room, target.scale));
     if (room == frameOf(target))
         return;
     m_context.view.queue.asyncAfter(Theme::Motion::settlingDuration(),

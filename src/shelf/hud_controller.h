@@ -16,6 +16,7 @@
 
 namespace corvane {
 
+class AppearancePreference;
 class ItemPresenter;
 class OutsideClicks;
 class QuickActions;
@@ -54,6 +55,7 @@ public:
         ItemPresenter *presenter = nullptr;
         ViewAllBar *viewAll = nullptr;
         OutsideClicks *outsideClicks = nullptr;
+        const AppearancePreference *appearance = nullptr;
     };
     explicit HUDController(const Context &context);
     ~HUDController();
@@ -73,6 +75,8 @@ public:
     /// its clicks go to the window below, because the user may click there without having seen the
     /// shelf.
     void letClicksThrough(double seconds);
+    /// To be called after the theme, or how large texts are wanted, has changed.
+    void appearanceChanged();
     /// How wide the shelf would be on that screen if it were opened now, in points.
     double openWidth(const ScreenPointer &screen) const;
 
@@ -93,7 +97,9 @@ private:
     void wireSettings();
     void wireScreenChanges();
 
+    double scaleOn(const ScreenPointer &screen) const;
     ShelfSnapshot makeSnapshot(const ScreenPointer &screen) const;
+    PanelPlacement placementOf(const ShelfSnapshot &snapshot, const ScreenPointer &screen) const;
     void render();
     void resizeWindow(const PanelPlacement &target);
     QSizeF withOvershoot(QSizeF target, QSizeF before);
@@ -117,6 +123,7 @@ private:
     QSizeF m_target;
     QSizeF m_overshoot{0, 0};
     std::weak_ptr<const Screen> m_lastScreen;
+    double m_lastScale = 1;
     /// The item that is to be previewed once its file is there.
     std::optional<QUuid> m_awaitedPreview;
     StoreFollower m_follower;

@@ -71,6 +71,8 @@ ShelfCell::ShelfCell(LayerTree &tree, Layer &superlayer, const Theme &theme,
     m_subtitle.setFont(theme.typography.secondary);
     m_subtitle.setColor(palette.secondary);
     m_focusRing.setStroke(QPen(palette.emphasis, focusRingWidth));
+    // On its edge, so that it is seen beside white pictures and black ones.
+    m_thumb.setBorder({palette.border, thumbCornerRadius + 1, 1});
     m_badge.setBackgroundColor(Theme::Palette::white(1));
     m_badge.setOpacity(0);
     m_badgeCross.setIcon(StrokeIcon::Cross, 7, 0.5, Qt::black, 1.4);

@@ -20,6 +20,8 @@ namespace corvane {
 namespace {
 
 constexpr double edgeFadeWidth = 36;
+constexpr double buttonBorderRadius = 5;
+constexpr double buttonBorderOutset = 1;
 
 template<typename Hit>
 bool isHit(const ShelfHit &hovered, Hit wanted)
@@ -106,6 +108,9 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
     m_flash.setColor(palette.primary);
     m_flash.setOpacity(0);
 
+    for (IconLayer *button :
+         {&m_actionButtons[0], &m_actionButtons[1], &m_actionButtons[2], &m_viewAllButton})
+        button->setBorder({palette.border, buttonBorderRadius, buttonBorderOutset});
     m_actionButtons[0].setIcon(StrokeIcon::Eye, 19, 1.5, palette.emphasis);
     m_actionButtons[1].setIcon(StrokeIcon::Copy, 19, 2, palette.emphasis);
     m_actionButtons[2].setIcon(StrokeIcon::Trash, 19, 2, palette.emphasis);
@@ -250,7 +255,8 @@ void ShelfLayers::applyButton(IconLayer &layer, const std::optional<QRectF> &fra
         return;
     }
     layer.setFrame(*frame);
-    layer.setOpacity(isHovered ? 1 : look.isHovering ? 0.85 : 0.7);
+    const double resting = look.isHovering ? 0.85 : 0.7;
+    layer.setOpacity(isHovered || m_theme.hasMoreContrast() ? 1 : resting);
 }
 
 void ShelfLayers::applyArrow(std::size_t side, const ShelfLook &look)
@@ -267,6 +273,7 @@ void ShelfLayers::applyArrow(std::size_t side, const ShelfLook &look)
         = isHit(look.hovered, shelf_hit::Arrow{side == 0 ? ArrowSide::Left : ArrowSide::Right});
     arrow.plate.setFrame(frame);
     arrow.plate.setCornerRadius(frame.width() / 2);
+    arrow.plate.setBorder({palette.border, frame.width() / 2, 0});
     arrow.plate.setBackgroundColor(!isEnabled      ? palette.buttonFillOff
                                        : isHovered ? palette.buttonFillHover
                                                    : palette.buttonFill);

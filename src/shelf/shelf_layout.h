@@ -66,6 +66,9 @@ struct ShelfLayout {
     friend bool operator==(const ShelfLayout &, const ShelfLayout &) = default;
 };
 
+/// In points: no shelf is wider, but for a notch.
+constexpr double widestShelf = 508;
+
 /// In points: width of the text column with one item in view, 84 to 190.
 double detailTextWidth(const ShelfSnapshot &snapshot, const Theme &theme,
                        const TextMeasurer &measurer);

@@ -18,7 +18,7 @@ namespace corvane {
 ShelfView::ShelfView(const Context &context)
     : m_context(context)
     , m_tree(context.queue, context.motionPreference)
-    , m_layers(m_tree, context.theme, context.animator)
+    , m_layers(std::in_place, m_tree, context.theme, context.animator)
     , m_dragSource({.panel = context.panel,
                     .keyboard = context.keyboard,
                     .dragWriter = context.dragWriter,
@@ -27,7 +27,7 @@ ShelfView::ShelfView(const Context &context)
 {
     wireDragSource();
     m_tree.onNeedsDisplay = [this] {
-        m_context.panel.setNeedsDisplay({{0, 0}, m_context.panel.frame().size()});
+        m_context.panel.setNeedsDisplay({{0, 0}, m_context.panel.contentSize()});
     };
 }
 
@@ -56,6 +56,13 @@ void ShelfView::apply(const ShelfSnapshot &snapshot)
         m_context.panel.announce(news);
 }
 
+void ShelfView::themeChanged()
+{
+    const LayerTree::WithoutMotion still(m_tree);
+    m_layers.emplace(m_tree, m_context.theme, m_context.animator);
+    relayout();
+}
+
 void ShelfView::relayout()
 {
     const double textWidth = detailTextWidth(m_look.snapshot, m_context.theme, m_context.measurer);
@@ -70,21 +77,21 @@ void ShelfView::relayout()
     m_look.hovered = isInside ? corvane::hitTest(m_look.layout, m_look.snapshot.isCarousel(),
                                                  inBody(fromTopCentre(*m_pointer)))
                               : ShelfHit();
-    m_layers.apply(m_look);
+    m_layers->apply(m_look);
     updateBody();
     m_context.panel.accessibleChanged();
 }
 
 void ShelfView::updateBody()
 {
-    const QSizeF size = m_context.panel.frame().size();
-    QPainterPath outline = m_layers.presentedOutline().translated(size.width() / 2, size.height());
+    const QSizeF size = m_context.panel.contentSize();
+    QPainterPath outline = m_layers->presentedOutline().translated(size.width() / 2, size.height());
     m_context.panel.setBody(bodyRect(), outline);
 }
 
 QRectF ShelfView::bodyRect() const
 {
-    const QSizeF panel = m_context.panel.frame().size();
+    const QSizeF panel = m_context.panel.contentSize();
     const QSizeF size = m_look.layout.size;
     return {panel.width() * 0.5 - size.width() * 0.5, panel.height() - size.height(), size.width(),
             size.height()};
@@ -111,7 +118,7 @@ void ShelfView::paint(QPainter &painter, QSizeF size, double scale)
     m_scale = scale;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(size.width() / 2, size.height());
-    m_layers.paint(painter, scale);
+    m_layers->paint(painter, scale);
     // Without a compositing manager the panel is cut to the outline just painted: in every frame of
     // a motion, and once more after its end.
     const bool isMoving = m_tree.isMoving();
@@ -138,7 +145,7 @@ void ShelfView::updateHover(QPointF point)
 {
     const ShelfHit before = m_look.hovered;
     const bool wasHovering = m_look.isHovering;
-    const QSizeF panel = m_context.panel.frame().size();
+    const QSizeF panel = m_context.panel.contentSize();
     m_pointer = point - QPointF(panel.width() / 2, panel.height());
     const bool isInside = hitTest(point);
     const ShelfHit hit = isInside
@@ -150,7 +157,7 @@ void ShelfView::updateHover(QPointF point)
 
 QPointF ShelfView::fromTopCentre(QPointF point) const
 {
-    const QSizeF panel = m_context.panel.frame().size();
+    const QSizeF panel = m_context.panel.contentSize();
     return point + QPointF(panel.width() / 2, panel.height());
 }
 

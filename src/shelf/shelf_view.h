@@ -84,6 +84,8 @@ public:
     std::function<void()> onPressed;
 
     void apply(const ShelfSnapshot &snapshot);
+    /// To be called after the theme's colours have changed.
+    void themeChanged();
     QSizeF preferredSize(const ShelfSnapshot &snapshot) const;
     /// Shows a message in place of the details, for `flashDuration`. Ignored without items, and
     /// while the shelf looks like a drop target.
@@ -97,8 +99,8 @@ public:
 
     /// What is on the screen, for tests.
     const ShelfLook &look() const { return m_look; }
-    const ShelfLayers &layers() const { return m_layers; }
-    std::size_t cellCount() const { return m_layers.cellCount(); }
+    const ShelfLayers &layers() const { return *m_layers; }
+    std::size_t cellCount() const { return m_layers->cellCount(); }
     bool isMoving() const { return m_tree.isMoving(); }
 
     void paint(QPainter &painter, QSizeF size, double scale) override;
@@ -150,7 +152,8 @@ private:
 
     Context m_context;
     LayerTree m_tree;
-    ShelfLayers m_layers;
+    /// Always there; made anew for other colours.
+    std::optional<ShelfLayers> m_layers;
     ShelfLook m_look;
     DragSource m_dragSource;
     double m_scale = 1;

@@ -4,6 +4,8 @@
 
 #include <QRectF>
 
+#include <functional>
+
 namespace corvane {
 
 /// What the shelf's controller tells the view-all bar, which shows every item below the shelf.
@@ -12,9 +14,12 @@ public:
     virtual ~ViewAllBar() = default;
 
     /// To be called on every change: `pillFrame` is the shelf's frame on `screen`, in global
-    /// points; an empty rectangle and null while the shelf is closed.
-    virtual void render(const QRectF &pillFrame, const ScreenPointer &screen) = 0;
+    /// points; an empty rectangle and null while the shelf is closed. `scale` is how much larger
+    /// than usual the shelf is, and the bar is to be (`PanelPlacement::scale`).
+    virtual void render(const QRectF &pillFrame, const ScreenPointer &screen, double scale) = 0;
     virtual bool isShown() const = 0;
+    /// To be called after the theme has changed, and before `render`.
+    virtual void themeChanged() = 0;
     /// The user opens or closes the shelf by a hot key or a menu, so keys are meant for the bar if
     /// it opens, too.
     virtual void shelfIsToggledByHand() = 0;

@@ -119,6 +119,13 @@ void mirror(BarStage &stage)
     stage.items[1] = ShelfDesk::folderItem(QString::fromUtf8("תמונות"));
 }
 
+void showPageOfMoreContrast(BarStage &stage)
+{
+    showPageWithTicks(stage);
+    stage.desk.theme.setContrast(Theme::Contrast::More);
+    stage.view.themeChanged();
+}
+
 void showMirroredPage(BarStage &stage)
 {
     mirror(stage);
@@ -191,8 +198,11 @@ constexpr double narrowWidth = 420;
 const std::vector<PanelState> &barStates()
 {
     static const std::vector<PanelState> states{
-        {"view-all", bar(showPageWithTicks), {{light, 1}, {light, 2}, {dark, 1}, {dark, 2}}},
+        {"view-all",
+         bar(showPageWithTicks),
+         {{light, 1}, {light, 1.5}, {light, 2}, {dark, 1}, {dark, 2}}},
         {"view-all-being-made", bar(showPicturesBeingMade), {{light, 2}, {dark, 1}}},
+        {"view-all-contrast", bar(showPageOfMoreContrast), {{light, 1}, {dark, 2}}},
         {"view-all-two", bar(showTwoTickedWithTrashHovered), {{dark, 2}}},
         {"view-all-last-page", bar(showLastPageWithBackHovered, narrowWidth), {{light, 2}}},
         {"view-all-mirrored", bar(showMirroredPage), {{light, 1}, {dark, 2}}},

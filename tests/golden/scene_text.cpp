@@ -95,6 +95,9 @@ QString own(const Layer &layer, const PanelStage &stage)
         result += u", ground " % text(layer.backgroundColor());
     if (layer.cornerRadius() > 0)
         result += u", radius " % text(layer.cornerRadius());
+    if (const Layer::Border border = layer.border(); border.color.alpha() > 0)
+        result += u", border " % text(border.color) % u' ' % text(border.radius) % u' '
+            % text(border.outset);
     if (layer.clipsSublayers())
         result += QStringLiteral(", clips");
     if (const auto *letters = asKind<TextLayer>(layer))

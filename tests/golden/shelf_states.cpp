@@ -184,6 +184,12 @@ QList<DropItem> itemsFromRightToLeft()
     return items;
 }
 
+void useMoreContrast(ShelfStage &stage)
+{
+    stage.desk.theme.setContrast(Theme::Contrast::More);
+    stage.view.themeChanged();
+}
+
 void mirror(ShelfStage &stage)
 {
     stage.desk.theme.direction = Qt::RightToLeft;
@@ -237,7 +243,7 @@ std::vector<PanelState> picturedStates()
          {{dark, 2}, {light, 1}, {light, 1.5}}},
         {"six-in-view",
          shelf([](ShelfStage &s) { s.show(occupied(sampleItems(), 6, 2)); }),
-         {{dark, 2}}},
+         {{dark, 2}, {light, 1.5}}},
         {"receptive-six",
          shelf([](ShelfStage &s) { s.show(receptive(occupied(sampleItems(), 6, 2))); }),
          {{light, 2}}},
@@ -256,6 +262,25 @@ std::vector<PanelState> picturedStates()
              s.flash(QStringLiteral("Path copied"));
          }),
          {{light, 2}}},
+        {"contrast-one",
+         shelf([](ShelfStage &s) {
+             useMoreContrast(s);
+             s.show(occupied(report(), 1, 0));
+             s.hover((*s.layout().actionButtons)[1].center());
+         }),
+         {{light, 1}, {dark, 1.5}}},
+        {"contrast-five-in-three",
+         shelf([](ShelfStage &s) {
+             s.show(occupied(sampleItems().first(5), 3, 0));
+             useMoreContrast(s);
+         }),
+         {{light, 2}, {dark, 1}}},
+        {"contrast-empty",
+         shelf([](ShelfStage &s) {
+             useMoreContrast(s);
+             s.show(waiting());
+         }),
+         {{dark, 1}}},
         {"notch",
          shelf([](ShelfStage &s) {
              s.show(withNotch(occupied(sampleItems().first(3), 3, 1), {200, 32}));

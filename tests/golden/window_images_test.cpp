@@ -3,11 +3,14 @@
 // without words to break lines between.
 
 #include "app/base/translations.h"
+#include "app/look/window_look.h"
 #include "golden/golden.h"
 #include "golden/panel_stage.h"
 #include "golden/window_stage.h"
 
+#include <QCoreApplication>
 #include <QLocale>
+#include <QStringBuilder>
 
 #include <gtest/gtest.h>
 
@@ -46,6 +49,27 @@ TEST_P(WindowImages, InOtherLanguagesAreAsKept)
         EXPECT_TRUE(matchesGoldenImage(name + u'-' + file, pictureOf(stage->window(), 1)));
     }
     QLocale::setDefault(before);
+}
+
+TEST(WindowContrast, groupsAndControlsHaveEdgesAtOnceWhenContrastIsWanted)
+{
+    const Translations english({QStringLiteral("en")});
+    const WindowLookForPictures look(Scheme::Light);
+    for (const WindowState &state : windowStates()) {
+        const QString name = QLatin1String(state.name);
+        if (!name.startsWith(u"preferences-") && name != QStringLiteral("update-available"))
+            continue;
+        WindowLookForPictures::use(Scheme::Light);
+        const auto stage = state.make();
+        QCoreApplication::processEvents();
+        WindowLook::setContrast(WindowLook::Contrast::More);
+        EXPECT_TRUE(matchesGoldenImage(u"contrast-" % state.fileName(Scheme::Light, 1),
+                                       pictureOf(stage->window(), 1)));
+        WindowLookForPictures::use(Scheme::Dark);
+        EXPECT_TRUE(matchesGoldenImage(u"contrast-" % state.fileName(Scheme::Dark, 1),
+                                       pictureOf(stage->window(), 1)));
+        WindowLook::setContrast(WindowLook::Contrast::Usual);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryState, WindowImages, testing::ValuesIn(windowStates()),

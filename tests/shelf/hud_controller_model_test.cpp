@@ -15,12 +15,13 @@ namespace corvane::test {
 namespace {
 
 struct TellingBar : ViewAllBar {
-    void render(const QRectF &pill, const ScreenPointer &screen) override
+    void render(const QRectF &pill, const ScreenPointer &screen, double /*scale*/) override
     {
         if (onRendered)
             onRendered(pill, screen);
     }
     bool isShown() const override { return false; }
+    void themeChanged() override { }
     void shelfIsToggledByHand() override { }
     void shelfWasPressed() override { }
 

@@ -1,4 +1,5 @@
 #include "core/item_presenter.h"
+#include "fakes/fake_appearance_preference.h"
 #include "fakes/fake_drag_desktop.h"
 #include "fakes/shelf_model.h"
 #include "input/monitored_clicks.h"
@@ -19,14 +20,16 @@ struct RecordingPresenter : ItemPresenter {
 };
 
 struct RecordingViewAllBar : ViewAllBar {
-    void render(const QRectF &pillFrame, const ScreenPointer &screen) override
+    void render(const QRectF &pillFrame, const ScreenPointer &screen, double scale) override
     {
+        scales.push_back(scale);
         frames.push_back(pillFrame);
         screens.push_back(screen);
         if (shelf)
             sizesSeen.push_back(shelf->look().layout.size);
     }
     bool isShown() const override { return isOpen; }
+    void themeChanged() override { ++themeChanges; }
     void shelfIsToggledByHand() override { rendersBeforeHand = frames.size(); }
     void shelfWasPressed() override { ++presses; }
     bool isOpen = false;
@@ -35,6 +38,8 @@ struct RecordingViewAllBar : ViewAllBar {
     std::optional<std::size_t> rendersBeforeHand;
     std::vector<QRectF> frames;
     std::vector<ScreenPointer> screens;
+    std::vector<double> scales;
+    int themeChanges = 0;
     std::vector<QSizeF> sizesSeen;
 };
 
@@ -52,6 +57,7 @@ protected:
         HUDController::Context context = controllerContext();
         context.presenter = &presenter;
         context.viewAll = &bar;
+        context.appearance = &appearance;
         return context;
     }
 
@@ -70,6 +76,7 @@ protected:
 
     RecordingPresenter presenter;
     RecordingViewAllBar bar;
+    FakeAppearancePreference appearance;
     std::optional<HUDController> controller;
 };
 
@@ -472,6 +479,82 @@ TEST_F(HUDControllerTest, RendersOnceAFrameForPicturesThatArrive)
     desk.clock.advance(StoreFollower::detailDelay);
     EXPECT_EQ(bar.frames.size(), 1U);
     EXPECT_TRUE(snapshot().visible[0].second.thumbnail());
+}
+
+TEST_F(HUDControllerTest, LargerTextEnlargesItAndTheBar)
+{
+    appearance.scale = 1.5;
+    store.toggleManually();
+    EXPECT_EQ(frame(), QRectF(756 - 219, 982 - 84, 438, 84));
+    EXPECT_EQ(desk.panel.contentSize(), QSizeF(292, 56));
+    EXPECT_EQ(desk.panel.body, QRectF(0, 0, 292, 56));
+    EXPECT_EQ(bar.frames.back(), frame());
+    EXPECT_EQ(bar.scales.back(), 1.5);
+    EXPECT_EQ(controller->openWidth(screen), 438);
+}
+
+TEST_F(HUDControllerTest, FollowsALargerTextAtOnceWhileItIsShown)
+{
+    store.toggleManually();
+    appearance.scale = 1.25;
+    controller->appearanceChanged();
+    EXPECT_EQ(frame(), QRectF(756 - 182.5, 982 - 70, 365, 70));
+    EXPECT_EQ(desk.panel.contentScale, 1.25);
+    appearance.scale = 1;
+    controller->appearanceChanged();
+    EXPECT_EQ(frame(), QRectF(756 - 146, 982 - 56, 292, 56));
+    EXPECT_EQ(desk.panel.contentScale, 1);
+    settle();
+    EXPECT_EQ(frame(), QRectF(756 - 146, 982 - 56, 292, 56));
+}
+
+TEST_F(HUDControllerTest, GrowsAndShrinksAtTheScaleOfLargerText)
+{
+    appearance.scale = 2;
+    store.toggleManually();
+    accept(3);
+    EXPECT_EQ(desk.panel.contentScale, 2);
+    settle();
+    EXPECT_EQ(desk.panel.contentScale, 2);
+    EXPECT_EQ(desk.panel.contentSize(), view().look().layout.size);
+}
+
+TEST_F(HUDControllerTest, EnlargesNoFurtherThanTheWidestShelfFitsOnTheScreen)
+{
+    appearance.scale = 2;
+    screen->frame = {0, 0, 762, 500};
+    settings.setInViewCount(6);
+    accept(7);
+    settle();
+    EXPECT_EQ(frame(), QRectF(0, 500 - 93, 762, 93));
+    screen->frame = {0, 0, 400, 500};
+    screens.notifyChanges();
+    settle();
+    EXPECT_EQ(desk.panel.contentScale, 1);
+}
+
+TEST_F(HUDControllerTest, ANotchIsAsLargeAsItIsWhateverTheTexts)
+{
+    screen->safeAreaInsets.top = 32;
+    screen->auxiliaryTopLeftArea = QRectF(0, 950, 606, 32);
+    screen->auxiliaryTopRightArea = QRectF(906, 950, 606, 32);
+    appearance.scale = 2;
+    store.toggleManually();
+    EXPECT_EQ(snapshot().notch, QSizeF(150, 16));
+}
+
+TEST_F(HUDControllerTest, OtherColoursAreShownAtOnceInItAndInTheBar)
+{
+    settings.setInViewCount(3);
+    accept(2);
+    settle();
+    paint();
+    desk.theme.setContrast(Theme::Contrast::More);
+    controller->appearanceChanged();
+    EXPECT_FALSE(view().isMoving());
+    EXPECT_EQ(view().cellCount(), 2U);
+    EXPECT_EQ(desk.panel.body, QRectF({}, frame().size()));
+    EXPECT_EQ(bar.themeChanges, 1);
 }
 
 TEST_F(HUDControllerTest, TheNotchWidensTheShelf)

@@ -56,6 +56,20 @@ TEST(ShelfLayout, OneInViewIsAsWideAsItsTextAndControls)
     EXPECT_EQ(sizeOf(holding(2, 1)), QSizeF(100 + 111 + 67 + 28 + 11 + 24, 44));
 }
 
+TEST(ShelfLayout, NoShelfIsWiderThanTheWidest)
+{
+    double widest = 0;
+    for (int inView = 1; inView <= 6; ++inView) {
+        for (int total = 0; total <= 8; ++total) {
+            ShelfSnapshot snapshot = holding(total, inView);
+            widest = std::max(widest, preferredSize(snapshot, 190).width());
+            snapshot.receptive = true;
+            widest = std::max(widest, preferredSize(snapshot, 190).width());
+        }
+    }
+    EXPECT_EQ(widest, widestShelf);
+}
+
 TEST(ShelfLayout, TheModeFollowsTheSettingAndNotTheNumberOfItems)
 {
     EXPECT_EQ(sizeOf(holding(1, 2)).height(), 62);

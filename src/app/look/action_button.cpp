@@ -47,7 +47,7 @@ void ActionButton::paintEvent(QPaintEvent *)
     const QRectF edge = QRectF(rect()).adjusted(edgeInset, edgeInset, -edgeInset, -edgeInset);
     const double corner = m_look.length(radius);
     const QColor accent = WindowLook::accent(palette());
-    painter.setPen(isDefault() ? accent : WindowLook::tint(palette(), edgeOpacity));
+    painter.setPen(isDefault() ? accent : WindowLook::edge(palette(), edgeOpacity));
     painter.setBrush(palette().color(QPalette::Active, QPalette::Button));
     painter.drawRoundedRect(edge, corner, corner);
     painter.setPen(Qt::NoPen);

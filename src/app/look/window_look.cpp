@@ -1,23 +1,30 @@
 #include "app/look/window_look.h"
 
+#include "platform/desktop/appearance_preference.h"
+
+#include <QApplication>
+#include <QEvent>
 #include <QFontInfo>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPalette>
+#include <QPointer>
+#include <QWidget>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace corvane {
 
 namespace {
 
-/// In pixels: default fonts of desktops are up to this size. A larger one was chosen by the user,
-/// and scales the windows.
-constexpr double usualFontPixels = 15;
 constexpr double progressBarHeight = 6;
 constexpr double cardRadius = 8;
 constexpr double cardOpacity = 0.045;
+constexpr double contrastOpacity = 0.8;
+
+auto presentContrast = WindowLook::Contrast::Usual;
 
 QColor mixed(const QColor &upper, const QColor &lower, float opacity)
 {
@@ -31,6 +38,27 @@ QColor mixed(const QColor &upper, const QColor &lower, float opacity)
 WindowLook::WindowLook()
     : m_scale(std::max(1.0, QFontInfo(QGuiApplication::font()).pixelSize() / usualFontPixels))
 {
+}
+
+void WindowLook::setContrast(Contrast contrast)
+{
+    if (std::exchange(presentContrast, contrast) == contrast)
+        return;
+    QList<QPointer<QWidget>> widgets;
+    for (QWidget *widget : QApplication::allWidgets())
+        widgets << widget;
+    for (const QPointer<QWidget> &widget : std::as_const(widgets)) {
+        QEvent change(QEvent::PaletteChange);
+        if (widget)
+            QCoreApplication::sendEvent(widget, &change);
+        if (widget)
+            widget->update();
+    }
+}
+
+bool WindowLook::hasMoreContrast()
+{
+    return presentContrast == Contrast::More;
 }
 
 int WindowLook::length(double points) const
@@ -77,14 +105,16 @@ void WindowLook::drawCard(QPainter &painter, const QPalette &palette, const QRec
 {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
+    painter.setPen(edgeOfContrast(palette));
     painter.setBrush(tint(palette, cardOpacity));
-    painter.drawRoundedRect(rect, length(cardRadius), length(cardRadius));
+    painter.drawRoundedRect(insideEdge(rect), length(cardRadius), length(cardRadius));
     painter.restore();
 }
 
 QColor WindowLook::secondary(const QPalette &palette)
 {
+    if (hasMoreContrast())
+        return palette.color(QPalette::WindowText);
     // A mixed, opaque colour, because translucent letters look less sharp.
     constexpr float opacity = 0.68F;
     return mixed(palette.color(QPalette::WindowText), palette.color(QPalette::Window), opacity);
@@ -95,6 +125,22 @@ QColor WindowLook::tint(const QPalette &palette, double opacity)
     QColor color = palette.color(QPalette::WindowText);
     color.setAlphaF(static_cast<float>(opacity));
     return color;
+}
+
+QColor WindowLook::edge(const QPalette &palette, double usualOpacity)
+{
+    return tint(palette, hasMoreContrast() ? contrastOpacity : usualOpacity);
+}
+
+QPen WindowLook::edgeOfContrast(const QPalette &palette)
+{
+    return hasMoreContrast() ? QPen(edge(palette, contrastOpacity), 1) : QPen(Qt::NoPen);
+}
+
+QRectF WindowLook::insideEdge(const QRectF &rect)
+{
+    constexpr double half = 0.5;
+    return hasMoreContrast() ? rect.adjusted(half, half, -half, -half) : rect;
 }
 
 QColor WindowLook::accent(const QPalette &palette)

@@ -2,7 +2,9 @@
 
 #include <QColor>
 #include <QFont>
+#include <QPen>
 #include <QRect>
+#include <QRectF>
 #include <QSize>
 #include <QString>
 
@@ -21,6 +23,12 @@ public:
     /// For the desktop's present general font.
     WindowLook();
 
+    /// For people who need more contrast, groups and controls have visible edges, and secondary
+    /// texts are as strong as others. Windows that are shown follow at once.
+    enum class Contrast { Usual, More };
+    static void setContrast(Contrast contrast);
+    static bool hasMoreContrast();
+
     /// Converts points to device-independent pixels.
     int length(double points) const;
     QSize length(QSize points) const { return {length(points.width()), length(points.height())}; }
@@ -38,6 +46,12 @@ public:
     static QColor secondary(const QPalette &palette);
     /// The text colour at an opacity, for backgrounds, lines and controls on any palette.
     static QColor tint(const QPalette &palette, double opacity);
+    /// The line around a control or a group, which has that opacity unless contrast is wanted.
+    static QColor edge(const QPalette &palette, double usualOpacity);
+    /// The same for what has no line otherwise.
+    static QPen edgeOfContrast(const QPalette &palette);
+    /// Where that line, if there is one, lies inside `rect`.
+    static QRectF insideEdge(const QRectF &rect);
     static QColor accent(const QPalette &palette);
 
 private:

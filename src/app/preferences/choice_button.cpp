@@ -56,9 +56,10 @@ void ChoiceButton::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const double opacity = isChecked() ? chosenOpacity : underMouse() ? hoveredOpacity : 0;
-    painter.setPen(Qt::NoPen);
+    painter.setPen(WindowLook::edgeOfContrast(palette()));
     painter.setBrush(WindowLook::tint(palette(), opacity));
-    painter.drawRoundedRect(rect(), m_look.length(radius), m_look.length(radius));
+    painter.drawRoundedRect(WindowLook::insideEdge(rect()), m_look.length(radius),
+                            m_look.length(radius));
     if (focus_ring::isWanted(*this))
         focus_ring::draw(painter, palette(), rect(), m_look.length(radius));
     painter.setFont(presentFont());

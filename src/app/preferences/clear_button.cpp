@@ -44,7 +44,7 @@ void ClearButton::paintEvent(QPaintEvent *)
         focus_ring::draw(painter, palette(), bounds, bounds.width() / 2);
     painter.setOpacity(isEnabled() ? 1 : dimmedOpacity);
     const double inset = m_look.length(groundInset);
-    painter.setPen(Qt::NoPen);
+    painter.setPen(WindowLook::edgeOfContrast(palette()));
     painter.setBrush(
         WindowLook::tint(palette(), isEnabled() && underMouse() ? hoveredOpacity : groundOpacity));
     painter.drawEllipse(bounds.adjusted(inset, inset, -inset, -inset));

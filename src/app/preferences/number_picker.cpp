@@ -66,9 +66,10 @@ void NumberPicker::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
+    painter.setPen(WindowLook::edgeOfContrast(palette()));
     painter.setBrush(WindowLook::tint(palette(), frameOpacity));
-    painter.drawRoundedRect(rect(), m_look.length(frameRadius), m_look.length(frameRadius));
+    painter.drawRoundedRect(WindowLook::insideEdge(rect()), m_look.length(frameRadius),
+                            m_look.length(frameRadius));
 }
 
 } // namespace corvane

@@ -32,7 +32,7 @@ protected:
         for (int i = 1; i < layout()->count(); ++i) {
             const int y = layout()->itemAt(i)->geometry().top();
             painter.fillRect(QRect(inset, y, width() - 2 * inset, 1),
-                             WindowLook::tint(palette(), lineOpacity));
+                             WindowLook::edge(palette(), lineOpacity));
         }
     }
 

@@ -36,7 +36,7 @@ public:
 protected:
     void paintEvent(QPaintEvent *) override
     {
-        QPainter(this).fillRect(rect(), WindowLook::tint(palette(), dividerOpacity));
+        QPainter(this).fillRect(rect(), WindowLook::edge(palette(), dividerOpacity));
     }
 };
 

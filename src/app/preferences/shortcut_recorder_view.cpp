@@ -125,7 +125,7 @@ void ShortcutRecorderView::paintEvent(QPaintEvent *)
     fill.setAlphaF(recordingFillOpacity);
     painter.setBrush(isRecording() ? fill : palette().color(QPalette::Button));
     painter.setPen(isRecording() ? QPen(accent, recordingLine)
-                                 : QPen(WindowLook::tint(palette(), separatorOpacity), usualLine));
+                                 : QPen(WindowLook::edge(palette(), separatorOpacity), usualLine));
     painter.drawRoundedRect(QRectF(rect()).adjusted(edgeInset, edgeInset, -edgeInset, -edgeInset),
                             radius, radius);
     if (hasFocus() && m_showsFocus && !isRecording())

@@ -80,9 +80,9 @@ void SwitchButton::paintEvent(QPaintEvent *)
         focus_ring::draw(painter, palette(), track.adjusted(-room, -room, room, room),
                          radius + room);
     }
-    painter.setPen(Qt::NoPen);
+    painter.setPen(WindowLook::edgeOfContrast(palette()));
     painter.setBrush(trackColor());
-    painter.drawRoundedRect(track, radius, radius);
+    painter.drawRoundedRect(WindowLook::insideEdge(track), radius, radius);
 
     const double inset = m_look.length(knobInset);
     const double share = layoutDirection() == Qt::RightToLeft ? 1 - m_knob.currentValue().toDouble()

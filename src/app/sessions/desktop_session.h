@@ -41,6 +41,8 @@ struct DesktopSession {
     WindowActivation &windowActivation;
     /// Null for sessions without a tray of their own.
     TrayWatch *trayWatch = nullptr;
+    /// The screens' scale grows with the desktop's text scale.
+    bool textScaleIsInScreens = false;
 };
 
 /// What a session needs from the program. Everything must outlive it.

@@ -43,7 +43,9 @@ DesktopSession X11Session::desktop()
             .dropSupport = &dropSupport,
             .dragSupport = &dragSupport,
             .windowActivation = windowActivation,
-            .trayWatch = &trayWatch};
+            .trayWatch = &trayWatch,
+            // The toolkit takes it for a density of the X server's screens.
+            .textScaleIsInScreens = true};
 }
 
 } // namespace corvane

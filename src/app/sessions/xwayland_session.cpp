@@ -50,7 +50,9 @@ DesktopSession XWaylandSession::desktop()
             .dropSupport = &dropSupport,
             .dragSupport = &dragSupport,
             .windowActivation = windowActivation,
-            .trayWatch = &trayWatch};
+            .trayWatch = &trayWatch,
+            // The toolkit takes it for a density of the X server's screens.
+            .textScaleIsInScreens = true};
 }
 
 } // namespace corvane

@@ -44,9 +44,10 @@ void ViewAllController::wireView()
     m_view.onMessage = [this](const Message &message) { m_context.feedback.show(message); };
 }
 
-void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &screen)
+void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &screen, double scale)
 {
     m_pillFrame = pillFrame;
+    m_scale = scale;
     m_lastScreen = screen;
     const bool isDragged = m_store.isDragInFlight() || m_store.isOwnDrag();
     const bool isDraggedOrWasJustNow = std::exchange(m_sawDrag, isDragged) || isDragged;
@@ -71,14 +72,15 @@ bool ViewAllController::findWhetherWanted()
 void ViewAllController::show(const ScreenPointer &screen, bool isDragged)
 {
     const double width = std::round(screen->frame.width() * widthShare);
-    const double fromTop = maxY(screen->frame) - minY(m_pillFrame) + gap;
-    const PanelPlacement placement{screen, fromTop, {width, view_all_layout::barHeight}};
-    if (m_panel.frame() != frameOf(placement))
+    const double height = std::ceil(view_all_layout::barHeight * m_scale);
+    const double fromTop = maxY(screen->frame) - minY(m_pillFrame) + gap * m_scale;
+    const PanelPlacement placement{screen, fromTop, {width, height}, 0, m_scale};
+    if (m_panel.frame() != frameOf(placement)
+        || m_panel.contentSize() != contentSizeOf(placement.size, m_scale))
         m_panel.place(placement);
 
     const auto count = static_cast<int>(m_store.items().size());
-    m_offset
-        = view_all_layout::clampedOffset(m_offset, count, view_all_layout::itemsPerPage(width));
+    m_offset = view_all_layout::clampedOffset(m_offset, count, m_view.itemsPerPage());
     m_view.apply(m_store.items(), m_store.selection(), m_offset);
 
     const bool wasShown = m_panel.isVisible();
@@ -135,7 +137,7 @@ void ViewAllController::scroll(int step)
 {
     m_offset = std::max(0, checkedAdd(m_offset, step));
     // A copy: `render` takes a reference and assigns to `m_pillFrame`.
-    render(QRectF(m_pillFrame), m_lastScreen.lock());
+    render(QRectF(m_pillFrame), m_lastScreen.lock(), m_scale);
 }
 
 void ViewAllController::startWatchingOutsideClicks()

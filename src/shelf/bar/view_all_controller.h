@@ -48,8 +48,9 @@ public:
     ViewAllController(const ViewAllController &) = delete;
     ViewAllController &operator=(const ViewAllController &) = delete;
 
-    void render(const QRectF &pillFrame, const ScreenPointer &screen) override;
+    void render(const QRectF &pillFrame, const ScreenPointer &screen, double scale) override;
     bool isShown() const override { return m_panel.isVisible(); }
+    void themeChanged() override { m_view.themeChanged(); }
     void shelfIsToggledByHand() override;
     void shelfWasPressed() override;
 
@@ -73,6 +74,7 @@ private:
     ShelfStore &m_store;
     int m_offset = 0;
     QRectF m_pillFrame;
+    double m_scale = 1;
     std::weak_ptr<const Screen> m_lastScreen;
     Subscription m_clickWatch;
     /// Whether something was being dragged when the bar was last rendered.

@@ -13,6 +13,9 @@ namespace corvane {
 
 namespace {
 
+constexpr double buttonBorderRadius = 5;
+constexpr double buttonBorderOutset = 3;
+
 void apply(Layer &layer, const ViewAllLayout::Button &layout)
 {
     layer.setFrame(layout.frame);
@@ -48,6 +51,11 @@ void ViewAllLayers::setUp()
     m_leftArrow.plate.addSublayer(m_leftArrow.caret);
     m_rightArrow.plate.addSublayer(m_rightArrow.caret);
 
+    const QColor border = m_theme.palette.border;
+    m_glass->setBorder({border, cornerRadius, 0});
+    for (Layer *button :
+         {static_cast<Layer *>(&m_copyButton), static_cast<Layer *>(&m_trashButton)})
+        button->setBorder({border, buttonBorderRadius, buttonBorderOutset});
     const QColor tint = m_theme.palette.emphasis;
     const double side = view_all_layout::buttonSide;
     m_copyButton.setIcon(StrokeIcon::Copy, side, 1, tint);
@@ -89,6 +97,7 @@ void ViewAllLayers::apply(ArrowLayers &arrow, const ViewAllLayout::Arrow &layout
     using Fill = ViewAllLayout::Fill;
     arrow.plate.setFrame(layout.frame);
     arrow.plate.setCornerRadius(layout.frame.width() / 2);
+    arrow.plate.setBorder({palette.border, layout.frame.width() / 2, 0});
     arrow.plate.setOpacity(layout.opacity);
     arrow.plate.setBackgroundColor(layout.fill == Fill::Off         ? palette.buttonFillOff
                                        : layout.fill == Fill::Hover ? palette.buttonFillHover

@@ -91,6 +91,7 @@ ViewAllTile::ViewAllTile(LayerTree &tree, Layer &superlayer, const Theme &theme)
     m_thumb.setCornerRadius(thumbCornerRadius);
     // Visible behind glyphs, and beside pictures that are not square.
     m_thumb.setBackgroundColor(Theme::Palette::white(0.05));
+    m_thumb.setBorder({theme.palette.border, thumbCornerRadius, 0});
     m_ring.setStroke(QPen(theme.palette.thumbRing, ringWidth));
     m_ring.setOpacity(0);
     m_caption.setFont(theme.typography.tile);

@@ -9,13 +9,14 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 namespace corvane {
 
 ViewAllView::ViewAllView(const Context &context)
     : m_context(context)
     , m_tree(context.queue, context.motionPreference)
-    , m_layers(m_tree, context.theme)
+    , m_layers(std::in_place, m_tree, context.theme)
     , m_dragSource({.panel = context.panel,
                     .keyboard = context.keyboard,
                     .dragWriter = context.dragWriter,
@@ -24,7 +25,7 @@ ViewAllView::ViewAllView(const Context &context)
 {
     wireDragSource();
     m_tree.onNeedsDisplay = [this] {
-        m_context.panel.setNeedsDisplay({{0, 0}, m_context.panel.frame().size()});
+        m_context.panel.setNeedsDisplay({{0, 0}, m_context.panel.contentSize()});
     };
     relayout();
 }
@@ -36,7 +37,7 @@ ViewAllView::~ViewAllView()
 
 int ViewAllView::itemsPerPage() const
 {
-    return view_all_layout::itemsPerPage(m_context.panel.frame().width());
+    return view_all_layout::itemsPerPage(m_context.panel.contentSize().width());
 }
 
 view_all_layout::Range ViewAllView::visible() const
@@ -55,6 +56,12 @@ void ViewAllView::apply(const QList<DropItem> &items, const QSet<QUuid> &selecti
     // The bar may have paged under a pointer that does not move.
     if (findHovered())
         relayout();
+}
+
+void ViewAllView::themeChanged()
+{
+    m_layers.emplace(m_tree, m_context.theme);
+    relayout();
 }
 
 void ViewAllView::wasHidden()
@@ -89,7 +96,7 @@ std::span<const DropItem> ViewAllView::page() const
 ViewAllState ViewAllView::state() const
 {
     ViewAllState state;
-    state.size = m_context.panel.frame().size();
+    state.size = m_context.panel.contentSize();
     state.itemCount = itemCount();
     state.selectedCount = m_selection ? static_cast<int>(m_selection->size()) : 0;
     state.offset = m_offset;
@@ -108,8 +115,8 @@ void ViewAllView::relayout()
     const auto stops = view_all_focus::stops(now);
     if (std::ranges::find(stops, m_focus.control) == stops.end())
         m_focus.control.reset();
-    m_layers.apply(m_layout, page());
-    m_layers.showFocus(view_all_focus::ringAround(m_focus, m_layout, m_offset));
+    m_layers->apply(m_layout, page());
+    m_layers->showFocus(view_all_focus::ringAround(m_focus, m_layout, m_offset));
     const QRectF bounds({0, 0}, m_layout.size);
     m_context.panel.setBody(bounds, ViewAllLayers::outline(bounds));
     m_context.panel.accessibleChanged();
@@ -119,7 +126,7 @@ void ViewAllView::paint(QPainter &painter, QSizeF /*size*/, double scale)
 {
     m_scale = scale;
     painter.setRenderHint(QPainter::Antialiasing);
-    m_layers.render(painter, scale);
+    m_layers->render(painter, scale);
 }
 
 AccessibleNode ViewAllView::accessible() const

@@ -73,6 +73,8 @@ public:
     /// set are not copied and are read again at every event, so they must stay where they are. With
     /// a copy, the next change of one of many thousand items would copy them all.
     void apply(const QList<DropItem> &items, const QSet<QUuid> &selection, int offset);
+    /// To be called after the theme's colours have changed.
+    void themeChanged();
     /// To be called when the bar was hidden: ends a press that is going on, and ignores keys and
     /// presses that still arrive, until `apply`.
     void wasHidden();
@@ -86,8 +88,8 @@ public:
     const ViewAllLayout &layout() const { return m_layout; }
     std::optional<ViewAllControl> hoveredControl() const { return m_hoveredControl; }
     std::optional<QUuid> hovered() const { return m_hovered; }
-    std::size_t tileCount() const { return m_layers.tileCount(); }
-    const ViewAllLayers &layers() const { return m_layers; }
+    std::size_t tileCount() const { return m_layers->tileCount(); }
+    const ViewAllLayers &layers() const { return *m_layers; }
     const ViewAllFocus &focus() const { return m_focus; }
 
     void paint(QPainter &painter, QSizeF size, double scale) override;
@@ -135,7 +137,8 @@ private:
 
     Context m_context;
     LayerTree m_tree;
-    ViewAllLayers m_layers;
+    /// Always there; made anew for other colours.
+    std::optional<ViewAllLayers> m_layers;
     DragSource m_dragSource;
 
     const QList<DropItem> *m_items = nullptr;

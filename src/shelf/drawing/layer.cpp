@@ -89,6 +89,14 @@ void Layer::setBackgroundColor(const QColor &color)
     needsDisplay();
 }
 
+void Layer::setBorder(const Border &border)
+{
+    if (m_border == border)
+        return;
+    m_border = border;
+    needsDisplay();
+}
+
 namespace {
 
 QString keyPath(int key)
@@ -192,11 +200,23 @@ void Layer::render(QPainter &painter, double scale) const
     if (opacity < 1)
         painter.setOpacity(painter.opacity() * opacity);
     draw(painter, frame.size(), scale);
+    drawBorder(painter, frame.size());
     if (m_clipsSublayers)
         painter.setClipRect(QRectF({0, 0}, frame.size()), Qt::IntersectClip);
     for (const Layer *sublayer : m_sublayers)
         sublayer->render(painter, scale);
     painter.restore();
+}
+
+void Layer::drawBorder(QPainter &painter, QSizeF size) const
+{
+    if (m_border.color.alpha() == 0 || size.isEmpty())
+        return;
+    const double inset = 0.5 - m_border.outset;
+    painter.setPen(QPen(m_border.color, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF({0, 0}, size).adjusted(inset, inset, -inset, -inset),
+                            m_border.radius, m_border.radius);
 }
 
 void Layer::draw(QPainter &painter, QSizeF size, double /*scale*/) const

@@ -34,6 +34,15 @@ public:
         friend bool operator==(const Transform &, const Transform &) = default;
     };
 
+    /// A line of one point inside the layer's rectangle, grown by `outset`.
+    struct Border {
+        QColor color = Qt::transparent;
+        double radius = 0;
+        double outset = 0;
+
+        friend bool operator==(const Border &, const Border &) = default;
+    };
+
     explicit Layer(LayerTree &tree);
     Layer(const Layer &) = delete;
     Layer &operator=(const Layer &) = delete;
@@ -62,6 +71,8 @@ public:
     void setCornerRadius(double radius);
     QColor backgroundColor() const { return m_backgroundColor; }
     void setBackgroundColor(const QColor &color);
+    const Border &border() const { return m_border; }
+    void setBorder(const Border &border);
     /// Sublayers are cut to this layer's rectangle.
     void setClipsSublayers(bool clips) { m_clipsSublayers = clips; }
     bool clipsSublayers() const { return m_clipsSublayers; }
@@ -98,6 +109,7 @@ private:
     /// False when nothing moves any more.
     bool dropFinishedMotions();
     QSizeF presentedBounds() const;
+    void drawBorder(QPainter &painter, QSizeF size) const;
 
     LayerTree &m_tree;
     const LayerAnimator *m_delegate = nullptr;
@@ -110,6 +122,7 @@ private:
     double m_opacity = 1;
     double m_cornerRadius = 0;
     QColor m_backgroundColor = Qt::transparent;
+    Border m_border;
     bool m_clipsSublayers = false;
     mutable bool m_wasPainted = false;
     std::map<Key, MovingValue> m_moving;

@@ -21,6 +21,27 @@ double Theme::Motion::settlingDuration()
     return duration;
 }
 
+Theme::Palette Theme::Palette::ofMoreContrast()
+{
+    Palette palette;
+    palette.hairline = white(1);
+    palette.primary = white(1);
+    palette.secondary = white(0.92);
+    palette.control = white(1);
+    palette.controlPlate = white(0.2);
+    palette.divider = white(0.8);
+    palette.thumbRing = white(0.8);
+    palette.emphasis = white(1);
+    palette.dropRingActive = white(1);
+    palette.border = white(0.8);
+    return palette;
+}
+
+void Theme::setContrast(Contrast contrast)
+{
+    palette = contrast == Contrast::More ? Palette::ofMoreContrast() : Palette();
+}
+
 Theme::Theme(const QFont &generalFont, double logicalDotsPerInch)
     : typography{sized(generalFont, 11, QFont::Medium, logicalDotsPerInch),
                  sized(generalFont, 10, QFont::Normal, logicalDotsPerInch),

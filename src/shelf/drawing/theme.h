@@ -24,6 +24,11 @@ struct Theme {
         QColor thumbRing = white(0.16);
         QColor emphasis = white(0.92);
         QColor dropRingActive = white(0.34);
+        /// Of items, buttons and the bar; only for more contrast.
+        QColor border = Qt::transparent;
+
+        /// For people who need more contrast: what is seen is as white as it can be, and has edges.
+        static Palette ofMoreContrast();
 
         static QColor white(double opacity)
         {
@@ -49,6 +54,11 @@ struct Theme {
     /// The fonts are `generalFont`, the desktop's general font, in sizes of device-independent
     /// pixels. `logicalDotsPerInch` is the density by which Qt converts font points to pixels.
     Theme(const QFont &generalFont, double logicalDotsPerInch);
+
+    enum class Contrast { Usual, More };
+    /// Those who draw with it have to be told.
+    void setContrast(Contrast contrast);
+    bool hasMoreContrast() const { return palette.border.alpha() > 0; }
 
     Palette palette;
     Typography typography;

@@ -222,7 +222,7 @@ TextTable textsOfTheShelfsMessages()
               model.store.toggleViewAll();
               if (isAlone)
                   model.store.toggleSelection(items.constFirst());
-              bar.render({600, 900, 300, 60}, model.screen);
+              bar.render({600, 900, 300, 60}, model.screen, 1);
               const QPointF middle = bar.view().layout().tiles.at(0).root.center();
               panel.content->mouseDown({middle});
               panel.content->mouseDragged({middle + QPointF(9, 0)});
@@ -261,7 +261,7 @@ TextTable textsOfTheBar()
     model.store.toggleViewAll();
     QStringList lines;
     const auto add = [&](const char *state) {
-        bar.render({600, 900, 300, 60}, model.screen);
+        bar.render({600, 900, 300, 60}, model.screen, 1);
         lines << QLatin1String(state) + QLatin1String(": ") + bar.view().layout().selectionText;
     };
     add("all of three ticked");

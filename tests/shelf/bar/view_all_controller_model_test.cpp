@@ -129,7 +129,7 @@ private:
         const bool isClosed = store.state() == ShelfState::Idle;
         const QRectF frame = isClosed ? QRectF() : pill;
         const ScreenPointer on = isClosed ? nullptr : screen;
-        bar->render(frame, on);
+        bar->render(frame, on, 1);
         model.render({frame, on.get(), store.isViewAllOpen(),
                       static_cast<int>(store.items().size()),
                       store.isDragInFlight() || store.isOwnDrag()});

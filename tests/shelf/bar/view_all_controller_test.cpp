@@ -95,6 +95,20 @@ TEST_F(ViewAllControllerTest, hangsBelowThePillInTheMiddleOfTheScreen)
     EXPECT_EQ(view().tileCount(), 12U);
 }
 
+TEST_F(ViewAllControllerTest, isAsMuchLargerAsTheShelf)
+{
+    open(20);
+    bar->render(pill(), screen, 1.5);
+    EXPECT_EQ(panel.frame(), QRectF(756 - 605, pill().y() - 15 - 198, 1210, 198));
+    EXPECT_NEAR(view().layout().size.width(), 1210 / 1.5, 0.001);
+    EXPECT_EQ(view().layout().size.height(), 132);
+    EXPECT_EQ(view().tileCount(), 8U) << "as many as fit at their size";
+    view().onScroll(1);
+    EXPECT_EQ(panel.contentScale, 1.5) << "it pages at its size";
+    bar->render(pill(), screen, 1);
+    EXPECT_EQ(view().tileCount(), 12U);
+}
+
 TEST_F(ViewAllControllerTest, followsTheShelfToAnotherScreen)
 {
     open(2);
