@@ -67,7 +67,7 @@ void AppDelegate::wireDragDetection()
 
 void AppDelegate::dragBegan()
 {
-    m_isDragGoingOn = true;
+    m_context.hud.dragChanged(true);
     m_isDragEndAssumed = false;
     if (!m_context.settings.autoShowOnDrag())
         return;
@@ -77,7 +77,7 @@ void AppDelegate::dragBegan()
 
 void AppDelegate::dragEnded(DragEnd end)
 {
-    m_isDragGoingOn = false;
+    m_context.hud.dragChanged(false);
     m_isDragEndAssumed = end == DragEnd::Assumed;
     // An empty shelf would close although a drop is on its way to it.
     m_isDragEndOwed = m_isAwaitingDrop && m_context.store.items().isEmpty();
@@ -168,8 +168,7 @@ bool AppDelegate::perform(const QString &action)
 
 void AppDelegate::toggleShelf()
 {
-    using Keys = HUDController::Keys;
-    m_context.hud.toggleByHand(m_isDragGoingOn ? Keys::LeftAlone : Keys::Taken);
+    m_context.hud.toggleByHand();
 }
 
 void AppDelegate::showAll()

@@ -83,8 +83,6 @@ private:
     Context m_context;
     bool m_isTerminated = false;
     bool m_isAwaitingDrop = false;
-    /// Somebody drags something, also if the shelf does not open for it.
-    bool m_isDragGoingOn = false;
     /// The drag has ended, but the store is told of that only when the drop's contents are here.
     bool m_isDragEndOwed = false;
     /// A drag is over only as far as the watch could tell.

@@ -98,6 +98,8 @@ void HUDController::wireShelf()
             m_context.viewAll->shelfWasPressed();
     };
     m_shelf.onClose = [this] { closeEmptyShelf(); };
+    if (m_context.viewAll)
+        m_context.viewAll->onPaste = m_lifetime.guard([this] { m_panel.paste(); });
     m_shelf.onQuickLook = [this] {
         const auto item = m_store.focusedItem();
         if (item && m_context.presenter)
@@ -278,13 +280,20 @@ void HUDController::scheduleHide()
     }));
 }
 
-void HUDController::toggleByHand(Keys keys)
+void HUDController::dragChanged(bool isGoingOn)
+{
+    m_isDragGoingOn = isGoingOn;
+    if (m_context.viewAll)
+        m_context.viewAll->dragChanged(isGoingOn);
+}
+
+void HUDController::toggleByHand()
 {
     if (m_context.viewAll)
         m_context.viewAll->shelfIsToggledByHand();
     m_store.toggleManually();
-    const bool isDragged = m_store.isDragInFlight() || m_store.isOwnDrag();
-    if (keys == Keys::Taken && !isDragged && m_store.state() != ShelfState::Idle)
+    const bool isDragged = m_isDragGoingOn || m_store.isDragInFlight() || m_store.isOwnDrag();
+    if (!isDragged && m_store.state() != ShelfState::Idle)
         takeKeyboard();
 }
 

@@ -62,15 +62,13 @@ public:
     HUDController(const HUDController &) = delete;
     HUDController &operator=(const HUDController &) = delete;
 
-    /// Whether the shelf, when it opens, is given the keyboard. Not while something is dragged: the
-    /// drag's source may give up when it loses the keyboard.
-    enum class Keys {
-        Taken,
-        LeftAlone,
-    };
-    /// To be called when the user opens or closes the shelf by a hot key or a menu. A bar that was
-    /// left open has the keyboard in place of the shelf.
-    void toggleByHand(Keys keys = Keys::Taken);
+    /// To be called when the user opens or closes the shelf by a hot key or a menu. It is given the
+    /// keyboard when it opens, or a bar that was left open in its place; not while something is
+    /// dragged.
+    void toggleByHand();
+    /// To be called when a drag begins anywhere, whether or not the shelf opens for it, and when it
+    /// has ended. The drag's source may give up when it loses the keyboard.
+    void dragChanged(bool isGoingOn);
     /// To be called before the shelf is shown without the user having asked: for so many seconds
     /// its clicks go to the window below, because the user may click there without having seen the
     /// shelf.
@@ -119,6 +117,7 @@ private:
     Lifetime m_pendingShrink;
     Lifetime m_pendingClicks;
     bool m_letsClicksThrough = false;
+    bool m_isDragGoingOn = false;
     /// The size of the last resize's target, and how far the springs that are moving go beyond it.
     QSizeF m_target;
     QSizeF m_overshoot{0, 0};

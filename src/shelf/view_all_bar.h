@@ -23,6 +23,12 @@ public:
     /// The user opens or closes the shelf by a hot key or a menu, so keys are meant for the bar if
     /// it opens, too.
     virtual void shelfIsToggledByHand() = 0;
+    /// Something is being dragged anywhere, also where the store is not told of it, or no more. A
+    /// bar that opens meanwhile leaves the keyboard where it is: the drag's source may give up when
+    /// it loses it.
+    virtual void dragChanged(bool isGoingOn) = 0;
+    /// The user wants the clipboard on the shelf while the bar has the keyboard.
+    std::function<void()> onPaste;
     /// The user has pressed the shelf; if the bar is shown, it takes the keyboard back.
     virtual void shelfWasPressed() = 0;
 };

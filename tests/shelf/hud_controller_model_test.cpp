@@ -24,6 +24,7 @@ struct TellingBar : ViewAllBar {
     void themeChanged() override { }
     void shelfIsToggledByHand() override { }
     void shelfWasPressed() override { }
+    void dragChanged(bool /*isGoingOn*/) override { }
 
     std::function<void(const QRectF &, const ScreenPointer &)> onRendered;
 };

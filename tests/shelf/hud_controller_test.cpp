@@ -32,6 +32,8 @@ struct RecordingViewAllBar : ViewAllBar {
     void themeChanged() override { ++themeChanges; }
     void shelfIsToggledByHand() override { rendersBeforeHand = frames.size(); }
     void shelfWasPressed() override { ++presses; }
+    void dragChanged(bool isGoingOn) override { isDragGoingOn = isGoingOn; }
+    bool isDragGoingOn = false;
     bool isOpen = false;
     const ShelfView *shelf = nullptr;
     int presses = 0;
@@ -724,15 +726,29 @@ TEST_F(HUDControllerTest, OpenedByHandItHasTheKeyboardAndClosedByHandItGivesItBa
 
 TEST_F(HUDControllerTest, OpenedInTheMiddleOfADragItLeavesTheKeyboardWhereItIs)
 {
-    controller->toggleByHand(HUDController::Keys::LeftAlone);
+    controller->dragChanged(true);
+    controller->toggleByHand();
     EXPECT_TRUE(desk.panel.visible);
-    EXPECT_FALSE(desk.panel.isKey);
+    EXPECT_FALSE(desk.panel.isKey) << "the shelf does not open for drags, and is not told of them";
+    EXPECT_TRUE(bar.isDragGoingOn);
+    controller->dragChanged(false);
+    EXPECT_FALSE(bar.isDragGoingOn);
     controller->toggleByHand();
     accept(1);
     store.ownDragChanged(true);
     controller->toggleByHand();
     controller->toggleByHand();
     EXPECT_FALSE(desk.panel.isKey) << "what is dragged came from the shelf";
+}
+
+TEST_F(HUDControllerTest, WhatIsPastedIntoTheBarComesToTheShelf)
+{
+    accept(2);
+    bar.onPaste();
+    EXPECT_EQ(desk.panel.pastes, 1);
+    controller.reset();
+    bar.onPaste();
+    EXPECT_EQ(desk.panel.pastes, 1) << "it may outlive the shelf";
 }
 
 TEST_F(HUDControllerTest, ABarThatOpensWithItHasTheKeyboardInItsPlace)

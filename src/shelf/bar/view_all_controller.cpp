@@ -39,6 +39,10 @@ void ViewAllController::wireView()
     m_view.onCopySelected = [this] { m_context.quickActions.copy(m_store.selectedItems()); };
     m_view.onEjected = [this](const QList<QUuid> &ids, bool keep) { m_store.ejected(ids, keep); };
     m_view.onScroll = [this](int step) { scroll(step); };
+    m_view.onPaste = [this] {
+        if (onPaste)
+            onPaste();
+    };
     m_view.onClose = [this] { m_store.closeViewAll(); };
     m_view.onDragOutChanged = [this](bool isDraggingOut) { m_store.ownDragChanged(isDraggingOut); };
     m_view.onMessage = [this](const Message &message) { m_context.feedback.show(message); };
@@ -49,7 +53,7 @@ void ViewAllController::render(const QRectF &pillFrame, const ScreenPointer &scr
     m_pillFrame = pillFrame;
     m_scale = scale;
     m_lastScreen = screen;
-    const bool isDragged = m_store.isDragInFlight() || m_store.isOwnDrag();
+    const bool isDragged = m_isDragGoingOn || m_store.isDragInFlight() || m_store.isOwnDrag();
     const bool isDraggedOrWasJustNow = std::exchange(m_sawDrag, isDragged) || isDragged;
     const bool isWanted = findWhetherWanted();
     if (m_store.isViewAllOpen() && screen && m_store.items().size() >= minimumItems) {

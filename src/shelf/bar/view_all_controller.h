@@ -52,6 +52,7 @@ public:
     bool isShown() const override { return m_panel.isVisible(); }
     void themeChanged() override { m_view.themeChanged(); }
     void shelfIsToggledByHand() override;
+    void dragChanged(bool isGoingOn) override { m_isDragGoingOn = isGoingOn; }
     void shelfWasPressed() override;
 
     const ViewAllView &view() const { return m_view; }
@@ -77,6 +78,7 @@ private:
     double m_scale = 1;
     std::weak_ptr<const Screen> m_lastScreen;
     Subscription m_clickWatch;
+    bool m_isDragGoingOn = false;
     /// Whether something was being dragged when the bar was last rendered.
     bool m_sawDrag = false;
     bool m_sawOpen = false;

@@ -65,6 +65,8 @@ public:
     /// -1 is back, 1 forward; more for a key that goes further.
     std::function<void(int step)> onScroll;
     std::function<void()> onClose;
+    /// What is on the clipboard is wanted on the shelf.
+    std::function<void()> onPaste;
     std::function<void(bool isDraggingOut)> onDragOutChanged;
     /// A message for the user about a drag.
     std::function<void(const Message &message)> onMessage;

@@ -169,6 +169,7 @@ bool ViewAllView::keyDown(const KeyEvent &event)
     switch (event.key) {
     case TypedKey::A:
     case TypedKey::C:
+    case TypedKey::V:
         if (!isCommand)
             return false;
         break;
@@ -179,7 +180,7 @@ bool ViewAllView::keyDown(const KeyEvent &event)
     default:
         return false;
     }
-    // All of these keys remove or toggle something: not again for a held key's repeats.
+    // All of these keys add, remove or toggle something: not again for a held key's repeats.
     if (!event.isRepeat)
         pressKey(event.key);
     return true;
@@ -193,6 +194,9 @@ void ViewAllView::pressKey(TypedKey key) const
         break;
     case TypedKey::C:
         call(onCopySelected);
+        break;
+    case TypedKey::V:
+        call(onPaste);
         break;
     case TypedKey::Escape:
         call(onClose);

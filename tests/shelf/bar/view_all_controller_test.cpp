@@ -341,6 +341,24 @@ TEST_F(ViewAllControllerTest, aPressOnTheShelfLeavesTheKeysWithTheBar)
     EXPECT_FALSE(panel.isKey) << "closed by that press";
 }
 
+TEST_F(ViewAllControllerTest, takesNoKeyboardFromADragThatTheShelfDoesNotOpenFor)
+{
+    accept(3);
+    bar->dragChanged(true);
+    setOpen(true);
+    EXPECT_TRUE(panel.visible);
+    EXPECT_FALSE(panel.isKey);
+    bar->dragChanged(false);
+    publishItems();
+    EXPECT_FALSE(panel.isKey);
+    panel.othersHaveKeyboard = true;
+    publishItems();
+    EXPECT_FALSE(panel.isKey) << "nor later, without the user having turned to it";
+    setOpen(false);
+    setOpen(true);
+    EXPECT_TRUE(panel.isKey);
+}
+
 TEST_F(ViewAllControllerTest, takesNoKeyboardFromADragThatGoesOnNorAtItsEnd)
 {
     accept(3);

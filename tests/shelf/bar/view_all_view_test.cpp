@@ -35,6 +35,7 @@ protected:
         };
         view->onScroll = [this](int step) { log << QStringLiteral("scroll %1").arg(step); };
         view->onClose = [this] { log << QStringLiteral("close"); };
+        view->onPaste = [this] { log << QStringLiteral("paste"); };
         view->onDragOutChanged = [this](bool on) { log << QStringLiteral("dragOut %1").arg(on); };
         view->onMessage = [this](const Message &message) { log << message.text(); };
     }
@@ -643,13 +644,16 @@ TEST_F(ViewAllViewTest, commandAndALetterActOnTheSelection)
     show(3);
     EXPECT_TRUE(key(TypedKey::A, Modifier::Command));
     EXPECT_TRUE(key(TypedKey::C, Modifier::Command));
-    EXPECT_EQ(log, (QStringList{QStringLiteral("select all"), QStringLiteral("copy")}));
+    EXPECT_TRUE(key(TypedKey::V, Modifier::Command));
+    EXPECT_EQ(log,
+              (QStringList{QStringLiteral("select all"), QStringLiteral("copy"),
+                           QStringLiteral("paste")}));
 }
 
 TEST_F(ViewAllViewTest, aHeldKeyActsOnce)
 {
     show(3);
-    for (const TypedKey code : {TypedKey::A, TypedKey::C, TypedKey::DeleteBackward,
+    for (const TypedKey code : {TypedKey::A, TypedKey::C, TypedKey::V, TypedKey::DeleteBackward,
                                 TypedKey::DeleteForward, TypedKey::Escape})
         EXPECT_TRUE(view->keyDown({code, Modifier::Command, true})) << "nor is it passed on";
     EXPECT_EQ(log, QStringList());
@@ -707,7 +711,7 @@ TEST_F(ViewAllViewTest, plainLettersArePassedOn)
     EXPECT_FALSE(key(TypedKey::A));
     EXPECT_FALSE(key(TypedKey::C));
     EXPECT_FALSE(key(TypedKey::C, Modifier::Shift));
-    EXPECT_FALSE(key(TypedKey::V, Modifier::Command));
+    EXPECT_FALSE(key(TypedKey::V));
     EXPECT_FALSE(key(TypedKey::UpArrow));
     EXPECT_FALSE(key(TypedKey::Unknown));
     EXPECT_EQ(log, QStringList());
