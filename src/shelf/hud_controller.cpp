@@ -98,6 +98,7 @@ void HUDController::wireShelf()
             m_context.viewAll->shelfWasPressed();
     };
     m_shelf.onClose = [this] { closeEmptyShelf(); };
+    m_shelf.onWantsRoom = [this] { giveRoom(); };
     if (m_context.viewAll)
         m_context.viewAll->onPaste = m_lifetime.guard([this] { m_panel.paste(); });
     m_shelf.onQuickLook = [this] {
@@ -220,6 +221,15 @@ void HUDController::render()
         m_context.viewAll->render(pillFrame, isShown ? screen : nullptr, atTop.scale);
     if (!isShown)
         scheduleHide();
+}
+
+/// For a message that has come or gone; nothing of the model has changed.
+void HUDController::giveRoom()
+{
+    const ScreenPointer screen = m_lastScreen.lock();
+    const ShelfSnapshot &shown = m_shelf.look().snapshot;
+    if (screen && m_panel.isVisible() && shown.state != ShelfState::Idle)
+        resizeWindow(placementOf(shown, screen));
 }
 
 void HUDController::resizeWindow(const PanelPlacement &target)

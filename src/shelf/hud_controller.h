@@ -99,6 +99,7 @@ private:
     ShelfSnapshot makeSnapshot(const ScreenPointer &screen) const;
     PanelPlacement placementOf(const ShelfSnapshot &snapshot, const ScreenPointer &screen) const;
     void render();
+    void giveRoom();
     void resizeWindow(const PanelPlacement &target);
     QSizeF withOvershoot(QSizeF target, QSizeF before);
     void scheduleHide();

@@ -20,6 +20,9 @@ constexpr double carouselThumb = 32;
 constexpr double singleThumb = 30;
 constexpr double thumbColumn = 39;
 constexpr double textGap = 9;
+constexpr double textMargin = 8;
+/// With it the shelf is no wider than with the most items in view.
+constexpr double widestFlash = 260;
 constexpr double actionColumn = 57;
 constexpr double actionEndGap = 6;
 constexpr double actionStep = 22;
@@ -36,10 +39,11 @@ constexpr double dropTargetHeight = 56;
 constexpr double carouselHeight = 62;
 constexpr double singleHeight = 44;
 
-double contentWidth(const ShelfSnapshot &snapshot, double textWidth)
+double contentWidth(const ShelfSnapshot &snapshot, const ShelfTextWidths &widths)
 {
     if (!snapshot.isCarousel())
-        return textWidth + thumbColumn + textGap + actionColumn + actionEndGap;
+        return std::max(widths.detail, widths.flash) + thumbColumn + textGap + actionColumn
+            + actionEndGap;
     const double count = std::max<double>(1, static_cast<double>(snapshot.visible.size()));
     return count * cellWidth + (count - 1) * cellGap;
 }
@@ -173,10 +177,21 @@ double detailTextWidth(const ShelfSnapshot &snapshot, const Theme &theme,
         width = std::max(measurer.width(displayText(item.title()), theme.typography.primary),
                          measurer.width(displayText(item.subtitle()), theme.typography.secondary));
     }
-    return std::clamp(width + 8, 84.0, 190.0);
+    return std::clamp(width + textMargin, 84.0, 190.0);
 }
 
-QSizeF preferredSize(const ShelfSnapshot &snapshot, double detailTextWidth)
+double flashTextWidth(const QString &message, const ShelfSnapshot &snapshot, const Theme &theme,
+                      const TextMeasurer &measurer)
+{
+    if (message.isEmpty() || snapshot.visible.empty())
+        return 0;
+    const Theme::Typography &fonts = theme.typography;
+    const double width = measurer.width(displayText(message),
+                                        snapshot.isCarousel() ? fonts.hint : fonts.secondary);
+    return std::min(width + textMargin, widestFlash);
+}
+
+QSizeF preferredSize(const ShelfSnapshot &snapshot, const ShelfTextWidths &widths)
 {
     const double notchWidth = snapshot.notch.width();
     const double height = bodyHeight(snapshot) + snapshot.notch.height();
@@ -188,23 +203,24 @@ QSizeF preferredSize(const ShelfSnapshot &snapshot, double detailTextWidth)
         const bool widened = notchWidth > 0 && aroundNotch >= dropTargetWidth - flares;
         return {widened ? std::round(aroundNotch + flares) : dropTargetWidth, height};
     }
-    const double base = contentWidth(snapshot, detailTextWidth)
+    const double content = contentWidth(snapshot, widths);
+    const double base = std::max(content, snapshot.isCarousel() ? widths.flash : 0)
         + (snapshot.hasArrows() ? 67 : innerMargin) + (snapshot.totalCount > 1 ? viewAllSpace : 0);
     const double wanted = base + innerMargin;
     return {std::round((notchWidth > 0 ? std::max(wanted, aroundNotch) : wanted) + flares), height};
 }
 
-ShelfLayout layoutShelf(const ShelfSnapshot &snapshot, double detailTextWidth,
+ShelfLayout layoutShelf(const ShelfSnapshot &snapshot, const ShelfTextWidths &widths,
                         Qt::LayoutDirection direction)
 {
     ShelfLayout layout;
-    layout.size = preferredSize(snapshot, detailTextWidth);
+    layout.size = preferredSize(snapshot, widths);
     layout.bodyHeight = bodyHeight(snapshot);
 
     const double zone = snapshot.hasArrows() ? arrowZone : 0;
     const double left = zone + sideMargin;
     const double right = layout.size.width() - sideMargin;
-    const double content = contentWidth(snapshot, detailTextWidth);
+    const double content = contentWidth(snapshot, widths);
     const double needed = content + (hasViewAll(snapshot) ? viewAllSpace : 0);
     const double padding = std::max((right - zone - left - needed) * 0.5, 0.0);
     layout.overflows = needed > right - zone - left;
@@ -217,11 +233,12 @@ ShelfLayout layoutShelf(const ShelfSnapshot &snapshot, double detailTextWidth,
             layout.arrowHits[side] = grown((*layout.arrows)[side], 3, 3);
     }
 
+    const double textWidth = std::max(widths.detail, widths.flash);
     double x = left + padding;
     for (const auto &[index, item] : snapshot.visible) {
         const double width = snapshot.isCarousel() ? cellWidth : content;
         layout.cells.push_back(
-            layoutCell(snapshot, index, {x, 0, width, layout.bodyHeight}, detailTextWidth));
+            layoutCell(snapshot, index, {x, 0, width, layout.bodyHeight}, textWidth));
         x += width + cellGap;
     }
 

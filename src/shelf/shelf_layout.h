@@ -73,12 +73,29 @@ constexpr double widestShelf = 508;
 double detailTextWidth(const ShelfSnapshot &snapshot, const Theme &theme,
                        const TextMeasurer &measurer);
 
+/// In points: the room that a short message wants, in place of the subtitle or over several cells;
+/// at most 260. 0 for no message.
+double flashTextWidth(const QString &message, const ShelfSnapshot &snapshot, const Theme &theme,
+                      const TextMeasurer &measurer);
+
+/// The widths of texts that the shelf gives room.
+struct ShelfTextWidths {
+    ShelfTextWidths(double ofDetail, double ofFlash = 0)
+        : detail(ofDetail)
+        , flash(ofFlash)
+    {
+    }
+
+    double detail;
+    double flash;
+};
+
 /// The size of the body, and of the panel around it; in whole points.
-QSizeF preferredSize(const ShelfSnapshot &snapshot, double detailTextWidth);
+QSizeF preferredSize(const ShelfSnapshot &snapshot, const ShelfTextWidths &widths);
 
 /// The layout in a body of the preferred size, for people who read in that direction. What is drawn
 /// and what answers to clicks are mirrored here together, and nowhere else.
-ShelfLayout layoutShelf(const ShelfSnapshot &snapshot, double detailTextWidth,
+ShelfLayout layoutShelf(const ShelfSnapshot &snapshot, const ShelfTextWidths &widths,
                         Qt::LayoutDirection direction = Qt::LeftToRight);
 
 /// The frame of the plate behind a hovered button with this frame.

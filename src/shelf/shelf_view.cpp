@@ -38,8 +38,13 @@ ShelfView::~ShelfView()
 
 QSizeF ShelfView::preferredSize(const ShelfSnapshot &snapshot) const
 {
-    return corvane::preferredSize(snapshot,
-                                  detailTextWidth(snapshot, m_context.theme, m_context.measurer));
+    return corvane::preferredSize(snapshot, textWidths(snapshot));
+}
+
+ShelfTextWidths ShelfView::textWidths(const ShelfSnapshot &snapshot) const
+{
+    return {detailTextWidth(snapshot, m_context.theme, m_context.measurer),
+            flashTextWidth(m_look.flashMessage, snapshot, m_context.theme, m_context.measurer)};
 }
 
 void ShelfView::apply(const ShelfSnapshot &snapshot)
@@ -65,8 +70,8 @@ void ShelfView::themeChanged()
 
 void ShelfView::relayout()
 {
-    const double textWidth = detailTextWidth(m_look.snapshot, m_context.theme, m_context.measurer);
-    m_look.layout = layoutShelf(m_look.snapshot, textWidth, m_context.theme.direction);
+    m_look.layout
+        = layoutShelf(m_look.snapshot, textWidths(m_look.snapshot), m_context.theme.direction);
     // The control that the keyboard was on may be gone, or lead nowhere now.
     const auto stops = shelf_focus::stops(m_look.layout, m_look.snapshot);
     if (std::ranges::find(stops, m_look.keyboardFocus) == stops.end())
@@ -131,14 +136,19 @@ void ShelfView::flash(const QString &message)
 {
     if (m_look.snapshot.visible.empty() || m_look.snapshot.receptive)
         return;
-    m_look.flashMessage = message;
     m_flashEnd.restart();
-    relayout();
+    showFlash(message);
     m_context.panel.announce(message);
-    m_context.queue.asyncAfter(flashDuration, m_flashEnd.guard([this] {
-        m_look.flashMessage.clear();
-        relayout();
-    }));
+    m_context.queue.asyncAfter(flashDuration, m_flashEnd.guard([this] { showFlash({}); }));
+}
+
+void ShelfView::showFlash(const QString &message)
+{
+    const QSizeF before = preferredSize(m_look.snapshot);
+    m_look.flashMessage = message;
+    if (preferredSize(m_look.snapshot) != before)
+        call(onWantsRoom);
+    relayout();
 }
 
 void ShelfView::updateHover(QPointF point)

@@ -80,6 +80,9 @@ public:
     /// A button or key was pressed, or a drag that can be dropped here entered. Called before
     /// anything else is done about it.
     std::function<void()> onUsed;
+    /// `preferredSize` has another answer for the snapshot that is shown. Called before anything is
+    /// shown of it.
+    std::function<void()> onWantsRoom;
     /// The body was pressed. Called after everything else was done about it.
     std::function<void()> onPressed;
 
@@ -126,6 +129,8 @@ public:
     void perform(const QString &key, const QString &action) override;
 
 private:
+    ShelfTextWidths textWidths(const ShelfSnapshot &snapshot) const;
+    void showFlash(const QString &message);
     void relayout();
     void updateBody();
     QRectF bodyRect() const;

@@ -61,6 +61,9 @@ void ComparedPanels::compareShelfWithFresh()
     ShelfView view(shelfContext(panel));
     panel.setContent(&view);
     panel.setScale(m_shelfPanel.scale());
+    view.onWantsRoom = [&] {
+        panel.setFrame({m_shelfPanel.frame().topLeft(), view.preferredSize(view.look().snapshot)});
+    };
     panel.setFrame({m_shelfPanel.frame().topLeft(), view.preferredSize(snapshot())});
     ShelfSnapshot settled = snapshot();
     if (!look.flashMessage.isEmpty()) {

@@ -22,6 +22,7 @@ public:
         , view(desk.context())
     {
         desk.theme.direction = QGuiApplication::layoutDirection();
+        view.onWantsRoom = [this] { ShelfDesk::fit(desk.panel, view, view.look().snapshot); };
         view.apply({});
     }
 
@@ -54,7 +55,7 @@ public:
     void flash(const QString &message)
     {
         view.flash(message);
-        desk.clock.advance(0.5);
+        rest(0.9);
     }
     /// Picks up the item that is shown there, and does not let go of it.
     void dragOut(std::size_t cell)

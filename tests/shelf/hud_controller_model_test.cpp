@@ -41,6 +41,8 @@ public:
         HUDController::Context context = controllerContext();
         context.viewAll = &bar;
         controller.emplace(context);
+        // Short messages make room for themselves, which the model does not know.
+        feedback.handler = nullptr;
         model.emplace(HUDControllerModel::World{
             store, settings, screens, pointer.position,
             [this](const ShelfSnapshot &snapshot) { return view().preferredSize(snapshot); }});

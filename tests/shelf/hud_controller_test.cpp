@@ -483,6 +483,41 @@ TEST_F(HUDControllerTest, RendersOnceAFrameForPicturesThatArrive)
     EXPECT_TRUE(snapshot().visible[0].second.thumbnail());
 }
 
+TEST_F(HUDControllerTest, AMessageThatDoesNotFitWidensItForAsLongAsItIsRead)
+{
+    settings.setInViewCount(1);
+    accept(1);
+    settle();
+    const double usual = frame().width();
+    feedback.show({Message::Kind::SomeNotTaken, 2, 5});
+    const double message = desk.fakeMeasurer.width(
+        Message{Message::Kind::SomeNotTaken, 2, 5}.text(), desk.theme.typography.secondary);
+    EXPECT_GE(view().look().layout.cells[0].subtitle->width(), message);
+    EXPECT_GE(frame().width(), view().look().layout.size.width());
+    EXPECT_GT(view().look().layout.size.width(), usual);
+    settle();
+    EXPECT_EQ(frame().width(), usual);
+    EXPECT_EQ(view().look().layout.size.width(), usual);
+}
+
+TEST_F(HUDControllerTest, AMessageOverTheOnlyOfSeveralCellsHasRoom)
+{
+    settings.setInViewCount(3);
+    accept(1);
+    settle();
+    const double usual = frame().width();
+    const double cell = view().look().layout.cells[0].root.x();
+    feedback.show({Message::Kind::FileIsGone});
+    const ShelfLayout &layout = view().look().layout;
+    EXPECT_GE(layout.flash.width(),
+              desk.fakeMeasurer.width(Message{Message::Kind::FileIsGone}.text(),
+                                      desk.theme.typography.hint));
+    EXPECT_GT(layout.cells[0].root.x(), cell) << "it stays in the middle";
+    EXPECT_GE(frame().width(), layout.size.width());
+    settle();
+    EXPECT_EQ(frame().width(), usual);
+}
+
 TEST_F(HUDControllerTest, LargerTextEnlargesItAndTheBar)
 {
     appearance.scale = 1.5;
