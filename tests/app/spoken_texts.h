@@ -8,9 +8,19 @@
 
 namespace corvane::test {
 
+/// Of a kind that people press, choose or write in.
+inline bool isControl(QAccessible::Role role)
+{
+    return role == QAccessible::Button || role == QAccessible::CheckBox
+        || role == QAccessible::RadioButton || role == QAccessible::EditableText
+        || role == QAccessible::Link || role == QAccessible::ComboBox || role == QAccessible::Slider
+        || role == QAccessible::SpinBox;
+}
+
 /// What is read in a window and what a screen reader says of it, a line for each control that says
 /// anything: its kind, its name (for a text the text itself), what is written in it, in brackets
-/// what it is described by, and in braces its tool tip where that is another text.
+/// what it is described by, and in braces its tool tip where that is another text. Controls that
+/// people use are listed also where they say nothing.
 ///
 /// Taken from the tree that screen readers walk, so nothing that is hidden counts.
 inline void addSpokenTexts(QAccessibleInterface *control, QStringList &lines)
@@ -27,7 +37,7 @@ inline void addSpokenTexts(QAccessibleInterface *control, QStringList &lines)
     const QString written = isWritten ? control->text(QAccessible::Value) : QString();
     const auto *widget = qobject_cast<QWidget *>(control->object());
     const QString toolTip = widget ? widget->toolTip() : QString();
-    if (!name.isEmpty() || !description.isEmpty() || !written.isEmpty()) {
+    if (isControl(role) || !name.isEmpty() || !description.isEmpty() || !written.isEmpty()) {
         const auto roles = QMetaEnum::fromType<QAccessible::Role>();
         QString line = QString::fromLatin1(roles.valueToKey(role)) + QLatin1String(": ") + name;
         if (!written.isEmpty())

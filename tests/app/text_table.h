@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
@@ -15,14 +16,17 @@ public:
             m_text += line + u'\n';
         m_text += u'\n';
         m_lines += lines;
+        m_sections << lines;
     }
     std::string text() const { return m_text.toStdString(); }
     /// Without the headings.
     const QStringList &lines() const { return m_lines; }
+    const QList<QStringList> &sections() const { return m_sections; }
 
 private:
     QString m_text;
     QStringList m_lines;
+    QList<QStringList> m_sections;
 };
 
 } // namespace corvane::test

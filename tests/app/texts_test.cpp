@@ -126,6 +126,38 @@ TEST(Texts, SpeakOfThisDesktopInEveryLanguage)
     }
 }
 
+/// What is said of controls, without what they are described by.
+TEST(Texts, NameEachControlOfAWindowAndNoTwoAlike)
+{
+    static const QRegularExpression control(
+        QStringLiteral("^(Button|CheckBox|RadioButton|EditableText|Link|ComboBox|Slider|SpinBox): "
+                       "?([^\\[{]*)"));
+    int count = 0;
+    for (const QString &language : Translations::languages()) {
+        const Surroundings surroundings{QLocale(language)};
+        const Translations translations({language});
+        for (TextTable (*read)() : {textsOfThePreferences, textsOfTheGuide, textsOfTheUpdates,
+                                    textsOfThePreview, textsOfAStartBesideOneThatDoesNotAnswer}) {
+            const TextTable table = read();
+            for (const QStringList &window : table.sections()) {
+                QStringList names;
+                for (const QString &line : window) {
+                    const auto match = control.match(line);
+                    if (!match.hasMatch())
+                        continue;
+                    ++count;
+                    EXPECT_FALSE(match.captured(2).trimmed().isEmpty()) << line.toStdString();
+                    const QString name = match.captured(1) + match.captured(2).trimmed();
+                    EXPECT_FALSE(names.contains(name))
+                        << language.toStdString() << ": " << line.toStdString();
+                    names << name;
+                }
+            }
+        }
+    }
+    EXPECT_GT(count, 100);
+}
+
 TEST(Texts, AreAllTranslatedWhereTheyAreRead)
 {
     const Surroundings surroundings(QLocale::c());

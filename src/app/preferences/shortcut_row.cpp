@@ -38,10 +38,13 @@ ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail,
     m_recorder->setFixedSize(look.length(recorderSize));
     m_recorder->setAccessibleName(title);
     m_recorder->setAccessibleDescription(usualDetail);
-    m_clear->setAccessibleDescription(title);
+    // The buttons of several rows differ by this alone.
+    m_clear->setAccessibleName(title + u": " + m_clear->toolTip());
+    m_clear->setAccessibleDescription(usualDetail);
     m_recorder->onChange = [this](const Shortcut &shortcut) { change(shortcut); };
     connect(m_clear, &QPushButton::clicked, this, [this] { change(std::nullopt); });
-    m_copy->setAccessibleDescription(title);
+    m_copy->setAccessibleName(title + u": " + m_copy->text());
+    m_copy->setAccessibleDescription(usualDetail);
     m_copy->hide();
     connect(m_copy, &ActionButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(m_copied); });
@@ -86,7 +89,8 @@ void ShortcutRow::setOutcome(const ShortcutOutcome &outcome)
 {
     const QString detail = detailFor(outcome);
     m_recorder->setConflict(outcome.isRefused());
-    m_recorder->setAccessibleDescription(detail);
+    for (QWidget *control : QList<QWidget *>{m_recorder, m_clear, m_copy})
+        control->setAccessibleDescription(detail);
     setDetail(detail);
     const bool isCommand = outcome.kind == ShortcutOutcome::Kind::SetInDesktop;
     const QString &line = outcome.settingsLine;

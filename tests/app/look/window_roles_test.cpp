@@ -11,13 +11,16 @@ namespace corvane::test {
 
 namespace {
 
+/// As at the program's start: the roles of all windows of these tests.
+class InstalledRoles : public testing::Environment {
+public:
+    void SetUp() override { installWindowRoles(); }
+};
+const testing::Environment *const installedRoles
+    = testing::AddGlobalTestEnvironment(new InstalledRoles);
+
 QAccessible::Role roleOf(QWidget &widget)
 {
-    static const bool isInstalled = [] {
-        installWindowRoles();
-        return true;
-    }();
-    EXPECT_TRUE(isInstalled);
     return QAccessible::queryAccessibleInterface(&widget)->role();
 }
 
@@ -32,6 +35,17 @@ TEST(WindowRoles, PlainWidgetsThatAreWindowsOrDialogsAreCalledSo)
     window.setWindowTitle(QStringLiteral("Corvane"));
     EXPECT_EQ(QAccessible::queryAccessibleInterface(&window)->text(QAccessible::Name),
               QStringLiteral("Corvane"));
+}
+
+TEST(WindowRoles, AWidgetWithANameAndOthersInsideIsAGroup)
+{
+    QWidget window;
+    QWidget group(&window);
+    group.setAccessibleName(QStringLiteral("Shelf"));
+    EXPECT_EQ(roleOf(group), QAccessible::Client) << "nothing is in it yet";
+    QWidget inside(&group);
+    EXPECT_EQ(roleOf(group), QAccessible::Grouping);
+    EXPECT_EQ(roleOf(inside), QAccessible::Client);
 }
 
 TEST(WindowRoles, OthersStayWhatTheyAre)

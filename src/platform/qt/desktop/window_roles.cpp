@@ -8,6 +8,13 @@ namespace corvane {
 
 namespace {
 
+/// A widget that groups others has a name, such as the settings under one title.
+bool isNamedGroup(const QWidget &widget)
+{
+    return !widget.accessibleName().isEmpty()
+        && widget.findChild<QWidget *>(QString(), Qt::FindDirectChildrenOnly);
+}
+
 /// A widget is asked for while it has no parent yet, and looks like a window then: what it is, is
 /// found out each time.
 class PlainWidget : public QAccessibleWidget {
@@ -17,7 +24,7 @@ public:
     QAccessible::Role role() const override
     {
         if (!widget()->isWindow())
-            return QAccessibleWidget::role();
+            return isNamedGroup(*widget()) ? QAccessible::Grouping : QAccessibleWidget::role();
         switch (widget()->windowType()) {
         case Qt::Window:
             return QAccessible::Window;
