@@ -250,6 +250,81 @@ that runs.</source>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>لا يوجد خيار باسم %1</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>لا يأخذ أي خيار من خيارات Corvane قيمة</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>لا يجتمع %1 و%2</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>يُستخدم --null مع --list و--take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>لا تُستخدم الملفات والروابط مع أي خيار</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>لا يمكن وضع الدخل القياسي على الرفّ إلا مرة واحدة</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>هذا ليس عنوانًا: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>لا يوجد ملف %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>تعذّرت قراءة الدخل القياسي، أو هو أكبر من 256 ميبيبايت</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>الدخل القياسي ليس نصًا بترميز UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>لا نص في الدخل القياسي</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>لا يقبل الرفّ %1 مما أُعطي</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>تعذّرت الكتابة إلى الخرج القياسي: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>يعمل Corvane لكنه لا يستجيب</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>يقول Corvane العامل: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>لا يفعل Corvane العامل هذا؛ ربما هو إصدار أقدم</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>تعذّر استخدام الشاشة: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1؛ انظر corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -508,6 +583,25 @@ that runs.</source>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>تحتاج جلسة Wayland هذه إلى ملحق Qt لـ Wayland، وهو غير مثبّت (الحزمة qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>لا تسمح جلسة Wayland هذه لأي برنامج بتعليق رفّ على حافة الشاشة، ولا توجد شاشة X11 أيضًا (DISPLAY غير مضبوط)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>لا توجد جلسة Wayland حيث يشير WAYLAND_DISPLAY، ولا شاشة X11 أيضًا (DISPLAY غير مضبوط)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>لا توجد شاشة يُعلّق عليها الرفّ (لم يُضبط WAYLAND_DISPLAY ولا DISPLAY)</translation>
     </message>
 </context>
 <context>
@@ -859,6 +953,10 @@ that runs.</source>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>يغادر العنصر الرفّ عادةً عندما تلقيه. استمر بالضغط على Shift وأنت تفلته فيبقى، وبذلك تلقي الشيء نفسه في عدة أماكن من دون أن تجمعه مرة أخرى.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>بلوحة المفاتيح: اضغط اختصار الرفّ، ثم %1 للّصق عليه و%2 للتنقل فيه.</translation>
     </message>
 </context>
 <context>

@@ -238,6 +238,81 @@ gezeigt oder verborgen.</translation>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>eine Option %1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>keine Option von Corvane nimmt einen Wert</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 und %2 gehen nicht zusammen</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null gehört zu --list und --take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>Dateien und Links gehen mit keiner Option zusammen</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>die Standardeingabe kann nur einmal in die Ablage gelegt werden</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>das ist keine Adresse: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>eine Datei %1 gibt es nicht</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>die Standardeingabe kann nicht gelesen werden oder ist größer als 256 MiB</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>die Standardeingabe ist kein Text in UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>in der Standardeingabe ist kein Text</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>die Ablage nimmt %1 der angegebenen Elemente nicht an</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>die Standardausgabe kann nicht geschrieben werden: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane läuft, antwortet aber nicht</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>das laufende Corvane meldet: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>das laufende Corvane kann das nicht; vielleicht ist es eine ältere Version</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>die Anzeige kann nicht benutzt werden: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; siehe corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -476,6 +551,25 @@ gezeigt oder verborgen.</translation>
     <message>
         <source>PgDown</source>
         <translation>Bild ab</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>diese Wayland-Sitzung braucht Qts Erweiterung für Wayland, die nicht installiert ist (das Paket qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>diese Wayland-Sitzung lässt kein Programm eine Ablage an den Bildschirmrand hängen, und eine X11-Anzeige gibt es auch nicht (DISPLAY ist nicht gesetzt)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>wo WAYLAND_DISPLAY hinzeigt, gibt es keine Wayland-Sitzung, und eine X11-Anzeige gibt es auch nicht (DISPLAY ist nicht gesetzt)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>es gibt keine Anzeige für die Ablage (weder WAYLAND_DISPLAY noch DISPLAY ist gesetzt)</translation>
     </message>
 </context>
 <context>
@@ -819,6 +913,10 @@ gezeigt oder verborgen.</translation>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Normalerweise verlässt ein Element die Ablage, wenn Sie es woanders ablegen. Halten Sie beim Loslassen Umschalt gedrückt, dann bleibt es, und Sie können dasselbe an mehreren Stellen ablegen, ohne es neu einzusammeln.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>Per Tastatur: Kürzel der Ablage, dann %1 zum Einfügen, %2 zum Weitergehen.</translation>
     </message>
 </context>
 <context>

@@ -238,6 +238,81 @@ that runs.</translation>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>there is no option %1</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>no option of Corvane takes a value</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 and %2 cannot go together</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null goes with --list and --take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>files and links go with no option</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>standard input can be put on the shelf once</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>this is no address: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>there is no file %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>standard input cannot be read, or is larger than 256 MiB</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>standard input is no text in UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>there is no text on standard input</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>the shelf does not take %1 of what was given</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>standard output cannot be written to: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane is running, but does not answer</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>the Corvane that runs says: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>the Corvane that runs does not do this; it may be an older version</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>the display cannot be used: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; see corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -476,6 +551,25 @@ that runs.</translation>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</translation>
     </message>
 </context>
 <context>
@@ -819,6 +913,10 @@ that runs.</translation>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</translation>
     </message>
 </context>
 <context>

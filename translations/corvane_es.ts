@@ -238,6 +238,81 @@ se está ejecutando.</translation>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>no existe la opción %1</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>ninguna opción de Corvane lleva un valor</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 y %2 no pueden ir juntas</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null va con --list y --take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>los archivos y enlaces no van con ninguna opción</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>la entrada estándar solo se puede poner una vez en el estante</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>esto no es una dirección: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>no existe el archivo %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>no se puede leer la entrada estándar o supera los 256 MiB</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>la entrada estándar no es un texto en UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>no hay texto en la entrada estándar</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>el estante no acepta %1 de los elementos dados</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>no se puede escribir en la salida estándar: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane está en marcha, pero no responde</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>el Corvane en marcha dice: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>el Corvane en marcha no hace esto; quizá sea una versión anterior</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>no se puede usar la pantalla: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; consulte corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -476,6 +551,25 @@ se está ejecutando.</translation>
     <message>
         <source>PgDown</source>
         <translation>Av Pág</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>esta sesión de Wayland necesita el complemento de Qt para Wayland, que no está instalado (el paquete qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>esta sesión de Wayland no deja que ningún programa cuelgue un estante del borde de la pantalla, y tampoco hay pantalla de X11 (DISPLAY no está definida)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>no hay ninguna sesión de Wayland donde indica WAYLAND_DISPLAY, y tampoco pantalla de X11 (DISPLAY no está definida)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>no hay pantalla de la que colgar el estante (ni WAYLAND_DISPLAY ni DISPLAY están definidas)</translation>
     </message>
 </context>
 <context>
@@ -819,6 +913,10 @@ se está ejecutando.</translation>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Normalmente un elemento deja el estante cuando lo suelta en otro sitio. Mantenga pulsada Mayús al soltarlo y se quedará; así puede soltar lo mismo en varios lugares sin volver a recogerlo.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>Con el teclado: pulse el atajo del estante y luego %1 para pegar en él y %2 para recorrerlo.</translation>
     </message>
 </context>
 <context>

@@ -238,6 +238,81 @@ qui est lancé.</translation>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>l’option %1 n’existe pas</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>aucune option de Corvane ne prend de valeur</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 et %2 ne vont pas ensemble</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null va avec --list et --take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>les fichiers et les liens ne vont avec aucune option</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>l’entrée standard ne peut être posée qu’une fois sur l’étagère</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>ce n’est pas une adresse : %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>il n’y a pas de fichier %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>l’entrée standard est illisible ou dépasse 256 Mio</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>l’entrée standard n’est pas un texte en UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>il n’y a pas de texte sur l’entrée standard</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>l’étagère n’accepte pas %1 des éléments donnés</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>impossible d’écrire sur la sortie standard : %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane est en cours d’exécution, mais ne répond pas</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>le Corvane en cours d’exécution signale : %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>le Corvane en cours d’exécution ne sait pas faire cela ; c’est peut-être une version plus ancienne</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>l’affichage ne peut pas être utilisé : %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1 ; voir corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -476,6 +551,25 @@ qui est lancé.</translation>
     <message>
         <source>PgDown</source>
         <translation>Page suiv.</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>cette session Wayland demande le greffon Wayland de Qt, qui n’est pas installé (le paquet qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>cette session Wayland ne laisse aucun programme accrocher une étagère au bord de l’écran, et il n’y a pas non plus d’affichage X11 (DISPLAY n’est pas défini)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>il n’y a pas de session Wayland là où WAYLAND_DISPLAY l’indique, et pas non plus d’affichage X11 (DISPLAY n’est pas défini)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>il n’y a pas d’affichage pour l’étagère (ni WAYLAND_DISPLAY ni DISPLAY ne sont définis)</translation>
     </message>
 </context>
 <context>
@@ -819,6 +913,10 @@ qui est lancé.</translation>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Normalement, un élément quitte l’étagère quand vous le déposez. Maintenez Maj en le relâchant et il y reste&#xa0;: vous pouvez ainsi déposer la même chose à plusieurs endroits sans la récupérer de nouveau.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>Au clavier : appuyez sur le raccourci de l’étagère, puis sur %1 pour y coller et sur %2 pour la parcourir.</translation>
     </message>
 </context>
 <context>

@@ -238,6 +238,81 @@ that runs.</source>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>אין אפשרות %1</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>אף אפשרות של Corvane לא מקבלת ערך</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 ו־%2 לא יכולות לבוא יחד</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null באה עם --list ו־--take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>קבצים וקישורים לא באים עם אף אפשרות</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>אפשר להניח את הקלט הסטנדרטי על המדף פעם אחת בלבד</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>זאת לא כתובת: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>אין קובץ %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>אי אפשר לקרוא את הקלט הסטנדרטי, או שהוא גדול מ־256 MiB</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>הקלט הסטנדרטי אינו טקסט ב־UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>אין טקסט בקלט הסטנדרטי</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>המדף לא מקבל %1 ממה שניתן</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>אי אפשר לכתוב לפלט הסטנדרטי: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane פועל, אבל לא עונה</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>ה־Corvane הפועל אומר: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>ה־Corvane הפועל לא עושה את זה; אולי זאת גרסה ישנה יותר</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>אי אפשר להשתמש בתצוגה: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; ראו corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -476,6 +551,25 @@ that runs.</source>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>הפעלת Wayland הזאת צריכה את התוסף של Qt ל־Wayland, שאינו מותקן (החבילה qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>הפעלת Wayland הזאת לא מאפשרת לתוכניות לתלות מדף בקצה המסך, וגם תצוגת X11 אין (DISPLAY לא הוגדר)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>אין הפעלת Wayland במקום ש־WAYLAND_DISPLAY מציין, וגם תצוגת X11 אין (DISPLAY לא הוגדר)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>אין תצוגה לתלות עליה את המדף (לא הוגדרו WAYLAND_DISPLAY ו־DISPLAY)</translation>
     </message>
 </context>
 <context>
@@ -819,6 +913,10 @@ that runs.</source>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>בדרך כלל פריט עוזב את המדף כשמשחררים אותו. החזקת Shift בזמן השחרור משאירה אותו, כך שאפשר לשחרר את אותו הדבר בכמה מקומות בלי לאסוף אותו שוב.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>במקלדת: לחצו על קיצור המקשים של המדף, ואז %1 כדי להדביק עליו ו־%2 כדי לעבור בו.</translation>
     </message>
 </context>
 <context>

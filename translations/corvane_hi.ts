@@ -238,6 +238,81 @@ that runs.</source>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>%1 नाम का कोई विकल्प नहीं है</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>Corvane का कोई विकल्प मान नहीं लेता</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 और %2 साथ नहीं चल सकते</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null को --list और --take के साथ दिया जाता है</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>फ़ाइलें और लिंक किसी विकल्प के साथ नहीं दिए जाते</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>मानक इनपुट शेल्फ़ पर केवल एक बार रखा जा सकता है</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>यह कोई पता नहीं है: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>%1 नाम की कोई फ़ाइल नहीं है</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>मानक इनपुट पढ़ा नहीं जा सकता, या 256 MiB से बड़ा है</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>मानक इनपुट UTF-8 पाठ नहीं है</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>मानक इनपुट में कोई पाठ नहीं है</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>शेल्फ़ दी गई वस्तुओं में से %1 स्वीकार नहीं करता</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>मानक आउटपुट में लिखा नहीं जा सकता: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane चल रहा है, पर उत्तर नहीं देता</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>चल रहा Corvane कहता है: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>चल रहा Corvane यह नहीं करता; शायद वह पुराना संस्करण है</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>डिस्प्ले का उपयोग नहीं हो सकता: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; corvane --help देखें</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -476,6 +551,25 @@ that runs.</source>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>इस Wayland सत्र को Wayland के लिए Qt का प्लग-इन चाहिए, जो इंस्टॉल नहीं है (पैकेज qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>यह Wayland सत्र किसी प्रोग्राम को स्क्रीन के किनारे शेल्फ़ लटकाने नहीं देता, और कोई X11 डिस्प्ले भी नहीं है (DISPLAY सेट नहीं है)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>जहाँ WAYLAND_DISPLAY बताता है वहाँ कोई Wayland सत्र नहीं है, और कोई X11 डिस्प्ले भी नहीं है (DISPLAY सेट नहीं है)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>शेल्फ़ लटकाने के लिए कोई डिस्प्ले नहीं है (न WAYLAND_DISPLAY सेट है, न DISPLAY)</translation>
     </message>
 </context>
 <context>
@@ -819,6 +913,10 @@ that runs.</source>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>सामान्यतः वस्तु छोड़ने पर शेल्फ़ से चली जाती है। छोड़ते समय Shift दबाए रखें तो वह बनी रहती है, ताकि आप उसे फिर से जुटाए बिना कई स्थानों पर छोड़ सकें।</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>कीबोर्ड से: शेल्फ़ का शॉर्टकट दबाएँ, फिर उस पर चिपकाने के लिए %1 और उसमें आगे बढ़ने के लिए %2।</translation>
     </message>
 </context>
 <context>

@@ -235,6 +235,81 @@ rak yang sudah berjalan.</translation>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>tidak ada opsi %1</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>tidak ada opsi Corvane yang memakai nilai</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 dan %2 tidak dapat dipakai bersama</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null dipakai dengan --list dan --take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>berkas dan tautan tidak dipakai bersama opsi</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>masukan standar hanya dapat ditaruh di rak sekali</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>ini bukan alamat: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>tidak ada berkas %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>masukan standar tidak dapat dibaca, atau lebih besar dari 256 MiB</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>masukan standar bukan teks UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>tidak ada teks pada masukan standar</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>rak tidak menerima %1 dari yang diberikan</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>keluaran standar tidak dapat ditulisi: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane sedang berjalan, tetapi tidak menjawab</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>Corvane yang berjalan mengatakan: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>Corvane yang berjalan tidak dapat melakukan ini; mungkin versinya lebih lama</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>layar tidak dapat dipakai: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; lihat corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -468,6 +543,25 @@ rak yang sudah berjalan.</translation>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>sesi Wayland ini memerlukan plugin Qt untuk Wayland, yang belum dipasang (paket qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>sesi Wayland ini tidak mengizinkan program menggantung rak di tepi layar, dan tidak ada pula layar X11 (DISPLAY tidak diatur)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>tidak ada sesi Wayland di tempat yang ditunjuk WAYLAND_DISPLAY, dan tidak ada pula layar X11 (DISPLAY tidak diatur)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>tidak ada layar untuk menggantung rak (WAYLAND_DISPLAY maupun DISPLAY tidak diatur)</translation>
     </message>
 </context>
 <context>
@@ -809,6 +903,10 @@ rak yang sudah berjalan.</translation>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Biasanya butir meninggalkan rak ketika Anda menjatuhkannya. Tahan Shift saat melepas dan butir itu tetap ada, sehingga hal yang sama dapat dijatuhkan di beberapa tempat tanpa mengumpulkannya lagi.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>Dengan papan ketik: tekan pintasan rak, lalu %1 untuk menempel ke rak dan %2 untuk menelusurinya.</translation>
     </message>
 </context>
 <context>

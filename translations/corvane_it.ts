@@ -238,6 +238,81 @@ in esecuzione.</translation>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>l’opzione %1 non esiste</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>nessuna opzione di Corvane accetta un valore</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 e %2 non possono stare insieme</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null va con --list e --take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>file e collegamenti non vanno con nessuna opzione</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>lo standard input si può mettere sul ripiano una volta sola</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>questo non è un indirizzo: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>il file %1 non esiste</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>lo standard input non si può leggere o supera i 256 MiB</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>lo standard input non è un testo in UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>non c’è testo nello standard input</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>il ripiano non accetta %1 degli elementi dati</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>non si può scrivere sullo standard output: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane è in esecuzione, ma non risponde</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>il Corvane in esecuzione dice: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>il Corvane in esecuzione non fa questo; forse è una versione precedente</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>lo schermo non si può usare: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; vedi corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -476,6 +551,25 @@ in esecuzione.</translation>
     <message>
         <source>PgDown</source>
         <translation>Pag giù</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>questa sessione Wayland richiede il plugin di Qt per Wayland, che non è installato (il pacchetto qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>questa sessione Wayland non permette ai programmi di appendere un ripiano al bordo dello schermo, e non c’è nemmeno uno schermo X11 (DISPLAY non è impostata)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>non c’è nessuna sessione Wayland dove indica WAYLAND_DISPLAY, e nemmeno uno schermo X11 (DISPLAY non è impostata)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>non c’è uno schermo a cui appendere il ripiano (né WAYLAND_DISPLAY né DISPLAY sono impostate)</translation>
     </message>
 </context>
 <context>
@@ -819,6 +913,10 @@ in esecuzione.</translation>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Di norma un elemento lascia il ripiano quando lo si rilascia altrove. Tenendo premuto Maiusc al rilascio, resta: così si può rilasciare la stessa cosa in più posti senza raccoglierla di nuovo.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>Con la tastiera: premere la scorciatoia del ripiano, poi %1 per incollarvi qualcosa e %2 per scorrerlo.</translation>
     </message>
 </context>
 <context>

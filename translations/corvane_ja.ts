@@ -235,6 +235,81 @@ that runs.</source>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>%1 というオプションはありません</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>Corvane のオプションは値を取りません</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 と %2 は一緒に指定できません</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null は --list または --take と一緒に指定します</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>ファイルとリンクはオプションと一緒に指定できません</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>標準入力は 1 回だけシェルフに置けます</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>アドレスではありません: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>%1 というファイルはありません</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>標準入力を読み取れないか、256 MiB を超えています</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>標準入力が UTF-8 のテキストではありません</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>標準入力にテキストがありません</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>指定されたもののうち %1 個をシェルフが受け取りません</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>標準出力に書き込めません: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane は動作中ですが、応答しません</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>動作中の Corvane からの報告: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>動作中の Corvane はこれを行いません。古いバージョンかもしれません</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>ディスプレイを使用できません: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1。corvane --help を参照してください</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -468,6 +543,25 @@ that runs.</source>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>この Wayland セッションには Qt の Wayland プラグインが必要ですが、インストールされていません (パッケージ qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>この Wayland セッションではプログラムが画面の端にシェルフを表示できず、X11 ディスプレイもありません (DISPLAY が設定されていません)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>WAYLAND_DISPLAY が示す場所に Wayland セッションがなく、X11 ディスプレイもありません (DISPLAY が設定されていません)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>シェルフを表示するディスプレイがありません (WAYLAND_DISPLAY も DISPLAY も設定されていません)</translation>
     </message>
 </context>
 <context>
@@ -809,6 +903,10 @@ that runs.</source>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>通常、ドロップした項目はシェルフからなくなります。Shift キーを押しながら放すと残るので、集め直さなくても同じものをいくつもの場所にドロップできます。</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>キーボードでは、シェルフのショートカットを押し、%1 で貼り付け、%2 で移動します。</translation>
     </message>
 </context>
 <context>

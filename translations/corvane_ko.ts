@@ -235,6 +235,81 @@ that runs.</source>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>%1 옵션이 없습니다</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>Corvane의 옵션은 값을 받지 않습니다</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1과(와) %2은(는) 함께 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null은 --list 또는 --take와 함께 씁니다</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>파일과 링크는 옵션과 함께 쓸 수 없습니다</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>표준 입력은 한 번만 선반에 놓을 수 있습니다</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>주소가 아닙니다: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>%1 파일이 없습니다</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>표준 입력을 읽을 수 없거나 256 MiB보다 큽니다</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>표준 입력이 UTF-8 텍스트가 아닙니다</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>표준 입력에 텍스트가 없습니다</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>주어진 것 중 %1개를 선반이 받지 않습니다</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>표준 출력에 쓸 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane이 실행 중이지만 응답하지 않습니다</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>실행 중인 Corvane의 메시지: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>실행 중인 Corvane은 이 작업을 하지 않습니다. 이전 버전일 수 있습니다</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>디스플레이를 사용할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1. corvane --help를 보십시오</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -468,6 +543,25 @@ that runs.</source>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>이 Wayland 세션에는 Qt의 Wayland 플러그인이 필요하지만 설치되어 있지 않습니다(qt6-wayland 패키지)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>이 Wayland 세션은 프로그램이 화면 가장자리에 선반을 걸도록 허용하지 않으며 X11 디스플레이도 없습니다(DISPLAY가 설정되지 않음)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>WAYLAND_DISPLAY가 가리키는 곳에 Wayland 세션이 없으며 X11 디스플레이도 없습니다(DISPLAY가 설정되지 않음)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>선반을 걸 디스플레이가 없습니다(WAYLAND_DISPLAY와 DISPLAY가 모두 설정되지 않음)</translation>
     </message>
 </context>
 <context>
@@ -809,6 +903,10 @@ that runs.</source>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>보통 항목을 놓으면 선반에서 사라집니다. Shift를 누른 채 놓으면 남으므로, 다시 모으지 않고도 같은 것을 여러 곳에 놓을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>키보드로는 선반의 단축키를 누른 다음 %1(으)로 붙여 넣고 %2(으)로 이동합니다.</translation>
     </message>
 </context>
 <context>

@@ -241,6 +241,81 @@ który już działa.</translation>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>nie ma opcji %1</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>żadna opcja Corvane nie przyjmuje wartości</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 i %2 nie mogą występować razem</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null występuje z --list i --take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>pliki i odnośniki nie występują z żadną opcją</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>standardowe wejście można położyć na półce tylko raz</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>to nie jest adres: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>nie ma pliku %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>nie można odczytać standardowego wejścia albo jest ono większe niż 256 MiB</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>standardowe wejście nie jest tekstem w UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>na standardowym wejściu nie ma tekstu</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>liczba podanych elementów, których półka nie przyjmuje: %1</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>nie można pisać na standardowe wyjście: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane działa, ale nie odpowiada</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>działający Corvane zgłasza: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>działający Corvane tego nie potrafi; może to starsza wersja</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>nie można użyć ekranu: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; zobacz corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -484,6 +559,25 @@ który już działa.</translation>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>ta sesja Wayland wymaga wtyczki Qt dla Waylanda, która nie jest zainstalowana (pakiet qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>ta sesja Wayland nie pozwala żadnemu programowi zawiesić półki na krawędzi ekranu, a ekranu X11 też nie ma (nie ustawiono DISPLAY)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>tam, gdzie wskazuje WAYLAND_DISPLAY, nie ma sesji Wayland, a ekranu X11 też nie ma (nie ustawiono DISPLAY)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>nie ma ekranu, na którym można zawiesić półkę (nie ustawiono ani WAYLAND_DISPLAY, ani DISPLAY)</translation>
     </message>
 </context>
 <context>
@@ -829,6 +923,10 @@ który już działa.</translation>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Zwykle element opuszcza półkę po upuszczeniu gdzie indziej. Jeśli przy upuszczaniu przytrzyma się Shift, element pozostanie i można go upuścić w wielu miejscach bez ponownego zbierania.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>Z klawiatury: najpierw skrót półki, potem %1 wkleja na nią, a %2 po niej przechodzi.</translation>
     </message>
 </context>
 <context>

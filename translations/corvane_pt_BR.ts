@@ -238,6 +238,81 @@ está em execução.</translation>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>não existe a opção %1</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>nenhuma opção do Corvane recebe um valor</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 e %2 não podem ser usadas juntas</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null é usada com --list e --take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>arquivos e links não são usados com nenhuma opção</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>a entrada padrão só pode ser posta uma vez na prateleira</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>isto não é um endereço: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>não existe o arquivo %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>a entrada padrão não pode ser lida ou é maior que 256 MiB</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>a entrada padrão não é um texto em UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>não há texto na entrada padrão</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>a prateleira não aceita %1 dos itens dados</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>não é possível escrever na saída padrão: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>o Corvane está em execução, mas não responde</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>o Corvane em execução diz: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>o Corvane em execução não faz isso; talvez seja uma versão mais antiga</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>a tela não pode ser usada: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; veja corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -476,6 +551,25 @@ está em execução.</translation>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>esta sessão Wayland precisa do plugin do Qt para Wayland, que não está instalado (o pacote qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>esta sessão Wayland não deixa nenhum programa pendurar uma prateleira na borda da tela, e também não há tela X11 (DISPLAY não está definida)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>não há sessão Wayland onde WAYLAND_DISPLAY indica, e também não há tela X11 (DISPLAY não está definida)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>não há tela em que pendurar a prateleira (nem WAYLAND_DISPLAY nem DISPLAY estão definidas)</translation>
     </message>
 </context>
 <context>
@@ -819,6 +913,10 @@ está em execução.</translation>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Normalmente um item deixa a prateleira quando você o solta. Segure Shift ao soltar e ele fica, para que você possa soltar a mesma coisa em vários lugares sem recolhê-la de novo.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>Pelo teclado: pressione o atalho da prateleira e depois %1 para colar nela e %2 para percorrê-la.</translation>
     </message>
 </context>
 <context>

@@ -241,6 +241,81 @@ that runs.</source>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>параметра %1 нет</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>ни один параметр Corvane не принимает значения</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 и %2 нельзя указывать вместе</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null указывают с --list и --take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>файлы и ссылки указывают без параметров</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>стандартный ввод можно положить на полку только один раз</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>это не адрес: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>нет файла %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>стандартный ввод не читается или больше 256 МиБ</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>стандартный ввод не является текстом в UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>в стандартном вводе нет текста</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>полка не принимает объектов из указанных: %1</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>не удаётся записать в стандартный вывод: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane работает, но не отвечает</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>работающий Corvane сообщает: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>работающий Corvane этого не умеет; возможно, это более старая версия</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>экран нельзя использовать: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; см. corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -484,6 +559,25 @@ that runs.</source>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>для этого сеанса Wayland нужен модуль Qt для Wayland, который не установлен (пакет qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>этот сеанс Wayland не даёт программам закрепить полку у края экрана, и экрана X11 тоже нет (DISPLAY не задана)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>там, куда указывает WAYLAND_DISPLAY, нет сеанса Wayland, и экрана X11 тоже нет (DISPLAY не задана)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>нет экрана, на котором можно закрепить полку (не заданы ни WAYLAND_DISPLAY, ни DISPLAY)</translation>
     </message>
 </context>
 <context>
@@ -829,6 +923,10 @@ that runs.</source>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Обычно объект покидает полку, когда вы его куда-то отпускаете. Удерживайте Shift, отпуская кнопку, и он останется: одно и то же можно отпустить в нескольких местах, не собирая заново.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>С клавиатуры: нажмите сочетание клавиш полки, затем %1, чтобы вставить на неё, и %2, чтобы переходить по ней.</translation>
     </message>
 </context>
 <context>

@@ -235,6 +235,81 @@ veya gizler.</translation>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>%1 seçeneği yok</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>Corvane’in hiçbir seçeneği değer almaz</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 ve %2 birlikte kullanılamaz</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null, --list ve --take ile kullanılır</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>dosyalar ve bağlantılar hiçbir seçenekle kullanılmaz</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>standart girdi rafa yalnızca bir kez konabilir</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>bu bir adres değil: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>%1 dosyası yok</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>standart girdi okunamıyor ya da 256 MiB’den büyük</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>standart girdi UTF-8 bir metin değil</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>standart girdide metin yok</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>raf verilenlerden %1 tanesini almıyor</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>standart çıktıya yazılamıyor: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane çalışıyor ama yanıt vermiyor</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>çalışan Corvane diyor ki: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>çalışan Corvane bunu yapmıyor; daha eski bir sürüm olabilir</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>ekran kullanılamıyor: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; corvane --help komutuna bakın</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -468,6 +543,25 @@ veya gizler.</translation>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>bu Wayland oturumu Qt’nin Wayland eklentisini gerektiriyor, ancak kurulu değil (qt6-wayland paketi)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>bu Wayland oturumu hiçbir programın ekran kenarına raf asmasına izin vermiyor, X11 ekranı da yok (DISPLAY ayarlı değil)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>WAYLAND_DISPLAY’in gösterdiği yerde Wayland oturumu yok, X11 ekranı da yok (DISPLAY ayarlı değil)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>rafın asılacağı bir ekran yok (ne WAYLAND_DISPLAY ne de DISPLAY ayarlı)</translation>
     </message>
 </context>
 <context>
@@ -809,6 +903,10 @@ veya gizler.</translation>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Normalde bir öge, bıraktığınızda raftan ayrılır. Bırakırken Shift’i basılı tutarsanız kalır; böylece aynı şeyi yeniden toplamadan birkaç yere bırakabilirsiniz.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>Klavyeyle: rafın kısayoluna basın, sonra rafa yapıştırmak için %1, rafta gezinmek için %2 tuşlarını kullanın.</translation>
     </message>
 </context>
 <context>

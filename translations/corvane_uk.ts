@@ -241,6 +241,81 @@ that runs.</source>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>параметра %1 немає</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>жоден параметр Corvane не приймає значення</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 і %2 не можна вказувати разом</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null вказують з --list і --take</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>файли й посилання вказують без параметрів</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>стандартне введення можна покласти на полицю лише один раз</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>це не адреса: %1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>немає файла %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>стандартне введення не читається або більше за 256 МіБ</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>стандартне введення не є текстом у UTF-8</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>у стандартному введенні немає тексту</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>полиця не приймає об’єктів із зазначених: %1</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>не вдається записати у стандартне виведення: %1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane працює, але не відповідає</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>запущений Corvane повідомляє: %1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>запущений Corvane цього не вміє; можливо, це старіша версія</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>екран не можна використати: %1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1; див. corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -484,6 +559,25 @@ that runs.</source>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>для цього сеансу Wayland потрібен модуль Qt для Wayland, який не встановлено (пакунок qt6-wayland)</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>цей сеанс Wayland не дає програмам закріпити полицю біля краю екрана, і екрана X11 теж немає (DISPLAY не задано)</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>там, куди вказує WAYLAND_DISPLAY, немає сеансу Wayland, і екрана X11 теж немає (DISPLAY не задано)</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>немає екрана, на якому можна закріпити полицю (не задано ні WAYLAND_DISPLAY, ні DISPLAY)</translation>
     </message>
 </context>
 <context>
@@ -829,6 +923,10 @@ that runs.</source>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>Зазвичай об’єкт залишає полицю, коли ви його кудись відпускаєте. Утримуйте Shift, відпускаючи кнопку, і він залишиться: те саме можна відпустити в кількох місцях, не збираючи знову.</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>З клавіатури: натисніть сполучення клавіш полиці, потім %1, щоб вставити на неї, і %2, щоб переходити нею.</translation>
     </message>
 </context>
 <context>

@@ -235,6 +235,81 @@ that runs.</source>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>没有选项 %1</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>Corvane 的选项都不带值</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 和 %2 不能一起使用</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null 需与 --list 或 --take 一起使用</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>文件和链接不能与选项一起使用</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>标准输入只能放到置物架上一次</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>这不是地址：%1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>没有文件 %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>标准输入无法读取，或者超过 256 MiB</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>标准输入不是 UTF-8 文本</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>标准输入中没有文本</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>给出的项目中有 %1 个置物架不接收</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>无法写入标准输出：%1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane 正在运行，但没有响应</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>正在运行的 Corvane 报告：%1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>正在运行的 Corvane 不支持此操作，可能是较旧的版本</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>无法使用显示器：%1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1；请参阅 corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -468,6 +543,25 @@ that runs.</source>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>此 Wayland 会话需要 Qt 的 Wayland 插件，但未安装（软件包 qt6-wayland）</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>此 Wayland 会话不允许程序把置物架挂在屏幕边缘，也没有 X11 显示器（未设置 DISPLAY）</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>WAYLAND_DISPLAY 所指之处没有 Wayland 会话，也没有 X11 显示器（未设置 DISPLAY）</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>没有可以挂置物架的显示器（WAYLAND_DISPLAY 和 DISPLAY 均未设置）</translation>
     </message>
 </context>
 <context>
@@ -809,6 +903,10 @@ that runs.</source>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>通常项目在放下后会离开置物架。松开时按住 Shift，它就会留下，这样无需再次收集就能把同一项目放到多个地方。</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>用键盘：按置物架的快捷键，再按 %1 粘贴，按 %2 逐项移动。</translation>
     </message>
 </context>
 <context>

@@ -235,6 +235,81 @@ that runs.</source>
     </message>
 </context>
 <context>
+    <name>CommandProblem</name>
+    <message>
+        <source>there is no option %1</source>
+        <translation>沒有選項 %1</translation>
+    </message>
+    <message>
+        <source>no option of Corvane takes a value</source>
+        <translation>Corvane 的選項都不帶值</translation>
+    </message>
+    <message>
+        <source>%1 and %2 cannot go together</source>
+        <translation>%1 和 %2 不能一起使用</translation>
+    </message>
+    <message>
+        <source>--null goes with --list and --take</source>
+        <translation>--null 需與 --list 或 --take 一起使用</translation>
+    </message>
+    <message>
+        <source>files and links go with no option</source>
+        <translation>檔案和連結不能與選項一起使用</translation>
+    </message>
+    <message>
+        <source>standard input can be put on the shelf once</source>
+        <translation>標準輸入只能放到置物架上一次</translation>
+    </message>
+    <message>
+        <source>this is no address: %1</source>
+        <translation>這不是網址：%1</translation>
+    </message>
+    <message>
+        <source>there is no file %1</source>
+        <translation>沒有檔案 %1</translation>
+    </message>
+    <message>
+        <source>standard input cannot be read, or is larger than 256 MiB</source>
+        <translation>標準輸入無法讀取，或者超過 256 MiB</translation>
+    </message>
+    <message>
+        <source>standard input is no text in UTF-8</source>
+        <translation>標準輸入不是 UTF-8 文字</translation>
+    </message>
+    <message>
+        <source>there is no text on standard input</source>
+        <translation>標準輸入中沒有文字</translation>
+    </message>
+    <message>
+        <source>the shelf does not take %1 of what was given</source>
+        <translation>給出的項目中有 %1 個置物架不接收</translation>
+    </message>
+    <message>
+        <source>standard output cannot be written to: %1</source>
+        <translation>無法寫入標準輸出：%1</translation>
+    </message>
+    <message>
+        <source>Corvane is running, but does not answer</source>
+        <translation>Corvane 正在執行，但沒有回應</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs says: %1</source>
+        <translation>正在執行的 Corvane 回報：%1</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs does not do this; it may be an older version</source>
+        <translation>正在執行的 Corvane 不支援此操作，可能是較舊的版本</translation>
+    </message>
+    <message>
+        <source>the display cannot be used: %1</source>
+        <translation>無法使用顯示器：%1</translation>
+    </message>
+    <message>
+        <source>%1; see corvane --help</source>
+        <translation>%1；請參閱 corvane --help</translation>
+    </message>
+</context>
+<context>
     <name>ItemTexts</name>
     <message>
         <source>Folder</source>
@@ -468,6 +543,25 @@ that runs.</source>
     <message>
         <source>PgDown</source>
         <translation>Page Down</translation>
+    </message>
+</context>
+<context>
+    <name>SessionChoice</name>
+    <message>
+        <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
+        <translation>此 Wayland 工作階段需要 Qt 的 Wayland 外掛程式，但尚未安裝（套件 qt6-wayland）</translation>
+    </message>
+    <message>
+        <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
+        <translation>此 Wayland 工作階段不允許程式把置物架掛在螢幕邊緣，也沒有 X11 顯示器（未設定 DISPLAY）</translation>
+    </message>
+    <message>
+        <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
+        <translation>WAYLAND_DISPLAY 所指之處沒有 Wayland 工作階段，也沒有 X11 顯示器（未設定 DISPLAY）</translation>
+    </message>
+    <message>
+        <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
+        <translation>沒有可以掛置物架的顯示器（WAYLAND_DISPLAY 和 DISPLAY 均未設定）</translation>
     </message>
 </context>
 <context>
@@ -809,6 +903,10 @@ that runs.</source>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
         <translation>通常項目在放下後會離開置物架。放開時按住 Shift，它就會留下，這樣無須再次收集就能把同一項目放到多個地方。</translation>
+    </message>
+    <message>
+        <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
+        <translation>使用鍵盤：按置物架的快速鍵，再按 %1 貼上，按 %2 逐項移動。</translation>
     </message>
 </context>
 <context>

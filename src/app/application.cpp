@@ -4,6 +4,7 @@
 #include "app/base/translations.h"
 #include "app/commands/command_answers.h"
 #include "app/commands/command_line.h"
+#include "app/commands/command_problem.h"
 #include "app/commands/start_wish.h"
 #include "app/commands/toolkit_start.h"
 #include "app/composition_root.h"
@@ -75,6 +76,26 @@ struct ToolkitArguments {
     int count = 0;
 };
 
+QStringList languagesOfSession()
+{
+    return Translations::wanted(qEnvironmentVariable("CORVANE_LANGUAGE"),
+                                QLocale::system().uiLanguages());
+}
+
+/// What is said on the command line, in people's language, before there is a toolkit.
+struct WithoutToolkit {
+    explicit WithoutToolkit(ToolkitArguments &arguments)
+    {
+        if (!QCoreApplication::instance())
+            application.emplace(arguments.count, arguments.pointers.data());
+        translations.emplace(languagesOfSession());
+    }
+
+    /// None where there is one already.
+    std::optional<QCoreApplication> application;
+    std::optional<Translations> translations;
+};
+
 void complainOf(const StartWish &wish)
 {
     for (const QByteArray &problem : wish.problems())
@@ -82,9 +103,8 @@ void complainOf(const StartWish &wish)
 }
 
 /// Where this process cannot be the shelf: asks one that runs, which needs no display.
-std::optional<int> askedOfAnother(StartWish &wish, ToolkitArguments &toolkit, const AppInfo &info)
+std::optional<int> askedOfAnother(StartWish &wish, const AppInfo &info)
 {
-    const QCoreApplication application(toolkit.count, toolkit.pointers.data());
     RunningProgram other(info.applicationId());
     other.setPlatformData(RunningProgram::platformDataOfEnvironment());
     const bool isThere
@@ -104,8 +124,7 @@ std::optional<int> endBesideAnother(SingleInstance::Outcome outcome, const Start
     case SingleInstance::Outcome::HandedOver:
         return wish.problems().isEmpty() ? 0 : 1;
     case SingleInstance::Outcome::Refused:
-        command_answers::complain("the Corvane that runs does not do this; it may be an older "
-                                  "version");
+        command_answers::complain(command_problem::line(CommandProblem::NotDoneByOther));
         return 1;
     case SingleInstance::Outcome::NotAnswering:
         tellOfUnansweredStart(instance.otherProcess());
@@ -161,7 +180,8 @@ int runShelf(SessionKind kind, DBusSingleInstance &instance, AppDelegate *&deleg
 }
 
 /// Starts the shelf, or hands over to the one that runs.
-int start(const CommandLine &line, ToolkitArguments &toolkit, const AppInfo &info)
+int start(const CommandLine &line, ToolkitArguments &toolkit,
+          std::unique_ptr<WithoutToolkit> withoutToolkit, const AppInfo &info)
 {
     StartWish wish(line, StartWish::Surroundings::ofThisProcess());
     if (wish.isVain()) {
@@ -171,7 +191,7 @@ int start(const CommandLine &line, ToolkitArguments &toolkit, const AppInfo &inf
     const SessionChoice choice
         = chooseSession(SessionEnvironment::ofThisProcess(), probeRegistry());
     if (!choice.kind) {
-        const auto status = wish.isPlain() ? std::nullopt : askedOfAnother(wish, toolkit, info);
+        const auto status = wish.isPlain() ? std::nullopt : askedOfAnother(wish, info);
         if (!status)
             command_answers::complain(choice.refusal);
         return status.value_or(1);
@@ -183,11 +203,11 @@ int start(const CommandLine &line, ToolkitArguments &toolkit, const AppInfo &inf
     std::unique_ptr<QApplication> application;
     {
         const ToolkitStart guarded;
+        withoutToolkit.reset();
         application = std::make_unique<QApplication>(toolkit.count, toolkit.pointers.data());
     }
     setUpApplication(info);
-    const Translations translations(Translations::wanted(qEnvironmentVariable("CORVANE_LANGUAGE"),
-                                                         QLocale::system().uiLanguages()));
+    const Translations translations(languagesOfSession());
 
     AppDelegate *delegate = nullptr;
     DBusSingleInstance instance(info.applicationId());
@@ -212,15 +232,15 @@ int runApplication(int argc, char **argv)
     for (int i = 1; i < argc; ++i)
         arguments << argv[i];
     const QList<QByteArray> ofToolkit = CommandLine::takeToolkitArguments(arguments);
+    ToolkitArguments toolkit(QList<QByteArray>{argc > 0 ? argv[0] : "corvane"} + ofToolkit);
+    auto withoutToolkit = std::make_unique<WithoutToolkit>(toolkit);
     const CommandLine line = CommandLine::of(arguments);
     const AppInfo info = AppInfo::builtIn();
     if (const auto status = command_answers::atOnce(line, info))
         return *status;
     session_bus::keepFromStarting();
-    ToolkitArguments toolkit(QList<QByteArray>{argc > 0 ? argv[0] : "corvane"} + ofToolkit);
     if (!command_answers::isForRunningProgram(line.wish))
-        return start(line, toolkit, info);
-    const QCoreApplication application(toolkit.count, toolkit.pointers.data());
+        return start(line, toolkit, std::move(withoutToolkit), info);
     return command_answers::byRunningProgram(line, info);
 }
 

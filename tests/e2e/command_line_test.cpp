@@ -218,6 +218,22 @@ TEST_F(CommandLine, whatItDoesNotKnowItSays)
         inShell("corvane --bogus", withoutDisplay()).errors.contains("there is no option --bogus"));
 }
 
+TEST_F(CommandLine, speaksTheSessionsLanguage)
+{
+    QProcessEnvironment german = withoutDisplay();
+    german.insert(u"CORVANE_LANGUAGE"_s, u"de"_s);
+    const Outcome help = inShell("corvane --help", german);
+    EXPECT_EQ(help.status, 0);
+    EXPECT_TRUE(help.output.contains("Corvane beenden")) << help.output.constData();
+    EXPECT_EQ(inShell("corvane --bogus", german).errors,
+              "corvane: eine Option --bogus gibt es nicht; siehe corvane --help\n");
+    EXPECT_EQ(inShell("corvane /nowhere/a", german).errors,
+              "corvane: eine Datei /nowhere/a gibt es nicht\n");
+    EXPECT_TRUE(inShell("corvane", german).errors.contains("keine Anzeige"));
+    EXPECT_TRUE(
+        inShell("DISPLAY=:4000 corvane", german).errors.contains("die Anzeige kann nicht benutzt"));
+}
+
 TEST_F(CommandLine, theDesktopOpensFilesAndUnknownActionsAreErrors)
 {
     start();

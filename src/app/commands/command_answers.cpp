@@ -2,6 +2,7 @@
 
 #include "app/base/app_info.h"
 #include "app/commands/command_options.h"
+#include "app/commands/command_problem.h"
 #include "platform/freedesktop/running_program.h"
 #include "platform/freedesktop/session_bus.h"
 #include "platform/system/file_descriptor.h"
@@ -28,7 +29,7 @@ bool print(const QByteArray &bytes)
     const bool isWritten = output.write(bytes);
     if (output.close() && isWritten)
         return true;
-    complain(QByteArray("standard output cannot be written to: ") + std::strerror(errno));
+    complain(command_problem::line(CommandProblem::OutputUnwritable, {std::strerror(errno)}));
     return false;
 }
 
@@ -40,9 +41,10 @@ QByteArray inLines(QByteArray entries)
 int failedBy(const RunningProgram &program, RunningProgram::Answer answer)
 {
     if (answer == RunningProgram::Answer::None)
-        complain("Corvane is running, but does not answer");
+        complain(command_problem::line(CommandProblem::NotAnswering));
     else
-        complain("the Corvane that runs says: " + program.problem().toUtf8());
+        complain(command_problem::line(CommandProblem::RefusedByOther,
+                                       {program.problem().toLocal8Bit()}));
     return failed;
 }
 
@@ -86,7 +88,7 @@ void complain(const QByteArray &line)
 std::optional<int> atOnce(const CommandLine &line, const AppInfo &info)
 {
     if (!line.problem.isEmpty()) {
-        complain(line.problem + "; see corvane --help");
+        complain(command_problem::line(CommandProblem::SeeHelp, {line.problem}));
         return misused;
     }
     if (line.wish == CommandLine::Wish::Help)

@@ -1,6 +1,7 @@
 #include "app/commands/command_line.h"
 
 #include "app/commands/command_options.h"
+#include "app/commands/command_problem.h"
 
 #include <QCommandLineParser>
 
@@ -24,16 +25,16 @@ constexpr std::array<std::pair<const char *, Wish>, 8> wishes = {{
     {"version", Wish::Version},
 }};
 
-CommandLine wrong(const QByteArray &problem)
+CommandLine wrong(CommandProblem problem, const QList<QByteArray> &what = {})
 {
     CommandLine line;
-    line.problem = problem;
+    line.problem = command_problem::line(problem, what);
     return line;
 }
 
-QByteArray unknownOption(const QString &name)
+QByteArray asWritten(const QString &option)
 {
-    return "there is no option " + QByteArray(name.size() == 1 ? "-" : "--") + name.toLatin1();
+    return QByteArray(option.size() == 1 ? "-" : "--") + option.toLatin1();
 }
 
 /// The wish that the options tell; help and version come before all others.
@@ -46,7 +47,8 @@ CommandLine withWish(const QCommandLineParser &parser)
             continue;
         const bool isAnswer = wish == Wish::Help || wish == Wish::Version;
         if (first && !isAnswer)
-            return wrong(QByteArray("--") + first + " and --" + name + " cannot go together");
+            return wrong(CommandProblem::OptionsCannotGoTogether,
+                         {QByteArray("--") + first, QByteArray("--") + name});
         line.wish = wish;
         first = name;
         if (isAnswer)
@@ -72,8 +74,9 @@ CommandLine CommandLine::of(const QList<QByteArray> &arguments)
     }
     if (!parser.parse(texts)) {
         const QStringList unknown = parser.unknownOptionNames();
-        return wrong(unknown.isEmpty() ? QByteArray("no option of Corvane takes a value")
-                                       : unknownOption(unknown.constFirst()));
+        return unknown.isEmpty()
+            ? wrong(CommandProblem::OptionTakesNoValue)
+            : wrong(CommandProblem::UnknownOption, {asWritten(unknown.constFirst())});
     }
     CommandLine line = withWish(parser);
     if (!line.problem.isEmpty() || line.wish == Wish::Help || line.wish == Wish::Version)
@@ -83,13 +86,13 @@ CommandLine CommandLine::of(const QList<QByteArray> &arguments)
     for (const QString &place : parser.positionalArguments())
         line.places << place.toLatin1();
     if (line.isNullSeparated && line.wish != Wish::List && line.wish != Wish::Take)
-        return wrong("--null goes with --list and --take");
+        return wrong(CommandProblem::NullAlone);
     if (line.places.isEmpty())
         return line;
     if (line.wish != Wish::Start)
-        return wrong("files and links go with no option");
+        return wrong(CommandProblem::PlacesWithOption);
     if (line.places.count("-") > 1)
-        return wrong("standard input can be put on the shelf once");
+        return wrong(CommandProblem::InputTwice);
     line.wish = Wish::Put;
     return line;
 }

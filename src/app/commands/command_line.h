@@ -33,7 +33,8 @@ struct CommandLine {
     /// has no meaning.
     QByteArray problem = {};
 
-    /// From the arguments behind the program's name. Works without an application object.
+    /// From the arguments behind the program's name. Works without an application object, which
+    /// `problem` is then not translated by.
     static CommandLine of(const QList<QByteArray> &arguments);
     /// Those arguments among them that are for the toolkit: a session manager passes them to what
     /// it starts again. They are removed from `arguments`.

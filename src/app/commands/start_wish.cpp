@@ -1,5 +1,6 @@
 #include "app/commands/start_wish.h"
 
+#include "app/commands/command_problem.h"
 #include "app/commands/native_paths.h"
 #include "platform/qt/pasteboard/uri_list.h"
 #include "platform/system/file_url.h"
@@ -74,7 +75,7 @@ void StartWish::addAddress(const QByteArray &address)
     const QUrl url
         = address.contains('\n') || address.contains('\r') ? QUrl() : uri_list::parseLine(address);
     if (!url.isValid()) {
-        m_problems << "this is no address: " + address;
+        m_problems << command_problem::line(CommandProblem::NoAddress, {address});
     } else if (url.isLocalFile()) {
         addPath(file_url::nativePath(url), {});
     } else {
@@ -89,7 +90,7 @@ void StartWish::addPath(const QByteArray &place, const QByteArray &folder)
 {
     const QByteArray path = native_paths::absolute(place, folder);
     if (path.isEmpty() || !native_paths::exists(path)) {
-        m_problems << "there is no file " + place;
+        m_problems << command_problem::line(CommandProblem::NoFile, {place});
         return;
     }
     if (m_deliveries.empty() || m_deliveries.back().contents.kind == ShelfDelivery::Kind::Text)
@@ -103,11 +104,11 @@ void StartWish::addInput(const Surroundings &surroundings)
 {
     const auto text = surroundings.readInput(ShelfRequests::maximumBytes);
     if (!text)
-        m_problems << "standard input cannot be read, or is larger than 256 MiB";
+        m_problems << command_problem::line(CommandProblem::InputUnreadable);
     else if (!text->isValidUtf8())
-        m_problems << "standard input is no text in UTF-8";
+        m_problems << command_problem::line(CommandProblem::InputNotUtf8);
     else if (text->trimmed().isEmpty())
-        m_problems << "there is no text on standard input";
+        m_problems << command_problem::line(CommandProblem::InputEmpty);
     else
         m_deliveries.push_back({{ShelfDelivery::Kind::Text, *text}, 1});
 }
@@ -127,8 +128,8 @@ RunningProgram::Answer StartWish::handOver(const RunningProgram &other)
             return answer;
         const int missing = m_deliveries.front().count - items;
         if (missing > 0)
-            m_problems << "the shelf does not take " + QByteArray::number(missing)
-                    + " of what was given";
+            m_problems << command_problem::line(CommandProblem::SomeNotTaken,
+                                                {QByteArray::number(missing)});
         m_deliveries.pop_front();
     }
     return Answer::Done;

@@ -1,5 +1,7 @@
 #include "app/commands/toolkit_start.h"
 
+#include "app/commands/command_problem.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QtGlobal>
@@ -23,6 +25,9 @@ struct Said {
 
 std::vector<Said> saidMeanwhile;
 QtMessageHandler handlerBefore = nullptr;
+/// In two halves, between which the reason stands.
+QByteArray lineBefore;
+QByteArray lineBehind;
 
 void holdBack(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
@@ -32,8 +37,9 @@ void holdBack(QtMsgType type, const QMessageLogContext &context, const QString &
     }
     // The first thing that went wrong is the reason; what follows lists what else was tried.
     const QString reason = saidMeanwhile.empty() ? text : saidMeanwhile.front().text;
-    std::fprintf(stderr, "corvane: the display cannot be used: %s\n",
-                 reason.section(QLatin1Char('\n'), 0, 0).toLocal8Bit().constData());
+    std::fprintf(stderr, "corvane: %s%s%s\n", lineBefore.constData(),
+                 reason.section(QLatin1Char('\n'), 0, 0).toLocal8Bit().constData(),
+                 lineBehind.constData());
     ::_exit(1);
 }
 
@@ -42,6 +48,9 @@ void holdBack(QtMsgType type, const QMessageLogContext &context, const QString &
 ToolkitStart::ToolkitStart()
 {
     saidMeanwhile.clear();
+    const QByteArray line = command_problem::line(CommandProblem::DisplayUnusable, {"\n"});
+    lineBefore = line.left(line.indexOf('\n'));
+    lineBehind = line.mid(line.indexOf('\n') + 1);
     handlerBefore = qInstallMessageHandler(holdBack);
 }
 

@@ -20,19 +20,26 @@ bool isWaylandPluginInstalled()
     });
 }
 
-QByteArray refusal(const SessionEnvironment &environment, const CompositorRegistry &compositor)
+QString refusal(const SessionEnvironment &environment, const CompositorRegistry &compositor)
 {
     if (compositor.hasLayerShell)
-        return "this Wayland session takes Qt's plug-in for Wayland, which is not installed "
-               "(the package qt6-wayland)";
+        return QCoreApplication::translate(
+            "SessionChoice",
+            "this Wayland session takes Qt's plug-in for Wayland, which is not installed "
+            "(the package qt6-wayland)");
     if (compositor.answers)
-        return "this Wayland session lets no program hang a shelf from its screen's edge, and "
-               "there "
-               "is no X11 display either (DISPLAY is not set)";
+        return QCoreApplication::translate(
+            "SessionChoice",
+            "this Wayland session lets no program hang a shelf from its screen's edge, and there "
+            "is no X11 display either (DISPLAY is not set)");
     if (!environment.waylandDisplay.isEmpty())
-        return "there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either "
-               "(DISPLAY is not set)";
-    return "there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)";
+        return QCoreApplication::translate(
+            "SessionChoice",
+            "there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either "
+            "(DISPLAY is not set)");
+    return QCoreApplication::translate(
+        "SessionChoice",
+        "there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)");
 }
 
 } // namespace
@@ -59,8 +66,9 @@ SessionChoice chooseSession(const SessionEnvironment &environment,
         return {.kind = SessionKind::XWayland, .platformPlugin = "xcb", .refusal = {}};
     if (hasX)
         return {.kind = SessionKind::X11, .platformPlugin = "xcb", .refusal = {}};
-    return {
-        .kind = std::nullopt, .platformPlugin = {}, .refusal = refusal(environment, compositor)};
+    return {.kind = std::nullopt,
+            .platformPlugin = {},
+            .refusal = refusal(environment, compositor).toLocal8Bit()};
 }
 
 } // namespace corvane

@@ -1,6 +1,7 @@
 #include "app/welcome/welcome_step.h"
 
 #include <QCoreApplication>
+#include <QKeySequence>
 
 namespace corvane::welcome_step {
 
@@ -38,6 +39,19 @@ QString body(WelcomeStep step)
             "again.");
     }
     return {};
+}
+
+QString keys(WelcomeStep step)
+{
+    if (step != WelcomeStep::DragOut)
+        return {};
+    const auto shown
+        = [](const QKeySequence &key) { return key.toString(QKeySequence::NativeText); };
+    return QCoreApplication::translate(
+               "WelcomeStep",
+               "By keyboard: press the shelf's shortcut, then %1 to paste onto it and %2 to go "
+               "through it.")
+        .arg(shown(Qt::CTRL | Qt::Key_V), shown(Qt::Key_Tab));
 }
 
 } // namespace corvane::welcome_step

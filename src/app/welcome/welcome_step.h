@@ -20,6 +20,8 @@ namespace welcome_step {
 
 QString title(WelcomeStep step);
 QString body(WelcomeStep step);
+/// How it is done by keyboard alone; empty where there is nothing to be said.
+QString keys(WelcomeStep step);
 
 } // namespace welcome_step
 

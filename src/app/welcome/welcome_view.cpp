@@ -39,16 +39,17 @@ WelcomeView::WelcomeView(const MotionPreference &motion, SessionAbilities &abili
     , m_illustration(new IllustrationView(m_look, motion))
     , m_title(new TextLabel({}, m_look.font(titleSize, QFont::DemiBold), TextLabel::Tone::Primary))
     , m_body(new TextLabel({}, m_look.font(bodySize), TextLabel::Tone::Secondary))
+    , m_keys(new TextLabel({}, m_look.font(limitSize), TextLabel::Tone::Secondary))
     , m_limit(new TextLabel({}, m_look.font(limitSize), TextLabel::Tone::Secondary))
     , m_indicator(new PageIndicator(static_cast<int>(allWelcomeSteps.size()), m_look, motion))
 {
     m_title->setAlignment(Qt::AlignCenter);
     m_title->setWordWrap(true);
-    for (TextLabel *text : {m_body, m_limit}) {
+    for (TextLabel *text : {m_body, m_keys, m_limit}) {
         text->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
         text->setWordWrap(true);
     }
-    for (TextLabel *text : {m_title, m_body, m_limit})
+    for (TextLabel *text : {m_title, m_body, m_limit, m_keys})
         text->setContentsMargins(m_look.length(textInset), 0, m_look.length(textInset), 0);
 
     auto *layout = new QVBoxLayout(this);
@@ -61,6 +62,7 @@ WelcomeView::WelcomeView(const MotionPreference &motion, SessionAbilities &abili
     layout->addWidget(m_body);
     layout->addSpacing(m_look.length(afterTitle));
     layout->addWidget(m_limit);
+    layout->addWidget(m_keys);
     layout->addStretch();
     layout->addWidget(m_indicator, 0, Qt::AlignHCenter);
     layout->addWidget(makeButtons());
@@ -102,6 +104,8 @@ void WelcomeView::showStep(int step)
     m_illustration->setAccessibleName(tr("Illustration: %1").arg(welcome_step::title(shown)));
     m_title->setText(welcome_step::title(shown));
     m_body->setText(welcome_step::body(shown));
+    m_keys->setText(welcome_step::keys(shown));
+    m_keys->setVisible(!m_keys->text().isEmpty());
     m_limit->setText(limitOf(shown));
     m_limit->setVisible(!m_limit->text().isEmpty());
     m_indicator->setCurrent(step);

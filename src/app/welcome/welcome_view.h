@@ -52,6 +52,7 @@ private:
     IllustrationView *m_illustration;
     TextLabel *m_title;
     TextLabel *m_body;
+    TextLabel *m_keys;
     TextLabel *m_limit;
     PageIndicator *m_indicator;
     ActionButton *m_back = nullptr;

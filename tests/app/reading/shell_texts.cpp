@@ -1,8 +1,10 @@
 #include "app/base/session_texts.h"
 #include "app/commands/command_options.h"
+#include "app/commands/command_problem.h"
 #include "app/preferences/preferences_window_controller.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "app/reading/all_texts.h"
+#include "app/sessions/choose_session.h"
 #include "app/spoken_texts.h"
 #include "app/status/status_item_controller.h"
 #include "app/updates/update_window_controller.h"
@@ -71,6 +73,24 @@ TextTable textsOfTheCommandLine()
     // One line: a text of several has no other beginning than its first.
     table.add(QStringLiteral("Help"),
               {command_options::help().replace(u'\n', QLatin1String(" / "))});
+    QStringList problems;
+    for (int i = 0; i < command_problem::count; ++i)
+        problems << QString::fromLocal8Bit(
+            command_problem::line(static_cast<CommandProblem>(i), {"one", "two"}));
+    table.add(QStringLiteral("Problems"), problems);
+    QStringList refusals;
+    SessionEnvironment lost;
+    lost.waylandDisplay = "one";
+    CompositorRegistry silent;
+    CompositorRegistry plain;
+    plain.answers = true;
+    CompositorRegistry layers = plain;
+    layers.hasLayerShell = true;
+    for (const auto &[environment, compositor] :
+         {std::pair(SessionEnvironment(), silent), std::pair(lost, silent), std::pair(lost, plain),
+          std::pair(lost, layers)})
+        refusals << QString::fromLocal8Bit(chooseSession(environment, compositor).refusal);
+    table.add(QStringLiteral("Starts without a display"), refusals);
     return table;
 }
 
