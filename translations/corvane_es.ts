@@ -612,7 +612,7 @@ se está ejecutando.</translation>
     </message>
     <message>
         <source>A click in another program does not close the bar with all items</source>
-        <translation>Una pulsación en otro programa no cierra la barra con todos los elementos</translation>
+        <translation>Un clic en otro programa no cierra la barra con todos los elementos</translation>
     </message>
     <message>
         <source>Press Escape to close it.</source>
@@ -988,7 +988,7 @@ se está ejecutando.</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation>Iniciar al entrar en la sesión</translation>
+        <translation>Iniciar al abrir la sesión</translation>
     </message>
     <message>
         <source>Corvane runs in the menu bar with no Dock icon.</source>

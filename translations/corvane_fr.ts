@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Focus</source>
-        <translation>Activer</translation>
+        <translation>Donner le focus</translation>
     </message>
     <message>
         <source>Preview</source>

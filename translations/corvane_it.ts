@@ -79,7 +79,7 @@
     </message>
     <message>
         <source>Focus</source>
-        <translation>Metti a fuoco</translation>
+        <translation>Porta qui il focus</translation>
     </message>
     <message>
         <source>Preview</source>

@@ -896,7 +896,7 @@ está em execução.</translation>
     </message>
     <message>
         <source>Drag it back out when you arrive</source>
-        <translation>Arraste de volta quando chegar</translation>
+        <translation>Arraste para fora quando chegar</translation>
     </message>
     <message>
         <source>Hold ⇧ to keep it on the shelf</source>
@@ -988,7 +988,7 @@ está em execução.</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation>Iniciar ao entrar na sessão</translation>
+        <translation>Iniciar com a sessão</translation>
     </message>
     <message>
         <source>Corvane runs in the menu bar with no Dock icon.</source>

@@ -906,7 +906,7 @@ that runs.</source>
     </message>
     <message>
         <source>Drag it back out when you arrive</source>
-        <translation>Вытащите обратно, когда придёте</translation>
+        <translation>Вытащите на новом месте</translation>
     </message>
     <message>
         <source>Hold ⇧ to keep it on the shelf</source>
@@ -1015,7 +1015,7 @@ that runs.</source>
     </message>
     <message>
         <source>Show previews for dropped links</source>
-        <translation>Показывать просмотр положенных ссылок</translation>
+        <translation>Показывать предпросмотр положенных ссылок</translation>
     </message>
     <message>
         <source>Asks the linked site for its title and image. It is the only time Corvane uses the network on your behalf, and the site learns you have the link.</source>
