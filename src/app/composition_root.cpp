@@ -130,7 +130,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                         .workQueue = thumbnailWork})
     , thumbnails(thumbnailChain, remoteThumbnails, fileIcons, imageCodec, screens, mainQueue,
                  thumbnailWork)
-    , linkPreviews(webClient, imageCodec, mainQueue, workQueue, product())
+    , linkPreviews(webClient, imageCodec, mainQueue, workQueue, slowWork, product())
     , store(settings, spool, thumbnails, linkPreviews, feedback)
     , previewDocuments(decoders)
     , previewLoader({.documents = previewDocuments,
@@ -282,8 +282,8 @@ bool CompositionRoot::finishWork(std::chrono::milliseconds patience)
         const std::chrono::milliseconds rest(std::max<qint64>(deadline.remainingTime(), 0));
         haveAllEnded = threads.finish(rest) && haveAllEnded;
     };
-    for (QtWorkQueue *queue : {&workQueue, &textWork, &conversionWork, &thumbnailWork, &previewWork,
-                               &remotePreviewWork, &updateWork})
+    for (QtWorkQueue *queue : {&workQueue, &slowWork, &textWork, &conversionWork, &thumbnailWork,
+                               &previewWork, &remotePreviewWork, &updateWork})
         finish(*queue);
     finish(webClient);
     finish(updateClient);

@@ -91,6 +91,8 @@ struct CompositionRoot {
     DecoderImageCodec imageCodec;
     // After the objects that its work uses, because its destructor waits for work that is running.
     QtWorkQueue workQueue;
+    // Of its own: pictures that take long to decode keep nothing else waiting.
+    QtWorkQueue slowWork{1};
     // Of its own: a text that is dropped waits for no disk.
     QtWorkQueue textWork;
     std::shared_ptr<WebRoutes> webRoutes;

@@ -34,11 +34,12 @@ QString shortened(const QString &text)
 
 LinkPreviewService::LinkPreviewService(WebClient &webClient, const ImageCodec &codec,
                                        MainQueue &mainQueue, WorkQueue &workQueue,
-                                       const Product &product)
+                                       WorkQueue &slowWork, const Product &product)
     : m_webClient(webClient)
     , m_codec(codec)
     , m_mainQueue(mainQueue)
     , m_workQueue(workQueue)
+    , m_slowWork(slowWork)
     , m_userAgent("Mozilla/5.0 (Macintosh; Intel Mac OS X) Corvane/" + product.version.toUtf8()
                   + " (+" + product.homePage.toUtf8() + ")")
 {
@@ -61,7 +62,7 @@ void LinkPreviewService::load(const QUrl &url, IsWanted isWanted, Completion com
 
 void LinkPreviewService::startNext()
 {
-    while (m_running.size() < maximumLoads && !m_waiting.empty()) {
+    while (m_running.size() - m_slow < maximumLoads && !m_waiting.empty()) {
         Load load = std::move(m_waiting.back());
         m_waiting.pop_back();
         if (!load.isWanted())
@@ -138,26 +139,49 @@ void LinkPreviewService::decodePicture(Number number, const std::optional<WebRes
         finish(number, true);
         return;
     }
+    decode(number, response->body);
+}
+
+void LinkPreviewService::decode(Number number, const QByteArray &body)
+{
+    const bool isSlow = m_running.at(number).isSlow;
     const auto take = m_lifetime.guard(
-        [this, number](const std::optional<QImage> &bitmap) { takePicture(number, bitmap); });
-    m_workQueue.run([&codec = m_codec, &mainQueue = m_mainQueue, take, body = response->body] {
+        [this, number, body](const std::optional<QImage> &bitmap, bool isTooSlow) {
+            takePicture(number, bitmap, isTooSlow, body);
+        });
+    WorkQueue &queue = isSlow ? m_slowWork : m_workQueue;
+    queue.run([&codec = m_codec, &mainQueue = m_mainQueue, take, body, isSlow] {
         DecodingAttempt attempt;
         attempt.formats = DecodingAttempt::Formats::Web;
-        mainQueue.async(
-            [take, bitmap = codec.thumbnail(body, pictureSide, attempt)] { take(bitmap); });
+        attempt.patience
+            = isSlow ? DecodingAttempt::Patience::Alone : DecodingAttempt::Patience::Brief;
+        const auto bitmap = codec.thumbnail(body, pictureSide, attempt);
+        const bool isTooSlow = attempt.outcome == DecodingAttempt::Outcome::TooSlow;
+        mainQueue.async([take, bitmap, isTooSlow] { take(bitmap, isTooSlow); });
     });
 }
 
-void LinkPreviewService::takePicture(Number number, const std::optional<QImage> &bitmap)
+void LinkPreviewService::takePicture(Number number, const std::optional<QImage> &bitmap,
+                                     bool isTooSlow, const QByteArray &body)
 {
+    Load &load = m_running.at(number);
     if (bitmap && !bitmap->isNull())
-        m_running.at(number).preview.image = Image{*bitmap, QSizeF(bitmap->size())};
-    finish(number, true);
+        load.preview.image = Image{*bitmap, QSizeF(bitmap->size())};
+    if (!isTooSlow || load.isSlow || m_slow == maximumSlowPictures || !load.isWanted()) {
+        finish(number, true);
+        return;
+    }
+    load.isSlow = true;
+    ++m_slow;
+    decode(number, body);
+    startNext();
 }
 
 void LinkPreviewService::finish(Number number, bool hasPreview)
 {
     const Load load = std::move(m_running.extract(number).mapped());
+    if (load.isSlow)
+        --m_slow;
     startNext();
     // Last, because the completion may destroy the service.
     load.completion(hasPreview ? std::optional(load.preview) : std::nullopt);

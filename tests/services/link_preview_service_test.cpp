@@ -58,8 +58,9 @@ struct LinkPreviewServiceTest : testing::Test {
     test::FakeImageCodec codec;
     test::TestClock clock;
     test::FakeWorkQueue work;
+    test::FakeWorkQueue slowWork;
     std::unique_ptr<LinkPreviewService> service = std::make_unique<LinkPreviewService>(
-        web, codec, clock, work,
+        web, codec, clock, work, slowWork,
         LinkPreviewService::Product{QStringLiteral("1.2.3"),
                                     QStringLiteral("https://corvane.example/")});
     int completions = 0;
@@ -359,6 +360,53 @@ TEST_F(LinkPreviewServiceTest, RunsFourLoadsAtATimeNewestFirst)
     EXPECT_EQ(web.requests[6].url, QUrl(QStringLiteral("http://x/card.png")));
     web.fail(6);
     EXPECT_EQ(web.requests.at(7).url, url(5));
+}
+
+TEST_F(LinkPreviewServiceTest, APictureThatTakesLongKeepsNoOtherLoadWaiting)
+{
+    codec.teach("slow", {400, 100});
+    codec.slow << "slow";
+    for (std::size_t i = 0; i < LinkPreviewService::maximumLoads; ++i) {
+        load();
+        givePage(pictured);
+        givePicture("slow");
+    }
+    EXPECT_EQ(completions, 0);
+    EXPECT_EQ(slowWork.pendingCount(), LinkPreviewService::maximumLoads);
+    codec.teach("picture", {4, 4});
+    load();
+    givePage(pictured);
+    givePicture("picture");
+    EXPECT_EQ(completions, 1) << "it has not waited for the others";
+    slowWork.runAll();
+    clock.runPending();
+    EXPECT_EQ(completions, 5);
+    EXPECT_EQ(result->image->bitmap.size(), QSize(192, 48)) << "they have theirs in the end";
+}
+
+TEST_F(LinkPreviewServiceTest, HoldsOnlySoManyPicturesThatTakeLong)
+{
+    codec.teach("slow", {400, 100});
+    codec.slow << "slow";
+    for (std::size_t i = 0; i < LinkPreviewService::maximumSlowPictures; ++i) {
+        load();
+        givePage(pictured);
+        givePicture("slow");
+    }
+    EXPECT_EQ(completions, 0);
+    load();
+    givePage(pictured);
+    givePicture("slow");
+    EXPECT_EQ(completions, 1);
+    ASSERT_TRUE(result.has_value());
+    EXPECT_FALSE(result->image.has_value());
+    slowWork.runOne();
+    clock.runPending();
+    load();
+    givePage(pictured);
+    givePicture("slow");
+    EXPECT_EQ(completions, 2) << "there is room again";
+    EXPECT_EQ(slowWork.pendingCount(), LinkPreviewService::maximumSlowPictures);
 }
 
 TEST_F(LinkPreviewServiceTest, LoadsEveryLinkOfManyOnce)

@@ -16,7 +16,7 @@ class LinkPreviewTest : public WebClientTest {
 protected:
     std::optional<LinkPreview> load(const QUrl &url)
     {
-        LinkPreviewService service(client(), codec, queue, work, {u"1.0"_s, u"https://x/"_s});
+        LinkPreviewService service(client(), codec, queue, work, work, {u"1.0"_s, u"https://x/"_s});
         std::optional<LinkPreview> result;
         bool isDone = false;
         service.load(
