@@ -13,7 +13,7 @@ ImageConverter::ImageConverter(const ImageCodec &codec)
 bool ImageConverter::transcode(const QUrl &fileAt, const UTType &type, const SpoolPlace &to) const
 {
     return to.write([&](const FileDescriptor &file) {
-        return m_codec.transcodeFile(fileAt, type, file) && to.isWanted();
+        return m_codec.transcodeFile(fileAt, type, file, to.cancellation()) && to.isWanted();
     });
 }
 
@@ -21,7 +21,7 @@ bool ImageConverter::transcode(const QByteArray &data, const UTType &type,
                                const SpoolPlace &to) const
 {
     return to.write([&](const FileDescriptor &file) {
-        return m_codec.transcode(data, type, file) && to.isWanted();
+        return m_codec.transcode(data, type, file, to.cancellation()) && to.isWanted();
     });
 }
 

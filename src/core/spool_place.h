@@ -1,9 +1,10 @@
 #pragma once
 
+#include "platform/base/cancellation.h"
+
 #include <QByteArray>
 #include <QUrl>
 
-#include <atomic>
 #include <functional>
 
 namespace corvane {
@@ -18,8 +19,11 @@ public:
 
     const QUrl &url() const { return m_url; }
     /// False once the file was discarded or given up: making it can stop.
-    bool isWanted() const { return m_isWanted; }
-    void giveUp() { m_isWanted = false; }
+    bool isWanted() const { return !m_cancellation.isCancelled(); }
+    void giveUp() { m_cancellation.cancel(); }
+    /// Cancelled when the file is not wanted any more: for one piece of work at a time that makes
+    /// it.
+    Cancellation &cancellation() const { return m_cancellation; }
     /// Writes the file, which appears complete or not at all. False, and no file is left, when it
     /// is not wanted any more or cannot be written.
     bool write(const QByteArray &data) const;
@@ -30,7 +34,7 @@ private:
     bool keep(bool isCreated) const;
 
     const QUrl m_url;
-    std::atomic<bool> m_isWanted = true;
+    mutable Cancellation m_cancellation;
 };
 
 } // namespace corvane

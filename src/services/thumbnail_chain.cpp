@@ -9,6 +9,8 @@
 #include "platform/system/file_version.h"
 #include "services/made_picture.h"
 
+#include <QtEndian>
+
 #include <algorithm>
 #include <utility>
 
@@ -16,18 +18,34 @@ namespace corvane {
 
 namespace {
 
-/// What a thumbnail program left, which may be anything: a PNG of a modest size, or nothing.
-std::optional<QImage> decoded(const ImageCodec &codec, const QByteArray &png, int pixels)
+/// As a PNG begins: a signature, and a chunk that says how wide and how high it is.
+bool isModestPng(const QByteArray &png)
 {
-    constexpr int largestSide = 4096;
-    if (!png.startsWith("\x89PNG\r\n\x1a\n"))
-        return std::nullopt;
-    const auto size = codec.pixelSize(png);
-    if (!size || std::max(size->width(), size->height()) > largestSide)
-        return std::nullopt;
-    DecodingAttempt attempt;
+    constexpr quint32 largestSide = 4096;
+    constexpr qsizetype width = 16;
+    constexpr qsizetype height = 20;
+    constexpr qsizetype headerSize = 33;
+    const auto fits = [&](qsizetype at) {
+        const auto side = qFromBigEndian<quint32>(png.constData() + at);
+        return side > 0 && side <= largestSide;
+    };
+    return png.startsWith("\x89PNG\r\n\x1a\n") && png.size() >= headerSize && fits(width)
+        && fits(height);
+}
+
+/// What a thumbnail program left, which may be anything: a PNG of a modest size, or nothing.
+std::optional<QImage> decoded(const ImageCodec &codec, const QByteArray &png, int pixels,
+                              DecodingAttempt &attempt)
+{
     attempt.formats = DecodingAttempt::Formats::Png;
-    return codec.thumbnail(png, pixels, attempt);
+    return isModestPng(png) ? codec.thumbnail(png, pixels, attempt) : std::nullopt;
+}
+
+/// Whether the attempt says something about the contents; others say that we could not.
+bool isVerdict(DecodingAttempt::Outcome outcome)
+{
+    using Outcome = DecodingAttempt::Outcome;
+    return outcome == Outcome::Unreadable || outcome == Outcome::OverBounds;
 }
 
 std::optional<QImage> madeByProgram(const ThumbnailChain::Context &context, const FileVersion &file,
@@ -37,12 +55,14 @@ std::optional<QImage> madeByProgram(const ThumbnailChain::Context &context, cons
     const auto result = context.thumbnailers.run(file, pixels, cancellation);
     if (result.outcome == Outcome::NotThere || result.outcome == Outcome::Stopped)
         return std::nullopt;
+    DecodingAttempt attempt;
+    attempt.cancellation = &cancellation;
     std::optional<QImage> picture;
     if (result.outcome == Outcome::Made)
-        picture = decoded(context.codec, result.png, pixels);
+        picture = decoded(context.codec, result.png, pixels, attempt);
     if (picture)
         context.cache.keep(file, *picture);
-    else
+    else if (isVerdict(attempt.outcome))
         context.cache.keepFailure(file);
     return picture;
 }

@@ -3,6 +3,7 @@
 #include "core/temporary_spool.h"
 #include "fakes/fake_image_codec.h"
 #include "fakes/in_process_codec.h"
+#include "platform/base/cancellation.h"
 
 #include <QBuffer>
 
@@ -50,6 +51,18 @@ TEST_F(ImageConverterTest, StopsWhereNobodyWantsTheFileAnyMore)
 {
     spool.discard(place->url());
     EXPECT_FALSE(converter.transcode(QByteArray("picture"), UTType::png(), *place));
+    EXPECT_FALSE(exists(place->url()));
+}
+
+TEST_F(ImageConverterTest, TellsTheCodecWhenTheFileIsNotWantedAnyMore)
+{
+    bool isTold = false;
+    codec.onTranscode = [&](Cancellation &cancellation) {
+        const Cancellation::Handler handler(cancellation, [&] { isTold = true; });
+        spool.discard(place->url());
+    };
+    EXPECT_FALSE(converter.transcode(QByteArray("picture"), UTType::png(), *place));
+    EXPECT_TRUE(isTold);
     EXPECT_FALSE(exists(place->url()));
 }
 

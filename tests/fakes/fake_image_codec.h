@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <functional>
 
 namespace corvane::test {
 
@@ -32,6 +33,10 @@ public:
             attempt.outcome = Outcome::TooSlow;
             return std::nullopt;
         }
+        if (unavailable.contains(data)) {
+            attempt.outcome = Outcome::Interrupted;
+            return std::nullopt;
+        }
         auto size = pixelSize(data);
         const Outcome failure = bombs.contains(data) ? Outcome::OverBounds : Outcome::Unreadable;
         attempt.outcome = size ? Outcome::Made : failure;
@@ -46,18 +51,20 @@ public:
     {
         return thumbnail(read(url), maximumPixels, attempt);
     }
-    bool transcode(const QByteArray &data, const UTType &type,
-                   const FileDescriptor &target) const override
+    bool transcode(const QByteArray &data, const UTType &type, const FileDescriptor &target,
+                   Cancellation &cancellation) const override
     {
         ++decodings;
+        if (onTranscode)
+            onTranscode(cancellation);
         const auto size = pixelSize(data);
         const auto bytes = size ? encode(picture(*size), type) : std::nullopt;
         return bytes && target.write(*bytes);
     }
-    bool transcodeFile(const QUrl &url, const UTType &type,
-                       const FileDescriptor &target) const override
+    bool transcodeFile(const QUrl &url, const UTType &type, const FileDescriptor &target,
+                       Cancellation &cancellation) const override
     {
-        return transcode(read(url), type, target);
+        return transcode(read(url), type, target, cancellation);
     }
     std::optional<QByteArray> encode(const QImage &image, const UTType &type) const override
     {
@@ -74,9 +81,13 @@ public:
     /// Bytes that need longer than a brief attempt, and those that break the bounds.
     QByteArrayList slow;
     QByteArrayList bombs;
+    /// Bytes for which nobody is there who could decode them.
+    QByteArrayList unavailable;
     /// What each thumbnail might be made of.
     mutable QList<DecodingAttempt::Formats> formats;
     bool refusesToEncode = false;
+    /// Called in the middle of a conversion.
+    std::function<void(Cancellation &cancellation)> onTranscode;
     /// How often a whole picture was decoded.
     mutable std::atomic<int> decodings = 0;
 

@@ -73,13 +73,13 @@ public:
     {
         return inFile(url, [](QIODevice &device) { return picture_decoding::whole(device); });
     }
-    bool transcode(const QByteArray &data, const UTType &type,
-                   const FileDescriptor &target) const override
+    bool transcode(const QByteArray &data, const UTType &type, const FileDescriptor &target,
+                   Cancellation & /*cancellation*/) const override
     {
         return write(decode(data), type, target);
     }
-    bool transcodeFile(const QUrl &url, const UTType &type,
-                       const FileDescriptor &target) const override
+    bool transcodeFile(const QUrl &url, const UTType &type, const FileDescriptor &target,
+                       Cancellation & /*cancellation*/) const override
     {
         return write(decodeFile(url), type, target);
     }

@@ -128,6 +128,23 @@ TEST_F(ThumbnailChainTest, aPictureThatBreaksTheBoundsOfDecodingIsRememberedAndG
     EXPECT_EQ(cache.failures.size(), 1);
 }
 
+TEST_F(ThumbnailChainTest, whatCouldNotBeTriedIsNoFailureOfTheFile)
+{
+    FakeImageCodec interrupted;
+    const QByteArray png = written(plain(128, 64));
+    interrupted.unavailable << png << "unavailable";
+    ThumbnailChain chainOfIt{{locality, cache, interrupted, thumbnailers, work}};
+    thumbnailers.result = {Outcome::Made, png};
+    for (const char *contents : {"film", "unavailable"}) {
+        request.url = file_url::fromNativePath(save("a.avi", contents));
+        chainOfIt.generateBestRepresentation(
+            request, [](const ThumbnailAnswer &answer) { EXPECT_FALSE(answer.picture); });
+        work.runAll();
+        EXPECT_TRUE(cache.failures.isEmpty()) << contents;
+    }
+    EXPECT_EQ(thumbnailers.asked.size(), 1U) << "the film was tried";
+}
+
 TEST_F(ThumbnailChainTest, aSlowPictureIsNoFailureUntilItWasTriedPatiently)
 {
     FakeImageCodec slowly;

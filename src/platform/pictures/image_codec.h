@@ -73,11 +73,11 @@ public:
                                                 DecodingAttempt &attempt) const = 0;
     /// Writes the first picture, encoded anew, into an empty file that is open for writing: at full
     /// size, with all bits of its channels and the colours of translucent pixels as far as the type
-    /// allows. False if that fails; then the file may hold anything.
-    virtual bool transcode(const QByteArray &data, const UTType &type,
-                           const FileDescriptor &target) const = 0;
-    virtual bool transcodeFile(const QUrl &url, const UTType &type,
-                               const FileDescriptor &target) const = 0;
+    /// allows. False if that fails or is cancelled; then the file may hold anything.
+    virtual bool transcode(const QByteArray &data, const UTType &type, const FileDescriptor &target,
+                           Cancellation &cancellation) const = 0;
+    virtual bool transcodeFile(const QUrl &url, const UTType &type, const FileDescriptor &target,
+                               Cancellation &cancellation) const = 0;
     /// Encodes a picture of our own. None if the type cannot be written.
     virtual std::optional<QByteArray> encode(const QImage &image, const UTType &type) const = 0;
 

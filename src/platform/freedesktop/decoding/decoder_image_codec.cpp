@@ -4,6 +4,7 @@
 #include "platform/pictures/picture_memory.h"
 #include "platform/pictures/plain_png.h"
 #include "platform/system/file_url.h"
+#include "platform/system/file_version.h"
 #include "platform/system/regular_file.h"
 
 #include <algorithm>
@@ -68,13 +69,23 @@ std::optional<QSize> DecoderImageCodec::pixelSize(const QByteArray &data) const
 std::optional<QImage> DecoderImageCodec::thumbnail(const QByteArray &data, int maximumPixels,
                                                    DecodingAttempt &attempt) const
 {
-    return thumbnailOf(picture_memory::of(data), maximumPixels, attempt);
+    const FileDescriptor contents = picture_memory::of(data);
+    attempt.outcome = AttemptOutcome::Interrupted;
+    return contents.isOpen() ? thumbnailOf(contents, maximumPixels, attempt) : std::nullopt;
 }
 
 std::optional<QImage> DecoderImageCodec::fileThumbnail(const QUrl &url, int maximumPixels,
                                                        DecodingAttempt &attempt) const
 {
-    return thumbnailOf(regular_file::open(file_url::nativePath(url)), maximumPixels, attempt);
+    const QByteArray path = file_url::nativePath(url);
+    const FileDescriptor contents = regular_file::open(path);
+    if (contents.isOpen())
+        return thumbnailOf(contents, maximumPixels, attempt);
+    // A file that may not be read, or that there is no descriptor for, may be fine.
+    const auto file = FileVersion::at(path);
+    const bool isOther = file && file->kind != FileVersion::Kind::Regular;
+    attempt.outcome = isOther ? AttemptOutcome::Unreadable : AttemptOutcome::Interrupted;
+    return std::nullopt;
 }
 
 std::optional<QImage> DecoderImageCodec::thumbnailOf(const FileDescriptor &contents,
@@ -82,7 +93,7 @@ std::optional<QImage> DecoderImageCodec::thumbnailOf(const FileDescriptor &conte
                                                      DecodingAttempt &attempt) const
 {
     attempt.outcome = AttemptOutcome::Unreadable;
-    if (!contents.isOpen() || maximumPixels < 1)
+    if (maximumPixels < 1)
         return std::nullopt;
     const bool isBrief = attempt.patience == Patience::Brief;
     const int side = std::min(maximumPixels, decoder_protocol::maximumSide);
@@ -107,19 +118,20 @@ std::optional<QImage> DecoderImageCodec::thumbnailOf(const FileDescriptor &conte
 }
 
 bool DecoderImageCodec::transcode(const QByteArray &data, const UTType &type,
-                                  const FileDescriptor &target) const
+                                  const FileDescriptor &target, Cancellation &cancellation) const
 {
-    return transcodeTo(picture_memory::of(data), type, target);
+    return transcodeTo(picture_memory::of(data), type, target, cancellation);
 }
 
 bool DecoderImageCodec::transcodeFile(const QUrl &url, const UTType &type,
-                                      const FileDescriptor &target) const
+                                      const FileDescriptor &target,
+                                      Cancellation &cancellation) const
 {
-    return transcodeTo(regular_file::open(file_url::nativePath(url)), type, target);
+    return transcodeTo(regular_file::open(file_url::nativePath(url)), type, target, cancellation);
 }
 
 bool DecoderImageCodec::transcodeTo(const FileDescriptor &contents, const UTType &type,
-                                    const FileDescriptor &target) const
+                                    const FileDescriptor &target, Cancellation &cancellation) const
 {
     const auto wanted = typeOf(type);
     if (!contents.isOpen() || !target.isOpen() || !wanted)
@@ -130,6 +142,7 @@ bool DecoderImageCodec::transcodeTo(const FileDescriptor &contents, const UTType
     job.request.milliseconds = conversionTime;
     job.descriptors = {contents.number(), target.number()};
     job.urgency = DecoderPool::Urgency::Conversion;
+    job.cancellation = &cancellation;
     return m_pool.run(job).outcome == AttemptOutcome::Made;
 }
 

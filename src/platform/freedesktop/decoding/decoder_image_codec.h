@@ -23,17 +23,17 @@ public:
                                     DecodingAttempt &attempt) const override;
     std::optional<QImage> fileThumbnail(const QUrl &url, int maximumPixels,
                                         DecodingAttempt &attempt) const override;
-    bool transcode(const QByteArray &data, const UTType &type,
-                   const FileDescriptor &target) const override;
-    bool transcodeFile(const QUrl &url, const UTType &type,
-                       const FileDescriptor &target) const override;
+    bool transcode(const QByteArray &data, const UTType &type, const FileDescriptor &target,
+                   Cancellation &cancellation) const override;
+    bool transcodeFile(const QUrl &url, const UTType &type, const FileDescriptor &target,
+                       Cancellation &cancellation) const override;
     std::optional<QByteArray> encode(const QImage &image, const UTType &type) const override;
 
 private:
     std::optional<QImage> thumbnailOf(const FileDescriptor &contents, int maximumPixels,
                                       DecodingAttempt &attempt) const;
     bool transcodeTo(const FileDescriptor &contents, const UTType &type,
-                     const FileDescriptor &target) const;
+                     const FileDescriptor &target, Cancellation &cancellation) const;
 
     DecoderPool &m_pool;
 };

@@ -16,8 +16,13 @@ namespace {
 constexpr auto outputFolder = "/out";
 
 /// Runs its arguments and gives what they made. A constant: nothing of a file, of its name or of a
-/// thumbnailer's entry becomes part of the script.
-constexpr auto script = R"("$@" >/dev/null </dev/null && exec cat /out/thumbnail.png)";
+/// thumbnailer's entry becomes part of the script. A failure of the program has a status of its
+/// own, so that it is not taken for one of those that shut it in; above 125 is what a shell says of
+/// a program that was killed, or could not be started.
+constexpr auto script = R"("$@" >/dev/null </dev/null; s=$?
+if [ $s = 0 ]; then cat /out/thumbnail.png && exit 0; s=1; fi
+[ $s -gt 125 ] && exit $s
+exit 113)";
 
 QByteArray find(const QByteArrayList &folders, const QByteArray &name)
 {

@@ -40,6 +40,8 @@ public:
         /// Where the program finds it.
         QByteArray inputPath;
     };
+    /// The exit status where the program was not content, or left nothing.
+    static constexpr int programFailed = 113;
     /// Where the program is to write, in a folder of its own.
     static QByteArray outputPath();
 

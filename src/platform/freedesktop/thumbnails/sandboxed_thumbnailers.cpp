@@ -51,11 +51,13 @@ QByteArray neutralPath(const FileVersion &file)
     return isPlain ? "/in/file." + extension : QByteArray("/in/file");
 }
 
-/// Whether it failed because of the file. One that was killed may have lacked time or memory.
+/// Whether it failed because of the file. One that was killed may have lacked time or memory, and
+/// what stands around it may have failed before it began.
 bool hasFailed(int exitCode)
 {
     constexpr int signalBase = 128;
-    return exitCode != 0 && exitCode != signalBase + SIGKILL;
+    return exitCode == Sandbox::programFailed
+        || (exitCode > signalBase && exitCode != signalBase + SIGKILL);
 }
 
 } // namespace

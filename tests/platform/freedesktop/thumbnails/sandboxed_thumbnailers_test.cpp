@@ -327,6 +327,19 @@ TEST_F(SandboxedThumbnailersTest, tellAFileThatFailedFromAProgramThatWasKilled)
     EXPECT_EQ(run().outcome, Outcome::Stopped) << "as when memory is short";
 }
 
+TEST_F(SandboxedThumbnailersTest, blameNoFileWhereTheProgramCouldNotBegin)
+{
+    install("exit 1");
+    const auto film = FileVersion::at(path("films/a.avi")).value();
+    QFile::remove(QFile::decodeName(film.path));
+    EXPECT_EQ(thumbnailers.run(film, 128, cancellation).outcome, Outcome::Stopped)
+        << "there is nothing to show it";
+    write("films/a.avi", "film");
+    EXPECT_EQ(run().outcome, Outcome::Failed) << "it did not like what it saw";
+    write("bin/show", "#!/no/such/shell\n");
+    EXPECT_EQ(run().outcome, Outcome::Stopped);
+}
+
 TEST_F(SandboxedThumbnailersTest, leaveNoProcessToBeWaitedFor)
 {
     install("true");
