@@ -1,8 +1,11 @@
 #include "decoder/confinement.h"
 
 #include <malloc.h>
+#include <pthread.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
+
+#include <csignal>
 
 namespace corvane::confinement {
 
@@ -15,23 +18,42 @@ constexpr bool isSanitized = true;
 constexpr bool isSanitized = false;
 #endif
 
-bool limit(__rlimit_resource resource, rlim_t most)
+bool limit(__rlimit_resource resource, long long most)
 {
-    const rlimit both = {most, most};
+    const auto value = static_cast<rlim_t>(most);
+    const rlimit both = {value, value};
     return ::setrlimit(resource, &both) == 0;
+}
+
+/// So that a stack costs no more than it has to: all of it counts as memory.
+bool limitThreadStacks()
+{
+    pthread_attr_t attributes;
+    if (::pthread_attr_init(&attributes) != 0)
+        return false;
+    const bool isSet
+        = ::pthread_attr_setstacksize(&attributes, static_cast<std::size_t>(threadStack)) == 0
+        && ::pthread_setattr_default_np(&attributes) == 0;
+    ::pthread_attr_destroy(&attributes);
+    return isSet;
 }
 
 } // namespace
 
-bool limitResources()
+bool limitResources(decoder_protocol::Room room)
 {
     // Each arena reserves 64 MB of the address space.
     ::mallopt(M_ARENA_MAX, 2);
+    // Where a file would become too large, writing fails.
+    std::signal(SIGXFSZ, SIG_IGN);
     // What is in this process is nobody else's, and no crash of it is worth a file.
     const bool isClosed = ::prctl(PR_SET_DUMPABLE, 0, 0, 0, 0) == 0;
-    const bool isBounded = (isSanitized || limit(RLIMIT_AS, addressSpace))
-        && limit(RLIMIT_CPU, processorSeconds) && limit(RLIMIT_NOFILE, openFiles)
-        && limit(RLIMIT_CORE, 0) && limit(RLIMIT_FSIZE, addressSpace);
+    const bool hasBoundedMemory = isSanitized
+        || (limitThreadStacks() && limit(RLIMIT_AS, addressSpace)
+            && limit(RLIMIT_DATA, decoder_protocol::memoryIn(room)));
+    const bool isBounded = hasBoundedMemory && limit(RLIMIT_CPU, processorSeconds)
+        && limit(RLIMIT_NOFILE, openFiles) && limit(RLIMIT_CORE, 0)
+        && limit(RLIMIT_FSIZE, fileBytes(room));
     return isClosed && isBounded;
 }
 

@@ -1,15 +1,25 @@
 #pragma once
 
+#include "platform/pictures/decoder_protocol.h"
+
 /// What this process gives up before it reads a stranger's first byte.
 namespace corvane::confinement {
 
-/// Of address space, in bytes: a picture of the largest size twice, and what the libraries need.
+/// Of address space, in bytes: what is mapped for reading counts, too.
 inline constexpr long long addressSpace = 1024LL * 1024 * 1024;
+/// Of each thread but the first one.
+inline constexpr long long threadStack = 512LL * 1024;
 /// Of all requests together.
 inline constexpr int processorSeconds = 120;
 inline constexpr int openFiles = 64;
 
+/// Of one file that is written, which is a picture's pixels, or what they are converted to.
+constexpr long long fileBytes(decoder_protocol::Room room)
+{
+    return decoder_protocol::decodedBytesIn(room) / 4 * 5;
+}
+
 /// False if a limit could not be set.
-bool limitResources();
+bool limitResources(decoder_protocol::Room room);
 
 } // namespace corvane::confinement

@@ -57,8 +57,10 @@ bool isWorn()
 
 } // namespace
 
-DecoderLoop::DecoderLoop(FileDescriptor socket)
+DecoderLoop::DecoderLoop(FileDescriptor socket, decoder_protocol::Room room)
     : m_socket(std::move(socket))
+    , m_room(room)
+    , m_handler(room)
 {
 }
 
@@ -68,7 +70,7 @@ bool DecoderLoop::greet() const
 {
     const FileDescriptor self(static_cast<int>(::syscall(SYS_pidfd_open, ::getpid(), 0)));
     decoder_protocol::Greeting greeting;
-    greeting.hasLimits = confinement::limitResources();
+    greeting.hasLimits = confinement::limitResources(m_room);
     greeting.hasFilter = system_call_filter::confineDecoder();
     std::vector<int> descriptors;
     if (self.isOpen())

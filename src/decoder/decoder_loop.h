@@ -17,7 +17,7 @@ public:
     /// Of processor time; then a new process takes over, well before the limit.
     static constexpr int worn = 30;
 
-    explicit DecoderLoop(FileDescriptor socket);
+    DecoderLoop(FileDescriptor socket, decoder_protocol::Room room);
     DecoderLoop(const DecoderLoop &) = delete;
     DecoderLoop &operator=(const DecoderLoop &) = delete;
     ~DecoderLoop();
@@ -30,6 +30,7 @@ private:
     bool serveNext();
 
     FileDescriptor m_socket;
+    decoder_protocol::Room m_room;
     RequestHandler m_handler;
 };
 

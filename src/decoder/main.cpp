@@ -1,5 +1,6 @@
 #include "decoder/confinement.h"
 #include "decoder/decoder_loop.h"
+#include "platform/pictures/decoder_protocol.h"
 #include "platform/system/file_descriptor.h"
 
 #include <QDir>
@@ -34,7 +35,9 @@ int main(int argc, char *argv[])
     // The one descriptor that the program hands over.
     constexpr int socketNumber = 3;
     FileDescriptor socket(socketNumber);
-    confinement::limitResources();
+    const bool isLarge = argc > 1 && qstrcmp(argv[1], decoder_protocol::largeRoomArgument) == 0;
+    const auto room = isLarge ? decoder_protocol::Room::Large : decoder_protocol::Room::Usual;
+    confinement::limitResources(room);
     qunsetenv("QT_QPA_PLATFORMTHEME");
     std::unique_ptr<QCoreApplication> application;
     if (const char *const plugin = platformPlugin(argc, argv)) {
@@ -43,5 +46,5 @@ int main(int argc, char *argv[])
     } else {
         application = std::make_unique<QCoreApplication>(argc, argv);
     }
-    return DecoderLoop(std::move(socket)).run();
+    return DecoderLoop(std::move(socket), room).run();
 }

@@ -9,10 +9,15 @@
 
 namespace corvane {
 
-std::unique_ptr<OpenedPages> OpenedPages::of(std::unique_ptr<QFile> file)
+bool OpenedPages::isDocument(QFile &file)
 {
     constexpr qint64 headerReach = 1024;
-    if (!file->peek(headerReach).contains("%PDF-"))
+    return file.peek(headerReach).contains("%PDF-");
+}
+
+std::unique_ptr<OpenedPages> OpenedPages::of(std::unique_ptr<QFile> file)
+{
+    if (!isDocument(*file))
         return nullptr;
     auto opened = std::make_unique<OpenedPages>();
     opened->m_file = std::move(file);

@@ -14,6 +14,8 @@ namespace corvane {
 /// A PDF document that is open, by Qt's plug-in for it if that is installed.
 class OpenedPages {
 public:
+    /// By its first bytes.
+    static bool isDocument(QFile &file);
     /// Null if it is no document that can be read.
     static std::unique_ptr<OpenedPages> of(std::unique_ptr<QFile> file);
 

@@ -8,9 +8,7 @@ std::unique_ptr<OpenedPicture> OpenedPicture::of(std::unique_ptr<QFile> file)
 {
     auto opened = std::make_unique<OpenedPicture>();
     opened->m_file = std::move(file);
-    PictureReader &picture = opened->m_picture;
-    const bool isReadable = picture.open(*opened->m_file) && (picture.isVector() || picture.fits());
-    return isReadable ? std::move(opened) : nullptr;
+    return opened->m_picture.open(*opened->m_file) ? std::move(opened) : nullptr;
 }
 
 bool OpenedPicture::isTurned()

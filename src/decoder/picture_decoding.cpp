@@ -2,7 +2,6 @@
 
 #include "decoder/picture_reader.h"
 #include "decoder/tiff_as_stored.h"
-#include "platform/pictures/image_codec.h"
 
 #include <QImageReader>
 
@@ -19,9 +18,10 @@ QSize scaledToFit(QSize size, int maximumPixels)
 
 } // namespace
 
-void setLimits()
+void setLimits(decoder_protocol::Room room)
 {
-    QImageReader::setAllocationLimit(static_cast<int>(ImageCodec::maximumDecodedBytes / 1'048'576));
+    QImageReader::setAllocationLimit(
+        static_cast<int>(decoder_protocol::decodedBytesIn(room) / 1'048'576));
 }
 
 std::optional<QSize> pixelSize(QIODevice &device, Formats formats)
@@ -36,7 +36,7 @@ std::optional<QImage> whole(QIODevice &device, Formats formats)
 {
     TiffAsStored asStored(device);
     PictureReader picture;
-    if (!picture.open(asStored, formats) || !picture.fits())
+    if (!picture.open(asStored, formats))
         return std::nullopt;
     auto image = picture.readAsStored();
     if (image)
@@ -51,8 +51,6 @@ std::optional<QImage> thumbnail(QIODevice &device, int maximumPixels, Formats fo
         return std::nullopt;
     const QSize size = picture.reader().size();
     const bool vector = picture.isVector();
-    if (!vector && !picture.fits())
-        return std::nullopt;
     const bool isLarger = std::max(size.width(), size.height()) > maximumPixels;
     // The reader scales before it turns the picture upright; a square limit is right for both.
     if (vector || isLarger)

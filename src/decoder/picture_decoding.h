@@ -10,13 +10,14 @@
 
 /// Decodes the first picture of contents that are not trusted. Formats are recognised by the
 /// contents, never by a name, and only formats with a signature are read, because the others accept
-/// any bytes. One thread at a time.
+/// any bytes. Where a picture may need more memory than the limits leave, and another decoder has
+/// more, std::bad_alloc is thrown. One thread at a time.
 namespace corvane::picture_decoding {
 
 using Formats = decoder_protocol::Formats;
 
 /// To be called once, before anything is decoded.
-void setLimits();
+void setLimits(decoder_protocol::Room room = decoder_protocol::Room::Large);
 
 /// As stored, without decoding it.
 std::optional<QSize> pixelSize(QIODevice &device, Formats formats = Formats::Any);

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <new>
 
 namespace corvane {
 
@@ -38,6 +39,14 @@ QByteArray commonFormat(const QByteArray &beginning)
         || beginning.startsWith(QByteArray("MM\0*", 4)))
         return "tiff";
     return {};
+}
+
+/// Whether the size stands at the beginning of every whole file of that format.
+bool tellsItsSize(const QByteArray &format)
+{
+    constexpr std::array formats
+        = {"png", "jpeg", "gif", "bmp", "webp", "tiff", "ico", "ppm", "pgm", "pbm"};
+    return std::ranges::any_of(formats, [&](const char *known) { return format == known; });
 }
 
 bool isAllowed(const QByteArray &format, PictureReader::Formats formats)
@@ -103,24 +112,55 @@ bool PictureReader::isVector() const
     return m_reader.format() == "svg";
 }
 
-bool PictureReader::fits() const
+/// What the pixels take while the picture is decoded with the options set; none if the format does
+/// not tell its size before.
+std::optional<qint64> PictureReader::decodedBytes() const
 {
-    const QSize size = m_reader.size();
+    QSize size = m_reader.size();
     if (!size.isValid())
-        return true;
+        return std::nullopt;
+    const QSize wanted = m_reader.scaledSize();
+    // Its library leaves out what would be scaled away, by halves.
+    if (m_reader.format() == "jpeg" && !wanted.isEmpty()) {
+        for (int denominator = 8; denominator > 1; denominator /= 2) {
+            if (size.width() / denominator >= wanted.width()
+                && size.height() / denominator >= wanted.height()) {
+                size = {size.width() / denominator + 1, size.height() / denominator + 1};
+                break;
+            }
+        }
+    }
     const QImage::Format format = m_reader.imageFormat();
     qint64 bytesPerPixel = 4;
     if (format != QImage::Format_Invalid)
         bytesPerPixel
             = std::max<qint64>(bytesPerPixel, QImage::toPixelFormat(format).bitsPerPixel() / 8);
-    return qint64{size.width()} * size.height() <= ImageCodec::maximumDecodedBytes / bytesPerPixel;
+    return qint64{size.width()} * size.height() * bytesPerPixel;
 }
 
 std::optional<QImage> PictureReader::readAsStored()
 {
+    constexpr qint64 mebibyte = 1'048'576;
+    const qint64 room
+        = std::min(ImageCodec::maximumDecodedBytes, QImageReader::allocationLimit() * mebibyte);
+    const auto bytes = isVector() ? std::optional<qint64>(0) : decodedBytes();
+    if (bytes && *bytes > ImageCodec::maximumDecodedBytes)
+        return std::nullopt;
+    if (bytes && *bytes > room)
+        throw std::bad_alloc();
+    const QSize whole = m_reader.size();
     QImage image = m_reader.read();
     image.setDevicePixelRatio(1);
-    return image.isNull() ? std::nullopt : std::optional(std::move(image));
+    if (!image.isNull())
+        return image;
+    // Libraries do not tell want of memory from anything else. A picture that is decoded line after
+    // line may have to be held as a whole all the same.
+    constexpr int bytesPerPixel = 4;
+    const bool isSmall = bytes ? qint64{whole.width()} * whole.height() <= room / bytesPerPixel
+                               : tellsItsSize(m_reader.format());
+    if (!isSmall && room < ImageCodec::maximumDecodedBytes)
+        throw std::bad_alloc();
+    return std::nullopt;
 }
 
 std::optional<QImage> PictureReader::read()
@@ -131,7 +171,9 @@ std::optional<QImage> PictureReader::read()
     const auto format
         = image->hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
     QImage converted = std::move(*image).convertToFormat(format);
-    return converted.isNull() ? std::nullopt : std::optional(std::move(converted));
+    if (converted.isNull())
+        throw std::bad_alloc();
+    return converted;
 }
 
 } // namespace corvane

@@ -26,11 +26,10 @@ public:
     QImageReader &reader() { return m_reader; }
     /// Whether it is a drawing without pixels of its own (SVG).
     bool isVector() const;
-    /// Whether the decoded pixels stay below `ImageCodec::maximumDecodedBytes`. True if the format
-    /// does not tell the size before decoding; then Qt's allocation limit applies.
-    bool fits() const;
     /// Decodes the picture, with the options set on the reader, upright, as
-    /// `Format_ARGB32_Premultiplied` or `Format_RGB32`.
+    /// `Format_ARGB32_Premultiplied` or `Format_RGB32`. None if its pixels need more than
+    /// `ImageCodec::maximumDecodedBytes`. Throws std::bad_alloc if they need less than that, but
+    /// may need more than this process has.
     std::optional<QImage> read();
     /// The same in the format of its decoder, so that no bits of channels are lost, and colours are
     /// not multiplied with alpha.
@@ -39,6 +38,7 @@ public:
 private:
     bool recognise(QIODevice &device, Formats formats);
     bool openDrawing(QIODevice &device);
+    std::optional<qint64> decodedBytes() const;
 
     QByteArray m_drawing;
     QBuffer m_buffer;

@@ -5,10 +5,12 @@
 #include "platform/pictures/image_codec.h"
 #include "platform/pictures/picture_memory.h"
 
+#include <sys/mman.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <new>
 #include <utility>
 
@@ -50,6 +52,35 @@ bool writeAll(const FileDescriptor &file, const uchar *data, qint64 bytes)
     return true;
 }
 
+/// Frees the pages that lie within those bytes, whose contents are lost.
+void letGo(const uchar *data, qint64 bytes)
+{
+    static const qint64 page = ::sysconf(_SC_PAGESIZE);
+    const auto begun = static_cast<qint64>(reinterpret_cast<std::uintptr_t>(data)) % page;
+    const qint64 skipped = (page - begun) % page;
+    const qint64 whole = (bytes - skipped) / page * page;
+    if (whole > 0)
+        ::madvise(const_cast<uchar *>(data) + skipped, static_cast<std::size_t>(whole),
+                  MADV_DONTNEED);
+}
+
+/// Writes the pixels, and frees those of a large picture meanwhile: two of them would need twice
+/// the memory.
+bool writePixels(const FileDescriptor &memory, const QImage &image, qint64 bytes)
+{
+    constexpr qint64 piece = 4LL * 1024 * 1024;
+    // What reads frames keeps the last one, of which the next is made.
+    const bool isOurs = image.isDetached();
+    for (qint64 at = 0; at < bytes; at += piece) {
+        const qint64 count = std::min(piece, bytes - at);
+        if (!writeAll(memory, image.constBits() + at, count))
+            return false;
+        if (isOurs && bytes > piece)
+            letGo(image.constBits() + at, count);
+    }
+    return true;
+}
+
 /// The picture in sealed memory.
 Answer made(const std::optional<QImage> &image)
 {
@@ -62,7 +93,7 @@ Answer made(const std::optional<QImage> &image)
     if (!bytes)
         return failure(Outcome::OverBounds);
     answer.pixels = picture_memory::make(
-        [&](const FileDescriptor &memory) { return writeAll(memory, image->constBits(), *bytes); });
+        [&](const FileDescriptor &memory) { return writePixels(memory, *image, *bytes); });
     if (!answer.pixels.isOpen())
         return failure(Outcome::OverBounds);
     answer.reply.outcome = Outcome::Made;
@@ -101,8 +132,12 @@ bool writeAs(decoder_protocol::Type type, const QImage &image, FileDescriptor ta
 
 Answer transcode(const Request &request, QFile &file, FileDescriptor target)
 {
+    // Another decoder may have begun to write.
+    if (!target.isOpen() || ::ftruncate(target.number(), 0) != 0
+        || ::lseek(target.number(), 0, SEEK_SET) != 0)
+        return failure(Outcome::Unreadable);
     const auto image = picture_decoding::whole(file, request.formats);
-    if (!image || !target.isOpen())
+    if (!image)
         return failure(Outcome::Unreadable);
     return failure(writeAs(request.type, *image, std::move(target)) ? Outcome::Made
                                                                     : Outcome::OverBounds);
@@ -131,9 +166,10 @@ std::unique_ptr<QFile> opened(FileDescriptor contents)
 
 } // namespace
 
-RequestHandler::RequestHandler()
+RequestHandler::RequestHandler(decoder_protocol::Room room)
+    : m_room(room)
 {
-    picture_decoding::setLimits();
+    picture_decoding::setLimits(room);
 }
 
 Answer RequestHandler::serve(const Request &request, FileDescriptor contents, FileDescriptor target)
@@ -189,9 +225,18 @@ Answer RequestHandler::open(const Request &request, std::unique_ptr<QFile> file)
     FileDescriptor again(::dup(file->handle()));
     if (const auto picture = OpenedPicture::of(std::move(file)))
         return openPicture(request, *picture);
-    file = opened(std::move(again));
-    m_pages = file ? OpenedPages::of(std::move(file)) : nullptr;
+    m_pages = pages(opened(std::move(again)));
     return m_pages ? openPages() : failure(Outcome::Unreadable);
+}
+
+std::unique_ptr<OpenedPages> RequestHandler::pages(std::unique_ptr<QFile> file) const
+{
+    if (!file || !OpenedPages::isDocument(*file))
+        return nullptr;
+    // What reads documents ends the process where memory fails.
+    if (m_room == decoder_protocol::Room::Usual)
+        throw std::bad_alloc();
+    return OpenedPages::of(std::move(file));
 }
 
 Answer RequestHandler::openPicture(const Request &request, OpenedPicture &picture)
@@ -232,8 +277,7 @@ Answer RequestHandler::render(const Request &request, std::unique_ptr<QFile> fil
         if (const auto picture = OpenedPicture::of(std::move(file)))
             return request.part == 0 ? made(picture->read(request.wanted))
                                      : failure(Outcome::NoSuchPart);
-        file = opened(std::move(again));
-        m_pages = file ? OpenedPages::of(std::move(file)) : nullptr;
+        m_pages = pages(opened(std::move(again)));
     }
     if (!m_pages)
         return failure(Outcome::Unreadable);

@@ -2,21 +2,28 @@
 #include "platform/pictures/picture_memory.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImage>
 
 #include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace corvane {
 namespace {
 
-QByteArray written(QSize size)
+using decoder_protocol::Outcome;
+using decoder_protocol::Room;
+using decoder_protocol::Task;
+
+QByteArray written(QSize size, const char *format = "png")
 {
     QImage image(size, QImage::Format_RGB32);
     image.fill(Qt::red);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "png");
+    image.save(&buffer, format);
     return bytes;
 }
 
@@ -33,6 +40,70 @@ TEST(RequestHandlerTest, AThumbnailFitsIntoAnOblongToo)
         ASSERT_TRUE(answer.reply.pixels.has_value());
         EXPECT_EQ(answer.reply.pixels->size, QSize(20, 20));
     }
+}
+
+decoder_protocol::Outcome outcomeIn(Room room, Task task, const QByteArray &contents)
+{
+    RequestHandler handler(room);
+    decoder_protocol::Request request;
+    request.task = task;
+    request.wanted = {100, 100};
+    request.document = 1;
+    request.milliseconds = 1'000;
+    return handler
+        .serve(request, picture_memory::of(contents),
+               FileDescriptor(::memfd_create("target", MFD_CLOEXEC)))
+        .reply.outcome;
+}
+
+TEST(RequestHandlerTest, APictureThatIsTooLargeForTheUsualRoomIsMadeInALargeOne)
+{
+    // 68 MB, all of which the library has to decode.
+    const QByteArray large = written({17'000, 1'000});
+    for (const Task task : {Task::Thumbnail, Task::Open, Task::Transcode}) {
+        EXPECT_EQ(outcomeIn(Room::Usual, task, large), Outcome::OverBounds);
+        EXPECT_EQ(outcomeIn(Room::Large, task, large), Outcome::Made);
+    }
+}
+
+TEST(RequestHandlerTest, APhotographThatIsScaledWhileItIsDecodedNeedsNoLargeRoom)
+{
+    const QByteArray photograph = written({8'000, 6'000}, "jpeg");
+    for (const Task task : {Task::Thumbnail, Task::Open})
+        EXPECT_EQ(outcomeIn(Room::Usual, task, photograph), Outcome::Made);
+}
+
+TEST(RequestHandlerTest, WhatIsBrokenIsSoInTheUsualRoomToo)
+{
+    for (const char *format : {"png", "jpeg", "tiff"}) {
+        const QByteArray whole = written({300, 300}, format);
+        const QByteArray broken = whole.left(whole.size() / 50);
+        EXPECT_EQ(outcomeIn(Room::Usual, Task::Thumbnail, broken), Outcome::Unreadable) << format;
+    }
+}
+
+TEST(RequestHandlerTest, DocumentsNeedALargeRoom)
+{
+    EXPECT_EQ(outcomeIn(Room::Usual, Task::Open, "%PDF-1.4\n"), Outcome::OverBounds);
+    EXPECT_EQ(outcomeIn(Room::Large, Task::Open, "%PDF-1.4\n"), Outcome::Unreadable);
+}
+
+TEST(RequestHandlerTest, WhatAnotherDecoderHadBegunToWriteIsGone)
+{
+    RequestHandler handler;
+    decoder_protocol::Request request;
+    request.task = Task::Transcode;
+    request.milliseconds = 1'000;
+    const FileDescriptor target(::memfd_create("target", MFD_CLOEXEC));
+    target.write(QByteArray(100'000, 'x'));
+    handler.serve(request, picture_memory::of(written({20, 10})),
+                  FileDescriptor(::dup(target.number())));
+    QFile file;
+    ASSERT_TRUE(file.open(::dup(target.number()), QFile::ReadOnly, QFile::AutoCloseHandle));
+    file.seek(0);
+    const QByteArray made = file.readAll();
+    EXPECT_TRUE(made.startsWith("\x89PNG"));
+    EXPECT_LT(made.size(), 10'000);
 }
 
 } // namespace

@@ -32,6 +32,27 @@ inline constexpr int maximumPages = 2'000;
 inline constexpr int maximumFrame = 1'000'000;
 inline constexpr int maximumMilliseconds = 120'000;
 
+/// How much memory a decoder has, from its start to its end. One with the usual room says
+/// `OverBounds` of a picture that needs more, and the program asks one with a large room, of which
+/// there is never more than one: so all of them together stay within a bound that a small machine
+/// has.
+enum class Room : std::uint8_t { Usual, Large };
+/// The argument that a decoder with a large room is started with.
+inline constexpr auto largeRoomArgument = "--large";
+/// Of private memory that can be written, in bytes: all that the pixels of a picture, and what its
+/// library needs beside them, may take.
+constexpr qint64 memoryIn(Room room)
+{
+    constexpr qint64 mebibyte = 1'048'576;
+    return (room == Room::Large ? 336 : 128) * mebibyte;
+}
+/// Of the pixels of one picture.
+constexpr qint64 decodedBytesIn(Room room)
+{
+    constexpr qint64 mebibyte = 1'048'576;
+    return (room == Room::Large ? 256 : 64) * mebibyte;
+}
+
 enum class Task : std::uint8_t {
     /// The first picture's size as stored.
     Size,
@@ -80,7 +101,7 @@ enum class Outcome : std::uint8_t {
     Made,
     /// Of no format that is read or allowed, or broken.
     Unreadable,
-    /// It would need more memory or pixels than may be used.
+    /// It would need more memory or pixels than may be used here.
     OverBounds,
     /// There is no such page, or no further frame.
     NoSuchPart,

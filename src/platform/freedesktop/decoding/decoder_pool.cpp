@@ -57,6 +57,7 @@ struct DecoderPool::Cancelled {
 DecoderPool::DecoderPool(const DecoderProgram &program)
     : m_program(program)
     , m_finished(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+    , m_displaced(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
 {
 }
 
@@ -82,12 +83,23 @@ std::uint32_t DecoderPool::newDocument()
     return ++m_lastDocument == 0 ? ++m_lastDocument : m_lastDocument;
 }
 
-DecoderPool::Slot *DecoderPool::freeSlot(std::uint32_t document)
+DecoderPool::Room DecoderPool::roomOf(std::uint32_t document)
 {
-    const auto rank = [document](const Slot &slot) {
-        if (document != 0 && slot.document == document)
-            return 2;
-        return slot.process ? 1 : 0;
+    const std::lock_guard lock(m_mutex);
+    const bool isLarge = document != 0 && std::ranges::any_of(m_slots, [&](const Slot &slot) {
+                             return slot.document == document && slot.room == Room::Large;
+                         });
+    return isLarge ? Room::Large : Room::Usual;
+}
+
+DecoderPool::Slot *DecoderPool::freeSlot(std::uint32_t document, Room room)
+{
+    const auto rank = [=](const Slot &slot) {
+        if (slot.room == room && document != 0 && slot.document == document)
+            return 3;
+        if (!slot.process)
+            return 1;
+        return slot.room == room ? 2 : 0;
     };
     Slot *best = nullptr;
     for (Slot &slot : m_slots) {
@@ -97,20 +109,24 @@ DecoderPool::Slot *DecoderPool::freeSlot(std::uint32_t document)
     return best;
 }
 
-DecoderPool::Slot *DecoderPool::takeSlot(const Job &job, const Cancelled &cancelled)
+DecoderPool::Slot *DecoderPool::takeSlot(const Job &job, Room room, const Cancelled &cancelled)
 {
     std::unique_lock lock(m_mutex);
-    const auto turn = m_turns.wait(job.urgency);
+    const auto turn = m_turns.wait(job.urgency, room);
+    if (job.urgency == Urgency::Preview && room == Room::Large)
+        displaceLongOne();
     Slot *slot = nullptr;
     m_changed.wait(lock, [&] {
         if (m_isFinished || cancelled.isSet)
             return true;
-        slot = m_turns.isNext(turn) ? freeSlot(job.request.document) : nullptr;
+        slot = m_turns.isNext(turn) ? freeSlot(job.request.document, room) : nullptr;
         return slot != nullptr;
     });
     if (slot) {
         slot->isBusy = true;
         m_turns.began(turn);
+        if (room == Room::Large)
+            m_isLargeOneLong = DecoderTurns::isLong(job.urgency);
     } else {
         m_turns.gaveUp(turn);
     }
@@ -118,12 +134,23 @@ DecoderPool::Slot *DecoderPool::takeSlot(const Job &job, const Cancelled &cancel
     return slot;
 }
 
+void DecoderPool::displaceLongOne()
+{
+    if (m_isLargeOneLong)
+        ::eventfd_write(m_displaced.number(), 1);
+}
+
 void DecoderPool::giveBack(Slot &slot, Urgency urgency)
 {
     {
         const std::lock_guard lock(m_mutex);
         slot.isBusy = false;
-        m_turns.ended(urgency);
+        m_turns.ended(urgency, slot.room);
+        if (slot.room == Room::Large) {
+            eventfd_t ignored = 0;
+            ::eventfd_read(m_displaced.number(), &ignored);
+            m_isLargeOneLong = false;
+        }
     }
     m_changed.notify_all();
 }
@@ -133,12 +160,42 @@ DecoderPool::Result DecoderPool::run(const Job &job)
     if (!m_program.isThere())
         return {};
     const Cancelled cancelled(*this, job.cancellation);
-    Slot *const slot = takeSlot(job, cancelled);
+    Room room = roomOf(job.request.document);
+    while (true) {
+        auto result = runIn(room, job, cancelled);
+        if (!result)
+            continue;
+        const bool lacksRoom = result->reply.outcome == decoder_protocol::Outcome::OverBounds;
+        if (!lacksRoom || room == Room::Large)
+            return std::move(*result);
+        room = Room::Large;
+    }
+}
+
+std::optional<DecoderPool::Result> DecoderPool::runIn(Room room, const Job &job,
+                                                      const Cancelled &cancelled)
+{
+    Slot *const slot = takeSlot(job, room, cancelled);
     if (!slot)
-        return {};
-    Result result = runIn(*slot, job, cancelled);
+        return Result();
+    if (slot->process && slot->room != room) {
+        slot->process->end(m_finished);
+        slot->process.reset();
+    }
+    {
+        const std::lock_guard lock(m_mutex);
+        slot->room = room;
+    }
+    DecoderProcess::Result said = askIn(*slot, job, cancelled);
+    // What misbehaved is ended now, not when somebody asks again.
+    if (slot->process && !slot->process->isUsable()) {
+        slot->process->end(m_finished);
+        slot->process.reset();
+    }
     giveBack(*slot, job.urgency);
-    return result;
+    if (said.ending == DecoderProcess::Ending::Displaced)
+        return std::nullopt;
+    return resultOf(std::move(said));
 }
 
 bool DecoderPool::waitForPause(std::unique_lock<std::mutex> &lock, const Cancelled &cancelled)
@@ -153,14 +210,16 @@ bool DecoderPool::provide(Slot &slot, const Cancelled &cancelled)
 {
     if (slot.process && slot.process->isUsable())
         return true;
+    if (slot.process)
+        slot.process->end(m_finished);
     slot.process.reset();
-    slot.document = 0;
     {
         std::unique_lock lock(m_mutex);
+        slot.document = 0;
         if (!waitForPause(lock, cancelled))
             return false;
     }
-    slot.process = DecoderProcess::start(m_program.command(), m_finished);
+    slot.process = DecoderProcess::start(m_program.command(slot.room), m_finished);
     if (slot.process) {
         tellOfLayers(slot.process->greeting());
         return true;
@@ -183,7 +242,7 @@ void DecoderPool::tellOfLayers(const decoder_protocol::Greeting &greeting)
         qWarning("[Corvane] Pictures are decoded without all limits of memory and time.");
 }
 
-DecoderPool::Result DecoderPool::runIn(Slot &slot, const Job &job, const Cancelled &cancelled)
+DecoderProcess::Result DecoderPool::askIn(Slot &slot, const Job &job, const Cancelled &cancelled)
 {
     using Ending = DecoderProcess::Ending;
     decoder_protocol::Request request = job.request;
@@ -192,19 +251,25 @@ DecoderPool::Result DecoderPool::runIn(Slot &slot, const Job &job, const Cancell
     constexpr int attempts = 3;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         if (!provide(slot, cancelled))
-            return {};
+            return {Ending::Cancelled, {}, {}};
         {
             const std::lock_guard lock(m_mutex);
             request.number = ++m_lastNumber;
+            slot.document = request.document;
         }
-        slot.document = request.document;
-        said = slot.process->ask(request, job.descriptors, {cancelled.event, m_finished});
+        DecoderProcess::Signals signals = {cancelled.event, m_finished};
+        if (slot.room == Room::Large && DecoderTurns::isLong(job.urgency))
+            signals.displaced = &m_displaced;
+        said = slot.process->ask(request, job.descriptors, signals);
         if (said.ending != Ending::NotServed)
             break;
     }
-    // What misbehaved is ended now, not when somebody asks again.
-    if (!slot.process->isUsable())
-        slot.process.reset();
+    return said;
+}
+
+DecoderPool::Result DecoderPool::resultOf(DecoderProcess::Result said)
+{
+    using Ending = DecoderProcess::Ending;
     switch (said.ending) {
     case Ending::Replied:
         return {outcomeOf(said.reply.outcome), false, std::move(said.reply),
@@ -222,6 +287,7 @@ DecoderPool::Result DecoderPool::runIn(Slot &slot, const Job &job, const Cancell
         break;
     }
     case Ending::Cancelled:
+    case Ending::Displaced:
         break;
     }
     return {};

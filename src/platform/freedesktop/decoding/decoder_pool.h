@@ -11,6 +11,7 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 namespace corvane {
 
@@ -19,11 +20,15 @@ class Cancellation;
 /// The decoders that run: at most two, each started when it is needed and as long as it behaves.
 /// What is asked for waits its turn, the more urgent first. Any thread but the main one; waits.
 ///
+/// One of them at most has a large room. It is asked about what another one had not the memory for;
+/// and where a preview needs it, what takes long there begins again later.
+///
 /// The program must outlive it. A decoder that nobody asks anything ends by itself, which wakes
 /// nobody here.
 class DecoderPool {
 public:
     using Urgency = DecoderTurns::Urgency;
+    using Room = decoder_protocol::Room;
 
     struct Job {
         /// Its number is set here.
@@ -58,26 +63,36 @@ public:
 private:
     struct Slot {
         std::unique_ptr<DecoderProcess> process;
+        /// Of the process, or of the one that is about to be started.
+        Room room = Room::Usual;
         bool isBusy = false;
         /// What it may have kept open.
         std::uint32_t document = 0;
     };
     struct Cancelled;
 
-    Slot *takeSlot(const Job &job, const Cancelled &cancelled);
-    Slot *freeSlot(std::uint32_t document);
+    Room roomOf(std::uint32_t document);
+    /// None if the job was displaced.
+    std::optional<Result> runIn(Room room, const Job &job, const Cancelled &cancelled);
+    Slot *takeSlot(const Job &job, Room room, const Cancelled &cancelled);
+    Slot *freeSlot(std::uint32_t document, Room room);
     void giveBack(Slot &slot, Urgency urgency);
     bool waitForPause(std::unique_lock<std::mutex> &lock, const Cancelled &cancelled);
-    Result runIn(Slot &slot, const Job &job, const Cancelled &cancelled);
+    DecoderProcess::Result askIn(Slot &slot, const Job &job, const Cancelled &cancelled);
+    Result resultOf(DecoderProcess::Result said);
     bool provide(Slot &slot, const Cancelled &cancelled);
+    void displaceLongOne();
     void tellOfLayers(const decoder_protocol::Greeting &greeting);
 
     const DecoderProgram &m_program;
     FileDescriptor m_finished;
+    /// Readable while what takes long in the large room is to make way.
+    FileDescriptor m_displaced;
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::array<Slot, 2> m_slots;
     DecoderTurns m_turns;
+    bool m_isLargeOneLong = false;
     bool m_isFinished = false;
     bool m_hasTold = false;
     DeathRecord m_deaths;

@@ -22,15 +22,17 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-enum class Woken { Socket, Cancelled, Finished, Time };
+enum class Woken { Socket, Cancelled, Finished, Displaced, Time };
 
 Woken waitFor(const FileDescriptor &socket, const FileDescriptor *cancelled,
-              const FileDescriptor &finished, Clock::time_point deadline)
+              const FileDescriptor &finished, Clock::time_point deadline,
+              const FileDescriptor *displaced = nullptr)
 {
     // A negative number is ignored.
-    std::array<pollfd, 3> sources = {pollfd{socket.number(), POLLIN, 0},
+    std::array<pollfd, 4> sources = {pollfd{socket.number(), POLLIN, 0},
                                      pollfd{cancelled ? cancelled->number() : -1, POLLIN, 0},
-                                     pollfd{finished.number(), POLLIN, 0}};
+                                     pollfd{finished.number(), POLLIN, 0},
+                                     pollfd{displaced ? displaced->number() : -1, POLLIN, 0}};
     while (true) {
         const auto rest = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
         const int ready = ::poll(sources.data(), sources.size(),
@@ -41,7 +43,9 @@ Woken waitFor(const FileDescriptor &socket, const FileDescriptor *cancelled,
             return Woken::Time;
         if (sources[2].revents != 0)
             return Woken::Finished;
-        return sources[0].revents != 0 ? Woken::Socket : Woken::Cancelled;
+        if (sources[0].revents != 0)
+            return Woken::Socket;
+        return sources[1].revents != 0 ? Woken::Cancelled : Woken::Displaced;
     }
 }
 
@@ -69,9 +73,23 @@ DecoderProcess::DecoderProcess(FileDescriptor socket, FileDescriptor process,
 
 DecoderProcess::~DecoderProcess()
 {
+    kill();
+}
+
+void DecoderProcess::kill() const
+{
     // It would notice the end of its socket as well, but not if somebody else has taken it over.
     if (m_process.isOpen())
         ::syscall(SYS_pidfd_send_signal, m_process.number(), SIGKILL, nullptr, 0);
+}
+
+void DecoderProcess::end(const FileDescriptor &finished)
+{
+    constexpr std::chrono::seconds patience(1);
+    m_isUsable = false;
+    kill();
+    if (m_process.isOpen())
+        waitFor(m_process, nullptr, finished, Clock::now() + patience);
 }
 
 std::unique_ptr<DecoderProcess> DecoderProcess::start(const QByteArrayList &command,
@@ -124,7 +142,7 @@ DecoderProcess::Result DecoderProcess::ask(const decoder_protocol::Request &requ
     bool isCancelled = false;
     while (true) {
         switch (waitFor(m_socket, isCancelled ? nullptr : &signals.cancelled, signals.finished,
-                        deadline)) {
+                        deadline, isCancelled ? nullptr : signals.displaced)) {
         case Woken::Socket: {
             Result result = takeReply(request);
             if (isCancelled)
@@ -137,6 +155,8 @@ DecoderProcess::Result DecoderProcess::ask(const decoder_protocol::Request &requ
             break;
         case Woken::Finished:
             return ended(Ending::Cancelled);
+        case Woken::Displaced:
+            return ended(Ending::Displaced);
         case Woken::Time:
             return ended(isCancelled ? Ending::Cancelled : Ending::OverTime);
         }

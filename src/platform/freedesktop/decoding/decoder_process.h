@@ -27,6 +27,8 @@ public:
         const FileDescriptor &cancelled;
         /// Nothing is: no grace.
         const FileDescriptor &finished;
+        /// It has to begin again, because another one needs its memory. May be null.
+        const FileDescriptor *displaced = nullptr;
     };
 
     /// Runs the command, hands it one end of a socket pair, and waits for the greeting. Null if
@@ -47,6 +49,7 @@ public:
         Died,
         OverTime,
         Cancelled,
+        Displaced,
     };
     struct Result {
         Ending ending = Ending::Died;
@@ -57,6 +60,9 @@ public:
     Result ask(const decoder_protocol::Request &request, const std::vector<int> &descriptors,
                const Signals &signals);
 
+    /// Ends it, and returns once its memory is free, or nothing is wanted any more.
+    void end(const FileDescriptor &finished);
+
     /// Whether it may be asked again: it is not in the middle of something, has not misbehaved, and
     /// has not ended.
     bool isUsable();
@@ -66,6 +72,7 @@ private:
                    const decoder_protocol::Greeting &greeting);
     Result takeReply(const decoder_protocol::Request &request);
     Result ended(Ending ending);
+    void kill() const;
 
     FileDescriptor m_socket;
     FileDescriptor m_process;

@@ -81,12 +81,16 @@ bool DecoderProgram::isShutIn() const
     return m_sandbox.isAvailable();
 }
 
-QByteArrayList DecoderProgram::command() const
+QByteArrayList DecoderProgram::command(decoder_protocol::Room room) const
 {
     // In the background of a shell that ends: when the decoder ends by itself, nobody has to wait
     // for it.
     const QByteArrayList start = {"/bin/sh", "-c", R"("$@" >/dev/null 2>&1 </dev/null &)", "sh"};
-    return start + (isShutIn() ? m_sandbox.command(inside(m_file)) : QByteArrayList{m_file});
+    QByteArrayList decoder
+        = isShutIn() ? m_sandbox.command(inside(m_file)) : QByteArrayList{m_file};
+    if (room == decoder_protocol::Room::Large)
+        decoder << decoder_protocol::largeRoomArgument;
+    return start + decoder;
 }
 
 } // namespace corvane

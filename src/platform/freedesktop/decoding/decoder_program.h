@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/pictures/decoder_protocol.h"
+
 #include <QByteArray>
 #include <QByteArrayList>
 
@@ -23,9 +25,10 @@ public:
     bool isThere() const { return !m_file.isEmpty(); }
     /// Whether it runs in the sandbox.
     bool isShutIn() const;
-    /// What starts it, in the sandbox where that can be had, and returns at once. It is to be
-    /// handed the socket. Waits for what the sandbox is tried with the first time.
-    QByteArrayList command() const;
+    /// What starts one with that much memory, in the sandbox where that can be had, and returns at
+    /// once. It is to be handed the socket. Waits for what the sandbox is tried with the first
+    /// time.
+    QByteArrayList command(decoder_protocol::Room room) const;
 
 private:
     const Sandbox &m_sandbox;

@@ -9,11 +9,13 @@ int &DecoderTurns::running(Urgency urgency)
     return isLong(urgency) ? m_long : m_brief;
 }
 
-bool DecoderTurns::mayBegin(Urgency urgency) const
+bool DecoderTurns::mayBegin(const Need &need) const
 {
-    if (urgency == Urgency::Preview)
+    if (need.room == Room::Large && m_large > 0)
+        return false;
+    if (need.urgency == Urgency::Preview)
         return m_previews == 0;
-    return !isLong(urgency) || (m_long == 0 && m_previews == 0);
+    return !isLong(need.urgency) || (m_long == 0 && m_previews == 0);
 }
 
 bool DecoderTurns::isNext(Turn turn) const
@@ -21,10 +23,12 @@ bool DecoderTurns::isNext(Turn turn) const
     if (!mayBegin(*turn))
         return false;
     bool cameBefore = true;
-    for (const Urgency &other : m_waiting) {
+    for (const Need &other : m_waiting) {
         if (&other == &*turn)
             cameBefore = false;
-        else if (mayBegin(other) && (other < *turn || (cameBefore && other == *turn)))
+        else if (mayBegin(other)
+                 && (other.urgency < turn->urgency
+                     || (cameBefore && other.urgency == turn->urgency)))
             return false;
     }
     return true;
@@ -32,8 +36,17 @@ bool DecoderTurns::isNext(Turn turn) const
 
 void DecoderTurns::began(Turn turn)
 {
-    ++running(*turn);
+    ++running(turn->urgency);
+    if (turn->room == Room::Large)
+        ++m_large;
     m_waiting.erase(turn);
+}
+
+void DecoderTurns::ended(Urgency urgency, Room room)
+{
+    --running(urgency);
+    if (room == Room::Large)
+        --m_large;
 }
 
 } // namespace corvane

@@ -259,6 +259,25 @@ TEST_F(DecoderDocumentsTest, RendersThePagesOfADocument)
     EXPECT_FALSE(pages.document->render(3, {300, 424}, never).has_value());
 }
 
+TEST_F(DecoderDocumentsTest, OfAFileThatShrinksOrGrowsWhileItIsShownTheRestIsGone)
+{
+    for (const char *format : {"png", "jpeg", "tiff", "webp", "bmp"}) {
+        const QByteArray whole = encoded({800, 400}, format);
+        const auto shown = picture("a", whole);
+        ASSERT_TRUE(shown.has_value()) << format;
+        // What was opened stays open, so it is the same file.
+        QFile file(folder.url("a").toLocalFile());
+        ASSERT_TRUE(file.open(QFile::ReadWrite));
+        file.resize(whole.size() + 1'000'000);
+        EXPECT_TRUE(shown->document->render(0, {400, 200}, never).has_value()) << format;
+        file.resize(20);
+        EXPECT_FALSE(shown->document->render(0, {400, 200}, never).has_value()) << format;
+        file.resize(0);
+        EXPECT_FALSE(shown->document->render(0, {400, 200}, never).has_value()) << format;
+        EXPECT_TRUE(codec.thumbnail(whole, 40).has_value()) << "others are not concerned";
+    }
+}
+
 TEST_F(DecoderDocumentsTest, RefusesABrokenDocument)
 {
     EXPECT_FALSE(documents.open(folder.write("b.pdf", "%PDF-1.4\ngarbage"), {200, 100}, never));

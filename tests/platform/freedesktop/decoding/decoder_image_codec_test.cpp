@@ -1,3 +1,5 @@
+#include "platform/base/cancellation.h"
+#include "platform/freedesktop/decoding/decoder_documents.h"
 #include "platform/freedesktop/decoding/decoder_image_codec.h"
 #include "platform/freedesktop/sandbox/sandbox.h"
 #include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
@@ -10,6 +12,9 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <unistd.h>
+
+#include <atomic>
+#include <thread>
 
 namespace corvane {
 namespace {
@@ -68,6 +73,7 @@ struct DecoderImageCodecTest : testing::Test {
     DecoderProgram program{sandbox};
     DecoderPool pool{program};
     DecoderImageCodec codec{pool};
+    Cancellation never;
     QTemporaryDir folder;
 };
 
@@ -109,6 +115,58 @@ TEST_F(DecoderImageCodecTest, TellsWhatIsNoPicture)
     EXPECT_EQ(attempt.outcome, Outcome::Unreadable);
 }
 
+TEST_F(DecoderImageCodecTest, AFileThatShrinksAndGrowsMeanwhileEndsNoDecoder)
+{
+    QImage noise(1'500, 1'000, QImage::Format_RGB32);
+    std::uint32_t state = 1;
+    for (int y = 0; y < noise.height(); ++y) {
+        auto *const line = reinterpret_cast<QRgb *>(noise.scanLine(y));
+        for (int x = 0; x < noise.width(); ++x)
+            line[x] = state = state * 1664525U + 1013904223U;
+    }
+    for (const char *format : {"png", "jpeg", "tiff", "webp", "bmp"}) {
+        const QString path = folder.filePath(QStringLiteral("changing"));
+        ASSERT_TRUE(noise.save(path, format));
+        QFile file(path);
+        ASSERT_TRUE(file.open(QFile::ReadWrite));
+        const qint64 whole = file.size();
+        std::atomic<bool> isOver = false;
+        std::thread changing([&] {
+            for (qint64 i = 0; !isOver; ++i)
+                file.resize(whole * (i % 7) / 3);
+        });
+        constexpr int times = 20;
+        for (int i = 0; i < times; ++i) {
+            DecodingAttempt attempt;
+            codec.fileThumbnail(QUrl::fromLocalFile(path), 100, attempt);
+            EXPECT_NE(attempt.outcome, Outcome::OverBounds) << format;
+            EXPECT_NE(attempt.outcome, Outcome::Interrupted) << format;
+        }
+        isOver = true;
+        changing.join();
+    }
+    EXPECT_TRUE(codec.thumbnail(written({40, 20}, "png"), 10).has_value());
+}
+
+TEST_F(DecoderImageCodecTest, DecodesLargePhotographsAndScans)
+{
+    struct Large {
+        QSize size;
+        const char *format;
+    };
+    // A telephone's photograph, a picture of a screen, and a page scanned at 600 points an inch.
+    for (const Large &large : {Large{{8'000, 6'000}, "jpeg"}, Large{{4'000, 3'000}, "png"},
+                               Large{{4'960, 7'016}, "tiff"}}) {
+        const QUrl file = saved("large", written(large.size, large.format));
+        DecodingAttempt attempt;
+        attempt.patience = DecodingAttempt::Patience::Alone;
+        EXPECT_TRUE(codec.fileThumbnail(file, 256, attempt).has_value()) << large.format;
+        DecoderDocuments documents(pool);
+        EXPECT_TRUE(documents.open(file, {1'600, 1'000}, never).has_value()) << large.format;
+        EXPECT_TRUE(codec.transcodeFile(file, UTType::png(), target(), never)) << large.format;
+    }
+}
+
 TEST_F(DecoderImageCodecTest, EndsADrawingThatTakesMinutes)
 {
     const QByteArray drawing = bomb();
@@ -122,17 +180,25 @@ TEST_F(DecoderImageCodecTest, EndsADrawingThatTakesMinutes)
     EXPECT_TRUE(codec.thumbnail(written({40, 20}, "png"), 10).has_value()) << "the next is served";
 }
 
+TEST_F(DecoderImageCodecTest, SaysNothingAboutAFileThatCannotBeOpened)
+{
+    DecodingAttempt attempt;
+    const QUrl gone = QUrl::fromLocalFile(folder.filePath(QStringLiteral("gone.png")));
+    EXPECT_FALSE(codec.fileThumbnail(gone, 60, attempt).has_value());
+    EXPECT_EQ(attempt.outcome, Outcome::Interrupted);
+}
+
 TEST_F(DecoderImageCodecTest, WritesAnotherTypeIntoTheFileThatIsGiven)
 {
     const QByteArray tiff = written({40, 20}, "tiff");
-    ASSERT_TRUE(codec.transcode(tiff, UTType::png(), target()));
+    ASSERT_TRUE(codec.transcode(tiff, UTType::png(), target(), never));
     EXPECT_EQ(QImage::fromData(madeFile(), "PNG").size(), QSize(40, 20));
-    ASSERT_TRUE(
-        codec.transcodeFile(saved("a.tiff", tiff), UTType(QStringLiteral("image/jpeg")), target()));
+    ASSERT_TRUE(codec.transcodeFile(saved("a.tiff", tiff), UTType(QStringLiteral("image/jpeg")),
+                                    target(), never));
     EXPECT_EQ(QImage::fromData(madeFile(), "JPEG").size(), QSize(40, 20));
-    EXPECT_FALSE(codec.transcode("no picture", UTType::png(), target()));
-    EXPECT_FALSE(codec.transcode(tiff, UTType(QStringLiteral("application/pdf")), target()));
-    EXPECT_FALSE(codec.transcode(tiff, UTType::png(), FileDescriptor()));
+    EXPECT_FALSE(codec.transcode("no picture", UTType::png(), target(), never));
+    EXPECT_FALSE(codec.transcode(tiff, UTType(QStringLiteral("application/pdf")), target(), never));
+    EXPECT_FALSE(codec.transcode(tiff, UTType::png(), FileDescriptor(), never));
 }
 
 TEST_F(DecoderImageCodecTest, DecodesWithoutTheSandboxToo)

@@ -5,8 +5,11 @@
 #include "platform/pictures/picture_memory.h"
 
 #include <QCoreApplication>
+#include <QTemporaryFile>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <thread>
 
@@ -24,6 +27,14 @@ struct DecoderPoolTest : testing::Test {
         return QCoreApplication::applicationDirPath().toUtf8() + "/corvane_false_decoder";
     }
     static void misbehave(const char *step) { qputenv("CORVANE_FALSE_DECODER", step); }
+
+    /// A decoder has begun to write a conversion.
+    static void waitUntilBegun(const FileDescriptor &target)
+    {
+        struct stat status = {};
+        while (::fstat(target.number(), &status) == 0 && status.st_size == 0)
+            std::this_thread::yield();
+    }
 
     DecodingAttempt attempted()
     {
@@ -81,6 +92,40 @@ INSTANTIATE_TEST_SUITE_P(AtEveryStep, DecoderThatDoesNotBegin,
                          testing::Values("dies at once", "ends at once", "garbled greeting",
                                          "dies before reading"));
 
+TEST_F(DecoderPoolTest, APictureThatNeedsMoreMemoryIsHandedToOneThatHasIt)
+{
+    misbehave("needs room");
+    EXPECT_EQ(attempted().outcome, Outcome::Made);
+    EXPECT_EQ(attempted().outcome, Outcome::Made) << "also when that one waits already";
+}
+
+TEST_F(DecoderPoolTest, APictureThatNeedsMoreMemoryThanThereIsFails)
+{
+    misbehave("refuses");
+    EXPECT_EQ(attempted().outcome, Outcome::OverBounds);
+}
+
+TEST_F(DecoderPoolTest, APreviewThatNeedsMoreMemoryDoesNotWaitForAConversionThatHasIt)
+{
+    misbehave("needs room, conversions hang");
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    const FileDescriptor target(::dup(file.handle()));
+    std::thread converting(
+        [&] { codec.transcode("any bytes", UTType::png(), target, cancellation); });
+    waitUntilBegun(target);
+    DecoderPool::Job preview;
+    preview.request.task = decoder_protocol::Task::Thumbnail;
+    preview.request.wanted = {8, 8};
+    preview.request.milliseconds = 60'000;
+    const auto contents = picture_memory::of("any bytes");
+    preview.descriptors = {contents.number()};
+    preview.urgency = DecoderPool::Urgency::Preview;
+    EXPECT_EQ(pool.run(preview).outcome, Outcome::Made);
+    pool.finish();
+    converting.join();
+}
+
 TEST_F(DecoderPoolTest, OneThatEndedBetweenRequestsIsReplaced)
 {
     misbehave("dies after the reply");
@@ -111,6 +156,20 @@ TEST_F(DecoderPoolTest, ACancelledRequestEndsThoughItsDecoderHangs)
     misbehave("hangs");
     std::thread canceller([this] { cancellation.cancel(); });
     EXPECT_EQ(attempted().outcome, Outcome::Interrupted);
+    canceller.join();
+}
+
+TEST_F(DecoderPoolTest, ACancelledConversionEndsThoughItsDecoderHangs)
+{
+    misbehave("conversions hang");
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    const FileDescriptor target(::dup(file.handle()));
+    std::thread canceller([&] {
+        waitUntilBegun(target);
+        cancellation.cancel();
+    });
+    EXPECT_FALSE(codec.transcode("any bytes", UTType::png(), target, cancellation));
     canceller.join();
 }
 

@@ -29,7 +29,7 @@ struct DecoderProgramTest : testing::Test {
     }
     QByteArrayList commandOf(const QByteArray &decoder) const
     {
-        return DecoderProgram(sandbox, decoder).command();
+        return DecoderProgram(sandbox, decoder).command(decoder_protocol::Room::Usual);
     }
     /// What of this folder the decoder sees.
     QByteArrayList seen(const QByteArrayList &command) const

@@ -163,7 +163,7 @@ struct DecoderTrace : testing::TestWithParam<bool> {
             = QFile::encodeName(QCoreApplication::applicationDirPath()) + "/corvane-decoder";
         const DecoderProgram program(GetParam() ? sandbox : noSandbox, file);
         auto [ours, theirs] = packet_socket::makePair();
-        const QByteArrayList command = program.command();
+        const QByteArrayList command = program.command(decoder_protocol::Room::Large);
         std::thread tracing([&] { traced(command, theirs); });
         const bool hasBegun = decoder_protocol::parsedGreeting(awaited(ours).packet).has_value();
         EXPECT_TRUE(hasBegun);

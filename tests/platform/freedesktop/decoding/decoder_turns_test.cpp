@@ -66,6 +66,25 @@ TEST(DecoderTurnsTest, APreviewThatHangsLeavesTheOtherDecoderToThumbnails)
     EXPECT_TRUE(turns.isNext(preview));
 }
 
+TEST(DecoderTurnsTest, NeverRunsTwoInALargeRoomAndTheRestOvertakesThoseThatWaitForIt)
+{
+    using Room = DecoderTurns::Room;
+    DecoderTurns turns;
+    turns.began(turns.wait(Urgency::Thumbnail, Room::Large));
+    const auto large = turns.wait(Urgency::Thumbnail, Room::Large);
+    const auto preview = turns.wait(Urgency::Preview, Room::Large);
+    const auto usual = turns.wait(Urgency::Thumbnail);
+    EXPECT_FALSE(turns.isNext(large));
+    EXPECT_FALSE(turns.isNext(preview));
+    EXPECT_TRUE(turns.isNext(usual));
+    turns.ended(Urgency::Thumbnail, Room::Large);
+    EXPECT_TRUE(turns.isNext(preview));
+    turns.began(preview);
+    EXPECT_FALSE(turns.isNext(large));
+    turns.ended(Urgency::Preview, Room::Large);
+    EXPECT_TRUE(turns.isNext(large));
+}
+
 TEST(DecoderTurnsTest, APreviewDoesNotWaitForSomethingLong)
 {
     DecoderTurns turns;

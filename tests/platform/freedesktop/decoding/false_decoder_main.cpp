@@ -65,7 +65,16 @@ void answer(const FileDescriptor &socket, const QByteArray &step, std::uint32_t 
         packet_socket::send(socket, packet, {memory.number()});
 }
 
-int run(const QByteArray &step)
+void refuse(const FileDescriptor &socket, std::uint32_t number)
+{
+    Reply reply;
+    reply.number = number;
+    reply.outcome = decoder_protocol::Outcome::OverBounds;
+    packet_socket::send(socket, decoder_protocol::encoded(reply));
+}
+
+/// `isLarge`: this one was started with a large room.
+int run(const QByteArray &step, bool isLarge)
 {
     const FileDescriptor socket(socketNumber);
     if (step == "dies at once")
@@ -95,6 +104,16 @@ int run(const QByteArray &step)
             return EXIT_FAILURE;
         if (step == "dies after reading")
             die();
+        if (step == "refuses" || (step.startsWith("needs room") && !isLarge)) {
+            refuse(socket, request->number);
+            continue;
+        }
+        if (step.endsWith("conversions hang")
+            && request->task == decoder_protocol::Task::Transcode) {
+            const FileDescriptor &target = received->descriptors.at(1);
+            target.write("begun");
+            waitForPacket();
+        }
         if (step == "hangs")
             waitForPacket();
         answer(socket, step, request->number);
@@ -105,7 +124,8 @@ int run(const QByteArray &step)
 
 } // namespace
 
-int main()
+int main(int argc, char *argv[])
 {
-    return run(qgetenv("CORVANE_FALSE_DECODER"));
+    const bool isLarge = argc > 1 && qstrcmp(argv[1], decoder_protocol::largeRoomArgument) == 0;
+    return run(qgetenv("CORVANE_FALSE_DECODER"), isLarge);
 }
