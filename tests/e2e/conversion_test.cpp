@@ -107,6 +107,32 @@ TEST_F(Conversion, aLargeTiffIsAnsweredAtOnceAndBecomesAPngLater)
     EXPECT_TRUE(isThePage(QString::fromUtf8(made)));
 }
 
+TEST_F(Conversion, aPictureThatIsRemovedBeforeItIsReadyLeavesNothing)
+{
+    const QString page = makePage(u"page.tiff"_s);
+    start();
+    ASSERT_TRUE(dropAndLook({{"text/uri-list", uriList({page})}}));
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    focusShelf(corvane().at(38, 22));
+    hands().key(keys::forwardDelete);
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    const QString last = makePage(u"last.tiff"_s);
+    ASSERT_TRUE(dropFiles({last}));
+    ASSERT_TRUE(eventually([&] { return corvane().spooled().contains(u"last.png"_s); }));
+    EXPECT_EQ(corvane().spooled(), QStringList{u"last.png"_s});
+}
+
+TEST_F(Conversion, theProgramEndsWhileAPictureIsConverted)
+{
+    const QString page = makePage(u"page.tiff"_s);
+    start();
+    const QString spool = corvane().spool();
+    ASSERT_TRUE(dropAndLook({{"text/uri-list", uriList({page})}}));
+    corvane().program().signal(SIGTERM);
+    EXPECT_EQ(corvane().program().waitForEnd(std::chrono::seconds{5}), 0);
+    EXPECT_FALSE(QFile::exists(spool));
+}
+
 TEST_F(Conversion, aPictureThatIsCopiedBeforeItIsReadyIsThereWhenItIsPasted)
 {
     // The last one is focused, and made last.

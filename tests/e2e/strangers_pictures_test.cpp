@@ -1,13 +1,17 @@
 // Pictures that come from elsewhere: decoded in processes of their own, whatever they are.
 
+#include "e2e/desktop/memory_watch.h"
 #include "e2e/desktop_test.h"
+#include "platform/qt/web/http_server.h"
 
+#include <QBuffer>
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
+#include <QSet>
 #include <QUrl>
 
 #include <fcntl.h>
@@ -15,6 +19,9 @@
 
 #include <algorithm>
 #include <array>
+#include <atomic>
+#include <iostream>
+#include <thread>
 
 namespace corvane::e2e {
 namespace {
@@ -186,6 +193,165 @@ TEST_F(AmongHostilePictures, theProgramEndsWhileOneIsDecoded)
     // The newest comes first.
     ASSERT_TRUE(dropFiles(makeEndlessDrawings(2) << first));
     ASSERT_TRUE(eventually([&] { return hasThumbnail(first); }));
+    corvane().program().signal(SIGTERM);
+    EXPECT_EQ(corvane().program().waitForEnd(), 0);
+}
+
+TEST_F(AmongHostilePictures, allProcessesTogetherTakeNoMoreMemoryThanASmallMachineHas)
+{
+    constexpr qint64 most = 600'000'000;
+    startWithInView(3);
+    const MemoryWatch watch(corvane().program().pid(),
+                            "XDG_CACHE_HOME="
+                                + m_desktop.environment().value(u"XDG_CACHE_HOME"_s).toUtf8());
+    const QString last = makePicture(u"last.png"_s, "png");
+    // Whatever is in view is a drawing that takes as much memory as it gets.
+    const QStringList endless = makeEndlessDrawings(6);
+    const QStringList all = endless.first(3) + QStringList{last} + allHostile() + endless.last(3);
+    ASSERT_TRUE(dropFiles(all));
+    ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(3, int(all.size()))));
+    const QPoint first = CorvaneProgram::cell(3, int(all.size()), 0);
+    focusShelf(corvane().at(first.x(), first.y()));
+    hands().key(keys::space);
+    ASSERT_TRUE(eventually([&] { return corvane().window(); }));
+    EXPECT_TRUE(eventually([&] { return hasThumbnail(last); })) << "all were tried";
+    EXPECT_TRUE(eventually([&] { return givenUp(endless) == endless.size(); }));
+    for (const char *name : {"many-strokes.svg", "more-strokes.svg", "scans.jpg"})
+        EXPECT_TRUE(eventually([&] { return givenUp({hostile(QLatin1String(name))}) == 1; }))
+            << name;
+    EXPECT_TRUE(eventually([&] { return hasThumbnail(hostile(u"large.png"_s)); }));
+    EXPECT_LT(watch.peak(), most);
+    // It has seen them.
+    EXPECT_GT(watch.processes(), 1);
+    RecordProperty("peak", std::to_string(watch.peak()));
+    std::cout << watch.peak() / 1'000'000 << " MB\n";
+}
+
+TEST_F(AmongHostilePictures, aFileThatNeverRestsKeepsNoOtherWaiting)
+{
+    startWithInView(3);
+    QStringList ordinary;
+    for (int i = 0; i < 10; ++i)
+        ordinary << makePicture(u"ordinary %1.png"_s.arg(i), "png");
+    QImage picture(3'000, 2'000, QImage::Format_RGB32);
+    picture.fill(qRgb(30, 90, 200));
+    const QString restless = makeFile(u"restless.bmp"_s, {});
+    ASSERT_TRUE(picture.save(restless, "bmp"));
+    std::atomic<bool> isOver = false;
+    std::thread changer([&] {
+        QFile file(restless);
+        const bool isOpen = file.open(QFile::ReadWrite);
+        const qint64 whole = file.size();
+        for (qint64 i = 0; isOpen && !isOver; ++i)
+            file.resize(whole * (i % 7) / 3);
+        file.resize(0);
+    });
+    EXPECT_TRUE(dropFiles(QStringList(ordinary) << restless));
+    for (const QString &file : ordinary)
+        EXPECT_TRUE(eventually([&] { return hasThumbnail(file); })) << file.toStdString();
+    isOver = true;
+    changer.join();
+    // At rest, and whole again, it is like any other.
+    const QString rested = makePicture(u"restless.bmp"_s, "bmp");
+    ASSERT_TRUE(dropFiles({rested}));
+    EXPECT_TRUE(eventually([&] { return hasThumbnail(rested); }));
+    corvane().program().signal(SIGTERM);
+    EXPECT_EQ(corvane().program().waitForEnd(), 0);
+}
+
+TEST_F(AmongHostilePictures, theProgramEndsWhileOneIsBeingPreviewed)
+{
+    startWithInView(3);
+    ASSERT_TRUE(dropFiles(makeEndlessDrawings(1)));
+    ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(3, 1)));
+    const QPoint only = CorvaneProgram::cell(3, 1, 0);
+    focusShelf(corvane().at(only.x(), only.y()));
+    hands().key(keys::space);
+    ASSERT_TRUE(eventually([&] { return corvane().window(); }));
+    corvane().program().signal(SIGTERM);
+    // The preview would take longer.
+    EXPECT_EQ(corvane().program().waitForEnd(std::chrono::seconds{5}), 0);
+}
+
+/// Links to pages of a server of this machine, whose cards have pictures.
+class AmongHostileLinks : public AmongHostilePictures {
+protected:
+    static QRgb colourOf(int nth) { return qRgb(255 - 20 * nth, 20 * nth, 128); }
+    static QByteArray ordinary(int nth)
+    {
+        QImage picture(64, 64, QImage::Format_RGB32);
+        picture.fill(colourOf(nth));
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        picture.save(&buffer, "png");
+        return bytes;
+    }
+    static QByteArray bytesOf(const QString &path)
+    {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QFile::ReadOnly)) << path.toStdString();
+        return file.readAll();
+    }
+    /// A page with that picture.
+    QString serve(const QByteArray &picture)
+    {
+        const QByteArray name = QByteArray::number(++m_pages);
+        m_server.answer(
+            '/' + name,
+            test::response(200, "<title>t</title><meta property=og:image content=/p" + name + ">"));
+        m_server.answer("/p" + name, test::response(200, picture));
+        return m_server.url(u'/' + QString::fromLatin1(name)).toString();
+    }
+    /// Puts links on the shelf, the last of them the newest.
+    testing::AssertionResult put(const QStringList &links)
+    {
+        const auto putting = m_desktop.start(CorvaneProgram::path(), links);
+        return putting->waitForEnd() == 0
+            ? testing::AssertionSuccess()
+            : testing::AssertionFailure() << putting->output().toStdString();
+    }
+    /// Which of the ordinary pictures the bar shows.
+    qsizetype shown(Bar &bar, int count)
+    {
+        const QImage seen = server().picture(bar.frame());
+        QSet<QRgb> colours;
+        for (int y = 0; y < seen.height(); ++y) {
+            for (int x = 0; x < seen.width(); ++x)
+                colours.insert(seen.pixel(x, y) | 0xff000000);
+        }
+        qsizetype found = 0;
+        for (int i = 0; i < count; ++i)
+            found += colours.contains(colourOf(i)) ? 1 : 0;
+        return found;
+    }
+
+    test::HttpServer m_server;
+
+private:
+    int m_pages = 0;
+};
+
+TEST_F(AmongHostileLinks, ordinaryOnesHaveTheirPicturesBeforeTheseAreGivenUp)
+{
+    constexpr int count = 10;
+    // Each of these takes its decoder to the end of its time; one after the other, longer than
+    // anything is waited for here.
+    constexpr int endless = 30;
+    startWithInView(6);
+    QStringList links;
+    for (int i = 0; i < count; ++i)
+        links << serve(ordinary(i));
+    for (const QString &path : allHostile())
+        links << serve(bytesOf(path));
+    for (int i = 0; i < endless; ++i)
+        links << serve(bytesOf(hostile(u"scans.jpg"_s)));
+    ASSERT_TRUE(put(links));
+    ASSERT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(6, int(links.size()))));
+    Bar bar(m_desktop, corvane(), 6);
+    ASSERT_TRUE(bar.open(int(links.size())));
+    EXPECT_TRUE(eventually([&] { return shown(bar, count) == count; }))
+        << shown(bar, count) << " of " << count << ", " << bar.tilesOnAPage() << " on a page";
     corvane().program().signal(SIGTERM);
     EXPECT_EQ(corvane().program().waitForEnd(), 0);
 }
