@@ -29,16 +29,20 @@ void listen(xcb_window_t window, std::uint32_t mask)
     xcb_flush(x11_qt::connection());
 }
 
+X11Reply<xcb_get_window_attributes_reply_t> attributesOf(xcb_window_t window)
+{
+    return x11_qt::reply<xcb_get_window_attributes_reply_t>(
+        xcb_get_window_attributes(x11_qt::connection(), window));
+}
+
 } // namespace
 
 WindowEndWatch::WindowEndWatch(xcb_window_t window)
     : m_window(window)
 {
-    auto *const qt = x11_qt::connection();
-    if (!qt)
+    if (!x11_qt::connection())
         return;
-    const auto attributes
-        = x11_qt::reply<xcb_get_window_attributes_reply_t>(xcb_get_window_attributes(qt, window));
+    const auto attributes = attributesOf(window);
     m_exists = attributes || !x11_qt::isAnswering();
     m_isWatching = attributes != nullptr;
     if (!attributes)
@@ -48,6 +52,8 @@ WindowEndWatch::WindowEndWatch(xcb_window_t window)
         return;
     previousMask = attributes->your_event_mask;
     listen(window, previousMask | XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    // If it went in between, its end was reported to nobody.
+    m_exists = attributesOf(window) || !x11_qt::isAnswering();
 }
 
 WindowEndWatch::~WindowEndWatch()

@@ -59,14 +59,13 @@ void X11Drag::delivered(xcb_window_t requestor, const QList<qsizetype> &holds)
         mark(m_takenByProgram[program], holds);
 }
 
-void X11Drag::targetAnswered(const xcb_client_message_event_t &status)
+X11Drag::Target X11Drag::targetAnswered(const xcb_client_message_event_t &status)
 {
     const bool isUnseen = m_isWaiting && m_target == XCB_NONE;
     if (m_isWaiting && !isUnseen)
-        return;
+        return Target::There;
     m_target = status.data.data32[0];
-    if (isUnseen)
-        watchTarget();
+    return isUnseen ? watchTarget() : Target::There;
 }
 
 std::optional<std::uint32_t> X11Drag::cardinal(xcb_window_t window, const char *property)
@@ -85,18 +84,17 @@ X11Drag::Target X11Drag::wasDropped()
     m_isWaiting = true;
     if (m_target == XCB_NONE)
         return Target::Unseen;
-    return watchTarget() ? Target::There : Target::Gone;
+    return watchTarget();
 }
 
-/// False if the target is gone.
-bool X11Drag::watchTarget()
+X11Drag::Target X11Drag::watchTarget()
 {
     const xcb_window_t proxy = cardinal(m_target, "XdndProxy").value_or(m_target);
     m_saysHowItEnded
         = cardinal(proxy, "XdndAware").value_or(versionWithResult) >= versionWithResult;
     if (proxy != m_target)
         m_watches.emplace_back(proxy);
-    return m_watches.emplace_back(m_target).exists();
+    return m_watches.emplace_back(m_target).exists() ? Target::There : Target::Gone;
 }
 
 bool X11Drag::wasDroppedOn(xcb_window_t window) const

@@ -34,9 +34,6 @@ public:
     xcb_timestamp_t began() const { return m_began; }
     DragAnswers &answers() { return m_answers; }
 
-    /// XdndStatus of a window that would take the drop. Of several that have come Qt hands on the
-    /// first one alone, and believes the last.
-    void targetAnswered(const xcb_client_message_event_t &status);
     enum class Target {
         /// A window has accepted, and nobody knows which: it shows by what it does.
         Unseen,
@@ -44,6 +41,9 @@ public:
         Gone,
         There,
     };
+    /// XdndStatus of a window that would take the drop. Of several that have come Qt hands on the
+    /// first one alone, and believes the last.
+    Target targetAnswered(const xcb_client_message_event_t &status);
     /// The user let go where a window had accepted: waits from now on for the last one that did.
     Target wasDropped();
     bool isWaiting() const { return m_isWaiting; }
@@ -75,7 +75,7 @@ private:
     /// The part of a window's number that all windows of a client share.
     std::uint32_t programOf(xcb_window_t window) const;
     std::optional<std::uint32_t> cardinal(xcb_window_t window, const char *property);
-    bool watchTarget();
+    Target watchTarget();
     void delivered(xcb_window_t requestor, const QList<qsizetype> &holds);
     QList<qsizetype> taken() const;
     void endIfOver();

@@ -85,12 +85,16 @@ void X11DragSupport::dragWasDropped(DragId drag, std::function<void(const DragOu
     if (dropsAwaiting(found->target()).size() == 1)
         m_words.erase(found->target());
     watchTheClock();
-    if (target == X11Drag::Target::Gone) {
-        m_queue.asyncAfter(lastWords, m_lifetime.guard([this, drag] {
-            if (auto *const silent = find(drag))
-                silent->giveUp();
-        }));
-    }
+    if (target == X11Drag::Target::Gone)
+        awaitLastWords(drag);
+}
+
+void X11DragSupport::awaitLastWords(DragId drag)
+{
+    m_queue.asyncAfter(lastWords, m_lifetime.guard([this, drag] {
+        if (auto *const silent = find(drag))
+            silent->giveUp();
+    }));
 }
 
 void X11DragSupport::dragCameToNothing(DragId drag)
@@ -162,8 +166,9 @@ void X11DragSupport::readMessage(xcb_client_message_event_t &message)
         // send one.
         if ((message.data.data32[1] & accepts) == 0)
             message.data.data32[1] = 0;
-        else if (auto *const drag = find(m_lastId))
-            drag->targetAnswered(message);
+        else if (auto *const drag = find(m_lastId);
+                 drag && drag->targetAnswered(message) == X11Drag::Target::Gone)
+            awaitLastWords(m_lastId);
     } else if (message.type == m_connection.atom("XdndFinished")) {
         finished(message);
     }

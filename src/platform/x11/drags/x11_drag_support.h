@@ -59,6 +59,7 @@ private:
     /// The drags that were dropped on that window and wait for its XdndFinished; the oldest first.
     std::vector<DragId> dropsAwaiting(xcb_window_t window) const;
     void windowIsGone(xcb_window_t window);
+    void awaitLastWords(DragId drag);
     void lostSelection(xcb_timestamp_t time);
     bool answer(const xcb_selection_request_event_t &request);
     /// The drag that a request is about; null when there is none.

@@ -432,6 +432,16 @@ TEST_F(X11DragSupportTest, aTargetThatAnswersAfterTheDropIsWatched)
     EXPECT_EQ(ends[0].operation, DragOperation::None);
 }
 
+TEST_F(X11DragSupportTest, aTargetThatAnswersAfterTheDropMayBeGoneByThen)
+{
+    drop(begin());
+    target.destroyWindow();
+    target.accept();
+    clock.advance(X11DragSupport::lastWords);
+    ASSERT_EQ(ends.size(), 1U);
+    EXPECT_EQ(ends[0].operation, DragOperation::None);
+}
+
 TEST_F(X11DragSupportTest, aTargetWhoseAnswerNobodySawIsGivenUp)
 {
     drop(begin());
