@@ -19,7 +19,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Windows stand where they are placed, as on other desktops, and bare.
+// Windows stand where they are placed, as on other desktops, and bare. An X server that is started
+// only when it is wanted ends ten seconds after its last client with newer versions, and the next
+// one would know nothing of who was let in.
 constexpr auto configuration = R"(
 xwayland %1
 output * scale %2
@@ -110,7 +112,7 @@ void NestedSway::writeConfiguration(const Kind &kind)
     if (!file.open(QFile::WriteOnly))
         return;
     file.write(QString::fromLatin1(configuration)
-                   .arg(kind.hasXWayland ? u"enable"_s : u"disable"_s)
+                   .arg(kind.hasXWayland ? u"force"_s : u"disable"_s)
                    .arg(kind.scale)
                    .toUtf8());
 }
