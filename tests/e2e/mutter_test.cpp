@@ -53,6 +53,10 @@ TEST_F(Mutter, whatIsLetGoWhereNobodyTakesItGivesTheKeyboardBack)
     hands().beginDrag(corvane().at(38, 22), belowEdge());
     hands().glideTo(belowEdge());
     hands().release();
+    // Of a button that goes up over the wallpaper newer versions tell their X server only when the
+    // pointer comes over one of its windows.
+    hands().glideTo(corvane().at(38, 22));
+    hands().glideTo(belowEdge());
     EXPECT_TRUE(hearsKeys(typing, 'l'));
     EXPECT_TRUE(corvane().isShown());
 }
