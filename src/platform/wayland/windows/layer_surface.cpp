@@ -15,6 +15,9 @@ namespace {
 
 /// What users name in their compositor's rules for it.
 constexpr auto label = "corvane";
+/// For KWin it is what kind of window it is. One of no kind that it knows would be among those that
+/// it looks through for who gets the keyboard next, also when it does not want it any more.
+constexpr auto kindForKWin = "on-screen-display";
 
 /// Bars that keep space free for themselves do not push it down.
 constexpr std::int32_t atTheVeryEdge = -1;
@@ -47,7 +50,8 @@ LayerSurface::LayerSurface(WaylandConnection &connection, QWindow &window, const
     if (!m_surface || !output || !connection.layerShell())
         return;
     m_layerSurface = zwlr_layer_shell_v1_get_layer_surface(
-        connection.layerShell(), m_surface, output, static_cast<std::uint32_t>(place.layer), label);
+        connection.layerShell(), m_surface, output, static_cast<std::uint32_t>(place.layer),
+        connection.leavesKeyboardBehind() ? kindForKWin : label);
     zwlr_layer_surface_v1_add_listener(m_layerSurface, &Listener::all, this);
     zwlr_layer_surface_v1_set_anchor(
         m_layerSurface, ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT);
