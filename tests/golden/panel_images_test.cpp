@@ -9,12 +9,28 @@
 
 #include <QLocale>
 #include <QPainter>
+#include <QStringBuilder>
 
 #include <gtest/gtest.h>
+
+#include <limits>
 
 namespace corvane::test {
 
 namespace {
+
+/// Curves may be rounded another way, here and there.
+int differentPixels(const QImage &one, const QImage &other)
+{
+    if (one.size() != other.size())
+        return std::numeric_limits<int>::max();
+    int count = 0;
+    for (int y = 0; y < one.height(); ++y) {
+        for (int x = 0; x < one.width(); ++x)
+            count += one.pixel(x, y) == other.pixel(x, y) ? 0 : 1;
+    }
+    return count;
+}
 
 class PanelImages : public testing::TestWithParam<PanelState> { };
 
@@ -26,6 +42,20 @@ TEST_P(PanelImages, AreAsKept)
     for (const PanelState::Shot &shot : GetParam().shots) {
         EXPECT_TRUE(matchesGoldenImage(GetParam().fileName(shot),
                                        stage->picture(shot.wallpaper, shot.scale)));
+    }
+}
+
+TEST_P(PanelImages, AreTheSameOfAContentThatIsEnlargedAndOnAScreenOfThatScale)
+{
+    for (const double scale : {1.5, 2.0}) {
+        const auto stage = GetParam().make(TextWidths::Measured);
+        const QImage onScreen = stage->picture(Wallpaper::Light, scale).image;
+        const QImage enlarged = stage->picture(Wallpaper::Light, scale, scale).image;
+        EXPECT_LE(differentPixels(enlarged, onScreen), 40)
+            << scale
+            << leaveForALook(u"enlarged-" % GetParam().fileName({Wallpaper::Light, scale}),
+                             enlarged)
+                   .toStdString();
     }
 }
 

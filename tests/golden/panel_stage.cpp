@@ -9,7 +9,7 @@
 
 namespace corvane::test {
 
-Picture PanelStage::picture(Wallpaper wallpaper, double scale)
+Picture PanelStage::picture(Wallpaper wallpaper, double scale, double enlargement)
 {
     const Place where = place();
     Picture result;
@@ -19,10 +19,11 @@ Picture PanelStage::picture(Wallpaper wallpaper, double scale)
         desktop = paintDesktop((where.desktop * scale).toSize(), scale, wallpaper);
     result.image = desktop;
     QImage panel((where.panelSize * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
-    panel.setDevicePixelRatio(scale);
+    panel.setDevicePixelRatio(scale / enlargement);
     panel.fill(Qt::transparent);
     {
         QPainter painter(&panel);
+        painter.scale(enlargement, enlargement);
         painter.translate(0, where.panelSize.height());
         painter.scale(1, -1);
         paintPanel(painter, where.panelSize, scale);

@@ -23,7 +23,9 @@ class PanelStage {
 public:
     virtual ~PanelStage() = default;
 
-    Picture picture(Wallpaper wallpaper, double scale);
+    /// `enlargement` is the part of the scale that is not the screen's, but that of the panel's
+    /// content.
+    Picture picture(Wallpaper wallpaper, double scale, double enlargement = 1);
     /// The layers that contain all others, from below upward. They may be changed to see whether
     /// that is noticed.
     virtual std::vector<Layer *> roots() = 0;

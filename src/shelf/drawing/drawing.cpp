@@ -25,7 +25,12 @@ void drawOnPixels(QPainter &painter, const QImage &bitmap, QPointF lowerLeft)
     const QPointF topLeft(std::round(corner.x()), std::round(corner.y()) - bitmap.height());
     const QTransform world = painter.worldTransform();
     painter.resetTransform();
-    painter.drawImage(topLeft / ratio, bitmap);
+    // Pixel by pixel, also where the bitmap was made for a painter that enlarges.
+    if (bitmap.devicePixelRatio() == ratio)
+        painter.drawImage(topLeft / ratio, bitmap);
+    else
+        painter.drawImage(QRectF(topLeft / ratio, QSizeF(bitmap.size()) / ratio), bitmap,
+                          QRectF(bitmap.rect()));
     painter.setWorldTransform(world);
 }
 

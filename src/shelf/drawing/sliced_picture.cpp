@@ -82,7 +82,8 @@ void SlicedPicture::drawCorners(QPainter &painter, const QRect &outer) const
     const double ratio = painter.device()->devicePixelRatio();
     const QSize all = m_picture.size();
     const auto copy = [&](QPoint to, const QRect &from) {
-        painter.drawImage(QPointF(to) / ratio, m_picture, QRectF(from));
+        painter.drawImage(QRectF(QPointF(to) / ratio, QSizeF(from.size()) / ratio), m_picture,
+                          QRectF(from));
     };
     const int right = all.width() - m_cut.right;
     const int bottom = all.height() - m_cut.bottom;
