@@ -42,7 +42,7 @@ bool limitThreadStacks()
 
 bool limitResources(decoder_protocol::Room room)
 {
-    // Each arena reserves 64 MB of the address space.
+    // Each arena keeps memory of its own.
     ::mallopt(M_ARENA_MAX, 2);
     // Where a file would become too large, writing fails.
     std::signal(SIGXFSZ, SIG_IGN);

@@ -5,8 +5,9 @@
 /// What this process gives up before it reads a stranger's first byte.
 namespace corvane::confinement {
 
-/// Of address space, in bytes: what is mapped for reading counts, too.
-inline constexpr long long addressSpace = 1024LL * 1024 * 1024;
+/// Of address space, in bytes. What is mapped for reading counts, too, and what libraries only
+/// reserve: 16 GB at a time for documents, with newer versions of Qt.
+inline constexpr long long addressSpace = 128LL * 1024 * 1024 * 1024;
 /// Of each thread but the first one.
 inline constexpr long long threadStack = 512LL * 1024;
 /// Of all requests together.
