@@ -194,6 +194,7 @@ bool isAllowedPlace(const QByteArray &path)
                                    "/var/cache/fontconfig",
                                    "/proc/self/",
                                    "/proc/sys/",
+                                   "/proc/filesystems",
                                    "/proc/meminfo",
                                    "/proc/cpuinfo",
                                    "/proc/stat",
