@@ -16,8 +16,17 @@ namespace {
 /// What users name in their compositor's rules for it.
 constexpr auto label = "corvane";
 /// For KWin it is what kind of window it is. One of no kind that it knows would be among those that
-/// it looks through for who gets the keyboard next, also when it does not want it any more.
+/// KWin 6 looks through for who gets the keyboard next, also when it does not want it any more.
 constexpr auto kindForKWin = "on-screen-display";
+/// KWin 5 has an older one, and gives the keyboard back without that.
+constexpr std::uint32_t versionOfKWin6 = 4;
+
+const char *labelFor(const WaylandConnection &connection)
+{
+    const bool isKWin6 = connection.leavesKeyboardBehind()
+        && zwlr_layer_shell_v1_get_version(connection.layerShell()) >= versionOfKWin6;
+    return isKWin6 ? kindForKWin : label;
+}
 
 /// Bars that keep space free for themselves do not push it down.
 constexpr std::int32_t atTheVeryEdge = -1;
@@ -51,7 +60,7 @@ LayerSurface::LayerSurface(WaylandConnection &connection, QWindow &window, const
         return;
     m_layerSurface = zwlr_layer_shell_v1_get_layer_surface(
         connection.layerShell(), m_surface, output, static_cast<std::uint32_t>(place.layer),
-        connection.leavesKeyboardBehind() ? kindForKWin : label);
+        labelFor(connection));
     zwlr_layer_surface_v1_add_listener(m_layerSurface, &Listener::all, this);
     zwlr_layer_surface_v1_set_anchor(
         m_layerSurface, ZWLR_LAYER_SURFACE_V1_ANCHOR_TOP | ZWLR_LAYER_SURFACE_V1_ANCHOR_LEFT);
