@@ -46,12 +46,12 @@ QString keys(WelcomeStep step)
     if (step != WelcomeStep::DragOut)
         return {};
     const auto shown
-        = [](const QKeySequence &key) { return key.toString(QKeySequence::NativeText); };
+        = [](QKeyCombination key) { return QKeySequence(key).toString(QKeySequence::NativeText); };
     return QCoreApplication::translate(
                "WelcomeStep",
                "By keyboard: press the shelf's shortcut, then %1 to paste onto it and %2 to go "
                "through it.")
-        .arg(shown(Qt::CTRL | Qt::Key_V), shown(Qt::Key_Tab));
+        .arg(shown(QKeyCombination(Qt::ControlModifier, Qt::Key_V)), shown(Qt::Key_Tab));
 }
 
 } // namespace corvane::welcome_step

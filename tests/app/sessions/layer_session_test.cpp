@@ -52,17 +52,33 @@ struct LayerSessionTest : testing::Test {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QList<InvisibleWindow *> found;
         for (QWindow *window : QGuiApplication::allWindows()) {
-            if (auto *const strip = dynamic_cast<InvisibleWindow *>(window))
+            auto *const strip = dynamic_cast<InvisibleWindow *>(window);
+            if (strip && strip->height() == EdgeStrips::height)
                 found << strip;
         }
         return found;
     }
+    /// What covers a whole screen.
+    static QPointer<InvisibleWindow> ground()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        for (QWindow *window : QGuiApplication::allWindows()) {
+            auto *const ground = dynamic_cast<InvisibleWindow *>(window);
+            if (ground && ground->size() == QGuiApplication::primaryScreen()->size())
+                return ground;
+        }
+        return nullptr;
+    }
+    static void dragOver(InvisibleWindow &window)
+    {
+        const QMimeData contents;
+        QDragEnterEvent enter({}, Qt::CopyAction, &contents, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&window, &enter);
+    }
     static void dragToTheEdge()
     {
         ASSERT_EQ(strips().size(), 1);
-        const QMimeData contents;
-        QDragEnterEvent enter({}, Qt::CopyAction, &contents, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(strips().first(), &enter);
+        dragOver(*strips().first());
     }
     static void pointAtTheEdge()
     {
@@ -112,6 +128,49 @@ TEST_F(LayerSessionTest, theShelfOpensOnTheScreenWhoseEdgeThePointerOrADragCameT
     EXPECT_EQ(session->quiet.screenLocator.activeScreen(), nullptr);
 }
 
+TEST_F(LayerSessionTest, theShelfOpensOnTheScreenThatADragIsOn)
+{
+    session->xwaylandDrags.onBegan();
+    ASSERT_TRUE(ground());
+    EXPECT_EQ(taken(), words(""));
+    dragOver(*ground());
+    clock.advance(0);
+    EXPECT_EQ(taken(), words("began"));
+    EXPECT_EQ(session->quiet.screenLocator.activeScreen(), beside);
+}
+
+TEST_F(LayerSessionTest, whatFoundTheDragStaysUntilItHasLeft)
+{
+    session->xwaylandDrags.onBegan();
+    ASSERT_TRUE(ground());
+    dragOver(*ground());
+    clock.advance(0);
+    ASSERT_TRUE(ground());
+    EXPECT_FALSE(ground()->mask().intersects(QRect({}, ground()->size())));
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(ground(), &leave);
+    EXPECT_FALSE(ground());
+}
+
+TEST_F(LayerSessionTest, aDragThatRestsIsNotWaitedForLong)
+{
+    session->xwaylandDrags.onBegan();
+    clock.advance(DragWhereabouts::patience * 0.9);
+    EXPECT_EQ(taken(), words(""));
+    clock.advance(DragWhereabouts::patience * 0.2);
+    EXPECT_EQ(taken(), words("began"));
+    EXPECT_EQ(session->quiet.screenLocator.activeScreen(), main);
+    EXPECT_FALSE(ground());
+}
+
+TEST_F(LayerSessionTest, onTheOnlyScreenNothingIsLookedFor)
+{
+    screens.detach(main);
+    session->xwaylandDrags.onBegan();
+    EXPECT_EQ(taken(), words("began"));
+    EXPECT_FALSE(ground());
+}
+
 TEST_F(LayerSessionTest, aPointerAtTheEdgeNamesTheScreenToo)
 {
     pointAtTheEdge();
@@ -144,6 +203,7 @@ TEST_F(LayerSessionTest, theEndIsSeenWhereItIsLetGoOverAPanel)
 TEST_F(LayerSessionTest, stripsAreForDragsOnlyWhereTheyAreNotToldOfOrMayGoOn)
 {
     session->xwaylandDrags.onBegan();
+    clock.advance(DragWhereabouts::patience);
     EXPECT_EQ(taken(), words("began"));
     EXPECT_EQ(strips().size(), 1);
     EXPECT_FALSE(session->quiet.mayDragGoOn());

@@ -12,9 +12,9 @@ namespace corvane::test {
 namespace {
 
 const auto common = QStringLiteral("org.freedesktop.appearance");
-const auto gnome = QStringLiteral("org.gnome.desktop.interface");
-const auto gnomeAccess = QStringLiteral("org.gnome.desktop.a11y.interface");
-const auto kde = QStringLiteral("org.kde.kdeglobals.General");
+const auto gnomeInterface = QStringLiteral("org.gnomeInterface.desktop.interface");
+const auto gnomeAccess = QStringLiteral("org.gnomeInterface.desktop.a11y.interface");
+const auto kdeGeneral = QStringLiteral("org.kdeGeneral.kdeglobals.General");
 const auto scaling = QStringLiteral("text-scaling-factor");
 
 /// A preference, and how often it told of a change.
@@ -45,12 +45,12 @@ TEST(AppearancePreference, isTheUsualOneWithoutAPortal)
 TEST(AppearancePreference, enlargesAsGnomesTextsAreAndFollowsThem)
 {
     SettingsPortal portal;
-    portal.values = {{gnome + u'/' + scaling, 1.5}};
+    portal.values = {{gnomeInterface + u'/' + scaling, 1.5}};
     const Watched watched;
     EXPECT_TRUE(eventually([&] { return watched.preference.textScale() == 1.5; }));
     settle();
     EXPECT_EQ(watched.changes, 1) << "answers that change nothing are not told";
-    portal.change(gnome, scaling, 1.25);
+    portal.change(gnomeInterface, scaling, 1.25);
     EXPECT_TRUE(eventually([&] { return watched.preference.textScale() == 1.25; }));
     EXPECT_EQ(watched.changes, 2);
 }
@@ -60,11 +60,11 @@ TEST(AppearancePreference, enlargesWithinBounds)
     SettingsPortal portal;
     const Watched watched;
     settle();
-    portal.change(gnome, scaling, 17.0);
+    portal.change(gnomeInterface, scaling, 17.0);
     EXPECT_TRUE(eventually([&] { return watched.preference.textScale() == 2; }));
-    portal.change(gnome, scaling, 0.5);
+    portal.change(gnomeInterface, scaling, 0.5);
     EXPECT_TRUE(eventually([&] { return watched.preference.textScale() == 1; }));
-    portal.change(gnome, scaling, QStringLiteral("large"));
+    portal.change(gnomeInterface, scaling, QStringLiteral("large"));
     settle();
     EXPECT_EQ(watched.preference.textScale(), 1);
 }
@@ -72,7 +72,8 @@ TEST(AppearancePreference, enlargesWithinBounds)
 TEST(AppearancePreference, leavesGnomesScaleToScreensThatHaveIt)
 {
     SettingsPortal portal;
-    portal.values = {{gnome + u'/' + scaling, 1.5}, {common + QStringLiteral("/contrast"), 1U}};
+    portal.values
+        = {{gnomeInterface + u'/' + scaling, 1.5}, {common + QStringLiteral("/contrast"), 1U}};
     const Watched watched(Watched::TextScale::InScreens);
     EXPECT_TRUE(eventually([&] { return watched.preference.wantsMoreContrast(); }));
     settle();
@@ -82,11 +83,12 @@ TEST(AppearancePreference, leavesGnomesScaleToScreensThatHaveIt)
 TEST(AppearancePreference, enlargesAsKdesFontIsLargerThanItsUsualOne)
 {
     SettingsPortal portal;
-    portal.values
-        = {{kde + QStringLiteral("/font"), QStringLiteral("Noto Sans,14,-1,5,50,0,0,0,0,0")}};
+    portal.values = {
+        {kdeGeneral + QStringLiteral("/font"), QStringLiteral("Noto Sans,14,-1,5,50,0,0,0,0,0")}};
     const Watched watched;
     EXPECT_TRUE(eventually([&] { return watched.preference.textScale() == 1.4; }));
-    portal.change(kde, QStringLiteral("font"), QStringLiteral("Noto Sans,8,-1,5,50,0,0,0,0,0"));
+    portal.change(kdeGeneral, QStringLiteral("font"),
+                  QStringLiteral("Noto Sans,8,-1,5,50,0,0,0,0,0"));
     EXPECT_TRUE(eventually([&] { return watched.preference.textScale() == 1; }));
 }
 
@@ -117,9 +119,9 @@ TEST(AppearancePreference, isForContrastWhereOneOfTheDesktopsSettingsIs)
     for (const Setting &setting :
          {Setting{common, QStringLiteral("contrast"), 1U, 0U},
           Setting{gnomeAccess, QStringLiteral("high-contrast"), true, false},
-          Setting{gnome, QStringLiteral("gtk-theme"), QStringLiteral("HighContrastInverse"),
-                  QStringLiteral("Adwaita")},
-          Setting{kde, QStringLiteral("ColorScheme"), QStringLiteral("BreezeHighContrast"),
+          Setting{gnomeInterface, QStringLiteral("gtk-theme"),
+                  QStringLiteral("HighContrastInverse"), QStringLiteral("Adwaita")},
+          Setting{kdeGeneral, QStringLiteral("ColorScheme"), QStringLiteral("BreezeHighContrast"),
                   QStringLiteral("BreezeDark")}}) {
         portal.change(setting.group, setting.name, setting.yes);
         EXPECT_TRUE(eventually([&] { return watched.preference.wantsMoreContrast(); }))

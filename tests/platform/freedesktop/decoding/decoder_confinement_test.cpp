@@ -93,7 +93,7 @@ TEST_P(DecoderConfinement, HasTheLimitsOfItsRoom)
     EXPECT_TRUE(greeting.hasLimits);
     const Room room = std::get<0>(GetParam());
     EXPECT_EQ(limit("Max data size"), decoder_protocol::memoryIn(room));
-    EXPECT_EQ(limit("Max address space"), 1024LL * 1024 * 1024);
+    EXPECT_EQ(limit("Max address space"), 128LL * 1024 * 1024 * 1024);
     EXPECT_EQ(limit("Max file size"), decoder_protocol::decodedBytesIn(room) * 5 / 4);
     EXPECT_EQ(limit("Max cpu time"), 120);
     EXPECT_EQ(limit("Max open files"), 64);
