@@ -171,15 +171,15 @@ TEST_F(AmongHostilePictures, ordinaryOnesHaveTheirThumbnailsBeforeTheseAreGivenU
     QStringList ordinary;
     for (int i = 0; i < 10; ++i)
         ordinary << makePicture(u"ordinary %1.png"_s.arg(i), "png");
-    const QStringList endless = makeEndlessDrawings(6);
+    // Each ends within a second, when it has taken the memory that it gets.
+    const QStringList endless = makeEndlessDrawings(30);
     const QStringList hostile = allHostile();
     ASSERT_GT(hostile.size(), 20);
     // What comes last is the newest, which is tried first.
     ASSERT_TRUE(dropFiles(ordinary + makeWhatIsNoFile() + hostile + endless));
     for (const QString &file : ordinary)
         EXPECT_TRUE(eventually([&] { return hasThumbnail(file); })) << file.toStdString();
-    // One at a time is waited for to the end of its time: had the ordinary ones waited for that,
-    // all would have been given up.
+    // Had the ordinary ones waited for these, all would have been given up.
     EXPECT_LT(givenUp(endless), endless.size());
     EXPECT_TRUE(eventually([&] { return givenUp(endless) > 0; })) << "it is not tried again";
     corvane().program().signal(SIGTERM);

@@ -12,9 +12,9 @@ namespace corvane::test {
 namespace {
 
 const auto common = QStringLiteral("org.freedesktop.appearance");
-const auto gnomeInterface = QStringLiteral("org.gnomeInterface.desktop.interface");
-const auto gnomeAccess = QStringLiteral("org.gnomeInterface.desktop.a11y.interface");
-const auto kdeGeneral = QStringLiteral("org.kdeGeneral.kdeglobals.General");
+const auto gnomeInterface = QStringLiteral("org.gnome.desktop.interface");
+const auto gnomeAccess = QStringLiteral("org.gnome.desktop.a11y.interface");
+const auto kdeGeneral = QStringLiteral("org.kde.kdeglobals.General");
 const auto scaling = QStringLiteral("text-scaling-factor");
 
 /// A preference, and how often it told of a change.
