@@ -120,17 +120,10 @@ INSTANTIATE_TEST_SUITE_P(DISABLED_Browsers, Toolkits,
                          testing::Combine(testing::Values(x11, sway, kwin, mutter),
                                           testing::ValuesIn(browsers)),
                          nameOfTrial);
-constexpr Partner gtkForX11{Toolkit::Gtk3, Native::No};
-constexpr Partner qtForX11{Toolkit::Qt6, Native::No};
-INSTANTIATE_TEST_SUITE_P(ThroughXWayland, Toolkits,
-                         testing::Combine(testing::Values(kwin), testing::Values(gtkForX11)),
-                         nameOfTrial);
 INSTANTIATE_TEST_SUITE_P(DISABLED_ThroughXWayland, Toolkits,
-                         testing::Combine(testing::Values(sway, mutter),
-                                          testing::Values(gtkForX11, qtForX11)),
-                         nameOfTrial);
-INSTANTIATE_TEST_SUITE_P(DISABLED_QtThroughXWayland, Toolkits,
-                         testing::Combine(testing::Values(kwin), testing::Values(qtForX11)),
+                         testing::Combine(testing::Values(sway, kwin, mutter),
+                                          testing::Values(Partner{Toolkit::Gtk3, Native::No},
+                                                          Partner{Toolkit::Qt6, Native::No})),
                          nameOfTrial);
 
 TEST_P(Toolkits, aSource)
