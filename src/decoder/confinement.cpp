@@ -11,13 +11,6 @@ namespace corvane::confinement {
 
 namespace {
 
-/// The memory of sanitizers is above any bound.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool isSanitized = true;
-#else
-constexpr bool isSanitized = false;
-#endif
-
 bool limit(__rlimit_resource resource, long long most)
 {
     const auto value = static_cast<rlim_t>(most);

@@ -14,6 +14,13 @@ inline constexpr long long threadStack = 512LL * 1024;
 inline constexpr int processorSeconds = 120;
 inline constexpr int openFiles = 64;
 
+/// The memory of sanitizers is above any bound, and they tell of a crash themselves.
+#if defined(__SANITIZE_ADDRESS__)
+inline constexpr bool isSanitized = true;
+#else
+inline constexpr bool isSanitized = false;
+#endif
+
 /// Of one file that is written, which is a picture's pixels, or what they are converted to.
 constexpr long long fileBytes(decoder_protocol::Room room)
 {

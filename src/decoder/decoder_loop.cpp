@@ -1,6 +1,7 @@
 #include "decoder/decoder_loop.h"
 
 #include "decoder/confinement.h"
+#include "decoder/last_words.h"
 #include "platform/pictures/decoder_protocol.h"
 #include "platform/system/system_call_filter.h"
 
@@ -81,6 +82,8 @@ bool DecoderLoop::greet() const
 int DecoderLoop::run()
 {
     endWithProgram(m_socket.number());
+    if constexpr (!confinement::isSanitized)
+        last_words::prepare(m_socket.number(), decoder_protocol::memoryIn(m_room));
     if (!greet())
         return EXIT_FAILURE;
     while (!isWorn() && waitFor(m_socket.number(), POLLIN, idleMilliseconds)) {
@@ -104,8 +107,10 @@ bool DecoderLoop::serveNext()
     if (descriptors.size() > 1)
         target = std::move(descriptors[1]);
     setAlarm(request->milliseconds + grace);
+    last_words::begin(request->number);
     const auto answer
         = m_handler.serve(*request, std::move(descriptors.front()), std::move(target));
+    last_words::end();
     setAlarm(0);
     std::vector<int> pixels;
     if (answer.pixels.isOpen())

@@ -171,8 +171,7 @@ TEST_F(AmongHostilePictures, ordinaryOnesHaveTheirThumbnailsBeforeTheseAreGivenU
     QStringList ordinary;
     for (int i = 0; i < 10; ++i)
         ordinary << makePicture(u"ordinary %1.png"_s.arg(i), "png");
-    // Each ends within a second, when it has taken the memory that it gets.
-    const QStringList endless = makeEndlessDrawings(30);
+    const QStringList endless = makeEndlessDrawings(6);
     const QStringList hostile = allHostile();
     ASSERT_GT(hostile.size(), 20);
     // What comes last is the newest, which is tried first.

@@ -169,7 +169,7 @@ std::optional<Reply> parsedReply(const QByteArray &packet)
     Reader reader(packet, Kind::Reply);
     Reply reply;
     reply.number = reader.take<std::uint32_t>();
-    reply.outcome = reader.takeOneOf(Outcome::NoSuchPart);
+    reply.outcome = reader.takeOneOf(Outcome::Crashed);
     if (reader.takeFlag())
         reply.pixels = takePixels(reader);
     reply.pictureSize = reader.takeSize(anySide);

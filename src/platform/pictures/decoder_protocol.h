@@ -16,13 +16,14 @@
 /// reading, and for `Transcode` a second one of the file to write. The decoder answers with one
 /// reply, which carries a descriptor of memory for `Made` pictures: sealed, and exactly as long as
 /// the reply says. A decoder that is about to end by itself sends a farewell instead; a request
-/// that crosses it has not been served.
+/// that crosses it has not been served. One that crashes says so in a reply, if it can, and ends:
+/// of one that ends in silence, the program knows only that somebody ended it.
 ///
 /// All numbers are little-endian. Each packet begins with its kind and the version; a parser
 /// accepts no other version, no value out of range, and no byte too many.
 namespace corvane::decoder_protocol {
 
-inline constexpr std::uint16_t version = 1;
+inline constexpr std::uint16_t version = 2;
 /// Of one packet, in bytes.
 inline constexpr qsizetype maximumPacket = 32'768;
 /// Sides of pictures, in pixels, and sizes of pages.
@@ -105,6 +106,8 @@ enum class Outcome : std::uint8_t {
     OverBounds,
     /// There is no such page, or no further frame.
     NoSuchPart,
+    /// It was too much for the decoder, which ends.
+    Crashed,
 };
 
 /// The pixels in memory that come with a reply.

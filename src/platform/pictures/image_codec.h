@@ -37,7 +37,7 @@ struct DecodingAttempt {
         Unreadable,
         /// It needed more time or memory than it may have, or ended the process that decoded it.
         OverBounds,
-        /// It needed more time than with Patience::Brief.
+        /// It needed more time or memory than with Patience::Brief.
         TooSlow,
         /// Cancelled, or nothing could be decoded just now. That says nothing about the contents.
         Interrupted,

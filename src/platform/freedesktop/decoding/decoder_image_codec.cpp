@@ -105,10 +105,11 @@ std::optional<QImage> DecoderImageCodec::thumbnailOf(const FileDescriptor &conte
     job.descriptors = {contents.number()};
     job.urgency = attempt.patience == Patience::Alone ? DecoderPool::Urgency::SlowThumbnail
                                                       : DecoderPool::Urgency::Thumbnail;
+    job.isBrief = isBrief;
     job.cancellation = attempt.cancellation;
     const auto result = m_pool.run(job);
     attempt.outcome = result.outcome;
-    if (isBrief && result.isOverTime)
+    if (isBrief && (result.isOverTime || result.lacksRoom))
         attempt.outcome = AttemptOutcome::TooSlow;
     auto picture = receivedPicture(result.reply, result.pixels);
     const bool fits = picture && std::max(picture->width(), picture->height()) <= side;

@@ -24,6 +24,7 @@ DecodingAttempt::Outcome outcomeOf(decoder_protocol::Outcome outcome)
         return DecodingAttempt::Outcome::OverBounds;
     case decoder_protocol::Outcome::Unreadable:
     case decoder_protocol::Outcome::NoSuchPart:
+    case decoder_protocol::Outcome::Crashed:
         break;
     }
     return DecodingAttempt::Outcome::Unreadable;
@@ -83,8 +84,12 @@ std::uint32_t DecoderPool::newDocument()
     return ++m_lastDocument == 0 ? ++m_lastDocument : m_lastDocument;
 }
 
-DecoderPool::Room DecoderPool::roomOf(std::uint32_t document)
+DecoderPool::Room DecoderPool::firstRoomOf(const Job &job)
 {
+    // It has had its brief attempt.
+    if (job.urgency == Urgency::SlowThumbnail)
+        return Room::Large;
+    const std::uint32_t document = job.request.document;
     const std::lock_guard lock(m_mutex);
     const bool isLarge = document != 0 && std::ranges::any_of(m_slots, [&](const Slot &slot) {
                              return slot.document == document && slot.room == Room::Large;
@@ -160,13 +165,13 @@ DecoderPool::Result DecoderPool::run(const Job &job)
     if (!m_program.isThere())
         return {};
     const Cancelled cancelled(*this, job.cancellation);
-    Room room = roomOf(job.request.document);
+    Room room = firstRoomOf(job);
     while (true) {
         auto result = runIn(room, job, cancelled);
         if (!result)
             continue;
-        const bool lacksRoom = result->reply.outcome == decoder_protocol::Outcome::OverBounds;
-        if (!lacksRoom || room == Room::Large)
+        result->lacksRoom = result->reply.outcome == decoder_protocol::Outcome::OverBounds;
+        if (!result->lacksRoom || room == Room::Large || job.isBrief)
             return std::move(*result);
         room = Room::Large;
     }
@@ -272,15 +277,16 @@ DecoderPool::Result DecoderPool::resultOf(DecoderProcess::Result said)
     using Ending = DecoderProcess::Ending;
     switch (said.ending) {
     case Ending::Replied:
-        return {outcomeOf(said.reply.outcome), false, std::move(said.reply),
+        return {outcomeOf(said.reply.outcome), false, false, std::move(said.reply),
                 std::move(said.pixels)};
     case Ending::Died: {
         const std::lock_guard lock(m_mutex);
         m_deaths.died(DeathRecord::Clock::now());
-        return {DecodingAttempt::Outcome::OverBounds, false, {}, {}};
+        return {DecodingAttempt::Outcome::OverBounds, false, false, {}, {}};
     }
     case Ending::OverTime:
-        return {DecodingAttempt::Outcome::OverBounds, true, {}, {}};
+        return {DecodingAttempt::Outcome::OverBounds, true, false, {}, {}};
+    case Ending::Vanished:
     case Ending::NotServed: {
         const std::lock_guard lock(m_mutex);
         m_deaths.died(DeathRecord::Clock::now());

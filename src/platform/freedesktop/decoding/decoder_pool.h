@@ -20,8 +20,9 @@ class Cancellation;
 /// The decoders that run: at most two, each started when it is needed and as long as it behaves.
 /// What is asked for waits its turn, the more urgent first. Any thread but the main one; waits.
 ///
-/// One of them at most has a large room. It is asked about what another one had not the memory for;
-/// and where a preview needs it, what takes long there begins again later.
+/// One of them at most has a large room. It is asked about what another one had not the memory for,
+/// and about thumbnails that a brief attempt was not enough for; and where a preview needs it, what
+/// takes long there begins again later.
 ///
 /// The program must outlive it. A decoder that nobody asks anything ends by itself, which wakes
 /// nobody here.
@@ -36,6 +37,8 @@ public:
         /// What the decoder is to be sent; open until the end of the job.
         std::vector<int> descriptors = {};
         Urgency urgency = Urgency::Thumbnail;
+        /// Nobody with a large room is asked: that takes longer, and others may wait for one.
+        bool isBrief = false;
         /// May be null.
         Cancellation *cancellation = nullptr;
     };
@@ -43,6 +46,8 @@ public:
         DecodingAttempt::Outcome outcome = DecodingAttempt::Outcome::Interrupted;
         /// The time was not enough.
         bool isOverTime = false;
+        /// The memory was not, of the last one that was asked.
+        bool lacksRoom = false;
         /// What the decoder said, if it did.
         decoder_protocol::Reply reply;
         FileDescriptor pixels;
@@ -71,7 +76,7 @@ private:
     };
     struct Cancelled;
 
-    Room roomOf(std::uint32_t document);
+    Room firstRoomOf(const Job &job);
     /// None if the job was displaced.
     std::optional<Result> runIn(Room room, const Job &job, const Cancelled &cancelled);
     Slot *takeSlot(const Job &job, Room room, const Cancelled &cancelled);

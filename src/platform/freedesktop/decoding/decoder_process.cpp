@@ -169,8 +169,11 @@ DecoderProcess::Result DecoderProcess::takeReply(const decoder_protocol::Request
     auto received = packet_socket::receive(m_socket, decoder_protocol::maximumPacket, &wasUnread);
     if (received ? decoder_protocol::isFarewell(received->packet) : wasUnread)
         return ended(Ending::NotServed);
-    auto reply = received ? decoder_protocol::parsedReply(received->packet) : std::nullopt;
-    if (!reply || reply->number != request.number)
+    if (!received)
+        return ended(Ending::Vanished);
+    auto reply = decoder_protocol::parsedReply(received->packet);
+    if (!reply || reply->number != request.number
+        || reply->outcome == decoder_protocol::Outcome::Crashed)
         return ended(Ending::Died);
     FileDescriptor pixels;
     if (!received->descriptors.empty())

@@ -45,8 +45,11 @@ public:
         Replied,
         /// It ended before it saw the request: by itself, as it does after a while, or otherwise.
         NotServed,
-        /// It ended, or said what it must not say, while it served the request.
+        /// It crashed, or said what it must not say, while it served the request.
         Died,
+        /// It was ended while it served the request, by the kernel for want of the machine's memory
+        /// for example.
+        Vanished,
         OverTime,
         Cancelled,
         Displaced,

@@ -74,13 +74,12 @@ TEST_P(MisbehavingDecoder, CostsItsOwnPictureAndNoOther)
 }
 
 INSTANTIATE_TEST_SUITE_P(AtEveryStep, MisbehavingDecoder,
-                         testing::Values("dies after reading", "other number", "garbled reply",
-                                         "cut reply", "no memory", "unsealed", "short",
-                                         "too wide"));
+                         testing::Values("crashes", "other number", "garbled reply", "cut reply",
+                                         "no memory", "unsealed", "short", "too wide"));
 
-struct DecoderThatDoesNotBegin : DecoderPoolTest, testing::WithParamInterface<const char *> { };
+struct DecoderThatIsEnded : DecoderPoolTest, testing::WithParamInterface<const char *> { };
 
-TEST_P(DecoderThatDoesNotBegin, SaysNothingAboutThePicture)
+TEST_P(DecoderThatIsEnded, SaysNothingAboutThePicture)
 {
     misbehave(GetParam());
     EXPECT_EQ(attempted().outcome, Outcome::Interrupted);
@@ -88,15 +87,24 @@ TEST_P(DecoderThatDoesNotBegin, SaysNothingAboutThePicture)
     EXPECT_EQ(attempted().outcome, Outcome::Made);
 }
 
-INSTANTIATE_TEST_SUITE_P(AtEveryStep, DecoderThatDoesNotBegin,
+INSTANTIATE_TEST_SUITE_P(AtEveryStep, DecoderThatIsEnded,
                          testing::Values("dies at once", "ends at once", "garbled greeting",
-                                         "dies before reading"));
+                                         "dies before reading", "dies after reading"));
 
 TEST_F(DecoderPoolTest, APictureThatNeedsMoreMemoryIsHandedToOneThatHasIt)
 {
     misbehave("needs room");
     EXPECT_EQ(attempted().outcome, Outcome::Made);
     EXPECT_EQ(attempted().outcome, Outcome::Made) << "also when that one waits already";
+}
+
+TEST_F(DecoderPoolTest, WhatABriefAttemptWasNotEnoughForIsAskedOfOneThatHasMoreMemoryAtOnce)
+{
+    misbehave("crashes without room");
+    DecodingAttempt attempt;
+    attempt.patience = DecodingAttempt::Patience::Alone;
+    EXPECT_TRUE(codec.thumbnail("any bytes", 8, attempt).has_value());
+    EXPECT_EQ(attempted().outcome, Outcome::OverBounds) << "others begin with the usual one";
 }
 
 TEST_F(DecoderPoolTest, APictureThatNeedsMoreMemoryThanThereIsFails)
@@ -149,6 +157,17 @@ TEST_F(DecoderPoolTest, ABriefAttemptAtASlowPictureIsNoFailure)
     attempt.patience = DecodingAttempt::Patience::Brief;
     EXPECT_FALSE(codec.thumbnail("any bytes", 8, attempt).has_value());
     EXPECT_EQ(attempt.outcome, Outcome::TooSlow);
+}
+
+TEST_F(DecoderPoolTest, ABriefAttemptAtAPictureThatNeedsMoreMemoryIsNoFailure)
+{
+    misbehave("needs room");
+    DecodingAttempt attempt;
+    attempt.patience = DecodingAttempt::Patience::Brief;
+    EXPECT_FALSE(codec.thumbnail("any bytes", 8, attempt).has_value());
+    EXPECT_EQ(attempt.outcome, Outcome::TooSlow);
+    attempt.patience = DecodingAttempt::Patience::Alone;
+    EXPECT_TRUE(codec.thumbnail("any bytes", 8, attempt).has_value());
 }
 
 TEST_F(DecoderPoolTest, ACancelledRequestEndsThoughItsDecoderHangs)

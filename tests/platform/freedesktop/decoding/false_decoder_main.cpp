@@ -65,11 +65,12 @@ void answer(const FileDescriptor &socket, const QByteArray &step, std::uint32_t 
         packet_socket::send(socket, packet, {memory.number()});
 }
 
-void refuse(const FileDescriptor &socket, std::uint32_t number)
+void refuse(const FileDescriptor &socket, std::uint32_t number,
+            decoder_protocol::Outcome outcome = decoder_protocol::Outcome::OverBounds)
 {
     Reply reply;
     reply.number = number;
-    reply.outcome = decoder_protocol::Outcome::OverBounds;
+    reply.outcome = outcome;
     packet_socket::send(socket, decoder_protocol::encoded(reply));
 }
 
@@ -104,6 +105,10 @@ int run(const QByteArray &step, bool isLarge)
             return EXIT_FAILURE;
         if (step == "dies after reading")
             die();
+        if (step == "crashes" || (step == "crashes without room" && !isLarge)) {
+            refuse(socket, request->number, decoder_protocol::Outcome::Crashed);
+            return EXIT_FAILURE;
+        }
         if (step == "refuses" || (step.startsWith("needs room") && !isLarge)) {
             refuse(socket, request->number);
             continue;
