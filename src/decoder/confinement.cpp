@@ -11,11 +11,15 @@ namespace corvane::confinement {
 
 namespace {
 
+bool limit(__rlimit_resource resource, long long most, long long last)
+{
+    const rlimit both = {static_cast<rlim_t>(most), static_cast<rlim_t>(last)};
+    return ::setrlimit(resource, &both) == 0;
+}
+
 bool limit(__rlimit_resource resource, long long most)
 {
-    const auto value = static_cast<rlim_t>(most);
-    const rlimit both = {value, value};
-    return ::setrlimit(resource, &both) == 0;
+    return limit(resource, most, most);
 }
 
 /// So that a stack costs no more than it has to: all of it counts as memory.
@@ -44,7 +48,8 @@ bool limitResources(decoder_protocol::Room room)
     const bool hasBoundedMemory = isSanitized
         || (limitThreadStacks() && limit(RLIMIT_AS, addressSpace)
             && limit(RLIMIT_DATA, decoder_protocol::memoryIn(room)));
-    const bool isBounded = hasBoundedMemory && limit(RLIMIT_CPU, processorSeconds)
+    const bool isBounded = hasBoundedMemory
+        && limit(RLIMIT_CPU, processorSeconds, lastProcessorSeconds)
         && limit(RLIMIT_NOFILE, openFiles) && limit(RLIMIT_CORE, 0)
         && limit(RLIMIT_FSIZE, fileBytes(room));
     return isClosed && isBounded;

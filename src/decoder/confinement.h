@@ -12,6 +12,8 @@ inline constexpr long long addressSpace = 128LL * 1024 * 1024 * 1024;
 inline constexpr long long threadStack = 512LL * 1024;
 /// Of all requests together.
 inline constexpr int processorSeconds = 120;
+/// After these, the kernel ends the process without a word.
+inline constexpr int lastProcessorSeconds = processorSeconds + 2;
 inline constexpr int openFiles = 64;
 
 /// The memory of sanitizers is above any bound, and they tell of a crash themselves.

@@ -81,7 +81,7 @@ void prepare(int socket, std::int64_t memory)
     struct sigaction action = {};
     action.sa_handler = sayAndEnd;
     action.sa_flags = SA_ONSTACK | static_cast<int>(SA_RESETHAND);
-    for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGILL, SIGFPE, SIGTRAP})
+    for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGILL, SIGFPE, SIGTRAP, SIGXCPU, SIGALRM})
         ::sigaction(signal, &action, nullptr);
 }
 

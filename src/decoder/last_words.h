@@ -5,9 +5,10 @@
 #include <cstddef>
 #include <cstdint>
 
-/// What this process says when it crashes: otherwise the program could not tell a picture that is
-/// too much for its reader from a process that the kernel ended for want of memory. Most readers
-/// crash where they get no memory, and then it was the memory that was not enough.
+/// What this process says when it crashes, or has taken all its time: otherwise the program could
+/// not tell a picture that is too much for its reader from a process that the kernel ended for want
+/// of memory. Most readers crash where they get no memory, and then it was the memory that was not
+/// enough.
 namespace corvane::last_words {
 
 /// From now on a crash is told to the other end of the socket, which stays open. `memory` is what

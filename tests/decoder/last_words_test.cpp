@@ -42,7 +42,7 @@ int deepest(int depth) // NOLINT(misc-no-recursion)
 
 TEST_F(LastWords, TellThatTheReaderCrashedAndOverWhat)
 {
-    for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGILL, SIGFPE, SIGTRAP}) {
+    for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGILL, SIGFPE, SIGTRAP, SIGXCPU, SIGALRM}) {
         EXPECT_EXIT(
             {
                 last_words::prepare(theirs.number(), memory);
