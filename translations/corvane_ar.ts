@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Copy and take off the shelf</source>
-        <translation>انسخ وخذ من الرفّ</translation>
+        <translation>انسخ وأزل من الرفّ</translation>
     </message>
     <message>
         <source>Items on the shelf</source>
@@ -160,27 +160,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 ك.ب</translation>
+        <translation>%1&#xa0;ك.ب</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 م.ب</translation>
+        <translation>%1&#xa0;م.ب</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 ج.ب</translation>
+        <translation>%1&#xa0;ج.ب</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 ت.ب</translation>
+        <translation>%1&#xa0;ت.ب</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 ب.ب</translation>
+        <translation>%1&#xa0;ب.ب</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 إ.ب</translation>
+        <translation>%1&#xa0;إ.ب</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -285,7 +285,7 @@ that runs.</source>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>تعذّرت قراءة الدخل القياسي، أو هو أكبر من 256 ميبيبايت</translation>
+        <translation>تعذّرت قراءة الدخل القياسي، أو هو أكبر من 256&#xa0;ميبيبايت</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -790,7 +790,7 @@ that runs.</source>
     </message>
     <message>
         <source>The downloaded file was not signed by the makers of Corvane. It was thrown away.</source>
-        <translation>الملف المنزَّل غير موقَّع من صانعي Corvane. لذلك أُهمل.</translation>
+        <translation>الملف المنزَّل غير موقَّع من مطوّري Corvane. لذلك أُهمل.</translation>
     </message>
     <message>
         <source>There is not enough room on the disk.</source>
@@ -894,7 +894,7 @@ that runs.</source>
     </message>
     <message>
         <source>It was signed by the makers of Corvane and is in your downloads folder as %1.</source>
-        <translation>وقّعه صانعو Corvane، وهو في مجلد التنزيلات باسم %1.</translation>
+        <translation>وقّعه مطوّرو Corvane، وهو في مجلد التنزيلات باسم %1.</translation>
     </message>
     <message>
         <source>Show</source>
@@ -1118,7 +1118,7 @@ that runs.</source>
     <name>corvane::PreferencesWindow</name>
     <message>
         <source>Pane of the preferences</source>
-        <translation>قسم من التفضيلات</translation>
+        <translation>قسم التفضيلات</translation>
     </message>
 </context>
 <context>

@@ -152,27 +152,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 kB</translation>
+        <translation>%1&#xa0;kB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1&#xa0;TB</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 PB</translation>
+        <translation>%1&#xa0;PB</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 EB</translation>
+        <translation>%1&#xa0;EB</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -190,11 +190,11 @@
     <name>CommandLine</name>
     <message>
         <source>Show or hide the shelf</source>
-        <translation>Ablage zeigen oder verbergen</translation>
+        <translation>Ablage anzeigen oder verbergen</translation>
     </message>
     <message>
         <source>Show all items in the bar</source>
-        <translation>Alle Elemente in der Leiste zeigen</translation>
+        <translation>Alle Elemente in der Leiste anzeigen</translation>
     </message>
     <message>
         <source>Print the paths and links on the shelf, one a line</source>
@@ -234,7 +234,7 @@ Without arguments it starts Corvane, or shows or hides the shelf of the one
 that runs.</source>
         <translation>Legt Dateien und Links in die Ablage, und mit - einen Text von der Standardeingabe.
 Ohne Argumente wird Corvane gestartet, oder die Ablage des laufenden Programms
-gezeigt oder verborgen.</translation>
+angezeigt oder verborgen.</translation>
     </message>
 </context>
 <context>
@@ -273,7 +273,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>die Standardeingabe kann nicht gelesen werden oder ist größer als 256 MiB</translation>
+        <translation>die Standardeingabe kann nicht gelesen werden oder ist größer als 256&#xa0;MiB</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -320,7 +320,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Converting to PNG…</source>
-        <translation>Wird in PNG umgewandelt …</translation>
+        <translation>Wird in PNG umgewandelt&#xa0;…</translation>
     </message>
     <message>
         <source>Image</source>
@@ -339,7 +339,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Counting characters…</source>
-        <translation>Zeichen werden gezählt …</translation>
+        <translation>Zeichen werden gezählt&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -451,7 +451,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>only the beginning is shown</source>
-        <translation>nur der Anfang wird gezeigt</translation>
+        <translation>nur der Anfang wird angezeigt</translation>
     </message>
     <message>
         <source>Open</source>
@@ -463,7 +463,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Loading…</source>
-        <translation>Wird geladen …</translation>
+        <translation>Wird geladen&#xa0;…</translation>
     </message>
     <message>
         <source>Text</source>
@@ -557,7 +557,7 @@ gezeigt oder verborgen.</translation>
     <name>SessionChoice</name>
     <message>
         <source>this Wayland session takes Qt&apos;s plug-in for Wayland, which is not installed (the package qt6-wayland)</source>
-        <translation>diese Wayland-Sitzung braucht Qts Erweiterung für Wayland, die nicht installiert ist (das Paket qt6-wayland)</translation>
+        <translation>diese Wayland-Sitzung braucht das Wayland-Plugin von Qt, das nicht installiert ist (das Paket qt6-wayland)</translation>
     </message>
     <message>
         <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
@@ -665,13 +665,13 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Corvane — 1 item</source>
-        <translation>Corvane — 1 Element</translation>
+        <translation>Corvane – 1 Element</translation>
     </message>
     <message numerus="yes">
         <source>Corvane — %n items</source>
         <translation>
-            <numerusform>Corvane — %Ln Element</numerusform>
-            <numerusform>Corvane — %Ln Elemente</numerusform>
+            <numerusform>Corvane – %Ln Element</numerusform>
+            <numerusform>Corvane – %Ln Elemente</numerusform>
         </translation>
     </message>
     <message>
@@ -680,19 +680,19 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>View All Items…</source>
-        <translation>Alle Elemente anzeigen…</translation>
+        <translation>Alle Elemente anzeigen&#xa0;…</translation>
     </message>
     <message>
         <source>Preferences…</source>
-        <translation>Einstellungen…</translation>
+        <translation>Einstellungen&#xa0;…</translation>
     </message>
     <message>
         <source>How It Works…</source>
-        <translation>So funktioniert es…</translation>
+        <translation>So funktioniert es&#xa0;…</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
-        <translation>Nach Aktualisierungen suchen…</translation>
+        <translation>Nach Aktualisierungen suchen&#xa0;…</translation>
     </message>
     <message>
         <source>Quit Corvane</source>
@@ -750,7 +750,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>The downloaded file was not signed by the makers of Corvane. It was thrown away.</source>
-        <translation>Die heruntergeladene Datei ist nicht von den Herstellern von Corvane signiert. Sie wurde verworfen.</translation>
+        <translation>Die heruntergeladene Datei ist nicht von den Entwicklern von Corvane signiert. Sie wurde verworfen.</translation>
     </message>
     <message>
         <source>There is not enough room on the disk.</source>
@@ -798,7 +798,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Looking for updates…</source>
-        <translation>Nach Aktualisierungen wird gesucht …</translation>
+        <translation>Nach Aktualisierungen wird gesucht&#xa0;…</translation>
     </message>
     <message>
         <source>Corvane is up to date</source>
@@ -830,7 +830,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Downloading Corvane %1…</source>
-        <translation>Corvane %1 wird heruntergeladen …</translation>
+        <translation>Corvane %1 wird heruntergeladen&#xa0;…</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -838,7 +838,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Checking and installing…</source>
-        <translation>Wird geprüft und installiert …</translation>
+        <translation>Wird geprüft und installiert&#xa0;…</translation>
     </message>
     <message>
         <source>Corvane %1 is installed</source>
@@ -846,7 +846,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>It is used from the next time that Corvane is started. The one before is kept beside it until then.</source>
-        <translation>Es wird verwendet, wenn Corvane das nächste Mal gestartet wird. Die vorherige Version bleibt bis dahin daneben erhalten.</translation>
+        <translation>Ab dem nächsten Start von Corvane wird es verwendet. Die vorherige Version bleibt bis dahin daneben erhalten.</translation>
     </message>
     <message>
         <source>Corvane %1 is downloaded</source>
@@ -854,7 +854,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>It was signed by the makers of Corvane and is in your downloads folder as %1.</source>
-        <translation>Die Datei wurde von den Herstellern von Corvane signiert und liegt als %1 in Ihrem Download-Ordner.</translation>
+        <translation>Die Datei wurde von den Entwicklern von Corvane signiert und liegt als %1 in Ihrem Download-Ordner.</translation>
     </message>
     <message>
         <source>Show</source>
@@ -862,23 +862,23 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Updates Go Back in Time…</source>
-        <translation>Aktualisierungen gehen in der Zeit zurück…</translation>
+        <translation>Aktualisierungen gehen in der Zeit zurück&#xa0;…</translation>
     </message>
     <message>
         <source>Updates Cannot Be Verified…</source>
-        <translation>Aktualisierungen sind nicht überprüfbar…</translation>
+        <translation>Aktualisierungen sind nicht überprüfbar&#xa0;…</translation>
     </message>
     <message>
         <source>Updates Have Not Been Renewed…</source>
-        <translation>Aktualisierungen wurden nicht erneuert…</translation>
+        <translation>Aktualisierungen wurden nicht erneuert&#xa0;…</translation>
     </message>
     <message>
         <source>Record of Updates Was Damaged…</source>
-        <translation>Aufzeichnung der Aktualisierungen beschädigt…</translation>
+        <translation>Aufzeichnung der Aktualisierungen beschädigt&#xa0;…</translation>
     </message>
     <message>
         <source>Updates Cannot Use Your Proxy…</source>
-        <translation>Aktualisierungen können Ihren Proxy nicht nutzen…</translation>
+        <translation>Aktualisierungen können Ihren Proxy nicht nutzen&#xa0;…</translation>
     </message>
 </context>
 <context>
@@ -943,7 +943,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Email support</source>
-        <translation>E-Mail an die Hilfe</translation>
+        <translation>E-Mail an den Support</translation>
     </message>
     <message>
         <source>Opens a new message in the mail program</source>
@@ -973,13 +973,13 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>One at a time. Use the arrows to page through the rest.</source>
-        <translation>Immer eins. Mit den Pfeilen blättern Sie durch die übrigen.</translation>
+        <translation>Immer nur eins. Mit den Pfeilen blättern Sie durch die übrigen.</translation>
     </message>
     <message numerus="yes">
         <source>%n thumbnails at once, with arrows for the rest.</source>
         <translation>
-            <numerusform>%Ln Vorschaubild auf einmal, mit Pfeilen für die übrigen.</numerusform>
-            <numerusform>%Ln Vorschaubilder auf einmal, mit Pfeilen für die übrigen.</numerusform>
+            <numerusform>%Ln Vorschaubild gleichzeitig, mit Pfeilen für die übrigen.</numerusform>
+            <numerusform>%Ln Vorschaubilder gleichzeitig, mit Pfeilen für die übrigen.</numerusform>
         </translation>
     </message>
     <message>
@@ -1004,7 +1004,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
-        <translation>Vorschau für abgelegte Links zeigen</translation>
+        <translation>Vorschau für abgelegte Links anzeigen</translation>
     </message>
     <message>
         <source>Asks the linked site for its title and image. It is the only time Corvane uses the network on your behalf, and the site learns you have the link.</source>
@@ -1016,7 +1016,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Show or hide the shelf</source>
-        <translation>Ablage zeigen oder verbergen</translation>
+        <translation>Ablage anzeigen oder verbergen</translation>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
@@ -1024,7 +1024,7 @@ gezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>
-        <translation>Alle Elemente zeigen oder verbergen</translation>
+        <translation>Alle Elemente anzeigen oder verbergen</translation>
     </message>
     <message>
         <source>Unset by default. ↓ on the shelf does the same thing.</source>
@@ -1081,7 +1081,7 @@ gezeigt oder verborgen.</translation>
     <name>corvane::ShortcutRecorderView</name>
     <message>
         <source>Type a shortcut…</source>
-        <translation>Kürzel drücken…</translation>
+        <translation>Kürzel drücken&#xa0;…</translation>
     </message>
     <message>
         <source>Record Shortcut</source>

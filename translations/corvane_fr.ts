@@ -152,27 +152,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 Ko</translation>
+        <translation>%1&#xa0;Ko</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 Mo</translation>
+        <translation>%1&#xa0;Mo</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 Go</translation>
+        <translation>%1&#xa0;Go</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 To</translation>
+        <translation>%1&#xa0;To</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 Po</translation>
+        <translation>%1&#xa0;Po</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 Eo</translation>
+        <translation>%1&#xa0;Eo</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -265,7 +265,7 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>this is no address: %1</source>
-        <translation>ce n’est pas une adresse : %1</translation>
+        <translation>ce n’est pas une adresse&#xa0;: %1</translation>
     </message>
     <message>
         <source>there is no file %1</source>
@@ -273,7 +273,7 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>l’entrée standard est illisible ou dépasse 256 Mio</translation>
+        <translation>l’entrée standard est illisible ou dépasse 256&#xa0;Mio</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -289,7 +289,7 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>standard output cannot be written to: %1</source>
-        <translation>impossible d’écrire sur la sortie standard : %1</translation>
+        <translation>impossible d’écrire sur la sortie standard&#xa0;: %1</translation>
     </message>
     <message>
         <source>Corvane is running, but does not answer</source>
@@ -297,19 +297,19 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>the Corvane that runs says: %1</source>
-        <translation>le Corvane en cours d’exécution signale : %1</translation>
+        <translation>le Corvane en cours d’exécution signale&#xa0;: %1</translation>
     </message>
     <message>
         <source>the Corvane that runs does not do this; it may be an older version</source>
-        <translation>le Corvane en cours d’exécution ne sait pas faire cela ; c’est peut-être une version plus ancienne</translation>
+        <translation>le Corvane en cours d’exécution ne sait pas faire cela&#xa0;; c’est peut-être une version plus ancienne</translation>
     </message>
     <message>
         <source>the display cannot be used: %1</source>
-        <translation>l’affichage ne peut pas être utilisé : %1</translation>
+        <translation>l’affichage ne peut pas être utilisé&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1; see corvane --help</source>
-        <translation>%1 ; voir corvane --help</translation>
+        <translation>%1&#xa0;; voir corvane --help</translation>
     </message>
 </context>
 <context>
@@ -916,7 +916,7 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
-        <translation>Au clavier : appuyez sur le raccourci de l’étagère, puis sur %1 pour y coller et sur %2 pour la parcourir.</translation>
+        <translation>Au clavier&#xa0;: appuyez sur le raccourci de l’étagère, puis sur %1 pour y coller et sur %2 pour la parcourir.</translation>
     </message>
 </context>
 <context>

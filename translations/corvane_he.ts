@@ -25,11 +25,11 @@
     </message>
     <message>
         <source>Earlier items</source>
-        <translation>פריטים קודמים</translation>
+        <translation>הפריטים הקודמים</translation>
     </message>
     <message>
         <source>Later items</source>
-        <translation>פריטים הבאים</translation>
+        <translation>הפריטים הבאים</translation>
     </message>
     <message>
         <source>Copy the selected items</source>
@@ -95,7 +95,7 @@
     </message>
     <message>
         <source>Copy and take off the shelf</source>
-        <translation>העתקה והורדה מהמדף</translation>
+        <translation>העתקה והסרה מהמדף</translation>
     </message>
     <message>
         <source>Items on the shelf</source>
@@ -103,11 +103,11 @@
     </message>
     <message>
         <source>Earlier items</source>
-        <translation>פריטים קודמים</translation>
+        <translation>הפריטים הקודמים</translation>
     </message>
     <message>
         <source>Later items</source>
-        <translation>פריטים הבאים</translation>
+        <translation>הפריטים הבאים</translation>
     </message>
     <message>
         <source>All items</source>
@@ -152,27 +152,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 ק״ב</translation>
+        <translation>%1&#xa0;ק״ב</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 מ״ב</translation>
+        <translation>%1&#xa0;מ״ב</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 ג״ב</translation>
+        <translation>%1&#xa0;ג״ב</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 ט״ב</translation>
+        <translation>%1&#xa0;ט״ב</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 פ״ב</translation>
+        <translation>%1&#xa0;פ״ב</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 א״ב</translation>
+        <translation>%1&#xa0;א״ב</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -245,11 +245,11 @@ that runs.</source>
     </message>
     <message>
         <source>no option of Corvane takes a value</source>
-        <translation>אף אפשרות של Corvane לא מקבלת ערך</translation>
+        <translation>אף אפשרות של Corvane אינה מקבלת ערך</translation>
     </message>
     <message>
         <source>%1 and %2 cannot go together</source>
-        <translation>%1 ו־%2 לא יכולות לבוא יחד</translation>
+        <translation>%1 ו־%2 אינן יכולות לבוא יחד</translation>
     </message>
     <message>
         <source>--null goes with --list and --take</source>
@@ -257,15 +257,15 @@ that runs.</source>
     </message>
     <message>
         <source>files and links go with no option</source>
-        <translation>קבצים וקישורים לא באים עם אף אפשרות</translation>
+        <translation>קבצים וקישורים אינם באים עם אף אפשרות</translation>
     </message>
     <message>
         <source>standard input can be put on the shelf once</source>
-        <translation>אפשר להניח את הקלט הסטנדרטי על המדף פעם אחת בלבד</translation>
+        <translation>אפשר להניח את הקלט התקני על המדף פעם אחת בלבד</translation>
     </message>
     <message>
         <source>this is no address: %1</source>
-        <translation>זאת לא כתובת: %1</translation>
+        <translation>זו אינה כתובת: %1</translation>
     </message>
     <message>
         <source>there is no file %1</source>
@@ -273,27 +273,27 @@ that runs.</source>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>אי אפשר לקרוא את הקלט הסטנדרטי, או שהוא גדול מ־256 MiB</translation>
+        <translation>אי אפשר לקרוא את הקלט התקני, או שהוא גדול מ־256&#xa0;MiB</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
-        <translation>הקלט הסטנדרטי אינו טקסט ב־UTF-8</translation>
+        <translation>הקלט התקני אינו טקסט ב־UTF-8</translation>
     </message>
     <message>
         <source>there is no text on standard input</source>
-        <translation>אין טקסט בקלט הסטנדרטי</translation>
+        <translation>אין טקסט בקלט התקני</translation>
     </message>
     <message>
         <source>the shelf does not take %1 of what was given</source>
-        <translation>המדף לא מקבל %1 ממה שניתן</translation>
+        <translation>המדף אינו מקבל %1 ממה שניתן</translation>
     </message>
     <message>
         <source>standard output cannot be written to: %1</source>
-        <translation>אי אפשר לכתוב לפלט הסטנדרטי: %1</translation>
+        <translation>אי אפשר לכתוב לפלט התקני: %1</translation>
     </message>
     <message>
         <source>Corvane is running, but does not answer</source>
-        <translation>Corvane פועל, אבל לא עונה</translation>
+        <translation>Corvane פועל, אבל אינו מגיב</translation>
     </message>
     <message>
         <source>the Corvane that runs says: %1</source>
@@ -301,7 +301,7 @@ that runs.</source>
     </message>
     <message>
         <source>the Corvane that runs does not do this; it may be an older version</source>
-        <translation>ה־Corvane הפועל לא עושה את זה; אולי זאת גרסה ישנה יותר</translation>
+        <translation>ה־Corvane הפועל אינו עושה את זה; אולי זו גרסה ישנה יותר</translation>
     </message>
     <message>
         <source>the display cannot be used: %1</source>
@@ -385,7 +385,7 @@ that runs.</source>
     </message>
     <message>
         <source>The file is no longer there</source>
-        <translation>הקובץ כבר לא שם</translation>
+        <translation>הקובץ כבר אינו קיים</translation>
     </message>
 </context>
 <context>
@@ -424,11 +424,11 @@ that runs.</source>
     <name>PreviewWindow</name>
     <message>
         <source>This item is no longer there.</source>
-        <translation>הפריט הזה כבר לא שם.</translation>
+        <translation>הפריט הזה כבר אינו קיים.</translation>
     </message>
     <message>
         <source>Modified %1</source>
-        <translation>נערך: %1</translation>
+        <translation>מועד השינוי: %1</translation>
     </message>
     <message>
         <source>Pages</source>
@@ -588,7 +588,7 @@ that runs.</source>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>גרירות מורגשות רק בראש המסך</translation>
+        <translation>גרירה מזוהה רק בראש המסך</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -628,7 +628,7 @@ that runs.</source>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>מקש Shift אינו מורגש אחרי שהגרירה התחילה</translation>
+        <translation>מקש Shift אינו מזוהה אחרי שהגרירה התחילה</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
@@ -746,11 +746,11 @@ that runs.</source>
     </message>
     <message>
         <source>The downloaded file has another length than was announced. It was thrown away.</source>
-        <translation>אורך הקובץ שירד שונה ממה שהוכרז. הקובץ הושלך.</translation>
+        <translation>אורך הקובץ שהורד שונה ממה שהוכרז. הקובץ הושלך.</translation>
     </message>
     <message>
         <source>The downloaded file was not signed by the makers of Corvane. It was thrown away.</source>
-        <translation>הקובץ שירד אינו חתום בידי יוצרי Corvane. הקובץ הושלך.</translation>
+        <translation>הקובץ שהורד אינו חתום בידי יוצרי Corvane. הקובץ הושלך.</translation>
     </message>
     <message>
         <source>There is not enough room on the disk.</source>
@@ -850,7 +850,7 @@ that runs.</source>
     </message>
     <message>
         <source>Corvane %1 is downloaded</source>
-        <translation>‏Corvane %1 ירד</translation>
+        <translation>ההורדה של Corvane %1 הסתיימה</translation>
     </message>
     <message>
         <source>It was signed by the makers of Corvane and is in your downloads folder as %1.</source>
@@ -916,7 +916,7 @@ that runs.</source>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
-        <translation>במקלדת: לחצו על קיצור המקשים של המדף, ואז %1 כדי להדביק עליו ו־%2 כדי לעבור בו.</translation>
+        <translation>במקלדת: קיצור המקשים של המדף, ואז %1 להדבקה עליו ו־%2 למעבר בו.</translation>
     </message>
 </context>
 <context>
@@ -931,7 +931,7 @@ that runs.</source>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
-        <translation>פועל במחשב שלך. דבר ממה ששוחרר כאן אינו מועלה אלינו, נרשם או נשלח לשום מקום. Corvane משתמש ברשת רק לתצוגה מקדימה של קישורים, המבקשת מהאתר את הדף שלו, ולחיפוש עדכונים במקום שהוא קיים. אפשר לכבות את שניהם ב„כללי”.</translation>
+        <translation>פועל במחשב שלך. דבר ממה ששוחרר כאן אינו מועלה אלינו, נרשם או נשלח לשום מקום. Corvane משתמש ברשת רק לתצוגה מקדימה של קישורים, המבקשת מהאתר את הדף שלו, ולחיפוש עדכונים במקום שהוא קיים. אפשר לכבות את שניהם ב״כללי״.</translation>
     </message>
     <message>
         <source>Website</source>
@@ -1032,7 +1032,7 @@ that runs.</source>
     </message>
     <message>
         <source>Check Now</source>
-        <translation>לבדוק עכשיו</translation>
+        <translation>בדיקה עכשיו</translation>
     </message>
     <message>
         <source>Looks for a new version at once</source>

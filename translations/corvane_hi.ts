@@ -152,27 +152,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1&#xa0;TB</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 PB</translation>
+        <translation>%1&#xa0;PB</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 EB</translation>
+        <translation>%1&#xa0;EB</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -233,7 +233,7 @@
 Without arguments it starts Corvane, or shows or hides the shelf of the one
 that runs.</source>
         <translation>फ़ाइलें और लिंक शेल्फ़ पर रखता है, और - के साथ मानक इनपुट का पाठ।
-बिना तर्कों के Corvane शुरू करता है, या चल रहे का शेल्फ़ दिखाता
+बिना तर्कों के Corvane शुरू करता है, या चल रहे Corvane का शेल्फ़ दिखाता
 या छिपाता है।</translation>
     </message>
 </context>
@@ -273,7 +273,7 @@ that runs.</source>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>मानक इनपुट पढ़ा नहीं जा सकता, या 256 MiB से बड़ा है</translation>
+        <translation>मानक इनपुट पढ़ा नहीं जा सकता, या 256&#xa0;MiB से बड़ा है</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -373,7 +373,7 @@ that runs.</source>
     </message>
     <message>
         <source>Kept on the shelf</source>
-        <translation>शेल्फ़ पर रखा गया</translation>
+        <translation>शेल्फ़ पर बना रहा</translation>
     </message>
     <message>
         <source>It was not taken</source>
@@ -722,7 +722,7 @@ that runs.</source>
     </message>
     <message>
         <source>A newer version was announced before than is now. Somebody may be keeping news from you, so nothing was taken.</source>
-        <translation>पहले अभी से नया संस्करण घोषित हुआ था। हो सकता है कोई आपसे समाचार छिपा रहा हो, इसलिए कुछ नहीं लिया गया।</translation>
+        <translation>पहले इससे नया संस्करण घोषित हुआ था। हो सकता है कोई आपसे समाचार छिपा रहा हो, इसलिए कुछ नहीं लिया गया।</translation>
     </message>
     <message>
         <source>What is announced is a release that this build cannot verify, or none at all. Nothing was taken.</source>
@@ -730,7 +730,7 @@ that runs.</source>
     </message>
     <message>
         <source>What is announced has not been renewed since %1. Somebody may be keeping news from you, or your clock is wrong.</source>
-        <translation>जो घोषित है वह %1 से नवीनीकृत नहीं हुआ। हो सकता है कोई आपसे समाचार छिपा रहा हो, या आपकी घड़ी ग़लत हो।</translation>
+        <translation>जो घोषित है उसका %1 के बाद से नवीनीकरण नहीं हुआ। हो सकता है कोई आपसे समाचार छिपा रहा हो, या आपकी घड़ी ग़लत हो।</translation>
     </message>
     <message>
         <source>What Corvane remembered of earlier updates was damaged. It was set aside and begins anew with the next check.</source>
@@ -838,7 +838,7 @@ that runs.</source>
     </message>
     <message>
         <source>Checking and installing…</source>
-        <translation>जाँच और इंस्टॉल हो रहा है…</translation>
+        <translation>जाँचा और इंस्टॉल किया जा रहा है…</translation>
     </message>
     <message>
         <source>Corvane %1 is installed</source>
@@ -943,7 +943,7 @@ that runs.</source>
     </message>
     <message>
         <source>Email support</source>
-        <translation>सहायता को ईमेल</translation>
+        <translation>सहायता के लिए ईमेल</translation>
     </message>
     <message>
         <source>Opens a new message in the mail program</source>
@@ -1028,7 +1028,7 @@ that runs.</source>
     </message>
     <message>
         <source>Unset by default. ↓ on the shelf does the same thing.</source>
-        <translation>आरंभ में निर्धारित नहीं। शेल्फ़ पर नीचे कुंजी यही करती है।</translation>
+        <translation>आरंभ में निर्धारित नहीं। शेल्फ़ पर “नीचे” कुंजी यही करती है।</translation>
     </message>
     <message>
         <source>Check Now</source>
@@ -1056,7 +1056,7 @@ that runs.</source>
     </message>
     <message>
         <source>Offer beta versions too</source>
-        <translation>बीटा संस्करण भी दें</translation>
+        <translation>बीटा संस्करण भी सुझाएँ</translation>
     </message>
     <message>
         <source>They come earlier, and fewer people have tried them.</source>

@@ -150,27 +150,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1&#xa0;TB</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 PB</translation>
+        <translation>%1&#xa0;PB</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 EB</translation>
+        <translation>%1&#xa0;EB</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -231,7 +231,7 @@ Without arguments it starts Corvane, or shows or hides the shelf of the one
 that runs.</source>
         <translation>Menaruh berkas dan tautan di rak, dan dengan - teks dari masukan standar.
 Tanpa argumen, menjalankan Corvane, atau menampilkan atau menyembunyikan
-rak yang sudah berjalan.</translation>
+rak dari Corvane yang sudah berjalan.</translation>
     </message>
 </context>
 <context>
@@ -270,7 +270,7 @@ rak yang sudah berjalan.</translation>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>masukan standar tidak dapat dibaca, atau lebih besar dari 256 MiB</translation>
+        <translation>masukan standar tidak dapat dibaca, atau lebih besar dari 256&#xa0;MiB</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -298,7 +298,7 @@ rak yang sudah berjalan.</translation>
     </message>
     <message>
         <source>the Corvane that runs does not do this; it may be an older version</source>
-        <translation>Corvane yang berjalan tidak dapat melakukan ini; mungkin versinya lebih lama</translation>
+        <translation>Corvane yang berjalan tidak dapat melakukan ini; mungkin itu versi lama</translation>
     </message>
     <message>
         <source>the display cannot be used: %1</source>
@@ -580,7 +580,7 @@ rak yang sudah berjalan.</translation>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>Penyeretan hanya diketahui di bagian atas layar</translation>
+        <translation>Penyeretan hanya terdeteksi di bagian atas layar</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -620,7 +620,7 @@ rak yang sudah berjalan.</translation>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>Shift tidak diketahui setelah penyeretan dimulai</translation>
+        <translation>Shift tidak terdeteksi setelah penyeretan dimulai</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
@@ -697,18 +697,18 @@ rak yang sudah berjalan.</translation>
     </message>
     <message>
         <source>Try again in a moment, or end the process %1 and start Corvane anew.</source>
-        <translation>Coba lagi sebentar lagi, atau akhiri proses %1 dan mulai Corvane dari awal.</translation>
+        <translation>Cobalah beberapa saat lagi, atau akhiri proses %1 dan mulai Corvane dari awal.</translation>
     </message>
     <message>
         <source>Try again in a moment, or end it and start Corvane anew.</source>
-        <translation>Coba lagi sebentar lagi, atau akhiri dan mulai Corvane dari awal.</translation>
+        <translation>Cobalah beberapa saat lagi, atau akhiri dan mulai Corvane dari awal.</translation>
     </message>
 </context>
 <context>
     <name>UpdateTexts</name>
     <message>
         <source>What came from the place where new versions are announced could not be read.</source>
-        <translation>Yang datang dari tempat versi baru diumumkan tidak dapat dibaca.</translation>
+        <translation>Data dari tempat versi baru diumumkan tidak dapat dibaca.</translation>
     </message>
     <message>
         <source>A newer version was announced before than is now. Somebody may be keeping news from you, so nothing was taken.</source>
@@ -724,7 +724,7 @@ rak yang sudah berjalan.</translation>
     </message>
     <message>
         <source>What Corvane remembered of earlier updates was damaged. It was set aside and begins anew with the next check.</source>
-        <translation>Ingatan Corvane tentang pembaruan sebelumnya rusak. Ingatan itu disisihkan dan dimulai lagi pada pemeriksaan berikutnya.</translation>
+        <translation>Catatan Corvane tentang pembaruan sebelumnya rusak. Catatan itu disisihkan dan dimulai lagi pada pemeriksaan berikutnya.</translation>
     </message>
     <message>
         <source>The place where new versions are announced could not be reached over a safe connection. Try again later.</source>
@@ -744,11 +744,11 @@ rak yang sudah berjalan.</translation>
     </message>
     <message>
         <source>There is not enough room on the disk.</source>
-        <translation>Ruang di diska tidak cukup.</translation>
+        <translation>Ruang di disk tidak cukup.</translation>
     </message>
     <message>
         <source>The new version could not be written to the disk.</source>
-        <translation>Versi baru tidak dapat ditulis ke diska.</translation>
+        <translation>Versi baru tidak dapat ditulis ke disk.</translation>
     </message>
     <message>
         <source>Asked directly, without a proxy.</source>
@@ -836,7 +836,7 @@ rak yang sudah berjalan.</translation>
     </message>
     <message>
         <source>It is used from the next time that Corvane is started. The one before is kept beside it until then.</source>
-        <translation>Versi ini dipakai mulai Corvane dijalankan berikutnya. Sampai saat itu versi sebelumnya disimpan di sampingnya.</translation>
+        <translation>Versi ini mulai dipakai saat Corvane dijalankan lagi. Sampai saat itu versi sebelumnya tetap disimpan di sampingnya.</translation>
     </message>
     <message>
         <source>Corvane %1 is downloaded</source>
@@ -860,7 +860,7 @@ rak yang sudah berjalan.</translation>
     </message>
     <message>
         <source>Updates Have Not Been Renewed…</source>
-        <translation>Pembaruan Belum Diperbarui…</translation>
+        <translation>Info Pembaruan Belum Diperbarui…</translation>
     </message>
     <message>
         <source>Record of Updates Was Damaged…</source>
@@ -977,7 +977,7 @@ rak yang sudah berjalan.</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation>Jalankan saat masuk</translation>
+        <translation>Jalankan saat log masuk</translation>
     </message>
     <message>
         <source>Corvane runs in the menu bar with no Dock icon.</source>
@@ -1063,7 +1063,7 @@ rak yang sudah berjalan.</translation>
     <name>corvane::PreferencesWindow</name>
     <message>
         <source>Pane of the preferences</source>
-        <translation>Panel preferensi</translation>
+        <translation>Halaman preferensi</translation>
     </message>
 </context>
 <context>

@@ -150,27 +150,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1&#xa0;TB</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 PB</translation>
+        <translation>%1&#xa0;PB</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 EB</translation>
+        <translation>%1&#xa0;EB</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -270,7 +270,7 @@ that runs.</source>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>標準入力を読み取れないか、256 MiB を超えています</translation>
+        <translation>標準入力を読み取れないか、256&#xa0;MiB を超えています</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -298,7 +298,7 @@ that runs.</source>
     </message>
     <message>
         <source>the Corvane that runs does not do this; it may be an older version</source>
-        <translation>動作中の Corvane はこれを行いません。古いバージョンかもしれません</translation>
+        <translation>動作中の Corvane はこれに対応していません。古いバージョンかもしれません</translation>
     </message>
     <message>
         <source>the display cannot be used: %1</source>
@@ -720,7 +720,7 @@ that runs.</source>
     </message>
     <message>
         <source>What is announced has not been renewed since %1. Somebody may be keeping news from you, or your clock is wrong.</source>
-        <translation>お知らせは %1 から更新されていません。だれかがお知らせを遮っているか、時計が正しくないおそれがあります。</translation>
+        <translation>お知らせは %1 以降更新されていません。だれかがお知らせを遮っているか、時計が正しくないおそれがあります。</translation>
     </message>
     <message>
         <source>What Corvane remembered of earlier updates was damaged. It was set aside and begins anew with the next check.</source>
@@ -836,7 +836,7 @@ that runs.</source>
     </message>
     <message>
         <source>It is used from the next time that Corvane is started. The one before is kept beside it until then.</source>
-        <translation>次に Corvane を起動したときから使われます。それまで以前のものはその隣に残ります。</translation>
+        <translation>次に Corvane を起動したときから使われます。それまでは、以前のバージョンが隣に残ります。</translation>
     </message>
     <message>
         <source>Corvane %1 is downloaded</source>

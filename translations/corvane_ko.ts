@@ -150,27 +150,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1&#xa0;TB</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 PB</translation>
+        <translation>%1&#xa0;PB</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 EB</translation>
+        <translation>%1&#xa0;EB</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -270,7 +270,7 @@ that runs.</source>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>표준 입력을 읽을 수 없거나 256 MiB보다 큽니다</translation>
+        <translation>표준 입력을 읽을 수 없거나 256&#xa0;MiB보다 큽니다</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -604,7 +604,7 @@ that runs.</source>
     </message>
     <message>
         <source>A click in another program does not close the bar with all items</source>
-        <translation>다른 프로그램을 눌러도 모든 항목 막대가 닫히지 않습니다</translation>
+        <translation>다른 프로그램을 클릭해도 모든 항목 막대가 닫히지 않습니다</translation>
     </message>
     <message>
         <source>Press Escape to close it.</source>
@@ -712,11 +712,11 @@ that runs.</source>
     </message>
     <message>
         <source>A newer version was announced before than is now. Somebody may be keeping news from you, so nothing was taken.</source>
-        <translation>전에 지금보다 더 새로운 버전이 발표되었습니다. 누군가 소식을 막고 있을 수 있어 아무것도 받지 않았습니다.</translation>
+        <translation>이전에 지금보다 더 새로운 버전이 발표되었습니다. 누군가 소식을 막고 있을 수 있어 아무것도 받지 않았습니다.</translation>
     </message>
     <message>
         <source>What is announced is a release that this build cannot verify, or none at all. Nothing was taken.</source>
-        <translation>발표된 것은 이 빌드가 검증할 수 없는 릴리스이거나 아무것도 아닙니다. 아무것도 받지 않았습니다.</translation>
+        <translation>이 빌드가 검증할 수 없는 릴리스가 발표되었거나, 발표된 것이 없습니다. 아무것도 받지 않았습니다.</translation>
     </message>
     <message>
         <source>What is announced has not been renewed since %1. Somebody may be keeping news from you, or your clock is wrong.</source>
@@ -752,19 +752,19 @@ that runs.</source>
     </message>
     <message>
         <source>Asked directly, without a proxy.</source>
-        <translation>프록시 없이 직접 물었습니다.</translation>
+        <translation>프록시 없이 직접 요청했습니다.</translation>
     </message>
     <message>
         <source>Asked through the proxy %1.</source>
-        <translation>프록시 %1을(를) 통해 물었습니다.</translation>
+        <translation>프록시 %1을(를) 통해 요청했습니다.</translation>
     </message>
     <message>
         <source>Nothing was asked: a script chooses your proxy, and Corvane runs none.</source>
-        <translation>아무것도 묻지 않았습니다. 스크립트가 프록시를 고르는데, Corvane은 스크립트를 실행하지 않습니다.</translation>
+        <translation>요청하지 않았습니다. 스크립트가 프록시를 고르는데, Corvane은 스크립트를 실행하지 않습니다.</translation>
     </message>
     <message>
         <source>Nothing was asked: your proxy is of a kind that Corvane cannot use.</source>
-        <translation>아무것도 묻지 않았습니다. Corvane이 쓸 수 없는 종류의 프록시입니다.</translation>
+        <translation>요청하지 않았습니다. Corvane이 쓸 수 없는 종류의 프록시입니다.</translation>
     </message>
     <message>
         <source>Corvane&apos;s record of updates was damaged</source>
@@ -921,7 +921,7 @@ that runs.</source>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
-        <translation>내 컴퓨터에서 실행됩니다. 놓은 것은 무엇이든 저희에게 올라오거나, 기록되거나, 어딘가로 보내지지 않습니다. Corvane이 네트워크를 쓰는 것은 링크된 사이트에 그 페이지를 묻는 링크 미리 보기와, 있는 경우 업데이트 확인뿐입니다. 둘 다 일반에서 끌 수 있습니다.</translation>
+        <translation>내 컴퓨터에서 실행됩니다. 놓은 것은 무엇이든 저희에게 업로드되거나, 기록되거나, 다른 곳으로 전송되지 않습니다. Corvane은 링크된 사이트에 그 페이지를 요청하는 링크 미리 보기와, 있는 경우 업데이트 확인에만 네트워크를 씁니다. 둘 다 ‘일반’에서 끌 수 있습니다.</translation>
     </message>
     <message>
         <source>Website</source>
@@ -933,7 +933,7 @@ that runs.</source>
     </message>
     <message>
         <source>Email support</source>
-        <translation>지원 이메일</translation>
+        <translation>지원팀에 이메일 보내기</translation>
     </message>
     <message>
         <source>Opens a new message in the mail program</source>
@@ -997,7 +997,7 @@ that runs.</source>
     </message>
     <message>
         <source>Asks the linked site for its title and image. It is the only time Corvane uses the network on your behalf, and the site learns you have the link.</source>
-        <translation>링크된 사이트에 제목과 그림을 물으므로, 사이트는 링크를 가지고 있다는 것을 알게 됩니다. 업데이트 확인이 있는 경우를 빼면 Corvane이 네트워크를 쓰는 것은 이때뿐입니다.</translation>
+        <translation>링크된 사이트에 제목과 그림을 요청하므로, 사이트는 사용자에게 이 링크가 있음을 알게 됩니다. 업데이트 확인이 있는 경우를 빼면 Corvane이 네트워크를 쓰는 것은 이때뿐입니다.</translation>
     </message>
     <message>
         <source>Shortcuts</source>
@@ -1063,7 +1063,7 @@ that runs.</source>
     <name>corvane::PreferencesWindow</name>
     <message>
         <source>Pane of the preferences</source>
-        <translation>기본 설정 창의 구획</translation>
+        <translation>기본 설정의 페이지</translation>
     </message>
 </context>
 <context>

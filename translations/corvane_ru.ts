@@ -154,27 +154,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 КБ</translation>
+        <translation>%1&#xa0;КБ</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 МБ</translation>
+        <translation>%1&#xa0;МБ</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 ГБ</translation>
+        <translation>%1&#xa0;ГБ</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 ТБ</translation>
+        <translation>%1&#xa0;ТБ</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 ПБ</translation>
+        <translation>%1&#xa0;ПБ</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 ЭБ</translation>
+        <translation>%1&#xa0;ЭБ</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -276,7 +276,7 @@ that runs.</source>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>стандартный ввод не читается или больше 256 МиБ</translation>
+        <translation>стандартный ввод не читается или больше 256&#xa0;МиБ</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>

@@ -150,27 +150,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1&#xa0;TB</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 PB</translation>
+        <translation>%1&#xa0;PB</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 EB</translation>
+        <translation>%1&#xa0;EB</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -270,7 +270,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>standart girdi okunamıyor ya da 256 MiB’den büyük</translation>
+        <translation>standart girdi okunamıyor ya da 256&#xa0;MiB’den büyük</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -612,7 +612,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>Shortcuts cannot be recorded here</source>
-        <translation>Kısayollar burada kaydedilemez</translation>
+        <translation>Kısayollar burada belirlenemez</translation>
     </message>
     <message>
         <source>Choose them in your desktop&apos;s settings.</source>
@@ -708,7 +708,7 @@ veya gizler.</translation>
     <name>UpdateTexts</name>
     <message>
         <source>What came from the place where new versions are announced could not be read.</source>
-        <translation>Yeni sürümlerin duyurulduğu yerden gelen okunamadı.</translation>
+        <translation>Yeni sürümlerin duyurulduğu yerden gelenler okunamadı.</translation>
     </message>
     <message>
         <source>A newer version was announced before than is now. Somebody may be keeping news from you, so nothing was taken.</source>
@@ -716,7 +716,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>What is announced is a release that this build cannot verify, or none at all. Nothing was taken.</source>
-        <translation>Duyurulan, bu programın doğrulayamadığı bir sürüm veya hiçbiri. Hiçbir şey alınmadı.</translation>
+        <translation>Duyurulan sürümü bu program doğrulayamıyor ya da hiçbir sürüm duyurulmamış. Hiçbir şey alınmadı.</translation>
     </message>
     <message>
         <source>What is announced has not been renewed since %1. Somebody may be keeping news from you, or your clock is wrong.</source>
@@ -740,7 +740,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>The downloaded file was not signed by the makers of Corvane. It was thrown away.</source>
-        <translation>İndirilen dosya Corvane’in yapımcılarınca imzalanmamış. Dosya atıldı.</translation>
+        <translation>İndirilen dosya Corvane’in geliştiricilerince imzalanmamış. Dosya atıldı.</translation>
     </message>
     <message>
         <source>There is not enough room on the disk.</source>
@@ -800,7 +800,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>Corvane %1 is available</source>
-        <translation>Corvane %1 hazır</translation>
+        <translation>Corvane %1 kullanılabilir</translation>
     </message>
     <message>
         <source>You have %1. The download has %2.</source>
@@ -844,7 +844,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>It was signed by the makers of Corvane and is in your downloads folder as %1.</source>
-        <translation>Corvane’in yapımcılarınca imzalandı ve indirilenler klasörünüzde %1 adıyla bulunuyor.</translation>
+        <translation>Corvane’in geliştiricilerince imzalandı ve indirilenler klasörünüzde %1 adıyla bulunuyor.</translation>
     </message>
     <message>
         <source>Show</source>
@@ -1017,7 +1017,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>Unset by default. ↓ on the shelf does the same thing.</source>
-        <translation>Başlangıçta atanmamıştır. Raftaki Aşağı tuşu aynı işi yapar.</translation>
+        <translation>Başlangıçta atanmamıştır. Rafta Aşağı tuşu aynı işi yapar.</translation>
     </message>
     <message>
         <source>Check Now</source>
@@ -1074,7 +1074,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>Record Shortcut</source>
-        <translation>Kısayol Kaydet</translation>
+        <translation>Kısayol Belirle</translation>
     </message>
 </context>
 <context>
@@ -1085,7 +1085,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>That combination types a character. Record one with ⌘, ⌥ or ⌃.</source>
-        <translation>Bu birleşim bir karakter yazar. Super, Alt veya Ctrl içeren bir tane kaydedin.</translation>
+        <translation>Bu birleşim bir karakter yazar. Super, Alt veya Ctrl içeren bir tane belirleyin.</translation>
     </message>
     <message>
         <source>Another app already uses that combination.</source>

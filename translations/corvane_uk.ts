@@ -79,11 +79,11 @@
     </message>
     <message>
         <source>Focus</source>
-        <translation>Перейти</translation>
+        <translation>Перевести фокус</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation>Перегляд</translation>
+        <translation>Попередній перегляд</translation>
     </message>
     <message>
         <source>Copy</source>
@@ -154,27 +154,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 кБ</translation>
+        <translation>%1&#xa0;кБ</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 МБ</translation>
+        <translation>%1&#xa0;МБ</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 ГБ</translation>
+        <translation>%1&#xa0;ГБ</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 ТБ</translation>
+        <translation>%1&#xa0;ТБ</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 ПБ</translation>
+        <translation>%1&#xa0;ПБ</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 ЕБ</translation>
+        <translation>%1&#xa0;ЕБ</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -235,8 +235,8 @@
         <source>Puts files and links on the shelf, and with - a text from standard input.
 Without arguments it starts Corvane, or shows or hides the shelf of the one
 that runs.</source>
-        <translation>Кладе на полицю файли й посилання, а з - текст зі стандартного вводу.
-Без аргументів запускає Corvane або показує чи ховає полицю вже
+        <translation>Кладе на полицю файли й посилання, а з - текст зі стандартного введення.
+Без аргументів запускає Corvane або показує чи приховує полицю вже
 запущеного.</translation>
     </message>
 </context>
@@ -276,7 +276,7 @@ that runs.</source>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>стандартне введення не читається або більше за 256 МіБ</translation>
+        <translation>стандартне введення не читається або більше за 256&#xa0;МіБ</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -308,7 +308,7 @@ that runs.</source>
     </message>
     <message>
         <source>the display cannot be used: %1</source>
-        <translation>екран не можна використати: %1</translation>
+        <translation>дисплей не можна використати: %1</translation>
     </message>
     <message>
         <source>%1; see corvane --help</source>
@@ -569,22 +569,22 @@ that runs.</source>
     </message>
     <message>
         <source>this Wayland session lets no program hang a shelf from its screen&apos;s edge, and there is no X11 display either (DISPLAY is not set)</source>
-        <translation>цей сеанс Wayland не дає програмам закріпити полицю біля краю екрана, і екрана X11 теж немає (DISPLAY не задано)</translation>
+        <translation>цей сеанс Wayland не дає програмам закріпити полицю біля краю екрана, і дисплея X11 теж немає (DISPLAY не задано)</translation>
     </message>
     <message>
         <source>there is no Wayland session where WAYLAND_DISPLAY says, and no X11 display either (DISPLAY is not set)</source>
-        <translation>там, куди вказує WAYLAND_DISPLAY, немає сеансу Wayland, і екрана X11 теж немає (DISPLAY не задано)</translation>
+        <translation>там, куди вказує WAYLAND_DISPLAY, немає сеансу Wayland, і дисплея X11 теж немає (DISPLAY не задано)</translation>
     </message>
     <message>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
-        <translation>немає екрана, на якому можна закріпити полицю (не задано ні WAYLAND_DISPLAY, ні DISPLAY)</translation>
+        <translation>немає дисплея, на якому можна закріпити полицю (не задано ні WAYLAND_DISPLAY, ні DISPLAY)</translation>
     </message>
 </context>
 <context>
     <name>SessionTexts</name>
     <message>
         <source>your display server lacks XInput 2 or XFixes</source>
-        <translation>сервер показу не має XInput 2 або XFixes</translation>
+        <translation>ваш дисплейний сервер не має XInput 2 або XFixes</translation>
     </message>
     <message>
         <source>your desktop keeps that to itself</source>
@@ -740,7 +740,7 @@ that runs.</source>
     </message>
     <message>
         <source>What is announced has not been renewed since %1. Somebody may be keeping news from you, or your clock is wrong.</source>
-        <translation>Оголошення не поновлювали від дати: %1. Можливо, хтось приховує від вас новини або ваш годинник неправильний.</translation>
+        <translation>Оголошення не поновлювали з такої дати: %1. Можливо, хтось приховує від вас новини або ваш годинник показує неправильний час.</translation>
     </message>
     <message>
         <source>What Corvane remembered of earlier updates was damaged. It was set aside and begins anew with the next check.</source>
@@ -906,7 +906,7 @@ that runs.</source>
     </message>
     <message>
         <source>Drag it back out when you arrive</source>
-        <translation>Витягніть назад, коли дістанетеся місця</translation>
+        <translation>Витягніть на новому місці</translation>
     </message>
     <message>
         <source>Hold ⇧ to keep it on the shelf</source>
@@ -918,7 +918,7 @@ that runs.</source>
     </message>
     <message>
         <source>Move the pointer to the notch and the shelf reappears. Drag the item into whatever you are working in. Press Space to preview it, or ⌘C to copy its path.</source>
-        <translation>Підведіть вказівник до верхнього краю екрана, і полиця з’явиться знову. Перетягніть об’єкт туди, де працюєте. Натисніть «Пробіл» для перегляду або Ctrl+C, щоб скопіювати шлях.</translation>
+        <translation>Підведіть вказівник до верхнього краю екрана, і полиця з’явиться знову. Перетягніть об’єкт туди, де працюєте. Натисніть «Пробіл» для попереднього перегляду або Ctrl+C, щоб скопіювати шлях.</translation>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
@@ -926,7 +926,7 @@ that runs.</source>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
-        <translation>З клавіатури: натисніть сполучення клавіш полиці, потім %1, щоб вставити на неї, і %2, щоб переходити нею.</translation>
+        <translation>З клавіатури: натисніть клавіатурне скорочення полиці, потім %1, щоб вставити на неї, і %2, щоб переходити нею.</translation>
     </message>
 </context>
 <context>
@@ -941,7 +941,7 @@ that runs.</source>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
-        <translation>Працює на вашому комп’ютері. Ніщо з покладеного не надсилається нам, не записується до журналів і нікуди не передається. Corvane звертається до мережі лише для перегляду посилань, запитуючи сторінку в самого сайту, і, якщо вона є, для перевірки оновлень. І те, й інше вимикається на вкладці «Загальне».</translation>
+        <translation>Працює на вашому комп’ютері. Ніщо з покладеного не надсилається нам, не записується до журналів і нікуди не передається. Corvane звертається до мережі лише для попереднього перегляду посилань, запитуючи сторінку в самого сайту, і, якщо вона є, для перевірки оновлень. І те, й інше вимикається на вкладці «Загальне».</translation>
     </message>
     <message>
         <source>Website</source>
@@ -999,7 +999,7 @@ that runs.</source>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation>Запускати під час входу</translation>
+        <translation>Запускати після входу до системи</translation>
     </message>
     <message>
         <source>Corvane runs in the menu bar with no Dock icon.</source>
@@ -1015,7 +1015,7 @@ that runs.</source>
     </message>
     <message>
         <source>Show previews for dropped links</source>
-        <translation>Показувати перегляд покладених посилань</translation>
+        <translation>Показувати попередній перегляд покладених посилань</translation>
     </message>
     <message>
         <source>Asks the linked site for its title and image. It is the only time Corvane uses the network on your behalf, and the site learns you have the link.</source>
@@ -1059,7 +1059,7 @@ that runs.</source>
     </message>
     <message>
         <source>Your system&apos;s software manager keeps Corvane up to date.</source>
-        <translation>Corvane оновлює керування програмами вашої системи.</translation>
+        <translation>Про оновлення Corvane дбає менеджер програм вашої системи.</translation>
     </message>
     <message>
         <source>This build does not know where to look.</source>

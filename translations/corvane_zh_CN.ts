@@ -150,27 +150,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1&#xa0;TB</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 PB</translation>
+        <translation>%1&#xa0;PB</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 EB</translation>
+        <translation>%1&#xa0;EB</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -191,7 +191,7 @@
     </message>
     <message>
         <source>Show all items in the bar</source>
-        <translation>在栏中显示全部项目</translation>
+        <translation>在项目栏中显示全部项目</translation>
     </message>
     <message>
         <source>Print the paths and links on the shelf, one a line</source>
@@ -211,7 +211,7 @@
     </message>
     <message>
         <source>End Corvane</source>
-        <translation>结束 Corvane</translation>
+        <translation>退出 Corvane</translation>
     </message>
     <message>
         <source>Print this help</source>
@@ -270,7 +270,7 @@ that runs.</source>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>标准输入无法读取，或者超过 256 MiB</translation>
+        <translation>标准输入无法读取，或者超过 256&#xa0;MiB</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -580,7 +580,7 @@ that runs.</source>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>只有在屏幕顶部才能察觉拖动</translation>
+        <translation>只有在屏幕顶部才能检测到拖动</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -620,7 +620,7 @@ that runs.</source>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>拖动开始之后无法察觉 Shift</translation>
+        <translation>拖动开始之后无法检测到 Shift</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
@@ -740,7 +740,7 @@ that runs.</source>
     </message>
     <message>
         <source>The downloaded file was not signed by the makers of Corvane. It was thrown away.</source>
-        <translation>下载的文件不是由 Corvane 的制作者签名的，已将其丢弃。</translation>
+        <translation>下载的文件不是由 Corvane 的开发者签名的，已将其丢弃。</translation>
     </message>
     <message>
         <source>There is not enough room on the disk.</source>
@@ -816,7 +816,7 @@ that runs.</source>
     </message>
     <message>
         <source>Later</source>
-        <translation>以后</translation>
+        <translation>稍后</translation>
     </message>
     <message>
         <source>Downloading Corvane %1…</source>
@@ -844,7 +844,7 @@ that runs.</source>
     </message>
     <message>
         <source>It was signed by the makers of Corvane and is in your downloads folder as %1.</source>
-        <translation>它由 Corvane 的制作者签名，以 %1 的名称保存在您的下载文件夹中。</translation>
+        <translation>它由 Corvane 的开发者签名，以 %1 的名称保存在您的下载文件夹中。</translation>
     </message>
     <message>
         <source>Show</source>

@@ -150,27 +150,27 @@
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message>
         <source>%1 GB</source>
-        <translation>%1 GB</translation>
+        <translation>%1&#xa0;GB</translation>
     </message>
     <message>
         <source>%1 TB</source>
-        <translation>%1 TB</translation>
+        <translation>%1&#xa0;TB</translation>
     </message>
     <message>
         <source>%1 PB</source>
-        <translation>%1 PB</translation>
+        <translation>%1&#xa0;PB</translation>
     </message>
     <message>
         <source>%1 EB</source>
-        <translation>%1 EB</translation>
+        <translation>%1&#xa0;EB</translation>
     </message>
     <message>
         <source>1 byte</source>
@@ -191,7 +191,7 @@
     </message>
     <message>
         <source>Show all items in the bar</source>
-        <translation>在列中顯示全部項目</translation>
+        <translation>在項目列中顯示全部項目</translation>
     </message>
     <message>
         <source>Print the paths and links on the shelf, one a line</source>
@@ -270,7 +270,7 @@ that runs.</source>
     </message>
     <message>
         <source>standard input cannot be read, or is larger than 256 MiB</source>
-        <translation>標準輸入無法讀取，或者超過 256 MiB</translation>
+        <translation>標準輸入無法讀取，或者超過 256&#xa0;MiB</translation>
     </message>
     <message>
         <source>standard input is no text in UTF-8</source>
@@ -580,7 +580,7 @@ that runs.</source>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>只有在螢幕頂端才能察覺拖曳</translation>
+        <translation>只有在螢幕頂端才能偵測到拖曳</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -620,7 +620,7 @@ that runs.</source>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>拖曳開始之後無法察覺 Shift</translation>
+        <translation>拖曳開始之後無法偵測到 Shift</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
@@ -740,7 +740,7 @@ that runs.</source>
     </message>
     <message>
         <source>The downloaded file was not signed by the makers of Corvane. It was thrown away.</source>
-        <translation>下載的檔案不是由 Corvane 的製作者簽署的，已將它丟棄。</translation>
+        <translation>下載的檔案不是由 Corvane 的開發者簽署的，已將它丟棄。</translation>
     </message>
     <message>
         <source>There is not enough room on the disk.</source>
@@ -844,7 +844,7 @@ that runs.</source>
     </message>
     <message>
         <source>It was signed by the makers of Corvane and is in your downloads folder as %1.</source>
-        <translation>它由 Corvane 的製作者簽署，以 %1 的名稱儲存在您的下載資料夾中。</translation>
+        <translation>它由 Corvane 的開發者簽署，以 %1 的名稱儲存在您的下載資料夾中。</translation>
     </message>
     <message>
         <source>Show</source>
@@ -906,7 +906,7 @@ that runs.</source>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
-        <translation>使用鍵盤：按置物架的快速鍵，再按 %1 貼上，按 %2 逐項移動。</translation>
+        <translation>使用鍵盤：按置物架的快捷鍵，再按 %1 貼上，按 %2 逐項移動。</translation>
     </message>
 </context>
 <context>

@@ -392,7 +392,7 @@ TEST_P(Preferences, areReadInTheLanguageOfTheSession)
     how.environment = m_desktop.environment();
     how.environment.insert(u"LC_ALL"_s, u"de_AT.UTF-8"_s);
     startWithPreferences(how);
-    EXPECT_TRUE(waitFor(u"Ablage zeigen oder verbergen: Super+Umschalt+D"_s));
+    EXPECT_TRUE(waitFor(u"Ablage anzeigen oder verbergen: Super+Umschalt+D"_s));
 }
 
 TEST_P(Preferences, controlQInItsWindowsQuitsNothing)
