@@ -6,6 +6,7 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <optional>
@@ -35,9 +36,10 @@ struct LastWords : testing::Test {
 /// Calls itself until the stack is full.
 int deepest(int depth) // NOLINT(misc-no-recursion)
 {
-    volatile char used[4096] = {};
-    used[0] = static_cast<char>(depth);
-    return depth < 0 ? 0 : deepest(depth + 1) + used[0];
+    std::array<char, 4096> used = {};
+    volatile char *const first = used.data();
+    *first = static_cast<char>(depth);
+    return depth < 0 ? 0 : deepest(depth + 1) + *first;
 }
 
 TEST_F(LastWords, TellThatTheReaderCrashedAndOverWhat)
