@@ -197,6 +197,7 @@ TEST_F(DecoderPoolTest, WhatRunsAndWhatWaitsEndsWithThePool)
     misbehave("hangs");
     std::array<Outcome, 4> outcomes = {};
     std::vector<std::thread> threads;
+    threads.reserve(outcomes.size());
     for (Outcome &outcome : outcomes) {
         threads.emplace_back([this, &outcome] {
             DecodingAttempt attempt;
