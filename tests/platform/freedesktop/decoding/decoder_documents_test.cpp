@@ -246,9 +246,12 @@ TEST_F(DecoderDocumentsTest, ASinglePictureIsNoAnimation)
 
 TEST_F(DecoderDocumentsTest, RendersThePagesOfADocument)
 {
-    const auto opened = documents.open(writePdf(3), {200, 100}, never);
-    if (!opened)
+    // Whether the decoder can read them is what is tried here; where it has no plug-in, this has
+    // none either.
+    if (!QImageReader::supportedImageFormats().contains("pdf"))
         GTEST_SKIP() << "there is no reader of documents here";
+    const auto opened = documents.open(writePdf(3), {200, 100}, never);
+    ASSERT_TRUE(opened.has_value());
     const auto &pages = std::get<PreviewContent::Pages>(*opened);
     EXPECT_EQ(pages.count, 3);
     EXPECT_EQ(pages.sizes, QList<QSize>(3, QSize(595, 842)));
