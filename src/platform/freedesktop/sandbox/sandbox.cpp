@@ -76,11 +76,10 @@ QByteArray Sandbox::outputPath()
 QByteArrayList Sandbox::walls() const
 {
     // No --new-session: bounded_process starts it in a session of its own, and the sandbox's first
-    // process has to stay in the group that is killed there. --die-with-parent is not enough, for
-    // it is heard only after everything is furnished.
-    QByteArrayList arguments = {m_bubblewrap, "--unshare-all", "--die-with-parent",
-                                "--cap-drop", "ALL",           "--clearenv",
-                                "--setenv",   "PATH",          "/usr/local/bin:/usr/bin:/bin"};
+    // process has to stay in the group that is killed there.
+    QByteArrayList arguments
+        = {m_bubblewrap, "--unshare-all", "--cap-drop", "ALL",
+           "--clearenv", "--setenv",      "PATH",       "/usr/local/bin:/usr/bin:/bin"};
     arguments << QByteArrayList{"--setenv", "LANG", "C.UTF-8", "--setenv", "HOME", "/tmp"};
     arguments << QByteArrayList{"--ro-bind", "/usr", "/usr"};
     for (const char *path : {"/bin", "/sbin", "/lib", "/lib32", "/lib64", "/libx32"})
@@ -102,6 +101,8 @@ FileDescriptor Sandbox::filter()
 
 QByteArrayList Sandbox::command(const OwnProgram &program) const
 {
+    // No --die-with-parent: what starts it in the background ends at once, sometimes only after
+    // bubblewrap has asked to end with it.
     QByteArrayList arguments = walls();
     // Without one Qt would look the user up, and make a folder named after it.
     arguments << QByteArrayList{"--perms",         "0700", "--dir", "/run", "--setenv",
@@ -117,6 +118,8 @@ QByteArrayList Sandbox::command(const OwnProgram &program) const
 QByteArrayList Sandbox::command(const Program &program) const
 {
     QByteArrayList arguments = walls();
+    // Not enough by itself, for it is heard only after everything is furnished.
+    arguments << "--die-with-parent";
     if (m_hasFilter)
         arguments << "--seccomp" << QByteArray::number(bounded_process::handedNumber);
     const QByteArray path = program.command.constFirst();

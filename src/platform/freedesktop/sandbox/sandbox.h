@@ -58,7 +58,7 @@ public:
         /// Names and values in turn.
         QByteArrayList environment;
     };
-    /// The same; what it is handed stays open.
+    /// The same; what it is handed stays open. It may outlive whoever starts it.
     QByteArrayList command(const OwnProgram &program) const;
 
 private:
