@@ -159,6 +159,8 @@ TEST(DecoderProtocolTest, CountsTheBytesOfAPicture)
     const Pixels largest = {{side, side}, side * 4, QImage::Format_RGB32};
     EXPECT_EQ(byteCount(largest), ImageCodec::maximumDecodedBytes);
     EXPECT_FALSE(byteCount({{side, side + 1}, side * 4, QImage::Format_RGB32}).has_value());
+    EXPECT_FALSE(byteCount({{65'536, 1}, 65'536 * 4, QImage::Format_RGB32}).has_value());
+    EXPECT_FALSE(byteCount({{1, 65'536}, 4, QImage::Format_RGB32}).has_value());
 }
 
 } // namespace

@@ -51,6 +51,14 @@ TEST(PictureMemoryTest, MemoryThatCouldBeShortenedIsNotMapped)
     picture_memory::unmap(address, 5);
 }
 
+TEST(PictureMemoryTest, MemoryThatCouldBeChangedIsNotMapped)
+{
+    const FileDescriptor open(::memfd_create("open", MFD_CLOEXEC | MFD_ALLOW_SEALING));
+    ASSERT_TRUE(open.write("bytes"));
+    ASSERT_EQ(::fcntl(open.number(), F_ADD_SEALS, F_SEAL_SHRINK | F_SEAL_GROW), 0);
+    EXPECT_EQ(picture_memory::map(open, 5), nullptr);
+}
+
 TEST(PictureMemoryTest, AFileOfADiskIsNoMemory)
 {
     FILE *const file = std::tmpfile();

@@ -102,6 +102,28 @@ TEST_F(DecoderImageCodecTest, ReadsEveryKindThroughItsOwnPlugin)
     EXPECT_TRUE(isWritten) << "there are fonts";
 }
 
+TEST_F(DecoderImageCodecTest, HandsTheFormatsThatAreAllowedToTheDecoder)
+{
+    const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='8' height='8'/>";
+    const auto isRead = [this](const QByteArray &bytes, DecodingAttempt::Formats formats) {
+        DecodingAttempt attempt;
+        attempt.formats = formats;
+        return codec.thumbnail(bytes, 10, attempt).has_value();
+    };
+    using Formats = DecodingAttempt::Formats;
+    const QByteArray png = written({40, 20}, "png");
+    const QByteArray jpeg = written({40, 20}, "jpeg");
+    const QByteArray tiff = written({40, 20}, "tiff");
+    EXPECT_TRUE(isRead(png, Formats::Web));
+    EXPECT_TRUE(isRead(jpeg, Formats::Web));
+    for (const QByteArray &bytes : {tiff, written({40, 20}, "bmp"), drawing}) {
+        EXPECT_TRUE(isRead(bytes, Formats::Any));
+        EXPECT_FALSE(isRead(bytes, Formats::Web)) << bytes.left(8).constData();
+    }
+    EXPECT_TRUE(isRead(png, Formats::Png));
+    EXPECT_FALSE(isRead(jpeg, Formats::Png));
+}
+
 TEST_F(DecoderImageCodecTest, TellsWhatIsNoPicture)
 {
     for (const QByteArray &bytes :

@@ -5,12 +5,20 @@
 #include "platform/pictures/picture_memory.h"
 
 #include <QCoreApplication>
+#include <QFile>
+#include <QStringList>
+#include <QTemporaryDir>
 #include <QTemporaryFile>
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
+#include <future>
+#include <mutex>
 #include <thread>
 
 namespace corvane {
@@ -28,12 +36,19 @@ struct DecoderPoolTest : testing::Test {
     }
     static void misbehave(const char *step) { qputenv("CORVANE_FALSE_DECODER", step); }
 
-    /// A decoder has begun to write a conversion.
-    static void waitUntilBegun(const FileDescriptor &target)
+    /// Decoders have begun so often to write a conversion.
+    static testing::AssertionResult hasBegun(const FileDescriptor &target, int times = 1)
     {
+        constexpr std::chrono::seconds patience(30);
+        constexpr int length = 5;
+        const auto end = std::chrono::steady_clock::now() + patience;
         struct stat status = {};
-        while (::fstat(target.number(), &status) == 0 && status.st_size == 0)
+        while (std::chrono::steady_clock::now() < end) {
+            if (::fstat(target.number(), &status) != 0 || status.st_size >= length * times)
+                return testing::AssertionSuccess();
             std::this_thread::yield();
+        }
+        return testing::AssertionFailure() << status.st_size / length << " times";
     }
 
     DecodingAttempt attempted()
@@ -51,6 +66,49 @@ struct DecoderPoolTest : testing::Test {
     DecoderPool pool{program};
     DecoderImageCodec codec{pool};
     Cancellation cancellation;
+};
+
+/// What decoders that hang for good have open, and have written a byte to.
+class PipeOfTheHanging {
+public:
+    PipeOfTheHanging()
+    {
+        const QByteArray path = QFile::encodeName(m_folder.filePath(QStringLiteral("pipe")));
+        EXPECT_EQ(::mkfifo(path.constData(), 0600), 0);
+        m_end = FileDescriptor(::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+        qputenv("CORVANE_FALSE_DECODER_PIPE", path);
+    }
+    PipeOfTheHanging(const PipeOfTheHanging &) = delete;
+    PipeOfTheHanging &operator=(const PipeOfTheHanging &) = delete;
+    ~PipeOfTheHanging() { qunsetenv("CORVANE_FALSE_DECODER_PIPE"); }
+
+    /// One has got its request.
+    bool hasBegun() const { return isReadable() && readByte() == 1; }
+    /// The other ends have closed with their processes.
+    bool haveAllEnded() const
+    {
+        while (isReadable()) {
+            if (readByte() == 0)
+                return true;
+        }
+        return false;
+    }
+
+private:
+    bool isReadable() const
+    {
+        constexpr int patience = 60'000;
+        pollfd source = {m_end.number(), POLLIN, 0};
+        return ::poll(&source, 1, patience) == 1;
+    }
+    ssize_t readByte() const
+    {
+        char byte = 0;
+        return ::read(m_end.number(), &byte, 1);
+    }
+
+    QTemporaryDir m_folder;
+    FileDescriptor m_end;
 };
 
 struct MisbehavingDecoder : DecoderPoolTest, testing::WithParamInterface<const char *> { };
@@ -89,7 +147,8 @@ TEST_P(DecoderThatIsEnded, SaysNothingAboutThePicture)
 
 INSTANTIATE_TEST_SUITE_P(AtEveryStep, DecoderThatIsEnded,
                          testing::Values("dies at once", "ends at once", "garbled greeting",
-                                         "dies before reading", "dies after reading"));
+                                         "dies after greeting", "dies before reading",
+                                         "dies after reading"));
 
 TEST_F(DecoderPoolTest, APictureThatNeedsMoreMemoryIsHandedToOneThatHasIt)
 {
@@ -121,7 +180,7 @@ TEST_F(DecoderPoolTest, APreviewThatNeedsMoreMemoryDoesNotWaitForAConversionThat
     const FileDescriptor target(::dup(file.handle()));
     std::thread converting(
         [&] { codec.transcode("any bytes", UTType::png(), target, cancellation); });
-    waitUntilBegun(target);
+    EXPECT_TRUE(hasBegun(target));
     DecoderPool::Job preview;
     preview.request.task = decoder_protocol::Task::Thumbnail;
     preview.request.wanted = {8, 8};
@@ -129,8 +188,12 @@ TEST_F(DecoderPoolTest, APreviewThatNeedsMoreMemoryDoesNotWaitForAConversionThat
     const auto contents = picture_memory::of("any bytes");
     preview.descriptors = {contents.number()};
     preview.urgency = DecoderPool::Urgency::Preview;
-    EXPECT_EQ(pool.run(preview).outcome, Outcome::Made);
+    auto previewed = std::async(std::launch::async, [&] { return pool.run(preview).outcome; });
+    // The conversion would have had twice that time.
+    EXPECT_EQ(previewed.wait_for(std::chrono::seconds(30)), std::future_status::ready);
+    EXPECT_TRUE(hasBegun(target, 2)) << "it is begun again";
     pool.finish();
+    EXPECT_EQ(previewed.get(), Outcome::Made);
     converting.join();
 }
 
@@ -184,17 +247,63 @@ TEST_F(DecoderPoolTest, ACancelledConversionEndsThoughItsDecoderHangs)
     QTemporaryFile file;
     ASSERT_TRUE(file.open());
     const FileDescriptor target(::dup(file.handle()));
-    std::thread canceller([&] {
-        waitUntilBegun(target);
-        cancellation.cancel();
+    auto converted = std::async(std::launch::async, [&] {
+        return codec.transcode("any bytes", UTType::png(), target, cancellation);
     });
-    EXPECT_FALSE(codec.transcode("any bytes", UTType::png(), target, cancellation));
-    canceller.join();
+    EXPECT_TRUE(hasBegun(target));
+    cancellation.cancel();
+    // It would have had twice that time.
+    EXPECT_EQ(converted.wait_for(std::chrono::seconds(30)), std::future_status::ready);
+    EXPECT_FALSE(converted.get());
+}
+
+TEST_F(DecoderPoolTest, ADecoderThatDoesNotEndByItselfIsEnded)
+{
+    const PipeOfTheHanging pipe;
+    misbehave("hangs for good");
+    DecodingAttempt attempt;
+    attempt.patience = DecodingAttempt::Patience::Brief;
+    EXPECT_FALSE(codec.thumbnail("any bytes", 8, attempt).has_value());
+    EXPECT_EQ(attempt.outcome, Outcome::TooSlow);
+    EXPECT_TRUE(pipe.hasBegun());
+    EXPECT_TRUE(pipe.haveAllEnded());
+    misbehave("");
+    EXPECT_EQ(attempted().outcome, Outcome::Made) << "another decoder serves what comes next";
+}
+
+struct DyingDecoder : DecoderPoolTest, testing::WithParamInterface<const char *> { };
+
+TEST_P(DyingDecoder, IsReplacedAfterAPauseWhenThreeHaveDied)
+{
+    misbehave(GetParam());
+    for (std::size_t death = 1; death < DeathRecord::tooMany; ++death)
+        EXPECT_NE(attempted().outcome, Outcome::Made);
+    const auto beforeTheLast = DeathRecord::Clock::now();
+    EXPECT_NE(attempted().outcome, Outcome::Made);
+    misbehave("");
+    EXPECT_EQ(attempted().outcome, Outcome::Made);
+    // At least, not at most: a slow machine cannot make it fail.
+    EXPECT_GE(DeathRecord::Clock::now() - beforeTheLast, DeathRecord::pause);
+}
+
+INSTANTIATE_TEST_SUITE_P(AtEveryStep, DyingDecoder,
+                         testing::Values("dies at once", "dies before reading",
+                                         "dies after reading", "crashes"));
+
+TEST_F(DecoderPoolTest, WhoeverWaitsInThePauseIsInterruptedWhenNothingIsWantedAnyMore)
+{
+    misbehave("crashes");
+    for (std::size_t death = 0; death < DeathRecord::tooMany; ++death)
+        EXPECT_EQ(attempted().outcome, Outcome::OverBounds);
+    std::thread ender([this] { pool.finish(); });
+    EXPECT_EQ(attempted().outcome, Outcome::Interrupted);
+    ender.join();
 }
 
 TEST_F(DecoderPoolTest, WhatRunsAndWhatWaitsEndsWithThePool)
 {
-    misbehave("hangs");
+    const PipeOfTheHanging pipe;
+    misbehave("hangs for good");
     std::array<Outcome, 4> outcomes = {};
     std::vector<std::thread> threads;
     threads.reserve(outcomes.size());
@@ -205,6 +314,7 @@ TEST_F(DecoderPoolTest, WhatRunsAndWhatWaitsEndsWithThePool)
             outcome = attempt.outcome;
         });
     }
+    EXPECT_TRUE(pipe.hasBegun());
     pool.finish();
     for (std::thread &thread : threads)
         thread.join();
@@ -222,6 +332,25 @@ TEST_F(DecoderPoolTest, WithoutTheProgramNothingIsDecodedAndNothingIsSaidAboutTh
     DecodingAttempt attempt;
     EXPECT_FALSE(without.thumbnail("any bytes", 8, attempt).has_value());
     EXPECT_EQ(attempt.outcome, Outcome::Interrupted);
+}
+
+TEST_F(DecoderPoolTest, SaysOnceWhatConfinesNoDecoderAndDecodesAllTheSame)
+{
+    static std::mutex mutex;
+    static QStringList said;
+    said.clear();
+    const auto previous
+        = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+              const std::lock_guard lock(mutex);
+              said << text;
+          });
+    misbehave("unconfined");
+    EXPECT_EQ(attempted().outcome, Outcome::Made);
+    EXPECT_EQ(attempted().outcome, Outcome::Made);
+    qInstallMessageHandler(previous);
+    EXPECT_EQ(said.filter(QStringLiteral("namespaces")).size(), 1);
+    EXPECT_EQ(said.filter(QStringLiteral("system calls")).size(), 1);
+    EXPECT_EQ(said.filter(QStringLiteral("limits")).size(), 1);
 }
 
 TEST_F(DecoderPoolTest, ACancelledJobGivesUpItsTurn)

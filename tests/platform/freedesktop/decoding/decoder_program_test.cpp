@@ -1,4 +1,6 @@
+#include "platform/base/cancellation.h"
 #include "platform/freedesktop/decoding/decoder_program.h"
+#include "platform/freedesktop/sandbox/bounded_process.h"
 #include "platform/freedesktop/sandbox/sandbox.h"
 #include "platform/freedesktop/thumbnails/thumbnailer_registry.h"
 
@@ -76,6 +78,18 @@ TEST_F(DecoderProgramTest, SeesItselfAloneWhereItsLibrariesAreTheSystems)
     const QByteArray decoder = made(u"prefix/libexec/corvane-decoder"_s);
     EXPECT_EQ(seen(commandOf(decoder)), QByteArrayList{decoder});
     EXPECT_EQ(seen(commandOf("/usr/libexec/corvane-decoder")), QByteArrayList());
+}
+
+TEST_F(DecoderProgramTest, WritesNowhereBesideWhatIsBounded)
+{
+    if (!sandbox.isAvailable())
+        GTEST_SKIP() << "no program can be shut in here";
+    Sandbox::OwnProgram program;
+    program.command
+        = {"/bin/sh", "-c", "for i in / /dev /usr /run /etc; do (: > $i/new) || echo no; done"};
+    Cancellation never;
+    EXPECT_EQ(bounded_process::run(sandbox.command(program), {60, 1024}, never).output.count("no"),
+              5);
 }
 
 TEST_F(DecoderProgramTest, SeesTheLibrariesThatItCameWith)

@@ -5,6 +5,7 @@
 #include "platform/system/file_descriptor.h"
 #include "platform/system/packet_socket.h"
 
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/mman.h>
 #include <sys/syscall.h>
@@ -27,6 +28,16 @@ constexpr int bytes = 8 * 8 * 4;
 {
     ::kill(::getpid(), SIGKILL);
     std::abort();
+}
+
+/// Nothing but a signal ends it; until then, whoever reads the named pipe knows that it lives.
+[[noreturn]] void hangForGood()
+{
+    const FileDescriptor pipe(
+        ::open(qgetenv("CORVANE_FALSE_DECODER_PIPE").constData(), O_WRONLY | O_CLOEXEC));
+    pipe.write("x");
+    while (true)
+        ::pause();
 }
 
 void waitForPacket()
@@ -53,6 +64,10 @@ void answer(const FileDescriptor &socket, const QByteArray &step, std::uint32_t 
     reply.pixels = decoder_protocol::Pixels{size, size.width() * 4, QImage::Format_RGB32};
     if (step == "too wide")
         reply.pixels = decoder_protocol::Pixels{{64, 1}, 64 * 4, QImage::Format_RGB32};
+    if (step == "too high")
+        reply.pixels = decoder_protocol::Pixels{{1, 64}, 4, QImage::Format_RGB32};
+    if (step == "memory alone")
+        reply.pixels.reset();
     QByteArray packet = decoder_protocol::encoded(reply);
     if (step == "garbled reply")
         packet = "garbage";
@@ -83,10 +98,11 @@ int run(const QByteArray &step, bool isLarge)
     if (step == "ends at once")
         return EXIT_SUCCESS;
     const FileDescriptor self(int(::syscall(SYS_pidfd_open, ::getpid(), 0)));
+    const bool isConfined = step != "unconfined";
+    const decoder_protocol::Greeting greeting = {isConfined, isConfined};
     packet_socket::send(socket,
-                        step == "garbled greeting"
-                            ? QByteArray("garbage")
-                            : decoder_protocol::encoded(decoder_protocol::Greeting{true, true}),
+                        step == "garbled greeting" ? QByteArray("garbage")
+                                                   : decoder_protocol::encoded(greeting),
                         {self.number()});
     if (step == "dies after greeting")
         die();
@@ -121,6 +137,8 @@ int run(const QByteArray &step, bool isLarge)
         }
         if (step == "hangs")
             waitForPacket();
+        if (step == "hangs for good")
+            hangForGood();
         answer(socket, step, request->number);
         if (step == "dies after the reply")
             die();
