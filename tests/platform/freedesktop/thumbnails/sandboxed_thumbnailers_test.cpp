@@ -186,6 +186,29 @@ TEST_F(SandboxedThumbnailersTest, showTheProgramNothingOfOtherVendors)
     EXPECT_EQ(run().png, "");
 }
 
+TEST_F(SandboxedThumbnailersTest, boundTheFilesAndTheProcessesOfAProgram)
+{
+    install(R"(grep -E '^Max (file size|processes)' /proc/self/limits > "$2")");
+    const QByteArray bytes = QByteArray::number(Sandbox::fileBytes);
+    const QByteArray processes = QByteArray::number(Sandbox::processes);
+    const QByteArray expected = "Max file size " + bytes + ' ' + bytes + " bytes Max processes "
+        + processes + ' ' + processes + " processes";
+    EXPECT_EQ(run().png.simplified().toStdString(), expected.toStdString());
+}
+
+TEST_F(SandboxedThumbnailersTest, giveTheProgramNoRightsOfRoot)
+{
+    install(R"(grep -E '^(CapEff|CapPrm|NoNewPrivs):' /proc/self/status > "$2")");
+    EXPECT_EQ(run().png.simplified(),
+              "CapPrm: 0000000000000000 CapEff: 0000000000000000 NoNewPrivs: 1");
+}
+
+TEST_F(SandboxedThumbnailersTest, showTheProgramNoPlacesOfUsers)
+{
+    install(R"(ls -d /home /root /mnt /media /srv /var/lib /run /sys > "$2" 2>/dev/null; true)");
+    EXPECT_EQ(run().png, "");
+}
+
 TEST_F(SandboxedThumbnailersTest, stopAProgramThatIgnoresToBeAsked)
 {
     install("trap '' TERM INT HUP; while :; do sleep 1000.25; done");
