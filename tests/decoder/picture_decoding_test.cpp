@@ -139,6 +139,29 @@ TEST_F(PictureDecodingTest, drawsSvgAtTheWantedSize)
     EXPECT_EQ(codec.thumbnail(huge, 60)->size(), QSize(60, 60));
 }
 
+TEST_F(PictureDecodingTest, drawsNothingThatADrawingRefersToElsewhere)
+{
+    const auto drawing = [](const QByteArray &inside) -> QByteArray {
+        return "<svg xmlns='http://www.w3.org/2000/svg' "
+               "xmlns:xlink='http://www.w3.org/1999/xlink' width='8' height='8'>"
+            + inside + "</svg>";
+    };
+    QImage red(8, 8, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    const QByteArray file = file_url::nativePath(saved("red.png", written(red, "png")));
+    const QByteArray nested = "data:image/svg+xml;base64,"
+        + drawing("<rect width='8' height='8' fill='#ff0000'/>").toBase64();
+    for (const QByteArray &address : {file, QByteArray("file://" + file), nested}) {
+        const auto drawn = codec.thumbnail(
+            drawing("<rect width='8' height='8' fill='#0000ff'/><image width='8' height='8' "
+                    "xlink:href='"
+                    + address + "'/>"),
+            8);
+        ASSERT_TRUE(drawn.has_value());
+        EXPECT_EQ(drawn->pixelColor(4, 4), QColor(Qt::blue)) << address.left(20).constData();
+    }
+}
+
 TEST_F(PictureDecodingTest, doesNotDecodeWhatWouldNotFit)
 {
     const auto bomb = boastingPng(30'000, 30'000);

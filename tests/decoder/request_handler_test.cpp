@@ -88,6 +88,57 @@ TEST(RequestHandlerTest, DocumentsNeedALargeRoom)
     EXPECT_EQ(outcomeIn(Room::Large, Task::Open, "%PDF-1.4\n"), Outcome::Unreadable);
 }
 
+TEST(RequestHandlerTest, MorePixelsThanMayBeDecodedAreNotBegun)
+{
+    RequestHandler handler;
+    decoder_protocol::Request request;
+    request.task = Task::Render;
+    request.wanted = {30'000, 30'000};
+    request.document = 1;
+    request.milliseconds = 1'000;
+    const auto answer
+        = handler.serve(request, picture_memory::of(written({20, 10})), FileDescriptor());
+    EXPECT_EQ(answer.reply.outcome, Outcome::OverBounds);
+}
+
+/// Two opaque frames: the first is red all over, of the second no more than a pixel is there.
+QByteArray largeAnimation()
+{
+    // 2,400 runs of 510 pixels: each code of three bits is followed by others before it is
+    // forgotten again.
+    constexpr int runs = 2'400;
+    const QByteArray run = '\xff' + QByteArray("\x4c\xc2\x24", 3).repeated(85);
+    QByteArray gif("GIF89a\xfc\x03\xb0\x04\x80\0\0", 13);
+    gif += QByteArray("\0\0\xff\xff\0\0", 6);
+    gif += QByteArray("!\xf9\4\4\5\0\0\0,\0\0\0\0\xfc\x03\xb0\x04\0\2", 19);
+    gif += run.repeated(runs) + QByteArray("\1\5\0", 3);
+    gif += QByteArray("!\xf9\4\4\5\0\0\0,\0\0\0\0\1\0\1\0\0\2\2\x44\1\0;", 24);
+    return gif;
+}
+
+TEST(RequestHandlerTest, AFrameIsMadeOfWhatTheOneBeforeItLeft)
+{
+    constexpr QSize size{1'020, 1'200};
+    const QByteArray gif = largeAnimation();
+    RequestHandler handler;
+    for (const int frame : {0, 1}) {
+        decoder_protocol::Request request;
+        request.task = Task::Frame;
+        request.wanted = size;
+        request.part = frame;
+        request.document = 1;
+        request.milliseconds = 1'000;
+        const auto answer = handler.serve(request, picture_memory::of(gif), FileDescriptor());
+        ASSERT_TRUE(answer.reply.pixels.has_value()) << frame;
+        ASSERT_EQ(answer.reply.pixels->size, size);
+        QRgb middle = 0;
+        ASSERT_EQ(::pread(answer.pixels.number(), &middle, sizeof middle,
+                          (size.height() / 2 * size.width() + size.width() / 2) * 4),
+                  ssize_t(sizeof middle));
+        EXPECT_EQ(middle, qRgb(255, 0, 0)) << frame;
+    }
+}
+
 TEST(RequestHandlerTest, WhatAnotherDecoderHadBegunToWriteIsGone)
 {
     RequestHandler handler;

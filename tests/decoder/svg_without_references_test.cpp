@@ -62,6 +62,15 @@ TEST(SvgWithoutReferencesTest, LeavesOutWhatIsElsewhere)
                      ->contains("passwd"));
 }
 
+TEST(SvgWithoutReferencesTest, TakesNoDrawingThatIsTooLongOrBecomesSo)
+{
+    const qsizetype rest = maximumDrawingBytes - drawing("").size();
+    EXPECT_TRUE(svgWithoutReferences(drawing(QByteArray(rest, ' '))).has_value());
+    EXPECT_FALSE(svgWithoutReferences(drawing(QByteArray(rest + 1, ' '))).has_value());
+    // Each is written again as six bytes.
+    EXPECT_FALSE(svgWithoutReferences(drawing(QByteArray(rest / 2, '"'))).has_value());
+}
+
 TEST(SvgWithoutReferencesTest, KeepsEmbeddedBitmapsUpToTheirBound)
 {
     // Three of a quarter of the bound, and then one that is larger than the rest of it.
