@@ -7,6 +7,7 @@
 #include <QBuffer>
 #include <QCryptographicHash>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
@@ -20,6 +21,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <cstdint>
 #include <iostream>
 #include <thread>
 
@@ -270,6 +272,88 @@ TEST_F(AmongHostilePictures, theProgramEndsWhileOneIsBeingPreviewed)
     // The preview would take longer.
     EXPECT_EQ(corvane().program().waitForEnd(std::chrono::seconds{5}), 0);
 }
+
+/// When the program is told to end, after the hostile pictures were dropped.
+enum class Moment { Dropped, FirstThumbnail, FirstGivenUp, Converting, AllTried };
+
+class EndAmongHostilePictures : public AmongHostilePictures,
+                                public testing::WithParamInterface<Moment> {
+protected:
+    /// A page that takes a second to convert.
+    QString makeLargePage()
+    {
+        QImage page(4'960, 7'016, QImage::Format_Grayscale8);
+        std::uint32_t state = 1;
+        for (int y = 0; y < page.height(); ++y)
+            std::ranges::generate_n(page.scanLine(y), page.width(), [&state] {
+                return uchar((state = state * 1664525U + 1013904223U) >> 24U);
+            });
+        const QString path = makeFile(u"page.tif"_s, {});
+        EXPECT_TRUE(page.save(path, "tiff"));
+        return path;
+    }
+    /// What decodes for the program, and what that is shut in by.
+    qsizetype decoders() const
+    {
+        const QByteArray mark
+            = "XDG_CACHE_HOME=" + m_desktop.environment().value(u"XDG_CACHE_HOME"_s).toUtf8();
+        const auto numbers = QDir(u"/proc"_s).entryList({u"[1-9]*"_s}, QDir::Dirs);
+        return std::ranges::count_if(numbers, [&](const QString &number) {
+            QFile name(u"/proc/"_s + number + u"/comm"_s);
+            QFile environment(u"/proc/"_s + number + u"/environ"_s);
+            if (!name.open(QFile::ReadOnly) || !environment.open(QFile::ReadOnly))
+                return false;
+            const QByteArray what = name.readAll().trimmed();
+            return (what == "bwrap" || what == "corvane-decoder")
+                && environment.readAll().split('\0').contains(mark);
+        });
+    }
+};
+
+TEST_P(EndAmongHostilePictures, waitsForNothingAndLeavesNothingBehind)
+{
+    startWithInView(3);
+    const QString ordinary = makePicture(u"ordinary.png"_s, "png");
+    const QString oldest = makePicture(u"oldest.png"_s, "png");
+    const QStringList endless = makeEndlessDrawings(2);
+    const QStringList hostile = allHostile();
+    ASSERT_TRUE(dropFiles(QStringList(oldest) + makeWhatIsNoFile() + hostile + endless
+                          + QStringList{makeLargePage(), ordinary}));
+    const auto hasCome = [&](Moment moment) {
+        switch (moment) {
+        case Moment::Dropped:
+            break;
+        case Moment::FirstThumbnail:
+            return hasThumbnail(ordinary);
+        case Moment::FirstGivenUp:
+            return givenUp(hostile + endless) > 0;
+        case Moment::Converting:
+            return !QDir(corvane().spool()).isEmpty();
+        case Moment::AllTried:
+            return hasThumbnail(oldest);
+        }
+        return true;
+    };
+    ASSERT_TRUE(eventually([&] { return hasCome(GetParam()); }));
+    QElapsedTimer timer;
+    timer.start();
+    corvane().program().signal(SIGTERM);
+    // Any of those pictures would take longer.
+    EXPECT_EQ(corvane().program().waitForEnd(std::chrono::seconds{5}), 0);
+    RecordProperty("milliseconds", std::to_string(timer.elapsed()));
+    std::cout << timer.elapsed() << " ms\n";
+    EXPECT_TRUE(eventually([&] { return decoders() == 0; })) << "they end with it";
+    EXPECT_EQ(corvane().spooled(), QStringList());
+    startWithInView(3);
+    const QString next = makePicture(u"next.png"_s, "png");
+    ASSERT_TRUE(dropFiles({next}));
+    EXPECT_TRUE(eventually([&] { return hasThumbnail(next); })) << "another start serves";
+}
+
+INSTANTIATE_TEST_SUITE_P(AtEveryMoment, EndAmongHostilePictures,
+                         testing::Values(Moment::Dropped, Moment::FirstThumbnail,
+                                         Moment::FirstGivenUp, Moment::Converting,
+                                         Moment::AllTried));
 
 /// Links to pages of a server of this machine, whose cards have pictures.
 class AmongHostileLinks : public AmongHostilePictures {
