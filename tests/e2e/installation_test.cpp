@@ -119,13 +119,37 @@ _corvane; echo "${COMPREPLY[@]}")"_s,
               {u"--no-config"_s, u"-c"_s, u"source $argv[1]; complete -C 'corvane --ta'"_s,
                path(u"share/fish/vendor_completions.d/corvane.fish"_s)});
     EXPECT_EQ(byFish, "--take\tPrint them, and remove them from the shelf\n");
-    EXPECT_TRUE(run(u"zsh"_s, {u"-f"_s, u"-n"_s, path(u"share/zsh/site-functions/_corvane"_s)}));
-    const auto byZsh = run(
-        u"zsh"_s,
-        {u"-f"_s, u"-c"_s,
-         u"fpath=(${1:h} $fpath); autoload -U compinit; compinit -u -D; echo $_comps[corvane]"_s,
-         u"zsh"_s, path(u"share/zsh/site-functions/_corvane"_s)});
-    EXPECT_EQ(byZsh, "_corvane\n");
+    // A terminal in which somebody types.
+    const auto byZsh = run(u"zsh"_s,
+                           {u"-f"_s, u"-c"_s, uR"(zmodload zsh/zpty; zpty typed zsh -f -i
+zpty -w typed "fpath=(${1:h:q} \$fpath); autoload -U compinit; compinit -u -D"
+zpty -w typed 'corvane() { print "<$1>"; }; PS1=read"y"'
+zpty -r typed said '*ready*'
+zpty -w -n typed $'corvane --li\t\n'
+zpty -r typed said '*<*>*'
+print -r -- ${${said##*<}%%>*})"_s,
+                            u"zsh"_s, path(u"share/zsh/site-functions/_corvane"_s)});
+    EXPECT_EQ(byZsh, "--list\n");
+}
+
+TEST_F(Installation, shellsCompleteNamesThatLookLikeOptionsAndPatterns)
+{
+    const QTemporaryDir folder;
+    for (const auto &name : {u"--typed"_s, u"[a]b"_s, u"ab"_s}) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+    }
+    const auto byBash = run(u"bash"_s,
+                            {u"-c"_s, uR"(cd "$1"; . "$0"
+COMP_WORDS=(corvane -- --t); COMP_CWORD=2; _corvane; echo "${COMPREPLY[@]}"
+COMP_WORDS=(corvane '['); COMP_CWORD=1; _corvane; echo "${COMPREPLY[@]}")"_s,
+                             path(u"share/bash-completion/completions/corvane"_s), folder.path()});
+    EXPECT_EQ(byBash, "--typed\n[a]b\n");
+    const auto byFish = run(
+        u"fish"_s,
+        {u"--no-config"_s, u"-c"_s, u"cd $argv[2]; source $argv[1]; complete -C 'corvane -- --t'"_s,
+         path(u"share/fish/vendor_completions.d/corvane.fish"_s), folder.path()});
+    EXPECT_EQ(byFish, "--typed\n");
 }
 
 } // namespace
