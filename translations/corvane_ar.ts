@@ -323,6 +323,26 @@ that runs.</source>
         <source>%1; see corvane --help</source>
         <translation>%1؛ انظر corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>لم يجهز Corvane العامل بعد؛ حاول مجددًا بعد لحظة</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>لدى Corvane العامل ما يشغله كثيرًا؛ حاول مجددًا بعد لحظة</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>ما طُبع ما زال على الرفّ</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>لا توجد ذاكرة كافية</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>تعذّرت قراءة إجابة Corvane العامل</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -311,6 +311,26 @@ angezeigt oder verborgen.</translation>
         <source>%1; see corvane --help</source>
         <translation>%1; siehe corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>das laufende Corvane ist noch nicht bereit; versuchen Sie es gleich noch einmal</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>das laufende Corvane hat zu viel zu tun; versuchen Sie es gleich noch einmal</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>was ausgegeben wurde, ist noch in der Ablage</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>es ist nicht genug Speicher frei</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>die Antwort des laufenden Corvane kann nicht gelesen werden</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -311,6 +311,26 @@ that runs.</translation>
         <source>%1; see corvane --help</source>
         <translation>%1; see corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>the Corvane that runs is not ready yet; try again in a moment</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>the Corvane that runs has too much to do; try again in a moment</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>what was printed is still on the shelf</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>there is not enough memory</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>the answer of the Corvane that runs cannot be read</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -311,6 +311,26 @@ se está ejecutando.</translation>
         <source>%1; see corvane --help</source>
         <translation>%1; consulte corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>el Corvane en ejecución aún no está listo; inténtelo de nuevo en un momento</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>el Corvane en ejecución está saturado; inténtelo de nuevo en un momento</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>lo que se ha mostrado sigue en el estante</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>no hay memoria suficiente</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>no se puede leer la respuesta del Corvane en ejecución</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

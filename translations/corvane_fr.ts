@@ -311,6 +311,26 @@ qui est lancé.</translation>
         <source>%1; see corvane --help</source>
         <translation>%1&#xa0;; voir corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>le Corvane en cours d’exécution n’est pas encore prêt&#xa0;; réessayez dans un instant</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>le Corvane en cours d’exécution est surchargé&#xa0;; réessayez dans un instant</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>ce qui a été affiché est encore sur l’étagère</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>la mémoire est insuffisante</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>la réponse du Corvane en cours d’exécution est illisible</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -311,6 +311,26 @@ that runs.</source>
         <source>%1; see corvane --help</source>
         <translation>%1; ראו corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>ה־Corvane הפועל עדיין אינו מוכן; יש לנסות שוב בעוד רגע</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>ה־Corvane הפועל עמוס מדי; יש לנסות שוב בעוד רגע</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>מה שהודפס עדיין על המדף</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>אין די זיכרון</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>אי אפשר לקרוא את התשובה של ה־Corvane הפועל</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -311,6 +311,26 @@ that runs.</source>
         <source>%1; see corvane --help</source>
         <translation>%1; corvane --help देखें</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>चल रहा Corvane अभी तैयार नहीं है; थोड़ी देर में फिर प्रयास करें</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>चल रहे Corvane के पास बहुत काम है; थोड़ी देर में फिर प्रयास करें</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>जो छापा गया वह अब भी शेल्फ़ पर है</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>पर्याप्त मेमोरी नहीं है</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>चल रहे Corvane का उत्तर पढ़ा नहीं जा सकता</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

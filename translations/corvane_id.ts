@@ -308,6 +308,26 @@ rak dari Corvane yang sudah berjalan.</translation>
         <source>%1; see corvane --help</source>
         <translation>%1; lihat corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>Corvane yang berjalan belum siap; cobalah beberapa saat lagi</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>Corvane yang berjalan terlalu sibuk; cobalah beberapa saat lagi</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>yang dicetak masih ada di rak</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>memori tidak cukup</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>jawaban Corvane yang berjalan tidak dapat dibaca</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -311,6 +311,26 @@ in esecuzione.</translation>
         <source>%1; see corvane --help</source>
         <translation>%1; vedi corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>il Corvane in esecuzione non è ancora pronto; riprova tra un momento</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>il Corvane in esecuzione ha troppo da fare; riprova tra un momento</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>ciò che è stato stampato è ancora sul ripiano</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>la memoria non è sufficiente</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>la risposta del Corvane in esecuzione non è leggibile</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -308,6 +308,26 @@ that runs.</source>
         <source>%1; see corvane --help</source>
         <translation>%1。corvane --help を参照してください</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>動作中の Corvane はまだ準備ができていません。しばらくしてからやり直してください</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>動作中の Corvane は処理で手一杯です。しばらくしてからやり直してください</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>出力したものはシェルフに残っています</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>メモリーが足りません</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>動作中の Corvane の応答を読み取れません</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -308,6 +308,26 @@ that runs.</source>
         <source>%1; see corvane --help</source>
         <translation>%1. corvane --help를 보십시오</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>실행 중인 Corvane이 아직 준비되지 않았습니다. 잠시 후 다시 시도하십시오</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>실행 중인 Corvane이 너무 바쁩니다. 잠시 후 다시 시도하십시오</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>출력한 것이 아직 선반에 있습니다</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>메모리가 부족합니다</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>실행 중인 Corvane의 응답을 읽을 수 없습니다</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -314,6 +314,26 @@ który już działa.</translation>
         <source>%1; see corvane --help</source>
         <translation>%1; zobacz corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>działający Corvane nie jest jeszcze gotowy; spróbuj ponownie za chwilę</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>działający Corvane ma zbyt wiele do zrobienia; spróbuj ponownie za chwilę</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>to, co wypisano, jest nadal na półce</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>brakuje pamięci</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>nie można odczytać odpowiedzi działającego Corvane</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

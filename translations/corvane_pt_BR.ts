@@ -311,6 +311,26 @@ está em execução.</translation>
         <source>%1; see corvane --help</source>
         <translation>%1; veja corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>o Corvane em execução ainda não está pronto; tente de novo em instantes</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>o Corvane em execução está sobrecarregado; tente de novo em instantes</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>o que foi exibido continua na prateleira</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>não há memória suficiente</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>não é possível ler a resposta do Corvane em execução</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -314,6 +314,26 @@ that runs.</source>
         <source>%1; see corvane --help</source>
         <translation>%1; см. corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>запущенный Corvane ещё не готов; повторите попытку чуть позже</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>запущенный Corvane слишком занят; повторите попытку чуть позже</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>то, что было выведено, осталось на полке</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>недостаточно памяти</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>не удаётся прочитать ответ запущенного Corvane</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

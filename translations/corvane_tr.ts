@@ -308,6 +308,26 @@ veya gizler.</translation>
         <source>%1; see corvane --help</source>
         <translation>%1; corvane --help komutuna bakın</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>çalışan Corvane henüz hazır değil; biraz sonra yeniden deneyin</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>çalışan Corvane çok meşgul; biraz sonra yeniden deneyin</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>yazdırılanlar hâlâ rafta</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>yeterli bellek yok</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>çalışan Corvane’in yanıtı okunamıyor</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -314,6 +314,26 @@ that runs.</source>
         <source>%1; see corvane --help</source>
         <translation>%1; див. corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>запущений Corvane ще не готовий; спробуйте знову за мить</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>запущений Corvane надто зайнятий; спробуйте знову за мить</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>виведене лишилося на полиці</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>недостатньо пам’яті</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>не вдається прочитати відповідь запущеного Corvane</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

@@ -308,6 +308,26 @@ that runs.</source>
         <source>%1; see corvane --help</source>
         <translation>%1；请参阅 corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>正在运行的 Corvane 尚未就绪，请稍后重试</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>正在运行的 Corvane 太忙，请稍后重试</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>已输出的项目仍在置物架上</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>内存不足</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>无法读取正在运行的 Corvane 的应答</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

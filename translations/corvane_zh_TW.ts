@@ -308,6 +308,26 @@ that runs.</source>
         <source>%1; see corvane --help</source>
         <translation>%1；請參閱 corvane --help</translation>
     </message>
+    <message>
+        <source>the Corvane that runs is not ready yet; try again in a moment</source>
+        <translation>正在執行的 Corvane 尚未就緒，請稍後再試</translation>
+    </message>
+    <message>
+        <source>the Corvane that runs has too much to do; try again in a moment</source>
+        <translation>正在執行的 Corvane 太忙，請稍後再試</translation>
+    </message>
+    <message>
+        <source>what was printed is still on the shelf</source>
+        <translation>已輸出的項目仍在置物架上</translation>
+    </message>
+    <message>
+        <source>there is not enough memory</source>
+        <translation>記憶體不足</translation>
+    </message>
+    <message>
+        <source>the answer of the Corvane that runs cannot be read</source>
+        <translation>無法讀取正在執行的 Corvane 的回應</translation>
+    </message>
 </context>
 <context>
     <name>ItemTexts</name>

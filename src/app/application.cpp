@@ -4,7 +4,6 @@
 #include "app/base/translations.h"
 #include "app/commands/command_answers.h"
 #include "app/commands/command_line.h"
-#include "app/commands/command_problem.h"
 #include "app/commands/start_wish.h"
 #include "app/commands/toolkit_start.h"
 #include "app/composition_root.h"
@@ -117,14 +116,14 @@ std::optional<int> askedOfAnother(StartWish &wish, const AppInfo &info)
 
 /// The exit status of a start beside another process; none if this process is the one to run.
 std::optional<int> endBesideAnother(SingleInstance::Outcome outcome, const StartWish &wish,
-                                    const SingleInstance &instance)
+                                    const DBusSingleInstance &instance)
 {
     complainOf(wish);
     switch (outcome) {
     case SingleInstance::Outcome::HandedOver:
         return wish.problems().isEmpty() ? 0 : 1;
     case SingleInstance::Outcome::Refused:
-        command_answers::complain(command_problem::line(CommandProblem::NotDoneByOther));
+        command_answers::complain(command_answers::whyRefused(instance.other()));
         return 1;
     case SingleInstance::Outcome::NotAnswering:
         tellOfUnansweredStart(instance.otherProcess());

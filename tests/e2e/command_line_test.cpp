@@ -2,6 +2,9 @@
 
 #include "e2e/desktop_test.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -35,7 +38,8 @@ Outcome inShell(const QByteArray &line, const QProcessEnvironment &environment,
     shell.write(line + '\n');
     shell.closeWriteChannel();
     Outcome outcome;
-    if (shell.waitForFinished(static_cast<int>(patience.count()))) {
+    // Events go on meanwhile: what runs in the shell may ask this process something.
+    if (eventually([&] { return shell.state() == QProcess::NotRunning; })) {
         outcome.status
             = shell.exitStatus() == QProcess::CrashExit ? 128 + shell.exitCode() : shell.exitCode();
     } else {
@@ -46,6 +50,33 @@ Outcome inShell(const QByteArray &line, const QProcessEnvironment &environment,
     outcome.errors = shell.readAllStandardError();
     return outcome;
 }
+
+/// A process that has the program's name and refuses everything, in words of its own.
+class RefusingCorvane : public QDBusVirtualObject {
+public:
+    explicit RefusingCorvane(const XDesktop &desktop)
+        : m_bus(QDBusConnection::connectToBus(
+            desktop.environment().value(u"DBUS_SESSION_BUS_ADDRESS"_s), u"refusing"_s))
+    {
+        m_bus.registerVirtualObject(u"/example/corvane/Corvane"_s, this);
+        EXPECT_TRUE(m_bus.registerService(u"example.corvane.Corvane"_s));
+    }
+    ~RefusingCorvane() override { QDBusConnection::disconnectFromBus(m_bus.name()); }
+
+    QString introspect(const QString &) const override { return {}; }
+    bool handleMessage(const QDBusMessage &message, const QDBusConnection &bus) override
+    {
+        // By which a later process sees that this one is no stuck one.
+        if (message.member() == u"Introspect")
+            return bus.send(message.createReply(u"<node/>"_s));
+        return bus.send(message.createErrorReply(error, u"This is English"_s));
+    }
+
+    QString error;
+
+private:
+    QDBusConnection m_bus;
+};
 
 class CommandLine : public DesktopTest {
 protected:
@@ -232,6 +263,34 @@ TEST_F(CommandLine, speaksTheSessionsLanguage)
     EXPECT_TRUE(inShell("corvane", german).errors.contains("keine Anzeige"));
     EXPECT_TRUE(
         inShell("DISPLAY=:4000 corvane", german).errors.contains("die Anzeige kann nicht benutzt"));
+}
+
+TEST_F(CommandLine, whatTheOneThatRunsRefusesIsSaidInTheSessionsLanguage)
+{
+    RefusingCorvane other(m_desktop);
+    QProcessEnvironment german = m_desktop.environment();
+    german.insert(u"CORVANE_LANGUAGE"_s, u"de"_s);
+    makeFile(u"in the shell/a"_s, "x");
+    for (const auto &[error, line] : {
+             std::pair("example.corvane.Error.NotReady",
+                       "das laufende Corvane ist noch nicht bereit; versuchen Sie es gleich noch "
+                       "einmal"),
+             std::pair("org.freedesktop.DBus.Error.LimitsExceeded",
+                       "das laufende Corvane hat zu viel zu tun; versuchen Sie es gleich noch "
+                       "einmal"),
+             std::pair(
+                 "org.freedesktop.DBus.Error.UnknownMethod",
+                 "das laufende Corvane kann das nicht; vielleicht ist es eine ältere Version"),
+             std::pair("org.freedesktop.DBus.Error.AccessDenied",
+                       "das laufende Corvane meldet: org.freedesktop.DBus.Error.AccessDenied"),
+         }) {
+        other.error = QString::fromLatin1(error);
+        for (const char *arguments : {"--list", "--take", "--quit", "--show-all", "a"}) {
+            const Outcome outcome = inShell(QByteArray("corvane ") + arguments, german, m_folder);
+            EXPECT_EQ(outcome.status, 1) << arguments;
+            EXPECT_EQ(outcome.errors, QByteArray("corvane: ") + line + '\n') << arguments;
+        }
+    }
 }
 
 TEST_F(CommandLine, theDesktopOpensFilesAndUnknownActionsAreErrors)

@@ -3,7 +3,6 @@
 #include "app/base/app_info.h"
 #include "app/commands/command_options.h"
 #include "app/commands/command_problem.h"
-#include "platform/freedesktop/running_program.h"
 #include "platform/freedesktop/session_bus.h"
 #include "platform/system/file_descriptor.h"
 
@@ -43,8 +42,7 @@ int failedBy(const RunningProgram &program, RunningProgram::Answer answer)
     if (answer == RunningProgram::Answer::None)
         complain(command_problem::line(CommandProblem::NotAnswering));
     else
-        complain(command_problem::line(CommandProblem::RefusedByOther,
-                                       {program.problem().toLocal8Bit()}));
+        complain(whyRefused(program));
     return failed;
 }
 
@@ -83,6 +81,29 @@ int quit(const RunningProgram &program)
 void complain(const QByteArray &line)
 {
     std::fprintf(stderr, "corvane: %s\n", line.constData());
+}
+
+QByteArray whyRefused(const RunningProgram &program)
+{
+    using enum RunningProgram::Refusal;
+    switch (program.refusal()) {
+    case NotReady:
+        return command_problem::line(CommandProblem::OtherNotReady);
+    case TooMuch:
+        return command_problem::line(CommandProblem::OtherBusy);
+    case NotKnown:
+        return command_problem::line(CommandProblem::NotDoneByOther);
+    case NothingTaken:
+        return command_problem::line(CommandProblem::NothingTaken);
+    case NoMemory:
+        return command_problem::line(CommandProblem::NoMemory);
+    case AnswerUnreadable:
+        return command_problem::line(CommandProblem::AnswerUnreadable);
+    case Other:
+        break;
+    }
+    return command_problem::line(CommandProblem::RefusedByOther,
+                                 {program.refusedBy().toLocal8Bit()});
 }
 
 std::optional<int> atOnce(const CommandLine &line, const AppInfo &info)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/commands/command_line.h"
+#include "platform/freedesktop/running_program.h"
 
 #include <QByteArray>
 #include <QList>
@@ -17,6 +18,10 @@ namespace command_answers {
 
 /// Writes one line for people to standard error, after the program's name.
 void complain(const QByteArray &line);
+
+/// One line for people: why the process that runs refused what it was asked. What it said itself is
+/// English and does not stand in it.
+QByteArray whyRefused(const RunningProgram &program);
 
 /// Help, version, and what is wrong with the arguments. The exit status; none for everything else.
 std::optional<int> atOnce(const CommandLine &line, const AppInfo &info);

@@ -44,6 +44,19 @@ const char *sourceOf(CommandProblem problem)
     case NotDoneByOther:
         return QT_TRANSLATE_NOOP(
             "CommandProblem", "the Corvane that runs does not do this; it may be an older version");
+    case OtherNotReady:
+        return QT_TRANSLATE_NOOP("CommandProblem",
+                                 "the Corvane that runs is not ready yet; try again in a moment");
+    case OtherBusy:
+        return QT_TRANSLATE_NOOP("CommandProblem",
+                                 "the Corvane that runs has too much to do; try again in a moment");
+    case NothingTaken:
+        return QT_TRANSLATE_NOOP("CommandProblem", "what was printed is still on the shelf");
+    case NoMemory:
+        return QT_TRANSLATE_NOOP("CommandProblem", "there is not enough memory");
+    case AnswerUnreadable:
+        return QT_TRANSLATE_NOOP("CommandProblem",
+                                 "the answer of the Corvane that runs cannot be read");
     case DisplayUnusable:
         return QT_TRANSLATE_NOOP("CommandProblem", "the display cannot be used: %1");
     case SeeHelp:

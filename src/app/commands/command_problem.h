@@ -23,6 +23,11 @@ enum class CommandProblem {
     NotAnswering,
     RefusedByOther,
     NotDoneByOther,
+    OtherNotReady,
+    OtherBusy,
+    NothingTaken,
+    NoMemory,
+    AnswerUnreadable,
     DisplayUnusable,
     SeeHelp,
 };

@@ -2,6 +2,7 @@
 
 #include "platform/freedesktop/session_bus.h"
 #include "platform/freedesktop/shelf_adaptor.h"
+#include "platform/freedesktop/shelf_errors.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -123,9 +124,9 @@ void DBusSingleInstance::Open(const QStringList &uris, const QVariantMap &platfo
     for (const QString &uri : uris)
         delivery.bytes += uri.toUtf8().replace('\n', "").replace('\r', "") + "\r\n";
     if (!m_shelf->requests)
-        refuse("org.freedesktop.DBus.Error.Failed", QStringLiteral("Corvane is not ready yet"));
+        refuse(shelf_errors::notReady, QStringLiteral("Corvane is not ready yet"));
     else if (uris.size() > mostAddresses || delivery.bytes.size() > ShelfRequests::maximumBytes)
-        refuse("org.freedesktop.DBus.Error.LimitsExceeded", QStringLiteral("too many addresses"));
+        refuse(shelf_errors::tooMuch, QStringLiteral("too many addresses"));
     else
         m_shelf->requests->put(delivery, [](int) {});
 }
@@ -135,13 +136,11 @@ void DBusSingleInstance::ActivateAction(const QString &name, const QVariantList 
 {
     m_isBeingLaunched = false;
     if (!m_shelf->requests)
-        refuse("org.freedesktop.DBus.Error.Failed", QStringLiteral("Corvane is not ready yet"));
+        refuse(shelf_errors::notReady, QStringLiteral("Corvane is not ready yet"));
     else if (!parameter.isEmpty())
-        refuse("org.freedesktop.DBus.Error.InvalidArgs",
-               QStringLiteral("actions of Corvane have no parameters"));
+        refuse(shelf_errors::badArguments, QStringLiteral("actions of Corvane have no parameters"));
     else if (!m_shelf->requests->act(name, activationToken(platformData)))
-        refuse("org.freedesktop.DBus.Error.InvalidArgs",
-               QStringLiteral("Corvane has no action of that name"));
+        refuse(shelf_errors::badArguments, QStringLiteral("Corvane has no action of that name"));
 }
 
 } // namespace corvane

@@ -44,6 +44,8 @@ public:
     void setStartedByBus() { m_isBeingLaunched = true; }
     Outcome acquire(std::function<void()> onReopen) override;
     std::optional<qint64> otherProcess() const override { return m_other.process(); }
+    /// The process that was asked, where there is another one.
+    const RunningProgram &other() const { return m_other; }
 
     /// Sets who does what other processes ask for; until then they are refused. Null to end that.
     void setRequests(ShelfRequests *requests);

@@ -1,6 +1,7 @@
 #include "platform/freedesktop/running_program.h"
 
 #include "platform/freedesktop/shelf_adaptor.h"
+#include "platform/freedesktop/shelf_errors.h"
 #include "platform/system/sealed_memory.h"
 
 #include <QDBusConnection>
@@ -23,6 +24,25 @@ bool tellsOfNobody(const QString &error)
     return error == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown")
         || error == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner")
         || error == QLatin1String("org.freedesktop.DBus.Error.Disconnected");
+}
+
+RunningProgram::Refusal refusalOf(const QString &error)
+{
+    using enum RunningProgram::Refusal;
+    for (const auto &[name, refusal] : {
+             std::pair(shelf_errors::notReady, NotReady),
+             std::pair(shelf_errors::tooMuch, TooMuch),
+             std::pair(shelf_errors::badArguments, NotKnown),
+             std::pair("org.freedesktop.DBus.Error.UnknownObject", NotKnown),
+             std::pair("org.freedesktop.DBus.Error.UnknownInterface", NotKnown),
+             std::pair("org.freedesktop.DBus.Error.UnknownMethod", NotKnown),
+             std::pair(shelf_errors::nothingTaken, NothingTaken),
+             std::pair(shelf_errors::noMemory, NoMemory),
+         }) {
+        if (error == QLatin1String(name))
+            return refusal;
+    }
+    return Other;
 }
 
 } // namespace
@@ -85,8 +105,16 @@ RunningProgram::Answer RunningProgram::ask(const QString &interface, const QStri
     }
     if (reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NoReply"))
         return Answer::None;
-    m_problem = reply.errorMessage().section(QLatin1Char('\n'), 0, 0);
-    return tellsOfNobody(reply.errorName()) ? Answer::Gone : Answer::Refused;
+    if (tellsOfNobody(reply.errorName()))
+        return Answer::Gone;
+    return refused(refusalOf(reply.errorName()), reply.errorName());
+}
+
+RunningProgram::Answer RunningProgram::refused(Refusal refusal, const QString &name) const
+{
+    m_refusal = refusal;
+    m_refusedBy = name;
+    return Answer::Refused;
 }
 
 RunningProgram::Answer RunningProgram::isAlive() const
@@ -113,10 +141,8 @@ RunningProgram::Answer RunningProgram::act(const QString &action) const
 RunningProgram::Answer RunningProgram::put(const ShelfDelivery &delivery, int &items) const
 {
     const FileDescriptor memory = sealed_memory::holding(delivery.bytes);
-    if (!memory.isOpen()) {
-        m_problem = QStringLiteral("there is not enough memory");
-        return Answer::Refused;
-    }
+    if (!memory.isOpen())
+        return refused(Refusal::NoMemory);
     QVariantList results;
     const Answer answer = ask(ShelfAdaptor::interfaceName(), QStringLiteral("Put"),
                               {ShelfAdaptor::nameOf(delivery.kind),
@@ -139,10 +165,8 @@ RunningProgram::Answer RunningProgram::askForEntries(const QString &method,
         : qvariant_cast<QDBusUnixFileDescriptor>(results.constFirst());
     const auto contents
         = sealed_memory::contents(memory.fileDescriptor(), std::numeric_limits<qint32>::max());
-    if (!contents) {
-        m_problem = QStringLiteral("the answer cannot be read");
-        return Answer::Refused;
-    }
+    if (!contents)
+        return refused(Refusal::AnswerUnreadable);
     entries = *contents;
     return Answer::Done;
 }

@@ -21,8 +21,24 @@ public:
         Gone,
         /// Nothing came within the time limit, or it ended meanwhile.
         None,
-        /// It answers, but not to this; `problem` says why.
+        /// It answers, but not to this; `refusal` says why.
         Refused,
+    };
+
+    enum class Refusal {
+        /// It has just been started, or is about to end.
+        NotReady,
+        /// Too many calls wait for their answers.
+        TooMuch,
+        /// It does not know of this: an older version, or another program.
+        NotKnown,
+        NothingTaken,
+        /// Of this process or of the other.
+        NoMemory,
+        /// Its answer is none.
+        AnswerUnreadable,
+        /// Of a kind that it does not answer by itself; `refusedBy` names the bus's error.
+        Other,
     };
 
     static constexpr int busMilliseconds = 2'000;
@@ -53,8 +69,10 @@ public:
     /// Has it end, and waits until it has.
     Answer end() const;
 
-    /// What the last call that was refused was told; one line.
-    QString problem() const { return m_problem; }
+    /// Why the last call was refused that was.
+    Refusal refusal() const { return m_refusal; }
+    /// The name of the error by which it was, empty if that came up in this process.
+    QString refusedBy() const { return m_refusedBy; }
 
     /// Passed on with `activate` and `act`: the desktop's permission to come to the front.
     void setPlatformData(const QVariantMap &data) { m_platformData = data; }
@@ -65,10 +83,12 @@ private:
     Answer ask(const QString &interface, const QString &method, const QVariantList &arguments,
                int milliseconds, QVariantList *results = nullptr) const;
     Answer askForEntries(const QString &method, QByteArray &entries) const;
+    Answer refused(Refusal refusal, const QString &name = {}) const;
 
     QString m_applicationId;
     QVariantMap m_platformData;
-    mutable QString m_problem;
+    mutable Refusal m_refusal = Refusal::Other;
+    mutable QString m_refusedBy;
 };
 
 } // namespace corvane

@@ -1,5 +1,6 @@
 #include "platform/freedesktop/shelf_adaptor.h"
 
+#include "platform/freedesktop/shelf_errors.h"
 #include "platform/system/sealed_memory.h"
 
 #include <QDBusConnection>
@@ -55,12 +56,11 @@ void ShelfAdaptor::refuse(const QDBusMessage &message, const char *error, const 
 bool ShelfAdaptor::mayWait(const QDBusMessage &message)
 {
     if (!requests) {
-        refuse(message, "org.freedesktop.DBus.Error.Failed", "Corvane is not ready yet");
+        refuse(message, shelf_errors::notReady, "Corvane is not ready yet");
         return false;
     }
     if (m_waiting >= mostWaiting) {
-        refuse(message, "org.freedesktop.DBus.Error.LimitsExceeded",
-               "too many calls wait for their answers");
+        refuse(message, shelf_errors::tooMuch, "too many calls wait for their answers");
         return false;
     }
     ++m_waiting;
@@ -81,7 +81,7 @@ uint ShelfAdaptor::Put(const QString &kind, const QDBusUnixFileDescriptor &memor
     const auto contents
         = sealed_memory::contents(memory.fileDescriptor(), ShelfRequests::maximumBytes);
     if (!known || !contents)
-        refuse(message, "org.freedesktop.DBus.Error.InvalidArgs",
+        refuse(message, shelf_errors::badArguments,
                known ? "the contents are no sealed memory, or too many" : "there is no such kind");
     else if (mayWait(message))
         requests->put({*known, *contents}, m_lifetime.guard([this, message](int items) {
@@ -99,7 +99,7 @@ ShelfRequests::Entries ShelfAdaptor::sendingTo(const QDBusMessage &message)
             return;
         }
         --m_waiting;
-        refuse(message, "org.freedesktop.DBus.Error.NoMemory", "there is not enough memory");
+        refuse(message, shelf_errors::noMemory, "there is not enough memory");
     });
 }
 
@@ -151,13 +151,13 @@ void ShelfAdaptor::takerLeft(const QString &taker)
 void ShelfAdaptor::ConfirmTaken(const QDBusMessage &message) const
 {
     if (!requests || !requests->taken(message.service()))
-        refuse(message, "org.freedesktop.DBus.Error.Failed", "nothing was taken");
+        refuse(message, shelf_errors::nothingTaken, "nothing was taken");
 }
 
 void ShelfAdaptor::End(const QDBusMessage &message) const
 {
     if (!requests) {
-        refuse(message, "org.freedesktop.DBus.Error.Failed", "Corvane is not ready yet");
+        refuse(message, shelf_errors::notReady, "Corvane is not ready yet");
         return;
     }
     message.setDelayedReply(true);

@@ -79,6 +79,7 @@ TEST_F(ProgramRequestsTest, MoreEntriesThanAMessageHoldsAreListed)
 TEST_F(ProgramRequestsTest, ATakerConfirmsWhatItTook)
 {
     EXPECT_EQ(program.confirmTaken(), Answer::Refused);
+    EXPECT_EQ(program.refusal(), RunningProgram::Refusal::NothingTaken);
     QByteArray entries;
     ASSERT_EQ(program.take(entries), Answer::Done);
     EXPECT_EQ(entries, QByteArray("/a\0", 3));
@@ -105,7 +106,7 @@ TEST_F(ProgramRequestsTest, ActionsAreDoneAndUnknownOnesAreErrors)
     EXPECT_EQ(program.act(QStringLiteral("known")), Answer::Done);
     EXPECT_TRUE(scene.waitFor("known token"));
     EXPECT_EQ(program.act(QStringLiteral("unknown")), Answer::Refused);
-    EXPECT_FALSE(program.problem().isEmpty());
+    EXPECT_EQ(program.refusal(), RunningProgram::Refusal::NotKnown);
     const auto withParameter
         = ask(QDBusConnection::sessionBus(), application, QStringLiteral("ActivateAction"),
               {QStringLiteral("known"), QVariantList{1}, QVariantMap()});
