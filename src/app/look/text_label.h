@@ -12,7 +12,8 @@ public:
     enum class Tone {
         Primary,
         Secondary,
-        /// Like `Secondary`, with wider letter spacing: the title of a group.
+        /// Like `Secondary`, with wider letter spacing where letters are not joined: the title of a
+        /// group.
         Heading,
     };
 
@@ -20,9 +21,11 @@ public:
 
 protected:
     void changeEvent(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
 
 private:
     void applyTone();
+    void drawLinesFromTheRight();
 
     Tone m_tone;
 };
