@@ -936,7 +936,7 @@ angezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
-        <translation>Per Tastatur: Kürzel der Ablage, dann %1 zum Einfügen, %2 zum Weitergehen.</translation>
+        <translation>Per Tastatur: Kürzel der Ablage, %1 fügt ein, %2 geht weiter.</translation>
     </message>
 </context>
 <context>

@@ -23,6 +23,7 @@ constexpr double limitSize = 12;
 constexpr double textInset = 58;
 constexpr double beforeTitle = 26;
 constexpr double afterTitle = 10;
+constexpr double beforeIndicator = 8;
 constexpr double buttonMargin = 22;
 constexpr double buttonTextSize = 13;
 constexpr QSize buttonSize{116, 30};
@@ -64,6 +65,7 @@ WelcomeView::WelcomeView(const MotionPreference &motion, SessionAbilities &abili
     layout->addWidget(m_limit);
     layout->addWidget(m_keys);
     layout->addStretch();
+    layout->addSpacing(m_look.length(beforeIndicator));
     layout->addWidget(m_indicator, 0, Qt::AlignHCenter);
     layout->addWidget(makeButtons());
     showStep(0);
