@@ -1,5 +1,7 @@
 #include "preview/elided_label.h"
 
+#include "preview/preview_look.h"
+
 #include <QPainter>
 #include <QTextLayout>
 
@@ -77,11 +79,8 @@ int ElidedLabel::heightForWidth(int width) const
 void ElidedLabel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    QColor color = palette().color(QPalette::WindowText);
-    constexpr float subdued = 0.65F;
-    if (m_isSubdued)
-        color.setAlphaF(subdued);
-    painter.setPen(color);
+    painter.setPen(m_isSubdued ? preview_look::details(palette())
+                               : palette().color(QPalette::WindowText));
     const QStringList shown = lines(width());
     const int height = fontMetrics().height();
     int y = (rect().height() - height * static_cast<int>(shown.size())) / 2;

@@ -12,7 +12,7 @@ public:
     explicit ElidedLabel(QWidget *parent = nullptr);
 
     void setText(const QString &text);
-    /// Draws the text paler than other texts.
+    /// Draws the text paler than other texts, unless contrast is wanted.
     void setSubdued(bool isSubdued);
     /// 1 unless set.
     void setMaximumLines(int count);

@@ -1,6 +1,7 @@
 #include "preview/pages_view.h"
 
 #include "preview/preview_geometry.h"
+#include "preview/preview_look.h"
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -75,7 +76,7 @@ void PagesView::paintEvent(QPaintEvent *)
     painter.fillRect(viewport()->rect(), palette().color(QPalette::Window));
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.translate(0, -verticalScrollBar()->value());
-    const QColor edge = QColor::fromRgb(0, 0, 0, 40);
+    const QColor edge = preview_look::line(palette(), QColor::fromRgb(0, 0, 0, 40));
     const auto [from, to] = nearPages();
     for (int page = from; page <= to; ++page) {
         const QRectF rect = m_rects[page];

@@ -5,6 +5,7 @@
 #include "preview/pages_view.h"
 #include "preview/picture_view.h"
 #include "preview/preview_geometry.h"
+#include "preview/preview_look.h"
 #include "preview/text_view.h"
 
 #include <QCloseEvent>
@@ -206,7 +207,8 @@ void PreviewWindow::paintEvent(QPaintEvent *)
     QColor color = palette().color(QPalette::WindowText);
     constexpr float faint = 0.15F;
     color.setAlphaF(faint);
-    painter.fillRect(QRectF(0, m_bar->y(), width(), 1 / devicePixelRatioF()), color);
+    const double height = preview_look::hasMoreContrast() ? 1 : 1 / devicePixelRatioF();
+    painter.fillRect(QRectF(0, m_bar->y(), width(), height), preview_look::line(palette(), color));
 }
 
 } // namespace corvane

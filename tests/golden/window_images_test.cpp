@@ -4,9 +4,13 @@
 
 #include "app/base/translations.h"
 #include "app/look/window_look.h"
+#include "fakes/test_clock.h"
 #include "golden/golden.h"
 #include "golden/panel_stage.h"
 #include "golden/window_stage.h"
+#include "preview/manual_loading.h"
+#include "preview/preview_geometry.h"
+#include "preview/preview_window.h"
 
 #include <QCoreApplication>
 #include <QLocale>
@@ -56,8 +60,9 @@ TEST(WindowContrast, groupsAndControlsHaveEdgesAtOnceWhenContrastIsWanted)
     const Translations english({QStringLiteral("en")});
     const WindowLookForPictures look(Scheme::Light);
     for (const WindowState &state : windowStates()) {
-        const QString name = QLatin1String(state.name);
-        if (!name.startsWith(u"preferences-") && name != QStringLiteral("update-available"))
+        static const QStringList alike{QStringLiteral("welcome-2"), QStringLiteral("welcome-3"),
+                                       QStringLiteral("update-failed")};
+        if (alike.contains(QLatin1String(state.name)))
             continue;
         WindowLookForPictures::use(Scheme::Light);
         const auto stage = state.make();
@@ -68,6 +73,32 @@ TEST(WindowContrast, groupsAndControlsHaveEdgesAtOnceWhenContrastIsWanted)
         WindowLookForPictures::use(Scheme::Dark);
         EXPECT_TRUE(matchesGoldenImage(u"contrast-" % state.fileName(Scheme::Dark, 1),
                                        pictureOf(stage->window(), 1)));
+        WindowLook::setContrast(WindowLook::Contrast::Usual);
+    }
+}
+
+TEST(WindowContrast, thePreviewHasALineAndStrongDetailsAtOnceWhenContrastIsWanted)
+{
+    const Translations english({QStringLiteral("en")});
+    const WindowLookForPictures look(Scheme::Light);
+    ManualLoading loading;
+    TestClock clock;
+    PreviewWindow window(loading, clock);
+    PreviewContent content;
+    content.details = {QStringLiteral("Notes.data"), QStringLiteral("Data"), QStringLiteral("5 KB"),
+                       QStringLiteral("yesterday")};
+    content.canBeOpened = true;
+    window.setContent(content, {});
+    window.resize(preview_geometry::smallestWindow);
+    window.show();
+    QCoreApplication::processEvents();
+    for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
+        WindowLookForPictures::use(scheme);
+        const QString end = scheme == Scheme::Light ? QStringLiteral("light-1x.png")
+                                                    : QStringLiteral("dark-1x.png");
+        EXPECT_TRUE(matchesGoldenImage(u"preview-details-" % end, pictureOf(window, 1)));
+        WindowLook::setContrast(WindowLook::Contrast::More);
+        EXPECT_TRUE(matchesGoldenImage(u"contrast-preview-details-" % end, pictureOf(window, 1)));
         WindowLook::setContrast(WindowLook::Contrast::Usual);
     }
 }

@@ -1,4 +1,5 @@
 #include "preview/elided_label.h"
+#include "preview/preview_look.h"
 
 #include <QVBoxLayout>
 
@@ -51,6 +52,18 @@ TEST(ElidedLabelTest, IsFainterWhereItStandsBehindAnother)
     EXPECT_NE(label.grab().toImage(), plain);
     label.setSubdued(false);
     EXPECT_EQ(label.grab().toImage(), plain);
+}
+
+TEST(ElidedLabelTest, IsNoFainterWhereContrastIsWanted)
+{
+    ElidedLabel label;
+    label.setText(name);
+    const QImage plain = label.grab().toImage();
+    label.setSubdued(true);
+    preview_look::setContrast(preview_look::Contrast::More);
+    EXPECT_EQ(label.grab().toImage(), plain);
+    preview_look::setContrast(preview_look::Contrast::Usual);
+    EXPECT_NE(label.grab().toImage(), plain);
 }
 
 TEST(ElidedLabelTest, IsGivenTheRoomOfItsLines)

@@ -1,6 +1,7 @@
 #include "app/look/window_look.h"
 
 #include "platform/desktop/appearance_preference.h"
+#include "preview/preview_look.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -44,6 +45,8 @@ void WindowLook::setContrast(Contrast contrast)
 {
     if (std::exchange(presentContrast, contrast) == contrast)
         return;
+    using Previews = preview_look::Contrast;
+    preview_look::setContrast(contrast == Contrast::More ? Previews::More : Previews::Usual);
     QList<QPointer<QWidget>> widgets;
     for (QWidget *widget : QApplication::allWidgets())
         widgets << widget;
@@ -92,13 +95,16 @@ QString WindowLook::scrollBarStyle() const
 QString WindowLook::progressBarStyle() const
 {
     const int height = length(progressBarHeight);
+    // The height is without the edges, which reach beyond the usual one.
     return QStringLiteral(
-               "QProgressBar { background: rgba(128, 128, 128, 60); border: none;"
-               " border-radius: %2px; height: %1px; min-height: %1px; max-height: %1px; }"
+               "QProgressBar { background: rgba(128, 128, 128, 60); border: %3;"
+               " border-radius: %4px; height: %1px; min-height: %1px; max-height: %1px; }"
                "QProgressBar::chunk { background: palette(highlight);"
                " border-radius: %2px; }")
-        .arg(height)
-        .arg(height / 2);
+        .arg(QString::number(height), QString::number(height / 2),
+             hasMoreContrast() ? QStringLiteral("1px solid palette(window-text)")
+                               : QStringLiteral("none"),
+             QString::number(height / 2 + (hasMoreContrast() ? 1 : 0)));
 }
 
 void WindowLook::drawCard(QPainter &painter, const QPalette &palette, const QRect &rect) const

@@ -24,7 +24,7 @@ public:
     WindowLook();
 
     /// For people who need more contrast, groups and controls have visible edges, and secondary
-    /// texts are as strong as others. Windows that are shown follow at once.
+    /// texts are as strong as others; in previews, too. Windows that are shown follow at once.
     enum class Contrast { Usual, More };
     static void setContrast(Contrast contrast);
     static bool hasMoreContrast();

@@ -4,6 +4,7 @@
 #include "app/look/text_label.h"
 #include "app/updates/update_texts.h"
 
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPainter>
@@ -136,6 +137,15 @@ void UpdateWindow::paintEvent(QPaintEvent *event)
     QPainter painter(this);
     if (m_notes->isVisible())
         m_look.drawCard(painter, palette(), m_notes->geometry());
+}
+
+void UpdateWindow::changeEvent(QEvent *event)
+{
+    ShellWindow::changeEvent(event);
+    // Contrast may be wanted, or no longer. Setting a style sheet, even the same, sends events.
+    const QString style = m_look.progressBarStyle();
+    if (event->type() == QEvent::PaletteChange && m_progress->styleSheet() != style)
+        m_progress->setStyleSheet(style);
 }
 
 void UpdateWindow::keyPressEvent(QKeyEvent *event)

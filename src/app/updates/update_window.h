@@ -34,6 +34,7 @@ public:
     void setReport(const UpdateReport &report, const UpdateTexts &texts);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 

@@ -77,6 +77,11 @@ void PageIndicator::paintEvent(QPaintEvent *)
         painter.setBrush(WindowLook::accent(palette()));
         painter.drawRoundedRect(shape, height / 2, height / 2);
         painter.setOpacity(1);
+        painter.setPen(WindowLook::edgeOfContrast(palette()));
+        painter.setBrush(Qt::NoBrush);
+        const QRectF edge = WindowLook::insideEdge(shape);
+        painter.drawRoundedRect(edge, edge.height() / 2, edge.height() / 2);
+        painter.setPen(Qt::NoPen);
         x += shape.width() + m_look.length(gap);
     }
 }
