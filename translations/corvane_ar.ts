@@ -972,7 +972,7 @@ that runs.</source>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>يغادر العنصر الرفّ عادةً عندما تلقيه. استمر بالضغط على Shift وأنت تفلته فيبقى، وبذلك تلقي الشيء نفسه في عدة أماكن من دون أن تجمعه مرة أخرى.</translation>
+        <translation>يغادر العنصر الرفّ عادةً عندما تلقيه. استمر بالضغط على Shift وأنت تسحبه فيبقى، وبذلك تلقي الشيء نفسه في عدة أماكن من دون أن تجمعه مرة أخرى.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

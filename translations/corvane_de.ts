@@ -932,7 +932,7 @@ angezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Normalerweise verlässt ein Element die Ablage, wenn Sie es woanders ablegen. Halten Sie beim Loslassen Umschalt gedrückt, dann bleibt es, und Sie können dasselbe an mehreren Stellen ablegen, ohne es neu einzusammeln.</translation>
+        <translation>Normalerweise verlässt ein Element die Ablage, wenn Sie es woanders ablegen. Halten Sie beim Ziehen Umschalt gedrückt, dann bleibt es, und Sie können dasselbe an mehreren Stellen ablegen, ohne es neu einzusammeln.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

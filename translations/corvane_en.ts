@@ -932,7 +932,7 @@ that runs.</translation>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</translation>
+        <translation>Normally an item leaves the shelf when you drop it. Hold Shift while you drag it and it stays, so you can drop the same thing into several places without collecting it again.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

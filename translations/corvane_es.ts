@@ -932,7 +932,7 @@ se está ejecutando.</translation>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Normalmente un elemento deja el estante cuando lo suelta en otro sitio. Mantenga pulsada Mayús al soltarlo y se quedará; así puede soltar lo mismo en varios lugares sin volver a recogerlo.</translation>
+        <translation>Normalmente un elemento deja el estante cuando lo suelta en otro sitio. Mantenga pulsada Mayús mientras lo arrastra y se quedará; así puede soltar lo mismo en varios lugares sin volver a recogerlo.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

@@ -932,7 +932,7 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Normalement, un élément quitte l’étagère quand vous le déposez. Maintenez Maj en le relâchant et il y reste&#xa0;: vous pouvez ainsi déposer la même chose à plusieurs endroits sans la récupérer de nouveau.</translation>
+        <translation>Normalement, un élément quitte l’étagère quand vous le déposez. Maintenez Maj en le faisant glisser et il y reste&#xa0;: vous pouvez ainsi déposer la même chose à plusieurs endroits sans la récupérer de nouveau.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

@@ -932,7 +932,7 @@ that runs.</source>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>בדרך כלל פריט עוזב את המדף כשמשחררים אותו. החזקת Shift בזמן השחרור משאירה אותו, כך שאפשר לשחרר את אותו הדבר בכמה מקומות בלי לאסוף אותו שוב.</translation>
+        <translation>בדרך כלל פריט עוזב את המדף כשמשחררים אותו. החזקת Shift בזמן הגרירה משאירה אותו, כך שאפשר לשחרר את אותו הדבר בכמה מקומות בלי לאסוף אותו שוב.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

@@ -932,7 +932,7 @@ that runs.</source>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>सामान्यतः वस्तु छोड़ने पर शेल्फ़ से चली जाती है। छोड़ते समय Shift दबाए रखें तो वह बनी रहती है, ताकि आप उसे फिर से जुटाए बिना कई स्थानों पर छोड़ सकें।</translation>
+        <translation>सामान्यतः वस्तु छोड़ने पर शेल्फ़ से चली जाती है। खींचते समय Shift दबाए रखें तो वह बनी रहती है, ताकि आप उसे फिर से जुटाए बिना कई स्थानों पर छोड़ सकें।</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

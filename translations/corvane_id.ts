@@ -922,7 +922,7 @@ rak dari Corvane yang sudah berjalan.</translation>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Biasanya butir meninggalkan rak ketika Anda menjatuhkannya. Tahan Shift saat melepas dan butir itu tetap ada, sehingga hal yang sama dapat dijatuhkan di beberapa tempat tanpa mengumpulkannya lagi.</translation>
+        <translation>Biasanya butir meninggalkan rak ketika Anda menjatuhkannya. Tahan Shift selama menyeret dan butir itu tetap ada, sehingga hal yang sama dapat dijatuhkan di beberapa tempat tanpa mengumpulkannya lagi.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

@@ -932,7 +932,7 @@ in esecuzione.</translation>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Di norma un elemento lascia il ripiano quando lo si rilascia altrove. Tenendo premuto Maiusc al rilascio, resta: così si può rilasciare la stessa cosa in più posti senza raccoglierla di nuovo.</translation>
+        <translation>Di norma un elemento lascia il ripiano quando lo si rilascia altrove. Tenendo premuto Maiusc mentre lo si trascina, resta: così si può rilasciare la stessa cosa in più posti senza raccoglierla di nuovo.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

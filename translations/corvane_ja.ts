@@ -922,7 +922,7 @@ that runs.</source>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>通常、ドロップした項目はシェルフからなくなります。Shift キーを押しながら放すと残るので、集め直さなくても同じものをいくつもの場所にドロップできます。</translation>
+        <translation>通常、ドロップした項目はシェルフからなくなります。Shift キーを押しながらドラッグすると残るので、集め直さなくても同じものをいくつもの場所にドロップできます。</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

@@ -922,7 +922,7 @@ that runs.</source>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>보통 항목을 놓으면 선반에서 사라집니다. Shift를 누른 채 놓으면 남으므로, 다시 모으지 않고도 같은 것을 여러 곳에 놓을 수 있습니다.</translation>
+        <translation>보통 항목을 놓으면 선반에서 사라집니다. Shift를 누른 채 드래그하면 남으므로, 다시 모으지 않고도 같은 것을 여러 곳에 놓을 수 있습니다.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

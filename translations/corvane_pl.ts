@@ -942,7 +942,7 @@ który już działa.</translation>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Zwykle element opuszcza półkę po upuszczeniu gdzie indziej. Jeśli przy upuszczaniu przytrzyma się Shift, element pozostanie i można go upuścić w wielu miejscach bez ponownego zbierania.</translation>
+        <translation>Zwykle element opuszcza półkę po upuszczeniu gdzie indziej. Jeśli podczas przeciągania przytrzyma się Shift, element pozostanie i można go upuścić w wielu miejscach bez ponownego zbierania.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

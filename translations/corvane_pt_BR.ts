@@ -932,7 +932,7 @@ está em execução.</translation>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Normalmente um item deixa a prateleira quando você o solta. Segure Shift ao soltar e ele fica, para que você possa soltar a mesma coisa em vários lugares sem recolhê-la de novo.</translation>
+        <translation>Normalmente um item deixa a prateleira quando você o solta. Segure Shift enquanto o arrasta e ele fica, para que você possa soltar a mesma coisa em vários lugares sem recolhê-la de novo.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

@@ -942,7 +942,7 @@ that runs.</source>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Обычно объект покидает полку, когда вы его куда-то отпускаете. Удерживайте Shift, отпуская кнопку, и он останется: одно и то же можно отпустить в нескольких местах, не собирая заново.</translation>
+        <translation>Обычно объект покидает полку, когда вы его куда-то отпускаете. Удерживайте Shift при перетаскивании, и он останется: одно и то же можно отпустить в нескольких местах, не собирая заново.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

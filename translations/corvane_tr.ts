@@ -922,7 +922,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Normalde bir öge, bıraktığınızda raftan ayrılır. Bırakırken Shift’i basılı tutarsanız kalır; böylece aynı şeyi yeniden toplamadan birkaç yere bırakabilirsiniz.</translation>
+        <translation>Normalde bir öge, bıraktığınızda raftan ayrılır. Sürüklerken Shift’i basılı tutarsanız kalır; böylece aynı şeyi yeniden toplamadan birkaç yere bırakabilirsiniz.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

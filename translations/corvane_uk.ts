@@ -942,7 +942,7 @@ that runs.</source>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>Зазвичай об’єкт залишає полицю, коли ви його кудись відпускаєте. Утримуйте Shift, відпускаючи кнопку, і він залишиться: те саме можна відпустити в кількох місцях, не збираючи знову.</translation>
+        <translation>Зазвичай об’єкт залишає полицю, коли ви його кудись відпускаєте. Утримуйте Shift під час перетягування, і він залишиться: те саме можна відпустити в кількох місцях, не збираючи знову.</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

@@ -922,7 +922,7 @@ that runs.</source>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>通常项目在放下后会离开置物架。松开时按住 Shift，它就会留下，这样无需再次收集就能把同一项目放到多个地方。</translation>
+        <translation>通常项目在放下后会离开置物架。拖动时按住 Shift，它就会留下，这样无需再次收集就能把同一项目放到多个地方。</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>

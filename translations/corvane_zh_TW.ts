@@ -922,7 +922,7 @@ that runs.</source>
     </message>
     <message>
         <source>Normally an item leaves the shelf when you drop it. Hold Shift as you release and it stays, so you can drop the same thing into several places without collecting it again.</source>
-        <translation>通常項目在放下後會離開置物架。放開時按住 Shift，它就會留下，這樣無須再次收集就能把同一項目放到多個地方。</translation>
+        <translation>通常項目在放下後會離開置物架。拖曳時按住 Shift，它就會留下，這樣無須再次收集就能把同一項目放到多個地方。</translation>
     </message>
     <message>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
