@@ -58,9 +58,10 @@ bool isWorn()
 
 } // namespace
 
-DecoderLoop::DecoderLoop(FileDescriptor socket, decoder_protocol::Room room)
+DecoderLoop::DecoderLoop(FileDescriptor socket, decoder_protocol::Room room, int idle)
     : m_socket(std::move(socket))
     , m_room(room)
+    , m_idle(idle)
     , m_handler(room)
 {
 }
@@ -86,7 +87,7 @@ int DecoderLoop::run()
         last_words::prepare(m_socket.number(), decoder_protocol::memoryIn(m_room));
     if (!greet())
         return EXIT_FAILURE;
-    while (!isWorn() && waitFor(m_socket.number(), POLLIN, idleMilliseconds)) {
+    while (!isWorn() && waitFor(m_socket.number(), POLLIN, m_idle)) {
         if (!serveNext())
             return EXIT_FAILURE;
     }

@@ -17,7 +17,8 @@ public:
     /// Of processor time; then a new process takes over, well before the limit.
     static constexpr int worn = 30;
 
-    DecoderLoop(FileDescriptor socket, decoder_protocol::Room room);
+    /// `idle`, in milliseconds, is how long it waits for a request.
+    DecoderLoop(FileDescriptor socket, decoder_protocol::Room room, int idle = idleMilliseconds);
     DecoderLoop(const DecoderLoop &) = delete;
     DecoderLoop &operator=(const DecoderLoop &) = delete;
     ~DecoderLoop();
@@ -31,6 +32,7 @@ private:
 
     FileDescriptor m_socket;
     decoder_protocol::Room m_room;
+    int m_idle;
     RequestHandler m_handler;
 };
 
