@@ -27,11 +27,11 @@ namespace {
 
 using decoder_protocol::Task;
 
-/// A photograph that is drawn in forty thousand steps, each of a few bytes: it takes no memory, but
-/// a minute.
+/// A photograph that is drawn in so many steps, each of a few bytes, that it takes no memory, but
+/// minutes.
 QByteArray endlessPicture()
 {
-    constexpr int steps = 40'000;
+    constexpr int steps = 200'000;
     const QByteArray frame("\xff\xc2\0\x0b\x08\x08\0\x08\0\1\1\x11\0", 13);
     const QByteArray step("\xff\xda\0\x08\1\1\0\1\x3f\0\0\0\0\0\0\0\0\x0f", 18);
     return QByteArray("\xff\xd8\xff\xdb\0\x43\0", 7) + QByteArray(64, '\1') + frame

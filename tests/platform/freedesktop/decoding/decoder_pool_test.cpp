@@ -150,6 +150,20 @@ INSTANTIATE_TEST_SUITE_P(AtEveryStep, DecoderThatIsEnded,
                                          "dies after greeting", "dies before reading",
                                          "dies after reading"));
 
+TEST_F(DecoderPoolTest, HandsNothingOnThatIsNotWhatWasAskedFor)
+{
+    const auto contents = picture_memory::of("any bytes");
+    for (const char *step : {"too wide", "too high", "memory alone"}) {
+        misbehave(step);
+        DecoderPool::Job job;
+        job.request.task = decoder_protocol::Task::Thumbnail;
+        job.request.wanted = {8, 8};
+        job.request.milliseconds = 60'000;
+        job.descriptors = {contents.number()};
+        EXPECT_EQ(pool.run(job).outcome, Outcome::OverBounds) << step;
+    }
+}
+
 TEST_F(DecoderPoolTest, APictureThatNeedsMoreMemoryIsHandedToOneThatHasIt)
 {
     misbehave("needs room");
