@@ -93,7 +93,9 @@ ShelfLayers::ShelfLayers(LayerTree &tree, const Theme &theme, const LayerAnimato
 
     const Theme::Palette &palette = theme.palette;
     m_shelf.setFillColor(palette.fill);
-    m_hairline.setStroke(QPen(palette.hairline, 1));
+    // Half of it lies outside of the panel. The half that is seen is a whole point where contrast
+    // is wanted: half a point is grey, like many a wallpaper.
+    m_hairline.setStroke(QPen(palette.hairline, theme.hasMoreContrast() ? 2 : 1));
     m_hint.setFont(theme.typography.hint);
     m_hint.setAlignment(Qt::AlignHCenter);
     m_hoverPlate.setBackgroundColor(palette.controlPlate);

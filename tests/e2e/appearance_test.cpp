@@ -39,7 +39,7 @@ protected:
     {
         constexpr int width = 20;
         constexpr int height = 3;
-        constexpr int light = 100;
+        constexpr int light = 170;
         const QRect body = corvane().body();
         const QImage end = server().picture(
             {body.center().x() - width / 2, body.bottom() + 1 - height, width, height});
