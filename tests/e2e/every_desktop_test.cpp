@@ -252,6 +252,22 @@ TEST_P(OnEveryDesktop, aClickInAnotherProgramClosesTheBarUnlessTheSessionSaysOth
     }
 }
 
+TEST_P(OnEveryDesktop, anOpenBarGoesWithTheShelfAndComesBackToItsPlace)
+{
+    start();
+    keep(makeFile(u"report.txt"_s, "report"));
+    keep(makeFile(u"plan.txt"_s, "plan"));
+    const QImage bare = m_desktop.pictureAtRest(behindTheBar());
+    ASSERT_TRUE(corvane().activateAction(u"view-all"_s));
+    ASSERT_TRUE(eventually([&] { return server().picture(behindTheBar()) != bare; }));
+    const QImage open = m_desktop.pictureAtRest(behindTheBar());
+    EXPECT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(eventually([&] { return server().picture(behindTheBar()) != open; }));
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    EXPECT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(eventually([&] { return server().picture(behindTheBar()) == open; }));
+}
+
 TEST_P(OnEveryDesktop, thePreferencesSayWhatTheSessionIsNotAbleToDoAndNothingElse)
 {
     ScreenReader reader(m_desktop);

@@ -86,6 +86,17 @@ TEST_F(LayerPanelSurfaceTest, aPanelIsShownAsLargeAsItWasPlacedWhateverItsWindow
     EXPECT_EQ(window.geometry(), placed);
 }
 
+TEST_F(LayerPanelSurfaceTest, aPanelThatIsShownAgainIsWhereItWasPlaced)
+{
+    surface.place(window, {.screen = screen, .fromTop = 54, .size = QSizeF(292, 56)});
+    surface.willShow(window);
+    const QRect placed = window.geometry();
+    ASSERT_EQ(placed.top() - origin().y(), 54);
+    surface.didHide(window);
+    surface.willShow(window);
+    EXPECT_EQ(window.geometry(), placed);
+}
+
 TEST_F(LayerPanelSurfaceTest, aPanelWithoutAScreenOrOnOneThatIsGoneIsOnTheMainOne)
 {
     for (const ScreenPointer &nowhere : {ScreenPointer(), screenAt(origin() + QPoint(9000, 0))}) {

@@ -155,7 +155,6 @@ void LayerPanelSurface::showAnew(QWindow &window)
 void LayerPanelSurface::didHide(QWindow &window)
 {
     Panel &panel = m_panels[&window];
-    panel.space = {};
     panel.hasPointer = false;
     if (std::exchange(panel.hasKeyboard, false))
         tellKeyboard();
