@@ -23,6 +23,14 @@ constexpr std::array<double, maximumCards> turns{0, 7, -6};
 
 const QColor ground(44, 45, 48);
 
+void paintCard(QPainter &painter, const QRectF &place, const QImage &card)
+{
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(place, DragWriter::tileCornerRadius, DragWriter::tileCornerRadius);
+    painter.drawImage(place, card);
+}
+
 void paintBadge(QPainter &painter, qsizetype count, double whole, const Theme &theme)
 {
     QFont font = theme.typography.primary;
@@ -41,6 +49,18 @@ void paintBadge(QPainter &painter, qsizetype count, double whole, const Theme &t
 
 } // namespace
 
+Image onGround(const Image &card)
+{
+    QImage bitmap(card.bitmap.size(), QImage::Format_ARGB32_Premultiplied);
+    bitmap.fill(Qt::transparent);
+    QPainter painter(&bitmap);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.scale(bitmap.width() / card.size.width(), bitmap.height() / card.size.height());
+    paintCard(painter, QRectF({0, 0}, card.size), card.bitmap);
+    painter.end();
+    return {bitmap, card.size};
+}
+
 Image image(const std::vector<Image> &cards, qsizetype count, double side, const Theme &theme,
             double scale)
 {
@@ -52,12 +72,8 @@ Image image(const std::vector<Image> &cards, qsizetype count, double side, const
         painter.save();
         painter.translate(whole / 2, whole / 2);
         painter.rotate(turns.at(i));
-        // Cards are translucent; without this ground the next card would be seen through them.
-        const QRectF card(-side / 2, -side / 2, side, side);
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(ground);
-        painter.drawRoundedRect(card, DragWriter::tileCornerRadius, DragWriter::tileCornerRadius);
-        painter.drawImage(card, cards[i].bitmap);
+        // The ground hides the next card, too.
+        paintCard(painter, {-side / 2, -side / 2, side, side}, cards[i].bitmap);
         painter.restore();
     }
     paintBadge(painter, count, whole, theme);

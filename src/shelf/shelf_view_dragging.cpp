@@ -3,6 +3,7 @@
 #include "core/drag_writer.h"
 #include "core/pasteboard_ingest.h"
 #include "platform/base/geometry.h"
+#include "shelf/drag_stack.h"
 #include "shelf/optional_callback.h"
 #include "shelf/shelf_view.h"
 
@@ -71,7 +72,7 @@ DragSource::Picture ShelfView::dragPicture(const DropItem &item, int index, QPoi
     const QRectF thumb = thumbFrame(index);
     const QPointF middle(thumb.width() / 2, thumb.height() / 2);
     const bool isOnThumb = contains(thumb, inBody(from));
-    return {m_context.dragWriter.dragImage(item, thumb.width(), m_scale),
+    return {drag_stack::onGround(m_context.dragWriter.dragImage(item, thumb.width(), m_scale)),
             isOnThumb ? inBody(from) - thumb.topLeft() : middle};
 }
 

@@ -110,7 +110,8 @@ struct ShelfDesk {
     TextDescriptions textDescriptions{work, clock};
     PasteboardIngest ingest{spool,          pictures,        locality, remoteDescriptions,
                             remotePictures, textDescriptions};
-    DragWriter dragWriter{Qt::gray, [](QPainter &, PhosphorIcon, const QRectF &) {}, locality};
+    DragWriter dragWriter{Theme::Palette().secondary,
+                          [](QPainter &, PhosphorIcon, const QRectF &) {}, locality};
     LayerAnimator animator;
     Theme theme;
 

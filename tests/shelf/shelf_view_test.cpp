@@ -848,6 +848,20 @@ TEST_F(ShelfViewTest, ThePictureStaysUnderThePointerWhereItWasTaken)
     EXPECT_EQ(desk.panel.dragOut->image.size, QSizeF(30, 30));
 }
 
+TEST_F(ShelfViewTest, ADraggedTextIsSeenOverAWhiteWindow)
+{
+    show(holding(1, 1));
+    const auto &cell = layout().cells[0];
+    press(cell.root.topLeft() + cell.thumb.center());
+    view.mouseDragged({cell.root.topLeft() + cell.thumb.center() + QPointF(9, 0)});
+    ASSERT_TRUE(desk.panel.dragOut);
+    const QImage picture = desk.panel.dragOut->image.bitmap;
+    const QColor tile = picture.pixelColor(picture.width() / 2, 2);
+    EXPECT_EQ(tile.alpha(), 255) << "nothing of the window is seen through it";
+    EXPECT_LT(tile.lightness(), 170);
+    EXPECT_EQ(picture.pixelColor(0, 0).alpha(), 0) << "its corners are round";
+}
+
 TEST_F(ShelfViewTest, ADragThatEndsAfterItsViewIsGoneDoesNothing)
 {
     std::function<void(DragOperation)> end;

@@ -145,7 +145,7 @@ Image ViewAllView::dragImage(const DropItem &grabbed, const QList<DropItem> &ite
             add(item);
     }
     return items.size() == 1
-        ? cards.front()
+        ? drag_stack::onGround(cards.front())
         : drag_stack::image(cards, items.size(), side, m_context.theme, m_scale);
 }
 

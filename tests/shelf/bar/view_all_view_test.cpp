@@ -512,6 +512,8 @@ TEST_F(ViewAllViewTest, oneItemDragsItsPictureAndSeveralAStack)
     drag(middleOf(0));
     EXPECT_EQ(desk.panel.dragOut->image.size, QSizeF(64, 64));
     EXPECT_EQ(desk.panel.dragOut->hotSpot, QPointF(32, 32));
+    EXPECT_EQ(desk.panel.dragOut->image.bitmap.pixelColor(32, 3).alpha(), 255)
+        << "it is seen over a white window";
     endDrag(DragOperation::None);
     select({0, 1, 2, 3});
     drag(middleOf(0));
