@@ -157,6 +157,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>رفّ أعلى الشاشة لما تسحبه</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -978,6 +985,10 @@ that runs.</source>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>بلوحة المفاتيح: اضغط اختصار الرفّ، ثم %1 للّصق عليه و%2 للتنقل فيه.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>بلوحة المفاتيح: اضغط %1، ثم %2 للّصق على الرفّ و%3 للتنقل فيه.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -987,7 +998,7 @@ that runs.</source>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>موضع واحد. اسحب إليه، وانتقل، ثم اسحب منه. يفرغ الرفّ نفسه ولا يعترض طريقك.</translation>
+        <translation>متّسع لأشياء كثيرة. اسحب إليه، وانتقل، ثم اسحب منه. يفرغ الرفّ نفسه ولا يعترض طريقك.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1064,7 +1075,7 @@ that runs.</source>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>عطّله كي لا يُفتح إلا بالاختصار.</translation>
+        <translation>عطّله لتفتحه بنفسك، بالاختصار مثلًا.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1084,7 +1095,7 @@ that runs.</source>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>يلزم Super أو Alt أو Ctrl. امسحه لتكتفي بالأيقونة في شريط النظام.</translation>
+        <translation>يلزم Super أو Alt أو Ctrl. إن مسحته بقيت الأيقونة في شريط النظام.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

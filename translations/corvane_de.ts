@@ -149,6 +149,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>Eine Ablage am oberen Bildschirmrand für alles, was Sie ziehen</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -938,6 +945,10 @@ angezeigt oder verborgen.</translation>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>Per Tastatur: Kürzel der Ablage, %1 fügt ein, %2 geht weiter.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>Per Tastatur: %1 öffnet die Ablage, %2 fügt ein, %3 geht weiter.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -947,7 +958,7 @@ angezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>Ein Platz. Hineinziehen, woanders hingehen, herausziehen. Die Ablage leert sich selbst und ist nicht im Weg.</translation>
+        <translation>Platz für vieles. Hineinziehen, woanders hingehen, herausziehen. Die Ablage leert sich selbst und ist nicht im Weg.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1020,7 +1031,7 @@ angezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Wenn ausgeschaltet, öffnet sie nur das Tastenkürzel.</translation>
+        <translation>Wenn ausgeschaltet, öffnen Sie sie selbst, etwa mit dem Tastenkürzel.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>

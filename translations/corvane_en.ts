@@ -149,6 +149,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>A shelf at the top of the screen for what you drag</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -938,6 +945,10 @@ that runs.</translation>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -947,7 +958,7 @@ that runs.</translation>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</translation>
+        <translation>Room for many things. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1020,7 +1031,7 @@ that runs.</translation>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Turn off to summon it only with the shortcut.</translation>
+        <translation>Turn off to open it yourself, for example with the shortcut.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1040,7 +1051,7 @@ that runs.</translation>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Needs Super, Alt or Ctrl. Clear it to use the icon in the panel only.</translation>
+        <translation>Needs Super, Alt or Ctrl. If you clear it, the icon in the panel remains.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

@@ -149,6 +149,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>Un estante en la parte superior de la pantalla para lo que arrastra</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -938,6 +945,10 @@ se está ejecutando.</translation>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>Con el teclado: pulse el atajo del estante y luego %1 para pegar en él y %2 para recorrerlo.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>Con el teclado: pulse %1 y luego %2 para pegar en el estante y %3 para recorrerlo.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -947,7 +958,7 @@ se está ejecutando.</translation>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>Un solo hueco. Arrastre adentro, cambie de sitio, arrastre afuera. El estante se vacía solo y no estorba.</translation>
+        <translation>Espacio para muchas cosas. Arrastre adentro, cambie de sitio, arrastre afuera. El estante se vacía solo y no estorba.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1020,7 +1031,7 @@ se está ejecutando.</translation>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Desactívelo para abrirlo solo con el atajo.</translation>
+        <translation>Desactívelo para abrirlo usted, por ejemplo con el atajo.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1040,7 +1051,7 @@ se está ejecutando.</translation>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Necesita Super, Alt o Ctrl. Bórrelo para usar solo el icono del panel.</translation>
+        <translation>Necesita Super, Alt o Ctrl. Si lo borra, queda el icono del panel.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

@@ -149,6 +149,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>Une étagère en haut de l’écran pour ce que vous faites glisser</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -938,6 +945,10 @@ qui est lancé.</translation>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>Au clavier&#xa0;: appuyez sur le raccourci de l’étagère, puis sur %1 pour y coller et sur %2 pour la parcourir.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>Au clavier&#xa0;: appuyez sur %1, puis sur %2 pour coller sur l’étagère et sur %3 pour la parcourir.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -947,7 +958,7 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>Un seul emplacement. Glissez dedans, allez ailleurs, glissez dehors. L’étagère se vide d’elle-même et s’efface.</translation>
+        <translation>De la place pour beaucoup de choses. Glissez dedans, allez ailleurs, glissez dehors. L’étagère se vide d’elle-même et s’efface.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1020,7 +1031,7 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Désactivez pour ne l’ouvrir qu’avec le raccourci.</translation>
+        <translation>Désactivez pour l’ouvrir vous-même, par exemple avec le raccourci.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1040,7 +1051,7 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Nécessite Super, Alt ou Ctrl. Effacez-le pour n’utiliser que l’icône du tableau de bord.</translation>
+        <translation>Nécessite Super, Alt ou Ctrl. Si vous l’effacez, il reste l’icône du tableau de bord.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

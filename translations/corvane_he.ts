@@ -149,6 +149,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>מדף בראש המסך לכל מה שגוררים</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -938,6 +945,10 @@ that runs.</source>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>במקלדת: קיצור המקשים של המדף, ואז %1 להדבקה עליו ו־%2 למעבר בו.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>במקלדת: %1, ואז %2 להדבקה על המדף ו־%3 למעבר בו.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -947,7 +958,7 @@ that runs.</source>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>מקום אחד. גוררים פנימה, עוברים הלאה, גוררים החוצה. המדף מתרוקן מעצמו ואינו מפריע.</translation>
+        <translation>מקום לדברים רבים. גוררים פנימה, עוברים הלאה, גוררים החוצה. המדף מתרוקן מעצמו ואינו מפריע.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1020,7 +1031,7 @@ that runs.</source>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>כיבוי ישאיר את הפתיחה לקיצור המקשים בלבד.</translation>
+        <translation>כיבוי ישאיר לך את הפתיחה, למשל בקיצור המקשים.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1040,7 +1051,7 @@ that runs.</source>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>דרוש Super, Alt או Ctrl. ניקוי ישאיר רק את הסמל בלוח.</translation>
+        <translation>דרוש Super, Alt או Ctrl. גם אחרי ניקוי נשאר הסמל בלוח.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

@@ -149,6 +149,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>आप जो खींचते हैं उसके लिए स्क्रीन के शीर्ष पर एक शेल्फ़</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -938,6 +945,10 @@ that runs.</source>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>कीबोर्ड से: शेल्फ़ का शॉर्टकट दबाएँ, फिर उस पर चिपकाने के लिए %1 और उसमें आगे बढ़ने के लिए %2।</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>कीबोर्ड से: %1 दबाएँ, फिर शेल्फ़ पर चिपकाने के लिए %2 और उसमें आगे बढ़ने के लिए %3।</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -947,7 +958,7 @@ that runs.</source>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>एक स्थान। अंदर खींचें, कहीं और जाएँ, बाहर खींचें। शेल्फ़ स्वयं खाली होकर रास्ते से हट जाता है।</translation>
+        <translation>कई चीज़ों के लिए जगह। अंदर खींचें, कहीं और जाएँ, बाहर खींचें। शेल्फ़ स्वयं खाली होकर रास्ते से हट जाता है।</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1020,7 +1031,7 @@ that runs.</source>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>केवल शॉर्टकट से खोलने के लिए बंद करें।</translation>
+        <translation>इसे स्वयं खोलने के लिए बंद करें, जैसे शॉर्टकट से।</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1040,7 +1051,7 @@ that runs.</source>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Super, Alt या Ctrl चाहिए। केवल पैनल के आइकन के उपयोग के लिए इसे मिटाएँ।</translation>
+        <translation>Super, Alt या Ctrl चाहिए। इसे मिटाने पर भी पैनल का आइकन रहता है।</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

@@ -147,6 +147,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>Rak di bagian atas layar untuk apa yang Anda seret</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -928,6 +935,10 @@ rak dari Corvane yang sudah berjalan.</translation>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>Dengan papan ketik: tekan pintasan rak, lalu %1 untuk menempel ke rak dan %2 untuk menelusurinya.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>Dengan papan ketik: tekan %1, lalu %2 untuk menempel ke rak dan %3 untuk menelusurinya.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -937,7 +948,7 @@ rak dari Corvane yang sudah berjalan.</translation>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>Satu tempat. Seret masuk, berpindah, seret keluar. Rak mengosongkan diri dan tidak mengganggu.</translation>
+        <translation>Tempat untuk banyak hal. Seret masuk, berpindah, seret keluar. Rak mengosongkan diri dan tidak mengganggu.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1009,7 +1020,7 @@ rak dari Corvane yang sudah berjalan.</translation>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Matikan agar hanya terbuka dengan pintasan.</translation>
+        <translation>Matikan agar Anda yang membukanya, misalnya dengan pintasan.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1029,7 +1040,7 @@ rak dari Corvane yang sudah berjalan.</translation>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Perlu Super, Alt, atau Ctrl. Hapus agar hanya memakai ikon di panel.</translation>
+        <translation>Perlu Super, Alt, atau Ctrl. Jika dihapus, ikon di panel tetap ada.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

@@ -149,6 +149,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>Un ripiano in cima allo schermo per ciò che si trascina</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -938,6 +945,10 @@ in esecuzione.</translation>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>Con la tastiera: premere la scorciatoia del ripiano, poi %1 per incollarvi qualcosa e %2 per scorrerlo.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>Con la tastiera: premere %1, poi %2 per incollare qualcosa sul ripiano e %3 per scorrerlo.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -947,7 +958,7 @@ in esecuzione.</translation>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>Un solo posto. Trascinare dentro, spostarsi, trascinare fuori. Il ripiano si svuota da sé e si toglie di mezzo.</translation>
+        <translation>Posto per molte cose. Trascinare dentro, spostarsi, trascinare fuori. Il ripiano si svuota da sé e si toglie di mezzo.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1020,7 +1031,7 @@ in esecuzione.</translation>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Disattivare per aprirlo solo con la scorciatoia.</translation>
+        <translation>Disattivare per aprirlo da sé, per esempio con la scorciatoia.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1040,7 +1051,7 @@ in esecuzione.</translation>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Richiede Super, Alt o Ctrl. Cancellarla per usare solo l’icona nel pannello.</translation>
+        <translation>Richiede Super, Alt o Ctrl. Se la si cancella, resta l’icona nel pannello.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

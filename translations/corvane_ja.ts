@@ -147,6 +147,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>ドラッグしたものを置く、画面上端のシェルフ</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -928,6 +935,10 @@ that runs.</source>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>キーボードでは、シェルフのショートカットを押し、%1 で貼り付け、%2 で移動します。</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>キーボードでは、%1 を押し、%2 でシェルフに貼り付け、%3 で移動します。</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -937,7 +948,7 @@ that runs.</source>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>置き場所はひとつ。入れて、移動して、取り出すだけ。シェルフは自然に空になり、邪魔になりません。</translation>
+        <translation>いくつでも置けます。入れて、移動して、取り出すだけ。シェルフは自然に空になり、邪魔になりません。</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1009,7 +1020,7 @@ that runs.</source>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>オフにすると、ショートカットでのみ開きます。</translation>
+        <translation>オフにすると、ショートカットなどで自分で開きます。</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1029,7 +1040,7 @@ that runs.</source>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Super、Alt、Ctrl のいずれかが必要です。消去するとパネルのアイコンだけで開きます。</translation>
+        <translation>Super、Alt、Ctrl のいずれかが必要です。消去しても、パネルのアイコンから開けます。</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

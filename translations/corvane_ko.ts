@@ -147,6 +147,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>끌어 온 것을 놓아두는 화면 위쪽의 선반</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -928,6 +935,10 @@ that runs.</source>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>키보드로는 선반의 단축키를 누른 다음 %1(으)로 붙여 넣고 %2(으)로 이동합니다.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>키보드로는 %1을(를) 누른 다음 %2(으)로 선반에 붙여 넣고 %3(으)로 이동합니다.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -937,7 +948,7 @@ that runs.</source>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>자리 하나. 끌어 넣고, 옮겨 가서, 끌어내십시오. 선반은 스스로 비워지고 방해하지 않습니다.</translation>
+        <translation>여러 개를 놓을 수 있습니다. 끌어 넣고, 옮겨 가서, 끌어내십시오. 선반은 스스로 비워지고 방해하지 않습니다.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1009,7 +1020,7 @@ that runs.</source>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>끄면 단축키로만 엽니다.</translation>
+        <translation>끄면 단축키 등으로 직접 엽니다.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1029,7 +1040,7 @@ that runs.</source>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Super, Alt 또는 Ctrl이 필요합니다. 지우면 패널의 아이콘만 씁니다.</translation>
+        <translation>Super, Alt 또는 Ctrl이 필요합니다. 지워도 패널의 아이콘으로 열 수 있습니다.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

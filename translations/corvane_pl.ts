@@ -151,6 +151,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>Półka u góry ekranu na wszystko, co się przeciąga</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -948,6 +955,10 @@ który już działa.</translation>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>Z klawiatury: najpierw skrót półki, potem %1 wkleja na nią, a %2 po niej przechodzi.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>Z klawiatury: najpierw %1, potem %2 wkleja na półkę, a %3 po niej przechodzi.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -957,7 +968,7 @@ który już działa.</translation>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>Jedno miejsce. Przeciągnij do środka, przejdź dalej, wyciągnij. Półka sama się opróżnia i nie przeszkadza.</translation>
+        <translation>Miejsce na wiele rzeczy. Przeciągnij do środka, przejdź dalej, wyciągnij. Półka sama się opróżnia i nie przeszkadza.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1031,7 +1042,7 @@ który już działa.</translation>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Po wyłączeniu otwiera ją tylko skrót.</translation>
+        <translation>Po wyłączeniu otwiera się ją samemu, na przykład skrótem.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>

@@ -149,6 +149,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>Uma prateleira no topo da tela para o que você arrasta</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -938,6 +945,10 @@ está em execução.</translation>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>Pelo teclado: pressione o atalho da prateleira e depois %1 para colar nela e %2 para percorrê-la.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>Pelo teclado: pressione %1 e depois %2 para colar na prateleira e %3 para percorrê-la.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -947,7 +958,7 @@ está em execução.</translation>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>Um só espaço. Arraste para dentro, mude de lugar, arraste para fora. A prateleira se esvazia sozinha e sai do caminho.</translation>
+        <translation>Espaço para muitas coisas. Arraste para dentro, mude de lugar, arraste para fora. A prateleira se esvazia sozinha e sai do caminho.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1020,7 +1031,7 @@ está em execução.</translation>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Desligue para abri-la somente com o atalho.</translation>
+        <translation>Desligue para abri-la você mesmo, por exemplo com o atalho.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1040,7 +1051,7 @@ está em execução.</translation>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Precisa de Super, Alt ou Ctrl. Limpe-o para usar somente o ícone no painel.</translation>
+        <translation>Precisa de Super, Alt ou Ctrl. Se for limpo, resta o ícone no painel.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

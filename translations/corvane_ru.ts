@@ -151,6 +151,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>Полка у верхнего края экрана для того, что вы перетаскиваете</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -948,6 +955,10 @@ that runs.</source>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>С клавиатуры: нажмите сочетание клавиш полки, затем %1, чтобы вставить на неё, и %2, чтобы переходить по ней.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>С клавиатуры: нажмите %1, затем %2, чтобы вставить на полку, и %3, чтобы переходить по ней.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -957,7 +968,7 @@ that runs.</source>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>Одно место. Положите, перейдите, вытащите. Полка сама опустеет и не мешает.</translation>
+        <translation>Место для многого. Положите, перейдите, вытащите. Полка сама опустеет и не мешает.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1031,7 +1042,7 @@ that runs.</source>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Если выключить, полка открывается только сочетанием клавиш.</translation>
+        <translation>Если выключить, полку открываете вы сами, например сочетанием клавиш.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>

@@ -147,6 +147,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>Sürükledikleriniz için ekranın üstünde bir raf</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -928,6 +935,10 @@ veya gizler.</translation>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>Klavyeyle: rafın kısayoluna basın, sonra rafa yapıştırmak için %1, rafta gezinmek için %2 tuşlarını kullanın.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>Klavyeyle: %1 tuşlarına basın, sonra rafa yapıştırmak için %2, rafta gezinmek için %3 tuşlarını kullanın.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -937,7 +948,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>Tek yer. İçine sürükleyin, başka yere geçin, dışarı sürükleyin. Raf kendini boşaltır ve yoldan çekilir.</translation>
+        <translation>Birçok şey için yer. İçine sürükleyin, başka yere geçin, dışarı sürükleyin. Raf kendini boşaltır ve yoldan çekilir.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1009,7 +1020,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Yalnızca kısayolla açmak için kapatın.</translation>
+        <translation>Rafı örneğin kısayolla kendiniz açmak için kapatın.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1029,7 +1040,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Super, Alt veya Ctrl gerekir. Yalnızca paneldeki simgeyi kullanmak için temizleyin.</translation>
+        <translation>Super, Alt veya Ctrl gerekir. Temizlerseniz paneldeki simge kalır.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

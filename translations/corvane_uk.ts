@@ -151,6 +151,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>Полиця біля верхнього краю екрана для того, що ви перетягуєте</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -948,6 +955,10 @@ that runs.</source>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>З клавіатури: натисніть клавіатурне скорочення полиці, потім %1, щоб вставити на неї, і %2, щоб переходити нею.</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>З клавіатури: натисніть %1, потім %2, щоб вставити на полицю, і %3, щоб переходити нею.</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -957,7 +968,7 @@ that runs.</source>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>Одне місце. Покладіть, перейдіть, витягніть. Полиця сама спорожніє й не заважає.</translation>
+        <translation>Місце для багатьох речей. Покладіть, перейдіть, витягніть. Полиця сама спорожніє й не заважає.</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1031,7 +1042,7 @@ that runs.</source>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>Якщо вимкнути, полиця відкривається лише скороченням.</translation>
+        <translation>Якщо вимкнути, полицю відкриваєте ви самі, наприклад скороченням.</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1051,7 +1062,7 @@ that runs.</source>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>Потрібна Super, Alt або Ctrl. Очистьте, щоб користуватися лише піктограмою на панелі.</translation>
+        <translation>Потрібна Super, Alt або Ctrl. Якщо очистити, лишається піктограма на панелі.</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

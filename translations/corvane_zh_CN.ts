@@ -147,6 +147,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>屏幕顶部的置物架，存放您拖动的内容</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -928,6 +935,10 @@ that runs.</source>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>用键盘：按置物架的快捷键，再按 %1 粘贴，按 %2 逐项移动。</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>用键盘：按 %1，再按 %2 粘贴到置物架，按 %3 逐项移动。</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -937,7 +948,7 @@ that runs.</source>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>一个位置。拖进来，换个地方，拖出去。置物架会自行清空，不碍事。</translation>
+        <translation>可放置多个项目。拖进来，换个地方，拖出去。置物架会自行清空，不碍事。</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1009,7 +1020,7 @@ that runs.</source>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>关闭后只能用快捷键打开。</translation>
+        <translation>关闭后由您自己打开，例如用快捷键。</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1029,7 +1040,7 @@ that runs.</source>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>需要 Super、Alt 或 Ctrl。清除后只使用面板中的图标。</translation>
+        <translation>需要 Super、Alt 或 Ctrl。清除后仍可使用面板中的图标。</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

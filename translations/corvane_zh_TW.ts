@@ -147,6 +147,13 @@
     </message>
 </context>
 <context>
+    <name>AutostartLoginItems</name>
+    <message>
+        <source>A shelf at the top of the screen for what you drag</source>
+        <translation>螢幕頂端的置物架，存放您拖曳的內容</translation>
+    </message>
+</context>
+<context>
     <name>ByteCount</name>
     <message>
         <source>%1 KB</source>
@@ -928,6 +935,10 @@ that runs.</source>
         <source>By keyboard: press the shelf&apos;s shortcut, then %1 to paste onto it and %2 to go through it.</source>
         <translation>使用鍵盤：按置物架的快捷鍵，再按 %1 貼上，按 %2 逐項移動。</translation>
     </message>
+    <message>
+        <source>By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.</source>
+        <translation>使用鍵盤：按 %1，再按 %2 貼到置物架上，按 %3 逐項移動。</translation>
+    </message>
 </context>
 <context>
     <name>corvane::AboutPane</name>
@@ -937,7 +948,7 @@ that runs.</source>
     </message>
     <message>
         <source>One slot. Drag in, switch context, drag out. The shelf clears itself and gets out of the way.</source>
-        <translation>一個位置。拖進來，換個地方，拖出去。置物架會自行清空，不礙事。</translation>
+        <translation>可放置多個項目。拖進來，換個地方，拖出去。置物架會自行清空，不礙事。</translation>
     </message>
     <message>
         <source>Runs on your Mac. Nothing you drop is uploaded to us, logged, or sent anywhere. Link previews are the one exception: they ask the linked site for its own page. Turn them off in General.</source>
@@ -1009,7 +1020,7 @@ that runs.</source>
     </message>
     <message>
         <source>Turn off to summon it only with the shortcut.</source>
-        <translation>關閉後只能用快捷鍵開啟。</translation>
+        <translation>關閉後由您自行開啟，例如用快捷鍵。</translation>
     </message>
     <message>
         <source>Show previews for dropped links</source>
@@ -1029,7 +1040,7 @@ that runs.</source>
     </message>
     <message>
         <source>Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.</source>
-        <translation>需要 Super、Alt 或 Ctrl。清除後只使用面板中的圖示。</translation>
+        <translation>需要 Super、Alt 或 Ctrl。清除後仍可使用面板中的圖示。</translation>
     </message>
     <message>
         <source>Show or hide all items</source>

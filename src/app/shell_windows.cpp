@@ -32,9 +32,11 @@ void ShellWindows::showPreferences(PreferencesTab tab)
 void ShellWindows::showWelcome()
 {
     if (!m_welcome) {
-        m_welcome = std::make_unique<WelcomeWindowController>(m_context.preferences.motion,
-                                                              m_context.preferences.screenLocator,
-                                                              m_context.preferences.abilities);
+        const PreferencesContext &context = m_context.preferences;
+        m_welcome = std::make_unique<WelcomeWindowController>(
+            WelcomeView::Context{context.motion, context.abilities, context.settings,
+                                 context.shortcutBinder},
+            context.screenLocator);
         m_welcome->onClose = [this] { m_welcome.reset(); };
     }
     // Set now rather than when it is closed, so that it never comes by itself a second time.

@@ -182,6 +182,38 @@ TEST(Translations, NameAKeyInASentenceAsInAMenu)
     }
 }
 
+/// The sources say so; here the shelf also comes from the panel, the top edge and commands, and it
+/// holds more than one thing.
+TEST(Translations, CallNoWayToTheShelfTheOnlyOneAndItsPlaceNotASingleOne)
+{
+    const QRegularExpression only(
+        QStringLiteral(
+            "\\bonly\\b|\\bnur\\b|\\bsolo\\b|qu’avec|que l’|\\bsomente\\b|\\btylko\\b"
+            "|только|лише\\b|केवल|\\bhanya\\b|のみ|だけで|로만|만 씁|只|yalnızca|إلا|لتكتفي"
+            "|בלבד|\\bרק\\b"),
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::UseUnicodePropertiesOption);
+    const QRegularExpression single(
+        QStringLiteral("^(One|Ein|Un solo|Un seul|Um só|Одн[оеі]|Jedno|Tek|Satu)\\b|^एक |^موضع واحد"
+                       "|^מקום אחד|ひとつ|^자리 하나|一[个個]位置"),
+        QRegularExpression::UseUnicodePropertiesOption);
+    const auto drags = "Turn off to summon it only with the shortcut.";
+    const auto keys = "Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only.";
+    const auto about
+        = "One slot. Drag in, switch context, drag out. The shelf clears itself and gets "
+          "out of the way.";
+    for (const QString &language : Translations::languages()) {
+        const TranslationFile file = readTranslations(pathOf(language));
+        const auto expectWithout = [&](const QRegularExpression &words, const QString &text) {
+            EXPECT_FALSE(text.isEmpty()) << language.toStdString();
+            EXPECT_FALSE(text.contains(words))
+                << language.toStdString() << ": " << text.toStdString();
+        };
+        expectWithout(only, translated(file, "corvane::GeneralPane", drags));
+        expectWithout(only, translated(file, "corvane::GeneralPane", keys));
+        expectWithout(single, translated(file, "corvane::AboutPane", about));
+    }
+}
+
 } // namespace
 
 } // namespace corvane::test

@@ -25,7 +25,7 @@ const auto taken = u"Another app already uses that combination."_s;
 const auto typesACharacter
     = u"That combination types a character. Record one with Super, Alt or Ctrl."_s;
 const auto unset = u"Unset by default. The Down key on the shelf does the same thing."_s;
-const auto usual = u"Needs Super, Alt or Ctrl. Clear it to use the icon in the panel only."_s;
+const auto usual = u"Needs Super, Alt or Ctrl. If you clear it, the icon in the panel remains."_s;
 /// Of the keys that carry the d, the j and the k, whatever the layout.
 constexpr xcb_keycode_t positionOfD = 40;
 constexpr xcb_keycode_t positionOfJ = 44;

@@ -34,6 +34,7 @@ class GuideStage : public WindowStage {
 public:
     explicit GuideStage(int step)
     {
+        m_desk.binder.bindShelf();
         controller.window().present();
         while (controller.view().step() < step)
             controller.view().goForward();
@@ -44,7 +45,8 @@ private:
     PreferencesDesk m_desk;
 
 public:
-    WelcomeWindowController controller{m_desk.motion, m_desk.screens.locator, m_desk.abilities};
+    WelcomeWindowController controller{
+        {m_desk.motion, m_desk.abilities, m_desk.settings, m_desk.binder}, m_desk.screens.locator};
 };
 
 class UpdateStage : public WindowStage {

@@ -41,17 +41,24 @@ QString body(WelcomeStep step)
     return {};
 }
 
-QString keys(WelcomeStep step)
+QString keys(WelcomeStep step, const QString &shortcut)
 {
     if (step != WelcomeStep::DragOut)
         return {};
     const auto shown
         = [](QKeyCombination key) { return QKeySequence(key).toString(QKeySequence::NativeText); };
+    const QString paste = shown(QKeyCombination(Qt::ControlModifier, Qt::Key_V));
+    const QString goThrough = shown(Qt::Key_Tab);
+    if (shortcut.isEmpty())
+        return QCoreApplication::translate(
+                   "WelcomeStep",
+                   "By keyboard: press the shelf's shortcut, then %1 to paste onto it and %2 to go "
+                   "through it.")
+            .arg(paste, goThrough);
     return QCoreApplication::translate(
                "WelcomeStep",
-               "By keyboard: press the shelf's shortcut, then %1 to paste onto it and %2 to go "
-               "through it.")
-        .arg(shown(QKeyCombination(Qt::ControlModifier, Qt::Key_V)), shown(Qt::Key_Tab));
+               "By keyboard: press %1, then %2 to paste onto the shelf and %3 to go through it.")
+        .arg(shortcut, paste, goThrough);
 }
 
 } // namespace corvane::welcome_step

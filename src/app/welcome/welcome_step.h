@@ -20,8 +20,9 @@ namespace welcome_step {
 
 QString title(WelcomeStep step);
 QString body(WelcomeStep step);
-/// How it is done by keyboard alone; empty where there is nothing to be said.
-QString keys(WelcomeStep step);
+/// How it is done by keyboard alone; empty where there is nothing to be said. `shortcut` are the
+/// keys, as people see them, that open the shelf; empty where none are bound.
+QString keys(WelcomeStep step, const QString &shortcut);
 
 } // namespace welcome_step
 

@@ -5,6 +5,9 @@
 #include "app/look/text_label.h"
 #include "app/welcome/illustration_view.h"
 #include "app/welcome/page_indicator.h"
+#include "core/display_text.h"
+#include "core/settings.h"
+#include "input/shortcut_binder.h"
 #include "platform/desktop/abilities.h"
 
 #include <QHBoxLayout>
@@ -31,18 +34,17 @@ constexpr int lastStep = static_cast<int>(allWelcomeSteps.size()) - 1;
 
 } // namespace
 
-WelcomeView::WelcomeView(const MotionPreference &motion, SessionAbilities &abilities,
-                         std::function<void()> onClose, QWidget *parent)
+WelcomeView::WelcomeView(const Context &context, std::function<void()> onClose, QWidget *parent)
     : QWidget(parent)
-    , m_motion(motion)
-    , m_abilities(abilities)
+    , m_context(context)
     , m_onClose(std::move(onClose))
-    , m_illustration(new IllustrationView(m_look, motion))
+    , m_illustration(new IllustrationView(m_look, context.motion))
     , m_title(new TextLabel({}, m_look.font(titleSize, QFont::DemiBold), TextLabel::Tone::Primary))
     , m_body(new TextLabel({}, m_look.font(bodySize), TextLabel::Tone::Secondary))
     , m_keys(new TextLabel({}, m_look.font(limitSize), TextLabel::Tone::Secondary))
     , m_limit(new TextLabel({}, m_look.font(limitSize), TextLabel::Tone::Secondary))
-    , m_indicator(new PageIndicator(static_cast<int>(allWelcomeSteps.size()), m_look, motion))
+    , m_indicator(
+          new PageIndicator(static_cast<int>(allWelcomeSteps.size()), m_look, context.motion))
 {
     m_title->setAlignment(Qt::AlignCenter);
     m_title->setWordWrap(true);
@@ -69,7 +71,9 @@ WelcomeView::WelcomeView(const MotionPreference &motion, SessionAbilities &abili
     layout->addWidget(m_indicator, 0, Qt::AlignHCenter);
     layout->addWidget(makeButtons());
     showStep(0);
-    m_changes = m_abilities.observe([this] { showStep(m_step); });
+    const auto showAgain = [this] { showStep(m_step); };
+    m_abilityChanges = context.abilities.observe(showAgain);
+    m_shortcutChanges = context.shortcuts.observeOutcomes(showAgain);
 }
 
 QWidget *WelcomeView::makeButtons()
@@ -106,7 +110,7 @@ void WelcomeView::showStep(int step)
     m_illustration->setAccessibleName(tr("Illustration: %1").arg(welcome_step::title(shown)));
     m_title->setText(welcome_step::title(shown));
     m_body->setText(welcome_step::body(shown));
-    m_keys->setText(welcome_step::keys(shown));
+    m_keys->setText(welcome_step::keys(shown, shortcutKeys()));
     m_keys->setVisible(!m_keys->text().isEmpty());
     m_limit->setText(limitOf(shown));
     m_limit->setVisible(!m_limit->text().isEmpty());
@@ -123,13 +127,24 @@ QString WelcomeView::limitOf(WelcomeStep step) const
 {
     switch (step) {
     case WelcomeStep::DragIn:
-        return session_texts::limit(m_abilities.now().drags);
+        return session_texts::limit(m_context.abilities.now().drags);
     case WelcomeStep::DragOut:
-        return session_texts::limit(m_abilities.now().topEdge);
+        return session_texts::limit(m_context.abilities.now().topEdge);
     case WelcomeStep::Keep:
-        return session_texts::limit(m_abilities.now().keepingKey);
+        return session_texts::limit(m_context.abilities.now().keepingKey);
     }
     return {};
+}
+
+/// The keys that open the shelf, as the desktop names them; empty where it does not listen to them.
+QString WelcomeView::shortcutKeys() const
+{
+    const ShortcutOutcome outcome = m_context.shortcuts.outcome(HotKeyCenter::Binding::Shelf);
+    const auto shortcut = m_context.settings.shortcut();
+    if (outcome.kind != ShortcutOutcome::Kind::Bound || !shortcut)
+        return {};
+    // The desktop's words are a stranger's.
+    return outcome.text.isEmpty() ? shortcut->shown() : displayText(outcome.text);
 }
 
 void WelcomeView::goBack()

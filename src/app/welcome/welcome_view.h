@@ -15,17 +15,25 @@ class IllustrationView;
 class MotionPreference;
 class PageIndicator;
 class SessionAbilities;
+class Settings;
+class ShortcutBinder;
 class TextLabel;
 
 /// The guide: a picture, a title and a text for each step, and buttons to go through them. Where
-/// the session is not able to do what a step describes, the step says that, too. `motion` and
-/// `abilities` must outlive it.
+/// the session is not able to do what a step describes, the step says that, too. What `context`
+/// refers to must outlive it.
 class WelcomeView : public QWidget {
     Q_OBJECT
 
 public:
-    WelcomeView(const MotionPreference &motion, SessionAbilities &abilities,
-                std::function<void()> onClose, QWidget *parent = nullptr);
+    struct Context {
+        const MotionPreference &motion;
+        SessionAbilities &abilities;
+        const Settings &settings;
+        ShortcutBinder &shortcuts;
+    };
+
+    WelcomeView(const Context &context, std::function<void()> onClose, QWidget *parent = nullptr);
 
     /// Index of the step that is shown.
     int step() const { return m_step; }
@@ -42,10 +50,10 @@ private:
     QWidget *makeButtons();
     void showStep(int step);
     QString limitOf(WelcomeStep step) const;
+    QString shortcutKeys() const;
     bool isLast() const;
 
-    const MotionPreference &m_motion;
-    SessionAbilities &m_abilities;
+    Context m_context;
     std::function<void()> m_onClose;
     WindowLook m_look;
     int m_step = 0;
@@ -57,7 +65,8 @@ private:
     PageIndicator *m_indicator;
     ActionButton *m_back = nullptr;
     ActionButton *m_forward = nullptr;
-    Subscription m_changes;
+    Subscription m_abilityChanges;
+    Subscription m_shortcutChanges;
 };
 
 } // namespace corvane

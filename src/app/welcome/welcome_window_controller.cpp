@@ -1,18 +1,16 @@
 #include "app/welcome/welcome_window_controller.h"
 
 #include "app/look/window_look.h"
-#include "app/welcome/welcome_view.h"
 
 #include <QVBoxLayout>
 
 namespace corvane {
 
-WelcomeWindowController::WelcomeWindowController(const MotionPreference &motion,
-                                                 const ScreenLocator &screenLocator,
-                                                 SessionAbilities &abilities)
+WelcomeWindowController::WelcomeWindowController(const WelcomeView::Context &context,
+                                                 const ScreenLocator &screenLocator)
     : m_window(new ShellWindow(screenLocator, WindowLook().length(contentSize),
                                [this] { windowWillClose(); }))
-    , m_view(new WelcomeView(motion, abilities, [window = m_window.get()] { window->close(); }))
+    , m_view(new WelcomeView(context, [window = m_window.get()] { window->close(); }))
 {
     auto *layout = new QVBoxLayout(m_window.get());
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,14 +1,11 @@
 #pragma once
 
 #include "app/look/shell_window.h"
+#include "app/welcome/welcome_view.h"
 
 #include <functional>
 
 namespace corvane {
-
-class MotionPreference;
-class SessionAbilities;
-class WelcomeView;
 
 /// Owns the window of the guide. Finishing the guide and closing the window are the same. Main
 /// thread only; everything that the constructor is given must outlive it.
@@ -16,8 +13,8 @@ class WelcomeWindowController {
 public:
     static constexpr QSize contentSize{520, 560};
 
-    WelcomeWindowController(const MotionPreference &motion, const ScreenLocator &screenLocator,
-                            SessionAbilities &abilities);
+    WelcomeWindowController(const WelcomeView::Context &context,
+                            const ScreenLocator &screenLocator);
     WelcomeWindowController(const WelcomeWindowController &) = delete;
     WelcomeWindowController &operator=(const WelcomeWindowController &) = delete;
     ~WelcomeWindowController();

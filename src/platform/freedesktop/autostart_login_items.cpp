@@ -4,9 +4,11 @@
 #include "platform/system/own_command.h"
 #include "platform/system/regular_file.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QHash>
 #include <QSaveFile>
 #include <QStandardPaths>
@@ -44,6 +46,13 @@ QString quoted(const QString &argument)
             result += character;
     }
     return QLatin1Char('"') % result % QLatin1Char('"');
+}
+
+/// What desktops show beside the name where they list what they start. In the language of now.
+QString comment()
+{
+    return QCoreApplication::translate("AutostartLoginItems",
+                                       "A shelf at the top of the screen for what you drag");
 }
 
 /// Whether somebody switched the entry off. Desktops keep it then, and have keys of their own.
@@ -126,8 +135,9 @@ std::optional<QString> AutostartLoginItems::registerItem()
     const QString text = QLatin1String("[Desktop Entry]\n"
                                        "Type=Application\n"
                                        "Name=Corvane\n"
-                                       "Exec=")
-        % quoted(m_program)
+                                       "Comment=")
+        % comment() % QLatin1String("\nIcon=") % QGuiApplication::desktopFileName()
+        % QLatin1String("\nExec=") % quoted(m_program)
         % QLatin1String("\nTerminal=false\n"
                         "X-GNOME-Autostart-enabled=true\n");
     if (!entry.open(QIODevice::WriteOnly) || entry.write(text.toUtf8()) < 0 || !entry.commit())

@@ -192,13 +192,11 @@ TextTable textsOfThePreferences()
 TextTable textsOfTheGuide()
 {
     TextTable table;
-    FakeMotionPreference motion;
-    motion.reduces = true;
-    UserScreens screens;
     {
-        SessionAbilities abilities;
+        PreferencesDesk desk;
         const auto addSteps = [&](const char *heading) {
-            WelcomeWindowController controller(motion, screens.locator, abilities);
+            WelcomeWindowController controller(
+                {desk.motion, desk.abilities, desk.settings, desk.binder}, desk.screens.locator);
             controller.window().present();
             for (int step = 1; step <= 3; ++step) {
                 table.add(QString::fromLatin1(heading).arg(step), spokenTexts(controller.window()));
@@ -207,8 +205,11 @@ TextTable textsOfTheGuide()
             }
         };
         addSteps("Guide, step %1");
-        abilities.become(lackingAbilities(Reason::ServerLacksExtensions));
+        desk.abilities.become(lackingAbilities(Reason::ServerLacksExtensions));
         addSteps("Guide where abilities are lacking, step %1");
+        desk.abilities.become({});
+        desk.binder.bindShelf();
+        addSteps("Guide where keys open the shelf, step %1");
     }
     deletePending();
     return table;

@@ -9,9 +9,8 @@
 #include "app/welcome/welcome_view.h"
 #include "app/welcome/welcome_window_controller.h"
 #include "app/widget_hands.h"
-#include "fakes/fake_motion_preference.h"
 #include "fakes/lacking_abilities.h"
-#include "fakes/user_screens.h"
+#include "fakes/preferences_desk.h"
 #include "platform/desktop/abilities.h"
 
 #include <QImage>
@@ -43,7 +42,8 @@ protected:
 
     void make()
     {
-        controller = std::make_unique<WelcomeWindowController>(motion, screens.locator, abilities);
+        controller = std::make_unique<WelcomeWindowController>(
+            WelcomeView::Context{motion, abilities, desk.settings, desk.binder}, screens.locator);
         controller->onClose = [this] { ++closed; };
     }
     ShellWindow &window() { return controller->window(); }
@@ -58,9 +58,10 @@ protected:
     QString title() { return window().findChildren<TextLabel *>().at(0)->text(); }
     IllustrationView &illustration() { return *window().findChild<IllustrationView *>(); }
 
-    FakeMotionPreference motion;
-    UserScreens screens;
-    SessionAbilities abilities;
+    PreferencesDesk desk;
+    FakeMotionPreference &motion = desk.motion;
+    UserScreens &screens = desk.screens;
+    SessionAbilities &abilities = desk.abilities;
     std::unique_ptr<WelcomeWindowController> controller;
     int closed = 0;
 };
@@ -93,6 +94,27 @@ TEST_F(WelcomeWindowTest, AStepSaysThatTheSessionCannotDoWhatItDescribes)
     EXPECT_EQ(note(), session_texts::limit(lacking.keepingKey));
     abilities.become({});
     EXPECT_EQ(note(), QString());
+}
+
+TEST_F(WelcomeWindowTest, TheStepOnKeysNamesThoseThatOpenTheShelf)
+{
+    const auto keys = [this] { return window().findChildren<TextLabel *>().at(3)->text(); };
+    const auto says = [&keys](const char *words) {
+        return keys().startsWith(QLatin1String("By keyboard: press ") + QLatin1String(words));
+    };
+    window().present();
+    button("Next")->click();
+    EXPECT_TRUE(says("the shelf's shortcut, then")) << "none is bound";
+    desk.binder.bindShelf();
+    EXPECT_TRUE(says("Meta+Shift+D, then")) << keys().toStdString();
+    desk.settings.setShortcut(Shortcut{KeyPosition::F5, Shortcut::option, QStringLiteral("F5")});
+    desk.binder.rebind(HotKeyCenter::Binding::Shelf);
+    button("Back")->click();
+    button("Next")->click();
+    EXPECT_TRUE(says("Alt+F5, then")) << keys().toStdString();
+    desk.settings.setShortcut(std::nullopt);
+    desk.binder.rebind(HotKeyCenter::Binding::Shelf);
+    EXPECT_TRUE(says("the shelf's shortcut, then"));
 }
 
 TEST_F(WelcomeWindowTest, NextAndBackGoThroughTheSteps)

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -60,6 +61,16 @@ TEST_F(LoginItemsTest, registersAndUnregisters)
     EXPECT_FALSE(items.unregisterItem());
     EXPECT_FALSE(items.isRegistered());
     EXPECT_FALSE(items.unregisterItem());
+}
+
+TEST_F(LoginItemsTest, theEntryHasThePictureAndTheWordsThatDesktopsListItWith)
+{
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.example.Program"));
+    EXPECT_FALSE(items.registerItem());
+    QGuiApplication::setDesktopFileName({});
+    EXPECT_TRUE(entry().contains("\nIcon=org.example.Program\n")) << entry().constData();
+    EXPECT_TRUE(entry().contains("\nComment=A shelf at the top of the screen for what you drag\n"))
+        << entry().constData();
 }
 
 TEST_F(LoginItemsTest, quotesThePathOfTheProgram)
