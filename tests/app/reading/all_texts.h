@@ -19,6 +19,7 @@ TextTable textsOfTheMenu();
 TextTable textsOfWhatASessionLacks();
 TextTable textsOfThePreferences();
 TextTable textsOfTheGuide();
+TextTable textsOfTheEntryAtLogin();
 TextTable textsOfTheUpdates();
 TextTable textsOfThePreview();
 TextTable textsOfAStartBesideOneThatDoesNotAnswer();
@@ -40,6 +41,7 @@ inline constexpr std::array allTexts = {
     TextGroup{"limits", textsOfWhatASessionLacks},
     TextGroup{"preferences", textsOfThePreferences},
     TextGroup{"guide", textsOfTheGuide},
+    TextGroup{"login", textsOfTheEntryAtLogin},
     TextGroup{"updates", textsOfTheUpdates},
     TextGroup{"preview", textsOfThePreview},
     TextGroup{"unanswered", textsOfAStartBesideOneThatDoesNotAnswer},

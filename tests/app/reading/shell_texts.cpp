@@ -18,6 +18,10 @@
 #include "fakes/preferences_desk.h"
 #include "fakes/shelf_model.h"
 #include "fakes/user_screens.h"
+#include "platform/freedesktop/autostart_login_items.h"
+
+#include <QFile>
+#include <QTemporaryDir>
 
 namespace corvane::test {
 
@@ -212,6 +216,31 @@ TextTable textsOfTheGuide()
         addSteps("Guide where keys open the shelf, step %1");
     }
     deletePending();
+    return table;
+}
+
+/// What desktops show of the entry by which they start Corvane.
+TextTable textsOfTheEntryAtLogin()
+{
+    const QTemporaryDir folder;
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder.path()));
+    AutostartLoginItems(QStringLiteral("corvane")).registerItem();
+    if (before.isNull())
+        qunsetenv("XDG_CONFIG_HOME");
+    else
+        qputenv("XDG_CONFIG_HOME", before);
+    QFile file(folder.filePath(QStringLiteral("autostart/corvane.desktop")));
+    QStringList said;
+    if (file.open(QFile::ReadOnly)) {
+        const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n');
+        for (const QString &line : lines) {
+            if (line.startsWith(QLatin1String("Comment=")))
+                said << line.section(u'=', 1);
+        }
+    }
+    TextTable table;
+    table.add(QStringLiteral("Entry at login"), said);
     return table;
 }
 
