@@ -1,6 +1,7 @@
 #include "core/open_spool.h"
 
 #include "core/spool_directory.h"
+#include "platform/system/private_folder.h"
 
 #include <QStringBuilder>
 
@@ -38,7 +39,7 @@ OpenSpool::~OpenSpool()
 
 bool OpenSpool::stillStands() const
 {
-    return spool_directory::isAt(m_directory, m_descriptor);
+    return private_folder::isAt(m_directory, m_descriptor);
 }
 
 bool OpenSpool::contains(const QByteArray &path) const

@@ -6,6 +6,7 @@
 #include "platform/base/checked_math.h"
 #include "platform/system/file_url.h"
 #include "platform/system/private_file.h"
+#include "platform/system/private_folder.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
@@ -79,7 +80,7 @@ bool ScratchSpool::open()
     std::error_code ignored;
     std::filesystem::create_directories(m_temporaryDirectory.constData(), ignored);
     ::mkdir(m_directory.constData(), S_IRWXU);
-    const int descriptor = spool_directory::openAndLock(m_directory);
+    const int descriptor = private_folder::openAndLock(m_directory);
     if (descriptor >= 0)
         m_open = std::make_shared<const OpenSpool>(m_directory, descriptor);
     return descriptor >= 0;

@@ -1,13 +1,12 @@
 #include "core/spool_directory.h"
 
+#include "platform/system/private_folder.h"
+
 #include <QRandomGenerator>
 #include <QStringBuilder>
 
 #include <dirent.h>
-#include <fcntl.h>
 #include <spawn.h>
-#include <sys/file.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -30,13 +29,6 @@ bool isSpoolName(const QByteArray &name)
     const QByteArray number = name.mid(prefix.size());
     return !number.isEmpty()
         && std::all_of(number.begin(), number.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
-
-bool isSafe(int descriptor)
-{
-    struct stat status = {};
-    return ::fstat(descriptor, &status) == 0 && S_ISDIR(status.st_mode)
-        && status.st_uid == ::geteuid() && (status.st_mode & (S_IRWXG | S_IRWXO)) == 0;
 }
 
 /// Renames the directory to a spool name with a random 64-bit number, which no process has. Returns
@@ -92,29 +84,6 @@ QByteArray withoutTrailingSlashes(QByteArray path)
     return path;
 }
 
-int openAndLock(const QByteArray &path)
-{
-    constexpr int flags = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-    const int descriptor = ::open(path.constData(), flags);
-    if (descriptor < 0)
-        return -1;
-    // Between opening and locking, another process may have removed or renamed the directory.
-    const bool isOurs = isSafe(descriptor) && ::flock(descriptor, LOCK_EX | LOCK_NB) == 0
-        && isAt(path, descriptor);
-    if (isOurs)
-        return descriptor;
-    ::close(descriptor);
-    return -1;
-}
-
-bool isAt(const QByteArray &path, int descriptor)
-{
-    struct stat named = {};
-    struct stat opened = {};
-    return ::lstat(path.constData(), &named) == 0 && ::fstat(descriptor, &opened) == 0
-        && named.st_dev == opened.st_dev && named.st_ino == opened.st_ino;
-}
-
 std::vector<QByteArray> candidates(const QByteArray &temporaryDirectory)
 {
     std::vector<QByteArray> paths;
@@ -131,7 +100,7 @@ std::vector<QByteArray> candidates(const QByteArray &temporaryDirectory)
 
 void setAside(const QByteArray &path)
 {
-    const int descriptor = openAndLock(path);
+    const int descriptor = private_folder::openAndLock(path);
     if (descriptor < 0)
         return;
     // The new name need not be remembered: `candidates` finds it.
@@ -141,7 +110,7 @@ void setAside(const QByteArray &path)
 
 void removeLeftover(const QByteArray &path)
 {
-    const int descriptor = openAndLock(path);
+    const int descriptor = private_folder::openAndLock(path);
     if (descriptor < 0)
         return;
     remove(path);

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-/// Makes, checks, locks and deletes the directories of spools on disk. Paths are native. Any
+/// Names, finds and deletes the directories of spools on disk. Paths are native. Any
 /// thread.
 namespace corvane::spool_directory {
 
@@ -13,14 +13,6 @@ QByteArray name(qint64 processIdentifier);
 
 /// The same path without slashes at its end, but for the root itself.
 QByteArray withoutTrailingSlashes(QByteArray path);
-
-/// Opens and locks a directory if it is a real directory, owned by this user, closed to others and
-/// locked by no other process; -1 otherwise. The lock lasts until the descriptor is closed or the
-/// process ends.
-int openAndLock(const QByteArray &path);
-
-/// Whether `path` still names the directory that `descriptor` has open.
-bool isAt(const QByteArray &path, int descriptor);
 
 /// The paths in `temporaryDirectory` that are named like a spool.
 std::vector<QByteArray> candidates(const QByteArray &temporaryDirectory);

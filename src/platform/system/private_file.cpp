@@ -1,5 +1,7 @@
 #include "platform/system/private_file.h"
 
+#include "platform/system/private_folder.h"
+
 #include <QRandomGenerator>
 #include <QStringBuilder>
 
@@ -80,16 +82,6 @@ bool moveInto(const QByteArray &from, const QByteArray &path)
         && ::rename(from.constData(), path.constData()) == 0;
 }
 
-bool makeFolders(const QByteArray &base, const QByteArray &folder)
-{
-    const QByteArray way = folder + '/';
-    for (qsizetype end = base.size(); end >= 0; end = way.indexOf('/', end + 1)) {
-        if (::mkdir(way.first(end).constData(), S_IRWXU) != 0 && errno != EEXIST)
-            return false;
-    }
-    return true;
-}
-
 FileDescriptor createFilled(const QByteArray &path, const Fill &fill)
 {
     const QByteArray folder = folderOf(path);
@@ -131,7 +123,7 @@ FileDescriptor createLocked(const QByteArray &path, const QByteArray &data)
 bool replace(const QByteArray &base, const QByteArray &folder, const QByteArray &name,
              const QByteArray &data)
 {
-    if (!makeFolders(base, folder))
+    if (!private_folder::make(base, folder))
         return false;
     const Unfinished unfinished(folder);
     const QByteArray finished = folder + '/' + name;
