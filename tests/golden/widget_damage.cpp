@@ -41,6 +41,14 @@ bool isWhole(const QWidget &widget)
     return true;
 }
 
+/// Whether the toolkit puts it back in its place before it is painted: what a scroll area has its
+/// bars in.
+bool isPutBack(const QWidget &widget)
+{
+    const QString name = widget.objectName();
+    return name.startsWith(u"qt_scrollarea_") && name.endsWith(u"container");
+}
+
 /// Whole tiles around a widget, in points of its window.
 QRect tilesAround(const QWidget &widget, const QWidget &window)
 {
@@ -81,12 +89,13 @@ void addDamages(QWidget *widget, std::vector<Damage> &damages)
 {
     damages.push_back({nameOf(*widget) % u" erased", [widget] { erase(widget); },
                        [widget] { widget->setGraphicsEffect(nullptr); }});
-    damages.back().isErasure = true;
+    // Of what reaches out of sight there may be a stroke or two, a tenth of which nobody sees.
+    damages.back().isErasure = isWhole(*widget);
     const QPoint there = widget->pos();
     for (const auto &[step, way] :
          {std::pair(QPoint(1, 0), u" to the right"), {QPoint(0, 1), u" down"}}) {
         // What reaches out of sight may show nothing but its ground.
-        if (!isWhole(*widget))
+        if (!isWhole(*widget) || isPutBack(*widget))
             break;
         damages.push_back({nameOf(*widget) % way, [=] { widget->move(there + step); },
                            [=] { widget->move(there); }});
