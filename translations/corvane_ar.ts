@@ -1086,6 +1086,14 @@ that runs.</source>
         <translation>يسأل الموقع المقصود عن عنوانه وصورته، فيعلم الموقع أن الرابط لديك. عدا البحث عن تحديثات، إن وُجد، لا يستخدم Corvane الشبكة إلا لهذا.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>احتفظ بالعناصر عند إنهاء Corvane</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>تعود عند البدء التالي. وحتى ذلك الحين تُخزَّن الصور والنصوص في مجلد المنزل.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>الاختصارات</translation>
     </message>

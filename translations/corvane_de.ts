@@ -1042,6 +1042,14 @@ angezeigt oder verborgen.</translation>
         <translation>Fragt die verlinkte Seite nach Titel und Bild; sie erfährt so, dass Sie den Link haben. Abgesehen von der Suche nach Aktualisierungen, falls es sie gibt, nutzt Corvane das Netz nur dafür.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Elemente behalten, wenn Corvane endet</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>Beim nächsten Start sind sie wieder da. Bis dahin liegen Bilder und Texte in Ihrem persönlichen Ordner.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Tastenkürzel</translation>
     </message>

@@ -1042,6 +1042,14 @@ that runs.</translation>
         <translation>Asks the linked site for its title and image, so the site learns you have the link. Apart from the update check, if there is one, it is the only time Corvane uses the network.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Keep items when Corvane ends</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>They are back at the next start. Until then, pictures and texts are stored in your home folder.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Shortcuts</translation>
     </message>

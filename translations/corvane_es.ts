@@ -1042,6 +1042,14 @@ se está ejecutando.</translation>
         <translation>Pide al sitio enlazado su título y su imagen, así que el sitio sabe que usted tiene el enlace. Aparte de la búsqueda de actualizaciones, si la hay, es la única vez que Corvane usa la red.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Conservar los elementos al cerrar Corvane</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>Vuelven a estar en el próximo inicio. Hasta entonces, las imágenes y los textos se guardan en su carpeta personal.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Atajos</translation>
     </message>

@@ -1042,6 +1042,14 @@ qui est lancé.</translation>
         <translation>Demande au site son titre et son image&#xa0;; le site apprend donc que vous avez le lien. Hormis la recherche de mises à jour, si elle existe, c’est le seul cas où Corvane utilise le réseau.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Conserver les éléments quand Corvane est quitté</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>Ils sont de retour au prochain démarrage. D’ici là, les images et les textes sont enregistrés dans votre dossier personnel.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Raccourcis</translation>
     </message>

@@ -1042,6 +1042,14 @@ that runs.</source>
         <translation>מבקש מהאתר את הכותרת והתמונה שלו, וכך האתר יודע שהקישור ברשותך. מלבד חיפוש עדכונים, אם הוא קיים, רק כאן Corvane משתמש ברשת.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>שמירת הפריטים ביציאה מ־Corvane</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>הם יחזרו בהפעלה הבאה. עד אז תמונות וטקסטים נשמרים בתיקיית הבית.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>קיצורי מקשים</translation>
     </message>

@@ -1042,6 +1042,14 @@ that runs.</source>
         <translation>उस साइट से उसका शीर्षक और चित्र माँगता है, जिससे साइट को पता चलता है कि लिंक आपके पास है। यदि अपडेट जाँच हो तो उसे छोड़कर, Corvane केवल यहीं नेटवर्क का उपयोग करता है।</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Corvane के बंद होने पर वस्तुएँ रखें</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>वे अगली शुरुआत पर वापस होती हैं। तब तक चित्र और पाठ आपके होम फ़ोल्डर में रखे जाते हैं।</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>शॉर्टकट</translation>
     </message>

@@ -1031,6 +1031,14 @@ rak dari Corvane yang sudah berjalan.</translation>
         <translation>Meminta judul dan gambar dari situs itu, sehingga situs tahu Anda memiliki tautannya. Selain pemeriksaan pembaruan, bila ada, hanya saat inilah Corvane memakai jaringan.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Simpan butir saat Corvane keluar</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>Semuanya kembali saat dijalankan lagi. Sampai saat itu, gambar dan teks disimpan di folder rumah Anda.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Pintasan</translation>
     </message>

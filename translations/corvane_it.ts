@@ -1042,6 +1042,14 @@ in esecuzione.</translation>
         <translation>Chiede al sito il suo titolo e la sua immagine, così il sito sa che si possiede il collegamento. A parte il controllo degli aggiornamenti, se c’è, è l’unico caso in cui Corvane usa la rete.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Conserva gli elementi alla chiusura di Corvane</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>Tornano al prossimo avvio. Fino ad allora immagini e testi sono salvati nella cartella home.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Scorciatoie</translation>
     </message>

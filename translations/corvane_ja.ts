@@ -1031,6 +1031,14 @@ that runs.</source>
         <translation>リンク先のサイトにタイトルと画像を尋ねるため、リンクを持っていることがサイトに伝わります。備わっている場合のアップデートの確認を除き、Corvane がネットワークを使うのはこのときだけです。</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Corvane の終了時に項目を残す</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>次に起動したときに元に戻ります。それまで、画像とテキストはホームフォルダーに保存されます。</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>ショートカット</translation>
     </message>

@@ -1031,6 +1031,14 @@ that runs.</source>
         <translation>링크된 사이트에 제목과 그림을 요청하므로, 사이트는 사용자에게 이 링크가 있음을 알게 됩니다. 업데이트 확인이 있는 경우를 빼면 Corvane이 네트워크를 쓰는 것은 이때뿐입니다.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Corvane을 끝낼 때 항목 보관</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>다음에 시작하면 다시 나타납니다. 그때까지 그림과 텍스트는 홈 폴더에 저장됩니다.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>단축키</translation>
     </message>

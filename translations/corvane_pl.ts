@@ -1053,6 +1053,14 @@ który już działa.</translation>
         <translation>Pyta wskazaną stronę o tytuł i obraz, więc strona dowiaduje się, że masz ten odnośnik. Poza sprawdzaniem aktualizacji, jeśli jest dostępne, tylko wtedy Corvane używa sieci.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Zachowywanie elementów po zakończeniu Corvane</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>Wracają przy następnym uruchomieniu. Do tego czasu obrazy i teksty są przechowywane w katalogu domowym.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Skróty</translation>
     </message>

@@ -1042,6 +1042,14 @@ está em execução.</translation>
         <translation>Pede ao site seu título e sua imagem; assim, o site fica sabendo que você tem o link. Fora a procura de atualizações, se houver, é a única vez que o Corvane usa a rede.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Manter os itens quando o Corvane for encerrado</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>Eles voltam no próximo início. Até lá, imagens e textos ficam gravados na sua pasta pessoal.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Atalhos</translation>
     </message>

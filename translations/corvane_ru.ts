@@ -1053,6 +1053,14 @@ that runs.</source>
         <translation>Запрашивает у сайта его заголовок и изображение, и сайт узнаёт, что у вас есть ссылка. Кроме проверки обновлений, если она есть, только здесь Corvane обращается к сети.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Сохранять объекты при завершении Corvane</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>При следующем запуске они снова будут на полке. До тех пор изображения и тексты хранятся в домашней папке.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Сочетания клавиш</translation>
     </message>

@@ -1031,6 +1031,14 @@ veya gizler.</translation>
         <translation>Bağlantının sitesinden başlığını ve görüntüsünü ister; site böylece bağlantının sizde olduğunu öğrenir. Varsa güncelleme denetimi dışında, Corvane ağı yalnızca burada kullanır.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Corvane kapanınca ögeleri sakla</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>Sonraki başlangıçta yeniden rafta olurlar. O zamana kadar görüntüler ve metinler ev klasörünüzde saklanır.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Kısayollar</translation>
     </message>

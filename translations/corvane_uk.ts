@@ -1053,6 +1053,14 @@ that runs.</source>
         <translation>Запитує в сайту його заголовок і зображення, тож сайт дізнається, що у вас є посилання. Окрім перевірки оновлень, якщо вона є, лише тут Corvane звертається до мережі.</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Зберігати об’єкти після виходу з Corvane</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>Під час наступного запуску вони знову будуть на полиці. Доти зображення й тексти зберігаються в домашній теці.</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>Клавіатурні скорочення</translation>
     </message>

@@ -1031,6 +1031,14 @@ that runs.</source>
         <translation>向链接的网站请求标题和图像，因此网站会知道您有该链接。除检查更新（如果有）外，Corvane 只在此时使用网络。</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Corvane 退出时保留项目</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>下次启动时它们会回来。在此之前，图像和文本保存在您的主文件夹中。</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>快捷键</translation>
     </message>

@@ -1031,6 +1031,14 @@ that runs.</source>
         <translation>向連結的網站要求標題和影像，因此網站會知道您有該連結。除檢查更新（如果有）外，Corvane 只在此時使用網路。</translation>
     </message>
     <message>
+        <source>Keep items when Corvane ends</source>
+        <translation>Corvane 結束時保留項目</translation>
+    </message>
+    <message>
+        <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
+        <translation>下次啟動時它們會回來。在此之前，影像和文字儲存在您的家目錄中。</translation>
+    </message>
+    <message>
         <source>Shortcuts</source>
         <translation>快捷鍵</translation>
     </message>

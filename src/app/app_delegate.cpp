@@ -3,15 +3,18 @@
 #include "app/shell_windows.h"
 #include "app/status/status_item_controller.h"
 #include "app/updates/updater.h"
+#include "core/kept_items.h"
 #include "core/scratch_spool.h"
 #include "core/settings.h"
 #include "core/shelf_store.h"
 #include "input/hot_key_center.h"
 #include "input/shortcut_binder.h"
+#include "platform/base/end_deadline.h"
 #include "services/quick_look_presenter.h"
 #include "shelf/edge_summoner.h"
 #include "shelf/hud_controller.h"
 
+#include <QDeadlineTimer>
 #include <QtDebug>
 
 #include <utility>
@@ -53,6 +56,8 @@ void AppDelegate::applicationDidFinishLaunching()
     wireHotKey();
     wireMenu();
     wireEdge();
+    // Before anything can be dropped, so that what was kept comes first.
+    m_context.keptItems.restore();
     m_context.windows.showWelcomeOnFirstLaunch();
 }
 
@@ -142,7 +147,19 @@ void AppDelegate::applicationWillTerminate()
     m_context.hotKeys.unregisterAll();
     m_context.previewPanel.orderOut();
     m_context.presenter.discardScratch();
+    keepItems();
     m_context.spool.discardAll();
+}
+
+/// Writes to disk, which takes longer than the other steps.
+void AppDelegate::keepItems()
+{
+    if (m_context.settings.keepItems())
+        end_deadline::set(end_deadline::forKeeping);
+    const QDeadlineTimer deadline(KeptItems::patience);
+    m_context.keptItems.keep([&deadline] { return !deadline.hasExpired(); });
+    if (m_context.settings.keepItems())
+        end_deadline::set(end_deadline::forSteps);
 }
 
 bool AppDelegate::applicationShouldHandleReopen(bool /*hasVisibleWindows*/)

@@ -11,6 +11,7 @@ namespace corvane {
 class EdgeSummoner;
 class HotKeyCenter;
 class HUDController;
+class KeptItems;
 class QuickLookPresenter;
 class ScratchSpool;
 class Settings;
@@ -33,6 +34,7 @@ public:
         Settings &settings;
         ShelfStore &store;
         ScratchSpool &spool;
+        KeptItems &keptItems;
         PreviewPanel &previewPanel;
         QuickLookPresenter &presenter;
         HUDController &hud;
@@ -49,8 +51,9 @@ public:
 
     void applicationDidFinishLaunching();
     /// Stops watching the screens' edges and drags, unregisters the hot keys, closes the preview
-    /// and removes its scratch file, then the spool. It may be called several times, because the
-    /// process may end in several ways at once; only the first call does something.
+    /// and removes its scratch file, keeps the items if that is wanted, then removes the spool. It
+    /// may be called several times, because the process may end in several ways at once; only the
+    /// first call does something.
     void applicationWillTerminate();
     /// The user started the program again: toggles the shelf. Returns false: nothing else is to be
     /// done.
@@ -79,6 +82,7 @@ private:
     void wireHotKey();
     void wireMenu();
     void wireEdge();
+    void keepItems();
 
     Context m_context;
     bool m_isTerminated = false;

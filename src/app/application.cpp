@@ -155,13 +155,13 @@ int runShelf(SessionKind kind, DBusSingleInstance &instance, AppDelegate *&deleg
     QObject::connect(application.get(), &QCoreApplication::aboutToQuit,
                      [&delegate] { putInOrder(std::exchange(delegate, nullptr)); });
 
-    delegate->applicationDidFinishLaunching();
-    instance.setRequests(&root->requests);
-    wish.fulfil(root->requests);
     root->workQueue.run(root->spool.leftoversRemoval());
     root->workQueue.run([folder = QFile::encodeName(QDir::tempPath())] {
         preview_scratch::removeLeftovers(folder);
     });
+    delegate->applicationDidFinishLaunching();
+    instance.setRequests(&root->requests);
+    wish.fulfil(root->requests);
     const int status = QApplication::exec();
     instance.setRequests(nullptr);
     putInOrder(std::exchange(delegate, nullptr));

@@ -48,12 +48,13 @@ DragWriter makeDragWriter(const Theme &theme, const FileLocality &locality)
         locality};
 }
 
-/// The spool is a private folder: thumbnails of its files are not shared with other programs.
+/// The spool, and what is kept, are private folders: thumbnails of their files are not shared with
+/// other programs.
 SharedThumbnailCache::Places thumbnailPlaces(const ScratchSpool &spool)
 {
     return {SharedThumbnailCache::environmentCacheFolder(),
             "corvane-" + QCoreApplication::applicationVersion().toUtf8(),
-            {file_url::nativePath(spool.directory())}};
+            {file_url::nativePath(spool.directory()), KeptFolder::environmentPath()}};
 }
 
 QList<QUuid> itemsInView(const ShelfStore &store)
@@ -132,6 +133,13 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                  thumbnailWork)
     , linkPreviews(webClient, imageCodec, mainQueue, workQueue, slowWork, product())
     , store(settings, spool, thumbnails, linkPreviews, feedback)
+    , keptItems({.settings = settings,
+                 .folder = keptFolder,
+                 .store = store,
+                 .spool = spool,
+                 .ingest = ingest,
+                 .preparation = itemPreparation,
+                 .workQueue = workQueue})
     , previewDocuments(decoders)
     , previewLoader({.documents = previewDocuments,
                      .locality = mountTable,
@@ -221,6 +229,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                 .settings = settings,
                 .store = store,
                 .spool = spool,
+                .keptItems = keptItems,
                 .previewPanel = previewPanel,
                 .presenter = presenter,
                 .hud = hud,

@@ -14,6 +14,7 @@
 #include "core/feedback.h"
 #include "core/image_converter.h"
 #include "core/item_preparation.h"
+#include "core/kept_items.h"
 #include "core/pasteboard_ingest.h"
 #include "core/picture_items.h"
 #include "core/quick_actions.h"
@@ -148,6 +149,8 @@ struct CompositionRoot {
     ThumbnailService thumbnails;
     LinkPreviewService linkPreviews;
     ShelfStore store;
+    KeptFolder keptFolder{KeptFolder::environmentPath()};
+    KeptItems keptItems;
 
     // The preview.
     DecoderDocuments previewDocuments;

@@ -37,8 +37,12 @@ DropItem ItemPreparation::begin(Job job)
             mainQueue.async([end, made = std::move(made)] { end(made); });
         });
     DropItem item = job.item;
-    m_running.insert_or_assign(
-        id, Running{std::move(job.item), std::move(job.places), std::move(job.onEnd), {}});
+    m_running.insert_or_assign(id,
+                               Running{std::move(job.item),
+                                       std::move(job.places),
+                                       std::move(job.onEnd),
+                                       std::move(job.bytes),
+                                       {}});
     return item;
 }
 
@@ -119,6 +123,12 @@ void ItemPreparation::whenReady(const QList<DropItem> &items,
                   });
     }
     oneLess();
+}
+
+std::optional<DropItem::ImageBytes> ItemPreparation::bytesOf(const DropItem &item) const
+{
+    const auto running = m_running.find(item.id());
+    return running != m_running.end() ? running->second.bytes : std::nullopt;
 }
 
 } // namespace corvane

@@ -44,6 +44,8 @@ public:
         /// Called on the main thread at the end, before `onReady` and the callbacks of `whenReady`.
         /// May be empty.
         WhenReady onEnd;
+        /// What the item is made from, if that is nowhere else.
+        std::optional<DropItem::ImageBytes> bytes = {};
     };
 
     ItemPreparation(ScratchSpool &spool, MainQueue &mainQueue, WorkQueue &workQueue);
@@ -67,11 +69,16 @@ public:
     void whenReady(const QList<DropItem> &items,
                    const std::function<void(const QList<DropItem> &)> &callback);
 
+    /// What an item is being made from that is in memory alone, to be kept if the program ends
+    /// before the item is made; none for others.
+    std::optional<DropItem::ImageBytes> bytesOf(const DropItem &item) const;
+
 private:
     struct Running {
         DropItem item;
         std::vector<std::shared_ptr<SpoolPlace>> places;
         WhenReady onEnd;
+        std::optional<DropItem::ImageBytes> bytes;
         std::vector<WhenReady> waiting;
     };
     void ended(const QUuid &id, const std::optional<DropItem> &made);

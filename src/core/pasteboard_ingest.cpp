@@ -109,18 +109,8 @@ std::optional<QUrl> PasteboardIngest::placeForPromisedFile(const QString &name) 
 QList<DropItem> PasteboardIngest::readAll(Pasteboard &pasteboard) const
 {
     const QList<QUrl> files = pasteboard.fileUrls();
-    if (!files.isEmpty()) {
-        QList<QByteArray> paths;
-        paths.reserve(files.size());
-        for (const QUrl &url : files)
-            paths << file_url::nativePath(url);
-        const auto inspections = m_locality.inspect(paths);
-        QList<DropItem> items;
-        items.reserve(files.size());
-        for (qsizetype i = 0; i < files.size(); ++i)
-            items << fileItem(files[i], inspections[static_cast<std::size_t>(i)]);
-        return items;
-    }
+    if (!files.isEmpty())
+        return fileItems(files);
     if (const auto saved = promisedFileItem(pasteboard))
         return {*saved};
     if (const auto image = imageItem(pasteboard))
@@ -130,6 +120,20 @@ QList<DropItem> PasteboardIngest::readAll(Pasteboard &pasteboard) const
     if (const auto text = textItem(pasteboard))
         return {*text};
     return {};
+}
+
+QList<DropItem> PasteboardIngest::fileItems(const QList<QUrl> &urls) const
+{
+    QList<QByteArray> paths;
+    paths.reserve(urls.size());
+    for (const QUrl &url : urls)
+        paths << file_url::nativePath(url);
+    const auto inspections = m_locality.inspect(paths);
+    QList<DropItem> items;
+    items.reserve(urls.size());
+    for (qsizetype i = 0; i < urls.size(); ++i)
+        items << fileItem(urls[i], inspections[static_cast<std::size_t>(i)]);
+    return items;
 }
 
 DropItem PasteboardIngest::fileItem(const QUrl &url) const
@@ -197,9 +201,14 @@ std::optional<DropItem> PasteboardIngest::textItem(Pasteboard &pasteboard) const
     const auto text = pasteboard.string();
     if (!text || QStringView(*text).trimmed().isEmpty())
         return std::nullopt;
-    DropItem item(DropItem::Text{*text}, item_description::titleOfText(*text),
-                  TextDescriptions::atOnce(*text), false);
-    m_textDescriptions.find(item.id(), *text);
+    return textItem(*text);
+}
+
+DropItem PasteboardIngest::textItem(const QString &text) const
+{
+    DropItem item(DropItem::Text{text}, item_description::titleOfText(text),
+                  TextDescriptions::atOnce(text), false);
+    m_textDescriptions.find(item.id(), text);
     return item;
 }
 

@@ -55,6 +55,9 @@ public:
     /// The item of one file on disk. A TIFF on a local disk becomes an item that is still being
     /// made, if there is a spool.
     DropItem fileItem(const QUrl &url) const;
+    /// The same for many, in their order.
+    QList<DropItem> fileItems(const QList<QUrl> &urls) const;
+    DropItem textItem(const QString &text) const;
 
 private:
     DropItem fileItem(const QUrl &url, const FileLocality::Inspection &inspection) const;

@@ -166,7 +166,8 @@ DropItem PictureItems::ofBytes(const QByteArray &data, const UTType &type) const
     ItemPreparation::Job job{item,
                              {png ? png : asItIs},
                              MakeOfBytes{data, type, png, asItIs, m_converter, m_codec},
-                             nullptr};
+                             nullptr,
+                             DropItem::ImageBytes{data, type}};
     if (png)
         job.places.push_back(asItIs);
     return m_preparation.begin(std::move(job));

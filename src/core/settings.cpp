@@ -118,6 +118,16 @@ void Settings::setBetaUpdates(bool on)
     m_defaults.setBool(on, name(betaUpdatesKey));
 }
 
+bool Settings::keepItems() const
+{
+    return m_defaults.boolForKey(name(keepItemsKey));
+}
+
+void Settings::setKeepItems(bool on)
+{
+    m_defaults.setBool(on, name(keepItemsKey));
+}
+
 bool Settings::seenWelcome() const
 {
     return m_defaults.boolForKey(name(seenWelcomeKey));

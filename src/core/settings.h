@@ -26,6 +26,7 @@ public:
     static constexpr auto viewAllShortcutKey = "settings.viewAllShortcut";
     static constexpr auto seenWelcomeKey = "settings.seenWelcome";
     static constexpr auto betaUpdatesKey = "settings.betaUpdates";
+    static constexpr auto keepItemsKey = "settings.keepItems";
 
     /// The range of `inViewCount`.
     static constexpr int minimumInViewCount = 1;
@@ -52,6 +53,10 @@ public:
     /// Whether beta versions are offered too; not before somebody chose them.
     bool betaUpdates() const;
     void setBetaUpdates(bool on);
+    /// Whether what is on the shelf at the end is there again at the next start; not before
+    /// somebody chose that.
+    bool keepItems() const;
+    void setKeepItems(bool on);
     bool seenWelcome() const;
     void setSeenWelcome(bool seen);
 

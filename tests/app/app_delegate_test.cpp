@@ -4,6 +4,7 @@
 #include "app/shell_windows.h"
 #include "app/status/status_item_controller.h"
 #include "app/welcome/welcome_window_controller.h"
+#include "core/kept_items.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_desktop_services.h"
 #include "fakes/fake_drag_desktop.h"
@@ -88,6 +89,7 @@ protected:
                                               .settings = settings,
                                               .store = store,
                                               .spool = desk.spool,
+                                              .keptItems = keptItems,
                                               .previewPanel = previewPanel,
                                               .presenter = presenter,
                                               .hud = *hud,
@@ -143,6 +145,15 @@ protected:
     ShortcutBinder shortcuts{hotKeys, [this] { return settings.shortcut(); },
                              [this] { return settings.viewAllShortcut(); }};
     TemporaryFolder scratch;
+    KeptFolder keptFolder{scratch.path("kept")};
+    FakeWorkQueue keptWork;
+    KeptItems keptItems{{.settings = settings,
+                         .folder = keptFolder,
+                         .store = store,
+                         .spool = desk.spool,
+                         .ingest = desk.ingest,
+                         .preparation = desk.preparation,
+                         .workQueue = keptWork}};
     FakePreviewPanel previewPanel;
     FakeWorkQueue scratchWork;
     QuickLookPresenter presenter{{previewPanel, desk.clock, scratchWork}, scratch.path()};
@@ -532,6 +543,22 @@ TEST_F(AppDelegateTest, TerminationStopsTheMonitorAndRemovesTheSpool)
     EXPECT_FALSE(QDir(desk.spool.directory().toLocalFile()).exists());
     drag();
     EXPECT_EQ(store.state(), ShelfState::Idle);
+}
+
+TEST_F(AppDelegateTest, TheItemsAreKeptBeforeTheSpoolGoesAndAreThereAtTheNextLaunch)
+{
+    settings.setKeepItems(true);
+    const auto spooled
+        = desk.spool.store(QByteArrayLiteral("x"), QStringLiteral("Image"), QStringLiteral("png"));
+    ASSERT_TRUE(spooled);
+    store.accept({DropItem(DropItem::File{*spooled}, QStringLiteral("Image.png"), {}, true)});
+    delegate->applicationWillTerminate();
+    EXPECT_FALSE(QFile::exists(spooled->toLocalFile()));
+    end();
+    store.setItems({});
+    launch();
+    ASSERT_EQ(store.items().size(), 1);
+    EXPECT_EQ(store.items().constFirst().title(), QStringLiteral("Image.png"));
 }
 
 TEST_F(AppDelegateTest, TerminationEndsOneThingAfterTheOther)

@@ -80,6 +80,23 @@ TEST_F(ItemPreparationTest, KeepsTheItemsId)
     EXPECT_FALSE(made->isBeingMade());
 }
 
+TEST_F(ItemPreparationTest, KnowsWhatAnItemIsMadeFromUntilItIsMade)
+{
+    const auto place = spool.keepPlace(QStringLiteral("a"), QStringLiteral("png"));
+    const DropItem item = preparation->begin(
+        {DropItem::beingMade({place->url()}, QStringLiteral("a"), {}, {}),
+         {place},
+         [place] { return DropItem(DropItem::File{place->url()}, QStringLiteral("a"), {}, true); },
+         {},
+         DropItem::ImageBytes{"pixels", UTType::png()}});
+    const auto bytes = preparation->bytesOf(item);
+    ASSERT_TRUE(bytes);
+    EXPECT_EQ(bytes->data, "pixels");
+    EXPECT_FALSE(preparation->bytesOf(begin("b")));
+    finishWork();
+    EXPECT_FALSE(preparation->bytesOf(item));
+}
+
 TEST_F(ItemPreparationTest, HandsItemsOverOnceTheyAreReady)
 {
     const DropItem item = begin("a");

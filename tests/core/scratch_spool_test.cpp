@@ -3,9 +3,9 @@
 #include "core/spool_place.h"
 #include "core/temporary_spool.h"
 #include "fakes/fake_work_queue.h"
+#include "fakes/full_disk.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 
 #include <memory>
@@ -515,34 +515,11 @@ TEST_F(ScratchSpoolTest, MakesATemporaryDirectoryThatIsMissing)
     EXPECT_TRUE(deep.store("x", image, png).has_value());
 }
 
-/// Files can grow no larger while it lives: what a full disk does to a write.
-class FullDisk {
-public:
-    FullDisk()
-    {
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit tiny = {16, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &tiny);
-        m_handler = ::signal(SIGXFSZ, SIG_IGN);
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &m_before);
-        ::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    rlimit m_before = {};
-    void (*m_handler)(int) = nullptr;
-};
-
 TEST_F(ScratchSpoolTest, LeavesNothingBehindWhenTheDiskIsFull)
 {
     ASSERT_TRUE(spool.reserve(image, png).has_value());
     {
-        const FullDisk fullDisk;
+        const test::FullDisk fullDisk;
         EXPECT_FALSE(spool.store(QByteArray(1000, 'x'), image, png).has_value());
     }
     const auto everything = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;

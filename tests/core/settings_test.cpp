@@ -31,6 +31,7 @@ TEST_F(SettingsTest, HasItsDefaultsFromTheStartWithoutStoringThem)
     EXPECT_EQ(settings.inViewCount(), 1);
     EXPECT_FALSE(settings.seenWelcome());
     EXPECT_FALSE(settings.betaUpdates());
+    EXPECT_FALSE(settings.keepItems());
     EXPECT_FALSE(defaults.boolForKey(key("settings.playFeedback")));
     EXPECT_TRUE(defaults.stored.isEmpty());
 }
@@ -47,11 +48,14 @@ TEST_F(SettingsTest, KeepsEachSwitchUnderItsKey)
     settings.setLinkPreviews(false);
     settings.setSeenWelcome(true);
     settings.setBetaUpdates(true);
+    settings.setKeepItems(true);
     EXPECT_EQ(defaults.stored.value(key("settings.autoShowOnDrag")), false);
     EXPECT_EQ(defaults.stored.value(key("settings.autoCheckUpdates")), false);
     EXPECT_EQ(defaults.stored.value(key("settings.linkPreviews")), false);
     EXPECT_EQ(defaults.stored.value(key("settings.seenWelcome")), true);
     EXPECT_EQ(defaults.stored.value(key("settings.betaUpdates")), true);
+    EXPECT_EQ(defaults.stored.value(key("settings.keepItems")), true);
+    EXPECT_TRUE(settings.keepItems());
     EXPECT_FALSE(settings.autoShowOnDrag() || settings.autoCheckUpdates());
     EXPECT_FALSE(settings.linkPreviews());
     EXPECT_TRUE(settings.seenWelcome());
@@ -96,6 +100,7 @@ TEST_F(SettingsTest, TellsOfTheLayoutForNothingElse)
     settings.setLinkPreviews(false);
     settings.setSeenWelcome(true);
     settings.setBetaUpdates(true);
+    settings.setKeepItems(true);
     settings.setShortcut(other);
     settings.setViewAllShortcut(other);
     settings.setLaunchAtLogin(true);

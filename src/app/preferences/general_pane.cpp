@@ -118,6 +118,11 @@ PreferenceSection *GeneralPane::makeBehaviourSection()
         tr("Asks the linked site for its title and image. It is the only time Corvane "
            "uses the network on your behalf, and the site learns you have the link."),
         settings.linkPreviews(), &Settings::setLinkPreviews));
+    section->addRow(makeSwitchRow(
+        tr("Keep items when Corvane ends"),
+        tr("They are back at the next start. Until then, pictures and texts are stored in your "
+           "home folder."),
+        settings.keepItems(), &Settings::setKeepItems));
     return section;
 }
 

@@ -8,6 +8,8 @@ namespace corvane::end_deadline {
 
 /// For the orderly steps of the end, which the main thread does and which are short.
 inline constexpr std::chrono::milliseconds forSteps{2'000};
+/// The same while what is on the shelf is written to disk.
+inline constexpr std::chrono::milliseconds forKeeping{5'000};
 /// For what follows: threads end, and the clipboard is handed over.
 inline constexpr std::chrono::milliseconds forRest{400};
 /// The same if the clipboard holds contents of ours: they may be large, and exist nowhere else.

@@ -129,12 +129,15 @@ TEST_F(GeneralPaneTest, TheSwitchesShowTheSettingsAndWriteThemAtOnce)
     desk.settings.setLinkPreviews(false);
     EXPECT_TRUE(switchOf("Open the shelf when a drag begins").isChecked());
     EXPECT_FALSE(switchOf("Show previews for dropped links").isChecked());
+    EXPECT_FALSE(switchOf("Keep items when Corvane ends").isChecked());
     EXPECT_TRUE(switchOf("Check for updates automatically").isChecked());
     switchOf("Open the shelf when a drag begins").click();
     switchOf("Show previews for dropped links").click();
+    switchOf("Keep items when Corvane ends").click();
     switchOf("Check for updates automatically").click();
     EXPECT_FALSE(desk.settings.autoShowOnDrag());
     EXPECT_TRUE(desk.settings.linkPreviews());
+    EXPECT_TRUE(desk.settings.keepItems());
     EXPECT_FALSE(desk.settings.autoCheckUpdates());
 }
 

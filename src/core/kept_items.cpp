@@ -1,0 +1,261 @@
+#include "core/kept_items.h"
+
+#include "core/item_description.h"
+#include "core/item_preparation.h"
+#include "core/pasteboard_ingest.h"
+#include "core/picture_items.h"
+#include "core/scratch_spool.h"
+#include "core/settings.h"
+#include "core/shelf_store.h"
+#include "core/spool_place.h"
+#include "platform/base/work_queue.h"
+#include "platform/system/file_url.h"
+
+#include <QtDebug>
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+namespace corvane {
+
+namespace {
+
+using kept_record::Item;
+
+QUrl addressOf(const kept_record::Link &link)
+{
+    return QUrl::fromEncoded(link.address);
+}
+
+bool isFileIn(const KeptFolder &folder, const DropItem &item)
+{
+    const auto *file = std::get_if<DropItem::File>(&item.payload());
+    return file && folder.contains(file_url::nativePath(file->url));
+}
+
+} // namespace
+
+/// Takes down one item after the other, and puts into the folder what is on the shelf alone.
+struct KeptItems::Keeper {
+    void add(const DropItem &item)
+    {
+        auto one = kept.size() < kept_record::mostItems ? form(item) : std::nullopt;
+        const qint64 size = one ? kept_record::sizeOf(*one) : 0;
+        if (!one || size > room)
+            return;
+        room -= size;
+        kept << std::move(*one);
+    }
+
+    /// None if the item cannot be kept.
+    std::optional<Item> form(const DropItem &item) const
+    {
+        if (const auto bytes = context.preparation.bytesOf(item))
+            return saved(*bytes, item.title(), {});
+        // What is still being made from a file is made from it again, later.
+        const auto present = item.presentForm();
+        if (!present)
+            return std::nullopt;
+        return std::visit([&](const auto &payload) { return of(payload, *present); },
+                          present->payload());
+    }
+
+    std::optional<Item> of(const DropItem::File &file, const DropItem &item) const
+    {
+        // Only the path's text is looked at: a disk may not answer.
+        const QByteArray path = file_url::nativePath(file.url);
+        const bool isKeptHere = context.folder.contains(path);
+        if (!isKeptHere && !path.startsWith(spoolFolder))
+            return kept_record::File{path};
+        // Files in the folder have names that nobody gave them.
+        const QString name = isKeptHere ? item.title() : file_url::lastPathComponent(path);
+        const auto added
+            = context.folder.add(path, file_url::pathExtension(name).toUtf8(), isTimeLeft);
+        if (!added)
+            return std::nullopt;
+        return kept_record::Saved{added->name, added->size, name, item.subtitle()};
+    }
+    std::optional<Item> of(const DropItem::ImageBytes &image, const DropItem &item) const
+    {
+        return saved(image, item.title(), item.subtitle());
+    }
+    static std::optional<Item> of(const DropItem::Text &text, const DropItem & /*item*/)
+    {
+        return kept_record::Text{text.string};
+    }
+    static std::optional<Item> of(const DropItem::Link &link, const DropItem &item)
+    {
+        return kept_record::Link{link.url.toEncoded(), item.title(), item.subtitle()};
+    }
+
+    /// A picture in memory becomes a file, named by its type.
+    std::optional<Item> saved(const DropItem::ImageBytes &image, const QString &title,
+                              const QString &subtitle) const
+    {
+        if (!isTimeLeft())
+            return std::nullopt;
+        const QString extension = image.type.preferredFilenameExtension();
+        const auto added = context.folder.addBytes(image.data, extension.toUtf8());
+        if (!added)
+            return std::nullopt;
+        const item_description::FileName name(title);
+        const bool isNamed = extension.isEmpty() || name.extension == extension;
+        return kept_record::Saved{added->name, added->size,
+                                  isNamed ? title : name.stem() + QLatin1Char('.') + extension,
+                                  subtitle};
+    }
+
+    const Context &context;
+    const std::function<bool()> &isTimeLeft;
+    QByteArray spoolFolder = file_url::nativePath(context.spool.directory()) + '/';
+    QList<Item> kept = {};
+    qint64 room = kept_record::mostBytes - kept_record::sizeOfEmpty();
+};
+
+KeptItems::KeptItems(const Context &context)
+    : m_context(context)
+{
+}
+
+KeptItems::~KeptItems() = default;
+
+void KeptItems::restore()
+{
+    if (!m_context.folder.hold() || !m_context.folder.hasRecord())
+        return;
+    const auto record = m_context.folder.record(kept_record::mostBytes);
+    auto kept = record ? kept_record::decode(*record) : std::nullopt;
+    if (!kept) {
+        qWarning("[Corvane] What was kept of the shelf cannot be read.");
+        return;
+    }
+    const auto missing = kept->removeIf([this](const Item &item) { return !isWhole(item); });
+    if (missing > 0)
+        qWarning("[Corvane] Items that are missing from what was kept of the shelf: %lld.",
+                 static_cast<long long>(missing));
+    const QList<DropItem> items = itemsOf(*kept);
+    m_context.store.accept(items);
+    m_context.preparation.whenReady(
+        items, m_lifetime.guard([this, kept = *kept](const QList<DropItem> &ready) {
+            spooled(kept, ready);
+        }));
+}
+
+bool KeptItems::isWhole(const Item &kept) const
+{
+    if (const auto *file = std::get_if<kept_record::File>(&kept))
+        return file->path.startsWith('/') && !file->path.contains('\0');
+    if (const auto *saved = std::get_if<kept_record::Saved>(&kept))
+        return m_context.folder.has({saved->name, saved->size});
+    if (const auto *link = std::get_if<kept_record::Link>(&kept))
+        return addressOf(*link).scheme().startsWith(QLatin1String("http"));
+    return true;
+}
+
+QList<DropItem> KeptItems::itemsOf(const QList<Item> &kept) const
+{
+    QList<QUrl> files;
+    for (const Item &item : kept) {
+        if (const auto *file = std::get_if<kept_record::File>(&item))
+            files << file_url::fromNativePath(file->path);
+    }
+    // Together, as when they are dropped: there may be thousands.
+    const QList<DropItem> fileItems = m_context.ingest.fileItems(files);
+    auto nextFile = fileItems.begin();
+    QList<DropItem> items;
+    items.reserve(kept.size());
+    for (const Item &item : kept) {
+        if (std::holds_alternative<kept_record::File>(item))
+            items << *nextFile++;
+        else if (const auto *saved = std::get_if<kept_record::Saved>(&item))
+            items << itemOf(*saved);
+        else if (const auto *text = std::get_if<kept_record::Text>(&item))
+            items << m_context.ingest.textItem(text->string);
+        else if (const auto *link = std::get_if<kept_record::Link>(&item))
+            items << DropItem(DropItem::Link{addressOf(*link)}, link->title, link->subtitle, false);
+    }
+    return items;
+}
+
+/// Its file is copied into the spool. Where it cannot be, the item is the file where it was kept.
+DropItem KeptItems::itemOf(const kept_record::Saved &saved) const
+{
+    const QByteArray path = m_context.folder.pathOf(saved.name);
+    const QUrl url = file_url::fromNativePath(path);
+    const DropItem asItIs(DropItem::File{url}, saved.title, saved.subtitle, false);
+    const item_description::FileName name(saved.title);
+    const auto place = saved.size <= largestSpooled
+        ? m_context.spool.keepPlace(name.stem(), name.extension)
+        : nullptr;
+    if (!place)
+        return asItIs;
+    const QString title = file_url::lastPathComponent(place->url());
+    const auto make = [place, path, title, asItIs, size = saved.size] {
+        const bool isCopied = place->write(
+            [&](const FileDescriptor &file) { return KeptFolder::copy(path, size, file); });
+        if (!isCopied)
+            return asItIs;
+        const QString known = asItIs.subtitle();
+        return DropItem(DropItem::File{place->url()}, title,
+                        known.isEmpty() ? PictureItems::describe(place->url()) : known, true);
+    };
+    return m_context.preparation.begin(
+        {DropItem::beingMade(DropItem::File{place->url()}, title, saved.subtitle, url),
+         {place},
+         make,
+         nullptr});
+}
+
+/// Everything that was kept has a new home, or was removed meanwhile: it is deleted, unless an item
+/// still is a file in the folder. Then all of it stays until the end, which keeps it again.
+void KeptItems::spooled(const QList<Item> &kept, const QList<DropItem> &items)
+{
+    const auto isStillHere
+        = [this](const DropItem &item) { return isFileIn(m_context.folder, item); };
+    if (std::ranges::any_of(items, isStillHere))
+        return;
+    m_context.folder.forget();
+    std::vector<QByteArray> paths;
+    for (const Item &item : kept) {
+        if (const auto *saved = std::get_if<kept_record::Saved>(&item))
+            paths.push_back(m_context.folder.pathOf(saved->name));
+    }
+    if (!paths.empty())
+        m_context.workQueue.run([paths] { std::ranges::for_each(paths, KeptFolder::remove); });
+}
+
+/// Whether there is a folder for a new set, and no set in it that was never on this shelf: another
+/// process may have kept it since.
+bool KeptItems::mayReplace()
+{
+    KeptFolder &folder = m_context.folder;
+    return folder.isHeld() || (folder.makeAndHold() && !folder.hasRecord());
+}
+
+void KeptItems::keep(const std::function<bool()> &isTimeLeft)
+{
+    KeptFolder &folder = m_context.folder;
+    const QList<DropItem> &items = m_context.store.items();
+    if (!m_context.settings.keepItems() || items.isEmpty()) {
+        if (folder.isHeld())
+            folder.empty();
+        folder.release();
+        return;
+    }
+    Keeper keeper{m_context, isTimeLeft};
+    bool isKept = mayReplace();
+    if (isKept) {
+        for (const DropItem &item : items)
+            keeper.add(item);
+        isKept = folder.commit(kept_record::encode(keeper.kept));
+    }
+    folder.release();
+    if (!isKept)
+        qWarning("[Corvane] The items on the shelf could not be kept.");
+    else if (keeper.kept.size() < items.size())
+        qWarning("[Corvane] Items on the shelf that could not be kept: %lld.",
+                 static_cast<long long>(items.size() - keeper.kept.size()));
+}
+
+} // namespace corvane

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "platform/system/file_descriptor.h"
+
+#include <QByteArray>
+#include <QSet>
+
+#include <functional>
+#include <optional>
+
+namespace corvane {
+
+/// A folder that keeps files from one run of the program to the next: files that get names of its
+/// own, and one record that says what they are.
+///
+/// The record makes a set of them. It takes the place of the earlier one in one step, once
+/// everything is on disk, so whenever the process ends, there is the one set or the other, whole.
+/// One process at a time holds the folder; what it finds there is not trusted. Nobody but the user
+/// can read what is in it. Main thread only, but for the static functions.
+class KeptFolder {
+public:
+    struct File {
+        QByteArray name;
+        qint64 size = 0;
+    };
+
+    /// `path` is native, without a slash at its end.
+    explicit KeptFolder(QByteArray path);
+    /// Below $XDG_DATA_HOME, or ~/.local/share.
+    static QByteArray environmentPath();
+
+    const QByteArray &path() const { return m_path; }
+    QByteArray pathOf(const QByteArray &name) const;
+    /// Whether the path is one of a file in the folder.
+    bool contains(const QByteArray &path) const;
+
+    /// Keeps other processes out until `release`. False if there is no such folder, if it is not
+    /// one of this user alone, or if another process holds it.
+    bool hold();
+    /// The same, and makes the folder where there is none.
+    bool makeAndHold();
+    bool isHeld() const;
+    void release();
+
+    // The following need a folder that is held.
+
+    /// Whether there is anything in the place of a record.
+    bool hasRecord() const;
+    /// None if it cannot be read, or is longer than `limit`.
+    std::optional<QByteArray> record(qint64 limit) const;
+    /// Whether that file is there, and whole.
+    bool has(const File &file) const;
+
+    /// Adds a file to the next set: the file itself gets a second name where that can be, else it
+    /// is copied, as long as `isTimeLeft` says so. The name ends in `extension` if that is a plain
+    /// one. None if it could not be added.
+    std::optional<File> add(const QByteArray &path, const QByteArray &extension,
+                            const std::function<bool()> &isTimeLeft);
+    /// The same for bytes.
+    std::optional<File> addBytes(const QByteArray &bytes, const QByteArray &extension);
+    /// Makes what was added a set, in the place of the one before, whose files are deleted. If that
+    /// fails, what was added is deleted instead.
+    bool commit(const QByteArray &record);
+    /// Deletes the record: the set is none any more.
+    void forget();
+    /// Deletes everything that it has ever put there, and the folder if nothing else is in it.
+    void empty();
+
+    /// Writes the regular file at that path to `to`; false unless it has that size. Any thread.
+    static bool copy(const QByteArray &path, qint64 size, const FileDescriptor &to);
+    /// Deletes a file. Any thread.
+    static void remove(const QByteArray &path);
+
+private:
+    FileDescriptor create(QByteArray &name, const QByteArray &extension) const;
+    bool linkInto(const QByteArray &path, const FileDescriptor &source, const QByteArray &extension,
+                  QByteArray &name) const;
+    bool writeRecord(const QByteArray &record) const;
+    bool syncAdded() const;
+    void removeAllBut(const QSet<QByteArray> &names) const;
+
+    QByteArray m_path;
+    FileDescriptor m_folder;
+    QSet<QByteArray> m_added;
+};
+
+} // namespace corvane
