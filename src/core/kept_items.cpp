@@ -11,7 +11,10 @@
 #include "platform/base/work_queue.h"
 #include "platform/system/file_url.h"
 
+#include <QSet>
 #include <QtDebug>
+
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <utility>
@@ -34,23 +37,54 @@ bool isFileIn(const KeptFolder &folder, const DropItem &item)
     return file && folder.contains(file_url::nativePath(file->url));
 }
 
+QSet<QByteArray> namesIn(const QList<Item> &items)
+{
+    QSet<QByteArray> names;
+    for (const Item &item : items) {
+        if (const auto *saved = std::get_if<kept_record::Saved>(&item))
+            names.insert(saved->name);
+    }
+    return names;
+}
+
+/// Whether what is on the shelf alone may be written into the folder now.
+enum class Files { AsTheyAre, Written };
+
 } // namespace
 
 /// Takes down one item after the other, and puts into the folder what is on the shelf alone.
 struct KeptItems::Keeper {
-    void add(const DropItem &item)
+    /// Takes down those items that are not yet; `files` says whether those that need a file, too.
+    void add(const QList<DropItem> &items, Files files)
     {
-        auto one = kept.size() < kept_record::mostItems ? form(item) : std::nullopt;
-        const qint64 size = one ? kept_record::sizeOf(*one) : 0;
-        if (!one || size > room)
-            return;
-        room -= size;
-        kept << std::move(*one);
+        forms.resize(static_cast<std::size_t>(items.size()));
+        for (std::size_t i = 0; i < forms.size() && count < kept_record::mostItems; ++i) {
+            if (forms[i])
+                continue;
+            auto form = formOf(items[static_cast<qsizetype>(i)], files);
+            const qint64 size = form ? kept_record::sizeOf(*form) : 0;
+            if (!form || size > room)
+                continue;
+            room -= size;
+            ++count;
+            forms[i] = std::move(form);
+        }
+    }
+    bool commit() const
+    {
+        QList<Item> kept;
+        kept.reserve(count);
+        for (const auto &form : forms) {
+            if (form)
+                kept << *form;
+        }
+        return context.folder.commit(kept_record::encode(kept), namesIn(kept));
     }
 
-    /// None if the item cannot be kept.
-    std::optional<Item> form(const DropItem &item) const
+    /// None if the item cannot be kept, or not yet.
+    std::optional<Item> formOf(const DropItem &item, Files files)
     {
+        writing = files;
         if (const auto bytes = context.preparation.bytesOf(item))
             return saved(*bytes, item.title(), {});
         // What is still being made from a file is made from it again, later.
@@ -68,13 +102,26 @@ struct KeptItems::Keeper {
         const bool isKeptHere = context.folder.contains(path);
         if (!isKeptHere && !path.startsWith(spoolFolder))
             return kept_record::File{path};
-        // Files in the folder have names that nobody gave them.
-        const QString name = isKeptHere ? item.title() : file_url::lastPathComponent(path);
+        if (isKeptHere)
+            return keptHere(path, item);
+        if (writing == Files::AsTheyAre)
+            return std::nullopt;
+        const QString name = file_url::lastPathComponent(path);
         const auto added
             = context.folder.add(path, file_url::pathExtension(name).toUtf8(), isTimeLeft);
         if (!added)
             return std::nullopt;
         return kept_record::Saved{added->name, added->size, name, item.subtitle()};
+    }
+    /// It stays as it is: no second name and no copy, which could fail.
+    std::optional<Item> keptHere(const QByteArray &path, const DropItem &item) const
+    {
+        struct stat status = {};
+        const QByteArray name = path.mid(path.lastIndexOf('/') + 1);
+        if (::lstat(path.constData(), &status) != 0 || !context.folder.has({name, status.st_size}))
+            return std::nullopt;
+        // Its name in the folder is none that anybody gave it.
+        return kept_record::Saved{name, status.st_size, item.title(), item.subtitle()};
     }
     std::optional<Item> of(const DropItem::ImageBytes &image, const DropItem &item) const
     {
@@ -93,7 +140,7 @@ struct KeptItems::Keeper {
     std::optional<Item> saved(const DropItem::ImageBytes &image, const QString &title,
                               const QString &subtitle) const
     {
-        if (!isTimeLeft())
+        if (writing == Files::AsTheyAre || !isTimeLeft())
             return std::nullopt;
         const QString extension = image.type.preferredFilenameExtension();
         const auto added = context.folder.addBytes(image.data, extension.toUtf8());
@@ -109,7 +156,10 @@ struct KeptItems::Keeper {
     const Context &context;
     const std::function<bool()> &isTimeLeft;
     QByteArray spoolFolder = file_url::nativePath(context.spool.directory()) + '/';
-    QList<Item> kept = {};
+    /// One for each item on the shelf.
+    std::vector<std::optional<Item>> forms = {};
+    qsizetype count = 0;
+    Files writing = Files::AsTheyAre;
     qint64 room = kept_record::mostBytes - kept_record::sizeOfEmpty();
 };
 
@@ -122,14 +172,22 @@ KeptItems::~KeptItems() = default;
 
 void KeptItems::restore()
 {
-    if (!m_context.folder.hold() || !m_context.folder.hasRecord())
+    if (!m_context.folder.hold())
         return;
+    if (!m_context.folder.hasRecord()) {
+        m_context.folder.sweep({});
+        return;
+    }
     const auto record = m_context.folder.record(kept_record::mostBytes);
     auto kept = record ? kept_record::decode(*record) : std::nullopt;
     if (!kept) {
         qWarning("[Corvane] What was kept of the shelf cannot be read.");
+        // Without being held it is neither replaced nor deleted.
+        if (record && kept_record::isOfAnotherVersion(*record))
+            m_context.folder.release();
         return;
     }
+    m_context.folder.sweep(namesIn(*kept));
     const auto missing = kept->removeIf([this](const Item &item) { return !isWhole(item); });
     if (missing > 0)
         qWarning("[Corvane] Items that are missing from what was kept of the shelf: %lld.",
@@ -207,20 +265,28 @@ DropItem KeptItems::itemOf(const kept_record::Saved &saved) const
          nullptr});
 }
 
-/// Everything that was kept has a new home, or was removed meanwhile: it is deleted, unless an item
-/// still is a file in the folder. Then all of it stays until the end, which keeps it again.
+/// Everything that was kept has a new home, or was removed meanwhile: it is deleted, but for what
+/// is still an item in the folder, which stays there, alone.
 void KeptItems::spooled(const QList<Item> &kept, const QList<DropItem> &items)
 {
-    const auto isStillHere
-        = [this](const DropItem &item) { return isFileIn(m_context.folder, item); };
-    if (std::ranges::any_of(items, isStillHere))
-        return;
-    m_context.folder.forget();
+    QSet<QByteArray> stay;
+    for (const DropItem &item : items) {
+        if (isFileIn(m_context.folder, item))
+            stay.insert(file_url::nativePath(std::get<DropItem::File>(item.payload()).url));
+    }
+    QList<Item> left;
     std::vector<QByteArray> paths;
     for (const Item &item : kept) {
-        if (const auto *saved = std::get_if<kept_record::Saved>(&item))
+        const auto *saved = std::get_if<kept_record::Saved>(&item);
+        if (saved && stay.contains(m_context.folder.pathOf(saved->name)))
+            left << item;
+        else if (saved)
             paths.push_back(m_context.folder.pathOf(saved->name));
     }
+    if (left.isEmpty())
+        m_context.folder.forget();
+    else if (!m_context.folder.rewrite(kept_record::encode(left)))
+        return;
     if (!paths.empty())
         m_context.workQueue.run([paths] { std::ranges::for_each(paths, KeptFolder::remove); });
 }
@@ -245,17 +311,25 @@ void KeptItems::keep(const std::function<bool()> &isTimeLeft)
     }
     Keeper keeper{m_context, isTimeLeft};
     bool isKept = mayReplace();
-    if (isKept) {
-        for (const DropItem &item : items)
-            keeper.add(item);
-        isKept = folder.commit(kept_record::encode(keeper.kept));
+    qsizetype count = 0;
+    const auto commit = [&](Files files) {
+        keeper.add(items, files);
+        isKept = isKept && keeper.commit();
+        if (isKept)
+            count = keeper.count;
+        return isKept;
+    };
+    // What needs no time comes first: the process may be ended while files are written.
+    if (isKept && commit(Files::AsTheyAre) && count < items.size()) {
+        commit(Files::Written);
+        isKept = true;
     }
     folder.release();
     if (!isKept)
         qWarning("[Corvane] The items on the shelf could not be kept.");
-    else if (keeper.kept.size() < items.size())
+    else if (count < items.size())
         qWarning("[Corvane] Items on the shelf that could not be kept: %lld.",
-                 static_cast<long long>(items.size() - keeper.kept.size()));
+                 static_cast<long long>(items.size() - count));
 }
 
 } // namespace corvane

@@ -44,7 +44,8 @@ public:
     };
     /// For how long files are copied at the end: what is left then is not kept.
     static constexpr std::chrono::milliseconds patience{2'000};
-    /// A larger file stays where it was kept, instead of being copied into the spool.
+    /// A larger file stays where it was kept, instead of being copied into the spool; so does one
+    /// that cannot be copied.
     static constexpr qint64 largestSpooled = 1024LL * 1024 * 1024;
 
     explicit KeptItems(const Context &context);
@@ -56,7 +57,8 @@ public:
     /// and is then not kept any more.
     void restore();
     /// Keeps what is on the shelf, or deletes what was kept. To be called once, at the end, before
-    /// the spool is deleted. Copies files only as long as `isTimeLeft` says so.
+    /// the spool is deleted. What needs no file to be written is kept first, since the process may
+    /// be ended any time; then files are copied as long as `isTimeLeft` says so.
     void keep(const std::function<bool()> &isTimeLeft);
 
 private:

@@ -7,6 +7,7 @@ namespace corvane::kept_record {
 
 namespace {
 
+const QByteArray beginningOfAny = QByteArrayLiteral("Corvane's items, ");
 const QByteArray beginning = QByteArrayLiteral("Corvane's items, 1\n");
 
 /// Strings are written unit by unit: a text may hold what is no UTF-8.
@@ -123,6 +124,11 @@ std::optional<QList<Item>> decode(const QByteArray &record)
     }
     const bool isWhole = stream.status() == QDataStream::Ok && stream.atEnd();
     return isWhole ? std::optional(items) : std::nullopt;
+}
+
+bool isOfAnotherVersion(const QByteArray &record)
+{
+    return record.startsWith(beginningOfAny) && !record.startsWith(beginning);
 }
 
 } // namespace corvane::kept_record

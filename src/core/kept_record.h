@@ -48,5 +48,7 @@ qint64 sizeOfEmpty();
 QByteArray encode(const QList<Item> &items);
 /// None unless it is a whole record. What stands in it is not trusted any further.
 std::optional<QList<Item>> decode(const QByteArray &record);
+/// Whether it is a record as another version of the program writes it.
+bool isOfAnotherVersion(const QByteArray &record);
 
 } // namespace corvane::kept_record

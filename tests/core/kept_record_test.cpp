@@ -41,6 +41,9 @@ TEST(KeptRecord, OfAnotherFormatIsNone)
     QByteArray record = encode(oneOfEach);
     record.replace(", 1\n", ", 2\n");
     EXPECT_FALSE(decode(record));
+    EXPECT_TRUE(isOfAnotherVersion(record));
+    EXPECT_FALSE(isOfAnotherVersion(encode(oneOfEach)));
+    EXPECT_FALSE(isOfAnotherVersion("garbage"));
 }
 
 TEST(KeptRecord, OfUnknownKindsIsNone)

@@ -26,6 +26,7 @@ constexpr const char *unfinishedRecordName = "items.unfinished";
 constexpr int hexadecimal = 16;
 /// How much is copied between two looks at the time.
 constexpr qint64 pieceBytes = 262'144;
+constexpr qint64 piecesBetweenWaits = 32;
 
 bool isHexadecimal(char c)
 {
@@ -215,7 +216,13 @@ std::optional<KeptFolder::File> KeptFolder::add(const QByteArray &path, const QB
     QByteArray name;
     if (!linkInto(path, source, extension, name)) {
         FileDescriptor to = create(name, extension);
-        const auto write = [&](const QByteArray &piece) { return isTimeLeft() && to.write(piece); };
+        qint64 pieces = 0;
+        // The disk is waited for now and then, or there would seem to be time for more than it
+        // takes.
+        const auto write = [&](const QByteArray &piece) {
+            return isTimeLeft() && to.write(piece)
+                && (++pieces % piecesBetweenWaits != 0 || ::fdatasync(to.number()) == 0);
+        };
         if (!to.isOpen())
             return std::nullopt;
         if (!readWhole(source, status.st_size, write) || !to.close()) {
@@ -251,23 +258,28 @@ bool KeptFolder::syncAdded() const
     });
 }
 
-bool KeptFolder::writeRecord(const QByteArray &record) const
+bool KeptFolder::writeRecord(const QByteArray &record, Wait wait) const
 {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     const int folder = m_folder.number();
     ::unlinkat(folder, unfinishedRecordName, 0);
     FileDescriptor file(::openat(folder, unfinishedRecordName, flags, S_IRUSR | S_IWUSR));
-    return file.isOpen() && file.write(record) && isOnDisk(file) && file.close()
-        && ::fsync(folder) == 0
-        && ::renameat(folder, unfinishedRecordName, folder, recordName) == 0;
+    const bool isWritten = file.isOpen() && file.write(record)
+        && (wait == Wait::No || (isOnDisk(file) && ::fsync(folder) == 0)) && file.close();
+    return isWritten && ::renameat(folder, unfinishedRecordName, folder, recordName) == 0;
 }
 
-bool KeptFolder::commit(const QByteArray &record)
+bool KeptFolder::rewrite(const QByteArray &record)
 {
-    const bool isWritten = syncAdded() && writeRecord(record);
+    return writeRecord(record, Wait::No);
+}
+
+bool KeptFolder::commit(const QByteArray &record, const QSet<QByteArray> &names)
+{
+    const bool isWritten = syncAdded() && writeRecord(record, Wait::ForDisk);
     if (isWritten) {
         ::fsync(m_folder.number());
-        removeAllBut(m_added);
+        sweep(names);
     } else {
         ::unlinkat(m_folder.number(), unfinishedRecordName, 0);
         for (const QByteArray &name : std::as_const(m_added))
@@ -277,7 +289,7 @@ bool KeptFolder::commit(const QByteArray &record)
     return isWritten;
 }
 
-void KeptFolder::removeAllBut(const QSet<QByteArray> &names) const
+void KeptFolder::sweep(const QSet<QByteArray> &names)
 {
     const auto closeDirectory = [](DIR *directory) { ::closedir(directory); };
     const std::unique_ptr<DIR, decltype(closeDirectory)> directory(::opendir(m_path.constData()),
@@ -298,7 +310,7 @@ void KeptFolder::empty()
 {
     forget();
     ::unlinkat(m_folder.number(), unfinishedRecordName, 0);
-    removeAllBut({});
+    sweep({});
     ::rmdir(m_path.constData());
 }
 

@@ -58,9 +58,14 @@ public:
                             const std::function<bool()> &isTimeLeft);
     /// The same for bytes.
     std::optional<File> addBytes(const QByteArray &bytes, const QByteArray &extension);
-    /// Makes what was added a set, in the place of the one before, whose files are deleted. If that
-    /// fails, what was added is deleted instead.
-    bool commit(const QByteArray &record);
+    /// Makes a set of the files `names`, in the place of the one before, whose other files are
+    /// deleted. If that fails, what was added since is deleted instead.
+    bool commit(const QByteArray &record, const QSet<QByteArray> &names);
+    /// Puts another record in the place of the set's, without waiting for the disk.
+    bool rewrite(const QByteArray &record);
+    /// Deletes what it has put there and is not among `names`: a process may have been killed while
+    /// it added to a set.
+    void sweep(const QSet<QByteArray> &names);
     /// Deletes the record: the set is none any more.
     void forget();
     /// Deletes everything that it has ever put there, and the folder if nothing else is in it.
@@ -75,12 +80,13 @@ private:
     FileDescriptor create(QByteArray &name, const QByteArray &extension) const;
     bool linkInto(const QByteArray &path, const FileDescriptor &source, const QByteArray &extension,
                   QByteArray &name) const;
-    bool writeRecord(const QByteArray &record) const;
+    enum class Wait { ForDisk, No };
+    bool writeRecord(const QByteArray &record, Wait wait) const;
     bool syncAdded() const;
-    void removeAllBut(const QSet<QByteArray> &names) const;
 
     QByteArray m_path;
     FileDescriptor m_folder;
+    /// Since the last set.
     QSet<QByteArray> m_added;
 };
 

@@ -80,7 +80,7 @@ TEST_F(KeptFolderTest, ASetIsThereOnceItsRecordIs)
     const auto two = folder.addBytes("two", "no extension");
     ASSERT_TRUE(one && two);
     EXPECT_FALSE(folder.hasRecord());
-    ASSERT_TRUE(folder.commit("record"));
+    ASSERT_TRUE(folder.commit("record", {one->name, two->name}));
     EXPECT_EQ(folder.record(6), QByteArray("record"));
     EXPECT_FALSE(folder.record(5)) << "too long";
     EXPECT_TRUE(folder.has(*one) && folder.has(*two));
@@ -94,27 +94,29 @@ TEST_F(KeptFolderTest, ASetTakesThePlaceOfTheOneBefore)
 {
     ASSERT_TRUE(folder.makeAndHold());
     const auto first = folder.addBytes("first", {});
-    ASSERT_TRUE(folder.commit("first"));
-    // The same file goes on in the next set.
-    const auto again = folder.add(folder.pathOf(first->name), {}, always);
-    ASSERT_TRUE(again);
-    ASSERT_TRUE(folder.commit("second"));
+    const auto second = folder.addBytes("second", {});
+    ASSERT_TRUE(folder.commit("1", {first->name, second->name}));
+    const auto third = folder.addBytes("third", {});
+    ASSERT_TRUE(folder.commit("2", {second->name, third->name}));
     EXPECT_FALSE(folder.has(*first));
-    EXPECT_EQ(read(folder.pathOf(again->name)), "first");
-    EXPECT_EQ(folder.record(100), QByteArray("second"));
-    EXPECT_EQ(entries(), 2);
+    EXPECT_TRUE(folder.has(*second) && folder.has(*third)) << "a file may go on in the next set";
+    EXPECT_EQ(folder.record(100), QByteArray("2"));
+    EXPECT_EQ(entries(), 3);
+    ASSERT_TRUE(folder.rewrite("3"));
+    EXPECT_EQ(folder.record(100), QByteArray("3"));
+    EXPECT_EQ(entries(), 3);
 }
 
 TEST_F(KeptFolderTest, ASetThatCannotBeWrittenLeavesTheOneBefore)
 {
     ASSERT_TRUE(folder.makeAndHold());
     const auto first = folder.addBytes("first", {});
-    ASSERT_TRUE(folder.commit("record"));
+    ASSERT_TRUE(folder.commit("record", {first->name}));
     ASSERT_TRUE(folder.addBytes("second", {}));
     {
         const test::FullDisk fullDisk;
         EXPECT_FALSE(folder.addBytes(QByteArray(100, 'x'), {}));
-        EXPECT_FALSE(folder.commit(QByteArray(100, 'x')));
+        EXPECT_FALSE(folder.commit(QByteArray(100, 'x'), {}));
     }
     EXPECT_TRUE(folder.has(*first));
     EXPECT_EQ(folder.record(100), QByteArray("record"));
@@ -149,8 +151,8 @@ TEST_F(KeptFolderTest, OnlyRegularFilesAreAddedAndNoLinks)
 TEST_F(KeptFolderTest, IsEmptiedOfItsOwnFilesAlone)
 {
     ASSERT_TRUE(folder.makeAndHold());
-    folder.addBytes("first", {});
-    ASSERT_TRUE(folder.commit("record"));
+    const auto first = folder.addBytes("first", {});
+    ASSERT_TRUE(folder.commit("record", {first->name}));
     folder.addBytes("not yet in a set", {});
     write("x/kept/mine.txt", "mine");
     folder.empty();
