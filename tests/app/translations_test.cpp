@@ -182,6 +182,30 @@ TEST(Translations, NameAKeyInASentenceAsInAMenu)
     }
 }
 
+/// A word may be the same in two languages; a sentence is not, nor a word in other letters.
+TEST(Translations, LeaveNothingInEnglish)
+{
+    const QRegularExpression word(QStringLiteral("(?<!%)\\b[A-Za-z]{2,}"));
+    const TranslationFile english = readTranslations(pathOf(QStringLiteral("en")));
+    for (const QString &language : Translations::languages()) {
+        const bool hasLatinLetters = QLocale(language).script() == QLocale::LatinScript;
+        const TranslationFile file = readTranslations(pathOf(language));
+        for (auto message = file.cbegin(); message != file.cend(); ++message) {
+            const auto &[context, source] = message.key();
+            // Keys are called as it stands on them.
+            if (language == QLatin1String("en") || context == QLatin1String("QShortcut"))
+                continue;
+            for (const QString &text : message->texts) {
+                const QString said = QString(text).remove(QLatin1String("Corvane"));
+                const bool isEnglish
+                    = text == source || english[message.key()].texts.contains(text);
+                EXPECT_FALSE(isEnglish && said.count(word) > (hasLatinLetters ? 1 : 0))
+                    << language.toStdString() << ": " << text.toStdString();
+            }
+        }
+    }
+}
+
 /// The sources say so; here the shelf also comes from the panel, the top edge and commands, and it
 /// holds more than one thing.
 TEST(Translations, CallNoWayToTheShelfTheOnlyOneAndItsPlaceNotASingleOne)

@@ -115,6 +115,22 @@ TEST_F(AccessibleShelfTest, ItemsHaveTheirKindWhatIsShownAndTheirPlace)
     EXPECT_EQ(second.description, QStringLiteral("Text, 5 characters, 3 of 5"));
 }
 
+TEST_F(AccessibleShelfTest, EveryKindOfItemIsCalledByItsName)
+{
+    const auto kindOf = [](const DropItem::Payload &payload) {
+        const DropItem item(payload, QStringLiteral("it"), {}, false);
+        return accessible_items::describe(item, {0, 1}).description;
+    };
+    const QUrl file = QUrl::fromLocalFile(QStringLiteral("/nowhere/it"));
+    EXPECT_EQ(kindOf(DropItem::File{file, true}), QStringLiteral("Folder, 1 of 1"));
+    EXPECT_EQ(kindOf(DropItem::File{file}), QStringLiteral("File, 1 of 1"));
+    EXPECT_EQ(kindOf(DropItem::ImageBytes{"pixels", UTType::png()}),
+              QStringLiteral("Picture, 1 of 1"));
+    EXPECT_EQ(kindOf(DropItem::Text{QStringLiteral("it")}), QStringLiteral("Text, 1 of 1"));
+    EXPECT_EQ(kindOf(DropItem::Link{QUrl(QStringLiteral("https://it.example"))}),
+              QStringLiteral("Link, 1 of 1"));
+}
+
 TEST_F(AccessibleShelfTest, ANodeIsWhereItIsDrawn)
 {
     show(1, 1);
@@ -265,7 +281,7 @@ TEST_F(AccessibleShelfTest, ThePanelHearsOfEveryChange)
 TEST_F(AccessibleShelfTest, WhatCameAndWhatLeftIsAnnounced)
 {
     show(1, 3);
-    EXPECT_EQ(desk.panel.announced, QStringList{QStringLiteral("item 0 was added")});
+    ASSERT_EQ(desk.panel.announced, QStringList{QStringLiteral("item 0 was added")});
     show(3, 3);
     EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("2 items were added"));
     show(2, 3);
