@@ -167,8 +167,8 @@ TEST_F(BusTray, aChangedShortcutShowsTheNextTimeTheMenuOpens)
         const auto window = corvane().window();
         return window && window->id == server().activeWindow();
     }));
-    // By keyboard past the tabs, the numbers and three switches to the field of the shortcut.
-    constexpr int stops = 6;
+    // By keyboard past the tabs, the numbers and four switches to the field of the shortcut.
+    constexpr int stops = 7;
     for (int i = 0; i < stops; ++i)
         hands().key(keys::tab);
     hands().key(keys::space);
