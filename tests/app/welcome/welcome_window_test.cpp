@@ -1,4 +1,5 @@
 #include "app/base/session_texts.h"
+#include "app/base/translations.h"
 #include "app/look/text_label.h"
 #include "app/look/window_look.h"
 #include "app/welcome/illustration_view.h"
@@ -115,6 +116,37 @@ TEST_F(WelcomeWindowTest, TheStepOnKeysNamesThoseThatOpenTheShelf)
     desk.settings.setShortcut(std::nullopt);
     desk.binder.rebind(HotKeyCenter::Binding::Shelf);
     EXPECT_TRUE(says("the shelf's shortcut, then"));
+}
+
+TEST_F(WelcomeWindowTest, HasRoomForItsTextsInEveryLanguage)
+{
+    desk.settings.setShortcut(Shortcut{KeyPosition::F12,
+                                       Shortcut::command | Shortcut::control | Shortcut::option,
+                                       QStringLiteral("F12")});
+    desk.binder.bindShelf();
+    for (const Abilities &able : {Abilities(), lackingAbilities(Reason::KeptByDesktop)}) {
+        abilities.become(able);
+        for (const QString &language : Translations::languages()) {
+            const Translations translations({language});
+            make();
+            window().present();
+            for (int step = 1; step <= 3; ++step) {
+                QCoreApplication::processEvents();
+                int lowest = 0;
+                for (const auto *label : window().findChildren<TextLabel *>()) {
+                    if (!label->isVisible())
+                        continue;
+                    EXPECT_GE(label->height(), label->heightForWidth(label->width()))
+                        << language.toStdString() << ": " << label->text().toStdString();
+                    EXPECT_GE(label->mapTo(&window(), QPoint()).y(), lowest)
+                        << language.toStdString() << ": " << label->text().toStdString();
+                    lowest = label->mapTo(&window(), QPoint(0, label->height())).y();
+                }
+                if (step < 3)
+                    controller->view().goForward();
+            }
+        }
+    }
 }
 
 TEST_F(WelcomeWindowTest, NextAndBackGoThroughTheSteps)
