@@ -241,7 +241,7 @@ DropItem KeptItems::itemOf(const kept_record::Saved &saved) const
 {
     const QByteArray path = m_context.folder.pathOf(saved.name);
     const QUrl url = file_url::fromNativePath(path);
-    const DropItem asItIs(DropItem::File{url}, saved.title, saved.subtitle, false);
+    DropItem asItIs(DropItem::File{url}, saved.title, saved.subtitle, false);
     const item_description::FileName name(saved.title);
     const auto place = saved.size <= largestSpooled
         ? m_context.spool.keepPlace(name.stem(), name.extension)

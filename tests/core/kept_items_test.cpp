@@ -198,7 +198,7 @@ struct KeptItemsTest : testing::Test {
         return *run;
     }
     /// One of each kind.
-    void fill()
+    void fill() const
     {
         run->dropFile(machine.disk.write("files/report.txt", "report"));
         run->dropPng("pixels");

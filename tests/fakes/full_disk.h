@@ -10,11 +10,11 @@ namespace corvane::test {
 class FullDisk {
 public:
     FullDisk()
+        : m_handler(::signal(SIGXFSZ, SIG_IGN))
     {
         ::getrlimit(RLIMIT_FSIZE, &m_before);
         const rlimit tiny = {16, m_before.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &tiny);
-        m_handler = ::signal(SIGXFSZ, SIG_IGN);
     }
     FullDisk(const FullDisk &) = delete;
     FullDisk &operator=(const FullDisk &) = delete;

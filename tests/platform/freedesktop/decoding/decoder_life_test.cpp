@@ -133,9 +133,9 @@ TEST(DecoderInTheSandbox, OutlivesTheShellThatStartedIt)
     ASSERT_EQ(command.value(1), "-c");
     command[2] += " read ignored < " + pipe;
     auto [ours, theirs] = packet_socket::makePair();
-    std::thread shell([&] {
+    std::thread shell([&command, &socket = theirs] {
         Cancellation never;
-        bounded_process::run(command, {60, 0}, never, theirs);
+        bounded_process::run(command, {60, 0}, never, socket);
     });
     constexpr int patience = 60'000;
     pollfd source = {ours.number(), POLLIN, 0};
