@@ -17,10 +17,9 @@ if(CORVANE_WARNINGS_AS_ERRORS)
 endif()
 # Sources that are read together see each other's private names; what these warnings look for is found
 # where each is read alone.
-if(CMAKE_UNITY_BUILD)
-    target_compile_options(corvane_settings INTERFACE
-        -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
-endif()
+set(are_joined $<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>)
+target_compile_options(corvane_settings INTERFACE $<${are_joined}:-Wno-shadow>
+    $<$<AND:${are_joined},$<CXX_COMPILER_ID:GNU>>:-Wno-subobject-linkage>)
 target_compile_definitions(corvane_settings INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_USE_QSTRINGBUILDER
     _GLIBCXX_ASSERTIONS)
