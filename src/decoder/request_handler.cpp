@@ -2,6 +2,7 @@
 
 #include "decoder/picture_decoding.h"
 #include "decoder/picture_writer.h"
+#include "platform/pictures/fitted_size.h"
 #include "platform/pictures/image_codec.h"
 #include "platform/pictures/picture_memory.h"
 
@@ -247,7 +248,7 @@ Answer RequestHandler::openPicture(const Request &request, OpenedPicture &pictur
     const QSize size = picture.size();
     QSize pixels = size;
     if (!size.isEmpty() && (isVector || isLarger(size, request.wanted)))
-        pixels = size.scaled(request.wanted, Qt::KeepAspectRatio).expandedTo({1, 1});
+        pixels = fittedSize(size, request.wanted);
     auto image = picture.read(pixels);
     const QSize decoded = image ? image->size() : QSize();
     if (image && isLarger(decoded, request.wanted))

@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <utility>
 
 namespace corvane {
@@ -114,10 +115,11 @@ QPointF PictureView::middle() const
 
 QSize PictureView::shownPixels() const
 {
-    const QSizeF shown = m_zoom.rect().size() * devicePixelRatioF();
-    return QSize(static_cast<int>(std::round(shown.width())),
-                 static_cast<int>(std::round(shown.height())))
-        .expandedTo({1, 1});
+    const QSize pixels = m_zoom.pixels(devicePixelRatioF());
+    const QSize missing = pixels - m_best.size();
+    // Decoding it again for what fractions are rounded to would take as long as the first time.
+    const bool isNearly = std::abs(missing.width()) <= 1 && std::abs(missing.height()) <= 1;
+    return m_zoom.isFitted() && isNearly ? m_best.size() : pixels;
 }
 
 QRectF PictureView::alignedRect() const

@@ -13,9 +13,9 @@ class MainQueue;
 /// Shows a picture, which the user can zoom and move, or plays an animation. What is given must
 /// outlive it.
 ///
-/// It shows the fitted picture at once, and has it rendered again when it is shown with more
-/// pixels. The next frame of an animation is made while the present one is shown; while the view is
-/// not painted none is made.
+/// It shows the fitted picture at once, and has it rendered again when it is shown with other
+/// pixels, but not for a single one. The next frame of an animation is made while the present one
+/// is shown; while the view is not painted none is made.
 class PictureView : public QWidget {
 public:
     PictureView(const PreviewContent::Picture &picture, PreviewLoading &loading, MainQueue &queue,

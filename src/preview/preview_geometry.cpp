@@ -62,7 +62,7 @@ struct SizeOf {
     QSize operator()(const PreviewContent::Missing &) const { return detailsWindow; }
     QSize operator()(const PreviewContent::Picture &picture) const
     {
-        const QSizeF room = limitOf(available) - QSize(0, barHeight);
+        const QSizeF room = pictureRoom(available);
         // Small vector graphics, such as icons, are shown enlarged.
         constexpr QSizeF smallestDrawing{384, 384};
         QSizeF natural = picture.isVector ? QSizeF(picture.pixelSize)
@@ -106,6 +106,11 @@ QSize windowSize(const PreviewContent &content, QSize available, double scale,
                  const TextMetrics &metrics)
 {
     return bounded(std::visit(SizeOf{available, scale, metrics}, content.body), available);
+}
+
+QSize pictureRoom(QSize available)
+{
+    return limitOf(available) - QSize(0, barHeight);
 }
 
 QRect centred(QSize size, const QRect &available)
@@ -161,6 +166,11 @@ QRectF PictureZoom::rect() const
     const QPointF middle = QPointF(m_view.width() / 2, m_view.height() / 2) + m_offset;
     return {middle.x() - size.width() / 2, middle.y() - size.height() / 2, size.width(),
             size.height()};
+}
+
+QSize PictureZoom::pixels(double scale) const
+{
+    return (rect().size() * scale).toSize().expandedTo({1, 1});
 }
 
 void PictureZoom::fit()

@@ -32,6 +32,9 @@ struct TextMetrics {
 QSize windowSize(const PreviewContent &content, QSize available, double scale,
                  const TextMetrics &metrics);
 
+/// What a picture may take of the screen, in points; a larger one is scaled into it.
+QSize pictureRoom(QSize available);
+
 /// A rectangle of that size in the middle of `available`.
 QRect centred(QSize size, const QRect &available);
 
@@ -54,6 +57,9 @@ public:
     double scale() const { return m_isFitted ? fittedScale() : m_scale; }
     /// Where the picture is drawn.
     QRectF rect() const;
+    /// The pixels that it covers there, with `scale` of them per point. For a picture that was
+    /// fitted into what its room has of them, these or one more or less each way.
+    QSize pixels(double scale) const;
 
     void fit();
     /// Changes the scale by a factor; the point of the picture under `anchor` stays there. The

@@ -84,10 +84,9 @@ void QtPreviewPanel::load(const QUrl &url)
 {
     const QScreen *const target = screen();
     const double scale = target ? target->devicePixelRatio() : 1;
-    const QSizeF room = target ? QSizeF(target->availableSize()) : QSizeF(1280, 720);
-    const QSizeF wanted
-        = room * preview_geometry::largestPart - QSizeF(0, preview_geometry::barHeight);
-    m_context.loading.load(url, (wanted * scale).toSize(),
+    const QSizeF room
+        = preview_geometry::pictureRoom(target ? target->availableSize() : QSize(1280, 720));
+    m_context.loading.load(url, (room * scale).toSize(),
                            [this](PreviewContent content) { loaded(std::move(content)); });
 }
 

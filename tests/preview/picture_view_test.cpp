@@ -114,6 +114,21 @@ TEST_F(PictureViewTest, IsPaintedAgainOnceItHasMorePixels)
     EXPECT_EQ(shownAt(50, 50), QColor(Qt::blue));
 }
 
+TEST_F(PictureViewTest, APictureThatLacksOnePixelIsShownAsItIs)
+{
+    QImage stripes(99, 100, QImage::Format_RGB32);
+    for (int x = 0; x < stripes.width(); ++x)
+        QPainter(&stripes).fillRect(x, 0, 1, 100, x % 2 == 0 ? Qt::red : Qt::blue);
+    show(picture(stripes, 400));
+    settle();
+    EXPECT_EQ(loading.rendered, QList<QSize>());
+    const QImage shown = view->grab().toImage().convertToFormat(QImage::Format_RGB32);
+    EXPECT_TRUE(shown.copy(0, 0, 99, 100) == stripes || shown.copy(1, 0, 99, 100) == stripes);
+    view->handleKey(Qt::Key_Plus);
+    settle();
+    EXPECT_EQ(loading.rendered, QList<QSize>{QSize(125, 125)}) << "larger it is decoded again";
+}
+
 TEST_F(PictureViewTest, IsPaintedAgainWhereTheWheelHasMovedIt)
 {
     show(picture(square(Qt::red), 100));

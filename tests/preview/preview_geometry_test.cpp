@@ -1,6 +1,9 @@
+#include "platform/pictures/fitted_size.h"
 #include "preview/preview_geometry.h"
 
 #include <gtest/gtest.h>
+
+#include <cstdlib>
 
 namespace corvane::test {
 namespace {
@@ -179,6 +182,33 @@ TEST_F(PictureZoomTest, MovesNoFurtherThanThePictureReaches)
     EXPECT_EQ(zoom.rect(), QRectF(-400, 0, 800, 400));
     zoom.moveBy({10'000, 10'000});
     EXPECT_EQ(zoom.rect(), QRectF(0, 0, 800, 400));
+}
+
+TEST(PictureZoomPixels, AreThoseThatAPictureWasFittedIntoOrOneMoreOrLess)
+{
+    for (const QSize screen :
+         {QSize(1512, 982), QSize(982, 1512), QSize(1920, 1080), QSize(1367, 767)}) {
+        for (const double scale : {1.0, 1.25, 1.5, 5.0 / 3, 2.0}) {
+            for (const QSize pixels :
+                 {QSize(4000, 3000), QSize(3000, 4000), QSize(6001, 3999), QSize(20'000, 701),
+                  QSize(701, 20'000), QSize(9000, 1), QSize(30, 20), QSize(5000, 5000)}) {
+                const QSize room = (QSizeF(pictureRoom(screen)) * scale).toSize();
+                const bool isLarger
+                    = pixels.width() > room.width() || pixels.height() > room.height();
+                const QSize fitted = isLarger ? fittedSize(pixels, room) : pixels;
+                const QSize window
+                    = windowSize(picture(pixels), screen, scale, {lineHeight, columnWidth});
+                PictureZoom zoom;
+                zoom.setPicture(QSizeF(pixels) / scale, false);
+                zoom.setView(window - QSize(0, barHeight));
+                const QSize missing = zoom.pixels(scale) - fitted;
+                EXPECT_LE(std::abs(missing.width()), 1)
+                    << scale << ' ' << pixels.width() << 'x' << pixels.height();
+                EXPECT_LE(std::abs(missing.height()), 1)
+                    << scale << ' ' << pixels.width() << 'x' << pixels.height();
+            }
+        }
+    }
 }
 
 TEST_F(PictureZoomTest, AnEmptyViewOrPictureDividesNothing)

@@ -6,6 +6,7 @@
 #include "fakes/fake_window_activation.h"
 #include "fakes/test_clock.h"
 #include "platform/desktop/keyboard_loan.h"
+#include "platform/pictures/fitted_size.h"
 #include "preview/manual_loading.h"
 #include "preview/preview_geometry.h"
 #include "preview/qt_preview_panel.h"
@@ -323,6 +324,26 @@ TEST_F(QtPreviewPanelTest, ControlWClosesItUnlessItIsHeldSinceBefore)
     EXPECT_TRUE(panel->isVisible());
     pressControl(Qt::Key_W, false);
     EXPECT_FALSE(panel->isVisible());
+}
+
+TEST_F(QtPreviewPanelTest, APictureThatWasFittedIsNotDecodedAgain)
+{
+    for (const QSize pixels : {QSize(4000, 3000), QSize(3000, 4000), QSize(6001, 3999),
+                               QSize(9000, 400), QSize(300, 200)}) {
+        PreviewContent content;
+        PreviewContent::Picture picture;
+        picture.pixelSize = pixels;
+        panel->makeKeyAndOrderFront();
+        const QSize fitted = fittedSize(pixels, loading.wantedPixels).boundedTo(pixels);
+        picture.fitted = QImage(fitted, QImage::Format_RGB32);
+        picture.fitted.fill(Qt::red);
+        picture.document = std::make_shared<FakePreviewDocuments::Document>();
+        content.body = picture;
+        loading.answer(content);
+        paint();
+        EXPECT_EQ(loading.rendered, QList<QSize>()) << pixels.width() << 'x' << pixels.height();
+        panel->orderOut();
+    }
 }
 
 TEST_F(QtPreviewPanelTest, AWheelMovesAPictureByNotchesATouchpadByItsPixelsAndKeysByTheirSteps)

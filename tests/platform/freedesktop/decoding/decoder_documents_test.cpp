@@ -115,6 +115,14 @@ TEST_F(DecoderDocumentsTest, FitsALargePictureAndRendersMoreOfItOnDemand)
     EXPECT_EQ(large->document->render(0, {333, 77}, never)->size(), QSize(333, 77));
 }
 
+TEST_F(DecoderDocumentsTest, FitsAPictureToTheNearestPixel)
+{
+    // 151.5 and 100 would fit exactly, and 44.7 and 100.
+    EXPECT_EQ(picture("a.jpg", encoded({300, 198}, "jpeg"))->fitted.size(), QSize(152, 100));
+    EXPECT_EQ(picture("b.png", encoded({170, 380}, "png"))->fitted.size(), QSize(45, 100));
+    EXPECT_EQ(picture("c.png", encoded({4000, 1}, "png"))->fitted.size(), QSize(200, 1));
+}
+
 TEST_F(DecoderDocumentsTest, KeepsASmallPictureAsItIs)
 {
     EXPECT_EQ(picture("a.png", encoded({20, 10}, "png"))->fitted.size(), QSize(20, 10));
