@@ -132,6 +132,12 @@ bool KeptFolder::isHeld() const
     return m_folder.isOpen() && private_folder::isAt(m_path, m_folder.number());
 }
 
+bool KeptFolder::isThere() const
+{
+    struct stat status = {};
+    return ::lstat(m_path.constData(), &status) == 0;
+}
+
 bool KeptFolder::hold()
 {
     if (isHeld())
@@ -258,25 +264,25 @@ bool KeptFolder::syncAdded() const
     });
 }
 
-bool KeptFolder::writeRecord(const QByteArray &record, Wait wait) const
+bool KeptFolder::writeRecord(const QByteArray &record) const
 {
     constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     const int folder = m_folder.number();
     ::unlinkat(folder, unfinishedRecordName, 0);
     FileDescriptor file(::openat(folder, unfinishedRecordName, flags, S_IRUSR | S_IWUSR));
-    const bool isWritten = file.isOpen() && file.write(record)
-        && (wait == Wait::No || (isOnDisk(file) && ::fsync(folder) == 0)) && file.close();
+    const bool isWritten = file.isOpen() && file.write(record) && isOnDisk(file)
+        && ::fsync(folder) == 0 && file.close();
     return isWritten && ::renameat(folder, unfinishedRecordName, folder, recordName) == 0;
 }
 
 bool KeptFolder::rewrite(const QByteArray &record)
 {
-    return writeRecord(record, Wait::No);
+    return writeRecord(record);
 }
 
 bool KeptFolder::commit(const QByteArray &record, const QSet<QByteArray> &names)
 {
-    const bool isWritten = syncAdded() && writeRecord(record, Wait::ForDisk);
+    const bool isWritten = syncAdded() && writeRecord(record);
     if (isWritten) {
         ::fsync(m_folder.number());
         sweep(names);
@@ -311,6 +317,7 @@ void KeptFolder::empty()
     forget();
     ::unlinkat(m_folder.number(), unfinishedRecordName, 0);
     sweep({});
+    ::fsync(m_folder.number());
     ::rmdir(m_path.constData());
 }
 

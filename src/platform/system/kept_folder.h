@@ -34,6 +34,8 @@ public:
     /// Whether the path is one of a file in the folder.
     bool contains(const QByteArray &path) const;
 
+    /// Whether there is anything at its path.
+    bool isThere() const;
     /// Keeps other processes out until `release`. False if there is no such folder, if it is not
     /// one of this user alone, or if another process holds it.
     bool hold();
@@ -61,14 +63,16 @@ public:
     /// Makes a set of the files `names`, in the place of the one before, whose other files are
     /// deleted. If that fails, what was added since is deleted instead.
     bool commit(const QByteArray &record, const QSet<QByteArray> &names);
-    /// Puts another record in the place of the set's, without waiting for the disk.
+    /// Puts another record in the place of the set's.
     bool rewrite(const QByteArray &record);
     /// Deletes what it has put there and is not among `names`: a process may have been killed while
     /// it added to a set.
     void sweep(const QSet<QByteArray> &names);
-    /// Deletes the record: the set is none any more.
+    /// Deletes the record: the set is none any more. Does not wait for the disk, as
+    /// `private_folder::sync` does.
     void forget();
-    /// Deletes everything that it has ever put there, and the folder if nothing else is in it.
+    /// Deletes everything that it has ever put there, for good, and the folder if nothing else is
+    /// in it.
     void empty();
 
     /// Writes the regular file at that path to `to`; false unless it has that size. Any thread.
@@ -80,8 +84,7 @@ private:
     FileDescriptor create(QByteArray &name, const QByteArray &extension) const;
     bool linkInto(const QByteArray &path, const FileDescriptor &source, const QByteArray &extension,
                   QByteArray &name) const;
-    enum class Wait { ForDisk, No };
-    bool writeRecord(const QByteArray &record, Wait wait) const;
+    bool writeRecord(const QByteArray &record) const;
     bool syncAdded() const;
 
     QByteArray m_path;

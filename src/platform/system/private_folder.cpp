@@ -1,5 +1,7 @@
 #include "platform/system/private_folder.h"
 
+#include "platform/system/file_descriptor.h"
+
 #include <QStringBuilder>
 
 #include <fcntl.h>
@@ -49,10 +51,20 @@ bool make(const QByteArray &base, const QByteArray &folder)
 {
     const QByteArray way = folder + '/';
     for (qsizetype end = base.size(); end >= 0; end = way.indexOf('/', end + 1)) {
-        if (::mkdir(way.first(end).constData(), S_IRWXU) != 0 && errno != EEXIST)
+        const QByteArray made = way.first(end);
+        if (::mkdir(made.constData(), S_IRWXU) == 0)
+            sync(made.first(made.lastIndexOf('/') + 1));
+        else if (errno != EEXIST)
             return false;
     }
     return true;
+}
+
+void sync(const QByteArray &path)
+{
+    const FileDescriptor folder(::open(path.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (folder.isOpen())
+        ::fsync(folder.number());
 }
 
 } // namespace corvane::private_folder

@@ -14,8 +14,11 @@ int openAndLock(const QByteArray &path);
 /// Whether `path` still names the folder that `descriptor` has open.
 bool isAt(const QByteArray &path, int descriptor);
 
-/// Makes `folder` and missing folders between it and `base`, closed to other users. True if they
-/// are there now, whatever they are.
+/// Makes `folder` and missing folders between it and `base`, closed to other users, and waits until
+/// the disk has those that are new. True if they are there now, whatever they are.
 bool make(const QByteArray &base, const QByteArray &folder);
+
+/// Waits until the disk has the names that are in a folder now, and no others.
+void sync(const QByteArray &path);
 
 } // namespace corvane::private_folder

@@ -1,5 +1,7 @@
+#include "fakes/disk_waits.h"
 #include "fakes/full_disk.h"
 #include "platform/system/kept_folder.h"
+#include "platform/system/private_folder.h"
 
 #include <QDir>
 #include <QFile>
@@ -105,6 +107,58 @@ TEST_F(KeptFolderTest, ASetTakesThePlaceOfTheOneBefore)
     ASSERT_TRUE(folder.rewrite("3"));
     EXPECT_EQ(folder.record(100), QByteArray("3"));
     EXPECT_EQ(entries(), 3);
+}
+
+TEST_F(KeptFolderTest, ANewFolderIsFoundAfterThePowerIsLost)
+{
+    const test::DiskWaits waits;
+    ASSERT_TRUE(folder.makeAndHold());
+    EXPECT_EQ(waits.paths, (QByteArrayList{base, path("x")})) << "they have the names of new ones";
+    folder.release();
+    ASSERT_TRUE(folder.makeAndHold());
+    EXPECT_EQ(waits.paths.size(), 2);
+}
+
+TEST_F(KeptFolderTest, ASetIsOnTheDiskBeforeItTakesThePlaceOfTheOneBefore)
+{
+    ASSERT_TRUE(folder.makeAndHold());
+    ASSERT_TRUE(folder.commit("1", {}));
+    test::DiskWaits waits;
+    waits.onWait = [&](const QByteArray &path) {
+        const bool isLast = waits.paths.size() == 4;
+        EXPECT_EQ(folder.record(100), QByteArray(isLast ? "2" : "1")) << path.constData();
+    };
+    const auto added = folder.addBytes("bytes", {});
+    ASSERT_TRUE(folder.commit("2", {added->name}));
+    EXPECT_EQ(waits.paths,
+              (QByteArrayList{folder.pathOf(added->name), folder.pathOf("items.unfinished"),
+                              folder.path(), folder.path()}));
+    waits.onWait = nullptr;
+    waits.paths.clear();
+    ASSERT_TRUE(folder.rewrite("3"));
+    EXPECT_EQ(waits.paths.value(0), folder.pathOf("items.unfinished"));
+}
+
+TEST_F(KeptFolderTest, WhatWasEmptiedDoesNotComeBackAfterThePowerIsLost)
+{
+    ASSERT_TRUE(folder.makeAndHold());
+    const auto added = folder.addBytes("bytes", {});
+    ASSERT_TRUE(folder.commit("record", {added->name}));
+    write("x/kept/mine.txt", "mine");
+    test::DiskWaits waits;
+    waits.onWait = [&](const QByteArray &) { EXPECT_EQ(entries(), 1) << "what is not its own"; };
+    folder.empty();
+    EXPECT_EQ(waits.paths, QByteArrayList{folder.path()});
+}
+
+TEST(PrivateFolderTest, IsWaitedForByItsPath)
+{
+    const QTemporaryDir temporary;
+    const QByteArray path = QFile::encodeName(temporary.path());
+    const test::DiskWaits waits;
+    private_folder::sync(path);
+    private_folder::sync(path + "/nothing");
+    EXPECT_EQ(waits.paths, QByteArrayList{path});
 }
 
 TEST_F(KeptFolderTest, ASetThatCannotBeWrittenLeavesTheOneBefore)
