@@ -11,10 +11,23 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <filesystem>
+#include <system_error>
+
 namespace corvane::test {
 
 /// A temporary directory for the test alone.
 struct TemporaryFolder {
+    TemporaryFolder() = default;
+    TemporaryFolder(const TemporaryFolder &) = delete;
+    TemporaryFolder &operator=(const TemporaryFolder &) = delete;
+    /// QTemporaryDir alone leaves files whose names are no text.
+    ~TemporaryFolder()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(path().constData(), ignored);
+    }
+
     QByteArray path() const { return directory.path().toUtf8(); }
     QByteArray path(const QByteArray &name) const { return path() + QByteArray("/") + name; }
     QUrl url(const QByteArray &name) const { return file_url::fromNativePath(path(name)); }
