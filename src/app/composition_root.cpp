@@ -138,6 +138,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                  .store = store,
                  .spool = spool,
                  .ingest = ingest,
+                 .codec = imageCodec,
                  .preparation = itemPreparation,
                  .workQueue = workQueue})
     , previewDocuments(decoders)

@@ -9,12 +9,13 @@
 #include "core/shelf_store.h"
 #include "core/spool_place.h"
 #include "platform/base/work_queue.h"
+#include "platform/pictures/image_codec.h"
 #include "platform/system/file_url.h"
+#include "platform/system/private_folder.h"
+#include "platform/system/regular_file.h"
 
 #include <QSet>
 #include <QtDebug>
-
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <utility>
@@ -25,6 +26,7 @@ namespace corvane {
 namespace {
 
 using kept_record::Item;
+using Line = kept_record::Saved::Line;
 
 QUrl addressOf(const kept_record::Link &link)
 {
@@ -45,6 +47,18 @@ QSet<QByteArray> namesIn(const QList<Item> &items)
             names.insert(saved->name);
     }
     return names;
+}
+
+/// Not on the main thread.
+QString lineOf(const QUrl &url, Line line, const ImageCodec &codec)
+{
+    const item_description::FileName name(url);
+    const auto bytes = line == Line::PixelsAndKind
+        ? regular_file::contents(name.nativePath, ImageCodec::maximumDecodedBytes)
+        : std::nullopt;
+    return bytes
+        ? PictureItems::describe(*bytes, UTType::forFilenameExtension(name.extension), codec)
+        : PictureItems::describe(url);
 }
 
 /// Whether what is on the shelf alone may be written into the folder now.
@@ -86,12 +100,12 @@ struct KeptItems::Keeper {
     {
         writing = files;
         if (const auto bytes = context.preparation.bytesOf(item))
-            return saved(*bytes, item.title(), {});
+            return saved(*bytes, item.title());
         // What is still being made from a file is made from it again, later.
         const auto present = item.presentForm();
         if (!present)
             return std::nullopt;
-        return std::visit([&](const auto &payload) { return of(payload, *present); },
+        return std::visit([&](const auto &payload) { return of(payload, item); },
                           present->payload());
     }
 
@@ -103,7 +117,7 @@ struct KeptItems::Keeper {
         if (!isKeptHere && !path.startsWith(spoolFolder))
             return kept_record::File{path};
         if (isKeptHere)
-            return keptHere(path, item);
+            return keptHere(path);
         if (writing == Files::AsTheyAre)
             return std::nullopt;
         const QString name = file_url::lastPathComponent(path);
@@ -111,21 +125,23 @@ struct KeptItems::Keeper {
             = context.folder.add(path, file_url::pathExtension(name).toUtf8(), isTimeLeft);
         if (!added)
             return std::nullopt;
-        return kept_record::Saved{added->name, added->size, name, item.subtitle()};
+        // What is still being made does not say yet what it will say.
+        const bool isOfPixels
+            = !item.isBeingMade() && item.subtitle() != PictureItems::describe(file.url);
+        return kept_record::Saved{added->name, added->size, name,
+                                  isOfPixels ? Line::PixelsAndKind : Line::KindAndSize};
     }
     /// It stays as it is: no second name and no copy, which could fail.
-    std::optional<Item> keptHere(const QByteArray &path, const DropItem &item) const
+    std::optional<Item> keptHere(const QByteArray &path) const
     {
-        struct stat status = {};
-        const QByteArray name = path.mid(path.lastIndexOf('/') + 1);
-        if (::lstat(path.constData(), &status) != 0 || !context.folder.has({name, status.st_size}))
+        const auto found = restored.constFind(path.mid(path.lastIndexOf('/') + 1));
+        if (found == restored.constEnd() || !context.folder.has({found->name, found->size}))
             return std::nullopt;
-        // Its name in the folder is none that anybody gave it.
-        return kept_record::Saved{name, status.st_size, item.title(), item.subtitle()};
+        return *found;
     }
     std::optional<Item> of(const DropItem::ImageBytes &image, const DropItem &item) const
     {
-        return saved(image, item.title(), item.subtitle());
+        return saved(image, item.title());
     }
     static std::optional<Item> of(const DropItem::Text &text, const DropItem & /*item*/)
     {
@@ -137,8 +153,7 @@ struct KeptItems::Keeper {
     }
 
     /// A picture in memory becomes a file, named by its type.
-    std::optional<Item> saved(const DropItem::ImageBytes &image, const QString &title,
-                              const QString &subtitle) const
+    std::optional<Item> saved(const DropItem::ImageBytes &image, const QString &title) const
     {
         if (writing == Files::AsTheyAre || !isTimeLeft())
             return std::nullopt;
@@ -150,10 +165,11 @@ struct KeptItems::Keeper {
         const bool isNamed = extension.isEmpty() || name.extension == extension;
         return kept_record::Saved{added->name, added->size,
                                   isNamed ? title : name.stem() + QLatin1Char('.') + extension,
-                                  subtitle};
+                                  Line::PixelsAndKind};
     }
 
     const Context &context;
+    const QHash<QByteArray, kept_record::Saved> &restored;
     const std::function<bool()> &isTimeLeft;
     QByteArray spoolFolder = file_url::nativePath(context.spool.directory()) + '/';
     /// One for each item on the shelf.
@@ -172,8 +188,12 @@ KeptItems::~KeptItems() = default;
 
 void KeptItems::restore()
 {
-    if (!m_context.folder.hold())
+    if (!m_context.folder.hold()) {
+        if (m_context.folder.isThere())
+            qWarning("[Corvane] What was kept of the shelf is not read: its folder is open to "
+                     "others, or in use.");
         return;
+    }
     if (!m_context.folder.hasRecord()) {
         m_context.folder.sweep({});
         return;
@@ -192,6 +212,10 @@ void KeptItems::restore()
     if (missing > 0)
         qWarning("[Corvane] Items that are missing from what was kept of the shelf: %lld.",
                  static_cast<long long>(missing));
+    for (const Item &item : std::as_const(*kept)) {
+        if (const auto *saved = std::get_if<kept_record::Saved>(&item))
+            m_restored.insert(saved->name, *saved);
+    }
     const QList<DropItem> items = itemsOf(*kept);
     m_context.store.accept(items);
     m_context.preparation.whenReady(
@@ -207,7 +231,7 @@ bool KeptItems::isWhole(const Item &kept) const
     if (const auto *saved = std::get_if<kept_record::Saved>(&kept))
         return m_context.folder.has({saved->name, saved->size});
     if (const auto *link = std::get_if<kept_record::Link>(&kept))
-        return addressOf(*link).scheme().startsWith(QLatin1String("http"));
+        return PasteboardIngest::isLink(addressOf(*link));
     return true;
 }
 
@@ -241,25 +265,26 @@ DropItem KeptItems::itemOf(const kept_record::Saved &saved) const
 {
     const QByteArray path = m_context.folder.pathOf(saved.name);
     const QUrl url = file_url::fromNativePath(path);
-    DropItem asItIs(DropItem::File{url}, saved.title, saved.subtitle, false);
     const item_description::FileName name(saved.title);
+    const QString line = item_description::ofFile(
+        name, FileVersion{.path = path, .kind = FileVersion::Kind::Regular, .size = saved.size});
+    DropItem asItIs(DropItem::File{url}, saved.title, line, false);
     const auto place = saved.size <= largestSpooled
         ? m_context.spool.keepPlace(name.stem(), name.extension)
         : nullptr;
     if (!place)
         return asItIs;
     const QString title = file_url::lastPathComponent(place->url());
-    const auto make = [place, path, title, asItIs, size = saved.size] {
+    const auto make = [&codec = m_context.codec, place, path, title, asItIs, saved] {
         const bool isCopied = place->write(
-            [&](const FileDescriptor &file) { return KeptFolder::copy(path, size, file); });
+            [&](const FileDescriptor &file) { return KeptFolder::copy(path, saved.size, file); });
         if (!isCopied)
             return asItIs;
-        const QString known = asItIs.subtitle();
         return DropItem(DropItem::File{place->url()}, title,
-                        known.isEmpty() ? PictureItems::describe(place->url()) : known, true);
+                        lineOf(place->url(), saved.line, codec), true);
     };
     return m_context.preparation.begin(
-        {DropItem::beingMade(DropItem::File{place->url()}, title, saved.subtitle, url),
+        {DropItem::beingMade(DropItem::File{place->url()}, title, line, url),
          {place},
          make,
          nullptr});
@@ -287,8 +312,10 @@ void KeptItems::spooled(const QList<Item> &kept, const QList<DropItem> &items)
         m_context.folder.forget();
     else if (!m_context.folder.rewrite(kept_record::encode(left)))
         return;
-    if (!paths.empty())
-        m_context.workQueue.run([paths] { std::ranges::for_each(paths, KeptFolder::remove); });
+    m_context.workQueue.run([folder = m_context.folder.path(), paths] {
+        private_folder::sync(folder);
+        std::ranges::for_each(paths, KeptFolder::remove);
+    });
 }
 
 /// Whether there is a folder for a new set, and no set in it that was never on this shelf: another
@@ -309,7 +336,7 @@ void KeptItems::keep(const std::function<bool()> &isTimeLeft)
         folder.release();
         return;
     }
-    Keeper keeper{m_context, isTimeLeft};
+    Keeper keeper{m_context, m_restored, isTimeLeft};
     bool isKept = mayReplace();
     qsizetype count = 0;
     const auto commit = [&](Files files) {

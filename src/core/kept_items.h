@@ -5,6 +5,7 @@
 #include "platform/base/lifetime.h"
 #include "platform/system/kept_folder.h"
 
+#include <QHash>
 #include <QList>
 
 #include <chrono>
@@ -13,6 +14,7 @@
 
 namespace corvane {
 
+class ImageCodec;
 class ItemPreparation;
 class PasteboardIngest;
 class ScratchSpool;
@@ -25,11 +27,13 @@ class WorkQueue;
 ///
 /// Of files and links the places are kept; pictures, and other files that are on the shelf alone,
 /// go from the spool into a folder of the user's, and texts into its record. At the next start they
-/// come back in their order, as if they were dropped: files are described anew, and what was kept
-/// becomes files of the spool again, made beside the main thread. What was kept is deleted only
-/// once all of that is done; if the program ends before, it is kept again.
+/// come back in their order, as if they were dropped: files are described anew, in the language of
+/// that start, and what was kept becomes files of the spool again, made beside the main thread.
+/// What was kept is deleted only once all of that is done; if the program ends before, it is kept
+/// again.
 ///
-/// All references must outlive it. Main thread only.
+/// All references must outlive it; the codec must also outlive the work on other threads. Main
+/// thread only.
 class KeptItems {
 public:
     struct Context {
@@ -38,6 +42,7 @@ public:
         ShelfStore &store;
         ScratchSpool &spool;
         const PasteboardIngest &ingest;
+        const ImageCodec &codec;
         ItemPreparation &preparation;
         /// What was kept is deleted there.
         WorkQueue &workQueue;
@@ -71,6 +76,8 @@ private:
     bool mayReplace();
 
     Context m_context;
+    /// By their names in the folder.
+    QHash<QByteArray, kept_record::Saved> m_restored;
     Lifetime m_lifetime;
 };
 

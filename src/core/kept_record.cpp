@@ -20,7 +20,7 @@ struct Writer {
     void operator()(const File &file) const { stream << file.path; }
     void operator()(const Saved &saved) const
     {
-        stream << saved.name << saved.size << saved.title << saved.subtitle;
+        stream << saved.name << saved.size << saved.title << static_cast<quint8>(saved.line);
     }
     void operator()(const Text &text) const { stream << text.string; }
     void operator()(const Link &link) const
@@ -41,7 +41,8 @@ struct Measurer {
     qint64 operator()(const File &file) const { return of(file.path); }
     qint64 operator()(const Saved &saved) const
     {
-        return of(saved.name) + qint64{sizeof saved.size} + of(saved.title) + of(saved.subtitle);
+        return of(saved.name) + qint64{sizeof saved.size} + of(saved.title)
+            + qint64{sizeof(quint8)};
     }
     qint64 operator()(const Text &text) const { return of(text.string); }
     qint64 operator()(const Link &link) const
@@ -61,7 +62,11 @@ Item read(quint8 kind, QDataStream &stream)
     }
     case 1: {
         Saved saved;
-        stream >> saved.name >> saved.size >> saved.title >> saved.subtitle;
+        quint8 line = 0;
+        stream >> saved.name >> saved.size >> saved.title >> line;
+        saved.line = static_cast<Saved::Line>(line);
+        if (saved.line > Saved::Line::PixelsAndKind)
+            stream.setStatus(QDataStream::ReadCorruptData);
         return saved;
     }
     case 2: {

@@ -4,6 +4,7 @@
 #include <QList>
 #include <QString>
 
+#include <cstdint>
 #include <optional>
 #include <variant>
 
@@ -17,11 +18,20 @@ struct File {
 };
 /// A file that was on the shelf alone, and is kept with the record under `name`.
 struct Saved {
+    /// What the line below its name says. The line itself is made at each start, in the language of
+    /// that start.
+    enum class Line : std::uint8_t {
+        /// "PNG · 2 KB"
+        KindAndSize,
+        /// "640 × 480 · PNG"
+        PixelsAndKind,
+    };
+
     QByteArray name;
     qint64 size = 0;
     /// Its file name on the shelf.
     QString title;
-    QString subtitle;
+    Line line = Line::KindAndSize;
     bool operator==(const Saved &) const = default;
 };
 struct Text {

@@ -36,9 +36,8 @@ bool isPlainText(const QString &type)
 std::optional<QUrl> webLink(Pasteboard &pasteboard)
 {
     const QList<QUrl> urls = pasteboard.urls();
-    const bool isWebLink = !urls.isEmpty() && !urls.constFirst().isLocalFile()
-        && urls.constFirst().scheme().startsWith(QLatin1String("http"));
-    return isWebLink ? std::optional(urls.constFirst()) : std::nullopt;
+    const bool isFirst = !urls.isEmpty() && PasteboardIngest::isLink(urls.constFirst());
+    return isFirst ? std::optional(urls.constFirst()) : std::nullopt;
 }
 
 std::optional<DropItem> linkItem(Pasteboard &pasteboard)
@@ -92,6 +91,11 @@ bool PasteboardIngest::canRead(Pasteboard &pasteboard)
 {
     return !needsAddresses(pasteboard.types()) || !pasteboard.fileUrls().isEmpty()
         || webLink(pasteboard);
+}
+
+bool PasteboardIngest::isLink(const QUrl &url)
+{
+    return url.scheme().startsWith(QLatin1String("http"));
 }
 
 std::optional<QUrl> PasteboardIngest::placeForPromisedFile(const QString &name) const

@@ -45,6 +45,9 @@ public:
     /// neither a picture nor text.
     static bool needsAddresses(const QStringList &types);
 
+    /// Whether a web address becomes a link.
+    static bool isLink(const QUrl &url);
+
     /// A place in the spool where the source of a drag may write the file that it promises under
     /// `name`, which is not trusted; none when there is no safe place.
     std::optional<QUrl> placeForPromisedFile(const QString &name) const;

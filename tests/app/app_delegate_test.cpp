@@ -152,6 +152,7 @@ protected:
                          .store = store,
                          .spool = desk.spool,
                          .ingest = desk.ingest,
+                         .codec = desk.codec,
                          .preparation = desk.preparation,
                          .workQueue = keptWork}};
     FakePreviewPanel previewPanel;

@@ -12,6 +12,7 @@
 #include "core/spool_place.h"
 #include "core/temporary_spool.h"
 #include "core/text_descriptions.h"
+#include "fakes/disk_waits.h"
 #include "fakes/fake_file_locality.h"
 #include "fakes/fake_image_codec.h"
 #include "fakes/fake_login_items.h"
@@ -19,11 +20,13 @@
 #include "fakes/fake_remote_files.h"
 #include "fakes/fake_work_queue.h"
 #include "fakes/full_disk.h"
+#include "fakes/log_lines.h"
 #include "fakes/memory_user_defaults.h"
 #include "fakes/random_steps.h"
 #include "fakes/recording_sources.h"
 #include "fakes/test_clock.h"
 
+#include <QLocale>
 #include <QStringBuilder>
 
 #include <gtest/gtest.h>
@@ -58,6 +61,8 @@ struct Machine {
     test::FakeLoginItems loginItems;
     Settings settings{defaults, loginItems};
     qint64 runs = 0;
+    /// What the codec knows of pictures.
+    QHash<QByteArray, QSize> pictures{{"pixels", {640, 480}}, {"tiff", {300, 400}}};
 };
 
 /// The program from its start to its end.
@@ -66,6 +71,7 @@ struct OneRun {
         : machine(where)
         , spool(machine.disk.path("tmp"), ++machine.runs)
     {
+        codec.sizes = machine.pictures;
         preparation.onReady = [this](const DropItem &made) { store.becomeReady(made); };
         keptItems.restore();
     }
@@ -173,6 +179,7 @@ struct OneRun {
                          .store = store,
                          .spool = spool,
                          .ingest = ingest,
+                         .codec = codec,
                          .preparation = preparation,
                          .workQueue = deletions}};
 };
@@ -206,7 +213,15 @@ struct KeptItemsTest : testing::Test {
         run->dropText(QStringLiteral("two\nlines"));
         run->finishWork();
     }
-    QUrl keptUrl() const { return file_url::fromNativePath(machine.kept()); }
+
+    /// The lines below the names.
+    QStringList lines() const
+    {
+        QStringList all;
+        for (const DropItem &item : run->store.items())
+            all << item.subtitle();
+        return all;
+    }
 
     Machine machine;
     std::unique_ptr<OneRun> run;
@@ -242,6 +257,22 @@ TEST_F(KeptItemsTest, WhatWasKeptIsGoneFromTheDiskOnceItIsOnTheShelfAndSpooled)
     EXPECT_EQ(machine.keptFiles().size(), 2) << "its new home does not exist yet";
     run->finishWork();
     run->deletions.runAll();
+    EXPECT_EQ(machine.keptFiles(), QStringList());
+}
+
+TEST_F(KeptItemsTest, WhatIsRemovedDoesNotComeBackAfterThePowerIsLost)
+{
+    fill();
+    run->end();
+    start().finishWork();
+    test::DiskWaits waits;
+    waits.onWait = [&](const QByteArray &path) {
+        EXPECT_EQ(path, machine.kept());
+        EXPECT_FALSE(exists(machine.kept("items")));
+        EXPECT_EQ(machine.keptFiles().size(), 1) << "its file goes after the record that names it";
+    };
+    run->deletions.runAll();
+    EXPECT_EQ(waits.paths.size(), 1);
     EXPECT_EQ(machine.keptFiles(), QStringList());
 }
 
@@ -314,6 +345,75 @@ TEST_F(KeptItemsTest, ALinkKeepsTheTitleThatItsPageGaveIt)
     ASSERT_EQ(next.store.items().size(), 1);
     EXPECT_EQ(next.store.items().constFirst().title(), QStringLiteral("A page"));
     EXPECT_EQ(next.store.items().constFirst().subtitle(), QStringLiteral("A site"));
+}
+
+TEST_F(KeptItemsTest, ALinkIsWhateverADropTakesForOne)
+{
+    run->dropLink("httpx://x.example/a");
+    ASSERT_EQ(run->store.items().size(), 1);
+    const QStringList before = run->shown();
+    EXPECT_EQ(again().shown(), before);
+}
+
+/// What QLocale calls the default one, for a while.
+struct Speaking {
+    explicit Speaking(const QLocale &locale) { QLocale::setDefault(locale); }
+    Speaking(const Speaking &) = delete;
+    Speaking &operator=(const Speaking &) = delete;
+    ~Speaking() { QLocale::setDefault(before); }
+    QLocale before;
+};
+
+TEST_F(KeptItemsTest, WhatIsSaidOfThemIsSaidInTheLanguageOfTheStart)
+{
+    const QByteArray large(1'400'000, 'x');
+    run->dropPng("pixels");
+    run->dropPng(large);
+    run->finishWork();
+    const QStringList before = lines();
+    EXPECT_EQ(before,
+              (QStringList{QStringLiteral("640 × 480 · PNG"), QStringLiteral("PNG · 1.4 MB")}));
+    run->end();
+    {
+        const Speaking german{QLocale(QLocale::German)};
+        start();
+        EXPECT_EQ(lines().value(1), QStringLiteral("PNG · 1,4 MB")) << "before its file is there";
+        run->finishWork();
+        EXPECT_EQ(lines(), (QStringList{before[0], QStringLiteral("PNG · 1,4 MB")}));
+        run->end();
+    }
+    start().finishWork();
+    EXPECT_EQ(lines(), before);
+}
+
+TEST_F(KeptItemsTest, APictureIsDescribedByItsPixelsAgainHoweverOftenTheProgramEnds)
+{
+    run->dropPng("pixels");
+    run->finishWork();
+    run->end();
+    start().end();
+    start().finishWork();
+    EXPECT_EQ(lines(), QStringList{QStringLiteral("640 × 480 · PNG")});
+}
+
+TEST_F(KeptItemsTest, APictureThatWasConvertedIsDescribedAsTheFileThatItBecame)
+{
+    run->dropTiff("tiff");
+    run->finishWork();
+    const QStringList before = run->shown();
+    machine.pictures.insert("image/png 300x400", {300, 400});
+    EXPECT_EQ(again().shown(), before);
+}
+
+TEST_F(KeptItemsTest, ATiffOfTheSpoolThatIsStillBeingConvertedIsNotSaidToBeForever)
+{
+    const auto place = run->ingest.placeForPromisedFile(QStringLiteral("scan.tiff"));
+    ASSERT_TRUE(place);
+    run->drop([&](test::FakePasteboard &pasteboard) { pasteboard.saveFile(*place, "tiff"); });
+    ASSERT_EQ(run->store.items().size(), 1);
+    ASSERT_TRUE(run->store.items().constFirst().isBeingMade());
+    again();
+    EXPECT_EQ(lines(), QStringList{QStringLiteral("TIFF · 4 bytes")});
 }
 
 TEST_F(KeptItemsTest, APictureThatIsStillBeingWrittenIsKept)
@@ -601,7 +701,11 @@ TEST_F(KeptItemsTest, AFolderThatOthersMayReadIsNotUsed)
     fill();
     run->end();
     ASSERT_EQ(::chmod(machine.kept().constData(), 0755), 0);
-    start();
+    {
+        const test::LogLines log;
+        start();
+        EXPECT_EQ(log.lines().size(), 1) << "it is told of at once";
+    }
     EXPECT_TRUE(run->store.items().isEmpty());
     run->dropText(QStringLiteral("secret"));
     const QStringList files = machine.keptFiles();
@@ -655,19 +759,19 @@ TEST_F(KeptItemsTest, ARecordLeadsNowhereOutOfItsFolder)
     ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
     ASSERT_EQ(::mkdir(machine.kept("0123456789abcdec").constData(), 0700), 0);
     const QList<kept_record::Item> record{
-        kept_record::Saved{"../../../secret", 6, QStringLiteral("a"), {}},
-        kept_record::Saved{machine.disk.path("secret"), 6, QStringLiteral("b"), {}},
-        kept_record::Saved{"0123456789abcdee", 6, QStringLiteral("c"), {}},
-        kept_record::Saved{"0123456789abcded", 0, QStringLiteral("d"), {}},
-        kept_record::Saved{"0123456789abcdec", 4096, QStringLiteral("e"), {}},
-        kept_record::Saved{"0123456789abcdeb", 6, QStringLiteral("f"), {}},
-        kept_record::Saved{"items", 6, QStringLiteral("g"), {}},
-        kept_record::Saved{"", -1, QStringLiteral("h"), {}},
+        kept_record::Saved{"../../../secret", 6, QStringLiteral("a")},
+        kept_record::Saved{machine.disk.path("secret"), 6, QStringLiteral("b")},
+        kept_record::Saved{"0123456789abcdee", 6, QStringLiteral("c")},
+        kept_record::Saved{"0123456789abcded", 0, QStringLiteral("d")},
+        kept_record::Saved{"0123456789abcdec", 4096, QStringLiteral("e")},
+        kept_record::Saved{"0123456789abcdeb", 6, QStringLiteral("f")},
+        kept_record::Saved{"items", 6, QStringLiteral("g")},
+        kept_record::Saved{"", -1, QStringLiteral("h")},
         kept_record::File{"relative"},
         kept_record::File{QByteArray("/a\0b", 4)},
         kept_record::Link{"file:///etc/passwd", QStringLiteral("i"), {}},
         kept_record::Link{"javascript:alert(1)", QStringLiteral("j"), {}},
-        kept_record::Saved{"0123456789abcdef.png", 6, QStringLiteral("../../x/../Good.png"), {}},
+        kept_record::Saved{"0123456789abcdef.png", 6, QStringLiteral("../../x/../Good.png")},
     };
     machine.disk.write("data/corvane/kept/items", kept_record::encode(record));
     start().finishWork();
@@ -721,7 +825,7 @@ TEST_F(KeptItemsTest, AVeryLargeFileStaysWhereItWasKept)
     machine.disk.write(
         "data/corvane/kept/items",
         kept_record::encode({kept_record::Saved{
-            "0123456789abcdef.iso", KeptItems::largestSpooled + 1, QStringLiteral("A.iso"), {}}}));
+            "0123456789abcdef.iso", KeptItems::largestSpooled + 1, QStringLiteral("A.iso")}}));
     start().finishWork();
     EXPECT_EQ(run->pathOf(0), path);
     // Where it is nothing has to be done for it, whatever other names it has.

@@ -7,7 +7,9 @@ namespace {
 
 const QList<Item> oneOfEach{
     File{QByteArray("/a\xff b\n", 6)},
-    Saved{"0123456789abcdef.png", 1LL << 40, QStringLiteral("Image.png"), {}},
+    Saved{"0123456789abcdef.png", 1LL << 40, QStringLiteral("Image.png"),
+          Saved::Line::PixelsAndKind},
+    Saved{"0123456789abcdef", 0, QStringLiteral("a"), Saved::Line::KindAndSize},
     Text{QStringLiteral("a") + QChar(0xdc00)},
     Link{"https://x.example/%20", QStringLiteral("A page"), QStringLiteral("A site")},
     Text{},
@@ -50,6 +52,9 @@ TEST(KeptRecord, OfUnknownKindsIsNone)
 {
     QByteArray record = encode({Text{}});
     record[record.size() - 5] = 4;
+    EXPECT_FALSE(decode(record));
+    record = encode({Saved{}});
+    record.back() = 2;
     EXPECT_FALSE(decode(record));
 }
 
