@@ -4,6 +4,12 @@
 #include "e2e/desktop/screen_reader.h"
 #include "e2e/wayland_session.h"
 
+#include <QBuffer>
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QUrl>
+
 #include <gmock/gmock.h>
 
 namespace corvane::e2e {
@@ -345,6 +351,112 @@ TEST_P(OnEveryDesktop, afterADropTheKeyboardIsWhereItWasBefore)
         hands().key('l');
         return typing.keys().contains("l");
     }));
+}
+
+/// What is on the shelf when the program ends. On X11 kept_items_test tells of it.
+class KeptUnderWayland : public OnEveryDesktop {
+protected:
+    void SetUp() override
+    {
+        OnEveryDesktop::SetUp();
+        QDir(data()).removeRecursively();
+    }
+    void TearDown() override
+    {
+        OnEveryDesktop::TearDown();
+        QDir(data()).removeRecursively();
+    }
+
+    QString data() const
+    {
+        return m_desktop.environment().value(u"XDG_DATA_HOME"_s) + u"/corvane"_s;
+    }
+    void drop(const DragPeer::Offer &offer)
+    {
+        GtkPeer source(m_desktop, offer, leftPlace());
+        ASSERT_EQ(source.problem(), QString());
+        hands().beginDrag(source.source(), edge());
+        dropWhereTheShelfOpens(source);
+        EXPECT_EQ(source.endOfDrag(), "done");
+    }
+    /// A picture that is no file, and a text.
+    void dropPictureAndText()
+    {
+        const QString habits = u"source.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, "
+                               "[Gtk.TargetEntry.new('image/png', 0, 0)], Gdk.DragAction.COPY)\n"
+                               "source.connect('drag-data-get', lambda w, c, data, i, t: "
+                               "data.set(data.get_target(), 8, bytes.fromhex('%1')))"_s;
+        drop({.habits = habits.arg(QString::fromLatin1(m_picture.toHex()))});
+        ASSERT_TRUE(waitForItems(1));
+        ASSERT_TRUE(eventually([&] { return corvane().spooled() == QStringList{u"Image.png"_s}; }));
+        drop({.text = m_text});
+        ASSERT_TRUE(waitForItems(2));
+    }
+    void quit()
+    {
+        Program quit(CorvaneProgram::path(), {u"--quit"_s}, m_desktop.environment());
+        EXPECT_EQ(quit.waitForEnd(), 0);
+        EXPECT_EQ(corvane().program().waitForEnd(), 0);
+    }
+    void quitAndStart()
+    {
+        ASSERT_NO_FATAL_FAILURE(quit());
+        CorvaneProgram::Start how;
+        how.keepsSettings = true;
+        start(how);
+    }
+
+    const QByteArray m_picture = [] {
+        QImage image(16, 16, QImage::Format_RGB32);
+        image.fill(Qt::red);
+        QBuffer buffer;
+        image.save(&buffer, "png");
+        return buffer.data();
+    }();
+    const QString m_text = u"Gr\u00fc\u00dfe\nzweite Zeile"_s;
+};
+
+INSTANTIATE_TEST_SUITE_P(, KeptUnderWayland,
+                         testing::Values(sessionOf(WindowManager::Sway),
+                                         sessionOf(WindowManager::KWin)),
+                         nameOf);
+
+TEST_P(KeptUnderWayland, whatIsOnTheShelfAloneIsThereAtTheNextStartInItsOrder)
+{
+    GtkPeer first(m_desktop, {}, rightPlace());
+    ASSERT_EQ(first.problem(), QString());
+    start({3, "settings.keepItems=true\n", {}});
+    ASSERT_NO_FATAL_FAILURE(dropPictureAndText());
+    ASSERT_NO_FATAL_FAILURE(quitAndStart());
+    ASSERT_TRUE(waitForItems(2));
+    ASSERT_TRUE(eventually([&] { return corvane().spooled() == QStringList{u"Image.png"_s}; }));
+
+    holdOutOver(first, firstOf(2));
+    hands().release();
+    const QUrl picture = QUrl::fromEncoded(first.droppedAddresses().trimmed());
+    QFile file(picture.toLocalFile());
+    ASSERT_TRUE(file.open(QFile::ReadOnly)) << picture.toEncoded().constData();
+    EXPECT_EQ(file.readAll(), m_picture);
+    ASSERT_TRUE(waitForItems(1));
+
+    GtkPeer second(m_desktop, {}, leftPlace());
+    ASSERT_EQ(second.problem(), QString());
+    holdOutOver(second, firstOf(1));
+    hands().release();
+    EXPECT_EQ(second.droppedText(), m_text.toUtf8());
+    EXPECT_TRUE(corvane().waitUntilHidden());
+    quit();
+    EXPECT_FALSE(QFile::exists(data() + u"/kept"_s));
+}
+
+TEST_P(KeptUnderWayland, nothingIsKeptUnlessThatIsWanted)
+{
+    startWithInView(3);
+    ASSERT_NO_FATAL_FAILURE(dropPictureAndText());
+    ASSERT_NO_FATAL_FAILURE(quitAndStart());
+    EXPECT_FALSE(QFile::exists(data()));
+    EXPECT_FALSE(corvane().isShown());
+    EXPECT_EQ(corvane().spooled(), QStringList());
 }
 
 } // namespace
