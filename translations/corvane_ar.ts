@@ -336,7 +336,7 @@ that runs.</source>
     </message>
     <message>
         <source>the Corvane that runs has too much to do; try again in a moment</source>
-        <translation>لدى Corvane العامل ما يشغله كثيرًا؛ حاول مجددًا بعد لحظة</translation>
+        <translation>إن Corvane العامل مشغول جدًا؛ حاول مجددًا بعد لحظة</translation>
     </message>
     <message>
         <source>what was printed is still on the shelf</source>
@@ -691,7 +691,7 @@ that runs.</source>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
-        <translation>اضغط عليه قبل بدء السحب فيبقى العنصر.</translation>
+        <translation>اضغط عليه باستمرار قبل بدء السحب فيبقى العنصر.</translation>
     </message>
 </context>
 <context>
@@ -1091,7 +1091,7 @@ that runs.</source>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
-        <translation>تعود عند البدء التالي. وحتى ذلك الحين تُخزَّن الصور والنصوص في مجلد المنزل.</translation>
+        <translation>تعود عند التشغيل التالي. وحتى ذلك الحين تُخزَّن الصور والنصوص في مجلد المنزل.</translation>
     </message>
     <message>
         <source>Shortcuts</source>

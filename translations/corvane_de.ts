@@ -332,7 +332,7 @@ angezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
-        <translation>es ist nicht genug Speicher frei</translation>
+        <translation>es ist nicht genug Arbeitsspeicher frei</translation>
     </message>
     <message>
         <source>the answer of the Corvane that runs cannot be read</source>
@@ -1043,7 +1043,7 @@ angezeigt oder verborgen.</translation>
     </message>
     <message>
         <source>Keep items when Corvane ends</source>
-        <translation>Elemente behalten, wenn Corvane endet</translation>
+        <translation>Elemente behalten, wenn Corvane beendet wird</translation>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>

@@ -300,15 +300,15 @@ se está ejecutando.</translation>
     </message>
     <message>
         <source>Corvane is running, but does not answer</source>
-        <translation>Corvane está en marcha, pero no responde</translation>
+        <translation>Corvane está en ejecución, pero no responde</translation>
     </message>
     <message>
         <source>the Corvane that runs says: %1</source>
-        <translation>el Corvane en marcha dice: %1</translation>
+        <translation>el Corvane en ejecución dice: %1</translation>
     </message>
     <message>
         <source>the Corvane that runs does not do this; it may be an older version</source>
-        <translation>el Corvane en marcha no hace esto; quizá sea una versión anterior</translation>
+        <translation>el Corvane en ejecución no hace esto; quizá sea una versión anterior</translation>
     </message>
     <message>
         <source>the display cannot be used: %1</source>
@@ -615,7 +615,7 @@ se está ejecutando.</translation>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>Los arrastres solo se notan en la parte superior de la pantalla</translation>
+        <translation>Los arrastres solo se detectan en la parte superior de la pantalla</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -655,7 +655,7 @@ se está ejecutando.</translation>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>Mayús no se nota una vez empezado el arrastre</translation>
+        <translation>Mayús no se detecta una vez empezado el arrastre</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
@@ -1047,7 +1047,7 @@ se está ejecutando.</translation>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
-        <translation>Vuelven a estar en el próximo inicio. Hasta entonces, las imágenes y los textos se guardan en su carpeta personal.</translation>
+        <translation>Volverán a aparecer en el próximo inicio. Hasta entonces, las imágenes y los textos se guardan en su carpeta personal.</translation>
     </message>
     <message>
         <source>Shortcuts</source>

@@ -615,7 +615,7 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>Les glissements ne sont remarqués qu’en haut de l’écran</translation>
+        <translation>Les glissements ne sont détectés qu’en haut de l’écran</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -655,11 +655,11 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>Maj n’est pas remarquée une fois le glissement commencé</translation>
+        <translation>Maj n’est pas détectée une fois le glissement commencé</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
-        <translation>Maintenez-la avant de commencer à glisser, et l’élément reste.</translation>
+        <translation>Maintenez-la enfoncée avant de commencer à glisser, et l’élément reste.</translation>
     </message>
 </context>
 <context>
@@ -1043,11 +1043,11 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>Keep items when Corvane ends</source>
-        <translation>Conserver les éléments quand Corvane est quitté</translation>
+        <translation>Conserver les éléments à la fermeture de Corvane</translation>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
-        <translation>Ils sont de retour au prochain démarrage. D’ici là, les images et les textes sont enregistrés dans votre dossier personnel.</translation>
+        <translation>Ils seront de retour au prochain démarrage. D’ici là, les images et les textes sont enregistrés dans votre dossier personnel.</translation>
     </message>
     <message>
         <source>Shortcuts</source>

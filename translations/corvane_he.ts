@@ -328,11 +328,11 @@ that runs.</source>
     </message>
     <message>
         <source>what was printed is still on the shelf</source>
-        <translation>מה שהודפס עדיין על המדף</translation>
+        <translation>מה שהודפס עדיין נמצא על המדף</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
-        <translation>אין די זיכרון</translation>
+        <translation>אין מספיק זיכרון</translation>
     </message>
     <message>
         <source>the answer of the Corvane that runs cannot be read</source>

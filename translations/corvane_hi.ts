@@ -655,7 +655,7 @@ that runs.</source>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>खींचना शुरू होने के बाद Shift पर ध्यान नहीं जाता</translation>
+        <translation>खींचना शुरू होने के बाद Shift पहचाना नहीं जाता</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
@@ -1043,11 +1043,11 @@ that runs.</source>
     </message>
     <message>
         <source>Keep items when Corvane ends</source>
-        <translation>Corvane के बंद होने पर वस्तुएँ रखें</translation>
+        <translation>Corvane के बंद होने पर वस्तुएँ बनाए रखें</translation>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
-        <translation>वे अगली शुरुआत पर वापस होती हैं। तब तक चित्र और पाठ आपके होम फ़ोल्डर में रखे जाते हैं।</translation>
+        <translation>अगली बार शुरू होने पर वे वापस आ जाती हैं। तब तक चित्र और पाठ आपके होम फ़ोल्डर में रखे जाते हैं।</translation>
     </message>
     <message>
         <source>Shortcuts</source>

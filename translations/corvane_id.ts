@@ -1036,7 +1036,7 @@ rak dari Corvane yang sudah berjalan.</translation>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
-        <translation>Semuanya kembali saat dijalankan lagi. Sampai saat itu, gambar dan teks disimpan di folder rumah Anda.</translation>
+        <translation>Semuanya kembali saat Corvane dijalankan lagi. Sampai saat itu, gambar dan teks disimpan di folder rumah Anda.</translation>
     </message>
     <message>
         <source>Shortcuts</source>

@@ -328,7 +328,7 @@ in esecuzione.</translation>
     </message>
     <message>
         <source>what was printed is still on the shelf</source>
-        <translation>ciò che è stato stampato è ancora sul ripiano</translation>
+        <translation>ciò che è stato scritto nello standard output è ancora sul ripiano</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
@@ -615,7 +615,7 @@ in esecuzione.</translation>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>I trascinamenti si notano solo in cima allo schermo</translation>
+        <translation>I trascinamenti si rilevano solo in cima allo schermo</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -655,7 +655,7 @@ in esecuzione.</translation>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>Maiusc non si nota più quando il trascinamento è iniziato</translation>
+        <translation>Maiusc non viene rilevato dopo l’inizio del trascinamento</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>

@@ -321,7 +321,7 @@ that runs.</source>
     </message>
     <message>
         <source>the Corvane that runs has too much to do; try again in a moment</source>
-        <translation>動作中の Corvane は処理で手一杯です。しばらくしてからやり直してください</translation>
+        <translation>動作中の Corvane は処理が混み合っています。しばらくしてからやり直してください</translation>
     </message>
     <message>
         <source>what was printed is still on the shelf</source>
@@ -1036,7 +1036,7 @@ that runs.</source>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
-        <translation>次に起動したときに元に戻ります。それまで、画像とテキストはホームフォルダーに保存されます。</translation>
+        <translation>次に起動したとき、シェルフに戻ります。それまで、画像とテキストはホームフォルダーに保存されます。</translation>
     </message>
     <message>
         <source>Shortcuts</source>

@@ -321,7 +321,7 @@ that runs.</source>
     </message>
     <message>
         <source>the Corvane that runs has too much to do; try again in a moment</source>
-        <translation>실행 중인 Corvane이 너무 바쁩니다. 잠시 후 다시 시도하십시오</translation>
+        <translation>실행 중인 Corvane에 처리할 작업이 너무 많습니다. 잠시 후 다시 시도하십시오</translation>
     </message>
     <message>
         <source>what was printed is still on the shelf</source>

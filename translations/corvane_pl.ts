@@ -327,7 +327,7 @@ który już działa.</translation>
     </message>
     <message>
         <source>the Corvane that runs has too much to do; try again in a moment</source>
-        <translation>działający Corvane ma zbyt wiele do zrobienia; spróbuj ponownie za chwilę</translation>
+        <translation>działający Corvane jest zbyt zajęty; spróbuj ponownie za chwilę</translation>
     </message>
     <message>
         <source>what was printed is still on the shelf</source>
@@ -623,7 +623,7 @@ który już działa.</translation>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>Przeciąganie jest zauważane tylko u góry ekranu</translation>
+        <translation>Przeciąganie jest wykrywane tylko u góry ekranu</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -663,7 +663,7 @@ który już działa.</translation>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>Shift nie jest zauważany po rozpoczęciu przeciągania</translation>
+        <translation>Shift nie jest wykrywany po rozpoczęciu przeciągania</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>

@@ -615,7 +615,7 @@ está em execução.</translation>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>Os arrastos só são notados no topo da tela</translation>
+        <translation>Os arrastos só são detectados no topo da tela</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -655,7 +655,7 @@ está em execução.</translation>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>Shift não é notado depois que o arrasto começou</translation>
+        <translation>Shift não é detectado depois que o arrasto começa</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
@@ -1047,7 +1047,7 @@ está em execução.</translation>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
-        <translation>Eles voltam no próximo início. Até lá, imagens e textos ficam gravados na sua pasta pessoal.</translation>
+        <translation>Eles voltam quando o Corvane for iniciado de novo. Até lá, imagens e textos ficam gravados na sua pasta pessoal.</translation>
     </message>
     <message>
         <source>Shortcuts</source>

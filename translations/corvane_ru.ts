@@ -307,11 +307,11 @@ that runs.</source>
     </message>
     <message>
         <source>the Corvane that runs says: %1</source>
-        <translation>работающий Corvane сообщает: %1</translation>
+        <translation>запущенный Corvane сообщает: %1</translation>
     </message>
     <message>
         <source>the Corvane that runs does not do this; it may be an older version</source>
-        <translation>работающий Corvane этого не умеет; возможно, это более старая версия</translation>
+        <translation>запущенный Corvane этого не умеет; возможно, это более старая версия</translation>
     </message>
     <message>
         <source>the display cannot be used: %1</source>
@@ -623,7 +623,7 @@ that runs.</source>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>Перетаскивание заметно только у верхнего края экрана</translation>
+        <translation>Перетаскивание распознаётся только у верхнего края экрана</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -663,7 +663,7 @@ that runs.</source>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>Shift не замечается, когда перетаскивание уже началось</translation>
+        <translation>Shift не распознаётся после начала перетаскивания</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>

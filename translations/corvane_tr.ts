@@ -607,7 +607,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>Sürüklemeler yalnızca ekranın üstünde fark edilir</translation>
+        <translation>Sürüklemeler yalnızca ekranın üstünde algılanır</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -647,7 +647,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>Shift, sürükleme başladıktan sonra fark edilmez</translation>
+        <translation>Shift, sürükleme başladıktan sonra algılanmaz</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>
@@ -1036,7 +1036,7 @@ veya gizler.</translation>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
-        <translation>Sonraki başlangıçta yeniden rafta olurlar. O zamana kadar görüntüler ve metinler ev klasörünüzde saklanır.</translation>
+        <translation>Corvane yeniden başladığında yine rafta olurlar. O zamana kadar görüntüler ve metinler ev klasörünüzde saklanır.</translation>
     </message>
     <message>
         <source>Shortcuts</source>

@@ -331,7 +331,7 @@ that runs.</source>
     </message>
     <message>
         <source>what was printed is still on the shelf</source>
-        <translation>виведене лишилося на полиці</translation>
+        <translation>те, що було виведено, лишилося на полиці</translation>
     </message>
     <message>
         <source>there is not enough memory</source>
@@ -623,7 +623,7 @@ that runs.</source>
     </message>
     <message>
         <source>Drags are noticed only at the top of the screen</source>
-        <translation>Перетягування помітне лише біля верхнього краю екрана</translation>
+        <translation>Перетягування розпізнається лише біля верхнього краю екрана</translation>
     </message>
     <message>
         <source>Drag to the middle of the top edge, and the shelf opens.</source>
@@ -663,7 +663,7 @@ that runs.</source>
     </message>
     <message>
         <source>Shift is not noticed once a drag has begun</source>
-        <translation>Shift не помічається, коли перетягування вже почалося</translation>
+        <translation>Shift не розпізнається після початку перетягування</translation>
     </message>
     <message>
         <source>Hold it before you begin to drag, and the item stays.</source>

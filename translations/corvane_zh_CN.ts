@@ -321,7 +321,7 @@ that runs.</source>
     </message>
     <message>
         <source>the Corvane that runs has too much to do; try again in a moment</source>
-        <translation>正在运行的 Corvane 太忙，请稍后重试</translation>
+        <translation>正在运行的 Corvane 过于繁忙，请稍后重试</translation>
     </message>
     <message>
         <source>what was printed is still on the shelf</source>
@@ -1036,7 +1036,7 @@ that runs.</source>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
-        <translation>下次启动时它们会回来。在此之前，图像和文本保存在您的主文件夹中。</translation>
+        <translation>下次启动时会恢复这些项目。在此之前，图像和文本保存在您的主文件夹中。</translation>
     </message>
     <message>
         <source>Shortcuts</source>

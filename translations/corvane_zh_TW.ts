@@ -321,7 +321,7 @@ that runs.</source>
     </message>
     <message>
         <source>the Corvane that runs has too much to do; try again in a moment</source>
-        <translation>正在執行的 Corvane 太忙，請稍後再試</translation>
+        <translation>正在執行的 Corvane 過於忙碌，請稍後再試</translation>
     </message>
     <message>
         <source>what was printed is still on the shelf</source>
@@ -1036,7 +1036,7 @@ that runs.</source>
     </message>
     <message>
         <source>They are back at the next start. Until then, pictures and texts are stored in your home folder.</source>
-        <translation>下次啟動時它們會回來。在此之前，影像和文字儲存在您的家目錄中。</translation>
+        <translation>下次啟動時會還原這些項目。在此之前，影像和文字儲存在您的家目錄中。</translation>
     </message>
     <message>
         <source>Shortcuts</source>
