@@ -5,7 +5,10 @@
 #include <sys/prctl.h>
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <csignal>
+#include <cstdint>
+#include <fstream>
 
 namespace corvane::confinement {
 
@@ -35,6 +38,44 @@ bool limitThreadStacks()
     return isSet;
 }
 
+/// Whether the users that are known here are known here alone, so that nobody else's processes are
+/// counted. All of them are known to the system's first namespace.
+bool hasOwnUsers()
+{
+    std::ifstream map("/proc/self/uid_map");
+    std::int64_t inside = 0;
+    std::int64_t outside = 0;
+    std::int64_t count = 0;
+    constexpr std::int64_t all = 4'294'967'295;
+    return map >> inside >> outside >> count && count < all;
+}
+
+bool canBeginThread()
+{
+    pthread_t thread = {};
+    return ::pthread_create(
+               &thread, nullptr, [](void *argument) { return argument; }, nullptr)
+        == 0
+        && ::pthread_join(thread, nullptr) == 0;
+}
+
+bool limitThreads()
+{
+    if (!hasOwnUsers())
+        return true;
+    rlimit before = {};
+    if (::getrlimit(RLIMIT_NPROC, &before) != 0)
+        return false;
+    const auto most = std::min<rlim_t>(threads, before.rlim_max);
+    const rlimit tried = {most, before.rlim_max};
+    if (::setrlimit(RLIMIT_NPROC, &tried) != 0)
+        return false;
+    // Older kernels than 5.14 count in all namespaces.
+    if (!canBeginThread())
+        return ::setrlimit(RLIMIT_NPROC, &before) == 0;
+    return limit(RLIMIT_NPROC, static_cast<long long>(most));
+}
+
 } // namespace
 
 bool limitResources(decoder_protocol::Room room)
@@ -52,7 +93,7 @@ bool limitResources(decoder_protocol::Room room)
         && limit(RLIMIT_CPU, processorSeconds, lastProcessorSeconds)
         && limit(RLIMIT_NOFILE, openFiles) && limit(RLIMIT_CORE, 0)
         && limit(RLIMIT_FSIZE, fileBytes(room));
-    return isClosed && isBounded;
+    return isClosed && isBounded && limitThreads();
 }
 
 } // namespace corvane::confinement

@@ -49,19 +49,24 @@ void setAlarm(int milliseconds)
     ::setitimer(ITIMER_REAL, &time, nullptr);
 }
 
-bool isWorn()
+bool hasWorked(int seconds)
 {
     rusage usage = {};
     ::getrusage(RUSAGE_SELF, &usage);
-    return usage.ru_utime.tv_sec + usage.ru_stime.tv_sec >= DecoderLoop::worn;
+    return usage.ru_utime.tv_sec + usage.ru_stime.tv_sec >= seconds;
 }
 
 } // namespace
 
-DecoderLoop::DecoderLoop(FileDescriptor socket, decoder_protocol::Room room, int idle)
+DecoderLoop::DecoderLoop(FileDescriptor socket, decoder_protocol::Room room)
+    : DecoderLoop(std::move(socket), room, Life())
+{
+}
+
+DecoderLoop::DecoderLoop(FileDescriptor socket, decoder_protocol::Room room, Life life)
     : m_socket(std::move(socket))
     , m_room(room)
-    , m_idle(idle)
+    , m_life(life)
     , m_handler(room)
 {
 }
@@ -87,7 +92,7 @@ int DecoderLoop::run()
         last_words::prepare(m_socket.number(), decoder_protocol::memoryIn(m_room));
     if (!greet())
         return EXIT_FAILURE;
-    while (!isWorn() && waitFor(m_socket.number(), POLLIN, m_idle)) {
+    while (!hasWorked(m_life.work) && waitFor(m_socket.number(), POLLIN, m_life.idle)) {
         if (!serveNext())
             return EXIT_FAILURE;
     }

@@ -17,8 +17,14 @@ public:
     /// Of processor time; then a new process takes over, well before the limit.
     static constexpr int worn = 30;
 
-    /// `idle`, in milliseconds, is how long it waits for a request.
-    DecoderLoop(FileDescriptor socket, decoder_protocol::Room room, int idle = idleMilliseconds);
+    /// When it ends by itself: after waiting so long for a request, in milliseconds, and after so
+    /// much processor time, in seconds.
+    struct Life {
+        int idle = idleMilliseconds;
+        int work = worn;
+    };
+    DecoderLoop(FileDescriptor socket, decoder_protocol::Room room, Life life);
+    DecoderLoop(FileDescriptor socket, decoder_protocol::Room room);
     DecoderLoop(const DecoderLoop &) = delete;
     DecoderLoop &operator=(const DecoderLoop &) = delete;
     ~DecoderLoop();
@@ -32,7 +38,7 @@ private:
 
     FileDescriptor m_socket;
     decoder_protocol::Room m_room;
-    int m_idle;
+    Life m_life;
     RequestHandler m_handler;
 };
 

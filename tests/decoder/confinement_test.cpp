@@ -1,12 +1,20 @@
 #include "decoder/confinement.h"
 
+#include <QByteArray>
+
 #include <gtest/gtest.h>
+#include <malloc.h>
 #include <pthread.h>
 #include <sys/prctl.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
+#include <barrier>
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <thread>
+#include <vector>
 
 namespace corvane {
 namespace {
@@ -60,6 +68,45 @@ TEST(ConfinementTest, ThreadsHaveSmallStacks)
                     return ::pthread_getattr_default_np(&attributes) == 0
                         && ::pthread_attr_getstacksize(&attributes, &bytes) == 0
                         && bytes == std::size_t(confinement::threadStack);
+                }),
+                testing::ExitedWithCode(0), "");
+}
+
+/// How many arenas the C library keeps memory in.
+int arenas()
+{
+    char *said = nullptr;
+    std::size_t length = 0;
+    std::FILE *const memory = ::open_memstream(&said, &length);
+    if (!memory || ::malloc_info(0, memory) != 0 || std::fclose(memory) != 0)
+        return -1;
+    const QByteArray text(said, qsizetype(length));
+    std::free(said);
+    return int(text.count("<heap "));
+}
+
+TEST(ConfinementTest, ManyThreadsDoNotEachKeepMemoryOfTheirOwn)
+{
+    if (confinement::isSanitized)
+        GTEST_SKIP() << "a sanitizer hands out memory itself";
+    EXPECT_EXIT(endConfinedWith([] {
+                    constexpr int count = 8;
+                    std::barrier allHaveSome(count + 1);
+                    std::barrier areCounted(count + 1);
+                    std::vector<std::thread> threads;
+                    for (int i = 0; i < count; ++i) {
+                        threads.emplace_back([&] {
+                            const QByteArray some(10'000, 'x');
+                            allHaveSome.arrive_and_wait();
+                            areCounted.arrive_and_wait();
+                        });
+                    }
+                    allHaveSome.arrive_and_wait();
+                    const int found = arenas();
+                    areCounted.arrive_and_wait();
+                    for (std::thread &thread : threads)
+                        thread.join();
+                    return found > 0 && found <= 2;
                 }),
                 testing::ExitedWithCode(0), "");
 }

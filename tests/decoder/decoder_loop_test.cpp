@@ -16,13 +16,23 @@ using decoder_protocol::Room;
 struct DecoderLoopTest : testing::Test {
     DecoderLoopTest() { GTEST_FLAG_SET(death_test_style, "fast"); }
 
-    [[noreturn]] void decodeUntilIdle(int milliseconds)
+    /// Until it ends by itself.
+    [[noreturn]] void decode(DecoderLoop::Life life)
     {
         // One that waits longer than any test is ended.
         constexpr unsigned int patience = 30;
         ::alarm(patience);
         ends.first = FileDescriptor();
-        ::_exit(DecoderLoop(std::move(ends.second), Room::Usual, milliseconds).run());
+        ::_exit(DecoderLoop(std::move(ends.second), Room::Usual, life).run());
+    }
+    void ask(std::uint32_t number) const
+    {
+        decoder_protocol::Request request;
+        request.number = number;
+        request.milliseconds = 1'000;
+        const auto memory = picture_memory::of("no picture");
+        EXPECT_TRUE(
+            packet_socket::send(ends.first, decoder_protocol::encoded(request), {memory.number()}));
     }
     QByteArray heard() const
     {
@@ -35,25 +45,28 @@ struct DecoderLoopTest : testing::Test {
 
 TEST_F(DecoderLoopTest, SaysFarewellAndEndsWhenNothingIsAskedForAWhile)
 {
-    EXPECT_EXIT(decodeUntilIdle(1), testing::ExitedWithCode(EXIT_SUCCESS), "");
+    EXPECT_EXIT(decode({.idle = 1}), testing::ExitedWithCode(EXIT_SUCCESS), "");
     EXPECT_TRUE(decoder_protocol::parsedGreeting(heard()).has_value());
     EXPECT_TRUE(decoder_protocol::isFarewell(heard()));
 }
 
 TEST_F(DecoderLoopTest, AnswersWhatWasAskedBefore)
 {
-    decoder_protocol::Request request;
-    request.number = 17;
-    request.milliseconds = 1'000;
-    const auto memory = picture_memory::of("no picture");
-    ASSERT_TRUE(
-        packet_socket::send(ends.first, decoder_protocol::encoded(request), {memory.number()}));
-    EXPECT_EXIT(decodeUntilIdle(1), testing::ExitedWithCode(EXIT_SUCCESS), "");
+    ask(17);
+    EXPECT_EXIT(decode({.idle = 1}), testing::ExitedWithCode(EXIT_SUCCESS), "");
     EXPECT_TRUE(decoder_protocol::parsedGreeting(heard()).has_value());
     const auto reply = decoder_protocol::parsedReply(heard());
     ASSERT_TRUE(reply.has_value());
     EXPECT_EQ(reply->number, 17U);
     EXPECT_EQ(reply->outcome, decoder_protocol::Outcome::Unreadable);
+    EXPECT_TRUE(decoder_protocol::isFarewell(heard()));
+}
+
+TEST_F(DecoderLoopTest, OneThatHasWorkedEnoughLeavesTheNextRequestToAnother)
+{
+    ask(17);
+    EXPECT_EXIT(decode({.idle = 1, .work = 0}), testing::ExitedWithCode(EXIT_SUCCESS), "");
+    EXPECT_TRUE(decoder_protocol::parsedGreeting(heard()).has_value());
     EXPECT_TRUE(decoder_protocol::isFarewell(heard()));
 }
 

@@ -275,23 +275,20 @@ DecoderProcess::Result DecoderPool::askIn(Slot &slot, const Job &job, const Canc
 DecoderPool::Result DecoderPool::resultOf(DecoderProcess::Result said)
 {
     using Ending = DecoderProcess::Ending;
+    if (DecoderProcess::isDeath(said.ending)) {
+        const std::lock_guard lock(m_mutex);
+        m_deaths.died(DeathRecord::Clock::now());
+    }
     switch (said.ending) {
     case Ending::Replied:
         return {outcomeOf(said.reply.outcome), false, false, std::move(said.reply),
                 std::move(said.pixels)};
-    case Ending::Died: {
-        const std::lock_guard lock(m_mutex);
-        m_deaths.died(DeathRecord::Clock::now());
+    case Ending::Died:
         return {DecodingAttempt::Outcome::OverBounds, false, false, {}, {}};
-    }
     case Ending::OverTime:
         return {DecodingAttempt::Outcome::OverBounds, true, false, {}, {}};
     case Ending::Vanished:
-    case Ending::NotServed: {
-        const std::lock_guard lock(m_mutex);
-        m_deaths.died(DeathRecord::Clock::now());
-        break;
-    }
+    case Ending::NotServed:
     case Ending::Cancelled:
     case Ending::Displaced:
         break;

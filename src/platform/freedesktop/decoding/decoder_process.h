@@ -54,6 +54,12 @@ public:
         Cancelled,
         Displaced,
     };
+    /// Whether it says that something may be wrong with all decoders. Taking too long does not: a
+    /// slow picture is in order, and so is one that nobody wants any more.
+    static constexpr bool isDeath(Ending ending)
+    {
+        return ending == Ending::Died || ending == Ending::Vanished || ending == Ending::NotServed;
+    }
     struct Result {
         Ending ending = Ending::Died;
         decoder_protocol::Reply reply;

@@ -1,4 +1,5 @@
 #include "platform/freedesktop/decoding/death_record.h"
+#include "platform/freedesktop/decoding/decoder_process.h"
 
 #include <gtest/gtest.h>
 
@@ -34,6 +35,16 @@ TEST_F(DeathRecordTest, ForgetsWhatWasLongerAgo)
     for (const int when : {0, 30, 61})
         deaths.died(start + seconds(when));
     EXPECT_FALSE(deaths.pausedUntil().has_value());
+}
+
+TEST(DecoderEnding, OneThatWasEndedByTheProgramDidNotDie)
+{
+    using Ending = DecoderProcess::Ending;
+    for (const Ending ending :
+         {Ending::Replied, Ending::OverTime, Ending::Cancelled, Ending::Displaced})
+        EXPECT_FALSE(DecoderProcess::isDeath(ending)) << static_cast<int>(ending);
+    for (const Ending ending : {Ending::NotServed, Ending::Died, Ending::Vanished})
+        EXPECT_TRUE(DecoderProcess::isDeath(ending)) << static_cast<int>(ending);
 }
 
 } // namespace

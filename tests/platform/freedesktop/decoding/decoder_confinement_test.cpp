@@ -104,6 +104,8 @@ TEST_P(DecoderConfinement, HasTheLimitsOfItsRoom)
     EXPECT_EQ(limit("Max cpu time"), 122) << "time to say so";
     EXPECT_EQ(limit("Max open files"), 64);
     EXPECT_EQ(limit("Max core file size"), 0);
+    const bool isShutIn = std::get<1>(GetParam());
+    EXPECT_EQ(limit("Max processes") == 512, isShutIn) << "elsewhere others would be counted, too";
 }
 
 TEST_P(DecoderConfinement, AllItsThreadsAreFilteredAndGetNoNewPrivileges)

@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
+#include <sys/eventfd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -68,26 +69,26 @@ struct DecoderPoolTest : testing::Test {
     Cancellation cancellation;
 };
 
-/// What decoders that hang for good have open, and have written a byte to.
-class PipeOfTheHanging {
+/// A named pipe that decoders have open, and may have written a byte to.
+class PipeOfDecoders {
 public:
-    PipeOfTheHanging()
+    PipeOfDecoders()
     {
         const QByteArray path = QFile::encodeName(m_folder.filePath(QStringLiteral("pipe")));
         EXPECT_EQ(::mkfifo(path.constData(), 0600), 0);
         m_end = FileDescriptor(::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
         qputenv("CORVANE_FALSE_DECODER_PIPE", path);
     }
-    PipeOfTheHanging(const PipeOfTheHanging &) = delete;
-    PipeOfTheHanging &operator=(const PipeOfTheHanging &) = delete;
-    ~PipeOfTheHanging() { qunsetenv("CORVANE_FALSE_DECODER_PIPE"); }
+    PipeOfDecoders(const PipeOfDecoders &) = delete;
+    PipeOfDecoders &operator=(const PipeOfDecoders &) = delete;
+    ~PipeOfDecoders() { qunsetenv("CORVANE_FALSE_DECODER_PIPE"); }
 
     /// One has got its request.
     bool hasBegun() const { return isReadable() && readByte() == 1; }
     /// The other ends have closed with their processes.
-    bool haveAllEnded() const
+    bool haveAllEnded(int milliseconds = patience) const
     {
-        while (isReadable()) {
+        while (isReadable(milliseconds)) {
             if (readByte() == 0)
                 return true;
         }
@@ -95,11 +96,12 @@ public:
     }
 
 private:
-    bool isReadable() const
+    static constexpr int patience = 60'000;
+
+    bool isReadable(int milliseconds = patience) const
     {
-        constexpr int patience = 60'000;
         pollfd source = {m_end.number(), POLLIN, 0};
-        return ::poll(&source, 1, patience) == 1;
+        return ::poll(&source, 1, milliseconds) == 1;
     }
     ssize_t readByte() const
     {
@@ -273,7 +275,7 @@ TEST_F(DecoderPoolTest, ACancelledConversionEndsThoughItsDecoderHangs)
 
 TEST_F(DecoderPoolTest, ADecoderThatDoesNotEndByItselfIsEnded)
 {
-    const PipeOfTheHanging pipe;
+    const PipeOfDecoders pipe;
     misbehave("hangs for good");
     DecodingAttempt attempt;
     attempt.patience = DecodingAttempt::Patience::Brief;
@@ -283,6 +285,54 @@ TEST_F(DecoderPoolTest, ADecoderThatDoesNotEndByItselfIsEnded)
     EXPECT_TRUE(pipe.haveAllEnded());
     misbehave("");
     EXPECT_EQ(attempted().outcome, Outcome::Made) << "another decoder serves what comes next";
+}
+
+TEST_F(DecoderPoolTest, TheMemoryOfOneThatWasEndedIsFreeBeforeAnotherIsStarted)
+{
+    const PipeOfDecoders pipe;
+    misbehave("has much memory");
+    const FileDescriptor finished(::eventfd(0, EFD_CLOEXEC));
+    const auto decoder
+        = DecoderProcess::start(program.command(decoder_protocol::Room::Usual), finished);
+    ASSERT_TRUE(decoder);
+    decoder->end(finished);
+    // Files are closed after the memory was given back.
+    EXPECT_TRUE(pipe.haveAllEnded(0));
+}
+
+TEST_F(DecoderPoolTest, FramesComeFromTheDecoderThatHasTheAnimationOpen)
+{
+    misbehave("conversions wait");
+    const QTemporaryDir folder;
+    const QByteArray path = QFile::encodeName(folder.filePath(QStringLiteral("pipe")));
+    ASSERT_EQ(::mkfifo(path.constData(), 0600), 0);
+    const FileDescriptor pipe(::open(path.constData(), O_RDWR | O_CLOEXEC));
+    qputenv("CORVANE_FALSE_DECODER_PIPE", path);
+    QTemporaryFile file;
+    ASSERT_TRUE(file.open());
+    const FileDescriptor target(::dup(file.handle()));
+    const auto contents = picture_memory::of("any bytes");
+    const auto decoderOfFrame = [&, document = pool.newDocument()](int frame) {
+        DecoderPool::Job job;
+        job.request.task = decoder_protocol::Task::Frame;
+        job.request.part = frame;
+        job.request.document = document;
+        job.request.wanted = {8, 8};
+        job.request.milliseconds = 60'000;
+        job.descriptors = {contents.number()};
+        job.urgency = DecoderPool::Urgency::Preview;
+        const auto result = pool.run(job);
+        EXPECT_EQ(result.outcome, Outcome::Made);
+        return result.reply.milliseconds;
+    };
+    std::thread converting(
+        [&] { codec.transcode("any bytes", UTType::png(), target, cancellation); });
+    EXPECT_TRUE(hasBegun(target));
+    const int second = decoderOfFrame(0);
+    EXPECT_TRUE(pipe.write("x"));
+    converting.join();
+    EXPECT_EQ(decoderOfFrame(1), second) << "though the first one is free again";
+    qunsetenv("CORVANE_FALSE_DECODER_PIPE");
 }
 
 struct DyingDecoder : DecoderPoolTest, testing::WithParamInterface<const char *> { };
@@ -316,7 +366,7 @@ TEST_F(DecoderPoolTest, WhoeverWaitsInThePauseIsInterruptedWhenNothingIsWantedAn
 
 TEST_F(DecoderPoolTest, WhatRunsAndWhatWaitsEndsWithThePool)
 {
-    const PipeOfTheHanging pipe;
+    const PipeOfDecoders pipe;
     misbehave("hangs for good");
     std::array<Outcome, 4> outcomes = {};
     std::vector<std::thread> threads;

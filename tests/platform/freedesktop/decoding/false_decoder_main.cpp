@@ -40,9 +40,28 @@ constexpr int bytes = 8 * 8 * 4;
         ::pause();
 }
 
+/// Has the named pipe open from now on, and so much memory that it takes a while to end.
+void takeMemory()
+{
+    constexpr std::size_t much = 256UL * 1024 * 1024;
+    // Not closed: whoever reads the pipe sees when this process has ended.
+    ::open(qgetenv("CORVANE_FALSE_DECODER_PIPE").constData(), O_WRONLY | O_CLOEXEC);
+    ::mmap(nullptr, much, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1,
+           0);
+}
+
 void waitForPacket()
 {
     pollfd source = {socketNumber, POLLIN, 0};
+    ::poll(&source, 1, -1);
+}
+
+/// Until somebody writes one into the named pipe.
+void waitForByte()
+{
+    const FileDescriptor pipe(
+        ::open(qgetenv("CORVANE_FALSE_DECODER_PIPE").constData(), O_RDWR | O_CLOEXEC));
+    pollfd source = {pipe.number(), POLLIN, 0};
     ::poll(&source, 1, -1);
 }
 
@@ -62,6 +81,8 @@ void answer(const FileDescriptor &socket, const QByteArray &step, std::uint32_t 
     reply.number = step == "other number" ? number + 1 : number;
     reply.outcome = decoder_protocol::Outcome::Made;
     reply.pixels = decoder_protocol::Pixels{size, size.width() * 4, QImage::Format_RGB32};
+    // Which one of several it is.
+    reply.milliseconds = int(::getpid() % decoder_protocol::maximumMilliseconds);
     if (step == "too wide")
         reply.pixels = decoder_protocol::Pixels{{64, 1}, 64 * 4, QImage::Format_RGB32};
     if (step == "too high")
@@ -97,6 +118,8 @@ int run(const QByteArray &step, bool isLarge)
         die();
     if (step == "ends at once")
         return EXIT_SUCCESS;
+    if (step == "has much memory")
+        takeMemory();
     const FileDescriptor self(int(::syscall(SYS_pidfd_open, ::getpid(), 0)));
     const bool isConfined = step != "unconfined";
     const decoder_protocol::Greeting greeting = {isConfined, isConfined};
@@ -134,6 +157,12 @@ int run(const QByteArray &step, bool isLarge)
             const FileDescriptor &target = received->descriptors.at(1);
             target.write("begun");
             waitForPacket();
+        }
+        if (step == "conversions wait" && request->task == decoder_protocol::Task::Transcode) {
+            received->descriptors.at(1).write("begun");
+            waitForByte();
+            refuse(socket, request->number, decoder_protocol::Outcome::Unreadable);
+            continue;
         }
         if (step == "hangs")
             waitForPacket();
