@@ -49,6 +49,12 @@ bool tellsItsSize(const QByteArray &format)
     return std::ranges::any_of(formats, [&](const char *known) { return format == known; });
 }
 
+/// Whether its pictures may be PNG files.
+bool isIcon(const QByteArray &format)
+{
+    return format == "ico" || format == "icns";
+}
+
 bool isAllowed(const QByteArray &format, PictureReader::Formats formats)
 {
     switch (formats) {
@@ -83,13 +89,16 @@ bool PictureReader::recognise(QIODevice &device, Formats formats)
         return false;
     if (format == "png" && !hasModestChunks(device))
         return false;
+    if (format == "tiff")
+        m_reader.setDevice(&m_tiff.emplace(device));
     if (!format.isEmpty()) {
         m_reader.setAutoDetectImageFormat(false);
         m_reader.setFormat(format);
         return m_reader.canRead();
     }
     m_reader.setDecideFormatFromContent(true);
-    return m_reader.canRead() && isReadable(m_reader.format());
+    return m_reader.canRead() && isReadable(m_reader.format())
+        && (!isIcon(m_reader.format()) || hasModestIcons(device));
 }
 
 bool PictureReader::openDrawing(QIODevice &device)

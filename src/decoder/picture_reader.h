@@ -1,5 +1,6 @@
 #pragma once
 
+#include "decoder/ending_at_errors.h"
 #include "platform/pictures/decoder_protocol.h"
 
 #include <QBuffer>
@@ -42,6 +43,7 @@ private:
 
     QByteArray m_drawing;
     QBuffer m_buffer;
+    std::optional<EndingAtErrors> m_tiff;
     QImageReader m_reader;
 };
 

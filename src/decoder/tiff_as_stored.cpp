@@ -38,26 +38,24 @@ QByteArray bytesAt(QIODevice &file, qint64 offset, qint64 count)
 } // namespace
 
 TiffAsStored::TiffAsStored(QIODevice &file)
-    : m_file(file)
+    : EndingAtErrors(file)
 {
-    examine();
-    m_file.seek(0);
-    open(ReadOnly | Unbuffered);
+    examine(file);
 }
 
-void TiffAsStored::examine()
+void TiffAsStored::examine(QIODevice &file)
 {
-    const QByteArray header = bytesAt(m_file, 0, headerSize);
+    const QByteArray header = bytesAt(file, 0, headerSize);
     const bool isBigEndian = header.startsWith(QByteArray("MM\0*", 4));
     if (header.size() < headerSize || (!isBigEndian && !header.startsWith(QByteArray("II*\0", 4))))
         return;
     const Numbers numbers{isBigEndian};
     const qint64 directory = numbers.at32(header.constData() + 4);
-    const QByteArray count = bytesAt(m_file, directory, 2);
+    const QByteArray count = bytesAt(file, directory, 2);
     if (count.size() < 2)
         return;
     const QByteArray entries
-        = bytesAt(m_file, directory + 2, numbers.at16(count.constData()) * entrySize);
+        = bytesAt(file, directory + 2, numbers.at16(count.constData()) * entrySize);
     int samples = 0;
     std::optional<qint64> statement;
     for (qint64 at = 0; at + entrySize <= entries.size(); at += entrySize) {
@@ -72,7 +70,7 @@ void TiffAsStored::examine()
         const bool isInside = numbers.at32(entry + 4) <= 2;
         statement = isInside ? directory + 2 + at + 8 : qint64{numbers.at32(entry + 8)};
     }
-    const QByteArray stated = statement ? bytesAt(m_file, *statement, 2) : QByteArray();
+    const QByteArray stated = statement ? bytesAt(file, *statement, 2) : QByteArray();
     const int kind = stated.size() < 2 ? 0 : numbers.at16(stated.constData());
     if (samples == 2 && kind == multiplied)
         m_greyFormat = QImage::Format_ARGB32_Premultiplied;
@@ -91,12 +89,8 @@ QImage TiffAsStored::corrected(QImage image) const
 
 qint64 TiffAsStored::readData(char *data, qint64 maximum)
 {
-    // Never below zero, not even where reading fails: Qt hands that on to libtiff, which takes it
-    // for a length and writes before its memory.
     const qint64 from = pos();
-    if (from >= m_file.size() || !m_file.seek(from))
-        return 0;
-    const qint64 count = std::max(m_file.read(data, maximum), qint64{0});
+    const qint64 count = EndingAtErrors::readData(data, maximum);
     if (m_statement && count > 0) {
         const qint64 first = std::max(*m_statement - from, qint64{0});
         const qint64 end = std::min(*m_statement + 2 - from, count);

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QIODevice>
+#include "decoder/ending_at_errors.h"
+
 #include <QImage>
 
 #include <optional>
@@ -15,7 +16,7 @@ namespace corvane {
 /// values over as they are, and Qt takes them for colours that were not multiplied. So the two
 /// bytes that say "not multiplied" are replaced by "open" here. All other files, BigTIFF included,
 /// are presented unchanged.
-class TiffAsStored : public QIODevice {
+class TiffAsStored : public EndingAtErrors {
 public:
     /// `file` is open for reading, not sequential, and outlives this.
     explicit TiffAsStored(QIODevice &file);
@@ -24,17 +25,12 @@ public:
     /// but keeps its values in the image.
     QImage corrected(QImage image) const;
 
-    bool isSequential() const override { return false; }
-    qint64 size() const override { return m_file.size(); }
-
 protected:
     qint64 readData(char *data, qint64 maximum) override;
-    qint64 writeData(const char *, qint64) override { return -1; }
 
 private:
-    void examine();
+    void examine(QIODevice &file);
 
-    QIODevice &m_file;
     /// The place of the two bytes that say "not multiplied"; they are read as zero, which leaves it
     /// open.
     std::optional<qint64> m_statement;

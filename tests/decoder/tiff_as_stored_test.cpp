@@ -1,3 +1,4 @@
+#include "decoder/picture_reader.h"
 #include "decoder/tiff_as_stored.h"
 
 #include <QBuffer>
@@ -43,6 +44,20 @@ TEST(TiffAsStoredTest, TellsTheEndWhereReadingFails)
     std::array<char, 10> read{};
     EXPECT_EQ(presented.read(read.data(), read.size()), 8);
     EXPECT_EQ(presented.read(read.data(), read.size()), 0);
+}
+
+TEST(TiffAsStoredTest, NoReaderIsToldThatReadingFails)
+{
+    BrokenFile file;
+    file.setData(QByteArray("II*\0\10\0\0\0\0\0", 10));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly | QIODevice::Unbuffered));
+    PictureReader picture;
+    ASSERT_TRUE(picture.open(file));
+    QIODevice &presented = *picture.reader().device();
+    std::array<char, 4> read{};
+    EXPECT_TRUE(presented.seek(8));
+    EXPECT_EQ(presented.read(read.data(), read.size()), 0);
+    EXPECT_FALSE(picture.read().has_value());
 }
 
 } // namespace
