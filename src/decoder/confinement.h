@@ -15,9 +15,9 @@ inline constexpr int processorSeconds = 120;
 /// After these, the kernel ends the process without a word.
 inline constexpr int lastProcessorSeconds = processorSeconds + 2;
 inline constexpr int openFiles = 64;
-/// Threads, and so of a decoder that was taken over. New processes are forbidden by the filter of
-/// system calls. The kernel counts all that a user has, so there is no such limit where others
-/// would be counted with it: outside of the sandbox, whose users are its own.
+/// In the sandbox: a decoder that was taken over could otherwise begin as many as its user may
+/// have. (It cannot start processes at all: the filter of system calls forbids that.) There is no
+/// such limit outside of the sandbox, because the kernel counts all threads of the same user.
 inline constexpr int threads = 512;
 
 /// The memory of sanitizers is above any bound, and they tell of a crash themselves.
