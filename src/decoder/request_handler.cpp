@@ -1,17 +1,15 @@
 #include "decoder/request_handler.h"
 
+#include "decoder/given_pixels.h"
 #include "decoder/picture_decoding.h"
 #include "decoder/picture_writer.h"
 #include "platform/pictures/fitted_size.h"
 #include "platform/pictures/image_codec.h"
 #include "platform/pictures/picture_memory.h"
 
-#include <sys/mman.h>
 #include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdint>
 #include <new>
 #include <utility>
 
@@ -41,47 +39,6 @@ bool isLarger(QSize size, QSize limit)
     return size.width() > limit.width() || size.height() > limit.height();
 }
 
-bool writeAll(const FileDescriptor &file, const uchar *data, qint64 bytes)
-{
-    for (qint64 at = 0; at < bytes;) {
-        const ssize_t count
-            = ::write(file.number(), data + at, static_cast<std::size_t>(bytes - at));
-        if (count < 0 && errno != EINTR)
-            return false;
-        at += std::max<ssize_t>(count, 0);
-    }
-    return true;
-}
-
-/// Frees the pages that lie within those bytes, whose contents are lost.
-void letGo(const uchar *data, qint64 bytes)
-{
-    static const qint64 page = ::sysconf(_SC_PAGESIZE);
-    const auto begun = static_cast<qint64>(reinterpret_cast<std::uintptr_t>(data)) % page;
-    const qint64 skipped = (page - begun) % page;
-    const qint64 whole = (bytes - skipped) / page * page;
-    if (whole > 0)
-        ::madvise(const_cast<uchar *>(data) + skipped, static_cast<std::size_t>(whole),
-                  MADV_DONTNEED);
-}
-
-/// Writes the pixels, and frees those of a large picture meanwhile: two of them would need twice
-/// the memory.
-bool writePixels(const FileDescriptor &memory, const QImage &image, qint64 bytes)
-{
-    constexpr qint64 piece = 4LL * 1024 * 1024;
-    // What reads frames keeps the last one, of which the next is made.
-    const bool isOurs = image.isDetached();
-    for (qint64 at = 0; at < bytes; at += piece) {
-        const qint64 count = std::min(piece, bytes - at);
-        if (!writeAll(memory, image.constBits() + at, count))
-            return false;
-        if (isOurs && bytes > piece)
-            letGo(image.constBits() + at, count);
-    }
-    return true;
-}
-
 /// The picture in sealed memory.
 Answer made(const std::optional<QImage> &image)
 {
@@ -94,7 +51,7 @@ Answer made(const std::optional<QImage> &image)
     if (!bytes)
         return failure(Outcome::OverBounds);
     answer.pixels = picture_memory::make(
-        [&](const FileDescriptor &memory) { return writePixels(memory, *image, *bytes); });
+        [&](const FileDescriptor &memory) { return given_pixels::write(memory, *image, *bytes); });
     if (!answer.pixels.isOpen())
         return failure(Outcome::OverBounds);
     answer.reply.outcome = Outcome::Made;

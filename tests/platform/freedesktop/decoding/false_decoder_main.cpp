@@ -43,7 +43,7 @@ constexpr int bytes = 8 * 8 * 4;
 /// Has the named pipe open from now on, and so much memory that it takes a while to end.
 void takeMemory()
 {
-    constexpr std::size_t much = 256UL * 1024 * 1024;
+    constexpr std::size_t much = 64UL * 1024 * 1024;
     // Not closed: whoever reads the pipe sees when this process has ended.
     ::open(qgetenv("CORVANE_FALSE_DECODER_PIPE").constData(), O_WRONLY | O_CLOEXEC);
     ::mmap(nullptr, much, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1,
