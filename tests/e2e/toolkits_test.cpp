@@ -102,6 +102,8 @@ protected:
 };
 
 constexpr auto ownPartners = {Partner{Toolkit::Gtk4}, Partner{Toolkit::Qt5}, Partner{Toolkit::Qt6}};
+constexpr Partner gtk3OfX11{Toolkit::Gtk3, Native::No};
+constexpr Partner qt6OfX11{Toolkit::Qt6, Native::No};
 constexpr auto browsers = {Partner{Toolkit::Chromium}, Partner{Toolkit::Firefox}};
 
 const DesktopKind x11{WindowManager::Openbox, Compositor::Picom};
@@ -120,10 +122,16 @@ INSTANTIATE_TEST_SUITE_P(DISABLED_Browsers, Toolkits,
                          testing::Combine(testing::Values(x11, sway, kwin, mutter),
                                           testing::ValuesIn(browsers)),
                          nameOfTrial);
+INSTANTIATE_TEST_SUITE_P(ThroughXWayland, Toolkits,
+                         testing::Combine(testing::Values(kwin), testing::Values(gtk3OfX11)),
+                         nameOfTrial);
 INSTANTIATE_TEST_SUITE_P(DISABLED_ThroughXWayland, Toolkits,
-                         testing::Combine(testing::Values(sway, kwin, mutter),
-                                          testing::Values(Partner{Toolkit::Gtk3, Native::No},
-                                                          Partner{Toolkit::Qt6, Native::No})),
+                         testing::Combine(testing::Values(sway, mutter),
+                                          testing::Values(gtk3OfX11, qt6OfX11)),
+                         nameOfTrial);
+// A source of Qt 6 hears nothing of the end of its drag there, and waits.
+INSTANTIATE_TEST_SUITE_P(DISABLED_ThroughXWaylandOfQt, Toolkits,
+                         testing::Combine(testing::Values(kwin), testing::Values(qt6OfX11)),
                          nameOfTrial);
 
 TEST_P(Toolkits, aSource)

@@ -39,11 +39,13 @@ protected:
 };
 
 class LayerKeyboard : public WaylandKeyboard { };
+class KWinKeyboard : public WaylandKeyboard { };
 
 INSTANTIATE_TEST_SUITE_P(, LayerKeyboard,
                          testing::Values(sessionOf(WindowManager::Sway),
                                          sessionOf(WindowManager::KWin)),
                          nameOf);
+INSTANTIATE_TEST_SUITE_P(, KWinKeyboard, testing::Values(sessionOf(WindowManager::KWin)), nameOf);
 INSTANTIATE_TEST_SUITE_P(, WaylandKeyboard,
                          testing::Values(sessionOf(WindowManager::Sway),
                                          sessionOf(WindowManager::KWin),
@@ -80,6 +82,27 @@ TEST_P(LayerKeyboard, pastesWhatAnotherProgramHasCopied)
         const auto panel = corvane().panel();
         return panel && panel->frame.height() == CorvaneProgram::singleHeight;
     }));
+}
+
+/// KWin has the keyboard with whatever something is dragged over, and gives X11's programs what is
+/// dropped on them only while it is with one of them.
+TEST_P(KWinKeyboard, staysWithAProgramOfX11ThatSomethingIsDroppedOn)
+{
+    const auto tellsWhenItLosesKeysAfterADrop
+        = u"target.connect('drag-drop', lambda *a: state.update(dropped=True) or False)\n"
+          "window.connect('focus-out-event', lambda w, e: "
+          "'dropped' in state and tell('keyboard', 'lost') or False)"_s;
+    GtkPeer target(m_desktop, {.habits = tellsWhenItLosesKeysAfterADrop, .isForX11 = true},
+                   rightPlace());
+    ASSERT_EQ(target.problem(), QString());
+    const QString file = makeFile(u"report.txt"_s, "report");
+    start();
+    keep(file);
+    dragOut(target);
+    EXPECT_EQ(target.droppedAddresses().trimmed(), uriList({file}).trimmed());
+    EXPECT_TRUE(corvane().waitUntilHidden());
+    EXPECT_TRUE(hearsKeys(target, 'k'));
+    EXPECT_FALSE(target.hasSaidNow("keyboard")) << target.output();
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "platform/wayland/windows/keyboard_return.h"
 
 #include "platform/base/main_queue.h"
+#include "platform/wayland/base/handled_mark.h"
+#include "platform/wayland/base/wayland_connection.h"
 #include "platform/wayland/windows/invisible_window.h"
 
 #include <QGuiApplication>
@@ -40,12 +42,28 @@ KeyboardReturn::~KeyboardReturn() = default;
 
 void KeyboardReturn::start()
 {
+    m_isLeftBehind = nullptr;
     if (!std::exchange(m_isUnderWay, true))
         m_queue.async(m_lifetime.guard([this] { come(); }));
 }
 
+void KeyboardReturn::startWhere(std::function<bool()> isLeftBehind)
+{
+    if (std::exchange(m_isUnderWay, true))
+        return;
+    m_isLeftBehind = std::move(isLeftBehind);
+    // Later than Qt knows of the keyboard what was told until then.
+    m_handled = std::make_unique<HandledMark>(
+        m_connection.display(), [this] { m_queue.async(m_lifetime.guard([this] { come(); })); });
+}
+
 void KeyboardReturn::come()
 {
+    m_handled.reset();
+    if (m_isLeftBehind && !m_isLeftBehind()) {
+        m_isUnderWay = false;
+        return;
+    }
     // Not while it is being told that it has the keyboard.
     m_stay.restart();
     const auto leave = m_stay.guard([this] { go(); });

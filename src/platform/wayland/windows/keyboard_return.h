@@ -2,10 +2,12 @@
 
 #include "platform/base/lifetime.h"
 
+#include <functional>
 #include <memory>
 
 namespace corvane {
 
+class HandledMark;
 class MainQueue;
 class WaylandConnection;
 
@@ -23,8 +25,12 @@ public:
     KeyboardReturn(const KeyboardReturn &) = delete;
     KeyboardReturn &operator=(const KeyboardReturn &) = delete;
 
-    /// Does so at a later turn of the loop; nothing while it is being done.
+    /// Does so later; nothing while it is being done.
     void start();
+    /// The same where a panel still has the keyboard once the compositor has handled all that it
+    /// was asked before. Elsewhere the one that comes would take it from whoever has it now: KWin
+    /// refuses what is dropped to X11's programs while none of their windows has it.
+    void startWhere(std::function<bool()> isLeftBehind);
 
 private:
     class Guest;
@@ -35,6 +41,9 @@ private:
     WaylandConnection &m_connection;
     MainQueue &m_queue;
     bool m_isUnderWay = false;
+    /// Empty where that is known.
+    std::function<bool()> m_isLeftBehind;
+    std::unique_ptr<HandledMark> m_handled;
     std::unique_ptr<Guest> m_guest;
     /// Of the guest that is there.
     Lifetime m_stay;

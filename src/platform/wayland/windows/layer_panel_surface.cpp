@@ -233,6 +233,11 @@ bool LayerPanelSurface::isPointerAtKeyboard() const
     });
 }
 
+bool LayerPanelSurface::isFocused() const
+{
+    return m_panels.contains(QGuiApplication::focusWindow());
+}
+
 void LayerPanelSurface::giveKeyboardBack()
 {
     const bool isShown = std::ranges::any_of(m_panels, [](const auto &panel) {

@@ -41,6 +41,8 @@ public:
     void giveKeyboardBack();
     /// The pointer is on the panel that has the keyboard.
     bool isPointerAtKeyboard() const;
+    /// The compositor has the keyboard with a panel, whether that asks for it or not.
+    bool isFocused() const;
 
     /// What its window takes up of its screen; empty while it is hidden. Qt gives such windows
     /// other places.

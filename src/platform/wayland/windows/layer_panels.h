@@ -35,18 +35,20 @@ struct LayerPanels {
         , pointerElsewhere(connection, queue)
     {
         if (connection.leavesKeyboardBehind()) {
-            surface.onKeyboardLeftBehind = [this] { keyboardReturn.start(); };
+            surface.onKeyboardLeftBehind
+                = [this] { keyboardReturn.startWhere([this] { return surface.isFocused(); }); };
             return;
         }
         surface.onKeyboardMoved = [this] { keyboardMoved(); };
         pointerElsewhere.onMoved = [this] { surface.giveKeyboardBack(); };
     }
 
-    /// Where the compositor leaves the keyboard with what of ours a drag came to.
+    /// Where the compositor leaves the keyboard with what of ours a drag came to, be it on a
+    /// connection whose keyboard nobody looks at.
     void returnKeyboard()
     {
-        if (const auto &leftBehind = surface.onKeyboardLeftBehind)
-            leftBehind();
+        if (surface.onKeyboardLeftBehind)
+            keyboardReturn.start();
     }
 
     PanelDesktop desktop() { return {surface, keyboard, compositing, pointingDevices}; }
