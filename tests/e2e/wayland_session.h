@@ -98,7 +98,8 @@ protected:
                            {output.left() + 60, 400, 400, 200});
             ASSERT_EQ(source.problem(), QString());
             hands().beginDrag(source.source(), output.center());
-            ASSERT_TRUE(eventually([&] { return isShownOn(left) || isShownOn(right); }));
+            // Nobody tells where the drag is until it moves.
+            ASSERT_TRUE(wiggleUntil([&] { return isShownOn(left) || isShownOn(right); }));
             EXPECT_TRUE(isShownOn(output));
             EXPECT_FALSE(isShownOn(other));
             // The end of the drag is assumed, so that there is a strip on each output.

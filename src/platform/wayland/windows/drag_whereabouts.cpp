@@ -1,6 +1,8 @@
 #include "platform/wayland/windows/drag_whereabouts.h"
 
 #include "platform/base/main_queue.h"
+#include "platform/wayland/base/handled_mark.h"
+#include "platform/wayland/base/wayland_connection.h"
 #include "platform/wayland/windows/toolkit_screen.h"
 
 #include <QEvent>
@@ -12,11 +14,14 @@ namespace corvane {
 
 DragWhereabouts::DragWhereabouts(WaylandConnection &connection, MainQueue &queue,
                                  const Screens &screens)
-    : m_queue(queue)
+    : m_connection(connection)
+    , m_queue(queue)
     , m_screens(screens)
     , m_covered(connection)
 {
 }
+
+DragWhereabouts::~DragWhereabouts() = default;
 
 void DragWhereabouts::find()
 {
@@ -27,7 +32,6 @@ void DragWhereabouts::find()
         found(attached.empty() ? nullptr : attached.front());
         return;
     }
-    m_queue.asyncAfter(patience, m_search.guard([this] { found(nullptr); }));
     m_covered.cover(LayerSurface::Layer::Overlay, [this](QScreen &where, const QEvent &event) {
         switch (event.type()) {
         case QEvent::DragEnter:
@@ -39,6 +43,22 @@ void DragWhereabouts::find()
             break;
         }
     });
+    // When they are painted, without which there is nothing to move on.
+    m_queue.async(m_search.guard([this] { awaitMove(); }));
+}
+
+void DragWhereabouts::awaitMove()
+{
+    if (!m_connection.display()) {
+        giveUpLater();
+        return;
+    }
+    m_areShown = std::make_unique<HandledMark>(m_connection.display(), [this] { giveUpLater(); });
+}
+
+void DragWhereabouts::giveUpLater()
+{
+    m_queue.asyncAfter(patience, m_search.guard([this] { found(nullptr); }));
 }
 
 /// Later: a window is just being told of it.
@@ -54,6 +74,7 @@ void DragWhereabouts::reached(const QScreen &where)
 void DragWhereabouts::found(const ScreenPointer &screen)
 {
     m_search.restart();
+    m_areShown.reset();
     m_covered.uncover();
     if (onFound)
         onFound(screen);

@@ -5,9 +5,11 @@
 #include "platform/wayland/windows/covered_screens.h"
 
 #include <functional>
+#include <memory>
 
 namespace corvane {
 
+class HandledMark;
 class MainQueue;
 class WaylandConnection;
 
@@ -19,11 +21,13 @@ class WaylandConnection;
 /// nothing to find. What it is given must outlive it. Main thread only.
 class DragWhereabouts {
 public:
-    /// In seconds: so long a move is waited for. Whoever begins a drag moves; a hand that rests
+    /// In seconds: so long a move is waited for once the compositor has the windows, which takes
+    /// longer than that where the machine is busy. Whoever begins a drag moves; a hand that rests
     /// right after it must not wait for the shelf.
     static constexpr double patience = 0.25;
 
     DragWhereabouts(WaylandConnection &connection, MainQueue &queue, const Screens &screens);
+    ~DragWhereabouts();
 
     /// Looks for it, and tells once. Told of another drag meanwhile it goes on looking.
     void find();
@@ -32,12 +36,16 @@ public:
     std::function<void(const ScreenPointer &screen)> onFound;
 
 private:
+    void awaitMove();
+    void giveUpLater();
     void reached(const QScreen &where);
     void found(const ScreenPointer &screen);
 
+    WaylandConnection &m_connection;
     MainQueue &m_queue;
     const Screens &m_screens;
     CoveredScreens m_covered;
+    std::unique_ptr<HandledMark> m_areShown;
     /// Of what is looked for now.
     Lifetime m_search;
 };
