@@ -72,6 +72,13 @@ void endDesktops()
     desktops().clear();
 }
 
+void endDesktop(const XDesktop &desktop)
+{
+    if (current == &desktop)
+        current = nullptr;
+    std::erase_if(desktops(), [&](const auto &kept) { return kept.desktop.get() == &desktop; });
+}
+
 std::string nameOf(const testing::TestParamInfo<DesktopKind> &kind)
 {
     if (kind.param.windowManager == WindowManager::Sway)
@@ -107,6 +114,10 @@ void DesktopTest::TearDown()
     hands().release();
     if (HasFailure() && m_corvane)
         std::cout << m_corvane->program().output().toStdString();
+    // What a compositor says last tells whether it was the one that failed.
+    constexpr qsizetype itsLastWords = 2000;
+    if (HasFailure() && m_desktop.nested())
+        std::cout << m_desktop.nested()->program().output().right(itsLastWords).toStdString();
     m_corvane.reset();
     // The toolkit does not find files whose names are no text.
     std::filesystem::remove_all(m_files.toStdString());

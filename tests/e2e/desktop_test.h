@@ -35,6 +35,8 @@ namespace corvane::e2e {
 /// most tests.
 XDesktop &desktopOf(DesktopKind kind);
 void endDesktops();
+/// One that is no longer what it was; the next test on that kind has another.
+void endDesktop(const XDesktop &desktop);
 /// Leaves a picture of the desktop at each failure, in e2e-failures/ of the build folder.
 void takePicturesOfFailures();
 

@@ -185,11 +185,15 @@ std::optional<WindowFacts> CorvaneProgram::panel()
 std::optional<WindowFacts> CorvaneProgram::panelInPicture()
 {
     constexpr int deepest = 300;
-    const QRect top(0, 0, m_desktop.server().size().width(), deepest);
+    const QRect output = m_output.isNull() ? QRect({0, 0}, m_desktop.server().size()) : m_output;
+    const QRect top(output.topLeft(), QSize(output.width(), deepest));
+    const QRect found = shelfIn(m_desktop.server().picture(top), NestedCompositor::wallpaper);
+    if (found.isEmpty())
+        return std::nullopt;
     WindowFacts facts;
-    facts.frame = shelfIn(m_desktop.server().picture(top), NestedCompositor::wallpaper);
+    facts.frame = found.translated(output.topLeft());
     facts.isViewable = true;
-    return facts.frame.isEmpty() ? std::nullopt : std::optional(facts);
+    return facts;
 }
 
 bool CorvaneProgram::waitUntilShown()

@@ -49,6 +49,8 @@ public:
     /// An unmanaged window that is not at the top edge: a menu or the view-all bar; of that height
     /// if one is given.
     std::optional<WindowFacts> popup(int height = 0);
+    /// In a Wayland session of several outputs: the one whose panel is meant from now on.
+    void lookAt(const QRect &output) { m_output = output; }
     /// The shelf's panel if it is on screen; in a Wayland session what is seen of it.
     std::optional<WindowFacts> panel();
     bool isShown() { return panel().has_value(); }
@@ -94,6 +96,8 @@ private:
 
     XDesktop &m_desktop;
     QProcessEnvironment m_environment;
+    /// Null for the whole screen.
+    QRect m_output;
     std::unique_ptr<Program> m_program;
 };
 

@@ -2,6 +2,8 @@
 
 #include "e2e/desktop/eventually.h"
 
+#include <algorithm>
+
 namespace corvane::e2e {
 
 using namespace Qt::StringLiterals;
@@ -18,6 +20,43 @@ void NestedCompositor::addTo(QProcessEnvironment &environment) const
     else
         environment.insert(u"DISPLAY"_s, m_display);
     addOwnTo(environment);
+}
+
+namespace {
+
+void askToClose(const XServer &screen, xcb_window_t window)
+{
+    xcb_client_message_event_t close{};
+    close.response_type = XCB_CLIENT_MESSAGE;
+    close.format = 32;
+    close.window = window;
+    close.type = screen.atom("WM_PROTOCOLS");
+    close.data.data32[0] = screen.atom("WM_DELETE_WINDOW");
+    xcb_send_event(screen.connection(), 0, window, XCB_EVENT_MASK_NO_EVENT,
+                   reinterpret_cast<const char *>(&close));
+    xcb_flush(screen.connection());
+}
+
+} // namespace
+
+bool NestedCompositor::unplug(XServer &screen, const QRect &output)
+{
+    const auto before = screen.windows();
+    const auto found = std::ranges::find(before, output, &WindowFacts::frame);
+    if (found == before.end())
+        return false;
+    askToClose(screen, found->id);
+    if (!eventually([&] { return !screen.facts(found->id); }))
+        return false;
+    for (const WindowFacts &window : screen.windows()) {
+        if (window.frame.left() < output.left())
+            continue;
+        const auto x = static_cast<uint32_t>(window.frame.left() - output.width());
+        xcb_configure_window(screen.connection(), window.id, XCB_CONFIG_WINDOW_X, &x);
+    }
+    // Done once an answer to a later question has come.
+    screen.focusedWindow();
+    return true;
 }
 
 QRect scaled(const QRect &rect, double scale)

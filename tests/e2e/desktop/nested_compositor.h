@@ -50,6 +50,11 @@ public:
     /// surfaces of the compositor.
     virtual XServer *panelServer() { return nullptr; }
 
+    /// Unplugs the output whose window is there, and has those to the right of it take its place,
+    /// as they do within the session; whether it has gone. Sway and KWin are told so by whoever
+    /// closes the window; KWin ends with its last one.
+    static bool unplug(XServer &screen, const QRect &output);
+
 protected:
     /// The name or the path of its Wayland socket.
     virtual QString socket() const = 0;

@@ -188,18 +188,8 @@ bool NestedSway::plug(XServer &screen, const QRect &frame) const
 void NestedSway::unplug(XServer &screen) const
 {
     const auto windows = screen.windows();
-    if (windows.isEmpty())
-        return;
-    xcb_client_message_event_t close{};
-    close.response_type = XCB_CLIENT_MESSAGE;
-    close.format = 32;
-    close.window = windows.last().id;
-    close.type = screen.atom("WM_PROTOCOLS");
-    close.data.data32[0] = screen.atom("WM_DELETE_WINDOW");
-    xcb_send_event(screen.connection(), 0, close.window, XCB_EVENT_MASK_NO_EVENT,
-                   reinterpret_cast<const char *>(&close));
-    xcb_flush(screen.connection());
-    eventually([&] { return screen.windows().size() < windows.size(); });
+    if (!windows.isEmpty())
+        NestedCompositor::unplug(screen, windows.last().frame);
 }
 
 void NestedSway::letRootIn()
