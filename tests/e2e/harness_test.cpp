@@ -58,11 +58,12 @@ TEST_P(VirtualDesktop, carriesTextIntoAnEditor)
 }
 
 /// What tools/virtual-desktop starts.
-std::unique_ptr<Program> desktopWith(const QString &script)
+std::unique_ptr<Program> desktopWith(const QString &script, const QStringList &options = {})
 {
     return std::make_unique<Program>(
         QCoreApplication::applicationDirPath() + u"/corvane_virtual_desktop"_s,
-        QStringList{u"--no-compositor"_s, u"--size"_s, u"800x600"_s, u"sh"_s, u"-c"_s, script},
+        QStringList{u"--no-compositor"_s, u"--size"_s, u"800x600"_s} + options
+            + QStringList{u"sh"_s, u"-c"_s, script},
         QProcessEnvironment::systemEnvironment());
 }
 
@@ -96,6 +97,17 @@ TEST(VirtualDesktopStarter, aSignalEndsTheCommandAndThenTheDesktop)
     EXPECT_EQ(desktop->waitForEnd(patience), 128 + SIGTERM);
     EXPECT_FALSE(QFile::exists(said.at(1)));
     EXPECT_FALSE(XServer(said.at(0).toLatin1()).isConnected());
+}
+
+TEST(VirtualDesktopStarter, aPictureInAWaylandSessionIsOneOfItsScreen)
+{
+    const auto desktop = desktopWith(
+        u"cd \"$TMPDIR\" && \"%1/../tools/virtual-desktop\" shoot picture.png && convert picture.png "
+        "-crop 1x1+400+300 -depth 8 rgb:- | od -A n -t x1"_s.arg(QStringLiteral(CORVANE_TEST_DATA)),
+        {u"--window-manager"_s, u"sway"_s});
+    EXPECT_EQ(desktop->waitForEnd(patience), 0);
+    // The wallpaper.
+    EXPECT_TRUE(desktop->output().contains("33 66 99")) << desktop->output().toStdString();
 }
 
 } // namespace

@@ -78,7 +78,7 @@ int main(int argc, char **argv)
                                      u"name"_s, u"openbox"_s);
     const QCommandLineOption noCompositor(u"no-compositor"_s, u"nothing is blended"_s);
     const QCommandLineOption size(u"size"_s, u"of the screen"_s, u"WxH"_s, u"1512x982"_s);
-    const QCommandLineOption scale(u"scale"_s, u"pixels per point, under sway and kwin"_s,
+    const QCommandLineOption scale(u"scale"_s, u"pixels per point, in Wayland sessions"_s,
                                    u"number"_s, u"1"_s);
     const QCommandLineOption noXWayland(u"no-xwayland"_s, u"sway and kwin keep no X server"_s);
     QCommandLineParser parser;
@@ -108,8 +108,11 @@ int main(int argc, char **argv)
     }
     if (received != 0)
         return 128 + received;
+    QProcessEnvironment environment = desktop.environment();
+    // What pictures are taken of: a Wayland session's own display is not what is seen of it.
+    environment.insert(u"CORVANE_SCREEN"_s, desktop.screen());
     const QString name = arguments.takeFirst();
-    const int status = XDesktop::runToEnd(name, arguments, desktop.environment(), commandRuns);
+    const int status = XDesktop::runToEnd(name, arguments, environment, commandRuns);
     // The process id may be reused from now on, and the desktop is ending anyway.
     for (const int number : {SIGTERM, SIGINT, SIGHUP})
         std::signal(number, SIG_IGN);

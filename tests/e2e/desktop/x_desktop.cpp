@@ -116,7 +116,8 @@ void XDesktop::startServer(const DesktopKind &kind)
         return;
     }
     const QByteArray display = ":" + number;
-    m_environment.insert(u"DISPLAY"_s, QString::fromLatin1(display));
+    m_screen = QString::fromLatin1(display);
+    m_environment.insert(u"DISPLAY"_s, m_screen);
     m_server = std::make_unique<XServer>(display);
     m_hands = std::make_unique<Hands>(*m_server);
     if (!m_server->isConnected())

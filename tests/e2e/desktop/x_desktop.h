@@ -47,6 +47,8 @@ public:
     QString problem() const { return m_problem; }
 
     XServer &server() { return *m_server; }
+    /// Its name, which programs in a Wayland session are not told.
+    QString screen() const { return m_screen; }
     Hands &hands() { return *m_hands; }
     /// The compositor that the programs run in; null where they run on the X server itself.
     NestedCompositor *nested() { return m_nested.get(); }
@@ -90,6 +92,7 @@ private:
     QTemporaryDir m_home;
     QProcessEnvironment m_environment;
     QString m_problem;
+    QString m_screen;
     // In the order in which they are started; they are destroyed in the opposite one.
     std::unique_ptr<Program> m_xvfb;
     std::unique_ptr<XServer> m_server;
