@@ -119,6 +119,8 @@ QList<TableRow> tableRows(const Abilities &abilities, TableStyle style)
     return {
         row("opens by itself when a drag starts", abilities.drags, style,
             "yes, under every window manager tried (openbox, xfwm4)"),
+        row("Shift keeps what is dragged out", abilities.keepingKey, style,
+            "yes, held when you let go"),
         row("the bar with all items", abilities.clicksElsewhere, style,
             "yes; a click in any other program closes it"),
         row("the shelf at the top edge", abilities.topEdge, style,

@@ -69,11 +69,16 @@ void LayerSession::wireDrags()
     quiet.edgeStrips.onDragLeft = [this] { panels.returnKeyboard(); };
 }
 
+Abilities LayerSession::abilitiesWhere(bool isToldOfDrags, bool areHotKeysChosenHere)
+{
+    Abilities now = QuietDesktop::abilities(isToldOfDrags, areHotKeysChosenHere);
+    now.keepingKey = {KeepingKey::BeforeTheDrag, Reason::KeptByDesktop};
+    return now;
+}
+
 void LayerSession::tellAbilities()
 {
-    Abilities now = quiet.abilities(hotKeys.areChosenHere());
-    now.keepingKey = {KeepingKey::BeforeTheDrag, Reason::KeptByDesktop};
-    abilities.become(now);
+    abilities.become(abilitiesWhere(quiet.isToldOfDrags(), hotKeys.areChosenHere()));
 }
 
 DesktopSession LayerSession::desktop()

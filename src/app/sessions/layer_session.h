@@ -26,6 +26,8 @@ struct LayerSession : RunningSession {
 
     /// Before there is an application object: has Qt leave the panels' windows to us.
     static void prepare();
+    /// What such a session is able to do.
+    static Abilities abilitiesWhere(bool isToldOfDrags, bool areHotKeysChosenHere);
 
     DesktopSession desktop() override;
 

@@ -47,6 +47,7 @@ public:
     /// it: where drags are told of anyway, there is one only for a drag that nobody knows the end
     /// of.
     void setToldOfDrags(bool isTold);
+    bool isToldOfDrags() const { return m_isToldOfDrags; }
     /// Somebody began to drag something; it may be our own.
     void noticed();
     /// Of a session on such a desktop.
