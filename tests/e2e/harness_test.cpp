@@ -60,11 +60,11 @@ TEST_P(VirtualDesktop, carriesTextIntoAnEditor)
 /// What tools/virtual-desktop starts.
 std::unique_ptr<Program> desktopWith(const QString &script, const QStringList &options = {})
 {
-    return std::make_unique<Program>(
-        QCoreApplication::applicationDirPath() + u"/corvane_virtual_desktop"_s,
-        QStringList{u"--no-compositor"_s, u"--size"_s, u"800x600"_s} + options
-            + QStringList{u"sh"_s, u"-c"_s, script},
-        QProcessEnvironment::systemEnvironment());
+    return std::make_unique<Program>(QCoreApplication::applicationDirPath()
+                                         + u"/corvane_virtual_desktop"_s,
+                                     QStringList{u"--no-compositor"_s, u"--size"_s, u"800x600"_s}
+                                         + options + QStringList{u"sh"_s, u"-c"_s, script},
+                                     QProcessEnvironment::systemEnvironment());
 }
 
 /// The display and the home folder, as the script says them; two empty texts while it does not.
@@ -102,7 +102,8 @@ TEST(VirtualDesktopStarter, aSignalEndsTheCommandAndThenTheDesktop)
 TEST(VirtualDesktopStarter, aPictureInAWaylandSessionIsOneOfItsScreen)
 {
     const auto desktop = desktopWith(
-        u"cd \"$TMPDIR\" && \"%1/../tools/virtual-desktop\" shoot picture.png && convert picture.png "
+        u"cd \"$TMPDIR\" && \"%1/../tools/virtual-desktop\" shoot picture.png && convert "
+        u"picture.png "
         "-crop 1x1+400+300 -depth 8 rgb:- | od -A n -t x1"_s.arg(QStringLiteral(CORVANE_TEST_DATA)),
         {u"--window-manager"_s, u"sway"_s});
     EXPECT_EQ(desktop->waitForEnd(patience), 0);

@@ -53,8 +53,8 @@ TEST(SessionTexts, theReadmesTableSaysOfEachAbilityWhatTheProgramSays)
     EXPECT_EQ(x11.size(), 5);
     for (int i = 0; i < x11.size(); ++i) {
         const QString cells = QStringLiteral("| %1 | %2 | %3 | %4 | %5 |")
-                                  .arg(x11[i].ability, x11[i].howFar, sway[i].howFar,
-                                       kde[i].howFar, gnome[i].howFar);
+                                  .arg(x11[i].ability, x11[i].howFar, sway[i].howFar, kde[i].howFar,
+                                       gnome[i].howFar);
         EXPECT_TRUE(readme().contains(cells)) << cells.toStdString();
     }
 }
