@@ -232,6 +232,11 @@ TEST_F(CommandLine, withoutADisplayAStartSaysSoInOneLine)
     EXPECT_TRUE(errorsOf("corvane", withoutDisplay()).contains("DISPLAY"));
     EXPECT_TRUE(errorsOf("corvane --toggle", withoutDisplay()).contains("DISPLAY"));
     EXPECT_TRUE(errorsOf("DISPLAY=:4000 corvane", withoutDisplay()).contains(":4000"));
+    for (const QByteArray where : {"WAYLAND_DISPLAY=nowhere", "WAYLAND_DISPLAY=/nowhere"}) {
+        for (const QByteArray environment : {"env ", "env -u XDG_RUNTIME_DIR "})
+            EXPECT_TRUE(errorsOf(environment + where + " corvane", withoutDisplay())
+                            .contains("WAYLAND_DISPLAY"));
+    }
     errorsOf("QT_QPA_PLATFORM_PLUGIN_PATH=/nowhere QT_PLUGIN_PATH=/nowhere DISPLAY=:4000 corvane",
              withoutDisplay());
 }

@@ -1,5 +1,6 @@
 #include "platform/wayland/base/registry_probe.h"
 
+#include <QByteArray>
 #include <QDeadlineTimer>
 #include <QtGlobal>
 
@@ -53,13 +54,20 @@ bool waitForEvents(wl_display *display, const QDeadlineTimer &deadline)
     return wl_display_read_events(display) == 0 && wl_display_dispatch_pending(display) >= 0;
 }
 
+/// Whether the environment says where a compositor is. Of a name without a folder the library would
+/// complain on standard error.
+bool isNamed()
+{
+    const QByteArray name = qgetenv("WAYLAND_DISPLAY");
+    return name.startsWith('/') || (!name.isEmpty() && qgetenv("XDG_RUNTIME_DIR").startsWith('/'));
+}
+
 } // namespace
 
 CompositorRegistry probeRegistry()
 {
     CompositorRegistry found;
-    if (qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-        || qEnvironmentVariableIsSet("WAYLAND_SOCKET"))
+    if (!isNamed() || qEnvironmentVariableIsSet("WAYLAND_SOCKET"))
         return found;
     const std::unique_ptr<wl_display, Disconnect> display(wl_display_connect(nullptr));
     if (!display)
