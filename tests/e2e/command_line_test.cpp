@@ -307,6 +307,7 @@ TEST_F(CommandLine, theDesktopOpensFilesAndUnknownActionsAreErrors)
     EXPECT_EQ(sh("corvane --list").output,
               "/a\xff"
               "b\nhttps://x.example/\n");
+    EXPECT_NE(sh(call + "Open \"['nonsense', 'ftp://x.example/']\" '{}'").status, 0);
     EXPECT_NE(sh(call + "ActivateAction bogus '[]' '{}'").status, 0);
     EXPECT_NE(sh(call + "ActivateAction toggle '[<1>]' '{}'").status, 0);
     EXPECT_EQ(sh("gapplication action example.corvane.Corvane preferences").status, 0);

@@ -123,12 +123,21 @@ void DBusSingleInstance::Open(const QStringList &uris, const QVariantMap &platfo
     // A line end would make two addresses of one.
     for (const QString &uri : uris)
         delivery.bytes += uri.toUtf8().replace('\n', "").replace('\r', "") + "\r\n";
-    if (!m_shelf->requests)
+    if (!m_shelf->requests) {
         refuse(shelf_errors::notReady, QStringLiteral("Corvane is not ready yet"));
-    else if (uris.size() > mostAddresses || delivery.bytes.size() > ShelfRequests::maximumBytes)
+        return;
+    }
+    if (uris.size() > mostAddresses || delivery.bytes.size() > ShelfRequests::maximumBytes) {
         refuse(shelf_errors::tooMuch, QStringLiteral("too many addresses"));
-    else
-        m_shelf->requests->put(delivery, [](int) {});
+        return;
+    }
+    setDelayedReply(true);
+    m_shelf->requests->put(delivery, [call = message()](int items) {
+        const auto refusal = QStringLiteral("none of these can be put on the shelf");
+        QDBusConnection::sessionBus().send(
+            items > 0 ? call.createReply()
+                      : call.createErrorReply(QLatin1String(shelf_errors::badArguments), refusal));
+    });
 }
 
 void DBusSingleInstance::ActivateAction(const QString &name, const QVariantList &parameter,
