@@ -109,6 +109,8 @@ TEST_F(KdeShortcutsTest, aPressIsToldOnceHoweverLongItIsHeld)
     kde.release(viewAll);
     kde.press(toggle);
     kde.press(toggle);
+    kde.release(toggle);
+    // Of the same name.
     kde.press(toggle, QStringLiteral("another.Program"));
     kde.release(toggle);
     kde.press(toggle);
