@@ -163,12 +163,13 @@ void DesktopTest::awaitDropTarget()
     // A hand goes on moving, and only a move that follows the beginning of a drag tells of it: some
     // programs take their time to begin.
     int step = 1;
+    // While something is dragged the shelf is as large as when it is empty, or larger by a width
+    // that it grew to before. It may have been there already, with what it holds.
     ASSERT_TRUE(eventually([&] {
         hands().moveBy(QPoint(step = -step, 0));
-        return corvane().isShown();
+        const auto panel = corvane().panel();
+        return panel && panel->frame.height() == CorvaneProgram::empty.height();
     })) << "the shelf does not open for the drag";
-    // While something is dragged the shelf is as large as when it is empty, or larger by a width
-    // that it grew to before.
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
 }
 
