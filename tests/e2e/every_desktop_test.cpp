@@ -267,11 +267,34 @@ TEST_P(OnEveryDesktop, anOpenBarGoesWithTheShelfAndComesBackToItsPlace)
     ASSERT_TRUE(corvane().activateAction(u"view-all"_s));
     ASSERT_TRUE(eventually([&] { return server().picture(behindTheBar()) != bare; }));
     const QImage open = m_desktop.pictureAtRest(behindTheBar());
+    EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight)) << "the bar is not below it";
     EXPECT_EQ(corvane().startAgain(), 0);
     ASSERT_TRUE(eventually([&] { return server().picture(behindTheBar()) != open; }));
     ASSERT_TRUE(corvane().waitUntilHidden());
     EXPECT_EQ(corvane().startAgain(), 0);
     EXPECT_TRUE(eventually([&] { return server().picture(behindTheBar()) == open; }));
+}
+
+// By more than a panel gets of room when it is shown.
+TEST_P(OnEveryDesktop, aShelfThatGrowsFarStaysInTheMiddle)
+{
+    startWithInView(6);
+    const auto put = [this](const QStringList &files) {
+        Program asking(CorvaneProgram::path(), files, m_desktop.environment());
+        EXPECT_EQ(asking.waitForEnd(), 0);
+    };
+    put({makeFile(u"first.txt"_s, "1")});
+    ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::carouselHeight));
+    QStringList more;
+    for (const QString &name : {u"b"_s, u"c"_s, u"d"_s, u"e"_s, u"f"_s})
+        more << makeFile(name, "x");
+    put(more);
+    constexpr int ends = 16;
+    EXPECT_TRUE(eventually([&] {
+        const QRect body = corvane().body();
+        return body.width() > CorvaneProgram::carousel(6, 6).width() - ends
+            && std::abs(body.center().x() - edge().x()) <= 2;
+    }));
 }
 
 TEST_P(OnEveryDesktop, thePreferencesSayWhatTheSessionIsNotAbleToDoAndNothingElse)

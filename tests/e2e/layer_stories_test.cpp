@@ -115,6 +115,54 @@ TEST_P(LayerSession, aPointerKeptAtTheEdgeShowsAHiddenShelfThatHoldsSomething)
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
+// The strip at the edge lies below it, though the panels lie above.
+TEST_P(LayerSession, aWindowThatFillsTheScreenKeepsItsTopEdgeWhileTheShelfIsHidden)
+{
+    start();
+    keep(makeFile(u"report.txt"_s, "report"));
+    hands().glideTo(belowEdge());
+    EXPECT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(corvane().waitUntilHidden());
+    GtkPeer film(m_desktop,
+                 {.habits
+                  = u"window.connect('button-press-event', lambda *a: window.fullscreen())\n"
+                    "window.connect('window-state-event', lambda w, e: "
+                    "e.new_window_state & Gdk.WindowState.FULLSCREEN and "
+                    "tell('full yes') or False)"_s},
+                 rightPlace());
+    ASSERT_EQ(film.problem(), QString());
+    hands().click(film.source());
+    ASSERT_TRUE(film.hasSaid("full"));
+    m_desktop.pictureAtRest({{}, server().size()});
+    const int before = film.presses();
+    // In its left half, and where the strip is.
+    const QPoint place = edge() - QPoint(30, 0);
+    hands().glideTo(place);
+    hands().click(place);
+    EXPECT_TRUE(eventually([&] { return film.presses() > before; }));
+    // By hand it comes all the same.
+    const QRect middle(edge() - QPoint(20, 0), QSize(40, 40));
+    const QImage bare = m_desktop.pictureAtRest(middle);
+    EXPECT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(eventually([&] { return server().picture(middle) != bare; }));
+}
+
+TEST_P(LayerSession, whatIsDraggedOutIsSeenAroundThePointer)
+{
+    start();
+    keep(makeFile(u"report.txt"_s, "report"));
+    const QPoint place = belowEdge() + QPoint(0, 100);
+    // Up and to the left of the pointer, which is in the pictures, too.
+    const QRect beside(place - QPoint(12, 12), QSize(8, 8));
+    const QImage bare = m_desktop.pictureAtRest(beside);
+    hands().beginDrag(corvane().at(38, 22), place);
+    hands().glideTo(place);
+    EXPECT_TRUE(eventually([&] { return server().picture(beside) != bare; }));
+    hands().release();
+    EXPECT_TRUE(eventually([&] { return server().picture(beside) == bare; }));
+    EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+}
+
 TEST_P(LayerSession, theKeyboardGoesBackWhenThePointerLeavesTheShelf)
 {
     GtkPeer typing(m_desktop, {}, rightPlace());

@@ -91,6 +91,16 @@ TEST_P(WaylandWindows, thePreferencesHaveTheKeyboardUntilTheyClose)
     EXPECT_TRUE(hearsKeys(typing, 'l'));
 }
 
+TEST_P(WaylandWindows, thePreferencesHaveTheKeyboardWhenTheShelfHadItBefore)
+{
+    start();
+    EXPECT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(corvane().waitUntilShown());
+    ASSERT_TRUE(corvane().activateAction(u"preferences"_s));
+    ASSERT_TRUE(waitUntilShown(preferencesSize));
+    EXPECT_TRUE(isClosedByTyping(preferencesSize, 'w', {keys::control}));
+}
+
 TEST_P(WaylandWindows, theGuideComesAtTheFirstStartAndIsClosedByItsKeys)
 {
     start({{}, {}, {}, false});
