@@ -94,6 +94,7 @@ TEST(ConfinementTest, ManyThreadsDoNotEachKeepMemoryOfTheirOwn)
                     std::barrier allHaveSome(count + 1);
                     std::barrier areCounted(count + 1);
                     std::vector<std::thread> threads;
+                    threads.reserve(count);
                     for (int i = 0; i < count; ++i) {
                         threads.emplace_back([&] {
                             const QByteArray some(10'000, 'x');
