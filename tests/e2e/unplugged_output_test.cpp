@@ -29,7 +29,7 @@ void PrintTo(const Unplugging &unplugging, std::ostream *out)
     *out << nameOfUnplugging(testing::TestParamInfo<Unplugging>(unplugging, 0));
 }
 
-/// On a desktop of its own. The shelf is on the output that goes.
+/// The shelf is on the output that goes.
 class UnpluggedOutput : public WaylandSessionTest, public testing::WithParamInterface<Unplugging> {
 protected:
     UnpluggedOutput()
@@ -40,7 +40,11 @@ protected:
     {
     }
     // KWin cannot be given it back.
-    ~UnpluggedOutput() override { endDesktop(m_desktop); }
+    ~UnpluggedOutput() override
+    {
+        if (GetParam().compositor == WindowManager::KWin)
+            endDesktop(m_desktop);
+    }
 
     void SetUp() override
     {
@@ -48,7 +52,8 @@ protected:
         if (HasFatalFailure())
             return;
         if (auto *const sway = dynamic_cast<NestedSway *>(m_desktop.nested())) {
-            sway->unplug(server());
+            while (!server().windows().isEmpty())
+                sway->unplug(server());
             ASSERT_TRUE(sway->plug(server(), left()));
             ASSERT_TRUE(sway->plug(server(), right()));
         }
@@ -99,7 +104,6 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(, UnpluggedOutput,
                          testing::Values(Unplugging{WindowManager::Sway, Side::Left},
-                                         Unplugging{WindowManager::KWin, Side::Left},
                                          Unplugging{WindowManager::KWin, Side::Right}),
                          nameOfUnplugging);
 
@@ -150,6 +154,8 @@ TEST_P(UnpluggedOutput, withAHiddenShelfLeavesTheEdgeOfTheOtherToShowIt)
     ASSERT_NO_FATAL_FAILURE(unplugIt());
     hands().moveTo(remaining().center());
     hands().glideTo({remaining().center().x(), 0});
+    // What comes up under a pointer that rests is not what it came to.
+    EXPECT_TRUE(wiggleUntil([&] { return corvane().isShown(); }));
     expectKept(file);
 }
 
