@@ -44,8 +44,9 @@ constexpr int bytes = 8 * 8 * 4;
 void takeMemory()
 {
     constexpr std::size_t much = 64UL * 1024 * 1024;
-    // Not closed: whoever reads the pipe sees when this process has ended.
-    ::open(qgetenv("CORVANE_FALSE_DECODER_PIPE").constData(), O_WRONLY | O_CLOEXEC);
+    // Never closed: whoever reads the pipe sees when this process has ended.
+    static const FileDescriptor pipe(
+        ::open(qgetenv("CORVANE_FALSE_DECODER_PIPE").constData(), O_WRONLY | O_CLOEXEC));
     ::mmap(nullptr, much, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS | MAP_POPULATE, -1,
            0);
 }
