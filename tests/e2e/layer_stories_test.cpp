@@ -8,6 +8,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 class LayerSession : public WaylandSession { };
+class SwaySession : public WaylandSession { };
 class LayerSessionWithoutXWayland : public WaylandSession { };
 
 auto everyWaylandSession()
@@ -19,6 +20,7 @@ INSTANTIATE_TEST_SUITE_P(Every, WaylandSession, everyWaylandSession(), nameOf);
 
 INSTANTIATE_TEST_SUITE_P(Sway, LayerSession, testing::Values(sessionOf(WindowManager::Sway)),
                          nameOf);
+INSTANTIATE_TEST_SUITE_P(, SwaySession, testing::Values(sessionOf(WindowManager::Sway)), nameOf);
 INSTANTIATE_TEST_SUITE_P(KWin, LayerSession, testing::Values(sessionOf(WindowManager::KWin)),
                          nameOf);
 INSTANTIATE_TEST_SUITE_P(Sway, LayerSessionWithoutXWayland,
@@ -116,7 +118,7 @@ TEST_P(LayerSession, aPointerKeptAtTheEdgeShowsAHiddenShelfThatHoldsSomething)
 }
 
 // The strip at the edge lies below it, though the panels lie above.
-TEST_P(LayerSession, aWindowThatFillsTheScreenKeepsItsTopEdgeWhileTheShelfIsHidden)
+TEST_P(SwaySession, aWindowThatFillsTheScreenKeepsItsTopEdgeWhileTheShelfIsHidden)
 {
     start();
     keep(makeFile(u"report.txt"_s, "report"));
