@@ -30,7 +30,8 @@ struct Numbers {
     }
 };
 
-QByteArray bytesAt(QIODevice &file, qint64 offset, qint64 count)
+/// Fewer than `count` where the file ends.
+QByteArray availableAt(QIODevice &file, qint64 offset, qint64 count)
 {
     return offset < file.size() && file.seek(offset) ? file.read(count) : QByteArray();
 }
@@ -45,17 +46,17 @@ TiffAsStored::TiffAsStored(QIODevice &file)
 
 void TiffAsStored::examine(QIODevice &file)
 {
-    const QByteArray header = bytesAt(file, 0, headerSize);
+    const QByteArray header = availableAt(file, 0, headerSize);
     const bool isBigEndian = header.startsWith(QByteArray("MM\0*", 4));
     if (header.size() < headerSize || (!isBigEndian && !header.startsWith(QByteArray("II*\0", 4))))
         return;
     const Numbers numbers{isBigEndian};
     const qint64 directory = numbers.at32(header.constData() + 4);
-    const QByteArray count = bytesAt(file, directory, 2);
+    const QByteArray count = availableAt(file, directory, 2);
     if (count.size() < 2)
         return;
     const QByteArray entries
-        = bytesAt(file, directory + 2, numbers.at16(count.constData()) * entrySize);
+        = availableAt(file, directory + 2, numbers.at16(count.constData()) * entrySize);
     int samples = 0;
     std::optional<qint64> statement;
     for (qint64 at = 0; at + entrySize <= entries.size(); at += entrySize) {
@@ -70,7 +71,7 @@ void TiffAsStored::examine(QIODevice &file)
         const bool isInside = numbers.at32(entry + 4) <= 2;
         statement = isInside ? directory + 2 + at + 8 : qint64{numbers.at32(entry + 8)};
     }
-    const QByteArray stated = statement ? bytesAt(file, *statement, 2) : QByteArray();
+    const QByteArray stated = statement ? availableAt(file, *statement, 2) : QByteArray();
     const int kind = stated.size() < 2 ? 0 : numbers.at16(stated.constData());
     if (samples == 2 && kind == multiplied)
         m_greyFormat = QImage::Format_ARGB32_Premultiplied;
