@@ -26,6 +26,8 @@ public:
         QUrl url;
         /// As the disk said when the item was made.
         bool isFolder = false;
+        /// The shelf wrote it of picture bytes: its second line says how many pixels they have.
+        bool isOfPicture = false;
     };
     /// A picture held in memory.
     struct ImageBytes {

@@ -105,11 +105,11 @@ struct KeptItems::Keeper {
         const auto present = item.presentForm();
         if (!present)
             return std::nullopt;
-        return std::visit([&](const auto &payload) { return of(payload, item); },
+        return std::visit([&](const auto &payload) { return of(payload, *present); },
                           present->payload());
     }
 
-    std::optional<Item> of(const DropItem::File &file, const DropItem &item) const
+    std::optional<Item> of(const DropItem::File &file, const DropItem & /*item*/) const
     {
         // Only the path's text is looked at: a disk may not answer.
         const QByteArray path = file_url::nativePath(file.url);
@@ -125,11 +125,8 @@ struct KeptItems::Keeper {
             = context.folder.add(path, file_url::pathExtension(name).toUtf8(), isTimeLeft);
         if (!added)
             return std::nullopt;
-        // What is still being made does not say yet what it will say.
-        const bool isOfPixels
-            = !item.isBeingMade() && item.subtitle() != PictureItems::describe(file.url);
         return kept_record::Saved{added->name, added->size, name,
-                                  isOfPixels ? Line::PixelsAndKind : Line::KindAndSize};
+                                  file.isOfPicture ? Line::PixelsAndKind : Line::KindAndSize};
     }
     /// It stays as it is: no second name and no copy, which could fail.
     std::optional<Item> keptHere(const QByteArray &path) const
@@ -280,7 +277,8 @@ DropItem KeptItems::itemOf(const kept_record::Saved &saved) const
             [&](const FileDescriptor &file) { return KeptFolder::copy(path, saved.size, file); });
         if (!isCopied)
             return asItIs;
-        return DropItem(DropItem::File{place->url()}, title,
+        const bool isOfPicture = saved.line == Line::PixelsAndKind;
+        return DropItem(DropItem::File{.url = place->url(), .isOfPicture = isOfPicture}, title,
                         lineOf(place->url(), saved.line, codec), true);
     };
     return m_context.preparation.begin(

@@ -68,8 +68,8 @@ struct MakeOfBytes {
         const QString description = PictureItems::describe(data, type, codec);
         if (!asItIs->write(data))
             return inMemory(data, type, description);
-        return {DropItem::File{asItIs->url()}, file_url::lastPathComponent(asItIs->url()),
-                description, true};
+        return {DropItem::File{.url = asItIs->url(), .isOfPicture = true},
+                file_url::lastPathComponent(asItIs->url()), description, true};
     }
 
     QByteArray data;

@@ -76,8 +76,8 @@ DropItem SavedPictures::asFile(const DropItem &item)
     const auto make = [place, item, bytes = image->data] {
         if (!place->write(bytes))
             return item;
-        return DropItem(DropItem::File{place->url()}, file_url::lastPathComponent(place->url()),
-                        item.subtitle(), true);
+        return DropItem(DropItem::File{.url = place->url(), .isOfPicture = true},
+                        file_url::lastPathComponent(place->url()), item.subtitle(), true);
     };
     const auto end
         = m_lifetime.guard([this, id, fileId = file.id()](const std::optional<DropItem> &made) {

@@ -405,6 +405,17 @@ TEST_F(KeptItemsTest, APictureThatWasConvertedIsDescribedAsTheFileThatItBecame)
     EXPECT_EQ(again().shown(), before);
 }
 
+TEST_F(KeptItemsTest, AFileThatWasChangedOnTheShelfIsStillDescribedAsAFile)
+{
+    run->dropTiff("tiff");
+    run->finishWork();
+    const QByteArray path = run->pathOf(0);
+    machine.disk.write(path.mid(machine.disk.path("").size()), "changed since");
+    machine.pictures.insert("changed since", {300, 400});
+    again();
+    EXPECT_EQ(lines(), QStringList{QStringLiteral("PNG · 13 bytes")});
+}
+
 TEST_F(KeptItemsTest, ATiffOfTheSpoolThatIsStillBeingConvertedIsNotSaidToBeForever)
 {
     const auto place = run->ingest.placeForPromisedFile(QStringLiteral("scan.tiff"));

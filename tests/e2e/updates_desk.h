@@ -33,6 +33,8 @@ protected:
     {
         DesktopTest::SetUp();
         QDir(folder.directory.path()).mkpath(u"mount/usr/bin"_s);
+        // Where the program makes it, it waits for the folder around it, which holds the image.
+        QDir(folder.directory.path()).mkpath(u"state"_s);
         writeProgram();
         environment = m_desktop.environment();
         environment.insert(u"APPIMAGE"_s, QFile::decodeName(folder.appImage()));
