@@ -270,6 +270,24 @@ TEST_F(CommandLine, speaksTheSessionsLanguage)
         inShell("DISPLAY=:4000 corvane", german).errors.contains("die Anzeige kann nicht benutzt"));
 }
 
+TEST_F(CommandLine, everyLanguageStartsAndEnds)
+{
+    const QString prefix = u"corvane_"_s;
+    const QStringList translations = QDir(QStringLiteral(CORVANE_TEST_DATA "/../translations"))
+                                         .entryList({prefix + u"*.ts"_s}, QDir::Files);
+    ASSERT_GT(translations.size(), 10);
+    for (const QString &name : translations) {
+        const QString language = QFileInfo(name).completeBaseName().sliced(prefix.size());
+        SCOPED_TRACE(language.toStdString());
+        CorvaneProgram::Start how;
+        how.environment = m_desktop.environment();
+        how.environment.insert(u"CORVANE_LANGUAGE"_s, language);
+        start(how);
+        corvane().program().signal(SIGTERM);
+        ASSERT_EQ(corvane().program().waitForEnd(), 0);
+    }
+}
+
 TEST_F(CommandLine, whatTheOneThatRunsRefusesIsSaidInTheSessionsLanguage)
 {
     RefusingCorvane other(m_desktop);

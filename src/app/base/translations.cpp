@@ -19,6 +19,13 @@ bool isSameLanguage(const QLocale &one, const QLocale &other)
     return one.language() == other.language() && one.script() == other.script();
 }
 
+/// Before there is a toolkit nothing is laid out, and its application object must not be spoken to.
+void setLayoutDirection(Qt::LayoutDirection direction)
+{
+    if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()))
+        QGuiApplication::setLayoutDirection(direction);
+}
+
 } // namespace
 
 Translations::Translations(const QStringList &wanted)
@@ -30,14 +37,14 @@ Translations::Translations(const QStringList &wanted)
     install(builtInPrefix + usualLanguage, builtInFolder);
     if (m_language != usualLanguage)
         install(builtInPrefix + m_language, builtInFolder);
-    QGuiApplication::setLayoutDirection(QLocale(m_language).textDirection());
+    setLayoutDirection(QLocale(m_language).textDirection());
 }
 
 Translations::~Translations()
 {
     for (const auto &translator : m_translators)
         QCoreApplication::removeTranslator(translator.get());
-    QGuiApplication::setLayoutDirection(Qt::LayoutDirectionAuto);
+    setLayoutDirection(Qt::LayoutDirectionAuto);
 }
 
 void Translations::install(const QString &name, const QString &folder)

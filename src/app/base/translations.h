@@ -10,7 +10,8 @@ namespace corvane {
 
 /// What people read, in their language, for as long as this lives. The texts in the sources are
 /// translated into English for this desktop as into any other language, so that is always loaded,
-/// and stands in for whatever another language lacks. Needs the application object.
+/// and stands in for whatever another language lacks. Needs an application object; where that is
+/// the toolkit's, windows are laid out in the direction of the language.
 class Translations {
 public:
     /// In the first of the wanted languages that there is, the most wanted first, named as by
