@@ -85,7 +85,8 @@ QImage TextLayer::rasterized(double width, double height, double scale) const
     painter.setFont(m_font);
     painter.setPen(m_color);
     const QFontMetricsF metrics(m_font, &bitmap);
-    const QString line = metrics.elidedText(displayText(m_string), m_elideMode, width);
+    const QString text = withPartsInOrder(displayText(m_string), m_direction);
+    const QString line = metrics.elidedText(text, m_elideMode, width);
     const double advance = metrics.horizontalAdvance(line);
     double x = 0;
     if (m_alignment & Qt::AlignHCenter)

@@ -229,4 +229,22 @@ TEST_F(Layers, TextIsPaintedInsideItsFrameOnly)
     EXPECT_GT(inside, 10);
 }
 
+TEST_F(Layers, ReadFromRightToLeftANumberStaysWithItsUnit)
+{
+    TextLayer text(tree);
+    layer.setFrame({0, 0, 100, 100});
+    layer.addSublayer(text);
+    text.setFrame({0, 40, 100, 20});
+    QFont font;
+    font.setPixelSize(8);
+    text.setFont(font);
+    text.setTextDirection(Qt::RightToLeft);
+    const QString size = QStringLiteral("992 כ");
+    const QRect whereItStands(0, 0, QFontMetrics(font).horizontalAdvance(size) - 1, 100);
+    text.setString(size);
+    const QImage alone = paint().copy(whereItStands);
+    text.setString(QStringLiteral("A · ") + size);
+    EXPECT_EQ(paint().copy(whereItStands), alone) << "what is read first stands on the right";
+}
+
 } // namespace corvane::test
