@@ -630,6 +630,14 @@ that runs.</source>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>لا توجد شاشة يُعلّق عليها الرفّ (لم يُضبط WAYLAND_DISPLAY ولا DISPLAY)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>لم يُضبط WAYLAND_DISPLAY في جلسة Wayland هذه، لذلك يستخدم الرفّ شاشة X11 الخاصة بالجلسة، وقد لا تصل إليه بعض عمليات السحب هناك</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>لا يستجيب أي مدير عرض حيث يشير WAYLAND_DISPLAY، لذلك يستخدم الرفّ شاشة X11 الخاصة بهذه الجلسة، وقد لا تصل إليه بعض عمليات السحب هناك</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

@@ -598,6 +598,14 @@ angezeigt oder verborgen.</translation>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>es gibt keine Anzeige für die Ablage (weder WAYLAND_DISPLAY noch DISPLAY ist gesetzt)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY ist in dieser Wayland-Sitzung nicht gesetzt; deshalb benutzt die Ablage die X11-Anzeige der Sitzung, auf der manches Gezogene sie vielleicht nicht erreicht</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>wo WAYLAND_DISPLAY hinzeigt, antwortet kein Compositor; deshalb benutzt die Ablage die X11-Anzeige dieser Sitzung, auf der manches Gezogene sie vielleicht nicht erreicht</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

@@ -598,6 +598,14 @@ that runs.</translation>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

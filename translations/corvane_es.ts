@@ -598,6 +598,14 @@ se está ejecutando.</translation>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>no hay pantalla de la que colgar el estante (ni WAYLAND_DISPLAY ni DISPLAY están definidas)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY no está definida en esta sesión de Wayland, así que el estante usa la pantalla de X11 de la sesión, donde puede que algunos arrastres no le lleguen</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>ningún compositor responde donde indica WAYLAND_DISPLAY, así que el estante usa la pantalla de X11 de esta sesión, donde puede que algunos arrastres no le lleguen</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

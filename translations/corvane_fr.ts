@@ -598,6 +598,14 @@ qui est lancé.</translation>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>il n’y a pas d’affichage pour l’étagère (ni WAYLAND_DISPLAY ni DISPLAY ne sont définis)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY n’est pas défini dans cette session Wayland ; l’étagère utilise donc l’affichage X11 de la session, où certains glissements risquent de ne pas l’atteindre</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>aucun compositeur ne répond là où WAYLAND_DISPLAY l’indique ; l’étagère utilise donc l’affichage X11 de cette session, où certains glissements risquent de ne pas l’atteindre</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

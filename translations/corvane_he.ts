@@ -598,6 +598,14 @@ that runs.</source>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>אין תצוגה לתלות עליה את המדף (לא הוגדרו WAYLAND_DISPLAY ו־DISPLAY)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY לא הוגדר בהפעלת Wayland הזאת, ולכן המדף משתמש בתצוגת X11 של ההפעלה, שבה ייתכן שחלק מהגרירות לא יגיעו אליו</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>אין מנהל תצוגה שעונה במקום ש־WAYLAND_DISPLAY מציין, ולכן המדף משתמש בתצוגת X11 של ההפעלה הזאת, שבה ייתכן שחלק מהגרירות לא יגיעו אליו</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

@@ -598,6 +598,14 @@ that runs.</source>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>शेल्फ़ लटकाने के लिए कोई डिस्प्ले नहीं है (न WAYLAND_DISPLAY सेट है, न DISPLAY)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>इस Wayland सत्र में WAYLAND_DISPLAY सेट नहीं है, इसलिए शेल्फ़ सत्र का X11 डिस्प्ले इस्तेमाल करता है, जहाँ खींची गई कुछ चीज़ें शायद उस तक न पहुँचें</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>जहाँ WAYLAND_DISPLAY बताता है वहाँ कोई कंपोज़िटर जवाब नहीं देता, इसलिए शेल्फ़ इस सत्र का X11 डिस्प्ले इस्तेमाल करता है, जहाँ खींची गई कुछ चीज़ें शायद उस तक न पहुँचें</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

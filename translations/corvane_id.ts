@@ -590,6 +590,14 @@ rak dari Corvane yang sudah berjalan.</translation>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>tidak ada layar untuk menggantung rak (WAYLAND_DISPLAY maupun DISPLAY tidak diatur)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY tidak diatur dalam sesi Wayland ini, sehingga rak memakai layar X11 milik sesi ini, dan sebagian seretan mungkin tidak sampai ke sana</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>tidak ada kompositor yang menjawab di tempat yang ditunjuk WAYLAND_DISPLAY, sehingga rak memakai layar X11 milik sesi ini, dan sebagian seretan mungkin tidak sampai ke sana</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

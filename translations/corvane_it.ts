@@ -598,6 +598,14 @@ in esecuzione.</translation>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>non c’è uno schermo a cui appendere il ripiano (né WAYLAND_DISPLAY né DISPLAY sono impostate)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY non è impostata in questa sessione Wayland, quindi il ripiano usa lo schermo X11 della sessione, dove alcuni trascinamenti potrebbero non raggiungerlo</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>nessun compositor risponde dove indica WAYLAND_DISPLAY, quindi il ripiano usa lo schermo X11 di questa sessione, dove alcuni trascinamenti potrebbero non raggiungerlo</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

@@ -590,6 +590,14 @@ that runs.</source>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>シェルフを表示するディスプレイがありません (WAYLAND_DISPLAY も DISPLAY も設定されていません)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>この Wayland セッションでは WAYLAND_DISPLAY が設定されていないため、シェルフはセッションの X11 ディスプレイを使います。そこでは一部のドラッグがシェルフに届かないことがあります</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY が示す場所で応答するコンポジターがないため、シェルフはこのセッションの X11 ディスプレイを使います。そこでは一部のドラッグがシェルフに届かないことがあります</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

@@ -590,6 +590,14 @@ that runs.</source>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>선반을 걸 디스플레이가 없습니다(WAYLAND_DISPLAY와 DISPLAY가 모두 설정되지 않음)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>이 Wayland 세션에 WAYLAND_DISPLAY가 설정되지 않아 선반이 세션의 X11 디스플레이를 사용하며, 여기서는 일부 드래그가 선반에 닿지 않을 수 있습니다</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY가 가리키는 곳에서 응답하는 컴포지터가 없어 선반이 이 세션의 X11 디스플레이를 사용하며, 여기서는 일부 드래그가 선반에 닿지 않을 수 있습니다</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

@@ -606,6 +606,14 @@ który już działa.</translation>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>nie ma ekranu, na którym można zawiesić półkę (nie ustawiono ani WAYLAND_DISPLAY, ani DISPLAY)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>w tej sesji Wayland nie ustawiono WAYLAND_DISPLAY, więc półka używa ekranu X11 tej sesji, na którym część przeciąganych elementów może do niej nie dotrzeć</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>tam, gdzie wskazuje WAYLAND_DISPLAY, nie odpowiada żaden kompozytor, więc półka używa ekranu X11 tej sesji, na którym część przeciąganych elementów może do niej nie dotrzeć</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

@@ -606,6 +606,14 @@ that runs.</source>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>нет экрана, на котором можно закрепить полку (не заданы ни WAYLAND_DISPLAY, ни DISPLAY)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>в этом сеансе Wayland не задана WAYLAND_DISPLAY, поэтому полка использует экран X11 этого сеанса, где не всё перетаскиваемое может до неё дойти</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>там, куда указывает WAYLAND_DISPLAY, не отвечает ни один композитор, поэтому полка использует экран X11 этого сеанса, где не всё перетаскиваемое может до неё дойти</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

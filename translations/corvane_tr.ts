@@ -590,6 +590,14 @@ veya gizler.</translation>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>rafın asılacağı bir ekran yok (ne WAYLAND_DISPLAY ne de DISPLAY ayarlı)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>bu Wayland oturumunda WAYLAND_DISPLAY ayarlı değil; bu yüzden raf, bazı sürüklemelerin kendisine ulaşamayabileceği X11 ekranını kullanıyor</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY’in gösterdiği yerde yanıt veren bir birleştirici yok; bu yüzden raf, bazı sürüklemelerin kendisine ulaşamayabileceği X11 ekranını kullanıyor</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

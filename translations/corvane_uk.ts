@@ -606,6 +606,14 @@ that runs.</source>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>немає дисплея, на якому можна закріпити полицю (не задано ні WAYLAND_DISPLAY, ні DISPLAY)</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>у цьому сеансі Wayland не задано WAYLAND_DISPLAY, тому полиця використовує дисплей X11 цього сеансу, де не все перетягуване може до неї дійти</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>там, куди вказує WAYLAND_DISPLAY, не відповідає жоден композитор, тому полиця використовує дисплей X11 цього сеансу, де не все перетягуване може до неї дійти</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

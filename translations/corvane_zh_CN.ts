@@ -590,6 +590,14 @@ that runs.</source>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>没有可以挂置物架的显示器（WAYLAND_DISPLAY 和 DISPLAY 均未设置）</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>此 Wayland 会话未设置 WAYLAND_DISPLAY，因此置物架使用该会话的 X11 显示器，某些拖放可能无法到达置物架</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY 所指之处没有合成器应答，因此置物架使用此会话的 X11 显示器，某些拖放可能无法到达置物架</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

@@ -590,6 +590,14 @@ that runs.</source>
         <source>there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)</source>
         <translation>沒有可以掛置物架的顯示器（WAYLAND_DISPLAY 和 DISPLAY 均未設定）</translation>
     </message>
+    <message>
+        <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>此 Wayland 工作階段未設定 WAYLAND_DISPLAY，因此置物架使用該工作階段的 X11 顯示器，某些拖放可能無法到達置物架</translation>
+    </message>
+    <message>
+        <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
+        <translation>WAYLAND_DISPLAY 所指之處沒有合成器回應，因此置物架使用此工作階段的 X11 顯示器，某些拖放可能無法到達置物架</translation>
+    </message>
 </context>
 <context>
     <name>SessionTexts</name>

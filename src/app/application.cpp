@@ -187,8 +187,7 @@ int start(const CommandLine &line, ToolkitArguments &toolkit,
         complainOf(wish);
         return 1;
     }
-    const SessionChoice choice
-        = chooseSession(SessionEnvironment::ofThisProcess(), probeRegistry());
+    const SessionChoice choice = chooseSession();
     if (!choice.kind) {
         const auto status = wish.isPlain() ? std::nullopt : askedOfAnother(wish, info);
         if (!status)
@@ -220,6 +219,9 @@ int start(const CommandLine &line, ToolkitArguments &toolkit,
     });
     if (const auto status = endBesideAnother(outcome, wish, instance))
         return *status;
+    // Not beside another process, which said so itself.
+    if (!choice.warning.isEmpty())
+        command_answers::complain(choice.warning);
     return runShelf(*choice.kind, instance, delegate, wish, application);
 }
 

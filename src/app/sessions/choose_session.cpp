@@ -1,5 +1,7 @@
 #include "app/sessions/choose_session.h"
 
+#include "platform/x11/base/xwayland_probe.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QtGlobal>
@@ -20,13 +22,18 @@ bool isWaylandPluginInstalled()
     });
 }
 
+QString lackOfPlugin()
+{
+    return QCoreApplication::translate(
+        "SessionChoice",
+        "this Wayland session takes Qt's plug-in for Wayland, which is not installed "
+        "(the package qt6-wayland)");
+}
+
 QString refusal(const SessionEnvironment &environment, const CompositorRegistry &compositor)
 {
     if (compositor.hasLayerShell)
-        return QCoreApplication::translate(
-            "SessionChoice",
-            "this Wayland session takes Qt's plug-in for Wayland, which is not installed "
-            "(the package qt6-wayland)");
+        return lackOfPlugin();
     if (compositor.answers)
         return QCoreApplication::translate(
             "SessionChoice",
@@ -42,12 +49,32 @@ QString refusal(const SessionEnvironment &environment, const CompositorRegistry 
         "there is no display to hang the shelf on (neither WAYLAND_DISPLAY nor DISPLAY is set)");
 }
 
+/// Of a Wayland session whose compositor cannot be found.
+QString lackOfCompositor(const SessionEnvironment &environment)
+{
+    if (environment.waylandDisplay.isEmpty())
+        return QCoreApplication::translate("SessionChoice",
+                                           "WAYLAND_DISPLAY is not set in this Wayland session, so "
+                                           "the shelf uses the session's X11 "
+                                           "display, where some drags may not reach it");
+    return QCoreApplication::translate(
+        "SessionChoice",
+        "WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session's X11 "
+        "display, where some drags may not reach it");
+}
+
+SessionChoice throughXServer(SessionKind kind, const QString &warning = {})
+{
+    return {.kind = kind, .platformPlugin = "xcb", .refusal = {}, .warning = warning.toLocal8Bit()};
+}
+
 } // namespace
 
 SessionEnvironment SessionEnvironment::ofThisProcess()
 {
     SessionEnvironment environment{.display = qgetenv("DISPLAY"),
                                    .waylandDisplay = qgetenv("WAYLAND_DISPLAY"),
+                                   .sessionType = qgetenv("XDG_SESSION_TYPE"),
                                    .platformWish = qgetenv("QT_QPA_PLATFORM")};
     // An X11 session is not kept waiting for the disk.
     environment.hasWaylandPlugin
@@ -56,19 +83,30 @@ SessionEnvironment SessionEnvironment::ofThisProcess()
 }
 
 SessionChoice chooseSession(const SessionEnvironment &environment,
-                            const CompositorRegistry &compositor)
+                            const CompositorRegistry &compositor,
+                            const std::function<bool()> &isXServerOfCompositor)
 {
     const bool hasX = !environment.display.isEmpty();
     const bool wantsX = hasX && environment.platformWish == "xcb";
     if (compositor.hasLayerShell && environment.hasWaylandPlugin && !wantsX)
         return {.kind = SessionKind::Layer, .platformPlugin = "wayland", .refusal = {}};
-    if (hasX && compositor.answers)
-        return {.kind = SessionKind::XWayland, .platformPlugin = "xcb", .refusal = {}};
-    if (hasX)
-        return {.kind = SessionKind::X11, .platformPlugin = "xcb", .refusal = {}};
-    return {.kind = std::nullopt,
-            .platformPlugin = {},
-            .refusal = refusal(environment, compositor).toLocal8Bit()};
+    if (!hasX)
+        return {.kind = std::nullopt,
+                .platformPlugin = {},
+                .refusal = refusal(environment, compositor).toLocal8Bit()};
+    if (compositor.answers) {
+        const bool lacksPlugin = compositor.hasLayerShell && !wantsX;
+        return throughXServer(SessionKind::XWayland, lacksPlugin ? lackOfPlugin() : QString());
+    }
+    if (environment.sessionType != "x11" && isXServerOfCompositor())
+        return throughXServer(SessionKind::XWayland,
+                              wantsX ? QString() : lackOfCompositor(environment));
+    return throughXServer(SessionKind::X11);
+}
+
+SessionChoice chooseSession()
+{
+    return chooseSession(SessionEnvironment::ofThisProcess(), probeRegistry(), isXWayland);
 }
 
 } // namespace corvane

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 
+#include <functional>
 #include <optional>
 
 namespace corvane {
@@ -31,6 +32,11 @@ struct SessionEnvironment {
     QByteArray display = {};
     /// WAYLAND_DISPLAY
     QByteArray waylandDisplay = {};
+    /// XDG_SESSION_TYPE, which only "x11" is believed of: a desktop of X11 may run within a window
+    /// of a compositor, on an X server of the kind that compositors keep. It is often wrong
+    /// otherwise: sway that was started from a terminal says "tty", Xvfb within a Wayland session
+    /// "wayland".
+    QByteArray sessionType = {};
     /// QT_QPA_PLATFORM: somebody who asks for "xcb" alone gets it where it can be had.
     QByteArray platformWish = {};
     /// Qt's plug-in for Wayland is installed: many distributions have a package of its own for it.
@@ -48,10 +54,18 @@ struct SessionChoice {
     QByteArray platformPlugin;
     /// If `kind` is none: one line that tells the user why, without a line end.
     QByteArray refusal;
+    /// Where a better session was to be had, if not for what is missing or wrong: one line that
+    /// tells the user so, without a line end. Empty elsewhere.
+    QByteArray warning = {};
 };
 
-/// Depends only on its arguments. To be called before there is an application object.
+/// Depends only on its arguments. `isXServerOfCompositor` is called where nothing else tells
+/// whether the X server that DISPLAY names is one that a compositor keeps for X11's programs. To be
+/// called before there is an application object.
 SessionChoice chooseSession(const SessionEnvironment &environment,
-                            const CompositorRegistry &compositor);
+                            const CompositorRegistry &compositor,
+                            const std::function<bool()> &isXServerOfCompositor);
+/// The same for this process, which asks compositor and X server.
+SessionChoice chooseSession();
 
 } // namespace corvane

@@ -93,8 +93,17 @@ TextTable textsOfTheCommandLine()
     for (const auto &[environment, compositor] :
          {std::pair(SessionEnvironment(), silent), std::pair(lost, silent), std::pair(lost, plain),
           std::pair(lost, layers)})
-        refusals << QString::fromLocal8Bit(chooseSession(environment, compositor).refusal);
+        refusals << QString::fromLocal8Bit(
+            chooseSession(environment, compositor, [] { return false; }).refusal);
     table.add(QStringLiteral("Starts without a display"), refusals);
+    QStringList warnings;
+    SessionEnvironment unnamed;
+    unnamed.display = "two";
+    lost.display = "two";
+    for (const SessionEnvironment &environment : {unnamed, lost})
+        warnings << QString::fromLocal8Bit(
+            chooseSession(environment, silent, [] { return true; }).warning);
+    table.add(QStringLiteral("Starts in a Wayland session that cannot be found"), warnings);
     return table;
 }
 
