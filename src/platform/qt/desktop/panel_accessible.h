@@ -4,10 +4,9 @@
 #include "platform/desktop/accessible_node.h"
 
 #include <QRect>
-#include <QString>
+#include <QStringList>
 
 #include <functional>
-#include <vector>
 
 class QAccessibleInterface;
 
@@ -22,9 +21,6 @@ class PanelCanvas;
 /// loop. What was made stays until the canvas is gone, which may be after this. Main thread only.
 class PanelAccessible {
 public:
-    /// In seconds: how long an announcement can be read.
-    static constexpr double announcementDuration = 2;
-
     struct Panel {
         PanelCanvas &canvas;
         MainQueue &queue;
@@ -39,6 +35,7 @@ public:
     PanelAccessible &operator=(const PanelAccessible &) = delete;
 
     void changed();
+    /// Has screen readers say a text at once, after what has changed till then.
     void announce(const QString &text);
     /// The panel was shown.
     void shown();
@@ -54,13 +51,11 @@ private:
     QAccessibleInterface *makeRoot();
     void updateSoon();
     void update();
-    AccessibleNode read() const;
 
     Panel m_panel;
     AccessiblePart *m_root = nullptr;
     bool m_isUpdateDue = false;
-    std::vector<AccessibleNode> m_announcements;
-    int m_announced = 0;
+    QStringList m_news;
     Lifetime m_lifetime;
 };
 
