@@ -34,21 +34,23 @@ private:
     QImage m_image;
 };
 
-QStringList linesOf(const PreviewContent &content)
+/// What each line below the name consists of.
+QList<QStringList> linesOf(const PreviewContent &content)
 {
     if (std::holds_alternative<PreviewContent::Missing>(content.body))
-        return {QCoreApplication::translate("PreviewWindow", "This item is no longer there.")};
+        return {{QCoreApplication::translate("PreviewWindow", "This item is no longer there.")}};
     const PreviewDetails &details = content.details;
     QStringList what;
     for (const QString &part : {details.kind, details.size}) {
         if (!part.isEmpty())
             what << part;
     }
-    QStringList lines;
+    QList<QStringList> lines;
     if (!what.isEmpty())
-        lines << what.join(QStringLiteral("  ·  "));
+        lines << what;
     if (!details.modified.isEmpty())
-        lines << QCoreApplication::translate("PreviewWindow", "Modified %1").arg(details.modified);
+        lines << QStringList{
+            QCoreApplication::translate("PreviewWindow", "Modified %1").arg(details.modified)};
     return lines;
 }
 
@@ -78,13 +80,16 @@ DetailsView::DetailsView(const PreviewContent &content, const Image &icon, QWidg
     name->setMaximumLines(2);
     name->setText(content.details.name);
     column->addWidget(name);
-    const QStringList lines = linesOf(content);
-    for (const QString &line : lines) {
+    QStringList said;
+    const QList<QStringList> lines = linesOf(content);
+    for (const QStringList &line : lines) {
         auto *const label = new ElidedLabel(this);
         label->setSubdued(true);
-        label->setText(line);
+        label->setText(line.join(QStringLiteral("  ·  ")));
         column->addWidget(label);
+        said << line;
     }
+    setAccessibleDescription(said.join(QStringLiteral(", ")));
     column->addStretch();
     row->addLayout(column, 1);
 }

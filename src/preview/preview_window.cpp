@@ -48,8 +48,8 @@ QString onlyTheBeginning()
     return QCoreApplication::translate("PreviewWindow", "only the beginning is shown");
 }
 
-/// The text of the line below the content.
-QString lineFor(const PreviewContent &content)
+/// What the line below the content consists of.
+QStringList lineFor(const PreviewContent &content)
 {
     QStringList parts;
     const auto add = [&parts](const QString &part) {
@@ -80,7 +80,7 @@ QString lineFor(const PreviewContent &content)
                    },
                },
                content.body);
-    return parts.join(QStringLiteral("  ·  "));
+    return parts;
 }
 
 } // namespace
@@ -126,8 +126,8 @@ void PreviewWindow::setContent(const PreviewContent &content, const Image &icon)
     // Qt replaces "[*]" in titles by the mark of an unsaved document; doubled it is shown.
     QString title = content.details.name;
     setWindowTitle(title.replace(QLatin1String("[*]"), QLatin1String("[*][*]")));
-    const QString line = lineFor(content);
-    m_line->setText(line);
+    const QStringList line = lineFor(content);
+    m_line->setText(line.join(QStringLiteral("  ·  ")));
     m_open->setVisible(content.canBeOpened);
     m_bar->setVisible(content.canBeOpened || !line.isEmpty());
     m_open->setAccessibleName(
@@ -135,7 +135,9 @@ void PreviewWindow::setContent(const PreviewContent &content, const Image &icon)
     delete m_view;
     m_picture = nullptr;
     m_view = makeView(content, icon);
-    m_view->setAccessibleDescription(content.details.name);
+    // The window has the name, and says it. Details describe themselves.
+    if (!line.isEmpty())
+        m_view->setAccessibleDescription(line.join(QStringLiteral(", ")));
     m_layout->insertWidget(0, m_view, 1);
     m_view->setFocus();
 }

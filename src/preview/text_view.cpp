@@ -2,9 +2,11 @@
 
 #include "platform/base/main_queue.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCoreApplication>
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextDocument>
@@ -38,6 +40,10 @@ TextView::TextView(const PreviewContent::Text &text, MainQueue &queue, QWidget *
     document()->setDocumentMargin(margin);
     // No cursor is shown: pieces are appended below the visible part, which must not scroll.
     setCursorWidth(0);
+    // It would be pushed along to the end of what is appended, where Down leads nowhere.
+    QTextCursor atTheBeginning = textCursor();
+    atTheBeginning.setKeepPositionOnInsert(true);
+    setTextCursor(atTheBeginning);
     appendNext();
 }
 
@@ -47,6 +53,17 @@ QFont TextView::fontFor(const PreviewContent::Text &text)
 {
     return text.isMonospaced ? QFontDatabase::systemFont(QFontDatabase::FixedFont)
                              : QApplication::font("QPlainTextEdit");
+}
+
+void TextView::keyPressEvent(QKeyEvent *event)
+{
+    const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == 0;
+    // Nobody sees the cursor, which could be far away from what is shown.
+    if (isArrow && isPlain && !QAccessible::isActive())
+        QAbstractScrollArea::keyPressEvent(event);
+    else
+        QPlainTextEdit::keyPressEvent(event);
 }
 
 void TextView::appendNext()

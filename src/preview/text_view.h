@@ -10,7 +10,9 @@ namespace corvane {
 class MainQueue;
 
 /// Shows a text to be scrolled and copied from. It is laid out piece by piece, so that a long one
-/// can be read at once without blocking the main thread. The queue must outlive it.
+/// can be read at once without blocking the main thread. Up and Down scroll it by a line; while
+/// assistive programs follow the cursor, they move that from line to line. The queue must outlive
+/// it.
 class TextView : public QPlainTextEdit {
 public:
     TextView(const PreviewContent::Text &text, MainQueue &queue, QWidget *parent = nullptr);
@@ -18,6 +20,9 @@ public:
 
     /// The font that such a text is shown in.
     static QFont fontFor(const PreviewContent::Text &text);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void appendNext();

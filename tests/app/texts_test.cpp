@@ -79,8 +79,8 @@ QString withoutDataOfTheTest(QString text)
         QStringLiteral("^(title|tool tip|Button|CheckBox|RadioButton|StaticText|EditableText|Client"
                        "|ProgressBar|AlertMessage|Link|Graphic|Dialog|[A-Za-z ]+): "));
     static const QRegularExpression data(QStringLiteral(
-        "^(Unknown|Plain text document|PNG image|PDF document|Folder)(?=  "
-        "·)|corvane \\[OPTIONS\\] \\[FILE\\|URL "
+        "(^|\\[)(Unknown|Plain text document|PNG image|PDF document|Folder)(?=  "
+        "·|[],])|corvane \\[OPTIONS\\] \\[FILE\\|URL "
         "\\.\\.\\.\\]|-{1,2}[a-z-]+\\b|bindsym|mailto:|Corvane(-1\\.2\\.AppImage)?|corvane "
         "--toggle|\\bcorvane:|[a-z]+\\.(txt|pdf|exe|png)"
         "|\\bDear all,|\\bFaster|\\bproxy\\.test|https://[a-z.]+/?|[a-z]+@[a-z.]+|\\[kind\\]"

@@ -21,4 +21,16 @@ TEST(DetailsView, LetsTheNameStandOut)
     EXPECT_LT(labels[1]->font().weight(), QFont::DemiBold);
 }
 
+TEST(DetailsView, IsDescribedByWhatStandsBelowTheName)
+{
+    PreviewContent content;
+    content.details = {QStringLiteral("Holiday"), QStringLiteral("Folder"),
+                       QStringLiteral("0 items"), QStringLiteral("today")};
+    EXPECT_EQ(DetailsView(content, {}, nullptr).accessibleDescription(),
+              QStringLiteral("Folder, 0 items, Modified today"));
+    content.body = PreviewContent::Missing{};
+    EXPECT_EQ(DetailsView(content, {}, nullptr).accessibleDescription(),
+              QStringLiteral("This item is no longer there."));
+}
+
 } // namespace corvane::test

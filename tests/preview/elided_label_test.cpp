@@ -1,6 +1,8 @@
 #include "preview/elided_label.h"
 #include "preview/preview_look.h"
 
+#include <QAccessible>
+#include <QAccessibleInterface>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -24,6 +26,16 @@ TEST(ElidedLabelTest, ShowsWhatFitsInOneLine)
     label.setMaximumLines(3);
     EXPECT_EQ(label.lines(widthFor(label, name.size())), QStringList{name});
     EXPECT_EQ(label.heightForWidth(10'000), label.fontMetrics().height());
+}
+
+/// A label would be said as its window opens, and its text once more with the content.
+TEST(ElidedLabelTest, IsATextThatIsFoundAndNotReadByItself)
+{
+    ElidedLabel label;
+    label.setText(name);
+    QAccessibleInterface *const told = QAccessible::queryAccessibleInterface(&label);
+    EXPECT_EQ(told->role(), QAccessible::Paragraph);
+    EXPECT_EQ(told->text(QAccessible::Name), name);
 }
 
 TEST(ElidedLabelTest, LeavesTheMiddleOfItsLastLineAway)

@@ -46,6 +46,14 @@ TEST_F(PreviewWindowTest, WhatIsSaidStandsBelowTheContentAndWhereATextBegins)
     EXPECT_NEAR(place.y(), window.height() - preview_geometry::barHeight / 2, 1);
 }
 
+TEST_F(PreviewWindowTest, TheContentIsDescribedByWhatStandsBelowIt)
+{
+    const QWidget *text = named(QStringLiteral("Text"));
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->accessibleDescription(), QStringLiteral("Text, 5 bytes"))
+        << "the name is the window's title";
+}
+
 TEST_F(PreviewWindowTest, AThinLineStandsBetweenThem)
 {
     const QImage shown = window.grab().toImage();

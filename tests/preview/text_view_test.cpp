@@ -1,9 +1,22 @@
 #include "fakes/test_clock.h"
 #include "preview/text_view.h"
 
+#include <QKeyEvent>
+#include <QScrollBar>
+
 #include <gtest/gtest.h>
 
 namespace corvane::test {
+
+namespace {
+
+void press(QWidget &widget, Qt::Key key)
+{
+    QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(&widget, &event);
+}
+
+} // namespace
 
 TEST(TextView, ShowsNoHalfOfACharacterWhileALongTextComesInPieces)
 {
@@ -16,6 +29,29 @@ TEST(TextView, ShowsNoHalfOfACharacterWhileALongTextComesInPieces)
         clock.runPending();
         EXPECT_EQ(view.toPlainText(), text);
     }
+}
+
+TEST(TextView, HasItsCursorAtTheBeginningWhateverIsAppended)
+{
+    TestClock clock;
+    const TextView view({QStringLiteral("line\n").repeated(5'000), false, false}, clock);
+    EXPECT_EQ(view.textCursor().position(), 0);
+    clock.runPending();
+    EXPECT_EQ(view.textCursor().position(), 0);
+}
+
+TEST(TextView, IsScrolledByTheArrowsWhileNobodyFollowsTheCursor)
+{
+    TestClock clock;
+    TextView view({QStringLiteral("line\n").repeated(500), false, false}, clock);
+    view.resize(300, 200);
+    view.show();
+    press(view, Qt::Key_Down);
+    press(view, Qt::Key_Down);
+    EXPECT_EQ(view.verticalScrollBar()->value(), 2);
+    press(view, Qt::Key_Up);
+    EXPECT_EQ(view.verticalScrollBar()->value(), 1);
+    EXPECT_EQ(view.textCursor().position(), 0);
 }
 
 } // namespace corvane::test
