@@ -98,10 +98,6 @@
         <translation>انسخ وأزل من الرفّ</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>العناصر على الرفّ</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>العناصر السابقة</translation>
     </message>
@@ -154,6 +150,37 @@
             <numerusform>أُضيف %Ln عنصرًا</numerusform>
             <numerusform>أُضيف %Ln عنصر</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>العناصر على الرفّ: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>الرفّ فارغ. يضع %1 محتوى الحافظة هنا.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>أُزيل %1؛ الرفّ فارغ</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>أُزيل %1؛ بقي عنصر واحد</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>أُزيل %1؛ لم يبق شيء</numerusform>
+            <numerusform>أُزيل %1؛ بقي عنصر واحد</numerusform>
+            <numerusform>أُزيل %1؛ بقي عنصران</numerusform>
+            <numerusform>أُزيل %1؛ بقيت %Ln عناصر</numerusform>
+            <numerusform>أُزيل %1؛ بقي %Ln عنصرًا</numerusform>
+            <numerusform>أُزيل %1؛ بقي %Ln عنصر</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>الرفّ مخفيّ</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>Kopieren und aus der Ablage nehmen</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Elemente der Ablage</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Frühere Elemente</translation>
     </message>
@@ -146,6 +142,33 @@
             <numerusform>%Ln Element wurde hinzugefügt</numerusform>
             <numerusform>%Ln Elemente wurden hinzugefügt</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Elemente der Ablage: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>Die Ablage ist leer. %1 legt den Inhalt der Zwischenablage hier ab.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>%1 wurde entfernt; die Ablage ist leer</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>%1 wurde entfernt; 1 Element bleibt</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>%1 wurde entfernt; %Ln Element bleibt</numerusform>
+            <numerusform>%1 wurde entfernt; %Ln Elemente bleiben</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>Die Ablage ist ausgeblendet</translation>
     </message>
 </context>
 <context>

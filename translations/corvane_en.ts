@@ -98,10 +98,6 @@
         <translation>Copy and take off the shelf</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Items on the shelf</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Earlier items</translation>
     </message>
@@ -146,6 +142,33 @@
             <numerusform>%Ln item was added</numerusform>
             <numerusform>%Ln items were added</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Items on the shelf: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>The shelf is empty. %1 puts what is on the clipboard here.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>%1 was removed; the shelf is empty</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>%1 was removed; 1 item is left</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>%1 was removed; %Ln item is left</numerusform>
+            <numerusform>%1 was removed; %Ln items are left</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>The shelf is hidden</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>Copiar y quitar del estante</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Elementos del estante</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Elementos anteriores</translation>
     </message>
@@ -146,6 +142,33 @@
             <numerusform>Se añadió %Ln elemento</numerusform>
             <numerusform>Se añadieron %Ln elementos</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Elementos del estante: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>El estante está vacío. %1 pone aquí el contenido del portapapeles.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>Se quitó %1; el estante está vacío</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>Se quitó %1; queda 1 elemento</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>Se quitó %1; queda %Ln elemento</numerusform>
+            <numerusform>Se quitó %1; quedan %Ln elementos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>El estante está oculto</translation>
     </message>
 </context>
 <context>

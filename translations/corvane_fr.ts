@@ -98,10 +98,6 @@
         <translation>Copier et retirer de l’étagère</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Éléments de l’étagère</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Éléments précédents</translation>
     </message>
@@ -146,6 +142,33 @@
             <numerusform>%Ln élément a été ajouté</numerusform>
             <numerusform>%Ln éléments ont été ajoutés</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Éléments de l’étagère : %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>L’étagère est vide. %1 y met le contenu du presse-papiers.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>%1 a été retiré ; l’étagère est vide</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>%1 a été retiré ; il reste 1 élément</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>%1 a été retiré ; il reste %Ln élément</numerusform>
+            <numerusform>%1 a été retiré ; il reste %Ln éléments</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>L’étagère est masquée</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>העתקה והסרה מהמדף</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>הפריטים שעל המדף</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>הפריטים הקודמים</translation>
     </message>
@@ -146,6 +142,33 @@
             <numerusform>נוסף פריט אחד</numerusform>
             <numerusform>נוספו %Ln פריטים</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>הפריטים שעל המדף: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>המדף ריק. %1 להדבקת תוכן לוח הגזירים כאן.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>הוסר: %1; המדף ריק</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>הוסר: %1; נשאר פריט אחד</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>הוסר: %1; נשאר פריט אחד</numerusform>
+            <numerusform>הוסר: %1; נשארו %Ln פריטים</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>המדף מוסתר</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>कॉपी करके शेल्फ़ से हटाएँ</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>शेल्फ़ की वस्तुएँ</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>पिछली वस्तुएँ</translation>
     </message>
@@ -146,6 +142,33 @@
             <numerusform>%Ln वस्तु जोड़ी गई</numerusform>
             <numerusform>%Ln वस्तुएँ जोड़ी गईं</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>शेल्फ़ की वस्तुएँ: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>शेल्फ़ खाली है। %1 क्लिपबोर्ड की सामग्री यहाँ रखता है।</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>%1 हटाया गया; शेल्फ़ खाली है</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>%1 हटाया गया; 1 वस्तु बची है</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>%1 हटाया गया; %Ln वस्तु बची है</numerusform>
+            <numerusform>%1 हटाया गया; %Ln वस्तुएँ बची हैं</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>शेल्फ़ छिपा है</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>Salin dan ambil dari rak</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Butir di rak</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Butir sebelumnya</translation>
     </message>
@@ -144,6 +140,32 @@
         <translation>
             <numerusform>%Ln butir ditambahkan</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Butir di rak: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>Rak kosong. %1 menaruh isi papan klip di sini.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>%1 dihapus; rak kosong</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>%1 dihapus; tersisa 1 butir</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>%1 dihapus; tersisa %Ln butir</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>Rak disembunyikan</translation>
     </message>
 </context>
 <context>

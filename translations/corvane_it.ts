@@ -98,10 +98,6 @@
         <translation>Copia e togli dal ripiano</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Elementi del ripiano</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Elementi precedenti</translation>
     </message>
@@ -146,6 +142,33 @@
             <numerusform>%Ln elemento è stato aggiunto</numerusform>
             <numerusform>%Ln elementi sono stati aggiunti</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Elementi del ripiano: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>Il ripiano è vuoto. %1 vi mette il contenuto degli appunti.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>%1 è stato rimosso; il ripiano è vuoto</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>%1 è stato rimosso; resta 1 elemento</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>%1 è stato rimosso; resta %Ln elemento</numerusform>
+            <numerusform>%1 è stato rimosso; restano %Ln elementi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>Il ripiano è nascosto</translation>
     </message>
 </context>
 <context>

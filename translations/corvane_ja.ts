@@ -98,10 +98,6 @@
         <translation>コピーしてシェルフから取り除く</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>シェルフの項目</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>前の項目</translation>
     </message>
@@ -144,6 +140,32 @@
         <translation>
             <numerusform>%Ln 個の項目を追加しました</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>シェルフの項目: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>シェルフは空です。%1 でクリップボードの内容をここに置きます。</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>%1 を削除しました。シェルフは空です</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>%1 を削除しました。残り 1 個です</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>%1 を削除しました。残り %Ln 個です</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>シェルフを隠しました</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>복사하고 선반에서 내리기</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>선반의 항목</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>이전 항목</translation>
     </message>
@@ -144,6 +140,32 @@
         <translation>
             <numerusform>항목 %Ln개를 추가했습니다</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>선반의 항목: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>선반이 비었습니다. %1(으)로 클립보드의 내용을 여기에 놓습니다.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>%1을(를) 제거했습니다. 선반이 비었습니다</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>%1을(를) 제거했습니다. 항목 1개가 남았습니다</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>%1을(를) 제거했습니다. 항목 %Ln개가 남았습니다</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>선반을 숨겼습니다</translation>
     </message>
 </context>
 <context>

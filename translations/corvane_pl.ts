@@ -98,10 +98,6 @@
         <translation>Skopiuj i zdejmij z półki</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Elementy na półce</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Wcześniejsze elementy</translation>
     </message>
@@ -148,6 +144,34 @@
             <numerusform>Dodano %Ln elementy</numerusform>
             <numerusform>Dodano %Ln elementów</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Elementy na półce: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>Półka jest pusta. %1 kładzie na niej zawartość schowka.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>Usunięto: %1; półka jest pusta</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>Usunięto: %1; pozostał 1 element</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>Usunięto: %1; pozostał %Ln element</numerusform>
+            <numerusform>Usunięto: %1; pozostały %Ln elementy</numerusform>
+            <numerusform>Usunięto: %1; pozostało %Ln elementów</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>Półka jest ukryta</translation>
     </message>
 </context>
 <context>

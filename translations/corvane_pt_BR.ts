@@ -98,10 +98,6 @@
         <translation>Copiar e tirar da prateleira</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Itens da prateleira</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Itens anteriores</translation>
     </message>
@@ -146,6 +142,33 @@
             <numerusform>%Ln item foi adicionado</numerusform>
             <numerusform>%Ln itens foram adicionados</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Itens da prateleira: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>A prateleira está vazia. %1 coloca aqui o conteúdo da área de transferência.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>%1 foi removido; a prateleira está vazia</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>%1 foi removido; resta 1 item</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>%1 foi removido; resta %Ln item</numerusform>
+            <numerusform>%1 foi removido; restam %Ln itens</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>A prateleira está oculta</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>Копировать и убрать с полки</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Объекты на полке</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Предыдущие объекты</translation>
     </message>
@@ -148,6 +144,34 @@
             <numerusform>Добавлено %Ln объекта</numerusform>
             <numerusform>Добавлено %Ln объектов</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Объекты на полке: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>Полка пуста. %1 кладёт сюда содержимое буфера обмена.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>Убрано: %1; полка пуста</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>Убрано: %1; остался 1 объект</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>Убрано: %1; остался %Ln объект</numerusform>
+            <numerusform>Убрано: %1; осталось %Ln объекта</numerusform>
+            <numerusform>Убрано: %1; осталось %Ln объектов</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>Полка скрыта</translation>
     </message>
 </context>
 <context>

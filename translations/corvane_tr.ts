@@ -98,10 +98,6 @@
         <translation>Kopyala ve raftan al</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Raftaki ögeler</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Önceki ögeler</translation>
     </message>
@@ -144,6 +140,32 @@
         <translation>
             <numerusform>%Ln öge eklendi</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Raftaki ögeler: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>Raf boş. %1, panonun içeriğini buraya koyar.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>%1 kaldırıldı; raf boş</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>%1 kaldırıldı; 1 öge kaldı</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>%1 kaldırıldı; %Ln öge kaldı</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>Raf gizlendi</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>Копіювати і прибрати з полиці</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>Об’єкти на полиці</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>Попередні об’єкти</translation>
     </message>
@@ -148,6 +144,34 @@
             <numerusform>Додано %Ln об’єкти</numerusform>
             <numerusform>Додано %Ln об’єктів</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>Об’єкти на полиці: %L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>Полиця порожня. %1 кладе сюди вміст буфера обміну.</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>Прибрано: %1; полиця порожня</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>Прибрано: %1; лишився 1 об’єкт</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>Прибрано: %1; лишився %Ln об’єкт</numerusform>
+            <numerusform>Прибрано: %1; лишилося %Ln об’єкти</numerusform>
+            <numerusform>Прибрано: %1; лишилося %Ln об’єктів</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>Полицю приховано</translation>
     </message>
 </context>
 <context>

@@ -98,10 +98,6 @@
         <translation>复制并从置物架取走</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>置物架上的项目</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>前面的项目</translation>
     </message>
@@ -144,6 +140,32 @@
         <translation>
             <numerusform>已添加 %Ln 个项目</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>置物架上的项目：%L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>置物架是空的。按 %1 把剪贴板的内容放到这里。</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>已移除 %1；置物架是空的</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>已移除 %1；还剩 1 个项目</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>已移除 %1；还剩 %Ln 个项目</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>置物架已隐藏</translation>
     </message>
 </context>
 <context>

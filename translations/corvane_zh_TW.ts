@@ -98,10 +98,6 @@
         <translation>複製並從置物架取走</translation>
     </message>
     <message>
-        <source>Items on the shelf</source>
-        <translation>置物架上的項目</translation>
-    </message>
-    <message>
         <source>Earlier items</source>
         <translation>前面的項目</translation>
     </message>
@@ -144,6 +140,32 @@
         <translation>
             <numerusform>已加入 %Ln 個項目</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Items on the shelf: %L1</source>
+        <translation>置物架上的項目：%L1</translation>
+    </message>
+    <message>
+        <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
+        <translation>置物架是空的。按 %1 把剪貼簿的內容放到這裡。</translation>
+    </message>
+    <message>
+        <source>%1 was removed; the shelf is empty</source>
+        <translation>已移除 %1；置物架是空的</translation>
+    </message>
+    <message>
+        <source>%1 was removed; 1 item is left</source>
+        <translation>已移除 %1；還剩 1 個項目</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 was removed; %n items are left</source>
+        <translation>
+            <numerusform>已移除 %1；還剩 %Ln 個項目</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The shelf is hidden</source>
+        <translation>置物架已隱藏</translation>
     </message>
 </context>
 <context>

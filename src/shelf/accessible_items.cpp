@@ -1,6 +1,7 @@
 #include "shelf/accessible_items.h"
 
 #include "core/display_text.h"
+#include "core/item_description.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -36,7 +37,9 @@ QString kindOf(const DropItem &item)
 AccessibleNode describe(const DropItem &item, Place place)
 {
     const QString kind = kindOf(item);
-    const QString shown = displayText(item.subtitle());
+    // A separator has a name, which need not be heard.
+    const QString shown
+        = displayText(item.subtitle()).replace(item_description::separator(), QLatin1String(", "));
     QStringList said{kind};
     // A folder's subtitle may be just that word, which need not be heard twice.
     if (!shown.isEmpty() && shown != kind)

@@ -5,6 +5,7 @@
 #include "shelf/shelf_focus.h"
 
 #include <QCoreApplication>
+#include <QKeySequence>
 
 #include <algorithm>
 #include <utility>
@@ -59,7 +60,8 @@ AccessibleNode itemList(const ShelfLook &look)
     AccessibleNode list;
     list.key = QStringLiteral("items");
     list.role = AccessibleNode::Role::List;
-    list.name = Words::tr("Items on the shelf");
+    // Only those in view are in it, and screen readers count what is in a list.
+    list.name = Words::tr("Items on the shelf: %L1").arg(look.snapshot.totalCount);
     for (const auto &[index, item] : look.snapshot.visible) {
         list.children.push_back(itemNode(look, index, item));
         list.frame |= list.children.back().frame;
@@ -90,7 +92,15 @@ void addButtons(const ShelfLook &look, std::vector<AccessibleNode> &nodes)
         nodes.push_back(button(allItemsKey, Words::tr("All items"), *look.layout.viewAllButton));
 }
 
-/// Says what is drawn there: that something may be dropped, or that it only has to be let go.
+QString wayToFillIt()
+{
+    const QKeySequence paste(QKeyCombination(Qt::ControlModifier, Qt::Key_V));
+    return Words::tr("The shelf is empty. %1 puts what is on the clipboard here.")
+        .arg(paste.toString(QKeySequence::NativeText));
+}
+
+/// Says what is drawn there: that something may be dropped, or that it only has to be let go. On
+/// the empty shelf it is all that the keyboard can be on.
 AccessibleNode dropTarget(const ShelfLook &look)
 {
     AccessibleNode node;
@@ -98,6 +108,10 @@ AccessibleNode dropTarget(const ShelfLook &look)
     node.name = look.isDragTargeted ? QCoreApplication::translate("ShelfView", "Release to hold")
                                     : QCoreApplication::translate("ShelfView", "Drop to hold");
     node.frame = look.layout.ring;
+    if (look.snapshot.visible.empty()) {
+        node.description = wayToFillIt();
+        node.isFocusable = node.isFocused = true;
+    }
     return node;
 }
 
@@ -112,6 +126,32 @@ void tellFocus(const ShelfLook &look, std::vector<AccessibleNode> &nodes)
         node.isFocusable = true;
         node.isFocused = look.keyboardFocus == *control;
     }
+}
+
+/// The only one that left, if it was in view. The focus is then on the item that followed it, or on
+/// the last one.
+const DropItem *removedItem(const ShelfSnapshot &before, const ShelfSnapshot &now)
+{
+    const auto isLeft = [&now](const DropItem &item) {
+        return std::ranges::any_of(
+            now.visible, [&item](const auto &shown) { return shown.second.id() == item.id(); });
+    };
+    for (const auto &[index, item] : before.visible) {
+        const bool wasInItsPlace
+            = now.totalCount == 0 || std::min(index, now.totalCount - 1) == now.focusedIndex;
+        if (wasInItsPlace && !isLeft(item))
+            return &item;
+    }
+    return nullptr;
+}
+
+QString newsOfRemoved(const QString &title, int left)
+{
+    if (left == 0)
+        return Words::tr("%1 was removed; the shelf is empty").arg(title);
+    if (left == 1)
+        return Words::tr("%1 was removed; 1 item is left").arg(title);
+    return Words::tr("%1 was removed; %n items are left", nullptr, left).arg(title);
 }
 
 void moveBy(QPointF distance, std::vector<AccessibleNode> &nodes)
@@ -192,6 +232,10 @@ QString newsOf(const ShelfSnapshot &before, const ShelfSnapshot &now)
     const int more = now.totalCount - before.totalCount;
     if (more == 0)
         return {};
+    if (more == -1) {
+        if (const DropItem *item = removedItem(before, now))
+            return newsOfRemoved(displayText(item->title()), now.totalCount);
+    }
     if (now.totalCount == 0)
         return Words::tr("The shelf is empty");
     if (more < 0)
@@ -204,6 +248,11 @@ QString newsOf(const ShelfSnapshot &before, const ShelfSnapshot &now)
         return Words::tr("%1 was added").arg(displayText(last->second.title()));
     return more == 1 ? Words::tr("1 item was added")
                      : Words::tr("%n items were added", nullptr, more);
+}
+
+QString hiddenNews()
+{
+    return Words::tr("The shelf is hidden");
 }
 
 } // namespace corvane::accessible_shelf

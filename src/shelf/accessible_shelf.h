@@ -31,4 +31,8 @@ std::optional<ShelfHit> controlOf(const QString &key, const ShelfLook &look);
 /// nothing.
 QString newsOf(const ShelfSnapshot &before, const ShelfSnapshot &now);
 
+/// What is to be said when the user has hidden the shelf, of which nothing else tells who does not
+/// see it.
+QString hiddenNews();
+
 } // namespace corvane::accessible_shelf

@@ -13,6 +13,7 @@
 #include "platform/desktop/motion_preference.h"
 #include "platform/desktop/outside_clicks.h"
 #include "platform/desktop/screen_locator.h"
+#include "shelf/accessible_shelf.h"
 #include "shelf/drawing/theme.h"
 #include "shelf/shelf_layout.h"
 #include "shelf/view_all_bar.h"
@@ -301,7 +302,10 @@ void HUDController::toggleByHand()
 {
     if (m_context.viewAll)
         m_context.viewAll->shelfIsToggledByHand();
+    const bool wasOpen = m_store.state() != ShelfState::Idle;
     m_store.toggleManually();
+    if (wasOpen && m_store.state() == ShelfState::Idle)
+        m_panel.announce(accessible_shelf::hiddenNews());
     const bool isDragged = m_isDragGoingOn || m_store.isDragInFlight() || m_store.isOwnDrag();
     if (!isDragged && m_store.state() != ShelfState::Idle)
         takeKeyboard();

@@ -141,7 +141,9 @@ TEST(Translations, PutInWhatTheSourcePutsIn)
                 if (text.isEmpty())
                     continue;
                 // "One" and "two" may be words of their own; the form of large numbers has one.
-                const bool isWord = message->hasPlurals && places(text).isEmpty()
+                QStringList withoutNumber = places(source);
+                withoutNumber.removeOne(QStringLiteral("n"));
+                const bool isWord = message->hasPlurals && places(text) == withoutNumber
                     && text != message->texts.constLast();
                 EXPECT_TRUE(isWord || places(text) == places(source))
                     << path.toStdString() << ": " << text.toStdString();

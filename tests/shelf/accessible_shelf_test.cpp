@@ -52,6 +52,16 @@ protected:
         desk.clock.advance(2);
         log.clear();
     }
+    /// As the store does it: the focus comes to the item that follows, or to the last one.
+    void remove(int index)
+    {
+        snapshot.visible.erase(snapshot.visible.begin() + index);
+        --snapshot.totalCount;
+        for (int i = index; i < snapshot.totalCount; ++i)
+            snapshot.visible[static_cast<std::size_t>(i)].first = i;
+        snapshot.focusedIndex = std::min(index, snapshot.totalCount - 1);
+        apply();
+    }
     AccessibleNode tree() const { return view.accessible(); }
     const AccessibleNode *node(const AccessibleNode &in, const QString &name) const
     {
@@ -113,6 +123,16 @@ TEST_F(AccessibleShelfTest, ItemsHaveTheirKindWhatIsShownAndTheirPlace)
     EXPECT_TRUE(second.isFocused);
     EXPECT_TRUE(second.isSelected);
     EXPECT_EQ(second.description, QStringLiteral("Text, 5 characters, 3 of 5"));
+    EXPECT_EQ(list(all).name, QStringLiteral("Items on the shelf: 5"))
+        << "screen readers count the three";
+}
+
+TEST_F(AccessibleShelfTest, TheSignBetweenWhatIsKnownOfAnItemIsNotHeard)
+{
+    const DropItem item(DropItem::Text{QStringLiteral("it")}, QStringLiteral("it"),
+                        QStringLiteral("PNG · 278 bytes"), false);
+    EXPECT_EQ(accessible_items::describe(item, {0, 1}).description,
+              QStringLiteral("Text, PNG, 278 bytes, 1 of 1"));
 }
 
 TEST_F(AccessibleShelfTest, EveryKindOfItemIsCalledByItsName)
@@ -177,7 +197,7 @@ TEST_F(AccessibleShelfTest, ASingleItemHasButtons)
 {
     show(1, 1);
     EXPECT_EQ(names(),
-              (QStringList{QStringLiteral("Items on the shelf"), QStringLiteral("Preview"),
+              (QStringList{QStringLiteral("Items on the shelf: 1"), QStringLiteral("Preview"),
                            QStringLiteral("Copy"), QStringLiteral("Remove")}));
     EXPECT_EQ(named(QStringLiteral("Remove")).role, Role::Button);
     perform(QStringLiteral("Preview"));
@@ -270,6 +290,25 @@ TEST_F(AccessibleShelfTest, ADropTargetSaysWhetherLettingGoIsEnough)
     EXPECT_EQ(names(), QStringList{QStringLiteral("Release to hold")});
 }
 
+TEST_F(AccessibleShelfTest, TheEmptyShelfSaysSoWhereTheKeyboardIsAndHowToFillIt)
+{
+    snapshot.state = ShelfState::Expanded;
+    apply();
+    const AccessibleNode target = named(QStringLiteral("Drop to hold"));
+    EXPECT_TRUE(target.isFocused);
+    EXPECT_TRUE(target.isFocusable);
+    EXPECT_EQ(target.description,
+              QStringLiteral("The shelf is empty. Ctrl+V puts what is on the clipboard here."));
+    show(1, 1);
+    snapshot.receptive = true;
+    apply();
+    const AccessibleNode other = named(QStringLiteral("Drop to hold"));
+    EXPECT_EQ(other.name, QStringLiteral("Drop to hold"));
+    EXPECT_FALSE(other.isFocused) << "the item is";
+    EXPECT_FALSE(other.isFocusable);
+    EXPECT_EQ(other.description, QString());
+}
+
 TEST_F(AccessibleShelfTest, ThePanelHearsOfEveryChange)
 {
     show(3, 3);
@@ -284,14 +323,54 @@ TEST_F(AccessibleShelfTest, WhatCameAndWhatLeftIsAnnounced)
     ASSERT_EQ(desk.panel.announced, QStringList{QStringLiteral("item 0 was added")});
     show(3, 3);
     EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("2 items were added"));
-    show(2, 3);
-    EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("Removed; 2 items are left"));
+    show(6, 3);
+    show(3, 3);
+    EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("Removed; 3 items are left"));
     show(1, 3);
     EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("Removed; 1 item is left"));
+    show(3, 3);
     snapshot = {};
     apply();
     EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("The shelf is empty"));
-    EXPECT_EQ(desk.panel.announced.size(), 5);
+    EXPECT_EQ(desk.panel.announced.size(), 7);
+}
+
+TEST_F(AccessibleShelfTest, TheOneThatLeftIsNamed)
+{
+    show(3, 3);
+    remove(1);
+    EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("item 1 was removed; 2 items are left"));
+    remove(1);
+    EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("item 2 was removed; 1 item is left"));
+    snapshot.visible.clear();
+    snapshot.totalCount = 0;
+    snapshot.focusedIndex = 0;
+    snapshot.state = ShelfState::Idle;
+    apply();
+    EXPECT_EQ(desk.panel.announced.last(),
+              QStringLiteral("item 0 was removed; the shelf is empty"));
+}
+
+TEST_F(AccessibleShelfTest, OneThatLeftUnseenIsNotTakenForOneThatOnlyWentOutOfView)
+{
+    // The first of five leaves, which is not in view, and the view goes to where it was.
+    show(5, 2, 2);
+    const auto third = snapshot.visible.front();
+    snapshot.totalCount = 4;
+    snapshot.focusedIndex = 0;
+    snapshot.visible = {{0, ShelfDesk::textItem(QStringLiteral("second"))}, {1, third.second}};
+    apply();
+    EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("Removed; 4 items are left"));
+}
+
+TEST_F(AccessibleShelfTest, ATitleOfOneThatLeftCannotDisguiseItself)
+{
+    show(2, 2);
+    snapshot.visible.back().second = ShelfDesk::fileItem(QStringLiteral("photo\u202egpj.exe"));
+    apply();
+    remove(1);
+    EXPECT_TRUE(desk.panel.announced.last().startsWith(QStringLiteral("photo")));
+    EXPECT_FALSE(desk.panel.announced.last().contains(QChar(0x202e)));
 }
 
 TEST_F(AccessibleShelfTest, ScrollingAndFocusingAnnounceNothing)

@@ -759,6 +759,19 @@ TEST_F(HUDControllerTest, OpenedByHandItHasTheKeyboardAndClosedByHandItGivesItBa
     EXPECT_FALSE(desk.panel.isKey);
 }
 
+TEST_F(HUDControllerTest, HiddenByHandItSaysSo)
+{
+    const QString hidden = QStringLiteral("The shelf is hidden");
+    controller->toggleByHand();
+    EXPECT_FALSE(desk.panel.announced.contains(hidden));
+    controller->toggleByHand();
+    EXPECT_EQ(desk.panel.announced.count(hidden), 1);
+    controller->toggleByHand();
+    EXPECT_TRUE(view().keyDown({TypedKey::Escape, {}, false}));
+    ASSERT_EQ(store.state(), ShelfState::Idle);
+    EXPECT_EQ(desk.panel.announced.count(hidden), 1) << "that key was pressed on it";
+}
+
 TEST_F(HUDControllerTest, OpenedInTheMiddleOfADragItLeavesTheKeyboardWhereItIs)
 {
     controller->dragChanged(true);

@@ -36,6 +36,8 @@ AccessibleNode tileNode(const State &state, std::size_t tile)
     const ViewAllLayout::Tile &place = state.layout.tiles[tile];
     const int index = state.offset + static_cast<int>(tile);
     AccessibleNode node = accessible_items::describe(state.page[tile], {index, state.itemCount});
+    // Of items in lists screen readers do not say whether they are ticked.
+    node.role = AccessibleNode::Role::CheckBox;
     node.frame = place.root;
     node.isSelectable = node.isCheckable = true;
     node.isSelected = node.isChecked = place.isChecked;

@@ -56,6 +56,8 @@ void ViewAllView::apply(const QList<DropItem> &items, const QSet<QUuid> &selecti
     // The bar may have paged under a pointer that does not move.
     if (findHovered())
         relayout();
+    if (std::exchange(m_awaitsSelection, false))
+        m_context.panel.announce(m_layout.selectionText);
 }
 
 void ViewAllView::themeChanged()
@@ -67,6 +69,7 @@ void ViewAllView::themeChanged()
 void ViewAllView::wasHidden()
 {
     m_isShown = false;
+    m_awaitsSelection = false;
     m_focus = {};
     m_dragSource.release();
     m_pointer.reset();

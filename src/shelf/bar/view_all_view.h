@@ -126,8 +126,9 @@ private:
     const DropItem *itemWithId(const QUuid &id) const;
     bool findHovered();
     void updateHover(QPointF point);
-    void press(ViewAllControl control) const;
-    void pressKey(TypedKey key) const;
+    void press(ViewAllControl control);
+    void pressKey(TypedKey key);
+    void toggleSelectAll();
     bool keyForFocus(const KeyEvent &event);
     void moveToTile(int index);
     void moveToNextControl(bool isBackward);
@@ -152,6 +153,9 @@ private:
     std::optional<QUuid> m_hovered;
     std::optional<ViewAllControl> m_hoveredControl;
     ViewAllFocus m_focus;
+    /// The user has just asked for all items to be selected, or for none, and has not been told how
+    /// many are.
+    bool m_awaitsSelection = false;
     double m_scale = 1;
 };
 

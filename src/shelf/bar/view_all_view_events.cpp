@@ -67,7 +67,7 @@ void ViewAllView::mouseDown(const MouseEvent &event)
     }
 }
 
-void ViewAllView::press(ViewAllControl control) const
+void ViewAllView::press(ViewAllControl control)
 {
     switch (control) {
     case ViewAllControl::Back:
@@ -77,7 +77,7 @@ void ViewAllView::press(ViewAllControl control) const
         call(onScroll, 1);
         break;
     case ViewAllControl::SelectAll:
-        call(onToggleSelectAll);
+        toggleSelectAll();
         break;
     case ViewAllControl::Copy:
         call(onCopySelected);
@@ -186,11 +186,18 @@ bool ViewAllView::keyDown(const KeyEvent &event)
     return true;
 }
 
-void ViewAllView::pressKey(TypedKey key) const
+/// The focus may be on another control, so that screen readers say nothing of it by themselves.
+void ViewAllView::toggleSelectAll()
+{
+    m_awaitsSelection = true;
+    call(onToggleSelectAll);
+}
+
+void ViewAllView::pressKey(TypedKey key)
 {
     switch (key) {
     case TypedKey::A:
-        call(onToggleSelectAll);
+        toggleSelectAll();
         break;
     case TypedKey::C:
         call(onCopySelected);

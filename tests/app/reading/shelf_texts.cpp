@@ -85,16 +85,29 @@ TextTable textsForScreenReaders()
     bar.apply(inTheBar, noneSelected, 0);
     addSpoken(bar.accessible(), lines);
     const auto news = [&](int before, int now, int inView) {
-        lines << accessible_shelf::newsOf(snapshotOf(items.first(before), inView),
-                                          snapshotOf(items.first(now), inView));
+        ShelfSnapshot after = snapshotOf(items.first(now), inView);
+        after.focusedIndex = std::max(now - 1, 0);
+        lines << accessible_shelf::newsOf(snapshotOf(items.first(before), inView), after);
     };
     news(1, 0, 6);
     news(2, 1, 6);
+    news(5, 4, 6);
     news(5, 3, 6);
     news(0, 1, 6);
     // The last one is not in view.
     news(5, 6, 3);
     news(0, 3, 6);
+    // Nor is the one that leaves.
+    news(6, 5, 3);
+    news(6, 1, 3);
+    news(6, 0, 3);
+    lines << accessible_shelf::hiddenNews();
+    desk.panel.setFrame({100, 400, 600, 200});
+    ShelfSnapshot nothing;
+    nothing.state = ShelfState::Expanded;
+    ShelfView empty(desk.context());
+    empty.apply(nothing);
+    addSpoken(empty.accessible(), lines);
     TextTable table;
     table.add(QStringLiteral("What screen readers are told"), lines);
     return table;

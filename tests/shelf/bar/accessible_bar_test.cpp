@@ -59,7 +59,7 @@ TEST_F(AccessibleBarTest, TilesAreListedWithTheirPlaceAndTheirTick)
     ASSERT_EQ(list().role, Role::List);
     ASSERT_EQ(list().children.size(), 5U);
     const AccessibleNode first = list().children.front();
-    EXPECT_EQ(first.role, Role::ListItem);
+    EXPECT_EQ(first.role, Role::CheckBox) << "of others it is not said whether they are ticked";
     EXPECT_EQ(first.name, QStringLiteral("item 2"));
     EXPECT_EQ(first.description, QStringLiteral("Text, 5 characters, 3 of 8"));
     EXPECT_TRUE(first.isChecked);
@@ -103,6 +103,43 @@ TEST_F(AccessibleBarTest, SelectAllSaysHowManyAreSelected)
     selection.insert(items.at(1).id());
     view.apply(items, selection, 0);
     EXPECT_TRUE(named(QStringLiteral("Select all")).isChecked);
+}
+
+TEST_F(AccessibleBarTest, HowManyAreSelectedIsSaidOnceAfterAllOfThemWereAskedFor)
+{
+    show(3, 0);
+    view.onToggleSelectAll = [this] {
+        for (const DropItem &item : items)
+            selection.insert(item.id());
+        view.apply(items, selection, 0);
+    };
+    EXPECT_EQ(desk.panel.announced, QStringList());
+    view.keyDown({TypedKey::A, Modifier::Command, false});
+    EXPECT_EQ(desk.panel.announced, QStringList{QStringLiteral("3 of 3 selected")});
+    view.apply(items, selection, 0);
+    EXPECT_EQ(desk.panel.announced.size(), 1);
+    press(named(QStringLiteral("Select all")).key);
+    EXPECT_EQ(desk.panel.announced.size(), 2);
+}
+
+TEST_F(AccessibleBarTest, OfTilesThatAreTickedNothingIsSaidBesideTheirTick)
+{
+    show(3, 0);
+    view.onToggleItem = [this](const DropItem &item) {
+        selection.insert(item.id());
+        view.apply(items, selection, 0);
+    };
+    press(list().children.at(1).key);
+    EXPECT_EQ(desk.panel.announced, QStringList());
+}
+
+TEST_F(AccessibleBarTest, ABarThatWasHiddenMeanwhileSaysNothingWhenItIsShownAgain)
+{
+    show(3, 0);
+    view.keyDown({TypedKey::A, Modifier::Command, false});
+    view.wasHidden();
+    view.apply(items, selection, 0);
+    EXPECT_EQ(desk.panel.announced, QStringList());
 }
 
 TEST_F(AccessibleBarTest, WhatWouldDoNothingIsDisabled)
