@@ -219,11 +219,11 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                   .motion = motionPreference,
                   .screenLocator = desktop.screenLocator,
                   .abilities = desktop.abilities,
+                  .queue = mainQueue,
                   .appInfo = AppInfo::builtIn(),
                   .updater = updates.updater(),
                   .isKeptUpToDateByOthers = installation.kind == Installation::Kind::Managed},
-               .activation = desktop.windowActivation,
-               .queue = mainQueue})
+               .activation = desktop.windowActivation})
     , delegate({.dragWatch = desktop.dragWatch,
                 .hotKeys = hotKeys,
                 .shortcuts = shortcuts,

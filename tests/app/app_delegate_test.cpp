@@ -166,10 +166,10 @@ protected:
     FakeDesktopServices desktopServices;
     FakeWindowActivation activation;
     SessionAbilities abilities;
-    ShellWindows windows{{{settings, loginItems, shortcuts, keyMonitors, hotKeyService,
-                           desktopServices, desk.motion, locator, abilities, AppInfo({})},
-                          activation,
-                          desk.clock}};
+    ShellWindows windows{
+        {{settings, loginItems, shortcuts, keyMonitors, hotKeyService, desktopServices, desk.motion,
+          locator, abilities, desk.clock, AppInfo({})},
+         activation}};
     StartedUpdater updater{settings};
     std::optional<HUDController> hud;
     std::optional<EdgeSummoner> edge;

@@ -24,10 +24,7 @@ protected:
         deletePending();
     }
 
-    void launch()
-    {
-        windows.emplace(ShellWindows::Context{desk.context(), activation, desk.clock});
-    }
+    void launch() { windows.emplace(ShellWindows::Context{desk.context(), activation}); }
 
     PreferencesDesk desk;
     FakeWindowActivation activation;

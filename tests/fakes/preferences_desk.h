@@ -34,6 +34,7 @@ struct PreferencesDesk {
                 .motion = motion,
                 .screenLocator = screens.locator,
                 .abilities = abilities,
+                .queue = clock,
                 .appInfo = info,
                 .updater = updater,
                 .isKeptUpToDateByOthers = isKeptUpToDateByOthers};

@@ -46,7 +46,8 @@ private:
 
 public:
     WelcomeWindowController controller{
-        {m_desk.motion, m_desk.abilities, m_desk.settings, m_desk.binder}, m_desk.screens.locator};
+        {m_desk.motion, m_desk.abilities, m_desk.settings, m_desk.binder, m_desk.clock},
+        m_desk.screens.locator};
 };
 
 class UpdateStage : public WindowStage {

@@ -2,6 +2,7 @@
 
 #include "app/look/window_look.h"
 
+#include <QAccessibleWidget>
 #include <QEvent>
 #include <QPainter>
 #include <QStyle>
@@ -25,6 +26,44 @@ bool isJoined(const QString &text)
     });
 }
 
+/// For assistive programs. Labels are read when their window opens, and when the keyboard comes to
+/// their group; paragraphs are not.
+class SpokenLabel : public QAccessibleWidget {
+public:
+    explicit SpokenLabel(TextLabel &label)
+        : QAccessibleWidget(&label)
+        , m_label(label)
+    {
+    }
+
+    static void install()
+    {
+        static const bool isInstalled = [] {
+            QAccessible::installFactory(
+                [](const QString &, QObject *object) -> QAccessibleInterface * {
+                    auto *const label = qobject_cast<TextLabel *>(object);
+                    // The toolkit keeps it, and deletes it along with the label.
+                    return label ? new SpokenLabel(*label) : nullptr;
+                });
+            return true;
+        }();
+        Q_UNUSED(isInstalled)
+    }
+
+    QAccessible::Role role() const override
+    {
+        return m_label.isSaidByControl() ? QAccessible::Paragraph : QAccessible::StaticText;
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        const QString own = QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name && own.isEmpty() ? m_label.text() : own;
+    }
+
+private:
+    TextLabel &m_label;
+};
+
 QFont spread(QFont font)
 {
     font.setLetterSpacing(QFont::AbsoluteSpacing, headingTracking);
@@ -34,10 +73,14 @@ QFont spread(QFont font)
 } // namespace
 
 TextLabel::TextLabel(const QString &text, const QFont &font, Tone tone, QWidget *parent)
-    : QLabel(text, parent)
+    : QLabel(parent)
     , m_tone(tone)
 {
+    SpokenLabel::install();
     setTextFormat(Qt::PlainText);
+    // Here and not in the toolkit's constructor, where nobody could see yet what kind of label it
+    // is, and its part for assistive programs would be made and kept.
+    setText(text);
     setFont(tone == Tone::Heading && !isJoined(text) ? spread(font) : font);
     applyTone();
 }

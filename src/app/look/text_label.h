@@ -19,6 +19,11 @@ public:
 
     TextLabel(const QString &text, const QFont &font, Tone tone, QWidget *parent = nullptr);
 
+    /// A control has the text as its name or description. Screen readers say it there, and not
+    /// among what they read as the window opens.
+    void setSaidByControl(bool isSaid) { m_isSaidByControl = isSaid; }
+    bool isSaidByControl() const { return m_isSaidByControl; }
+
 protected:
     void changeEvent(QEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
@@ -28,6 +33,7 @@ private:
     void drawLinesFromTheRight();
 
     Tone m_tone;
+    bool m_isSaidByControl = false;
 };
 
 } // namespace corvane

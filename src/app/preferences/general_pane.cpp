@@ -87,10 +87,16 @@ PreferenceSection *GeneralPane::makeShelfSection()
     auto *picker = new NumberPicker(Settings::minimumInViewCount, Settings::maximumInViewCount,
                                     title, m_look);
     picker->setNumber(m_context.settings.inViewCount());
-    auto *row = new SettingRow(title, inViewDetail(picker->number()), {picker}, m_look);
-    connect(picker, &NumberPicker::picked, this, [this, row](int count) {
+    auto *row = new SettingRow(title, {}, {picker}, m_look);
+    const auto describe = [row, picker] {
+        const QString detail = inViewDetail(picker->number());
+        row->setDetail(detail);
+        picker->setAccessibleDescription(detail);
+    };
+    describe();
+    connect(picker, &NumberPicker::picked, this, [this, describe](int count) {
         m_context.settings.setInViewCount(count);
-        row->setDetail(inViewDetail(count));
+        describe();
     });
     section->addRow(row);
     return section;
@@ -139,11 +145,12 @@ SettingRow *GeneralPane::makeSwitchRow(const QString &title, const QString &deta
 PreferenceSection *GeneralPane::makeShortcutsSection()
 {
     Settings &settings = m_context.settings;
+    const ShortcutRow::Context listening{m_context.keyMonitors, m_context.hotKeys, m_context.queue};
     auto *section = new PreferenceSection(tr("Shortcuts"), m_look);
 
     m_shelfShortcut = new ShortcutRow(tr("Show or hide the shelf"),
                                       tr("Needs ⌘, ⌥ or ⌃. Clear it to use the menu bar only."),
-                                      m_context.keyMonitors, m_context.hotKeys, m_look);
+                                      listening, m_look);
     m_shelfShortcut->setShortcut(settings.shortcut());
     m_shelfShortcut->onChange = [this](const std::optional<Shortcut> &shortcut) {
         m_context.settings.setShortcut(shortcut);
@@ -153,7 +160,7 @@ PreferenceSection *GeneralPane::makeShortcutsSection()
 
     m_viewAllShortcut = new ShortcutRow(tr("Show or hide all items"),
                                         tr("Unset by default. ↓ on the shelf does the same thing."),
-                                        m_context.keyMonitors, m_context.hotKeys, m_look);
+                                        listening, m_look);
     m_viewAllShortcut->setShortcut(settings.viewAllShortcut());
     m_viewAllShortcut->onChange = [this](const std::optional<Shortcut> &shortcut) {
         m_context.settings.setViewAllShortcut(shortcut);
@@ -224,8 +231,11 @@ PreferenceSection *GeneralPane::makeUpdatesSection()
     auto *row = new SettingRow(title, detail, {checkNow, control}, m_look);
     section->addRow(row);
     if (updater) {
-        const auto show = [row, &notices = updater->notices()] {
-            row->setDetail(notices.now() ? UpdateTexts::explanation(*notices.now()) : QString());
+        const auto show = [row, control, &notices = updater->notices()] {
+            const QString text
+                = notices.now() ? UpdateTexts::explanation(*notices.now()) : QString();
+            row->setDetail(text);
+            control->setAccessibleDescription(text);
         };
         show();
         m_notices = updater->notices().observe(show);

@@ -40,7 +40,6 @@ NumberPicker::NumberPicker(int minimum, int maximum, const QString &name, const 
         auto *button
             = new ChoiceButton(shownNumber(number),
                                {fontSize, horizontalPadding, verticalPadding, buttonWidth}, m_look);
-        button->setAccessibleDescription(name);
         m_group->addButton(button, number);
         layout->addWidget(button);
     }

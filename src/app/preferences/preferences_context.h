@@ -8,6 +8,7 @@ class DesktopServices;
 class HotKeyService;
 class KeyMonitors;
 class LoginItems;
+class MainQueue;
 class MotionPreference;
 class ScreenLocator;
 class SessionAbilities;
@@ -26,6 +27,7 @@ struct PreferencesContext {
     const MotionPreference &motion;
     const ScreenLocator &screenLocator;
     SessionAbilities &abilities;
+    MainQueue &queue;
     AppInfo appInfo;
     /// Null where this build does not know where to look for updates, or where others keep it up
     /// to date.

@@ -29,6 +29,7 @@ SettingRow::SettingRow(const QString &title, const QString &detail,
     texts->setSpacing(look.length(betweenTexts));
     m_title->setWordWrap(true);
     m_detail->setWordWrap(true);
+    setHasControls(true);
     texts->addStretch();
     texts->addWidget(m_title);
     texts->addWidget(m_detail);
@@ -44,6 +45,12 @@ SettingRow::SettingRow(const QString &title, const QString &detail,
     for (QWidget *control : controls)
         layout->addWidget(control, 0, Qt::AlignVCenter);
     setDetail(detail);
+}
+
+void SettingRow::setHasControls(bool hasControls)
+{
+    for (TextLabel *text : {m_title, m_detail})
+        text->setSaidByControl(hasControls);
 }
 
 QString SettingRow::title() const

@@ -8,7 +8,8 @@ namespace corvane {
 
 class TextLabel;
 
-/// A title and an explanation on the left, controls at the right.
+/// A title and an explanation on the left, controls at the right, which have them as their names
+/// and descriptions.
 class SettingRow : public QWidget {
     Q_OBJECT
 
@@ -20,6 +21,10 @@ public:
     QString title() const;
     QString detail() const;
     void setDetail(const QString &detail);
+
+protected:
+    /// Whether any of the controls is there; otherwise screen readers have to say the texts.
+    void setHasControls(bool hasControls);
 
 private:
     TextLabel *m_title;

@@ -3,6 +3,7 @@
 #include "app/look/focus_ring.h"
 #include "app/preferences/shortcut_recorder_accessible.h"
 #include "core/display_text.h"
+#include "platform/qt/desktop/window_roles.h"
 
 #include <QAccessible>
 #include <QFontMetricsF>
@@ -41,9 +42,11 @@ QColor warningRed(const QPalette &palette)
 } // namespace
 
 ShortcutRecorderView::ShortcutRecorderView(KeyMonitors &monitors, HotKeyService &hotKeys,
-                                           QWidget *parent)
+                                           MainQueue &queue, QWidget *parent)
     : QWidget(parent)
+    , m_queue(queue)
     , m_recorder(monitors, hotKeys)
+    , m_told(text())
 {
     ShortcutRecorderAccessible::install();
     setFocusPolicy(Qt::StrongFocus);
@@ -185,10 +188,19 @@ void ShortcutRecorderView::changed()
         giveKeyboardBack();
     setToolTip(elidedText() == text() ? QString() : text());
     update();
-    if (QAccessible::isActive()) {
-        QAccessibleEvent event(this, QAccessible::NameChanged);
-        QAccessible::updateAccessibility(&event);
-    }
+    tell();
+}
+
+/// The recorder asks to be drawn more often than its text changes.
+void ShortcutRecorderView::tell()
+{
+    const QString now = text();
+    if (std::exchange(m_told, now) == now)
+        return;
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+    if (isRecording() || hasFocus())
+        announceIn(*this, now, m_queue);
 }
 
 } // namespace corvane

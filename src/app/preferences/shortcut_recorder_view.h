@@ -10,16 +10,19 @@
 
 namespace corvane {
 
+class MainQueue;
+
 /// The field in which the user changes a shortcut: a click, Space or Return, then the combination.
 ///
 /// While it waits for the combination, no other part of the window gets a key, and no other program
-/// either. The combination is shown in red where it could not be registered. What it is given must
-/// outlive it.
+/// either. The combination is shown in red where it could not be registered. Screen readers say
+/// what comes to stand in it while the user is there. What it is given must outlive it.
 class ShortcutRecorderView : public QWidget {
     Q_OBJECT
 
 public:
-    ShortcutRecorderView(KeyMonitors &monitors, HotKeyService &hotKeys, QWidget *parent = nullptr);
+    ShortcutRecorderView(KeyMonitors &monitors, HotKeyService &hotKeys, MainQueue &queue,
+                         QWidget *parent = nullptr);
     ~ShortcutRecorderView() override;
 
     const std::optional<Shortcut> &shortcut() const { return m_recorder.shortcut(); }
@@ -55,9 +58,13 @@ private:
     void takeKeyboard();
     void giveKeyboardBack();
     void changed();
+    void tell();
 
+    MainQueue &m_queue;
     WindowLook m_look;
     ShortcutRecorder m_recorder;
+    /// What screen readers know to stand in it.
+    QString m_told;
     /// Set when the field got the focus by a key; after a click no ring is needed.
     bool m_showsFocus = false;
 };

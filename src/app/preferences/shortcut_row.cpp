@@ -4,6 +4,7 @@
 #include "app/preferences/clear_button.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "core/display_text.h"
+#include "platform/qt/desktop/window_roles.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -18,19 +19,21 @@ constexpr QSize copySize{64, 26};
 
 } // namespace
 
-ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail, KeyMonitors &keyMonitors,
-                         HotKeyService &hotKeys, const WindowLook &look)
-    : ShortcutRow(title, usualDetail, new ShortcutRecorderView(keyMonitors, hotKeys),
+ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail, const Context &context,
+                         const WindowLook &look)
+    : ShortcutRow(title, usualDetail, context.queue,
+                  new ShortcutRecorderView(context.keyMonitors, context.hotKeys, context.queue),
                   new ClearButton(look), new ActionButton(tr("Copy"), copyTextSize, copySize, look),
                   look)
 {
 }
 
-ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail,
+ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail, MainQueue &queue,
                          ShortcutRecorderView *recorder, ClearButton *clear, ActionButton *copy,
                          const WindowLook &look)
     : SettingRow(title, usualDetail, {recorder, clear, copy}, look)
     , m_usualDetail(usualDetail)
+    , m_queue(queue)
     , m_recorder(recorder)
     , m_clear(clear)
     , m_copy(copy)
@@ -87,26 +90,40 @@ QString ShortcutRow::detailFor(const ShortcutOutcome &outcome) const
 
 void ShortcutRow::setOutcome(const ShortcutOutcome &outcome)
 {
-    const QString detail = detailFor(outcome);
+    const QString text = detailFor(outcome);
     m_recorder->setConflict(outcome.isRefused());
     for (QWidget *control : QList<QWidget *>{m_recorder, m_clear, m_copy})
-        control->setAccessibleDescription(detail);
-    setDetail(detail);
+        control->setAccessibleDescription(text);
+    // The keyboard stays on the field, whose description is not said again.
+    const bool isNews = outcome.isRefused() && (text != detail() || m_isNew);
+    setDetail(text);
+    if (isNews && isVisible()) {
+        m_isNew = false;
+        announceIn(*this, text, m_queue);
+    }
     const bool isCommand = outcome.kind == ShortcutOutcome::Kind::SetInDesktop;
     const QString &line = outcome.settingsLine;
     m_copied = isCommand ? (line.isEmpty() ? outcome.text : line) : QString();
     m_copy->setVisible(isCommand);
+    findWhatIsThere();
+}
+
+void ShortcutRow::findWhatIsThere()
+{
+    setHasControls(!m_recorder->isHidden() || !m_copy->isHidden());
 }
 
 void ShortcutRow::setRecordable(bool recordable)
 {
     m_recorder->setVisible(recordable);
     m_clear->setVisible(recordable);
+    findWhatIsThere();
 }
 
 void ShortcutRow::change(const std::optional<Shortcut> &shortcut)
 {
     setShortcut(shortcut);
+    m_isNew = shortcut.has_value();
     if (onChange)
         onChange(shortcut);
 }

@@ -13,6 +13,7 @@ class ActionButton;
 class ClearButton;
 class HotKeyService;
 class KeyMonitors;
+class MainQueue;
 class ShortcutRecorderView;
 
 /// A row for one global shortcut: a field that records it, a button that clears it, and what has
@@ -21,15 +22,21 @@ class ShortcutRow : public SettingRow {
     Q_OBJECT
 
 public:
-    /// `usualDetail` stands under the title as long as there is nothing else to say. `keyMonitors`
-    /// and `hotKeys` must outlive it.
-    ShortcutRow(const QString &title, const QString &usualDetail, KeyMonitors &keyMonitors,
-                HotKeyService &hotKeys, const WindowLook &look);
+    /// What its field listens to. Everything must outlive the row.
+    struct Context {
+        KeyMonitors &keyMonitors;
+        HotKeyService &hotKeys;
+        MainQueue &queue;
+    };
+
+    /// `usualDetail` stands under the title as long as there is nothing else to say.
+    ShortcutRow(const QString &title, const QString &usualDetail, const Context &context,
+                const WindowLook &look);
 
     const std::optional<Shortcut> &shortcut() const { return m_shortcut; }
     void setShortcut(const std::optional<Shortcut> &shortcut);
-    /// What has become of the shown combination. Where the user binds keys to a command, it can be
-    /// copied.
+    /// What has become of the shown combination. Screen readers say that one was refused. Where the
+    /// user binds keys to a command, it can be copied.
     void setOutcome(const ShortcutOutcome &outcome);
     /// Whether it is chosen here; otherwise there is nothing to click.
     void setRecordable(bool recordable);
@@ -38,18 +45,23 @@ public:
     std::function<void(const std::optional<Shortcut> &)> onChange;
 
 private:
-    ShortcutRow(const QString &title, const QString &usualDetail, ShortcutRecorderView *recorder,
-                ClearButton *clear, ActionButton *copy, const WindowLook &look);
+    ShortcutRow(const QString &title, const QString &usualDetail, MainQueue &queue,
+                ShortcutRecorderView *recorder, ClearButton *clear, ActionButton *copy,
+                const WindowLook &look);
     QString detailFor(const ShortcutOutcome &outcome) const;
     void change(const std::optional<Shortcut> &shortcut);
+    void findWhatIsThere();
 
     QString m_usualDetail;
+    MainQueue &m_queue;
     ShortcutRecorderView *m_recorder;
     ClearButton *m_clear;
     ActionButton *m_copy;
     /// Empty where there is nothing to copy.
     QString m_copied;
     std::optional<Shortcut> m_shortcut;
+    /// The user has recorded it and has not been told of a refusal yet.
+    bool m_isNew = false;
 };
 
 } // namespace corvane

@@ -9,6 +9,7 @@
 #include "core/settings.h"
 #include "input/shortcut_binder.h"
 #include "platform/desktop/abilities.h"
+#include "platform/qt/desktop/window_roles.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -123,6 +124,24 @@ void WelcomeView::showStep(int step)
                                                  : tr("Goes to the next step"));
 }
 
+/// The keyboard stays on the button, so screen readers say nothing by themselves.
+void WelcomeView::turnTo(int step)
+{
+    showStep(step);
+    announceIn(*this, spoken(), m_context.queue);
+}
+
+/// All that is read on the step that is shown. Only titles end without a full stop.
+QString WelcomeView::spoken() const
+{
+    QStringList texts;
+    for (const TextLabel *text : {m_body, m_limit, m_keys}) {
+        if (!text->text().isEmpty())
+            texts << text->text();
+    }
+    return m_indicator->accessibleName() + u": " + m_title->text() + u". " + texts.join(u' ');
+}
+
 QString WelcomeView::limitOf(WelcomeStep step) const
 {
     switch (step) {
@@ -150,13 +169,13 @@ QString WelcomeView::shortcutKeys() const
 void WelcomeView::goBack()
 {
     if (m_step > 0)
-        showStep(m_step - 1);
+        turnTo(m_step - 1);
 }
 
 void WelcomeView::goForward()
 {
     if (!isLast())
-        showStep(m_step + 1);
+        turnTo(m_step + 1);
     else if (m_onClose)
         m_onClose();
 }

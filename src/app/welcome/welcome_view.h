@@ -12,6 +12,7 @@ namespace corvane {
 
 class ActionButton;
 class IllustrationView;
+class MainQueue;
 class MotionPreference;
 class PageIndicator;
 class SessionAbilities;
@@ -20,8 +21,8 @@ class ShortcutBinder;
 class TextLabel;
 
 /// The guide: a picture, a title and a text for each step, and buttons to go through them. Where
-/// the session is not able to do what a step describes, the step says that, too. What `context`
-/// refers to must outlive it.
+/// the session is not able to do what a step describes, the step says that, too. Screen readers say
+/// a step as people turn to it. What `context` refers to must outlive it.
 class WelcomeView : public QWidget {
     Q_OBJECT
 
@@ -31,6 +32,7 @@ public:
         SessionAbilities &abilities;
         const Settings &settings;
         ShortcutBinder &shortcuts;
+        MainQueue &queue;
     };
 
     WelcomeView(const Context &context, std::function<void()> onClose, QWidget *parent = nullptr);
@@ -49,6 +51,8 @@ protected:
 private:
     QWidget *makeButtons();
     void showStep(int step);
+    void turnTo(int step);
+    QString spoken() const;
     QString limitOf(WelcomeStep step) const;
     QString shortcutKeys() const;
     bool isLast() const;

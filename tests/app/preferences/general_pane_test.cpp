@@ -1,3 +1,4 @@
+#include "app/announced_texts.h"
 #include "app/base/session_texts.h"
 #include "app/look/action_button.h"
 #include "app/look/text_label.h"
@@ -188,6 +189,32 @@ TEST_F(GeneralPaneTest, ATakenCombinationIsSaidAndAFreeOneRestoresTheText)
     EXPECT_EQ(shelfRow().detail(), needsText);
     EXPECT_FALSE(shelfRow().findChild<ShortcutRecorderView *>()->hasConflict());
     EXPECT_TRUE(desk.hotKeys.isRegistered({keyB, Shortcut::control}));
+}
+
+TEST_F(GeneralPaneTest, ARefusalIsSaidEachTimeThatSomethingWasRecorded)
+{
+    desk.hotKeys.takenByOthers.insert({keyA, Shortcut::control});
+    desk.hotKeys.takenByOthers.insert({keyB, Shortcut::control});
+    pane().show();
+    ASSERT_TRUE(activate(pane()));
+    record(shelfRow(), keyA, "a");
+    EXPECT_EQ(announcedIn(pane()).count(conflictText), 1);
+    record(shelfRow(), keyB, "b");
+    EXPECT_EQ(announcedIn(pane()).count(conflictText), 2);
+    desk.binder.retryRefused();
+    EXPECT_EQ(announcedIn(pane()).count(conflictText), 2) << "nothing has changed";
+    desk.hotKeys.takenByOthers.clear();
+    desk.binder.retryRefused();
+    EXPECT_EQ(announcedIn(pane()).last(), conflictText) << "that it works is seen by using it";
+}
+
+TEST_F(GeneralPaneTest, WhatWasRefusedBeforeItIsShownIsNotSaidAtOnce)
+{
+    desk.hotKeys.takenByOthers.insert({KeyPosition::D, Shortcut::command | Shortcut::shift});
+    desk.binder.bindShelf();
+    EXPECT_EQ(shelfRow().detail(), conflictText);
+    pane().show();
+    EXPECT_EQ(announcedIn(pane()), QStringList()) << "the field has it as its description";
 }
 
 TEST_F(GeneralPaneTest, ACombinationThatIsFreedWhileThePaneIsOpenIsShownToBeBound)
@@ -478,8 +505,54 @@ TEST_F(GeneralPaneTest, EveryControlHasANameAndADescription)
     for (const auto *control : controls) {
         const QString name = control->accessibleName() + control->text();
         EXPECT_FALSE(name.isEmpty());
-        EXPECT_FALSE(control->accessibleDescription().isEmpty()) << name.toStdString();
+        const auto *group = qobject_cast<const NumberPicker *>(control->parentWidget());
+        const QWidget *described = group ? static_cast<const QWidget *>(group) : control;
+        EXPECT_FALSE(described->accessibleDescription().isEmpty()) << name.toStdString();
     }
+}
+
+TEST_F(GeneralPaneTest, WhatANumberIsForIsSaidByItsGroupAlone)
+{
+    EXPECT_EQ(picker().accessibleName(), QStringLiteral("Items in view"));
+    EXPECT_EQ(pickButton(1)->accessibleDescription(), QString());
+    EXPECT_EQ(picker().accessibleDescription(), row("Items in view").detail());
+    pick(2);
+    EXPECT_EQ(picker().accessibleDescription(),
+              QStringLiteral("2 thumbnails at once, with arrows for the rest."));
+}
+
+/// Screen readers read labels when the window opens, and once more with their group.
+TEST_F(GeneralPaneTest, TextsThatAControlSaysAreNoLabels)
+{
+    const auto roleOf
+        = [](QWidget *widget) { return QAccessible::queryAccessibleInterface(widget)->role(); };
+    const auto texts = row("Launch at login").findChildren<TextLabel *>();
+    ASSERT_EQ(texts.size(), 2);
+    for (TextLabel *text : texts) {
+        EXPECT_EQ(roleOf(text), QAccessible::Paragraph) << text->text().toStdString();
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(text)->text(QAccessible::Name),
+                  text->text());
+    }
+    EXPECT_EQ(switchOf("Launch at login").accessibleDescription(), texts[1]->text());
+    for (TextLabel *heading : pane().findChildren<TextLabel *>()) {
+        const bool isInRow = qobject_cast<SettingRow *>(heading->parentWidget()) != nullptr;
+        EXPECT_EQ(roleOf(heading), isInRow ? QAccessible::Paragraph : QAccessible::StaticText)
+            << heading->text().toStdString();
+    }
+}
+
+TEST_F(GeneralPaneTest, TextsOfAShortcutThatIsNotChosenHereAreLabels)
+{
+    const auto roleOfTitle = [this] {
+        auto *const title = shelfRow().findChildren<TextLabel *>().constFirst();
+        return QAccessible::queryAccessibleInterface(title)->role();
+    };
+    EXPECT_EQ(roleOfTitle(), QAccessible::Paragraph);
+    desk.abilities.become(lackingAbilities(Reason::KeptByDesktop));
+    EXPECT_EQ(roleOfTitle(), QAccessible::StaticText) << "there is no control";
+    desk.hotKeys.firstAnswer = ShortcutOutcome::setInDesktop(QStringLiteral("corvane --toggle"));
+    desk.binder.bindShelf();
+    EXPECT_EQ(roleOfTitle(), QAccessible::Paragraph) << "the command can be copied";
 }
 
 TEST_F(GeneralPaneTest, TabComesToTheChosenNumberAndPassesTheOthers)

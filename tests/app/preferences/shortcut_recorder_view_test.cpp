@@ -1,7 +1,10 @@
+#include "app/announced_texts.h"
 #include "app/look/window_look.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "fakes/fake_hot_keys.h"
 #include "fakes/fake_key_monitors.h"
+#include "fakes/test_clock.h"
+#include "platform/qt/desktop/announcements.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -73,10 +76,11 @@ protected:
 
     FakeKeyMonitors keys;
     FakeHotKeys hotKeys;
+    TestClock clock;
     QWidget window;
     // The window owns them.
-    ShortcutRecorderView *view = new ShortcutRecorderView(keys, hotKeys);
-    ShortcutRecorderView *other = new ShortcutRecorderView(keys, hotKeys);
+    ShortcutRecorderView *view = new ShortcutRecorderView(keys, hotKeys, clock);
+    ShortcutRecorderView *other = new ShortcutRecorderView(keys, hotKeys, clock);
     QStringList changes;
 };
 
@@ -258,6 +262,25 @@ TEST_F(ShortcutRecorderViewTest, IsAButtonForWhoHearsTheScreen)
     EXPECT_TRUE(accessible->state().focusable);
     accessible->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
     EXPECT_TRUE(view->isRecording());
+}
+
+TEST_F(ShortcutRecorderViewTest, WhatComesToStandInItIsSaidOnceWhileTheUserIsThere)
+{
+    view->setShortcut(shiftCommandD);
+    EXPECT_EQ(announcedIn(window), QStringList()) << "nobody has used it";
+    view->setFocus();
+    type(Qt::Key_Space);
+    const QString prompt = QStringLiteral("Type a shortcut…");
+    EXPECT_EQ(announcedIn(window), QStringList{prompt});
+    keys.type(keyA, Modifier::Control, QStringLiteral("a"));
+    view->setConflict(true);
+    view->setShortcut(view->shortcut());
+    EXPECT_EQ(announcedIn(window), (QStringList{prompt, QStringLiteral("Ctrl+A")}));
+    type(Qt::Key_Space);
+    clock.advance(Announcements::duration);
+    other->setFocus();
+    EXPECT_EQ(announcedIn(window), QStringList()) << "the next field is said instead";
+    EXPECT_EQ(view->text(), QStringLiteral("Ctrl+A"));
 }
 
 TEST_F(ShortcutRecorderViewTest, ShowsTheFocusThatCameByTheKeyboard)

@@ -19,6 +19,7 @@
 #include "fakes/shelf_model.h"
 #include "fakes/user_screens.h"
 #include "platform/freedesktop/autostart_login_items.h"
+#include "platform/qt/desktop/announcements.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -209,10 +210,13 @@ TextTable textsOfTheGuide()
         PreferencesDesk desk;
         const auto addSteps = [&](const char *heading) {
             WelcomeWindowController controller(
-                {desk.motion, desk.abilities, desk.settings, desk.binder}, desk.screens.locator);
+                {desk.motion, desk.abilities, desk.settings, desk.binder, desk.clock},
+                desk.screens.locator);
             controller.window().present();
             for (int step = 1; step <= 3; ++step) {
                 table.add(QString::fromLatin1(heading).arg(step), spokenTexts(controller.window()));
+                // What was said of the step before can be read no longer.
+                desk.clock.advance(Announcements::duration);
                 if (step < 3)
                     controller.view().goForward();
             }

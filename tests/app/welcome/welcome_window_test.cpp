@@ -1,3 +1,4 @@
+#include "app/announced_texts.h"
 #include "app/base/session_texts.h"
 #include "app/base/translations.h"
 #include "app/look/text_label.h"
@@ -44,7 +45,8 @@ protected:
     void make()
     {
         controller = std::make_unique<WelcomeWindowController>(
-            WelcomeView::Context{motion, abilities, desk.settings, desk.binder}, screens.locator);
+            WelcomeView::Context{motion, abilities, desk.settings, desk.binder, desk.clock},
+            screens.locator);
         controller->onClose = [this] { ++closed; };
     }
     ShellWindow &window() { return controller->window(); }
@@ -95,6 +97,26 @@ TEST_F(WelcomeWindowTest, AStepSaysThatTheSessionCannotDoWhatItDescribes)
     EXPECT_EQ(note(), session_texts::limit(lacking.keepingKey));
     abilities.become({});
     EXPECT_EQ(note(), QString());
+}
+
+TEST_F(WelcomeWindowTest, AStepIsSaidAsOneTurnsToIt)
+{
+    abilities.become(lackingAbilities(Reason::KeptByDesktop));
+    window().present();
+    EXPECT_EQ(announcedIn(window()), QStringList()) << "it is read with the window";
+    button("Next")->click();
+    const auto texts = window().findChildren<TextLabel *>();
+    ASSERT_EQ(texts.size(), 4);
+    EXPECT_EQ(announcedIn(window()),
+              QStringList{QStringLiteral("Step 2 of 3: Drag it back out when you arrive. ")
+                          + texts[1]->text() + u' ' + texts[2]->text() + u' ' + texts[3]->text()});
+    abilities.become({});
+    EXPECT_EQ(announcedIn(window()).size(), 1) << "it is the same step";
+    button("Next")->click();
+    EXPECT_EQ(announcedIn(window()).last(),
+              QStringLiteral("Step 3 of 3: Hold ⇧ to keep it on the shelf. ") + texts[1]->text());
+    button("Back")->click();
+    EXPECT_TRUE(announcedIn(window()).last().startsWith(QStringLiteral("Step 2 of 3: ")));
 }
 
 TEST_F(WelcomeWindowTest, TheStepOnKeysNamesThoseThatOpenTheShelf)
