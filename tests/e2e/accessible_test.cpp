@@ -1,5 +1,6 @@
 // The shelf, its bar and the windows as screen readers have them, and used through those alone.
 
+#include "e2e/desktop/rival.h"
 #include "e2e/desktop/screen_reader.h"
 #include "e2e/desktop_test.h"
 
@@ -17,9 +18,10 @@ protected:
         DesktopTest::SetUp();
         ASSERT_TRUE(m_reader.isReady());
     }
-    void startToBeRead()
+    void startToBeRead(bool hasSeenWelcome = true)
     {
-        CorvaneProgram::Start how{inView, {}, m_desktop.environment()};
+        m_reader.listen();
+        CorvaneProgram::Start how{inView, {}, m_desktop.environment(), hasSeenWelcome};
         ScreenReader::addTo(how.environment);
         start(how);
     }
@@ -75,7 +77,7 @@ TEST_F(Accessible, theShelfIsAListOfItemsThatAreUsedByTheirActions)
     EXPECT_TRUE(last.description.endsWith(u", 4 of 4"_s)) << last.description.toStdString();
     EXPECT_TRUE(last.is(ScreenReader::State::Selected)) << "what came last is focused";
     EXPECT_TRUE(corvane().body().contains(last.frame.center()));
-    EXPECT_EQ(await(u"list"_s, u"Items on the shelf"_s).role, u"list"_s);
+    EXPECT_EQ(await(u"list"_s, u"Items on the shelf: 4"_s).role, u"list"_s);
     EXPECT_EQ(await(u"frame"_s, u"Shelf"_s).role, u"frame"_s);
     EXPECT_FALSE(await(u"push button"_s, u"Later items"_s).is(ScreenReader::State::Sensitive));
 
@@ -107,18 +109,15 @@ TEST_F(Accessible, theBarsTilesAreTickedAndRemoved)
         return box && box->description == u"0 of 3 selected"_s;
     }));
     // The shelf's item has the same name; the bar's is the one that can be ticked.
-    ASSERT_TRUE(eventually([this] {
-        for (const auto &element : m_reader.elements(corvane().program().pid())) {
-            if (element.name == u"b.txt"_s && !m_reader.actions(element).contains(u"Preview"_s))
-                return m_reader.perform(element, u"Press"_s);
-        }
-        return false;
-    }));
+    EXPECT_FALSE(await(u"check box"_s, u"b.txt"_s).is(ScreenReader::State::Checked));
+    ASSERT_TRUE(perform(u"check box"_s, u"b.txt"_s));
+    EXPECT_TRUE(isSoon(ScreenReader::State::Checked, u"check box"_s, u"b.txt"_s));
     EXPECT_TRUE(
         isSoon(ScreenReader::State::Sensitive, u"push button"_s, u"Remove the selected items"_s));
     ASSERT_TRUE(perform(u"push button"_s, u"Remove the selected items"_s));
     EXPECT_TRUE(corvane().waitForSize(CorvaneProgram::carousel(inView, 2)));
-    EXPECT_TRUE(eventually([this] { return !find(u"list item"_s, u"b.txt"_s); }));
+    EXPECT_TRUE(eventually(
+        [this] { return !find(u"list item"_s, u"b.txt"_s) && !find(u"check box"_s, u"b.txt"_s); }));
 }
 
 TEST_F(Accessible, theFocusFollowsTheKeyboardThroughShelfAndBar)
@@ -138,6 +137,77 @@ TEST_F(Accessible, theFocusFollowsTheKeyboardThroughShelfAndBar)
     hands().key(keys::escape);
     EXPECT_TRUE(isSoon(State::Focused, u"list item"_s, u"c.txt"_s))
         << "the shelf had the keyboard before the bar";
+}
+
+TEST_F(Accessible, theGuidesStepsAreSaidAsOneTurnsToThem)
+{
+    startToBeRead(false);
+    ASSERT_TRUE(isSoon(ScreenReader::State::Focused, u"push button"_s, u"Next"_s));
+    for (const QString &step : {u"Step 2 of 3: "_s, u"Step 3 of 3: "_s}) {
+        hands().key(keys::enter);
+        EXPECT_TRUE(eventually([&] {
+            const QStringList heard = m_reader.heard();
+            return !heard.isEmpty() && heard.last().startsWith(step);
+        })) << m_reader.heard().join(u'|').toStdString();
+    }
+    EXPECT_EQ(m_reader.heard().size(), 2);
+}
+
+TEST_F(Accessible, theEmptyShelfSaysWhatItIsAndThatItIsHiddenAgain)
+{
+    startToBeRead();
+    EXPECT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(isSoon(ScreenReader::State::Focused, u"label"_s, u"Drop to hold"_s));
+    EXPECT_EQ(await(u"label"_s, u"Drop to hold"_s).description,
+              u"The shelf is empty. Ctrl+V puts what is on the clipboard here."_s);
+    EXPECT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(m_reader.hears(u"The shelf is hidden"_s));
+}
+
+TEST_F(Accessible, whatIsRemovedAndHowManyAreSelectedIsSaid)
+{
+    hold(3);
+    ASSERT_TRUE(perform(u"list item"_s, u"b.txt"_s));
+    ASSERT_TRUE(isSoon(ScreenReader::State::Focused, u"list item"_s, u"b.txt"_s));
+    hands().key(keys::forwardDelete);
+    EXPECT_TRUE(m_reader.hears(u"b.txt was removed; 2 items are left"_s));
+    ASSERT_TRUE(perform(u"push button"_s, u"All items"_s));
+    ASSERT_TRUE(Bar(m_desktop, corvane(), inView).waitForKeyboard());
+    hands().key('a', {keys::control});
+    EXPECT_TRUE(m_reader.hears(u"0 of 2 selected"_s));
+    hands().key('a', {keys::control});
+    EXPECT_TRUE(m_reader.hears(u"2 of 2 selected"_s));
+}
+
+TEST_F(Accessible, aPreviewSaysWhatItShowsAndATextIsReadByArrows)
+{
+    startToBeRead();
+    ASSERT_TRUE(dropFiles({makeFile(u"a.txt"_s, "one\ntwo\nthree\n")}));
+    ASSERT_TRUE(perform(u"list item"_s, u"a.txt"_s));
+    ASSERT_TRUE(isSoon(ScreenReader::State::Focused, u"list item"_s, u"a.txt"_s));
+    hands().key(keys::space);
+    ASSERT_TRUE(isSoon(ScreenReader::State::Focused, u"text"_s, u"Text"_s));
+    const auto text = await(u"text"_s, u"Text"_s);
+    EXPECT_TRUE(text.description.endsWith(u", 14 bytes"_s)) << text.description.toStdString();
+    EXPECT_EQ(m_reader.caret(text), 0);
+    hands().key(keys::down);
+    EXPECT_TRUE(eventually([&] { return m_reader.caret(text) == 4; }));
+}
+
+TEST_F(Accessible, aShortcutIsSaidAsItIsRecordedAndRefused)
+{
+    Rival rival(m_desktop);
+    constexpr xcb_keycode_t positionOfK = 45;
+    ASSERT_TRUE(rival.grab(positionOfK));
+    startToBeRead();
+    ASSERT_TRUE(corvane().activateAction(u"preferences"_s));
+    ASSERT_TRUE(perform(u"push button"_s, u"Show or hide the shelf: Super+Shift+D"_s));
+    ASSERT_TRUE(m_reader.hears(u"Type a shortcut…"_s));
+    hands().key('k', {keys::super, keys::shift});
+    EXPECT_TRUE(m_reader.hears(u"Another app already uses that combination."_s));
+    EXPECT_EQ(m_reader.heard(),
+              (QStringList{u"Type a shortcut…"_s, u"Super+Shift+K"_s,
+                           u"Another app already uses that combination."_s}));
 }
 
 TEST_F(Accessible, thePreferencesAreADialogWhoseTabsShowTheirPanes)

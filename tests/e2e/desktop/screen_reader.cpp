@@ -19,6 +19,7 @@ namespace {
 const auto accessible = u"org.a11y.atspi.Accessible"_s;
 const auto actionInterface = u"org.a11y.atspi.Action"_s;
 const auto connectionName = u"screen reader"_s;
+const auto notification = u"notification"_s;
 
 /// The address of the accessibility bus, which is started when it is first asked for.
 QString addressOn(const XDesktop &desktop)
@@ -197,7 +198,8 @@ std::optional<ScreenReader::Element> ScreenReader::control(qint64 pid, const QSt
                                                            const QString &description) const
 {
     for (const Element &element : elements(pid)) {
-        if (element.role != u"label"_s && element.name.startsWith(name)
+        if (element.role != u"label"_s && element.role != u"paragraph"_s
+            && element.role != notification && element.name.startsWith(name)
             && (description.isEmpty() || element.description == description))
             return element;
     }
@@ -207,8 +209,21 @@ std::optional<ScreenReader::Element> ScreenReader::control(qint64 pid, const QSt
 bool ScreenReader::says(qint64 pid, const QString &text) const
 {
     const QList<Element> all = elements(pid);
-    return std::any_of(all.cbegin(), all.cend(),
-                       [&](const Element &element) { return element.name == text; });
+    return std::any_of(all.cbegin(), all.cend(), [&](const Element &element) {
+        return element.name == text && element.role != notification;
+    });
+}
+
+bool ScreenReader::hears(const QString &text) const
+{
+    return eventually([&] { return heard().contains(text); });
+}
+
+int ScreenReader::caret(const Element &text) const
+{
+    const QVariantList answer = ask(text.place, u"org.freedesktop.DBus.Properties"_s, u"Get"_s,
+                                    {u"org.a11y.atspi.Text"_s, u"CaretOffset"_s});
+    return answer.isEmpty() ? -1 : answer.constFirst().value<QDBusVariant>().variant().toInt();
 }
 
 } // namespace corvane::e2e

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "e2e/desktop/announcement_listener.h"
 #include "e2e/desktop/x_desktop.h"
 
 #include <QDBusConnection>
@@ -8,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 
 namespace corvane::e2e {
@@ -59,8 +61,16 @@ public:
     /// such action.
     bool perform(const Element &element, const QString &action) const;
     QStringList actions(const Element &element) const;
-    /// Whether an element has this text.
+    /// Whether an element has this text that is there to stay.
     bool says(qint64 pid, const QString &text) const;
+    /// From now on programs that are started are listened to.
+    void listen() { m_listener = std::make_unique<AnnouncementListener>(m_bus); }
+    /// Waits until it was told to say this at once.
+    bool hears(const QString &text) const;
+    /// What it was told to say at once, since `listen`.
+    QStringList heard() const { return m_listener->heard(); }
+    /// Where the cursor is in a text, in characters.
+    int caret(const Element &text) const;
 
 private:
     QVariantList ask(const Place &place, const QString &interface, const QString &method,
@@ -73,6 +83,7 @@ private:
     void collect(const Place &place, int depth, QList<Element> &found) const;
 
     QDBusConnection m_bus;
+    std::unique_ptr<AnnouncementListener> m_listener;
 };
 
 } // namespace corvane::e2e
