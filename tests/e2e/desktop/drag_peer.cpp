@@ -95,30 +95,42 @@ void DragPeer::moveByHand(const QRect &frame)
         return isBrowser(m_toolkit) ? !source.isEmpty()
                                     : source.size() == QSize(frame.width() / 2, frame.height());
     };
-    if (eventually(isThere, startOfAProgram)) {
-        Hands &hands = m_desktop.hands();
-        const QPoint from = source.center();
-        hands.moveTo(from);
-        hands.keyDown(keys::super);
-        hands.press();
-        hands.glideTo(from + frame.topLeft() - source.topLeft());
-        // Newer versions of mutter take hold of it where the hand is a moment later.
-        eventually([&] {
-            m_desktop.pictureAtRest({{}, m_desktop.server().size()});
-            if (!isThere())
-                return false;
-            const QPoint missing = frame.topLeft() - source.topLeft();
-            if (!missing.isNull())
-                hands.moveBy(missing);
-            return missing.isNull();
-        });
-        hands.release();
-        hands.keyUp(keys::super);
-    }
+    // A compositor that is still busy with the window's arrival lets nobody take hold of it.
+    if (eventually(isThere, startOfAProgram))
+        eventually([&] { return isThere() && carry(source, frame.topLeft()); });
+    isThere();
     m_frame = QRect(source.topLeft(), frame.size());
     if (m_frame != frame)
-        m_problem
-            = u"the window is not where it should be: "_s + QString::fromUtf8(m_program->output());
+        m_problem = u"the window is not where it should be, but at %1,%2: "_s.arg(source.x())
+                        .arg(source.y())
+            + QString::fromUtf8(m_program->output());
+}
+
+/// Whether its window hangs from the hand, and is then put there.
+bool DragPeer::carry(const QRect &source, QPoint place)
+{
+    // A window follows when the compositor comes to it; one that has not moved for so long hangs
+    // from nothing.
+    constexpr auto aMoment = patience / 10;
+    const auto now = [this] { return sourceInPicture().topLeft(); };
+    Hands &hands = m_desktop.hands();
+    hands.moveTo(source.center());
+    hands.keyDown(keys::super);
+    hands.press();
+    hands.glideTo(source.center() + place - source.topLeft());
+    QPoint before = source.topLeft();
+    bool follows = true;
+    eventually([&] {
+        follows = before == place || eventually([&] { return now() != before; }, aMoment);
+        m_desktop.pictureAtRest({{}, m_desktop.server().size()});
+        // Newer versions of mutter take hold of it where the hand is a moment later.
+        before = now();
+        hands.moveBy(place - before);
+        return !follows || before == place;
+    });
+    hands.release();
+    hands.keyUp(keys::super);
+    return follows;
 }
 
 QPoint DragPeer::source() const

@@ -66,6 +66,7 @@ private:
     QRect sourceInPicture() const;
     void placeWindow(const QRect &frame);
     void moveByHand(const QRect &frame);
+    bool carry(const QRect &source, QPoint place);
     void findPage();
     QByteArray lastLine(const QByteArray &beginning);
 
