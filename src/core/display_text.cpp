@@ -36,12 +36,4 @@ QString displayText(const QString &text)
     return shown;
 }
 
-QString withPartsInOrder(QString line, Qt::LayoutDirection direction)
-{
-    // The mark is a letter of that direction which is not seen.
-    if (direction == Qt::RightToLeft)
-        line.replace(u'\u00B7', QStringLiteral("\u00B7\u200F"));
-    return line;
-}
-
 } // namespace corvane

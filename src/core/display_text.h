@@ -12,9 +12,4 @@ namespace corvane {
 /// more than any line has, is cut off.
 QString displayText(const QString &text);
 
-/// A line whose parts stand between middle dots, "PNG · 2 KB", for a reader of that direction: from
-/// right to left its parts keep their order. A number would otherwise go to the Latin letters
-/// before it, away from a unit in letters of its own script.
-QString withPartsInOrder(QString line, Qt::LayoutDirection direction);
-
 } // namespace corvane

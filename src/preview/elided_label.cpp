@@ -1,5 +1,6 @@
 #include "preview/elided_label.h"
 
+#include "platform/desktop/parts_in_order.h"
 #include "preview/preview_look.h"
 
 #include <QAccessibleWidget>
@@ -107,7 +108,8 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     int y = (rect().height() - height * static_cast<int>(shown.size())) / 2;
     for (const QString &line : shown) {
         painter.drawText(QRect(0, y, width(), height),
-                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, line);
+                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                         withPartsInOrder(line, layoutDirection()));
         y += height;
     }
 }

@@ -55,6 +55,20 @@ TEST(ElidedLabelTest, LeavesTheMiddleOfItsLastLineAway)
     EXPECT_EQ(label.heightForWidth(widthFor(label, 20)), 2 * label.fontMetrics().height());
 }
 
+TEST(ElidedLabelTest, ReadFromRightToLeftTheFirstPartStandsOnTheRight)
+{
+    ElidedLabel label;
+    label.setLayoutDirection(Qt::RightToLeft);
+    label.resize(300, label.fontMetrics().height());
+    const auto atTheRight = [&](const QString &line) {
+        label.setText(line);
+        QRect place = label.rect();
+        place.setLeft(place.right() - label.fontMetrics().horizontalAdvance(u'A'));
+        return label.grab(place).toImage();
+    };
+    EXPECT_EQ(atTheRight(QStringLiteral("A · 992 כ")), atTheRight(QStringLiteral("A · כ")));
+}
+
 TEST(ElidedLabelTest, IsFainterWhereItStandsBehindAnother)
 {
     ElidedLabel label;

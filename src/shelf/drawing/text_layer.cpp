@@ -1,6 +1,7 @@
 #include "shelf/drawing/text_layer.h"
 
 #include "core/display_text.h"
+#include "platform/desktop/parts_in_order.h"
 #include "shelf/drawing/drawing.h"
 
 #include <QFontMetricsF>
