@@ -214,6 +214,17 @@ TEST_F(LayerSessionTest, stripsAreForDragsOnlyWhereTheyAreNotToldOfOrMayGoOn)
     EXPECT_FALSE(session->quiet.mayDragGoOn());
 }
 
+// As long as its X server lasts a session like this one says that drags are noticed everywhere.
+TEST_F(LayerSessionTest, saysSoWhereDragsAreNotToldOfAnyMore)
+{
+    session->quiet.setToldOfDrags(true);
+    session->abilities.become(LayerSession::abilitiesWhere(true, false));
+    ASSERT_TRUE(session->abilities.now().drags.isFull());
+    session->xwaylandDrags.onLost();
+    EXPECT_EQ(session->abilities.now().drags.extent, Drags::AtTheEdge);
+    EXPECT_FALSE(session->quiet.isToldOfDrags());
+}
+
 TEST_F(LayerSessionTest, stripsAreHungAnewWhereTheScreensChange)
 {
     ASSERT_EQ(strips().size(), 1);

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QPoint>
+#include <QRegion>
+#include <QSize>
+#include <QTemporaryDir>
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <thread>
+
+namespace corvane::test {
+
+/// A compositor that shows nothing, and tells what it would show: surfaces as their programs have
+/// committed them, and what was asked of it for a drag. One output, whose pixels are two to a
+/// point; a pointer that a test moves; drags that a test makes. It runs in a thread of its own.
+class FakeCompositor {
+public:
+    static constexpr int scale = 2;
+    /// In points.
+    static constexpr QSize screen{1512, 982};
+
+    FakeCompositor();
+    ~FakeCompositor();
+    FakeCompositor(const FakeCompositor &) = delete;
+    FakeCompositor &operator=(const FakeCompositor &) = delete;
+
+    /// For WAYLAND_DISPLAY; empty if it could not be started.
+    QByteArray socket() const { return m_socket; }
+
+    /// What counts of a surface since its last commit.
+    struct Surface {
+        /// In points. None for one that takes everything.
+        std::optional<QRegion> input;
+        int bufferScale = 1;
+        /// Where its buffer was put in its last commit, from where the one before was.
+        QPoint attachedAt;
+        /// In pixels; empty while it is not shown.
+        QSize buffer;
+
+        // Of those that are hung from the screen's edges, in points.
+        QByteArray label;
+        std::uint32_t layer = 0;
+        std::int32_t zone = 0;
+        QSize size;
+        QPoint margin;
+    };
+    /// All that are shown and hung from the screen's edges with that label, the newest last.
+    QList<Surface> shown(const QByteArray &label = "corvane") const;
+    /// All that are shown and nothing of the screen's: pictures under the pointer, for example.
+    QList<Surface> loose() const { return shown({}); }
+
+    /// The pointer comes with nothing to the newest surface of that label.
+    void point(const QByteArray &label);
+
+    /// A drag of another program.
+    struct Drag {
+        QList<QByteArray> types{"text/plain"};
+        /// Bits of the protocol; none where the compositor does not know yet.
+        std::optional<std::uint32_t> sourceActions = copy;
+    };
+    static constexpr std::uint32_t copy = 1;
+    static constexpr std::uint32_t move = 2;
+    /// What was asked for the last drag that came to somebody.
+    struct Answer {
+        /// The type of the last answer; empty for a refusal, none before the first.
+        std::optional<QByteArray> accepted;
+        std::uint32_t actions = 0;
+        int finishes = 0;
+        bool isGone = false;
+    };
+    /// The drag comes to the newest surface of that label. Whether there is one of somebody who
+    /// hears of drags.
+    bool drag(const QByteArray &label, QPoint at, const Drag &what);
+    /// What the source allows has become known.
+    void tellSourceActions(std::uint32_t actions);
+    /// What the compositor has made of that and of the answer.
+    void tellAction(std::uint32_t action);
+    void drop();
+    void leave();
+    Answer answer() const;
+
+private:
+    struct Server;
+
+    void within(const std::function<void()> &work) const;
+
+    QTemporaryDir m_folder;
+    QByteArray m_socket;
+    std::unique_ptr<Server> m_server;
+    std::thread m_thread;
+};
+
+/// The one that this program's windows are shown by.
+FakeCompositor &compositor();
+
+} // namespace corvane::test
