@@ -40,11 +40,9 @@ TextView::TextView(const PreviewContent::Text &text, MainQueue &queue, QWidget *
     document()->setDocumentMargin(margin);
     // No cursor is shown: pieces are appended below the visible part, which must not scroll.
     setCursorWidth(0);
-    // It would be pushed along to the end of what is appended, where Down leads nowhere.
-    QTextCursor atTheBeginning = textCursor();
-    atTheBeginning.setKeepPositionOnInsert(true);
-    setTextCursor(atTheBeginning);
     appendNext();
+    // It was pushed along to the end of the first piece, where Down may lead nowhere.
+    moveCursor(QTextCursor::Start);
 }
 
 TextView::~TextView() = default;

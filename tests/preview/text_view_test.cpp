@@ -38,6 +38,7 @@ TEST(TextView, HasItsCursorAtTheBeginningWhateverIsAppended)
     EXPECT_EQ(view.textCursor().position(), 0);
     clock.runPending();
     EXPECT_EQ(view.textCursor().position(), 0);
+    EXPECT_FALSE(view.textCursor().hasSelection());
 }
 
 TEST(TextView, IsScrolledByTheArrowsWhileNobodyFollowsTheCursor)
