@@ -109,7 +109,8 @@ AccessibleNode dropTarget(const ShelfLook &look)
                                     : QCoreApplication::translate("ShelfView", "Drop to hold");
     node.frame = look.layout.ring;
     if (look.snapshot.visible.empty()) {
-        node.description = wayToFillIt();
+        // In the name: screen readers do not say what a label is described by.
+        node.name = wayToFillIt() + u' ' + node.name;
         node.isFocusable = node.isFocused = true;
     }
     return node;

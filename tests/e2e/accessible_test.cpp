@@ -157,9 +157,9 @@ TEST_F(Accessible, theEmptyShelfSaysWhatItIsAndThatItIsHiddenAgain)
 {
     startToBeRead();
     EXPECT_EQ(corvane().startAgain(), 0);
-    ASSERT_TRUE(isSoon(ScreenReader::State::Focused, u"label"_s, u"Drop to hold"_s));
-    EXPECT_EQ(await(u"label"_s, u"Drop to hold"_s).description,
-              u"The shelf is empty. Ctrl+V puts what is on the clipboard here."_s);
+    EXPECT_TRUE(
+        isSoon(ScreenReader::State::Focused, u"label"_s,
+               u"The shelf is empty. Ctrl+V puts what is on the clipboard here. Drop to hold"_s));
     EXPECT_EQ(corvane().startAgain(), 0);
     EXPECT_TRUE(m_reader.hears(u"The shelf is hidden"_s));
 }

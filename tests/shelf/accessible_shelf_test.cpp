@@ -12,6 +12,9 @@ namespace {
 
 using Role = AccessibleNode::Role;
 
+const QString wayToFillIt
+    = QStringLiteral("The shelf is empty. Ctrl+V puts what is on the clipboard here. ");
+
 class AccessibleShelfTest : public testing::Test {
 protected:
     AccessibleShelfTest()
@@ -282,23 +285,21 @@ TEST_F(AccessibleShelfTest, ADropTargetSaysWhetherLettingGoIsEnough)
 {
     snapshot.state = ShelfState::Expanded;
     apply();
-    EXPECT_EQ(names(), QStringList{QStringLiteral("Drop to hold")});
+    EXPECT_EQ(names(), QStringList{wayToFillIt + QStringLiteral("Drop to hold")});
     FakePasteboard pasteboard;
     pasteboard.offered = QStringList{QStringLiteral("text/plain")};
     pasteboard.text = QStringLiteral("hello");
     view.draggingEntered({pasteboard, {}, false});
-    EXPECT_EQ(names(), QStringList{QStringLiteral("Release to hold")});
+    EXPECT_EQ(names(), QStringList{wayToFillIt + QStringLiteral("Release to hold")});
 }
 
 TEST_F(AccessibleShelfTest, TheEmptyShelfSaysSoWhereTheKeyboardIsAndHowToFillIt)
 {
     snapshot.state = ShelfState::Expanded;
     apply();
-    const AccessibleNode target = named(QStringLiteral("Drop to hold"));
+    const AccessibleNode target = named(wayToFillIt + QStringLiteral("Drop to hold"));
     EXPECT_TRUE(target.isFocused);
     EXPECT_TRUE(target.isFocusable);
-    EXPECT_EQ(target.description,
-              QStringLiteral("The shelf is empty. Ctrl+V puts what is on the clipboard here."));
     show(1, 1);
     snapshot.receptive = true;
     apply();
@@ -306,7 +307,6 @@ TEST_F(AccessibleShelfTest, TheEmptyShelfSaysSoWhereTheKeyboardIsAndHowToFillIt)
     EXPECT_EQ(other.name, QStringLiteral("Drop to hold"));
     EXPECT_FALSE(other.isFocused) << "the item is";
     EXPECT_FALSE(other.isFocusable);
-    EXPECT_EQ(other.description, QString());
 }
 
 TEST_F(AccessibleShelfTest, ThePanelHearsOfEveryChange)
