@@ -219,11 +219,12 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                   .motion = motionPreference,
                   .screenLocator = desktop.screenLocator,
                   .abilities = desktop.abilities,
-                  .queue = mainQueue,
+                  .announce = [this](const QString &text) { panel.announce(text); },
                   .appInfo = AppInfo::builtIn(),
                   .updater = updates.updater(),
                   .isKeptUpToDateByOthers = installation.kind == Installation::Kind::Managed},
-               .activation = desktop.windowActivation})
+               .activation = desktop.windowActivation,
+               .queue = mainQueue})
     , delegate({.dragWatch = desktop.dragWatch,
                 .hotKeys = hotKeys,
                 .shortcuts = shortcuts,

@@ -35,7 +35,7 @@ void ShellWindows::showWelcome()
         const PreferencesContext &context = m_context.preferences;
         m_welcome = std::make_unique<WelcomeWindowController>(
             WelcomeView::Context{context.motion, context.abilities, context.settings,
-                                 context.shortcutBinder, context.queue},
+                                 context.shortcutBinder, context.announce},
             context.screenLocator);
         m_welcome->onClose = [this] { m_welcome.reset(); };
     }
@@ -48,8 +48,7 @@ void ShellWindows::showWelcomeOnFirstLaunch()
 {
     if (m_context.preferences.settings.seenWelcome())
         return;
-    m_context.preferences.queue.asyncAfter(welcomeDelay,
-                                           m_lifetime.guard([this] { showWelcome(); }));
+    m_context.queue.asyncAfter(welcomeDelay, m_lifetime.guard([this] { showWelcome(); }));
 }
 
 void ShellWindows::bringForward(ShellWindow &window) const

@@ -8,6 +8,7 @@
 
 namespace corvane {
 
+class MainQueue;
 class PreferencesWindowController;
 class ShellWindow;
 class WelcomeWindowController;
@@ -20,6 +21,7 @@ public:
     struct Context {
         PreferencesContext preferences;
         WindowActivation &activation;
+        MainQueue &queue;
     };
 
     /// In seconds, from the launch until the guide is shown: the status item should be there first.

@@ -168,8 +168,9 @@ protected:
     SessionAbilities abilities;
     ShellWindows windows{
         {{settings, loginItems, shortcuts, keyMonitors, hotKeyService, desktopServices, desk.motion,
-          locator, abilities, desk.clock, AppInfo({})},
-         activation}};
+          locator, abilities, [](const QString &) {}, AppInfo({})},
+         activation,
+         desk.clock}};
     StartedUpdater updater{settings};
     std::optional<HUDController> hud;
     std::optional<EdgeSummoner> edge;

@@ -24,7 +24,10 @@ protected:
         deletePending();
     }
 
-    void launch() { windows.emplace(ShellWindows::Context{desk.context(), activation}); }
+    void launch()
+    {
+        windows.emplace(ShellWindows::Context{desk.context(), activation, desk.clock});
+    }
 
     PreferencesDesk desk;
     FakeWindowActivation activation;

@@ -15,6 +15,7 @@
 #include "platform/desktop/abilities.h"
 
 #include <QJsonObject>
+#include <QStringList>
 
 namespace corvane::test {
 
@@ -34,7 +35,7 @@ struct PreferencesDesk {
                 .motion = motion,
                 .screenLocator = screens.locator,
                 .abilities = abilities,
-                .queue = clock,
+                .announce = [this](const QString &text) { announced << text; },
                 .appInfo = info,
                 .updater = updater,
                 .isKeptUpToDateByOthers = isKeptUpToDateByOthers};
@@ -58,6 +59,8 @@ struct PreferencesDesk {
         {QStringLiteral("CFBundleVersion"), QStringLiteral("34")},
         {QStringLiteral("CorvaneHomePage"), QStringLiteral("https://corvane.example/")},
         {QStringLiteral("CorvaneSupportAddress"), QStringLiteral("support@corvane.example")}}};
+    /// What screen readers were told to say at once.
+    QStringList announced;
     Updater *updater = nullptr;
     bool isKeptUpToDateByOthers = false;
 };

@@ -45,9 +45,9 @@ private:
     PreferencesDesk m_desk;
 
 public:
-    WelcomeWindowController controller{
-        {m_desk.motion, m_desk.abilities, m_desk.settings, m_desk.binder, m_desk.clock},
-        m_desk.screens.locator};
+    WelcomeWindowController controller{{m_desk.motion, m_desk.abilities, m_desk.settings,
+                                        m_desk.binder, m_desk.context().announce},
+                                       m_desk.screens.locator};
 };
 
 class UpdateStage : public WindowStage {

@@ -91,7 +91,7 @@ PreferenceSection *GeneralPane::makeShelfSection()
     const auto describe = [row, picker] {
         const QString detail = inViewDetail(picker->number());
         row->setDetail(detail);
-        picker->setAccessibleDescription(detail);
+        picker->describe(detail);
     };
     describe();
     connect(picker, &NumberPicker::picked, this, [this, describe](int count) {
@@ -145,7 +145,8 @@ SettingRow *GeneralPane::makeSwitchRow(const QString &title, const QString &deta
 PreferenceSection *GeneralPane::makeShortcutsSection()
 {
     Settings &settings = m_context.settings;
-    const ShortcutRow::Context listening{m_context.keyMonitors, m_context.hotKeys, m_context.queue};
+    const ShortcutRow::Context listening{m_context.keyMonitors, m_context.hotKeys,
+                                         m_context.announce};
     auto *section = new PreferenceSection(tr("Shortcuts"), m_look);
 
     m_shelfShortcut = new ShortcutRow(tr("Show or hide the shelf"),

@@ -3,6 +3,7 @@
 #include "app/preferences/choice_button.h"
 #include "core/shown_numbers.h"
 
+#include <QAbstractButton>
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QPainter>
@@ -53,6 +54,13 @@ NumberPicker::NumberPicker(int minimum, int maximum, const QString &name, const 
 int NumberPicker::number() const
 {
     return m_group->checkedId();
+}
+
+void NumberPicker::describe(const QString &text)
+{
+    const auto buttons = m_group->buttons();
+    for (QAbstractButton *button : buttons)
+        button->setAccessibleDescription(text);
 }
 
 void NumberPicker::setNumber(int number)

@@ -17,6 +17,8 @@ public:
                  QWidget *parent = nullptr);
 
     int number() const;
+    /// What screen readers say of the chosen number, and of others that one comes to.
+    void describe(const QString &text);
     /// Outside the range the nearest one. Does not signal.
     void setNumber(int number);
 

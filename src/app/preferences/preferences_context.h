@@ -2,13 +2,14 @@
 
 #include "app/base/app_info.h"
 
+#include <functional>
+
 namespace corvane {
 
 class DesktopServices;
 class HotKeyService;
 class KeyMonitors;
 class LoginItems;
-class MainQueue;
 class MotionPreference;
 class ScreenLocator;
 class SessionAbilities;
@@ -27,7 +28,8 @@ struct PreferencesContext {
     const MotionPreference &motion;
     const ScreenLocator &screenLocator;
     SessionAbilities &abilities;
-    MainQueue &queue;
+    /// Has screen readers say a text at once, wherever the keyboard is.
+    std::function<void(const QString &text)> announce;
     AppInfo appInfo;
     /// Null where this build does not know where to look for updates, or where others keep it up
     /// to date.

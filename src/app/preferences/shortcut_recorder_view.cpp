@@ -3,7 +3,6 @@
 #include "app/look/focus_ring.h"
 #include "app/preferences/shortcut_recorder_accessible.h"
 #include "core/display_text.h"
-#include "platform/qt/desktop/window_roles.h"
 
 #include <QAccessible>
 #include <QFontMetricsF>
@@ -42,9 +41,10 @@ QColor warningRed(const QPalette &palette)
 } // namespace
 
 ShortcutRecorderView::ShortcutRecorderView(KeyMonitors &monitors, HotKeyService &hotKeys,
-                                           MainQueue &queue, QWidget *parent)
+                                           std::function<void(const QString &text)> announce,
+                                           QWidget *parent)
     : QWidget(parent)
-    , m_queue(queue)
+    , m_announce(std::move(announce))
     , m_recorder(monitors, hotKeys)
     , m_told(text())
 {
@@ -200,7 +200,7 @@ void ShortcutRecorderView::tell()
     QAccessibleEvent event(this, QAccessible::NameChanged);
     QAccessible::updateAccessibility(&event);
     if (isRecording() || hasFocus())
-        announceIn(*this, now, m_queue);
+        m_announce(now);
 }
 
 } // namespace corvane

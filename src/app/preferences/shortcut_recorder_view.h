@@ -10,8 +10,6 @@
 
 namespace corvane {
 
-class MainQueue;
-
 /// The field in which the user changes a shortcut: a click, Space or Return, then the combination.
 ///
 /// While it waits for the combination, no other part of the window gets a key, and no other program
@@ -21,7 +19,9 @@ class ShortcutRecorderView : public QWidget {
     Q_OBJECT
 
 public:
-    ShortcutRecorderView(KeyMonitors &monitors, HotKeyService &hotKeys, MainQueue &queue,
+    /// `announce` has screen readers say a text at once.
+    ShortcutRecorderView(KeyMonitors &monitors, HotKeyService &hotKeys,
+                         std::function<void(const QString &text)> announce,
                          QWidget *parent = nullptr);
     ~ShortcutRecorderView() override;
 
@@ -60,7 +60,7 @@ private:
     void changed();
     void tell();
 
-    MainQueue &m_queue;
+    std::function<void(const QString &)> m_announce;
     WindowLook m_look;
     ShortcutRecorder m_recorder;
     /// What screen readers know to stand in it.

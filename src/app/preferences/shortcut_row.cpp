@@ -4,7 +4,6 @@
 #include "app/preferences/clear_button.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "core/display_text.h"
-#include "platform/qt/desktop/window_roles.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -21,19 +20,19 @@ constexpr QSize copySize{64, 26};
 
 ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail, const Context &context,
                          const WindowLook &look)
-    : ShortcutRow(title, usualDetail, context.queue,
-                  new ShortcutRecorderView(context.keyMonitors, context.hotKeys, context.queue),
+    : ShortcutRow(title, usualDetail, context,
+                  new ShortcutRecorderView(context.keyMonitors, context.hotKeys, context.announce),
                   new ClearButton(look), new ActionButton(tr("Copy"), copyTextSize, copySize, look),
                   look)
 {
 }
 
-ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail, MainQueue &queue,
+ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail, const Context &context,
                          ShortcutRecorderView *recorder, ClearButton *clear, ActionButton *copy,
                          const WindowLook &look)
     : SettingRow(title, usualDetail, {recorder, clear, copy}, look)
     , m_usualDetail(usualDetail)
-    , m_queue(queue)
+    , m_announce(context.announce)
     , m_recorder(recorder)
     , m_clear(clear)
     , m_copy(copy)
@@ -99,7 +98,7 @@ void ShortcutRow::setOutcome(const ShortcutOutcome &outcome)
     setDetail(text);
     if (isNews && isVisible()) {
         m_isNew = false;
-        announceIn(*this, text, m_queue);
+        m_announce(text);
     }
     const bool isCommand = outcome.kind == ShortcutOutcome::Kind::SetInDesktop;
     const QString &line = outcome.settingsLine;

@@ -13,7 +13,6 @@ class ActionButton;
 class ClearButton;
 class HotKeyService;
 class KeyMonitors;
-class MainQueue;
 class ShortcutRecorderView;
 
 /// A row for one global shortcut: a field that records it, a button that clears it, and what has
@@ -26,7 +25,8 @@ public:
     struct Context {
         KeyMonitors &keyMonitors;
         HotKeyService &hotKeys;
-        MainQueue &queue;
+        /// Has screen readers say a text at once.
+        std::function<void(const QString &text)> announce;
     };
 
     /// `usualDetail` stands under the title as long as there is nothing else to say.
@@ -45,7 +45,7 @@ public:
     std::function<void(const std::optional<Shortcut> &)> onChange;
 
 private:
-    ShortcutRow(const QString &title, const QString &usualDetail, MainQueue &queue,
+    ShortcutRow(const QString &title, const QString &usualDetail, const Context &context,
                 ShortcutRecorderView *recorder, ClearButton *clear, ActionButton *copy,
                 const WindowLook &look);
     QString detailFor(const ShortcutOutcome &outcome) const;
@@ -53,7 +53,7 @@ private:
     void findWhatIsThere();
 
     QString m_usualDetail;
-    MainQueue &m_queue;
+    std::function<void(const QString &)> m_announce;
     ShortcutRecorderView *m_recorder;
     ClearButton *m_clear;
     ActionButton *m_copy;

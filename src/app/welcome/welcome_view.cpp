@@ -9,7 +9,6 @@
 #include "core/settings.h"
 #include "input/shortcut_binder.h"
 #include "platform/desktop/abilities.h"
-#include "platform/qt/desktop/window_roles.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -128,7 +127,7 @@ void WelcomeView::showStep(int step)
 void WelcomeView::turnTo(int step)
 {
     showStep(step);
-    announceIn(*this, spoken(), m_context.queue);
+    m_context.announce(spoken());
 }
 
 /// All that is read on the step that is shown. Only titles end without a full stop.

@@ -12,7 +12,6 @@ namespace corvane {
 
 class ActionButton;
 class IllustrationView;
-class MainQueue;
 class MotionPreference;
 class PageIndicator;
 class SessionAbilities;
@@ -32,7 +31,8 @@ public:
         SessionAbilities &abilities;
         const Settings &settings;
         ShortcutBinder &shortcuts;
-        MainQueue &queue;
+        /// Has screen readers say a text at once, wherever the keyboard is.
+        std::function<void(const QString &text)> announce;
     };
 
     WelcomeView(const Context &context, std::function<void()> onClose, QWidget *parent = nullptr);

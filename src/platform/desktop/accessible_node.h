@@ -10,7 +10,7 @@ namespace corvane {
 /// What assistive technologies, screen readers above all, are told of a panel, or of one thing on
 /// it. A comparable value.
 struct AccessibleNode {
-    enum class Role { Window, List, ListItem, Button, CheckBox, Label };
+    enum class Role { Window, List, ListItem, Button, CheckBox, Label, Notification };
 
     struct Action {
         /// What it is asked for by: not translated.

@@ -1,6 +1,3 @@
-#include "app/announced_texts.h"
-#include "fakes/test_clock.h"
-#include "platform/qt/desktop/announcements.h"
 #include "platform/qt/desktop/window_roles.h"
 
 #include <QAccessible>
@@ -58,46 +55,6 @@ TEST(WindowRoles, OthersStayWhatTheyAre)
     QMenu menu;
     EXPECT_EQ(roleOf(part), QAccessible::Client);
     EXPECT_EQ(roleOf(menu), QAccessible::PopupMenu);
-}
-
-TEST(WindowRoles, WhatIsAnnouncedInAWindowIsANotificationThereForAWhile)
-{
-    TestClock clock;
-    QWidget window;
-    QWidget part(&window);
-    window.show();
-    announceIn(part, QStringLiteral("one"), clock);
-    clock.advance(Announcements::duration / 2);
-    announceIn(part, QStringLiteral("two"), clock);
-    QAccessibleInterface *const told = QAccessible::queryAccessibleInterface(&window);
-    ASSERT_EQ(told->childCount(), 3);
-    QAccessibleInterface *const last = told->child(2);
-    EXPECT_EQ(last->role(), QAccessible::Notification);
-    EXPECT_EQ(last->text(QAccessible::Name), QStringLiteral("two"));
-    EXPECT_EQ(last->parent(), told);
-    EXPECT_EQ(told->indexOfChild(last), 2);
-    EXPECT_EQ(told->indexOfChild(QAccessible::queryAccessibleInterface(&part)), 0);
-    EXPECT_FALSE(last->state().invisible);
-    EXPECT_EQ(told->child(3), nullptr);
-    EXPECT_EQ(announcedIn(window), (QStringList{QStringLiteral("one"), QStringLiteral("two")}));
-    clock.advance(Announcements::duration / 2);
-    EXPECT_EQ(announcedIn(window), QStringList{QStringLiteral("two")});
-    clock.advance(Announcements::duration);
-    EXPECT_EQ(announcedIn(window), QStringList());
-    EXPECT_EQ(told->childCount(), 1);
-}
-
-TEST(WindowRoles, NothingIsAnnouncedInAWindowThatIsNotShownAndAWindowMayGoBefore)
-{
-    TestClock clock;
-    {
-        QWidget window;
-        announceIn(window, QStringLiteral("unseen"), clock);
-        EXPECT_EQ(announcedIn(window), QStringList());
-        window.show();
-        announceIn(window, QStringLiteral("seen"), clock);
-    }
-    clock.advance(2 * Announcements::duration);
 }
 
 } // namespace corvane::test

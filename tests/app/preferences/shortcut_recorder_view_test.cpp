@@ -1,10 +1,7 @@
-#include "app/announced_texts.h"
 #include "app/look/window_look.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "fakes/fake_hot_keys.h"
 #include "fakes/fake_key_monitors.h"
-#include "fakes/test_clock.h"
-#include "platform/qt/desktop/announcements.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -76,11 +73,13 @@ protected:
 
     FakeKeyMonitors keys;
     FakeHotKeys hotKeys;
-    TestClock clock;
+    QStringList announced;
+    std::function<void(const QString &)> announce
+        = [this](const QString &text) { announced << text; };
     QWidget window;
     // The window owns them.
-    ShortcutRecorderView *view = new ShortcutRecorderView(keys, hotKeys, clock);
-    ShortcutRecorderView *other = new ShortcutRecorderView(keys, hotKeys, clock);
+    ShortcutRecorderView *view = new ShortcutRecorderView(keys, hotKeys, announce);
+    ShortcutRecorderView *other = new ShortcutRecorderView(keys, hotKeys, announce);
     QStringList changes;
 };
 
@@ -267,19 +266,19 @@ TEST_F(ShortcutRecorderViewTest, IsAButtonForWhoHearsTheScreen)
 TEST_F(ShortcutRecorderViewTest, WhatComesToStandInItIsSaidOnceWhileTheUserIsThere)
 {
     view->setShortcut(shiftCommandD);
-    EXPECT_EQ(announcedIn(window), QStringList()) << "nobody has used it";
+    EXPECT_EQ(announced, QStringList()) << "nobody has used it";
     view->setFocus();
     type(Qt::Key_Space);
     const QString prompt = QStringLiteral("Type a shortcut…");
-    EXPECT_EQ(announcedIn(window), QStringList{prompt});
+    EXPECT_EQ(announced, QStringList{prompt});
     keys.type(keyA, Modifier::Control, QStringLiteral("a"));
     view->setConflict(true);
     view->setShortcut(view->shortcut());
-    EXPECT_EQ(announcedIn(window), (QStringList{prompt, QStringLiteral("Ctrl+A")}));
+    EXPECT_EQ(announced, (QStringList{prompt, QStringLiteral("Ctrl+A")}));
     type(Qt::Key_Space);
-    clock.advance(Announcements::duration);
+    announced.clear();
     other->setFocus();
-    EXPECT_EQ(announcedIn(window), QStringList()) << "the next field is said instead";
+    EXPECT_EQ(announced, QStringList()) << "the next field is said instead";
     EXPECT_EQ(view->text(), QStringLiteral("Ctrl+A"));
 }
 

@@ -19,10 +19,11 @@
 #include "fakes/shelf_model.h"
 #include "fakes/user_screens.h"
 #include "platform/freedesktop/autostart_login_items.h"
-#include "platform/qt/desktop/announcements.h"
 
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <utility>
 
 namespace corvane::test {
 
@@ -210,13 +211,14 @@ TextTable textsOfTheGuide()
         PreferencesDesk desk;
         const auto addSteps = [&](const char *heading) {
             WelcomeWindowController controller(
-                {desk.motion, desk.abilities, desk.settings, desk.binder, desk.clock},
+                {desk.motion, desk.abilities, desk.settings, desk.binder, desk.context().announce},
                 desk.screens.locator);
             controller.window().present();
             for (int step = 1; step <= 3; ++step) {
-                table.add(QString::fromLatin1(heading).arg(step), spokenTexts(controller.window()));
-                // What was said of the step before can be read no longer.
-                desk.clock.advance(Announcements::duration);
+                QStringList lines = spokenTexts(controller.window());
+                for (const QString &text : std::exchange(desk.announced, {}))
+                    lines << QStringLiteral("Announced: ") + text;
+                table.add(QString::fromLatin1(heading).arg(step), lines);
                 if (step < 3)
                     controller.view().goForward();
             }

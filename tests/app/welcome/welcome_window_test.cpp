@@ -1,4 +1,3 @@
-#include "app/announced_texts.h"
 #include "app/base/session_texts.h"
 #include "app/base/translations.h"
 #include "app/look/text_label.h"
@@ -45,7 +44,8 @@ protected:
     void make()
     {
         controller = std::make_unique<WelcomeWindowController>(
-            WelcomeView::Context{motion, abilities, desk.settings, desk.binder, desk.clock},
+            WelcomeView::Context{motion, abilities, desk.settings, desk.binder,
+                                 desk.context().announce},
             screens.locator);
         controller->onClose = [this] { ++closed; };
     }
@@ -103,20 +103,20 @@ TEST_F(WelcomeWindowTest, AStepIsSaidAsOneTurnsToIt)
 {
     abilities.become(lackingAbilities(Reason::KeptByDesktop));
     window().present();
-    EXPECT_EQ(announcedIn(window()), QStringList()) << "it is read with the window";
+    EXPECT_EQ(desk.announced, QStringList()) << "it is read with the window";
     button("Next")->click();
     const auto texts = window().findChildren<TextLabel *>();
     ASSERT_EQ(texts.size(), 4);
-    EXPECT_EQ(announcedIn(window()),
+    EXPECT_EQ(desk.announced,
               QStringList{QStringLiteral("Step 2 of 3: Drag it back out when you arrive. ")
                           + texts[1]->text() + u' ' + texts[2]->text() + u' ' + texts[3]->text()});
     abilities.become({});
-    EXPECT_EQ(announcedIn(window()).size(), 1) << "it is the same step";
+    EXPECT_EQ(desk.announced.size(), 1) << "it is the same step";
     button("Next")->click();
-    EXPECT_EQ(announcedIn(window()).last(),
+    EXPECT_EQ(desk.announced.last(),
               QStringLiteral("Step 3 of 3: Hold ⇧ to keep it on the shelf. ") + texts[1]->text());
     button("Back")->click();
-    EXPECT_TRUE(announcedIn(window()).last().startsWith(QStringLiteral("Step 2 of 3: ")));
+    EXPECT_TRUE(desk.announced.last().startsWith(QStringLiteral("Step 2 of 3: ")));
 }
 
 TEST_F(WelcomeWindowTest, TheStepOnKeysNamesThoseThatOpenTheShelf)

@@ -1,6 +1,5 @@
 #include "platform/qt/desktop/accessible_part.h"
 
-#include "platform/qt/desktop/announcements.h"
 #include "platform/qt/desktop/panel_accessible.h"
 #include "platform/qt/desktop/panel_canvas.h"
 
@@ -29,6 +28,8 @@ QAccessible::Role qtRole(AccessibleNode::Role role)
         return QAccessible::CheckBox;
     case AccessibleNode::Role::Label:
         return QAccessible::StaticText;
+    case AccessibleNode::Role::Notification:
+        return QAccessible::Notification;
     }
     return QAccessible::NoRole;
 }
@@ -81,15 +82,6 @@ void AccessiblePart::forgetOwner()
         child.part->forgetOwner();
 }
 
-void AccessiblePart::announce(const QString &text)
-{
-    if (!m_owner)
-        return;
-    if (!m_announcements)
-        m_announcements = std::make_unique<Announcements>(m_owner->panel().queue, *this);
-    m_announcements->announce(text);
-}
-
 void AccessiblePart::become(const AccessibleNode &node)
 {
     const QAccessible::State before = state();
@@ -126,6 +118,9 @@ void AccessiblePart::becomeChildren(const std::vector<AccessibleNode> &nodes)
         }
         AccessiblePart &made = *m_children.insert(here, makeChild(nodes[i]))->part;
         tellOfPart(made, QAccessible::ObjectCreated);
+        // Screen readers say what a notification says when it appears.
+        if (nodes[i].role == AccessibleNode::Role::Notification)
+            tellOfPart(made, QAccessible::ObjectShow);
         if (AccessiblePart *focus = made.focused(); focus->m_node.isFocused && hasKeyboard())
             tellOfPart(*focus, QAccessible::Focus);
     }
@@ -194,26 +189,16 @@ QAccessibleInterface *AccessiblePart::focusChild() const
     return hasKeyboard() ? const_cast<AccessiblePart *>(this)->focused() : nullptr;
 }
 
-int AccessiblePart::childCount() const
-{
-    return static_cast<int>(m_children.size()) + (m_announcements ? m_announcements->count() : 0);
-}
-
 QAccessibleInterface *AccessiblePart::child(int index) const
 {
-    const auto own = static_cast<int>(m_children.size());
-    if (index >= own)
-        return m_announcements ? m_announcements->at(index - own) : nullptr;
-    return index >= 0 ? m_children[static_cast<std::size_t>(index)].part : nullptr;
+    return index >= 0 && index < childCount() ? m_children[static_cast<std::size_t>(index)].part
+                                              : nullptr;
 }
 
 int AccessiblePart::indexOfChild(const QAccessibleInterface *child) const
 {
     const auto found = std::ranges::find(m_children, child, &Child::part);
-    if (found != m_children.end())
-        return static_cast<int>(found - m_children.begin());
-    const int announced = m_announcements ? m_announcements->indexOf(child) : -1;
-    return announced < 0 ? -1 : static_cast<int>(m_children.size()) + announced;
+    return found == m_children.end() ? -1 : static_cast<int>(found - m_children.begin());
 }
 
 QAccessibleInterface *AccessiblePart::childAt(int x, int y) const

@@ -6,12 +6,10 @@
 #include <QAccessibleInterface>
 #include <QPointer>
 
-#include <memory>
 #include <vector>
 
 namespace corvane {
 
-class Announcements;
 class PanelAccessible;
 class PanelCanvas;
 
@@ -27,8 +25,6 @@ public:
 
     /// Takes over the node, which has the same key, and its children, and tells what changed.
     void become(const AccessibleNode &node);
-    /// Has screen readers say a text at once.
-    void announce(const QString &text);
     /// The part that keys act on; this one if there is no such part below it.
     AccessiblePart *focused();
     /// From now on there is no panel.
@@ -40,7 +36,7 @@ public:
     QAccessibleInterface *parent() const override;
     QAccessibleInterface *focusChild() const override;
     QAccessibleInterface *child(int index) const override;
-    int childCount() const override;
+    int childCount() const override { return static_cast<int>(m_children.size()); }
     int indexOfChild(const QAccessibleInterface *child) const override;
     QAccessibleInterface *childAt(int x, int y) const override;
     QString text(QAccessible::Text kind) const override;
@@ -73,8 +69,6 @@ private:
     /// Without its children, which are `m_children`.
     AccessibleNode m_node;
     std::vector<Child> m_children;
-    /// Null before the first one.
-    std::unique_ptr<Announcements> m_announcements;
 };
 
 } // namespace corvane

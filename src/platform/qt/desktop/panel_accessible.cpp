@@ -51,8 +51,15 @@ PanelAccessible::~PanelAccessible()
 QAccessibleInterface *PanelAccessible::makeRoot()
 {
     // Owned by Qt.
-    m_root = new AccessiblePart(*this, nullptr, m_panel.read());
+    m_root = new AccessiblePart(*this, nullptr, read());
     return m_root;
+}
+
+AccessibleNode PanelAccessible::read() const
+{
+    AccessibleNode tree = m_panel.read();
+    tree.children.insert(tree.children.end(), m_announcements.begin(), m_announcements.end());
+    return tree;
 }
 
 void PanelAccessible::changed()
@@ -73,12 +80,8 @@ void PanelAccessible::updateSoon()
 void PanelAccessible::update()
 {
     m_isUpdateDue = false;
-    const QStringList news = std::exchange(m_news, {});
-    if (!m_root)
-        return;
-    m_root->become(m_panel.read());
-    for (const QString &text : news)
-        m_root->announce(text);
+    if (m_root)
+        m_root->become(read());
 }
 
 void PanelAccessible::announce(const QString &text)
@@ -87,8 +90,16 @@ void PanelAccessible::announce(const QString &text)
         return;
     // Makes the root, if it has not been made.
     QAccessible::queryAccessibleInterface(&m_panel.canvas);
-    m_news << text;
+    AccessibleNode node;
+    node.key = QStringLiteral("announcement %1").arg(++m_announced);
+    node.role = AccessibleNode::Role::Notification;
+    node.name = text;
+    m_announcements.push_back(node);
     updateSoon();
+    m_panel.queue.asyncAfter(announcementDuration, m_lifetime.guard([this] {
+        m_announcements.erase(m_announcements.begin());
+        changed();
+    }));
 }
 
 void PanelAccessible::shown()

@@ -4,9 +4,10 @@
 #include "platform/desktop/accessible_node.h"
 
 #include <QRect>
-#include <QStringList>
+#include <QString>
 
 #include <functional>
+#include <vector>
 
 class QAccessibleInterface;
 
@@ -21,6 +22,10 @@ class PanelCanvas;
 /// loop. What was made stays until the canvas is gone, which may be after this. Main thread only.
 class PanelAccessible {
 public:
+    /// In seconds: how long an announcement can be read. A screen reader that has much to do asks
+    /// for it late.
+    static constexpr double announcementDuration = 6;
+
     struct Panel {
         PanelCanvas &canvas;
         MainQueue &queue;
@@ -35,7 +40,6 @@ public:
     PanelAccessible &operator=(const PanelAccessible &) = delete;
 
     void changed();
-    /// Has screen readers say a text at once, after what has changed till then.
     void announce(const QString &text);
     /// The panel was shown.
     void shown();
@@ -51,11 +55,13 @@ private:
     QAccessibleInterface *makeRoot();
     void updateSoon();
     void update();
+    AccessibleNode read() const;
 
     Panel m_panel;
     AccessiblePart *m_root = nullptr;
     bool m_isUpdateDue = false;
-    QStringList m_news;
+    std::vector<AccessibleNode> m_announcements;
+    int m_announced = 0;
     Lifetime m_lifetime;
 };
 

@@ -1,12 +1,8 @@
 #include "platform/qt/desktop/window_roles.h"
 
-#include "platform/qt/desktop/announcements.h"
-
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QWidget>
-
-#include <memory>
 
 namespace corvane {
 
@@ -39,37 +35,8 @@ public:
         }
     }
 
-    int childCount() const override
-    {
-        return QAccessibleWidget::childCount() + (m_announcements ? m_announcements->count() : 0);
-    }
-    QAccessibleInterface *child(int index) const override
-    {
-        const int own = QAccessibleWidget::childCount();
-        if (index < own)
-            return QAccessibleWidget::child(index);
-        return m_announcements ? m_announcements->at(index - own) : nullptr;
-    }
-    int indexOfChild(const QAccessibleInterface *child) const override
-    {
-        const int announced = m_announcements ? m_announcements->indexOf(child) : -1;
-        return announced < 0 ? QAccessibleWidget::indexOfChild(child)
-                             : QAccessibleWidget::childCount() + announced;
-    }
-
-    void announce(const QString &text, MainQueue &queue)
-    {
-        if (!m_announcements)
-            m_announcements = std::make_unique<Announcements>(queue, *this);
-        m_announcements->announce(text);
-    }
-
 protected:
     ~PlainWidget() override = default;
-
-private:
-    /// Null before the first one.
-    std::unique_ptr<Announcements> m_announcements;
 };
 
 QAccessibleInterface *makePlainWidget(const QString &className, QObject *object)
@@ -85,16 +52,6 @@ QAccessibleInterface *makePlainWidget(const QString &className, QObject *object)
 void installWindowRoles()
 {
     QAccessible::installFactory(makePlainWidget);
-}
-
-void announceIn(const QWidget &widget, const QString &text, MainQueue &queue)
-{
-    QWidget *const window = widget.window();
-    if (!window->isVisible())
-        return;
-    auto *const told = dynamic_cast<PlainWidget *>(QAccessible::queryAccessibleInterface(window));
-    if (told)
-        told->announce(text, queue);
 }
 
 } // namespace corvane
