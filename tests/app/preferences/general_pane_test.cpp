@@ -204,7 +204,8 @@ TEST_F(GeneralPaneTest, ARefusalIsSaidEachTimeThatSomethingWasRecorded)
     EXPECT_EQ(desk.announced.count(conflictText), 2) << "nothing has changed";
     desk.hotKeys.takenByOthers.clear();
     desk.binder.retryRefused();
-    EXPECT_EQ(desk.announced.last(), conflictText) << "that it works is seen by using it";
+    EXPECT_EQ(desk.announced.value(desk.announced.size() - 1), conflictText)
+        << "that it works is seen by using it";
 }
 
 TEST_F(GeneralPaneTest, WhatWasRefusedBeforeItIsShownIsNotSaidAtOnce)
