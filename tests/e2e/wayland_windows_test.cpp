@@ -158,5 +158,124 @@ TEST_P(WaylandWindows, thePanelsIconShowsTheShelfByItsMenu)
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
+/// Where the program's windows are the compositor's own.
+class LayerWindows : public WaylandWindows { };
+INSTANTIATE_TEST_SUITE_P(Layer, LayerWindows,
+                         testing::Values(sessionOf(WindowManager::Sway),
+                                         sessionOf(WindowManager::KWin)),
+                         nameOf);
+
+// Nobody tells where the icon is, so that the menu comes in the middle of the screen.
+TEST_P(LayerWindows, aClickOnThePanelsIconOpensAMenuForKeys)
+{
+    NotifierPanel panel(m_desktop);
+    ASSERT_TRUE(panel.waitUntilReady());
+    start();
+    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
+    const NotifierFacts item(m_desktop, corvane().program().pid());
+    const QRect middle(740, 470, 60, 60);
+    const QImage bare = m_desktop.pictureAtRest(middle);
+    const auto isOpen = [&] { return server().picture(middle) != bare; };
+    item.click();
+    ASSERT_TRUE(eventually(isOpen));
+    EXPECT_TRUE(eventually([&] {
+        hands().key(keys::escape);
+        return !isOpen();
+    }));
+    item.click();
+    ASSERT_TRUE(eventually(isOpen));
+    m_desktop.pictureAtRest(middle);
+    hands().key(keys::down);
+    hands().key(keys::enter);
+    EXPECT_TRUE(corvane().waitUntilShown());
+    EXPECT_TRUE(eventually([&] { return !isOpen(); }));
+}
+
+TEST_P(LayerWindows, aClickElsewhereClosesTheMenuOfThePanelsIcon)
+{
+    NotifierPanel panel(m_desktop);
+    ASSERT_TRUE(panel.waitUntilReady());
+    GtkPeer other(m_desktop, {}, leftPlace());
+    ASSERT_EQ(other.problem(), QString());
+    start();
+    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
+    const NotifierFacts item(m_desktop, corvane().program().pid());
+    const QRect middle(740, 470, 60, 60);
+    const QImage bare = m_desktop.pictureAtRest(middle);
+    item.click();
+    ASSERT_TRUE(eventually([&] { return server().picture(middle) != bare; }));
+    m_desktop.pictureAtRest(middle);
+    hands().click(other.target());
+    EXPECT_TRUE(eventually([&] { return server().picture(middle) == bare; }));
+}
+
+/// What the desktop gives with a click, so that the window that comes of it may come to the front:
+/// whether it does is the compositor's decision, by rules of its own.
+class ActivationTokens : public LayerWindows {
+protected:
+    /// In an environment in which it says what it asks of the compositor.
+    void startTelling(CorvaneProgram::Start how)
+    {
+        how.environment = m_desktop.environment();
+        how.environment.insert(u"WAYLAND_DEBUG"_s, u"1"_s);
+        if (!m_tokenOfStart.isEmpty())
+            how.environment.insert(u"XDG_ACTIVATION_TOKEN"_s, m_tokenOfStart);
+        start(how);
+    }
+    bool chooseAction(const QString &action, const QString &token)
+    {
+        return outputOf(u"gdbus"_s,
+                        {u"call"_s, u"--session"_s, u"--dest"_s, u"example.corvane.Corvane"_s,
+                         u"--object-path"_s, u"/example/corvane/Corvane"_s, u"--method"_s,
+                         u"org.freedesktop.Application.ActivateAction"_s, action, u"[]"_s,
+                         u"{'activation-token': <'%1'>}"_s.arg(token)},
+                        m_desktop.environment())
+            .has_value();
+    }
+    bool handsOn(const QByteArray &token)
+    {
+        const QByteArray request = ".activate(\"" + token + '"';
+        return eventually([&] { return corvane().program().output().contains(request); });
+    }
+
+    QString m_tokenOfStart;
+};
+INSTANTIATE_TEST_SUITE_P(Layer, ActivationTokens,
+                         testing::Values(sessionOf(WindowManager::Sway),
+                                         sessionOf(WindowManager::KWin)),
+                         nameOf);
+
+TEST_P(ActivationTokens, anActionsIsHandedOnForTheWindowThatItShows)
+{
+    startTelling({});
+    ASSERT_TRUE(chooseAction(u"preferences"_s, u"of-the-first-click"_s));
+    EXPECT_TRUE(handsOn("of-the-first-click"));
+    EXPECT_TRUE(waitUntilShown(preferencesSize));
+    // A window that is there already needs one all the more.
+    ASSERT_TRUE(chooseAction(u"preferences"_s, u"of-the-second-click"_s));
+    EXPECT_TRUE(handsOn("of-the-second-click"));
+}
+
+TEST_P(ActivationTokens, soItIsWhereTheSessionBusHasStartedTheProgramForIt)
+{
+    CorvaneProgram::Start how{};
+    how.arguments = QStringList{u"--started-by-bus"_s};
+    startTelling(how);
+    EXPECT_FALSE(corvane().isShown());
+    ASSERT_TRUE(chooseAction(u"preferences"_s, u"of-the-click"_s));
+    EXPECT_TRUE(handsOn("of-the-click"));
+    EXPECT_TRUE(waitUntilShown(preferencesSize));
+}
+
+TEST_P(ActivationTokens, theOneOfTheStartIsForTheGuide)
+{
+    m_tokenOfStart = u"of-the-start"_s;
+    CorvaneProgram::Start how{};
+    how.hasSeenWelcome = false;
+    startTelling(how);
+    EXPECT_TRUE(handsOn("of-the-start"));
+    EXPECT_TRUE(waitUntilShown(welcomeSize));
+}
+
 } // namespace
 } // namespace corvane::e2e

@@ -229,6 +229,12 @@ QString NotifierFacts::keys(const QString &label) const
     return {};
 }
 
+void NotifierFacts::click() const
+{
+    call(u"/StatusNotifierItem"_s, u"org.kde.StatusNotifierItem.Activate"_s,
+         {u"int32:10"_s, u"int32:10"_s});
+}
+
 bool NotifierFacts::choose(const QString &label) const
 {
     static const QRegularExpression item(

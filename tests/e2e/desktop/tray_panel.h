@@ -63,6 +63,8 @@ public:
     QString keys(const QString &label) const;
     /// Chooses the row of that label; false if there is none.
     bool choose(const QString &label) const;
+    /// Tells of a click on the icon, as panels do that leave it to the program what comes then.
+    void click() const;
 
 private:
     QByteArray menuLayout() const;
