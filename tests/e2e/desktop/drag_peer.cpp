@@ -97,7 +97,7 @@ void DragPeer::moveByHand(const QRect &frame)
     };
     // A compositor that is still busy with the window's arrival lets nobody take hold of it.
     if (eventually(isThere, startOfAProgram))
-        eventually([&] { return isThere() && carry(source, frame.topLeft()); });
+        eventually([&] { return isThere() && carry(source, frame.topLeft()); }, startOfAProgram);
     isThere();
     m_frame = QRect(source.topLeft(), frame.size());
     if (m_frame != frame)
@@ -111,7 +111,7 @@ bool DragPeer::carry(const QRect &source, QPoint place)
 {
     // A window follows when the compositor comes to it; one that has not moved for so long hangs
     // from nothing.
-    constexpr auto aMoment = patience / 10;
+    constexpr auto aMoment = patience / 3;
     const auto now = [this] { return sourceInPicture().topLeft(); };
     Hands &hands = m_desktop.hands();
     hands.moveTo(source.center());
