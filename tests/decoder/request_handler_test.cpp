@@ -139,6 +139,30 @@ TEST(RequestHandlerTest, AFrameIsMadeOfWhatTheOneBeforeItLeft)
     }
 }
 
+TEST(RequestHandlerTest, NoFrameIsOfTheDocumentBefore)
+{
+    QByteArray other = largeAnimation();
+    // Its first colour is green.
+    other.replace(13, 6, QByteArray("\0\0\xff\0\xff\0", 6));
+    RequestHandler handler;
+    const auto middleOf = [&](std::uint32_t document, int frame, const QByteArray &gif) {
+        decoder_protocol::Request request;
+        request.task = Task::Frame;
+        request.wanted = {1'020, 1'200};
+        request.part = frame;
+        request.document = document;
+        request.milliseconds = 1'000;
+        const auto answer = handler.serve(request, picture_memory::of(gif), FileDescriptor());
+        QRgb middle = 0;
+        EXPECT_EQ(::pread(answer.pixels.number(), &middle, sizeof middle,
+                          (600 * request.wanted.width() + 510) * 4),
+                  ssize_t(sizeof middle));
+        return middle;
+    };
+    EXPECT_EQ(middleOf(1, 0, largeAnimation()), qRgb(255, 0, 0));
+    EXPECT_EQ(middleOf(2, 1, other), qRgb(0, 255, 0)) << "of the one that was asked for";
+}
+
 TEST(RequestHandlerTest, WhatAnotherDecoderHadBegunToWriteIsGone)
 {
     RequestHandler handler;
