@@ -57,12 +57,12 @@ SharedThumbnailCache::Places thumbnailPlaces(const ScratchSpool &spool)
             {file_url::nativePath(spool.directory()), KeptFolder::environmentPath()}};
 }
 
-QList<QUuid> itemsInView(const ShelfStore &store)
+QList<QUuid> itemsInView(const ShelfStore &store, const ViewAllView &bar)
 {
     QList<QUuid> items;
     for (const auto &[index, item] : store.visibleItems())
         items << item.id();
-    return items;
+    return items + bar.itemsInView();
 }
 
 LinkPreviewService::Product product()
@@ -261,7 +261,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
         remotePictures.itemLeft(item);
     };
     remotePictures.isWanted = [this](const QUuid &item) { return store.indexOf(item).has_value(); };
-    thumbnails.setItemsInView([this] { return itemsInView(store); });
+    thumbnails.setItemsInView([this] { return itemsInView(store, viewAll.view()); });
     thumbnails.setEnlargement([this] { return appearance.textScale(); });
     appearance.observeChanges([this] { applyAppearance(); });
 }

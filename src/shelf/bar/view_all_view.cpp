@@ -96,6 +96,16 @@ std::span<const DropItem> ViewAllView::page() const
     return {m_items->constData() + range.first, m_items->constData() + range.end};
 }
 
+QList<QUuid> ViewAllView::itemsInView() const
+{
+    QList<QUuid> items;
+    if (m_isShown) {
+        for (const DropItem &item : page())
+            items << item.id();
+    }
+    return items;
+}
+
 ViewAllState ViewAllView::state() const
 {
     ViewAllState state;

@@ -83,6 +83,8 @@ public:
     /// How many tiles fit into the panel's present width.
     int itemsPerPage() const;
     int offset() const { return m_offset; }
+    /// Those whose tiles are on the page that is shown; none while the bar is hidden.
+    QList<QUuid> itemsInView() const;
     /// In the order of the items, not of their selection. Walks all items.
     QList<DropItem> selectedInOrder() const;
 

@@ -207,6 +207,24 @@ TEST_F(ViewAllControllerTest, pagingStopsAtBothEnds)
     EXPECT_EQ(bar->offset(), 7);
 }
 
+TEST_F(ViewAllControllerTest, whatIsInViewIsThePageThatIsShown)
+{
+    accept(30);
+    EXPECT_TRUE(view().itemsInView().isEmpty()) << "nothing of a bar that is hidden";
+    const auto idsFrom = [this](qsizetype first) {
+        QList<QUuid> ids;
+        for (const DropItem &item : store.items().sliced(first, 12))
+            ids << item.id();
+        return ids;
+    };
+    setOpen(true);
+    EXPECT_EQ(view().itemsInView(), idsFrom(0));
+    view().onScroll(12);
+    EXPECT_EQ(view().itemsInView(), idsFrom(12));
+    setOpen(false);
+    EXPECT_TRUE(view().itemsInView().isEmpty());
+}
+
 TEST_F(ViewAllControllerTest, thePageFollowsItemsThatGo)
 {
     open(20);
