@@ -231,6 +231,9 @@ bool DecoderPool::provide(Slot &slot, const Cancelled &cancelled)
     }
     const std::lock_guard lock(m_mutex);
     m_deaths.died(DeathRecord::Clock::now());
+    if (!m_isFinished && !std::exchange(m_hasToldOfStart, true))
+        qWarning(
+            "[Corvane] corvane-decoder did not start: thumbnails and previews may be missing.");
     return false;
 }
 
@@ -247,11 +250,18 @@ void DecoderPool::tellOfLayers(const decoder_protocol::Greeting &greeting)
         qWarning("[Corvane] Pictures are decoded without all limits of memory and time.");
 }
 
+void DecoderPool::countDeath()
+{
+    const std::lock_guard lock(m_mutex);
+    m_deaths.died(DeathRecord::Clock::now());
+}
+
 DecoderProcess::Result DecoderPool::askIn(Slot &slot, const Job &job, const Cancelled &cancelled)
 {
     using Ending = DecoderProcess::Ending;
     decoder_protocol::Request request = job.request;
     DecoderProcess::Result said;
+    bool hasVanished = false;
     // A decoder that ended by itself meanwhile has not seen the request.
     constexpr int attempts = 3;
     for (int attempt = 0; attempt < attempts; ++attempt) {
@@ -266,7 +276,11 @@ DecoderProcess::Result DecoderPool::askIn(Slot &slot, const Job &job, const Canc
         if (slot.room == Room::Large && DecoderTurns::isLong(job.urgency))
             signals.displaced = &m_displaced;
         said = slot.process->ask(request, job.descriptors, signals);
-        if (said.ending != Ending::NotServed)
+        // What was ended from outside is begun once more, since nothing says that its picture was
+        // to blame.
+        if (said.ending == Ending::Vanished && !std::exchange(hasVanished, true))
+            countDeath();
+        else if (said.ending != Ending::NotServed)
             break;
     }
     return said;
@@ -275,10 +289,8 @@ DecoderProcess::Result DecoderPool::askIn(Slot &slot, const Job &job, const Canc
 DecoderPool::Result DecoderPool::resultOf(DecoderProcess::Result said)
 {
     using Ending = DecoderProcess::Ending;
-    if (DecoderProcess::isDeath(said.ending)) {
-        const std::lock_guard lock(m_mutex);
-        m_deaths.died(DeathRecord::Clock::now());
-    }
+    if (DecoderProcess::isDeath(said.ending))
+        countDeath();
     switch (said.ending) {
     case Ending::Replied:
         return {outcomeOf(said.reply.outcome), false, false, std::move(said.reply),

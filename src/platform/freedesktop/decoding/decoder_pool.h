@@ -86,6 +86,7 @@ private:
     DecoderProcess::Result askIn(Slot &slot, const Job &job, const Cancelled &cancelled);
     Result resultOf(DecoderProcess::Result said);
     bool provide(Slot &slot, const Cancelled &cancelled);
+    void countDeath();
     void displaceLongOne();
     void tellOfLayers(const decoder_protocol::Greeting &greeting);
 
@@ -100,6 +101,7 @@ private:
     bool m_isLargeOneLong = false;
     bool m_isFinished = false;
     bool m_hasTold = false;
+    bool m_hasToldOfStart = false;
     DeathRecord m_deaths;
     std::uint32_t m_lastNumber = 0;
     std::uint32_t m_lastDocument = 0;

@@ -113,6 +113,22 @@ private:
     FileDescriptor m_end;
 };
 
+/// Where one of all decoders leaves a mark, after which the others behave.
+class MarkOfDecoders {
+public:
+    MarkOfDecoders()
+    {
+        qputenv("CORVANE_FALSE_DECODER_MARK",
+                QFile::encodeName(m_folder.filePath(QStringLiteral("mark"))));
+    }
+    MarkOfDecoders(const MarkOfDecoders &) = delete;
+    MarkOfDecoders &operator=(const MarkOfDecoders &) = delete;
+    ~MarkOfDecoders() { qunsetenv("CORVANE_FALSE_DECODER_MARK"); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
 struct MisbehavingDecoder : DecoderPoolTest, testing::WithParamInterface<const char *> { };
 
 TEST_F(DecoderPoolTest, TakesThePictureOfOneThatBehaves)
@@ -398,23 +414,73 @@ TEST_F(DecoderPoolTest, WithoutTheProgramNothingIsDecodedAndNothingIsSaidAboutTh
     EXPECT_EQ(attempt.outcome, Outcome::Interrupted);
 }
 
+/// What the program says meanwhile, on any thread.
+class Said {
+public:
+    Said()
+    {
+        lines.clear();
+        m_previous = qInstallMessageHandler(
+            [](QtMsgType, const QMessageLogContext &, const QString &text) {
+                const std::lock_guard lock(mutex);
+                lines << text;
+            });
+    }
+    Said(const Said &) = delete;
+    Said &operator=(const Said &) = delete;
+    ~Said() { qInstallMessageHandler(m_previous); }
+
+    static qsizetype count(const char *words)
+    {
+        const std::lock_guard lock(mutex);
+        return lines.filter(QLatin1String(words)).size();
+    }
+
+private:
+    static inline std::mutex mutex;
+    static inline QStringList lines;
+    QtMessageHandler m_previous;
+};
+
 TEST_F(DecoderPoolTest, SaysOnceWhatConfinesNoDecoderAndDecodesAllTheSame)
 {
-    static std::mutex mutex;
-    static QStringList said;
-    said.clear();
-    const auto previous
-        = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
-              const std::lock_guard lock(mutex);
-              said << text;
-          });
+    const Said said;
     misbehave("unconfined");
     EXPECT_EQ(attempted().outcome, Outcome::Made);
     EXPECT_EQ(attempted().outcome, Outcome::Made);
-    qInstallMessageHandler(previous);
-    EXPECT_EQ(said.filter(QStringLiteral("namespaces")).size(), 1);
-    EXPECT_EQ(said.filter(QStringLiteral("system calls")).size(), 1);
-    EXPECT_EQ(said.filter(QStringLiteral("limits")).size(), 1);
+    EXPECT_EQ(Said::count("namespaces"), 1);
+    EXPECT_EQ(Said::count("system calls"), 1);
+    EXPECT_EQ(Said::count("limits"), 1);
+}
+
+TEST_F(DecoderPoolTest, SaysOnceThatADecoderDidNotStart)
+{
+    const Said said;
+    misbehave("dies at once");
+    EXPECT_EQ(attempted().outcome, Outcome::Interrupted);
+    EXPECT_EQ(attempted().outcome, Outcome::Interrupted);
+    EXPECT_EQ(Said::count("did not start"), 1);
+}
+
+TEST_F(DecoderPoolTest, SaysNothingOfADecoderThatIsNotWantedBeforeItHasStarted)
+{
+    const Said said;
+    const PipeOfDecoders pipe;
+    misbehave("never greets");
+    std::thread ender([&] {
+        EXPECT_TRUE(pipe.hasBegun());
+        pool.finish();
+    });
+    EXPECT_EQ(attempted().outcome, Outcome::Interrupted);
+    ender.join();
+    EXPECT_EQ(Said::count("did not start"), 0);
+}
+
+TEST_F(DecoderPoolTest, WhatADecoderWasEndedOverIsAskedOnceMore)
+{
+    const MarkOfDecoders mark;
+    misbehave("dies once");
+    EXPECT_EQ(attempted().outcome, Outcome::Made);
 }
 
 TEST_F(DecoderPoolTest, ACancelledJobGivesUpItsTurn)

@@ -30,6 +30,22 @@ constexpr int bytes = 8 * 8 * 4;
     std::abort();
 }
 
+/// Whether no decoder has asked this before.
+bool isFirst()
+{
+    const FileDescriptor mark(::open(qgetenv("CORVANE_FALSE_DECODER_MARK").constData(),
+                                     O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    return mark.isOpen();
+}
+
+/// To whoever reads the named pipe.
+void sayThatItHasBegun()
+{
+    const FileDescriptor pipe(
+        ::open(qgetenv("CORVANE_FALSE_DECODER_PIPE").constData(), O_WRONLY | O_CLOEXEC));
+    pipe.write("x");
+}
+
 /// Nothing but a signal ends it; until then, whoever reads the named pipe knows that it lives.
 [[noreturn]] void hangForGood()
 {
@@ -119,6 +135,11 @@ int run(const QByteArray &step, bool isLarge)
         die();
     if (step == "ends at once")
         return EXIT_SUCCESS;
+    if (step == "never greets") {
+        sayThatItHasBegun();
+        waitForPacket();
+        return EXIT_SUCCESS;
+    }
     if (step == "has much memory")
         takeMemory();
     const FileDescriptor self(int(::syscall(SYS_pidfd_open, ::getpid(), 0)));
@@ -143,7 +164,7 @@ int run(const QByteArray &step, bool isLarge)
             = received ? decoder_protocol::parsedRequest(received->packet) : std::nullopt;
         if (!request)
             return EXIT_FAILURE;
-        if (step == "dies after reading")
+        if (step == "dies after reading" || (step == "dies once" && isFirst()))
             die();
         if (step == "crashes" || (step == "crashes without room" && !isLarge)) {
             refuse(socket, request->number, decoder_protocol::Outcome::Crashed);
