@@ -80,7 +80,9 @@ void XdndPeer::send(xcb_window_t to, const QByteArray &type, std::array<uint32_t
     std::copy(data.begin(), data.end(), message.data.data32);
     xcb_send_event(connection(), 0, to, XCB_EVENT_MASK_NO_EVENT,
                    reinterpret_cast<const char *>(&message));
-    xcb_flush(connection());
+    // The hands are another client of the server, which may be served first: what they do next has
+    // to come after this message. The reply comes after the server has handled it.
+    std::free(xcb_get_input_focus_reply(connection(), xcb_get_input_focus(connection()), nullptr));
 }
 
 void XdndPeer::pump()
