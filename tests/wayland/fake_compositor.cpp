@@ -209,6 +209,27 @@ struct FakeCompositor::Server::Requests {
     }
     static constexpr struct zwlr_layer_shell_v1_interface shell = {hang, destroy};
 
+    // Windows of other kinds, which nobody looks at: newer versions of Qt do not start without.
+    static constexpr struct wl_shell_surface_interface window = {
+        .pong = [](wl_client *, wl_resource *, std::uint32_t) {},
+        .move = [](wl_client *, wl_resource *, wl_resource *, std::uint32_t) {},
+        .resize = [](wl_client *, wl_resource *, wl_resource *, std::uint32_t, std::uint32_t) {},
+        .set_toplevel = [](wl_client *, wl_resource *) {},
+        .set_transient = [](wl_client *, wl_resource *, wl_resource *, int, int, std::uint32_t) {},
+        .set_fullscreen
+        = [](wl_client *, wl_resource *, std::uint32_t, std::uint32_t, wl_resource *) {},
+        .set_popup = [](wl_client *, wl_resource *, wl_resource *, std::uint32_t, wl_resource *,
+                        int, int, std::uint32_t) {},
+        .set_maximized = [](wl_client *, wl_resource *, wl_resource *) {},
+        .set_title = [](wl_client *, wl_resource *, const char *) {},
+        .set_class = [](wl_client *, wl_resource *, const char *) {},
+    };
+    static void makeWindow(wl_client *client, wl_resource *, std::uint32_t id, wl_resource *)
+    {
+        make(client, wl_shell_surface_interface, 1, id, &window, nullptr);
+    }
+    static constexpr struct wl_shell_interface windows = {makeWindow};
+
     // Drags.
     static constexpr struct wl_data_source_interface source = {
         .offer = [](wl_client *, wl_resource *, const char *) {},
@@ -324,6 +345,11 @@ bool FakeCompositor::Server::start(const QByteArray &socket)
                      [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
                          make(client, zwlr_layer_shell_v1_interface, static_cast<int>(version), id,
                               &Requests::shell, data);
+                     });
+    wl_global_create(display, &wl_shell_interface, 1, this,
+                     [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
+                         make(client, wl_shell_interface, static_cast<int>(version), id,
+                              &Requests::windows, data);
                      });
     wl_global_create(display, &wl_data_device_manager_interface, 3, this,
                      [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
