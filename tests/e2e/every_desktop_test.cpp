@@ -78,6 +78,17 @@ protected:
         hands().glideTo(target.target());
         ASSERT_TRUE(wiggleUntil([&] { return target.isTargetReady(); })) << target.output();
     }
+    /// Mutter 48 has its programs believe so after any drag that Shift was held in, until another
+    /// drag has ended.
+    bool isShiftStuck(GtkPeer &typing)
+    {
+        hands().click(typing.target());
+        EXPECT_TRUE(eventually([&] {
+            hands().key('k');
+            return typing.keys().contains("k") || typing.keys().contains("K");
+        }));
+        return typing.keys().contains("K");
+    }
     void pressHotKey() { hands().key('d', {keys::super, keys::shift}); }
     /// What is on the shelf goes to that program now, and is this.
     void expectItGives(GtkPeer &target, const QString &file)
@@ -197,6 +208,12 @@ TEST_P(OnEveryDesktop, shiftHeldFromThePressOnKeepsTheItem)
     EXPECT_EQ(first.droppedAddresses().trimmed(), uriList({file}).trimmed());
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
     hands().keyUp(keys::shift);
+    // Then the next drag is one with Shift to everybody, and the last one.
+    if (GetParam().windowManager == WindowManager::Mutter && isShiftStuck(second)) {
+        dragOut(second);
+        EXPECT_EQ(second.droppedAddresses().trimmed(), uriList({file}).trimmed());
+        ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    }
     expectItGives(second, file);
 }
 
