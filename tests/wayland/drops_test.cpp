@@ -28,6 +28,11 @@ constexpr QRect body(160, 0, 292, 56);
 /// Takes everything.
 struct GladReceiver : DropReceiver {
     bool needsAddresses(const QStringList &) const override { return false; }
+    Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag) override
+    {
+        early = drag;
+        return Subscription([this] { early.reset(); });
+    }
     QStringList addressTypes(const QStringList &) const override { return {}; }
     bool takeDrop(std::shared_ptr<IncomingDrag> drop) override
     {
@@ -36,6 +41,8 @@ struct GladReceiver : DropReceiver {
     }
 
     std::shared_ptr<IncomingDrag> dropped;
+    /// What is fetched early now.
+    std::shared_ptr<IncomingDrag> early;
 };
 
 /// Says that the window takes what is dragged over it.
@@ -83,6 +90,21 @@ struct DropsInWayland : testing::Test {
         ASSERT_TRUE(eventually([this] { return receiver.dropped != nullptr; }));
     }
 
+    /// What is read of the dropped text, asked for once more, where the source sends that.
+    std::optional<QByteArray> fetchedWith(const QByteArray &sent)
+    {
+        const qsizetype before = compositor().answer().asked.size();
+        std::optional<QByteArray> arrived;
+        receiver.dropped->fetch(
+            type, 100,
+            [&arrived](IncomingDrag::Outcome, const QByteArray &bytes) { arrived = bytes; });
+        if (eventually([&] { return compositor().answer().asked.size() == before + 1; }))
+            compositor().send(sent);
+        eventually([&] { return arrived.has_value(); });
+        return arrived;
+    }
+
+    const QString type = QStringLiteral("text/plain");
     QtMainQueue queue;
     WaylandConnection connection;
     LayerPanelSurface panels{connection};
@@ -135,6 +157,60 @@ TEST_F(DropsInWayland, aDragIsAnsweredAnewWhenItsActionsBecomeKnown)
     EXPECT_TRUE(eventually([] { return compositor().answer().accepted == ""; }));
     EXPECT_EQ(compositor().answer().actions, 0U);
     compositor().leave();
+}
+
+TEST_F(DropsInWayland, whatAProgramOfX11DragsIsFetchedWhileItIsOverThePanel)
+{
+    FakeCompositor::Drag what;
+    ASSERT_NO_FATAL_FAILURE(drag(what));
+    ASSERT_TRUE(eventually([] { return compositor().answer().accepted == "text/plain"; }));
+    EXPECT_EQ(receiver.early, nullptr);
+    compositor().leave();
+    // Nothing is known of what its source allows.
+    what.sourceActions = 0;
+    ASSERT_NO_FATAL_FAILURE(drag(what));
+    ASSERT_TRUE(eventually([this] { return receiver.early != nullptr; }));
+    compositor().leave();
+    EXPECT_TRUE(eventually([this] { return receiver.early == nullptr; }));
+}
+
+TEST_F(DropsInWayland, whatSeveralAskForAtATimeIsAskedForOnce)
+{
+    ASSERT_NO_FATAL_FAILURE(dragAndDrop(FakeCompositor::copy));
+    QList<QByteArray> arrived;
+    const auto fetch = [&](qsizetype most) {
+        receiver.dropped->fetch(
+            type, most, [&](IncomingDrag::Outcome, const QByteArray &bytes) { arrived << bytes; });
+    };
+    fetch(100);
+    fetch(10);
+    // More than was asked for.
+    fetch(1000);
+    ASSERT_TRUE(eventually([] { return compositor().answer().asked.size() == 2; }));
+    compositor().send("a text");
+    EXPECT_TRUE(eventually([&] { return arrived == QList<QByteArray>{"a text", "a text"}; }));
+    compositor().send("another");
+    EXPECT_TRUE(eventually([&] { return arrived.size() == 3; }));
+    EXPECT_EQ(arrived.last(), "another");
+}
+
+TEST_F(DropsInWayland, whatHasArrivedIsNotAskedForAgain)
+{
+    ASSERT_NO_FATAL_FAILURE(dragAndDrop(FakeCompositor::copy));
+    EXPECT_EQ(fetchedWith("a text"), "a text");
+    std::optional<QByteArray> again;
+    receiver.dropped->fetch(type, 100,
+                            [&](IncomingDrag::Outcome, const QByteArray &bytes) { again = bytes; });
+    EXPECT_TRUE(eventually([&] { return again == "a text"; }));
+    EXPECT_EQ(compositor().answer().asked.size(), 1);
+}
+
+// It is also what is read where a source refuses because it does not recognise the question.
+TEST_F(DropsInWayland, whereNothingAtAllHasArrivedItIsAskedForAgain)
+{
+    ASSERT_NO_FATAL_FAILURE(dragAndDrop(FakeCompositor::copy));
+    EXPECT_EQ(fetchedWith(""), "");
+    EXPECT_EQ(fetchedWith("a text"), "a text");
 }
 
 TEST_F(DropsInWayland, whatIsDraggedIsCaughtWhereThePanelTakesClicks)

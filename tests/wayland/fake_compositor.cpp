@@ -1,6 +1,7 @@
 #include "wayland/fake_compositor.h"
 
 #include "layer_shell_server.h"
+#include "platform/system/file_descriptor.h"
 
 #include <QFile>
 
@@ -55,6 +56,8 @@ struct FakeCompositor::Server {
     struct Offer {
         Answer answer;
         wl_resource *resource = nullptr;
+        /// Those that nothing was written to yet.
+        std::list<FileDescriptor> pipes;
     };
 
     bool start(const QByteArray &socket);
@@ -240,8 +243,12 @@ struct FakeCompositor::Server::Requests {
         .accept
         = [](wl_client *, wl_resource *offer, std::uint32_t,
              const char *type) { test::of<Offer>(offer).answer.accepted = QByteArray(type); },
-        .receive
-        = [](wl_client *, wl_resource *, const char *, std::int32_t pipe) { ::close(pipe); },
+        .receive =
+            [](wl_client *, wl_resource *offer, const char *type, std::int32_t pipe) {
+                auto &asked = test::of<Offer>(offer);
+                asked.answer.asked << type;
+                asked.pipes.emplace_back(pipe);
+            },
         .destroy = destroy,
         .finish = [](wl_client *, wl_resource *offer) { ++test::of<Offer>(offer).answer.finishes; },
         .set_actions = [](wl_client *, wl_resource *offer, std::uint32_t actions,
@@ -512,6 +519,19 @@ void FakeCompositor::tellAction(std::uint32_t action)
     within([&] {
         if (m_server->offer && m_server->offer->resource)
             wl_data_offer_send_action(m_server->offer->resource, action);
+    });
+}
+
+void FakeCompositor::send(const QByteArray &contents)
+{
+    within([&] {
+        if (!m_server->offer || m_server->offer->pipes.empty())
+            return;
+        QFile pipe;
+        if (pipe.open(m_server->offer->pipes.front().release(), QFile::WriteOnly,
+                      QFile::AutoCloseHandle))
+            pipe.write(contents);
+        m_server->offer->pipes.pop_front();
     });
 }
 

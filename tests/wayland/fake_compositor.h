@@ -71,6 +71,8 @@ public:
         std::optional<QByteArray> accepted;
         std::uint32_t actions = 0;
         int finishes = 0;
+        /// The types whose contents were asked for, one after the other.
+        QList<QByteArray> asked;
         bool isGone = false;
     };
     /// The drag comes to the newest surface of that label. Whether there is one of somebody who
@@ -80,6 +82,8 @@ public:
     void tellSourceActions(std::uint32_t actions);
     /// What the compositor has made of that and of the answer.
     void tellAction(std::uint32_t action);
+    /// Contents for whoever has asked first and not got any yet.
+    void send(const QByteArray &contents);
     void drop();
     void leave();
     Answer answer() const;

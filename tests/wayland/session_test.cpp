@@ -19,6 +19,7 @@ using e2e::eventually;
 
 struct Nobody : DropReceiver {
     bool needsAddresses(const QStringList &) const override { return false; }
+    Subscription fetchEarly(std::shared_ptr<IncomingDrag>) override { return {}; }
     QStringList addressTypes(const QStringList &) const override { return {}; }
     bool takeDrop(std::shared_ptr<IncomingDrag>) override { return false; }
 };

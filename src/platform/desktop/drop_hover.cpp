@@ -25,6 +25,8 @@ DropHover::~DropHover()
 void DropHover::begin(QPointF at)
 {
     m_at = at;
+    if (m_drag->isFetchedEarly())
+        m_early = m_receiver.fetchEarly(m_drag);
     const QStringList types = m_drag->types();
     if (!m_receiver.needsAddresses(types)) {
         decide();

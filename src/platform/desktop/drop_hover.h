@@ -14,6 +14,8 @@ class MainQueue;
 
 /// One drag of another program over one panel: what is told of it to the panel and to the source.
 ///
+/// What is best fetched early is fetched from the beginning on.
+///
 ///     Unknown --addresses are here, or not needed--> told to the panel: Accepted or Refused
 ///
 /// Until the panel has been told, the source hears nothing: it counts as not welcome. Everything
@@ -61,6 +63,7 @@ private:
     QPointF m_at;
     bool m_isTold = false;
     bool m_wouldBeTaken = false;
+    Subscription m_early;
     Lifetime m_lifetime;
 };
 

@@ -38,6 +38,9 @@ public:
     /// What has been fetched of a type so far; empty if nothing has.
     virtual QByteArray fetched(const QString &type) const = 0;
     virtual void fetch(const QString &type, qsizetype maximumBytes, Fetched done) = 0;
+    /// Whether the contents may be out of reach once they were let go. They are fetched while they
+    /// are dragged then.
+    virtual bool isFetchedEarly() const { return false; }
 
     /// The name of a file that the source offers to write itself (direct save); none if it does
     /// not. The name is not trusted: make a safe one from it.

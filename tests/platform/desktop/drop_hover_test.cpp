@@ -24,7 +24,9 @@ public:
     std::optional<QString> promisedFileName() override { return std::nullopt; }
     void receivePromisedFile(const QUrl &, std::function<void(bool)> done) override { done(false); }
     void finish(bool) override { }
+    bool isFetchedEarly() const override { return isEarly; }
 
+    bool isEarly = false;
     QStringList asked;
     Fetched answer;
 };
@@ -32,6 +34,11 @@ public:
 class FakeReceiver : public DropReceiver {
 public:
     bool needsAddresses(const QStringList &) const override { return needs; }
+    Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag) override
+    {
+        early = drag;
+        return Subscription([this] { early.reset(); });
+    }
     QStringList addressTypes(const QStringList &types) const override { return types; }
     bool takeDrop(std::shared_ptr<IncomingDrag>) override
     {
@@ -41,6 +48,8 @@ public:
 
     bool needs = false;
     int drops = 0;
+    /// What is fetched early now.
+    std::shared_ptr<IncomingDrag> early;
 };
 
 class DropHoverTest : public testing::Test {
@@ -79,6 +88,18 @@ TEST_F(DropHoverTest, thePanelIsAskedAtOnceWhereAddressesDoNotMatter)
     EXPECT_EQ(entered, QPointF(1, 2));
     EXPECT_EQ(answers, std::vector<bool>{true});
     EXPECT_TRUE(drag->asked.isEmpty());
+}
+
+TEST_F(DropHoverTest, whatMayBeOutOfReachLaterIsFetchedAsLongAsItIsOverThePanel)
+{
+    begin();
+    EXPECT_EQ(receiver.early, nullptr);
+    hover.reset();
+    drag->isEarly = true;
+    begin();
+    EXPECT_EQ(receiver.early, drag);
+    hover.reset();
+    EXPECT_EQ(receiver.early, nullptr);
 }
 
 TEST_F(DropHoverTest, theSourceHearsOnlyOfAnswersThatChange)

@@ -144,6 +144,15 @@ QStringList PanelDropTarget::addressTypes(const QStringList &types) const
     return BytesPasteboard::addressTypes(types);
 }
 
+Subscription PanelDropTarget::fetchEarly(std::shared_ptr<IncomingDrag> drag)
+{
+    // The drag keeps what it fetched. Where its source would write a file itself, that waits.
+    const auto nowhere = [](const QString &) { return std::optional<QUrl>(); };
+    auto fetch = std::make_shared<DropFetch>(std::move(drag), nowhere, m_threads);
+    fetch->start([](FetchedPasteboard &) {});
+    return Subscription([fetch] {});
+}
+
 bool PanelDropTarget::takeDrop(std::shared_ptr<IncomingDrag> drop)
 {
     if (m_state != State::Accepted || !m_content)

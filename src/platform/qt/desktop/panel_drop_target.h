@@ -59,6 +59,7 @@ public:
 
     bool needsAddresses(const QStringList &types) const override;
     QStringList addressTypes(const QStringList &types) const override;
+    Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag) override;
     bool takeDrop(std::shared_ptr<IncomingDrag> drop) override;
 
 private:

@@ -4,6 +4,7 @@
 #include <unistd.h>
 #include <wayland-client.h>
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -20,9 +21,12 @@ struct WaylandIncomingDrag::Listeners {
     static void sourceActions(void *data, wl_data_offer *, std::uint32_t actions)
     {
         auto &self = *static_cast<WaylandIncomingDrag *>(data);
-        // None at all is told of what a program of X11 drags: KWin does not know yet.
-        const bool can = actions == WL_DATA_DEVICE_MANAGER_DND_ACTION_NONE
-            || (actions & WL_DATA_DEVICE_MANAGER_DND_ACTION_COPY) != 0;
+        // None at all is told of what a program of X11 drags: KWin does not know yet. Once such a
+        // program has let go, it may no longer recognise KWin's question as one about that drag,
+        // and then refuses it.
+        const bool isUnknown = actions == WL_DATA_DEVICE_MANAGER_DND_ACTION_NONE;
+        self.m_isOfX11 = self.m_isOfX11 || isUnknown;
+        const bool can = isUnknown || (actions & WL_DATA_DEVICE_MANAGER_DND_ACTION_COPY) != 0;
         if (std::exchange(self.m_canBeCopied, can) != can && self.onCanBeCopied)
             self.onCanBeCopied();
     }
@@ -75,6 +79,13 @@ void WaylandIncomingDrag::fetch(const QString &type, qsizetype maximumBytes, Fet
         tellLater(Outcome::Refused, {}, std::move(done));
         return;
     }
+    const auto running = std::ranges::find_if(m_readings, [&](const Reading &reading) {
+        return reading.type == type && reading.maximumBytes >= maximumBytes;
+    });
+    if (running != m_readings.end()) {
+        running->awaiting.push_back(std::move(done));
+        return;
+    }
     std::array<int, 2> ends = {-1, -1};
     if (!m_link.isAlive() || ::pipe2(ends.data(), O_CLOEXEC) != 0) {
         tellLater(Outcome::Lost, {}, std::move(done));
@@ -84,17 +95,30 @@ void WaylandIncomingDrag::fetch(const QString &type, qsizetype maximumBytes, Fet
     const FileDescriptor writer(ends[1]);
     wl_data_offer_receive(m_offer, type.toUtf8().constData(), writer.number());
     m_link.flush();
-    const auto place = m_readings.emplace(m_readings.end());
-    *place = std::make_unique<PipeIntake>(
-        *m_queue, std::move(reader), maximumBytes,
-        m_lifetime.guard(
-            [this, type, place, tell = std::move(done)](Outcome outcome, const QByteArray &bytes) {
-                const auto read = std::move(*place);
-                m_readings.erase(place);
-                if (outcome == Outcome::Arrived)
-                    m_fetched.insert(type, bytes);
+    read(type, maximumBytes, std::move(reader), std::move(done));
+}
+
+void WaylandIncomingDrag::read(const QString &type, qsizetype maximumBytes, FileDescriptor pipe,
+                               Fetched done)
+{
+    const auto place
+        = m_readings.insert(m_readings.end(), {type, maximumBytes, nullptr, {std::move(done)}});
+    place->intake = std::make_unique<PipeIntake>(
+        *m_queue, std::move(pipe), maximumBytes,
+        m_lifetime.guard([this, place](Outcome outcome, const QByteArray &bytes) {
+            // The intake is what calls this.
+            const Reading ended = std::move(*place);
+            m_readings.erase(place);
+            // Nothing at all is also what is read when a source refuses, and it may be asked again.
+            if (outcome == Outcome::Arrived && !bytes.isEmpty())
+                m_fetched.insert(ended.type, bytes);
+            const auto life = m_lifetime.token();
+            for (const Fetched &tell : ended.awaiting) {
                 tell(outcome, bytes);
-            }));
+                if (life.isOver())
+                    return;
+            }
+        }));
 }
 
 void WaylandIncomingDrag::receivePromisedFile(const QUrl & /*destination*/,

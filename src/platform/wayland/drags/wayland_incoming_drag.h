@@ -10,6 +10,7 @@
 #include <functional>
 #include <list>
 #include <memory>
+#include <vector>
 
 struct wl_data_offer;
 
@@ -36,6 +37,8 @@ public:
     QStringList types() const override { return m_types; }
     QByteArray fetched(const QString &type) const override { return m_fetched.value(type); }
     void fetch(const QString &type, qsizetype maximumBytes, Fetched done) override;
+    /// What a program of X11 drags.
+    bool isFetchedEarly() const override { return m_isOfX11; }
     /// Sources write no files themselves here.
     std::optional<QString> promisedFileName() override { return std::nullopt; }
     void receivePromisedFile(const QUrl &destination, std::function<void(bool)> done) override;
@@ -56,6 +59,14 @@ public:
 private:
     struct Listeners;
 
+    struct Reading {
+        QString type;
+        qsizetype maximumBytes;
+        std::unique_ptr<PipeIntake> intake;
+        std::vector<Fetched> awaiting;
+    };
+
+    void read(const QString &type, qsizetype maximumBytes, FileDescriptor pipe, Fetched done);
     void tellLater(Outcome outcome, const QByteArray &bytes, Fetched done);
 
     Link m_link;
@@ -64,10 +75,11 @@ private:
     wl_data_offer *m_offer;
     QStringList m_types;
     bool m_canBeCopied = false;
+    bool m_isOfX11 = false;
     bool m_isCopy = false;
     bool m_isDropped = false;
     QHash<QString, QByteArray> m_fetched;
-    std::list<std::unique_ptr<PipeIntake>> m_readings;
+    std::list<Reading> m_readings;
     Lifetime m_lifetime;
 };
 

@@ -1,6 +1,9 @@
 #include "fakes/fake_work_queue.h"
 #include "fakes/test_clock.h"
 #include "platform/qt/desktop/drop_fetch.h"
+#include "platform/qt/desktop/panel_drop_target.h"
+
+#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -10,6 +13,8 @@
 
 namespace corvane {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 /// A drag whose source gives at once what it offers.
 class ReadyDrag : public IncomingDrag {
@@ -132,6 +137,16 @@ TEST_F(DropFetchTest, SaysNothingOnceItIsGone)
     fetch.reset();
     finishWork();
     EXPECT_EQ(ends, 0);
+}
+
+TEST_F(DropFetchTest, APanelFetchesEarlyWhatItsDropWillAskFor)
+{
+    drag = std::make_shared<ReadyDrag>(std::vector<std::pair<QString, QByteArray>>{
+        {u"text/html"_s, "<p>a"}, {u"text/plain"_s, "a"}, {u"text/uri-list"_s, ""}});
+    QWindow window;
+    PanelDropTarget panel(window, nullptr, {&work, &clock});
+    const auto early = panel.fetchEarly(drag);
+    EXPECT_EQ(drag->asked, (QStringList{u"text/uri-list"_s, u"text/plain"_s}));
 }
 
 } // namespace
