@@ -5,6 +5,10 @@
 #include <QColor>
 #include <QImage>
 
+#include <gtest/gtest.h>
+
+#include <iostream>
+
 namespace corvane::e2e {
 
 using namespace Qt::StringLiterals;
@@ -55,10 +59,25 @@ void DragPeer::placeWindow(const QRect &frame)
 {
     const auto window = m_desktop.waitForWindowOf(*m_program);
     const auto placed = window ? m_desktop.place(window->id, frame) : std::nullopt;
-    if (!placed)
+    if (!placed) {
         m_problem = u"the window does not come: "_s + QString::fromUtf8(m_program->output());
-    else
-        m_frame = placed->frame;
+        return;
+    }
+    m_frame = placed->frame;
+    // A compositor says where a window is to be before it is shown, and can be pressed, there.
+    const auto isShown = [this] {
+        return QColor(m_desktop.server().picture({source(), QSize(1, 1)}).pixel(0, 0)).rgb()
+            == m_colour;
+    };
+    if (!isBrowser(m_toolkit) && !eventually(isShown))
+        m_problem = u"the window does not show where it was put: "_s
+            + QString::fromUtf8(m_program->output());
+}
+
+DragPeer::~DragPeer()
+{
+    if (testing::Test::HasFailure())
+        std::cout << "a partner said:\n" << m_program->output().toStdString();
 }
 
 /// In a browser's window.

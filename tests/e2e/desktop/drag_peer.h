@@ -32,6 +32,10 @@ public:
         Toolkit toolkit = Toolkit::Gtk3;
     };
     DragPeer(XDesktop &desktop, const Offer &offer, const QRect &frame);
+    /// Where a test has failed, prints what it said.
+    ~DragPeer();
+    DragPeer(const DragPeer &) = delete;
+    DragPeer &operator=(const DragPeer &) = delete;
 
     /// Empty when its window is there.
     QString problem() const { return m_problem; }
