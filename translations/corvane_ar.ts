@@ -663,7 +663,7 @@ that runs.</source>
     </message>
     <message>
         <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
-        <translation>لا يستجيب أي مدير عرض حيث يشير WAYLAND_DISPLAY، لذلك يستخدم الرفّ شاشة X11 الخاصة بهذه الجلسة، وقد لا تصل إليه بعض عمليات السحب هناك</translation>
+        <translation>لا يستجيب أي خادم عرض حيث يشير WAYLAND_DISPLAY، لذلك يستخدم الرفّ شاشة X11 الخاصة بهذه الجلسة، وقد لا تصل إليه بعض عمليات السحب هناك</translation>
     </message>
 </context>
 <context>

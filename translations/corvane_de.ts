@@ -168,7 +168,7 @@
     </message>
     <message>
         <source>The shelf is hidden</source>
-        <translation>Die Ablage ist ausgeblendet</translation>
+        <translation>Die Ablage ist verborgen</translation>
     </message>
 </context>
 <context>

@@ -623,11 +623,11 @@ qui est lancé.</translation>
     </message>
     <message>
         <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
-        <translation>WAYLAND_DISPLAY n’est pas défini dans cette session Wayland ; l’étagère utilise donc l’affichage X11 de la session, où certains glissements risquent de ne pas l’atteindre</translation>
+        <translation>WAYLAND_DISPLAY n’est pas défini dans cette session Wayland&#xa0;; l’étagère utilise donc l’affichage X11 de la session, où certains glissements risquent de ne pas l’atteindre</translation>
     </message>
     <message>
         <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
-        <translation>aucun compositeur ne répond là où WAYLAND_DISPLAY l’indique ; l’étagère utilise donc l’affichage X11 de cette session, où certains glissements risquent de ne pas l’atteindre</translation>
+        <translation>aucun compositeur ne répond là où WAYLAND_DISPLAY l’indique&#xa0;; l’étagère utilise donc l’affichage X11 de cette session, où certains glissements risquent de ne pas l’atteindre</translation>
     </message>
 </context>
 <context>

@@ -627,7 +627,7 @@ that runs.</source>
     </message>
     <message>
         <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
-        <translation>אין מנהל תצוגה שעונה במקום ש־WAYLAND_DISPLAY מציין, ולכן המדף משתמש בתצוגת X11 של ההפעלה הזאת, שבה ייתכן שחלק מהגרירות לא יגיעו אליו</translation>
+        <translation>אין שרת תצוגה שעונה במקום ש־WAYLAND_DISPLAY מציין, ולכן המדף משתמש בתצוגת X11 של ההפעלה הזאת, שבה ייתכן שחלק מהגרירות לא יגיעו אליו</translation>
     </message>
 </context>
 <context>

@@ -623,11 +623,11 @@ está em execução.</translation>
     </message>
     <message>
         <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
-        <translation>WAYLAND_DISPLAY não está definida nesta sessão Wayland; por isso a prateleira usa a tela X11 da sessão, na qual talvez alguns arrastes não cheguem a ela</translation>
+        <translation>WAYLAND_DISPLAY não está definida nesta sessão Wayland; por isso a prateleira usa a tela X11 da sessão, na qual talvez alguns arrastos não cheguem a ela</translation>
     </message>
     <message>
         <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
-        <translation>nenhum compositor responde onde WAYLAND_DISPLAY indica; por isso a prateleira usa a tela X11 desta sessão, na qual talvez alguns arrastes não cheguem a ela</translation>
+        <translation>nenhum compositor responde onde WAYLAND_DISPLAY indica; por isso a prateleira usa a tela X11 desta sessão, na qual talvez alguns arrastos não cheguem a ela</translation>
     </message>
 </context>
 <context>

@@ -614,11 +614,11 @@ veya gizler.</translation>
     </message>
     <message>
         <source>WAYLAND_DISPLAY is not set in this Wayland session, so the shelf uses the session&apos;s X11 display, where some drags may not reach it</source>
-        <translation>bu Wayland oturumunda WAYLAND_DISPLAY ayarlı değil; bu yüzden raf, bazı sürüklemelerin kendisine ulaşamayabileceği X11 ekranını kullanıyor</translation>
+        <translation>bu Wayland oturumunda WAYLAND_DISPLAY ayarlı değil; bu yüzden raf, oturumun X11 ekranını kullanıyor; bazı sürüklemeler orada ona ulaşmayabilir</translation>
     </message>
     <message>
         <source>WAYLAND_DISPLAY names no compositor that answers, so the shelf uses this session&apos;s X11 display, where some drags may not reach it</source>
-        <translation>WAYLAND_DISPLAY’in gösterdiği yerde yanıt veren bir birleştirici yok; bu yüzden raf, bazı sürüklemelerin kendisine ulaşamayabileceği X11 ekranını kullanıyor</translation>
+        <translation>WAYLAND_DISPLAY’in gösterdiği yerde yanıt veren bir birleştirici yok; bu yüzden raf, oturumun X11 ekranını kullanıyor; bazı sürüklemeler orada ona ulaşmayabilir</translation>
     </message>
 </context>
 <context>

@@ -184,6 +184,18 @@ TEST(Translations, NameAKeyInASentenceAsInAMenu)
     }
 }
 
+/// A line may not begin with the sign that ends what stands before it.
+TEST(Translations, KeepFrenchSignsBesideTheirWords)
+{
+    const TranslationFile file = readTranslations(pathOf(QStringLiteral("fr")));
+    EXPECT_FALSE(file.isEmpty());
+    const QRegularExpression apart(QStringLiteral(" [;:!?»]|« "));
+    for (const TranslatedMessage &message : file) {
+        for (const QString &text : message.texts)
+            EXPECT_FALSE(text.contains(apart)) << text.toStdString();
+    }
+}
+
 /// A word may be the same in two languages; a sentence is not, nor a word in other letters.
 TEST(Translations, LeaveNothingInEnglish)
 {
