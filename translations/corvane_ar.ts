@@ -12,10 +12,6 @@
         <translation>حدّد أو ألغِ التحديد</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>كل العناصر</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>حدّد الكل</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>أزل العناصر المحدّدة</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>كل العناصر: %L1</translation>
     </message>
 </context>
 <context>

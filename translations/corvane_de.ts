@@ -12,10 +12,6 @@
         <translation>Auswählen oder abwählen</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>Alle Elemente</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Alle auswählen</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Die ausgewählten Elemente entfernen</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>Alle Elemente: %L1</translation>
     </message>
 </context>
 <context>

@@ -12,10 +12,6 @@
         <translation>Select or deselect</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>All items</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Select all</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Remove the selected items</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>All items: %L1</translation>
     </message>
 </context>
 <context>

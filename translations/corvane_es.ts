@@ -12,10 +12,6 @@
         <translation>Seleccionar o deseleccionar</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>Todos los elementos</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Seleccionar todo</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Quitar los elementos seleccionados</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>Todos los elementos: %L1</translation>
     </message>
 </context>
 <context>

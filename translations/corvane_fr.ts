@@ -12,10 +12,6 @@
         <translation>Sélectionner ou désélectionner</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>Tous les éléments</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Tout sélectionner</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Retirer les éléments sélectionnés</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>Tous les éléments&#xa0;: %L1</translation>
     </message>
 </context>
 <context>
@@ -145,7 +145,7 @@
     </message>
     <message>
         <source>Items on the shelf: %L1</source>
-        <translation>Éléments de l’étagère : %L1</translation>
+        <translation>Éléments de l’étagère&#xa0;: %L1</translation>
     </message>
     <message>
         <source>The shelf is empty. %1 puts what is on the clipboard here.</source>
@@ -153,17 +153,17 @@
     </message>
     <message>
         <source>%1 was removed; the shelf is empty</source>
-        <translation>%1 a été retiré ; l’étagère est vide</translation>
+        <translation>%1 a été retiré&#xa0;; l’étagère est vide</translation>
     </message>
     <message>
         <source>%1 was removed; 1 item is left</source>
-        <translation>%1 a été retiré ; il reste 1 élément</translation>
+        <translation>%1 a été retiré&#xa0;; il reste 1 élément</translation>
     </message>
     <message numerus="yes">
         <source>%1 was removed; %n items are left</source>
         <translation>
-            <numerusform>%1 a été retiré ; il reste %Ln élément</numerusform>
-            <numerusform>%1 a été retiré ; il reste %Ln éléments</numerusform>
+            <numerusform>%1 a été retiré&#xa0;; il reste %Ln élément</numerusform>
+            <numerusform>%1 a été retiré&#xa0;; il reste %Ln éléments</numerusform>
         </translation>
     </message>
     <message>

@@ -12,10 +12,6 @@
         <translation>בחירה או ביטול בחירה</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>כל הפריטים</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>בחירת הכול</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>הסרת הפריטים שנבחרו</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>כל הפריטים: %L1</translation>
     </message>
 </context>
 <context>

@@ -12,10 +12,6 @@
         <translation>चुनें या चयन हटाएँ</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>सभी वस्तुएँ</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>सभी चुनें</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>चुनी हुई वस्तुएँ हटाएँ</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>सभी वस्तुएँ: %L1</translation>
     </message>
 </context>
 <context>

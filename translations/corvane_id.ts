@@ -12,10 +12,6 @@
         <translation>Pilih atau batal pilih</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>Semua butir</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Pilih semua</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Hapus butir yang dipilih</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>Semua butir: %L1</translation>
     </message>
 </context>
 <context>

@@ -12,10 +12,6 @@
         <translation>Seleziona o deseleziona</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>Tutti gli elementi</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Seleziona tutto</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Rimuovi gli elementi selezionati</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>Tutti gli elementi: %L1</translation>
     </message>
 </context>
 <context>

@@ -12,10 +12,6 @@
         <translation>選択または選択解除</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>すべての項目</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>すべて選択</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>選択した項目を削除</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>すべての項目: %L1</translation>
     </message>
 </context>
 <context>

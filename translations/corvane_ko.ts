@@ -12,10 +12,6 @@
         <translation>선택 또는 선택 해제</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>모든 항목</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>모두 선택</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>선택한 항목 제거</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>모든 항목: %L1</translation>
     </message>
 </context>
 <context>

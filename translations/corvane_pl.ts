@@ -12,10 +12,6 @@
         <translation>Zaznacz lub odznacz</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>Wszystkie elementy</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Zaznacz wszystko</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Usuń zaznaczone elementy</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>Wszystkie elementy: %L1</translation>
     </message>
 </context>
 <context>

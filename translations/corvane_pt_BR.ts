@@ -12,10 +12,6 @@
         <translation>Marcar ou desmarcar</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>Todos os itens</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Selecionar tudo</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Remover os itens selecionados</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>Todos os itens: %L1</translation>
     </message>
 </context>
 <context>

@@ -12,10 +12,6 @@
         <translation>Выбрать или снять выбор</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>Все объекты</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Выбрать все</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Убрать выбранные объекты</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>Все объекты: %L1</translation>
     </message>
 </context>
 <context>

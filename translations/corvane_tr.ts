@@ -12,10 +12,6 @@
         <translation>Seç veya seçimi kaldır</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>Tüm ögeler</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Tümünü seç</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Seçili ögeleri kaldır</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>Tüm ögeler: %L1</translation>
     </message>
 </context>
 <context>

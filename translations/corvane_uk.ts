@@ -12,10 +12,6 @@
         <translation>Вибрати або зняти вибір</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>Усі об’єкти</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>Вибрати все</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>Прибрати вибрані об’єкти</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>Усі об’єкти: %L1</translation>
     </message>
 </context>
 <context>

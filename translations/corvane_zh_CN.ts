@@ -12,10 +12,6 @@
         <translation>选择或取消选择</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>全部项目</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>全选</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>移除所选项目</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>全部项目：%L1</translation>
     </message>
 </context>
 <context>

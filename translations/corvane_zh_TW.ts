@@ -12,10 +12,6 @@
         <translation>選取或取消選取</translation>
     </message>
     <message>
-        <source>All items</source>
-        <translation>全部項目</translation>
-    </message>
-    <message>
         <source>Select all</source>
         <translation>全選</translation>
     </message>
@@ -38,6 +34,10 @@
     <message>
         <source>Remove the selected items</source>
         <translation>移除選取的項目</translation>
+    </message>
+    <message>
+        <source>All items: %L1</source>
+        <translation>全部項目：%L1</translation>
     </message>
 </context>
 <context>

@@ -52,7 +52,8 @@ AccessibleNode tileList(const State &state)
     AccessibleNode list;
     list.key = QStringLiteral("items");
     list.role = AccessibleNode::Role::List;
-    list.name = BarWords::tr("All items");
+    // Only this page is in it, and of check boxes screen readers count none.
+    list.name = BarWords::tr("All items: %L1").arg(state.itemCount);
     for (std::size_t tile = 0; tile < std::min(state.layout.tiles.size(), state.page.size());
          ++tile) {
         list.children.push_back(tileNode(state, tile));

@@ -58,6 +58,7 @@ TEST_F(AccessibleBarTest, TilesAreListedWithTheirPlaceAndTheirTick)
     show(8, 2);
     ASSERT_EQ(list().role, Role::List);
     ASSERT_EQ(list().children.size(), 5U);
+    EXPECT_EQ(list().name, QStringLiteral("All items: 8")) << "the five of this page are counted";
     const AccessibleNode first = list().children.front();
     EXPECT_EQ(first.role, Role::CheckBox) << "of others it is not said whether they are ticked";
     EXPECT_EQ(first.name, QStringLiteral("item 2"));
@@ -86,7 +87,7 @@ TEST_F(AccessibleBarTest, ItsControlsDoWhatAClickDoes)
         press(node.key);
     }
     EXPECT_EQ(names,
-              (QStringList{QStringLiteral("All items"), QStringLiteral("Earlier items"),
+              (QStringList{QStringLiteral("All items: 8"), QStringLiteral("Earlier items"),
                            QStringLiteral("Later items"), QStringLiteral("Select all"),
                            QStringLiteral("Copy the selected items"),
                            QStringLiteral("Remove the selected items")}));
