@@ -189,6 +189,8 @@ void ShelfStore::clearAll()
     const Operation operation(*this);
     for (const DropItem &item : std::as_const(m_items))
         tellLeft(item, true);
+    if (!m_items.isEmpty())
+        m_lastThatLeft = m_items.back().title();
     setItems({});
     m_selection.clear();
     becomeEmpty();
@@ -200,6 +202,7 @@ void ShelfStore::discard(int index, bool deletingSpoolFile)
         return;
     const Operation operation(*this);
     const DropItem item = m_items.takeAt(index);
+    m_lastThatLeft = item.title();
     m_index.removed(item.id());
     m_thumbnails.cancel(item.id());
     publishItems();

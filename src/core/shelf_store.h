@@ -9,6 +9,7 @@
 
 #include <QList>
 #include <QSet>
+#include <QString>
 #include <QUuid>
 
 #include <functional>
@@ -45,6 +46,8 @@ public:
 
     void observeState(StateObserver observer);
     void observeItems(ItemObserver observer);
+    /// Title of the item that left last; empty before one has.
+    const QString &lastThatLeft() const { return m_lastThatLeft; }
     /// Called for each item that leaves the shelf. With `deletingFiles` the files that were made
     /// for it are to be deleted, too; otherwise another program was given them.
     std::function<void(const QUuid &id, bool deletingFiles)> onLeft;
@@ -164,6 +167,7 @@ private:
     int m_focusedIndex = 0;
     int m_scrollOffset = 0;
     QSet<QUuid> m_selection;
+    QString m_lastThatLeft;
     bool m_isViewAllOpen = false;
     CallbackList<ShelfState, ShelfState> m_stateObservers;
     CallbackList<const QList<DropItem> &> m_itemObservers;

@@ -129,23 +129,6 @@ void tellFocus(const ShelfLook &look, std::vector<AccessibleNode> &nodes)
     }
 }
 
-/// The only one that left, if it was in view. The focus is then on the item that followed it, or on
-/// the last one.
-const DropItem *removedItem(const ShelfSnapshot &before, const ShelfSnapshot &now)
-{
-    const auto isLeft = [&now](const DropItem &item) {
-        return std::ranges::any_of(
-            now.visible, [&item](const auto &shown) { return shown.second.id() == item.id(); });
-    };
-    for (const auto &[index, item] : before.visible) {
-        const bool wasInItsPlace
-            = now.totalCount == 0 || std::min(index, now.totalCount - 1) == now.focusedIndex;
-        if (wasInItsPlace && !isLeft(item))
-            return &item;
-    }
-    return nullptr;
-}
-
 QString newsOfRemoved(const QString &title, int left)
 {
     if (left == 0)
@@ -233,10 +216,8 @@ QString newsOf(const ShelfSnapshot &before, const ShelfSnapshot &now)
     const int more = now.totalCount - before.totalCount;
     if (more == 0)
         return {};
-    if (more == -1) {
-        if (const DropItem *item = removedItem(before, now))
-            return newsOfRemoved(displayText(item->title()), now.totalCount);
-    }
+    if (more == -1 && !now.lastThatLeft.isEmpty())
+        return newsOfRemoved(displayText(now.lastThatLeft), now.totalCount);
     if (now.totalCount == 0)
         return Words::tr("The shelf is empty");
     if (more < 0)

@@ -171,6 +171,7 @@ ShelfSnapshot HUDController::makeSnapshot(const ScreenPointer &screen) const
     snapshot.state = m_store.state();
     snapshot.visible = m_store.visibleItems();
     snapshot.totalCount = static_cast<int>(m_store.items().size());
+    snapshot.lastThatLeft = m_store.lastThatLeft();
     snapshot.focusedIndex = m_store.focusedIndex();
     snapshot.inViewCount = m_context.settings.inViewCount();
     snapshot.canScrollBack = m_store.scrollOffset() > 0;

@@ -4,6 +4,7 @@
 #include "core/shelf_state.h"
 
 #include <QSizeF>
+#include <QString>
 
 #include <utility>
 #include <vector>
@@ -16,6 +17,8 @@ struct ShelfSnapshot {
     /// The items in view with their indices among all items.
     std::vector<std::pair<int, DropItem>> visible;
     int totalCount = 0;
+    /// Title of the item that left the shelf last, in view or not; empty before one has.
+    QString lastThatLeft;
     /// Index among all items.
     int focusedIndex = 0;
     /// 1 to 6.

@@ -58,6 +58,7 @@ protected:
     /// As the store does it: the focus comes to the item that follows, or to the last one.
     void remove(int index)
     {
+        snapshot.lastThatLeft = snapshot.visible.at(static_cast<std::size_t>(index)).second.title();
         snapshot.visible.erase(snapshot.visible.begin() + index);
         --snapshot.totalCount;
         for (int i = index; i < snapshot.totalCount; ++i)
@@ -342,6 +343,7 @@ TEST_F(AccessibleShelfTest, TheOneThatLeftIsNamed)
     EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("item 1 was removed; 2 items are left"));
     remove(1);
     EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("item 2 was removed; 1 item is left"));
+    snapshot.lastThatLeft = QStringLiteral("item 0");
     snapshot.visible.clear();
     snapshot.totalCount = 0;
     snapshot.focusedIndex = 0;
@@ -351,16 +353,26 @@ TEST_F(AccessibleShelfTest, TheOneThatLeftIsNamed)
               QStringLiteral("item 0 was removed; the shelf is empty"));
 }
 
-TEST_F(AccessibleShelfTest, OneThatLeftUnseenIsNotTakenForOneThatOnlyWentOutOfView)
+TEST_F(AccessibleShelfTest, OneThatLeftUnseenIsNamedToo)
 {
     // The first of five leaves, which is not in view, and the view goes to where it was.
     show(5, 2, 2);
     const auto third = snapshot.visible.front();
+    snapshot.lastThatLeft = QStringLiteral("first");
     snapshot.totalCount = 4;
     snapshot.focusedIndex = 0;
     snapshot.visible = {{0, ShelfDesk::textItem(QStringLiteral("second"))}, {1, third.second}};
     apply();
-    EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("Removed; 4 items are left"));
+    EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("first was removed; 4 items are left"));
+}
+
+TEST_F(AccessibleShelfTest, OfSeveralThatLeftNoneIsNamed)
+{
+    show(5, 2);
+    snapshot.lastThatLeft = QStringLiteral("one of them");
+    snapshot.totalCount = 3;
+    apply();
+    EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("Removed; 3 items are left"));
 }
 
 TEST_F(AccessibleShelfTest, ATitleOfOneThatLeftCannotDisguiseItself)

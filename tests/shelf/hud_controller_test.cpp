@@ -772,6 +772,19 @@ TEST_F(HUDControllerTest, HiddenByHandItSaysSo)
     EXPECT_EQ(desk.panel.announced.count(hidden), 1) << "that key was pressed on it";
 }
 
+TEST_F(HUDControllerTest, WhatTheBarRemovesOutOfSightIsNamed)
+{
+    accept(3);
+    settings.setInViewCount(1);
+    const DropItem first = store.items().front();
+    ASSERT_NE(store.focusedIndex(), 0);
+    for (const DropItem &item : {store.items()[1], store.items()[2]})
+        store.toggleSelection(item);
+    store.removeSelected();
+    EXPECT_EQ(desk.panel.announced.last(),
+              first.title() + QStringLiteral(" was removed; 2 items are left"));
+}
+
 TEST_F(HUDControllerTest, OpenedInTheMiddleOfADragItLeavesTheKeyboardWhereItIs)
 {
     controller->dragChanged(true);

@@ -87,6 +87,8 @@ TextTable textsForScreenReaders()
     const auto news = [&](int before, int now, int inView) {
         ShelfSnapshot after = snapshotOf(items.first(now), inView);
         after.focusedIndex = std::max(now - 1, 0);
+        if (now < before)
+            after.lastThatLeft = items[before - 1].title();
         lines << accessible_shelf::newsOf(snapshotOf(items.first(before), inView), after);
     };
     news(1, 0, 6);
