@@ -199,8 +199,8 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
             .shelfWidth = [this](const ScreenPointer &screen) { return hud.openWidth(screen); },
             .letClicksThrough = letClicksThrough()})
     , installation(Installation::from(Installation::Evidence::ofThisProcess()))
-    , updateWindow(desktop.windowActivation, desktop.screenLocator, AppInfo::builtIn().version(),
-                   installation.kind == Installation::Kind::AppImage)
+    , updateWindow(desktop.windowActivation, desktop.screenLocator, announcing(),
+                   AppInfo::builtIn().version(), installation.kind == Installation::Kind::AppImage)
     , updateClient(mainQueue, networkBy(webRoutes))
     , updates(AppInfo::builtIn(), installation, [this] { return makeUpdater(); })
     , statusItemController({.statusItem = statusItem.item(),
@@ -219,7 +219,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                   .motion = motionPreference,
                   .screenLocator = desktop.screenLocator,
                   .abilities = desktop.abilities,
-                  .announce = [this](const QString &text) { panel.announce(text); },
+                  .announce = announcing(),
                   .appInfo = AppInfo::builtIn(),
                   .updater = updates.updater(),
                   .isKeptUpToDateByOthers = installation.kind == Installation::Kind::Managed},
@@ -276,6 +276,11 @@ void CompositionRoot::applyAppearance()
 
 /// Where clicks elsewhere are not heard of, the shelf would stay in the way of one that went
 /// through it; and a compositor may not look at who is below the pointer again before it moves.
+std::function<void(const QString &)> CompositionRoot::announcing()
+{
+    return [this](const QString &text) { panel.announce(text); };
+}
+
 std::function<void(double)> CompositionRoot::letClicksThrough()
 {
     if (!desktop.abilities.now().clicksElsewhere.isFull())

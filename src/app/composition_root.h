@@ -188,6 +188,9 @@ struct CompositionRoot {
 
 private:
     std::function<void(double seconds)> letClicksThrough();
+    /// Has screen readers say a text by the shelf's panel, as notifications of windows are said
+    /// with all that stands in them.
+    std::function<void(const QString &text)> announcing();
     void applyAppearance();
     std::unique_ptr<Updater> makeUpdater();
 };

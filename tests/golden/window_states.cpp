@@ -70,8 +70,8 @@ public:
 private:
     FakeWindowActivation m_activation;
     UserScreens m_screens;
-    UpdateWindowController m_controller{m_activation, m_screens.locator, QStringLiteral("1.0"),
-                                        true};
+    UpdateWindowController m_controller{m_activation, m_screens.locator, [](const QString &) {},
+                                        QStringLiteral("1.0"), true};
 };
 
 std::unique_ptr<WindowStage> generalPane()

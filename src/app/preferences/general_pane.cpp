@@ -232,11 +232,14 @@ PreferenceSection *GeneralPane::makeUpdatesSection()
     auto *row = new SettingRow(title, detail, {checkNow, control}, m_look);
     section->addRow(row);
     if (updater) {
-        const auto show = [row, control, &notices = updater->notices()] {
+        const auto show = [this, row, control, &notices = updater->notices()] {
             const QString text
                 = notices.now() ? UpdateTexts::explanation(*notices.now()) : QString();
             row->setDetail(text);
             control->setAccessibleDescription(text);
+            // The keyboard may be anywhere in the window.
+            if (isVisible() && !text.isEmpty())
+                m_context.announce(text);
         };
         show();
         m_notices = updater->notices().observe(show);

@@ -43,10 +43,21 @@ int progressOf(const UpdateReport &report)
     return report.total > 0 ? static_cast<int>(report.received * progressSteps / report.total) : 0;
 }
 
+/// Titles end without a full stop. How far a download is, its bar tells.
+QString spoken(Stage stage, const UpdateTexts &texts)
+{
+    return texts.detail.isEmpty() || stage == Stage::Downloading
+        ? texts.title
+        : QString(texts.title + QLatin1String(". ") + texts.detail);
+}
+
 } // namespace
 
-UpdateWindow::UpdateWindow(const ScreenLocator &screenLocator, std::function<void()> onClose)
+UpdateWindow::UpdateWindow(const ScreenLocator &screenLocator,
+                           std::function<void(const QString &text)> announce,
+                           std::function<void()> onClose)
     : ShellWindow(screenLocator, WindowLook().length(smallSize), std::move(onClose))
+    , m_announce(std::move(announce))
     , m_title(new TextLabel({}, m_look.font(titleSize, QFont::DemiBold), TextLabel::Tone::Primary))
     , m_detail(new TextLabel({}, m_look.font(textSize), TextLabel::Tone::Secondary))
     , m_notes(new QPlainTextEdit)
@@ -127,8 +138,15 @@ void UpdateWindow::setReport(const UpdateReport &report, const UpdateTexts &text
     size.setHeight(std::max(size.height(), layout()->minimumHeightForWidth(size.width())));
     setContentSize(size);
     // The button that had the keyboard may be hidden now, or do something else.
-    if (hadAction != hasAction || !focusWidget())
+    const bool movesFocus = hadAction != hasAction || !focusWidget();
+    if (movesFocus)
         usual->setFocus();
+    m_spoken = spoken(report.stage, texts);
+    const bool isNews = m_stage && m_stage != report.stage;
+    m_stage = report.stage;
+    // A button is said with its description as the keyboard comes to it, and not otherwise.
+    if (isNews && !(movesFocus && isActiveWindow()))
+        announce();
 }
 
 void UpdateWindow::paintEvent(QPaintEvent *event)

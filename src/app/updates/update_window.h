@@ -5,6 +5,7 @@
 #include "app/updates/update_report.h"
 
 #include <functional>
+#include <optional>
 
 class QHBoxLayout;
 class QPlainTextEdit;
@@ -26,12 +27,16 @@ public:
     static constexpr QSize smallSize{420, 168};
     static constexpr QSize sizeWithNotes{460, 400};
 
-    UpdateWindow(const ScreenLocator &screenLocator, std::function<void()> onClose);
+    /// `announce` has screen readers say a text at once, wherever the keyboard is.
+    UpdateWindow(const ScreenLocator &screenLocator,
+                 std::function<void(const QString &text)> announce, std::function<void()> onClose);
 
     /// Called when the user clicks the button beside the one that closes.
     std::function<void()> onAction;
 
     void setReport(const UpdateReport &report, const UpdateTexts &texts);
+    /// Announces what is shown, for a window that opens without the keyboard.
+    void announce() const { m_announce(m_spoken); }
 
 protected:
     void changeEvent(QEvent *event) override;
@@ -42,6 +47,10 @@ private:
     QHBoxLayout *makeButtons();
 
     WindowLook m_look;
+    std::function<void(const QString &)> m_announce;
+    /// Of the report that is shown.
+    std::optional<UpdateReport::Stage> m_stage;
+    QString m_spoken;
     TextLabel *m_title;
     TextLabel *m_detail;
     QPlainTextEdit *m_notes;

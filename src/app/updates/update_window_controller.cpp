@@ -11,9 +11,11 @@ namespace corvane {
 
 UpdateWindowController::UpdateWindowController(WindowActivation &activation,
                                                const ScreenLocator &screenLocator,
+                                               std::function<void(const QString &text)> announce,
                                                QString runningVersion, bool replaces)
     : m_activation(activation)
     , m_screenLocator(screenLocator)
+    , m_announce(std::move(announce))
     , m_runningVersion(std::move(runningVersion))
     , m_replaces(replaces)
 {
@@ -23,14 +25,18 @@ UpdateWindowController::~UpdateWindowController() = default;
 
 void UpdateWindowController::show(const UpdateReport &report, UpdateAttention attention)
 {
+    const bool opensUnasked = !m_window && attention == UpdateAttention::Unasked;
     if (!m_window) {
-        m_window.reset(new UpdateWindow(m_screenLocator, [this] { windowWillClose(); }));
+        m_window.reset(
+            new UpdateWindow(m_screenLocator, m_announce, [this] { windowWillClose(); }));
         m_window->onAction = [this] { act(); };
-        if (attention == UpdateAttention::Unasked)
+        if (opensUnasked)
             m_window->setAttribute(Qt::WA_ShowWithoutActivating);
     }
     update(report);
     m_window->present();
+    if (opensUnasked)
+        m_window->announce();
     if (attention == UpdateAttention::Asked)
         m_activation.bringToFront(*m_window->windowHandle());
 }

@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <functional>
+
 namespace corvane {
 
 class WindowActivation;
@@ -13,8 +15,10 @@ class WindowActivation;
 /// Main thread only; the references must outlive it.
 class UpdateWindowController : public UpdateDisplay {
 public:
-    /// `replaces` says whether an update takes the running version's place.
+    /// `announce` has screen readers say a text at once, wherever the keyboard is. `replaces` says
+    /// whether an update takes the running version's place.
     UpdateWindowController(WindowActivation &activation, const ScreenLocator &screenLocator,
+                           std::function<void(const QString &text)> announce,
                            QString runningVersion, bool replaces);
     UpdateWindowController(const UpdateWindowController &) = delete;
     UpdateWindowController &operator=(const UpdateWindowController &) = delete;
@@ -32,6 +36,7 @@ private:
 
     WindowActivation &m_activation;
     const ScreenLocator &m_screenLocator;
+    std::function<void(const QString &)> m_announce;
     QString m_runningVersion;
     bool m_replaces;
     UpdateReport m_report;

@@ -441,6 +441,25 @@ TEST_F(GeneralPaneTest, WhatIsWrongWithUpdatesStandsBesideTheirSwitchAsLongAsItI
     EXPECT_EQ(updates.detail(), QString());
 }
 
+TEST_F(GeneralPaneTest, WhatBecomesWrongWithUpdatesWhileThePaneIsOpenIsSaidOnce)
+{
+    FakeUpdater updater;
+    desk.updater = &updater;
+    UpdateReport report{UpdateReport::Stage::Failed};
+    report.failure = UpdateFailure::Unverifiable;
+    updater.wrong.set(report);
+    pane();
+    report.failure = UpdateFailure::WentBack;
+    updater.wrong.set(report);
+    EXPECT_EQ(desk.announced, QStringList()) << "the switch has it as its description";
+    pane().show();
+    report.failure = UpdateFailure::Expired;
+    updater.wrong.set(report);
+    EXPECT_EQ(desk.announced, QStringList{row("Check for updates automatically").detail()});
+    updater.wrong.set(std::nullopt);
+    EXPECT_EQ(desk.announced.size(), 1) << "that nothing is wrong any more is no news";
+}
+
 TEST_F(GeneralPaneTest, BetasAreThereForThoseWhoChooseThem)
 {
     FakeUpdater updater;

@@ -266,8 +266,11 @@ TextTable textsOfTheUpdates()
     FakeWindowActivation activation;
     UserScreens screens;
     {
-        UpdateWindowController replacing(activation, screens.locator, QStringLiteral("1.0"), true);
-        UpdateWindowController handing(activation, screens.locator, QStringLiteral("1.0"), false);
+        const auto quietly = [](const QString &) {};
+        UpdateWindowController replacing(activation, screens.locator, quietly,
+                                         QStringLiteral("1.0"), true);
+        UpdateWindowController handing(activation, screens.locator, quietly, QStringLiteral("1.0"),
+                                       false);
         const auto add = [&](UpdateWindowController &controller, const QString &heading,
                              const UpdateReport &report) {
             controller.show(report, UpdateAttention::Asked);

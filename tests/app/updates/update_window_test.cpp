@@ -58,7 +58,10 @@ protected:
 
     FakeWindowActivation activation;
     UserScreens screens;
-    UpdateWindowController controller{activation, screens.locator, QStringLiteral("1.0"), true};
+    QStringList announced;
+    UpdateWindowController controller{activation, screens.locator,
+                                      [this](const QString &text) { announced << text; },
+                                      QStringLiteral("1.0"), true};
     QStringList log;
 };
 
@@ -210,6 +213,42 @@ TEST_F(UpdateWindowTest, ScreenReadersAreToldWhatTheButtonIsFor)
         QStringLiteral("Corvane 1.2 is available")));
     EXPECT_FALSE(notes().accessibleName().isEmpty());
     EXPECT_FALSE(progress().accessibleName().isEmpty());
+}
+
+TEST_F(UpdateWindowTest, EachStageIsSaidOnceWhereTheKeyboardStaysOnItsButton)
+{
+    show(Stage::Checking);
+    ASSERT_TRUE(activate(*controller.window()));
+    EXPECT_EQ(announced, QStringList()) << "the window is read as it opens";
+    controller.update(report(Stage::UpToDate));
+    EXPECT_EQ(
+        announced,
+        QStringList{QStringLiteral("Corvane is up to date. You have version 1.0, the newest.")});
+    controller.update(report(Stage::Available));
+    EXPECT_EQ(announced.size(), 1) << "the button that gets the keyboard has it as its description";
+    UpdateReport downloading = report(Stage::Downloading);
+    controller.update(downloading);
+    controller.update(report(Stage::Installing));
+    EXPECT_EQ(announced.last(), QStringLiteral("Checking and installing…"));
+    controller.update(downloading);
+    EXPECT_EQ(announced.last(), QStringLiteral("Downloading Corvane 1.2…"));
+    const auto count = announced.size();
+    downloading.received += 100'000;
+    controller.update(downloading);
+    EXPECT_EQ(announced.size(), count) << "the progress bar tells that";
+}
+
+TEST_F(UpdateWindowTest, WhatNobodyAskedForIsSaidWhereverTheKeyboardIs)
+{
+    show(Stage::Available, UpdateAttention::Unasked);
+    const QString offer
+        = QStringLiteral("Corvane 1.2 is available. You have 1.0. The download has 2 MB.");
+    EXPECT_EQ(announced, QStringList{offer});
+    controller.update(report(Stage::Replaced));
+    EXPECT_EQ(announced.size(), 2) << "no button of it has the keyboard";
+    button("Close")->click();
+    show(Stage::UpToDate);
+    EXPECT_EQ(announced.size(), 2) << "it was asked for, and is read as it opens";
 }
 
 TEST_F(UpdateWindowTest, EverythingFitsIntoItsWindow)
