@@ -1,37 +1,20 @@
 #include "preview/elided_label.h"
 
 #include "platform/desktop/parts_in_order.h"
+#include "platform/qt/desktop/spoken_role.h"
 #include "preview/preview_look.h"
 
-#include <QAccessibleWidget>
 #include <QPainter>
 #include <QTextLayout>
 
 namespace corvane {
 
-namespace {
-
-/// Screen readers would say labels as the window opens, and then once more with the content that
-/// has the same texts as its description; of paragraphs they do not.
-void installRole()
-{
-    static const bool isInstalled = [] {
-        QAccessible::installFactory([](const QString &, QObject *object) -> QAccessibleInterface * {
-            auto *const label = dynamic_cast<ElidedLabel *>(object);
-            // The toolkit keeps it, and deletes it along with the label.
-            return label ? new QAccessibleWidget(label, QAccessible::Paragraph) : nullptr;
-        });
-        return true;
-    }();
-    Q_UNUSED(isInstalled)
-}
-
-} // namespace
-
 ElidedLabel::ElidedLabel(QWidget *parent)
     : QWidget(parent)
 {
-    installRole();
+    // Screen readers would say labels as the window opens, and then once more with the content that
+    // has the same texts as its description; of paragraphs they do not.
+    speakAs<ElidedLabel>(QAccessible::Paragraph);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
 }
 

@@ -1,5 +1,6 @@
 #include "preview/pages_view.h"
 
+#include "platform/qt/desktop/spoken_role.h"
 #include "preview/preview_geometry.h"
 #include "preview/preview_look.h"
 
@@ -21,6 +22,8 @@ PagesView::PagesView(PreviewContent::Pages pages, PreviewLoading &loading, QWidg
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // Pictures of pages: there is no text to read.
+    speakAs<PagesView>(QAccessible::Graphic);
     setAccessibleName(QCoreApplication::translate("PreviewWindow", "Pages"));
 }
 

@@ -2,6 +2,7 @@
 
 #include "platform/base/main_queue.h"
 #include "platform/pictures/image_codec.h"
+#include "platform/qt/desktop/spoken_role.h"
 
 #include <QCoreApplication>
 #include <QMouseEvent>
@@ -54,6 +55,7 @@ PictureView::PictureView(const PreviewContent::Picture &picture, PreviewLoading 
     , m_isAnimating(picture.isAnimated && picture.document)
 {
     setFocusPolicy(Qt::StrongFocus);
+    speakAs<PictureView>(QAccessible::Graphic);
     setAccessibleName(QCoreApplication::translate("PreviewWindow", "Picture"));
 }
 

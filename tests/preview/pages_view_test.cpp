@@ -2,6 +2,7 @@
 #include "preview/pages_view.h"
 #include "preview/preview_geometry.h"
 
+#include <QAccessible>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -37,6 +38,11 @@ struct PagesViewTest : testing::Test {
 };
 
 } // namespace
+
+TEST_F(PagesViewTest, IsAPictureToScreenReadersAsThereIsNoTextToRead)
+{
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&view)->role(), QAccessible::Graphic);
+}
 
 TEST_F(PagesViewTest, AsksForOnePageAtATimeInTheSizeThatItHas)
 {

@@ -3,6 +3,7 @@
 #include "preview/manual_loading.h"
 #include "preview/picture_view.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QMouseEvent>
 #include <QNativeGestureEvent>
@@ -90,6 +91,12 @@ TEST_F(PictureViewTest, WhatIsTransparentShowsASquaredGround)
                     << row << ' ' << column << ' ' << base.lightness();
         }
     }
+}
+
+TEST_F(PictureViewTest, IsAPictureToScreenReaders)
+{
+    show(picture(square(Qt::red), 100));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(&*view)->role(), QAccessible::Graphic);
 }
 
 TEST_F(PictureViewTest, MovesAndZoomsByItsKeysAndLeavesOthers)

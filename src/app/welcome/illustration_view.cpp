@@ -3,6 +3,7 @@
 #include "app/welcome/welcome_illustration.h"
 #include "app/welcome/welcome_shapes.h"
 #include "platform/desktop/motion_preference.h"
+#include "platform/qt/desktop/spoken_role.h"
 
 #include <QPainter>
 #include <QRegion>
@@ -26,6 +27,7 @@ IllustrationView::IllustrationView(const WindowLook &look, const MotionPreferenc
     , m_look(look)
     , m_motion(motion)
 {
+    speakAs<IllustrationView>(QAccessible::Graphic);
     // On a small screen the texts and buttons need their room first.
     setMaximumHeight(m_look.length(WelcomeScene::stageSize.height()));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);

@@ -2,6 +2,7 @@
 
 #include "core/shown_numbers.h"
 #include "platform/desktop/motion_preference.h"
+#include "platform/qt/desktop/spoken_role.h"
 
 #include <QPainter>
 
@@ -27,6 +28,7 @@ PageIndicator::PageIndicator(int count, const WindowLook &look, const MotionPref
     , m_look(look)
     , m_motion(motion)
 {
+    speakAs<PageIndicator>(QAccessible::StaticText);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_place.setDuration(moveMilliseconds);
     m_place.setEasingCurve(QEasingCurve::InOutQuad);

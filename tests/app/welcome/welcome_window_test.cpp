@@ -14,6 +14,7 @@
 #include "fakes/preferences_desk.h"
 #include "platform/desktop/abilities.h"
 
+#include <QAccessible>
 #include <QImage>
 #include <QPainter>
 #include <QPushButton>
@@ -117,6 +118,15 @@ TEST_F(WelcomeWindowTest, AStepIsSaidAsOneTurnsToIt)
               QStringLiteral("Step 3 of 3: Hold ⇧ to keep it on the shelf. ") + texts[1]->text());
     button("Back")->click();
     EXPECT_TRUE(desk.announced.value(2).startsWith(QStringLiteral("Step 2 of 3: ")));
+}
+
+TEST_F(WelcomeWindowTest, ItsPictureAndItsPlaceAreNoFillersToScreenReaders)
+{
+    const auto roleOf
+        = [](QWidget *part) { return QAccessible::queryAccessibleInterface(part)->role(); };
+    EXPECT_EQ(roleOf(&illustration()), QAccessible::Graphic);
+    EXPECT_EQ(roleOf(window().findChild<PageIndicator *>()), QAccessible::StaticText)
+        << "so it is read with the other texts as the guide opens";
 }
 
 TEST_F(WelcomeWindowTest, TheStepOnKeysNamesThoseThatOpenTheShelf)
