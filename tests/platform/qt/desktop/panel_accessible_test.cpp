@@ -55,8 +55,8 @@ protected:
         node.actions = {{AccessibleNode::press(), QStringLiteral("Press it")}};
         return node;
     }
-    /// As the bridge to screen readers does. It is told of changes only where one is there, which
-    /// nobody but the bridge can say; those tests are end to end.
+    /// As the bridge to screen readers does. What it is told where one is there, other tests look
+    /// at that need no display.
     QAccessibleInterface *ask() { return panel.window().accessibleRoot(); }
     static QStringList names(const QAccessibleInterface &root)
     {
