@@ -57,6 +57,12 @@ AccessibleNode describe(const DropItem &item, Place place)
     return node;
 }
 
+QString spoken(const DropItem &item, Place place)
+{
+    const AccessibleNode node = describe(item, place);
+    return node.name + QLatin1String(", ") + node.description;
+}
+
 QString focus()
 {
     return QStringLiteral("SetFocus");

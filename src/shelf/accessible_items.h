@@ -20,6 +20,9 @@ struct Place {
 /// what is shown below the title, its place ("2 of 5"), and whether it is still being made.
 AccessibleNode describe(const DropItem &item, Place place);
 
+/// The same in one line, for what is announced.
+QString spoken(const DropItem &item, Place place);
+
 /// The toolkit's name for the action of everything that can be focused: the keyboard goes there,
 /// and nothing else is done.
 QString focus();

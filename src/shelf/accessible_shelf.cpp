@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 #include <QKeySequence>
+#include <QStringList>
 
 #include <algorithm>
 #include <utility>
@@ -230,6 +231,20 @@ QString newsOf(const ShelfSnapshot &before, const ShelfSnapshot &now)
         return Words::tr("%1 was added").arg(displayText(last->second.title()));
     return more == 1 ? Words::tr("1 item was added")
                      : Words::tr("%n items were added", nullptr, more);
+}
+
+QString newsOfPage(const ShelfSnapshot &before, const ShelfSnapshot &now)
+{
+    QStringList came;
+    for (const auto &[index, item] : now.visible) {
+        const bool wasThere
+            = std::ranges::any_of(before.visible, [&shown = item](const auto &entry) {
+                  return entry.second.id() == shown.id();
+              });
+        if (!wasThere)
+            came << accessible_items::spoken(item, {index, now.totalCount});
+    }
+    return came.join(QLatin1String("; "));
 }
 
 QString hiddenNews()

@@ -31,6 +31,10 @@ std::optional<ShelfHit> controlOf(const QString &key, const ShelfLook &look);
 /// nothing.
 QString newsOf(const ShelfSnapshot &before, const ShelfSnapshot &now);
 
+/// What is to be said when the user has paged from one snapshot to another: the items that came
+/// into view. Empty for none.
+QString newsOfPage(const ShelfSnapshot &before, const ShelfSnapshot &now);
+
 /// What is to be said when the user has hidden the shelf, of which nothing else tells who does not
 /// see it.
 QString hiddenNews();

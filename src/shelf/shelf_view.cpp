@@ -207,7 +207,7 @@ void ShelfView::mouseDown(const MouseEvent &event)
 void ShelfView::press(const ShelfHit &hit, QPointF point)
 {
     if (const auto *arrow = std::get_if<shelf_hit::Arrow>(&hit))
-        call(onScroll, arrow->side == ArrowSide::Left ? -1 : 1);
+        pageBy(arrow->side == ArrowSide::Left ? -1 : 1);
     else if (std::holds_alternative<shelf_hit::ViewAll>(hit))
         call(onViewAll);
     else if (const auto *badge = std::get_if<shelf_hit::Badge>(&hit))
@@ -216,6 +216,17 @@ void ShelfView::press(const ShelfHit &hit, QPointF point)
         performAction(button->action);
     else if (const auto *cell = std::get_if<shelf_hit::Cell>(&hit))
         pressCell(cell->itemIndex, point);
+}
+
+/// The keyboard stays on the arrow, so that screen readers say nothing by themselves.
+void ShelfView::pageBy(int steps)
+{
+    // A copy: paging replaces it.
+    const ShelfSnapshot before = m_look.snapshot;
+    call(onScroll, steps);
+    const QString news = accessible_shelf::newsOfPage(before, m_look.snapshot);
+    if (!news.isEmpty())
+        m_context.panel.announce(news);
 }
 
 void ShelfView::pressCell(int itemIndex, QPointF point)

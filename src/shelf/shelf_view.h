@@ -141,6 +141,7 @@ private:
     void performAction(ShelfAction action) const;
     void press(const ShelfHit &hit, QPointF point);
     void pressCell(int itemIndex, QPointF point);
+    void pageBy(int steps);
     bool keyForItems(const KeyEvent &event);
     void pressKey(const KeyEvent &event) const;
     bool keyForEverything(const KeyEvent &event);

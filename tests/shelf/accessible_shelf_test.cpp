@@ -394,6 +394,26 @@ TEST_F(AccessibleShelfTest, ScrollingAndFocusingAnnounceNothing)
     EXPECT_TRUE(desk.panel.announced.isEmpty());
 }
 
+TEST_F(AccessibleShelfTest, WhatAnArrowBringsIntoViewIsSaidAsTheKeyboardStaysOnTheArrow)
+{
+    show(5, 3);
+    desk.panel.announced.clear();
+    view.onScroll = [this](int steps) {
+        const int first = snapshot.visible.front().first + steps;
+        if (first < 0)
+            return;
+        snapshot.visible.erase(snapshot.visible.begin());
+        snapshot.visible.emplace_back(first + 2, ShelfDesk::textItem(QStringLiteral("came")));
+        snapshot.canScrollBack = true;
+        view.apply(snapshot);
+    };
+    perform(QStringLiteral("Earlier items"));
+    EXPECT_EQ(desk.panel.announced, QStringList()) << "it leads nowhere";
+    perform(QStringLiteral("Later items"));
+    EXPECT_EQ(desk.panel.announced,
+              QStringList{QStringLiteral("came, Text, 5 characters, 4 of 5")});
+}
+
 TEST_F(AccessibleShelfTest, AMessageIsAnnouncedWhenItIsShown)
 {
     show(1, 1);

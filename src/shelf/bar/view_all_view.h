@@ -129,6 +129,7 @@ private:
     bool findHovered();
     void updateHover(QPointF point);
     void press(ViewAllControl control);
+    void pageBy(int step);
     void pressKey(TypedKey key);
     void toggleSelectAll();
     bool keyForFocus(const KeyEvent &event);

@@ -1,9 +1,12 @@
 // The pointer and the keys on the view-all bar, and the bar as a source of drags.
 
 #include "core/drag_writer.h"
+#include "shelf/accessible_items.h"
 #include "shelf/bar/view_all_view.h"
 #include "shelf/drag_stack.h"
 #include "shelf/optional_callback.h"
+
+#include <QStringList>
 
 #include <algorithm>
 #include <cmath>
@@ -71,10 +74,10 @@ void ViewAllView::press(ViewAllControl control)
 {
     switch (control) {
     case ViewAllControl::Back:
-        call(onScroll, -1);
+        pageBy(-1);
         break;
     case ViewAllControl::Forward:
-        call(onScroll, 1);
+        pageBy(1);
         break;
     case ViewAllControl::SelectAll:
         toggleSelectAll();
@@ -86,6 +89,22 @@ void ViewAllView::press(ViewAllControl control)
         call(onRemoveSelected);
         break;
     }
+}
+
+/// The keyboard stays on the arrow, so that screen readers say nothing by themselves.
+void ViewAllView::pageBy(int step)
+{
+    const QList<QUuid> before = itemsInView();
+    call(onScroll, step);
+    QStringList came;
+    int index = m_offset;
+    for (const DropItem &item : page()) {
+        if (!before.contains(item.id()))
+            came << accessible_items::spoken(item, {index, itemCount()});
+        ++index;
+    }
+    if (!came.isEmpty())
+        m_context.panel.announce(came.join(QLatin1String("; ")));
 }
 
 void ViewAllView::wireDragSource()

@@ -123,6 +123,23 @@ TEST_F(AccessibleBarTest, HowManyAreSelectedIsSaidOnceAfterAllOfThemWereAskedFor
     EXPECT_EQ(desk.panel.announced.size(), 2);
 }
 
+TEST_F(AccessibleBarTest, WhatAnArrowBringsIntoViewIsSaidAsTheKeyboardStaysOnTheArrow)
+{
+    show(8, 0);
+    int offset = 0;
+    view.onScroll = [&](int step) {
+        offset = std::max(0, offset + step);
+        view.apply(items, selection, offset);
+    };
+    press(named(QStringLiteral("Earlier items")).key);
+    EXPECT_EQ(desk.panel.announced, QStringList()) << "it leads nowhere";
+    press(named(QStringLiteral("Later items")).key);
+    EXPECT_EQ(desk.panel.announced,
+              QStringList{QStringLiteral("item 5, Text, 5 characters, 6 of 8")});
+    press(named(QStringLiteral("Earlier items")).key);
+    EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("item 0, Text, 5 characters, 1 of 8"));
+}
+
 TEST_F(AccessibleBarTest, OfTilesThatAreTickedNothingIsSaidBesideTheirTick)
 {
     show(3, 0);
