@@ -156,6 +156,17 @@ TEST_F(ViewAllKeyboardTest, AControlThatLeadsNowhereAnyMoreGivesTheFocusToTheTil
     EXPECT_EQ(focused(), QStringLiteral("item 1"));
 }
 
+TEST_F(ViewAllKeyboardTest, TabPassesOverAnArrowThatLeadsNowhere)
+{
+    show(5);
+    key(TypedKey::Tab, Modifier::Shift);
+    EXPECT_EQ(focused(), QStringLiteral("Select all")) << "all of them are on this page";
+    show(6, 1);
+    key(TypedKey::Tab, Modifier::Shift);
+    key(TypedKey::Tab, Modifier::Shift);
+    EXPECT_EQ(focused(), QStringLiteral("Earlier items")) << "the last one is on this page";
+}
+
 TEST_F(ViewAllKeyboardTest, TheFocusIsSeenFromTheFirstKeyToTheNextPress)
 {
     show(3);
