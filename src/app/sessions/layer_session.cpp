@@ -1,6 +1,7 @@
 #include "app/sessions/layer_session.h"
 
 #include "platform/system/own_environment.h"
+#include "platform/wayland/base/lost_connection_line.h"
 
 #include <QLoggingCategory>
 
@@ -15,6 +16,7 @@ void LayerSession::prepare()
     // than all the rest. It warns of a name that stands for nothing.
     own_environment::set("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none");
     QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.wayland.warning=false"));
+    hearLostConnectionOnce();
 }
 
 LayerSession::LayerSession(const SessionNeeds &needs)
