@@ -165,11 +165,8 @@ TEST_P(LayerSession, whatIsDraggedOutIsSeenAroundThePointer)
     start();
     keep(makeFile(u"report.txt"_s, "report"));
     const QPoint place = belowEdge() + QPoint(0, 100);
-    // Up and to the left of the pointer, which is in the pictures, too. Sway 1.7 does not ask where
-    // it is held, and has it hang from the pointer by its corner.
-    const QPoint away
-        = GetParam().windowManager == WindowManager::Sway ? QPoint(20, 8) : QPoint(-12, -12);
-    const QRect beside(place + away, QSize(8, 8));
+    // Up and to the left of the pointer, which is in the pictures, too.
+    const QRect beside(place - QPoint(12, 12), QSize(8, 8));
     const QImage bare = m_desktop.pictureAtRest(beside);
     hands().beginDrag(corvane().at(38, 22), place);
     hands().glideTo(place);

@@ -47,11 +47,25 @@ struct FakeCompositor::Server {
         wl_resource *resource;
         wl_resource *hung = nullptr;
         bool isConfigured = false;
+        /// What it is a part of.
+        Shown *whole = nullptr;
+        wl_resource *partOf = nullptr;
+        /// Was committed, and waits for that.
+        bool isReady = false;
         Surface pending;
         Surface current;
+        bool isOnOutput = false;
         wl_resource *buffer = nullptr;
         bool hasNewBuffer = false;
         std::vector<wl_resource *> frames;
+    };
+    /// All that there were.
+    struct Output {
+        std::size_t number;
+        QPoint at;
+        Server *server;
+        wl_global *global = nullptr;
+        std::vector<wl_resource *> bound;
     };
     struct Offer {
         Answer answer;
@@ -66,12 +80,16 @@ struct FakeCompositor::Server {
     Shown *newest(const QByteArray &label);
     wl_resource *of(const std::vector<wl_resource *> &all, wl_client *client) const;
     static void commit(Shown &surface);
+    static void become(Shown &surface);
+    Output &plugIn(QPoint at);
 
     wl_display *display = nullptr;
     int wake = -1;
     std::mutex mutex;
     std::vector<std::function<void()>> works;
     std::list<Shown> surfaces;
+    std::list<Output> outputs;
+    std::size_t currentOutput = 0;
     std::vector<wl_resource *> devices;
     std::vector<wl_resource *> pointers;
     /// All that there were: those who got one may still have it.
@@ -142,16 +160,33 @@ struct FakeCompositor::Server::Requests {
     static void makeSurface(wl_client *client, wl_resource *compositor, std::uint32_t id)
     {
         auto &server = test::of<Server>(compositor);
-        Shown &shown = server.surfaces.emplace_back(
-            Shown{&server, nullptr, nullptr, false, {}, {}, nullptr, false, {}});
+        Shown &shown = server.surfaces.emplace_back(Shown{&server,
+                                                          nullptr,
+                                                          nullptr,
+                                                          false,
+                                                          nullptr,
+                                                          nullptr,
+                                                          false,
+                                                          {},
+                                                          {},
+                                                          false,
+                                                          nullptr,
+                                                          false,
+                                                          {}});
         shown.resource
             = make(client, wl_surface_interface, 4, id, &surface, &shown, [](wl_resource *gone) {
                   auto &ended = test::of<Shown>(gone);
                   for (wl_resource *waiting : std::exchange(ended.frames, {}))
                       wl_resource_set_destructor(waiting, nullptr);
-                  if (ended.hung)
-                      wl_resource_set_user_data(ended.hung, nullptr);
+                  for (wl_resource *role : {ended.hung, ended.partOf}) {
+                      if (role)
+                          wl_resource_set_user_data(role, nullptr);
+                  }
                   auto &all = ended.server->surfaces;
+                  for (Shown &part : all) {
+                      if (part.whole == &ended)
+                          part.whole = nullptr;
+                  }
                   std::erase_if(all, [&](const Shown &one) { return &one == &ended; });
               });
     }
@@ -161,6 +196,37 @@ struct FakeCompositor::Server::Requests {
              [](wl_resource *gone) { delete &test::of<QRegion>(gone); });
     }
     static constexpr struct wl_compositor_interface compositor = {makeSurface, makeRegion};
+
+    // Parts of surfaces.
+    static constexpr struct wl_subsurface_interface part = {
+        .destroy = destroy,
+        .set_position =
+            [](wl_client *, wl_resource *part, int x, int y) {
+                if (auto *const shown = static_cast<Shown *>(wl_resource_get_user_data(part)))
+                    shown->pending.placeInWhole = {x, y};
+            },
+        .place_above = [](wl_client *, wl_resource *, wl_resource *) {},
+        .place_below = [](wl_client *, wl_resource *, wl_resource *) {},
+        .set_sync = [](wl_client *, wl_resource *) {},
+        .set_desync = [](wl_client *, wl_resource *) {},
+    };
+    static void makePart(wl_client *client, wl_resource *, std::uint32_t id, wl_resource *surface,
+                         wl_resource *whole)
+    {
+        auto &shown = test::of<Shown>(surface);
+        shown.whole = &test::of<Shown>(whole);
+        shown.pending.placeInWhole = QPoint();
+        shown.partOf
+            = make(client, wl_subsurface_interface, 1, id, &part, &shown, [](wl_resource *gone) {
+                  auto *const bare = static_cast<Shown *>(wl_resource_get_user_data(gone));
+                  if (!bare)
+                      return;
+                  bare->partOf = nullptr;
+                  bare->whole = nullptr;
+                  bare->current = bare->pending = {};
+              });
+    }
+    static constexpr struct wl_subcompositor_interface parts = {destroy, makePart};
 
     // What is hung from the screen's edges.
     template<typename Change>
@@ -194,9 +260,11 @@ struct FakeCompositor::Server::Requests {
             },
     };
     static void hang(wl_client *client, wl_resource *shell, std::uint32_t id, wl_resource *surface,
-                     wl_resource *, std::uint32_t layer, const char *label)
+                     wl_resource *output, std::uint32_t layer, const char *label)
     {
         auto &shown = test::of<Shown>(surface);
+        shown.pending.output
+            = output ? test::of<Output>(output).number : shown.server->currentOutput;
         shown.pending.layer = layer;
         shown.pending.label = label;
         shown.hung = make(client, zwlr_layer_surface_v1_interface, wl_resource_get_version(shell),
@@ -206,7 +274,7 @@ struct FakeCompositor::Server::Requests {
                               if (!bare)
                                   return;
                               bare->hung = nullptr;
-                              bare->isConfigured = false;
+                              bare->isConfigured = bare->isOnOutput = false;
                               bare->current = bare->pending = {};
                           });
     }
@@ -297,6 +365,19 @@ struct FakeCompositor::Server::Requests {
 
 void FakeCompositor::Server::commit(Shown &surface)
 {
+    if (surface.whole) {
+        surface.isReady = true;
+        return;
+    }
+    become(surface);
+    for (Shown &part : surface.server->surfaces) {
+        if (part.whole == &surface && std::exchange(part.isReady, false))
+            become(part);
+    }
+}
+
+void FakeCompositor::Server::become(Shown &surface)
+{
     if (std::exchange(surface.hasNewBuffer, false)) {
         wl_shm_buffer *const pixels = surface.buffer ? wl_shm_buffer_get(surface.buffer) : nullptr;
         surface.pending.buffer = pixels
@@ -308,6 +389,16 @@ void FakeCompositor::Server::commit(Shown &surface)
     }
     surface.current = surface.pending;
     surface.pending.attachedAt = {};
+    if (surface.hung && !surface.current.buffer.isEmpty()
+        && !std::exchange(surface.isOnOutput, true)) {
+        for (const Output &output : surface.server->outputs) {
+            for (wl_resource *bound : output.bound) {
+                if (output.number == surface.current.output
+                    && wl_resource_get_client(bound) == wl_resource_get_client(surface.resource))
+                    wl_surface_send_enter(surface.resource, bound);
+            }
+        }
+    }
     for (wl_resource *frame : std::exchange(surface.frames, {})) {
         wl_resource_set_destructor(frame, nullptr);
         wl_callback_send_done(frame, 1);
@@ -353,6 +444,11 @@ bool FakeCompositor::Server::start(const QByteArray &socket)
                          make(client, zwlr_layer_shell_v1_interface, static_cast<int>(version), id,
                               &Requests::shell, data);
                      });
+    wl_global_create(display, &wl_subcompositor_interface, 1, this,
+                     [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
+                         make(client, wl_subcompositor_interface, static_cast<int>(version), id,
+                              &Requests::parts, data);
+                     });
     wl_global_create(display, &wl_shell_interface, 1, this,
                      [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
                          make(client, wl_shell_interface, static_cast<int>(version), id,
@@ -372,22 +468,31 @@ bool FakeCompositor::Server::start(const QByteArray &socket)
                          if (version >= WL_SEAT_NAME_SINCE_VERSION)
                              wl_seat_send_name(seat, "seat0");
                      });
-    wl_global_create(display, &wl_output_interface, 3, this,
-                     [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
-                         wl_resource *const output
-                             = make(client, wl_output_interface, static_cast<int>(version), id,
-                                    &Requests::output, data);
-                         const QSize pixels = screen * scale;
-                         wl_output_send_geometry(output, 0, 0, 400, 260, WL_OUTPUT_SUBPIXEL_UNKNOWN,
-                                                 "corvane", "fake", WL_OUTPUT_TRANSFORM_NORMAL);
-                         wl_output_send_mode(output, WL_OUTPUT_MODE_CURRENT, pixels.width(),
-                                             pixels.height(), 60000);
-                         if (version >= WL_OUTPUT_SCALE_SINCE_VERSION)
-                             wl_output_send_scale(output, scale);
-                         if (version >= WL_OUTPUT_DONE_SINCE_VERSION)
-                             wl_output_send_done(output);
-                     });
+    plugIn({0, 0});
     return true;
+}
+
+FakeCompositor::Server::Output &FakeCompositor::Server::plugIn(QPoint at)
+{
+    Output &added = outputs.emplace_back(Output{outputs.size(), at, this, nullptr, {}});
+    const auto bind = [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
+        auto &output = *static_cast<Output *>(data);
+        wl_resource *const bound
+            = make(client, wl_output_interface, static_cast<int>(version), id, &Requests::output,
+                   data, [](wl_resource *gone) { std::erase(test::of<Output>(gone).bound, gone); });
+        output.bound.push_back(bound);
+        const QSize pixels = screen * scale;
+        wl_output_send_geometry(bound, output.at.x(), output.at.y(), 400, 260,
+                                WL_OUTPUT_SUBPIXEL_UNKNOWN, "corvane", "fake",
+                                WL_OUTPUT_TRANSFORM_NORMAL);
+        wl_output_send_mode(bound, WL_OUTPUT_MODE_CURRENT, pixels.width(), pixels.height(), 60000);
+        if (version >= WL_OUTPUT_SCALE_SINCE_VERSION)
+            wl_output_send_scale(bound, scale);
+        if (version >= WL_OUTPUT_DONE_SINCE_VERSION)
+            wl_output_send_done(bound);
+    };
+    added.global = wl_global_create(display, &wl_output_interface, 3, &added, bind);
+    return added;
 }
 
 void FakeCompositor::Server::add(std::function<void()> work)
@@ -448,6 +553,29 @@ void FakeCompositor::within(const std::function<void()> &work) const
         done.set_value();
     });
     done.get_future().wait();
+}
+
+FakeCompositor::Output::Output(FakeCompositor &compositor, QPoint at)
+    : m_compositor(compositor)
+{
+    compositor.within([&] { m_number = compositor.m_server->plugIn(at).number; });
+}
+
+FakeCompositor::Output::~Output()
+{
+    m_compositor.within([this] {
+        Server &server = *m_compositor.m_server;
+        server.currentOutput = 0;
+        for (Server::Output &output : server.outputs) {
+            if (output.number == m_number)
+                wl_global_remove(output.global);
+        }
+    });
+}
+
+void FakeCompositor::Output::becomeCurrent()
+{
+    m_compositor.within([this] { m_compositor.m_server->currentOutput = m_number; });
 }
 
 QList<FakeCompositor::Surface> FakeCompositor::shown(const QByteArray &label) const

@@ -17,7 +17,8 @@ namespace corvane::test {
 
 /// A compositor that shows nothing, and tells what it would show: surfaces as their programs have
 /// committed them, and what was asked of it for a drag. One output, whose pixels are two to a
-/// point; a pointer that a test moves; drags that a test makes. It runs in a thread of its own.
+/// point, and others that a test plugs in; a pointer that a test moves; drags that a test makes. It
+/// runs in a thread of its own.
 class FakeCompositor {
 public:
     static constexpr int scale = 2;
@@ -32,6 +33,23 @@ public:
     /// For WAYLAND_DISPLAY; empty if it could not be started.
     QByteArray socket() const { return m_socket; }
 
+    /// Another output of that size, as long as this is there.
+    class Output {
+    public:
+        Output(FakeCompositor &compositor, QPoint at);
+        ~Output();
+        Output(const Output &) = delete;
+        Output &operator=(const Output &) = delete;
+
+        std::size_t number() const { return m_number; }
+        /// From now on what is hung on no particular output is shown on it.
+        void becomeCurrent();
+
+    private:
+        FakeCompositor &m_compositor;
+        std::size_t m_number;
+    };
+
     /// What counts of a surface since its last commit.
     struct Surface {
         /// In points. None for one that takes everything.
@@ -39,11 +57,16 @@ public:
         int bufferScale = 1;
         /// Where its buffer was put in its last commit, from where the one before was.
         QPoint attachedAt;
+        /// Of a part of another surface: where it is in that. It is as it was committed once that
+        /// has been committed, too.
+        std::optional<QPoint> placeInWhole;
         /// In pixels; empty while it is not shown.
         QSize buffer;
 
         // Of those that are hung from the screen's edges, in points.
         QByteArray label;
+        /// The number of its output, from 0 on in the order in which they were plugged in.
+        std::size_t output = 0;
         std::uint32_t layer = 0;
         std::int32_t zone = 0;
         QSize size;

@@ -4,6 +4,7 @@
 #include "e2e/desktop/eventually.h"
 #include "platform/desktop/screens.h"
 #include "platform/wayland/base/wayland_connection.h"
+#include "platform/wayland/base/wayland_globals.h"
 #include "platform/wayland/drags/catcher_services.h"
 #include "platform/wayland/drags/drag_icon.h"
 #include "platform/wayland/windows/layer_panel_surface.h"
@@ -12,6 +13,7 @@
 #include "wayland/shown_panel.h"
 
 #include <gtest/gtest.h>
+#include <wayland-client.h>
 
 namespace corvane::test {
 
@@ -66,15 +68,24 @@ TEST_F(PanelsInWayland, aPictureUnderThePointerIsAsLargeAsItIsOnTheShelf)
     ASSERT_TRUE(services.areAll());
     QImage bitmap(80, 60, QImage::Format_ARGB32_Premultiplied);
     bitmap.fill(Qt::red);
-    DragIcon icon(services.compositor, services.shm, Image{bitmap, QSizeF(40, 30)},
+    wl_subcompositor *subcompositor = nullptr;
+    bindGlobals(services.connection.display(),
+                {{&wl_subcompositor_interface, 1, placeOf(subcompositor)}});
+    DragIcon icon({services.compositor, subcompositor, services.shm}, Image{bitmap, QSizeF(40, 30)},
                   FakeCompositor::scale);
+    wl_subcompositor_destroy(subcompositor);
     icon.show({10, 5});
     services.connection.flush();
-    ASSERT_TRUE(eventually([] { return compositor().loose().size() == 1; }));
-    const auto shown = compositor().loose().first();
-    EXPECT_EQ(shown.buffer, QSize(80, 60));
-    EXPECT_EQ(shown.bufferScale, FakeCompositor::scale);
-    EXPECT_EQ(shown.attachedAt, QPoint(-10, -5));
+    // What hangs from the pointer, with nothing to be seen, and the picture as a part of it.
+    ASSERT_TRUE(eventually([] { return compositor().loose().size() == 2; }));
+    const auto whole = compositor().loose().first();
+    EXPECT_EQ(whole.buffer, QSize(1, 1));
+    EXPECT_EQ(whole.attachedAt, QPoint());
+    EXPECT_EQ(whole.placeInWhole, std::nullopt);
+    const auto picture = compositor().loose().last();
+    EXPECT_EQ(picture.buffer, QSize(80, 60));
+    EXPECT_EQ(picture.bufferScale, FakeCompositor::scale);
+    EXPECT_EQ(picture.placeInWhole, QPoint(-10, -5));
 }
 
 } // namespace corvane::test

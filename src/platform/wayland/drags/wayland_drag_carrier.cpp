@@ -24,6 +24,7 @@ WaylandDragCarrier::Services::Services(WaylandConnection &connection)
     bindGlobals(connection.display(),
                 {{&wl_data_device_manager_interface, drag_versions::manager, placeOf(manager)},
                  {&wl_compositor_interface, drag_versions::compositor, placeOf(compositor)},
+                 {&wl_subcompositor_interface, 1, placeOf(subcompositor)},
                  {&wl_shm_interface, 1, placeOf(shm)},
                  {&wl_seat_interface, drag_versions::seat, placeOf(seat)}});
 }
@@ -34,6 +35,8 @@ WaylandDragCarrier::Services::~Services()
         wl_data_device_manager_destroy(manager);
     if (compositor)
         wl_compositor_destroy(compositor);
+    if (subcompositor)
+        wl_subcompositor_destroy(subcompositor);
     if (shm)
         wl_shm_destroy(shm);
 }
@@ -92,8 +95,9 @@ DragCarrier::DragId WaylandDragCarrier::carry(QWindow &window, Load load, Events
                                                   std::move(told));
         },
         NamedForms(std::move(load.forms)), load.areFinal, watched(id, std::move(events)));
-    auto icon = std::make_unique<DragIcon>(m_services.compositor, m_services.shm, load.image,
-                                           window.devicePixelRatio());
+    auto icon = std::make_unique<DragIcon>(
+        DragIcon::Services{m_services.compositor, m_services.subcompositor, m_services.shm},
+        load.image, window.devicePixelRatio());
     m_trips[id] = std::make_unique<DragTrip>(DragTrip::Start{m_connection.display(),
                                                              m_services.manager, m_services.seat,
                                                              origin, *serial, load.hotSpot},

@@ -13,6 +13,7 @@ struct wl_compositor;
 struct wl_data_device_manager;
 struct wl_seat;
 struct wl_shm;
+struct wl_subcompositor;
 
 namespace corvane {
 
@@ -48,6 +49,7 @@ private:
 
         wl_data_device_manager *manager = nullptr;
         wl_compositor *compositor = nullptr;
+        wl_subcompositor *subcompositor = nullptr;
         wl_shm *shm = nullptr;
         /// Becomes the presses'.
         wl_seat *seat = nullptr;
