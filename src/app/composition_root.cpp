@@ -97,7 +97,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
     , keyMonitors(desktop.keyboardLayout)
     , panel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &textWork)
     , viewAllPanel(desktop.panels, mainQueue, desktop.dropSupport, desktop.dragSupport, &textWork)
-    , statusItem(mainQueue, desktop.trayWatch)
+    , statusItem(mainQueue, desktop.trayWatch, desktop.menuKeyboard)
     , hotKeys(desktop.hotKeys, mainQueue)
     , settings(userDefaults, loginItems)
     , shortcuts(

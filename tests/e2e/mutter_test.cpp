@@ -2,6 +2,7 @@
 // there alone.
 
 #include "e2e/desktop/nested_mutter.h"
+#include "e2e/desktop/tray_panel.h"
 #include "e2e/wayland_session.h"
 
 namespace corvane::e2e {
@@ -17,6 +18,13 @@ protected:
     }
 
     NestedCompositor &compositor() { return *m_desktop.nested(); }
+    bool isMenuOpen() { return corvane().popup().has_value(); }
+    /// The keyboard may have to be given to it twice.
+    bool hasMenuTheKeyboard()
+    {
+        const auto menu = corvane().popup();
+        return menu && compositor().panelServer()->focusedWindow() == menu->id;
+    }
     /// Whether keys that are typed now reach that window.
     bool hearsKeys(GtkPeer &peer, char key)
     {
@@ -124,6 +132,51 @@ TEST_F(Mutter, thePreferencesComeToTheFront)
         const auto window = corvane().window();
         return window && compositor().panelServer()->activeWindow() == window->id;
     }));
+}
+
+TEST_F(Mutter, theMenuOfThePanelsIconIsForKeysAndGivesThemBack)
+{
+    NotifierPanel panel(m_desktop);
+    ASSERT_TRUE(panel.waitUntilReady());
+    GtkPeer typing(m_desktop, {}, rightPlace());
+    ASSERT_EQ(typing.problem(), QString());
+    start();
+    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
+    const NotifierFacts item(m_desktop, corvane().program().pid());
+    hands().click(typing.target());
+    ASSERT_TRUE(hearsKeys(typing, 'k'));
+    item.click();
+    const auto isOpen = [this] { return isMenuOpen(); };
+    ASSERT_TRUE(eventually(isOpen));
+    EXPECT_TRUE(eventually([&] {
+        hands().key(keys::escape);
+        return !isOpen();
+    }));
+    EXPECT_TRUE(hearsKeys(typing, 'l'));
+    item.click();
+    ASSERT_TRUE(eventually(isOpen));
+    ASSERT_TRUE(eventually([this] { return hasMenuTheKeyboard(); }));
+    hands().key(keys::down);
+    hands().key(keys::enter);
+    EXPECT_TRUE(corvane().waitUntilShown());
+    EXPECT_FALSE(isOpen());
+}
+
+TEST_F(Mutter, aClickElsewhereClosesTheMenuOfThePanelsIconAndTakesTheKeys)
+{
+    NotifierPanel panel(m_desktop);
+    ASSERT_TRUE(panel.waitUntilReady());
+    GtkPeer typing(m_desktop, {}, rightPlace());
+    ASSERT_EQ(typing.problem(), QString());
+    start();
+    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
+    const NotifierFacts item(m_desktop, corvane().program().pid());
+    item.click();
+    ASSERT_TRUE(eventually([this] { return isMenuOpen(); }));
+    ASSERT_TRUE(eventually([this] { return hasMenuTheKeyboard(); }));
+    hands().click(typing.target());
+    EXPECT_TRUE(eventually([this] { return !isMenuOpen(); }));
+    EXPECT_TRUE(hearsKeys(typing, 'k'));
 }
 
 TEST(MutterThatEnds, takesTheProgramAlong)

@@ -27,7 +27,7 @@ class WindowActivation;
 /// its own way. The references are valid as long as the `RunningSession` exists.
 struct DesktopSession {
     SessionAbilities &abilities;
-    const ScreenLocator &screenLocator;
+    ScreenLocator &screenLocator;
     DragWatch &dragWatch;
     EdgeTrigger &edgeTrigger;
     OutsideClicks &outsideClicks;
@@ -41,6 +41,8 @@ struct DesktopSession {
     WindowActivation &windowActivation;
     /// Null for sessions without a tray of their own.
     TrayWatch *trayWatch = nullptr;
+    /// By which the icon's menu has the keyboard; null where what the toolkit does is enough.
+    KeyboardLoan *menuKeyboard = nullptr;
     /// The screens' scale grows with the desktop's text scale.
     bool textScaleIsInScreens = false;
 };

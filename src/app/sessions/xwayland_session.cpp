@@ -51,6 +51,8 @@ DesktopSession XWaylandSession::desktop()
             .dragSupport = &dragSupport,
             .windowActivation = windowActivation,
             .trayWatch = &trayWatch,
+            // What is grabbed for a menu on that server is not heard of from Wayland's programs.
+            .menuKeyboard = &panels.keyboard,
             // The toolkit takes it for a density of the X server's screens.
             .textScaleIsInScreens = true};
 }

@@ -9,8 +9,10 @@
 
 namespace corvane {
 
-DesktopStatusItem::DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray)
+DesktopStatusItem::DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray,
+                                     KeyboardLoan *menuKeyboard)
     : m_mainQueue(mainQueue)
+    , m_item(menuKeyboard)
     , m_tray(tray)
     , m_hosts(std::make_unique<NotifierHosts>())
 {

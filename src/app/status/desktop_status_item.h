@@ -8,6 +8,7 @@
 
 namespace corvane {
 
+class KeyboardLoan;
 class MainQueue;
 class TrayWatch;
 
@@ -16,9 +17,9 @@ class TrayWatch;
 /// appears; the rest of the program works without it.
 class DesktopStatusItem {
 public:
-    /// Begins to search in the next turn of the queue. Both must outlive it; `tray` is null for
-    /// sessions without a tray of their own.
-    DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray);
+    /// Begins to search in the next turn of the queue. All must outlive it; `tray` is null for
+    /// sessions without a tray of their own, `menuKeyboard` where menus need nobody to have keys.
+    DesktopStatusItem(MainQueue &mainQueue, TrayWatch *tray, KeyboardLoan *menuKeyboard);
     ~DesktopStatusItem();
     DesktopStatusItem(const DesktopStatusItem &) = delete;
     DesktopStatusItem &operator=(const DesktopStatusItem &) = delete;

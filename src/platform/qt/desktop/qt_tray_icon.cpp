@@ -1,5 +1,7 @@
 #include "platform/qt/desktop/qt_tray_icon.h"
 
+#include "platform/qt/desktop/lending_menu.h"
+
 #include <QAction>
 #include <QCursor>
 #include <QMenu>
@@ -40,14 +42,18 @@ void add(QMenu &menu, const MenuRow &row)
 
 } // namespace
 
-QtTrayIcon::QtTrayIcon() = default;
+QtTrayIcon::QtTrayIcon(KeyboardLoan *keyboard)
+    : m_keyboard(keyboard)
+{
+}
+
 QtTrayIcon::~QtTrayIcon() = default;
 
 void QtTrayIcon::appear()
 {
     if (m_tray)
         return;
-    m_menu = std::make_unique<QMenu>();
+    m_menu = m_keyboard ? std::make_unique<LendingMenu>(*m_keyboard) : std::make_unique<QMenu>();
     QObject::connect(m_menu.get(), &QMenu::aboutToShow, m_menu.get(), [this] { menuChanged(); });
     menuChanged();
     m_tray = std::make_unique<QSystemTrayIcon>();

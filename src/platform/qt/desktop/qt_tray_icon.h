@@ -12,6 +12,8 @@ class QSystemTrayIcon;
 
 namespace corvane {
 
+class KeyboardLoan;
+
 /// A status item by `QSystemTrayIcon`: on the session bus if a panel shows such items, else in the
 /// window system's own tray. A left click opens the menu, too.
 ///
@@ -20,7 +22,9 @@ namespace corvane {
 /// does not move to a panel of the other kind.
 class QtTrayIcon : public StatusItem {
 public:
-    QtTrayIcon();
+    /// With a loan, which must outlive it, the menu has the keyboard by that; null where what the
+    /// toolkit does for menus is enough.
+    explicit QtTrayIcon(KeyboardLoan *keyboard = nullptr);
     ~QtTrayIcon() override;
     QtTrayIcon(const QtTrayIcon &) = delete;
     QtTrayIcon &operator=(const QtTrayIcon &) = delete;
@@ -38,6 +42,7 @@ private:
     void showIcon();
     QIcon drawn() const;
 
+    KeyboardLoan *m_keyboard;
     int m_shape = 0;
     Icon m_icon;
     /// Icons by shape, in the present foreground. Each consists of six pictures, and panels are
