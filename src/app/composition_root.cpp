@@ -241,6 +241,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                 .updater = updates.updater()})
     , requests({.ingest = ingest,
                 .store = store,
+                .screenLocator = desktop.screenLocator,
                 .preparation = itemPreparation,
                 .pictures = savedPictures,
                 .workQueue = textWork,

@@ -301,6 +301,14 @@ void HUDController::dragChanged(bool isGoingOn)
 
 void HUDController::toggleByHand()
 {
+    if (m_store.state() != ShelfState::Idle)
+        toggle();
+    else
+        m_context.screenLocator.locate(m_lifetime.guard([this] { toggle(); }));
+}
+
+void HUDController::toggle()
+{
     if (m_context.viewAll)
         m_context.viewAll->shelfIsToggledByHand();
     const bool wasOpen = m_store.state() != ShelfState::Idle;

@@ -49,7 +49,7 @@ public:
         Settings &settings;
         Feedback &feedback;
         Screens &screens;
-        const ScreenLocator &screenLocator;
+        ScreenLocator &screenLocator;
         QuickActions &quickActions;
         /// Null where there is none.
         ItemPresenter *presenter = nullptr;
@@ -62,9 +62,9 @@ public:
     HUDController(const HUDController &) = delete;
     HUDController &operator=(const HUDController &) = delete;
 
-    /// To be called when the user opens or closes the shelf by a hot key or a menu. It is given the
-    /// keyboard when it opens, or a bar that was left open in its place; not while something is
-    /// dragged.
+    /// To be called when the user opens or closes the shelf by a hot key or a menu. It opens where
+    /// the user is, which may have to be asked first. It is given the keyboard when it opens, or a
+    /// bar that was left open in its place; not while something is dragged.
     void toggleByHand();
     /// To be called when a drag begins anywhere, whether or not the shelf opens for it, and when it
     /// has ended. The drag's source may give up when it loses the keyboard.
@@ -103,6 +103,7 @@ private:
     void resizeWindow(const PanelPlacement &target);
     QSizeF withOvershoot(QSizeF target, QSizeF before);
     void scheduleHide();
+    void toggle();
     void takeClicks();
     void takeKeyboard();
     void watchOutsideClicks();

@@ -68,7 +68,7 @@ TEST_F(SwayOutputs, anOutputUnpluggedInTheMiddleOfADragCostsNoItemAndTheShelfOpe
     keep(file);
 }
 
-TEST_F(SwayOutputs, theShelfOpensOnTheOutputThatADragIsOn)
+TEST_F(SwayOutputs, theShelfOpensOnTheOutputThatADragOrByHandThePointerIsOn)
 {
     const QSize half(server().size().width() / 2, server().size().height());
     const QRect left({}, half);
@@ -77,6 +77,8 @@ TEST_F(SwayOutputs, theShelfOpensOnTheOutputThatADragIsOn)
     ASSERT_TRUE(sway().plug(server(), left));
     ASSERT_TRUE(sway().plug(server(), right));
     expectTheShelfOnTheOutputOfTheDrag(left, right, Drags::StayOnAnOutput);
+    m_corvane.reset();
+    expectTheShelfByHandOnTheOutputOfThePointer(left, right);
 
     sway().unplug(server());
     sway().unplug(server());
@@ -94,8 +96,15 @@ DesktopKind twoOutputs(WindowManager compositor)
             .nested = {.outputs = 2}};
 }
 
-INSTANTIATE_TEST_SUITE_P(Every, WaylandOutputs, testing::Values(twoOutputs(WindowManager::KWin)),
+INSTANTIATE_TEST_SUITE_P(Every, WaylandOutputs,
+                         testing::Values(twoOutputs(WindowManager::KWin)),
                          nameOf);
+
+TEST_P(WaylandOutputs, theShelfOpensByHandOnTheOutputThatThePointerIsOn)
+{
+    const QSize half(server().size().width() / 2, server().size().height());
+    expectTheShelfByHandOnTheOutputOfThePointer(QRect({}, half), QRect({half.width(), 0}, half));
+}
 
 TEST_P(WaylandOutputs, theShelfOpensOnTheOutputThatADragIsOn)
 {

@@ -81,17 +81,26 @@ protected:
         });
     }
 
+    /// Tells on which of two outputs the shelf is, neither of which shows it now. It is darker than
+    /// all wallpapers, one of which is not the same in each frame.
+    auto lookAtOutputs(const QRect &left, const QRect &right)
+    {
+        const auto look = [this](const QRect &output) {
+            return qGray(
+                server().picture({QPoint(output.center().x(), 20), QSize(1, 1)}).pixel(0, 0));
+        };
+        return [=, bareLeft = look(left), bareRight = look(right)](const QRect &output) {
+            return look(output) * 2 < (output == left ? bareLeft : bareRight);
+        };
+    }
+
     enum class Drags { Cross, StayOnAnOutput };
     /// On a desktop of these two outputs side by side. As windows of an X server, a button that is
     /// held may keep the pointer on the one where it was pressed.
     void expectTheShelfOnTheOutputOfTheDrag(const QRect &left, const QRect &right, Drags drags)
     {
         start();
-        const auto look = [this](const QRect &output) {
-            return server().picture({QPoint(output.center().x(), 20), QSize(1, 1)}).pixel(0, 0);
-        };
-        const QRgb bare = look(left);
-        const auto isShownOn = [&](const QRect &output) { return look(output) != bare; };
+        const auto isShownOn = lookAtOutputs(left, right);
         const auto expectOnlyOn = [&](const QRect &output, const QRect &other) {
             const QRect &last = drags == Drags::Cross ? other : output;
             GtkPeer source(m_desktop, {.text = QStringLiteral("text")},
@@ -117,6 +126,28 @@ protected:
         // Neither the main screen nor the last one where anything came to an edge.
         expectOnlyOn(right, left);
         expectOnlyOn(left, right);
+    }
+
+    /// On a desktop of these two outputs side by side, whichever of them was told of last. The user
+    /// is where the pointer is, in a window that was clicked.
+    void expectTheShelfByHandOnTheOutputOfThePointer(const QRect &left, const QRect &right)
+    {
+        const auto isShownOn = lookAtOutputs(left, right);
+        const auto expectOnlyOn = [&](const QRect &output, const QRect &other) {
+            GtkPeer used(m_desktop, {}, {output.left() + 60, 400, 400, 200});
+            ASSERT_EQ(used.problem(), QString());
+            hands().click(used.target());
+            ASSERT_EQ(corvane().startAgain(), 0);
+            ASSERT_TRUE(eventually([&] { return isShownOn(left) || isShownOn(right); }));
+            EXPECT_TRUE(isShownOn(output));
+            EXPECT_FALSE(isShownOn(other));
+            ASSERT_EQ(corvane().startAgain(), 0);
+            ASSERT_TRUE(eventually([&] { return !isShownOn(left) && !isShownOn(right); }));
+        };
+        start();
+        expectOnlyOn(right, left);
+        expectOnlyOn(left, right);
+        expectOnlyOn(right, left);
     }
 
     void keep(const QString &file)

@@ -1,4 +1,5 @@
 #include "core/item_presenter.h"
+#include "fakes/asking_screen_locator.h"
 #include "fakes/fake_appearance_preference.h"
 #include "fakes/fake_drag_desktop.h"
 #include "fakes/shelf_model.h"
@@ -105,6 +106,35 @@ TEST_F(HUDControllerTest, OpensOnTheScreenWithThePointer)
     pointer.position = QPointF(1600, 300);
     store.toggleManually();
     EXPECT_EQ(frame(), QRectF(2012 - 146, 1000 - 56, 292, 56));
+}
+
+TEST_F(HUDControllerTest, OpenedByHandItComesOnceTheDesktopHasSaidWhereTheUserIs)
+{
+    const auto second = screens.attach(QRectF(1512, 200, 1000, 800));
+    AskingScreenLocator asking;
+    asking.answer(screen);
+    controller.emplace(HUDController::Context{desk.context(), store, settings, feedback, screens,
+                                              asking, quickActions});
+    controller->toggleByHand();
+    EXPECT_TRUE(asking.isAsked());
+    EXPECT_FALSE(desk.panel.visible);
+    asking.answer(second);
+    EXPECT_TRUE(desk.panel.visible);
+    EXPECT_EQ(frame(), QRectF(2012 - 146, 1000 - 56, 292, 56));
+    controller->toggleByHand();
+    EXPECT_EQ(store.state(), ShelfState::Idle);
+    EXPECT_FALSE(asking.isAsked()) << "it closes wherever the user is";
+}
+
+TEST_F(HUDControllerTest, ToggledByHandTwiceBeforeTheDesktopHasAnsweredItIsHidden)
+{
+    AskingScreenLocator asking;
+    controller.emplace(HUDController::Context{desk.context(), store, settings, feedback, screens,
+                                              asking, quickActions});
+    controller->toggleByHand();
+    controller->toggleByHand();
+    asking.answer(screen);
+    EXPECT_EQ(store.state(), ShelfState::Idle);
 }
 
 TEST_F(HUDControllerTest, WithoutAPointerItOpensOnTheMainScreen)

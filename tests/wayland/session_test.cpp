@@ -40,4 +40,25 @@ TEST(WaylandSessionParts, panelsAreReadyToCatchOnceADragIsNoticed)
     EXPECT_TRUE(eventually([] { return compositor().shown("corvane-drops").size() == 1; }));
 }
 
+TEST(WaylandSessionParts, theScreenIsTheOneThatTheCompositorTakesForTheUsers)
+{
+    QtMainQueue queue;
+    QtScreens screens(queue);
+    FakeCompositor::Output second(compositor(), {FakeCompositor::screen.width(), 0});
+    ASSERT_TRUE(eventually([&] { return screens.screens().size() == 2; }));
+    LayerSession session({queue, screens, {}});
+    ScreenLocator &locator = session.quiet.screenLocator;
+    const auto located = [&] {
+        bool isTold = false;
+        locator.locate([&] { isTold = true; });
+        EXPECT_FALSE(isTold);
+        EXPECT_TRUE(eventually([&] { return isTold; }));
+        return locator.activeScreen();
+    };
+    EXPECT_EQ(located(), screens.screens()[0]);
+    second.becomeCurrent();
+    EXPECT_EQ(located(), screens.screens()[1]);
+    EXPECT_TRUE(eventually([] { return compositor().shown("corvane-probe").isEmpty(); }));
+}
+
 } // namespace corvane::test

@@ -7,6 +7,7 @@
 #include "core/shelf_store.h"
 #include "platform/base/main_queue.h"
 #include "platform/base/work_queue.h"
+#include "platform/desktop/screen_locator.h"
 #include "platform/qt/pasteboard/fetched_pasteboard.h"
 #include "platform/qt/pasteboard/uri_list.h"
 #include "platform/qt/system/remote_mounts.h"
@@ -82,7 +83,18 @@ void ShelfRequestHandler::end()
     m_context.mainQueue.async(m_lifetime.guard([this] { m_context.terminate(); }));
 }
 
+/// What comes onto a hidden shelf shows it.
 void ShelfRequestHandler::put(const ShelfDelivery &delivery, std::function<void(int items)> done)
+{
+    const auto now = m_lifetime.guard([this, delivery, done] { deliver(delivery, done); });
+    if (m_context.store.state() == ShelfState::Idle)
+        m_context.screenLocator.locate(now);
+    else
+        now();
+}
+
+void ShelfRequestHandler::deliver(const ShelfDelivery &delivery,
+                                  const std::function<void(int items)> &done)
 {
     if (delivery.kind == ShelfDelivery::Kind::Text)
         putText(delivery.bytes, done);

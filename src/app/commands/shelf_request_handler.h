@@ -19,6 +19,7 @@ class MainQueue;
 class Pasteboard;
 class PasteboardIngest;
 class SavedPictures;
+class ScreenLocator;
 class ShelfStore;
 class WorkQueue;
 
@@ -29,6 +30,7 @@ public:
     struct Context {
         const PasteboardIngest &ingest;
         ShelfStore &store;
+        ScreenLocator &screenLocator;
         ItemPreparation &preparation;
         SavedPictures &pictures;
         WorkQueue &workQueue;
@@ -61,6 +63,7 @@ private:
         SpoolLoans::Loan loan = {};
     };
 
+    void deliver(const ShelfDelivery &delivery, const std::function<void(int items)> &done);
     int putAddresses(const QByteArray &list);
     void putText(const QByteArray &text, const std::function<void(int items)> &done);
     int accept(Pasteboard &pasteboard);

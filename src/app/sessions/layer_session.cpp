@@ -23,6 +23,7 @@ LayerSession::LayerSession(const SessionNeeds &needs)
     : strips(connection)
     , quiet(needs.mainQueue, needs.screens, strips)
     , whereabouts(connection, needs.mainQueue, needs.screens)
+    , userWhereabouts(connection, needs.mainQueue, needs.screens)
     , keyboardLayout(connection)
     , hotKeys(keyNaming(), needs.mainQueue)
     , panels(connection, needs.mainQueue)
@@ -33,6 +34,9 @@ LayerSession::LayerSession(const SessionNeeds &needs)
     , xwaylandDrags(needs.mainQueue)
 {
     wireDrags();
+    quiet.screenLocator.ask = [this] { userWhereabouts.find(); };
+    userWhereabouts.onFound
+        = [this](const ScreenPointer &screen) { quiet.screenLocator.told(screen); };
     hotKeys.service.onChosen = [this] { tellAbilities(); };
     tellAbilities();
 }

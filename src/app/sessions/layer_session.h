@@ -13,6 +13,7 @@
 #include "platform/wayland/windows/layer_panels.h"
 #include "platform/wayland/windows/layer_strip_surface.h"
 #include "platform/wayland/windows/layer_window_activation.h"
+#include "platform/wayland/windows/user_whereabouts.h"
 #include "platform/x11/drags/xwayland_drags.h"
 
 namespace corvane {
@@ -36,6 +37,7 @@ struct LayerSession : RunningSession {
     LayerStripSurface strips;
     QuietDesktop quiet;
     DragWhereabouts whereabouts;
+    UserWhereabouts userWhereabouts;
     QtLastModifiers keyboard;
     WaylandKeyboardLayout keyboardLayout;
     DesktopHotKeys hotKeys;

@@ -1,6 +1,7 @@
 #include "app/sessions/quiet_desktop.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace corvane {
 
@@ -9,6 +10,25 @@ ScreenPointer LastSeenScreen::activeScreen() const
     const auto attached = m_screens.screens();
     const auto found = std::ranges::find(attached, m_last.lock());
     return found == attached.end() ? m_screens.mainScreen() : *found;
+}
+
+void LastSeenScreen::locate(std::function<void()> then)
+{
+    m_waiting.push_back(std::move(then));
+    if (m_waiting.size() > 1)
+        return;
+    if (ask)
+        ask();
+    else
+        told(nullptr);
+}
+
+void LastSeenScreen::told(const ScreenPointer &screen)
+{
+    if (screen)
+        cameTo(screen);
+    for (const auto &then : std::exchange(m_waiting, {}))
+        then();
 }
 
 QuietDesktop::QuietDesktop(MainQueue &queue, Screens &screens, StripSurface &strips)

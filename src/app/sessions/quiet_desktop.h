@@ -9,11 +9,13 @@
 
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace corvane {
 
-/// Where the pointer, or what is dragged, last came to the edge of a screen: nobody tells where it
-/// is otherwise. The screens must outlive it.
+/// Where the pointer, or what is dragged, last came to the edge of a screen, or where the desktop
+/// last said that the user is, if it can be asked: nobody tells otherwise. The screens must outlive
+/// it.
 class LastSeenScreen : public ScreenLocator {
 public:
     explicit LastSeenScreen(const Screens &screens)
@@ -23,11 +25,19 @@ public:
 
     /// That one, else the main screen, which may be none.
     ScreenPointer activeScreen() const override;
+    void locate(std::function<void()> then) override;
     void cameTo(const ScreenPointer &screen) { m_last = screen; }
+    /// The answer to `ask`; null where there is none.
+    void told(const ScreenPointer &screen);
+
+    /// Asks the desktop where the user is. May be left empty.
+    std::function<void()> ask;
 
 private:
     const Screens &m_screens;
     std::weak_ptr<const Screen> m_last;
+    /// Those who wait for the answer.
+    std::vector<std::function<void()>> m_waiting;
 };
 
 /// A session that keeps clicks in other programs to itself.

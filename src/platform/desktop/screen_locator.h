@@ -2,6 +2,8 @@
 
 #include "platform/desktop/screens.h"
 
+#include <functional>
+
 namespace corvane {
 
 /// Finds the screen that the user is on, where the shelf appears. Each kind of session implements
@@ -21,6 +23,9 @@ public:
 
     /// Null when no screen is attached.
     virtual ScreenPointer activeScreen() const = 0;
+    /// Calls `then` once `activeScreen` is where the user is now: at once, or, where the desktop
+    /// has to be asked, later and in the order of the calls.
+    virtual void locate(std::function<void()> then) { then(); }
 
     /// The notch of a screen; all 0 for null and for a screen without one.
     static Notch notch(const ScreenPointer &screen);

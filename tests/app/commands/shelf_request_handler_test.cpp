@@ -1,4 +1,5 @@
 #include "app/commands/shelf_request_handler.h"
+#include "fakes/asking_screen_locator.h"
 #include "fakes/shelf_model.h"
 #include "platform/system/file_url.h"
 
@@ -69,20 +70,25 @@ protected:
         return all;
     }
 
+    ShelfRequestHandler::Context context(ScreenLocator &screenLocator)
+    {
+        return {.ingest = desk.ingest,
+                .store = store,
+                .screenLocator = screenLocator,
+                .preparation = desk.preparation,
+                .pictures = desk.savedPictures,
+                .workQueue = work,
+                .mainQueue = desk.clock,
+                .perform =
+                    [this](const QString &action) {
+                        log << action + qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
+                        return action == QStringLiteral("known");
+                    },
+                .terminate = [this] { log << QStringLiteral("end"); }};
+    }
+
     QStringList log;
-    ShelfRequestHandler handler{{.ingest = desk.ingest,
-                                 .store = store,
-                                 .preparation = desk.preparation,
-                                 .pictures = desk.savedPictures,
-                                 .workQueue = work,
-                                 .mainQueue = desk.clock,
-                                 .perform =
-                                     [this](const QString &action) {
-                                         log << action
-                                                 + qEnvironmentVariable("XDG_ACTIVATION_TOKEN");
-                                         return action == QStringLiteral("known");
-                                     },
-                                 .terminate = [this] { log << QStringLiteral("end"); }}};
+    ShelfRequestHandler handler{context(locator)};
     const QString one = QStringLiteral(":1.1");
     const QString other = QStringLiteral(":1.2");
 };
@@ -99,6 +105,25 @@ TEST_F(ShelfRequestHandlerTest, FilesAndLinksComeInTheirOrderAndOpenTheShelf)
                            QStringLiteral("c"), QStringLiteral("/q"), QStringLiteral("/r")}));
     EXPECT_EQ(store.state(), ShelfState::Occupied);
     EXPECT_EQ(store.focusedIndex(), 5);
+}
+
+TEST_F(ShelfRequestHandlerTest, AHiddenShelfOpensOnceTheDesktopHasSaidWhereTheUserIs)
+{
+    AskingScreenLocator asking;
+    ShelfRequestHandler asker(context(asking));
+    const auto put = [&](const char *name) {
+        asker.put({ShelfDelivery::Kind::Addresses, uri(pathOf(name))},
+                  [this](int items) { log << QString::number(items); });
+    };
+    put("a");
+    EXPECT_TRUE(asking.isAsked());
+    EXPECT_TRUE(store.items().isEmpty());
+    asking.answer(screen);
+    EXPECT_EQ(log, QStringList{QStringLiteral("1")});
+    EXPECT_EQ(store.state(), ShelfState::Occupied);
+    put("b");
+    EXPECT_FALSE(asking.isAsked()) << "it is shown already, and stays where it is";
+    EXPECT_EQ(store.items().size(), 2);
 }
 
 TEST_F(ShelfRequestHandlerTest, TheSameFileTwiceIsTwoItems)

@@ -128,6 +128,33 @@ TEST_F(LayerSessionTest, theShelfOpensOnTheScreenWhoseEdgeThePointerOrADragCameT
     EXPECT_EQ(session->quiet.screenLocator.activeScreen(), nullptr);
 }
 
+TEST_F(LayerSessionTest, whoCannotAskWhereTheUserIsGoesByTheLastScreenAtOnce)
+{
+    bool isTold = false;
+    session->quiet.screenLocator.locate([&] { isTold = true; });
+    EXPECT_TRUE(isTold);
+    EXPECT_EQ(session->quiet.screenLocator.activeScreen(), main);
+}
+
+TEST_F(LayerSessionTest, whereTheUserIsIsAskedOnceForAllWhoWaitAndToldInTheirOrder)
+{
+    LastSeenScreen &locator = session->quiet.screenLocator;
+    int questions = 0;
+    locator.ask = [&] { ++questions; };
+    locator.locate([&] { log << QStringLiteral("first"); });
+    locator.locate([&] { log << QStringLiteral("second"); });
+    EXPECT_EQ(questions, 1);
+    EXPECT_EQ(taken(), words(""));
+    locator.told(beside);
+    EXPECT_EQ(taken(), words("first second"));
+    EXPECT_EQ(locator.activeScreen(), beside);
+    locator.locate([&] { log << QStringLiteral("third"); });
+    locator.told(nullptr);
+    EXPECT_EQ(taken(), words("third"));
+    EXPECT_EQ(locator.activeScreen(), beside);
+    EXPECT_EQ(questions, 2);
+}
+
 TEST_F(LayerSessionTest, theShelfOpensOnTheScreenThatADragIsOn)
 {
     session->xwaylandDrags.onBegan();
