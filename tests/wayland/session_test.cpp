@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <set>
 
 namespace corvane::test {
 
@@ -59,6 +60,30 @@ TEST(WaylandSessionParts, theScreenIsTheOneThatTheCompositorTakesForTheUsers)
     second.becomeCurrent();
     EXPECT_EQ(located(), screens.screens()[1]);
     EXPECT_TRUE(eventually([] { return compositor().shown("corvane-probe").isEmpty(); }));
+}
+
+// Mirrored, for example.
+TEST(WaylandSessionParts, screensInTheSamePlaceAreToldApart)
+{
+    QtMainQueue queue;
+    QtScreens screens(queue);
+    FakeCompositor::Output second(compositor(), {0, 0});
+    ASSERT_TRUE(eventually([&] { return screens.screens().size() == 2; }));
+    LayerSession session({queue, screens, {}});
+    session.quiet.edgeStrips.watchDrags(true);
+    std::set<std::size_t> withStrip;
+    EXPECT_TRUE(eventually([&] {
+        for (const auto &strip : compositor().shown())
+            withStrip.insert(strip.output);
+        return withStrip.size() == 2;
+    }));
+    EXPECT_TRUE(withStrip.contains(second.number()));
+
+    second.becomeCurrent();
+    bool isTold = false;
+    session.quiet.screenLocator.locate([&] { isTold = true; });
+    ASSERT_TRUE(eventually([&] { return isTold; }));
+    EXPECT_EQ(session.quiet.screenLocator.activeScreen(), screens.screens()[1]);
 }
 
 } // namespace corvane::test

@@ -2,6 +2,7 @@
 
 #include <QRect>
 #include <QRectF>
+#include <QString>
 
 #include <functional>
 #include <memory>
@@ -29,6 +30,9 @@ struct Screen {
     /// In pixels as the window system counts them, y downward; a fractional scale may leave its
     /// size one pixel off. For back ends.
     QRect nativeFrame;
+    /// The window system's name for it: mirrored displays stand in the same place. May be empty.
+    /// For back ends.
+    QString name;
     /// Pixels per point.
     double backingScaleFactor = 1;
     /// Frames per second.

@@ -21,6 +21,7 @@ void refresh(Screen &screen, const QScreen &source)
     // Qt divides a screen's size by its scale, but not its place.
     screen.nativeFrame = {source.geometry().topLeft(),
                           (QSizeF(source.geometry().size()) * source.devicePixelRatio()).toSize()};
+    screen.name = source.name();
     // Virtual outputs report 0 or a useless rate.
     screen.refreshRate = source.refreshRate() >= 1 ? source.refreshRate() : 60;
 }
