@@ -4,6 +4,7 @@
 #include "app/preferences/clear_button.h"
 #include "app/preferences/shortcut_recorder_view.h"
 #include "core/display_text.h"
+#include "core/message.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -48,8 +49,10 @@ ShortcutRow::ShortcutRow(const QString &title, const QString &usualDetail, const
     m_copy->setAccessibleName(title + u": " + m_copy->text());
     m_copy->setAccessibleDescription(usualDetail);
     m_copy->hide();
-    connect(m_copy, &ActionButton::clicked, this,
-            [this] { QGuiApplication::clipboard()->setText(m_copied); });
+    connect(m_copy, &ActionButton::clicked, this, [this] {
+        QGuiApplication::clipboard()->setText(m_copied);
+        m_announce(Message{Message::Kind::TextCopied}.text());
+    });
     setShortcut(std::nullopt);
 }
 

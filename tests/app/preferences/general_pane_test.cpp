@@ -286,7 +286,10 @@ TEST_F(GeneralPaneTest, TheCommandOrItsLineCanBeCopied)
         EXPECT_EQ(copy->isVisibleTo(&shelfRow()),
                   outcome.kind == ShortcutOutcome::Kind::SetInDesktop);
         QGuiApplication::clipboard()->clear();
+        desk.announced.clear();
         copy->click();
+        EXPECT_EQ(desk.announced, QStringList{QStringLiteral("Text copied")})
+            << "nothing else tells that the button has done something";
         return QGuiApplication::clipboard()->text();
     };
     const auto command = QStringLiteral("corvane");
