@@ -54,6 +54,11 @@ TEST_F(PreviewWindowTest, TheContentIsDescribedByWhatStandsBelowIt)
         << "the name is the window's title";
 }
 
+TEST_F(PreviewWindowTest, ItsButtonSaysWhatItOpens)
+{
+    EXPECT_NE(named(QStringLiteral("Open a.txt")), nullptr);
+}
+
 TEST_F(PreviewWindowTest, AThinLineStandsBetweenThem)
 {
     const QImage shown = window.grab().toImage();
