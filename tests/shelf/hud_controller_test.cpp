@@ -800,6 +800,13 @@ TEST_F(HUDControllerTest, HiddenByHandItSaysSo)
     EXPECT_TRUE(view().keyDown({TypedKey::Escape, {}, false}));
     ASSERT_EQ(store.state(), ShelfState::Idle);
     EXPECT_EQ(desk.panel.announced.count(hidden), 1) << "that key was pressed on it";
+    accept(1);
+    controller->toggleByHand();
+    ASSERT_EQ(store.state(), ShelfState::Idle);
+    EXPECT_EQ(desk.panel.announced.count(hidden), 2);
+    controller->toggleByHand();
+    ASSERT_EQ(store.state(), ShelfState::Occupied);
+    EXPECT_EQ(desk.panel.announced.count(hidden), 2) << "it is not";
 }
 
 TEST_F(HUDControllerTest, WhatTheBarRemovesOutOfSightIsNamed)
@@ -813,6 +820,17 @@ TEST_F(HUDControllerTest, WhatTheBarRemovesOutOfSightIsNamed)
     store.removeSelected();
     EXPECT_EQ(desk.panel.announced.last(),
               first.title() + QStringLiteral(" was removed; 2 items are left"));
+}
+
+TEST_F(HUDControllerTest, TheOnlyItemOfAClearedShelfIsNamed)
+{
+    accept(1);
+    store.clearAll();
+    EXPECT_EQ(desk.panel.announced.last(),
+              QStringLiteral("item 0 was removed; the shelf is empty"));
+    accept(2);
+    store.clearAll();
+    EXPECT_EQ(desk.panel.announced.last(), QStringLiteral("The shelf is empty"));
 }
 
 TEST_F(HUDControllerTest, OpenedInTheMiddleOfADragItLeavesTheKeyboardWhereItIs)
