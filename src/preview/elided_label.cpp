@@ -5,6 +5,7 @@
 #include "preview/preview_look.h"
 
 #include <QPainter>
+#include <QTextDocument>
 #include <QTextLayout>
 
 namespace corvane {
@@ -22,6 +23,7 @@ void ElidedLabel::setText(const QString &text)
 {
     m_text = text;
     setAccessibleName(text);
+    updateToolTip();
     updateGeometry();
     update();
 }
@@ -39,6 +41,7 @@ void ElidedLabel::setMaximumLines(int count)
     policy.setHeightForWidth(count > 1);
     policy.setVerticalPolicy(count > 1 ? QSizePolicy::Preferred : QSizePolicy::Fixed);
     setSizePolicy(policy);
+    updateToolTip();
     updateGeometry();
     update();
 }
@@ -64,6 +67,20 @@ QStringList ElidedLabel::lines(int width) const
     if (begin < m_text.size() || lines.isEmpty())
         lines << fontMetrics().elidedText(m_text.mid(begin), Qt::ElideMiddle, width);
     return lines;
+}
+
+void ElidedLabel::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    updateToolTip();
+}
+
+void ElidedLabel::updateToolTip()
+{
+    const auto letters = [](QString text) { return text.remove(u' '); };
+    const bool isWhole = letters(lines(width()).join(QString())) == letters(m_text);
+    // Names are strangers', and tool tips show markup.
+    setToolTip(isWhole ? QString() : Qt::convertFromPlainText(m_text, Qt::WhiteSpaceNormal));
 }
 
 QSize ElidedLabel::sizeHint() const

@@ -6,7 +6,7 @@
 namespace corvane {
 
 /// A label for plain text of one or a few lines. If there is no room for all of it the last line is
-/// cut in the middle.
+/// cut in the middle, and the whole text is its tool tip.
 class ElidedLabel : public QWidget {
 public:
     explicit ElidedLabel(QWidget *parent = nullptr);
@@ -26,8 +26,11 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void updateToolTip();
+
     QString m_text;
     bool m_isSubdued = false;
     int m_maximumLines = 1;

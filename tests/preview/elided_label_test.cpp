@@ -55,6 +55,22 @@ TEST(ElidedLabelTest, LeavesTheMiddleOfItsLastLineAway)
     EXPECT_EQ(label.heightForWidth(widthFor(label, 20)), 2 * label.fontMetrics().height());
 }
 
+TEST(ElidedLabelTest, IsWholeInItsToolTipWhereItIsCutAndOnlyThere)
+{
+    ElidedLabel label;
+    label.setText(name);
+    label.show();
+    label.resize(widthFor(label, 20), 20);
+    EXPECT_TRUE(label.toolTip().contains(name)) << label.toolTip().toStdString();
+    label.setMaximumLines(9);
+    EXPECT_EQ(label.toolTip(), QString()) << "it stands there in several lines";
+    label.setMaximumLines(1);
+    label.resize(widthFor(label, name.size()), 20);
+    EXPECT_EQ(label.toolTip(), QString());
+    label.setText(QStringLiteral("<b>bold</b>").repeated(20));
+    EXPECT_FALSE(label.toolTip().contains(QLatin1String("<b>"))) << "a name is no markup";
+}
+
 TEST(ElidedLabelTest, ReadFromRightToLeftTheFirstPartStandsOnTheRight)
 {
     ElidedLabel label;
