@@ -97,7 +97,8 @@ DesktopKind twoOutputs(WindowManager compositor)
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, WaylandOutputs,
-                         testing::Values(twoOutputs(WindowManager::KWin)),
+                         testing::Values(twoOutputs(WindowManager::KWin),
+                                         twoOutputs(WindowManager::Mutter)),
                          nameOf);
 
 TEST_P(WaylandOutputs, theShelfOpensByHandOnTheOutputThatThePointerIsOn)

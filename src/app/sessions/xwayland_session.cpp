@@ -7,7 +7,9 @@ XWaylandSession::XWaylandSession(const SessionNeeds &needs)
     , pingAnswers(connection)
     , strips(connection)
     , quiet(needs.mainQueue, needs.screens, strips)
-    , dragSelection(connection, [this] { quiet.noticed(); })
+    , userWhereabouts(connection, needs.mainQueue, needs.screens)
+    // Whoever drags something is where the drag is.
+    , dragSelection(connection, [this] { quiet.screenLocator.locate([this] { quiet.noticed(); }); })
     , hotKeys(keyNaming(), needs.mainQueue)
     , panels(connection, needs.mainQueue)
     , windowActivation(connection)
@@ -17,6 +19,9 @@ XWaylandSession::XWaylandSession(const SessionNeeds &needs)
     , trayWatch(connection)
 {
     quiet.setToldOfDrags(connection.hasXFixes());
+    quiet.screenLocator.ask = [this] { userWhereabouts.find(); };
+    userWhereabouts.onFound
+        = [this](const ScreenPointer &screen) { quiet.screenLocator.told(screen); };
     panels.surface.onPointer = [this] { quiet.dragWatch.pointerIsFree(); };
     dropSupport.onDropped = [this] { quiet.dragWatch.droppedOnPanel(); };
     hotKeys.service.onChosen = [this] { tellAbilities(); };

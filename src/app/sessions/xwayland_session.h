@@ -14,6 +14,7 @@
 #include "platform/x11/windows/x11_ping_answers.h"
 #include "platform/x11/windows/x11_strip_surface.h"
 #include "platform/x11/windows/x11_tray_watch.h"
+#include "platform/x11/windows/x11_user_whereabouts.h"
 #include "platform/x11/windows/x11_window_activation.h"
 
 namespace corvane {
@@ -32,6 +33,7 @@ struct XWaylandSession : RunningSession {
     X11PingAnswers pingAnswers;
     X11StripSurface strips;
     QuietDesktop quiet;
+    X11UserWhereabouts userWhereabouts;
     X11DragSelection dragSelection;
     QtKeyboard keyboard;
     X11KeyboardLayout keyboardLayout;
