@@ -1,13 +1,16 @@
 // The program's windows, its icon and what it shows of pages and pictures, in Wayland sessions.
 
+#include "e2e/desktop/screen_reader.h"
 #include "e2e/desktop/tray_panel.h"
 #include "e2e/wayland_session.h"
 #include "platform/qt/web/http_server.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImage>
 
 #include <algorithm>
+#include <csignal>
 
 namespace corvane::e2e {
 namespace {
@@ -245,6 +248,10 @@ INSTANTIATE_TEST_SUITE_P(Layer, ActivationTokens,
                                          sessionOf(WindowManager::KWin)),
                          nameOf);
 
+class KWinPermissions : public ActivationTokens { };
+INSTANTIATE_TEST_SUITE_P(, KWinPermissions, testing::Values(sessionOf(WindowManager::KWin)),
+                         nameOf);
+
 TEST_P(ActivationTokens, anActionsIsHandedOnForTheWindowThatItShows)
 {
     startTelling({});
@@ -275,6 +282,103 @@ TEST_P(ActivationTokens, theOneOfTheStartIsForTheGuide)
     startTelling(how);
     EXPECT_TRUE(handsOn("of-the-start"));
     EXPECT_TRUE(waitUntilShown(welcomeSize));
+}
+
+/// Started as sessions do at login.
+class LoginItem : public ActivationTokens {
+protected:
+    ~LoginItem() override
+    {
+        // The shell that started it does not know of it.
+        Program(CorvaneProgram::path(), {u"--quit"_s}, m_desktop.environment()).waitForEnd();
+        QFile::remove(entry());
+    }
+    QString entry() const
+    {
+        return m_desktop.environment().value(u"XDG_CONFIG_HOME"_s)
+            + u"/autostart/corvane.desktop"_s;
+    }
+    /// By its switch in the preferences.
+    void becomeOne()
+    {
+        ScreenReader reader(m_desktop);
+        ASSERT_TRUE(reader.isReady());
+        CorvaneProgram::Start how{};
+        how.environment = m_desktop.environment();
+        ScreenReader::addTo(how.environment);
+        start(how);
+        ASSERT_TRUE(corvane().activateAction(u"preferences"_s));
+        std::optional<ScreenReader::Element> found;
+        ASSERT_TRUE(eventually([&] {
+            found = reader.control(corvane().program().pid(), u"Launch at login"_s);
+            return found.has_value();
+        }));
+        ASSERT_TRUE(reader.perform(*found, u"Toggle"_s));
+        ASSERT_TRUE(eventually([this] { return QFile::exists(entry()); }));
+        corvane().program().signal(SIGTERM);
+        ASSERT_EQ(corvane().program().waitForEnd(), 0);
+        m_corvane.reset();
+    }
+    void logIn()
+    {
+        CorvaneProgram::Start how{};
+        how.program = u"sh"_s;
+        how.arguments = QStringList{u"-c"_s, u"gio launch \"$0\"; exec sleep infinity"_s, entry()};
+        startTelling(how);
+    }
+};
+INSTANTIATE_TEST_SUITE_P(Layer, LoginItem,
+                         testing::Values(sessionOf(WindowManager::Sway),
+                                         sessionOf(WindowManager::KWin)),
+                         nameOf);
+
+TEST_P(LoginItem, waitsForDragsAndIsOpenedAgainWithThePermissionOfTheSecondStart)
+{
+    ASSERT_NO_FATAL_FAILURE(becomeOne());
+    logIn();
+    EXPECT_FALSE(corvane().isShown());
+    {
+        GtkPeer source(m_desktop, {.text = u"text"_s}, leftPlace());
+        ASSERT_EQ(source.problem(), QString());
+        hands().beginDrag(source.source(), belowEdge());
+        EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
+        hands().glideTo(besideTheShelf());
+        hands().release();
+    }
+    EXPECT_TRUE(corvane().waitUntilHidden());
+    EXPECT_EQ(corvane().startAgain(), 0);
+    EXPECT_TRUE(corvane().waitUntilShown());
+    auto environment = m_desktop.environment();
+    environment.insert(u"XDG_ACTIVATION_TOKEN"_s, u"of-the-second-start"_s);
+    EXPECT_EQ(Program(CorvaneProgram::path(), {u"--preferences"_s}, environment).waitForEnd(), 0);
+    EXPECT_TRUE(handsOn("of-the-second-start"));
+}
+
+// KWin gives permission to programs whose window is in use; sway marks the window as urgent alone,
+// unless the user has it do more.
+TEST_P(KWinPermissions, aClickInAnotherProgramBringsAWindowBehindItToTheFront)
+{
+    const auto givesPermission
+        = u"from gi.repository import Gio\n"
+          "def permit(widget, event):\n"
+          "    flags = Gio.AppInfoCreateFlags.SUPPORTS_STARTUP_NOTIFICATION\n"
+          "    app = Gio.AppInfo.create_from_commandline('true', 'shelf', flags)\n"
+          "    context = Gdk.Display.get_default().get_app_launch_context()\n"
+          "    tell('permission', context.get_startup_notify_id(app, []))\n"
+          "source.connect('button-press-event', permit)"_s;
+    GtkPeer asking(m_desktop, {.text = u"text"_s, .habits = givesPermission}, leftPlace());
+    ASSERT_EQ(asking.problem(), QString());
+    start();
+    ASSERT_TRUE(corvane().activateAction(u"preferences"_s));
+    ASSERT_TRUE(waitUntilShown(preferencesSize));
+    hands().click(asking.target());
+    ASSERT_TRUE(hearsKeys(asking, 'k'));
+    hands().click(asking.source());
+    ASSERT_TRUE(asking.hasSaid("permission"));
+    const QByteArray permission = asking.said("permission");
+    ASSERT_TRUE(chooseAction(u"preferences"_s, QString::fromUtf8(permission)));
+    EXPECT_TRUE(isClosedByTyping(preferencesSize, 'w', {keys::control}))
+        << "keys go to the other program still";
 }
 
 } // namespace

@@ -220,6 +220,11 @@ bool DragPeer::isTargetReady()
     return lastLine("target") == "over";
 }
 
+QByteArray DragPeer::said(const QByteArray &word)
+{
+    return lastLine(word);
+}
+
 bool DragPeer::hasSaid(const QByteArray &word)
 {
     return eventually([&] { return hasSaidNow(word); });

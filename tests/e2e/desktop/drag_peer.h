@@ -59,6 +59,8 @@ public:
     QList<QByteArray> keys();
     /// Whether it has told that of its habits, before long or until now.
     bool hasSaid(const QByteArray &word);
+    /// What stood behind that word when it was told last.
+    QByteArray said(const QByteArray &word);
     bool hasSaidNow(const QByteArray &word) { return !lastLine(word).isEmpty(); }
     /// All that it has told.
     std::string output() { return m_program->output().toStdString(); }
