@@ -85,6 +85,38 @@ TEST_F(SwayOutputs, theShelfOpensOnTheOutputThatADragOrByHandThePointerIsOn)
     ASSERT_TRUE(sway().plug(server(), whole()));
 }
 
+// The pointer is on one of them for the compositor, in whichever window it is here.
+TEST_F(SwayOutputs, ofTwoInTheSamePlaceTheOneWithTheDragHasTheShelf)
+{
+    const QSize half(server().size().width() / 2, server().size().height());
+    const QRect left({}, half);
+    const QRect right({half.width(), 0}, half);
+    sway().unplug(server());
+    ASSERT_TRUE(sway().plug(server(), left));
+    ASSERT_TRUE(sway().plug(server(), right));
+    ASSERT_TRUE(sway().layOutputsOverOneAnother());
+    const QString file = makeFile(u"report.txt"_s, "report");
+    start();
+    const auto isShownOn = lookAtOutputs(left, right);
+    GtkPeer source(m_desktop, {.files = {file}}, {60, 400, 400, 200});
+    ASSERT_EQ(source.problem(), QString());
+    hands().beginDrag(source.source(), left.center());
+    ASSERT_TRUE(wiggleUntil([&] { return isShownOn(left) || isShownOn(right); }));
+    EXPECT_NE(isShownOn(left), isShownOn(right));
+    corvane().lookAt(isShownOn(left) ? left : right);
+    ASSERT_NO_FATAL_FAILURE(dropWhereTheShelfOpens(source));
+    EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
+    EXPECT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(eventually([&] { return !isShownOn(left) && !isShownOn(right); }));
+    EXPECT_EQ(corvane().startAgain(), 0);
+    ASSERT_TRUE(eventually([&] { return isShownOn(left) || isShownOn(right); }));
+    EXPECT_NE(isShownOn(left), isShownOn(right));
+
+    sway().unplug(server());
+    sway().unplug(server());
+    ASSERT_TRUE(sway().plug(server(), whole()));
+}
+
 /// On desktops that have two from the beginning.
 class WaylandOutputs : public WaylandSession { };
 

@@ -11,6 +11,7 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace corvane::e2e {
@@ -190,6 +191,18 @@ void NestedSway::unplug(XServer &screen) const
     const auto windows = screen.windows();
     if (!windows.isEmpty())
         NestedCompositor::unplug(screen, windows.last().frame);
+}
+
+bool NestedSway::layOutputsOverOneAnother() const
+{
+    message({u"output"_s, u"*"_s, u"pos"_s, u"0"_s, u"0"_s});
+    return eventually([this] {
+        const auto answer = message({u"-r"_s, u"-t"_s, u"get_outputs"_s}).value_or(QByteArray());
+        const QJsonArray outputs = QJsonDocument::fromJson(answer).array();
+        return std::ranges::all_of(outputs, [](const QJsonValue &output) {
+            return output[u"rect"_s].toObject()[u"x"].toInt() == 0;
+        });
+    });
 }
 
 void NestedSway::letRootIn()

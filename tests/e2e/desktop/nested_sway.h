@@ -23,6 +23,8 @@ public:
 
     /// Plugs a further output in, which shows at `frame` of that screen; whether it is there.
     bool plug(XServer &screen, const QRect &frame) const;
+    /// Has all outputs show the same part of the desktop. False if it does not come to that.
+    bool layOutputsOverOneAnother() const;
     /// Unplugs the output that was plugged in last, or the one that was there from the start.
     void unplug(XServer &screen) const;
 
