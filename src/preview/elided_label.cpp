@@ -4,9 +4,11 @@
 #include "platform/qt/desktop/spoken_role.h"
 #include "preview/preview_look.h"
 
+#include <QHelpEvent>
 #include <QPainter>
 #include <QTextDocument>
 #include <QTextLayout>
+#include <QToolTip>
 
 namespace corvane {
 
@@ -23,7 +25,6 @@ void ElidedLabel::setText(const QString &text)
 {
     m_text = text;
     setAccessibleName(text);
-    updateToolTip();
     updateGeometry();
     update();
 }
@@ -41,7 +42,6 @@ void ElidedLabel::setMaximumLines(int count)
     policy.setHeightForWidth(count > 1);
     policy.setVerticalPolicy(count > 1 ? QSizePolicy::Preferred : QSizePolicy::Fixed);
     setSizePolicy(policy);
-    updateToolTip();
     updateGeometry();
     update();
 }
@@ -69,18 +69,18 @@ QStringList ElidedLabel::lines(int width) const
     return lines;
 }
 
-void ElidedLabel::resizeEvent(QResizeEvent *event)
+/// Not by the widget's own tool tip, which would be said as its description as well.
+bool ElidedLabel::event(QEvent *event)
 {
-    QWidget::resizeEvent(event);
-    updateToolTip();
-}
-
-void ElidedLabel::updateToolTip()
-{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
     const auto letters = [](QString text) { return text.remove(u' '); };
     const bool isWhole = letters(lines(width()).join(QString())) == letters(m_text);
     // Names are strangers', and tool tips show markup.
-    setToolTip(isWhole ? QString() : Qt::convertFromPlainText(m_text, Qt::WhiteSpaceNormal));
+    QToolTip::showText(dynamic_cast<QHelpEvent &>(*event).globalPos(),
+                       isWhole ? QString() : Qt::convertFromPlainText(m_text, Qt::WhiteSpaceNormal),
+                       this);
+    return true;
 }
 
 QSize ElidedLabel::sizeHint() const

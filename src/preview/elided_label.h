@@ -26,11 +26,9 @@ public:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
-    void updateToolTip();
-
     QString m_text;
     bool m_isSubdued = false;
     int m_maximumLines = 1;
