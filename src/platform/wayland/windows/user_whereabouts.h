@@ -23,7 +23,7 @@ class WaylandConnection;
 class UserWhereabouts {
 public:
     /// In seconds: so long an answer is waited for, which comes at once unless the machine is busy.
-    static constexpr double patience = 0.25;
+    static constexpr double patience = 1;
 
     UserWhereabouts(WaylandConnection &connection, MainQueue &queue, const Screens &screens);
     ~UserWhereabouts();

@@ -22,8 +22,8 @@ class MainQueue;
 /// Main thread only.
 class X11UserWhereabouts {
 public:
-    /// In seconds: so long the window manager may take.
-    static constexpr double patience = 0.25;
+    /// In seconds: so long the window manager may take, which answers in any case unless it hangs.
+    static constexpr double patience = 1;
 
     X11UserWhereabouts(X11Connection &connection, MainQueue &queue, const Screens &screens);
     ~X11UserWhereabouts();
