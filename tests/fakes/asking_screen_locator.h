@@ -12,7 +12,7 @@ namespace corvane::test {
 class AskingScreenLocator : public ScreenLocator {
 public:
     ScreenPointer activeScreen() const override { return m_screen; }
-    void locate(std::function<void()> then) override { m_waiting.push_back(std::move(then)); }
+    void locate(const std::function<void()> &then) override { m_waiting.push_back(then); }
 
     bool isAsked() const { return !m_waiting.empty(); }
     void answer(const ScreenPointer &screen)

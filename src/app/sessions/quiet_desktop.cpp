@@ -12,9 +12,9 @@ ScreenPointer LastSeenScreen::activeScreen() const
     return found == attached.end() ? m_screens.mainScreen() : *found;
 }
 
-void LastSeenScreen::locate(std::function<void()> then)
+void LastSeenScreen::locate(const std::function<void()> &then)
 {
-    m_waiting.push_back(std::move(then));
+    m_waiting.push_back(then);
     if (m_waiting.size() > 1)
         return;
     if (ask)

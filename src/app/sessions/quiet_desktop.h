@@ -25,7 +25,7 @@ public:
 
     /// That one, else the main screen, which may be none.
     ScreenPointer activeScreen() const override;
-    void locate(std::function<void()> then) override;
+    void locate(const std::function<void()> &then) override;
     void cameTo(const ScreenPointer &screen) { m_last = screen; }
     /// The answer to `ask`; null where there is none.
     void told(const ScreenPointer &screen);

@@ -25,7 +25,7 @@ public:
     virtual ScreenPointer activeScreen() const = 0;
     /// Calls `then` once `activeScreen` is where the user is now: at once, or, where the desktop
     /// has to be asked, later and in the order of the calls.
-    virtual void locate(std::function<void()> then) { then(); }
+    virtual void locate(const std::function<void()> &then) { then(); }
 
     /// The notch of a screen; all 0 for null and for a screen without one.
     static Notch notch(const ScreenPointer &screen);
