@@ -84,7 +84,7 @@ struct FakeCompositor::Server {
     Shown *newest(const QByteArray &label);
     wl_resource *of(const std::vector<wl_resource *> &all, wl_client *client) const;
     static void commit(Shown &surface);
-    static int tellOfFrames(void *server);
+    static int tellOfFrames(void *data);
     static void become(Shown &surface);
     Output &plugIn(QPoint at);
 
