@@ -128,8 +128,8 @@ protected:
 };
 
 constexpr auto ownPartners = {Partner{Toolkit::Gtk4}, Partner{Toolkit::Qt5}, Partner{Toolkit::Qt6}};
-constexpr auto partnersOfX11
-    = {Partner{Toolkit::Gtk3, Native::No}, Partner{Toolkit::Qt6, Native::No}};
+constexpr Partner gtk3OfX11{Toolkit::Gtk3, Native::No};
+constexpr Partner qt6OfX11{Toolkit::Qt6, Native::No};
 constexpr auto browsers = {Partner{Toolkit::Chromium}, Partner{Toolkit::Firefox}};
 
 const DesktopKind x11{WindowManager::Openbox, Compositor::Picom};
@@ -148,12 +148,13 @@ INSTANTIATE_TEST_SUITE_P(DISABLED_Browsers, Toolkits,
                          testing::Combine(testing::Values(x11, sway, kwin, mutter),
                                           testing::ValuesIn(browsers)),
                          nameOfTrial);
-INSTANTIATE_TEST_SUITE_P(ThroughXWayland, Toolkits,
-                         testing::Combine(testing::Values(kwin), testing::ValuesIn(partnersOfX11)),
+INSTANTIATE_TEST_SUITE_P(ThroughXWayland, Toolkits, testing::Values(Trial(kwin, gtk3OfX11)),
                          nameOfTrial);
+// Now and then nothing is heard of the second drag of Qt 6 under KWin.
 INSTANTIATE_TEST_SUITE_P(DISABLED_ThroughXWayland, Toolkits,
-                         testing::Combine(testing::Values(sway, mutter),
-                                          testing::ValuesIn(partnersOfX11)),
+                         testing::Values(Trial(kwin, qt6OfX11), Trial(sway, gtk3OfX11),
+                                         Trial(sway, qt6OfX11), Trial(mutter, gtk3OfX11),
+                                         Trial(mutter, qt6OfX11)),
                          nameOfTrial);
 
 TEST_P(Toolkits, aSource)

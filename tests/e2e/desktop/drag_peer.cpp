@@ -230,6 +230,11 @@ bool DragPeer::hasSaid(const QByteArray &word)
     return eventually([&] { return hasSaidNow(word); });
 }
 
+int DragPeer::losses()
+{
+    return static_cast<int>(m_program->output().count("keyboard lost\n"));
+}
+
 int DragPeer::presses()
 {
     return static_cast<int>(m_program->output().count("press\n"));

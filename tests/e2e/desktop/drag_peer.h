@@ -55,6 +55,8 @@ public:
     bool isTargetReady();
     /// Of GTK 3's window alone.
     int presses();
+    /// How often it has lost the keyboard; GTK 3's programs count it.
+    int losses();
     /// The names of the keys that were typed into GTK 3's window.
     QList<QByteArray> keys();
     /// Whether it has told that of its habits, before long or until now.

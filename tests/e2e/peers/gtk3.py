@@ -74,6 +74,7 @@ def left(*arguments):
 target.connect("drag-motion", moved)
 target.connect("drag-leave", left)
 
+window.connect("focus-out-event", lambda w, e: tell("keyboard lost") or False)
 window.connect("key-press-event", lambda w, e: tell("key", Gdk.keyval_name(e.keyval)) or False)
 box.pack_start(source, True, True, 0)
 box.pack_start(target, True, True, 0)

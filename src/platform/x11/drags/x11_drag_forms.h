@@ -23,13 +23,16 @@ public:
 
     X11DragForms(X11Connection &connection, PasteboardForms forms);
 
-    std::vector<xcb_atom_t> targets() const;
+    /// The names in the order of the forms, the most exact text first: there are programs, and
+    /// compositors between, that take the first they know.
+    const std::vector<xcb_atom_t> &targets() const { return m_targets; }
     /// None for what is not offered.
     std::optional<Answer> answerTo(xcb_atom_t target) const;
 
 private:
     X11Connection *m_connection;
     NamedForms m_forms;
+    std::vector<xcb_atom_t> m_targets;
     QHash<xcb_atom_t, QString> m_names;
 };
 

@@ -76,10 +76,22 @@ public:
     /// Whether a list of atoms that came names the type.
     bool names(const QByteArray &atoms, const char *type) const
     {
+        return listed(atoms).contains(m_connection.atom(type));
+    }
+    /// Whether it names just these, in that order.
+    bool namesJust(const QByteArray &atoms, const QList<const char *> &types) const
+    {
+        QList<xcb_atom_t> wanted;
+        for (const char *type : types)
+            wanted << m_connection.atom(type);
+        return listed(atoms) == wanted;
+    }
+    static QList<xcb_atom_t> listed(const QByteArray &atoms)
+    {
         QList<xcb_atom_t> listed(atoms.size() / qsizetype{sizeof(xcb_atom_t)});
         std::memcpy(listed.data(), atoms.constData(),
                     static_cast<std::size_t>(listed.size()) * sizeof(xcb_atom_t));
-        return listed.contains(m_connection.atom(type));
+        return listed;
     }
     QByteArray typeOf(const char *property)
     {
@@ -474,6 +486,16 @@ TEST_F(X11DragSupportTest, theNextDragLeavesABusyTargetWhatWasDroppedOnIt)
     ASSERT_EQ(ends.size(), 1U);
     EXPECT_EQ(ends[0].operation, DragOperation::Copy);
     EXPECT_TRUE(ends[0].taken.contains(2));
+}
+
+TEST_F(X11DragSupportTest, theMostExactTextIsNamedFirst)
+{
+    support.dragWillBegin({{QStringLiteral("text/plain;charset=utf-8"), "a", {0}},
+                           {QStringLiteral("text/plain"), "a", {0}}},
+                          true);
+    EXPECT_TRUE(target.namesJust(target.take("TARGETS"),
+                                 {"text/plain;charset=utf-8", "text/plain", "UTF8_STRING", "STRING",
+                                  "TEXT", "TARGETS", "TIMESTAMP", "MULTIPLE"}));
 }
 
 TEST_F(X11DragSupportTest, whatIsStillBeingMadeIsNamedAtOnceAndGivenWhenItIsThere)
