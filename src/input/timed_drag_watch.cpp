@@ -32,7 +32,8 @@ void TimedDragWatch::noticed()
         return;
     // Before the shelf opens: the end that is awaited is that of an earlier drag.
     endAfter(patience, DragEnd::Assumed);
-    begin(State::Expected);
+    m_state = State::Expected;
+    tellOfBeginning();
 }
 
 void TimedDragWatch::ownDrag(bool isUnderWay)
@@ -47,9 +48,12 @@ void TimedDragWatch::overPanel(bool isOver)
     if (isOver) {
         m_waiting.restart();
         // One whose end was assumed goes on, and did not begin anew.
-        if (m_isUncertain)
-            m_state = State::Here;
-        begin(State::Here);
+        const bool isKnown = m_isUncertain || m_state == State::Expected || m_state == State::Here;
+        m_state = State::Here;
+        if (isKnown)
+            setUncertain(false);
+        else
+            tellOfBeginning();
     } else if (m_state == State::Here) {
         m_state = State::Expected;
         endAfter(grace, DragEnd::Assumed);
@@ -73,13 +77,11 @@ void TimedDragWatch::pointerIsFree()
     end(DragEnd::Seen);
 }
 
-void TimedDragWatch::begin(State state)
+void TimedDragWatch::tellOfBeginning()
 {
-    const State before = std::exchange(m_state, state);
     setUncertain(false);
-    const bool isUnderWay = before == State::Expected || before == State::Here;
     // A copy: the callback may destroy the watch, and itself with it.
-    if (const auto began = onDragBegan; began && !isUnderWay)
+    if (const auto began = onDragBegan)
         began();
 }
 

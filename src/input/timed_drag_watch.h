@@ -36,7 +36,8 @@ public:
     void ownDrag(bool isUnderWay) override;
     void overPanel(bool isOver) override;
 
-    /// Somebody began to drag something, or has it at a screen's edge.
+    /// Somebody began to drag something, or has it at a screen's edge. Told as a beginning even if
+    /// the end of an earlier drag is still awaited: this one may be on another screen.
     void noticed();
     /// What is over a panel was let go there. Told before it is no longer over it.
     void droppedOnPanel();
@@ -54,7 +55,7 @@ private:
         Settling,
     };
 
-    void begin(State state);
+    void tellOfBeginning();
     void endAfter(double seconds, DragEnd how);
     void end(DragEnd how);
     void setUncertain(bool isUncertain);

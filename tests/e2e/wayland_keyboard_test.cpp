@@ -88,11 +88,11 @@ TEST_P(LayerKeyboard, pastesWhatAnotherProgramHasCopied)
 /// dropped on them only while it is with one of them.
 TEST_P(KWinKeyboard, staysWithAProgramOfX11ThatSomethingIsDroppedOn)
 {
-    const auto tellsWhenItLosesKeysAfterADrop
+    const auto tellsWhenADropTakesItsKeys
         = u"target.connect('drag-drop', lambda *a: state.update(dropped=True) or False)\n"
           "window.connect('focus-out-event', lambda w, e: "
-          "'dropped' in state and tell('keyboard', 'lost') or False)"_s;
-    GtkPeer target(m_desktop, {.habits = tellsWhenItLosesKeysAfterADrop, .isForX11 = true},
+          "'dropped' in state and tell('taken') or False)"_s;
+    GtkPeer target(m_desktop, {.habits = tellsWhenADropTakesItsKeys, .isForX11 = true},
                    rightPlace());
     ASSERT_EQ(target.problem(), QString());
     const QString file = makeFile(u"report.txt"_s, "report");
@@ -102,7 +102,7 @@ TEST_P(KWinKeyboard, staysWithAProgramOfX11ThatSomethingIsDroppedOn)
     EXPECT_EQ(target.droppedAddresses().trimmed(), uriList({file}).trimmed());
     EXPECT_TRUE(corvane().waitUntilHidden());
     EXPECT_TRUE(hearsKeys(target, 'k'));
-    EXPECT_FALSE(target.hasSaidNow("keyboard")) << target.output();
+    EXPECT_FALSE(target.hasSaidNow("taken")) << target.output();
 }
 
 } // namespace

@@ -48,6 +48,20 @@ TEST_F(TimedDragWatchTest, AssumesTheEndOfADragThatDoesNotComeToAPanel)
     EXPECT_EQ(taken(), words("uncertain assumed"));
 }
 
+// It may be on another screen.
+TEST_F(TimedDragWatchTest, TellsOfADragThatBeginsWhileTheEndOfAnotherIsAwaited)
+{
+    watch->noticed();
+    watch->noticed();
+    EXPECT_EQ(taken(), words("began began"));
+    watch->overPanel(true);
+    watch->overPanel(false);
+    watch->noticed();
+    EXPECT_EQ(taken(), words("began"));
+    clock.advance(patience);
+    EXPECT_EQ(taken(), words("uncertain assumed"));
+}
+
 TEST_F(TimedDragWatchTest, AssumesNoEndOfADragThatStaysOverAPanel)
 {
     watch->noticed();
@@ -128,7 +142,7 @@ TEST_F(TimedDragWatchTest, WaitsAnewForADragThatIsNoticedTwice)
     clock.advance(patience - aMoment);
     watch->noticed();
     clock.advance(patience - aMoment);
-    EXPECT_EQ(taken(), words("began"));
+    EXPECT_EQ(taken(), words("began began"));
     clock.advance(aMoment);
     EXPECT_EQ(taken(), words("uncertain assumed"));
 }

@@ -16,7 +16,8 @@ enum class DragEnd {
 /// and when that is over. Each kind of session implements it in its own way. Main thread only.
 ///
 /// If the end cannot be seen the watch assumes one after some time. If the drag then comes over a
-/// panel, it was not over: its end is reported once more.
+/// panel, it was not over: its end is reported once more. A drag that begins before that time is
+/// over is told of, too, so that two beginnings may have one end.
 class DragWatch {
 public:
     virtual ~DragWatch() = default;
