@@ -28,9 +28,10 @@ constexpr QRect body(160, 0, 292, 56);
 /// Takes everything.
 struct GladReceiver : DropReceiver {
     bool needsAddresses(const QStringList &) const override { return false; }
-    Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag) override
+    Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag, std::function<void()> done) override
     {
         early = drag;
+        earlyIsOver = std::move(done);
         return Subscription([this] { early.reset(); });
     }
     QStringList addressTypes(const QStringList &) const override { return {}; }
@@ -43,6 +44,7 @@ struct GladReceiver : DropReceiver {
     std::shared_ptr<IncomingDrag> dropped;
     /// What is fetched early now.
     std::shared_ptr<IncomingDrag> early;
+    std::function<void()> earlyIsOver;
 };
 
 /// Says that the window takes what is dragged over it.

@@ -20,7 +20,10 @@ using e2e::eventually;
 
 struct Nobody : DropReceiver {
     bool needsAddresses(const QStringList &) const override { return false; }
-    Subscription fetchEarly(std::shared_ptr<IncomingDrag>) override { return {}; }
+    Subscription fetchEarly(std::shared_ptr<IncomingDrag>, std::function<void()>) override
+    {
+        return {};
+    }
     QStringList addressTypes(const QStringList &) const override { return {}; }
     bool takeDrop(std::shared_ptr<IncomingDrag>) override { return false; }
 };

@@ -2,6 +2,7 @@
 
 #include "platform/base/main_queue.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace corvane {
@@ -26,20 +27,38 @@ void DropHover::begin(QPointF at)
 {
     m_at = at;
     if (m_drag->isFetchedEarly())
-        m_early = m_receiver.fetchEarly(m_drag);
+        fetchEarly();
+    else
+        m_contents = Contents::Settled;
     const QStringList types = m_drag->types();
     if (!m_receiver.needsAddresses(types)) {
-        decide();
+        addressesAreKnown();
         return;
     }
-    m_queue.asyncAfter(patience, m_lifetime.guard([this] { decide(); }));
+    m_queue.asyncAfter(patience, m_lifetime.guard([this] { addressesAreKnown(); }));
     fetchAddresses(m_receiver.addressTypes(types));
+}
+
+void DropHover::fetchEarly()
+{
+    m_contents = Contents::Awaited;
+    m_early = m_receiver.fetchEarly(m_drag, m_lifetime.guard([this] { earlyFetchEnded(); }));
+}
+
+void DropHover::earlyFetchEnded()
+{
+    const bool isAnyHere = std::ranges::any_of(
+        m_drag->types(), [this](const QString &type) { return !m_drag->fetched(type).isEmpty(); });
+    // A drop of what cannot be fetched says why.
+    const bool isLast = ++m_earlyFetches >= maximumEarlyFetches;
+    m_contents = isAnyHere || isLast ? Contents::Settled : Contents::Missing;
+    decide();
 }
 
 void DropHover::fetchAddresses(QStringList types)
 {
     if (types.isEmpty()) {
-        decide();
+        addressesAreKnown();
         return;
     }
     const QString type = types.takeFirst();
@@ -47,15 +66,24 @@ void DropHover::fetchAddresses(QStringList types)
                   m_lifetime.guard([this, types = std::move(types)](IncomingDrag::Outcome outcome,
                                                                     const QByteArray &bytes) {
                       if (!bytes.isEmpty() || outcome == IncomingDrag::Outcome::Lost)
-                          decide();
+                          addressesAreKnown();
                       else
                           fetchAddresses(types);
                   }));
 }
 
+/// Or those that are not are no longer waited for.
+void DropHover::addressesAreKnown()
+{
+    m_areAddressesKnown = true;
+    decide();
+}
+
 /// The panel decides by the addresses known so far.
 void DropHover::decide()
 {
+    if (!m_areAddressesKnown || m_contents != Contents::Settled)
+        return;
     if (!std::exchange(m_isTold, true))
         tell(m_panel.enter(m_at));
 }
@@ -63,6 +91,8 @@ void DropHover::decide()
 void DropHover::moveTo(QPointF at)
 {
     m_at = at;
+    if (m_contents == Contents::Missing)
+        fetchEarly();
     if (!m_isTold)
         return;
     const bool wouldBeTaken = m_panel.move(at);

@@ -14,9 +14,11 @@ class MainQueue;
 
 /// One drag of another program over one panel: what is told of it to the panel and to the source.
 ///
-/// What is best fetched early is fetched from the beginning on.
+/// What is best fetched early is fetched from the beginning on, anew with the next move if nothing
+/// came, and is not welcome before it is here: who lets go of it earlier keeps it.
 ///
 ///     Unknown --addresses are here, or not needed--> told to the panel: Accepted or Refused
+///               (and contents that are fetched early)
 ///
 /// Until the panel has been told, the source hears nothing: it counts as not welcome. Everything
 /// that it is given must outlive it.
@@ -24,6 +26,8 @@ class DropHover {
 public:
     /// In seconds: how long the panel is not told of a drag whose addresses are awaited.
     static constexpr double patience = 5;
+    /// After so many that brought nothing the panel is told all the same.
+    static constexpr int maximumEarlyFetches = 3;
     /// Larger address lists are not read.
     static constexpr qsizetype maximumAddressBytes = 64LL * 1024 * 1024;
 
@@ -51,6 +55,16 @@ public:
     bool drop();
 
 private:
+    /// Of a drag that is fetched early; all others are settled.
+    enum class Contents {
+        Awaited,
+        Missing,
+        Settled,
+    };
+
+    void fetchEarly();
+    void earlyFetchEnded();
+    void addressesAreKnown();
     void fetchAddresses(QStringList types);
     void decide();
     void tell(bool wouldBeTaken);
@@ -61,6 +75,9 @@ private:
     Panel m_panel;
     Answer m_answer;
     QPointF m_at;
+    Contents m_contents = Contents::Awaited;
+    int m_earlyFetches = 0;
+    bool m_areAddressesKnown = false;
     bool m_isTold = false;
     bool m_wouldBeTaken = false;
     Subscription m_early;

@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class QWindow;
@@ -21,8 +22,10 @@ public:
     virtual bool needsAddresses(const QStringList &types) const = 0;
     /// The types among `types` that hold addresses, the best first.
     virtual QStringList addressTypes(const QStringList &types) const = 0;
-    /// Fetches all that a drop of this drag would ask for, until the subscription ends.
-    virtual Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag) = 0;
+    /// Fetches all that a drop of this drag would ask for, until the subscription ends. `done` is
+    /// called once, however that went, and may be called before this returns.
+    virtual Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag, std::function<void()> done)
+        = 0;
     /// The drag was dropped on the panel. False to refuse it; it is then finished as not taken.
     virtual bool takeDrop(std::shared_ptr<IncomingDrag> drop) = 0;
 };

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 class SlowDrag : public IncomingDrag {
 public:
     QStringList types() const override { return {u"text/uri-list"_s, u"text/x-moz-url"_s}; }
-    QByteArray fetched(const QString &) const override { return {}; }
+    QByteArray fetched(const QString &) const override { return held; }
     void fetch(const QString &type, qsizetype, Fetched done) override
     {
         asked << type;
@@ -27,6 +27,7 @@ public:
     bool isFetchedEarly() const override { return isEarly; }
 
     bool isEarly = false;
+    QByteArray held;
     QStringList asked;
     Fetched answer;
 };
@@ -34,9 +35,11 @@ public:
 class FakeReceiver : public DropReceiver {
 public:
     bool needsAddresses(const QStringList &) const override { return needs; }
-    Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag) override
+    Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag, std::function<void()> done) override
     {
+        ++earlyFetches;
         early = drag;
+        earlyIsOver = std::move(done);
         return Subscription([this] { early.reset(); });
     }
     QStringList addressTypes(const QStringList &types) const override { return types; }
@@ -50,6 +53,8 @@ public:
     int drops = 0;
     /// What is fetched early now.
     std::shared_ptr<IncomingDrag> early;
+    std::function<void()> earlyIsOver;
+    int earlyFetches = 0;
 };
 
 class DropHoverTest : public testing::Test {
@@ -100,6 +105,64 @@ TEST_F(DropHoverTest, whatMayBeOutOfReachLaterIsFetchedAsLongAsItIsOverThePanel)
     EXPECT_EQ(receiver.early, drag);
     hover.reset();
     EXPECT_EQ(receiver.early, nullptr);
+}
+
+TEST_F(DropHoverTest, whatIsFetchedEarlyIsNotWelcomeBeforeItIsHere)
+{
+    drag->isEarly = true;
+    begin();
+    hover->moveTo({3, 4});
+    EXPECT_FALSE(entered);
+    EXPECT_TRUE(answers.empty());
+    EXPECT_FALSE(hover->drop());
+    drag->held = "text";
+    receiver.earlyIsOver();
+    EXPECT_EQ(entered, QPointF(3, 4));
+    EXPECT_EQ(answers, std::vector<bool>{true});
+    hover->moveTo({5, 6});
+    EXPECT_EQ(receiver.earlyFetches, 1);
+}
+
+TEST_F(DropHoverTest, whatIsFetchedEarlyWaitsForItsAddressesToo)
+{
+    drag->isEarly = true;
+    receiver.needs = true;
+    begin();
+    drag->held = "file:///a\r\n";
+    receiver.earlyIsOver();
+    EXPECT_FALSE(entered);
+    drag->answer(IncomingDrag::Outcome::Arrived, drag->held);
+    EXPECT_EQ(answers, std::vector<bool>{true});
+}
+
+TEST_F(DropHoverTest, whatDidNotComeEarlyIsFetchedAnewWithTheNextMove)
+{
+    drag->isEarly = true;
+    begin();
+    receiver.earlyIsOver();
+    EXPECT_FALSE(entered);
+    EXPECT_EQ(receiver.earlyFetches, 1);
+    hover->moveTo({3, 4});
+    hover->moveTo({5, 6});
+    EXPECT_EQ(receiver.earlyFetches, 2);
+    drag->held = "text";
+    receiver.earlyIsOver();
+    EXPECT_EQ(entered, QPointF(5, 6));
+}
+
+TEST_F(DropHoverTest, aPanelIsToldAtLastOfWhatNeverComesEarly)
+{
+    drag->isEarly = true;
+    begin();
+    for (int i = 1; i < DropHover::maximumEarlyFetches; ++i) {
+        receiver.earlyIsOver();
+        EXPECT_FALSE(entered);
+        hover->moveTo({3, 4});
+    }
+    receiver.earlyIsOver();
+    EXPECT_EQ(answers, std::vector<bool>{true});
+    hover->moveTo({5, 6});
+    EXPECT_EQ(receiver.earlyFetches, DropHover::maximumEarlyFetches);
 }
 
 TEST_F(DropHoverTest, theSourceHearsOnlyOfAnswersThatChange)

@@ -144,12 +144,13 @@ QStringList PanelDropTarget::addressTypes(const QStringList &types) const
     return BytesPasteboard::addressTypes(types);
 }
 
-Subscription PanelDropTarget::fetchEarly(std::shared_ptr<IncomingDrag> drag)
+Subscription PanelDropTarget::fetchEarly(std::shared_ptr<IncomingDrag> drag,
+                                         std::function<void()> done)
 {
     // The drag keeps what it fetched. Where its source would write a file itself, that waits.
     const auto nowhere = [](const QString &) { return std::optional<QUrl>(); };
     auto fetch = std::make_shared<DropFetch>(std::move(drag), nowhere, m_threads);
-    fetch->start([](FetchedPasteboard &) {});
+    fetch->start([done = std::move(done)](FetchedPasteboard &) { done(); });
     return Subscription([fetch] {});
 }
 

@@ -59,7 +59,8 @@ public:
 
     bool needsAddresses(const QStringList &types) const override;
     QStringList addressTypes(const QStringList &types) const override;
-    Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag) override;
+    Subscription fetchEarly(std::shared_ptr<IncomingDrag> drag,
+                            std::function<void()> done) override;
     bool takeDrop(std::shared_ptr<IncomingDrag> drop) override;
 
 private:

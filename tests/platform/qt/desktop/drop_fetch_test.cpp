@@ -145,8 +145,11 @@ TEST_F(DropFetchTest, APanelFetchesEarlyWhatItsDropWillAskFor)
         {u"text/html"_s, "<p>a"}, {u"text/plain"_s, "a"}, {u"text/uri-list"_s, ""}});
     QWindow window;
     PanelDropTarget panel(window, nullptr, {&work, &clock});
-    const auto early = panel.fetchEarly(drag);
+    int earlyEnds = 0;
+    const auto early = panel.fetchEarly(drag, [&] { ++earlyEnds; });
     EXPECT_EQ(drag->asked, (QStringList{u"text/uri-list"_s, u"text/plain"_s}));
+    finishWork();
+    EXPECT_EQ(earlyEnds, 1);
 }
 
 } // namespace
