@@ -107,9 +107,8 @@ private:
 
 UserWhereabouts::UserWhereabouts(WaylandConnection &connection, MainQueue &queue,
                                  const Screens &screens)
-    : m_connection(connection)
-    , m_queue(queue)
-    , m_screens(screens)
+    : ScreenSearch(queue, screens)
+    , m_connection(connection)
 {
     if (connection.display())
         bindGlobals(connection.display(),
@@ -126,38 +125,31 @@ UserWhereabouts::~UserWhereabouts()
         wl_shm_destroy(m_shm);
 }
 
-void UserWhereabouts::find()
+bool UserWhereabouts::begin()
 {
-    if (m_probe)
-        return;
-    const auto attached = m_screens.screens();
     const bool canAsk = m_compositor && m_shm && m_connection.layerShell();
-    wl_buffer *const pixel = attached.size() > 1 && canAsk ? transparentPixel(m_shm) : nullptr;
-    if (!pixel) {
-        found(attached.size() == 1 ? attached.front() : nullptr);
-        return;
-    }
+    wl_buffer *const pixel = canAsk ? transparentPixel(m_shm) : nullptr;
+    if (!pixel)
+        return false;
     m_probe = std::make_unique<Probe>(*this, pixel);
-    m_queue.asyncAfter(patience, m_search.guard([this] { found(nullptr); }));
+    giveUpAfter(patience);
+    return true;
+}
+
+void UserWhereabouts::end()
+{
+    m_probe.reset();
 }
 
 /// Later: the surface is just being told of it.
 void UserWhereabouts::isOn(const wl_output *output)
 {
     ScreenPointer screen;
-    for (const ScreenPointer &one : m_screens.screens()) {
+    for (const ScreenPointer &one : screens().screens()) {
         if (output && WaylandConnection::outputOf(toolkitScreen(*one)) == output)
             screen = one;
     }
-    m_queue.async(m_search.guard([this, screen] { found(screen); }));
-}
-
-void UserWhereabouts::found(const ScreenPointer &screen)
-{
-    m_search.restart();
-    m_probe.reset();
-    if (onFound)
-        onFound(screen);
+    queue().async(search().guard([this, screen] { found(screen); }));
 }
 
 } // namespace corvane

@@ -1,7 +1,5 @@
 #include "platform/x11/windows/x11_user_whereabouts.h"
 
-#include "platform/base/main_queue.h"
-
 #include <xcb/shape.h>
 
 #include <algorithm>
@@ -24,9 +22,8 @@ constexpr std::array<std::uint32_t, 5> hasNoDecorations = {2, 0, 0};
 
 X11UserWhereabouts::X11UserWhereabouts(X11Connection &connection, MainQueue &queue,
                                        const Screens &screens)
-    : m_connection(connection)
-    , m_queue(queue)
-    , m_screens(screens)
+    : ScreenSearch(queue, screens)
+    , m_connection(connection)
     , m_listener(
           connection.addListener([this](const xcb_generic_event_t &event) { handle(event); }))
 {
@@ -39,17 +36,17 @@ X11UserWhereabouts::~X11UserWhereabouts()
     m_connection.flush();
 }
 
-void X11UserWhereabouts::find()
+bool X11UserWhereabouts::begin()
 {
-    if (m_window != XCB_NONE)
-        return;
-    const auto attached = m_screens.screens();
-    if (attached.size() < 2) {
-        found(attached.empty() ? nullptr : attached.front());
-        return;
-    }
     showWindow();
-    m_queue.asyncAfter(patience, m_search.guard([this] { found(nullptr); }));
+    giveUpAfter(patience);
+    return true;
+}
+
+void X11UserWhereabouts::end()
+{
+    xcb_destroy_window(m_connection.get(), std::exchange(m_window, XCB_NONE));
+    m_connection.flush();
 }
 
 void X11UserWhereabouts::showWindow()
@@ -99,23 +96,12 @@ void X11UserWhereabouts::handle(const xcb_generic_event_t &event)
 /// Before it is shown a window may be moved more than once.
 void X11UserWhereabouts::wasPut()
 {
-    const auto attached = m_screens.screens();
+    const auto attached = screens().screens();
     const auto at = std::ranges::find_if(attached, [this](const ScreenPointer &screen) {
         return screen->nativeFrame.contains(m_place);
     });
     if (at != attached.end())
         found(*at);
-}
-
-void X11UserWhereabouts::found(const ScreenPointer &screen)
-{
-    m_search.restart();
-    if (const xcb_window_t window = std::exchange(m_window, XCB_NONE); window != XCB_NONE) {
-        xcb_destroy_window(m_connection.get(), window);
-        m_connection.flush();
-    }
-    if (onFound)
-        onFound(screen);
 }
 
 } // namespace corvane
