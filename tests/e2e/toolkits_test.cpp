@@ -88,6 +88,9 @@ protected:
         ASSERT_EQ(source.problem(), QString());
         hands().beginDrag(source.source(), edge());
         ASSERT_NO_FATAL_FAILURE(dropWhereTheShelfOpens(source));
+        // Under KWin a program of X11 hears that the button is up once the pointer is over it
+        // again.
+        hands().glideTo(source.source());
         EXPECT_TRUE(!isToldOfTheEnd() || source.endOfDrag() == "done");
         ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
         dragOut(witness);
@@ -148,13 +151,12 @@ INSTANTIATE_TEST_SUITE_P(DISABLED_Browsers, Toolkits,
                          testing::Combine(testing::Values(x11, sway, kwin, mutter),
                                           testing::ValuesIn(browsers)),
                          nameOfTrial);
-INSTANTIATE_TEST_SUITE_P(ThroughXWayland, Toolkits, testing::Values(Trial(kwin, gtk3OfX11)),
+INSTANTIATE_TEST_SUITE_P(ThroughXWayland, Toolkits,
+                         testing::Values(Trial(kwin, gtk3OfX11), Trial(kwin, qt6OfX11)),
                          nameOfTrial);
-// Now and then nothing is heard of the second drag of Qt 6 under KWin.
 INSTANTIATE_TEST_SUITE_P(DISABLED_ThroughXWayland, Toolkits,
-                         testing::Values(Trial(kwin, qt6OfX11), Trial(sway, gtk3OfX11),
-                                         Trial(sway, qt6OfX11), Trial(mutter, gtk3OfX11),
-                                         Trial(mutter, qt6OfX11)),
+                         testing::Values(Trial(sway, gtk3OfX11), Trial(sway, qt6OfX11),
+                                         Trial(mutter, gtk3OfX11), Trial(mutter, qt6OfX11)),
                          nameOfTrial);
 
 TEST_P(Toolkits, aSource)

@@ -9,6 +9,9 @@ def tell(*words):
 
 colour, width, height, text, habits, files = *sys.argv[1:6], sys.argv[6:]
 window = Gtk.Window(title="peer")
+# As one that draws its own decoration: KWin, which draws none here, and GTK would otherwise tell each
+# other without end that it should be the other.
+window.set_titlebar(Gtk.Box())
 window.set_decorated(False)
 box = Gtk.Box(homogeneous=True)
 style = Gtk.CssProvider()

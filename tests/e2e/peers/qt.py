@@ -21,6 +21,7 @@ class Half(QtWidgets.QWidget):
 class Source(Half):
     def mousePressEvent(self, event):
         self.pressed = event.pos()
+        tell("press")
     def mouseMoveEvent(self, event):
         way = (event.pos() - self.pressed).manhattanLength()
         if way < QtWidgets.QApplication.startDragDistance():
@@ -36,6 +37,7 @@ class Source(Half):
             lambda action: tell("action", "copy" if action == Copy else "none"))
         # Its own target takes nothing on the way: who says that it is welcome is somebody else.
         target.setAcceptDrops(False)
+        tell("begin")
         taken = drag.exec(Copy) == Copy
         target.setAcceptDrops(True)
         tell("end", "done" if taken else "failed")
