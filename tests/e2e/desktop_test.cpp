@@ -129,6 +129,18 @@ void DesktopTest::start(const CorvaneProgram::Start &how)
     ASSERT_TRUE(m_corvane->waitUntilReady()) << m_corvane->program().output().toStdString();
 }
 
+std::optional<NotifierFacts> DesktopTest::startInPanel(NotifierPanel &panel,
+                                                       const CorvaneProgram::Start &how)
+{
+    if (!panel.waitUntilReady())
+        return {};
+    start(how);
+    const qint64 pid = corvane().program().pid();
+    if (!panel.waitForItemOf(pid))
+        return {};
+    return NotifierFacts(m_desktop, pid);
+}
+
 QString DesktopTest::makeFolder(const QString &name)
 {
     QString path = m_files + u'/' + name;

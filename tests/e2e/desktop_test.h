@@ -4,6 +4,7 @@
 #include "e2e/desktop/corvane_program.h"
 #include "e2e/desktop/eventually.h"
 #include "e2e/desktop/file_manager.h"
+#include "e2e/desktop/tray_panel.h"
 #include "e2e/desktop/x_desktop.h"
 #include "e2e/desktop/xdnd_peer.h"
 
@@ -13,6 +14,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 // GoogleTest finds these beside the types and would print lists of characters otherwise.
@@ -54,6 +56,9 @@ protected:
 
     /// Starts the program under test and waits until it watches the desktop.
     void start(const CorvaneProgram::Start &how = {});
+    /// Starts with an icon in this panel; none where it does not come.
+    std::optional<NotifierFacts> startInPanel(NotifierPanel &panel,
+                                              const CorvaneProgram::Start &how = {});
     void startWithInView(int count) { start({count, {}, {}}); }
     CorvaneProgram &corvane() { return *m_corvane; }
 

@@ -18,16 +18,6 @@ protected:
         how.arguments = change + QStringList{CorvaneProgram::path()};
         start(how);
     }
-    /// After a drag has begun.
-    void expectThatItOpens()
-    {
-        GtkPeer source(m_desktop, {.text = u"text"_s}, leftPlace());
-        ASSERT_EQ(source.problem(), QString());
-        hands().beginDrag(source.source(), belowEdge());
-        EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
-        hands().glideTo(besideTheShelf());
-        hands().release();
-    }
     void expectOneLineWith(const QByteArray &text)
     {
         const QByteArray said = corvane().program().output();
@@ -45,14 +35,14 @@ INSTANTIATE_TEST_SUITE_P(, LostSession,
 TEST_P(LostSession, theShelfOpensWhereWaylandDisplayIsNotSetAndSaysSo)
 {
     startBy({u"-u"_s, u"WAYLAND_DISPLAY"_s});
-    expectThatItOpens();
+    expectThatItOpensForADrag();
     expectOneLineWith("WAYLAND_DISPLAY is not set");
 }
 
 TEST_P(LostSession, theShelfOpensWhereWaylandDisplayIsWrongAndSaysSo)
 {
     startBy({u"WAYLAND_DISPLAY=nowhere"_s});
-    expectThatItOpens();
+    expectThatItOpensForADrag();
     expectOneLineWith("WAYLAND_DISPLAY names no compositor");
 }
 

@@ -2,7 +2,6 @@
 // there alone.
 
 #include "e2e/desktop/nested_mutter.h"
-#include "e2e/desktop/tray_panel.h"
 #include "e2e/wayland_session.h"
 
 namespace corvane::e2e {
@@ -137,15 +136,13 @@ TEST_F(Mutter, thePreferencesComeToTheFront)
 TEST_F(Mutter, theMenuOfThePanelsIconIsForKeysAndGivesThemBack)
 {
     NotifierPanel panel(m_desktop);
-    ASSERT_TRUE(panel.waitUntilReady());
     GtkPeer typing(m_desktop, {}, rightPlace());
     ASSERT_EQ(typing.problem(), QString());
-    start();
-    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
-    const NotifierFacts item(m_desktop, corvane().program().pid());
+    const auto item = startInPanel(panel);
+    ASSERT_TRUE(item);
     hands().click(typing.target());
     ASSERT_TRUE(hearsKeys(typing, 'k'));
-    item.click();
+    item->click();
     const auto isOpen = [this] { return isMenuOpen(); };
     ASSERT_TRUE(eventually(isOpen));
     EXPECT_TRUE(eventually([&] {
@@ -154,7 +151,7 @@ TEST_F(Mutter, theMenuOfThePanelsIconIsForKeysAndGivesThemBack)
     }));
     EXPECT_TRUE(hearsKeys(typing, 'l'));
     const int before = typing.losses();
-    item.click();
+    item->click();
     ASSERT_TRUE(eventually(isOpen));
     // The X server's focus is there before mutter's.
     ASSERT_TRUE(eventually([&] { return hasMenuTheKeyboard() && typing.losses() > before; }));
@@ -167,13 +164,11 @@ TEST_F(Mutter, theMenuOfThePanelsIconIsForKeysAndGivesThemBack)
 TEST_F(Mutter, aClickElsewhereClosesTheMenuOfThePanelsIconAndTakesTheKeys)
 {
     NotifierPanel panel(m_desktop);
-    ASSERT_TRUE(panel.waitUntilReady());
     GtkPeer typing(m_desktop, {}, rightPlace());
     ASSERT_EQ(typing.problem(), QString());
-    start();
-    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
-    const NotifierFacts item(m_desktop, corvane().program().pid());
-    item.click();
+    const auto item = startInPanel(panel);
+    ASSERT_TRUE(item);
+    item->click();
     ASSERT_TRUE(eventually([this] { return isMenuOpen(); }));
     ASSERT_TRUE(eventually([this] { return hasMenuTheKeyboard(); }));
     hands().click(typing.target());

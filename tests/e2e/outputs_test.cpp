@@ -28,6 +28,21 @@ protected:
         ASSERT_TRUE(sway().plug(server(), whole()));
     }
 
+    /// In the places of `halves`.
+    void plugInTwo()
+    {
+        sway().unplug(server());
+        const auto [left, right] = halves();
+        ASSERT_TRUE(sway().plug(server(), left));
+        ASSERT_TRUE(sway().plug(server(), right));
+    }
+    void plugInOneAgain()
+    {
+        sway().unplug(server());
+        sway().unplug(server());
+        ASSERT_TRUE(sway().plug(server(), whole()));
+    }
+
     /// Still on the shelf, which can be used.
     void expectKept(const QString &file)
     {
@@ -70,30 +85,20 @@ TEST_F(SwayOutputs, anOutputUnpluggedInTheMiddleOfADragCostsNoItemAndTheShelfOpe
 
 TEST_F(SwayOutputs, theShelfOpensOnTheOutputThatADragOrByHandThePointerIsOn)
 {
-    const QSize half(server().size().width() / 2, server().size().height());
-    const QRect left({}, half);
-    const QRect right({half.width(), 0}, half);
-    sway().unplug(server());
-    ASSERT_TRUE(sway().plug(server(), left));
-    ASSERT_TRUE(sway().plug(server(), right));
+    const auto [left, right] = halves();
+    ASSERT_NO_FATAL_FAILURE(plugInTwo());
     expectTheShelfOnTheOutputOfTheDrag(left, right, Drags::StayOnAnOutput);
     m_corvane.reset();
     expectTheShelfByHandOnTheOutputOfThePointer(left, right);
 
-    sway().unplug(server());
-    sway().unplug(server());
-    ASSERT_TRUE(sway().plug(server(), whole()));
+    ASSERT_NO_FATAL_FAILURE(plugInOneAgain());
 }
 
 // The pointer is on one of them for the compositor, in whichever window it is here.
 TEST_F(SwayOutputs, ofTwoInTheSamePlaceTheOneWithTheDragHasTheShelf)
 {
-    const QSize half(server().size().width() / 2, server().size().height());
-    const QRect left({}, half);
-    const QRect right({half.width(), 0}, half);
-    sway().unplug(server());
-    ASSERT_TRUE(sway().plug(server(), left));
-    ASSERT_TRUE(sway().plug(server(), right));
+    const auto [left, right] = halves();
+    ASSERT_NO_FATAL_FAILURE(plugInTwo());
     ASSERT_TRUE(sway().layOutputsOverOneAnother());
     const QString file = makeFile(u"report.txt"_s, "report");
     start();
@@ -112,9 +117,7 @@ TEST_F(SwayOutputs, ofTwoInTheSamePlaceTheOneWithTheDragHasTheShelf)
     ASSERT_TRUE(eventually([&] { return isShownOn(left) || isShownOn(right); }));
     EXPECT_NE(isShownOn(left), isShownOn(right));
 
-    sway().unplug(server());
-    sway().unplug(server());
-    ASSERT_TRUE(sway().plug(server(), whole()));
+    ASSERT_NO_FATAL_FAILURE(plugInOneAgain());
 }
 
 /// On desktops that have two from the beginning.
@@ -135,15 +138,13 @@ INSTANTIATE_TEST_SUITE_P(Every, WaylandOutputs,
 
 TEST_P(WaylandOutputs, theShelfOpensByHandOnTheOutputThatThePointerIsOn)
 {
-    const QSize half(server().size().width() / 2, server().size().height());
-    expectTheShelfByHandOnTheOutputOfThePointer(QRect({}, half), QRect({half.width(), 0}, half));
+    const auto [left, right] = halves();
+    expectTheShelfByHandOnTheOutputOfThePointer(left, right);
 }
 
 TEST_P(WaylandOutputs, aDragThatBeginsWhileTheShelfIsOpenForAnotherHasItOnItsOutput)
 {
-    const QSize half(server().size().width() / 2, server().size().height());
-    const QRect left({}, half);
-    const QRect right({half.width(), 0}, half);
+    const auto [left, right] = halves();
     GtkPeer first(m_desktop, {.text = QStringLiteral("text")}, {left.left() + 60, 400, 400, 200});
     ASSERT_EQ(first.problem(), QString());
     GtkPeer second(m_desktop, {.text = QStringLiteral("text")}, {right.left() + 60, 400, 400, 200});
@@ -160,9 +161,8 @@ TEST_P(WaylandOutputs, aDragThatBeginsWhileTheShelfIsOpenForAnotherHasItOnItsOut
 
 TEST_P(WaylandOutputs, theShelfOpensOnTheOutputThatADragIsOn)
 {
-    const QSize half(server().size().width() / 2, server().size().height());
-    expectTheShelfOnTheOutputOfTheDrag(QRect({}, half), QRect({half.width(), 0}, half),
-                                       Drags::Cross);
+    const auto [left, right] = halves();
+    expectTheShelfOnTheOutputOfTheDrag(left, right, Drags::Cross);
 }
 
 } // namespace

@@ -1,6 +1,5 @@
 // The icon in the panel and its menu, with panels that we did not write.
 
-#include "e2e/desktop/tray_panel.h"
 #include "e2e/desktop_test.h"
 
 #include <QFile>
@@ -128,41 +127,37 @@ TEST_F(BusTray, aPanelShowsTheItemAndAClickOpensTheMenu)
 TEST_F(BusTray, theMenuAndTheToolTipFollowTheShelf)
 {
     NotifierPanel panel(m_desktop);
-    ASSERT_TRUE(panel.waitUntilReady());
-    start();
-    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
-    const NotifierFacts item(m_desktop, corvane().program().pid());
+    const auto item = startInPanel(panel);
+    ASSERT_TRUE(item);
     const QStringList end{u"-"_s, u"Preferences…"_s, u"How It Works…"_s, u"-"_s, u"Quit Corvane"_s};
-    EXPECT_EQ(item.menu(), QStringList{u"Show Shelf"_s} + end);
-    EXPECT_TRUE(item.property(u"ToolTip"_s).contains("\"Corvane\""));
-    const QByteArray emptyIcon = item.property(u"IconPixmap"_s);
+    EXPECT_EQ(item->menu(), QStringList{u"Show Shelf"_s} + end);
+    EXPECT_TRUE(item->property(u"ToolTip"_s).contains("\"Corvane\""));
+    const QByteArray emptyIcon = item->property(u"IconPixmap"_s);
 
     ASSERT_TRUE(hold(1));
     ASSERT_TRUE(corvane().waitForHeight(CorvaneProgram::singleHeight));
-    EXPECT_EQ(item.menu(), (QStringList{u"Show Shelf"_s, u"Clear Shelf (1 item)"_s} + end));
-    EXPECT_TRUE(item.property(u"ToolTip"_s).contains("Corvane — 1 item"));
-    EXPECT_NE(item.property(u"IconPixmap"_s), emptyIcon);
+    EXPECT_EQ(item->menu(), (QStringList{u"Show Shelf"_s, u"Clear Shelf (1 item)"_s} + end));
+    EXPECT_TRUE(item->property(u"ToolTip"_s).contains("Corvane — 1 item"));
+    EXPECT_NE(item->property(u"IconPixmap"_s), emptyIcon);
 
     ASSERT_TRUE(hold(4));
     EXPECT_TRUE(eventually([&] {
-        return item.menu()
+        return item->menu()
             == QStringList{u"Show Shelf"_s, u"View All Items…"_s, u"Clear Shelf (5 items)"_s} + end;
     }));
-    EXPECT_TRUE(item.property(u"ToolTip"_s).contains("Corvane — 5 items"));
+    EXPECT_TRUE(item->property(u"ToolTip"_s).contains("Corvane — 5 items"));
 
-    EXPECT_TRUE(item.choose(u"Clear Shelf (5 items)"_s));
-    EXPECT_TRUE(eventually([&] { return item.menu() == QStringList{u"Show Shelf"_s} + end; }));
+    EXPECT_TRUE(item->choose(u"Clear Shelf (5 items)"_s));
+    EXPECT_TRUE(eventually([&] { return item->menu() == QStringList{u"Show Shelf"_s} + end; }));
 }
 
 TEST_F(BusTray, aChangedShortcutShowsTheNextTimeTheMenuOpens)
 {
     NotifierPanel panel(m_desktop);
-    ASSERT_TRUE(panel.waitUntilReady());
-    start();
-    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
-    const NotifierFacts item(m_desktop, corvane().program().pid());
-    EXPECT_EQ(item.keys(u"Show Shelf"_s), u"Super+Shift+D"_s);
-    ASSERT_TRUE(item.choose(u"Preferences…"_s));
+    const auto item = startInPanel(panel);
+    ASSERT_TRUE(item);
+    EXPECT_EQ(item->keys(u"Show Shelf"_s), u"Super+Shift+D"_s);
+    ASSERT_TRUE(item->choose(u"Preferences…"_s));
     ASSERT_TRUE(eventually([this] {
         const auto window = corvane().window();
         return window && window->id == server().activeWindow();
@@ -173,18 +168,17 @@ TEST_F(BusTray, aChangedShortcutShowsTheNextTimeTheMenuOpens)
         hands().key(keys::tab);
     hands().key(keys::space);
     hands().key('j', {keys::super, keys::alt});
-    EXPECT_TRUE(eventually([&] { return item.keys(u"Show Shelf"_s) == u"Super+Alt+J"_s; }))
-        << item.keys(u"Show Shelf"_s).toStdString();
-    EXPECT_EQ(item.keys(u"Quit Corvane"_s), u"Control+Q"_s);
+    EXPECT_TRUE(eventually([&] { return item->keys(u"Show Shelf"_s) == u"Super+Alt+J"_s; }))
+        << item->keys(u"Show Shelf"_s).toStdString();
+    EXPECT_EQ(item->keys(u"Quit Corvane"_s), u"Control+Q"_s);
 }
 
 TEST_F(BusTray, quittingFromTheMenuEndsTheProgram)
 {
     NotifierPanel panel(m_desktop);
-    ASSERT_TRUE(panel.waitUntilReady());
-    start();
-    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
-    EXPECT_TRUE(NotifierFacts(m_desktop, corvane().program().pid()).choose(u"Quit Corvane"_s));
+    const auto item = startInPanel(panel);
+    ASSERT_TRUE(item);
+    EXPECT_TRUE(item->choose(u"Quit Corvane"_s));
     EXPECT_EQ(corvane().program().waitForEnd(), 0);
     EXPECT_FALSE(QFile::exists(corvane().spool()));
 }

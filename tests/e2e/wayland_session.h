@@ -3,6 +3,10 @@
 #include "e2e/desktop/gtk_peer.h"
 #include "e2e/desktop_test.h"
 
+#include <algorithm>
+#include <iterator>
+#include <vector>
+
 namespace corvane::e2e {
 
 inline DesktopKind sessionOf(WindowManager compositor, const NestedCompositor::Kind &kind = {})
@@ -53,6 +57,17 @@ protected:
         hands().release();
     }
 
+    /// Drags a text to the top and away again.
+    void expectThatItOpensForADrag()
+    {
+        GtkPeer source(m_desktop, {.text = QStringLiteral("text")}, leftPlace());
+        ASSERT_EQ(source.problem(), QString());
+        hands().beginDrag(source.source(), belowEdge());
+        EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
+        hands().glideTo(besideTheShelf());
+        hands().release();
+    }
+
     void dragOut(GtkPeer &target)
     {
         const QPoint item = corvane().at(38, 22);
@@ -81,19 +96,35 @@ protected:
         });
     }
 
-    /// Tells on which of two outputs the shelf is, neither of which shows it now. It is darker than
-    /// all wallpapers, one of which is not the same in each frame; but for its texts, so that more
-    /// than a point is looked at.
+    struct Halves {
+        QRect left;
+        QRect right;
+    };
+    /// Two outputs side by side.
+    Halves halves()
+    {
+        const QSize half(server().size().width() / 2, server().size().height());
+        return {QRect({}, half), QRect({half.width(), 0}, half)};
+    }
+
+    /// Tells on which of two outputs the shelf is, neither of which shows it now. Most of it is far
+    /// darker than all wallpapers, one of which is not the same in each frame; its texts, and what
+    /// is dragged over it, are not.
     auto lookAtOutputs(const QRect &left, const QRect &right)
     {
-        const auto look = [this](const QRect &output) {
-            return qGray(server()
-                             .picture({output.center().x() - 50, 8, 100, 30})
-                             .scaled(1, 1, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                             .pixel(0, 0));
+        const auto grey = [this](const QRect &output) {
+            const QImage picture = server().picture({output.center().x() - 50, 8, 100, 30});
+            std::vector<int> greys;
+            for (int y = 0; y < picture.height(); ++y) {
+                for (int x = 0; x < picture.width(); ++x)
+                    greys.push_back(qGray(picture.pixel(x, y)));
+            }
+            const auto middle = greys.begin() + std::ssize(greys) / 2;
+            std::ranges::nth_element(greys, middle);
+            return *middle;
         };
-        return [=, bareLeft = look(left), bareRight = look(right)](const QRect &output) {
-            return look(output) * 2 < (output == left ? bareLeft : bareRight);
+        return [=, bareLeft = grey(left), bareRight = grey(right)](const QRect &output) {
+            return grey(output) * 2 < (output == left ? bareLeft : bareRight);
         };
     }
 

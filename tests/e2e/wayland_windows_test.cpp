@@ -1,7 +1,6 @@
 // The program's windows, its icon and what it shows of pages and pictures, in Wayland sessions.
 
 #include "e2e/desktop/screen_reader.h"
-#include "e2e/desktop/tray_panel.h"
 #include "e2e/wayland_session.h"
 #include "platform/qt/web/http_server.h"
 
@@ -151,13 +150,11 @@ TEST_P(WaylandWindows, aLinkShowsThePictureOfItsPage)
 TEST_P(WaylandWindows, thePanelsIconShowsTheShelfByItsMenu)
 {
     NotifierPanel panel(m_desktop);
-    ASSERT_TRUE(panel.waitUntilReady());
-    start();
-    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
-    const NotifierFacts item(m_desktop, corvane().program().pid());
-    ASSERT_TRUE(item.choose(u"Show Shelf"_s));
+    const auto item = startInPanel(panel);
+    ASSERT_TRUE(item);
+    ASSERT_TRUE(item->choose(u"Show Shelf"_s));
     EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
-    ASSERT_TRUE(item.choose(u"Show Shelf"_s) || item.choose(u"Hide Shelf"_s));
+    ASSERT_TRUE(item->choose(u"Show Shelf"_s) || item->choose(u"Hide Shelf"_s));
     EXPECT_TRUE(corvane().waitUntilHidden());
 }
 
@@ -172,20 +169,18 @@ INSTANTIATE_TEST_SUITE_P(Layer, LayerWindows,
 TEST_P(LayerWindows, aClickOnThePanelsIconOpensAMenuForKeys)
 {
     NotifierPanel panel(m_desktop);
-    ASSERT_TRUE(panel.waitUntilReady());
-    start();
-    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
-    const NotifierFacts item(m_desktop, corvane().program().pid());
+    const auto item = startInPanel(panel);
+    ASSERT_TRUE(item);
     const QRect middle(740, 470, 60, 60);
     const QImage bare = m_desktop.pictureAtRest(middle);
     const auto isOpen = [&] { return server().picture(middle) != bare; };
-    item.click();
+    item->click();
     ASSERT_TRUE(eventually(isOpen));
     EXPECT_TRUE(eventually([&] {
         hands().key(keys::escape);
         return !isOpen();
     }));
-    item.click();
+    item->click();
     ASSERT_TRUE(eventually(isOpen));
     m_desktop.pictureAtRest(middle);
     hands().key(keys::down);
@@ -197,15 +192,13 @@ TEST_P(LayerWindows, aClickOnThePanelsIconOpensAMenuForKeys)
 TEST_P(LayerWindows, aClickElsewhereClosesTheMenuOfThePanelsIcon)
 {
     NotifierPanel panel(m_desktop);
-    ASSERT_TRUE(panel.waitUntilReady());
     GtkPeer other(m_desktop, {}, leftPlace());
     ASSERT_EQ(other.problem(), QString());
-    start();
-    ASSERT_TRUE(panel.waitForItemOf(corvane().program().pid()));
-    const NotifierFacts item(m_desktop, corvane().program().pid());
+    const auto item = startInPanel(panel);
+    ASSERT_TRUE(item);
     const QRect middle(740, 470, 60, 60);
     const QImage bare = m_desktop.pictureAtRest(middle);
-    item.click();
+    item->click();
     ASSERT_TRUE(eventually([&] { return server().picture(middle) != bare; }));
     m_desktop.pictureAtRest(middle);
     hands().click(other.target());
@@ -337,14 +330,7 @@ TEST_P(LoginItem, waitsForDragsAndIsOpenedAgainWithThePermissionOfTheSecondStart
     ASSERT_NO_FATAL_FAILURE(becomeOne());
     logIn();
     EXPECT_FALSE(corvane().isShown());
-    {
-        GtkPeer source(m_desktop, {.text = u"text"_s}, leftPlace());
-        ASSERT_EQ(source.problem(), QString());
-        hands().beginDrag(source.source(), belowEdge());
-        EXPECT_TRUE(corvane().waitForHeight(CorvaneProgram::empty.height()));
-        hands().glideTo(besideTheShelf());
-        hands().release();
-    }
+    ASSERT_NO_FATAL_FAILURE(expectThatItOpensForADrag());
     EXPECT_TRUE(corvane().waitUntilHidden());
     EXPECT_EQ(corvane().startAgain(), 0);
     EXPECT_TRUE(corvane().waitUntilShown());

@@ -43,6 +43,16 @@ wl_resource *make(wl_client *client, const wl_interface &interface, int version,
     return made;
 }
 
+/// Whoever binds it has these requests answered.
+template<const wl_interface &interface, const auto &requests>
+void announce(wl_display *display, int version, void *server)
+{
+    wl_global_create(display, &interface, version, server,
+                     [](wl_client *client, void *data, std::uint32_t bound, std::uint32_t id) {
+                         make(client, interface, static_cast<int>(bound), id, &requests, data);
+                     });
+}
+
 } // namespace
 
 struct FakeCompositor::Server {
@@ -451,31 +461,11 @@ bool FakeCompositor::Server::start(const QByteArray &socket)
             return 0;
         },
         this);
-    wl_global_create(display, &wl_compositor_interface, 4, this,
-                     [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
-                         make(client, wl_compositor_interface, static_cast<int>(version), id,
-                              &Requests::compositor, data);
-                     });
-    wl_global_create(display, &zwlr_layer_shell_v1_interface, 4, this,
-                     [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
-                         make(client, zwlr_layer_shell_v1_interface, static_cast<int>(version), id,
-                              &Requests::shell, data);
-                     });
-    wl_global_create(display, &wl_subcompositor_interface, 1, this,
-                     [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
-                         make(client, wl_subcompositor_interface, static_cast<int>(version), id,
-                              &Requests::parts, data);
-                     });
-    wl_global_create(display, &wl_shell_interface, 1, this,
-                     [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
-                         make(client, wl_shell_interface, static_cast<int>(version), id,
-                              &Requests::windows, data);
-                     });
-    wl_global_create(display, &wl_data_device_manager_interface, 3, this,
-                     [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
-                         make(client, wl_data_device_manager_interface, static_cast<int>(version),
-                              id, &Requests::manager, data);
-                     });
+    announce<wl_compositor_interface, Requests::compositor>(display, 4, this);
+    announce<zwlr_layer_shell_v1_interface, Requests::shell>(display, 4, this);
+    announce<wl_subcompositor_interface, Requests::parts>(display, 1, this);
+    announce<wl_shell_interface, Requests::windows>(display, 1, this);
+    announce<wl_data_device_manager_interface, Requests::manager>(display, 3, this);
     wl_global_create(display, &wl_seat_interface, 5, this,
                      [](wl_client *client, void *data, std::uint32_t version, std::uint32_t id) {
                          wl_resource *const seat

@@ -34,6 +34,13 @@ const auto conflictText = QStringLiteral("Another app already uses that combinat
 constexpr KeyPosition keyA = KeyPosition::A;
 constexpr KeyPosition keyB{11};
 
+UpdateReport failed(UpdateFailure why)
+{
+    UpdateReport report{UpdateReport::Stage::Failed};
+    report.failure = why;
+    return report;
+}
+
 class GeneralPaneTest : public testing::Test {
 protected:
     GeneralPane &pane()
@@ -432,13 +439,10 @@ TEST_F(GeneralPaneTest, WhatIsWrongWithUpdatesStandsBesideTheirSwitchAsLongAsItI
 {
     FakeUpdater updater;
     desk.updater = &updater;
-    UpdateReport report{UpdateReport::Stage::Failed};
-    report.failure = UpdateFailure::Unverifiable;
-    updater.wrong.set(report);
+    updater.wrong.set(failed(UpdateFailure::Unverifiable));
     auto &updates = row("Check for updates automatically");
     EXPECT_TRUE(updates.detail().contains(QStringLiteral("cannot verify")));
-    report.failure = UpdateFailure::WentBack;
-    updater.wrong.set(report);
+    updater.wrong.set(failed(UpdateFailure::WentBack));
     EXPECT_TRUE(updates.detail().contains(QStringLiteral("keeping news from you")));
     updater.wrong.set(std::nullopt);
     EXPECT_EQ(updates.detail(), QString());
@@ -448,16 +452,12 @@ TEST_F(GeneralPaneTest, WhatBecomesWrongWithUpdatesWhileThePaneIsOpenIsSaidOnce)
 {
     FakeUpdater updater;
     desk.updater = &updater;
-    UpdateReport report{UpdateReport::Stage::Failed};
-    report.failure = UpdateFailure::Unverifiable;
-    updater.wrong.set(report);
+    updater.wrong.set(failed(UpdateFailure::Unverifiable));
     pane();
-    report.failure = UpdateFailure::WentBack;
-    updater.wrong.set(report);
+    updater.wrong.set(failed(UpdateFailure::WentBack));
     EXPECT_EQ(desk.announced, QStringList()) << "the switch has it as its description";
     pane().show();
-    report.failure = UpdateFailure::Expired;
-    updater.wrong.set(report);
+    updater.wrong.set(failed(UpdateFailure::Expired));
     EXPECT_EQ(desk.announced, QStringList{row("Check for updates automatically").detail()});
     updater.wrong.set(std::nullopt);
     EXPECT_EQ(desk.announced.size(), 1) << "that nothing is wrong any more is no news";
