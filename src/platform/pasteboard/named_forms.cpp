@@ -1,5 +1,6 @@
 #include "platform/pasteboard/named_forms.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace corvane {
@@ -8,6 +9,12 @@ namespace {
 
 constexpr QLatin1String utf8Text("UTF8_STRING");
 constexpr QLatin1String latin1Text("STRING");
+
+bool isAscii(const QByteArray &text)
+{
+    return std::ranges::all_of(text,
+                               [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
+}
 
 } // namespace
 
@@ -20,20 +27,22 @@ NamedForms::NamedForms(PasteboardForms forms)
         if (type == QLatin1String("text/plain")) {
             addName(QStringLiteral("text/plain;charset=utf-8"), i, Spelling::AsItIs);
             addName(utf8Text, i, Spelling::AsItIs);
-            addName(latin1Text, i, Spelling::Latin1);
-            addName(QStringLiteral("TEXT"), i, Spelling::OwnersChoice);
+            const Offered offered = isAscii(m_forms[i].bytes) ? Offered::Yes : Offered::No;
+            addName(latin1Text, i, Spelling::Latin1, offered);
+            addName(QStringLiteral("TEXT"), i, Spelling::OwnersChoice, offered);
         } else if (type == QLatin1String("text/uri-list")) {
             addName(QStringLiteral("text/x-moz-url"), i, Spelling::MozUrl);
         }
     }
 }
 
-void NamedForms::addName(const QString &name, std::size_t form, Spelling spelling)
+void NamedForms::addName(const QString &name, std::size_t form, Spelling spelling, Offered offered)
 {
     if (m_meanings.contains(name))
         return;
     m_meanings.insert(name, {form, spelling});
-    m_names << name;
+    if (offered == Offered::Yes)
+        m_names << name;
 }
 
 std::optional<NamedForms::Answer> NamedForms::answerTo(const QString &name) const

@@ -11,6 +11,9 @@ namespace corvane {
 
 /// What a drag of ours offers, under all names by which targets ask for it: texts and addresses
 /// have old names beside their types.
+///
+/// Some programs read `STRING` and `TEXT` as Latin-1 and others as UTF-8, so these are offered only
+/// with a text that is the same in both, though answered to those who ask for them all the same.
 class NamedForms {
 public:
     struct Answer {
@@ -24,12 +27,15 @@ public:
     NamedForms() = default;
     explicit NamedForms(PasteboardForms forms);
 
-    /// In the order of the forms, each followed by its other names.
+    /// Those that are offered, in the order of the forms, each followed by its other names.
     const QStringList &names() const { return m_names; }
-    /// None for what is not offered.
+    /// These, and those that are answered although they are not offered; in no order.
+    QStringList answeredNames() const { return m_meanings.keys(); }
+    /// None for what is not there.
     std::optional<Answer> answerTo(const QString &name) const;
 
 private:
+    enum class Offered { Yes, No };
     enum class Spelling {
         AsItIs,
         /// Characters that Latin-1 does not have become question marks, and the text then does not
@@ -45,7 +51,8 @@ private:
         Spelling spelling;
     };
 
-    void addName(const QString &name, std::size_t form, Spelling spelling);
+    void addName(const QString &name, std::size_t form, Spelling spelling,
+                 Offered offered = Offered::Yes);
     static Answer inLatin1(const PasteboardForm &text);
     static Answer asMozUrl(const PasteboardForm &uriList);
 

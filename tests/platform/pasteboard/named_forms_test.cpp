@@ -33,6 +33,26 @@ TEST(NamedForms, everyNameOfATextButTheLatinOneIsUtf8ByteByByte)
     }
 }
 
+TEST(NamedForms, ofATextThatIsNotAsciiNoNameIsOfferedThatMayBeReadInTwoWays)
+{
+    const QStringList expected{u"text/plain;charset=utf-8"_s, u"text/plain"_s, u"UTF8_STRING"_s};
+    EXPECT_EQ(textOf("\xe4\xbd\xa0").names(), expected);
+    EXPECT_EQ(textOf("Gr\xc3\xbc").names(), expected) << "Latin-1 has all of it";
+}
+
+TEST(NamedForms, everyNameThatIsOfferedOfATextGivesTheSameBytes)
+{
+    for (const QByteArray text : {"plain\r\n", "\x7f~", "\xc2\x80", "Gr\xc3\xbc", "\xe4\xbd\xa0"}) {
+        const NamedForms forms = textOf(text);
+        ASSERT_FALSE(forms.names().isEmpty());
+        for (const QString &name : forms.names()) {
+            const auto answer = forms.answerTo(name);
+            ASSERT_TRUE(answer) << name.toStdString();
+            EXPECT_EQ(answer->bytes, text) << name.toStdString();
+        }
+    }
+}
+
 TEST(NamedForms, aTextThatLosesCharactersIsNotHeld)
 {
     const auto answer = textOf("\xe4\xbd\xa0").answerTo(u"STRING"_s);

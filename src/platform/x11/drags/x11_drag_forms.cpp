@@ -8,11 +8,10 @@ X11DragForms::X11DragForms(X11Connection &connection, PasteboardForms forms)
     : m_connection(&connection)
     , m_forms(std::move(forms))
 {
-    for (const QString &name : m_forms.names()) {
-        const xcb_atom_t atom = connection.atom(name.toUtf8().constData());
-        m_targets.push_back(atom);
-        m_names.insert(atom, name);
-    }
+    for (const QString &name : m_forms.names())
+        m_targets.push_back(connection.atom(name.toUtf8().constData()));
+    for (const QString &name : m_forms.answeredNames())
+        m_names.insert(connection.atom(name.toUtf8().constData()), name);
 }
 
 std::optional<X11DragForms::Answer> X11DragForms::answerTo(xcb_atom_t target) const

@@ -11,7 +11,10 @@
 namespace corvane {
 
 /// What a drag of ours offers, under the atoms of its names. Qt also announces old names for text
-/// and links by itself, so these must be answered, too. The connection must outlive it.
+/// and links by itself, in XdndTypeList, so these must be answered, too: there for X11's own
+/// programs, to which `STRING` is Latin-1. Compositors read TARGETS instead, and mutter asks for
+/// `STRING`, where it is there, when a Wayland program asks for text/plain, and hands Latin-1 on as
+/// UTF-8. The connection must outlive it.
 class X11DragForms {
 public:
     struct Answer {
@@ -23,8 +26,8 @@ public:
 
     X11DragForms(X11Connection &connection, PasteboardForms forms);
 
-    /// The names in the order of the forms, the most exact text first: there are programs, and
-    /// compositors between, that take the first they know.
+    /// The names that are offered, in the order of the forms, the most exact text first: there are
+    /// programs, and compositors between, that take the first they know.
     const std::vector<xcb_atom_t> &targets() const { return m_targets; }
     /// None for what is not offered.
     std::optional<Answer> answerTo(xcb_atom_t target) const;

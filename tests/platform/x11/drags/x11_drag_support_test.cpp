@@ -498,6 +498,16 @@ TEST_F(X11DragSupportTest, theMostExactTextIsNamedFirst)
                                   "TEXT", "TARGETS", "TIMESTAMP", "MULTIPLE"}));
 }
 
+TEST_F(X11DragSupportTest, namesThatMayBeLatinOrUtf8AreOfferedOnlyWithATextThatIsTheSameInBoth)
+{
+    support.dragWillBegin(forms("t\xC3\xA4xt"), true);
+    const QByteArray targets = target.take("TARGETS");
+    EXPECT_TRUE(target.names(targets, "UTF8_STRING"));
+    EXPECT_FALSE(target.names(targets, "STRING"));
+    EXPECT_FALSE(target.names(targets, "TEXT"));
+    EXPECT_EQ(target.take("STRING"), "t\xE4xt") << "for programs of X11 that ask all the same";
+}
+
 TEST_F(X11DragSupportTest, whatIsStillBeingMadeIsNamedAtOnceAndGivenWhenItIsThere)
 {
     const auto drag = support.dragWillBegin({{QStringLiteral("image/png"), {}, {0}}}, false);
