@@ -65,6 +65,7 @@ TEST_P(EditorTexts, keepTheirLineEndsOnTheWayInAndOut)
     hands().beginDrag(source.firstWord(), QPoint(756, 0));
     drop();
     EXPECT_EQ(copied(lines), lines);
+    EXPECT_EQ(m_desktop.clipboard(u"TEXT"_s), lines);
     dragOutTo(target.middle());
     EXPECT_EQ(target.text(lines), lines);
 }

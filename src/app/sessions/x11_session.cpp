@@ -22,6 +22,7 @@ X11Session::X11Session(const SessionNeeds &needs)
                    .pointer = pointer})
     , dropSupport(connection, needs.mainQueue)
     , clipboard(connection, needs.mainQueue)
+    , clipboardAnswers(connection, needs.mainQueue)
     , dragSupport(connection, needs.mainQueue)
     , trayWatch(connection)
 {

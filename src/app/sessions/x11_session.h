@@ -9,6 +9,7 @@
 #include "platform/x11/base/x11_abilities.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_clipboard.h"
+#include "platform/x11/drags/x11_clipboard_answers.h"
 #include "platform/x11/drags/x11_drag_desktop.h"
 #include "platform/x11/drags/x11_drag_support.h"
 #include "platform/x11/drags/x11_drop_support.h"
@@ -49,6 +50,7 @@ struct X11Session : RunningSession {
     BarrierEdgeTrigger edgeTrigger;
     X11DropSupport dropSupport;
     X11Clipboard clipboard;
+    X11ClipboardAnswers clipboardAnswers;
     X11DragSupport dragSupport;
     X11TrayWatch trayWatch;
 };

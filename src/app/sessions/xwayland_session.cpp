@@ -15,6 +15,7 @@ XWaylandSession::XWaylandSession(const SessionNeeds &needs)
     , windowActivation(connection)
     , dropSupport(connection, needs.mainQueue)
     , clipboard(connection, needs.mainQueue)
+    , clipboardAnswers(connection, needs.mainQueue)
     , dragSupport(connection, needs.mainQueue)
     , trayWatch(connection)
 {

@@ -6,6 +6,7 @@
 #include "platform/qt/desktop/qt_keyboard.h"
 #include "platform/x11/base/x11_connection.h"
 #include "platform/x11/drags/x11_clipboard.h"
+#include "platform/x11/drags/x11_clipboard_answers.h"
 #include "platform/x11/drags/x11_drag_selection.h"
 #include "platform/x11/drags/x11_drag_support.h"
 #include "platform/x11/drags/x11_drop_support.h"
@@ -42,6 +43,7 @@ struct XWaylandSession : RunningSession {
     X11WindowActivation windowActivation;
     X11DropSupport dropSupport;
     X11Clipboard clipboard;
+    X11ClipboardAnswers clipboardAnswers;
     X11DragSupport dragSupport;
     X11TrayWatch trayWatch;
 

@@ -16,6 +16,12 @@ bool isAscii(const QByteArray &text)
                                [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
+bool isLatin1(const PasteboardForm &text)
+{
+    const QString characters = QString::fromUtf8(text.bytes);
+    return std::ranges::all_of(characters, [](QChar one) { return one.unicode() <= 0xff; });
+}
+
 } // namespace
 
 NamedForms::NamedForms(PasteboardForms forms)
@@ -54,12 +60,8 @@ std::optional<NamedForms::Answer> NamedForms::answerTo(const QString &name) cons
     switch (meaning->spelling) {
     case Spelling::Latin1:
         return inLatin1(form);
-    case Spelling::OwnersChoice: {
-        Answer latin1 = inLatin1(form);
-        if (latin1.holds == form.holds)
-            return latin1;
-        return Answer{utf8Text, form.bytes, form.holds};
-    }
+    case Spelling::OwnersChoice:
+        return isLatin1(form) ? inLatin1(form) : Answer{utf8Text, form.bytes, form.holds};
     case Spelling::MozUrl:
         return asMozUrl(form);
     case Spelling::AsItIs:
@@ -70,10 +72,8 @@ std::optional<NamedForms::Answer> NamedForms::answerTo(const QString &name) cons
 
 NamedForms::Answer NamedForms::inLatin1(const PasteboardForm &text)
 {
-    const QString characters = QString::fromUtf8(text.bytes);
-    const QByteArray latin1 = characters.toLatin1();
-    const bool isWhole = QString::fromLatin1(latin1) == characters;
-    return {latin1Text, latin1, isWhole ? text.holds : QList<qsizetype>()};
+    return {latin1Text, QString::fromUtf8(text.bytes).toLatin1(),
+            isLatin1(text) ? text.holds : QList<qsizetype>()};
 }
 
 NamedForms::Answer NamedForms::asMozUrl(const PasteboardForm &uriList)

@@ -73,6 +73,15 @@ TEST(NamedForms, whoLeavesTheTypeToUsGetsLatinWhereThatHasAllCharacters)
     EXPECT_EQ(other->bytes, "\xe4\xbd\xa0");
 }
 
+TEST(NamedForms, whoLeavesTheTypeToUsLosesNoCharacterOfATextThatHoldsNothingEither)
+{
+    const NamedForms forms({{u"text/plain"_s, "\xe4\xbd\xa0", {}}});
+    const auto answer = forms.answerTo(u"TEXT"_s);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->type, u"UTF8_STRING"_s);
+    EXPECT_EQ(answer->bytes, "\xe4\xbd\xa0");
+}
+
 TEST(NamedForms, theFirstAddressComesWithATitleForBrowsers)
 {
     const NamedForms forms({{u"text/uri-list"_s, "https://a.example/\r\nfile:///b\r\n", {1, 2}}});
