@@ -4,6 +4,7 @@
 #include "app/look/window_look.h"
 #include "app/updates/software_updater.h"
 #include "platform/desktop/abilities.h"
+#include "platform/qt/desktop/qt_tip_window.h"
 #include "platform/system/file_url.h"
 #include "shelf/drawing/phosphor_icon_drawing.h"
 
@@ -158,6 +159,13 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                 QFile::encodeName(QDir::tempPath()))
     , theme(makeTheme())
     , dragWriter(makeDragWriter(theme, mountTable))
+    , titleTip({.card = {.queue = mainQueue,
+                         .motionPreference = motionPreference,
+                         .theme = theme,
+                         .measurer = textMeasurer},
+                .screens = screens,
+                .panels = {&panel, &viewAllPanel},
+                .makeWindow = [this] { return std::make_unique<QtTipWindow>(desktop.panels); }})
     , viewAll({.view = {.panel = viewAllPanel,
                         .queue = mainQueue,
                         .motionPreference = motionPreference,
@@ -165,7 +173,8 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                         .keyboard = desktop.keyboard,
                         .dragWriter = dragWriter,
                         .pictures = savedPictures,
-                        .preparation = itemPreparation},
+                        .preparation = itemPreparation,
+                        .tip = &titleTip},
                .store = store,
                .quickActions = quickActions,
                .outsideClicks = desktop.outsideClicks,
@@ -180,7 +189,8 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                     .ingest = ingest,
                     .dragWriter = dragWriter,
                     .pictures = savedPictures,
-                    .preparation = itemPreparation},
+                    .preparation = itemPreparation,
+                    .tip = &titleTip},
            .store = store,
            .settings = settings,
            .feedback = feedback,

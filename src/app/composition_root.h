@@ -64,6 +64,7 @@
 #include "shelf/drawing/theme.h"
 #include "shelf/edge_summoner.h"
 #include "shelf/hud_controller.h"
+#include "shelf/title_tip.h"
 
 #include <chrono>
 #include <functional>
@@ -166,6 +167,7 @@ struct CompositionRoot {
     Theme theme;
     LayerAnimator layerAnimator;
     DragWriter dragWriter;
+    TitleTip titleTip;
     ViewAllController viewAll;
     HUDController hud;
     EdgeSummoner edge;

@@ -148,6 +148,8 @@ void HUDController::wireScreenChanges()
 
 void HUDController::appearanceChanged()
 {
+    if (m_context.view.tip)
+        m_context.view.tip->dismiss();
     m_shelf.themeChanged();
     if (m_context.viewAll)
         m_context.viewAll->themeChanged();
@@ -217,10 +219,13 @@ void HUDController::render()
         m_panel.setIgnoresMouseEvents(m_letsClicksThrough);
         m_panel.orderFrontRegardless();
     }
+    tellTipOfDrag();
     m_shelf.apply(snapshot);
     const bool isShown = snapshot.state != ShelfState::Idle;
     if (m_context.viewAll)
         m_context.viewAll->render(pillFrame, isShown ? screen : nullptr, atTop.scale);
+    if (m_context.view.tip)
+        m_context.view.tip->keepInFront();
     if (!isShown)
         scheduleHide();
 }
@@ -295,8 +300,20 @@ void HUDController::scheduleHide()
 void HUDController::dragChanged(bool isGoingOn)
 {
     m_isDragGoingOn = isGoingOn;
+    tellTipOfDrag();
     if (m_context.viewAll)
         m_context.viewAll->dragChanged(isGoingOn);
+}
+
+bool HUDController::isDragged() const
+{
+    return m_isDragGoingOn || m_store.isDragInFlight() || m_store.isOwnDrag();
+}
+
+void HUDController::tellTipOfDrag()
+{
+    if (m_context.view.tip)
+        m_context.view.tip->setDragged(isDragged());
 }
 
 void HUDController::toggleByHand()
@@ -315,8 +332,7 @@ void HUDController::toggle()
     m_store.toggleManually();
     if (wasOpen && m_store.state() == ShelfState::Idle)
         m_panel.announce(accessible_shelf::hiddenNews());
-    const bool isDragged = m_isDragGoingOn || m_store.isDragInFlight() || m_store.isOwnDrag();
-    if (!isDragged && m_store.state() != ShelfState::Idle)
+    if (!isDragged() && m_store.state() != ShelfState::Idle)
         takeKeyboard();
 }
 

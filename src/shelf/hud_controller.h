@@ -104,6 +104,8 @@ private:
     QSizeF withOvershoot(QSizeF target, QSizeF before);
     void scheduleHide();
     void toggle();
+    bool isDragged() const;
+    void tellTipOfDrag();
     void takeClicks();
     void takeKeyboard();
     void watchOutsideClicks();

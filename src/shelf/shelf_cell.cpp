@@ -45,6 +45,11 @@ QImage thumbnailContents(double side, const DropItem &item, const Theme &theme, 
     return tile;
 }
 
+const QFont &titleFont(const Theme &theme, bool isCarousel)
+{
+    return isCarousel ? theme.typography.tile : theme.typography.primary;
+}
+
 ShelfCell::ShelfCell(LayerTree &tree, Layer &superlayer, const Theme &theme,
                      const LayerAnimator &animator)
     : m_theme(theme)
@@ -80,10 +85,9 @@ ShelfCell::ShelfCell(LayerTree &tree, Layer &superlayer, const Theme &theme,
 
 void ShelfCell::fill(const DropItem &item, const Look &look)
 {
-    const Theme::Typography &fonts = m_theme.typography;
     m_item = item;
     m_title.setString(item.title());
-    m_title.setFont(look.isCarousel ? fonts.tile : fonts.primary);
+    m_title.setFont(titleFont(m_theme, look.isCarousel));
     const Qt::Alignment atThumb = look.isMirrored ? Qt::AlignRight : Qt::AlignLeft;
     m_title.setAlignment(look.isCarousel ? Qt::AlignHCenter : atThumb);
     m_title.setTextDirection(m_theme.titleDirection());

@@ -47,6 +47,9 @@ private:
     void showThumbnail();
 };
 
+/// The font of an item's title.
+const QFont &titleFont(const Theme &theme, bool isCarousel);
+
 /// The picture for an item in a tile of `side` points: its thumbnail, fitted, or its glyph; at
 /// `scale` pixels per point.
 QImage thumbnailContents(double side, const DropItem &item, const Theme &theme, double scale);

@@ -70,6 +70,12 @@ void ShelfView::themeChanged()
 
 void ShelfView::relayout()
 {
+    arrange();
+    showTip(TitleTip::Pointer::Still);
+}
+
+void ShelfView::arrange()
+{
     m_look.layout
         = layoutShelf(m_look.snapshot, textWidths(m_look.snapshot), m_context.theme.direction);
     // The control that the keyboard was on may be gone, or lead nowhere now.
@@ -162,7 +168,39 @@ void ShelfView::updateHover(QPointF point)
         ? corvane::hitTest(m_look.layout, m_look.snapshot.isCarousel(), inBody(point))
         : ShelfHit();
     if (isInside != wasHovering || hit != before)
-        relayout();
+        arrange();
+    showTip(TitleTip::Pointer::Moved);
+}
+
+/// None while something is dragged out of the shelf or may be dropped on it.
+std::optional<TitleTip::Title> ShelfView::titleUnderPointer() const
+{
+    const auto *hit = std::get_if<shelf_hit::Cell>(&m_look.hovered);
+    if (!hit || m_look.snapshot.receptive || m_look.isDragTargeted || m_look.draggedItem)
+        return std::nullopt;
+    const auto &visible = m_look.snapshot.visible;
+    const auto item = std::ranges::find(visible, hit->itemIndex, &std::pair<int, DropItem>::first);
+    const auto &cells = m_look.layout.cells;
+    const auto cell = std::ranges::find(cells, hit->itemIndex, &ShelfLayout::Cell::itemIndex);
+    if (item == visible.end() || cell == cells.end())
+        return std::nullopt;
+    return TitleTip::Title{.item = item->second.id(),
+                           .text = item->second.title(),
+                           .font = titleFont(m_context.theme, m_look.snapshot.isCarousel()),
+                           .width = cell->title.width(),
+                           .cell = cell->root.translated(bodyRect().topLeft())};
+}
+
+void ShelfView::showTip(TitleTip::Pointer pointer) const
+{
+    if (m_context.tip)
+        m_context.tip->follow(m_context.panel, titleUnderPointer(), pointer);
+}
+
+void ShelfView::endTip() const
+{
+    if (m_context.tip)
+        m_context.tip->dismiss();
 }
 
 QPointF ShelfView::fromTopCentre(QPointF point) const
@@ -195,6 +233,7 @@ void ShelfView::mouseExited()
 void ShelfView::mouseDown(const MouseEvent &event)
 {
     call(onUsed);
+    endTip();
     if (!hitTest(event.location))
         return;
     m_context.panel.makeKey();
@@ -248,6 +287,7 @@ void ShelfView::scrollWheel(const ScrollEvent &event)
 {
     if (m_look.snapshot.state == ShelfState::Idle || !m_look.snapshot.hasArrows())
         return;
+    endTip();
     const bool hasPhases = event.phase != ScrollEvent::Phase::None;
     if (!hasPhases && event.time - m_lastScrollTime > scrollMemory)
         m_scrollAccumulator = 0;

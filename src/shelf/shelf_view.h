@@ -6,6 +6,7 @@
 #include "shelf/shelf_hit_test.h"
 #include "shelf/shelf_layers.h"
 #include "shelf/shelf_snapshot.h"
+#include "shelf/title_tip.h"
 
 #include <QList>
 #include <QUuid>
@@ -52,6 +53,8 @@ public:
         const DragWriter &dragWriter;
         SavedPictures &pictures;
         ItemPreparation &preparation;
+        /// Null for no tips.
+        TitleTip *tip = nullptr;
     };
     explicit ShelfView(const Context &context);
     ~ShelfView() override;
@@ -132,11 +135,15 @@ private:
     ShelfTextWidths textWidths(const ShelfSnapshot &snapshot) const;
     void showFlash(const QString &message);
     void relayout();
+    void arrange();
     void updateBody();
     QRectF bodyRect() const;
     QPointF inBody(QPointF point) const;
     QPointF fromTopCentre(QPointF point) const;
     void updateHover(QPointF point);
+    std::optional<TitleTip::Title> titleUnderPointer() const;
+    void showTip(TitleTip::Pointer pointer) const;
+    void endTip() const;
     std::optional<int> itemToActOn() const;
     void performAction(ShelfAction action) const;
     void press(const ShelfHit &hit, QPointF point);

@@ -50,6 +50,7 @@ bool ShelfView::keyDown(const KeyEvent &event)
     if (m_look.snapshot.state == ShelfState::Idle)
         return false;
     call(onUsed);
+    endTip();
     return keyForEverything(event) || (!m_look.snapshot.visible.empty() && keyForItems(event));
 }
 

@@ -359,6 +359,62 @@ TEST_P(OnEveryDesktop, clicksBesideTheShelfReachWhatLiesBelow)
     }));
 }
 
+TEST_P(OnEveryDesktop, aCutTitleIsReadBelowItsCellAndIsInNobodysWay)
+{
+    start();
+    keep(makeFile(QString(200, u'n') + u".txt"_s, "report"));
+    const QPoint cell = corvane().at(38, 22);
+    GtkPeer below(m_desktop, {}, {656, 64, 400, 200});
+    ASSERT_EQ(below.problem(), QString());
+    const QRect tip(730, 94, 52, 20);
+    hands().moveTo(besideTheShelf());
+    const QImage bare = m_desktop.pictureAtRest(tip);
+    hands().glideTo(cell);
+    ASSERT_TRUE(eventually([&] { return server().picture(tip) != bare; }));
+    m_desktop.pictureAtRest(tip);
+
+    // It goes with the pointer, which clicks before that is noticed.
+    hands().click(tip.center());
+    EXPECT_TRUE(eventually([&] { return below.presses() == 1; }));
+    hands().moveTo(besideTheShelf());
+    EXPECT_TRUE(eventually([&] { return server().picture(tip) == bare; }));
+}
+
+TEST_P(OnEveryDesktop, aCutTitleOfTheBarIsReadBelowItUntilThePointerLeaves)
+{
+    start();
+    keep(makeFile(QString(200, u'n') + u".txt"_s, "report"));
+    keep(makeFile(QString(200, u'm') + u".txt"_s, "plan"));
+    const QImage closed = m_desktop.pictureAtRest(behindTheBar());
+    ASSERT_TRUE(corvane().activateAction(u"view-all"_s));
+    ASSERT_TRUE(eventually([&] { return server().picture(behindTheBar()) != closed; }));
+    const QRect tip(700, 200, 22, 20);
+    hands().moveTo(besideTheShelf() + QPoint(0, 300));
+    const QImage bare = m_desktop.pictureAtRest(tip);
+    hands().glideTo({711, 100});
+    ASSERT_TRUE(eventually([&] { return server().picture(tip) != bare; }));
+    hands().glideTo(besideTheShelf() + QPoint(0, 300));
+    EXPECT_TRUE(eventually([&] { return server().picture(tip) == bare; }));
+}
+
+// Some compositors would have the bar above it, and some below.
+TEST_P(OnEveryDesktop, aCutTitleOfTheShelfIsReadBesideItWhileTheBarIsOpen)
+{
+    start();
+    keep(makeFile(QString(80, u'i') + u".txt"_s, "report"));
+    keep(makeFile(QString(80, u'l') + u".txt"_s, "plan"));
+    const QPoint cell = corvane().at(100, 22);
+    const QRect tip(corvane().body().left() - 60, 14, 30, 20);
+    const QImage closed = m_desktop.pictureAtRest(behindTheBar());
+    ASSERT_TRUE(corvane().activateAction(u"view-all"_s));
+    ASSERT_TRUE(eventually([&] { return server().picture(behindTheBar()) != closed; }));
+    const QImage bare = m_desktop.pictureAtRest(tip);
+    hands().glideTo(cell);
+    EXPECT_TRUE(eventually([&] { return server().picture(tip) != bare; }));
+    hands().glideTo(besideTheShelf() + QPoint(0, 300));
+    EXPECT_TRUE(eventually([&] { return server().picture(tip) == bare; }));
+}
+
 TEST_P(OnEveryDesktop, keysGoToTheShelfAfterAClickOnIt)
 {
     start();

@@ -54,6 +54,7 @@ std::vector<PanelState> panelStates()
 {
     std::vector<PanelState> states = shelfStates();
     states.insert(states.end(), barStates().begin(), barStates().end());
+    states.insert(states.end(), tipStates().begin(), tipStates().end());
     return states;
 }
 

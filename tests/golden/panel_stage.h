@@ -74,10 +74,11 @@ struct PanelState {
 
 const std::vector<PanelState> &shelfStates();
 const std::vector<PanelState> &barStates();
+const std::vector<PanelState> &tipStates();
 /// Where texts of our own are read, in the language that is loaded as they are made.
 const std::vector<PanelState> &shelfStatesWithTexts();
 const std::vector<PanelState> &barStatesWithTexts();
-/// Both of the first two, and those of them of which there are pictures.
+/// All of the first three, and those of them of which there are pictures.
 std::vector<PanelState> panelStates();
 std::vector<PanelState> picturedPanelStates();
 

@@ -4,11 +4,13 @@
 #include "e2e/desktop/eventually.h"
 #include "platform/qt/base/qt_main_queue.h"
 #include "platform/qt/desktop/qt_screens.h"
+#include "platform/qt/desktop/qt_tip_window.h"
 #include "wayland/fake_compositor.h"
 #include "wayland/shown_panel.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <set>
 
@@ -29,6 +31,32 @@ struct Nobody : DropReceiver {
 };
 
 } // namespace
+
+TEST(WaylandSessionParts, aTipIsAboveEverythingAndTakesNothing)
+{
+    QtMainQueue queue;
+    QtScreens screens(queue);
+    LayerSession session({queue, screens, {}});
+    QtTipWindow tip(session.panels.desktop());
+    const auto seen = [] {
+        // The strips at the screens' edges are not.
+        constexpr std::uint32_t overlay = 3;
+        const auto shown = compositor().shown();
+        const auto found = std::ranges::find(shown, overlay, &FakeCompositor::Surface::layer);
+        return found == shown.end() ? std::nullopt : std::optional(*found);
+    };
+    for (int i = 0; i < 2; ++i) {
+        tip.show({.screen = ShownPanel::screen(), .fromTop = 80, .size = {100, 40}}, {});
+        ASSERT_TRUE(eventually([&] { return seen().has_value(); }));
+        const QRect tipItself(706, 80, 100, 40);
+        EXPECT_TRUE(QRect(seen()->margin, seen()->size).contains(tipItself));
+        ASSERT_TRUE(seen()->input);
+        EXPECT_FALSE(seen()->input->intersects(QRect({}, seen()->size)));
+        EXPECT_EQ(session.panels.surface.panelWithKeyboard(), WindowNumber::None);
+        tip.hide();
+        EXPECT_TRUE(eventually([&] { return !seen(); }));
+    }
+}
 
 TEST(WaylandSessionParts, panelsAreReadyToCatchOnceADragIsNoticed)
 {

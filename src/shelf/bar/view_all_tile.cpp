@@ -76,6 +76,11 @@ bool hasExtension(const DropItem &item)
 
 } // namespace
 
+const QFont &captionFont(const Theme &theme)
+{
+    return theme.typography.tile;
+}
+
 ViewAllTile::ViewAllTile(LayerTree &tree, Layer &superlayer, const Theme &theme)
     : m_theme(theme)
     , m_root(tree)
@@ -94,7 +99,7 @@ ViewAllTile::ViewAllTile(LayerTree &tree, Layer &superlayer, const Theme &theme)
     m_thumb.setBorder({theme.palette.border, thumbCornerRadius, 0});
     m_ring.setStroke(QPen(theme.palette.thumbRing, ringWidth));
     m_ring.setOpacity(0);
-    m_caption.setFont(theme.typography.tile);
+    m_caption.setFont(captionFont(theme));
     m_caption.setColor(theme.palette.primary);
     m_caption.setAlignment(Qt::AlignHCenter);
 }

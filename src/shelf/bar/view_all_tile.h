@@ -29,4 +29,7 @@ private:
     TextLayer m_caption;
 };
 
+/// The font of an item's title.
+const QFont &captionFont(const Theme &theme);
+
 } // namespace corvane

@@ -56,6 +56,7 @@ void ViewAllView::apply(const QList<DropItem> &items, const QSet<QUuid> &selecti
     // The bar may have paged under a pointer that does not move.
     if (findHovered())
         relayout();
+    showTip(TitleTip::Pointer::Still);
     if (std::exchange(m_awaitsSelection, false))
         m_context.panel.announce(m_layout.selectionText);
 }
@@ -75,6 +76,7 @@ void ViewAllView::wasHidden()
     m_pointer.reset();
     if (findHovered())
         relayout();
+    showTip(TitleTip::Pointer::Still);
     m_context.panel.accessibleChanged();
 }
 

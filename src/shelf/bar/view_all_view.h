@@ -8,6 +8,7 @@
 #include "shelf/bar/view_all_layout.h"
 #include "shelf/drag_source.h"
 #include "shelf/drawing/layer_tree.h"
+#include "shelf/title_tip.h"
 
 #include <QList>
 #include <QSet>
@@ -51,6 +52,8 @@ public:
         const DragWriter &dragWriter;
         SavedPictures &pictures;
         ItemPreparation &preparation;
+        /// Null for no tips.
+        TitleTip *tip = nullptr;
     };
     explicit ViewAllView(const Context &context);
     ~ViewAllView() override;
@@ -128,6 +131,9 @@ private:
     const DropItem *itemWithId(const QUuid &id) const;
     bool findHovered();
     void updateHover(QPointF point);
+    std::optional<TitleTip::Title> titleUnderPointer() const;
+    void showTip(TitleTip::Pointer pointer) const;
+    void endTip() const;
     void press(ViewAllControl control);
     void pageBy(int step);
     void pressKey(TypedKey key);

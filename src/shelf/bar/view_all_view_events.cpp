@@ -40,12 +40,13 @@ void ViewAllView::updateHover(QPointF point)
 
 void ViewAllView::mouseEntered(const MouseEvent &event)
 {
-    updateHover(event.location);
+    mouseMoved(event);
 }
 
 void ViewAllView::mouseMoved(const MouseEvent &event)
 {
     updateHover(event.location);
+    showTip(TitleTip::Pointer::Moved);
 }
 
 void ViewAllView::mouseExited()
@@ -53,6 +54,35 @@ void ViewAllView::mouseExited()
     m_pointer.reset();
     if (findHovered())
         relayout();
+    showTip(TitleTip::Pointer::Moved);
+}
+
+std::optional<TitleTip::Title> ViewAllView::titleUnderPointer() const
+{
+    if (!m_isShown || !m_pointer || m_hoveredControl || m_dragSource.isDragging())
+        return std::nullopt;
+    const DropItem *item = itemAt(*m_pointer);
+    const auto tile = view_all_layout::tileAt(m_layout, *m_pointer);
+    if (!item || !tile)
+        return std::nullopt;
+    const ViewAllLayout::Tile &place = m_layout.tiles[*tile];
+    return TitleTip::Title{.item = item->id(),
+                           .text = item->title(),
+                           .font = captionFont(m_context.theme),
+                           .width = place.caption.width(),
+                           .cell = place.root};
+}
+
+void ViewAllView::showTip(TitleTip::Pointer pointer) const
+{
+    if (m_context.tip)
+        m_context.tip->follow(m_context.panel, titleUnderPointer(), pointer);
+}
+
+void ViewAllView::endTip() const
+{
+    if (m_context.tip)
+        m_context.tip->dismiss();
 }
 
 void ViewAllView::mouseDown(const MouseEvent &event)
@@ -60,6 +90,7 @@ void ViewAllView::mouseDown(const MouseEvent &event)
     // The press was made before the bar was hidden, and arrives only now.
     if (!m_isShown)
         return;
+    endTip();
     m_context.panel.makeKey();
     m_context.panel.orderFrontRegardless();
     m_focus.isVisible = false;
@@ -172,6 +203,7 @@ void ViewAllView::scrollWheel(const ScrollEvent &event)
 {
     if (itemCount() <= itemsPerPage())
         return;
+    endTip();
     const double step = event.hasPreciseDeltas ? preciseScrollStep : wheelScrollStep;
     // What lies to the right is earlier where the bar is mirrored.
     if (std::abs(event.deltaX) >= step)
@@ -182,6 +214,7 @@ bool ViewAllView::keyDown(const KeyEvent &event)
 {
     if (!m_isShown)
         return false;
+    endTip();
     if (keyForFocus(event))
         return true;
     const bool isCommand = event.modifiers.testFlag(Modifier::Command);
