@@ -78,6 +78,7 @@ DetailsView::DetailsView(const PreviewContent &content, const Image &icon, QWidg
     font.setWeight(QFont::DemiBold);
     name->setFont(font);
     name->setMaximumLines(2);
+    name->setHasOwnDirection(true);
     name->setText(content.details.name);
     column->addWidget(name);
     QStringList said;

@@ -6,6 +6,7 @@
 
 #include <QHelpEvent>
 #include <QPainter>
+#include <QStyle>
 #include <QTextDocument>
 #include <QTextLayout>
 #include <QToolTip>
@@ -32,6 +33,12 @@ void ElidedLabel::setText(const QString &text)
 void ElidedLabel::setSubdued(bool isSubdued)
 {
     m_isSubdued = isSubdued;
+    update();
+}
+
+void ElidedLabel::setHasOwnDirection(bool hasOwnDirection)
+{
+    m_hasOwnDirection = hasOwnDirection;
     update();
 }
 
@@ -103,12 +110,16 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setPen(m_isSubdued ? preview_look::details(palette())
                                : palette().color(QPalette::WindowText));
+    // A painter takes the direction of the text unless it is told otherwise, also to align it.
+    painter.setLayoutDirection(m_hasOwnDirection ? Qt::LayoutDirectionAuto : layoutDirection());
+    const auto start = QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft);
     const QStringList shown = lines(width());
     const int height = fontMetrics().height();
     int y = (rect().height() - height * static_cast<int>(shown.size())) / 2;
     for (const QString &line : shown) {
         painter.drawText(QRect(0, y, width(), height),
-                         Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                         static_cast<int>(start | Qt::AlignAbsolute | Qt::AlignVCenter)
+                             | Qt::TextSingleLine,
                          withPartsInOrder(line, layoutDirection()));
         y += height;
     }

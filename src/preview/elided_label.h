@@ -14,6 +14,9 @@ public:
     void setText(const QString &text);
     /// Draws the text paler than other texts, unless contrast is wanted.
     void setSubdued(bool isSubdued);
+    /// Of a text that is not the program's own, such as a name: it is read in its own direction,
+    /// wherever it begins.
+    void setHasOwnDirection(bool hasOwnDirection);
     /// 1 unless set.
     void setMaximumLines(int count);
 
@@ -31,6 +34,7 @@ protected:
 private:
     QString m_text;
     bool m_isSubdued = false;
+    bool m_hasOwnDirection = false;
     int m_maximumLines = 1;
 };
 

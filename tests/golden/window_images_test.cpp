@@ -24,6 +24,40 @@ namespace {
 
 class WindowImages : public testing::TestWithParam<WindowState> { };
 
+/// The preview of a file of which only the details are shown.
+struct DetailsPreview {
+    DetailsPreview()
+    {
+        PreviewContent content;
+        content.details = {QStringLiteral("Notes.data"), QStringLiteral("Data"),
+                           QStringLiteral("5 KB"), QStringLiteral("yesterday")};
+        content.canBeOpened = true;
+        window.setContent(content, {});
+        window.resize(preview_geometry::smallestWindow);
+        window.show();
+        QCoreApplication::processEvents();
+    }
+
+    ManualLoading loading;
+    TestClock clock;
+    PreviewWindow window{loading, clock};
+};
+
+/// Runs it in each language that is kept in pictures, with its name.
+template<typename Work>
+void inOtherLanguages(Work work)
+{
+    const QLocale before;
+    for (const char *language : {"de", "ar", "ja"}) {
+        const QString name = QString::fromLatin1(language);
+        const Translations translations({name});
+        QLocale::setDefault(QLocale(name));
+        const WindowLookForPictures look(Scheme::Light);
+        work(name);
+    }
+    QLocale::setDefault(before);
+}
+
 } // namespace
 
 TEST_P(WindowImages, AreAsKept)
@@ -42,17 +76,20 @@ TEST_P(WindowImages, AreAsKept)
 
 TEST_P(WindowImages, InOtherLanguagesAreAsKept)
 {
-    const QLocale before;
-    for (const char *language : {"de", "ar", "ja"}) {
-        const QString name = QString::fromLatin1(language);
-        const Translations translations({name});
-        QLocale::setDefault(QLocale(name));
-        const WindowLookForPictures look(Scheme::Light);
+    inOtherLanguages([](const QString &name) {
         const auto stage = GetParam().make();
         const QString file = GetParam().fileName(Scheme::Light, 1);
         EXPECT_TRUE(matchesGoldenImage(name + u'-' + file, pictureOf(stage->window(), 1)));
-    }
-    QLocale::setDefault(before);
+    });
+}
+
+TEST(PreviewImages, InOtherLanguagesAreAsKept)
+{
+    inOtherLanguages([](const QString &name) {
+        DetailsPreview preview;
+        EXPECT_TRUE(matchesGoldenImage(name + u"-preview-details-light-1x.png",
+                                       pictureOf(preview.window, 1)));
+    });
 }
 
 TEST(WindowContrast, groupsAndControlsHaveEdgesAtOnceWhenContrastIsWanted)
@@ -81,24 +118,15 @@ TEST(WindowContrast, thePreviewHasALineAndStrongDetailsAtOnceWhenContrastIsWante
 {
     const Translations english({QStringLiteral("en")});
     const WindowLookForPictures look(Scheme::Light);
-    ManualLoading loading;
-    TestClock clock;
-    PreviewWindow window(loading, clock);
-    PreviewContent content;
-    content.details = {QStringLiteral("Notes.data"), QStringLiteral("Data"), QStringLiteral("5 KB"),
-                       QStringLiteral("yesterday")};
-    content.canBeOpened = true;
-    window.setContent(content, {});
-    window.resize(preview_geometry::smallestWindow);
-    window.show();
-    QCoreApplication::processEvents();
+    DetailsPreview preview;
     for (const Scheme scheme : {Scheme::Light, Scheme::Dark}) {
         WindowLookForPictures::use(scheme);
         const QString end = scheme == Scheme::Light ? QStringLiteral("light-1x.png")
                                                     : QStringLiteral("dark-1x.png");
-        EXPECT_TRUE(matchesGoldenImage(u"preview-details-" % end, pictureOf(window, 1)));
+        EXPECT_TRUE(matchesGoldenImage(u"preview-details-" % end, pictureOf(preview.window, 1)));
         WindowLook::setContrast(WindowLook::Contrast::More);
-        EXPECT_TRUE(matchesGoldenImage(u"contrast-preview-details-" % end, pictureOf(window, 1)));
+        EXPECT_TRUE(
+            matchesGoldenImage(u"contrast-preview-details-" % end, pictureOf(preview.window, 1)));
         WindowLook::setContrast(WindowLook::Contrast::Usual);
     }
 }

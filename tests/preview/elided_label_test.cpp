@@ -94,6 +94,46 @@ TEST(ElidedLabelTest, ReadFromRightToLeftTheFirstPartStandsOnTheRight)
     EXPECT_EQ(atTheRight(QStringLiteral("A · 992 כ")), atTheRight(QStringLiteral("A · כ")));
 }
 
+TEST(ElidedLabelTest, ReadFromRightToLeftItBeginsAtTheRightWhateverItsLetters)
+{
+    for (const bool hasOwnDirection : {false, true}) {
+        ElidedLabel label;
+        label.setHasOwnDirection(hasOwnDirection);
+        label.resize(300, label.fontMetrics().height());
+        const auto isEmpty = [&](const QRect &place) {
+            const QImage picture = label.grab(place).toImage();
+            QImage blank = picture;
+            blank.fill(picture.pixelColor(0, 0));
+            return picture == blank;
+        };
+        const QRect leftHalf(0, 0, 150, label.height());
+        const QRect rightHalf = leftHalf.translated(150, 0);
+        label.setText(QStringLiteral("Notes.data"));
+        EXPECT_FALSE(isEmpty(leftHalf));
+        EXPECT_TRUE(isEmpty(rightHalf));
+        label.setLayoutDirection(Qt::RightToLeft);
+        EXPECT_TRUE(isEmpty(leftHalf));
+        EXPECT_FALSE(isEmpty(rightHalf));
+    }
+}
+
+TEST(ElidedLabelTest, ANameIsReadInItsOwnDirection)
+{
+    ElidedLabel label;
+    label.setLayoutDirection(Qt::RightToLeft);
+    label.resize(300, label.fontMetrics().height());
+    const auto read = [&](const QString &text, bool hasOwnDirection) {
+        label.setHasOwnDirection(hasOwnDirection);
+        label.setText(text);
+        return label.grab().toImage();
+    };
+    const QString letters = QStringLiteral("Notes");
+    EXPECT_EQ(read(letters, true), read(letters, false));
+    // In the other direction it stands at the other end, and is mirrored.
+    const QString bracketed = QStringLiteral("Notes (");
+    EXPECT_NE(read(bracketed, true), read(bracketed, false));
+}
+
 TEST(ElidedLabelTest, IsFainterWhereItStandsBehindAnother)
 {
     ElidedLabel label;
