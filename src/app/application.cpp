@@ -15,12 +15,11 @@
 #include "platform/qt/base/unix_signals.h"
 #include "platform/qt/desktop/window_roles.h"
 #include "platform/system/own_environment.h"
+#include "platform/system/temporary_folder.h"
 #include "services/preview_scratch.h"
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDir>
-#include <QFile>
 #include <QLocale>
 
 #include <unistd.h>
@@ -156,9 +155,7 @@ int runShelf(SessionKind kind, DBusSingleInstance &instance, AppDelegate *&deleg
                      [&delegate] { putInOrder(std::exchange(delegate, nullptr)); });
 
     root->workQueue.run(root->spool.leftoversRemoval());
-    root->workQueue.run([folder = QFile::encodeName(QDir::tempPath())] {
-        preview_scratch::removeLeftovers(folder);
-    });
+    root->workQueue.run([folder = temporaryFolder()] { preview_scratch::removeLeftovers(folder); });
     delegate->applicationDidFinishLaunching();
     instance.setRequests(&root->requests);
     wish.fulfil(root->requests);

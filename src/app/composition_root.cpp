@@ -6,12 +6,12 @@
 #include "platform/desktop/abilities.h"
 #include "platform/qt/desktop/qt_tip_window.h"
 #include "platform/system/file_url.h"
+#include "platform/system/temporary_folder.h"
 #include "shelf/drawing/phosphor_icon_drawing.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 #include <QDeadlineTimer>
-#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QPainter>
@@ -104,7 +104,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
     , shortcuts(
           hotKeys, [this] { return settings.shortcut(); },
           [this] { return settings.viewAllShortcut(); })
-    , spool(QFile::encodeName(QDir::tempPath()), QCoreApplication::applicationPid(), &workQueue)
+    , spool(temporaryFolder(), QCoreApplication::applicationPid(), &workQueue)
     , imageConverter(imageCodec)
     , itemPreparation(spool, mainQueue, conversionWork)
     , pictureItems(spool, imageConverter, imageCodec, itemPreparation)
@@ -156,7 +156,7 @@ CompositionRoot::CompositionRoot(SessionKind sessionKind, const std::function<vo
                     .queue = mainQueue,
                     .shelf = panel})
     , presenter({.panel = previewPanel, .mainQueue = mainQueue, .workQueue = previewWork},
-                QFile::encodeName(QDir::tempPath()))
+                temporaryFolder())
     , theme(makeTheme())
     , dragWriter(makeDragWriter(theme, mountTable))
     , titleTip({.card = {.queue = mainQueue,
