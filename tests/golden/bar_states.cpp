@@ -73,15 +73,10 @@ protected:
     /// A busy one: what lies below a bar is seldom plain.
     QImage paintDesktop(QSize size, double scale, Wallpaper kind) const override
     {
-        QImage image(size, QImage::Format_RGB32);
-        QLinearGradient gradient(0, 0, size.width(), size.height());
-        const bool isLight = kind == Wallpaper::Light;
-        gradient.setColorAt(0, isLight ? QColor(0xF3, 0xDA, 0xC6) : QColor(0x1E, 0x26, 0x44));
-        gradient.setColorAt(1, isLight ? QColor(0xA3, 0xC6, 0xDB) : QColor(0x5A, 0x33, 0x50));
+        QImage image = PanelStage::paintDesktop(size, scale, kind);
         QPainter painter(&image);
-        painter.fillRect(image.rect(), gradient);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(isLight ? Qt::white : Qt::black, 9 * scale));
+        painter.setPen(QPen(kind == Wallpaper::Light ? Qt::white : Qt::black, 9 * scale));
         for (int x = -size.height(); x < size.width(); x += static_cast<int>(70 * scale))
             painter.drawLine(x, size.height(), x + size.height(), 0);
         return image;

@@ -9,6 +9,17 @@
 
 namespace corvane::test {
 
+QImage PanelStage::paintDesktop(QSize size, double /*scale*/, Wallpaper kind) const
+{
+    QImage image(size, QImage::Format_RGB32);
+    QLinearGradient gradient(0, 0, size.width(), size.height());
+    const bool isLight = kind == Wallpaper::Light;
+    gradient.setColorAt(0, isLight ? QColor(0xF3, 0xDA, 0xC6) : QColor(0x1E, 0x26, 0x44));
+    gradient.setColorAt(1, isLight ? QColor(0xA3, 0xC6, 0xDB) : QColor(0x5A, 0x33, 0x50));
+    QPainter(&image).fillRect(image.rect(), gradient);
+    return image;
+}
+
 Picture PanelStage::picture(Wallpaper wallpaper, double scale, double enlargement)
 {
     const Place where = place();

@@ -46,7 +46,8 @@ protected:
         QPointF origin;
     };
     virtual Place place() const = 0;
-    virtual QImage paintDesktop(QSize size, double scale, Wallpaper wallpaper) const = 0;
+    /// In pixels; the wallpaper alone unless overridden.
+    virtual QImage paintDesktop(QSize size, double scale, Wallpaper wallpaper) const;
     virtual void paintPanel(QPainter &painter, QSizeF size, double scale) = 0;
 
 private:

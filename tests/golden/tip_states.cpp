@@ -46,16 +46,10 @@ protected:
         return {size + QSizeF(2 * margin, 2 * margin), {margin, margin}, size, {0, 0}};
     }
     /// The upper half is the shelf or the bar, which a tip may lie on.
-    QImage paintDesktop(QSize size, double /*scale*/, Wallpaper kind) const override
+    QImage paintDesktop(QSize size, double scale, Wallpaper kind) const override
     {
-        QImage image(size, QImage::Format_RGB32);
-        QLinearGradient gradient(0, 0, size.width(), size.height());
-        const bool isLight = kind == Wallpaper::Light;
-        gradient.setColorAt(0, isLight ? QColor(0xF3, 0xDA, 0xC6) : QColor(0x1E, 0x26, 0x44));
-        gradient.setColorAt(1, isLight ? QColor(0xA3, 0xC6, 0xDB) : QColor(0x5A, 0x33, 0x50));
-        QPainter painter(&image);
-        painter.fillRect(image.rect(), gradient);
-        painter.fillRect(0, 0, size.width(), size.height() / 2, Qt::black);
+        QImage image = PanelStage::paintDesktop(size, scale, kind);
+        QPainter(&image).fillRect(0, 0, size.width(), size.height() / 2, Qt::black);
         return image;
     }
     void paintPanel(QPainter &painter, QSizeF /*size*/, double scale) override
