@@ -33,7 +33,7 @@ void ScreenSearch::found(const ScreenPointer &screen)
     tell(screen);
 }
 
-void ScreenSearch::tell(const ScreenPointer &screen)
+void ScreenSearch::tell(const ScreenPointer &screen) const
 {
     if (onFound)
         onFound(screen);

@@ -43,7 +43,7 @@ protected:
     void giveUpAfter(double patience);
 
 private:
-    void tell(const ScreenPointer &screen);
+    void tell(const ScreenPointer &screen) const;
 
     MainQueue &m_queue;
     const Screens &m_screens;

@@ -14,6 +14,7 @@
 #include "fakes/lacking_abilities.h"
 #include "fakes/preferences_desk.h"
 
+#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLayout>
