@@ -3,7 +3,8 @@
 #include <QString>
 #include <QtGlobal>
 
-#include <atomic>
+#include <mutex>
+#include <utility>
 
 namespace corvane {
 
@@ -13,20 +14,27 @@ namespace {
 constexpr QLatin1String beginning("The Wayland connection ");
 
 QtMessageHandler handlerBefore = nullptr;
-std::atomic_flag isSaid;
+std::mutex saying;
+bool isSaid = false;
 
 void passOn(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (text.startsWith(beginning) && isSaid.test_and_set())
+    if (!text.startsWith(beginning)) {
+        handlerBefore(type, context, text);
         return;
-    handlerBefore(type, context, text);
+    }
+    // Whoever is not heard waits until the other one is: each ends the process right after it.
+    const std::scoped_lock lock(saying);
+    if (!std::exchange(isSaid, true))
+        handlerBefore(type, context, text);
 }
 
 } // namespace
 
 void hearLostConnectionOnce()
 {
-    isSaid.clear();
+    const std::scoped_lock lock(saying);
+    isSaid = false;
     const QtMessageHandler before = qInstallMessageHandler(passOn);
     if (before != passOn)
         handlerBefore = before;
